@@ -1,0 +1,84 @@
+# SPDX-License-Identifier: Apache-2.0
+# Compiler settings and the three functions by which modules, tests and benchmarks are declared.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+if(NOT CMAKE_BUILD_TYPE)
+  set(CMAKE_BUILD_TYPE Release)
+endif()
+
+find_program(LODESTAR_CCACHE ccache)
+if(LODESTAR_CCACHE)
+  set(CMAKE_C_COMPILER_LAUNCHER ${LODESTAR_CCACHE})
+  set(CMAKE_CXX_COMPILER_LAUNCHER ${LODESTAR_CCACHE})
+endif()
+
+# The language and warning settings of every target of ours; generated code gets none of the warnings.
+add_library(lodestar_settings INTERFACE)
+target_compile_options(lodestar_settings INTERFACE
+  -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Wold-style-cast
+  -Woverloaded-virtual -Werror
+  "-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=")
+target_include_directories(lodestar_settings INTERFACE "${CMAKE_SOURCE_DIR}/Shared")
+find_package(Threads REQUIRED)
+target_link_libraries(lodestar_settings INTERFACE Threads::Threads)
+
+if(LODESTAR_SANITIZE STREQUAL "address")
+  add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+elseif(LODESTAR_SANITIZE STREQUAL "thread")
+  add_compile_options(-fsanitize=thread -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=thread)
+elseif(LODESTAR_SANITIZE STREQUAL "fuzz")
+  add_compile_options(-fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  add_link_options(-fsanitize=address,undefined)
+elseif(NOT LODESTAR_SANITIZE STREQUAL "")
+  message(FATAL_ERROR "LODESTAR_SANITIZE must be empty, address, thread or fuzz")
+endif()
+
+# lodestar_library(<name> SOURCES ... LIBRARIES ...): a static library of Shared/; its folder's files include each
+# other and the modules below as "Platform/Error.h", that is, from Shared/.
+function(lodestar_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  target_link_libraries(${name} PUBLIC lodestar_settings ${ARG_LIBRARIES})
+endfunction()
+
+# lodestar_test(<name> SOURCES ... LIBRARIES ... [LABELS ...] [TIMEOUT seconds]): a GoogleTest program, one ctest entry a test
+# case. Programs with Qt in them run without a display.
+function(lodestar_test name)
+  cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LIBRARIES;LABELS" ${ARGN})
+  if(NOT ARG_TIMEOUT)
+    set(ARG_TIMEOUT 120)
+  endif()
+  find_package(GTest REQUIRED)
+  include(GoogleTest)
+  add_executable(${name} ${ARG_SOURCES})
+  target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}")
+  target_link_libraries(${name} PRIVATE lodestar_settings ${ARG_LIBRARIES} GTest::gmock GTest::gtest_main)
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}"
+    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software")
+endfunction()
+
+# lodestar_benchmark(<name> SOURCES ... LIBRARIES ...): a Google Benchmark program, run by ./bench.
+function(lodestar_benchmark name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+  find_package(benchmark REQUIRED)
+  add_executable(${name} ${ARG_SOURCES})
+  target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}")
+  target_link_libraries(${name} PRIVATE lodestar_settings ${ARG_LIBRARIES} benchmark::benchmark)
+endfunction()
+
+# lodestar_fuzzer(<name> SOURCES ... LIBRARIES ...): a libFuzzer program, built in the fuzz preset only.
+function(lodestar_fuzzer name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
+  if(LODESTAR_SANITIZE STREQUAL "fuzz")
+    add_executable(${name} ${ARG_SOURCES})
+    target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}")
+    target_link_libraries(${name} PRIVATE lodestar_settings ${ARG_LIBRARIES})
+    target_link_options(${name} PRIVATE -fsanitize=fuzzer)
+  endif()
+endfunction()

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Platform/Store/ObjectContext.h"
+
+#include <atomic>
+#include <memory>
+#include <mutex>
+#include <optional>
+#include <string>
+
+namespace lodestar
+{
+
+class FeedDictionary;
+
+/// A registered console. The persisted attributes are read and written on the main thread only; none is "nil".
+/// The transient members hold the last fetch, are never stored, and may be touched from any thread.
+///
+/// The feed dictionary is opaque here, because feeds stand above the model: read it with `feedOfType` of
+/// Controllers/REST/Feed.h.
+class Corvel : public ManagedObject
+{
+public:
+    static constexpr std::string_view entityName = "Corvel";
+    static EntityDescription entity();
+
+    Corvel();
+
+    std::optional<std::string> name() const;
+    std::optional<std::string> address() const;
+    std::optional<std::string> username() const;
+    std::optional<std::string> password() const;
+    std::optional<std::string> version() const;
+    /// The integer value of `demo`, 0 when none: 1 marks the demonstration console.
+    int demo() const;
+    void setName(std::optional<std::string> value);
+    void setAddress(std::optional<std::string> value);
+    void setUsername(std::optional<std::string> value);
+    void setPassword(std::optional<std::string> value);
+    void setVersion(std::optional<std::string> value);
+    void setDemo(bool value);
+
+    std::atomic<bool> isOnline = false;
+    std::atomic<bool> completedFetch = false;
+    /// Counts over the managed systems; 0 until counted.
+    std::atomic<int> numMSErrors = 0;
+    std::atomic<int> numMSLEDs = 0;
+
+    /// The feeds of the last fetch as one immutable snapshot; null until fetched and after a reset.
+    std::shared_ptr<const FeedDictionary> restData() const;
+    void setRestData(std::shared_ptr<const FeedDictionary> feeds);
+
+private:
+    mutable std::mutex m_restDataMutex;
+    std::shared_ptr<const FeedDictionary> m_restData;
+};
+
+using CorvelRef = std::shared_ptr<Corvel>;
+
+} // namespace lodestar

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Platform/Store/ObjectContext.h"
+
+#include <string>
+
+namespace lodestar
+{
+
+/// The process's object store: model, file and one context, each made on first use and kept. Main thread. A store
+/// that cannot be opened, and a save that fails, end the process after one log line; the file is left as it was.
+class StoreStack
+{
+public:
+    static StoreStack& shared();
+
+    /// The folder that holds the store. Set before first use by the host; tests point it at a scratch folder.
+    const std::string& applicationDocumentsDirectory() const { return m_documentsDirectory; }
+    void setApplicationDocumentsDirectory(std::string folder) { m_documentsDirectory = std::move(folder); }
+
+    static ManagedObjectModel managedObjectModel();
+    /// Opens "Lodestar.sqlite" on first use.
+    ObjectContext& managedObjectContext();
+    /// Saves the context if it exists and has changes.
+    void saveContext();
+    /// Closes the store and forgets the context, so that the next use opens it anew: tests and the reset.
+    void close();
+
+private:
+    std::string m_documentsDirectory;
+    std::unique_ptr<ObjectContext> m_context;
+};
+
+} // namespace lodestar

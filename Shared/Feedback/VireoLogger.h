@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <fmt/core.h>
+
+#include <functional>
+#include <memory>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lodestar
+{
+
+/// The logger through which everything logs, and the entry to the feedback library. Thread-safe unless said otherwise.
+/// Never pass a password, a session key or a body.
+class VireoLogger
+{
+public:
+    struct Settings {
+        bool reportOnShake = false;
+        int mode = 0;
+    };
+    /// One line as it was logged; what a listener gets.
+    struct Entry {
+        int level;
+        int tag;
+        int line;
+        std::string_view fileName; ///< as in "Shared/Controllers/REST/RESTHandler"
+        std::string_view method;   ///< as in "-[RESTHandler login:checkToken:]"
+        std::span<void* const> stacktrace;
+        std::string_view message;
+    };
+
+    template <typename... Args>
+    static void log(int level, int tag, int line, std::string_view fileName, std::string_view method,
+                    std::span<void* const> stacktrace, fmt::format_string<Args...> format, Args&&... args)
+    {
+        write({level, tag, line, fileName, method, stacktrace, fmt::format(format, std::forward<Args>(args)...)});
+    }
+
+    /// The settings, changed in place on the main thread before a session starts.
+    static Settings& settings();
+    /// Starts a new feedback session under the application's key. Main thread.
+    static void startSession(std::string_view applicationKey);
+    /// To be installed with `std::set_terminate`: logs the exception in flight and aborts.
+    [[noreturn]] static void uncaughtExceptionHandler();
+    /// Presents the feedback screen. Main thread.
+    static void feedback();
+
+    /// Lines go to `folder`/lodestar.log, rotated by size, files 0600 in a folder 0700. Without this call they go
+    /// nowhere but to listeners and, in debug builds, to standard error. Returns whether the folder can be written.
+    static bool openLogFolder(const std::string& folder);
+    /// Calls the function for every line until the returned token is destroyed; for tests and the debug console.
+    [[nodiscard]] static std::shared_ptr<void> addListener(std::function<void(const Entry&)> listener);
+    /// Writes what is buffered.
+    static void flush();
+
+private:
+    struct Line {
+        int level;
+        int tag;
+        int line;
+        std::string_view fileName;
+        std::string_view method;
+        std::span<void* const> stacktrace;
+        std::string message;
+    };
+    static void write(Line line);
+};
+
+/// The return addresses of the calling thread's stack, innermost first, at most 32.
+std::vector<void*> callStackReturnAddresses();
+
+} // namespace lodestar
+
+/// The call in the form that every caller wants: level 2, tag 0, with this line and this stack.
+#define LODESTAR_LOG(fileName, method, ...)                                                                            \
+    ::lodestar::VireoLogger::log(2, 0, __LINE__, fileName, method, ::lodestar::callStackReturnAddresses(), __VA_ARGS__)

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Kit/Core/ViewController.h"
+
+#include <vector>
+
+namespace lodestar
+{
+
+enum class Animated { No, Yes };
+
+/// A stack of screens, the last one shown. One StackView mirrors it, so that navigation needs no window.
+class NavigationController : public ViewController
+{
+    Q_OBJECT
+    QML_ANONYMOUS
+    Q_PROPERTY(lodestar::ViewController* topViewController READ topViewController NOTIFY stackChanged)
+    Q_PROPERTY(int depth READ depth NOTIFY stackChanged)
+
+public:
+    explicit NavigationController(std::shared_ptr<ViewController> root);
+    ~NavigationController() override;
+
+    /// Loads and shows the controller, which this one keeps until it is popped.
+    void pushViewController(std::shared_ptr<ViewController> controller, Animated animated);
+    /// Takes the last screen off; the root stays. Returns the popped one, or null.
+    std::shared_ptr<ViewController> popViewController(Animated animated);
+    Q_INVOKABLE void pop();
+
+    ViewController* topViewController() const;
+    ViewController* rootViewController() const;
+    int depth() const;
+    const std::vector<std::shared_ptr<ViewController>>& viewControllers() const { return m_stack; }
+    Q_INVOKABLE lodestar::ViewController* viewControllerAt(int index) const;
+
+Q_SIGNALS:
+    void pushed(lodestar::ViewController* controller, bool animated);
+    /// Emitted before the controller is released; the scene that draws it must go with this signal.
+    void popped(lodestar::ViewController* controller, bool animated);
+    void stackChanged();
+
+protected:
+    void viewDidLoad() override;
+    void viewDidAppear() override;
+    void viewDidDisappear() override;
+
+private:
+    std::vector<std::shared_ptr<ViewController>> m_stack;
+};
+
+} // namespace lodestar

@@ -1,0 +1,146 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QColor>
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+namespace lodestar
+{
+
+/// Outlets are a controller's side of its views: small observable objects, constant properties of the controller under
+/// the outlet's own name. QML items bind to them; tests read them. Their setters may be called from any thread and take
+/// effect on the main thread: at once when called there, otherwise later.
+
+/// A view that can be hidden.
+class ViewOutlet : public QObject
+{
+    Q_OBJECT
+    QML_ANONYMOUS
+    Q_PROPERTY(bool hidden READ isHidden WRITE setHidden NOTIFY hiddenChanged)
+
+public:
+    explicit ViewOutlet(QObject* parent = nullptr) : QObject(parent) {}
+    bool isHidden() const { return m_hidden; }
+    void setHidden(bool hidden);
+
+Q_SIGNALS:
+    void hiddenChanged();
+
+private:
+    bool m_hidden = false;
+};
+
+/// A text.
+class LabelOutlet : public ViewOutlet
+{
+    Q_OBJECT
+    QML_ANONYMOUS
+    Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
+    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
+
+public:
+    explicit LabelOutlet(QObject* parent = nullptr) : ViewOutlet(parent) {}
+    const QString& text() const { return m_text; }
+    void setText(const QString& text);
+    /// Invalid when the view's own colour stands.
+    const QColor& color() const { return m_color; }
+    void setColor(const QColor& color);
+
+Q_SIGNALS:
+    void textChanged();
+    void colorChanged();
+
+private:
+    QString m_text;
+    QColor m_color;
+};
+
+/// An activity indicator, hidden while it stands still unless told otherwise.
+class IndicatorOutlet : public ViewOutlet
+{
+    Q_OBJECT
+    QML_ANONYMOUS
+    Q_PROPERTY(bool animating READ isAnimating NOTIFY animatingChanged)
+
+public:
+    explicit IndicatorOutlet(QObject* parent = nullptr) : ViewOutlet(parent) {}
+    bool isAnimating() const { return m_animating; }
+    void startAnimating();
+    void stopAnimating();
+
+Q_SIGNALS:
+    void animatingChanged();
+
+private:
+    void setAnimating(bool animating);
+    bool m_animating = false;
+};
+
+/// A text field. QML writes the user's typing into `text`.
+class FieldOutlet : public ViewOutlet
+{
+    Q_OBJECT
+    QML_ANONYMOUS
+    Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
+    Q_PROPERTY(bool enabled READ isEnabled WRITE setEnabled NOTIFY enabledChanged)
+
+public:
+    explicit FieldOutlet(QObject* parent = nullptr) : ViewOutlet(parent) {}
+    const QString& text() const { return m_text; }
+    void setText(const QString& text);
+    bool isEnabled() const { return m_enabled; }
+    void setEnabled(bool enabled);
+    /// Takes the keyboard away from the field; harmless when it does not have it.
+    void resignFirstResponder() { Q_EMIT resignRequested(); }
+
+Q_SIGNALS:
+    void textChanged();
+    void enabledChanged();
+    void resignRequested();
+
+private:
+    QString m_text;
+    bool m_enabled = true;
+};
+
+/// A picture by the name of its resource, without extension.
+class ImageOutlet : public ViewOutlet
+{
+    Q_OBJECT
+    QML_ANONYMOUS
+    Q_PROPERTY(QString imageName READ imageName WRITE setImageName NOTIFY imageNameChanged)
+
+public:
+    explicit ImageOutlet(QObject* parent = nullptr) : ViewOutlet(parent) {}
+    const QString& imageName() const { return m_imageName; }
+    void setImageName(const QString& name);
+
+Q_SIGNALS:
+    void imageNameChanged();
+
+private:
+    QString m_imageName;
+};
+
+/// A switch. QML writes the user's flip into `on`.
+class SwitchOutlet : public ViewOutlet
+{
+    Q_OBJECT
+    QML_ANONYMOUS
+    Q_PROPERTY(bool on READ isOn WRITE setOn NOTIFY onChanged)
+
+public:
+    explicit SwitchOutlet(QObject* parent = nullptr) : ViewOutlet(parent) {}
+    bool isOn() const { return m_on; }
+    void setOn(bool on);
+
+Q_SIGNALS:
+    void onChanged();
+
+private:
+    bool m_on = false;
+};
+
+} // namespace lodestar

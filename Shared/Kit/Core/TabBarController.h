@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Kit/Core/ViewController.h"
+
+#include <QColor>
+
+#include <vector>
+
+namespace lodestar
+{
+
+/// One tab: its text, its picture's resource name (the selected one is `imageName` + "_selected") and its screen.
+struct TabBarItem {
+    QString title;
+    QString imageName;
+    std::shared_ptr<ViewController> controller;
+};
+
+/// Screens side by side behind a bar of tabs. The first is selected at the start.
+class TabBarController : public ViewController
+{
+    Q_OBJECT
+    QML_ANONYMOUS
+    Q_PROPERTY(int count READ count CONSTANT)
+    Q_PROPERTY(int selectedIndex READ selectedIndex WRITE setSelectedIndex NOTIFY selectedIndexChanged)
+
+public:
+    explicit TabBarController(std::vector<TabBarItem> items);
+
+    int count() const { return static_cast<int>(m_items.size()); }
+    int selectedIndex() const { return m_selectedIndex; }
+    void setSelectedIndex(int index);
+    Q_INVOKABLE QString titleAt(int index) const;
+    Q_INVOKABLE QString imageNameAt(int index) const;
+    Q_INVOKABLE lodestar::ViewController* controllerAt(int index) const;
+
+Q_SIGNALS:
+    void selectedIndexChanged();
+
+protected:
+    void viewDidLoad() override;
+    void viewDidAppear() override;
+    void viewDidDisappear() override;
+
+private:
+    std::vector<TabBarItem> m_items;
+    int m_selectedIndex = 0;
+};
+
+/// What every tab bar looks like.
+struct TabBarAppearance {
+    QColor selectedImageTintColor;
+    static TabBarAppearance& appearance();
+};
+
+} // namespace lodestar

@@ -1,0 +1,145 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QAbstractListModel>
+#include <QColor>
+#include <QString>
+#include <QVariant>
+#include <QtQml/qqmlregistration.h>
+
+#include <optional>
+#include <vector>
+
+namespace lodestar
+{
+
+struct IndexPath {
+    int section = 0;
+    int row = 0;
+    friend bool operator==(const IndexPath&, const IndexPath&) = default;
+};
+
+/// Which table asks: a screen's own, or the one that lists its search results.
+enum class TableKind { Main, SearchResults };
+
+/// What a table shows. A cell is a value (a Q_GADGET in a QVariant), made once each time a row is configured.
+class TableDataSource
+{
+public:
+    virtual ~TableDataSource() = default;
+    virtual int numberOfSections(TableKind) const { return 1; }
+    virtual int numberOfRowsInSection(TableKind tableView, int section) const = 0;
+    /// No title, no header. An empty title draws an empty header.
+    virtual std::optional<QString> titleForHeaderInSection(TableKind, int /*section*/) const { return {}; }
+    /// May block; asked once for each configuration of a row.
+    virtual QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) = 0;
+    virtual void didSelectRowAtIndexPath(TableKind, IndexPath) {}
+};
+
+enum class RowAnimation { None, Left };
+
+/// A table as QML sees it: one flat list of header rows and rows. `kind` tells them apart, `cell` is the row's value.
+/// The outlet is hidden and shown like any other.
+class TableOutlet : public QAbstractListModel
+{
+    Q_OBJECT
+    QML_ANONYMOUS
+    Q_PROPERTY(bool hidden READ isHidden NOTIFY hiddenChanged)
+    Q_PROPERTY(double separatorLeft READ separatorLeft NOTIFY separatorChanged)
+    Q_PROPERTY(double separatorRight READ separatorRight NOTIFY separatorChanged)
+    Q_PROPERTY(double rowHeight READ rowHeight NOTIFY rowHeightChanged)
+    Q_PROPERTY(int count READ count NOTIFY countChanged)
+
+public:
+    enum Role { IsHeader = Qt::UserRole + 1, HeaderTitle, Cell, Section, Row, FirstInSection, LastInSection };
+
+    TableOutlet(TableDataSource& source, TableKind kind, QObject* parent = nullptr);
+
+    bool isHidden() const { return m_hidden; }
+    void setHidden(bool hidden);
+    double separatorLeft() const { return m_separatorLeft; }
+    double separatorRight() const { return m_separatorRight; }
+    void setSeparatorInset(double left, double right);
+    double rowHeight() const { return m_rowHeight; }
+    void setRowHeight(double height);
+    int count() const { return static_cast<int>(m_rows.size()); }
+
+    /// Asks the source for everything anew. Rows whose place stays keep their delegates, so that an open swipe stays
+    /// open; their cells are configured again when next drawn.
+    void reloadData();
+    /// Tells that the source has already dropped the row.
+    void deleteRow(IndexPath indexPath, RowAnimation animation);
+
+    int rowCount(const QModelIndex& parent = {}) const override;
+    QVariant data(const QModelIndex& index, int role) const override;
+    QHash<int, QByteArray> roleNames() const override;
+
+    /// QML's calls; indexes are of this flat list.
+    Q_INVOKABLE void select(int index);
+    /// Closes every open swipe: "leave editing mode".
+    void setEditing(bool editing, bool animated);
+
+Q_SIGNALS:
+    void hiddenChanged();
+    void separatorChanged();
+    void rowHeightChanged();
+    void countChanged();
+    void closeSwipesRequested();
+    /// The row goes back to its unpressed look.
+    void deselected(int index);
+
+public:
+    void deselectRow(IndexPath indexPath);
+
+private:
+    struct RowInfo {
+        IndexPath path; ///< row -1: the section's header
+        mutable QVariant cell;
+        mutable bool configured = false;
+    };
+    std::vector<RowInfo> layOut() const;
+    int flatIndex(IndexPath indexPath) const;
+
+    TableDataSource& m_source;
+    TableKind m_kind;
+    std::vector<RowInfo> m_rows;
+    bool m_hidden = false;
+    double m_separatorLeft = 0;
+    double m_separatorRight = 0;
+    double m_rowHeight = 44;
+};
+
+/// A pull-to-refresh control: QML calls `pull`, the controller `endRefreshing`.
+class RefreshControl : public QObject
+{
+    Q_OBJECT
+    QML_ANONYMOUS
+    Q_PROPERTY(bool refreshing READ isRefreshing NOTIFY refreshingChanged)
+
+public:
+    using QObject::QObject;
+    bool isRefreshing() const { return m_refreshing; }
+    Q_INVOKABLE void pull();
+    void endRefreshing();
+
+Q_SIGNALS:
+    void refreshingChanged();
+    /// The user pulled far enough and let go.
+    void valueChanged();
+
+private:
+    bool m_refreshing = false;
+};
+
+/// A button that a swiped cell uncovers.
+struct SwipeButton {
+    Q_GADGET
+    Q_PROPERTY(QString title MEMBER title)
+    Q_PROPERTY(QColor backgroundColor MEMBER backgroundColor)
+
+public:
+    QString title;
+    QColor backgroundColor;
+};
+
+} // namespace lodestar

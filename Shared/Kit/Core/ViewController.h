@@ -1,0 +1,136 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QUrl>
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+
+namespace lodestar
+{
+
+class NavigationController;
+class TabBarController;
+class SemiModalPresentation;
+
+/// The controller of one screen: what the screen shows and does, without the drawing. Main thread. Held by
+/// `std::shared_ptr` made with `makeController`, whose deleter posts to the main thread, because the last reference may
+/// go on a worker.
+class ViewController : public QObject, public std::enable_shared_from_this<ViewController>
+{
+    Q_OBJECT
+    QML_ANONYMOUS
+    Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged)
+    Q_PROPERTY(QString backTitle READ backTitle NOTIFY backTitleChanged)
+    Q_PROPERTY(QUrl scene READ scene CONSTANT)
+    Q_PROPERTY(lodestar::SemiModalPresentation* semiModal READ semiModal NOTIFY semiModalChanged)
+
+public:
+    ViewController();
+    ~ViewController() override;
+
+    const QString& title() const { return m_title; }
+    void setTitle(const QString& title);
+    /// The back button's text on screens pushed from this one; null for this one's title.
+    const QString& backTitle() const { return m_backTitle; }
+    void setBackTitle(const QString& title);
+
+    /// The QML file that draws this controller, set by the storyboard.
+    const QUrl& scene() const { return m_scene; }
+    void setScene(const QUrl& scene) { m_scene = scene; }
+
+    /// Runs `viewDidLoad` once, when the screen is first put into a container. Later calls do nothing.
+    void loadViewIfNeeded();
+    bool isViewLoaded() const { return m_viewLoaded; }
+    /// Appearance, as containers report it: each pair of calls alternates.
+    void beginAppearance();
+    void endAppearance();
+    /// Loaded, and on screen as far as its containers know.
+    bool isInWindow() const { return m_appeared; }
+
+    NavigationController* navigationController() const { return m_navigationController; }
+    TabBarController* tabBarController() const;
+
+    /// Puts a controller in a sheet that slides up over this one. A sheet that is up is dismissed first.
+    struct SemiModalOptions {
+        bool pushParentBack = true;
+        double height = 0; ///< points
+    };
+    void presentSemiViewController(std::shared_ptr<ViewController> controller, SemiModalOptions options);
+    /// Sets the height of the sheet that is up, its width kept. Nothing without a sheet.
+    void resizeSemiView(double height);
+    void dismissSemiModalView();
+    SemiModalPresentation* semiModal() const { return m_semiModal.get(); }
+
+Q_SIGNALS:
+    void titleChanged();
+    void backTitleChanged();
+    void semiModalChanged();
+    /// The scene ends text editing: takes the keyboard away.
+    void endEditingRequested();
+
+protected:
+    virtual void viewDidLoad() {}
+    virtual void viewDidAppear() {}
+    virtual void viewDidDisappear() {}
+    void endEditing() { Q_EMIT endEditingRequested(); }
+
+    /// This object as its own type, for handlers that keep the controller alive.
+    template <typename Controller>
+    std::shared_ptr<Controller> self()
+    {
+        return std::static_pointer_cast<Controller>(shared_from_this());
+    }
+
+private:
+    friend class NavigationController;
+    friend class TabBarController;
+    QString m_title;
+    QString m_backTitle;
+    QUrl m_scene;
+    bool m_viewLoaded = false;
+    bool m_appeared = false;
+    NavigationController* m_navigationController = nullptr;
+    TabBarController* m_tabBarController = nullptr;
+    std::unique_ptr<SemiModalPresentation> m_semiModal;
+};
+
+/// A sheet that is up: its content and its height. `dismissing` starts the slide down; the scene then reports
+/// `dismissed`.
+class SemiModalPresentation : public QObject
+{
+    Q_OBJECT
+    QML_ANONYMOUS
+    Q_PROPERTY(lodestar::ViewController* controller READ controller CONSTANT)
+    Q_PROPERTY(double height READ height NOTIFY heightChanged)
+    Q_PROPERTY(bool pushParentBack READ pushParentBack CONSTANT)
+
+public:
+    SemiModalPresentation(std::shared_ptr<ViewController> controller, ViewController::SemiModalOptions options);
+    ViewController* controller() const { return m_controller.get(); }
+    double height() const { return m_height; }
+    void setHeight(double height);
+    bool pushParentBack() const { return m_pushParentBack; }
+
+Q_SIGNALS:
+    void heightChanged();
+
+private:
+    std::shared_ptr<ViewController> m_controller;
+    double m_height;
+    bool m_pushParentBack;
+};
+
+/// Deletes a controller on the main thread, whichever thread lets go of it last.
+void deleteControllerOnMain(ViewController* controller);
+
+template <typename Controller, typename... Args>
+std::shared_ptr<Controller> makeController(Args&&... args)
+{
+    return std::shared_ptr<Controller>(new Controller(std::forward<Args>(args)...),
+                                       [](Controller* controller) { deleteControllerOnMain(controller); });
+}
+
+} // namespace lodestar

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace lodestar
+{
+
+/// Plain named notifications without payload. Main thread only. Observers run at once, in the order in which they were
+/// added; one that is added or removed meanwhile takes effect with the next notification.
+class NotificationCenter
+{
+public:
+    /// Ends the observation when it is destroyed.
+    using Observation = std::shared_ptr<void>;
+
+    static NotificationCenter& defaultCenter();
+
+    [[nodiscard]] Observation addObserver(const std::string& name, std::function<void()> observer);
+    void postNotification(const std::string& name);
+
+private:
+    NotificationCenter();
+    struct State;
+    std::shared_ptr<State> m_state;
+};
+
+} // namespace lodestar

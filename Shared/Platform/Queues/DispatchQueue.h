@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Platform/Queues/Task.h"
+
+#include <memory>
+#include <string>
+
+namespace lodestar
+{
+
+/// A labelled queue of blocks over the process's one thread pool. Thread-safe. Cheap to copy: copies are the same
+/// queue. Blocks that are waiting when the last copy goes are still run; blocks that wait on a suspended queue go with
+/// it, unrun.
+///
+/// The pool grows when blocks wait and every thread is blocked, up to a generous maximum; a block may therefore block.
+class DispatchQueue
+{
+public:
+    enum class Kind {
+        Serial,    ///< one block at a time, in the order of `async`
+        Concurrent ///< blocks start in the order of `async` and may overlap
+    };
+
+    DispatchQueue(std::string label, Kind kind);
+
+    const std::string& label() const;
+    Kind kind() const;
+
+    /// Runs the block later, never on the calling stack.
+    void async(Task block) const;
+    /// Runs the block on the calling thread once the queue's turn comes, and returns when it has run. On a serial
+    /// queue: the lock in queue form. Calling it from a block of the same serial queue is a programming error.
+    void sync(Task block) const;
+    /// Runs the block alone: after every block queued before it, before every block queued after it.
+    void barrierAsync(Task block) const;
+
+    /// A suspended queue starts no block. Calls nest: as many `resume` as `suspend`.
+    void suspend() const;
+    void resume() const;
+
+    /// True on a thread that is running a block of this queue.
+    bool isCurrent() const;
+
+    /// The process-wide concurrent queue for work that nobody waits for.
+    static const DispatchQueue& globalBackground();
+
+    friend bool operator==(const DispatchQueue& a, const DispatchQueue& b) { return a.m_state == b.m_state; }
+
+private:
+    struct State;
+    std::shared_ptr<State> m_state;
+};
+
+} // namespace lodestar

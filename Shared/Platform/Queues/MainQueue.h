@@ -1,0 +1,45 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Platform/Queues/Task.h"
+
+#include <chrono>
+#include <functional>
+
+namespace lodestar
+{
+
+/// The main thread's queue of blocks. The host's event loop drains it: the application posts an event to its loop from
+/// `setWake`'s function and calls `drain` when the event arrives; a test calls `runUntil`.
+class MainQueue
+{
+public:
+    static MainQueue& shared();
+
+    /// Runs the block on the main thread, later, in order. Thread-safe.
+    void async(Task block);
+    /// As `async`, not before the delay has passed (monotonic clock). Thread-safe.
+    void asyncAfter(std::chrono::milliseconds delay, Task block);
+    /// Runs the block at once when called on the main thread, otherwise as `async`. Thread-safe.
+    void run(Task block);
+    /// True on the main thread: the one that last called `adoptCurrentThread`, at first the one that created the queue.
+    bool isCurrent() const;
+    void adoptCurrentThread();
+
+    /// The function is called, from any thread and without a lock held, when a drained queue gets a block. It must
+    /// only wake the main loop. Null removes it.
+    void setWake(std::function<void()> wake);
+    /// Main thread: runs what was queued when it was called, not what those blocks queue in turn (they wake again), so
+    /// that a loop stays responsive. Returns whether anything ran.
+    bool drain();
+    /// Main thread, for hosts without an event loop: drains and waits until the predicate holds or the time is over;
+    /// returns the predicate's last answer.
+    bool runUntil(const std::function<bool()>& predicate, std::chrono::milliseconds limit);
+
+private:
+    MainQueue();
+    struct State;
+    State* m_state;
+};
+
+} // namespace lodestar
