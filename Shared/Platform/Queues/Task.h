@@ -21,7 +21,7 @@ public:
     requires(!std::is_same_v<std::decay_t<F>, Task> && std::is_invocable_v<std::decay_t<F>&>) Task(F&& function)
     {
         using Function = std::decay_t<F>;
-        if constexpr (fitsInline<Function>) {
+        if constexpr (fitsInline<Function>()) {
             ::new (storage()) Function(std::forward<F>(function));
             m_operations = &inlineOperations<Function>;
         } else {
@@ -59,8 +59,11 @@ private:
         void (*destroy)(void*) noexcept;
     };
     template <typename F>
-    static constexpr bool fitsInline = sizeof(F) <= inlineSize && alignof(F) <= alignof(std::max_align_t) &&
-                                       std::is_nothrow_move_constructible_v<F>;
+    static constexpr bool fitsInline()
+    {
+        return sizeof(F) <= inlineSize && alignof(F) <= alignof(std::max_align_t) &&
+               std::is_nothrow_move_constructible_v<F>;
+    }
     template <typename F>
     static constexpr Operations inlineOperations = {
         [](void* at) { (*static_cast<F*>(at))(); },

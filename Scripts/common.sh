@@ -1,0 +1,50 @@
+# SPDX-License-Identifier: Apache-2.0
+# What ./run, ./test and ./bench share. Sourced by them from the top of the checkout.
+
+say() { printf '%s\n' "lodestar: $*" >&2; }
+die() {
+    say "$*"
+    exit 1
+}
+
+# Installs what Packaging/debian-packages.txt lists and the machine lacks. Elsewhere than on Debian the list is for people.
+install_packages() {
+    command -v dpkg-query >/dev/null || {
+        say "not a Debian system; the libraries that Packaging/debian-packages.txt names must be there"
+        return 0
+    }
+    local listed missing as_root=()
+    listed=$(grep -vE '^\s*(#|$)' Packaging/debian-packages.txt | sort -u)
+    missing=$(comm -23 <(printf '%s\n' "$listed") \
+        <(dpkg-query -W -f='${db:Status-Status} ${Package}\n' 2>/dev/null | sed -n 's/^installed //p' | sort -u))
+    [ -z "$missing" ] && return 0
+    [ "$(id -u)" -eq 0 ] || as_root=(sudo)
+    say "installing $(printf '%s\n' "$missing" | wc -l) packages"
+    "${as_root[@]}" apt-get update -qq || die "the package lists could not be fetched"
+    # shellcheck disable=SC2086
+    DEBIAN_FRONTEND=noninteractive "${as_root[@]}" apt-get install -y -qq --no-install-recommends $missing >/dev/null ||
+        die "these packages could not be installed: $(printf '%s ' $missing)"
+}
+
+# configure PRESET [ARGUMENT...]
+configure() {
+    local preset=$1
+    shift
+    mkdir -p build
+    cmake --preset "$preset" "$@" >"build/configure-$preset.log" 2>&1 || {
+        cat "build/configure-$preset.log" >&2
+        die "configuring failed"
+    }
+}
+
+# build PRESET TARGET...
+build() {
+    local preset=$1 targets=()
+    shift
+    for target in "$@"; do targets+=(--target "$target"); done
+    say "building ($preset)"
+    cmake --build "build/$preset" "${targets[@]}" -j "$(nproc)" >"build/build-$preset.log" 2>&1 || {
+        grep -vE '^\[[0-9]+/[0-9]+\] ' "build/build-$preset.log" | tail -n 100 >&2
+        die "building failed; the whole output is in build/build-$preset.log"
+    }
+}

@@ -1,0 +1,168 @@
+#!/usr/bin/env python3
+# SPDX-License-Identifier: Apache-2.0
+"""The style checks that ./test runs: format, includes, licences, texts, tidy."""
+
+import argparse
+import concurrent.futures
+import hashlib
+import json
+import os
+import pathlib
+import re
+import subprocess
+import sys
+
+# From the bottom up. A module may include itself and what stands in its row's set.
+PLATFORM = {"Platform"}
+BELOW = {
+    "Platform": set(),
+    "Feedback": PLATFORM,
+    "Application/Model": PLATFORM | {"Feedback"},
+    "Controllers/REST": PLATFORM | {"Feedback", "Application/Model"},
+    "Kit": PLATFORM | {"Feedback"},
+    "Charts": PLATFORM | {"Feedback"},
+    "Views": PLATFORM | {"Feedback", "Application/Model", "Controllers/REST", "Kit", "Charts"},
+    "Application": PLATFORM | {"Feedback", "Application/Model", "Controllers/REST", "Kit", "Charts", "Views"},
+}
+# Every module whose files must compile without Qt.
+QT_FREE = {"Platform", "Application/Model", "Controllers/REST"}
+# The logger is the one thing above Platform that Platform itself may call: trust decisions are logged where they fall.
+EXCEPTIONS = {("Platform", "Feedback/VireoLogger.h")}
+
+TEXT_ENDINGS = {".h", ".cpp", ".qml", ".cmake", ".txt", ".py", ".sh", ".md", ".json", ""}
+LICENSED_ENDINGS = {".h", ".cpp", ".qml", ".cmake", ".py", ".sh"}
+
+
+def tracked(source, *endings):
+    listed = subprocess.run(["git", "-C", source, "ls-files", "-z", "--cached", "--others", "--exclude-standard"],
+                            check=True, stdout=subprocess.PIPE, text=True).stdout
+    paths = [pathlib.Path(name) for name in listed.split("\0") if name]
+    return sorted(path for path in paths if (source / path).is_file() and (not endings or path.suffix in endings))
+
+
+def module_of(path):
+    """The module of a path below Shared/, the longest name first, or none."""
+    for module in sorted(BELOW, key=len, reverse=True):
+        if path.startswith(module + "/"):
+            return module
+    return None
+
+
+def check_format(source, _build):
+    files = [str(path) for path in tracked(source, ".h", ".cpp")]
+    done = subprocess.run(["clang-format", "--dry-run", "-Werror", *files], cwd=source, stderr=subprocess.PIPE, text=True)
+    return done.stderr.splitlines()
+
+
+def check_includes(source, _build):
+    faults = []
+    for path in tracked(source, ".h", ".cpp"):
+        if path.parts[0] != "Shared":
+            continue
+        module = module_of("/".join(path.parts[1:]))
+        for number, text in enumerate((source / path).read_text().splitlines(), 1):
+            include = re.match(r'\s*#\s*include\s+(["<])([^">]+)', text)
+            if not include:
+                continue
+            bracket, name = include.groups()
+            if bracket == "<":
+                if module in QT_FREE and re.match(r"(Q[A-Z]|Qt[A-Z])", name):
+                    faults.append(f"{path}:{number}: {module} must stay free of Qt: {name}")
+                continue
+            target = module_of(name)
+            if target is None or target == module or (module, name) in EXCEPTIONS:
+                continue
+            if target not in BELOW[module]:
+                faults.append(f"{path}:{number}: {module} must not include upwards: {name}")
+    return faults
+
+
+def check_licences(source, _build):
+    faults = []
+    for path in tracked(source):
+        if path.suffix in LICENSED_ENDINGS or path.name in {"CMakeLists.txt", "run", "test", "bench"}:
+            head = (source / path).read_text(errors="replace").splitlines()[:3]
+            if not any("SPDX-License-Identifier: " in text for text in head):
+                faults.append(f"{path}: no SPDX line at its head")
+    return faults
+
+
+def check_texts(source, _build):
+    """Loose ends and stray bytes."""
+    faults = []
+    loose = re.compile(r"\b(TO" r"DO|FIX" r"ME|XX" r"X)\b|SUCC" r"EED\(\)|GTEST_" r"SKIP|DISABLED" r"_")
+    for path in tracked(source, *TEXT_ENDINGS):
+        if path.parts[0] in {"LICENSES", "Resources", "docs"}:
+            continue
+        text = (source / path).read_text(errors="replace")
+        if text and not text.endswith("\n"):
+            faults.append(f"{path}: no newline at the end")
+        for number, row in enumerate(text.splitlines(), 1):
+            if row != row.rstrip():
+                faults.append(f"{path}:{number}: trailing space")
+            if loose.search(row):
+                faults.append(f"{path}:{number}: a loose end: {row.strip()}")
+    return faults
+
+
+def dependencies(build):
+    """Object file -> the files that it was built from, as ninja recorded them."""
+    done = subprocess.run(["ninja", "-C", build, "-t", "deps"], check=True, stdout=subprocess.PIPE, text=True)
+    found, current = {}, None
+    for row in done.stdout.splitlines():
+        if row and not row.startswith(" "):
+            current = found.setdefault(row.split(":")[0], [])
+        elif row.strip() and current is not None:
+            current.append(row.strip())
+    return found
+
+
+def check_tidy(source, build):
+    """clang-tidy over every file of ours, skipping those unchanged, with all they include, since they last passed."""
+    commands = json.loads((build / "compile_commands.json").read_text())
+    objects = dependencies(build)
+    cache = build / "tidy-passed"
+    cache.mkdir(exist_ok=True)
+    config = (source / ".clang-tidy").read_bytes()
+    jobs = []
+    for command in commands:
+        file = pathlib.Path(command["file"])
+        if not file.is_relative_to(source) or file.is_relative_to(source / "build"):
+            continue
+        digest = hashlib.sha256(config + command["command"].encode())
+        for dependency in sorted({str(file), *objects.get(command.get("output", ""), [])}):
+            path = pathlib.Path(os.path.join(build, dependency))
+            if path.is_relative_to(source) and path.is_file():
+                digest.update(path.read_bytes())
+        jobs.append((file, cache / digest.hexdigest()))
+    waiting = [job for job in jobs if not job[1].exists()]
+
+    def run(job):
+        file, stamp = job
+        done = subprocess.run(["clang-tidy", "--quiet", "-p", build, "--extra-arg=-Wno-unknown-warning-option", file],
+                              stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True)
+        if done.returncode == 0:
+            stamp.touch()
+            return []
+        return done.stdout.splitlines() or [f"{file}: clang-tidy ended with {done.returncode}"]
+
+    with concurrent.futures.ThreadPoolExecutor(os.cpu_count()) as pool:
+        return [row for rows in pool.map(run, waiting) for row in rows]
+
+
+def main():
+    checks = {"format": check_format, "includes": check_includes, "licences": check_licences, "texts": check_texts,
+              "tidy": check_tidy}
+    parser = argparse.ArgumentParser()
+    parser.add_argument("--source", type=pathlib.Path, required=True)
+    parser.add_argument("--build", type=pathlib.Path, required=True)
+    parser.add_argument("check", choices=checks)
+    arguments = parser.parse_args()
+    faults = checks[arguments.check](arguments.source.resolve(), arguments.build.resolve())
+    for fault in faults:
+        print(fault)
+    sys.exit(1 if faults else 0)
+
+
+if __name__ == "__main__":
+    main()
