@@ -14,7 +14,8 @@ enum class Animated { No, Yes };
 class NavigationController : public ViewController
 {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(lodestar::ViewController* topViewController READ topViewController NOTIFY stackChanged)
     Q_PROPERTY(int depth READ depth NOTIFY stackChanged)
 
@@ -36,7 +37,8 @@ public:
 
 Q_SIGNALS:
     void pushed(lodestar::ViewController* controller, bool animated);
-    /// Emitted before the controller is released; the scene that draws it must go with this signal.
+    /// Emitted before the controller is released. A scene that is to outlive this, for as long as it slides away, keeps
+    /// the controller alive (as SceneHost does).
     void popped(lodestar::ViewController* controller, bool animated);
     void stackChanged();
 
@@ -46,6 +48,7 @@ protected:
     void viewDidDisappear() override;
 
 private:
+    void updateAppearance();
     std::vector<std::shared_ptr<ViewController>> m_stack;
 };
 

@@ -17,7 +17,8 @@ namespace lodestar
 class ViewOutlet : public QObject
 {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(bool hidden READ isHidden WRITE setHidden NOTIFY hiddenChanged)
 
 public:
@@ -36,7 +37,8 @@ private:
 class LabelOutlet : public ViewOutlet
 {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
     Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
 
@@ -61,7 +63,8 @@ private:
 class IndicatorOutlet : public ViewOutlet
 {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(bool animating READ isAnimating NOTIFY animatingChanged)
 
 public:
@@ -82,7 +85,8 @@ private:
 class FieldOutlet : public ViewOutlet
 {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
     Q_PROPERTY(bool enabled READ isEnabled WRITE setEnabled NOTIFY enabledChanged)
 
@@ -93,7 +97,7 @@ public:
     bool isEnabled() const { return m_enabled; }
     void setEnabled(bool enabled);
     /// Takes the keyboard away from the field; harmless when it does not have it.
-    void resignFirstResponder() { Q_EMIT resignRequested(); }
+    void resignFirstResponder();
 
 Q_SIGNALS:
     void textChanged();
@@ -109,7 +113,8 @@ private:
 class ImageOutlet : public ViewOutlet
 {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(QString imageName READ imageName WRITE setImageName NOTIFY imageNameChanged)
 
 public:
@@ -128,7 +133,8 @@ private:
 class SwitchOutlet : public ViewOutlet
 {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(bool on READ isOn WRITE setOn NOTIFY onChanged)
 
 public:

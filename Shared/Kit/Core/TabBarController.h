@@ -21,12 +21,14 @@ struct TabBarItem {
 class TabBarController : public ViewController
 {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(int count READ count CONSTANT)
     Q_PROPERTY(int selectedIndex READ selectedIndex WRITE setSelectedIndex NOTIFY selectedIndexChanged)
 
 public:
     explicit TabBarController(std::vector<TabBarItem> items);
+    ~TabBarController() override;
 
     int count() const { return static_cast<int>(m_items.size()); }
     int selectedIndex() const { return m_selectedIndex; }

@@ -8,6 +8,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <optional>
+#include <unordered_map>
 #include <vector>
 
 namespace lodestar
@@ -43,15 +44,26 @@ enum class RowAnimation { None, Left };
 class TableOutlet : public QAbstractListModel
 {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(bool hidden READ isHidden NOTIFY hiddenChanged)
     Q_PROPERTY(double separatorLeft READ separatorLeft NOTIFY separatorChanged)
     Q_PROPERTY(double separatorRight READ separatorRight NOTIFY separatorChanged)
     Q_PROPERTY(double rowHeight READ rowHeight NOTIFY rowHeightChanged)
     Q_PROPERTY(int count READ count NOTIFY countChanged)
+    Q_PROPERTY(bool removalAnimated READ isRemovalAnimated NOTIFY removalAnimatedChanged)
 
 public:
-    enum Role { IsHeader = Qt::UserRole + 1, HeaderTitle, Cell, Section, Row, FirstInSection, LastInSection };
+    enum Role {
+        IsHeader = Qt::UserRole + 1,
+        HeaderTitle,
+        Cell,
+        Section,
+        Row, ///< -1 for a header
+        FirstInSection,
+        LastInSection,
+        SectionHasHeader
+    };
 
     TableOutlet(TableDataSource& source, TableKind kind, QObject* parent = nullptr);
 
@@ -62,13 +74,21 @@ public:
     void setSeparatorInset(double left, double right);
     double rowHeight() const { return m_rowHeight; }
     void setRowHeight(double height);
-    int count() const { return static_cast<int>(m_rows.size()); }
+    int count() const { return m_count; }
+    /// How the rows that went last are to go.
+    bool isRemovalAnimated() const { return m_removalAnimated; }
 
-    /// Asks the source for everything anew. Rows whose place stays keep their delegates, so that an open swipe stays
-    /// open; their cells are configured again when next drawn.
+    /// Asks the source for its shape anew, at once, and for its cells when they are next drawn: several reloads in a
+    /// row configure the visible rows once. Rows whose place stays keep their delegates, so that an open swipe stays
+    /// open. Costs by sections, not by rows. From any thread.
     void reloadData();
-    /// Tells that the source has already dropped the row.
+    /// Tells that the source has already dropped the row. The rows below move up and are not configured again.
     void deleteRow(IndexPath indexPath, RowAnimation animation);
+
+    /// Configures the row: asks the source for a new cell, always. A drawn row calls this once when it comes into view
+    /// and once when it is told that its cell changed; the role `Cell` answers from what was made since the last
+    /// reload.
+    QVariant configureCell(int index) const;
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -87,22 +107,34 @@ Q_SIGNALS:
     void closeSwipesRequested();
     /// The row goes back to its unpressed look.
     void deselected(int index);
+    void removalAnimatedChanged();
+    /// The source was asked anew: nothing is selected any more.
+    void reloaded();
 
 public:
     void deselectRow(IndexPath indexPath);
 
 private:
-    struct RowInfo {
-        IndexPath path; ///< row -1: the section's header
-        mutable QVariant cell;
-        mutable bool configured = false;
+    struct SectionInfo {
+        int start = 0; ///< flat index of the header, or of the first row when there is none
+        int rows = 0;
+        bool hasHeader = false;
+        QString title;
     };
-    std::vector<RowInfo> layOut() const;
+    std::vector<SectionInfo> askForShape(int& count) const;
+    void reloadOnMain();
+    void announceCells();
+    void setRemovalAnimated(bool animated);
+    std::optional<IndexPath> pathAt(int index) const;
     int flatIndex(IndexPath indexPath) const;
 
     TableDataSource& m_source;
     TableKind m_kind;
-    std::vector<RowInfo> m_rows;
+    std::vector<SectionInfo> m_sections;
+    int m_count = 0;
+    mutable std::unordered_map<int, QVariant> m_cells; ///< made since the last reload, by flat index
+    bool m_announcePending = false;
+    bool m_removalAnimated = false;
     bool m_hidden = false;
     double m_separatorLeft = 0;
     double m_separatorRight = 0;
@@ -113,7 +145,8 @@ private:
 class RefreshControl : public QObject
 {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(bool refreshing READ isRefreshing NOTIFY refreshingChanged)
 
 public:
@@ -131,15 +164,19 @@ private:
     bool m_refreshing = false;
 };
 
-/// A button that a swiped cell uncovers.
+/// A button that a swiped cell uncovers: its title, or a picture by its resource name, which the title then describes.
 struct SwipeButton {
     Q_GADGET
+    QML_VALUE_TYPE(swipeButton)
     Q_PROPERTY(QString title MEMBER title)
     Q_PROPERTY(QColor backgroundColor MEMBER backgroundColor)
+    Q_PROPERTY(QString imageName MEMBER imageName)
 
 public:
     QString title;
     QColor backgroundColor;
+    QString imageName{};
+    friend bool operator==(const SwipeButton&, const SwipeButton&) = default;
 };
 
 } // namespace lodestar

@@ -21,7 +21,8 @@ class SemiModalPresentation;
 class ViewController : public QObject, public std::enable_shared_from_this<ViewController>
 {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(QString title READ title WRITE setTitle NOTIFY titleChanged)
     Q_PROPERTY(QString backTitle READ backTitle NOTIFY backTitleChanged)
     Q_PROPERTY(QUrl scene READ scene CONSTANT)
@@ -97,12 +98,13 @@ private:
     std::unique_ptr<SemiModalPresentation> m_semiModal;
 };
 
-/// A sheet that is up: its content and its height. `dismissing` starts the slide down; the scene then reports
-/// `dismissed`.
+/// A sheet that is up: its content and its height, the bar that the sheet docks above it not counted. It goes with the
+/// sheet's dismissal; the scene, which keeps the content alive, slides down afterwards.
 class SemiModalPresentation : public QObject
 {
     Q_OBJECT
-    QML_ANONYMOUS
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(lodestar::ViewController* controller READ controller CONSTANT)
     Q_PROPERTY(double height READ height NOTIFY heightChanged)
     Q_PROPERTY(bool pushParentBack READ pushParentBack CONSTANT)
@@ -110,6 +112,7 @@ class SemiModalPresentation : public QObject
 public:
     SemiModalPresentation(std::shared_ptr<ViewController> controller, ViewController::SemiModalOptions options);
     ViewController* controller() const { return m_controller.get(); }
+    const std::shared_ptr<ViewController>& sharedController() const { return m_controller; }
     double height() const { return m_height; }
     void setHeight(double height);
     bool pushParentBack() const { return m_pushParentBack; }

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/Appearance.h"
+
+#include "Kit/Core/UIFont+System.h"
+
+#include <QEvent>
+#include <QFontMetricsF>
+#include <QGuiApplication>
+#include <QPalette>
+#include <QQmlEngine>
+#include <QScreen>
+
+#include <algorithm>
+#include <cmath>
+
+namespace lodestar
+{
+
+namespace
+{
+
+/// Desktops tell their text size as a resolution. Screens that merely measure a little over 96 do not mean larger text.
+double systemTextScale()
+{
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen != nullptr ? std::round(screen->logicalDotsPerInch() / 96 * 4) / 4 : 1;
+}
+
+} // namespace
+
+Appearance::Appearance()
+{
+    QGuiApplication::instance()->installEventFilter(this);
+    QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
+}
+
+Appearance& Appearance::shared()
+{
+    static Appearance appearance;
+    return appearance;
+}
+
+Appearance* Appearance::create(QQmlEngine* /*qml*/, QJSEngine* /*js*/)
+{
+    return &shared();
+}
+
+bool Appearance::isDark() const
+{
+    return m_dark.value_or(QGuiApplication::palette().color(QPalette::Window).lightness() < 128);
+}
+
+double Appearance::textScale() const
+{
+    return std::clamp(m_textScale ? *m_textScale : systemTextScale(), 1.0, 2.0);
+}
+
+bool Appearance::isMirrored() const
+{
+    return m_mirrored.value_or(QGuiApplication::layoutDirection() == Qt::RightToLeft);
+}
+
+bool Appearance::isReducedMotion() const
+{
+    return m_reducedMotion.value_or(false);
+}
+
+double Appearance::textDrop(int pixelSize, double lineHeight) const
+{
+    const QFontMetricsF metrics(UIFont::systemFontOfSize(pixelSize));
+    return (lineHeight + metrics.capHeight()) / 2 - metrics.ascent();
+}
+
+void Appearance::overrideDark(std::optional<bool> dark)
+{
+    m_dark = dark;
+    Q_EMIT changed();
+}
+
+void Appearance::overrideTextScale(std::optional<double> scale)
+{
+    m_textScale = scale;
+    Q_EMIT changed();
+}
+
+void Appearance::overrideMirrored(std::optional<bool> mirrored)
+{
+    m_mirrored = mirrored;
+    Q_EMIT changed();
+}
+
+void Appearance::overrideReducedMotion(std::optional<bool> reduced)
+{
+    m_reducedMotion = reduced;
+    Q_EMIT changed();
+}
+
+bool Appearance::eventFilter(QObject* watched, QEvent* event)
+{
+    if (watched == QGuiApplication::instance() && (event->type() == QEvent::ApplicationPaletteChange ||
+                                                   event->type() == QEvent::ApplicationLayoutDirectionChange)) {
+        Q_EMIT changed();
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+} // namespace lodestar

@@ -1,0 +1,106 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/CellHost.h"
+
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQmlProperty>
+
+namespace lodestar
+{
+
+namespace
+{
+const QString cellProperty = QStringLiteral("cell");
+} // namespace
+
+CellHost::~CellHost()
+{
+    delete m_item.data();
+}
+
+void CellHost::setTable(TableOutlet* table)
+{
+    if (m_table == table) {
+        return;
+    }
+    disconnect(m_connection);
+    m_table = table;
+    if (table != nullptr) {
+        const auto changed = [this](const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) {
+            if (first.row() <= m_index && m_index <= last.row() &&
+                (roles.empty() || roles.contains(TableOutlet::Cell))) {
+                configure();
+            }
+        };
+        m_connection = connect(table, &TableOutlet::dataChanged, this, changed);
+    }
+    Q_EMIT tableChanged();
+}
+
+void CellHost::componentComplete()
+{
+    QQuickItem::componentComplete();
+    configure();
+}
+
+void CellHost::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry)
+{
+    QQuickItem::geometryChange(newGeometry, oldGeometry);
+    fill();
+}
+
+void CellHost::configure()
+{
+    if (!isComponentComplete() || !m_table || m_index < 0) {
+        return;
+    }
+    if (m_table->data(m_table->index(m_index), TableOutlet::IsHeader).toBool()) {
+        drop();
+        return;
+    }
+    const QVariant cell = m_table->configureCell(m_index);
+    if (m_item) {
+        QQmlProperty::write(m_item, cellProperty, cell);
+    } else if (m_delegate) {
+        make(cell);
+    }
+}
+
+void CellHost::make(const QVariant& cell)
+{
+    QQmlContext* context = m_delegate->creationContext();
+    QObject* made = m_delegate->createWithInitialProperties({{cellProperty, cell}},
+                                                            context != nullptr ? context : qmlContext(this));
+    m_item = qobject_cast<QQuickItem*>(made);
+    if (!m_item) {
+        delete made;
+        qWarning("A row cannot be shown: %s", qPrintable(m_delegate->errorString()));
+        return;
+    }
+    m_item->setParent(this);
+    m_item->setParentItem(this);
+    connect(m_item, &QQuickItem::implicitHeightChanged, this, [this] { setImplicitHeight(m_item->implicitHeight()); });
+    fill();
+    setImplicitHeight(m_item->implicitHeight());
+    Q_EMIT itemChanged();
+}
+
+void CellHost::drop()
+{
+    if (m_item) {
+        m_item->setVisible(false);
+        m_item->deleteLater();
+        m_item = nullptr;
+        setImplicitHeight(0);
+        Q_EMIT itemChanged();
+    }
+}
+
+void CellHost::fill()
+{
+    if (m_item) {
+        m_item->setSize(size());
+    }
+}
+
+} // namespace lodestar

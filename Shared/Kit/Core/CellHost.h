@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Kit/Core/Table.h"
+
+#include <QPointer>
+#include <QQmlComponent>
+#include <QQuickItem>
+
+namespace lodestar
+{
+
+/// One drawn row's content: an item of the table's delegate, whose property `cell` is asked for once when the row comes
+/// into view (`configure`) and once when the table is reloaded, not once a role or a binding.
+class CellHost : public QQuickItem
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(lodestar::TableOutlet* table READ table WRITE setTable NOTIFY tableChanged)
+    Q_PROPERTY(int index MEMBER m_index NOTIFY indexChanged)
+    Q_PROPERTY(QQmlComponent* delegate MEMBER m_delegate NOTIFY delegateChanged)
+    Q_PROPERTY(QQuickItem* item READ item NOTIFY itemChanged)
+
+public:
+    using QQuickItem::QQuickItem;
+    ~CellHost() override;
+
+    TableOutlet* table() const { return m_table.data(); }
+    void setTable(TableOutlet* table);
+    /// Null for a header.
+    QQuickItem* item() const { return m_item.data(); }
+    /// Asks the table for the cell of the present index. A list calls it when it uses the row for another index.
+    Q_INVOKABLE void configure();
+
+Q_SIGNALS:
+    void tableChanged();
+    void indexChanged();
+    void delegateChanged();
+    void itemChanged();
+
+protected:
+    void componentComplete() override;
+    void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
+
+private:
+    void make(const QVariant& cell);
+    void drop();
+    void fill();
+
+    QPointer<TableOutlet> m_table;
+    QMetaObject::Connection m_connection;
+    QPointer<QQmlComponent> m_delegate;
+    QPointer<QQuickItem> m_item;
+    int m_index = -1;
+};
+
+} // namespace lodestar

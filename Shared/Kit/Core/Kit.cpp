@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/Kit.h"
+
+#include "Kit/Core/IconProvider.h"
+#include "Kit/Core/UIFont+System.h"
+
+#include <QQmlEngine>
+#include <QtGlobal>
+
+extern void qml_register_types_Lodestar_Kit();
+
+namespace lodestar
+{
+
+void installKit(QQmlEngine& engine)
+{
+    // The module is a static library: naming the generated function is what links its registration in.
+    [[maybe_unused]] static volatile auto registration = &qml_register_types_Lodestar_Kit;
+    UIFont::install();
+    engine.addImportPath(QStringLiteral("qrc:/"));
+    engine.addImageProvider(QStringLiteral("icon"), new IconProvider);
+}
+
+} // namespace lodestar

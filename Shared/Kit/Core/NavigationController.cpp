@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/NavigationController.h"
+
+#include "Platform/Queues/MainQueue.h"
+
+#include <utility>
+
+namespace lodestar
+{
+
+NavigationController::NavigationController(std::shared_ptr<ViewController> root)
+{
+    root->m_navigationController = this;
+    m_stack.push_back(std::move(root));
+}
+
+NavigationController::~NavigationController()
+{
+    // Others may hold on to a screen for longer than its stack lives.
+    for (const auto& controller : m_stack) {
+        controller->m_navigationController = nullptr;
+    }
+}
+
+void NavigationController::pushViewController(std::shared_ptr<ViewController> controller, Animated animated)
+{
+    ViewController* shown = controller.get();
+    shown->m_navigationController = this;
+    m_stack.push_back(std::move(controller));
+    shown->loadViewIfNeeded();
+    Q_EMIT pushed(shown, animated == Animated::Yes);
+    Q_EMIT stackChanged();
+    updateAppearance();
+}
+
+std::shared_ptr<ViewController> NavigationController::popViewController(Animated animated)
+{
+    if (m_stack.size() < 2) {
+        return nullptr;
+    }
+    std::shared_ptr<ViewController> controller = std::move(m_stack.back());
+    m_stack.pop_back();
+    controller->endAppearance();
+    controller->m_navigationController = nullptr;
+    Q_EMIT popped(controller.get(), animated == Animated::Yes);
+    Q_EMIT stackChanged();
+    updateAppearance();
+    // The call may come out of one of the popped screen's own methods: let it return first.
+    MainQueue::shared().async([keep = controller] {});
+    return controller;
+}
+
+void NavigationController::pop()
+{
+    popViewController(Animated::Yes);
+}
+
+ViewController* NavigationController::topViewController() const
+{
+    return m_stack.back().get();
+}
+
+ViewController* NavigationController::rootViewController() const
+{
+    return m_stack.front().get();
+}
+
+int NavigationController::depth() const
+{
+    return static_cast<int>(m_stack.size());
+}
+
+ViewController* NavigationController::viewControllerAt(int index) const
+{
+    return index >= 0 && index < depth() ? m_stack[static_cast<std::size_t>(index)].get() : nullptr;
+}
+
+void NavigationController::viewDidLoad()
+{
+    topViewController()->loadViewIfNeeded();
+}
+
+void NavigationController::viewDidAppear()
+{
+    updateAppearance();
+}
+
+void NavigationController::viewDidDisappear()
+{
+    updateAppearance();
+}
+
+void NavigationController::updateAppearance()
+{
+    // A screen may push or pop while it is told; its own call has then already brought the stack up to date.
+    const std::vector<std::shared_ptr<ViewController>> stack = m_stack;
+    for (const auto& controller : stack) {
+        if (!isInWindow() || controller != m_stack.back()) {
+            controller->endAppearance();
+        }
+    }
+    if (isInWindow()) {
+        const std::shared_ptr<ViewController> top = m_stack.back();
+        top->beginAppearance();
+    }
+}
+
+} // namespace lodestar

@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Platform/Queues/MainQueue.h"
+
+#include <QPointer>
+
+#include <utility>
+
+namespace lodestar
+{
+
+/// Runs `change(object)` on the main thread: at once when called there, otherwise later, and not at all when the object
+/// has gone by then. The caller keeps the object alive for the time of the call itself.
+template <typename Object, typename Change>
+void onMain(Object* object, Change change)
+{
+    if (MainQueue::shared().isCurrent()) {
+        change(*object);
+        return;
+    }
+    MainQueue::shared().async([guard = QPointer<Object>(object), change = std::move(change)]() mutable {
+        if (guard) {
+            change(*guard);
+        }
+    });
+}
+
+} // namespace lodestar

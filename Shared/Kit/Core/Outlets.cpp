@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/Outlets.h"
+
+#include "Kit/Core/OnMain.h"
+
+namespace lodestar
+{
+
+void ViewOutlet::setHidden(bool hidden)
+{
+    onMain(this, [hidden](ViewOutlet& outlet) {
+        if (outlet.m_hidden != hidden) {
+            outlet.m_hidden = hidden;
+            Q_EMIT outlet.hiddenChanged();
+        }
+    });
+}
+
+void LabelOutlet::setText(const QString& text)
+{
+    onMain(this, [text](LabelOutlet& outlet) {
+        if (outlet.m_text != text) {
+            outlet.m_text = text;
+            Q_EMIT outlet.textChanged();
+        }
+    });
+}
+
+void LabelOutlet::setColor(const QColor& color)
+{
+    onMain(this, [color](LabelOutlet& outlet) {
+        if (outlet.m_color != color) {
+            outlet.m_color = color;
+            Q_EMIT outlet.colorChanged();
+        }
+    });
+}
+
+void IndicatorOutlet::startAnimating()
+{
+    setAnimating(true);
+}
+
+void IndicatorOutlet::stopAnimating()
+{
+    setAnimating(false);
+}
+
+void IndicatorOutlet::setAnimating(bool animating)
+{
+    onMain(this, [animating](IndicatorOutlet& outlet) {
+        if (outlet.m_animating != animating) {
+            outlet.m_animating = animating;
+            Q_EMIT outlet.animatingChanged();
+        }
+    });
+}
+
+void FieldOutlet::setText(const QString& text)
+{
+    onMain(this, [text](FieldOutlet& outlet) {
+        if (outlet.m_text != text) {
+            outlet.m_text = text;
+            Q_EMIT outlet.textChanged();
+        }
+    });
+}
+
+void FieldOutlet::setEnabled(bool enabled)
+{
+    onMain(this, [enabled](FieldOutlet& outlet) {
+        if (outlet.m_enabled != enabled) {
+            outlet.m_enabled = enabled;
+            Q_EMIT outlet.enabledChanged();
+        }
+    });
+}
+
+void FieldOutlet::resignFirstResponder()
+{
+    onMain(this, [](FieldOutlet& outlet) { Q_EMIT outlet.resignRequested(); });
+}
+
+void ImageOutlet::setImageName(const QString& name)
+{
+    onMain(this, [name](ImageOutlet& outlet) {
+        if (outlet.m_imageName != name) {
+            outlet.m_imageName = name;
+            Q_EMIT outlet.imageNameChanged();
+        }
+    });
+}
+
+void SwitchOutlet::setOn(bool on)
+{
+    onMain(this, [on](SwitchOutlet& outlet) {
+        if (outlet.m_on != on) {
+            outlet.m_on = on;
+            Q_EMIT outlet.onChanged();
+        }
+    });
+}
+
+} // namespace lodestar

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/TabBarController.h"
+
+#include <utility>
+
+namespace lodestar
+{
+
+TabBarController::TabBarController(std::vector<TabBarItem> items) : m_items(std::move(items))
+{
+    for (const TabBarItem& item : m_items) {
+        item.controller->m_tabBarController = this;
+    }
+}
+
+TabBarController::~TabBarController()
+{
+    for (const TabBarItem& item : m_items) {
+        item.controller->m_tabBarController = nullptr;
+    }
+}
+
+void TabBarController::setSelectedIndex(int index)
+{
+    if (index == m_selectedIndex || controllerAt(index) == nullptr) {
+        return;
+    }
+    controllerAt(m_selectedIndex)->endAppearance();
+    m_selectedIndex = index;
+    if (isViewLoaded()) {
+        controllerAt(index)->loadViewIfNeeded();
+    }
+    Q_EMIT selectedIndexChanged();
+    if (isInWindow() && m_selectedIndex == index) {
+        controllerAt(index)->beginAppearance();
+    }
+}
+
+QString TabBarController::titleAt(int index) const
+{
+    return controllerAt(index) != nullptr ? m_items[static_cast<std::size_t>(index)].title : QString();
+}
+
+QString TabBarController::imageNameAt(int index) const
+{
+    return controllerAt(index) != nullptr ? m_items[static_cast<std::size_t>(index)].imageName : QString();
+}
+
+ViewController* TabBarController::controllerAt(int index) const
+{
+    return index >= 0 && index < count() ? m_items[static_cast<std::size_t>(index)].controller.get() : nullptr;
+}
+
+void TabBarController::viewDidLoad()
+{
+    if (ViewController* selected = controllerAt(m_selectedIndex)) {
+        selected->loadViewIfNeeded();
+    }
+}
+
+void TabBarController::viewDidAppear()
+{
+    if (ViewController* selected = controllerAt(m_selectedIndex)) {
+        selected->beginAppearance();
+    }
+}
+
+void TabBarController::viewDidDisappear()
+{
+    if (ViewController* selected = controllerAt(m_selectedIndex)) {
+        selected->endAppearance();
+    }
+}
+
+TabBarAppearance& TabBarAppearance::appearance()
+{
+    static TabBarAppearance appearance;
+    return appearance;
+}
+
+} // namespace lodestar

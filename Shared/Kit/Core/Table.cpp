@@ -1,0 +1,281 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/Table.h"
+
+#include "Kit/Core/OnMain.h"
+
+#include <QQmlEngine>
+
+#include <algorithm>
+#include <utility>
+
+namespace lodestar
+{
+
+TableOutlet::TableOutlet(TableDataSource& source, TableKind kind, QObject* parent)
+    : QAbstractListModel(parent), m_source(source), m_kind(kind)
+{
+    // No question yet: the source is usually the controller that is being made.
+    QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
+}
+
+void TableOutlet::setHidden(bool hidden)
+{
+    onMain(this, [hidden](TableOutlet& table) {
+        if (table.m_hidden != hidden) {
+            table.m_hidden = hidden;
+            Q_EMIT table.hiddenChanged();
+        }
+    });
+}
+
+void TableOutlet::setSeparatorInset(double left, double right)
+{
+    if (m_separatorLeft != left || m_separatorRight != right) {
+        m_separatorLeft = left;
+        m_separatorRight = right;
+        Q_EMIT separatorChanged();
+    }
+}
+
+void TableOutlet::setRowHeight(double height)
+{
+    if (m_rowHeight != height) {
+        m_rowHeight = height;
+        Q_EMIT rowHeightChanged();
+    }
+}
+
+std::vector<TableOutlet::SectionInfo> TableOutlet::askForShape(int& count) const
+{
+    std::vector<SectionInfo> sections(static_cast<std::size_t>(std::max(0, m_source.numberOfSections(m_kind))));
+    count = 0;
+    int number = 0;
+    for (SectionInfo& section : sections) {
+        const std::optional<QString> title = m_source.titleForHeaderInSection(m_kind, number);
+        section.start = count;
+        section.rows = std::max(0, m_source.numberOfRowsInSection(m_kind, number));
+        section.hasHeader = title.has_value();
+        section.title = title.value_or(QString());
+        count += section.rows + (section.hasHeader ? 1 : 0);
+        ++number;
+    }
+    return sections;
+}
+
+void TableOutlet::reloadData()
+{
+    onMain(this, [](TableOutlet& table) { table.reloadOnMain(); });
+}
+
+void TableOutlet::reloadOnMain()
+{
+    int count = 0;
+    std::vector<SectionInfo> sections = askForShape(count);
+    const int before = m_count;
+    const auto adopt = [&] {
+        m_sections = std::move(sections);
+        m_count = count;
+        m_cells.clear();
+    };
+    // The list changes at its end only: what a place shows is the business of its cell.
+    if (count < before) {
+        setRemovalAnimated(false);
+        beginRemoveRows({}, count, before - 1);
+        adopt();
+        endRemoveRows();
+    } else if (count > before) {
+        beginInsertRows({}, before, count - 1);
+        adopt();
+        endInsertRows();
+    } else {
+        adopt();
+    }
+    if (count != before) {
+        Q_EMIT countChanged();
+    }
+    Q_EMIT reloaded();
+    if (std::min(before, count) > 0 && !std::exchange(m_announcePending, true)) {
+        MainQueue::shared().async([guard = QPointer<TableOutlet>(this)] {
+            if (guard) {
+                guard->announceCells();
+            }
+        });
+    }
+}
+
+void TableOutlet::announceCells()
+{
+    m_announcePending = false;
+    if (m_count > 0) {
+        Q_EMIT dataChanged(index(0), index(m_count - 1));
+    }
+}
+
+void TableOutlet::setRemovalAnimated(bool animated)
+{
+    if (m_removalAnimated != animated) {
+        m_removalAnimated = animated;
+        Q_EMIT removalAnimatedChanged();
+    }
+}
+
+void TableOutlet::deleteRow(IndexPath indexPath, RowAnimation animation)
+{
+    const int flat = flatIndex(indexPath);
+    if (flat < 0) {
+        reloadData();
+        return;
+    }
+    setRemovalAnimated(animation == RowAnimation::Left);
+    beginRemoveRows({}, flat, flat);
+    const auto section = static_cast<std::size_t>(indexPath.section);
+    --m_sections[section].rows;
+    std::for_each(m_sections.begin() + indexPath.section + 1, m_sections.end(),
+                  [](SectionInfo& later) { --later.start; });
+    --m_count;
+    std::unordered_map<int, QVariant> cells;
+    for (auto& [place, cell] : m_cells) {
+        if (place != flat) {
+            cells.emplace(place > flat ? place - 1 : place, std::move(cell));
+        }
+    }
+    m_cells = std::move(cells);
+    endRemoveRows();
+    Q_EMIT countChanged();
+    // Row numbers moved within the section and its first or last row may be another now; no cell changed.
+    const int first = m_sections[section].start;
+    const int last = std::min(m_count - 1, first + m_sections[section].rows);
+    if (first <= last) {
+        Q_EMIT dataChanged(index(first), index(last), {Row, FirstInSection, LastInSection});
+    }
+}
+
+QVariant TableOutlet::configureCell(int index) const
+{
+    const std::optional<IndexPath> path = pathAt(index);
+    return path && path->row >= 0 ? m_source.cellForRowAtIndexPath(m_kind, *path) : QVariant();
+}
+
+int TableOutlet::rowCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : m_count;
+}
+
+QVariant TableOutlet::data(const QModelIndex& index, int role) const
+{
+    const std::optional<IndexPath> path = pathAt(index.row());
+    if (!path) {
+        return {};
+    }
+    const SectionInfo& section = m_sections[static_cast<std::size_t>(path->section)];
+    switch (role) {
+    case IsHeader:
+        return path->row < 0;
+    case HeaderTitle:
+        return path->row < 0 ? section.title : QString();
+    case Cell: {
+        if (path->row < 0) {
+            return {};
+        }
+        const auto made = m_cells.find(index.row());
+        if (made != m_cells.end()) {
+            return made->second;
+        }
+        QVariant cell = m_source.cellForRowAtIndexPath(m_kind, *path);
+        m_cells.insert_or_assign(index.row(), cell);
+        return cell;
+    }
+    case Section:
+        return path->section;
+    case Row:
+        return path->row;
+    case FirstInSection:
+        return path->row == 0;
+    case LastInSection:
+        return path->row >= 0 && path->row == section.rows - 1;
+    case SectionHasHeader:
+        return section.hasHeader;
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> TableOutlet::roleNames() const
+{
+    return {{IsHeader, "isHeader"},
+            {HeaderTitle, "headerTitle"},
+            {Cell, "cell"},
+            {Section, "section"},
+            {Row, "row"},
+            {FirstInSection, "firstInSection"},
+            {LastInSection, "lastInSection"},
+            {SectionHasHeader, "sectionHasHeader"}};
+}
+
+void TableOutlet::select(int index)
+{
+    const std::optional<IndexPath> path = pathAt(index);
+    if (path && path->row >= 0) {
+        m_source.didSelectRowAtIndexPath(m_kind, *path);
+    }
+}
+
+void TableOutlet::setEditing(bool editing, bool /*animated*/)
+{
+    if (!editing) {
+        Q_EMIT closeSwipesRequested();
+    }
+}
+
+void TableOutlet::deselectRow(IndexPath indexPath)
+{
+    const int flat = flatIndex(indexPath);
+    if (flat >= 0) {
+        Q_EMIT deselected(flat);
+    }
+}
+
+std::optional<IndexPath> TableOutlet::pathAt(int index) const
+{
+    if (index < 0 || index >= m_count) {
+        return {};
+    }
+    // The last section that starts at or before the place; empty ones without a header share their start with the next.
+    const auto after = std::upper_bound(m_sections.begin(), m_sections.end(), index,
+                                        [](int place, const SectionInfo& section) { return place < section.start; });
+    const auto section = std::prev(after);
+    return IndexPath{static_cast<int>(section - m_sections.begin()),
+                     index - section->start - (section->hasHeader ? 1 : 0)};
+}
+
+int TableOutlet::flatIndex(IndexPath indexPath) const
+{
+    if (indexPath.section < 0 || indexPath.section >= static_cast<int>(m_sections.size())) {
+        return -1;
+    }
+    const SectionInfo& section = m_sections[static_cast<std::size_t>(indexPath.section)];
+    if (indexPath.row < 0 || indexPath.row >= section.rows) {
+        return -1;
+    }
+    return section.start + (section.hasHeader ? 1 : 0) + indexPath.row;
+}
+
+void RefreshControl::pull()
+{
+    if (!m_refreshing) {
+        m_refreshing = true;
+        Q_EMIT refreshingChanged();
+        Q_EMIT valueChanged();
+    }
+}
+
+void RefreshControl::endRefreshing()
+{
+    onMain(this, [](RefreshControl& control) {
+        if (std::exchange(control.m_refreshing, false)) {
+            Q_EMIT control.refreshingChanged();
+        }
+    });
+}
+
+} // namespace lodestar

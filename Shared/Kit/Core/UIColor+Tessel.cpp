@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/UIColor+Tessel.h"
+
+namespace lodestar
+{
+
+QColor UIColor::tesselLightBlue()
+{
+    return {113, 199, 244};
+}
+
+QColor UIColor::tesselLightGreen()
+{
+    return {123, 190, 49};
+}
+
+QColor UIColor::tesselBlue()
+{
+    return {19, 60, 91};
+}
+
+QColor UIColor::selectedBlue()
+{
+    return {0, 158, 235};
+}
+
+QColor UIColor::ornisBlue()
+{
+    return {0, 48, 139};
+}
+
+QColor UIColor::successGreen()
+{
+    return {0, 139, 17};
+}
+
+QColor UIColor::errorRed()
+{
+    return {139, 10, 0};
+}
+
+QColor UIColor::failedRed()
+{
+    return {142, 142, 147};
+}
+
+QColor UIColor::dashboardBlue()
+{
+    return {66, 116, 185};
+}
+
+QColor UIColor::dashboardRed()
+{
+    return {227, 34, 38};
+}
+
+QColor UIColor::dashboardGreen()
+{
+    return {80, 176, 72};
+}
+
+QColor UIColor::dashboardGrey()
+{
+    return {145, 145, 145};
+}
+
+QColor UIColor::dashboardYellow()
+{
+    return {255, 200, 29};
+}
+
+QColor UIColor::dashboardOrange()
+{
+    return {243, 156, 18};
+}
+
+} // namespace lodestar

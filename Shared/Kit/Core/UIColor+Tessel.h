@@ -1,0 +1,28 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QColor>
+
+namespace lodestar
+{
+
+/// The application's palette: opaque colours, the same in light and dark.
+struct UIColor {
+    static QColor tesselLightBlue();
+    static QColor tesselLightGreen();
+    static QColor tesselBlue();
+    static QColor selectedBlue();
+    static QColor ornisBlue();
+    static QColor successGreen();
+    static QColor errorRed();
+    /// A neutral grey despite its name.
+    static QColor failedRed();
+    static QColor dashboardBlue();
+    static QColor dashboardRed();
+    static QColor dashboardGreen();
+    static QColor dashboardGrey();
+    static QColor dashboardYellow();
+    static QColor dashboardOrange();
+};
+
+} // namespace lodestar

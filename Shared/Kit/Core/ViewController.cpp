@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/ViewController.h"
+
+#include "Kit/Core/NavigationController.h"
+#include "Kit/Core/TabBarController.h"
+#include "Platform/Queues/MainQueue.h"
+
+#include <QQmlEngine>
+
+#include <utility>
+
+namespace lodestar
+{
+
+ViewController::ViewController()
+{
+    // Invokables hand controllers to QML, whose collector would otherwise take those without a parent.
+    QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
+}
+
+ViewController::~ViewController() = default;
+
+void ViewController::setTitle(const QString& title)
+{
+    if (m_title != title) {
+        m_title = title;
+        Q_EMIT titleChanged();
+    }
+}
+
+void ViewController::setBackTitle(const QString& title)
+{
+    // Null and empty differ: null stands for the title, empty for no text.
+    if (m_backTitle != title || m_backTitle.isNull() != title.isNull()) {
+        m_backTitle = title;
+        Q_EMIT backTitleChanged();
+    }
+}
+
+void ViewController::loadViewIfNeeded()
+{
+    if (!std::exchange(m_viewLoaded, true)) {
+        viewDidLoad();
+    }
+}
+
+void ViewController::beginAppearance()
+{
+    loadViewIfNeeded();
+    if (!std::exchange(m_appeared, true)) {
+        viewDidAppear();
+    }
+}
+
+void ViewController::endAppearance()
+{
+    if (std::exchange(m_appeared, false)) {
+        viewDidDisappear();
+    }
+}
+
+TabBarController* ViewController::tabBarController() const
+{
+    if (m_tabBarController != nullptr || m_navigationController == nullptr) {
+        return m_tabBarController;
+    }
+    return m_navigationController->tabBarController();
+}
+
+void ViewController::presentSemiViewController(std::shared_ptr<ViewController> controller, SemiModalOptions options)
+{
+    dismissSemiModalView();
+    ViewController* content = controller.get();
+    content->loadViewIfNeeded();
+    m_semiModal = std::make_unique<SemiModalPresentation>(std::move(controller), options);
+    Q_EMIT semiModalChanged();
+    content->beginAppearance();
+}
+
+void ViewController::resizeSemiView(double height)
+{
+    if (m_semiModal) {
+        m_semiModal->setHeight(height);
+    }
+}
+
+void ViewController::dismissSemiModalView()
+{
+    if (!m_semiModal) {
+        return;
+    }
+    const std::unique_ptr<SemiModalPresentation> presentation = std::move(m_semiModal);
+    presentation->controller()->endAppearance();
+    Q_EMIT semiModalChanged();
+    // The call may come out of one of the sheet's own methods: let it return first.
+    MainQueue::shared().async([keep = presentation->sharedController()] {});
+}
+
+SemiModalPresentation::SemiModalPresentation(std::shared_ptr<ViewController> controller,
+                                             ViewController::SemiModalOptions options)
+    : m_controller(std::move(controller)), m_height(options.height), m_pushParentBack(options.pushParentBack)
+{
+    QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
+}
+
+void SemiModalPresentation::setHeight(double height)
+{
+    if (m_height != height) {
+        m_height = height;
+        Q_EMIT heightChanged();
+    }
+}
+
+void deleteControllerOnMain(ViewController* controller)
+{
+    MainQueue::shared().run([controller] { delete controller; });
+}
+
+} // namespace lodestar

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: Apache-2.0
+pragma Singleton
+
+import QtQuick
+import Lodestar.Kit
+
+/// Every colour role, size and duration of the interface. Measures are points, which are the scene's units.
+QtObject {
+    id: theme
+
+    readonly property bool dark: Appearance.dark
+    readonly property bool mirrored: Appearance.mirrored
+    readonly property bool reducedMotion: Appearance.reducedMotion
+
+    // Surfaces
+    readonly property color ground: dark ? "#050709" : "#F2F4F7"
+    readonly property color card: dark ? "#0F1317" : "#FFFFFF"
+    readonly property color raised: dark ? "#191F26" : "#FFFFFF"
+    readonly property color pressed: dark ? "#1C232B" : "#E6EBF0"
+    readonly property color hovered: dark ? "#161B21" : "#F2F5F8"
+    readonly property color well: dark ? "#1B2128" : "#E4E8ED"
+    readonly property color hairline: dark ? "#262D36" : "#D9DEE5"
+    readonly property color scrim: dark ? "#9E000000" : "#6B101821"
+    readonly property color night: "#0B2236"
+
+    // Ink
+    readonly property color ink: dark ? "#ECEFF3" : "#1A2027"
+    readonly property color ink2: dark ? "#A9B3BF" : "#545E6B"
+    readonly property color ink3: dark ? "#95A0AD" : "#66707E"
+    readonly property color systemGrey: ink3
+    readonly property color titleInk: dark ? "#C9D0D8" : "#555555"
+    readonly property color faint: dark ? "#5C6773" : "#A9B3BF"
+    readonly property color match: dark ? "#0B3D58" : "#CDEBFB"
+
+    // Blue: the accent only fills, beside a change of shape; whatever is text or line is accentInk.
+    readonly property color accent: "#009EEB"
+    readonly property color accentInk: dark ? "#71C7F4" : "#0072AD"
+    readonly property color fill: accentInk
+    readonly property color onFill: dark ? "#04121B" : "#FFFFFF"
+    readonly property color tabSelected: dark ? "#009EEB" : "#0072AD"
+    readonly property color track: dark ? "#5C6773" : "#8A95A3"
+    readonly property color segment: dark ? "#39434F" : "#FFFFFF"
+
+    // State
+    readonly property color successGreen: "#008B11"
+    readonly property color failedRed: "#8E8E93"
+    readonly property color errorRed: "#8B0A00"
+    readonly property color plate: dark ? "#F2C7C1" : "#FBEAE7"
+    readonly property color systemOrange: dark ? "#F39C12" : "#B35900"
+    readonly property color systemRed: "#E32226"
+    readonly property color onSystemRed: "#FFFFFF"
+    readonly property color systemRedInk: dark ? "#FF7A75" : "#E32226"
+    readonly property color systemLightGrey: dark ? "#4A5460" : "#C3CAD3"
+    readonly property color onSystemLightGrey: dark ? "#ECEFF3" : "#1A2027"
+    readonly property color tesselBlue: "#133C5B"
+    readonly property color tesselLightGreen: "#7BBE31"
+
+    // Charts
+    readonly property color chartOrange: dark ? "#F39C12" : "#D97A00"
+    readonly property color chartGreen: dark ? "#50B048" : "#008B11"
+    readonly property color chartBlue: dark ? "#A9DDF8" : "#00308B"
+    readonly property color chartGrid: dark ? "#333C47" : "#C4CCD5"
+
+    /// What reads on a button of that colour.
+    function inkOn(background: color): color {
+        if (Qt.colorEqual(background, tesselLightGreen)) {
+            return tesselBlue;
+        }
+        return Qt.colorEqual(background, systemLightGrey) ? onSystemLightGrey : "#FFFFFF";
+    }
+
+    // Type
+    readonly property string family: "Avenir Book"
+    /// Of everything that grows with the text.
+    readonly property real textScale: Appearance.textScale
+    /// Bars and tab labels stop here.
+    readonly property real barScale: Math.min(textScale, 1.3)
+    /// Badges stop here.
+    readonly property real badgeScale: Math.min(textScale, 1.5)
+    /// What stood at the end of a row stands under its name.
+    readonly property bool stacked: textScale >= 1.5
+    readonly property int figureSize: 34
+    readonly property int rootTitleSize: 28
+    readonly property int valueSize: 24
+    readonly property int bodySize: 17
+    readonly property int stateSize: 15
+    readonly property int captionSize: 13
+    readonly property int noteSize: 12
+    readonly property int axisSize: 11
+    /// The line that belongs to a size of the scale.
+    function lineFor(size: real): real {
+        switch (size) {
+        case 34: return 40;
+        case 28: return 36;
+        case 24: return 32;
+        case 17: return 22;
+        case 15: return 20;
+        case 13: return 18;
+        case 12: return 16;
+        case 11: return 14;
+        default: return Math.round(size * 1.3);
+        }
+    }
+
+    // Space and shape
+    readonly property int plateRadius: 6
+    readonly property int segmentRadius: 8
+    readonly property int fieldRadius: 10
+    readonly property int cardRadius: 12
+    readonly property int sheetRadius: 16
+    readonly property int target: 44
+    /// Inside a card, from its edge to a row's text; root titles and section headers share the edge.
+    readonly property int rowStart: 20
+    readonly property int rowEnd: 15
+    readonly property int sectionGap: 20
+    readonly property int groupGap: 24
+    readonly property int rootBarHeight: 60
+    readonly property int barHeight: 52
+    readonly property int tabBarHeight: 56
+    readonly property int railWidth: 88
+    readonly property int measure: 720
+    readonly property int dashboardMeasure: 1072
+    readonly property int sheetMaxWidth: 560
+    readonly property int actionSheetMaxWidth: 420
+
+    // Width classes, of the window
+    readonly property int compactWidth: 0
+    readonly property int mediumWidth: 1
+    readonly property int wideWidth: 2
+    function widthClass(width: real): int {
+        return width < 600 ? compactWidth : width < 1024 ? mediumWidth : wideWidth;
+    }
+    function cardMargin(width: real): int {
+        return width < 600 ? 12 : 24;
+    }
+
+    // Motion, milliseconds
+    readonly property int pressIn: reducedMotion ? 0 : 80
+    readonly property int pressOut: reducedMotion ? 0 : 160
+    readonly property int push: reducedMotion ? 120 : 280
+    readonly property int sheetIn: reducedMotion ? 120 : 300
+    readonly property int sheetOut: reducedMotion ? 120 : 240
+    readonly property int sheetBack: reducedMotion ? 120 : 200
+    readonly property int alertIn: reducedMotion ? 120 : 180
+    readonly property int settle: reducedMotion ? 120 : 200
+    readonly property int rowDelete: reducedMotion ? 120 : 240
+    readonly property int spinnerTurn: 900
+}
