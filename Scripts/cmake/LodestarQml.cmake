@@ -15,4 +15,8 @@ function(lodestar_qml_module target)
     OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml/${path}" IMPORT_PATH "${CMAKE_BINARY_DIR}/qml"
     DEPENDENCIES QtQuick IMPORTS ${ARG_IMPORTS}
     QML_FILES ${ARG_SINGLETONS} ${ARG_QML_FILES})
+  # Compiled QML is not ours to tidy.
+  get_target_property(sources ${target} SOURCES)
+  list(FILTER sources INCLUDE REGEX "/\\.rcc/|_qmltyperegistrations")
+  set_source_files_properties(${sources} PROPERTIES COMPILE_OPTIONS "-w")
 endfunction()
