@@ -1,0 +1,217 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/Queues/MainQueue.h"
+
+#include "Platform/Queues/Ring.h"
+
+#include <algorithm>
+#include <atomic>
+#include <condition_variable>
+#include <cstdint>
+#include <memory>
+#include <mutex>
+#include <pthread.h>
+#include <thread>
+#include <utility>
+#include <vector>
+
+namespace lodestar
+{
+
+namespace
+{
+
+using Clock = std::chrono::steady_clock;
+using Wake = std::shared_ptr<const std::function<void()>>;
+
+struct Timer {
+    Clock::time_point due;
+    std::uint64_t number; ///< equal times fire in the order in which they were asked for
+    Task block;
+};
+
+bool later(const Timer& a, const Timer& b)
+{
+    return a.due != b.due ? a.due > b.due : a.number > b.number;
+}
+
+/// The host may be busy with what `runUntil`'s predicate looks at and never queue a block.
+constexpr std::chrono::milliseconds pollInterval{2};
+
+thread_local int t_wakesRunning = 0;
+
+} // namespace
+
+struct MainQueue::State {
+    void push(Task block, std::unique_lock<std::mutex>& lock);
+    void callWake(std::unique_lock<std::mutex>& lock);
+    void runTimers();
+
+    std::mutex mutex;
+    std::atomic<std::thread::id> mainThread{std::this_thread::get_id()};
+    Ring<Task> blocks;
+    std::uint64_t pushed = 0;
+    std::uint64_t popped = 0;
+    bool woken = false; ///< the host has been told of the blocks and has not begun to drain them
+
+    Wake wake;
+    std::size_t wakesRunning = 0;
+    std::condition_variable wakesEnded;
+    std::size_t waiting = 0; ///< in `runUntil`
+    std::condition_variable blockCame;
+
+    std::vector<Timer> timers; ///< a heap, the next one in front
+    std::uint64_t timersMade = 0;
+    bool timerThreadExists = false;
+    std::condition_variable timersChanged;
+};
+
+/// With the lock held; released on return when a wake function had to be called.
+void MainQueue::State::push(Task block, std::unique_lock<std::mutex>& lock)
+{
+    blocks.push(std::move(block));
+    ++pushed;
+    if (waiting > 0) {
+        blockCame.notify_all();
+    }
+    if (!woken) {
+        callWake(lock);
+    }
+}
+
+void MainQueue::State::callWake(std::unique_lock<std::mutex>& lock)
+{
+    if (wake == nullptr) {
+        return;
+    }
+    woken = true;
+    ++wakesRunning;
+    Wake function = wake;
+    lock.unlock();
+    ++t_wakesRunning;
+    (*function)();
+    --t_wakesRunning;
+    function.reset();
+    lock.lock();
+    --wakesRunning;
+    wakesEnded.notify_all();
+}
+
+void MainQueue::State::runTimers()
+{
+    pthread_setname_np(pthread_self(), "lodestar-timer");
+    std::unique_lock lock(mutex);
+    while (true) {
+        if (timers.empty()) {
+            timersChanged.wait(lock);
+        } else if (const auto due = timers.front().due; Clock::now() < due) {
+            timersChanged.wait_until(lock, due);
+        } else {
+            std::pop_heap(timers.begin(), timers.end(), later);
+            Task block = std::move(timers.back().block);
+            timers.pop_back();
+            push(std::move(block), lock);
+        }
+    }
+}
+
+MainQueue::MainQueue() : m_state(new State) {}
+
+MainQueue& MainQueue::shared()
+{
+    // Never destroyed: blocks may come from any thread until the very end of the process.
+    static auto* const queue = new MainQueue;
+    return *queue;
+}
+
+void MainQueue::async(Task block)
+{
+    std::unique_lock lock(m_state->mutex);
+    m_state->push(std::move(block), lock);
+}
+
+void MainQueue::asyncAfter(std::chrono::milliseconds delay, Task block)
+{
+    const std::lock_guard lock(m_state->mutex);
+    auto& timers = m_state->timers;
+    timers.push_back({Clock::now() + delay, m_state->timersMade++, std::move(block)});
+    std::push_heap(timers.begin(), timers.end(), later);
+    if (m_state->timerThreadExists) {
+        m_state->timersChanged.notify_one();
+    } else {
+        m_state->timerThreadExists = true;
+        std::thread([state = m_state] { state->runTimers(); }).detach();
+    }
+}
+
+void MainQueue::run(Task block)
+{
+    if (isCurrent()) {
+        block();
+    } else {
+        async(std::move(block));
+    }
+}
+
+bool MainQueue::isCurrent() const
+{
+    return m_state->mainThread.load(std::memory_order_relaxed) == std::this_thread::get_id();
+}
+
+void MainQueue::adoptCurrentThread()
+{
+    m_state->mainThread.store(std::this_thread::get_id(), std::memory_order_relaxed);
+}
+
+void MainQueue::setWake(std::function<void()> wake)
+{
+    std::unique_lock lock(m_state->mutex);
+    m_state->wake = wake ? std::make_shared<const std::function<void()>>(std::move(wake)) : nullptr;
+    // On return nobody is in the old function any more: what it refers to may be destroyed then.
+    const auto own = static_cast<std::size_t>(t_wakesRunning);
+    m_state->wakesEnded.wait(lock, [&] { return m_state->wakesRunning <= own; });
+    m_state->woken = false;
+    if (!m_state->blocks.empty()) {
+        m_state->callWake(lock);
+    }
+}
+
+bool MainQueue::drain()
+{
+    std::unique_lock lock(m_state->mutex);
+    m_state->woken = false;
+    // One at a time and by number, so that a block that drains in turn (a modal loop) runs those behind it in order.
+    const std::uint64_t end = m_state->pushed;
+    bool ran = false;
+    while (m_state->popped < end) {
+        Task block = m_state->blocks.pop();
+        ++m_state->popped;
+        lock.unlock();
+        block();
+        block.reset();
+        ran = true;
+        lock.lock();
+    }
+    return ran;
+}
+
+bool MainQueue::runUntil(const std::function<bool()>& predicate, std::chrono::milliseconds limit)
+{
+    const auto deadline = Clock::now() + limit;
+    while (true) {
+        drain();
+        if (predicate()) {
+            return true;
+        }
+        const auto now = Clock::now();
+        if (now >= deadline) {
+            return false;
+        }
+        std::unique_lock lock(m_state->mutex);
+        ++m_state->waiting;
+        m_state->blockCame.wait_until(lock, std::min(deadline, now + pollInterval),
+                                      [&] { return !m_state->blocks.empty(); });
+        --m_state->waiting;
+    }
+}
+
+} // namespace lodestar

@@ -1,0 +1,377 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/Queues/ThreadPool.h"
+
+#include "Platform/Queues/Ring.h"
+
+#include <algorithm>
+#include <atomic>
+#include <condition_variable>
+#include <cstdint>
+#include <cstdlib>
+#include <ctime>
+#include <mutex>
+#include <pthread.h>
+#include <system_error>
+#include <thread>
+#include <vector>
+
+namespace lodestar
+{
+
+namespace
+{
+
+using Clock = std::chrono::steady_clock;
+
+struct Job {
+    Task block;
+    std::shared_ptr<ThreadPool::Owner> owner;
+
+    void run() noexcept
+    {
+        if (owner != nullptr) {
+            owner->run(block);
+        } else {
+            block();
+        }
+    }
+};
+
+/// A thread with nothing to do waits on its own condition, so that the one that slept last, whose cache is warm, is
+/// woken and the others age until they end.
+struct Sleeper {
+    std::condition_variable condition;
+    bool woken = false;
+};
+
+void relax()
+{
+#if defined(__x86_64__) || defined(__i386__)
+    __builtin_ia32_pause();
+#elif defined(__aarch64__)
+    __asm__ __volatile__("yield");
+#endif
+}
+
+std::chrono::nanoseconds processTime()
+{
+    timespec time{};
+    clock_gettime(CLOCK_PROCESS_CPUTIME_ID, &time);
+    return std::chrono::seconds(time.tv_sec) + std::chrono::nanoseconds(time.tv_nsec);
+}
+
+std::size_t coreCount()
+{
+    return std::max<std::size_t>(std::thread::hardware_concurrency(), 1);
+}
+
+} // namespace
+
+/// Shared with the threads, which may outlive the pool object by a few instructions.
+///
+/// The rule that keeps wake-ups cheap: at most one thread at a time is `searching` (woken or looking, without a job).
+/// While there is one, `submit` wakes nobody; a searching thread that finds a job hands the search on before it runs
+/// the job, if more jobs wait. So a burst of jobs costs a wake-up a thread, not one a job, and no job is overlooked.
+struct ThreadPool::State : std::enable_shared_from_this<ThreadPool::State> {
+    explicit State(Limits poolLimits) : limits(poolLimits) {}
+
+    void submit(Job job);
+    void stop(std::chrono::milliseconds limit);
+    void finish();
+
+    void work();
+    bool nextJob(Job& job, std::unique_lock<std::mutex>& lock);
+    bool waitForJobs(std::unique_lock<std::mutex>& lock);
+    bool sleep(std::unique_lock<std::mutex>& lock);
+    void look() const;
+    void callForHelp();
+    void startThread();
+    void startWatching();
+    void beginTick(Clock::time_point now, std::chrono::nanoseconds used);
+    void watch();
+    void growWhenStuck();
+
+    const Limits limits;
+    mutable std::mutex mutex;
+    Ring<Job> jobs;
+    std::atomic<bool> jobsWait{false}; ///< mirror of `!jobs.empty()` for the thread that looks without the lock
+    std::vector<Sleeper*> sleepers;
+    std::size_t searching = 0;
+    std::size_t threads = 0;
+    std::size_t running = 0;
+    bool stopped = false;   ///< no job is started any more
+    bool finishing = false; ///< threads end once no job waits
+    std::condition_variable quiet;
+
+    bool watcherExists = false;
+    bool watching = false; ///< jobs waited with every thread at work when last looked
+    std::condition_variable watcherCondition;
+    std::uint64_t submitted = 0;
+    std::uint64_t started = 0;
+    std::uint64_t submittedAtTick = 0;
+    std::uint64_t startedAtTick = 0;
+    std::chrono::nanoseconds processTimeAtTick{};
+    Clock::time_point tickTime;
+};
+
+namespace
+{
+/// The pool whose job the thread is running, so that a job which ends the process does not wait for itself.
+thread_local const void* t_runningPool = nullptr;
+} // namespace
+
+void ThreadPool::State::submit(Job job)
+{
+    const std::lock_guard lock(mutex);
+    jobs.push(std::move(job));
+    ++submitted;
+    jobsWait.store(true, std::memory_order_relaxed);
+    if (searching == 0) {
+        callForHelp();
+    }
+}
+
+/// With the lock held, jobs waiting and nobody searching: gets a thread to search, or has the waiting watched.
+void ThreadPool::State::callForHelp()
+{
+    if (stopped) {
+        return;
+    }
+    if (!sleepers.empty()) {
+        Sleeper* sleeper = sleepers.back();
+        sleepers.pop_back();
+        sleeper->woken = true;
+        ++searching;
+        sleeper->condition.notify_one();
+    } else if (threads < limits.threads) {
+        startThread();
+    } else if (!watching && threads < limits.maximumThreads) {
+        startWatching();
+    }
+}
+
+/// With the lock held. Without a thread for the watcher the pool works on, with the threads that it has.
+void ThreadPool::State::startWatching()
+{
+    if (!watcherExists) {
+        try {
+            std::thread([state = shared_from_this()] { state->watch(); }).detach();
+        } catch (const std::system_error&) {
+            return;
+        }
+        watcherExists = true;
+    }
+    watching = true;
+    beginTick(Clock::now(), processTime());
+    watcherCondition.notify_all();
+}
+
+void ThreadPool::State::beginTick(Clock::time_point now, std::chrono::nanoseconds used)
+{
+    submittedAtTick = submitted;
+    startedAtTick = started;
+    processTimeAtTick = used;
+    tickTime = now;
+}
+
+/// With the lock held. The new thread counts as searching from now on, as a woken one does.
+void ThreadPool::State::startThread()
+{
+    try {
+        std::thread([state = shared_from_this()] { state->work(); }).detach();
+        ++threads;
+        ++searching;
+    } catch (const std::system_error&) {
+        // The system has no more threads to give. With none at all nothing would ever run; with some, these go on.
+        if (threads == 0) {
+            throw;
+        }
+    }
+}
+
+void ThreadPool::State::work()
+{
+    pthread_setname_np(pthread_self(), "lodestar-pool");
+    std::unique_lock lock(mutex);
+    Job job;
+    while (nextJob(job, lock)) {
+        ++running;
+        lock.unlock();
+        t_runningPool = this;
+        job.run();
+        job = Job();
+        t_runningPool = nullptr;
+        lock.lock();
+        --running;
+        if (stopped) {
+            quiet.notify_all();
+        }
+        ++searching;
+    }
+    --threads;
+    quiet.notify_all();
+    watcherCondition.notify_all();
+}
+
+/// With the lock held, the caller counted as searching; it no longer is on return. False when the thread is to end.
+bool ThreadPool::State::nextJob(Job& job, std::unique_lock<std::mutex>& lock)
+{
+    while (jobs.empty() || stopped) {
+        if (!waitForJobs(lock)) {
+            return false;
+        }
+    }
+    job = jobs.pop();
+    ++started;
+    --searching;
+    if (jobs.empty()) {
+        jobsWait.store(false, std::memory_order_relaxed);
+    } else if (searching == 0) {
+        callForHelp();
+    }
+    return true;
+}
+
+/// Looks for a moment, then sleeps. As `nextJob`, but that the caller is searching on a return of true.
+bool ThreadPool::State::waitForJobs(std::unique_lock<std::mutex>& lock)
+{
+    if (!stopped && !finishing && searching == 1) {
+        lock.unlock();
+        look();
+        lock.lock();
+        if (!jobs.empty() && !stopped) {
+            return true;
+        }
+    }
+    --searching;
+    if (stopped || finishing) {
+        return false;
+    }
+    return sleep(lock);
+}
+
+/// A few microseconds: a chain of short blocks then runs without a system call a block.
+void ThreadPool::State::look() const
+{
+    for (int i = 0; i < 200 && !jobsWait.load(std::memory_order_relaxed); ++i) {
+        relax();
+    }
+}
+
+bool ThreadPool::State::sleep(std::unique_lock<std::mutex>& lock)
+{
+    Sleeper self;
+    sleepers.push_back(&self);
+    const auto deadline = Clock::now() + limits.idleLimit;
+    while (!self.woken) {
+        if (threads <= limits.threads) {
+            self.condition.wait(lock);
+        } else if (self.condition.wait_until(lock, deadline) == std::cv_status::timeout && !self.woken &&
+                   threads > limits.threads) {
+            sleepers.erase(std::find(sleepers.begin(), sleepers.end(), &self));
+            return false;
+        }
+    }
+    return true;
+}
+
+void ThreadPool::State::watch()
+{
+    pthread_setname_np(pthread_self(), "lodestar-watch");
+    std::unique_lock lock(mutex);
+    while (!stopped && !(finishing && threads == 0)) {
+        if (!watching) {
+            watcherCondition.wait(lock);
+            continue;
+        }
+        watcherCondition.wait_until(lock, tickTime + limits.tick);
+        if (Clock::now() >= tickTime + limits.tick) {
+            growWhenStuck();
+        }
+    }
+    watcherExists = false;
+}
+
+/// With the lock held, once a tick while jobs wait. No job started during the tick: the running ones block, and threads
+/// are made by the half of those that there are. Some started, but one that waited at the last tick still waits while
+/// the processor has been idle: one more thread. A processor that was busy has no use for more threads.
+void ThreadPool::State::growWhenStuck()
+{
+    const auto now = Clock::now();
+    const auto used = processTime();
+    const auto capacity = (now - tickTime) * static_cast<std::int64_t>(coreCount());
+    const bool someWait = started < submittedAtTick;
+    const bool noneStarted = started == startedAtTick;
+    const bool processorIdle = (used - processTimeAtTick) * 4 < capacity * 3;
+    beginTick(now, used);
+    if (jobs.empty() || threads >= limits.maximumThreads) {
+        watching = false;
+        return;
+    }
+    if (someWait && (noneStarted || processorIdle)) {
+        const std::size_t wanted = noneStarted ? std::min(jobs.size(), threads / 2 + 1) : 1;
+        for (std::size_t i = 0; i < wanted && threads < limits.maximumThreads; ++i) {
+            startThread();
+        }
+    }
+}
+
+void ThreadPool::State::stop(std::chrono::milliseconds limit)
+{
+    std::unique_lock lock(mutex);
+    stopped = true;
+    watcherCondition.notify_all();
+    const std::size_t own = t_runningPool == this ? 1 : 0;
+    quiet.wait_for(lock, limit, [&] { return running <= own; });
+}
+
+void ThreadPool::State::finish()
+{
+    std::unique_lock lock(mutex);
+    finishing = true;
+    watcherCondition.notify_all();
+    for (Sleeper* sleeper : sleepers) {
+        sleeper->woken = true;
+        ++searching;
+        sleeper->condition.notify_one();
+    }
+    sleepers.clear();
+    quiet.wait(lock, [&] { return threads == 0 && (jobs.empty() || stopped); });
+}
+
+ThreadPool& ThreadPool::shared()
+{
+    // Never destroyed: blocks may come from anywhere until the very end of the process.
+    static ThreadPool* const pool = [] {
+        std::atexit([] { shared().stop(std::chrono::milliseconds(250)); });
+        const std::size_t threads = std::max<std::size_t>(coreCount(), 4);
+        return new ThreadPool({threads, std::max<std::size_t>(threads, 128), std::chrono::milliseconds(5),
+                               std::chrono::milliseconds(5000)});
+    }();
+    return *pool;
+}
+
+ThreadPool::ThreadPool(Limits limits) : m_state(std::make_shared<State>(limits)) {}
+
+ThreadPool::~ThreadPool()
+{
+    m_state->finish();
+}
+
+void ThreadPool::submit(Task block, std::shared_ptr<Owner> owner)
+{
+    m_state->submit({std::move(block), std::move(owner)});
+}
+
+void ThreadPool::stop(std::chrono::milliseconds limit)
+{
+    m_state->stop(limit);
+}
+
+std::size_t ThreadPool::threadCount() const
+{
+    const std::lock_guard lock(m_state->mutex);
+    return m_state->threads;
+}
+
+} // namespace lodestar

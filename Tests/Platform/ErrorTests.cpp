@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/Error.h"
+
+#include <gtest/gtest.h>
+
+namespace lodestar
+{
+namespace
+{
+
+TEST(ErrorTests, DescriptionLeavesOutWhatIsEmptyAndStaysOneLine)
+{
+    EXPECT_EQ(description({}), "");
+    EXPECT_EQ(description({"URLError", 0, "", "", nullptr}), "URLError");
+    EXPECT_EQ(description({"URLError", 28, "", "", nullptr}), "URLError 28");
+    EXPECT_EQ(description({"", 0, "", "why", nullptr}), "(why)");
+    const auto below = std::make_shared<const Error>(Error{"ObjectStore", 11, "malformed", "", nullptr});
+    EXPECT_EQ(description({"URLError", -3, "Timed\nout", "idle\r\nfor long", below}),
+              "URLError -3: Timed out (idle  for long; underlying: ObjectStore 11: malformed)");
+}
+
+TEST(ErrorTests, UserInformationIsEverythingButDomainAndCode)
+{
+    EXPECT_EQ(userInfoDescription({"URLError", 28, "", "", nullptr}), "{}");
+    const auto below = std::make_shared<const Error>(Error{"ObjectStore", 11, "", "", nullptr});
+    EXPECT_EQ(userInfoDescription({"URLError", 28, "Timed out", "idle", below}),
+              "{localizedDescription=Timed out, failureReason=idle, underlying=ObjectStore 11}");
+}
+
+} // namespace
+} // namespace lodestar
