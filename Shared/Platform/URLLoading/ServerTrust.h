@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -23,6 +24,15 @@ public:
     bool isRemembered(const std::string& host, int port, const Fingerprint& leaf) const;
     std::optional<Fingerprint> remembered(const std::string& host, int port) const;
     void forgetAll();
+
+    /// Calls the function, on the refusing thread, for each server that a plain request left for its certificate. It
+    /// is how the refusals reach the log, which stands above this module. Null removes it.
+    using RefusalHandler = std::function<void(const std::string& host, int port, const std::string& reason)>;
+    void setRefusalHandler(RefusalHandler handler);
+    /// The transport's: reports a refusal, and has the next delegate-based connection to the server shake hands anew,
+    /// so that a changed certificate is seen although an older connection still stands.
+    void refuse(const std::string& host, int port, const std::string& reason);
+    bool wantsFreshHandshake(const std::string& host, int port) const;
 
 private:
     ServerTrust();

@@ -46,8 +46,15 @@ public:
     virtual void continueWithoutCredential() = 0;
 };
 
-/// Receives a connection's progress on the connection's delegate queue, one call at a time, in order: at most one
-/// server-trust challenge per server, responses, data, then exactly one of finished and failed.
+/// Receives a connection's progress on the connection's delegate queue, one call at a time, in order: a server-trust
+/// challenge for each new connection to a server, responses (one per redirect and the last), data of the last
+/// response, then exactly one of finished and failed.
+///
+/// The server-trust challenge comes before any response, but the request may be on its way by then: the handshake
+/// accepts the server provisionally and the delegate's word decides about what follows. That is sound for a delegate
+/// that accepts every server, which ours does, and keeps the network thread from waiting for a delegate. A delegate
+/// that means to refuse servers must not be given requests that carry secrets. A connection that is kept from an
+/// earlier request brings no new challenge, unless its server's certificate is not remembered.
 class URLConnectionDelegate
 {
 public:
@@ -79,7 +86,8 @@ struct URLLoad {
 };
 
 /// Sends the request with the system's trust rules (see ServerTrust.h) and calls the completion exactly once, on the
-/// queue. Returns at once.
+/// queue. Returns at once. The request's clocks start when the network thread gets to it, which is at once unless very
+/// many are under way. A redirect is followed within TLS only; one that cannot be followed is the answer.
 void sendAsynchronousRequest(URLRequest request, const OperationQueue& queue,
                              std::function<void(Result<URLLoad>)> completion);
 
@@ -88,10 +96,10 @@ Result<URLLoad> sendSynchronousRequest(const URLRequest& request);
 
 /// What protects the device from a hostile server. Process-wide; set before the first transfer, tests excepted.
 struct TransferLimits {
-    std::size_t headerBytes = 256 * 1024;          ///< all header bytes of one transfer, redirects included
-    std::size_t bodyBytes = 192 * 1024 * 1024;     ///< one decoded body
-    std::size_t heldBytes = 1024 * 1024 * 1024;    ///< all bodies being received at once
-    int redirects = 20;                            ///< hops followed; the last response is then the answer
+    std::size_t headerBytes = 256 * 1024;       ///< all header bytes of one transfer, redirects included
+    std::size_t bodyBytes = 192 * 1024 * 1024;  ///< one decoded body
+    std::size_t heldBytes = 1024 * 1024 * 1024; ///< all bodies being received at once
+    int redirects = 20;                         ///< hops followed; the last response is then the answer
     /// A transfer's total time is its idle limit times this, so that a trickling server cannot hold it for ever.
     int totalTimeFactor = 1;
 

@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/URLLoading/BodyDecoder.h"
+
+#include <array>
+#include <zlib.h>
+
+namespace lodestar
+{
+
+namespace
+{
+
+constexpr int anyHeader = 15 + 32; // largest window, zlib and gzip headers told apart by zlib
+constexpr int noHeader = -15;
+constexpr std::size_t pieceSize = 32 * 1024;
+
+} // namespace
+
+struct BodyDecoder::Inflater {
+    explicit Inflater(bool rawAllowed) : mayBeRaw(rawAllowed) { usable = inflateInit2(&stream, anyHeader) == Z_OK; }
+    ~Inflater()
+    {
+        if (usable) {
+            inflateEnd(&stream);
+        }
+    }
+    Inflater(const Inflater&) = delete;
+    Inflater& operator=(const Inflater&) = delete;
+
+    bool run(std::span<const char> bytes, const Sink& sink);
+    bool nextMember();
+
+    z_stream stream{};
+    bool usable = false;
+    bool started = false;
+    bool ended = false;
+    bool mayBeRaw; ///< "deflate" without its zlib header, which some servers send
+};
+
+bool BodyDecoder::Inflater::run(std::span<const char> bytes, const Sink& sink)
+{
+    std::array<char, pieceSize> piece;
+    stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(bytes.data()));
+    stream.avail_in = static_cast<uInt>(bytes.size());
+    for (;;) {
+        if (ended && !nextMember()) {
+            return true;
+        }
+        stream.next_out = reinterpret_cast<Bytef*>(piece.data());
+        stream.avail_out = pieceSize;
+        const int result = inflate(&stream, Z_NO_FLUSH);
+        if (result == Z_BUF_ERROR) {
+            return true; // nothing left to do with what is here
+        }
+        if (result == Z_DATA_ERROR && mayBeRaw && !started) {
+            mayBeRaw = false;
+            stream.next_in = reinterpret_cast<Bytef*>(const_cast<char*>(bytes.data()));
+            stream.avail_in = static_cast<uInt>(bytes.size());
+            if (inflateReset2(&stream, noHeader) != Z_OK) {
+                return false;
+            }
+            continue;
+        }
+        if (result != Z_OK && result != Z_STREAM_END) {
+            return false;
+        }
+        started = true;
+        ended = result == Z_STREAM_END;
+        const std::size_t produced = pieceSize - stream.avail_out;
+        if (produced != 0 && !sink({piece.data(), produced})) {
+            return false;
+        }
+    }
+}
+
+/// gzip members may follow one another; anything else after the end is padding, which no reader misses.
+bool BodyDecoder::Inflater::nextMember()
+{
+    if (stream.avail_in == 0 || *stream.next_in != 0x1f || inflateReset2(&stream, anyHeader) != Z_OK) {
+        return false;
+    }
+    ended = false;
+    return true;
+}
+
+BodyDecoder::BodyDecoder() = default;
+BodyDecoder::BodyDecoder(BodyDecoder&&) noexcept = default;
+BodyDecoder& BodyDecoder::operator=(BodyDecoder&&) noexcept = default;
+BodyDecoder::~BodyDecoder() = default;
+
+std::optional<BodyDecoder> BodyDecoder::make(std::string_view contentEncoding)
+{
+    std::string name;
+    for (const char c : contentEncoding) {
+        if (c != ' ' && c != '\t') {
+            name.push_back(c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c);
+        }
+    }
+    BodyDecoder decoder;
+    if (name.empty() || name == "identity") {
+        return decoder;
+    }
+    if (name != "gzip" && name != "x-gzip" && name != "deflate") {
+        return std::nullopt;
+    }
+    decoder.m_inflater = std::make_unique<Inflater>(name == "deflate");
+    return decoder.m_inflater->usable ? std::optional(std::move(decoder)) : std::nullopt;
+}
+
+bool BodyDecoder::decode(std::span<const char> bytes, const Sink& sink)
+{
+    if (bytes.empty()) {
+        return true;
+    }
+    return m_inflater != nullptr ? m_inflater->run(bytes, sink) : sink(bytes);
+}
+
+bool BodyDecoder::isComplete() const
+{
+    return m_inflater == nullptr || !m_inflater->started || m_inflater->ended;
+}
+
+} // namespace lodestar

@@ -1,0 +1,119 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/URLLoading/CurlSupport.h"
+
+#include <algorithm>
+#include <csignal>
+#include <mutex>
+#include <sys/resource.h>
+
+namespace lodestar
+{
+
+namespace
+{
+
+using CurlURL = std::unique_ptr<CURLU, void (*)(CURLU*)>;
+
+CurlURL parsedURL(const std::string& url)
+{
+    CurlURL handle(curl_url(), curl_url_cleanup);
+    if (handle != nullptr && curl_url_set(handle.get(), CURLUPART_URL, url.c_str(), 0) != CURLUE_OK) {
+        handle.reset();
+    }
+    return handle;
+}
+
+std::optional<std::string> urlPart(const CurlURL& url, CURLUPart part, unsigned int flags = 0)
+{
+    char* text = nullptr;
+    if (curl_url_get(url.get(), part, &text, flags) != CURLUE_OK) {
+        return std::nullopt;
+    }
+    std::string result(text);
+    curl_free(text);
+    return result;
+}
+
+/// A line break in a value would start a field of the server's choosing, since session keys come from servers.
+std::string onOneLine(std::string text)
+{
+    std::ranges::replace_if(
+        text, [](char c) { return c == '\r' || c == '\n' || c == '\0'; }, ' ');
+    return text;
+}
+
+} // namespace
+
+void prepareProcessForTransfers()
+{
+    static std::once_flag once;
+    std::call_once(once, [] {
+        curl_global_init(CURL_GLOBAL_DEFAULT);
+        rlimit files{};
+        if (getrlimit(RLIMIT_NOFILE, &files) == 0 && files.rlim_cur < files.rlim_max) {
+            files.rlim_cur = files.rlim_max;
+            setrlimit(RLIMIT_NOFILE, &files);
+        }
+        struct sigaction action = {};
+        if (sigaction(SIGPIPE, nullptr, &action) == 0 && action.sa_handler == SIG_DFL) {
+            action.sa_handler = SIG_IGN;
+            sigaction(SIGPIPE, &action, nullptr);
+        }
+    });
+}
+
+std::optional<Origin> Origin::ofURL(const std::string& url)
+{
+    const CurlURL handle = parsedURL(url);
+    if (handle == nullptr) {
+        return std::nullopt;
+    }
+    const auto scheme = urlPart(handle, CURLUPART_SCHEME);
+    auto host = urlPart(handle, CURLUPART_HOST);
+    const auto port = urlPart(handle, CURLUPART_PORT, CURLU_DEFAULT_PORT);
+    if (!scheme || !host || !port) {
+        return std::nullopt;
+    }
+    std::ranges::transform(*host, host->begin(),
+                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    if (host->size() > 2 && host->front() == '[' && host->back() == ']') {
+        *host = host->substr(1, host->size() - 2);
+    }
+    return Origin{*scheme, *host, std::stoi(*port)};
+}
+
+std::optional<std::string> resolvedURL(const std::string& base, const std::string& reference)
+{
+    const CurlURL handle = parsedURL(base);
+    if (handle == nullptr || curl_url_set(handle.get(), CURLUPART_URL, reference.c_str(), 0) != CURLUE_OK) {
+        return std::nullopt;
+    }
+    curl_url_set(handle.get(), CURLUPART_FRAGMENT, nullptr, 0);
+    return urlPart(handle, CURLUPART_URL);
+}
+
+CurlList curlHeaders(const URLRequest& request)
+{
+    CurlList list;
+    const auto append = [&list](const std::string& line) {
+        if (curl_slist* const longer = curl_slist_append(list.get(), line.c_str()); longer != nullptr) {
+            static_cast<void>(list.release());
+            list.reset(longer);
+        }
+    };
+    for (const auto& [name, value] : request.headers.fields()) {
+        // A semicolon is libcurl's way to say "this field, with no value".
+        append(onOneLine(name) + (value.empty() ? ";" : ": " + onOneLine(value)));
+    }
+    for (const char* const name : {"Accept", "Content-Type", "Expect", "User-Agent"}) {
+        if (!request.headers.value(name)) {
+            append(std::string(name) + ":");
+        }
+    }
+    if (!request.headers.value("Accept-Encoding")) {
+        append("Accept-Encoding: gzip, deflate");
+    }
+    return list;
+}
+
+} // namespace lodestar

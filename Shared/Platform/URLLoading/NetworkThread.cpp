@@ -1,0 +1,313 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/URLLoading/NetworkThread.h"
+
+#include <algorithm>
+#include <array>
+#include <atomic>
+#include <cstdio>
+#include <cstdlib>
+#include <sys/epoll.h>
+#include <sys/eventfd.h>
+#include <sys/resource.h>
+#include <unistd.h>
+
+namespace lodestar
+{
+
+namespace
+{
+
+// Enough to keep both ends busy on a fast network; each costs about 100 KB while it runs.
+constexpr std::size_t briskTransfers = 128;
+constexpr std::size_t waitingBytesLimit = 48UL * 1024 * 1024;
+constexpr long keptConnections = 512;
+constexpr std::size_t descriptorsForOthers = 256;
+constexpr std::chrono::milliseconds slowCountInterval{50};
+
+std::atomic<NetworkThread*> theThread{nullptr};
+std::atomic<bool> readersAwaited{false};
+
+/// Slow transfers do not count against `briskTransfers`, but every one has a descriptor.
+std::size_t descriptorLimit()
+{
+    static const std::size_t limit = [] {
+        rlimit files{};
+        getrlimit(RLIMIT_NOFILE, &files);
+        const std::size_t all = std::min<std::size_t>(files.rlim_cur, 16'384);
+        return all > 2 * descriptorsForOthers ? all - descriptorsForOthers : all / 2;
+    }();
+    return limit;
+}
+
+} // namespace
+
+NetworkThread& NetworkThread::shared()
+{
+    // Never destroyed: others may still hold transfers when the process ends.
+    static NetworkThread* const thread = [] {
+        prepareProcessForTransfers();
+        auto* const made = new NetworkThread;
+        theThread = made;
+        std::atexit([] {
+            NetworkThread& self = *theThread.load();
+            {
+                const std::lock_guard lock(self.m_inboxMutex);
+                self.m_stopping = true;
+            }
+            self.wake();
+            self.m_thread.join();
+        });
+        return made;
+    }();
+    return *thread;
+}
+
+NetworkThread::NetworkThread()
+    : m_multi(curl_multi_init()),
+      m_epoll(epoll_create1(EPOLL_CLOEXEC)),
+      m_wakeEvent(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
+{
+    if (m_multi == nullptr || m_epoll < 0 || m_wakeEvent < 0) {
+        std::fputs("The network thread could not be made\n", stderr);
+        std::abort();
+    }
+    curl_multi_setopt(m_multi, CURLMOPT_SOCKETFUNCTION, &NetworkThread::socketFunction);
+    curl_multi_setopt(m_multi, CURLMOPT_SOCKETDATA, this);
+    curl_multi_setopt(m_multi, CURLMOPT_TIMERFUNCTION, &NetworkThread::timerFunction);
+    curl_multi_setopt(m_multi, CURLMOPT_TIMERDATA, this);
+    curl_multi_setopt(m_multi, CURLMOPT_MAXCONNECTS, keptConnections);
+    epoll_event event{};
+    event.events = EPOLLIN;
+    event.data.fd = m_wakeEvent;
+    epoll_ctl(m_epoll, EPOLL_CTL_ADD, m_wakeEvent, &event);
+    m_thread = std::thread([this] { run(); });
+}
+
+void NetworkThread::start(std::shared_ptr<Transfer> transfer)
+{
+    {
+        const std::lock_guard lock(m_inboxMutex);
+        m_started.push_back(std::move(transfer));
+        if (m_started.size() > 1) {
+            return; // woken already
+        }
+    }
+    wake();
+}
+
+void NetworkThread::cancel(std::shared_ptr<Transfer> transfer)
+{
+    {
+        const std::lock_guard lock(m_inboxMutex);
+        m_cancelled.push_back(std::move(transfer));
+    }
+    wake();
+}
+
+void NetworkThread::readerCaughtUp()
+{
+    if (readersAwaited.load() && HeldBytes::waitingForReaders() < waitingBytesLimit) {
+        theThread.load()->wake();
+    }
+}
+
+void NetworkThread::wake() const
+{
+    const std::uint64_t one = 1;
+    // A full counter is a wake-up that is already on its way.
+    static_cast<void>(!write(m_wakeEvent, &one, sizeof one));
+}
+
+void NetworkThread::run()
+{
+    std::array<epoll_event, 256> events{};
+    for (;;) {
+        {
+            const std::lock_guard lock(m_inboxMutex);
+            if (m_stopping) {
+                return;
+            }
+        }
+        takeInbox();
+        startWaiting();
+        const int count = epoll_wait(m_epoll, events.data(), static_cast<int>(events.size()), waitTime());
+        int running = 0;
+        for (int i = 0; i < count; ++i) {
+            const epoll_event& event = events[static_cast<std::size_t>(i)];
+            if (event.data.fd == m_wakeEvent) {
+                std::uint64_t wakes = 0;
+                static_cast<void>(!read(m_wakeEvent, &wakes, sizeof wakes));
+                continue;
+            }
+            const unsigned int what = event.events;
+            const int action = ((what & EPOLLIN) != 0 ? CURL_CSELECT_IN : 0) |
+                               ((what & EPOLLOUT) != 0 ? CURL_CSELECT_OUT : 0) |
+                               ((what & (EPOLLERR | EPOLLHUP)) != 0 ? CURL_CSELECT_ERR : 0);
+            curl_multi_socket_action(m_multi, event.data.fd, action, &running);
+        }
+        if (m_curlTimer <= Clock::now()) {
+            m_curlTimer = Clock::time_point::max();
+            curl_multi_socket_action(m_multi, CURL_SOCKET_TIMEOUT, 0, &running);
+        }
+        finishDone();
+        failOverdue();
+    }
+}
+
+int NetworkThread::waitTime() const
+{
+    const Clock::time_point now = Clock::now();
+    Clock::time_point until = std::min(m_curlTimer, m_nextDeadline);
+    if (!m_waiting.empty()) {
+        until = std::min(until, now + slowCountInterval);
+    }
+    if (until == Clock::time_point::max()) {
+        return -1;
+    }
+    const auto wait = std::chrono::ceil<std::chrono::milliseconds>(until - now);
+    return static_cast<int>(std::clamp<std::int64_t>(wait.count(), 0, 60'000));
+}
+
+void NetworkThread::takeInbox()
+{
+    std::vector<std::shared_ptr<Transfer>> started;
+    std::vector<std::shared_ptr<Transfer>> cancelled;
+    {
+        const std::lock_guard lock(m_inboxMutex);
+        started.swap(m_started);
+        cancelled.swap(m_cancelled);
+    }
+    std::ranges::move(started, std::back_inserter(m_waiting));
+    for (const auto& transfer : cancelled) {
+        if (m_running.contains(transfer.get())) {
+            remove(transfer);
+            transfer->fail(URLErrorCode::Cancelled);
+        } else if (std::erase(m_waiting, transfer) != 0) {
+            transfer->fail(URLErrorCode::Cancelled);
+        }
+    }
+}
+
+void NetworkThread::startWaiting()
+{
+    readersAwaited = false;
+    while (!m_waiting.empty() && mayStart(Clock::now())) {
+        const std::shared_ptr<Transfer> transfer = std::move(m_waiting.front());
+        m_waiting.pop_front();
+        if (transfer->start()) {
+            m_running.emplace(transfer.get(), transfer);
+            add(transfer);
+        }
+    }
+}
+
+bool NetworkThread::mayStart(Clock::time_point now)
+{
+    if (m_running.empty()) {
+        return true;
+    }
+    if (m_running.size() >= descriptorLimit()) {
+        return false;
+    }
+    if (HeldBytes::waitingForReaders() >= waitingBytesLimit) {
+        readersAwaited = true;
+        // Again, for the reader that came in between.
+        if (HeldBytes::waitingForReaders() >= waitingBytesLimit) {
+            return false;
+        }
+    }
+    if (m_running.size() - std::min(m_slow, m_running.size()) < briskTransfers) {
+        return true;
+    }
+    if (now - m_slowCounted < slowCountInterval) {
+        return false;
+    }
+    m_slowCounted = now;
+    m_slow = static_cast<std::size_t>(
+        std::ranges::count_if(m_running, [now](const auto& entry) { return entry.second->isSlow(now); }));
+    return m_running.size() - m_slow < briskTransfers;
+}
+
+void NetworkThread::add(const std::shared_ptr<Transfer>& transfer)
+{
+    m_nextDeadline = std::min(m_nextDeadline, transfer->deadline());
+    curl_multi_add_handle(m_multi, transfer->handle());
+}
+
+void NetworkThread::finishDone()
+{
+    int left = 0;
+    while (const CURLMsg* const message = curl_multi_info_read(m_multi, &left)) {
+        if (message->msg != CURLMSG_DONE) {
+            continue;
+        }
+        const CURLcode result = message->data.result;
+        Transfer* done = nullptr;
+        curl_easy_getinfo(message->easy_handle, CURLINFO_PRIVATE, &done);
+        curl_multi_remove_handle(m_multi, message->easy_handle);
+        const std::shared_ptr<Transfer> transfer = m_running.at(done);
+        if (transfer->hopEnded(result)) {
+            add(transfer);
+        } else {
+            m_running.erase(done);
+        }
+    }
+}
+
+void NetworkThread::failOverdue()
+{
+    const Clock::time_point now = Clock::now();
+    if (now < m_nextDeadline) {
+        return;
+    }
+    m_nextDeadline = Clock::time_point::max();
+    std::vector<std::shared_ptr<Transfer>> overdue;
+    for (const auto& [key, transfer] : m_running) {
+        const Clock::time_point deadline = transfer->deadline();
+        if (deadline <= now) {
+            overdue.push_back(transfer);
+        } else {
+            m_nextDeadline = std::min(m_nextDeadline, deadline);
+        }
+    }
+    for (const auto& transfer : overdue) {
+        remove(transfer);
+        transfer->fail(URLErrorCode::TimedOut);
+    }
+}
+
+void NetworkThread::remove(const std::shared_ptr<Transfer>& transfer)
+{
+    curl_multi_remove_handle(m_multi, transfer->handle());
+    m_running.erase(transfer.get());
+}
+
+int NetworkThread::socketChanged(curl_socket_t socket, int what)
+{
+    if (what == CURL_POLL_REMOVE) {
+        // The socket may be closed, and so gone from the set, already.
+        epoll_ctl(m_epoll, EPOLL_CTL_DEL, socket, nullptr);
+        return 0;
+    }
+    epoll_event event{};
+    event.data.fd = socket;
+    event.events = ((what & CURL_POLL_IN) != 0 ? EPOLLIN : 0U) | ((what & CURL_POLL_OUT) != 0 ? EPOLLOUT : 0U);
+    if (epoll_ctl(m_epoll, EPOLL_CTL_MOD, socket, &event) != 0) {
+        epoll_ctl(m_epoll, EPOLL_CTL_ADD, socket, &event);
+    }
+    return 0;
+}
+
+int NetworkThread::socketFunction(CURL*, curl_socket_t socket, int what, void* self, void*)
+{
+    return static_cast<NetworkThread*>(self)->socketChanged(socket, what);
+}
+
+int NetworkThread::timerFunction(CURLM*, long milliseconds, void* self)
+{
+    auto& timer = static_cast<NetworkThread*>(self)->m_curlTimer;
+    timer = milliseconds < 0 ? Clock::time_point::max() : Clock::now() + std::chrono::milliseconds(milliseconds);
+    return 0;
+}
+
+} // namespace lodestar

@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Platform/URLLoading/Transfer.h"
+
+#include <deque>
+#include <memory>
+#include <mutex>
+#include <thread>
+#include <unordered_map>
+#include <vector>
+
+namespace lodestar
+{
+
+/// The one thread on which asynchronous transfers run: an event loop over libcurl's multi interface. Transfers start
+/// in the order in which they came; so many run at once that memory stays bounded, where one whose server dawdles does
+/// not count, so that a few bad servers cannot hold up the rest. A transfer's clocks start when it does.
+///
+/// At the process's exit the thread ends between two events; transfers in flight are then left as they are, their
+/// clients untouched, since nobody is there to be told.
+class NetworkThread
+{
+public:
+    static NetworkThread& shared();
+
+    /// Any thread.
+    void start(std::shared_ptr<Transfer> transfer);
+    /// Any thread. Does nothing to a transfer that has ended.
+    void cancel(std::shared_ptr<Transfer> transfer);
+
+    /// To be called when a body has been handed to its reader: starts what waited for that. Any thread.
+    static void readerCaughtUp();
+
+private:
+    using Clock = Transfer::Clock;
+
+    NetworkThread();
+    ~NetworkThread() = default;
+
+    void run();
+    void wake() const;
+    int waitTime() const;
+    void takeInbox();
+    void startWaiting();
+    bool mayStart(Clock::time_point now);
+    void add(const std::shared_ptr<Transfer>& transfer);
+    void finishDone();
+    void failOverdue();
+    void remove(const std::shared_ptr<Transfer>& transfer);
+
+    int socketChanged(curl_socket_t socket, int what);
+    static int socketFunction(CURL*, curl_socket_t socket, int what, void* self, void*);
+    static int timerFunction(CURLM*, long milliseconds, void* self);
+
+    CURLM* m_multi = nullptr;
+    int m_epoll = -1;
+    int m_wakeEvent = -1;
+    std::thread m_thread;
+
+    std::mutex m_inboxMutex;
+    std::vector<std::shared_ptr<Transfer>> m_started;
+    std::vector<std::shared_ptr<Transfer>> m_cancelled;
+    bool m_stopping = false;
+
+    // The loop's own.
+    std::deque<std::shared_ptr<Transfer>> m_waiting;
+    std::unordered_map<Transfer*, std::shared_ptr<Transfer>> m_running;
+    std::size_t m_slow = 0; ///< of the running ones, as last counted
+    Clock::time_point m_slowCounted;
+    Clock::time_point m_curlTimer = Clock::time_point::max();
+    Clock::time_point m_nextDeadline = Clock::time_point::max();
+};
+
+} // namespace lodestar

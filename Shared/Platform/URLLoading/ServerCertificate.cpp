@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/URLLoading/ServerCertificate.h"
+
+#include <openssl/evp.h>
+#include <openssl/ssl.h>
+#include <openssl/x509_vfy.h>
+#include <openssl/x509v3.h>
+
+namespace lodestar
+{
+
+struct ServerCertificate::Chain {
+    Chain() = default;
+    ~Chain()
+    {
+        X509_free(leaf);
+        sk_X509_pop_free(others, X509_free);
+    }
+    Chain(const Chain&) = delete;
+    Chain& operator=(const Chain&) = delete;
+
+    X509* leaf = nullptr;
+    STACK_OF(X509) * others = nullptr;
+};
+
+namespace
+{
+
+/// The authorities of the system, read once; kept to the end of the process.
+X509_STORE* systemAuthorities()
+{
+    static X509_STORE* const store = [] {
+        X509_STORE* made = X509_STORE_new();
+        if (made != nullptr) {
+            X509_STORE_set_default_paths(made);
+        }
+        return made;
+    }();
+    return store;
+}
+
+bool expectHost(X509_VERIFY_PARAM* parameters, const std::string& host)
+{
+    if (X509_VERIFY_PARAM_set1_ip_asc(parameters, host.c_str()) == 1) {
+        return true;
+    }
+    X509_VERIFY_PARAM_set_hostflags(parameters, X509_CHECK_FLAG_NO_PARTIAL_WILDCARDS);
+    return X509_VERIFY_PARAM_set1_host(parameters, host.data(), host.size()) == 1;
+}
+
+} // namespace
+
+std::optional<ServerCertificate> ServerCertificate::ofConnection(const ssl_st* connection, std::string host, int port)
+{
+    if (connection == nullptr) {
+        return std::nullopt;
+    }
+    auto chain = std::make_shared<Chain>();
+    chain->leaf = SSL_get1_peer_certificate(connection);
+    ServerCertificate certificate;
+    unsigned int length = 0;
+    if (chain->leaf == nullptr || X509_digest(chain->leaf, EVP_sha256(), certificate.m_leaf.data(), &length) != 1 ||
+        length != certificate.m_leaf.size()) {
+        return std::nullopt;
+    }
+    if (STACK_OF(X509)* presented = SSL_get_peer_cert_chain(connection); presented != nullptr) {
+        chain->others = X509_chain_up_ref(presented);
+    }
+    certificate.m_chain = std::move(chain);
+    certificate.m_host = std::move(host);
+    certificate.m_port = port;
+    return certificate;
+}
+
+std::string ServerCertificate::systemObjection() const
+{
+    const std::unique_ptr<X509_STORE_CTX, void (*)(X509_STORE_CTX*)> context(X509_STORE_CTX_new(), X509_STORE_CTX_free);
+    X509_STORE* const authorities = systemAuthorities();
+    if (context == nullptr || authorities == nullptr ||
+        X509_STORE_CTX_init(context.get(), authorities, m_chain->leaf, m_chain->others) != 1 ||
+        X509_STORE_CTX_set_default(context.get(), "ssl_server") != 1 ||
+        !expectHost(X509_STORE_CTX_get0_param(context.get()), m_host)) {
+        return "the certificate could not be examined";
+    }
+    if (X509_verify_cert(context.get()) == 1) {
+        return {};
+    }
+    return X509_verify_cert_error_string(X509_STORE_CTX_get_error(context.get()));
+}
+
+} // namespace lodestar

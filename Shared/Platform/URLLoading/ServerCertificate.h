@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Platform/URLLoading/ServerTrust.h"
+
+#include <memory>
+#include <optional>
+#include <string>
+
+struct ssl_st;
+
+namespace lodestar
+{
+
+/// The certificates that a server presented on one connection. A value, to be read on any thread.
+class ServerCertificate
+{
+public:
+    /// None when the connection is not secured or the server presented nothing.
+    static std::optional<ServerCertificate> ofConnection(const ssl_st* connection, std::string host, int port);
+
+    const std::string& host() const { return m_host; }
+    int port() const { return m_port; }
+    const ServerTrust::Fingerprint& leaf() const { return m_leaf; }
+    /// Asks the system's authorities about the chain, its dates and the host's name; an empty answer is "yes", any
+    /// other is why not. Costs a chain's verification.
+    std::string systemObjection() const;
+
+private:
+    struct Chain;
+    std::string m_host;
+    int m_port = 0;
+    ServerTrust::Fingerprint m_leaf{};
+    std::shared_ptr<const Chain> m_chain;
+};
+
+} // namespace lodestar

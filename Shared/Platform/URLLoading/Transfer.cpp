@@ -1,0 +1,319 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/URLLoading/Transfer.h"
+
+#include "Platform/URLLoading/Redirect.h"
+#include "Platform/URLLoading/URLError.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace lodestar
+{
+
+namespace
+{
+
+constexpr std::chrono::milliseconds silenceOfSlow{500};
+constexpr std::chrono::milliseconds patience{1000};
+constexpr std::size_t bytesPerSecondOfSlow = 4096;
+
+std::string_view trimmed(std::string_view text)
+{
+    constexpr std::string_view blanks = " \t\r\n";
+    const std::size_t first = text.find_first_not_of(blanks);
+    if (first == std::string_view::npos) {
+        return {};
+    }
+    return text.substr(first, text.find_last_not_of(blanks) - first + 1);
+}
+
+template <typename Number>
+std::optional<Number> numberIn(std::string_view text)
+{
+    Number number{};
+    const auto [end, problem] = std::from_chars(text.data(), text.data() + text.size(), number);
+    return problem == std::errc() && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
+}
+
+int statusOfLine(std::string_view line)
+{
+    const std::size_t blank = line.find(' ');
+    return blank == std::string_view::npos ? 0 : numberIn<int>(line.substr(blank + 1, 3)).value_or(0);
+}
+
+} // namespace
+
+Transfer::Transfer(URLRequest request, std::shared_ptr<TransferClient> client)
+    : m_limits(TransferLimits::shared()), m_request(std::move(request)), m_client(std::move(client))
+{
+    if (m_request.timeout.count() <= 0) {
+        m_request.timeout = URLRequest::defaultTimeout;
+    }
+}
+
+bool Transfer::start()
+{
+    m_started = Clock::now();
+    m_lastProgress = m_started;
+    return prepareHop();
+}
+
+bool Transfer::prepareHop()
+{
+    m_origin = Origin::ofURL(m_request.url);
+    m_easy.reset(m_origin ? curl_easy_init() : nullptr);
+    if (m_easy == nullptr) {
+        end(urlError(m_origin ? URLErrorCode::Unknown : URLErrorCode::BadURL));
+        return false;
+    }
+    CURL* const easy = m_easy.get();
+    m_headers = curlHeaders(m_request);
+    curl_easy_setopt(easy, CURLOPT_PRIVATE, this);
+    curl_easy_setopt(easy, CURLOPT_URL, m_request.url.c_str());
+    curl_easy_setopt(easy, CURLOPT_PROTOCOLS_STR, "https");
+    curl_easy_setopt(easy, CURLOPT_DISALLOW_USERNAME_IN_URL, 1L);
+    curl_easy_setopt(easy, CURLOPT_PROXY, "");
+    curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
+    // Without it a name that the resolver ponders would hold the driving thread when its transfer is given up.
+    curl_easy_setopt(easy, CURLOPT_QUICK_EXIT, 1L);
+    curl_easy_setopt(easy, CURLOPT_HTTP_VERSION, CURL_HTTP_VERSION_1_1);
+    curl_easy_setopt(easy, CURLOPT_HTTPHEADER, m_headers.get());
+    if (m_request.method != "GET" || !m_request.body.empty()) {
+        curl_easy_setopt(easy, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(m_request.body.size()));
+        curl_easy_setopt(easy, CURLOPT_POSTFIELDS, m_request.body.data());
+        curl_easy_setopt(easy, CURLOPT_CUSTOMREQUEST, m_request.method.c_str());
+    }
+    // Trust is ours to decide, in `connectionReady`, for every connection alike: so libcurl may lend a connection that
+    // one kind of request opened to the other kind.
+    curl_easy_setopt(easy, CURLOPT_SSL_VERIFYPEER, 0L);
+    curl_easy_setopt(easy, CURLOPT_SSL_VERIFYHOST, 0L);
+    curl_easy_setopt(easy, CURLOPT_CAINFO, nullptr);
+    curl_easy_setopt(easy, CURLOPT_CAPATH, nullptr);
+    curl_easy_setopt(easy, CURLOPT_PREREQFUNCTION, &Transfer::prerequest);
+    curl_easy_setopt(easy, CURLOPT_PREREQDATA, this);
+    curl_easy_setopt(easy, CURLOPT_HEADERFUNCTION, &Transfer::header);
+    curl_easy_setopt(easy, CURLOPT_HEADERDATA, this);
+    curl_easy_setopt(easy, CURLOPT_WRITEFUNCTION, &Transfer::body);
+    curl_easy_setopt(easy, CURLOPT_WRITEDATA, this);
+    // Ours are the deadlines; libcurl's own for connecting must not come first.
+    curl_easy_setopt(easy, CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(m_request.timeout.count()) + 60'000L);
+    const bool fresh = std::exchange(m_needsFreshConnection, false) || m_client->wantsFreshHandshake(*m_origin);
+    curl_easy_setopt(easy, CURLOPT_FRESH_CONNECT, fresh ? 1L : 0L);
+    return true;
+}
+
+bool Transfer::hopEnded(CURLcode result)
+{
+    if (result != CURLE_OK) {
+        if (m_needsFreshConnection) {
+            return prepareHop();
+        }
+        end(errorOf(result));
+        return false;
+    }
+    if (m_response.statusCode == 0) {
+        end(urlError(URLErrorCode::BadServerResponse));
+        return false;
+    }
+    if (!bodyIsWhole()) {
+        end(urlError(URLErrorCode::NetworkConnectionLost, "the body was cut"));
+        return false;
+    }
+    if (m_next) {
+        m_request = *std::exchange(m_next, std::nullopt);
+        ++m_redirects;
+        m_retriedFresh = false;
+        return prepareHop();
+    }
+    end(std::nullopt);
+    return false;
+}
+
+/// What libcurl does not see: it finds a body short of its length or of its last chunk itself.
+bool Transfer::bodyIsWhole() const
+{
+    if (m_decoder && !m_decoder->isComplete()) {
+        return false;
+    }
+    const bool delimited = m_response.headers.value("Content-Length") || m_response.headers.value("Transfer-Encoding");
+    const bool bodiless = m_response.statusCode == 204 || m_response.statusCode == 304;
+    return delimited || bodiless || m_closeNotice == nullptr || m_closeNotice->received;
+}
+
+void Transfer::fail(URLErrorCode code)
+{
+    end(urlError(code));
+}
+
+void Transfer::end(std::optional<Error> error)
+{
+    if (const auto client = std::exchange(m_client, nullptr); client != nullptr) {
+        client->didEnd(std::move(error), std::move(m_held));
+    }
+}
+
+Error Transfer::errorOf(CURLcode result) const
+{
+    if (m_refusal) {
+        return *m_refusal;
+    }
+    return urlError(urlErrorCodeOfTransfer(result), curl_easy_strerror(result));
+}
+
+void Transfer::refuse(URLErrorCode code, std::string reason)
+{
+    m_refusal = urlError(code, std::move(reason));
+}
+
+Transfer::Clock::time_point Transfer::deadline() const
+{
+    const auto total = m_request.timeout * std::max(m_limits.totalTimeFactor, 1);
+    return std::min(m_lastProgress + m_request.timeout, m_started + total);
+}
+
+bool Transfer::isSlow(Clock::time_point now) const
+{
+    if (now - m_lastProgress > silenceOfSlow) {
+        return true;
+    }
+    const auto elapsed = std::chrono::duration_cast<std::chrono::milliseconds>(now - m_started);
+    return elapsed > patience && m_received < static_cast<std::size_t>(elapsed.count()) * bytesPerSecondOfSlow / 1000;
+}
+
+/// Every connection passes here before a byte of the request is sent, fresh and kept ones alike.
+bool Transfer::connectionReady()
+{
+    m_lastProgress = Clock::now();
+    curl_tlssessioninfo* session = nullptr;
+    curl_easy_getinfo(m_easy.get(), CURLINFO_TLS_SSL_PTR, &session);
+    long connections = 0;
+    curl_easy_getinfo(m_easy.get(), CURLINFO_NUM_CONNECTS, &connections);
+    auto* const connection = session != nullptr ? static_cast<ssl_st*>(session->internals) : nullptr;
+    const auto certificate = ServerCertificate::ofConnection(connection, m_origin->host, m_origin->port);
+    if (!certificate) {
+        refuse(URLErrorCode::SecureConnectionFailed, "the server presented no certificate");
+        return false;
+    }
+    m_closeNotice = CloseNotice::ofConnection(connection);
+    const Handshake handshake = connections > 0 ? Handshake::Fresh : Handshake::Reused;
+    if (m_client->acceptsServer(*certificate, handshake)) {
+        return true;
+    }
+    if (handshake == Handshake::Reused && !std::exchange(m_retriedFresh, true)) {
+        m_needsFreshConnection = true;
+        return false;
+    }
+    refuse(URLErrorCode::ServerCertificateUntrusted);
+    ServerTrust::shared().refuse(m_origin->host, m_origin->port, certificate->systemObjection());
+    return false;
+}
+
+bool Transfer::headerLine(std::string_view line)
+{
+    m_lastProgress = Clock::now();
+    m_headerBytes += line.size();
+    m_received += line.size();
+    if (m_headerBytes > m_limits.headerBytes) {
+        refuse(URLErrorCode::DataLengthExceedsMaximum, "too many header bytes");
+        return false;
+    }
+    if (line.starts_with("HTTP/")) {
+        m_response = URLResponse{m_request.url, statusOfLine(line), {}, -1};
+        m_inHeaders = true;
+        return true;
+    }
+    if (!m_inHeaders) {
+        return true; // trailers
+    }
+    const std::string_view text = trimmed(line);
+    if (text.empty()) {
+        m_inHeaders = false;
+        const bool interim = m_response.statusCode >= 100 && m_response.statusCode < 200;
+        return interim || headersComplete();
+    }
+    if (const std::size_t colon = text.find(':'); colon != std::string_view::npos) {
+        m_response.headers.addValue(trimmed(text.substr(0, colon)), trimmed(text.substr(colon + 1)));
+    }
+    return true;
+}
+
+bool Transfer::headersComplete()
+{
+    m_bodyBytes = 0;
+    m_held.reset();
+    const std::string encoding = m_response.headers.value("Content-Encoding").value_or("");
+    m_decoder = BodyDecoder::make(encoding);
+    if (!m_decoder) {
+        refuse(URLErrorCode::BadServerResponse, "unknown content encoding");
+        return false;
+    }
+    if (const auto length = m_response.headers.value("Content-Length"); length && encoding.empty()) {
+        m_response.expectedContentLength = numberIn<std::int64_t>(*length).value_or(-1);
+    }
+    m_next = m_redirects < m_limits.redirects ? requestAfterResponse(m_request, m_response) : std::nullopt;
+    m_client->didReceiveResponse(m_response);
+    return true;
+}
+
+bool Transfer::bodyBytes(std::span<const char> bytes)
+{
+    m_lastProgress = Clock::now();
+    m_received += bytes.size();
+    if (m_decoder && m_decoder->decode(bytes, [this](std::span<const char> piece) { return deliver(piece); })) {
+        return true;
+    }
+    if (!m_refusal) {
+        refuse(URLErrorCode::BadServerResponse, "the compressed body is damaged");
+    }
+    return false;
+}
+
+bool Transfer::deliver(std::span<const char> bytes)
+{
+    m_bodyBytes += bytes.size();
+    if (m_bodyBytes > m_limits.bodyBytes) {
+        refuse(URLErrorCode::DataLengthExceedsMaximum, "the body is too large");
+        return false;
+    }
+    if (m_next) {
+        return true; // the text that comes with a redirect is nobody's answer
+    }
+    if (!m_held.add(bytes.size(), m_limits.heldBytes)) {
+        refuse(URLErrorCode::DataLengthExceedsMaximum, "too many bytes are held");
+        return false;
+    }
+    m_client->didReceiveData(bytes);
+    return true;
+}
+
+/// No exception may pass through libcurl; the only one that can come is a lack of memory for what a server sends.
+template <typename Work>
+bool Transfer::guarded(Work work)
+{
+    try {
+        return work();
+    } catch (const std::exception&) {
+        refuse(URLErrorCode::DataLengthExceedsMaximum, "out of memory");
+        return false;
+    }
+}
+
+int Transfer::prerequest(void* self, char*, char*, int, int)
+{
+    auto& transfer = *static_cast<Transfer*>(self);
+    return transfer.guarded([&] { return transfer.connectionReady(); }) ? CURL_PREREQFUNC_OK : CURL_PREREQFUNC_ABORT;
+}
+
+std::size_t Transfer::header(char* bytes, std::size_t size, std::size_t count, void* self)
+{
+    auto& transfer = *static_cast<Transfer*>(self);
+    return transfer.guarded([&] { return transfer.headerLine({bytes, size * count}); }) ? size * count : 0;
+}
+
+std::size_t Transfer::body(char* bytes, std::size_t size, std::size_t count, void* self)
+{
+    auto& transfer = *static_cast<Transfer*>(self);
+    return transfer.guarded([&] { return transfer.bodyBytes({bytes, size * count}); }) ? size * count : 0;
+}
+
+} // namespace lodestar

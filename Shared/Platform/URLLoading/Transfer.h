@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Platform/URLLoading/BodyDecoder.h"
+#include "Platform/URLLoading/CloseNotice.h"
+#include "Platform/URLLoading/CurlSupport.h"
+#include "Platform/URLLoading/HeldBytes.h"
+#include "Platform/URLLoading/ServerCertificate.h"
+#include "Platform/URLLoading/URLConnection.h"
+
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <span>
+
+namespace lodestar
+{
+
+enum class Handshake { Fresh, Reused };
+
+/// Who a transfer works for. Called on the thread that drives the transfer; must not block.
+class TransferClient
+{
+public:
+    virtual ~TransferClient() = default;
+    /// Before anything is sent. False leaves the server; a reused connection is first replaced by a fresh one.
+    virtual bool acceptsServer(const ServerCertificate& certificate, Handshake handshake) = 0;
+    /// True when a server that was refused before should be met with a fresh handshake.
+    virtual bool wantsFreshHandshake(const Origin& origin) const = 0;
+    virtual void didReceiveResponse(const URLResponse& response) = 0;
+    virtual void didReceiveData(std::span<const char> data) = 0;
+    /// Last and exactly once. The held bytes are the body's share of the process's limit, to be kept as long as the
+    /// body waits for its reader.
+    virtual void didEnd(std::optional<Error> error, HeldBytes held) = 0;
+};
+
+/// One request with its redirects, as a sequence of hops on one libcurl handle. It owns every rule about what is sent,
+/// what is accepted and how much of it; who drives the handle is none of its business. One thread at a time.
+///
+/// The driver adds `handle()` to its multi handle after `start`, takes it out when libcurl is done with it, and calls
+/// `hopEnded`: true asks for the handle to be added once more. It calls `fail` (with the handle out) to end early.
+class Transfer
+{
+public:
+    using Clock = std::chrono::steady_clock;
+
+    Transfer(URLRequest request, std::shared_ptr<TransferClient> client);
+    Transfer(const Transfer&) = delete;
+    Transfer& operator=(const Transfer&) = delete;
+    ~Transfer() = default;
+
+    /// Starts the clocks. False when there is nothing to drive, because the transfer has failed already.
+    bool start();
+    CURL* handle() const { return m_easy.get(); }
+    bool hopEnded(CURLcode result);
+    void fail(URLErrorCode code);
+
+    /// When the transfer is overdue if nothing more arrives: the idle limit or the total one. Monotonic clock.
+    Clock::time_point deadline() const;
+    /// True when the transfer has had its chance and the server makes little of it, so that it should not keep
+    /// others waiting for their turn.
+    bool isSlow(Clock::time_point now) const;
+
+private:
+    bool prepareHop();
+    void end(std::optional<Error> error);
+    void refuse(URLErrorCode code, std::string reason = {});
+    bool bodyIsWhole() const;
+    Error errorOf(CURLcode result) const;
+
+    bool connectionReady();
+    bool headerLine(std::string_view line);
+    bool headersComplete();
+    bool bodyBytes(std::span<const char> bytes);
+    bool deliver(std::span<const char> bytes);
+    template <typename Work>
+    bool guarded(Work work);
+
+    static int prerequest(void* self, char*, char*, int, int);
+    static std::size_t header(char* bytes, std::size_t size, std::size_t count, void* self);
+    static std::size_t body(char* bytes, std::size_t size, std::size_t count, void* self);
+
+    const TransferLimits m_limits;
+    URLRequest m_request; ///< of the current hop
+    std::shared_ptr<TransferClient> m_client;
+    CurlEasy m_easy;
+    CurlList m_headers;
+    std::optional<Origin> m_origin;
+
+    Clock::time_point m_started;
+    Clock::time_point m_lastProgress;
+    std::size_t m_received = 0; ///< body and header bytes of all hops, as they came
+
+    int m_redirects = 0;
+    bool m_needsFreshConnection = false;
+    bool m_retriedFresh = false;
+    std::size_t m_headerBytes = 0;
+    std::size_t m_bodyBytes = 0; ///< decoded, of the current response
+    HeldBytes m_held;
+
+    URLResponse m_response;
+    bool m_inHeaders = false;
+    std::optional<URLRequest> m_next; ///< the current response is a redirect to follow
+    std::optional<BodyDecoder> m_decoder;
+    std::shared_ptr<const CloseNotice> m_closeNotice;
+    std::optional<Error> m_refusal; ///< why a callback of ours stopped libcurl
+};
+
+} // namespace lodestar

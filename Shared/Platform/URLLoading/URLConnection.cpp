@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/URLLoading/URLConnection.h"
+
+#include "Platform/URLLoading/NetworkThread.h"
+#include "Platform/URLLoading/Strand.h"
+#include "Platform/URLLoading/Transfer.h"
+#include "Platform/URLLoading/URLError.h"
+
+#include <atomic>
+#include <cassert>
+
+namespace lodestar
+{
+
+namespace
+{
+
+class ServerTrustChallenge : public AuthenticationChallenge
+{
+public:
+    explicit ServerTrustChallenge(ServerCertificate certificate) : m_certificate(std::move(certificate)) {}
+
+    Method authenticationMethod() const override { return Method::ServerTrust; }
+    std::string host() const override { return m_certificate.host(); }
+    int port() const override { return m_certificate.port(); }
+    void useCredential() override
+    {
+        ServerTrust::shared().remember(m_certificate.host(), m_certificate.port(), m_certificate.leaf());
+        m_accepted = true;
+    }
+    void continueWithoutCredential() override { m_accepted = false; }
+    /// No answer is the answer "without a credential".
+    bool mayGoOn() const { return m_accepted || m_certificate.systemObjection().empty(); }
+
+private:
+    ServerCertificate m_certificate;
+    bool m_accepted = false;
+};
+
+/// The connection that users hold, and the transfer's client. The transfer keeps it while the network works for it; the
+/// blocks on the strand keep it until its delegate has heard the end.
+class Connection final : public URLConnection, public TransferClient
+{
+public:
+    Connection(URLRequest request, std::shared_ptr<URLConnectionDelegate> delegate)
+        : m_request(std::move(request)), m_delegate(std::move(delegate))
+    {
+    }
+
+    void setDelegateQueue(const OperationQueue& queue) override { m_queue = queue; }
+    void start() override
+    {
+        assert(m_strand == nullptr);
+        m_strand = std::make_shared<Strand>(m_queue);
+        m_transfer = std::make_shared<Transfer>(std::move(m_request), self());
+        NetworkThread::shared().start(m_transfer);
+    }
+    void cancel() override
+    {
+        if (m_transfer != nullptr) {
+            NetworkThread::shared().cancel(m_transfer);
+        }
+    }
+
+    bool acceptsServer(const ServerCertificate& certificate, Handshake handshake) override
+    {
+        const bool known =
+            ServerTrust::shared().isRemembered(certificate.host(), certificate.port(), certificate.leaf());
+        if (handshake == Handshake::Fresh || !known) {
+            m_strand->post([self = self(), certificate] { self->challengeDelegate(certificate); });
+        }
+        return true;
+    }
+    bool wantsFreshHandshake(const Origin& origin) const override
+    {
+        return ServerTrust::shared().wantsFreshHandshake(origin.host, origin.port);
+    }
+    void didReceiveResponse(const URLResponse& response) override
+    {
+        m_strand->post([self = self(), response] {
+            if (!self->m_left) {
+                self->m_delegate->didReceiveResponse(response);
+            }
+        });
+    }
+    void didReceiveData(std::span<const char> data) override
+    {
+        m_strand->post([self = self(), bytes = std::string(data.data(), data.size())] {
+            if (!self->m_left) {
+                self->m_delegate->didReceiveData(bytes);
+            }
+        });
+    }
+    void didEnd(std::optional<Error> error, HeldBytes held) override
+    {
+        held.setDelivering();
+        m_strand->post([self = self(), error = std::move(error), held = std::move(held)] {
+            if (self->m_left) {
+                self->m_delegate->didFailWithError(urlError(URLErrorCode::ServerCertificateUntrusted));
+            } else if (error) {
+                self->m_delegate->didFailWithError(*error);
+            } else {
+                self->m_delegate->connectionDidFinishLoading();
+            }
+            self->m_delegate.reset();
+        });
+    }
+
+private:
+    std::shared_ptr<Connection> self() { return std::static_pointer_cast<Connection>(shared_from_this()); }
+
+    void challengeDelegate(const ServerCertificate& certificate)
+    {
+        if (m_left) {
+            return;
+        }
+        ServerTrustChallenge challenge(certificate);
+        m_delegate->willSendRequestForAuthenticationChallenge(challenge);
+        if (!challenge.mayGoOn()) {
+            m_left = true;
+            cancel();
+        }
+    }
+
+    URLRequest m_request;
+    std::shared_ptr<URLConnectionDelegate> m_delegate; ///< the strand's, once started
+    OperationQueue m_queue;
+    std::shared_ptr<Strand> m_strand;
+    std::shared_ptr<Transfer> m_transfer;
+    bool m_left = false; ///< the strand's: the delegate would not have the server, nothing more is told but the end
+};
+
+} // namespace
+
+std::shared_ptr<URLConnection> URLConnection::make(URLRequest request, std::shared_ptr<URLConnectionDelegate> delegate)
+{
+    return std::make_shared<Connection>(std::move(request), std::move(delegate));
+}
+
+} // namespace lodestar

@@ -1,0 +1,41 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/URLLoading/LoadClient.h"
+#include "Platform/URLLoading/NetworkThread.h"
+#include "Platform/URLLoading/SynchronousLoader.h"
+#include "Platform/URLLoading/URLConnection.h"
+
+namespace lodestar
+{
+
+TransferLimits& TransferLimits::shared()
+{
+    static TransferLimits limits;
+    return limits;
+}
+
+void sendAsynchronousRequest(URLRequest request, const OperationQueue& queue,
+                             std::function<void(Result<URLLoad>)> completion)
+{
+    struct Delivery {
+        std::function<void(Result<URLLoad>)> completion;
+        Result<URLLoad> load;
+        HeldBytes held;
+    };
+    auto client = std::make_shared<LoadClient>(
+        [queue, completion = std::move(completion)](Result<URLLoad> load, HeldBytes held) mutable {
+            held.setDelivering();
+            auto delivery = std::make_unique<Delivery>(std::move(completion), std::move(load), std::move(held));
+            queue.addOperation([delivery = std::move(delivery)] {
+                const auto call = std::move(delivery->completion);
+                call(std::move(delivery->load));
+            });
+        });
+    NetworkThread::shared().start(std::make_shared<Transfer>(std::move(request), std::move(client)));
+}
+
+Result<URLLoad> sendSynchronousRequest(const URLRequest& request)
+{
+    return SynchronousLoader::load(request);
+}
+
+} // namespace lodestar
