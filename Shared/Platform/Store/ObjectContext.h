@@ -65,8 +65,8 @@ public:
 private:
     friend class ObjectContext;
     std::vector<AttributeValue> m_values;
-    std::uint64_t m_dirty = 0;   ///< bit i: attribute i differs from the store
-    std::int64_t m_rowId = 0;    ///< 0 until saved
+    std::uint64_t m_dirty = 0; ///< bit i: attribute i was changed since the last save
+    std::int64_t m_rowId = 0;  ///< 0 until saved
     bool m_inserted = false;
     std::size_t m_entity = 0;
     class ObjectContext* m_context = nullptr;
@@ -96,8 +96,16 @@ public:
     Result<void> save();
 
 private:
+    friend class ManagedObject;
     struct State;
     explicit ObjectContext(std::unique_ptr<State> state);
+    void attach(ManagedObject& object, std::size_t entity, std::int64_t rowId);
+    static void detach(ManagedObject& object);
+    void writeDeleted();
+    void writeChanged();
+    std::vector<std::int64_t> writeInserted();
+    void scrub();
+
     std::unique_ptr<State> m_state;
 };
 

@@ -1,0 +1,109 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Application/Model/Corvel.h"
+
+#include <utility>
+
+namespace lodestar
+{
+
+namespace
+{
+
+/// The attributes' indices, in the order of `Corvel::entity`.
+enum Attribute : std::size_t { Name, Address, Username, Password, Demo, Version, AttributeCount };
+
+std::optional<std::string> text(const AttributeValue& value)
+{
+    const auto* const string = std::get_if<std::string>(&value);
+    return string != nullptr ? std::optional(*string) : std::nullopt;
+}
+
+AttributeValue stored(std::optional<std::string> value)
+{
+    return value ? AttributeValue(*std::move(value)) : AttributeValue();
+}
+
+} // namespace
+
+EntityDescription Corvel::entity()
+{
+    return {std::string(entityName),
+            {{"name", AttributeType::String},
+             {"address", AttributeType::String},
+             {"username", AttributeType::String},
+             {"password", AttributeType::String},
+             {"demo", AttributeType::Number},
+             {"version", AttributeType::String}},
+            [] { return std::make_shared<Corvel>(); }};
+}
+
+Corvel::Corvel() : ManagedObject(AttributeCount) {}
+
+std::optional<std::string> Corvel::name() const
+{
+    return text(attribute(Name));
+}
+std::optional<std::string> Corvel::address() const
+{
+    return text(attribute(Address));
+}
+std::optional<std::string> Corvel::username() const
+{
+    return text(attribute(Username));
+}
+std::optional<std::string> Corvel::password() const
+{
+    return text(attribute(Password));
+}
+std::optional<std::string> Corvel::version() const
+{
+    return text(attribute(Version));
+}
+
+int Corvel::demo() const
+{
+    const auto* const number = std::get_if<std::int64_t>(&attribute(Demo));
+    return number != nullptr ? static_cast<int>(*number) : 0;
+}
+
+void Corvel::setName(std::optional<std::string> value)
+{
+    setAttribute(Name, stored(std::move(value)));
+}
+void Corvel::setAddress(std::optional<std::string> value)
+{
+    setAttribute(Address, stored(std::move(value)));
+}
+void Corvel::setUsername(std::optional<std::string> value)
+{
+    setAttribute(Username, stored(std::move(value)));
+}
+void Corvel::setPassword(std::optional<std::string> value)
+{
+    setAttribute(Password, stored(std::move(value)));
+}
+void Corvel::setVersion(std::optional<std::string> value)
+{
+    setAttribute(Version, stored(std::move(value)));
+}
+void Corvel::setDemo(bool value)
+{
+    setAttribute(Demo, std::int64_t{value ? 1 : 0});
+}
+
+std::shared_ptr<const FeedDictionary> Corvel::restData() const
+{
+    const std::lock_guard lock(m_restDataMutex);
+    return m_restData;
+}
+
+void Corvel::setRestData(std::shared_ptr<const FeedDictionary> feeds)
+{
+    {
+        const std::lock_guard lock(m_restDataMutex);
+        m_restData.swap(feeds);
+    }
+    // The former feeds, many megabytes at times, go here, with the lock released.
+}
+
+} // namespace lodestar

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Application/Model/StoreStack.h"
+
+#include "Application/Model/Corvel.h"
+#include "Application/Model/Group.h"
+#include "Feedback/VireoLogger.h"
+
+#include <cstdlib>
+#include <utility>
+
+namespace lodestar
+{
+
+namespace
+{
+
+constexpr std::string_view fileName = "Shared/Application/AppDelegate";
+
+// Running on without the registry would show an empty list, or lose what the user entered: the process ends instead,
+// and the file stays for a later start.
+[[noreturn]] void endProcess(std::string_view method, const Error& error)
+{
+    LODESTAR_LOG(fileName, method, "Unresolved error {}, {}", description(error), userInfoDescription(error));
+    VireoLogger::flush();
+    std::abort();
+}
+
+} // namespace
+
+StoreStack& StoreStack::shared()
+{
+    static StoreStack stack;
+    return stack;
+}
+
+ManagedObjectModel StoreStack::managedObjectModel()
+{
+    return {{Corvel::entity(), Group::entity()},
+            {{std::string(Corvel::entityName), "groups", std::string(Group::entityName), "corvels"}},
+            1};
+}
+
+ObjectContext& StoreStack::managedObjectContext()
+{
+    if (m_context == nullptr) {
+        // Without a folder the path is empty and refused, rather than one at the root of the file system.
+        const std::string path =
+            m_documentsDirectory.empty() ? std::string() : m_documentsDirectory + "/Lodestar.sqlite";
+        auto opened = ObjectContext::open(path, managedObjectModel());
+        if (!opened) {
+            endProcess("-[AppDelegate persistentStoreCoordinator]",
+                       {"YOUR_ERROR_DOMAIN", 9999, "Failed to initialize the application's saved data",
+                        "There was an error creating or loading the application's saved data.",
+                        std::make_shared<Error>(opened.error())});
+        }
+        m_context = std::move(opened).value();
+    }
+    return *m_context;
+}
+
+void StoreStack::saveContext()
+{
+    if (m_context == nullptr || !m_context->hasChanges()) {
+        return;
+    }
+    if (const Result<void> saved = m_context->save(); !saved) {
+        endProcess("-[AppDelegate saveContext]", saved.error());
+    }
+}
+
+void StoreStack::close()
+{
+    m_context.reset();
+}
+
+} // namespace lodestar

@@ -1,0 +1,310 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/Store/ObjectContext.h"
+
+#include "Platform/Store/StoreFile.h"
+#include "Platform/Store/StoreSchema.h"
+
+#include <SQLiteCpp/Statement.h>
+#include <SQLiteCpp/Transaction.h>
+
+#include <algorithm>
+#include <cassert>
+#include <sqlite3.h>
+#include <utility>
+
+namespace lodestar
+{
+
+namespace
+{
+
+using ObjectRef = std::shared_ptr<ManagedObject>;
+
+AttributeValue readColumn(const SQLite::Column& column)
+{
+    if (column.isInteger()) {
+        return column.getInt64();
+    }
+    if (column.isNull()) {
+        return {};
+    }
+    const char* const text = column.getText();
+    return std::string(text, static_cast<std::size_t>(column.getBytes()));
+}
+
+/// The value is not copied: it must live until the statement has run.
+void bindValue(SQLite::Statement& statement, int parameter, const AttributeValue& value)
+{
+    if (const auto* number = std::get_if<std::int64_t>(&value)) {
+        statement.bind(parameter, *number);
+    } else if (const auto* text = std::get_if<std::string>(&value)) {
+        statement.bindNoCopy(parameter, *text);
+    } else {
+        statement.bind(parameter);
+    }
+}
+
+/// Runs a prepared statement that yields no rows and leaves it ready for its next use, also when it throws.
+void run(SQLite::Statement& statement)
+{
+    struct Reset {
+        SQLite::Statement& statement;
+        ~Reset() { statement.tryReset(); }
+    };
+    const Reset reset{statement};
+    statement.executeStep();
+}
+
+} // namespace
+
+struct ObjectContext::State {
+    /// An entity's objects in memory by row number, and its statements, prepared on first use.
+    struct Entity {
+        std::map<std::int64_t, ObjectRef> saved;
+        std::map<std::uint64_t, SQLite::Statement> updates; ///< by dirty mask
+        std::unique_ptr<SQLite::Statement> insert;
+        std::unique_ptr<SQLite::Statement> remove;
+    };
+
+    State(ManagedObjectModel theModel, std::unique_ptr<SQLite::Database> theDatabase)
+        : model(std::move(theModel)), database(std::move(theDatabase)), entities(model.entities.size())
+    {
+    }
+
+    std::size_t entityIndex(std::string_view name) const
+    {
+        const auto found = std::ranges::find(model.entities, name, &EntityDescription::name);
+        return static_cast<std::size_t>(found - model.entities.begin());
+    }
+
+    ManagedObjectModel model;
+    std::unique_ptr<SQLite::Database> database; // outlives the statements below
+    std::vector<Entity> entities;
+    std::vector<ObjectRef> inserted;     ///< not saved yet, in order
+    std::vector<ManagedObject*> changed; ///< saved ones with dirty bits; owned by `saved`
+    std::vector<ObjectRef> deleted;      ///< still in the store
+    bool scrubPending = false;           ///< the log still holds deleted records
+};
+
+void ManagedObject::setAttribute(std::size_t index, AttributeValue value)
+{
+    if (m_values[index] == value) {
+        return;
+    }
+    m_values[index] = std::move(value);
+    if (m_context != nullptr && m_rowId != 0) {
+        if (m_dirty == 0) {
+            m_context->m_state->changed.push_back(this);
+        }
+        m_dirty |= std::uint64_t{1} << index;
+    }
+}
+
+Result<std::unique_ptr<ObjectContext>> ObjectContext::open(const std::string& path, ManagedObjectModel model)
+{
+    // The dirty mask has one bit an attribute.
+    assert(std::ranges::all_of(model.entities, [](const auto& entity) { return entity.attributes.size() <= 64; }));
+    auto database = openStoreFile(path, model);
+    if (!database) {
+        return database.error();
+    }
+    return std::unique_ptr<ObjectContext>(
+        new ObjectContext(std::make_unique<State>(std::move(model), std::move(database).value())));
+}
+
+ObjectContext::ObjectContext(std::unique_ptr<State> state) : m_state(std::move(state)) {}
+
+ObjectContext::~ObjectContext()
+{
+    for (const auto& entity : m_state->entities) {
+        for (const auto& [rowId, object] : entity.saved) {
+            detach(*object);
+        }
+    }
+    for (const auto& object : m_state->inserted) {
+        detach(*object);
+    }
+}
+
+void ObjectContext::detach(ManagedObject& object)
+{
+    object.m_context = nullptr;
+    object.m_inserted = false;
+    object.m_dirty = 0;
+}
+
+void ObjectContext::attach(ManagedObject& object, std::size_t entity, std::int64_t rowId)
+{
+    object.m_context = this;
+    object.m_inserted = true;
+    object.m_entity = entity;
+    object.m_rowId = rowId;
+}
+
+std::shared_ptr<ManagedObject> ObjectContext::insertNewObject(std::string_view entity)
+{
+    const std::size_t index = m_state->entityIndex(entity);
+    assert(index < m_state->entities.size());
+    ObjectRef object = m_state->model.entities[index].make();
+    attach(*object, index, 0);
+    m_state->inserted.push_back(object);
+    return object;
+}
+
+void ObjectContext::deleteObject(const std::shared_ptr<ManagedObject>& object)
+{
+    if (object == nullptr || object->m_context != this) {
+        return;
+    }
+    if (object->m_rowId == 0) {
+        std::erase(m_state->inserted, object);
+    } else {
+        if (object->m_dirty != 0) {
+            std::erase(m_state->changed, object.get());
+        }
+        m_state->deleted.push_back(object);
+        m_state->entities[object->m_entity].saved.erase(object->m_rowId);
+    }
+    detach(*object);
+}
+
+Result<std::vector<std::shared_ptr<ManagedObject>>> ObjectContext::fetchAll(std::string_view entity)
+{
+    const std::size_t index = m_state->entityIndex(entity);
+    assert(index < m_state->entities.size());
+    const EntityDescription& description = m_state->model.entities[index];
+    std::map<std::int64_t, ObjectRef>& saved = m_state->entities[index].saved;
+    const auto isDeleted = [&](std::int64_t rowId) {
+        return std::ranges::any_of(m_state->deleted, [&](const ObjectRef& object) {
+            return object->m_entity == index && object->m_rowId == rowId;
+        });
+    };
+    std::vector<ObjectRef> objects;
+    try {
+        SQLite::Statement query(*m_state->database, selectStatement(description));
+        while (query.executeStep()) {
+            const std::int64_t rowId = query.getColumn(0).getInt64();
+            auto found = saved.find(rowId);
+            if (found == saved.end()) {
+                if (isDeleted(rowId)) {
+                    continue;
+                }
+                ObjectRef object = description.make();
+                for (std::size_t i = 0; i < description.attributes.size(); ++i) {
+                    object->m_values[i] = readColumn(query.getColumn(static_cast<int>(i) + 1));
+                }
+                attach(*object, index, rowId);
+                found = saved.emplace(rowId, std::move(object)).first;
+            }
+            objects.push_back(found->second);
+        }
+    } catch (const SQLite::Exception& exception) {
+        return storeError(exception);
+    }
+    std::ranges::copy_if(m_state->inserted, std::back_inserter(objects),
+                         [&](const ObjectRef& object) { return object->m_entity == index; });
+    return objects;
+}
+
+bool ObjectContext::hasChanges() const
+{
+    return !m_state->inserted.empty() || !m_state->changed.empty() || !m_state->deleted.empty();
+}
+
+void ObjectContext::writeDeleted()
+{
+    for (const ObjectRef& object : m_state->deleted) {
+        auto& statement = m_state->entities[object->m_entity].remove;
+        if (statement == nullptr) {
+            statement = std::make_unique<SQLite::Statement>(*m_state->database,
+                                                            deleteStatement(m_state->model.entities[object->m_entity]));
+        }
+        statement->bind(1, object->m_rowId);
+        run(*statement);
+    }
+}
+
+void ObjectContext::writeChanged()
+{
+    for (const ManagedObject* const object : m_state->changed) {
+        auto& updates = m_state->entities[object->m_entity].updates;
+        auto found = updates.find(object->m_dirty);
+        if (found == updates.end()) {
+            found = updates
+                        .try_emplace(object->m_dirty, *m_state->database,
+                                     updateStatement(m_state->model.entities[object->m_entity], object->m_dirty))
+                        .first;
+        }
+        int parameter = 0;
+        for (std::size_t i = 0; i < object->m_values.size(); ++i) {
+            if ((object->m_dirty >> i & 1U) != 0) {
+                bindValue(found->second, ++parameter, object->m_values[i]);
+            }
+        }
+        found->second.bind(++parameter, object->m_rowId);
+        // A row that another process took out stays out: an object's change does not bring its record back.
+        run(found->second);
+    }
+}
+
+std::vector<std::int64_t> ObjectContext::writeInserted()
+{
+    std::vector<std::int64_t> rowIds;
+    for (const ObjectRef& object : m_state->inserted) {
+        auto& statement = m_state->entities[object->m_entity].insert;
+        if (statement == nullptr) {
+            statement = std::make_unique<SQLite::Statement>(*m_state->database,
+                                                            insertStatement(m_state->model.entities[object->m_entity]));
+        }
+        for (std::size_t i = 0; i < object->m_values.size(); ++i) {
+            bindValue(*statement, static_cast<int>(i) + 1, object->m_values[i]);
+        }
+        run(*statement);
+        rowIds.push_back(m_state->database->getLastInsertRowid());
+    }
+    return rowIds;
+}
+
+Result<void> ObjectContext::save()
+{
+    if (!hasChanges()) {
+        return {};
+    }
+    std::vector<std::int64_t> rowIds;
+    try {
+        SQLite::Transaction transaction(*m_state->database, SQLite::TransactionBehavior::IMMEDIATE);
+        // Deleted rows go first: the store may give their numbers to new ones.
+        writeDeleted();
+        writeChanged();
+        rowIds = writeInserted();
+        transaction.commit();
+    } catch (const SQLite::Exception& exception) {
+        return storeError(exception);
+    }
+    m_state->scrubPending |= !m_state->deleted.empty();
+    m_state->deleted.clear();
+    for (ManagedObject* const object : m_state->changed) {
+        object->m_dirty = 0;
+    }
+    m_state->changed.clear();
+    for (std::size_t i = 0; i < rowIds.size(); ++i) {
+        ObjectRef& object = m_state->inserted[i];
+        object->m_rowId = rowIds[i];
+        m_state->entities[object->m_entity].saved.insert_or_assign(rowIds[i], std::move(object));
+    }
+    m_state->inserted.clear();
+    scrub();
+    return {};
+}
+
+// The write-ahead log keeps every page as it once was, deleted passwords included, until it is moved into the main file
+// and cut. The save itself stands by now, so a failure here only leaves the work to the next save or to closing.
+void ObjectContext::scrub()
+{
+    if (m_state->scrubPending) {
+        m_state->scrubPending = sqlite3_wal_checkpoint_v2(m_state->database->getHandle(), "main",
+                                                          SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr) != SQLITE_OK;
+    }
+}
+
+} // namespace lodestar

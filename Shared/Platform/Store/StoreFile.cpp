@@ -1,0 +1,381 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/Store/StoreFile.h"
+
+#include "Platform/Store/StoreSchema.h"
+
+#include <SQLiteCpp/Statement.h>
+#include <SQLiteCpp/Transaction.h>
+
+#include <array>
+#include <cerrno>
+#include <cstddef>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <optional>
+#include <sqlite3.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+#include <utility>
+
+namespace lodestar
+{
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+/// "LODS": stands in the header of every store of ours.
+constexpr std::int32_t applicationId = 0x4C4F4453;
+/// How long another process's lock on the store is waited for.
+constexpr int busyTimeoutMs = 2000;
+
+Error makeError(int code, std::string description, const std::string& reason = {})
+{
+    return {std::string(storeErrorDomain), code, std::move(description), reason, nullptr};
+}
+
+Error systemError(std::string description, int number)
+{
+    return makeError(SQLITE_CANTOPEN, std::move(description), std::generic_category().message(number));
+}
+
+/// The numbers by which a store says whose it is. They are written once, before the file gets its name, so that the
+/// main file tells them truly even while newer pages stand in the write-ahead log.
+struct Identity {
+    std::int32_t applicationId;
+    std::int32_t userVersion;
+};
+
+/// An open file of SQLite's own layer. Closing a descriptor of our own would drop the locks that a connection of this
+/// process holds on the same file.
+class HeaderReader
+{
+public:
+    explicit HeaderReader(const std::string& path)
+        : m_name(sqlite3_create_filename(path.c_str(), "", "", 0, nullptr)),
+          m_storage(std::make_unique<std::max_align_t[]>(storageUnits()))
+    {
+        if (sqlite3_vfs* const vfs = sqlite3_vfs_find(nullptr); vfs != nullptr && m_name != nullptr) {
+            m_result = vfs->xOpen(vfs, m_name, file(), SQLITE_OPEN_READONLY | SQLITE_OPEN_MAIN_DB, nullptr);
+        }
+    }
+    ~HeaderReader()
+    {
+        if (file()->pMethods != nullptr) {
+            file()->pMethods->xClose(file());
+        }
+        sqlite3_free_filename(m_name);
+    }
+    HeaderReader(const HeaderReader&) = delete;
+    HeaderReader& operator=(const HeaderReader&) = delete;
+
+    int read(std::array<unsigned char, 100>& header)
+    {
+        if (m_result == SQLITE_OK) {
+            m_result = file()->pMethods->xRead(file(), header.data(), static_cast<int>(header.size()), 0);
+        }
+        return m_result;
+    }
+
+private:
+    static std::size_t storageUnits()
+    {
+        const sqlite3_vfs* const vfs = sqlite3_vfs_find(nullptr);
+        const std::size_t size = vfs != nullptr ? static_cast<std::size_t>(vfs->szOsFile) : sizeof(sqlite3_file);
+        return size / sizeof(std::max_align_t) + 1;
+    }
+    sqlite3_file* file() { return reinterpret_cast<sqlite3_file*>(m_storage.get()); }
+
+    const char* m_name;
+    std::unique_ptr<std::max_align_t[]> m_storage;
+    int m_result = SQLITE_CANTOPEN;
+};
+
+std::int32_t bigEndian(const std::array<unsigned char, 100>& header, std::size_t offset)
+{
+    std::uint32_t value = 0;
+    for (std::size_t i = offset; i < offset + 4; ++i) {
+        value = value << 8 | header[i];
+    }
+    return static_cast<std::int32_t>(value);
+}
+
+Result<Identity> readIdentity(const std::string& path)
+{
+    std::array<unsigned char, 100> header{};
+    const int code = HeaderReader(path).read(header);
+    const std::string_view magic("SQLite format 3\0", 16);
+    if (code == SQLITE_IOERR_SHORT_READ ||
+        (code == SQLITE_OK && std::string_view(reinterpret_cast<const char*>(header.data()), 16) != magic)) {
+        return makeError(SQLITE_NOTADB, "The file is not a database.");
+    }
+    if (code != SQLITE_OK) {
+        return makeError(code, "The file cannot be read.", sqlite3_errstr(code));
+    }
+    constexpr std::size_t userVersionOffset = 60;
+    constexpr std::size_t applicationIdOffset = 68;
+    return Identity{bigEndian(header, applicationIdOffset), bigEndian(header, userVersionOffset)};
+}
+
+Result<void> checkIdentity(const Identity& identity, const ManagedObjectModel& model)
+{
+    if (identity.applicationId != applicationId) {
+        return makeError(SQLITE_NOTADB, "The file is a database of another application.");
+    }
+    if (identity.userVersion != model.version) {
+        return makeError(SQLITE_SCHEMA, "The store was written by an incompatible model.",
+                         "model version " + std::to_string(identity.userVersion) + ", expected " +
+                             std::to_string(model.version));
+    }
+    return {};
+}
+
+bool isFilled(const std::string& path)
+{
+    struct stat status {
+    };
+    return ::stat(path.c_str(), &status) == 0 && status.st_size > 0;
+}
+
+enum class Presence { Missing, Present };
+
+Result<Presence> checkFile(const std::string& path, const ManagedObjectModel& model)
+{
+    struct stat status {
+    };
+    if (::stat(path.c_str(), &status) != 0) {
+        if (errno != ENOENT) {
+            return systemError("The store cannot be reached.", errno);
+        }
+        // SQLite would play these into the new, empty file.
+        if (isFilled(path + "-wal") || isFilled(path + "-journal")) {
+            return makeError(SQLITE_CORRUPT, "The store's main file is missing beside its log.");
+        }
+        return Presence::Missing;
+    }
+    if (!S_ISREG(status.st_mode)) {
+        return makeError(SQLITE_CANTOPEN, "The store is not a regular file.");
+    }
+    // A store of ours is never empty, not even for an instant: an empty file is one that lost its contents.
+    const Result<Identity> identity = readIdentity(path);
+    if (!identity) {
+        return identity.error();
+    }
+    if (const Result<void> checked = checkIdentity(identity.value(), model); !checked) {
+        return checked.error();
+    }
+    return Presence::Present;
+}
+
+Result<void> makePrivateFolder(const fs::path& folder)
+{
+    std::error_code ignored;
+    if (folder.empty() || fs::is_directory(folder, ignored)) {
+        return {};
+    }
+    if (Result<void> parent = makePrivateFolder(folder.parent_path()); !parent) {
+        return parent;
+    }
+    if (::mkdir(folder.c_str(), S_IRWXU) != 0 && errno != EEXIST) {
+        return systemError("The store's folder cannot be made.", errno);
+    }
+    return {};
+}
+
+void synchronizeFolder(const fs::path& folder)
+{
+    if (const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); descriptor >= 0) {
+        ::fsync(descriptor);
+        ::close(descriptor);
+    }
+}
+
+/// A file under a name of its own until `moveTo`, gone with its journal otherwise.
+class ScratchFile
+{
+public:
+    explicit ScratchFile(const std::string& base) : m_path(base + "-XXXXXX")
+    {
+        if (const int descriptor = ::mkostemp(m_path.data(), O_CLOEXEC); descriptor >= 0) {
+            ::close(descriptor);
+        } else {
+            m_error = errno;
+        }
+    }
+    ~ScratchFile()
+    {
+        if (m_error == 0) {
+            ::unlink(m_path.c_str());
+            ::unlink((m_path + "-journal").c_str());
+        }
+    }
+    ScratchFile(const ScratchFile&) = delete;
+    ScratchFile& operator=(const ScratchFile&) = delete;
+
+    int error() const { return m_error; }
+    const std::string& path() const { return m_path; }
+
+    /// Never replaces a file: a store that came into being meanwhile stays.
+    int moveTo(const std::string& target)
+    {
+        if (::renameat2(AT_FDCWD, m_path.c_str(), AT_FDCWD, target.c_str(), RENAME_NOREPLACE) == 0 || errno == EEXIST) {
+            return 0;
+        }
+        const bool unsupported = errno == EINVAL || errno == ENOSYS;
+        return unsupported && std::rename(m_path.c_str(), target.c_str()) == 0 ? 0 : errno;
+    }
+
+private:
+    std::string m_path;
+    int m_error = 0;
+};
+
+/// Makes the store complete under another name and moves it into place, so that a process that dies meanwhile leaves
+/// either no store or a whole one.
+Result<void> createStore(const std::string& path, const ManagedObjectModel& model)
+{
+    const fs::path folder = fs::path(path).parent_path();
+    if (Result<void> made = makePrivateFolder(folder); !made) {
+        return made;
+    }
+    ScratchFile scratch(path);
+    if (scratch.error() != 0) {
+        return systemError("The store cannot be created.", scratch.error());
+    }
+    {
+        SQLite::Database database(scratch.path(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX);
+        database.exec("PRAGMA synchronous=FULL");
+        SQLite::Transaction transaction(database);
+        for (const std::string& statement : schemaStatements(model)) {
+            database.exec(statement);
+        }
+        database.exec("PRAGMA application_id=" + std::to_string(applicationId));
+        database.exec("PRAGMA user_version=" + std::to_string(model.version));
+        transaction.commit();
+    }
+    if (const int number = scratch.moveTo(path); number != 0) {
+        return systemError("The store cannot be created.", number);
+    }
+    synchronizeFolder(folder);
+    return {};
+}
+
+Result<void> checkSchema(const SQLite::Database& database, const ManagedObjectModel& model)
+{
+    std::vector<std::string> found;
+    SQLite::Statement query(database, "SELECT sql FROM sqlite_master WHERE sql IS NOT NULL ORDER BY rowid");
+    while (query.executeStep()) {
+        found.push_back(query.getColumn(0).getString());
+    }
+    if (found != schemaStatements(model)) {
+        return makeError(SQLITE_CORRUPT, "The store's tables are not those of its model.");
+    }
+    return {};
+}
+
+/// Everything that may refuse the store, by reading only. The check of the pages runs at each start because a failed
+/// fetch later would look like an empty registry.
+Result<void> verify(SQLite::Database& database, const ManagedObjectModel& model)
+{
+    database.exec("PRAGMA trusted_schema=OFF; PRAGMA cell_size_check=ON");
+    const Identity identity{database.execAndGet("PRAGMA application_id").getInt(),
+                            database.execAndGet("PRAGMA user_version").getInt()};
+    if (Result<void> checked = checkIdentity(identity, model); !checked) {
+        return checked;
+    }
+    if (Result<void> checked = checkSchema(database, model); !checked) {
+        return checked;
+    }
+    if (const std::string damage = database.execAndGet("PRAGMA integrity_check(1)").getString(); damage != "ok") {
+        return makeError(SQLITE_CORRUPT, "The store is damaged.", damage);
+    }
+    if (sqlite3_db_readonly(database.getHandle(), "main") != 0) {
+        return makeError(SQLITE_READONLY, "The store cannot be written.");
+    }
+    return {};
+}
+
+Result<void> configure(SQLite::Database& database)
+{
+    if (const std::string mode = database.execAndGet("PRAGMA journal_mode=WAL").getString(); mode != "wal") {
+        return makeError(SQLITE_CANTOPEN, "The store cannot keep a write-ahead log.", "journal mode " + mode);
+    }
+    // Deleted records hold passwords: nothing of them may stay in free pages or reach a temporary file.
+    database.exec("PRAGMA synchronous=FULL; PRAGMA secure_delete=ON; PRAGMA temp_store=MEMORY; PRAGMA foreign_keys=ON");
+    return {};
+}
+
+void setCheckpointOnClose(const SQLite::Database& database, bool on)
+{
+    sqlite3_db_config(database.getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, on ? 0 : 1, nullptr);
+}
+
+void makePrivate(const std::string& path)
+{
+    for (const char* const suffix : {"", "-wal", "-shm"}) {
+        const std::string file = path + suffix;
+        struct stat status {
+        };
+        if (::stat(file.c_str(), &status) == 0 && (status.st_mode & (S_IRWXG | S_IRWXO)) != 0) {
+            ::chmod(file.c_str(), S_IRUSR | S_IWUSR);
+        }
+    }
+}
+
+Result<std::unique_ptr<SQLite::Database>> connect(const std::string& path, const ManagedObjectModel& model)
+{
+    const bool hasLog = isFilled(path + "-wal");
+    auto database =
+        std::make_unique<SQLite::Database>(path, SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, busyTimeoutMs);
+    // The last connection to go moves the log into the main file: not into one that is about to be refused. Without a
+    // log the switch must stay off, since it would leave an empty log behind.
+    setCheckpointOnClose(*database, !hasLog);
+    if (const Result<void> verified = verify(*database, model); !verified) {
+        return verified.error();
+    }
+    if (const Result<void> configured = configure(*database); !configured) {
+        return configured.error();
+    }
+    setCheckpointOnClose(*database, true);
+    makePrivate(path);
+    return database;
+}
+
+} // namespace
+
+Error storeError(const SQLite::Exception& exception)
+{
+    const int code = exception.getExtendedErrorCode();
+    return makeError(code, exception.what(), code > 0 ? sqlite3_errstr(code) : "");
+}
+
+Result<std::unique_ptr<SQLite::Database>> openStoreFile(const std::string& path, const ManagedObjectModel& model)
+{
+    std::error_code code;
+    const std::string absolute = fs::absolute(path, code).string();
+    if (code || path.empty()) {
+        return makeError(SQLITE_CANTOPEN, "The store has no place.");
+    }
+    sqlite3_initialize();
+    try {
+        const Result<Presence> presence = checkFile(absolute, model);
+        if (!presence) {
+            return presence.error();
+        }
+        if (presence.value() == Presence::Missing) {
+            if (const Result<void> created = createStore(absolute, model); !created) {
+                return created.error();
+            }
+        }
+        return connect(absolute, model);
+    } catch (const SQLite::Exception& exception) {
+        return storeError(exception);
+    }
+}
+
+} // namespace lodestar

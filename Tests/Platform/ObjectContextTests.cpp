@@ -1,0 +1,284 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Tests/Platform/StoreFixture.h"
+
+#include <SQLiteCpp/Statement.h>
+#include <gmock/gmock.h>
+
+#include <functional>
+#include <sqlite3.h>
+#include <sys/stat.h>
+
+namespace lodestar
+{
+
+namespace
+{
+
+using test::StoreFixture;
+using ::testing::ElementsAre;
+using ::testing::HasSubstr;
+using ::testing::IsEmpty;
+using ::testing::Not;
+
+class ObjectContextTests : public StoreFixture
+{
+protected:
+    /// Keeps a record of each row and column that is written from now on. The store then no longer is of its model.
+    void watchWrites() const
+    {
+        SQLite::Database database = plain();
+        database.exec("CREATE TABLE writes(what TEXT)");
+        for (const std::string column : {"title", "note", "count"}) {
+            database.exec("CREATE TRIGGER u_" + column + " AFTER UPDATE OF \"" + column +
+                          "\" ON Item BEGIN INSERT INTO writes VALUES('" + column + " ' || NEW._id); END");
+        }
+        database.exec("CREATE TRIGGER i AFTER INSERT ON Item BEGIN INSERT INTO writes VALUES('insert'); END");
+        database.exec("CREATE TRIGGER d AFTER DELETE ON Item BEGIN INSERT INTO writes VALUES('delete'); END");
+    }
+
+    std::vector<std::string> takeWrites() const
+    {
+        SQLite::Database database = plain();
+        std::vector<std::string> result;
+        SQLite::Statement query(database, "SELECT what FROM writes ORDER BY rowid");
+        while (query.executeStep()) {
+            result.push_back(query.getColumn(0).getString());
+        }
+        query.reset();
+        database.exec("DELETE FROM writes");
+        return result;
+    }
+};
+
+TEST_F(ObjectContextTests, ValuesComeBackExactly)
+{
+    const std::vector<AttributeValue> values = {AttributeValue(),
+                                                std::string(),
+                                                std::string("a\0b\0", 4),
+                                                std::string("\0", 1),
+                                                std::string("Zürich 東京 \U0001F680 e\u0301"),
+                                                std::string("'; DROP TABLE Item; --"),
+                                                std::string("0012"),
+                                                std::string("not \xFF\xC0 UTF-8"),
+                                                std::string(3'000'000, 'x')};
+    const std::vector<AttributeValue> numbers = {std::int64_t{0}, std::int64_t{-1}, INT64_MAX, INT64_MIN,
+                                                 AttributeValue()};
+    {
+        const auto context = open();
+        for (std::size_t i = 0; i < values.size(); ++i) {
+            const ObjectRef object = context->insertNewObject("Item");
+            object->setAttribute(Note, values[i]);
+            object->setAttribute(Count, numbers[i % numbers.size()]);
+        }
+        ASSERT_TRUE(context->save().ok());
+    }
+    const auto context = open();
+    const auto objects = fetch(*context);
+    ASSERT_EQ(objects.size(), values.size());
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        EXPECT_EQ(objects[i]->attribute(Title), AttributeValue()) << i;
+        EXPECT_EQ(objects[i]->attribute(Note), values[i]) << i;
+        EXPECT_EQ(objects[i]->attribute(Count), numbers[i % numbers.size()]) << i;
+    }
+    EXPECT_FALSE(context->hasChanges());
+}
+
+TEST_F(ObjectContextTests, FetchGivesSavedThenUnsavedAndTheSameObjects)
+{
+    {
+        const auto context = open();
+        for (const char* const title : {"b", "c", "a"}) {
+            insert(*context, title);
+        }
+        ASSERT_TRUE(context->save().ok());
+    }
+    const auto context = open();
+    const ObjectRef unsaved = insert(*context, "0 unsaved");
+    const auto other = context->insertNewObject("Order");
+    const auto first = fetch(*context);
+    EXPECT_THAT(titles(first), ElementsAre("b", "c", "a", "0 unsaved"));
+    EXPECT_EQ(first[3], unsaved);
+    EXPECT_THAT(fetch(*context, "Order"), ElementsAre(other));
+
+    first[1]->setAttribute(Title, std::string("changed"));
+    EXPECT_EQ(fetch(*context), first);
+    context->deleteObject(first[2]);
+    EXPECT_THAT(titles(fetch(*context)), ElementsAre("b", "changed", "0 unsaved"));
+    ASSERT_TRUE(context->save().ok());
+    // The number of the deleted last row may be given away again; the order of insertion still holds.
+    insert(*context, "later");
+    ASSERT_TRUE(context->save().ok());
+    EXPECT_THAT(titles(fetch(*context)), ElementsAre("b", "changed", "0 unsaved", "later"));
+    EXPECT_THAT(storedTitles(), ElementsAre("b", "changed", "0 unsaved", "later"));
+}
+
+TEST_F(ObjectContextTests, SaveWritesOnlyWhatChanged)
+{
+    const auto context = open();
+    const ObjectRef a = insert(*context, "a");
+    const ObjectRef b = insert(*context, "b");
+    ASSERT_TRUE(context->save().ok());
+    watchWrites();
+
+    a->setAttribute(Title, std::string("a"));
+    EXPECT_FALSE(context->hasChanges()) << "the same value again";
+    a->setAttribute(Note, std::string());
+    EXPECT_TRUE(context->hasChanges()) << "none and the empty text differ";
+    b->setAttribute(Title, std::string("b2"));
+    b->setAttribute(Count, std::int64_t{7});
+    ASSERT_TRUE(context->save().ok());
+    EXPECT_THAT(takeWrites(), ::testing::UnorderedElementsAre("note 1", "title 2", "count 2"));
+
+    EXPECT_FALSE(context->hasChanges());
+    ASSERT_TRUE(context->save().ok());
+    EXPECT_THAT(takeWrites(), IsEmpty());
+
+    const ObjectRef gone = insert(*context, "never stored");
+    context->deleteObject(gone);
+    EXPECT_FALSE(context->hasChanges());
+    a->setAttribute(Title, std::string("changed, then deleted"));
+    context->deleteObject(a);
+    insert(*context, "c");
+    ASSERT_TRUE(context->save().ok());
+    EXPECT_THAT(takeWrites(), ElementsAre("delete", "insert"));
+}
+
+TEST_F(ObjectContextTests, ObjectsOutliveTheirDeletionAndTheirContext)
+{
+    auto context = open();
+    const ObjectRef deleted = insert(*context, "deleted");
+    const ObjectRef kept = insert(*context, "kept");
+    ASSERT_TRUE(context->save().ok());
+    const ObjectRef unsaved = insert(*context, "unsaved");
+    context->deleteObject(deleted);
+    EXPECT_FALSE(deleted->isInserted());
+    ASSERT_TRUE(context->save().ok());
+    deleted->setAttribute(Title, std::string("still writable"));
+    EXPECT_FALSE(context->hasChanges());
+    context->deleteObject(deleted);
+    context->deleteObject(nullptr);
+    context->deleteObject(std::make_shared<ManagedObject>(3));
+    EXPECT_FALSE(context->hasChanges());
+
+    kept->setAttribute(Note, std::string("lost with the context"));
+    context.reset();
+    EXPECT_FALSE(kept->isInserted());
+    EXPECT_FALSE(unsaved->isInserted());
+    kept->setAttribute(Title, std::string("alone"));
+
+    context = open();
+    context->deleteObject(kept);
+    EXPECT_FALSE(context->hasChanges()) << "an object of another context is left alone";
+    EXPECT_THAT(titles(fetch(*context)), ElementsAre("kept", "unsaved"));
+}
+
+TEST_F(ObjectContextTests, FilesArePrivateAndRelationsDeclared)
+{
+    path = folder / "new" / "deeper" / "Test.sqlite";
+    const auto mode = [](const std::filesystem::path& file) {
+        struct stat status {
+        };
+        return ::stat(file.c_str(), &status) == 0 ? status.st_mode & 07777U : 0U;
+    };
+    const mode_t former = ::umask(0);
+    const auto context = open();
+    insert(*context, "a");
+    ASSERT_TRUE(context->save().ok());
+    ::umask(former);
+    EXPECT_EQ(mode(folder / "new"), 0700U);
+    EXPECT_EQ(mode(path.parent_path()), 0700U);
+    for (const char* const suffix : {"", "-wal", "-shm"}) {
+        EXPECT_EQ(mode(path.string() + suffix), 0600U) << suffix;
+    }
+    SQLite::Database database = plain();
+    EXPECT_EQ(database.execAndGet("PRAGMA journal_mode").getString(), "wal");
+    database.exec("PRAGMA foreign_keys=ON; INSERT INTO \"Order\"(_id) VALUES(5);"
+                  "INSERT INTO Item_orders(items, orders) VALUES(1, 5)");
+    EXPECT_NE(database.tryExec("INSERT INTO Item_orders(items, orders) VALUES(1, 6)"), SQLITE_OK);
+    context->deleteObject(fetch(*context).at(0));
+    ASSERT_TRUE(context->save().ok());
+    EXPECT_EQ(database.execAndGet("SELECT count(*) FROM Item_orders").getInt(), 0);
+}
+
+TEST_F(ObjectContextTests, NothingOfADeletedRecordStaysInAnyFile)
+{
+    const auto context = open();
+    std::vector<ObjectRef> objects;
+    for (int i = 0; i < 300; ++i) {
+        objects.push_back(insert(*context, "title " + std::to_string(i)));
+        objects.back()->setAttribute(Note, "secret-" + std::to_string(i) + "-secret " + std::string(100, 'x'));
+        ASSERT_TRUE(context->save().ok());
+    }
+    for (std::size_t i = 0; i < objects.size(); i += 3) {
+        context->deleteObject(objects[i]);
+    }
+    ASSERT_TRUE(context->save().ok());
+    for (const auto& [name, bytes] : snapshot()) {
+        for (std::size_t i = 0; i < objects.size(); i += 3) {
+            ASSERT_THAT(bytes, Not(HasSubstr("secret-" + std::to_string(i) + "-secret"))) << name;
+        }
+    }
+    EXPECT_EQ(storedTitles().size(), 200U);
+}
+
+TEST_F(ObjectContextTests, WhatIsNoStoreOfTheModelIsRefusedAndLeftAsItWas)
+{
+    const auto alter = [this](const std::string& sql) {
+        open();
+        plain().exec(sql);
+    };
+    struct Case {
+        const char* name;
+        int code;
+        std::function<void()> prepare;
+    };
+    const std::vector<Case> cases = {
+        {"text", SQLITE_NOTADB, [&] { write("Test.sqlite", std::string(5000, 'x')); }},
+        {"short text", SQLITE_NOTADB, [&] { write("Test.sqlite", "SQLite format 3"); }},
+        {"empty", SQLITE_NOTADB, [&] { write("Test.sqlite", ""); }},
+        {"folder", SQLITE_CANTOPEN, [&] { std::filesystem::create_directory(path); }},
+        {"pipe", SQLITE_CANTOPEN, [&] { ASSERT_EQ(::mkfifo(path.c_str(), 0644), 0); }},
+        {"foreign database", SQLITE_NOTADB, [&] { plain().exec("CREATE TABLE t(x); INSERT INTO t VALUES(1)"); }},
+        {"foreign database with a log", SQLITE_NOTADB,
+         [&] {
+             SQLite::Database database = plain();
+             sqlite3_db_config(database.getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+             database.exec("PRAGMA journal_mode=WAL; CREATE TABLE t(x); INSERT INTO t VALUES(1)");
+         }},
+        {"other application", SQLITE_NOTADB, [&] { alter("PRAGMA application_id=7"); }},
+        {"older model", SQLITE_SCHEMA, [&] { alter("PRAGMA user_version=0"); }},
+        {"newer model", SQLITE_SCHEMA, [&] { alter("PRAGMA user_version=2"); }},
+        {"column missing", SQLITE_CORRUPT, [&] { alter("ALTER TABLE Item DROP COLUMN note"); }},
+        {"table added", SQLITE_CORRUPT, [&] { alter("CREATE TABLE extra(x)"); }},
+        {"log without its store", SQLITE_CORRUPT, [&] { write("Test.sqlite-wal", "frames"); }},
+        {"journal without its store", SQLITE_CORRUPT, [&] { write("Test.sqlite-journal", "pages"); }},
+        {"cut in half", SQLITE_CORRUPT,
+         [&] {
+             open();
+             std::filesystem::resize_file(path, std::filesystem::file_size(path) / 2);
+         }},
+    };
+    for (const Case& refused : cases) {
+        SCOPED_TRACE(refused.name);
+        for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+            std::filesystem::remove_all(entry);
+        }
+        refused.prepare();
+        if (std::filesystem::is_regular_file(path)) {
+            ASSERT_EQ(::chmod(path.c_str(), 0644), 0);
+        }
+        const auto before = snapshot();
+        const auto opened = ObjectContext::open(path, model());
+        ASSERT_FALSE(opened.ok());
+        EXPECT_EQ(opened.error().domain, storeErrorDomain);
+        EXPECT_EQ(opened.error().code & 0xFF, refused.code) << opened.error().localizedDescription;
+        EXPECT_THAT(opened.error().localizedDescription, Not(IsEmpty()));
+        EXPECT_EQ(snapshot(), before);
+    }
+    EXPECT_FALSE(ObjectContext::open("", model()).ok());
+    EXPECT_FALSE(ObjectContext::open("/proc/none/Test.sqlite", model()).ok());
+}
+
+} // namespace
+
+} // namespace lodestar
