@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Simulator/EventLoop.h"
+#include "Simulator/Http.h"
+#include "Simulator/Leaf.h"
+
+#include <cstdint>
+#include <functional>
+#include <string>
+
+namespace lodestar::simulator
+{
+
+/// One accepted connection: the TLS side, requests one after another, answers as fast as the client takes them.
+class Connection
+{
+public:
+    struct Callbacks {
+        std::function<Response(const Request&)> answer;
+        std::function<void()> handshaken;
+        /// The connection is of no more use and may be destroyed, though not within the call.
+        std::function<void()> closed;
+    };
+
+    /// Owns the descriptor.
+    Connection(EventLoop& loop, int descriptor, SslPtr ssl, Callbacks callbacks, std::chrono::milliseconds latency);
+    ~Connection();
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+
+    /// Accepts nothing and sends nothing, not even a handshake.
+    void fallSilent();
+    /// As a console that goes away: what is still to be sent is not.
+    void close();
+
+private:
+    enum class Phase { Handshake, Request, Wait, Head, Body, Silent, Closed };
+
+    void onEvents(std::uint32_t events);
+    void pump();
+    bool handshake();
+    bool readRequest();
+    void begin(const Request& request);
+    bool send();
+    bool sendByteWise();
+    bool refill();
+    void finishResponse();
+    void end(bool reset);
+    /// Waits for what the TLS layer wants after a call answered `result`; ends the connection when that is nothing.
+    void await(int result);
+
+    EventLoop& m_loop;
+    int m_descriptor;
+    SslPtr m_ssl;
+    Callbacks m_callbacks;
+    std::chrono::milliseconds m_latency;
+    EventLoop::Watch m_watch = 0;
+    Phase m_phase = Phase::Handshake;
+    RequestParser m_parser;
+    Response m_response;
+    BodyPtr m_head;
+    std::uint64_t m_bodySent = 0;
+    std::string m_out;
+    std::size_t m_outAt = 0;
+    bool m_keepAlive = true;
+};
+
+} // namespace lodestar::simulator

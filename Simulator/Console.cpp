@@ -1,0 +1,361 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Simulator/Console.h"
+
+#include <algorithm>
+
+namespace lodestar::simulator
+{
+
+namespace
+{
+
+constexpr std::uint64_t hugeBody = 1ULL << 30U;
+constexpr std::uint64_t hugeHeaders = 16ULL << 20U;
+
+std::string quoted(const std::string& text)
+{
+    std::string out = "\"";
+    for (const char c : text) {
+        if (c == '"' || c == '\\') {
+            out += '\\';
+        }
+        out += c;
+    }
+    return out + "\"";
+}
+
+Response errorResponse(int status, const std::string& message)
+{
+    Response response;
+    response.status = status;
+    response.headers = {{"Content-Type", "application/xml"}};
+    response.body =
+        makeBody("<?xml version=\"1.0\" encoding=\"UTF-8\"?><ErrorResponse><HTTPStatus>" + std::to_string(status) +
+                 "</HTTPStatus><Message>" + message + "</Message></ErrorResponse>");
+    return response;
+}
+
+Response textResponse(const std::string& contentType, std::string text)
+{
+    Response response;
+    response.headers = {{"Content-Type", contentType}, {"Cache-Control", "no-store"}};
+    response.body = makeBody(std::move(text));
+    return response;
+}
+
+// The credentials are looked for as they stand: clients send them without escaping, and that must be seen here.
+bool holdsElement(const std::string& body, const std::string& name, const std::string& text)
+{
+    const std::size_t start = body.find("<" + name);
+    const std::size_t textStart = start == std::string::npos ? start : body.find('>', start);
+    return textStart != std::string::npos &&
+           body.compare(textStart + 1, text.size() + name.size() + 3, text + "</" + name + ">") == 0;
+}
+
+// A stray ampersand, an unknown entity, a missing end tag, and nothing of the last tenth.
+std::string damaged(std::string text)
+{
+    const std::size_t middle = text.find("</", text.size() / 2);
+    if (middle != std::string::npos) {
+        const std::size_t end = text.find('>', middle);
+        text.replace(middle, end == std::string::npos ? 0 : end - middle + 1, " & &nothing; ");
+    }
+    text.resize(text.size() - text.size() / 10);
+    return text;
+}
+
+// Where to stop so that a chunk is left open.
+std::uint64_t insideChunk(std::uint64_t size)
+{
+    constexpr std::uint64_t chunk = 8192;
+    return size < chunk ? size / 2 + 3 : size / 2 / chunk * (chunk + 8) + 106;
+}
+
+void cut(Response& response, std::uint64_t after, Ending ending)
+{
+    response.stopAfter = after;
+    response.ending = ending;
+}
+
+int hopIn(const std::string& target)
+{
+    const std::size_t at = target.find("?hop=");
+    return at == std::string::npos ? 0 : std::atoi(target.c_str() + at + 5);
+}
+
+const Fault* find(const std::vector<Fault>& faults, FaultName name, const RequestKind& kind)
+{
+    const auto fault =
+        std::ranges::find_if(faults, [&](const Fault& each) { return each.name == name && strikes(each, kind); });
+    return fault == faults.end() ? nullptr : &*fault;
+}
+
+} // namespace
+
+ServedInventory::ServedInventory(const Settings& settings, std::uint64_t number)
+    : inventory(makeInventory(settings, number)), feeds(writeFeeds(inventory, Layout::Compact, settings.feedBytes))
+{
+    for (const ManagedSystem& system : inventory.systems) {
+        quickValues.emplace(system.id + "/SystemName", quoted(system.name));
+        quickValues.emplace(system.id + "/State", quoted(system.state));
+    }
+    for (const auto* list : {&inventory.partitions, &inventory.vios}) {
+        for (const Partition& partition : *list) {
+            quickValues.emplace(partition.id + "/PartitionName", quoted(partition.name));
+            quickValues.emplace(partition.id + "/PartitionState", quoted(partition.state));
+        }
+    }
+}
+
+/// An answer while faults are still working on it.
+struct Console::Draft {
+    Response response;
+    /// The feed that the body is, as long as it is that and may be compressed; empty otherwise.
+    std::string feedType;
+
+    void replaceBody(BodyPtr body)
+    {
+        response.body = std::move(body);
+        feedType.clear();
+    }
+};
+
+Console::Console(const Settings& settings, int index, std::string address,
+                 std::shared_ptr<const ServedInventory> inventory)
+    : m_settings(settings), m_index(index), m_address(std::move(address)), m_served(std::move(inventory))
+{
+    const ConsoleIdentity identity = makeConsoleIdentity(settings.seed, index);
+    m_blanks = {m_address, identity.name, identity.machine.serialNumber, identity.id};
+}
+
+Response Console::answer(const Request& request, const std::vector<Fault>& faults, const std::string& nextAddress)
+{
+    const RequestKind kind = kindOf(request);
+    if (find(faults, FaultName::BasicAuth, kind) != nullptr) {
+        Response response = errorResponse(401, "Credentials are wanted in a header.");
+        response.headers.emplace_back("WWW-Authenticate", "Basic realm=\"corvel\"");
+        return response;
+    }
+    Draft draft;
+    if (kind.area == RequestKind::Area::Logon) {
+        draft.response = logon(request, faults);
+    } else if (!request.header("X-API-Session")) {
+        return errorResponse(401, "There is no session.");
+    } else if (!hasSession(request)) {
+        return errorResponse(403, "The session is not valid.");
+    } else {
+        draft = answerOf(request, kind);
+    }
+    for (const Fault& fault : faults) {
+        if (strikes(fault, kind)) {
+            apply(fault, request, nextAddress, draft);
+        }
+    }
+    if (m_settings.gzip && request.acceptsGzip()) {
+        compress(draft);
+    }
+    return std::move(draft.response);
+}
+
+void Console::setFeed(const std::string& type, std::string text)
+{
+    m_ownFeeds[type] = std::make_shared<const std::string>(std::move(text));
+}
+
+std::shared_ptr<const Leaf> Console::leaf()
+{
+    if (!m_leaf) {
+        changeLeaf(Leaf::Kind::Valid);
+    }
+    return m_leaf;
+}
+
+void Console::changeLeaf(Leaf::Kind kind)
+{
+    m_leaf = makeLeaf(m_address, kind);
+}
+
+// Clients check a key with a request for the console's own feed that accepts one form more than their feed requests do.
+RequestKind Console::kindOf(const Request& request) const
+{
+    using enum RequestKind::Area;
+    const std::string path = request.path();
+    if (path == "/rest/api/web/Logon") {
+        return {Logon, {}};
+    }
+    if (path.starts_with("/rest/api/pcm/")) {
+        return {Metrics, {}};
+    }
+    if (path.find("/quick/") != std::string::npos) {
+        return {Quick, {}};
+    }
+    for (const std::string_view type : feedTypes) {
+        const std::string_view schema = type == "ServiceableEvent" ? "sem" : "uom";
+        if (path == "/rest/api/" + std::string(schema) + "/" + std::string(type)) {
+            const bool check = type == "ManagementConsole" &&
+                               request.header("Accept").value_or("").find("uom+xml") != std::string::npos;
+            return check ? RequestKind{SessionCheck, {}} : RequestKind{Feed, std::string(type)};
+        }
+    }
+    return {Other, {}};
+}
+
+Response Console::logon(const Request& request, const std::vector<Fault>& faults)
+{
+    static const std::string type = "application/vnd.ornis.varnex.web+xml; type=LogonResponse";
+    const RequestKind kind{RequestKind::Area::Logon, {}};
+    if (request.method != "PUT") {
+        return errorResponse(405, "A logon is a PUT.");
+    }
+    const bool accepted = holdsElement(request.body, "UserID", m_settings.user) &&
+                          holdsElement(request.body, "Password", m_settings.password);
+    if (!accepted || find(faults, FaultName::RefuseLogon, kind) != nullptr) {
+        return errorResponse(401, "The user or the password is wrong.");
+    }
+    if (const Fault* fault = find(faults, FaultName::LogonNotXML, kind)) {
+        if (fault->what == "empty") {
+            return textResponse(type, "");
+        }
+        return fault->what == "json" ? textResponse("application/json", R"({"status": "maintenance", "key": null})")
+                                     : textResponse("text/html", "<!DOCTYPE html><html><head><title>Sign in<br></head>"
+                                                                 "<body><p>Please sign in</body></html>");
+    }
+    std::string element;
+    if (find(faults, FaultName::LogonWithoutKey, kind) == nullptr) {
+        const auto high = m_settings.seed + static_cast<std::uint64_t>(m_index) * 104729U;
+        ++m_logons;
+        const std::string key = makeIdentifier(high, m_logons) + "+/" + makeIdentifier(m_logons, ~high) + "=";
+        m_sessions.insert(key);
+        element = "<X-API-Session kxe=\"false\" kb=\"CUR\">" + key + "</X-API-Session>";
+    }
+    return textResponse(type, "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n<LogonResponse "
+                              "xmlns=\"urn:ornis:varnex:web:2012_10\" schemaVersion=\"V1_0\">"
+                              "<Metadata><Atom/></Metadata>" +
+                                  element + "</LogonResponse>");
+}
+
+bool Console::hasSession(const Request& request) const
+{
+    return m_sessions.contains(request.header("X-API-Session").value_or(""));
+}
+
+Console::Draft Console::answerOf(const Request& request, const RequestKind& kind)
+{
+    Draft draft;
+    if (request.method != "GET") {
+        draft.response = errorResponse(405, "This can only be read.");
+        return draft;
+    }
+    if (kind.area == RequestKind::Area::Quick) {
+        draft.response = quick(request.path());
+        return draft;
+    }
+    const bool isFeed = kind.area == RequestKind::Area::Feed || kind.area == RequestKind::Area::SessionCheck;
+    if (!isFeed) {
+        draft.response = errorResponse(404, "There is no such resource.");
+        return draft;
+    }
+    const std::string type = kind.type.empty() ? "ManagementConsole" : kind.type;
+    draft.response = textResponse("application/atom+xml; charset=UTF-8", "");
+    if (const auto own = m_ownFeeds.find(type); own != m_ownFeeds.end()) {
+        draft.response.body = makeBody(own->second);
+    } else {
+        draft.response.body = makeBody(m_served->feeds.find(type)->second, m_blanks);
+        draft.feedType = type;
+    }
+    return draft;
+}
+
+Response Console::quick(const std::string& path) const
+{
+    const std::size_t at = path.find("/quick/");
+    const std::size_t idStart = path.rfind('/', at - 1) + 1;
+    const auto value = m_served->quickValues.find(path.substr(idStart, at - idStart) + path.substr(at + 6));
+    return value == m_served->quickValues.end() ? errorResponse(404, "There is no such property.")
+                                                : textResponse("application/json", value->second);
+}
+
+void Console::apply(const Fault& fault, const Request& request, const std::string& nextAddress, Draft& draft) const
+{
+    Response& response = draft.response;
+    const std::uint64_t size = response.body->size();
+    switch (fault.name) {
+    case FaultName::RefuseFeed:
+        response = errorResponse(500, "The console is busy.");
+        draft.feedType.clear();
+        break;
+    case FaultName::EmptyFeed:
+        draft.replaceBody(makeBody(std::string()));
+        break;
+    case FaultName::StallFeed:
+        response.ending = Ending::Silence;
+        break;
+    case FaultName::Trickle:
+        response.trickled = true;
+        break;
+    case FaultName::CutBody:
+        cut(response, size / 2, Ending::Close);
+        draft.feedType.clear();
+        break;
+    case FaultName::CutChunk:
+        response.chunked = true;
+        cut(response, insideChunk(size), Ending::Close);
+        draft.feedType.clear();
+        break;
+    case FaultName::CutGzip: {
+        const std::string packed = gzipped(readAll(*response.body));
+        draft.replaceBody(makeBody(packed.substr(0, packed.size() / 2)));
+        response.headers.emplace_back("Content-Encoding", "gzip");
+        break;
+    }
+    case FaultName::Reset:
+        cut(response, size / 2, Ending::Reset);
+        draft.feedType.clear();
+        break;
+    case FaultName::MalformedFeed:
+        draft.replaceBody(makeBody(damaged(readAll(*response.body))));
+        break;
+    case FaultName::HugeBody:
+        draft.replaceBody(makeRepeatingBody(
+            "<feed>", "<entry><content>" + std::string(65536, ' ') + "</content></entry>", hugeBody, "</feed>"));
+        break;
+    case FaultName::GzipBomb:
+        draft.replaceBody(makeGzipBomb(hugeBody));
+        response.headers.emplace_back("Content-Encoding", "gzip");
+        break;
+    case FaultName::HugeHeaders:
+        response.headerFiller = hugeHeaders;
+        break;
+    case FaultName::RedirectLoop:
+    case FaultName::RedirectOtherHost: {
+        const bool loop = fault.name == FaultName::RedirectLoop;
+        const std::string hop = loop ? "?hop=" + std::to_string(hopIn(request.target) + 1) : std::string();
+        response = textResponse("text/html", "<p>It is elsewhere.</p>");
+        response.status = 307;
+        response.headers.emplace_back("Location", "https://" + (loop ? m_address : nextAddress) + ":" +
+                                                      std::to_string(consolePort) + request.path() + hop);
+        draft.feedType.clear();
+        break;
+    }
+    case FaultName::Chunked:
+        response.chunked = true;
+        break;
+    default:
+        break;
+    }
+}
+
+void Console::compress(Draft& draft)
+{
+    if (draft.feedType.empty()) {
+        return;
+    }
+    std::shared_ptr<const std::string>& packed = m_compressed[draft.feedType];
+    if (!packed) {
+        packed = std::make_shared<const std::string>(gzipped(readAll(*draft.response.body)));
+    }
+    draft.response.body = makeBody(packed);
+    draft.response.headers.emplace_back("Content-Encoding", "gzip");
+}
+
+} // namespace lodestar::simulator

@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Simulator/Fault.h"
+#include "Simulator/FeedWriter.h"
+#include "Simulator/Http.h"
+#include "Simulator/Inventory.h"
+#include "Simulator/Leaf.h"
+
+#include <map>
+#include <memory>
+#include <string>
+#include <unordered_map>
+#include <unordered_set>
+#include <vector>
+
+namespace lodestar::simulator
+{
+
+/// An inventory made ready to be served; consoles share it.
+struct ServedInventory {
+    Inventory inventory;
+    std::map<std::string, FeedTemplate, std::less<>> feeds;
+    /// JSON-quoted single values by "identifier/property".
+    std::unordered_map<std::string, std::string> quickValues;
+
+    ServedInventory(const Settings& settings, std::uint64_t number);
+};
+
+/// What one console knows and answers. It has no sockets.
+class Console
+{
+public:
+    Console(const Settings& settings, int index, std::string address, std::shared_ptr<const ServedInventory> inventory);
+
+    int index() const { return m_index; }
+    const std::string& address() const { return m_address; }
+    const Inventory& inventory() const { return m_served->inventory; }
+
+    /// The answer, with the faults that strike the request. `nextAddress` is where a redirect to another host leads.
+    Response answer(const Request& request, const std::vector<Fault>& faults, const std::string& nextAddress);
+
+    /// Every session key becomes invalid.
+    void expireSessions() { m_sessions.clear(); }
+    /// From now on that text in the place of the console's own feed.
+    void setFeed(const std::string& type, std::string text);
+    void resetFeed(const std::string& type) { m_ownFeeds.erase(type); }
+
+    /// The certificate that new connections get; made when first asked for.
+    std::shared_ptr<const Leaf> leaf();
+    /// A new certificate for new connections.
+    void changeLeaf(Leaf::Kind kind);
+
+private:
+    struct Draft;
+
+    RequestKind kindOf(const Request& request) const;
+    Response logon(const Request& request, const std::vector<Fault>& faults);
+    bool hasSession(const Request& request) const;
+    Draft answerOf(const Request& request, const RequestKind& kind);
+    Response quick(const std::string& path) const;
+    void apply(const Fault& fault, const Request& request, const std::string& nextAddress, Draft& draft) const;
+    void compress(Draft& draft);
+
+    const Settings& m_settings;
+    int m_index;
+    std::string m_address;
+    std::shared_ptr<const ServedInventory> m_served;
+    BlankValues m_blanks;
+    std::unordered_set<std::string> m_sessions;
+    std::uint64_t m_logons = 0;
+    std::map<std::string, std::shared_ptr<const std::string>> m_ownFeeds;
+    std::map<std::string, std::shared_ptr<const std::string>, std::less<>> m_compressed;
+    std::shared_ptr<const Leaf> m_leaf;
+};
+
+} // namespace lodestar::simulator

@@ -1,0 +1,360 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Simulator/FeedWriter.h"
+
+#include "Simulator/XmlWriter.h"
+
+#include <algorithm>
+#include <cstring>
+#include <fstream>
+#include <stdexcept>
+
+namespace lodestar::simulator
+{
+
+namespace
+{
+
+std::string blank(Blank which)
+{
+    return {FeedTemplate::blankMark(which)};
+}
+
+std::string linkTo(std::string_view type, const std::string& id)
+{
+    return "https://" + blank(Blank::Address) + ":" + std::to_string(consolePort) + "/rest/api/uom/" +
+           std::string(type) + "/" + id;
+}
+
+class FeedWriter
+{
+public:
+    FeedWriter(const Inventory& inventory, Layout layout, std::size_t feedBytes)
+        : m_inventory(inventory), m_indented(layout == Layout::Indented), m_feedBytes(feedBytes)
+    {
+    }
+
+    FeedTemplate feed(std::string_view type)
+    {
+        if (type == "ManagementConsole") {
+            return write(type, 1, [&](std::size_t /*i*/) { managementConsole(); });
+        }
+        if (type == "ManagedSystem") {
+            return write(type, m_inventory.systems.size(), [&](std::size_t i) { system(m_inventory.systems[i]); });
+        }
+        if (type == "VirtualIOServer") {
+            return write(type, m_inventory.vios.size(),
+                         [&](std::size_t i) { partition("VirtualIOServer", m_inventory.vios[i]); });
+        }
+        if (type == "LogicalPartition") {
+            return write(type, m_inventory.partitions.size(),
+                         [&](std::size_t i) { partition("LogicalPartition", m_inventory.partitions[i]); });
+        }
+        if (type == "ServiceableEvent") {
+            return write(type, m_inventory.events.size(), [&](std::size_t i) { event(m_inventory.events[i]); });
+        }
+        return write(type, m_inventory.groups.size(), [&](std::size_t i) { group(m_inventory.groups[i]); });
+    }
+
+private:
+    template <typename WriteEntry>
+    FeedTemplate write(std::string_view type, std::size_t entries, const WriteEntry& writeEntry)
+    {
+        m_xml = XmlWriter(m_indented);
+        m_xml.raw(R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)");
+        m_xml.open("feed", {{"xmlns", "http://www.w3.org/2005/Atom"}});
+        m_xml.text("id", makeIdentifier(type.size(), m_inventory.published.size()));
+        m_xml.text("updated", m_inventory.published);
+        m_xml.empty("link",
+                    {{"rel", "self"},
+                     {"href", "https://" + blank(Blank::Address) + ":" + std::to_string(consolePort) + "/rest/api/" +
+                                  (type == "ServiceableEvent" ? "sem/" : "uom/") + std::string(type)}});
+        for (std::size_t i = 0; i < entries; ++i) {
+            // The share of the padding is counted from the front, so that a large entry takes some of the next one's.
+            m_padTo = m_feedBytes * (i + 1) / entries;
+            writeEntry(i);
+        }
+        m_xml.close();
+        return FeedTemplate(m_xml.take());
+    }
+
+    void openEntry(std::string_view type, const std::string& id)
+    {
+        m_xml.open("entry");
+        m_xml.text("id", id);
+        m_xml.text("title", type);
+        m_xml.text("published", m_inventory.published);
+        m_xml.empty("link", {{"rel", "self"}, {"href", linkTo(type, id)}});
+        m_xml.open("author");
+        m_xml.text("name", "Corvel Console");
+        m_xml.close();
+        m_xml.open("content", {{"type", "application/vnd.ornis.varnex.uom+xml; type=" + std::string(type)}});
+        m_xml.open("uom:" + std::string(type), {{"xmlns:uom", "urn:ornis:varnex:uom:2012_10"},
+                                                {"xmlns", "urn:ornis:varnex:uom:2012_10"},
+                                                {"schemaVersion", "V1_0"}});
+        m_xml.open("Metadata");
+        m_xml.open("Atom");
+        m_xml.text("AtomID", id);
+        m_xml.close();
+        m_xml.close();
+    }
+
+    // The padding is made of properties that no screen reads, as most of a console's are.
+    void closeEntry()
+    {
+        for (std::size_t i = 0; m_xml.size() < m_padTo; ++i) {
+            m_xml.open("AssignableAdapter", {{"kb", "CUR"}, {"kxe", "false"}});
+            m_xml.text("AdapterIdentifier", makeIdentifier(m_xml.size(), i));
+            m_xml.number("SlotNumber", static_cast<long long>(i));
+            m_xml.text("Description", "Four-port network adapter, 25 Gbit/s");
+            m_xml.text("AssignedTo", i % 3 == 0 ? "unassigned" : "partition");
+            m_xml.close();
+        }
+        m_xml.close();
+        m_xml.close();
+        m_xml.close();
+    }
+
+    void machine(const std::string& element, const MachineIdentity& identity)
+    {
+        m_xml.open(element, {{"kb", "CUR"}, {"kxe", "false"}, {"schemaVersion", "V1_0"}});
+        m_xml.text("MachineType", identity.type);
+        m_xml.text("Model", identity.model);
+        m_xml.text("SerialNumber", identity.serialNumber);
+        m_xml.close();
+    }
+
+    void managementConsole()
+    {
+        const ConsoleIdentity& console = m_inventory.console;
+        openEntry("ManagementConsole", blank(Blank::ConsoleID));
+        machine("MachineTypeModelAndSerialNumber",
+                {console.machine.type, console.machine.model, blank(Blank::ConsoleSerial)});
+        m_xml.text("ManagementConsoleName", blank(Blank::ConsoleName));
+        m_xml.open("ManagedSystems");
+        for (const ManagedSystem& each : m_inventory.systems) {
+            link("ManagedSystem", each.id);
+        }
+        m_xml.close();
+        m_xml.open("VersionInfo", {{"kb", "CUR"}, {"kxe", "false"}, {"schemaVersion", "V1_0"}});
+        m_xml.text("BuildLevel", console.buildLevel);
+        m_xml.text("Maintenance", console.maintenance);
+        m_xml.text("Minor", console.minor);
+        m_xml.text("Release", console.release);
+        m_xml.text("ServicePackName", console.servicePackName);
+        m_xml.text("Version", console.version);
+        m_xml.close();
+        closeEntry();
+    }
+
+    void system(const ManagedSystem& system)
+    {
+        openEntry("ManagedSystem", system.id);
+        m_xml.open("AssociatedSystemMemoryConfiguration", {{"kb", "CUR"}, {"kxe", "false"}});
+        m_xml.number("ConfigurableSystemMemory", system.memoryMB);
+        m_xml.number("InstalledSystemMemory", system.memoryMB);
+        m_xml.close();
+        m_xml.open("AssociatedSystemProcessorConfiguration", {{"kb", "CUR"}, {"kxe", "false"}});
+        m_xml.text("ConfigurableSystemProcessorUnits", system.processorUnits);
+        m_xml.text("InstalledSystemProcessorUnits", system.processorUnits);
+        m_xml.close();
+        machine("MachineTypeModelAndSerialNumber", system.machine);
+        m_xml.text("PhysicalSystemAttentionLEDState", system.attentionLED);
+        m_xml.text("PrimaryIPAddress", system.ipAddress);
+        m_xml.textIfAny("ReferenceCode", system.referenceCode);
+        m_xml.text("State", system.state);
+        m_xml.text("SystemName", system.name);
+        closeEntry();
+    }
+
+    void partition(std::string_view type, const Partition& partition)
+    {
+        openEntry(type, partition.id);
+        m_xml.empty("AssociatedManagedSystem",
+                    {{"kb", "CUR"},
+                     {"kxe", "false"},
+                     {"href", linkTo("ManagedSystem", m_inventory.systems[partition.system].id)},
+                     {"rel", "related"}});
+        m_xml.number("PartitionID", partition.number);
+        m_xml.text("PartitionName", partition.name);
+        m_xml.text("PartitionState", partition.state);
+        m_xml.text("PartitionType", partition.type);
+        m_xml.textIfAny("ReferenceCode", partition.referenceCode);
+        closeEntry();
+    }
+
+    void node(const std::string& element, const std::string& host, const MachineIdentity& identity)
+    {
+        m_xml.open(element);
+        m_xml.text("hostName", host);
+        machine("managedTypeModelSerial", identity);
+        m_xml.close();
+    }
+
+    void event(const ServiceableEvent& event)
+    {
+        const ConsoleIdentity& console = m_inventory.console;
+        const MachineIdentity identity = {console.machine.type, console.machine.model, blank(Blank::ConsoleSerial)};
+        openEntry("ServiceableEvent", event.id);
+        m_xml.number("problemNumber", event.problemNumber);
+        m_xml.text("callHomeEnabled", event.callHome);
+        m_xml.number("problemManagementHardwareRecord", event.hardwareRecord);
+        m_xml.text("ApprovalState", event.approvalState);
+        m_xml.text("referenceCode", event.referenceCode);
+        m_xml.text("referenceCodeExtension", event.referenceCodeExtension);
+        m_xml.text("systemReferenceCode", event.systemReferenceCode);
+        m_xml.text("problemState", event.problemState);
+        m_xml.text("firmwareFix", event.firmwareFix);
+        m_xml.number("firstReportedTimestamp", event.firstReported);
+        m_xml.number("lastReportedTimestamp", event.lastReported);
+        m_xml.number("primaryTimestamp", event.primary);
+        node("reportingConsoleNode", blank(Blank::ConsoleName), identity);
+        if (event.failingSystem) {
+            const ManagedSystem& failing = m_inventory.systems[*event.failingSystem];
+            node("failingManagedSystemNode", failing.name, failing.machine);
+        }
+        m_xml.text("shortDescription", event.text);
+        m_xml.number("eventSeverity", event.severity);
+        m_xml.text("notificationType", event.notificationType);
+        m_xml.number("duplicateCount", event.duplicates);
+        node("analyzingConsoleNode", blank(Blank::ConsoleName), identity);
+        m_xml.open("fieldReplaceableUnits");
+        for (const ReplaceableUnit& unit : event.units) {
+            replaceableUnit(unit);
+        }
+        m_xml.close();
+        closeEntry();
+    }
+
+    void replaceableUnit(const ReplaceableUnit& unit)
+    {
+        m_xml.open("FieldReplaceableUnit");
+        m_xml.text("partNumber", unit.partNumber);
+        m_xml.text("class", unit.unitClass);
+        m_xml.text("fieldReplaceableUnitDescription", unit.description);
+        m_xml.text("locationCode", unit.locationCode);
+        m_xml.text("previouslyReplaced", unit.previouslyReplaced);
+        m_xml.text("replacedTimestamp", unit.replacedTimestamp);
+        m_xml.text("replacementGroup", unit.replacementGroup);
+        m_xml.close();
+    }
+
+    void link(std::string_view type, const std::string& id)
+    {
+        m_xml.empty("link", {{"href", linkTo(type, id)}, {"rel", "related"}});
+    }
+
+    template <typename Objects>
+    void links(const std::string& element, std::string_view type, const std::vector<std::size_t>& indices,
+               const Objects& objects)
+    {
+        m_xml.open(element, {{"kb", "CUR"}, {"kxe", "false"}});
+        for (const std::size_t index : indices) {
+            link(type, objects[index].id);
+        }
+        m_xml.close();
+    }
+
+    void group(const Group& group)
+    {
+        openEntry("Group", group.id);
+        m_xml.text("GroupName", group.name);
+        m_xml.text("GroupColor", group.color);
+        links("AssociatedLogicalPartitions", "LogicalPartition", group.partitions, m_inventory.partitions);
+        links("AssociatedVirtualIOServers", "VirtualIOServer", group.vios, m_inventory.vios);
+        links("AssociatedManagedSystems", "ManagedSystem", group.systems, m_inventory.systems);
+        closeEntry();
+    }
+
+    const Inventory& m_inventory;
+    bool m_indented;
+    std::size_t m_feedBytes;
+    std::size_t m_padTo = 0;
+    XmlWriter m_xml{false};
+};
+
+} // namespace
+
+FeedTemplate::FeedTemplate(const std::string& marked)
+{
+    m_text.reserve(marked.size());
+    for (const char c : marked) {
+        if (c >= 1 && c <= static_cast<char>(blankCount)) {
+            m_holes.push_back({m_text.size(), static_cast<std::size_t>(c - 1)});
+        } else {
+            m_text += c;
+        }
+    }
+}
+
+std::size_t FeedTemplate::size(const BlankValues& values) const
+{
+    std::size_t size = m_text.size();
+    for (const Hole& hole : m_holes) {
+        size += values[hole.blank].size();
+    }
+    return size;
+}
+
+std::string FeedTemplate::filled(const BlankValues& values) const
+{
+    std::string text(size(values), '\0');
+    FeedCursor(*this, values).read(text.data(), text.size());
+    return text;
+}
+
+std::size_t FeedCursor::read(char* out, std::size_t count)
+{
+    std::size_t done = 0;
+    while (done < count) {
+        const bool hasHole = m_hole < m_feed.m_holes.size();
+        const std::size_t stop = hasHole ? m_feed.m_holes[m_hole].at : m_feed.m_text.size();
+        if (m_at < stop) {
+            const std::size_t n = std::min(count - done, stop - m_at);
+            std::memcpy(out + done, m_feed.m_text.data() + m_at, n);
+            m_at += n;
+            done += n;
+        } else if (!hasHole) {
+            break;
+        } else {
+            const std::string& value = m_values[m_feed.m_holes[m_hole].blank];
+            const std::size_t n = std::min(count - done, value.size() - m_inValue);
+            std::memcpy(out + done, value.data() + m_inValue, n);
+            m_inValue += n;
+            done += n;
+            if (m_inValue == value.size()) {
+                m_inValue = 0;
+                ++m_hole;
+            }
+        }
+    }
+    return done;
+}
+
+std::map<std::string, FeedTemplate, std::less<>> writeFeeds(const Inventory& inventory, Layout layout,
+                                                            std::size_t feedBytes)
+{
+    std::map<std::string, FeedTemplate, std::less<>> feeds;
+    FeedWriter writer(inventory, layout, feedBytes);
+    for (const std::string_view type : feedTypes) {
+        feeds.emplace(type, writer.feed(type));
+    }
+    return feeds;
+}
+
+void writeDemoFeeds(const std::string& folder)
+{
+    const Inventory inventory = makeDemoInventory();
+    const ConsoleIdentity& console = inventory.console;
+    const BlankValues values = {"127.0.0.1", console.name, console.machine.serialNumber, console.id};
+    for (const auto& [type, feed] : writeFeeds(inventory, Layout::Indented, 0)) {
+        std::string path = folder;
+        path.append("/").append(type).append(".xml");
+        std::ofstream file(path, std::ios::binary | std::ios::trunc);
+        file << feed.filled(values) << '\n';
+        if (!file.flush()) {
+            throw std::runtime_error("cannot write " + path);
+        }
+    }
+}
+
+} // namespace lodestar::simulator

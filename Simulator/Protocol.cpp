@@ -1,0 +1,132 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Simulator/Protocol.h"
+
+#include <algorithm>
+#include <charconv>
+#include <stdexcept>
+#include <strings.h>
+
+namespace lodestar::simulator
+{
+
+namespace
+{
+
+bool isHeader(const std::string& line, std::string_view name)
+{
+    return line.size() > name.size() && line[name.size()] == ':' &&
+           strncasecmp(line.data(), name.data(), name.size()) == 0;
+}
+
+std::int64_t numberIn(const std::string& word)
+{
+    std::int64_t number = 0;
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
+    if (error != std::errc() || end != word.data() + word.size()) {
+        throw std::invalid_argument("not a number: " + word);
+    }
+    return number;
+}
+
+} // namespace
+
+std::optional<std::string> RecordedRequest::header(std::string_view name) const
+{
+    const auto line = std::ranges::find_if(headers, [&](const std::string& each) { return isHeader(each, name); });
+    if (line == headers.end()) {
+        return std::nullopt;
+    }
+    const std::size_t start = line->find_first_not_of(" \t", name.size() + 1);
+    return start == std::string::npos ? std::string() : line->substr(start);
+}
+
+int RecordedRequest::headerCount(std::string_view name) const
+{
+    return static_cast<int>(
+        std::ranges::count_if(headers, [&](const std::string& each) { return isHeader(each, name); }));
+}
+
+std::string encodeWord(std::string_view bytes)
+{
+    if (bytes.empty()) {
+        return "%";
+    }
+    static constexpr std::string_view digits = "0123456789ABCDEF";
+    std::string word;
+    word.reserve(bytes.size());
+    for (const char c : bytes) {
+        const auto byte = static_cast<unsigned char>(c);
+        if (byte <= 0x20 || byte >= 0x7F || c == '%') {
+            word += {'%', digits[byte >> 4U], digits[byte & 0xFU]};
+        } else {
+            word += c;
+        }
+    }
+    return word;
+}
+
+std::string decodeWord(std::string_view word)
+{
+    if (word == "%") {
+        return {};
+    }
+    std::string bytes;
+    bytes.reserve(word.size());
+    for (std::size_t i = 0; i < word.size(); ++i) {
+        if (word[i] != '%') {
+            bytes += word[i];
+            continue;
+        }
+        unsigned byte = 0;
+        const char* digits = word.data() + i + 1;
+        if (i + 2 >= word.size() || std::from_chars(digits, digits + 2, byte, 16).ptr != digits + 2) {
+            throw std::invalid_argument("not percent-encoded: " + std::string(word));
+        }
+        bytes += static_cast<char>(byte);
+        i += 2;
+    }
+    return bytes;
+}
+
+std::vector<std::string> splitWords(std::string_view line)
+{
+    std::vector<std::string> words;
+    std::size_t start = 0;
+    while ((start = line.find_first_not_of(' ', start)) != std::string_view::npos) {
+        const std::size_t end = std::min(line.find(' ', start), line.size());
+        words.emplace_back(line.substr(start, end - start));
+        start = end;
+    }
+    return words;
+}
+
+std::string encodeRequest(const RecordedRequest& request)
+{
+    std::string line = std::to_string(request.console) + " " + std::to_string(request.connection) + " " +
+                       std::to_string(request.milliseconds) + " " + encodeWord(request.method) + " " +
+                       encodeWord(request.path) + " " + encodeWord(request.body);
+    for (const std::string& header : request.headers) {
+        line += " " + encodeWord(header);
+    }
+    return line;
+}
+
+RecordedRequest decodeRequest(const std::vector<std::string>& words)
+{
+    if (words.size() < 6) {
+        throw std::invalid_argument("not a request");
+    }
+    RecordedRequest request;
+    request.console = static_cast<int>(numberIn(words[0]));
+    request.connection = static_cast<std::uint64_t>(numberIn(words[1]));
+    request.milliseconds = numberIn(words[2]);
+    request.method = decodeWord(words[3]);
+    request.path = decodeWord(words[4]);
+    request.body = decodeWord(words[5]);
+    for (std::size_t i = 6; i < words.size(); ++i) {
+        request.headers.push_back(decodeWord(words[i]));
+    }
+    return request;
+}
+
+} // namespace lodestar::simulator

@@ -1,0 +1,356 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Simulator/Simulator.h"
+
+#include <algorithm>
+#include <arpa/inet.h>
+#include <cerrno>
+#include <netinet/tcp.h>
+#include <stdexcept>
+#include <sys/epoll.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <system_error>
+#include <unistd.h>
+#include <utility>
+
+namespace lodestar::simulator
+{
+
+namespace
+{
+
+/// Consoles beyond these share the inventories of the first ones, which keeps thousands of them small.
+constexpr int distinctInventories = 16;
+
+void raiseDescriptorLimit()
+{
+    rlimit limit{};
+    if (getrlimit(RLIMIT_NOFILE, &limit) == 0) {
+        limit.rlim_cur = limit.rlim_max;
+        setrlimit(RLIMIT_NOFILE, &limit);
+    }
+}
+
+int listeningSocket(const std::string& address)
+{
+    const int descriptor = ::socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
+    if (descriptor < 0) {
+        throw std::system_error(errno, std::generic_category(), "socket");
+    }
+    // Lets a stopped console come back while old connections still linger; it does not let two listen at once.
+    const int on = 1;
+    setsockopt(descriptor, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
+    sockaddr_in name{};
+    name.sin_family = AF_INET;
+    name.sin_port = htons(consolePort);
+    inet_pton(AF_INET, address.c_str(), &name.sin_addr);
+    if (::bind(descriptor, reinterpret_cast<const sockaddr*>(&name), sizeof name) != 0 ||
+        ::listen(descriptor, SOMAXCONN) != 0) {
+        const int error = errno;
+        ::close(descriptor);
+        throw std::system_error(error, std::generic_category(), address);
+    }
+    return descriptor;
+}
+
+// Blocks of 256 addresses from 127.16.0.2 on, scattered by the process, so that processes seldom meet; one that finds
+// a block taken goes to another.
+std::string blockOfProcess(int attempt)
+{
+    const auto seed = static_cast<unsigned>(getpid()) * 2654435761U + static_cast<unsigned>(attempt) * 40503U;
+    const unsigned block = (seed >> 8U) % (200U * 256U);
+    return "127." + std::to_string(16 + block / 256) + "." + std::to_string(block % 256) + ".2";
+}
+
+} // namespace
+
+Simulator::Simulator(EventLoop& loop, Settings settings)
+    : m_loop(loop), m_settings(std::move(settings)), m_context(makeServerContext())
+{
+    raiseDescriptorLimit();
+    const int inventories = std::min(m_settings.consoles, distinctInventories);
+    for (int i = 0; i < inventories; ++i) {
+        m_inventories.push_back(std::make_shared<const ServedInventory>(m_settings, static_cast<std::uint64_t>(i)));
+    }
+    constexpr int attempts = 64;
+    const bool fixed = !m_settings.address.empty();
+    for (int attempt = 1;; ++attempt) {
+        buildConsoles(fixed ? m_settings.address : blockOfProcess(attempt));
+        try {
+            listenEverywhere();
+            break;
+        } catch (const std::system_error& error) {
+            if (fixed || attempt == attempts || error.code() != std::errc::address_in_use) {
+                throw;
+            }
+        }
+    }
+    for (const std::string& fault : m_settings.faults) {
+        setFault(Fault::parse(fault));
+    }
+}
+
+Simulator::~Simulator()
+{
+    for (const auto& each : m_stations) {
+        stopListening(*each);
+        each->connections.clear();
+    }
+}
+
+const std::string& Simulator::address(int console) const
+{
+    return station(console).console.address();
+}
+
+Simulator::Station& Simulator::station(int console)
+{
+    return *m_stations.at(static_cast<std::size_t>(console));
+}
+
+const Simulator::Station& Simulator::station(int console) const
+{
+    return *m_stations.at(static_cast<std::size_t>(console));
+}
+
+void Simulator::buildConsoles(const std::string& base)
+{
+    m_stations.clear();
+    for (int i = 0; i < m_settings.consoles; ++i) {
+        const auto inventory = m_inventories.at(static_cast<std::size_t>(i % distinctInventories));
+        m_stations.push_back(std::make_unique<Station>(Console(m_settings, i, addressAt(base, i), inventory)));
+    }
+}
+
+void Simulator::listenEverywhere()
+{
+    try {
+        for (const auto& each : m_stations) {
+            listenOn(*each);
+        }
+    } catch (const std::system_error&) {
+        for (const auto& each : m_stations) {
+            stopListening(*each);
+        }
+        throw;
+    }
+}
+
+void Simulator::listenOn(Station& station)
+{
+    if (station.listener < 0) {
+        station.listener = listeningSocket(station.console.address());
+        station.watch = m_loop.watch(station.listener, EPOLLIN, [this, &station](std::uint32_t) { accept(station); });
+    }
+}
+
+void Simulator::stopListening(Station& station)
+{
+    if (station.listener >= 0) {
+        m_loop.forget(station.watch);
+        ::close(station.listener);
+        station.listener = -1;
+    }
+}
+
+void Simulator::closeConnections(Station& station)
+{
+    while (!station.connections.empty()) {
+        station.connections.begin()->second->close();
+    }
+}
+
+void Simulator::stopConsole(int console)
+{
+    stopListening(station(console));
+    closeConnections(station(console));
+}
+
+void Simulator::startConsole(int console)
+{
+    listenOn(station(console));
+}
+
+void Simulator::accept(Station& station)
+{
+    m_buried.clear();
+    while (station.listener >= 0) {
+        const int descriptor = ::accept4(station.listener, nullptr, nullptr, SOCK_NONBLOCK | SOCK_CLOEXEC);
+        if (descriptor < 0) {
+            return;
+        }
+        const int on = 1;
+        setsockopt(descriptor, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
+        adopt(station, descriptor);
+    }
+}
+
+void Simulator::adopt(Station& station, int descriptor)
+{
+    SslPtr ssl(SSL_new(m_context.get()));
+    const auto leaf = station.console.leaf();
+    SSL_use_certificate(ssl.get(), leaf->certificate.get());
+    SSL_use_PrivateKey(ssl.get(), leaf->key.get());
+    const std::uint64_t number = ++m_lastConnection;
+    ++station.statistics.connections;
+    Connection::Callbacks callbacks;
+    callbacks.answer = [this, &station, number](const Request& request) { return answer(station, number, request); };
+    callbacks.handshaken = [&station] { ++station.statistics.handshakes; };
+    callbacks.closed = [this, &station, number] { bury(station, number); };
+    auto connection = std::make_unique<Connection>(m_loop, descriptor, std::move(ssl), std::move(callbacks),
+                                                   std::chrono::milliseconds(m_settings.latency));
+    Connection& added = *connection;
+    station.connections.emplace(number, std::move(connection));
+    const auto isSilence = [](const Fault& each) { return each.name == FaultName::SilentAfterAccept; };
+    if (std::ranges::any_of(faultsOf(station.console.index()), isSilence)) {
+        added.fallSilent();
+    }
+}
+
+void Simulator::bury(Station& station, std::uint64_t number)
+{
+    if (auto node = station.connections.extract(number)) {
+        m_buried.push_back(std::move(node.mapped()));
+    }
+}
+
+Response Simulator::answer(Station& station, std::uint64_t connection, const Request& request)
+{
+    m_buried.clear();
+    const int console = station.console.index();
+    ++station.statistics.requests;
+    record(console, connection, request);
+    return station.console.answer(request, faultsOf(console), address((console + 1) % consoleCount()));
+}
+
+void Simulator::record(int console, std::uint64_t connection, const Request& request)
+{
+    if (m_settings.recordCap == 0) {
+        return;
+    }
+    if (m_requests.size() >= m_settings.recordCap) {
+        m_requests.pop_front();
+    }
+    const auto age = std::chrono::duration_cast<std::chrono::milliseconds>(EventLoop::Clock::now() - m_start);
+    m_requests.push_back(
+        {console, connection, age.count(), request.method, request.target, request.headers, request.body});
+}
+
+std::vector<Fault> Simulator::faultsOf(int console) const
+{
+    std::vector<Fault> faults;
+    std::ranges::copy_if(m_faults, std::back_inserter(faults),
+                         [&](const Fault& each) { return !each.console || *each.console == console; });
+    return faults;
+}
+
+template <typename Do>
+void Simulator::forEachStruck(const Fault& fault, const Do& act)
+{
+    if (fault.console) {
+        act(station(*fault.console));
+        return;
+    }
+    for (const auto& each : m_stations) {
+        act(*each);
+    }
+}
+
+void Simulator::setFault(const Fault& fault)
+{
+    forEachStruck(fault, [&](Station& each) { strikeConsole(fault, each); });
+    const bool once = fault.name == FaultName::ExpireSession || fault.name == FaultName::SwapCertificate;
+    if (!once && std::ranges::find(m_faults, fault) == m_faults.end()) {
+        m_faults.push_back(fault);
+    }
+}
+
+// What a fault does at once, beside what it does to later requests.
+void Simulator::strikeConsole(const Fault& fault, Station& station)
+{
+    switch (fault.name) {
+    case FaultName::ExpireSession:
+        station.console.expireSessions();
+        break;
+    case FaultName::ClosePort:
+        stopListening(station);
+        closeConnections(station);
+        break;
+    case FaultName::SwapCertificate:
+        station.console.changeLeaf(Leaf::Kind::Valid);
+        closeConnections(station);
+        break;
+    case FaultName::ExpiredCertificate:
+        station.console.changeLeaf(Leaf::Kind::Expired);
+        closeConnections(station);
+        break;
+    case FaultName::MisnamedCertificate:
+        station.console.changeLeaf(Leaf::Kind::Misnamed);
+        closeConnections(station);
+        break;
+    default:
+        break;
+    }
+}
+
+void Simulator::clearFault(const Fault& fault)
+{
+    const auto kept = std::remove(m_faults.begin(), m_faults.end(), fault);
+    if (kept == m_faults.end()) {
+        return;
+    }
+    m_faults.erase(kept, m_faults.end());
+    forEachStruck(fault, [&](Station& each) {
+        if (fault.name == FaultName::ClosePort) {
+            listenOn(each);
+        } else if (fault.name == FaultName::ExpiredCertificate || fault.name == FaultName::MisnamedCertificate) {
+            each.console.changeLeaf(Leaf::Kind::Valid);
+            closeConnections(each);
+        }
+    });
+}
+
+void Simulator::clearFaults()
+{
+    while (!m_faults.empty()) {
+        clearFault(Fault(m_faults.back()));
+    }
+}
+
+void Simulator::setFeed(int console, const std::string& type, std::optional<std::string> text)
+{
+    if (std::ranges::find(feedTypes, type) == feedTypes.end()) {
+        throw std::invalid_argument("no feed is called " + type);
+    }
+    if (text) {
+        station(console).console.setFeed(type, std::move(*text));
+    } else {
+        station(console).console.resetFeed(type);
+    }
+}
+
+Statistics Simulator::statistics(std::optional<int> console) const
+{
+    if (console) {
+        return station(*console).statistics;
+    }
+    Statistics sum;
+    for (const auto& each : m_stations) {
+        sum.connections += each->statistics.connections;
+        sum.handshakes += each->statistics.handshakes;
+        sum.requests += each->statistics.requests;
+    }
+    return sum;
+}
+
+InventorySummary Simulator::summary(int console) const
+{
+    return summaryOf(station(console).console.inventory());
+}
+
+std::string Simulator::certificateFingerprint(int console)
+{
+    return station(console).console.leaf()->fingerprint();
+}
+
+} // namespace lodestar::simulator

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Simulator/Connection.h"
+#include "Simulator/Console.h"
+#include "Simulator/EventLoop.h"
+#include "Simulator/Protocol.h"
+
+#include <deque>
+#include <memory>
+#include <optional>
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+namespace lodestar::simulator
+{
+
+/// A fleet of consoles on one event loop. Everything happens on the thread that runs the loop. Consoles are named by
+/// their index; an index that does not exist throws `std::out_of_range`.
+class Simulator
+{
+public:
+    /// Starts to listen. Throws `std::system_error` when an address cannot be had, and what `Fault::parse` and
+    /// `addressAt` throw.
+    Simulator(EventLoop& loop, Settings settings);
+    ~Simulator();
+    Simulator(const Simulator&) = delete;
+    Simulator& operator=(const Simulator&) = delete;
+
+    const Settings& settings() const { return m_settings; }
+    int consoleCount() const { return static_cast<int>(m_stations.size()); }
+    const std::string& address(int console) const;
+
+    void setFault(const Fault& fault);
+    /// Takes that fault away, as it was set.
+    void clearFault(const Fault& fault);
+    void clearFaults();
+    void setLatency(int milliseconds) { m_settings.latency = milliseconds; }
+    /// That text in the place of the console's own feed; nothing gives it its own feed back.
+    void setFeed(int console, const std::string& type, std::optional<std::string> text);
+
+    /// Stops listening and closes the connections; nothing happens to a stopped console.
+    void stopConsole(int console);
+    /// Listens on the old address again; nothing happens to a running console.
+    void startConsole(int console);
+
+    const std::deque<RecordedRequest>& requests() const { return m_requests; }
+    void clearRequests() { m_requests.clear(); }
+    /// Of one console or of all together, since the start.
+    Statistics statistics(std::optional<int> console) const;
+    InventorySummary summary(int console) const;
+    std::string certificateFingerprint(int console);
+
+private:
+    /// A console with its sockets.
+    struct Station {
+        Station(Console served) : console(std::move(served)) {}
+        Console console;
+        int listener = -1;
+        EventLoop::Watch watch = 0;
+        std::unordered_map<std::uint64_t, std::unique_ptr<Connection>> connections;
+        Statistics statistics;
+    };
+
+    Station& station(int console);
+    const Station& station(int console) const;
+    void buildConsoles(const std::string& base);
+    void listenEverywhere();
+    void listenOn(Station& station);
+    void stopListening(Station& station);
+    void closeConnections(Station& station);
+    void accept(Station& station);
+    void adopt(Station& station, int descriptor);
+    void bury(Station& station, std::uint64_t number);
+    Response answer(Station& station, std::uint64_t connection, const Request& request);
+    void record(int console, std::uint64_t connection, const Request& request);
+    std::vector<Fault> faultsOf(int console) const;
+    void strikeConsole(const Fault& fault, Station& station);
+    template <typename Do>
+    void forEachStruck(const Fault& fault, const Do& act);
+
+    EventLoop& m_loop;
+    Settings m_settings;
+    ContextPtr m_context;
+    EventLoop::Clock::time_point m_start = EventLoop::Clock::now();
+    std::vector<std::shared_ptr<const ServedInventory>> m_inventories;
+    std::vector<std::unique_ptr<Station>> m_stations;
+    std::vector<Fault> m_faults;
+    std::uint64_t m_lastConnection = 0;
+    std::deque<RecordedRequest> m_requests;
+    /// Closed connections, kept until the call that closed them has returned.
+    std::vector<std::unique_ptr<Connection>> m_buried;
+};
+
+} // namespace lodestar::simulator

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Simulator/Protocol.h"
+#include "Simulator/Settings.h"
+
+#include <mutex>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <sys/types.h>
+#include <vector>
+
+namespace lodestar::simulator
+{
+
+/// A simulator in a process of its own, so that sanitizers and timings see the client alone. Every call has taken
+/// effect when it returns. Thread-safe. Calls throw `std::runtime_error` for what the simulator refuses, when it does
+/// not answer within 30 seconds, and when it is not running.
+///
+/// Unless an address is set, each process has a block of addresses of its own, so test processes can run side by side.
+class SimulatorProcess
+{
+public:
+    SimulatorProcess() = default;
+    /// As `start`.
+    explicit SimulatorProcess(const Settings& settings) { start(settings); }
+    ~SimulatorProcess();
+    SimulatorProcess(const SimulatorProcess&) = delete;
+    SimulatorProcess& operator=(const SimulatorProcess&) = delete;
+
+    /// Returns when every console listens. Stops a simulator that was running.
+    void start(const Settings& settings);
+    /// Ends the process and waits for its end.
+    void stop();
+    pid_t pid() const { return m_pid; }
+
+    int consoleCount() const { return static_cast<int>(m_addresses.size()); }
+    const std::string& address(int console = 0) const { return m_addresses.at(static_cast<std::size_t>(console)); }
+    const std::string& user() const { return m_settings.user; }
+    const std::string& password() const { return m_settings.password; }
+
+    /// "name", "name:what", "name:console" or "name:what:console"; see `Fault`.
+    void setFault(std::string_view fault) { command("fault " + std::string(fault)); }
+    /// A fault as it was set.
+    void clearFault(std::string_view fault) { command("clear " + std::string(fault)); }
+    void clearFaults() { command("clear"); }
+    /// For connections made from now on.
+    void setLatency(int milliseconds) { command("latency " + std::to_string(milliseconds)); }
+    /// That text, with status 200, in the place of the console's own feed of a type.
+    void setFeed(int console, std::string_view type, std::string_view text);
+    void resetFeed(int console, std::string_view type);
+    /// Nobody listens on the address, and connections are closed; then the same console on the same address again.
+    void stopConsole(int console) { command("stop " + std::to_string(console)); }
+    void startConsole(int console) { command("start " + std::to_string(console)); }
+
+    /// In the order of their arrival, of one console or of all.
+    std::vector<RecordedRequest> requests(std::optional<int> console = std::nullopt);
+    void clearRequests() { command("clear-requests"); }
+    /// Since the start.
+    Statistics statistics(std::optional<int> console = std::nullopt);
+    std::uint64_t handshakes(std::optional<int> console = std::nullopt) { return statistics(console).handshakes; }
+    InventorySummary summary(int console = 0);
+    /// SHA-256 of the certificate that the console presents now, in lower-case hexadecimal.
+    std::string certificateFingerprint(int console = 0);
+
+private:
+    /// The lines before the "ok".
+    std::vector<std::string> command(const std::string& line);
+    std::vector<std::string> linesUntil(std::string_view last);
+    std::string readLine();
+    void spawn(const std::vector<std::string>& arguments);
+    void end();
+
+    std::mutex m_mutex;
+    Settings m_settings;
+    std::vector<std::string> m_addresses;
+    pid_t m_pid = -1;
+    int m_channel = -1;
+    std::string m_received;
+};
+
+} // namespace lodestar::simulator
