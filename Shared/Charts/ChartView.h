@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Charts/ChartData.h"
+#include "Charts/ChartEasing.h"
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+namespace lodestar
+{
+
+class ChartView;
+
+/// Told of the user's selections, on the main thread.
+class ChartViewDelegate
+{
+public:
+    virtual ~ChartViewDelegate() = default;
+    virtual void chartValueSelected(ChartView& chartView, const ChartEntry& entry, int dataSetIndex,
+                                    const Highlight& highlight) = 0;
+    virtual void chartValueNothingSelected(ChartView& chartView) = 0;
+};
+
+/// A controller's side of a chart: what it shows, how, and whether. A constant property of the controller under the
+/// outlet's own name; the chart item of the scene draws it. Main thread only.
+class ChartView : public QObject
+{
+    Q_OBJECT
+    QML_NAMED_ELEMENT(ChartView)
+    QML_UNCREATABLE("made by controllers")
+    Q_PROPERTY(bool hidden READ isHidden WRITE setHidden NOTIFY hiddenChanged)
+    Q_PROPERTY(QString accessibleText READ accessibleText NOTIFY dataChanged)
+
+public:
+    explicit ChartView(QObject* parent = nullptr) : QObject(parent) {}
+
+    bool isHidden() const { return m_hidden; }
+    void setHidden(bool hidden);
+
+    /// Not owned and may be null; must outlive this or be taken back.
+    ChartViewDelegate* delegate() const { return m_delegate; }
+    void setDelegate(ChartViewDelegate* delegate) { m_delegate = delegate; }
+
+    /// Grows the chart in, durations in seconds. The chart is complete at once where no item shows it.
+    void animate(double xAxisDuration, double yAxisDuration, ChartEasingOption easingOption);
+
+    /// What a screen reader says instead of the picture; empty without data.
+    virtual QString accessibleText() const = 0;
+
+Q_SIGNALS:
+    void hiddenChanged();
+    /// Anything that the picture depends on.
+    void changed();
+    /// The data, beside `changed`.
+    void dataChanged();
+    void animateRequested(const lodestar::ChartAnimation& animation);
+
+private:
+    ChartViewDelegate* m_delegate = nullptr;
+    bool m_hidden = false;
+};
+
+} // namespace lodestar

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Charts/PieChartModel.h"
+
+#include <QPainterPath>
+#include <QPointF>
+#include <QRectF>
+
+#include <optional>
+#include <vector>
+
+namespace lodestar
+{
+
+/// One slice in place. Angles in degrees clockwise from 12 o'clock.
+struct PieSlice {
+    qsizetype entry = 0; ///< Position among the data set's entries.
+    double start = 0;
+    double sweep = 0;
+    double gap = 0; ///< Half the gap on either side, in points; 0 for the only slice.
+    QPointF center; ///< Of the pie, moved outward for a highlighted slice.
+};
+
+/// A pie in place.
+struct PieLayout {
+    LegendLayout legend;
+    QRectF content; ///< What the legend leaves.
+    QPointF center;
+    double radius = 0;
+    double holeRadius = 0; ///< 0 without a hole.
+    double bandRadius = 0; ///< At least the hole's.
+    std::vector<PieSlice> slices;
+};
+
+/// Draws a pie: a ring of slices from 12 o'clock clockwise with see-through gaps of two points, a pale band along the
+/// hole, values in the slices that have room for them, a legend. The model must outlive the renderer.
+class PieChartRenderer : public ChartRenderer
+{
+public:
+    explicit PieChartRenderer(const PieChartModel& model) : m_model(model) {}
+
+    /// Widest box of the pie in points; it shrinks to what the legend leaves.
+    void setMaximumDiameter(double diameter) { m_maximumDiameter = diameter; }
+
+    void draw(QPainter& painter, const ChartFrame& frame) const override;
+    double preferredHeight(double width, const ChartStyle& style) const override;
+
+    PieLayout layout(const ChartFrame& frame) const;
+    /// The entry whose slice lies at a point of the complete chart, in points from its top left.
+    std::optional<qsizetype> entryAt(const PieLayout& layout, QPointF position) const;
+    /// A slice's outline between two radii.
+    static QPainterPath slicePath(const PieSlice& slice, double innerRadius, double outerRadius);
+
+private:
+    void drawSlices(QPainter& painter, const PieLayout& layout, const ChartStyle& style) const;
+    void drawValues(QPainter& painter, const PieLayout& layout, const ChartFrame& frame) const;
+    void drawDescription(QPainter& painter, const ChartFrame& frame) const;
+    std::vector<PieSlice> slicesOf(const PieLayout& layout, const ChartPhases& phases) const;
+    std::vector<LegendItem> legendItems() const;
+
+    const PieChartModel& m_model;
+    double m_maximumDiameter = 240;
+};
+
+} // namespace lodestar

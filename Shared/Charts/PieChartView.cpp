@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Charts/PieChartView.h"
+
+namespace lodestar
+{
+
+void PieChartView::setData(const PieChartData& data)
+{
+    m_model.data = data;
+    Q_EMIT changed();
+    Q_EMIT dataChanged();
+    Q_EMIT selectionChanged();
+}
+
+void PieChartView::highlightValues(const QList<Highlight>& highlights)
+{
+    if (m_model.highlights != highlights) {
+        m_model.highlights = highlights;
+        Q_EMIT changed();
+        Q_EMIT selectionChanged();
+    }
+}
+
+void PieChartView::select(std::optional<qsizetype> entry)
+{
+    const QList<ChartEntry>& entries = m_model.data.dataSet.entries;
+    if (entry && (*entry < 0 || *entry >= entries.size() || entry == selectedEntry())) {
+        entry.reset();
+    }
+    if (!entry) {
+        highlightValues({});
+        if (delegate() != nullptr) {
+            delegate()->chartValueNothingSelected(*this);
+        }
+        return;
+    }
+    const ChartEntry selected = entries.at(*entry);
+    const Highlight highlight{selected.xIndex, 0};
+    highlightValues({highlight});
+    if (delegate() != nullptr) {
+        delegate()->chartValueSelected(*this, selected, 0, highlight);
+    }
+}
+
+std::optional<qsizetype> PieChartView::selectedEntry() const
+{
+    const QList<ChartEntry>& entries = m_model.data.dataSet.entries;
+    for (qsizetype i = 0; i < entries.size(); ++i) {
+        if (m_model.isHighlighted(entries.at(i))) {
+            return i;
+        }
+    }
+    return std::nullopt;
+}
+
+QString PieChartView::textOf(const ChartEntry& entry) const
+{
+    return (m_model.data.labelOf(entry) + QLatin1Char(' ') + m_model.valueText(entry)).trimmed();
+}
+
+QString PieChartView::accessibleText() const
+{
+    QStringList texts;
+    for (const ChartEntry& entry : m_model.data.dataSet.entries) {
+        texts << textOf(entry);
+    }
+    return texts.join(QStringLiteral(", "));
+}
+
+QString PieChartView::selectedText() const
+{
+    const std::optional<qsizetype> entry = selectedEntry();
+    return entry ? textOf(m_model.data.dataSet.entries.at(*entry)) : QString();
+}
+
+} // namespace lodestar
