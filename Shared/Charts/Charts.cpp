@@ -1,21 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Charts/Charts.h"
 
-#include <QtGlobal>
+#include <QQmlEngine>
 
-// Generated with the module.
+// Generated with the module. A static library's registration is left out by the linker unless it is named.
 void qml_register_types_Lodestar_Charts();
 
 namespace lodestar
 {
 
-void registerCharts()
+void installCharts(QQmlEngine& engine)
 {
-    static const bool registered = [] {
-        qml_register_types_Lodestar_Charts();
-        return true;
-    }();
-    Q_UNUSED(registered)
+    [[maybe_unused]] static volatile auto registration = &qml_register_types_Lodestar_Charts;
+    engine.addImportPath(QStringLiteral("qrc:/"));
 }
 
 } // namespace lodestar

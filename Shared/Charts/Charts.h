@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+class QQmlEngine;
+
 namespace lodestar
 {
 
-/// Makes the QML module Lodestar.Charts known to the process. Call once before the engine is made; a static library's
-/// module is otherwise left out by the linker.
-void registerCharts();
+/// Makes `import Lodestar.Charts` work in the engine. Once an engine, before it loads anything.
+void installCharts(QQmlEngine& engine);
 
 } // namespace lodestar

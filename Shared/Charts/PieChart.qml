@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
+import Lodestar.Charts
 
 /// A pie chart as scenes use it: `outlet` is the controller's PieChartView, the colours are the surroundings'.
 PieChartItem {

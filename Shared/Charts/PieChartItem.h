@@ -13,7 +13,7 @@ namespace lodestar
 
 /// Draws a pie chart view and takes its input: taps and clicks select, a finger or the mouse along the ring turns, two
 /// fingers turn, the arrow keys step through the slices (with Shift: turn), Escape selects nothing.
-class PieChartItem : public ChartItem
+class PieChartItem : public lodestar::ChartItem
 {
     Q_OBJECT
     QML_ELEMENT

@@ -11,7 +11,7 @@ namespace lodestar
 {
 
 /// A controller's side of a pie chart.
-class PieChartView : public ChartView
+class PieChartView : public lodestar::ChartView
 {
     Q_OBJECT
     QML_NAMED_ELEMENT(PieChartView)

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Charts/PieChartRenderer.h"
+
+#include <QImage>
+
+#include <ostream>
+
+// So that failures read as colours and texts.
+inline void PrintTo(const QColor& color, std::ostream* out)
+{
+    *out << color.name(QColor::HexArgb).toStdString();
+}
+inline void PrintTo(const QString& text, std::ostream* out)
+{
+    *out << '"' << text.toStdString() << '"';
+}
+
+namespace lodestar::charttest
+{
+
+inline const QColor blue(66, 116, 185);
+inline const QColor red(227, 34, 38);
+inline const QColor green(80, 176, 72);
+inline const QColor grey(145, 145, 145);
+inline const QColor yellow(255, 200, 29);
+
+/// A pie as the dashboard sets it up, over these counts; labels "state 0", "state 1", …
+PieChartModel dashboardPie(const QList<float>& counts);
+
+/// The same without values and legend, so that only slices are drawn.
+PieChartModel barePie(const QList<float>& counts);
+
+/// A drawn chart on its card, 366 × 325 points at two pixels a point unless told otherwise.
+struct Picture {
+    explicit Picture(const PieChartModel& model, ChartFrame frame = {QSizeF(366, 325), {}, {}}, double pixelRatio = 2);
+
+    /// The colour at a point of the chart.
+    QColor at(QPointF point) const;
+    /// The colour at a share of the radius and an angle clockwise from 12 o'clock.
+    QColor at(double share, double angle) const;
+    /// How many pixels of exactly that colour lie within the rectangle, in points.
+    int count(const QColor& color, const QRectF& area) const;
+
+    QImage image;
+    PieLayout layout;
+    double ratio;
+};
+
+/// Whether two colours differ by at most a step or two, as rounding allows.
+bool near(const QColor& first, const QColor& second, int tolerance = 2);
+
+} // namespace lodestar::charttest

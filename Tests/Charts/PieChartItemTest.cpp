@@ -1,0 +1,196 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Charts/PieChartItem.h"
+
+#include "ChartSupport.h"
+#include "Charts/Charts.h"
+
+#include <QAccessible>
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QSignalSpy>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace lodestar::charttest
+{
+namespace
+{
+
+/// A chart at the top of a page that can be scrolled, in a shown window.
+class PieChartItemTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        const PieChartModel model = dashboardPie({2, 1, 1});
+        m_view.setHoleRadiusPercent(0.54);
+        m_view.setDrawSliceText(false);
+        m_view.setLegend(model.legend);
+        m_view.setRotationWithTwoFingers(true);
+        m_view.setData(model.data);
+
+        installCharts(m_engine);
+        m_engine.rootContext()->setContextProperty(QStringLiteral("chartView"), &m_view);
+        QQmlComponent component(&m_engine);
+        component.setData(R"(
+            import QtQuick
+            import Lodestar.Charts
+            Window {
+                width: 366; height: 500; visible: true
+                Flickable {
+                    objectName: "page"; anchors.fill: parent; contentHeight: 2000
+                    PieChart { objectName: "pie"; outlet: chartView; width: 366; height: 325 }
+                }
+            })",
+                          QUrl());
+        m_root.reset(component.create());
+        ASSERT_TRUE(m_root) << component.errorString().toStdString();
+        m_window = qobject_cast<QQuickWindow*>(m_root.get());
+        m_item = m_window->findChild<PieChartItem*>(QStringLiteral("pie"));
+        m_page = m_window->findChild<QQuickItem*>(QStringLiteral("page"));
+        ASSERT_TRUE(m_item && m_page);
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(m_window));
+        m_window->requestActivate();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(m_window));
+        m_layout = PieChartRenderer(m_view.model()).layout({QSizeF(366, 325), {}, {}});
+    }
+
+    QPoint on(double share, double angle) const
+    {
+        const double radians = angle * M_PI / 180;
+        return (m_layout.center + share * m_layout.radius * QPointF(std::sin(radians), -std::cos(radians))).toPoint();
+    }
+    double scrolled() const { return m_page->property("contentY").toDouble(); }
+
+    PieChartView m_view;
+    QQmlEngine m_engine;
+    std::unique_ptr<QObject> m_root;
+    QQuickWindow* m_window = nullptr;
+    PieChartItem* m_item = nullptr;
+    QQuickItem* m_page = nullptr;
+    PieLayout m_layout;
+    QPointingDevice* m_finger = QTest::createTouchDevice();
+};
+
+TEST_F(PieChartItemTest, TapsAndClicksSelect)
+{
+    QTest::touchEvent(m_window, m_finger).press(0, on(0.8, 225));
+    QTest::touchEvent(m_window, m_finger).release(0, on(0.8, 225));
+    EXPECT_EQ(m_view.selectedEntry(), 1);
+    QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, on(0.8, 90));
+    EXPECT_EQ(m_view.selectedEntry(), 0);
+    QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, on(0.2, 90));
+    EXPECT_EQ(m_view.selectedEntry(), std::nullopt) << "the hole selects nothing";
+}
+
+TEST_F(PieChartItemTest, AFingerAlongTheRingTurnsThePieAndThePageStays)
+{
+    // Down the right side: what a page would take for scrolling.
+    QTest::touchEvent(m_window, m_finger).press(0, on(0.8, 90));
+    for (int angle = 94; angle <= 150; angle += 4) {
+        QTest::qWait(12); // Touch events are stamped with the time they are made at; a hand is not faster.
+        QTest::touchEvent(m_window, m_finger).move(0, on(0.8, angle));
+    }
+    EXPECT_NEAR(m_view.model().rotationAngle, 58, 4);
+    EXPECT_EQ(scrolled(), 0);
+    QTest::touchEvent(m_window, m_finger).release(0, on(0.8, 150));
+    EXPECT_EQ(m_view.selectedEntry(), std::nullopt) << "a turn is no tap";
+}
+
+TEST_F(PieChartItemTest, AStrokeAcrossTheRingScrollsThePage)
+{
+    const QPoint start = on(0.8, 180);
+    QTest::touchEvent(m_window, m_finger).press(0, start);
+    for (int by = 8; by <= 120; by += 8) {
+        QTest::touchEvent(m_window, m_finger).move(0, start - QPoint(0, by));
+    }
+    EXPECT_GT(scrolled(), 40);
+    EXPECT_EQ(m_view.model().rotationAngle, 0);
+    QTest::touchEvent(m_window, m_finger).release(0, start - QPoint(0, 120));
+    EXPECT_EQ(m_view.selectedEntry(), std::nullopt);
+}
+
+TEST_F(PieChartItemTest, TwoFingersTurnUnlessSwitchedOff)
+{
+    const auto twist = [this] {
+        const QPoint center = m_layout.center.toPoint();
+        QTest::touchEvent(m_window, m_finger).press(0, center + QPoint(-60, 0)).press(1, center + QPoint(60, 0));
+        QTest::touchEvent(m_window, m_finger).move(0, center + QPoint(-60, -1)).move(1, center + QPoint(60, 1));
+        QTest::touchEvent(m_window, m_finger).move(0, center + QPoint(0, -60)).move(1, center + QPoint(0, 60));
+        QTest::touchEvent(m_window, m_finger).release(0, center + QPoint(0, -60)).release(1, center + QPoint(0, 60));
+    };
+    twist();
+    EXPECT_NEAR(m_view.model().rotationAngle, 90, 2);
+    m_view.setRotationAngle(0);
+    m_view.setRotationWithTwoFingers(false);
+    twist();
+    EXPECT_EQ(m_view.model().rotationAngle, 0);
+}
+
+TEST_F(PieChartItemTest, KeysStepThroughSlicesTurnAndLetGo)
+{
+    m_item->forceActiveFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(m_item->hasVisualFocus());
+    QTest::keyClick(m_window, Qt::Key_Right);
+    EXPECT_EQ(m_view.selectedEntry(), 0);
+    QTest::keyClick(m_window, Qt::Key_Left);
+    EXPECT_EQ(m_view.selectedEntry(), 2) << "round the end";
+    QTest::keyClick(m_window, Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(m_view.model().rotationAngle, 15);
+    QTest::keyClick(m_window, Qt::Key_Escape);
+    EXPECT_EQ(m_view.selectedEntry(), std::nullopt);
+}
+
+TEST_F(PieChartItemTest, GrowsInWhenToldAndRestsAfterwards)
+{
+    m_view.animate(0.05, 0.1, ChartEasingOption::EaseOutBack);
+    EXPECT_TRUE(m_item->isAnimating());
+    ASSERT_TRUE(QTest::qWaitFor([this] { return !m_item->isAnimating(); }));
+    QTest::qWait(50); // Let what is still to be drawn be drawn.
+    const QSignalSpy frames(m_window, &QQuickWindow::frameSwapped);
+    QTest::qWait(200);
+    EXPECT_EQ(frames.count(), 0) << "a chart at rest draws nothing";
+    m_item->setProperty("reducedMotion", true);
+    m_view.animate(1, 1, ChartEasingOption::Linear);
+    EXPECT_FALSE(m_item->isAnimating());
+}
+
+TEST_F(PieChartItemTest, ShowsTheViewAsItChangesAndOutlivesIt)
+{
+    const auto probe = [this] { return m_window->grabWindow().pixelColor(on(0.7, 90)); };
+    EXPECT_TRUE(near(probe(), blue));
+    m_view.setRotationAngle(180);
+    EXPECT_FALSE(near(probe(), blue));
+    m_view.setHidden(true);
+    EXPECT_FALSE(m_item->isVisible());
+    m_view.setHidden(false);
+    EXPECT_TRUE(m_item->isVisible());
+
+    auto other = std::make_unique<PieChartView>();
+    other->setData(dashboardPie({1}).data);
+    m_item->setOutlet(other.get());
+    EXPECT_TRUE(near(probe(), blue));
+    other.reset();
+    EXPECT_TRUE(near(probe(), Qt::white)) << "a view that is gone leaves an empty chart";
+    QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, on(0.8, 90));
+    m_item->forceActiveFocus();
+    QTest::keyClick(m_window, Qt::Key_Right);
+}
+
+TEST_F(PieChartItemTest, IsReadAsAChartWithItsText)
+{
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(m_item);
+    ASSERT_TRUE(interface != nullptr);
+    EXPECT_EQ(interface->role(), QAccessible::Chart);
+    EXPECT_EQ(interface->text(QAccessible::Name), "state 0 2, state 1 1, state 2 1");
+    m_view.select(1);
+    EXPECT_EQ(interface->text(QAccessible::Description), "state 1 1");
+}
+
+} // namespace
+} // namespace lodestar::charttest
