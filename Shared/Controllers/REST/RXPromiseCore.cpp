@@ -1,0 +1,197 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Controllers/REST/RXPromiseCore.h"
+
+#include <cstdio>
+
+namespace lodestar::promise
+{
+
+namespace
+{
+
+/// Settling a promise can settle those that are bound to it, and letting one go can let go those that only it held,
+/// each to any depth: a thread works through a list instead of recursing. The list is the cores' own link.
+struct WorkList {
+    Core* first = nullptr;
+    Core* last = nullptr;
+    bool active = false;
+};
+constinit thread_local WorkList t_resume;
+constinit thread_local WorkList t_dispose;
+
+/// Behind the sync queue.
+constinit std::uint64_t s_lastQueueNumber = 0;
+
+} // namespace
+
+Error errorWithReason(std::string_view reason)
+{
+    return {"RXPromise", -1000, {}, std::string(reason), nullptr};
+}
+
+void Core::settleWithError(State state, std::shared_ptr<const Error> error)
+{
+    settle(state, [&] { m_error = std::move(error); });
+}
+
+void Core::settleWithError(State state, Error error)
+{
+    settleWithError(state, std::make_shared<const Error>(std::move(error)));
+}
+
+std::string Core::handlerQueueLabel() const
+{
+    const bool made = SharedSyncQueue::sync([this] { return m_queueNumber != 0; });
+    if (!made) {
+        return {};
+    }
+    char label[64];
+    std::snprintf(label, sizeof label, "RXPromise.handler_queue-%p", static_cast<const void*>(this));
+    return label;
+}
+
+bool Core::isDerivedFrom(const Core& parent) const
+{
+    return SharedSyncQueue::sync([&] { return parent.m_queueNumber != 0 && m_parentNumber == parent.m_queueNumber; });
+}
+
+void Core::registerDerived(Ref<Core> derived)
+{
+    Core* const core = derived.detach();
+    addNode(*core, core);
+}
+
+/// Nodes that come while a thread still hands out the earlier ones wait their turn, so that the order of registration
+/// is the order of dispatch throughout.
+void Core::addNode(Node& node, Core* derived)
+{
+    const bool settled = SharedSyncQueue::sync([&] {
+        if (m_queueNumber == 0) {
+            m_queueNumber = ++s_lastQueueNumber;
+        }
+        if (derived != nullptr) {
+            derived->m_parentNumber = m_queueNumber;
+        }
+        if (m_state != State::Pending && !m_resuming) {
+            return true;
+        }
+        (m_last == nullptr ? m_first : m_last->m_next) = &node;
+        m_last = &node;
+        return false;
+    });
+    if (settled) {
+        node.parentSettled(*this);
+    }
+}
+
+void Core::resumeHandlerQueue()
+{
+    if (t_resume.active) {
+        retain();
+        (t_resume.last == nullptr ? t_resume.first : t_resume.last->m_nextCore) = this;
+        t_resume.last = this;
+        return;
+    }
+    t_resume.active = true;
+    handOutNodes();
+    while (t_resume.first != nullptr) {
+        const auto core = Ref<Core>::adopt(t_resume.first);
+        t_resume.first = std::exchange(core->m_nextCore, nullptr);
+        if (t_resume.first == nullptr) {
+            t_resume.last = nullptr;
+        }
+        core->handOutNodes();
+    }
+    t_resume.active = false;
+}
+
+void Core::handOutNodes()
+{
+    while (true) {
+        Node* node = SharedSyncQueue::sync([this] {
+            m_last = nullptr;
+            m_resuming = m_first != nullptr;
+            return std::exchange(m_first, nullptr);
+        });
+        if (node == nullptr) {
+            return;
+        }
+        while (node != nullptr) {
+            Node* const next = std::exchange(node->m_next, nullptr);
+            node->parentSettled(*this);
+            node = next;
+        }
+    }
+}
+
+void Core::parentSettled(Core& parent)
+{
+    auto self = Ref<Core>::adopt(this);
+    if (m_bound) {
+        adopt(parent);
+        return;
+    }
+    // Taken out: the block may have run, and let this promise go, before the call returns.
+    const ExecutionContext context = std::move(m_context);
+    context.dispatchBlock([self = std::move(self), parent = Ref<Core>(parent)] { self->runHandler(*parent); });
+}
+
+void Core::parentGone()
+{
+    // The handlers can never run any more. Their captures go now, even if somebody holds this promise, since they may
+    // well be what holds it.
+    dropHandlers();
+    release();
+}
+
+void Core::runHandler(Core&) {}
+
+void Core::bind(Core& other)
+{
+    if (&other == this) {
+        settleWithError(State::Rejected, errorWithReason("A promise cannot wait for itself"));
+        return;
+    }
+    m_bound = true;
+    retain();
+    other.addNode(*this);
+}
+
+void Core::adopt(const Core& other)
+{
+    if (other.m_state == State::Fulfilled) {
+        adoptValue(other);
+    } else {
+        settleWithError(other.m_state, other.m_error);
+    }
+}
+
+void Core::dispose(Core& core)
+{
+    if (t_dispose.active) {
+        core.m_nextCore = std::exchange(t_dispose.first, &core);
+        return;
+    }
+    t_dispose.active = true;
+    Core* next = &core;
+    while (next != nullptr) {
+        next->abandonNodes();
+        delete next;
+        next = t_dispose.first;
+        if (next != nullptr) {
+            t_dispose.first = next->m_nextCore;
+        }
+    }
+    t_dispose.active = false;
+}
+
+void Core::abandonNodes()
+{
+    for (Node* node = std::exchange(m_first, nullptr); node != nullptr;) {
+        Node* const next = std::exchange(node->m_next, nullptr);
+        node->parentGone();
+        node = next;
+    }
+}
+
+} // namespace lodestar::promise

@@ -1,0 +1,280 @@
+// SPDX-License-Identifier: Apache-2.0
+// What a derived promise becomes.
+#include "Controllers/REST/RXPromise.h"
+#include "Platform/Queues/MainQueue.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <chrono>
+#include <memory>
+#include <optional>
+#include <random>
+#include <string>
+#include <thread>
+#include <type_traits>
+#include <vector>
+
+namespace lodestar
+{
+namespace
+{
+
+class RXPromiseChainTests : public ::testing::Test
+{
+protected:
+    void SetUp() override { MainQueue::shared().adoptCurrentThread(); }
+
+    /// What the promise settles as, once it has.
+    template <typename T>
+    static Result<T> outcome(const RXPromise<T>& promise)
+    {
+        EXPECT_TRUE(MainQueue::shared().runUntil([&] { return !promise.isPending(); }, std::chrono::seconds(30)));
+        return promise.result().value_or(Error{"pending", 0, "", "", nullptr});
+    }
+    template <typename T>
+    static std::string reason(const RXPromise<T>& promise)
+    {
+        const Result<T> result = outcome(promise);
+        return result.ok() ? "fulfilled" : result.error().failureReason;
+    }
+    static RXPromise<int> fulfilled(int value)
+    {
+        const RXPromise<int> promise;
+        promise.fulfillWithValue(value);
+        return promise;
+    }
+    static RXPromise<int> rejected(std::string_view why)
+    {
+        const RXPromise<int> promise;
+        promise.rejectWithReason(why);
+        return promise;
+    }
+    static RXPromise<int> cancelled()
+    {
+        const RXPromise<int> promise;
+        promise.cancel();
+        return promise;
+    }
+    static Error error(std::string why) { return {"test", 7, "", std::move(why), nullptr}; }
+};
+
+TEST_F(RXPromiseChainTests, WhatAHandlerReturnsIsTheOutcome)
+{
+    EXPECT_EQ(outcome(fulfilled(1).then([](int v) { return std::to_string(v); })).value(), "1");
+    EXPECT_EQ(outcome(fulfilled(1).then([](int) { return error("e"); })).error(), error("e"));
+    EXPECT_EQ(outcome(fulfilled(1).then([](int v) { return Result<int>(v + 1); })).value(), 2);
+    EXPECT_EQ(outcome(fulfilled(1).then([](int) { return Result<int>(error("r")); })).error(), error("r"));
+    EXPECT_TRUE(outcome(fulfilled(1).then([](int) {})).ok());
+    EXPECT_TRUE(outcome(fulfilled(1).then([](int) { return Result<void>(); })).ok());
+    EXPECT_EQ(outcome(fulfilled(1).then([](const int& v) { return fulfilled(v + 5); })).value(), 6);
+    EXPECT_EQ(reason(fulfilled(1).then([](int) { return rejected("inner"); })), "inner");
+}
+
+TEST_F(RXPromiseChainTests, AFailureHandlerTurnsARejectionIntoAnOutcome)
+{
+    const auto text =
+        rejected("why").then([](int) { return std::string(); }, [](const Error& e) { return "NA " + e.failureReason; });
+    EXPECT_EQ(outcome(text).value(), "NA why");
+    const auto nothing = rejected("why").then([](int) {}, [](const Error&) {});
+    EXPECT_TRUE(outcome(nothing).ok());
+    RXPromise<std::optional<int>> source;
+    source.rejectWithReason("why");
+    EXPECT_EQ(outcome(source.then(nullptr, [](const Error&) {})).value(), std::nullopt);
+    EXPECT_EQ(outcome(rejected("why").then(nullptr, [](const Error&) { return fulfilled(3); })).value(), 3);
+    EXPECT_EQ(outcome(rejected("why").then(nullptr, [](const Error&) { return error("other"); })).error(),
+              error("other"));
+}
+
+TEST_F(RXPromiseChainTests, WithNoMatchingHandlerTheResultPassesOnUnchanged)
+{
+    int successes = 0;
+    const auto end = rejected("root")
+                         .thenOnMain([&](int v) { return ++successes + v; })
+                         .thenOnMain([&](int) { return std::to_string(++successes); })
+                         .thenOnMain([](const std::string&) { return std::string("not here"); },
+                                     [](const Error& e) { return "recovered from " + e.failureReason; })
+                         .thenOnMain([](const std::string& s) { return s + "!"; });
+    EXPECT_EQ(outcome(end).value(), "recovered from root!");
+    EXPECT_EQ(successes, 0);
+
+    EXPECT_EQ(outcome(fulfilled(4).then(nullptr, [](const Error&) { return 0; })).value(), 4);
+    const RXPromise<int> source;
+    const auto passed = source.then([](int) { return 1; }).then(nullptr);
+    source.rejectWithReason(error("kept"));
+    EXPECT_EQ(outcome(passed).error(), error("kept"));
+}
+
+TEST_F(RXPromiseChainTests, HandlersAgreeOnTheDerivedType)
+{
+    const RXPromise<int> p;
+    const RXPromise<void> v;
+    const auto failsToo = p.then([](int) { return error("e"); }, [](const Error&) { return std::string("s"); });
+    static_assert(std::is_same_v<decltype(failsToo), const RXPromise<std::string>>);
+    const auto literal = p.then([](int) { return std::string("s"); }, [](const Error&) { return "NA"; });
+    static_assert(std::is_same_v<decltype(literal), const RXPromise<std::string>>);
+    const auto bothFail = p.then([](int) { return error("e"); }, [](const Error& e) { return e; });
+    static_assert(std::is_same_v<decltype(bothFail), const RXPromise<int>>);
+    const auto fromVoid = v.then([] { return 1L; }, [](const Error&) { return RXPromise<long>(); });
+    static_assert(std::is_same_v<decltype(fromVoid), const RXPromise<long>>);
+    p.rejectWithReason();
+    v.rejectWithReason("v");
+    EXPECT_EQ(outcome(failsToo).value(), "s");
+    EXPECT_EQ(outcome(literal).value(), "NA");
+    EXPECT_EQ(reason(bothFail), "");
+    EXPECT_TRUE(fromVoid.isPending());
+}
+
+TEST_F(RXPromiseChainTests, AReturnedPromiseIsWaitedFor)
+{
+    for (const bool settleFirst : {true, false}) {
+        const RXPromise<int> inner;
+        const RXPromise<int> outer;
+        const auto derived = outer.thenOnMain([&](int) { return inner; });
+        const auto end = derived.thenOnMain([](int v) { return v + 1; }, [](const Error&) { return -1; });
+        if (settleFirst) {
+            inner.fulfillWithValue(10);
+        }
+        outer.fulfillWithValue(0);
+        MainQueue::shared().drain();
+        EXPECT_EQ(derived.isPending(), !settleFirst);
+        std::thread([&] { inner.fulfillWithValue(10); }).join();
+        EXPECT_EQ(outcome(end).value(), 11);
+    }
+    const auto cancelledInside = fulfilled(1).thenOnMain([](int) { return cancelled(); });
+    EXPECT_EQ(reason(cancelledInside), "cancelled");
+    EXPECT_TRUE(cancelledInside.isCancelled()) << "it settles as the returned promise settled";
+}
+
+TEST_F(RXPromiseChainTests, APromiseThatWaitsForItselfIsRejected)
+{
+    const RXPromise<int> source;
+    auto self = std::make_shared<std::optional<RXPromise<int>>>();
+    *self = source.thenOnMain([self](int) { return **self; });
+    source.fulfillWithValue(1);
+    EXPECT_FALSE(outcome(**self).ok());
+    EXPECT_EQ(self.use_count(), 1);
+}
+
+TEST_F(RXPromiseChainTests, PromisesBoundToEachOtherNeedNoDeepStack)
+{
+    constexpr int depth = 100000;
+    const RXPromise<int> innermost;
+    RXPromise<int> promise = innermost;
+    for (int i = 0; i < depth; ++i) {
+        promise = fulfilled(0).thenOnMain([promise](int) { return promise; });
+        MainQueue::shared().drain();
+    }
+    EXPECT_TRUE(promise.isPending());
+    innermost.fulfillWithValue(42);
+    EXPECT_TRUE(promise.isFulfilled()) << "at once: no handler stands between";
+    EXPECT_EQ(promise.result()->value(), 42);
+}
+
+TEST_F(RXPromiseChainTests, CancellationReachesWhatIsDerived)
+{
+    int successes = 0;
+    const RXPromise<int> source;
+    const auto unhandled = source.thenOnMain([&](int v) { return ++successes + v; });
+    const auto second = unhandled.thenOnMain([&](int) { ++successes; });
+    const auto recovering = source.thenOnMain(nullptr, [](const Error&) { return 5; });
+    const auto worded =
+        source.thenOnMain([](int) { return std::string(); }, [](const Error&) { return std::string("because"); });
+    const auto failing = source.thenOnMain(nullptr, [](const Error&) { return error("e"); });
+    const auto failingLater = source.thenOnMain(nullptr, [](const Error&) { return rejected("later"); });
+    source.cancel();
+    EXPECT_EQ(reason(second), "cancelled");
+    EXPECT_EQ(reason(recovering), "") << "a value is no reason";
+    EXPECT_EQ(reason(worded), "because");
+    EXPECT_EQ(outcome(failing).error(), error("e"));
+    EXPECT_EQ(reason(failingLater), "");
+    EXPECT_TRUE(unhandled.isCancelled() && second.isCancelled() && recovering.isCancelled() && worded.isCancelled() &&
+                failing.isCancelled() && failingLater.isCancelled());
+    EXPECT_EQ(successes, 0);
+
+    const RXPromise<int> parent;
+    bool ran = false;
+    const auto early = parent.thenOnMain([&](int v) {
+        ran = true;
+        return v;
+    });
+    const auto next = early.thenOnMain([](int v) { return v; });
+    early.cancel();
+    EXPECT_EQ(reason(next), "cancelled");
+    parent.fulfillWithValue(1);
+    MainQueue::shared().drain();
+    EXPECT_TRUE(ran) << "the registering handler still runs";
+    EXPECT_TRUE(early.isCancelled());
+}
+
+TEST_F(RXPromiseChainTests, AllKeepsTheOrderOfTheInputs)
+{
+    EXPECT_TRUE(RXPromise<int>::all({}).isFulfilled());
+    EXPECT_TRUE(RXPromise<int>::all({}).result()->value().empty());
+
+    std::vector<RXPromise<std::optional<int>>> inputs(100);
+    std::vector<std::size_t> order(inputs.size());
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        order[i] = i;
+    }
+    std::shuffle(order.begin(), order.end(), std::mt19937(7));
+    const auto settle = [&](std::size_t i) {
+        inputs[i].fulfillWithValue(i % 10 == 0 ? std::nullopt : std::optional(static_cast<int>(i)));
+    };
+    settle(order.front());
+    const auto all = RXPromise<std::optional<int>>::all(inputs);
+    std::thread other([&] {
+        for (std::size_t i = 1; i < 50; ++i) {
+            settle(order[i]);
+        }
+    });
+    for (std::size_t i = 50; i + 1 < order.size(); ++i) {
+        settle(order[i]);
+    }
+    other.join();
+    EXPECT_TRUE(all.isPending());
+    settle(order.back());
+    const auto values = outcome(all).value();
+    ASSERT_EQ(values.size(), inputs.size());
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        EXPECT_EQ(values[i], i % 10 == 0 ? std::nullopt : std::optional(static_cast<int>(i)));
+    }
+    const auto same = RXPromise<int>::all({fulfilled(1), fulfilled(2), fulfilled(1)});
+    EXPECT_EQ(outcome(same).value(), (std::vector{1, 2, 1}));
+}
+
+TEST_F(RXPromiseChainTests, AllRejectsWithTheFirstRejectionAndKeepsNothing)
+{
+    std::vector<RXPromise<std::shared_ptr<int>>> inputs(4);
+    const auto token = std::make_shared<int>(0);
+    const auto all = RXPromise<std::shared_ptr<int>>::all(inputs);
+    inputs[0].fulfillWithValue(token);
+    inputs[3].rejectWithReason("third");
+    inputs[1].rejectWithReason("first");
+    EXPECT_EQ(reason(all), "third");
+    inputs[0] = RXPromise<std::shared_ptr<int>>();
+    EXPECT_EQ(token.use_count(), 1) << "an input that never settles keeps the values of the others";
+
+    const auto withCancelled = RXPromise<int>::all({fulfilled(1), cancelled()});
+    EXPECT_EQ(reason(withCancelled), "cancelled");
+    EXPECT_TRUE(withCancelled.isRejected());
+    const auto orphaned = RXPromise<int>::all({fulfilled(1), RXPromise<int>()});
+    EXPECT_TRUE(orphaned.isPending());
+}
+
+TEST_F(RXPromiseChainTests, AllNeverRejectsWhenEveryInputRecovers)
+{
+    std::vector<RXPromise<std::string>> recovered;
+    std::vector<RXPromise<int>> sources(6);
+    for (const auto& source : sources) {
+        recovered.push_back(source.then([](int v) { return std::to_string(v); }, [](const Error&) { return "NA"; }));
+    }
+    const auto all = RXPromise<std::string>::all(recovered);
+    for (std::size_t i = 0; i < sources.size(); ++i) {
+        i % 2 == 0 ? sources[i].fulfillWithValue(static_cast<int>(i)) : sources[i].rejectWithReason("down");
+    }
+    EXPECT_EQ(outcome(all).value(), (std::vector<std::string>{"0", "NA", "2", "NA", "4", "NA"}));
+}
+
+} // namespace
+} // namespace lodestar
