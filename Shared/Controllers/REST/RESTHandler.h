@@ -7,7 +7,10 @@
 #include "Platform/Queues/OperationQueue.h"
 #include "Platform/URLLoading/URLConnection.h"
 
-#include <functional>
+#include <cstddef>
+#include <memory>
+#include <mutex>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -65,8 +68,10 @@ private:
     RESTHandler();
     ~RESTHandler() = default;
 
-    OperationQueue m_queue;
+    OperationQueue m_queue{"RESTHandler"};
     std::vector<CorvelRef> m_corvelList;
+    mutable std::mutex m_snapshotMutex; ///< held for the copy of a pointer only: the dashboard's wait asks all the time
+    std::shared_ptr<const std::vector<CorvelRef>> m_snapshot;
 };
 
 } // namespace lodestar

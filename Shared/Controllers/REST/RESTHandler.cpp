@@ -1,0 +1,258 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Controllers/REST/RESTHandler.h"
+
+#include "Application/Model/StoreStack.h"
+#include "Controllers/REST/CorvelRequest.h"
+#include "Controllers/REST/RESTSupport.h"
+#include "Feedback/VireoLogger.h"
+#include "Platform/Queues/MainQueue.h"
+#include "Platform/URLLoading/ServerTrust.h"
+#include "Platform/UserDefaults.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace lodestar
+{
+
+namespace
+{
+
+constexpr std::string_view sourceFile = "Shared/Controllers/REST/RESTHandler";
+constexpr std::string_view loginMethod = "-[RESTHandler login:checkToken:]";
+
+constexpr std::string_view logonNamespace = "http://www.ornis.example/xmlns/systems/web/mc/2012_10/";
+constexpr std::string_view k2Namespace = "http://www.w3.org/XML/1998/namespace/k2";
+constexpr std::string_view webContent = "application/vnd.ornis.varnex.web+xml";
+constexpr std::chrono::seconds logonTimeout{10};
+
+/// The session key of a logon answer, or the error with which the logon is rejected.
+Result<SessionKey> sessionKeyOfAnswer(std::string_view body)
+{
+    const Result<XMLElement> root = XMLElement::parse(body);
+    if (!root) {
+        return root.error();
+    }
+    return root.value().child("X-API-Session").text();
+}
+
+/// Logon and session check of one record. Everything that is read of the record is read when it is made, on the thread
+/// that asked for the key: the record may be edited while the requests run.
+class Logon : public std::enable_shared_from_this<Logon>
+{
+public:
+    Logon(const RESTHandler& handler, CorvelRef corvel, RXPromise<SessionKey> promise)
+        : m_queue(handler.queue()),
+          m_corvel(std::move(corvel)),
+          m_name(shownText(m_corvel->name())),
+          m_address(m_corvel->address()),
+          m_logonRequest(handler.loginRequestForCorvel(*m_corvel)),
+          m_promise(std::move(promise))
+    {
+    }
+
+    /// Tries the key first; a console that no longer takes it is logged on to again.
+    void checkSession(URLRequest checkRequest, std::string key)
+    {
+        std::make_shared<CorvelRequest>()->sendRequest(
+            std::move(checkRequest), m_queue,
+            [self = shared_from_this(), key = std::move(key)](const URLResponse* response, const std::string*,
+                                                              const Error* error) {
+                if (error == nullptr && response->statusCode == 200) {
+                    LODESTAR_LOG(sourceFile, loginMethod, "Session is valid for Corvel: {}", self->m_name);
+                    self->m_promise.fulfillWithValue(key);
+                    return;
+                }
+                LODESTAR_LOG(sourceFile, loginMethod, "Session is no longer valid for Corvel: {}", self->m_name);
+                self->logOnPlainly();
+            });
+    }
+
+    void logOnAcceptingAnyServer()
+    {
+        std::make_shared<CorvelRequest>()->sendRequest(
+            m_logonRequest, m_queue,
+            [self = shared_from_this()](const URLResponse* response, const std::string* data, const Error* error) {
+                if (error != nullptr) {
+                    self->m_promise.rejectWithReason(*error);
+                } else {
+                    self->answered(response->statusCode, *data);
+                }
+            });
+    }
+
+private:
+    /// After a refused key the plain request is used, and with it the usual rules of trust. That differs from the
+    /// first logon on purpose: the check just made has shown which certificate the console has.
+    void logOnPlainly()
+    {
+        sendAsynchronousRequest(m_logonRequest, m_queue, [self = shared_from_this()](const Result<URLLoad>& load) {
+            if (!load) {
+                self->m_promise.rejectWithReason(load.error());
+            } else {
+                self->answered(load.value().response.statusCode, load.value().body);
+            }
+        });
+    }
+
+    void answered(int statusCode, std::string_view body)
+    {
+        if (statusCode != 200) {
+            m_promise.rejectWithReason();
+            return;
+        }
+        const Result<SessionKey> key = sessionKeyOfAnswer(body);
+        if (!key) {
+            m_promise.rejectWithReason(key.error());
+            return;
+        }
+        keep(key.value());
+        m_promise.fulfillWithValue(key.value());
+    }
+
+    /// A console that was deleted meanwhile has no entry, and gets none. Its deletion may also fall between the look at
+    /// the record and the writing, so the main thread, where deletions happen, looks once more.
+    void keep(const SessionKey& key) const
+    {
+        if (!m_address) {
+            return;
+        }
+        if (!key) {
+            UserDefaults::standard().removeObjectForKey(*m_address);
+            return;
+        }
+        if (m_corvel->isDeleted()) {
+            return;
+        }
+        UserDefaults::standard().setString(*key, *m_address);
+        MainQueue::shared().async([corvel = m_corvel, address = *m_address, key = *key] {
+            if (corvel->isDeleted() && UserDefaults::standard().stringForKey(address) == key) {
+                UserDefaults::standard().removeObjectForKey(address);
+            }
+        });
+    }
+
+    const OperationQueue m_queue;
+    const CorvelRef m_corvel;
+    const std::string m_name;
+    const std::optional<std::string> m_address;
+    const URLRequest m_logonRequest;
+    const RXPromise<SessionKey> m_promise;
+};
+
+} // namespace
+
+RESTHandler& RESTHandler::sharedInstance()
+{
+    // Never destroyed: completions may still come while the process ends.
+    static RESTHandler* const handler = new RESTHandler;
+    return *handler;
+}
+
+RESTHandler::RESTHandler() : m_snapshot(std::make_shared<const std::vector<CorvelRef>>())
+{
+    ServerTrust::shared().setRefusalHandler([](const std::string& host, int port, const std::string& reason) {
+        LODESTAR_LOG("Shared/Platform/URLLoading/ServerTrust", "-[ServerTrust refuse:port:reason:]",
+                     "Refused the certificate of {}:{}: {}", host, port, reason);
+    });
+    setCorvelList(fetchCorvels());
+}
+
+void RESTHandler::setCorvelList(std::vector<CorvelRef> list)
+{
+    m_corvelList = std::move(list);
+    auto snapshot = std::make_shared<const std::vector<CorvelRef>>(m_corvelList);
+    const std::lock_guard lock(m_snapshotMutex);
+    m_snapshot.swap(snapshot);
+}
+
+void RESTHandler::addCorvel(CorvelRef corvel)
+{
+    auto list = m_corvelList;
+    list.push_back(std::move(corvel));
+    setCorvelList(std::move(list));
+}
+
+void RESTHandler::removeCorvelAtIndex(std::size_t index)
+{
+    if (index < m_corvelList.size()) {
+        auto list = m_corvelList;
+        list.erase(list.begin() + static_cast<std::ptrdiff_t>(index));
+        setCorvelList(std::move(list));
+    }
+}
+
+std::shared_ptr<const std::vector<CorvelRef>> RESTHandler::corvelListSnapshot() const
+{
+    const std::lock_guard lock(m_snapshotMutex);
+    return m_snapshot;
+}
+
+std::vector<CorvelRef> RESTHandler::fetchCorvels() const
+{
+    std::vector<CorvelRef> records;
+    if (const auto fetched = StoreStack::shared().managedObjectContext().fetchAll(Corvel::entityName)) {
+        for (const auto& object : fetched.value()) {
+            if (auto corvel = std::dynamic_pointer_cast<Corvel>(object)) {
+                records.push_back(std::move(corvel));
+            }
+        }
+    }
+    return records;
+}
+
+URLRequest RESTHandler::loginRequestForCorvel(const Corvel& corvel) const
+{
+    URLRequest request;
+    request.url = "https://" + shownText(corvel.address()) + ":12443/rest/api/web/Logon";
+    request.method = "PUT";
+    request.timeout = logonTimeout;
+    request.headers.setValue("Accept", webContent);
+    request.headers.setValue("Content-Type", webContent);
+    // Name and password go in as they are: consoles read them literally, and escaping would change them.
+    request.body = fmt::format("<LogonRequest xmlns=\"{}\" xmlns:ns2=\"{}\" schemaVersion=\"V1_0\">"
+                               "<Metadata><Atom/></Metadata>"
+                               "<UserID kxe=\"false\" kb=\"CUR\">{}</UserID>"
+                               "<Password kxe=\"false\" kb=\"CUR\">{}</Password>"
+                               "</LogonRequest>",
+                               logonNamespace, k2Namespace, shownText(corvel.username()), shownText(corvel.password()));
+    return request;
+}
+
+URLRequest RESTHandler::sessionValidRequestWithToken(const std::string& token, const Corvel& corvel) const
+{
+    URLRequest request;
+    request.url = consoleURL(corvel, "uom", ObjectType::ManagementConsole);
+    request.headers.setValue("X-API-Session", token);
+    request.headers.addValue("Accept", "application/atom+xml");
+    request.headers.addValue("Accept", "application/vnd.ornis.varnex.uom+xml");
+    return request;
+}
+
+RXPromise<SessionKey> RESTHandler::login(CorvelRef corvel, CheckToken checkToken)
+{
+    RXPromise<SessionKey> promise;
+    if (corvel->demo() == 1) {
+        promise.fulfillWithValue("OK");
+        return promise;
+    }
+    const std::string name = shownText(corvel->name());
+    const SessionKey stored = storedSessionKey(*corvel);
+    if (checkToken == CheckToken::No) {
+        LODESTAR_LOG(sourceFile, loginMethod, "Corvel: {}, did not use firstOpen case", name);
+        promise.fulfillWithValue(stored);
+        return promise;
+    }
+    LODESTAR_LOG(sourceFile, loginMethod, "Corvel: {}, just used firstOpen case", name);
+    const auto logon = std::make_shared<Logon>(*this, corvel, promise);
+    if (stored) {
+        LODESTAR_LOG(sourceFile, loginMethod, "{}'s Corvel's saved token is not nil", name);
+        logon->checkSession(sessionValidRequestWithToken(*stored, *corvel), *stored);
+    } else {
+        LODESTAR_LOG(sourceFile, loginMethod, "{}'s Corvel's saved token is nil", name);
+        logon->logOnAcceptingAnyServer();
+    }
+    return promise;
+}
+
+} // namespace lodestar

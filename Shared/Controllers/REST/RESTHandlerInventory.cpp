@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Controllers/REST/RESTHandler.h"
+#include "Controllers/REST/RESTSupport.h"
+#include "Feedback/VireoLogger.h"
+#include "Platform/Resources.h"
+
+#include <array>
+#include <mutex>
+#include <utility>
+
+namespace lodestar
+{
+
+namespace
+{
+
+constexpr std::chrono::seconds feedTimeout{500};
+
+struct FeedAddress {
+    std::string_view type;
+    std::string_view schema;
+};
+
+constexpr std::array<FeedAddress, 6> allFeeds = {{
+    {ObjectType::ManagementConsole, "uom"},
+    {ObjectType::ManagedSystem, "uom"},
+    {ObjectType::VirtualIOServer, "uom"},
+    {ObjectType::LogicalPartition, "uom"},
+    {ObjectType::ServiceableEvent, "sem"},
+    {ObjectType::Group, "uom"},
+}};
+
+/// One console's feeds as they come in, from several threads.
+class FeedCollector
+{
+public:
+    void set(std::string_view type, Feed feed)
+    {
+        const std::lock_guard lock(m_mutex);
+        m_feeds->setFeed(type, std::move(feed));
+    }
+    /// To be called once every feed is in.
+    std::shared_ptr<const FeedDictionary> take()
+    {
+        const std::lock_guard lock(m_mutex);
+        return std::exchange(m_feeds, nullptr);
+    }
+
+private:
+    std::mutex m_mutex;
+    std::shared_ptr<FeedDictionary> m_feeds = std::make_shared<FeedDictionary>();
+};
+
+bool isErrorState(std::string_view state)
+{
+    return state.find("error") != std::string_view::npos || state.find("incomplete") != std::string_view::npos;
+}
+
+/// Settles with the root of a feed's answer.
+void settle(const RXPromise<XMLElement>& promise, const Result<URLLoad>& load)
+{
+    if (!load) {
+        promise.rejectWithReason(load.error());
+        return;
+    }
+    if (load.value().response.statusCode != 200) {
+        promise.rejectWithReason();
+        return;
+    }
+    Result<XMLElement> root = XMLElement::parse(load.value().body);
+    if (!root) {
+        promise.rejectWithReason(root.error());
+        return;
+    }
+    promise.fulfillWithValue(std::move(root).value());
+}
+
+} // namespace
+
+RXPromise<XMLElement> RESTHandler::fetchDataOfType(std::string_view type, CorvelRef corvel, std::string_view schema,
+                                                   SessionKey key)
+{
+    RXPromise<XMLElement> promise;
+    if (corvel->demo() == 1) {
+        promise.fulfillWithValue(getDemoDataForContentType(type));
+        return promise;
+    }
+    URLRequest request;
+    request.url = consoleURL(*corvel, schema, type);
+    request.timeout = feedTimeout;
+    if (key) {
+        request.headers.setValue("X-API-Session", *key);
+    }
+    request.headers.addValue("Accept", "application/atom+xml");
+    sendAsynchronousRequest(std::move(request), m_queue,
+                            [promise](const Result<URLLoad>& load) { settle(promise, load); });
+    return promise;
+}
+
+RXPromise<std::shared_ptr<const FeedDictionary>> RESTHandler::fetchAllDataForCorvel(CorvelRef corvel, SessionKey key)
+{
+    RXPromise<std::shared_ptr<const FeedDictionary>> promise;
+    const auto collector = std::make_shared<FeedCollector>();
+    std::vector<RXPromise<std::string>> continuations;
+    continuations.reserve(allFeeds.size());
+    for (const auto& [type, schema] : allFeeds) {
+        // Both handlers return a text, so that one unreachable feed does not fail the whole.
+        continuations.push_back(fetchDataOfType(type, corvel, schema, key)
+                                    .then(
+                                        [collector, type = type](XMLElement root) {
+                                            collector->set(type, Feed(std::move(root)));
+                                            return std::string("OK");
+                                        },
+                                        [collector, type = type](const Error&) {
+                                            collector->set(type, Feed::notAvailable());
+                                            return std::string("not reachable");
+                                        }));
+    }
+    RXPromise<std::string>::all(continuations).then([promise, collector](const std::vector<std::string>&) {
+        promise.fulfillWithValue(collector->take());
+    });
+    return promise;
+}
+
+RXPromise<std::string> RESTHandler::processInformationForCorvel(CorvelRef corvel)
+{
+    RXPromise<std::string> promise;
+    corvel->numMSErrors = 0;
+    corvel->numMSLEDs = 0;
+    const Feed feed = feedOfType(*corvel, ObjectType::ManagedSystem);
+    if (feed.isNA()) {
+        promise.fulfillWithValue("OK");
+        return promise;
+    }
+    int errors = 0;
+    int lights = 0;
+    for (const XMLElement& entry : feed.entries()) {
+        const XMLElement system = entry.path({"content", ObjectType::ManagedSystem});
+        errors += isErrorState(system.child("State").text().value_or("")) ? 1 : 0;
+        lights += system.child("PhysicalSystemAttentionLEDState").text() == "true" ? 1 : 0;
+    }
+    corvel->numMSErrors = errors;
+    corvel->numMSLEDs = lights;
+    promise.fulfillWithValue("OK");
+    return promise;
+}
+
+std::optional<std::string> RESTHandler::fetchDataFromAtomLink(const std::string& link, const Corvel& corvel) const
+{
+    if (corvel.demo() == 1) {
+        return "demo placeholder";
+    }
+    const SessionKey key = storedSessionKey(corvel);
+    if (!key) {
+        return std::nullopt;
+    }
+    URLRequest request;
+    request.url = link;
+    request.headers.setValue("X-API-Session", *key);
+    Result<URLLoad> load = sendSynchronousRequest(request);
+    if (!load) {
+        LODESTAR_LOG("Shared/Controllers/REST/RESTHandler", "-[RESTHandler fetchDataFromAtomLink:corvel:]",
+                     "Error: {}", description(load.error()));
+        return std::nullopt;
+    }
+    std::string text = std::move(load.value().body);
+    if (!isUTF8(text)) {
+        return std::nullopt;
+    }
+    std::erase(text, '"');
+    return text;
+}
+
+XMLElement RESTHandler::getDemoDataForContentType(std::string_view type) const
+{
+    const auto contents = Resources::main().contents(std::string(type), "xml");
+    auto root = XMLElement::parse(contents.value_or(""));
+    return root ? std::move(root).value() : XMLElement();
+}
+
+std::string RESTHandler::versionString(const Feed& managementConsole)
+{
+    const XMLElement version =
+        managementConsole.root().path({"entry", "content", ObjectType::ManagementConsole, "VersionInfo"});
+    const auto text = [&version](std::string_view name) { return shownText(version.child(name).text()); };
+    return fmt::format("V{}R{}.{}.{}.{}", text("Version"), text("Release"), text("Maintenance"), text("Minor"),
+                       text("ServicePackName"));
+}
+
+} // namespace lodestar

@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Controllers/REST/RESTHandler.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace lodestar
+{
+
+/// The text, or "(null)" for none, as every line and address of the client shows it.
+std::string shownText(const std::optional<std::string>& text);
+
+/// Where a console serves the objects of a type.
+std::string consoleURL(const Corvel& corvel, std::string_view schema, std::string_view type);
+
+/// The session key that is stored for the record's address.
+SessionKey storedSessionKey(const Corvel& corvel);
+
+/// Whether the bytes are well-formed UTF-8 (no overlong forms, no surrogates).
+bool isUTF8(std::string_view bytes);
+
+} // namespace lodestar
