@@ -12,17 +12,6 @@ namespace
 /// The attributes' indices, in the order of `Corvel::entity`.
 enum Attribute : std::size_t { Name, Address, Username, Password, Demo, Version, AttributeCount };
 
-std::optional<std::string> text(const AttributeValue& value)
-{
-    const auto* const string = std::get_if<std::string>(&value);
-    return string != nullptr ? std::optional(*string) : std::nullopt;
-}
-
-AttributeValue stored(std::optional<std::string> value)
-{
-    return value ? AttributeValue(*std::move(value)) : AttributeValue();
-}
-
 } // namespace
 
 EntityDescription Corvel::entity()
@@ -39,55 +28,70 @@ EntityDescription Corvel::entity()
 
 Corvel::Corvel() : ManagedObject(AttributeCount) {}
 
+std::optional<std::string> Corvel::text(std::size_t index) const
+{
+    const std::lock_guard lock(m_attributesMutex);
+    const auto* const string = std::get_if<std::string>(&attribute(index));
+    return string != nullptr ? std::optional(*string) : std::nullopt;
+}
+
+void Corvel::setText(std::size_t index, std::optional<std::string> value)
+{
+    const std::lock_guard lock(m_attributesMutex);
+    setAttribute(index, value ? AttributeValue(*std::move(value)) : AttributeValue());
+}
+
 std::optional<std::string> Corvel::name() const
 {
-    return text(attribute(Name));
+    return text(Name);
 }
 std::optional<std::string> Corvel::address() const
 {
-    return text(attribute(Address));
+    return text(Address);
 }
 std::optional<std::string> Corvel::username() const
 {
-    return text(attribute(Username));
+    return text(Username);
 }
 std::optional<std::string> Corvel::password() const
 {
-    return text(attribute(Password));
+    return text(Password);
 }
 std::optional<std::string> Corvel::version() const
 {
-    return text(attribute(Version));
+    return text(Version);
 }
 
 int Corvel::demo() const
 {
+    const std::lock_guard lock(m_attributesMutex);
     const auto* const number = std::get_if<std::int64_t>(&attribute(Demo));
     return number != nullptr ? static_cast<int>(*number) : 0;
 }
 
 void Corvel::setName(std::optional<std::string> value)
 {
-    setAttribute(Name, stored(std::move(value)));
+    setText(Name, std::move(value));
 }
 void Corvel::setAddress(std::optional<std::string> value)
 {
-    setAttribute(Address, stored(std::move(value)));
+    setText(Address, std::move(value));
 }
 void Corvel::setUsername(std::optional<std::string> value)
 {
-    setAttribute(Username, stored(std::move(value)));
+    setText(Username, std::move(value));
 }
 void Corvel::setPassword(std::optional<std::string> value)
 {
-    setAttribute(Password, stored(std::move(value)));
+    setText(Password, std::move(value));
 }
 void Corvel::setVersion(std::optional<std::string> value)
 {
-    setAttribute(Version, stored(std::move(value)));
+    setText(Version, std::move(value));
 }
 void Corvel::setDemo(bool value)
 {
+    const std::lock_guard lock(m_attributesMutex);
     setAttribute(Demo, std::int64_t{value ? 1 : 0});
 }
 

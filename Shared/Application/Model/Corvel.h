@@ -14,7 +14,7 @@ namespace lodestar
 
 class FeedDictionary;
 
-/// A registered console. The persisted attributes are read and written on the main thread only; none is "nil".
+/// A registered console. The persisted attributes are written on the main thread and read on any; none is "nil".
 /// The transient members hold the last fetch, are never stored, and may be touched from any thread.
 ///
 /// The feed dictionary is opaque here, because feeds stand above the model: read it with `feedOfType` of
@@ -52,6 +52,10 @@ public:
     void setRestData(std::shared_ptr<const FeedDictionary> feeds);
 
 private:
+    std::optional<std::string> text(std::size_t index) const;
+    void setText(std::size_t index, std::optional<std::string> value);
+
+    mutable std::mutex m_attributesMutex; ///< what workers read must not be half written by an edit
     mutable std::mutex m_restDataMutex;
     std::shared_ptr<const FeedDictionary> m_restData;
 };

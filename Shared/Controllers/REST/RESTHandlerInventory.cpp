@@ -159,8 +159,8 @@ std::optional<std::string> RESTHandler::fetchDataFromAtomLink(const std::string&
     request.headers.setValue("X-API-Session", *key);
     Result<URLLoad> load = sendSynchronousRequest(request);
     if (!load) {
-        LODESTAR_LOG("Shared/Controllers/REST/RESTHandler", "-[RESTHandler fetchDataFromAtomLink:corvel:]",
-                     "Error: {}", description(load.error()));
+        LODESTAR_LOG("Shared/Controllers/REST/RESTHandler", "-[RESTHandler fetchDataFromAtomLink:corvel:]", "Error: {}",
+                     description(load.error()));
         return std::nullopt;
     }
     std::string text = std::move(load.value().body);

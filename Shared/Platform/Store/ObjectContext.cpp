@@ -166,6 +166,7 @@ void ObjectContext::deleteObject(const std::shared_ptr<ManagedObject>& object)
         m_state->entities[object->m_entity].saved.erase(object->m_rowId);
     }
     detach(*object);
+    object->m_deleted = true;
 }
 
 Result<std::vector<std::shared_ptr<ManagedObject>>> ObjectContext::fetchAll(std::string_view entity)

@@ -3,6 +3,7 @@
 
 #include "Platform/Result.h"
 
+#include <atomic>
 #include <cstdint>
 #include <functional>
 #include <map>
@@ -61,6 +62,9 @@ public:
 
     /// In the store or to be put there by the next save; false once deleted or when never inserted.
     bool isInserted() const { return m_inserted; }
+    /// True once a context has been told to delete the object. Any thread: work that was under way for the object asks
+    /// before it leaves traces of it.
+    bool isDeleted() const { return m_deleted; }
 
 private:
     friend class ObjectContext;
@@ -68,6 +72,7 @@ private:
     std::uint64_t m_dirty = 0; ///< bit i: attribute i was changed since the last save
     std::int64_t m_rowId = 0;  ///< 0 until saved
     bool m_inserted = false;
+    std::atomic<bool> m_deleted = false;
     std::size_t m_entity = 0;
     class ObjectContext* m_context = nullptr;
 };
