@@ -46,15 +46,20 @@ public:
     static void startSession(std::string_view applicationKey);
     /// To be installed with `std::set_terminate`: logs the exception in flight and aborts.
     [[noreturn]] static void uncaughtExceptionHandler();
-    /// Presents the feedback screen. Main thread.
+    /// Presents the feedback screen; without a presenter only a line is logged. Main thread.
     static void feedback();
+    /// What `feedback` calls; an empty function takes it away. Main thread.
+    static void setFeedbackPresenter(std::function<void()> presenter);
 
     /// Lines go to `folder`/lodestar.log, rotated by size, files 0600 in a folder 0700. Without this call they go
-    /// nowhere but to listeners and, in debug builds, to standard error. Returns whether the folder can be written.
+    /// nowhere but to listeners and, in debug builds, to standard error. A second call moves on to its folder. Returns
+    /// whether the folder can be written; when it cannot, logging goes on as before the call.
     static bool openLogFolder(const std::string& folder);
-    /// Calls the function for every line until the returned token is destroyed; for tests and the debug console.
+    /// Calls the function for every line, on the thread that logs it, one line at a time, until the returned token is
+    /// destroyed: once that has returned the function does not run. The message comes as it was logged, unescaped.
+    /// Lines that the function logs itself reach no listener. For tests and the debug console.
     [[nodiscard]] static std::shared_ptr<void> addListener(std::function<void(const Entry&)> listener);
-    /// Writes what is buffered.
+    /// Writes what is buffered. Lines are written in the background within a fraction of a second, and at exit.
     static void flush();
 
 private:

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Feedback/VireoLogger.h"
+
+#include <functional>
+#include <memory>
+#include <mutex>
+#include <vector>
+
+namespace lodestar
+{
+
+/// Those who hear every line. Thread-safe.
+class LogListeners
+{
+public:
+    using Function = std::function<void(const VireoLogger::Entry&)>;
+
+    static LogListeners& shared();
+
+    [[nodiscard]] std::shared_ptr<void> add(Function function);
+    void notify(const VireoLogger::Entry& entry);
+
+private:
+    struct Listener {
+        std::recursive_mutex mutex; ///< recursive: a listener may end itself while it runs
+        Function function;
+        bool ended = false;
+    };
+    using List = std::vector<std::shared_ptr<Listener>>;
+
+    std::mutex m_mutex;
+    std::shared_ptr<const List> m_list = std::make_shared<const List>();
+};
+
+} // namespace lodestar

@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Feedback/RotatingLogFile.h"
+
+#include <fmt/core.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdio>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+
+namespace lodestar
+{
+
+RotatingLogFile::~RotatingLogFile()
+{
+    close();
+}
+
+RotatingLogFile::RotatingLogFile(RotatingLogFile&& other) noexcept
+{
+    *this = std::move(other);
+}
+
+RotatingLogFile& RotatingLogFile::operator=(RotatingLogFile&& other) noexcept
+{
+    std::swap(m_path, other.m_path);
+    std::swap(m_header, other.m_header);
+    std::swap(m_limits, other.m_limits);
+    std::swap(m_descriptor, other.m_descriptor);
+    std::swap(m_size, other.m_size);
+    std::swap(m_bytesLost, other.m_bytesLost);
+    std::swap(m_midLine, other.m_midLine);
+    return *this;
+}
+
+bool RotatingLogFile::open(const std::string& folder, const std::string& name, Limits limits)
+{
+    close();
+    std::error_code failure;
+    std::filesystem::create_directories(folder, failure);
+    if (!std::filesystem::is_directory(folder, failure)) {
+        return false;
+    }
+    ::chmod(folder.c_str(), S_IRWXU);
+    m_path = folder + "/" + name;
+    m_limits = limits;
+    m_midLine = false;
+    m_bytesLost = 0;
+    if (!openFile()) {
+        return false;
+    }
+    // The last run may have ended in the middle of a line.
+    char last = '\n';
+    if (m_size > 0 && ::pread(m_descriptor, &last, 1, static_cast<off_t>(m_size - 1)) == 1) {
+        m_midLine = last != '\n';
+    }
+    append(m_header);
+    return true;
+}
+
+void RotatingLogFile::append(std::string_view lines)
+{
+    while (isOpen() && !lines.empty()) {
+        std::size_t length = fittingLength(lines);
+        if (length == 0) {
+            if (m_size > m_header.size()) {
+                rotate();
+            }
+            // A line too long for any file gets one of its own, and so does every line when no file can be set aside.
+            length = std::max(fittingLength(lines), std::min(lines.find('\n'), lines.size() - 1) + 1);
+        }
+        appendPiece(lines.substr(0, length));
+        lines.remove_prefix(length);
+    }
+}
+
+std::size_t RotatingLogFile::fittingLength(std::string_view lines) const
+{
+    const std::size_t room = m_size < m_limits.fileBytes ? m_limits.fileBytes - m_size : 0;
+    if (lines.size() <= room) {
+        return lines.size();
+    }
+    const std::size_t lastFeed = room == 0 ? std::string_view::npos : lines.rfind('\n', room - 1);
+    return lastFeed == std::string_view::npos ? 0 : lastFeed + 1;
+}
+
+void RotatingLogFile::appendPiece(std::string_view lines)
+{
+    std::string repaired;
+    if (m_midLine || m_bytesLost > 0) {
+        repaired = m_midLine ? "\n" : "";
+        if (m_bytesLost > 0) {
+            repaired += fmt::format("({} bytes of log could not be written)\n", m_bytesLost);
+        }
+        if (writeFully(repaired) < repaired.size()) {
+            m_bytesLost += lines.size();
+            return;
+        }
+        m_bytesLost = 0;
+    }
+    m_bytesLost += lines.size() - writeFully(lines);
+}
+
+std::size_t RotatingLogFile::writeFully(std::string_view bytes)
+{
+    std::size_t written = 0;
+    while (written < bytes.size()) {
+        const ssize_t count = ::write(m_descriptor, bytes.data() + written, bytes.size() - written);
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
+        if (count <= 0) {
+            break;
+        }
+        written += static_cast<std::size_t>(count);
+    }
+    m_size += written;
+    if (written > 0) {
+        m_midLine = bytes[written - 1] != '\n';
+    }
+    return written;
+}
+
+void RotatingLogFile::rotate()
+{
+    for (int number = m_limits.files - 1; number > 0; --number) {
+        const std::string older = m_path + "." + std::to_string(number);
+        const std::string younger = number == 1 ? m_path : m_path + "." + std::to_string(number - 1);
+        std::rename(younger.c_str(), older.c_str()); // the ones that are not there yet are no failure
+    }
+    const int previous = std::exchange(m_descriptor, -1);
+    if (!openFile()) {
+        // Out of descriptors, or the folder is gone: go on in the old file and try again after as many bytes.
+        m_descriptor = previous;
+        m_size = 0;
+        return;
+    }
+    ::close(previous);
+    if (m_size > 0 && ::ftruncate(m_descriptor, 0) == 0) {
+        // The file could not be set aside, or none is to be kept: the new lines are worth more than the old ones.
+        m_size = 0;
+    }
+    m_midLine = false;
+    if (!m_header.empty()) {
+        appendPiece(m_header);
+    }
+}
+
+bool RotatingLogFile::openFile()
+{
+    // No link is followed: what it points to is none of ours to append to.
+    m_descriptor = ::open(m_path.c_str(), O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
+    struct stat status = {};
+    if (m_descriptor < 0 || ::fstat(m_descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {
+        close();
+        return false;
+    }
+    ::fchmod(m_descriptor, S_IRUSR | S_IWUSR);
+    m_size = static_cast<std::size_t>(status.st_size);
+    return true;
+}
+
+void RotatingLogFile::close()
+{
+    if (m_descriptor >= 0) {
+        ::close(m_descriptor);
+        m_descriptor = -1;
+    }
+}
+
+} // namespace lodestar

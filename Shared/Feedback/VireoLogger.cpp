@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Feedback/VireoLogger.h"
+
+#include "Feedback/LogListeners.h"
+#include "Feedback/LogText.h"
+#include "Feedback/LogWriter.h"
+
+#include <fmt/format.h>
+
+#include <atomic>
+#include <chrono>
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <cxxabi.h>
+#include <exception>
+#include <execinfo.h>
+#include <iterator>
+#include <link.h>
+#include <typeinfo>
+#include <unistd.h>
+#include <utility>
+
+namespace lodestar
+{
+
+namespace
+{
+
+#ifdef NDEBUG
+constexpr bool copiesToStandardError = false;
+#else
+constexpr bool copiesToStandardError = true;
+#endif
+
+constexpr std::string_view ownFile = "Shared/Feedback/VireoLogger";
+
+std::function<void()>& presenter()
+{
+    static auto& function = *new std::function<void()>;
+    return function;
+}
+
+void appendTime(std::string& line)
+{
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
+    const auto seconds = static_cast<std::time_t>(milliseconds / 1000);
+    struct tm utc = {};
+    ::gmtime_r(&seconds, &utc);
+    fmt::format_to(std::back_inserter(line), "{:04}-{:02}-{:02}T{:02}:{:02}:{:02}.{:03}Z", utc.tm_year + 1900,
+                   utc.tm_mon + 1, utc.tm_mday, utc.tm_hour, utc.tm_min, utc.tm_sec, milliseconds % 1000);
+}
+
+/// Time, level, tag, thread, place, method, message: the order in which a reader scans.
+std::string formatted(const VireoLogger::Entry& entry)
+{
+    std::string line;
+    line.reserve(160 + entry.message.size() + entry.stacktrace.size() * 15);
+    appendTime(line);
+    fmt::format_to(std::back_inserter(line), " {} {} [{}] {}:{} {} ", entry.level, entry.tag, ::gettid(),
+                   entry.fileName, entry.line, entry.method);
+    appendLogText(line, entry.message);
+    return line;
+}
+
+void appendStack(std::string& line, std::span<void* const> stacktrace)
+{
+    if (stacktrace.empty()) {
+        return;
+    }
+    line += " {";
+    for (void* const address : stacktrace) {
+        fmt::format_to(std::back_inserter(line), "{}{:x}", line.back() == '{' ? "" : " ",
+                       reinterpret_cast<std::uintptr_t>(address));
+    }
+    line += '}';
+}
+
+/// Addresses mean something only with the place at which the program was loaded in that run.
+std::string fileHeader()
+{
+    std::uintptr_t base = 0;
+    ::dl_iterate_phdr(
+        [](dl_phdr_info* info, std::size_t, void* result) {
+            *static_cast<std::uintptr_t*>(result) = info->dlpi_addr; // the program itself comes first
+            return 1;
+        },
+        &base);
+    std::string header;
+    appendTime(header);
+    fmt::format_to(std::back_inserter(header), " process {}, program loaded at {:x}\n", ::getpid(), base);
+    return header;
+}
+
+std::string describeExceptionInFlight()
+{
+    if (!std::current_exception()) {
+        return "terminated without an exception";
+    }
+    int status = 0;
+    const std::type_info* type = abi::__cxa_current_exception_type();
+    char* demangled = type == nullptr ? nullptr : abi::__cxa_demangle(type->name(), nullptr, nullptr, &status);
+    std::string text = demangled != nullptr ? demangled : type != nullptr ? type->name() : "unknown type";
+    std::free(demangled);
+    try {
+        throw;
+    } catch (const std::exception& exception) {
+        text += ": ";
+        text += exception.what();
+    } catch (...) {
+        text += " (no description)";
+    }
+    return text;
+}
+
+} // namespace
+
+void VireoLogger::write(Line line)
+{
+    // Logging never breaks its caller: what cannot be had for it, memory above all, costs the line and no more.
+    try {
+        const Entry entry{line.level, line.tag, line.line, line.fileName, line.method, line.stacktrace, line.message};
+        LogListeners::shared().notify(entry);
+        LogWriter& writer = LogWriter::shared();
+        if (!copiesToStandardError && !writer.isOpen()) {
+            return;
+        }
+        std::string text = formatted(entry);
+        if (copiesToStandardError) {
+            std::fprintf(stderr, "%s\n", text.c_str());
+        }
+        appendStack(text, entry.stacktrace);
+        text += '\n';
+        writer.append(text);
+    } catch (...) {
+        return;
+    }
+}
+
+VireoLogger::Settings& VireoLogger::settings()
+{
+    static Settings settings;
+    return settings;
+}
+
+void VireoLogger::startSession(std::string_view applicationKey)
+{
+    // The key is a credential: whether there is one may be known, what it is may not.
+    LODESTAR_LOG(ownFile, "+[VireoLogger startSession:]", "session started {} an application key, mode {}, {} on shake",
+                 applicationKey.empty() ? "without" : "with", settings().mode,
+                 settings().reportOnShake ? "reports" : "no report");
+}
+
+void VireoLogger::uncaughtExceptionHandler()
+{
+    static std::atomic<bool> running = false;
+    if (!running.exchange(true)) {
+        try {
+            LODESTAR_LOG(ownFile, "+[VireoLogger uncaughtExceptionHandler]", "uncaught exception: {}",
+                         describeExceptionInFlight());
+            flush();
+        } catch (...) {
+            std::abort();
+        }
+    }
+    std::abort();
+}
+
+void VireoLogger::feedback()
+{
+    if (presenter()) {
+        presenter()();
+    } else {
+        LODESTAR_LOG(ownFile, "+[VireoLogger feedback]", "no screen to present the feedback on");
+    }
+}
+
+void VireoLogger::setFeedbackPresenter(std::function<void()> presenter_)
+{
+    presenter() = std::move(presenter_);
+}
+
+bool VireoLogger::openLogFolder(const std::string& folder)
+{
+    return LogWriter::shared().open(folder, "lodestar.log", fileHeader());
+}
+
+std::shared_ptr<void> VireoLogger::addListener(std::function<void(const Entry&)> listener)
+{
+    return LogListeners::shared().add(std::move(listener));
+}
+
+void VireoLogger::flush()
+{
+    LogWriter::shared().flush();
+}
+
+[[gnu::noinline]] std::vector<void*> callStackReturnAddresses()
+{
+    constexpr int most = 32;
+    void* addresses[most + 1];
+    const int count = ::backtrace(addresses, most + 1);
+    // The first address lies in this function.
+    return count <= 1 ? std::vector<void*>() : std::vector<void*>(addresses + 1, addresses + count);
+}
+
+} // namespace lodestar
