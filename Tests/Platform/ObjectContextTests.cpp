@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <sqlite3.h>
+#include <sstream>
 #include <sys/stat.h>
 
 namespace lodestar
@@ -29,8 +30,10 @@ protected:
         SQLite::Database database = plain();
         database.exec("CREATE TABLE writes(what TEXT)");
         for (const std::string column : {"title", "note", "count"}) {
-            database.exec("CREATE TRIGGER u_" + column + " AFTER UPDATE OF \"" + column +
-                          "\" ON Item BEGIN INSERT INTO writes VALUES('" + column + " ' || NEW._id); END");
+            std::ostringstream sql;
+            sql << "CREATE TRIGGER u_" << column << " AFTER UPDATE OF \"" << column
+                << "\" ON Item BEGIN INSERT INTO writes VALUES('" << column << " ' || NEW._id); END";
+            database.exec(sql.str());
         }
         database.exec("CREATE TRIGGER i AFTER INSERT ON Item BEGIN INSERT INTO writes VALUES('insert'); END");
         database.exec("CREATE TRIGGER d AFTER DELETE ON Item BEGIN INSERT INTO writes VALUES('delete'); END");

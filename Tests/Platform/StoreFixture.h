@@ -21,6 +21,11 @@ namespace lodestar::test
 /// A folder of its own for each test, and a model of two related entities.
 class StoreFixture : public ::testing::Test
 {
+public:
+    ~StoreFixture() override { std::filesystem::remove_all(folder); }
+    StoreFixture(const StoreFixture&) = delete;
+    StoreFixture& operator=(const StoreFixture&) = delete;
+
 protected:
     using ObjectRef = std::shared_ptr<ManagedObject>;
     enum Attribute : std::size_t { Title, Note, Count };
@@ -31,7 +36,6 @@ protected:
         folder = ::mkdtemp(name.data());
         path = folder / "Test.sqlite";
     }
-    ~StoreFixture() override { std::filesystem::remove_all(folder); }
 
     static ManagedObjectModel model(int version = 1)
     {

@@ -1,0 +1,219 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Application/Adapters/FileUserDefaults.h"
+
+#include "Platform/Queues/DispatchQueue.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+
+#include <cstdint>
+#include <fcntl.h>
+#include <map>
+#include <mutex>
+#include <sys/stat.h>
+#include <unistd.h>
+#include <utility>
+#include <variant>
+
+namespace lodestar
+{
+
+namespace
+{
+
+using Value = std::variant<bool, std::string>;
+using Values = std::map<std::string, Value>;
+
+// Two groups keep the two types apart in a format that knows texts only.
+const QLatin1String booleans("Booleans");
+const QLatin1String strings("Strings");
+
+/// The empty text, which the format has no place for as a key. A lone percent sign is never the encoding of a text.
+const QLatin1String emptyText("%");
+
+/// The format changes keys with slashes, takes commas and a leading "@" of a value for its own, and knows no bytes that
+/// are not Unicode. Percent-encoded, every text comes back as it was.
+QString encoded(const std::string& text)
+{
+    return text.empty() ? QString(emptyText) : QString::fromLatin1(QByteArray::fromStdString(text).toPercentEncoding());
+}
+
+std::string decoded(const QString& text)
+{
+    return text == emptyText ? std::string() : QByteArray::fromPercentEncoding(text.toLatin1()).toStdString();
+}
+
+/// Calls the function with every key of the group. A damaged file may yield empty ones, which none of ours is.
+template <typename Function>
+void forEachKey(QSettings& settings, QLatin1String group, const Function& function)
+{
+    settings.beginGroup(group);
+    for (const QString& key : settings.childKeys()) {
+        if (!key.isEmpty()) {
+            function(decoded(key), settings.value(key));
+        }
+    }
+    settings.endGroup();
+}
+
+Values read(const QString& path)
+{
+    Values values;
+    QSettings settings(path, QSettings::IniFormat);
+    forEachKey(settings, strings, [&](const std::string& key, const QVariant& value) {
+        values.insert_or_assign(key, decoded(value.toString()));
+    });
+    forEachKey(settings, booleans,
+               [&](const std::string& key, const QVariant& value) { values.insert_or_assign(key, value.toBool()); });
+    return values;
+}
+
+/// Session keys stand in the file: it is private before the first byte goes in.
+void makePrivate(const QString& path)
+{
+    const QString folder = QFileInfo(path).absolutePath();
+    if (!QFileInfo::exists(folder) && QDir().mkpath(folder)) {
+        ::chmod(QFile::encodeName(folder).constData(), S_IRWXU);
+    }
+    const QByteArray name = QFile::encodeName(path);
+    if (const int file = ::open(name.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR);
+        file >= 0) {
+        ::close(file);
+    } else if (QFileInfo(path).isFile()) {
+        ::chmod(name.constData(), S_IRUSR | S_IWUSR);
+    }
+}
+
+/// Replaces the file's contents as a whole, never in place.
+bool write(const QString& path, const Values& values)
+{
+    makePrivate(path);
+    QSettings settings(path, QSettings::IniFormat);
+    settings.setAtomicSyncRequired(true);
+    settings.clear();
+    for (const auto& [key, value] : values) {
+        const bool* const flag = std::get_if<bool>(&value);
+        settings.setValue((flag != nullptr ? booleans : strings) + QLatin1Char('/') + encoded(key),
+                          flag != nullptr ? QVariant(*flag) : QVariant(encoded(std::get<std::string>(value))));
+    }
+    settings.sync();
+    // A format error only tells that the file was damaged before; it has been replaced.
+    return settings.status() != QSettings::AccessError;
+}
+
+} // namespace
+
+struct FileUserDefaults::State : std::enable_shared_from_this<State> {
+    explicit State(const std::string& thePath) : path(QString::fromStdString(thePath)), values(read(path)) {}
+
+    /// With `mutex` held: the values differ from the file from now on.
+    void noteChange()
+    {
+        ++generation;
+        if (!std::exchange(writeQueued, true)) {
+            queue.async([self = shared_from_this()] { self->writePending(); });
+        }
+    }
+
+    bool writePending()
+    {
+        const std::lock_guard writing(writeMutex);
+        std::unique_lock lock(mutex);
+        writeQueued = false;
+        if (generation == writtenGeneration) {
+            return true;
+        }
+        const Values copy = values;
+        const std::uint64_t copied = generation;
+        lock.unlock();
+        const bool written = write(path, copy);
+        lock.lock();
+        if (written) {
+            writtenGeneration = copied;
+        }
+        return written;
+    }
+
+    void set(const std::string& key, Value value)
+    {
+        const std::lock_guard lock(mutex);
+        const auto [entry, isNew] = values.try_emplace(key, value);
+        if (isNew || entry->second != value) {
+            entry->second = std::move(value);
+            noteChange();
+        }
+    }
+
+    template <typename T>
+    std::optional<T> get(const std::string& key) const
+    {
+        const std::lock_guard lock(mutex);
+        const auto found = values.find(key);
+        const T* const value = found != values.end() ? std::get_if<T>(&found->second) : nullptr;
+        return value != nullptr ? std::optional<T>(*value) : std::nullopt;
+    }
+
+    const QString path;
+    const DispatchQueue queue{"lodestar.user-defaults", DispatchQueue::Kind::Serial};
+    std::mutex writeMutex; ///< one writer at a time; taken before `mutex`
+    mutable std::mutex mutex;
+    Values values;
+    std::uint64_t generation = 0;
+    std::uint64_t writtenGeneration = 0;
+    bool writeQueued = false;
+};
+
+FileUserDefaults::FileUserDefaults(const std::string& path) : m_state(std::make_shared<State>(path)) {}
+
+FileUserDefaults::~FileUserDefaults()
+{
+    m_state->writePending();
+}
+
+bool FileUserDefaults::boolForKey(const std::string& key) const
+{
+    return m_state->get<bool>(key).value_or(false);
+}
+
+void FileUserDefaults::setBool(bool value, const std::string& key)
+{
+    m_state->set(key, value);
+}
+
+std::optional<std::string> FileUserDefaults::stringForKey(const std::string& key) const
+{
+    return m_state->get<std::string>(key);
+}
+
+void FileUserDefaults::setString(const std::string& value, const std::string& key)
+{
+    m_state->set(key, value);
+}
+
+void FileUserDefaults::removeObjectForKey(const std::string& key)
+{
+    const std::lock_guard lock(m_state->mutex);
+    if (m_state->values.erase(key) > 0) {
+        m_state->noteChange();
+    }
+}
+
+std::vector<std::string> FileUserDefaults::allKeys() const
+{
+    const std::lock_guard lock(m_state->mutex);
+    std::vector<std::string> keys;
+    keys.reserve(m_state->values.size());
+    for (const auto& [key, value] : m_state->values) {
+        keys.push_back(key);
+    }
+    return keys;
+}
+
+bool FileUserDefaults::synchronize()
+{
+    return m_state->writePending();
+}
+
+} // namespace lodestar

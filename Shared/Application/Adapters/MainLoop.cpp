@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Application/Adapters/MainLoop.h"
+
+#include "Platform/Queues/MainQueue.h"
+
+#include <QCoreApplication>
+#include <QEvent>
+#include <QObject>
+
+namespace lodestar
+{
+
+namespace
+{
+
+QEvent::Type wakeType()
+{
+    static const int type = QEvent::registerEventType();
+    return static_cast<QEvent::Type>(type);
+}
+
+/// Posted ahead of every drain: a nested loop that a block starts meets it and drains what is behind that block.
+QEvent::Type nestedType()
+{
+    static const int type = QEvent::registerEventType();
+    return static_cast<QEvent::Type>(type);
+}
+
+} // namespace
+
+class MainLoop::Receiver : public QObject
+{
+public:
+    bool event(QEvent* event) override
+    {
+        if (event->type() != wakeType() && event->type() != nestedType()) {
+            return QObject::event(event);
+        }
+        QCoreApplication::postEvent(this, new QEvent(nestedType()));
+        MainQueue::shared().drain();
+        QCoreApplication::removePostedEvents(this, nestedType());
+        return true;
+    }
+};
+
+MainLoop::MainLoop() : m_receiver(std::make_unique<Receiver>())
+{
+    MainQueue::shared().adoptCurrentThread();
+    // The queue calls this from any thread, but never again once it has another or none.
+    MainQueue::shared().setWake(
+        [receiver = m_receiver.get()] { QCoreApplication::postEvent(receiver, new QEvent(wakeType())); });
+}
+
+MainLoop::~MainLoop()
+{
+    MainQueue::shared().setWake(nullptr);
+}
+
+} // namespace lodestar
