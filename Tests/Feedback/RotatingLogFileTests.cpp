@@ -1,0 +1,126 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Feedback/RotatingLogFile.h"
+#include "Tests/Feedback/ScratchFolder.h"
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <sys/resource.h>
+
+namespace lodestar
+{
+
+namespace
+{
+
+using std::filesystem::perms;
+
+perms modeOf(const std::filesystem::path& path)
+{
+    return std::filesystem::status(path).permissions();
+}
+
+/// For its life, writes that would make a file larger than this fail as on a full disk.
+class FullDisk
+{
+public:
+    explicit FullDisk(rlim_t bytes)
+    {
+        std::signal(SIGXFSZ, SIG_IGN);
+        ::getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{bytes, m_before.rlim_max};
+        ::setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
+    FullDisk(const FullDisk&) = delete;
+    FullDisk& operator=(const FullDisk&) = delete;
+
+private:
+    rlimit m_before = {};
+};
+
+} // namespace
+
+TEST(RotatingLogFile, KeepsTheYoungestFilesWithTheirHeaderAndLosesNoLineInBetween)
+{
+    const ScratchFolder scratch;
+    const std::string folder = (scratch.path() / "new" / "logs").string();
+    RotatingLogFile file;
+    file.setHeader("H\n");
+    ASSERT_TRUE(file.open(folder, "log", {10, 3}));
+    file.append("111\n222\n333\n444\n"); // two a file beside the header
+    file.append("555\n");
+    file.append("666\n777\n");
+    EXPECT_EQ(scratch.read("new/logs/log"), "H\n777\n");
+    EXPECT_EQ(scratch.read("new/logs/log.1"), "H\n555\n666\n");
+    EXPECT_EQ(scratch.read("new/logs/log.2"), "H\n333\n444\n");
+    EXPECT_FALSE(std::filesystem::exists(scratch.path() / "new/logs/log.3"));
+
+    file.append("a line that is longer than a file\n8\n");
+    EXPECT_EQ(scratch.read("new/logs/log.1"), "H\na line that is longer than a file\n");
+    EXPECT_EQ(scratch.read("new/logs/log"), "H\n8\n");
+
+    EXPECT_EQ(modeOf(folder), perms::owner_all);
+    for (const char* name : {"log", "log.1", "log.2"}) {
+        EXPECT_EQ(modeOf(std::filesystem::path(folder) / name), perms::owner_read | perms::owner_write) << name;
+    }
+}
+
+TEST(RotatingLogFile, GoesOnWithTheFileOfTheLastRunAndTightensItsMode)
+{
+    const ScratchFolder scratch;
+    std::ofstream(scratch.path() / "log") << "whole\ncut in the mid";
+    std::filesystem::permissions(scratch.path() / "log", perms::all);
+    RotatingLogFile file;
+    file.setHeader("H\n");
+    ASSERT_TRUE(file.open(scratch.path().string(), "log", {}));
+    file.append("next\n");
+    EXPECT_EQ(scratch.read("log"), "whole\ncut in the mid\nH\nnext\n");
+    EXPECT_EQ(modeOf(scratch.path() / "log"), perms::owner_read | perms::owner_write);
+}
+
+TEST(RotatingLogFile, RefusesWhatIsNoFolderOrNoFileOfItsOwn)
+{
+    const ScratchFolder scratch;
+    std::ofstream(scratch.path() / "file") << "mine";
+    std::filesystem::create_symlink(scratch.path() / "file", scratch.path() / "link");
+    std::filesystem::create_directory(scratch.path() / "folder");
+    RotatingLogFile file;
+    EXPECT_FALSE(file.open((scratch.path() / "file" / "below").string(), "log", {}));
+    EXPECT_FALSE(file.open(scratch.path().string(), "link", {}));
+    EXPECT_FALSE(file.open(scratch.path().string(), "folder", {}));
+    EXPECT_FALSE(file.isOpen());
+    file.append("goes nowhere\n");
+    EXPECT_EQ(scratch.read("file"), "mine");
+}
+
+TEST(RotatingLogFile, CountsWhatAFullDiskTookAndRecovers)
+{
+    const ScratchFolder scratch;
+    RotatingLogFile file;
+    ASSERT_TRUE(file.open(scratch.path().string(), "log", {}));
+    {
+        const FullDisk disk(10);
+        file.append("12345678\nabc\n"); // the disk is full in the second line
+        file.append("lost\n");
+        EXPECT_EQ(scratch.read("log"), "12345678\na");
+    }
+    file.append("back\n");
+    EXPECT_EQ(scratch.read("log"), "12345678\na\n(8 bytes of log could not be written)\nback\n");
+}
+
+TEST(RotatingLogFile, StartsOverWhenTheFullFileCannotBeSetAside)
+{
+    const ScratchFolder scratch;
+    std::filesystem::create_directory(scratch.path() / "log.1"); // no file can be renamed to this
+    RotatingLogFile file;
+    ASSERT_TRUE(file.open(scratch.path().string(), "log", {8, 2}));
+    file.append("111\n222\n333\n");
+    EXPECT_EQ(scratch.read("log"), "333\n");
+
+    std::filesystem::remove_all(scratch.path()); // the folder goes while the file is open
+    file.append("444\n555\n666\n777\n");
+    EXPECT_TRUE(file.isOpen());
+}
+
+} // namespace lodestar

@@ -1,0 +1,258 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Feedback/LogText.h"
+#include "Feedback/VireoLogger.h"
+#include "Tests/Feedback/ScratchFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <stdexcept>
+#include <thread>
+
+namespace lodestar
+{
+
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+namespace
+{
+
+constexpr std::string_view here = "Tests/Feedback/VireoLoggerTests";
+
+std::string escaped(std::string_view message)
+{
+    std::string line;
+    appendLogText(line, message);
+    return line;
+}
+
+/// A folder that a test and the process that it runs again to let it die have in common.
+class SharedFolder
+{
+public:
+    SharedFolder()
+    {
+        GTEST_FLAG_SET(death_test_style, "threadsafe");
+        if (const char* inherited = std::getenv(variable)) {
+            m_path = inherited;
+        } else {
+            m_own = std::make_unique<ScratchFolder>();
+            m_path = m_own->path().string();
+            ::setenv(variable, m_path.c_str(), 1);
+        }
+    }
+    ~SharedFolder() { ::unsetenv(variable); }
+    SharedFolder(const SharedFolder&) = delete;
+    SharedFolder& operator=(const SharedFolder&) = delete;
+
+    const std::string& path() const { return m_path; }
+    std::string log() const { return m_own ? m_own->read("lodestar.log") : ""; }
+
+private:
+    static constexpr const char* variable = "LODESTAR_TEST_LOG_FOLDER";
+    std::unique_ptr<ScratchFolder> m_own;
+    std::string m_path;
+};
+
+std::string lastLine(const std::string& log)
+{
+    const std::size_t feed = log.rfind('\n', log.size() - 2);
+    return log.substr(feed + 1);
+}
+
+} // namespace
+
+TEST(LogText, LetsNoMessageLookLikeAnotherLineOrAnotherMessage)
+{
+    const std::pair<std::string_view, std::string_view> cases[] = {
+        {"plain text, 100 % {} \"quoted\"", "plain text, 100 % {} \"quoted\""},
+        {"Kühlung 冷却 😀", "Kühlung 冷却 😀"},
+        {"a\r\n2026-01-01T00:00:00.000Z 2 0 forged", "a\\r\\n2026-01-01T00:00:00.000Z 2 0 forged"},
+        {"a\\nb", "a\\\\nb"}, // a written backslash does not read as an escaped line feed
+        {std::string_view("nul\0tab\tesc\x1b[2Jdel\x7f", 19), "nul\\x00tab\\tesc\\x1b[2Jdel\\x7f"},
+        {"next\u0085line\u2028separator\u202eturned",
+         "next\\xc2\\x85line\\xe2\\x80\\xa8separator\\xe2\\x80\\xaeturned"},
+        {"\xff \xc0\xaf \xed\xa0\x80 \xf5\x80\x80\x80", "\\xff \\xc0\\xaf \\xed\\xa0\\x80 \\xf5\\x80\\x80\\x80"},
+        {"cut \xe2\x82", "cut \\xe2\\x82"},
+    };
+    for (const auto& [message, expected] : cases) {
+        EXPECT_EQ(escaped(message), expected);
+    }
+    EXPECT_EQ(escaped(std::string(maximumLogMessage, 'x')).size(), maximumLogMessage);
+    EXPECT_THAT(escaped(std::string(maximumLogMessage + 5, 'x')), EndsWith("xx (5 more bytes)"));
+}
+
+TEST(VireoLogger, WritesEveryPartOfACallToTheLogFile)
+{
+    const ScratchFolder scratch;
+    ASSERT_TRUE(VireoLogger::openLogFolder(scratch.path().string()));
+    EXPECT_FALSE(VireoLogger::openLogFolder("/dev/null/logs"));
+    void* const stack[] = {reinterpret_cast<void*>(0xbeef), reinterpret_cast<void*>(0xf00d)};
+    VireoLogger::log(3, 7, 42, "Shared/Controllers/REST/RESTHandler", "-[RESTHandler login:checkToken:]", stack,
+                     "Corvel: {}\n{}", "first", 2);
+    VireoLogger::flush();
+    const std::string log = scratch.read("lodestar.log");
+    EXPECT_THAT(log, HasSubstr("program loaded at "));
+    EXPECT_THAT(lastLine(log), testing::ContainsRegex("^[0-9-]{10}T[0-9:]{8}\\.[0-9]{3}Z 3 7 \\[[0-9]+\\] "
+                                                      "Shared/Controllers/REST/RESTHandler:42 "
+                                                      "-\\[RESTHandler login:checkToken:\\] "
+                                                      "Corvel: first\\\\n2 \\{beef f00d\\}\n$"));
+}
+
+TEST(VireoLogger, KeepsAllLinesOfManyThreadsWholeAndInTheirOrder)
+{
+    const ScratchFolder scratch;
+    ASSERT_TRUE(VireoLogger::openLogFolder(scratch.path().string()));
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < 4; ++thread) {
+        threads.emplace_back([thread] {
+            for (int line = 0; line < 250; ++line) {
+                VireoLogger::log(2, 0, 1, here, "method", {}, "thread {} line {}.", thread, line);
+            }
+        });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    VireoLogger::flush();
+    const std::string log = scratch.read("lodestar.log");
+    EXPECT_EQ(std::count(log.begin(), log.end(), '\n'), 1001); // and the header
+    for (int thread = 0; thread < 4; ++thread) {
+        std::size_t position = 0;
+        for (int line = 0; line < 250 && position != std::string::npos; ++line) {
+            position = log.find(fmt::format("method thread {} line {}.\n", thread, line), position);
+        }
+        EXPECT_NE(position, std::string::npos) << thread;
+    }
+}
+
+TEST(VireoLogger, CarriesLinesToTheFileWithoutAFlush)
+{
+    const ScratchFolder scratch;
+    ASSERT_TRUE(VireoLogger::openLogFolder(scratch.path().string()));
+    LODESTAR_LOG(here, "method", "carried");
+    const auto deadline = std::chrono::steady_clock::now() + std::chrono::seconds(20);
+    while (scratch.read("lodestar.log").find("carried") == std::string::npos) {
+        ASSERT_LT(std::chrono::steady_clock::now(), deadline);
+        std::this_thread::yield();
+    }
+}
+
+TEST(VireoLogger, WritesWhatIsLeftAtExit)
+{
+    const SharedFolder folder;
+    EXPECT_EXIT(
+        {
+            VireoLogger::openLogFolder(folder.path());
+            LODESTAR_LOG(here, "method", "the last words");
+            std::exit(0);
+        },
+        testing::ExitedWithCode(0), "");
+    EXPECT_THAT(lastLine(folder.log()), HasSubstr("the last words"));
+}
+
+TEST(VireoLogger, ListenersHearLinesAsLoggedUntilTheyEnd)
+{
+    std::vector<std::string> heard;
+    auto listener = VireoLogger::addListener([&](const VireoLogger::Entry& entry) {
+        heard.push_back(fmt::format("{} {} {} {}", entry.level, entry.tag, entry.method, entry.message));
+        EXPECT_EQ(entry.fileName, here);
+        EXPECT_FALSE(entry.stacktrace.empty());
+        LODESTAR_LOG(here, "listener", "does not come back");
+    });
+    LODESTAR_LOG(here, "-[A b:]", "{}\n", "text");
+    EXPECT_THAT(heard, ElementsAre("2 0 -[A b:] text\n"));
+    listener.reset();
+    LODESTAR_LOG(here, "-[A b:]", "unheard");
+    EXPECT_EQ(heard.size(), 1U);
+
+    std::shared_ptr<void> once;
+    int calls = 0;
+    once = VireoLogger::addListener([&](const VireoLogger::Entry&) {
+        ++calls;
+        once.reset();
+    });
+    LODESTAR_LOG(here, "method", "one");
+    LODESTAR_LOG(here, "method", "two");
+    EXPECT_EQ(calls, 1);
+}
+
+TEST(VireoLogger, AListenerThatHasEndedDoesNotRunOnAnyThread)
+{
+    std::atomic<bool> stop = false;
+    std::thread logging([&] {
+        while (!stop) {
+            LODESTAR_LOG(here, "method", "again");
+        }
+    });
+    for (int round = 0; round < 50; ++round) {
+        std::atomic<bool> alive = true;
+        std::atomic<int> calls = 0;
+        auto listener = VireoLogger::addListener([&](const VireoLogger::Entry&) {
+            EXPECT_TRUE(alive);
+            ++calls;
+        });
+        while (calls == 0) {
+            std::this_thread::yield();
+        }
+        listener.reset();
+        alive = false;
+    }
+    stop = true;
+    logging.join();
+}
+
+TEST(VireoLogger, SaysThatASessionStartedButNeverItsKey)
+{
+    std::vector<std::string> heard;
+    const auto listener =
+        VireoLogger::addListener([&](const VireoLogger::Entry& entry) { heard.emplace_back(entry.message); });
+    VireoLogger::settings().reportOnShake = true;
+    VireoLogger::startSession("5ecret-key");
+    ASSERT_EQ(heard.size(), 1U);
+    EXPECT_THAT(heard.front(), HasSubstr("session started"));
+    EXPECT_THAT(heard.front(), Not(HasSubstr("5ecret")));
+    VireoLogger::settings() = {};
+}
+
+TEST(VireoLogger, FeedbackGoesToThePresenterThatIsInstalled)
+{
+    int presented = 0;
+    VireoLogger::setFeedbackPresenter([&] { ++presented; });
+    VireoLogger::feedback();
+    VireoLogger::setFeedbackPresenter({});
+    VireoLogger::feedback();
+    EXPECT_EQ(presented, 1);
+}
+
+TEST(VireoLogger, LogsTheExceptionThatEndsTheProcess)
+{
+    const SharedFolder folder;
+    EXPECT_EXIT(
+        {
+            VireoLogger::openLogFolder(folder.path());
+            std::set_terminate(VireoLogger::uncaughtExceptionHandler);
+            std::thread([] { throw std::runtime_error("no way\nout"); }).join();
+        },
+        testing::KilledBySignal(SIGABRT), "");
+    EXPECT_THAT(lastLine(folder.log()), HasSubstr("uncaught exception: std::runtime_error: no way\\nout {"));
+}
+
+TEST(VireoLogger, ReturnAddressesStartInTheCallerAndAreBounded)
+{
+    const std::vector<void*> stack = callStackReturnAddresses();
+    ASSERT_FALSE(stack.empty());
+    EXPECT_LE(stack.size(), 32U);
+    EXPECT_NE(stack.front(), reinterpret_cast<void*>(&callStackReturnAddresses));
+    const std::function<std::size_t(int)> deep = [&](int depth) {
+        return depth == 0 ? callStackReturnAddresses().size() : deep(depth - 1);
+    };
+    EXPECT_EQ(deep(100), 32U);
+}
+
+} // namespace lodestar

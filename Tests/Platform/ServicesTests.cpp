@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/Keychain.h"
+#include "Platform/NotificationCenter.h"
+#include "Platform/Resources.h"
+#include "Platform/UserDefaults.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <thread>
+
+namespace lodestar
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+TEST(Services, DefaultsKeepTheirKindsApartAndForgetWhatIsRemoved)
+{
+    UserDefaults::install(nullptr);
+    UserDefaults& defaults = UserDefaults::standard();
+    EXPECT_FALSE(defaults.boolForKey("requirePassword"));
+    EXPECT_EQ(defaults.stringForKey("a/b\\c//d"), std::nullopt);
+    defaults.setBool(true, "requirePassword");
+    defaults.setString("", "a/b\\c//d");
+    EXPECT_TRUE(defaults.boolForKey("requirePassword"));
+    EXPECT_EQ(defaults.stringForKey("a/b\\c//d"), "");
+    EXPECT_EQ(defaults.stringForKey("requirePassword"), std::nullopt);
+    EXPECT_FALSE(defaults.boolForKey("a/b\\c//d"));
+    EXPECT_THAT(defaults.allKeys(), UnorderedElementsAre("requirePassword", "a/b\\c//d"));
+
+    defaults.setString("yes", "requirePassword"); // the last write decides the kind
+    EXPECT_FALSE(defaults.boolForKey("requirePassword"));
+    defaults.removeObjectForKey("requirePassword");
+    defaults.removeObjectForKey("never there");
+    EXPECT_THAT(defaults.allKeys(), ElementsAre("a/b\\c//d"));
+    UserDefaults::install(nullptr);
+    EXPECT_THAT(UserDefaults::standard().allKeys(), IsEmpty());
+}
+
+TEST(Services, DefaultsMayBeUsedFromManyThreads)
+{
+    UserDefaults::install(nullptr);
+    std::vector<std::thread> threads;
+    for (int thread = 0; thread < 4; ++thread) {
+        threads.emplace_back([thread] {
+            for (int round = 0; round < 500; ++round) {
+                const std::string key = std::to_string(thread) + "/" + std::to_string(round % 50);
+                UserDefaults::standard().setString(key, key);
+                EXPECT_EQ(UserDefaults::standard().stringForKey(key), key);
+            }
+        });
+    }
+    for (std::thread& thread : threads) {
+        thread.join();
+    }
+    EXPECT_EQ(UserDefaults::standard().allKeys().size(), 200U);
+    UserDefaults::install(nullptr);
+}
+
+TEST(Services, KeychainTellsItemsApartByServiceAndAccount)
+{
+    Keychain::install(nullptr);
+    Keychain& keychain = Keychain::standard();
+    EXPECT_EQ(keychain.password("Login", "Admin").value(), "");
+    EXPECT_TRUE(keychain.setPassword("1234", "Login", "Admin"));
+    EXPECT_TRUE(keychain.setPassword("other", "LoginA", "dmin"));
+    EXPECT_EQ(keychain.password("Login", "Admin").value(), "1234");
+    EXPECT_TRUE(keychain.setPassword("", "Login", "Admin"));
+    EXPECT_EQ(keychain.password("Login", "Admin").value(), "");
+    EXPECT_EQ(keychain.password("LoginA", "dmin").value(), "other");
+    Keychain::install(nullptr);
+}
+
+TEST(Services, ObserversRunInOrderOnlyForTheirNameAndOnlyWhileObserving)
+{
+    NotificationCenter& center = NotificationCenter::defaultCenter();
+    std::vector<int> calls;
+    auto first = center.addObserver("StatusWillShow", [&] { calls.push_back(1); });
+    auto second = center.addObserver("StatusWillShow", [&] { calls.push_back(2); });
+    const auto other = center.addObserver("StatusShouldHide", [&] { calls.push_back(3); });
+    EXPECT_TRUE(first);
+    center.postNotification("StatusWillShow");
+    center.postNotification("nobody listens");
+    EXPECT_THAT(calls, ElementsAre(1, 2));
+    first.reset();
+    center.postNotification("StatusWillShow");
+    EXPECT_THAT(calls, ElementsAre(1, 2, 2));
+    second.reset();
+    center.postNotification("StatusWillShow");
+    center.postNotification("StatusShouldHide");
+    EXPECT_THAT(calls, ElementsAre(1, 2, 2, 3));
+}
+
+TEST(Services, ObserversThatComeAndGoWhileANotificationIsPostedCountFromTheNext)
+{
+    NotificationCenter& center = NotificationCenter::defaultCenter();
+    std::vector<std::string> calls;
+    NotificationCenter::Observation leaving;
+    NotificationCenter::Observation coming;
+    NotificationCenter::Observation self;
+    const auto changer = center.addObserver("change", [&] {
+        calls.emplace_back("changer");
+        leaving.reset();
+        if (!coming) {
+            coming = center.addObserver("change", [&] { calls.emplace_back("coming"); });
+            center.postNotification("nested");
+        }
+    });
+    leaving = center.addObserver("change", [&] { calls.emplace_back("leaving"); });
+    self = center.addObserver("change", [&] { self.reset(); });
+    const auto nested = center.addObserver("nested", [&] { calls.emplace_back("nested"); });
+    center.postNotification("change");
+    EXPECT_THAT(calls, ElementsAre("changer", "nested", "leaving"));
+    calls.clear();
+    center.postNotification("change");
+    EXPECT_THAT(calls, ElementsAre("changer", "coming"));
+}
+
+TEST(Services, FolderResourcesReadWholeFilesOfTheTopLevelOnly)
+{
+    EXPECT_EQ(Resources::main().contents("ManagedSystem", "xml"), std::nullopt);
+
+    std::string pattern = (std::filesystem::temp_directory_path() / "resources-XXXXXX").string();
+    const std::filesystem::path folder = ::mkdtemp(pattern.data());
+    const std::string bytes("a\0b\r\n\xff", 6);
+    std::ofstream(folder / "ManagedSystem.xml", std::ios::binary) << bytes;
+    std::ofstream(folder / "plain") << "";
+    std::filesystem::create_directory(folder / "sub.xml");
+    std::filesystem::create_directory(folder / "inner");
+    std::ofstream(folder / "inner" / "file.xml") << "x";
+
+    Resources::install(makeFolderResources((folder / "").string()));
+    const Resources& resources = Resources::main();
+    EXPECT_EQ(resources.contents("ManagedSystem", "xml"), bytes);
+    EXPECT_EQ(resources.contents("plain", ""), "");
+    for (const char* name : {"sub", "missing", "inner/file", "../x", ""}) {
+        EXPECT_EQ(resources.contents(name, "xml"), std::nullopt) << name;
+    }
+    Resources::install(nullptr);
+    std::filesystem::remove_all(folder);
+}
+
+} // namespace lodestar
