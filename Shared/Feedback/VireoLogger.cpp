@@ -116,7 +116,7 @@ std::string describeExceptionInFlight()
 
 } // namespace
 
-void VireoLogger::write(Line line)
+void VireoLogger::write(const Line& line)
 {
     // Logging never breaks its caller: what cannot be had for it, memory above all, costs the line and no more.
     try {

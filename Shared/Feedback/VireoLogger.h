@@ -72,7 +72,7 @@ private:
         std::span<void* const> stacktrace;
         std::string message;
     };
-    static void write(Line line);
+    static void write(const Line& line);
 };
 
 /// The return addresses of the calling thread's stack, innermost first, at most 32.

@@ -16,7 +16,6 @@ namespace lodestar
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
-using testing::IsEmpty;
 using testing::Not;
 
 namespace
@@ -109,6 +108,7 @@ TEST(VireoLogger, KeepsAllLinesOfManyThreadsWholeAndInTheirOrder)
     const ScratchFolder scratch;
     ASSERT_TRUE(VireoLogger::openLogFolder(scratch.path().string()));
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int thread = 0; thread < 4; ++thread) {
         threads.emplace_back([thread] {
             for (int line = 0; line < 250; ++line) {

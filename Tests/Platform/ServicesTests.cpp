@@ -46,6 +46,7 @@ TEST(Services, DefaultsMayBeUsedFromManyThreads)
 {
     UserDefaults::install(nullptr);
     std::vector<std::thread> threads;
+    threads.reserve(4);
     for (int thread = 0; thread < 4; ++thread) {
         threads.emplace_back([thread] {
             for (int round = 0; round < 500; ++round) {
