@@ -19,10 +19,15 @@ std::string blank(Blank which)
     return {FeedTemplate::blankMark(which)};
 }
 
+std::string linkTo(std::string_view type)
+{
+    return "https://" + blank(Blank::Address) + ":" + std::to_string(consolePort) + "/rest/api/" +
+           (type == "ServiceableEvent" ? "sem/" : "uom/") + std::string(type);
+}
+
 std::string linkTo(std::string_view type, const std::string& id)
 {
-    return "https://" + blank(Blank::Address) + ":" + std::to_string(consolePort) + "/rest/api/uom/" +
-           std::string(type) + "/" + id;
+    return linkTo(type) + "/" + id;
 }
 
 class FeedWriter
@@ -61,13 +66,13 @@ private:
     {
         m_xml = XmlWriter(m_indented);
         m_xml.raw(R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)");
+        if (m_indented) {
+            m_xml.raw("<!-- SPDX-License-Identifier: Apache-2.0 -->");
+        }
         m_xml.open("feed", {{"xmlns", "http://www.w3.org/2005/Atom"}});
         m_xml.text("id", makeIdentifier(type.size(), m_inventory.published.size()));
         m_xml.text("updated", m_inventory.published);
-        m_xml.empty("link",
-                    {{"rel", "self"},
-                     {"href", "https://" + blank(Blank::Address) + ":" + std::to_string(consolePort) + "/rest/api/" +
-                                  (type == "ServiceableEvent" ? "sem/" : "uom/") + std::string(type)}});
+        m_xml.empty("link", {{"rel", "self"}, {"href", linkTo(type)}});
         for (std::size_t i = 0; i < entries; ++i) {
             // The share of the padding is counted from the front, so that a large entry takes some of the next one's.
             m_padTo = m_feedBytes * (i + 1) / entries;

@@ -80,6 +80,14 @@ const Words& colors()
     return words;
 }
 
+// Spreads a change of any bit over all of them.
+std::uint64_t scrambled(std::uint64_t bits)
+{
+    bits = (bits ^ bits >> 30U) * 0xBF58476D1CE4E5B9U;
+    bits = (bits ^ bits >> 27U) * 0x94D049BB133111EBU;
+    return bits ^ bits >> 31U;
+}
+
 class Generator
 {
 public:
@@ -319,13 +327,12 @@ InventorySummary summaryOf(const Inventory& inventory)
 std::string makeIdentifier(std::uint64_t high, std::uint64_t low)
 {
     static constexpr std::string_view digits = "0123456789abcdef";
-    std::mt19937_64 mixer(high ^ (low * 0x9E3779B97F4A7C15U));
+    const std::uint64_t state = high * 0xD1342543DE82EF95U + low;
+    const std::array<std::uint64_t, 2> bits = {scrambled(state), scrambled(~state)};
     std::string text;
-    for (const std::size_t group : {8U, 4U, 4U, 4U, 12U}) {
-        text += text.empty() ? "" : "-";
-        for (std::size_t i = 0; i < group; ++i) {
-            text += digits[mixer() % 16];
-        }
+    for (std::size_t i = 0; i < 32; ++i) {
+        text += i == 8 || i == 12 || i == 16 || i == 20 ? "-" : "";
+        text += digits[bits.at(i / 16) >> 4 * (i % 16) & 0xFU];
     }
     return text;
 }

@@ -45,9 +45,9 @@ TEST(TaskTests, KeepsSmallAndLargeCallablesAndDestroysThemOnce)
 TEST(ThreadPoolTests, GrowsWhileEveryThreadBlocksAndShrinksWhenIdle)
 {
     constexpr std::ptrdiff_t blockers = 16;
-    ThreadPool pool({2, 16, 1ms, 5ms});
     std::latch everybodyIn(blockers);
     std::latch done(blockers);
+    ThreadPool pool({2, 16, 1ms, 5ms});
     for (std::ptrdiff_t i = 0; i < blockers; ++i) {
         // Returns only if all run at the same time.
         pool.submit([&] {
@@ -66,8 +66,8 @@ TEST(ThreadPoolTests, GrowsWhileEveryThreadBlocksAndShrinksWhenIdle)
 
 TEST(ThreadPoolTests, ABlockMayWaitForABlockThatItSubmitted)
 {
-    ThreadPool pool({1, 8, 1ms, 5ms});
     std::promise<int> outer;
+    ThreadPool pool({1, 8, 1ms, 5ms});
     pool.submit([&] {
         std::promise<int> inner;
         pool.submit([&] { inner.set_value(7); });

@@ -135,15 +135,16 @@ TEST(RXPromiseTests, EachContextRunsItsHandlers)
 
 TEST(RXPromiseTests, HandlersOfDifferentPromisesRunAtTheSameTime)
 {
-    std::latch together(3);
+    // Shared: a handler may still be looking at it when this test is over.
+    const auto together = std::make_shared<std::latch>(3);
     const RXPromise<void> one;
     const RXPromise<void> two;
-    one.then([&] { together.arrive_and_wait(); });
-    two.then([&] { together.arrive_and_wait(); });
+    one.then([together] { together->arrive_and_wait(); });
+    two.then([together] { together->arrive_and_wait(); });
     one.fulfillWithValue();
     two.fulfillWithValue();
-    together.arrive_and_wait();
-    EXPECT_TRUE(together.try_wait());
+    together->arrive_and_wait();
+    EXPECT_TRUE(together->try_wait());
 }
 
 TEST(RXPromiseTests, RegistrationOrderIsTheOrderOfRunning)

@@ -1,0 +1,205 @@
+// SPDX-License-Identifier: Apache-2.0
+// What a promise costs, beside what the same work costs otherwise.
+//
+// Everything that a function below does is measured, the making and the destruction of all promises included:
+//  - one then: create, register one handler, settle, and run the handler on the same thread. Ours runs it as every
+//    screen does, from the main queue, which is drained each time. QPromise runs its continuation within the settling
+//    call; std::promise has none, so that its value is fetched instead.
+//  - chain: build 100 links, settle the first, wait until the last handler has run on the pool. The reference is 100
+//    blocks given to the same pool, each by the one before it.
+//  - all: create 1,000 promises, join them, settle each, wait for the handler of the whole. The reference registers one
+//    handler a promise and waits for all of them.
+#include "Benchmarks/Rows.h"
+#include "Controllers/REST/RXPromise.h"
+#include "Platform/Queues/MainQueue.h"
+#include "Platform/Queues/ThreadPool.h"
+
+#include <QFuture>
+#include <QPromise>
+#include <QThreadPool>
+#include <benchmark/benchmark.h>
+
+#include <atomic>
+#include <functional>
+#include <future>
+#include <semaphore>
+#include <vector>
+
+namespace lodestar
+{
+namespace
+{
+
+constexpr int links = 100;
+constexpr int inputs = 1000;
+
+void oneThen()
+{
+    int seen = 0;
+    const RXPromise<int> promise;
+    promise.thenOnMain([&seen](int value) { seen = value; });
+    promise.fulfillWithValue(1);
+    MainQueue::shared().drain();
+    benchmark::DoNotOptimize(seen);
+}
+
+void oneThenOfQPromise()
+{
+    int seen = 0;
+    QPromise<int> promise;
+    promise.start();
+    promise.future().then([&seen](int value) { seen = value; });
+    promise.addResult(1);
+    promise.finish();
+    benchmark::DoNotOptimize(seen);
+}
+
+void noThenOfStdPromise()
+{
+    std::promise<int> promise;
+    std::future<int> future = promise.get_future();
+    promise.set_value(1);
+    int seen = future.get();
+    benchmark::DoNotOptimize(seen);
+}
+
+void chain()
+{
+    std::binary_semaphore done(0);
+    const RXPromise<int> first;
+    RXPromise<int> last = first;
+    for (int i = 0; i < links - 1; ++i) {
+        last = last.then([](int value) { return value + 1; });
+    }
+    last.then([&done](int) { done.release(); });
+    first.fulfillWithValue(1);
+    done.acquire();
+}
+
+struct PoolChain {
+    int left = links;
+    std::binary_semaphore done{0};
+
+    void next()
+    {
+        if (--left == 0) {
+            done.release();
+        } else {
+            ThreadPool::shared().submit([this] { next(); });
+        }
+    }
+};
+
+void chainOfPoolTasks()
+{
+    PoolChain tasks;
+    ThreadPool::shared().submit([&tasks] { tasks.next(); });
+    tasks.done.acquire();
+}
+
+struct QtChain {
+    int left = links;
+    std::binary_semaphore done{0};
+
+    void next()
+    {
+        if (--left == 0) {
+            done.release();
+        } else {
+            QThreadPool::globalInstance()->start([this] { next(); });
+        }
+    }
+};
+
+void chainOfQtPoolTasks()
+{
+    QtChain tasks;
+    QThreadPool::globalInstance()->start([&tasks] { tasks.next(); });
+    tasks.done.acquire();
+}
+
+void joined()
+{
+    std::binary_semaphore done(0);
+    const std::vector<RXPromise<int>> promises(inputs);
+    RXPromise<int>::all(promises).then([&done](const std::vector<int>&) { done.release(); });
+    for (int i = 0; i < inputs; ++i) {
+        promises[static_cast<std::size_t>(i)].fulfillWithValue(i);
+    }
+    done.acquire();
+}
+
+void oneThenEach()
+{
+    std::binary_semaphore done(0);
+    std::atomic<int> left = inputs;
+    const std::vector<RXPromise<int>> promises(inputs);
+    for (const auto& promise : promises) {
+        promise.then([&](int) {
+            if (left.fetch_sub(1, std::memory_order_acq_rel) == 1) {
+                done.release();
+            }
+        });
+    }
+    for (int i = 0; i < inputs; ++i) {
+        promises[static_cast<std::size_t>(i)].fulfillWithValue(i);
+    }
+    done.acquire();
+}
+
+/// A registered benchmark runs the function as it is.
+template <void (*function)()>
+void run(benchmark::State& state)
+{
+    for (auto unused : state) {
+        static_cast<void>(unused);
+        function();
+    }
+}
+BENCHMARK(run<oneThen>)->Name("one then");
+BENCHMARK(run<oneThenOfQPromise>)->Name("one then, QPromise");
+BENCHMARK(run<noThenOfStdPromise>)->Name("no then, std::promise");
+BENCHMARK(run<chain>)->Name("chain of 100")->UseRealTime();
+BENCHMARK(run<chainOfPoolTasks>)->Name("chain of 100, pool tasks")->UseRealTime();
+BENCHMARK(run<chainOfQtPoolTasks>)->Name("chain of 100, QThreadPool tasks")->UseRealTime();
+BENCHMARK(run<joined>)->Name("all: of 1,000")->UseRealTime();
+BENCHMARK(run<oneThenEach>)->Name("one then each, 1,000")->UseRealTime();
+
+/// The function, so many times in one measurement.
+auto times(int count, void (*function)())
+{
+    return [count, function] {
+        for (int i = 0; i < count; ++i) {
+            function();
+        }
+    };
+}
+
+void compare(bench::Rows& rows, std::string_view name, double goal, int count, void (*ours)(), void (*reference)())
+{
+    const auto medians = bench::medianInterleaved(times(count, ours), times(count, reference), 31);
+    rows.add(name, medians.ours / count, medians.reference / count, goal);
+}
+
+} // namespace
+} // namespace lodestar
+
+int main(int argc, char** argv)
+{
+    using namespace lodestar;
+    bench::Rows rows(argc, argv);
+    if (rows.requested()) {
+        compare(rows, "promise: create, one then, settle / QPromise and then", 0.5, 20000, oneThen, oneThenOfQPromise);
+        compare(rows, "promise: create, one then, settle / std::promise, no continuation", 1.2, 20000, oneThen,
+                noThenOfStdPromise);
+        compare(rows, "promise: chain of 100 with pool hops / a pool task a link", 2, 100, chain, chainOfPoolTasks);
+        compare(rows, "all: of 1,000 inputs / one then each", 0.5, 20, joined, oneThenEach);
+        return rows.write();
+    }
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+        return 1;
+    }
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}

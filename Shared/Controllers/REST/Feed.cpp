@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Controllers/REST/Feed.h"
+
+#include "Application/Model/Corvel.h"
+
+namespace lodestar
+{
+
+Feed FeedDictionary::feed(std::string_view type) const
+{
+    const auto known = m_feeds.find(type);
+    return known != m_feeds.end() ? known->second : Feed(XMLElement());
+}
+
+Feed feedOfType(const Corvel& corvel, std::string_view type)
+{
+    const auto feeds = corvel.restData();
+    return feeds != nullptr ? feeds->feed(type) : Feed(XMLElement());
+}
+
+void setFeedOfType(Corvel& corvel, std::string_view type, Feed feed)
+{
+    // Others may be reading the snapshot that is there.
+    const auto feeds = corvel.restData();
+    auto changed = feeds != nullptr ? std::make_shared<FeedDictionary>(*feeds) : std::make_shared<FeedDictionary>();
+    changed->setFeed(type, std::move(feed));
+    corvel.setRestData(std::move(changed));
+}
+
+} // namespace lodestar

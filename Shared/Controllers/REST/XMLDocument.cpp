@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Controllers/REST/XMLDocument.h"
+
+#include "Controllers/REST/XMLDocumentBuilder.h"
+
+namespace lodestar
+{
+
+Result<std::shared_ptr<const XMLDocument>> XMLDocument::parse(std::string_view bytes)
+{
+    return XMLDocumentBuilder(bytes.size()).run(bytes);
+}
+
+XMLDocument::Name XMLDocument::find(std::string_view name) const
+{
+    const auto known = m_nameIds.find(name);
+    return known != m_nameIds.end() ? known->second : noName;
+}
+
+std::string_view XMLDocument::text(Index index) const
+{
+    const Node& node = m_nodes[index];
+    return std::string_view(m_text).substr(node.text, node.textEnd - node.text);
+}
+
+const XMLDocument::Attribute* XMLDocument::attribute(Index index, Name name) const
+{
+    const std::size_t end = index + 1 < m_nodes.size() ? m_nodes[index + 1].attributes : m_attributes.size();
+    for (std::size_t i = m_nodes[index].attributes; i < end; ++i) {
+        if (m_attributes[i].name == name) {
+            return &m_attributes[i];
+        }
+    }
+    return nullptr;
+}
+
+std::string_view XMLDocument::value(const Attribute& attribute) const
+{
+    return std::string_view(m_values).substr(attribute.value, attribute.valueLength);
+}
+
+std::size_t XMLDocument::memory() const
+{
+    std::size_t names = 0;
+    for (const std::string& name : m_names) {
+        names += sizeof name + name.capacity();
+    }
+    return sizeof *this + m_nodes.capacity() * sizeof(Node) + m_attributes.capacity() * sizeof(Attribute) +
+           m_text.capacity() + m_values.capacity() + names +
+           m_nameIds.size() * (sizeof(std::string_view) + sizeof(Name) + 2 * sizeof(void*));
+}
+
+} // namespace lodestar

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Platform/Result.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <string_view>
+#include <unordered_map>
+#include <vector>
+
+namespace lodestar
+{
+
+/// A parsed document as a flat arena, never changed once built.
+///
+/// Elements stand in document order, so that an element's descendants are the range up to its `end` and no links are
+/// needed. All character data stands in one buffer in document order as well: the text below an element is one slice.
+class XMLDocument
+{
+public:
+    using Index = std::uint32_t;
+    using Name = std::uint32_t;
+
+    struct Node {
+        Name name;
+        Index end;             ///< one past the last descendant
+        std::uint32_t text;    ///< where the text below begins
+        std::uint32_t textEnd; ///< and one past its end
+        Index attributes;      ///< the first attribute; the next node's is one past the last
+    };
+    struct Attribute {
+        Name name;
+        std::uint32_t value;
+        std::uint32_t valueLength;
+    };
+    static constexpr Name noName = UINT32_MAX;
+
+    /// Null when no document, or one without a root, can be made of the bytes.
+    static Result<std::shared_ptr<const XMLDocument>> parse(std::string_view bytes);
+
+    const Node& node(Index index) const { return m_nodes[index]; }
+    Index childrenBegin(Index index) const { return index + 1; }
+    std::string_view nameText(Name name) const { return m_names[name]; }
+    /// `noName` when the document has no such name.
+    Name find(std::string_view name) const;
+    std::string_view text(Index index) const;
+    /// Null when the element has no such attribute.
+    const Attribute* attribute(Index index, Name name) const;
+    std::string_view value(const Attribute& attribute) const;
+    std::size_t memory() const;
+
+private:
+    friend class XMLDocumentBuilder;
+
+    std::vector<Node> m_nodes;
+    std::vector<Attribute> m_attributes;
+    std::string m_text;
+    std::string m_values;
+    std::vector<std::string> m_names;
+    std::unordered_map<std::string_view, Name> m_nameIds; ///< views into m_names, which no longer moves
+};
+
+} // namespace lodestar

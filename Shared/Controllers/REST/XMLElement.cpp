@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Controllers/REST/XMLElement.h"
+
+#include "Controllers/REST/XMLDocument.h"
+
+namespace lodestar
+{
+namespace
+{
+
+/// Calls `visit` with the index of each child element of the name, until it answers false.
+template <typename Visit>
+void forEachChild(const XMLDocument& document, XMLDocument::Index parent, std::string_view name, Visit visit)
+{
+    const XMLDocument::Name wanted = document.find(name);
+    if (wanted == XMLDocument::noName) {
+        return;
+    }
+    const XMLDocument::Index end = document.node(parent).end;
+    for (auto i = document.childrenBegin(parent); i < end; i = document.node(i).end) {
+        if (document.node(i).name == wanted && !visit(i)) {
+            return;
+        }
+    }
+}
+
+} // namespace
+
+Result<XMLElement> XMLElement::parse(std::string_view bytes)
+{
+    Result<std::shared_ptr<const XMLDocument>> document = XMLDocument::parse(bytes);
+    if (!document) {
+        return document.error();
+    }
+    return XMLElement(std::move(document).value(), 0);
+}
+
+std::string_view XMLElement::name() const
+{
+    return exists() ? m_document->nameText(m_document->node(m_index).name) : std::string_view();
+}
+
+XMLElement XMLElement::child(std::string_view name) const
+{
+    XMLElement found;
+    if (exists()) {
+        forEachChild(*m_document, m_index, name, [&](XMLDocument::Index index) {
+            found = XMLElement(m_document, index);
+            return false;
+        });
+    }
+    return found;
+}
+
+std::vector<XMLElement> XMLElement::children(std::string_view name) const
+{
+    std::vector<XMLElement> found;
+    if (exists()) {
+        forEachChild(*m_document, m_index, name, [&](XMLDocument::Index index) {
+            found.push_back(XMLElement(m_document, index));
+            return true;
+        });
+    }
+    return found;
+}
+
+std::size_t XMLElement::childCount(std::string_view name) const
+{
+    std::size_t count = 0;
+    if (exists()) {
+        forEachChild(*m_document, m_index, name, [&](XMLDocument::Index) {
+            ++count;
+            return true;
+        });
+    }
+    return count;
+}
+
+std::optional<std::string> XMLElement::text() const
+{
+    if (!exists()) {
+        return {};
+    }
+    return std::string(m_document->text(m_index));
+}
+
+std::optional<std::string> XMLElement::attribute(std::string_view name) const
+{
+    if (!exists()) {
+        return {};
+    }
+    const XMLDocument::Name wanted = m_document->find(name);
+    const XMLDocument::Attribute* const found =
+        wanted != XMLDocument::noName ? m_document->attribute(m_index, wanted) : nullptr;
+    if (found == nullptr) {
+        return {};
+    }
+    return std::string(m_document->value(*found));
+}
+
+XMLElement XMLElement::path(std::initializer_list<std::string_view> names) const
+{
+    // An index goes down; only what is found takes a share of the document.
+    if (!exists()) {
+        return {};
+    }
+    XMLDocument::Index at = m_index;
+    for (const std::string_view name : names) {
+        bool found = false;
+        forEachChild(*m_document, at, name, [&](XMLDocument::Index index) {
+            at = index;
+            found = true;
+            return false;
+        });
+        if (!found) {
+            return {};
+        }
+    }
+    return {m_document, at};
+}
+
+std::size_t XMLElement::documentMemory() const
+{
+    return exists() ? m_document->memory() : 0;
+}
+
+} // namespace lodestar

@@ -1,0 +1,164 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Platform/URLLoading/ServerTrust.h"
+#include "Platform/URLLoading/URLConnection.h"
+#include "Simulator/SimulatorProcess.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <functional>
+#include <future>
+#include <memory>
+#include <string>
+#include <string_view>
+
+namespace lodestar::test
+{
+
+constexpr std::chrono::seconds patience{60};
+
+inline URLRequest consoleRequest(const std::string& address, std::string_view path)
+{
+    URLRequest request;
+    request.url = "https://" + address + ":12443" + std::string(path);
+    return request;
+}
+
+/// Collects what a connection tells, and answers challenges as it is told to.
+class RecordingDelegate : public URLConnectionDelegate
+{
+public:
+    enum class Answer { Accept, Decline, None };
+
+    explicit RecordingDelegate(Answer answer) : m_answer(answer) {}
+
+    void willSendRequestForAuthenticationChallenge(AuthenticationChallenge& challenge) override
+    {
+        ++challenges;
+        EXPECT_EQ(challenge.authenticationMethod(), AuthenticationChallenge::Method::ServerTrust);
+        challengedHost = challenge.host() + ":" + std::to_string(challenge.port());
+        respondedBeforeChallenge = respondedBeforeChallenge || responses > 0;
+        if (m_answer == Answer::Accept) {
+            challenge.useCredential();
+        } else if (m_answer == Answer::Decline) {
+            challenge.continueWithoutCredential();
+        }
+    }
+    void didReceiveResponse(const URLResponse& response) override
+    {
+        ++responses;
+        load.response = response;
+        load.body.clear();
+    }
+    void didReceiveData(std::span<const char> data) override { load.body.append(data.data(), data.size()); }
+    void connectionDidFinishLoading() override { end(load); }
+    void didFailWithError(const Error& error) override { end(error); }
+
+    /// Waits for the end.
+    Result<URLLoad> outcome()
+    {
+        auto future = m_outcome.get_future();
+        if (future.wait_for(patience) != std::future_status::ready) {
+            return Error{"test", 0, "the connection never ended", {}, nullptr};
+        }
+        return future.get();
+    }
+
+    int challenges = 0;
+    int responses = 0;
+    int ends = 0;
+    bool respondedBeforeChallenge = false;
+    std::string challengedHost;
+    URLLoad load;
+
+private:
+    void end(Result<URLLoad> result)
+    {
+        if (++ends == 1) {
+            m_outcome.set_value(std::move(result));
+        }
+    }
+
+    const Answer m_answer;
+    std::promise<Result<URLLoad>> m_outcome;
+};
+
+class URLLoadingTest : public testing::Test
+{
+protected:
+    using Answer = RecordingDelegate::Answer;
+
+    void SetUp() override
+    {
+        ServerTrust::shared().forgetAll();
+        m_limits = TransferLimits::shared();
+    }
+    void TearDown() override
+    {
+        m_queue.waitUntilAllOperationsAreFinished();
+        TransferLimits::shared() = m_limits;
+        ServerTrust::shared().setRefusalHandler(nullptr);
+    }
+
+    Result<URLLoad> loadAsynchronously(const URLRequest& request)
+    {
+        auto outcome = std::make_shared<std::promise<Result<URLLoad>>>();
+        auto future = outcome->get_future();
+        sendAsynchronousRequest(request, m_queue, [outcome](Result<URLLoad> load) { outcome->set_value(load); });
+        if (future.wait_for(patience) != std::future_status::ready) {
+            return Error{"test", 0, "the request never ended", {}, nullptr};
+        }
+        return future.get();
+    }
+
+    std::shared_ptr<RecordingDelegate> connect(const URLRequest& request, Answer answer)
+    {
+        auto delegate = std::make_shared<RecordingDelegate>(answer);
+        const auto connection = URLConnection::make(request, delegate);
+        connection->setDelegateQueue(m_queue);
+        connection->start();
+        return delegate;
+    }
+
+    /// Logs on through a delegate that accepts the console, and returns the session key.
+    std::string logOn(simulator::SimulatorProcess& simulator, int console = 0)
+    {
+        URLRequest request = consoleRequest(simulator.address(console), "/rest/api/web/Logon");
+        request.method = "PUT";
+        request.body = "<LogonRequest><UserID>" + simulator.user() + "</UserID><Password>" + simulator.password() +
+                       "</Password></LogonRequest>";
+        const Result<URLLoad> load = connect(request, Answer::Accept)->outcome();
+        if (!load || load.value().response.statusCode != 200) {
+            ADD_FAILURE() << "no logon";
+            return {};
+        }
+        const std::string& body = load.value().body;
+        const std::size_t start = body.find('>', body.find("<X-API-Session")) + 1;
+        return body.substr(start, body.find('<', start) - start);
+    }
+
+    URLRequest feedRequest(simulator::SimulatorProcess& simulator, const std::string& key, int console = 0)
+    {
+        URLRequest request = consoleRequest(simulator.address(console), "/rest/api/uom/ManagedSystem");
+        request.headers.setValue("X-API-Session", key);
+        return request;
+    }
+
+    static URLErrorCode codeOf(const Result<URLLoad>& load)
+    {
+        EXPECT_FALSE(load.ok());
+        if (load.ok() || load.error().domain != urlErrorDomain || load.error().localizedDescription.empty()) {
+            return URLErrorCode::Unknown;
+        }
+        return static_cast<URLErrorCode>(load.error().code);
+    }
+
+    OperationQueue m_queue{"transport tests"};
+
+private:
+    TransferLimits m_limits;
+};
+
+} // namespace lodestar::test

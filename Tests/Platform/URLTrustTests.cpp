@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Tests/Platform/ScriptedServer.h"
+#include "Tests/Platform/URLLoadingFixture.h"
+
+#include <gmock/gmock.h>
+#include <openssl/pem.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <mutex>
+#include <unistd.h>
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+namespace lodestar::test
+{
+
+namespace
+{
+
+/// Two certificates for which the system's authorities vouch, one of them expired. The authorities are read once a
+/// process, hence the environment.
+class VouchedLeaves : public testing::Environment
+{
+public:
+    void SetUp() override
+    {
+        m_path = testing::TempDir() + "lodestar-authorities-" + std::to_string(getpid()) + ".pem";
+        const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(m_path.c_str(), "w"), std::fclose);
+        ASSERT_NE(file, nullptr);
+        ASSERT_EQ(PEM_write_X509(file.get(), valid->certificate.get()), 1);
+        ASSERT_EQ(PEM_write_X509(file.get(), expired->certificate.get()), 1);
+        setenv("SSL_CERT_FILE", m_path.c_str(), 1);
+    }
+    void TearDown() override { std::remove(m_path.c_str()); }
+
+    const ScriptedServer::LeafRef valid = simulator::makeLeaf("127.0.0.1", simulator::Leaf::Kind::Valid);
+    const ScriptedServer::LeafRef expired = simulator::makeLeaf("127.0.0.2", simulator::Leaf::Kind::Expired);
+
+private:
+    std::string m_path;
+};
+
+VouchedLeaves& vouched()
+{
+    static auto* const leaves = new VouchedLeaves;
+    return *leaves;
+}
+
+const testing::Environment* const registered = testing::AddGlobalTestEnvironment(&vouched());
+
+constexpr const char* shortAnswer = "HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nOK";
+
+URLRequest requestOf(const std::string& url)
+{
+    URLRequest request;
+    request.url = url;
+    return request;
+}
+
+} // namespace
+
+class URLTrustTest : public URLLoadingTest
+{
+protected:
+    void SetUp() override
+    {
+        URLLoadingTest::SetUp();
+        ServerTrust::shared().setRefusalHandler([this](const std::string& host, int port, const std::string& reason) {
+            const std::lock_guard lock(m_mutex);
+            m_refusals.push_back(host + ":" + std::to_string(port) + " " + reason);
+        });
+    }
+    std::vector<std::string> refusals()
+    {
+        const std::lock_guard lock(m_mutex);
+        return std::exchange(m_refusals, {});
+    }
+
+private:
+    std::mutex m_mutex;
+    std::vector<std::string> m_refusals;
+};
+
+TEST_F(URLTrustTest, PlainRequestSendsNothingToAServerNobodyVouchesFor)
+{
+    simulator::SimulatorProcess simulator{{}};
+    const URLRequest request = feedRequest(simulator, "secret");
+    EXPECT_EQ(codeOf(loadAsynchronously(request)), URLErrorCode::ServerCertificateUntrusted);
+    EXPECT_EQ(codeOf(sendSynchronousRequest(request)), URLErrorCode::ServerCertificateUntrusted);
+    EXPECT_THAT(refusals(),
+                ElementsAre(HasSubstr(simulator.address() + ":12443 self-signed"), HasSubstr("self-signed")));
+    EXPECT_THAT(simulator.requests(), IsEmpty());
+}
+
+TEST_F(URLTrustTest, SystemsWordCountsUnlessTheCertificateIsStaleOrNamesAnother)
+{
+    using enum ScriptedServer::Ending;
+    {
+        const ScriptedServer server(shortAnswer, Notice, "127.0.0.1", vouched().valid);
+        EXPECT_TRUE(loadAsynchronously(requestOf(server.url())).ok());
+    }
+    {
+        const ScriptedServer server(shortAnswer, Notice, "127.0.0.1", vouched().valid);
+        EXPECT_TRUE(sendSynchronousRequest(requestOf(server.url())).ok());
+    }
+    {
+        const ScriptedServer server(shortAnswer, Notice, "127.0.0.1", vouched().valid);
+        const auto delegate = connect(requestOf(server.url()), Answer::Decline);
+        EXPECT_TRUE(delegate->outcome().ok()) << "without a credential the system's word counts";
+        EXPECT_EQ(delegate->challenges, 1);
+    }
+    EXPECT_THAT(refusals(), IsEmpty());
+    {
+        const ScriptedServer server(shortAnswer, Notice, "127.0.0.1", vouched().valid);
+        EXPECT_EQ(codeOf(loadAsynchronously(requestOf(server.urlFor("localhost")))),
+                  URLErrorCode::ServerCertificateUntrusted);
+    }
+    {
+        const ScriptedServer server(shortAnswer, Notice, "127.0.0.2", vouched().expired);
+        EXPECT_EQ(codeOf(loadAsynchronously(requestOf(server.url()))), URLErrorCode::ServerCertificateUntrusted);
+    }
+    EXPECT_THAT(refusals(), ElementsAre(HasSubstr("hostname"), HasSubstr("expired")));
+}
+
+TEST_F(URLTrustTest, AcceptedCertificateIsGoodForPlainRequestsToThatServerAlone)
+{
+    simulator::Settings settings;
+    settings.consoles = 2;
+    simulator::SimulatorProcess simulator(settings);
+    const auto first = connect(consoleRequest(simulator.address(), "/"), Answer::Accept);
+    EXPECT_TRUE(first->outcome().ok());
+    EXPECT_EQ(first->challenges, 1);
+    EXPECT_FALSE(first->respondedBeforeChallenge);
+    EXPECT_EQ(first->challengedHost, simulator.address() + ":12443");
+    EXPECT_EQ(first->responses, 1);
+
+    const auto again = connect(consoleRequest(simulator.address(), "/"), Answer::Accept);
+    EXPECT_TRUE(again->outcome().ok());
+    EXPECT_EQ(again->challenges, 0) << "the connection was kept, so there was no handshake to ask about";
+
+    const std::string key = logOn(simulator);
+    EXPECT_TRUE(loadAsynchronously(feedRequest(simulator, key)).ok());
+    EXPECT_TRUE(sendSynchronousRequest(feedRequest(simulator, key)).ok());
+    EXPECT_EQ(codeOf(loadAsynchronously(feedRequest(simulator, key, 1))), URLErrorCode::ServerCertificateUntrusted);
+    EXPECT_THAT(refusals(), SizeIs(1));
+}
+
+TEST_F(URLTrustTest, DelegateThatDoesNotAcceptHearsNothingButTheEnd)
+{
+    simulator::SimulatorProcess simulator{{}};
+    for (const Answer answer : {Answer::Decline, Answer::None}) {
+        const auto delegate = connect(consoleRequest(simulator.address(), "/"), answer);
+        EXPECT_EQ(codeOf(delegate->outcome()), URLErrorCode::ServerCertificateUntrusted);
+        m_queue.waitUntilAllOperationsAreFinished();
+        EXPECT_EQ(delegate->challenges, 1);
+        EXPECT_EQ(delegate->responses, 0);
+        EXPECT_EQ(delegate->ends, 1);
+        EXPECT_EQ(ServerTrust::shared().remembered(simulator.address(), 12443), std::nullopt);
+        EXPECT_EQ(codeOf(loadAsynchronously(consoleRequest(simulator.address(), "/"))),
+                  URLErrorCode::ServerCertificateUntrusted);
+    }
+}
+
+TEST_F(URLTrustTest, SwappedCertificateIsRefusedUntilADelegateHasMetIt)
+{
+    for (const std::string fault : {"swapCertificate", "expiredCertificate", "misnamedCertificate"}) {
+        simulator::SimulatorProcess simulator{{}};
+        const std::string key = logOn(simulator);
+        EXPECT_TRUE(loadAsynchronously(feedRequest(simulator, key)).ok());
+        EXPECT_TRUE(sendSynchronousRequest(feedRequest(simulator, key)).ok());
+        simulator.setFault(fault);
+        EXPECT_EQ(codeOf(loadAsynchronously(feedRequest(simulator, key))), URLErrorCode::ServerCertificateUntrusted);
+        EXPECT_EQ(codeOf(sendSynchronousRequest(feedRequest(simulator, key))),
+                  URLErrorCode::ServerCertificateUntrusted);
+        EXPECT_THAT(refusals(), SizeIs(2)) << fault;
+        EXPECT_TRUE(connect(consoleRequest(simulator.address(), "/"), Answer::Accept)->outcome().ok());
+        EXPECT_TRUE(loadAsynchronously(feedRequest(simulator, key)).ok()) << fault;
+        EXPECT_TRUE(sendSynchronousRequest(feedRequest(simulator, key)).ok()) << fault;
+    }
+}
+
+TEST_F(URLTrustTest, KeptConnectionDoesNotHideAnotherCertificate)
+{
+    // The connections stand, as behind a balancer; what the client remembers has changed in the meantime.
+    simulator::SimulatorProcess simulator{{}};
+    const std::string key = logOn(simulator);
+    const auto real = ServerTrust::shared().remembered(simulator.address(), 12443);
+    ASSERT_TRUE(real);
+    ServerTrust::Fingerprint other = *real;
+    other[0] ^= 1U;
+    ServerTrust::shared().remember(simulator.address(), 12443, other);
+    EXPECT_EQ(codeOf(loadAsynchronously(feedRequest(simulator, key))), URLErrorCode::ServerCertificateUntrusted);
+    const auto handshakes = simulator.handshakes();
+    EXPECT_EQ(handshakes, 2U) << "the kept connection is left for a fresh one before the server is refused";
+
+    const auto delegate = connect(consoleRequest(simulator.address(), "/"), Answer::Accept);
+    EXPECT_TRUE(delegate->outcome().ok());
+    EXPECT_EQ(delegate->challenges, 1);
+    EXPECT_EQ(ServerTrust::shared().remembered(simulator.address(), 12443), real);
+    EXPECT_TRUE(loadAsynchronously(feedRequest(simulator, key)).ok());
+    EXPECT_THAT(refusals(), SizeIs(1));
+}
+
+} // namespace lodestar::test
