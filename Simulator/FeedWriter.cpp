@@ -4,7 +4,6 @@
 #include "Simulator/XmlWriter.h"
 
 #include <algorithm>
-#include <cstring>
 #include <fstream>
 #include <stdexcept>
 
@@ -314,16 +313,14 @@ std::size_t FeedCursor::read(char* out, std::size_t count)
         const bool hasHole = m_hole < m_feed.m_holes.size();
         const std::size_t stop = hasHole ? m_feed.m_holes[m_hole].at : m_feed.m_text.size();
         if (m_at < stop) {
-            const std::size_t n = std::min(count - done, stop - m_at);
-            std::memcpy(out + done, m_feed.m_text.data() + m_at, n);
+            const std::size_t n = m_feed.m_text.copy(out + done, std::min(count - done, stop - m_at), m_at);
             m_at += n;
             done += n;
         } else if (!hasHole) {
             break;
         } else {
             const std::string& value = m_values[m_feed.m_holes[m_hole].blank];
-            const std::size_t n = std::min(count - done, value.size() - m_inValue);
-            std::memcpy(out + done, value.data() + m_inValue, n);
+            const std::size_t n = value.copy(out + done, count - done, m_inValue);
             m_inValue += n;
             done += n;
             if (m_inValue == value.size()) {

@@ -136,7 +136,7 @@ BodyPtr takeHead(Response& response)
     std::string head =
         "HTTP/1.1 " + std::to_string(response.status) + " " + std::string(reasonOf(response.status)) + "\r\n";
     for (const auto& [name, value] : response.headers) {
-        head += name + ": " + value + "\r\n";
+        head.append(name).append(": ").append(value).append("\r\n");
     }
     if (response.chunked) {
         head += "Transfer-Encoding: chunked\r\n";

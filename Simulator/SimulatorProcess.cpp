@@ -45,10 +45,10 @@ void SimulatorProcess::start(const Settings& settings)
     }
 }
 
-void SimulatorProcess::stop()
+int SimulatorProcess::stop()
 {
     const std::lock_guard lock(m_mutex);
-    end();
+    return end();
 }
 
 // One socket serves as both standard input and output: writing to it when the process has died is an error here,
@@ -81,19 +81,21 @@ void SimulatorProcess::spawn(const std::vector<std::string>& arguments)
 }
 
 // Closing the channel ends the process.
-void SimulatorProcess::end()
+int SimulatorProcess::end()
 {
+    int status = 0;
     if (m_channel >= 0) {
         ::close(m_channel);
         m_channel = -1;
     }
     if (m_pid > 0) {
-        while (::waitpid(m_pid, nullptr, 0) < 0 && errno == EINTR) {
+        while (::waitpid(m_pid, &status, 0) < 0 && errno == EINTR) {
         }
         m_pid = -1;
     }
     m_received.clear();
     m_addresses.clear();
+    return WIFSIGNALED(status) ? -WTERMSIG(status) : WEXITSTATUS(status);
 }
 
 std::string SimulatorProcess::readLine()

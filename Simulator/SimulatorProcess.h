@@ -31,8 +31,9 @@ public:
 
     /// Returns when every console listens. Stops a simulator that was running.
     void start(const Settings& settings);
-    /// Ends the process and waits for its end.
-    void stop();
+    /// Ends the process and waits for its end. Answers its exit status, negative for the signal that ended it; 0 when
+    /// it was not running.
+    int stop();
     pid_t pid() const { return m_pid; }
 
     int consoleCount() const { return static_cast<int>(m_addresses.size()); }
@@ -70,7 +71,7 @@ private:
     std::vector<std::string> linesUntil(std::string_view last);
     std::string readLine();
     void spawn(const std::vector<std::string>& arguments);
-    void end();
+    int end();
 
     std::mutex m_mutex;
     Settings m_settings;

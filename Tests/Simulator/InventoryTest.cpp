@@ -19,7 +19,6 @@ namespace
 using test::XmlTree;
 using testing::Each;
 using testing::IsSupersetOf;
-using testing::SizeIs;
 
 const BlankValues values = {"127.0.0.9", "corvel-x", "SERIAL7", "id"};
 

@@ -90,7 +90,7 @@ TEST(SimulatorServer, EveryByteOfARequestIsRecorded)
 {
     SimulatorProcess simulator(twoConsoles());
     TlsClient client(simulator.address(1));
-    const std::string body("<a>&\xC3\xA9\0%\r\n</a>", 15);
+    const std::string body("<a>&\xC3\xA9\0%\r\n</a>", 14);
     client.send("PUT /rest/api/web/Logon?x=%20y HTTP/1.1\r\nHost: h\r\naccept:  b\r\nAccept: a\r\nContent-Length: " +
                 std::to_string(body.size()) + "\r\n\r\n" + body);
     EXPECT_EQ(client.receive().status, 401);
@@ -98,7 +98,7 @@ TEST(SimulatorServer, EveryByteOfARequestIsRecorded)
     ASSERT_EQ(requests.size(), 1U);
     EXPECT_EQ(requests[0].method, "PUT");
     EXPECT_EQ(requests[0].path, "/rest/api/web/Logon?x=%20y");
-    EXPECT_THAT(requests[0].headers, ElementsAre("Host: h", "accept:  b", "Accept: a", "Content-Length: 15"));
+    EXPECT_THAT(requests[0].headers, ElementsAre("Host: h", "accept:  b", "Accept: a", "Content-Length: 14"));
     EXPECT_EQ(requests[0].body, body);
     EXPECT_TRUE(simulator.requests(0).empty());
     simulator.clearRequests();
@@ -199,12 +199,14 @@ TEST(SimulatorProcessTest, ProcessesStandSideBySideAndEndWithTheirOwner)
     EXPECT_NO_THROW(first.clearFaults()) << "a refused command harms nothing";
 
     const pid_t ended = first.pid();
-    first.stop();
+    EXPECT_TRUE(TlsClient(first.address()).handshaken());
+    EXPECT_EQ(first.stop(), 0);
     EXPECT_EQ(::kill(ended, 0), -1);
     third.start(taken);
     EXPECT_TRUE(TlsClient(taken.address).handshaken());
     ::kill(third.pid(), SIGKILL);
     EXPECT_THROW(third.requests(), std::runtime_error);
+    EXPECT_EQ(third.stop(), -SIGKILL);
 }
 
 TEST(SimulatorProcessTest, AThousandConsolesAnswerEachForItself)

@@ -32,7 +32,7 @@ TlsClient::TlsClient(const std::string& address, int milliseconds, Step upTo)
 {
     std::signal(SIGPIPE, SIG_IGN);
     m_descriptor = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    const timeval limit{milliseconds / 1000, milliseconds % 1000 * 1000};
+    const timeval limit{milliseconds / 1000, suseconds_t{milliseconds % 1000} * 1000};
     setsockopt(m_descriptor, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
     sockaddr_in name{};
     name.sin_family = AF_INET;
