@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
+#include <chrono>
 #include <cstdio>
 #include <future>
 #include <latch>
@@ -198,6 +199,26 @@ TEST(RXPromiseTests, ManyThreadsSettleAndRegisterAndEachHandlerRunsOnce)
         handled.wait();
         EXPECT_EQ(sum, 40 * promise.result()->value());
     }
+}
+
+TEST(RXPromiseTests, NothingRegisteredDuringSettlementIsLostWithTheHandle)
+{
+    constexpr int rounds = 2000;
+    std::atomic<int> ran = 0;
+    for (int round = 0; round < rounds; ++round) {
+        const RXPromise<int> source;
+        auto derived = std::make_optional(source.then([](int value) { return value; }));
+        source.fulfillWithValue(1);
+        for (int i = 0; i < 3; ++i) {
+            derived->then([&ran](int value) { ran += value; });
+        }
+        derived.reset();
+    }
+    const auto limit = std::chrono::steady_clock::now() + 30s;
+    while (ran < 3 * rounds && std::chrono::steady_clock::now() < limit) {
+        std::this_thread::yield();
+    }
+    ASSERT_EQ(ran, 3 * rounds);
 }
 
 TEST(RXPromiseTests, QueuesAreKnownByTheirLabels)

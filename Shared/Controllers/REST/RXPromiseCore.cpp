@@ -84,42 +84,41 @@ void Core::addNode(Node& node, Core* derived)
     }
 }
 
-void Core::resumeHandlerQueue()
+void Core::resumeHandlerQueue(Node& registered)
 {
     if (t_resume.active) {
         retain();
+        m_registered = &registered;
         (t_resume.last == nullptr ? t_resume.first : t_resume.last->m_nextCore) = this;
         t_resume.last = this;
         return;
     }
     t_resume.active = true;
-    handOutNodes();
+    handOut(&registered);
     while (t_resume.first != nullptr) {
         const auto core = Ref<Core>::adopt(t_resume.first);
         t_resume.first = std::exchange(core->m_nextCore, nullptr);
         if (t_resume.first == nullptr) {
             t_resume.last = nullptr;
         }
-        core->handOutNodes();
+        core->handOut(std::exchange(core->m_registered, nullptr));
     }
     t_resume.active = false;
 }
 
-void Core::handOutNodes()
+void Core::handOut(Node* node)
 {
-    while (true) {
-        Node* node = SharedSyncQueue::sync([this] {
-            m_last = nullptr;
-            m_resuming = m_first != nullptr;
-            return std::exchange(m_first, nullptr);
-        });
-        if (node == nullptr) {
-            return;
-        }
+    // When nobody else held the promise while the nodes were taken, nothing can have been registered since. What is
+    // handed out refers to it, but registers nothing.
+    const bool known = m_known;
+    while (node != nullptr) {
         while (node != nullptr) {
             Node* const next = std::exchange(node->m_next, nullptr);
             node->parentSettled(*this);
             node = next;
+        }
+        if (known) {
+            node = SharedSyncQueue::sync([this] { return takeNodes(); });
         }
     }
 }

@@ -186,19 +186,20 @@ protected:
     template <typename Store>
     bool settle(State state, Store&& store)
     {
-        const Step step = SharedSyncQueue::sync([&] {
+        Node* registered = nullptr;
+        const bool settled = SharedSyncQueue::sync([&] {
             if (m_state != State::Pending) {
-                return Step::TooLate;
+                return false;
             }
             store();
             m_state = state;
-            m_resuming = m_first != nullptr;
-            return m_resuming ? Step::Resume : Step::Done;
+            registered = takeNodes();
+            return true;
         });
-        if (step == Step::Resume) {
-            resumeHandlerQueue();
+        if (registered != nullptr) {
+            resumeHandlerQueue(*registered);
         }
-        return step != Step::TooLate;
+        return settled;
     }
 
     /// Calls the handler that the settled parent asks for, drops both, and settles with the outcome.
@@ -209,14 +210,20 @@ protected:
     virtual void adoptValue(const Core& other) = 0;
 
 private:
-    enum class Step { TooLate, Done, Resume };
-
     static void dispose(Core& core);
     void parentSettled(Core& parent) final;
     void parentGone() final;
     void addNode(Node& node, Core* derived);
-    void resumeHandlerQueue();
-    void handOutNodes();
+    /// Within the sync queue. While nodes that were taken are not handed out yet, the queue counts as resuming.
+    Node* takeNodes()
+    {
+        m_last = nullptr;
+        m_resuming = m_first != nullptr;
+        m_known = m_references.load(std::memory_order_acquire) > 1;
+        return std::exchange(m_first, nullptr);
+    }
+    void resumeHandlerQueue(Node& registered);
+    void handOut(Node* node);
     void abandonNodes();
     void adopt(const Core& other);
 
@@ -224,7 +231,9 @@ private:
     // Behind the sync queue:
     State m_state = State::Pending;
     bool m_resuming = false; ///< settled, and a thread is handing out what was registered
-    // The derived promise's own business:
+    // Of the thread that resumes:
+    bool m_known = false; ///< others than this thread held the promise when its nodes were taken
+    // Of the derived promise:
     bool m_bound = false; ///< waits for the promise that its handler returned
     // Behind the sync queue:
     Node* m_first = nullptr; ///< the handler queue
@@ -232,7 +241,9 @@ private:
     std::uint64_t m_queueNumber = 0;  ///< 0 until the handler queue is made; never used twice
     std::uint64_t m_parentNumber = 0; ///< the parent's queue number
     std::shared_ptr<const Error> m_error;
-    Core* m_nextCore = nullptr; ///< in the list of the thread that resumes or disposes
+    // In the lists of the thread that resumes or disposes:
+    Core* m_nextCore = nullptr;
+    Node* m_registered = nullptr;
     ExecutionContext m_context;
 };
 

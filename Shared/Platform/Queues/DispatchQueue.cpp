@@ -77,13 +77,15 @@ void DispatchQueue::State::end()
 
 void DispatchQueue::State::async(Task block, bool alone)
 {
-    const std::lock_guard lock(mutex);
-    if (pending.empty() && mayStart(alone)) {
+    {
+        const std::lock_guard lock(mutex);
+        if (!pending.empty() || !mayStart(alone)) {
+            pending.push({std::move(block), nullptr, alone});
+            return;
+        }
         begin(alone);
-        ThreadPool::shared().submit(std::move(block), shared_from_this());
-    } else {
-        pending.push({std::move(block), nullptr, alone});
     }
+    ThreadPool::shared().submit(std::move(block), shared_from_this());
 }
 
 void DispatchQueue::State::sync(Task block)
