@@ -76,7 +76,8 @@ std::vector<std::string> environmentIn(const std::string& home)
         }
     }
     for (const auto& [name, value] : own) {
-        result.push_back(name + "=" + value);
+        result.push_back(name);
+        result.back().append("=").append(value);
     }
     return result;
 }
