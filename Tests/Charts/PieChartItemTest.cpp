@@ -67,6 +67,8 @@ protected:
     }
     double scrolled() const { return m_page->property("contentY").toDouble(); }
 
+    const std::unique_ptr<QPointingDevice> m_device{QTest::createTouchDevice()}; // Outlives the window it touches.
+    QPointingDevice* const m_finger = m_device.get();
     PieChartView m_view;
     QQmlEngine m_engine;
     std::unique_ptr<QObject> m_root;
@@ -74,7 +76,6 @@ protected:
     PieChartItem* m_item = nullptr;
     QQuickItem* m_page = nullptr;
     PieLayout m_layout;
-    QPointingDevice* m_finger = QTest::createTouchDevice();
 };
 
 TEST_F(PieChartItemTest, TapsAndClicksSelect)
