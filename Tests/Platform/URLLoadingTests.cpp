@@ -295,7 +295,7 @@ TEST_F(URLLoadingTest, StatusesAreAnswersAndChallengesForPasswordsGetNone)
 TEST_F(URLLoadingTest, CancelledConnectionsEndOnceWhenever)
 {
     simulator::SimulatorProcess simulator{{}};
-    logOn(simulator);
+    const std::string key = logOn(simulator);
     simulator.setFault("stallFeed:All");
     constexpr int count = 120;
     std::vector<std::shared_ptr<URLConnection>> connections;
@@ -305,7 +305,7 @@ TEST_F(URLLoadingTest, CancelledConnectionsEndOnceWhenever)
         const bool answers = i % 3 == 1;
         delegates.push_back(std::make_shared<RecordingDelegate>(Answer::Accept));
         connections.push_back(URLConnection::make(
-            consoleRequest(simulator.address(), answers ? "/none" : "/rest/api/uom/ManagedSystem"), delegates.back()));
+            answers ? consoleRequest(simulator.address(), "/none") : feedRequest(simulator, key), delegates.back()));
         connections.back()->setDelegateQueue(m_queue);
         connections.back()->start();
         if (i % 3 == 2) {
@@ -413,10 +413,10 @@ TEST_F(URLLoadingDeathTest, ProcessEndsWithTransfersInFlight)
     testing::GTEST_FLAG(death_test_style) = "threadsafe";
     const auto leave = [this] {
         simulator::SimulatorProcess simulator{{}};
-        logOn(simulator);
+        const std::string key = logOn(simulator);
         simulator.setFault("stallFeed:All");
         for (int i = 0; i < 300; ++i) {
-            connect(consoleRequest(simulator.address(), "/rest/api/uom/ManagedSystem"), Answer::Accept);
+            connect(feedRequest(simulator, key), Answer::Accept);
         }
         std::exit(7);
     };

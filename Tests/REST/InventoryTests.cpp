@@ -1,0 +1,343 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/Resources.h"
+#include "Tests/REST/RESTHandlerFixture.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <thread>
+
+using testing::Contains;
+using testing::Each;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::UnorderedElementsAre;
+
+namespace lodestar::test
+{
+
+namespace
+{
+
+constexpr std::array<std::string_view, 6> types = {
+    ObjectType::ManagementConsole, ObjectType::ManagedSystem,    ObjectType::VirtualIOServer,
+    ObjectType::LogicalPartition,  ObjectType::ServiceableEvent, ObjectType::Group,
+};
+
+std::vector<std::string> unavailable(const FeedDictionary& feeds)
+{
+    std::vector<std::string> names;
+    for (const std::string_view type : types) {
+        if (feeds.feed(type).isNA()) {
+            names.emplace_back(type);
+        }
+    }
+    return names;
+}
+
+std::shared_ptr<const FeedDictionary> systemsFeed(std::string_view xml)
+{
+    auto feeds = std::make_shared<FeedDictionary>();
+    feeds->setFeed(ObjectType::ManagedSystem, Feed(XMLElement::parse(xml).value()));
+    return feeds;
+}
+
+std::string systemEntry(const std::string& properties)
+{
+    return "<entry><content><ManagedSystem>" + properties + "</ManagedSystem></content></entry>";
+}
+
+} // namespace
+
+class InventoryTest : public RESTHandlerTest
+{
+protected:
+    /// What a refresh does to a record, without a screen.
+    static RXPromise<std::string> refresh(const CorvelRef& corvel)
+    {
+        return handler()
+            .login(corvel, CheckToken::Yes)
+            .then([corvel](const SessionKey& sessionKey) {
+                corvel->isOnline = true;
+                return handler().fetchAllDataForCorvel(corvel, sessionKey);
+            })
+            .then([corvel](const std::shared_ptr<const FeedDictionary>& feeds) {
+                corvel->setRestData(feeds);
+                return handler().processInformationForCorvel(corvel);
+            })
+            .thenOnMain(
+                [corvel](const std::string&) {
+                    corvel->completedFetch = true;
+                    return std::string("fetched");
+                },
+                [corvel](const Error&) {
+                    corvel->completedFetch = true;
+                    corvel->isOnline = false;
+                    return std::string("offline");
+                });
+    }
+};
+
+TEST_F(InventoryTest, SixFeedsAreAskedForAndCounted)
+{
+    simulator::SimulatorProcess simulator{{}};
+    const CorvelRef corvel = corvelOf(simulator);
+    const SessionKey sessionKey = key(corvel);
+    simulator.clearRequests();
+    const auto feeds = allFeeds(corvel, sessionKey);
+    EXPECT_EQ(feeds->size(), 6U);
+    EXPECT_THAT(unavailable(*feeds), IsEmpty());
+
+    const auto requests = simulator.requests();
+    std::vector<std::string> paths;
+    for (const auto& request : requests) {
+        paths.push_back(request.method + " " + request.path);
+        EXPECT_THAT(request.headers,
+                    ElementsAre("Host: " + simulator.address() + ":12443", "X-API-Session: " + *sessionKey,
+                                "Accept: application/atom+xml", "Accept-Encoding: gzip, deflate"));
+    }
+    EXPECT_THAT(paths, UnorderedElementsAre("GET /rest/api/uom/ManagementConsole", "GET /rest/api/uom/ManagedSystem",
+                                            "GET /rest/api/uom/VirtualIOServer", "GET /rest/api/uom/LogicalPartition",
+                                            "GET /rest/api/sem/ServiceableEvent", "GET /rest/api/uom/Group"));
+
+    corvel->setRestData(feeds);
+    EXPECT_EQ(settled(handler().processInformationForCorvel(corvel)).value(), "OK");
+    const auto summary = simulator.summary();
+    EXPECT_EQ(corvel->numMSErrors, summary.systemErrors);
+    EXPECT_EQ(corvel->numMSLEDs, summary.attentionLEDs);
+    EXPECT_EQ(feedOfType(*corvel, ObjectType::ManagedSystem).entryCount(), static_cast<std::size_t>(summary.systems));
+    EXPECT_THAT(takeLines(), Each(HasSubstr("Corvel"))) << "fetching logs nothing";
+}
+
+TEST_F(InventoryTest, FeedThatCannotBeHadIsNotAvailableAndTheOthersAreKept)
+{
+    simulator::SimulatorProcess simulator{{}};
+    const CorvelRef corvel = corvelOf(simulator);
+    const SessionKey sessionKey = key(corvel);
+    for (const std::string fault : {"refuseFeed", "cutBody", "cutChunk", "cutGzip", "reset", "hugeHeaders"}) {
+        simulator.setFault(fault + ":ManagedSystem");
+        const auto feeds = allFeeds(corvel, sessionKey);
+        EXPECT_EQ(feeds->size(), 6U);
+        EXPECT_THAT(unavailable(*feeds), ElementsAre("ManagedSystem")) << fault;
+        corvel->numMSErrors = 7;
+        corvel->numMSLEDs = 7;
+        corvel->setRestData(feeds);
+        EXPECT_EQ(settled(handler().processInformationForCorvel(corvel)).value(), "OK");
+        EXPECT_EQ(corvel->numMSErrors, 0);
+        EXPECT_EQ(corvel->numMSLEDs, 0);
+        simulator.clearFaults();
+    }
+    simulator.setFault("refuseFeed:ManagedSystem");
+    const auto refused = settled(handler().fetchDataOfType("ManagedSystem", corvel, "uom", sessionKey));
+    ASSERT_FALSE(refused.ok());
+    EXPECT_EQ(refused.error().domain, "RXPromise");
+    EXPECT_EQ(refused.error().code, -1000);
+}
+
+TEST_F(InventoryTest, DamagedFeedIsSalvagedAndAnEmptyOneHasNoEntries)
+{
+    simulator::SimulatorProcess simulator{{}};
+    const CorvelRef corvel = corvelOf(simulator);
+    const SessionKey sessionKey = key(corvel);
+    simulator.setFault("malformedFeed:ManagedSystem");
+    simulator.setFault("emptyFeed:Group");
+    const auto feeds = allFeeds(corvel, sessionKey);
+    EXPECT_THAT(unavailable(*feeds), IsEmpty());
+    EXPECT_GT(feeds->feed(ObjectType::ManagedSystem).entryCount(), 0U);
+    EXPECT_FALSE(feeds->feed(ObjectType::Group).root().exists());
+    EXPECT_EQ(feeds->feed(ObjectType::Group).entryCount(), 0U);
+}
+
+TEST_F(InventoryTest, MissingKeyIsNotSentAndEveryFeedIsRefused)
+{
+    simulator::SimulatorProcess simulator{{}};
+    const CorvelRef corvel = corvelOf(simulator);
+    key(corvel);
+    simulator.clearRequests();
+    const auto feeds = allFeeds(corvel, std::nullopt);
+    EXPECT_EQ(unavailable(*feeds).size(), 6U);
+    for (const auto& request : simulator.requests()) {
+        EXPECT_EQ(request.header("X-API-Session"), std::nullopt);
+    }
+}
+
+TEST_F(InventoryTest, SwappedCertificateCostsTheFeedsUntilTheNextLogon)
+{
+    simulator::SimulatorProcess simulator{{}};
+    const CorvelRef corvel = corvelOf(simulator);
+    const SessionKey sessionKey = key(corvel);
+    simulator.setFault("swapCertificate");
+    EXPECT_EQ(unavailable(*allFeeds(corvel, sessionKey)).size(), 6U);
+    EXPECT_THAT(takeLines(), Contains(HasSubstr("Refused the certificate of " + simulator.address() + ":12443")));
+    EXPECT_THAT(unavailable(*allFeeds(corvel, key(corvel))), IsEmpty());
+}
+
+TEST_F(InventoryTest, SystemsInErrorAndLitLightsAreCounted)
+{
+    const std::string lit = "<PhysicalSystemAttentionLEDState>true</PhysicalSystemAttentionLEDState>";
+    struct Case {
+        std::string xml;
+        int errors;
+        int lights;
+    };
+    const Case cases[] = {
+        {"<feed/>", 0, 0},
+        {"", 0, 0},
+        {"<feed>" + systemEntry("<State>incomplete</State>" + lit) + "</feed>", 1, 1},
+        {"<feed>" +
+             systemEntry(
+                 "<State>error</State><PhysicalSystemAttentionLEDState>TRUE</PhysicalSystemAttentionLEDState>") +
+             "</feed>",
+         1, 0},
+        {"<feed>" + systemEntry("<State>error - incomplete, recovery</State>") + "</feed>", 1, 0},
+        {"<feed>" + systemEntry("<State>Error</State>" + lit) + systemEntry("<State>operating</State>") +
+             systemEntry("") + "<entry/>" + systemEntry("<State>in error</State>" + lit) + "</feed>",
+         1, 2},
+    };
+    const CorvelRef corvel = makeCorvel("A", "a");
+    for (const Case& one : cases) {
+        corvel->setRestData(systemsFeed(one.xml));
+        EXPECT_EQ(settled(handler().processInformationForCorvel(corvel)).value(), "OK");
+        EXPECT_EQ(corvel->numMSErrors, one.errors) << one.xml;
+        EXPECT_EQ(corvel->numMSLEDs, one.lights) << one.xml;
+    }
+    corvel->setRestData(nullptr);
+    EXPECT_EQ(settled(handler().processInformationForCorvel(corvel)).value(), "OK");
+    EXPECT_EQ(corvel->numMSErrors, 0);
+}
+
+TEST_F(InventoryTest, DemoConsoleReadsThePackageAndNeverTheNetwork)
+{
+    Resources::install(makeFolderResources(LODESTAR_DEMO_FOLDER));
+    const CorvelRef corvel = makeCorvel("Demo Corvel", "127.0.0.1");
+    corvel->setDemo(true);
+    EXPECT_EQ(settled(refresh(corvel)).value(), "fetched");
+    EXPECT_TRUE(corvel->isOnline);
+    for (const std::string_view type : types) {
+        EXPECT_GT(feedOfType(*corvel, type).entryCount(), 0U) << type;
+    }
+    EXPECT_EQ(handler().fetchDataFromAtomLink("https://nowhere.invalid/", *corvel), "demo placeholder");
+    EXPECT_FALSE(handler().getDemoDataForContentType("Nothing").exists());
+    EXPECT_EQ(settled(handler().fetchDataOfType("Nothing", corvel, "uom", std::nullopt)).value().text(), std::nullopt);
+}
+
+TEST_F(InventoryTest, LinkedValueIsFetchedOnTheCallersThread)
+{
+    simulator::SimulatorProcess simulator{{}};
+    const CorvelRef corvel = corvelOf(simulator);
+    const std::string base = "https://" + simulator.address() + ":12443/rest/api/uom/";
+    EXPECT_EQ(handler().fetchDataFromAtomLink(base + "Group", *corvel), std::nullopt) << "no key, no request";
+    const SessionKey sessionKey = key(corvel);
+    simulator.setFeed(0, "Group", R"("a ""quoted"" name")");
+    simulator.setFeed(0, "ManagedSystem", "\xff");
+    simulator.setFeed(0, "VirtualIOServer", "");
+    simulator.clearRequests();
+    takeLines();
+    EXPECT_EQ(handler().fetchDataFromAtomLink(base + "Group", *corvel), "a quoted name");
+    const auto requests = simulator.requests();
+    ASSERT_EQ(requests.size(), 1U);
+    EXPECT_EQ(requests[0].method, "GET");
+    EXPECT_THAT(requests[0].headers, ElementsAre("Host: " + simulator.address() + ":12443",
+                                                 "X-API-Session: " + *sessionKey, "Accept-Encoding: gzip, deflate"));
+    EXPECT_EQ(handler().fetchDataFromAtomLink(base + "ManagedSystem", *corvel), std::nullopt) << "not UTF-8";
+    EXPECT_EQ(handler().fetchDataFromAtomLink(base + "VirtualIOServer", *corvel), "");
+    const auto page = handler().fetchDataFromAtomLink(base + "x/1/quick/Nothing", *corvel);
+    ASSERT_TRUE(page) << "the status is not looked at";
+    EXPECT_THAT(*page, testing::Not(HasSubstr("\"")));
+    EXPECT_THAT(takeLines(), IsEmpty());
+
+    simulator.setFault("cutBody:Group");
+    EXPECT_EQ(handler().fetchDataFromAtomLink(base + "Group", *corvel), std::nullopt);
+    EXPECT_THAT(lineSources(),
+                ElementsAre("2 0 Shared/Controllers/REST/RESTHandler -[RESTHandler fetchDataFromAtomLink:corvel:]"));
+    EXPECT_THAT(takeLines(), ElementsAre(testing::StartsWith("Error: URLError")));
+}
+
+TEST_F(InventoryTest, VersionNamesWhatIsMissing)
+{
+    const auto feed = [](const std::string& info) {
+        return Feed(XMLElement::parse("<feed><entry><content><ManagementConsole><VersionInfo>" + info +
+                                      "</VersionInfo></ManagementConsole></content></entry></feed>")
+                        .value());
+    };
+    EXPECT_EQ(RESTHandler::versionString(
+                  feed("<Minor>4</Minor><Maintenance>3</Maintenance><Release>2</Release><Version>1</Version>"
+                       "<ServicePackName>5.6</ServicePackName>")),
+              "V1R2.3.4.5.6");
+    EXPECT_EQ(RESTHandler::versionString(feed("<Version>8</Version>")), "V8R(null).(null).(null).(null)");
+    EXPECT_EQ(RESTHandler::versionString(Feed::notAvailable()), "V(null)R(null).(null).(null).(null)");
+}
+
+TEST_F(InventoryTest, WorkingListKeepsTheStoresOrderAndIsReadFromAnyThread)
+{
+    const CorvelRef a = makeCorvel("b", "1");
+    const CorvelRef b = makeCorvel("a", "2");
+    EXPECT_TRUE(context().save().ok());
+    const CorvelRef c = makeCorvel("c", "3");
+    EXPECT_THAT(handler().fetchCorvels(), ElementsAre(a, b, c));
+    handler().setCorvelList({a, b});
+    handler().addCorvel(c);
+    EXPECT_THAT(handler().corvelList(), ElementsAre(a, b, c));
+
+    std::atomic<bool> over{false};
+    std::thread reader([&over] {
+        while (!over) {
+            for (const CorvelRef& corvel : *handler().corvelListSnapshot()) {
+                ASSERT_TRUE(corvel->address());
+            }
+        }
+    });
+    const auto before = handler().corvelListSnapshot();
+    for (int i = 0; i < 1000; ++i) {
+        handler().addCorvel(c);
+        a->setAddress("address " + std::to_string(i));
+        handler().removeCorvelAtIndex(handler().corvelList().size() - 1);
+    }
+    over = true;
+    reader.join();
+    handler().removeCorvelAtIndex(1);
+    handler().removeCorvelAtIndex(99);
+    EXPECT_THAT(handler().corvelList(), ElementsAre(a, c));
+    EXPECT_THAT(*handler().corvelListSnapshot(), ElementsAre(a, c));
+    EXPECT_THAT(*before, ElementsAre(a, b, c));
+}
+
+TEST_F(InventoryTest, FleetWithBadConsolesRefreshesEachForItself)
+{
+    simulator::Settings settings;
+    settings.consoles = 24;
+    simulator::SimulatorProcess simulator(settings);
+    const std::vector<std::string> faults = {"refuseLogon", "closePort", "cutBody:ManagedSystem", "refuseFeed:All",
+                                             "redirectLoop:Group"};
+    std::vector<CorvelRef> corvels;
+    for (int i = 0; i < settings.consoles; ++i) {
+        corvels.push_back(corvelOf(simulator, i));
+        if (static_cast<std::size_t>(i) < faults.size()) {
+            simulator.setFault(faults[static_cast<std::size_t>(i)] + ":" + std::to_string(i));
+        }
+    }
+    std::vector<RXPromise<std::string>> refreshes;
+    std::ranges::transform(corvels, std::back_inserter(refreshes), refresh);
+    ASSERT_TRUE(settled(RXPromise<std::string>::all(refreshes)).ok());
+    for (int i = 0; i < settings.consoles; ++i) {
+        SCOPED_TRACE(i);
+        const CorvelRef& corvel = corvels[static_cast<std::size_t>(i)];
+        EXPECT_TRUE(corvel->completedFetch);
+        EXPECT_EQ(corvel->isOnline, i > 1);
+        if (i < 2) {
+            EXPECT_EQ(corvel->restData(), nullptr);
+            continue;
+        }
+        const std::vector<std::string> expected = i == 2   ? std::vector<std::string>{"ManagedSystem"}
+                                                  : i == 4 ? std::vector<std::string>{"Group"}
+                                                           : std::vector<std::string>{};
+        const auto missing = unavailable(*corvel->restData());
+        EXPECT_TRUE(i == 3 ? missing.size() == 6 : missing == expected) << testing::PrintToString(missing);
+        if (i > 4) {
+            EXPECT_EQ(corvel->numMSErrors, simulator.summary(i).systemErrors);
+        }
+    }
+}
+
+} // namespace lodestar::test

@@ -1,0 +1,238 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Tests/REST/RESTHandlerFixture.h"
+
+#include <gmock/gmock.h>
+
+#include <set>
+#include <thread>
+
+using testing::AnyOf;
+using testing::Each;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace lodestar::test
+{
+
+class LogonTest : public RESTHandlerTest
+{
+};
+
+TEST_F(LogonTest, FirstLogonGoesOutByteForByteAndItsKeyIsStored)
+{
+    simulator::Settings settings;
+    settings.user = "o'op & \"co\"";
+    settings.password = "p&<w>\"'é";
+    simulator::SimulatorProcess simulator(settings);
+    const CorvelRef corvel = corvelOf(simulator);
+    const SessionKey sessionKey = key(corvel);
+    ASSERT_TRUE(sessionKey);
+    EXPECT_EQ(defaults().stringForKey(simulator.address()), sessionKey);
+    EXPECT_FALSE(corvel->isOnline);
+
+    const auto requests = simulator.requests();
+    ASSERT_EQ(requests.size(), 1U);
+    EXPECT_EQ(requests[0].method, "PUT");
+    EXPECT_EQ(requests[0].path, "/rest/api/web/Logon");
+    const std::string body =
+        "<LogonRequest xmlns=\"http://www.ornis.example/xmlns/systems/web/mc/2012_10/\" "
+        "xmlns:ns2=\"http://www.w3.org/XML/1998/namespace/k2\" schemaVersion=\"V1_0\"><Metadata><Atom/></Metadata>"
+        "<UserID kxe=\"false\" kb=\"CUR\">o'op & \"co\"</UserID>"
+        "<Password kxe=\"false\" kb=\"CUR\">p&<w>\"'é</Password></LogonRequest>";
+    EXPECT_EQ(requests[0].body, body);
+    EXPECT_THAT(requests[0].headers,
+                ElementsAre("Host: " + simulator.address() + ":12443", "Accept: application/vnd.ornis.varnex.web+xml",
+                            "Content-Type: application/vnd.ornis.varnex.web+xml", "Accept-Encoding: gzip, deflate",
+                            "Content-Length: " + std::to_string(body.size())));
+    EXPECT_EQ(handler().loginRequestForCorvel(*corvel).timeout, std::chrono::seconds(10));
+
+    EXPECT_THAT(lineSources(), Each("2 0 Shared/Controllers/REST/RESTHandler -[RESTHandler login:checkToken:]"));
+    EXPECT_TRUE(linesHaveStacks());
+    EXPECT_THAT(takeLines(),
+                ElementsAre("Corvel: Console 0, just used firstOpen case", "Console 0's Corvel's saved token is nil"));
+}
+
+TEST_F(LogonTest, StoredKeyIsCheckedAndRenewedWhenTheConsoleRefusesIt)
+{
+    simulator::SimulatorProcess simulator{{}};
+    const CorvelRef corvel = corvelOf(simulator);
+    const SessionKey first = key(corvel);
+    takeLines();
+    simulator.clearRequests();
+
+    EXPECT_EQ(key(corvel), first);
+    auto requests = simulator.requests();
+    ASSERT_EQ(requests.size(), 1U);
+    EXPECT_EQ(requests[0].method, "GET");
+    EXPECT_EQ(requests[0].path, "/rest/api/uom/ManagementConsole");
+    EXPECT_THAT(requests[0].headers, ElementsAre("Host: " + simulator.address() + ":12443", "X-API-Session: " + *first,
+                                                 "Accept: application/atom+xml, application/vnd.ornis.varnex.uom+xml",
+                                                 "Accept-Encoding: gzip, deflate"));
+    EXPECT_THAT(takeLines(),
+                ElementsAre("Corvel: Console 0, just used firstOpen case",
+                            "Console 0's Corvel's saved token is not nil", "Session is valid for Corvel: Console 0"));
+    EXPECT_EQ(handler().sessionValidRequestWithToken(*first, *corvel).timeout, URLRequest::defaultTimeout);
+
+    // Refused, and failing in transport, come to the same.
+    for (const std::string fault : {"expireSession", "cutBody:SessionCheck"}) {
+        const SessionKey stale = defaults().stringForKey(simulator.address());
+        simulator.setFault(fault);
+        simulator.clearRequests();
+        const SessionKey renewed = key(corvel);
+        ASSERT_TRUE(renewed);
+        EXPECT_NE(renewed, stale);
+        EXPECT_EQ(defaults().stringForKey(simulator.address()), renewed);
+        requests = simulator.requests();
+        ASSERT_EQ(requests.size(), 2U) << fault;
+        EXPECT_EQ(requests[1].path, "/rest/api/web/Logon");
+        EXPECT_EQ(requests[1].header("X-API-Session"), std::nullopt);
+        EXPECT_THAT(takeLines(), ElementsAre("Corvel: Console 0, just used firstOpen case",
+                                             "Console 0's Corvel's saved token is not nil",
+                                             "Session is no longer valid for Corvel: Console 0"));
+    }
+}
+
+TEST_F(LogonTest, UncheckedKeyIsTakenAsItIsWithoutARequest)
+{
+    const CorvelRef corvel = makeCorvel("Attic", "127.0.0.1");
+    EXPECT_EQ(key(corvel, CheckToken::No), std::nullopt);
+    defaults().setString("kept", "127.0.0.1");
+    const RXPromise<SessionKey> promise = handler().login(corvel, CheckToken::No);
+    EXPECT_TRUE(promise.isFulfilled()) << "nothing has to be waited for";
+    EXPECT_EQ(key(corvel, CheckToken::No), "kept");
+    EXPECT_THAT(takeLines(), Each("Corvel: Attic, did not use firstOpen case"));
+
+    corvel->setName(std::nullopt);
+    corvel->setAddress(std::nullopt);
+    EXPECT_EQ(key(corvel, CheckToken::No), std::nullopt);
+    EXPECT_THAT(takeLines(), ElementsAre("Corvel: (null), did not use firstOpen case"));
+    EXPECT_EQ(handler().loginRequestForCorvel(*corvel).url, "https://(null):12443/rest/api/web/Logon");
+    EXPECT_FALSE(settled(handler().login(corvel, CheckToken::Yes)).ok());
+}
+
+TEST_F(LogonTest, DemoConsoleNeedsNoNetwork)
+{
+    const CorvelRef corvel = makeCorvel("Demo Corvel", "127.0.0.1");
+    corvel->setDemo(true);
+    for (const CheckToken checkToken : {CheckToken::No, CheckToken::Yes}) {
+        const auto promise = handler().login(corvel, checkToken);
+        EXPECT_TRUE(promise.isFulfilled());
+        EXPECT_EQ(promise.result()->value(), "OK");
+    }
+    EXPECT_THAT(takeLines(), IsEmpty());
+    EXPECT_THAT(defaults().allKeys(), IsEmpty());
+}
+
+TEST_F(LogonTest, FailedLogonsRejectWithTheirErrorAndLeaveTheStoreAlone)
+{
+    simulator::SimulatorProcess simulator{{}};
+    const CorvelRef corvel = corvelOf(simulator);
+    simulator.setFault("refuseLogon");
+    const Result<SessionKey> refused = settled(handler().login(corvel, CheckToken::Yes));
+    ASSERT_FALSE(refused.ok());
+    EXPECT_EQ(refused.error().domain, "RXPromise");
+    EXPECT_EQ(refused.error().code, -1000);
+    EXPECT_EQ(refused.error().failureReason, "");
+
+    defaults().setString("stale", simulator.address());
+    EXPECT_EQ(settled(handler().login(corvel, CheckToken::Yes)).error().domain, "RXPromise");
+    simulator.stopConsole(0);
+    const Result<SessionKey> unreachable = settled(handler().login(corvel, CheckToken::Yes));
+    ASSERT_FALSE(unreachable.ok());
+    EXPECT_EQ(unreachable.error().domain, urlErrorDomain);
+    EXPECT_EQ(unreachable.error().code, static_cast<int>(URLErrorCode::CannotConnectToHost));
+    EXPECT_EQ(defaults().stringForKey(simulator.address()), "stale");
+}
+
+TEST_F(LogonTest, AnswerWithoutAKeyYieldsNoneAndRemovesTheStoredOne)
+{
+    simulator::SimulatorProcess simulator{{}};
+    const CorvelRef corvel = corvelOf(simulator);
+    for (const std::string fault : {"logonWithoutKey", "logonNotXML:html", "logonNotXML:empty", "logonNotXML:json"}) {
+        simulator.clearFaults();
+        simulator.setFault(fault);
+        defaults().setString("stale", simulator.address());
+        EXPECT_EQ(key(corvel), std::nullopt) << fault;
+        EXPECT_EQ(defaults().stringForKey(simulator.address()), std::nullopt) << fault;
+    }
+    simulator.clearFaults();
+    EXPECT_TRUE(key(corvel));
+}
+
+TEST_F(LogonTest, ConsoleDeletedMeanwhileGetsNoKeyBack)
+{
+    simulator::SimulatorProcess simulator{{}};
+    simulator.setLatency(100);
+    const CorvelRef corvel = corvelOf(simulator);
+    const auto promise = handler().login(corvel, CheckToken::Yes);
+    context().deleteObject(corvel);
+    EXPECT_TRUE(settled(promise).value()) << "whoever waits gets the key all the same";
+    EXPECT_THAT(defaults().allKeys(), IsEmpty());
+
+    // The key comes in after the deletion has removed the entry and before it deletes the record.
+    const CorvelRef second = corvelOf(simulator);
+    const auto secondPromise = handler().login(second, CheckToken::Yes);
+    while (secondPromise.isPending()) {
+        std::this_thread::yield();
+    }
+    EXPECT_TRUE(defaults().stringForKey(simulator.address()));
+    context().deleteObject(second);
+    MainQueue::shared().drain();
+    EXPECT_THAT(defaults().allKeys(), IsEmpty());
+
+    // A console that was put in its place keeps its own.
+    const CorvelRef third = corvelOf(simulator);
+    const auto thirdPromise = handler().login(third, CheckToken::Yes);
+    while (thirdPromise.isPending()) {
+        std::this_thread::yield();
+    }
+    context().deleteObject(third);
+    defaults().setString("new", simulator.address());
+    MainQueue::shared().drain();
+    EXPECT_EQ(defaults().stringForKey(simulator.address()), "new");
+}
+
+TEST_F(LogonTest, RecordEditedMeanwhileChangesNothingOfTheLogonUnderWay)
+{
+    simulator::SimulatorProcess simulator{{}};
+    simulator.setLatency(100);
+    const CorvelRef corvel = corvelOf(simulator);
+    defaults().setString("stale", simulator.address());
+    const auto promise = handler().login(corvel, CheckToken::Yes);
+    corvel->setName("Edited");
+    corvel->setAddress("elsewhere.invalid");
+    corvel->setPassword("another");
+    const SessionKey sessionKey = settled(promise).value();
+    EXPECT_TRUE(sessionKey);
+    EXPECT_EQ(defaults().stringForKey(simulator.address()), sessionKey);
+    EXPECT_EQ(defaults().stringForKey("elsewhere.invalid"), std::nullopt);
+    EXPECT_THAT(takeLines(), Each(HasSubstr("Console 0")));
+}
+
+TEST_F(LogonTest, ConsolesLogOnSideBySideEachWithItsOwnKey)
+{
+    simulator::Settings settings;
+    settings.consoles = 60;
+    settings.latency = 20;
+    simulator::SimulatorProcess simulator(settings);
+    std::vector<CorvelRef> corvels;
+    std::vector<RXPromise<SessionKey>> logons;
+    for (int i = 0; i < settings.consoles; ++i) {
+        corvels.push_back(corvelOf(simulator, i));
+        logons.push_back(handler().login(corvels.back(), CheckToken::Yes));
+    }
+    const auto twice = handler().login(corvels[0], CheckToken::Yes);
+    const auto keys = settled(RXPromise<SessionKey>::all(logons)).value();
+    const SessionKey second = settled(twice).value();
+    std::set<std::string> distinct{*second};
+    for (std::size_t i = 0; i < keys.size(); ++i) {
+        ASSERT_TRUE(keys[i]);
+        distinct.insert(*keys[i]);
+        EXPECT_THAT(defaults().stringForKey(simulator.address(static_cast<int>(i))),
+                    AnyOf(keys[i], i == 0 ? second : keys[i]));
+    }
+    EXPECT_EQ(distinct.size(), 61U);
+}
+
+} // namespace lodestar::test

@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Application/Model/StoreStack.h"
+#include "Controllers/REST/RESTHandler.h"
+#include "Feedback/VireoLogger.h"
+#include "Platform/Queues/MainQueue.h"
+#include "Platform/URLLoading/ServerTrust.h"
+#include "Platform/UserDefaults.h"
+#include "Simulator/SimulatorProcess.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <cstdlib>
+#include <filesystem>
+#include <mutex>
+#include <string>
+#include <vector>
+
+namespace lodestar::test
+{
+
+/// The console client on a store in a scratch folder, with its log lines collected and nothing remembered.
+class RESTHandlerTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        MainQueue::shared().adoptCurrentThread();
+        std::string folder = testing::TempDir() + "lodestar-rest-XXXXXX";
+        ASSERT_NE(mkdtemp(folder.data()), nullptr);
+        m_folder = folder;
+        StoreStack::shared().setApplicationDocumentsDirectory(folder);
+        handler().setCorvelList({});
+        for (const std::string& key : defaults().allKeys()) {
+            defaults().removeObjectForKey(key);
+        }
+        ServerTrust::shared().forgetAll();
+        m_listener = VireoLogger::addListener([this](const VireoLogger::Entry& entry) {
+            const std::lock_guard lock(m_linesMutex);
+            m_lines.emplace_back(entry.message);
+            m_sources.push_back(std::to_string(entry.level) + " " + std::to_string(entry.tag) + " " +
+                                std::string(entry.fileName) + " " + std::string(entry.method));
+            m_haveStacks = m_haveStacks && !entry.stacktrace.empty() && entry.line > 0;
+        });
+    }
+    void TearDown() override
+    {
+        handler().queue().waitUntilAllOperationsAreFinished();
+        MainQueue::shared().drain();
+        m_listener.reset();
+        handler().setCorvelList({});
+        StoreStack::shared().close();
+        std::filesystem::remove_all(m_folder);
+    }
+
+    static RESTHandler& handler() { return RESTHandler::sharedInstance(); }
+    static UserDefaults& defaults() { return UserDefaults::standard(); }
+    static ObjectContext& context() { return StoreStack::shared().managedObjectContext(); }
+
+    static CorvelRef makeCorvel(const std::string& name, const std::string& address, const std::string& user = {},
+                                const std::string& password = {})
+    {
+        auto corvel = std::dynamic_pointer_cast<Corvel>(context().insertNewObject(Corvel::entityName));
+        corvel->setName(name);
+        corvel->setAddress(address);
+        corvel->setUsername(user);
+        corvel->setPassword(password);
+        corvel->setDemo(false);
+        return corvel;
+    }
+    static CorvelRef corvelOf(simulator::SimulatorProcess& simulator, int console = 0)
+    {
+        return makeCorvel("Console " + std::to_string(console), simulator.address(console), simulator.user(),
+                          simulator.password());
+    }
+
+    /// Runs the main queue until the promise has settled.
+    template <typename T>
+    static Result<T> settled(const RXPromise<T>& promise)
+    {
+        if (!MainQueue::shared().runUntil([&promise] { return !promise.isPending(); }, std::chrono::seconds(60))) {
+            return Error{"test", 0, "the promise was never settled", {}, nullptr};
+        }
+        return *promise.result();
+    }
+    /// The session key of a logon that must not fail.
+    static SessionKey key(const CorvelRef& corvel, CheckToken checkToken = CheckToken::Yes)
+    {
+        const Result<SessionKey> result = settled(handler().login(corvel, checkToken));
+        EXPECT_TRUE(result.ok()) << description(result.error());
+        return result.ok() ? result.value() : std::nullopt;
+    }
+    static std::shared_ptr<const FeedDictionary> allFeeds(const CorvelRef& corvel, const SessionKey& sessionKey)
+    {
+        const auto result = settled(handler().fetchAllDataForCorvel(corvel, sessionKey));
+        EXPECT_TRUE(result.ok());
+        return result.ok() ? result.value() : std::make_shared<const FeedDictionary>();
+    }
+
+    /// The log lines since the last call.
+    std::vector<std::string> takeLines()
+    {
+        const std::lock_guard lock(m_linesMutex);
+        m_sources.clear();
+        return std::exchange(m_lines, {});
+    }
+    /// Level, tag, file and method of the same lines.
+    std::vector<std::string> lineSources()
+    {
+        const std::lock_guard lock(m_linesMutex);
+        return m_sources;
+    }
+    bool linesHaveStacks()
+    {
+        const std::lock_guard lock(m_linesMutex);
+        return m_haveStacks;
+    }
+
+private:
+    std::string m_folder;
+    std::shared_ptr<void> m_listener;
+    std::mutex m_linesMutex;
+    std::vector<std::string> m_lines;
+    std::vector<std::string> m_sources;
+    bool m_haveStacks = true;
+};
+
+} // namespace lodestar::test
