@@ -59,7 +59,7 @@ protected:
         corvelRequest.reset();
         Outcome outcome = promise.get_future().get();
         m_queue.waitUntilAllOperationsAreFinished();
-        EXPECT_EQ(std::exchange(m_calls, 0), 1);
+        EXPECT_EQ(m_calls.exchange(0), 1);
         EXPECT_TRUE(watched.expired()) << "nobody keeps a request that has ended";
         return outcome;
     }

@@ -308,7 +308,7 @@ TEST_F(InventoryTest, FleetWithBadConsolesRefreshesEachForItself)
     simulator::Settings settings;
     settings.consoles = 24;
     simulator::SimulatorProcess simulator(settings);
-    const std::vector<std::string> faults = {"refuseLogon", "closePort", "cutBody:ManagedSystem", "refuseFeed:All",
+    const std::vector<std::string> faults = {"refuseLogon", "closePort", "cutBody:ManagedSystem", "refuseFeed",
                                              "redirectLoop:Group"};
     std::vector<CorvelRef> corvels;
     for (int i = 0; i < settings.consoles; ++i) {
