@@ -50,7 +50,7 @@ std::string summary(Simulator& simulator, const Words& words)
     std::string line = "summary";
     for (const int count :
          {of.systems, of.systemErrors, of.attentionLEDs, of.partitions, of.vios, of.events, of.groups}) {
-        line += " " + std::to_string(count);
+        line.append(1, ' ').append(std::to_string(count));
     }
     return line + "\n";
 }
@@ -113,11 +113,12 @@ const std::map<std::string, Command, std::less<>>& commands()
 
 std::string Control::greeting() const
 {
-    const std::string credentials =
-        " " + encodeWord(m_simulator.settings().user) + " " + encodeWord(m_simulator.settings().password) + "\n";
+    const std::string user = encodeWord(m_simulator.settings().user);
+    const std::string password = encodeWord(m_simulator.settings().password);
     std::string lines;
     for (int i = 0; i < m_simulator.consoleCount(); ++i) {
-        lines += "console " + std::to_string(i) + " " + m_simulator.address(i) + credentials;
+        lines.append("console ").append(std::to_string(i)).append(1, ' ').append(m_simulator.address(i));
+        lines.append(1, ' ').append(user).append(1, ' ').append(password).append(1, '\n');
     }
     return lines + "ready\n";
 }

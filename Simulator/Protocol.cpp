@@ -102,11 +102,15 @@ std::vector<std::string> splitWords(std::string_view line)
 
 std::string encodeRequest(const RecordedRequest& request)
 {
-    std::string line = std::to_string(request.console) + " " + std::to_string(request.connection) + " " +
-                       std::to_string(request.milliseconds) + " " + encodeWord(request.method) + " " +
-                       encodeWord(request.path) + " " + encodeWord(request.body);
+    std::string line = std::to_string(request.console);
+    const auto add = [&line](const std::string& word) { line.append(1, ' ').append(word); };
+    add(std::to_string(request.connection));
+    add(std::to_string(request.milliseconds));
+    for (const std::string* text : {&request.method, &request.path, &request.body}) {
+        add(encodeWord(*text));
+    }
     for (const std::string& header : request.headers) {
-        line += " " + encodeWord(header);
+        add(encodeWord(header));
     }
     return line;
 }

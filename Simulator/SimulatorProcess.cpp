@@ -174,7 +174,7 @@ std::vector<RecordedRequest> SimulatorProcess::requests(std::optional<int> conso
 
 Statistics SimulatorProcess::statistics(std::optional<int> console)
 {
-    const auto lines = command("statistics" + (console ? " " + std::to_string(*console) : std::string()));
+    const auto lines = command(console ? "statistics " + std::to_string(*console) : "statistics");
     const auto words = splitWords(lines.at(0));
     return {numberIn(words, 1), numberIn(words, 2), numberIn(words, 3)};
 }

@@ -17,6 +17,17 @@
 namespace lodestar::simulator::test
 {
 
+namespace
+{
+
+std::size_t declaredSize(const Answer& answer)
+{
+    const std::string size = answer.header("Content-Length");
+    return size.empty() ? 0 : std::stoull(size);
+}
+
+} // namespace
+
 std::string Answer::header(std::string_view name) const
 {
     for (const std::string& line : headers) {
@@ -108,7 +119,7 @@ bool TlsClient::bodyComplete(const Answer& answer) const
     if (answer.header("Transfer-Encoding") == "chunked") {
         return m_received.ends_with("0\r\n\r\n");
     }
-    return m_received.size() >= std::stoull("0" + answer.header("Content-Length"));
+    return m_received.size() >= declaredSize(answer);
 }
 
 Answer TlsClient::receive(std::size_t bodyLimit)
@@ -138,7 +149,7 @@ Answer TlsClient::receive(std::size_t bodyLimit)
     }
     answer.end = bodyComplete(answer) ? End::Whole : End::Nothing;
     const bool chunked = answer.header("Transfer-Encoding") == "chunked";
-    const std::size_t size = chunked ? m_received.size() : std::stoull("0" + answer.header("Content-Length"));
+    const std::size_t size = chunked ? m_received.size() : declaredSize(answer);
     answer.body = m_received.substr(0, size);
     m_received.erase(0, size);
     return answer;
