@@ -74,4 +74,29 @@ QColor UIColor::dashboardOrange()
     return {243, 156, 18};
 }
 
+QColor UIColor::grayColor()
+{
+    return {0x66, 0x70, 0x7E};
+}
+
+QColor UIColor::darkGrayColor()
+{
+    return {0x55, 0x55, 0x55};
+}
+
+QColor UIColor::lightGrayColor()
+{
+    return {0xC3, 0xCA, 0xD3};
+}
+
+QColor UIColor::redColor()
+{
+    return {0xE3, 0x22, 0x26};
+}
+
+QColor UIColor::orangeColor()
+{
+    return {0xB3, 0x59, 0x00};
+}
+
 } // namespace lodestar

@@ -23,6 +23,14 @@ struct UIColor {
     static QColor dashboardGrey();
     static QColor dashboardYellow();
     static QColor dashboardOrange();
+
+    /// The platform's own colours, as in the light appearance. A scene shows them by `Theme.inkFor` and
+    /// `Theme.surfaceFor`, which give each its dark counterpart.
+    static QColor grayColor();
+    static QColor darkGrayColor();
+    static QColor lightGrayColor();
+    static QColor redColor();
+    static QColor orangeColor();
 };
 
 } // namespace lodestar
