@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QColor>
+#include <QObject>
+#include <QString>
+#include <QtQml/qqmlregistration.h>
+
+namespace lodestar
+{
+
+/// The views of a table cell as values: what the outlets of a controller are to a screen, these are to a row. A row is
+/// configured by making its cell anew, so nothing here notifies.
+
+/// A text in a cell. An invalid colour is the view's own.
+struct CellLabel {
+    Q_GADGET
+    QML_VALUE_TYPE(cellLabel)
+    Q_PROPERTY(QString text MEMBER text)
+    Q_PROPERTY(QColor color MEMBER color)
+    Q_PROPERTY(bool hidden MEMBER hidden)
+
+public:
+    QString text;
+    QColor color;
+    bool hidden = false;
+
+    friend bool operator==(const CellLabel&, const CellLabel&) = default;
+};
+
+/// A picture in a cell, by the name of its resource.
+struct CellImage {
+    Q_GADGET
+    QML_VALUE_TYPE(cellImage)
+    Q_PROPERTY(QString imageName MEMBER imageName)
+    Q_PROPERTY(bool hidden MEMBER hidden)
+
+public:
+    QString imageName;
+    bool hidden = false;
+
+    friend bool operator==(const CellImage&, const CellImage&) = default;
+};
+
+/// An activity indicator in a cell, hidden while it stands still.
+struct CellIndicator {
+    Q_GADGET
+    QML_VALUE_TYPE(cellIndicator)
+    Q_PROPERTY(bool animating MEMBER animating)
+
+public:
+    bool animating = false;
+
+    friend bool operator==(const CellIndicator&, const CellIndicator&) = default;
+};
+
+} // namespace lodestar

@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/Common/Registry.h"
+
+#include "Application/Model/StoreStack.h"
+#include "Controllers/REST/RESTHandler.h"
+#include "Platform/UserDefaults.h"
+
+#include <algorithm>
+#include <tuple>
+
+namespace lodestar
+{
+
+CorvelRef insertNewCorvel()
+{
+    return std::static_pointer_cast<Corvel>(
+        StoreStack::shared().managedObjectContext().insertNewObject(Corvel::entityName));
+}
+
+void deleteCorvel(const CorvelRef& corvel)
+{
+    StoreStack::shared().managedObjectContext().deleteObject(corvel);
+}
+
+void saveIgnoringErrors()
+{
+    std::ignore = StoreStack::shared().managedObjectContext().save();
+}
+
+CorvelRef corvelAtRow(int row)
+{
+    const std::vector<CorvelRef>& corvels = RESTHandler::sharedInstance().corvelList();
+    const auto index = static_cast<std::size_t>(row);
+    return row >= 0 && index < corvels.size() ? corvels[index] : nullptr;
+}
+
+bool isRegistered(const CorvelRef& corvel)
+{
+    const std::vector<CorvelRef>& corvels = RESTHandler::sharedInstance().corvelList();
+    return std::ranges::find(corvels, corvel) != corvels.end();
+}
+
+void forgetSessionKeyOfUnregistered(const Corvel& corvel)
+{
+    const auto address = corvel.address();
+    const std::vector<CorvelRef>& corvels = RESTHandler::sharedInstance().corvelList();
+    const bool shared =
+        std::ranges::any_of(corvels, [&address](const CorvelRef& other) { return other->address() == address; });
+    if (address && !shared) {
+        UserDefaults::standard().removeObjectForKey(*address);
+    }
+}
+
+} // namespace lodestar

@@ -1,0 +1,26 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Application/Model/Corvel.h"
+
+namespace lodestar
+{
+
+/// The few things that screens do to the console registry. Main thread.
+
+/// A new record in the store's context; the next save stores it. It is not in the working list yet.
+CorvelRef insertNewCorvel();
+/// Takes the record out of the context, to be gone from the store with the next save.
+void deleteCorvel(const CorvelRef& corvel);
+/// Saves the context. A failure is left to the next save: nothing that a screen could do would help.
+void saveIgnoringErrors();
+
+/// The working list's record at a row; null for a row that is not there (any more).
+CorvelRef corvelAtRow(int row);
+/// Whether the working list holds the record.
+bool isRegistered(const CorvelRef& corvel);
+/// A logon that was under way when its record was deleted stores its session key afterwards: takes that key away again,
+/// unless a registered console has the same address.
+void forgetSessionKeyOfUnregistered(const Corvel& corvel);
+
+} // namespace lodestar

@@ -1,0 +1,218 @@
+// SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Lodestar.Kit
+import Lodestar.Views
+
+/// A console's row: name, version, address, and three values or their spinners. On phones the values stand in columns
+/// below; on wider windows beside, under captions; large text stacks everything.
+TableCell {
+    id: row
+
+    required property corvelListCell cell
+
+    readonly property bool stacked: Theme.stacked
+    readonly property bool captioned: !stacked && Theme.widthClass(Window.width) !== Theme.compactWidth
+    readonly property bool narrow: Window.width < 375
+    readonly property real scale100: Theme.textScale
+    /// Kept free at the end for the chevron, there or not, so that columns stay in line.
+    readonly property real trailing: Theme.rowEnd + 24
+
+    accessibleText: cell.accessibleText
+    selectable: cell.highlights
+    swipeButtons: cell.rightButtons
+    implicitHeight: stacked ? Math.ceil(content.height + 22 * scale100) : 0
+
+    component Metric: Item {
+        id: metric
+
+        required property string caption
+        required property cellLabel value
+        required property cellIndicator indicator
+        /// Shown in the place of a plain value.
+        property string stateMark: ""
+        property bool captionHidden: false
+
+        readonly property bool stateful: stateMark !== ""
+        readonly property real valueX: captionHidden || row.captioned ? 0 : captionLabel.implicitWidth + 6 * row.scale100
+        readonly property real valueY: row.captioned ? Math.round(22 * row.scale100) : Math.round(row.scale100)
+        readonly property real valueWidth: indicator.animating ? spinner.width
+                                                               : stateful ? word.implicitWidth : number.implicitWidth
+
+        implicitWidth: Math.max(captionHidden ? 0 : captionLabel.implicitWidth, valueX + valueWidth)
+        implicitHeight: Math.round((row.captioned ? 42 : 22) * row.scale100)
+
+        Label {
+            id: captionLabel
+
+            text: metric.caption
+            size: Theme.captionSize
+            color: Theme.ink2
+            visible: !metric.captionHidden
+            anchors.left: parent.left
+            y: row.captioned ? 0 : Math.round(2 * row.scale100)
+            Accessible.ignored: true
+        }
+        Spinner {
+            id: spinner
+
+            size: Math.round(16 * Theme.badgeScale)
+            running: metric.indicator.animating
+            anchors.left: parent.left
+            anchors.leftMargin: metric.valueX
+            y: metric.valueY + (number.lineHeight - height) / 2
+            Accessible.ignored: true
+        }
+        StateWord {
+            id: word
+
+            word: metric.stateful ? metric.value.text : ""
+            mark: metric.stateMark
+            color: metric.value.color
+            markLeads: true
+            visible: metric.stateful && !metric.value.hidden
+            anchors.left: parent.left
+            anchors.leftMargin: metric.valueX
+            y: metric.valueY
+            width: implicitWidth
+            Accessible.ignored: true
+        }
+        Label {
+            id: number
+
+            text: metric.stateful ? "" : metric.value.text
+            size: Theme.stateSize
+            visible: !metric.stateful && !metric.value.hidden
+            anchors.left: parent.left
+            anchors.leftMargin: metric.valueX
+            y: metric.valueY
+            Accessible.ignored: true
+        }
+    }
+
+    Item {
+        id: content
+
+        readonly property real identityHeight: name.height + address.height + (version.besideName ? 0 : version.height)
+        readonly property real metricsWidth: row.captioned ? 316 : width
+
+        anchors {
+            left: parent.left
+            leftMargin: Theme.rowStart
+            right: parent.right
+            rightMargin: row.stacked ? row.trailing : Theme.rowEnd
+        }
+        y: Math.round(row.stacked ? (row.height - height) / 2 : row.captioned ? (row.height - height) / 2
+                                                                              : 11 * row.scale100)
+        height: row.captioned ? identityHeight : identityHeight + Math.round(7 * row.scale100) + metrics.height
+
+        Label {
+            id: name
+
+            text: row.cell.nameLabel.text
+            elide: Text.ElideMiddle
+            anchors.left: parent.left
+            width: Math.min(implicitWidth, Math.max(0, version.besideName
+                            ? parent.width - 24 - 12 - version.implicitWidth : content.identityWidth))
+            Accessible.ignored: true
+        }
+        readonly property real identityWidth: row.captioned ? width - 24 - metricsWidth - 16 : width - (row.stacked ? 0 : 24)
+
+        Label {
+            id: version
+
+            readonly property bool besideName: !row.captioned && !row.stacked
+
+            text: row.cell.versionLabel.text
+            size: Theme.captionSize
+            color: Theme.ink2
+            elide: Text.ElideMiddle
+            width: Math.min(implicitWidth, content.identityWidth)
+            anchors {
+                left: besideName ? undefined : parent.left
+                right: besideName ? parent.right : undefined
+                rightMargin: besideName ? 24 : 0
+            }
+            y: besideName ? name.baselineOffset - baselineOffset : address.y + address.height
+            Accessible.ignored: true
+        }
+        Label {
+            id: address
+
+            text: row.cell.addressLabel.text
+            size: Theme.captionSize
+            color: Theme.ink2
+            elide: Text.ElideMiddle
+            anchors.left: parent.left
+            width: Math.min(implicitWidth, content.identityWidth)
+            y: name.height
+            Accessible.ignored: true
+        }
+
+        Item {
+            id: metrics
+
+            readonly property real firstColumn: row.captioned ? 124 : row.narrow ? 92 : 104
+            readonly property real secondColumn: row.captioned ? 104 : row.narrow ? 104 : 112
+            readonly property real lineStep: Math.round(28 * row.scale100)
+            /// A value that needs more than its column takes it from the next.
+            readonly property real secondStart: Math.max(firstColumn, status.implicitWidth + 12)
+            readonly property real thirdStart: secondStart + Math.max(secondColumn, attention.implicitWidth + 12)
+
+            anchors {
+                left: row.captioned ? undefined : parent.left
+                right: parent.right
+                rightMargin: row.captioned ? 24 : 0
+            }
+            width: content.metricsWidth
+            height: row.stacked ? 2 * lineStep + events.height : status.height
+            y: row.captioned ? Math.round((content.height - height) / 2)
+                             : content.identityHeight + Math.round(7 * row.scale100)
+
+            Metric {
+                id: status
+
+                caption: qsTr("Status")
+                captionHidden: !row.captioned
+                value: row.cell.statusLabel
+                stateMark: row.cell.statusMark
+                indicator: row.cell.statusActivityIndicator
+                anchors.left: parent.left
+                width: implicitWidth
+                height: implicitHeight
+            }
+            Metric {
+                id: attention
+
+                caption: qsTr("Attention")
+                value: row.cell.attentionLabel
+                indicator: row.cell.attentionActivityIndicator
+                anchors.left: parent.left
+                anchors.leftMargin: row.stacked ? 0 : metrics.secondStart
+                y: row.stacked ? metrics.lineStep : 0
+                width: implicitWidth
+                height: implicitHeight
+            }
+            Metric {
+                id: events
+
+                caption: qsTr("Events")
+                value: row.cell.eventsLabel
+                indicator: row.cell.eventsActivityIndicator
+                anchors.left: parent.left
+                anchors.leftMargin: row.stacked ? 0 : metrics.thirdStart
+                y: row.stacked ? 2 * metrics.lineStep : 0
+                width: implicitWidth
+                height: implicitHeight
+            }
+        }
+    }
+
+    Chevron {
+        visible: !row.cell.selectionArrow.hidden
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.rowEnd
+        anchors.verticalCenter: parent.verticalCenter
+    }
+}

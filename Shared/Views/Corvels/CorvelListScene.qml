@@ -1,0 +1,75 @@
+// SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Lodestar.Kit
+import Lodestar.Views
+
+/// The console list: one card of rows, or a picture and the way to add the first console.
+PageScaffold {
+    id: scene
+
+    readonly property CorvelListViewController corvels: controller as CorvelListViewController
+    readonly property bool sheetUp: corvels.semiModal !== null
+    /// Points of the window that the keyboard covers.
+    readonly property real keyboardHeight: Qt.inputMethod.visible ? Qt.inputMethod.keyboardRectangle.height : 0
+
+    onKeyboardHeightChanged: {
+        if (keyboardHeight > 0) {
+            corvels.keyboardWillShow(keyboardHeight);
+        } else {
+            corvels.keyboardWillHide();
+        }
+    }
+
+    bar: RootBar {
+        controller: scene.controller
+        trailing: [
+            IconButton {
+                objectName: "settingsButton"
+                iconName: "settings"
+                text: qsTr("Settings")
+                visible: !scene.corvels.settingsHidden
+                onClicked: scene.corvels.openSettings()
+            },
+            IconButton {
+                objectName: "addButton"
+                iconName: "add"
+                text: qsTr("Add console")
+                onClicked: scene.corvels.addCorvel()
+            }
+        ]
+    }
+    scrollView: table.flickable
+
+    Shortcut {
+        sequences: [StandardKey.New]
+        enabled: scene.visible && !scene.sheetUp
+        onActivated: scene.corvels.addCorvel()
+    }
+    Shortcut {
+        sequences: [StandardKey.Refresh, "Ctrl+R"]
+        enabled: scene.visible && !scene.sheetUp
+        onActivated: scene.corvels.refreshControl.pull()
+    }
+
+    CardTable {
+        id: table
+
+        table: scene.corvels.tableView
+        refreshControl: scene.corvels.refreshControl
+        delegate: CorvelListDelegate {}
+        topSpace: 0
+        focus: true
+        anchors.fill: parent
+        onSwipeButtonTapped: (section, row, index) => scene.corvels.swipeTableCell(row, index)
+    }
+    NoContent {
+        anchors.fill: parent
+        visible: scene.corvels.tableView.hidden
+        picture: "no_data_consoles"
+        text: qsTr("No consoles yet.")
+        actionText: qsTr("Add Corvel")
+        onAction: scene.corvels.addCorvel()
+    }
+}

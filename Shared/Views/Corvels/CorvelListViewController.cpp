@@ -1,0 +1,330 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/Corvels/CorvelListViewController.h"
+
+#include "Application/Model/StoreStack.h"
+#include "Controllers/REST/RESTHandler.h"
+#include "Feedback/VireoLogger.h"
+#include "Kit/Core/NavigationController.h"
+#include "Kit/Core/Storyboard.h"
+#include "Kit/Core/TabBarController.h"
+#include "Kit/Core/UIColor+Tessel.h"
+#include "Platform/UserDefaults.h"
+#include "Views/Common/CorvelReceiving.h"
+#include "Views/Common/Registry.h"
+#include "Views/Corvels/CorvelListCell.h"
+#include "Views/Corvels/DeltaCorvelViewController.h"
+
+#include <utility>
+
+namespace lodestar
+{
+namespace
+{
+
+constexpr auto fileName = "Shared/Views/Corvels/CorvelListViewController";
+
+constexpr double rowHeight = 92;
+constexpr double separatorLeft = 10;
+constexpr double separatorRight = 15;
+
+// Points of the sheet below its bar. One point between the two resting heights is meant: 224 is the form itself, 223
+// what it goes back to once the status line has been up.
+constexpr double sheetHeight = 224;
+constexpr double sheetHeightWithStatus = 266;
+constexpr double sheetHeightAfterStatus = 223;
+
+constexpr int deleteButton = 0;
+constexpr int editButton = 1;
+
+CorvelListViewController::IntroPresenter& introPresenter()
+{
+    static CorvelListViewController::IntroPresenter presenter;
+    return presenter;
+}
+
+QList<SwipeButton> makeRightButtons()
+{
+    SwipeButton remove;
+    remove.title = CorvelListViewController::tr("Delete");
+    remove.backgroundColor = UIColor::redColor();
+    SwipeButton edit;
+    edit.title = CorvelListViewController::tr("Edit");
+    edit.backgroundColor = UIColor::lightGrayColor();
+    return {remove, edit};
+}
+
+} // namespace
+
+void CorvelListViewController::setIntroPresenter(IntroPresenter presenter)
+{
+    introPresenter() = std::move(presenter);
+}
+
+CorvelListViewController::CorvelListViewController() : m_tableView(*this, TableKind::Main)
+{
+    m_tableView.setRowHeight(rowHeight);
+}
+
+bool CorvelListViewController::isSettingsHidden() const
+{
+    return !Storyboard::main().hasScene("settingsViewController");
+}
+
+void CorvelListViewController::viewDidLoad()
+{
+    LODESTAR_LOG(fileName, "-[CorvelListViewController viewDidLoad]", "CorvelListViewController instantiation");
+    m_tableView.setSeparatorInset(separatorLeft, separatorRight);
+    setTitle(tr("My Corvels"));
+    setBackTitle(QStringLiteral(""));
+
+    const UserDefaults& defaults = UserDefaults::standard();
+    if (!defaults.boolForKey("initialLoad")) {
+        addTestCorvel();
+    }
+    if (!defaults.boolForKey("showedPreview") && introPresenter()) {
+        ViewController* over = tabBarController();
+        introPresenter()(over != nullptr ? *over : *this, self<CorvelListViewController>());
+    }
+    connect(&m_refreshControl, &RefreshControl::valueChanged, this, &CorvelListViewController::refresh);
+    observeNotifications();
+    m_tableView.reloadData();
+    if (RESTHandler::sharedInstance().corvelList().empty()) {
+        m_tableView.setHidden(true);
+    }
+    m_viewHasAppearedOnce = true;
+    dataRefresh();
+}
+
+void CorvelListViewController::observeNotifications()
+{
+    NotificationCenter& center = NotificationCenter::defaultCenter();
+    m_observations.push_back(center.addObserver("CloseDeltaCorvel", [this] { hideModalView(); }));
+    m_observations.push_back(center.addObserver("StatusWillShow", [this] { statusWillShow(); }));
+    m_observations.push_back(center.addObserver("StatusShouldHide", [this] { statusShouldHide(); }));
+}
+
+void CorvelListViewController::addTestCorvel()
+{
+    const CorvelRef demo = insertNewCorvel();
+    demo->setName("Demo Corvel");
+    demo->setAddress("127.0.0.1");
+    demo->setDemo(true);
+    RESTHandler::sharedInstance().addCorvel(demo);
+    UserDefaults::standard().setBool(true, "initialLoad");
+}
+
+void CorvelListViewController::dataRefresh()
+{
+    LODESTAR_LOG(fileName, "-[CorvelListViewController dataRefresh]",
+                 "CorvelListViewController: Refreshing data from REST");
+    // A copy: a demonstration console may be done before the next one is asked.
+    const std::vector<CorvelRef> corvels = RESTHandler::sharedInstance().corvelList();
+    for (const CorvelRef& corvel : corvels) {
+        refreshCorvel(corvel);
+    }
+}
+
+void CorvelListViewController::refreshCorvel(const CorvelRef& corvel)
+{
+    // The screen is kept until the result is stored, also when it is closed meanwhile.
+    const auto screen = self<CorvelListViewController>();
+    RESTHandler::sharedInstance()
+        .login(corvel, CheckToken::Yes)
+        .then([corvel](const SessionKey& key) {
+            corvel->isOnline = true;
+            return RESTHandler::sharedInstance().fetchAllDataForCorvel(corvel, key);
+        })
+        .then([corvel](const std::shared_ptr<const FeedDictionary>& feeds) {
+            corvel->setRestData(feeds);
+            return RESTHandler::sharedInstance().processInformationForCorvel(corvel);
+        })
+        .thenOnMain([screen, corvel](const std::string&) { screen->didRefreshCorvel(corvel); },
+                    [screen, corvel](const Error& error) { screen->didFailToRefreshCorvel(corvel, error); });
+}
+
+void CorvelListViewController::didRefreshCorvel(const CorvelRef& corvel)
+{
+    if (!isRegistered(corvel)) {
+        forgetSessionKeyOfUnregistered(*corvel);
+        return;
+    }
+    LODESTAR_LOG(fileName, "-[CorvelListViewController dataRefresh]", "CorvelListViewController: Parsing mcvi");
+    const Feed console = feedOfType(*corvel, ObjectType::ManagementConsole);
+    LODESTAR_LOG(fileName, "-[CorvelListViewController dataRefresh]", "CorvelListViewController: Parsing version");
+    corvel->setVersion(RESTHandler::versionString(console));
+    saveIgnoringErrors();
+    corvel->completedFetch = true;
+    m_tableView.reloadData();
+}
+
+void CorvelListViewController::didFailToRefreshCorvel(const CorvelRef& corvel, const Error& error)
+{
+    corvel->completedFetch = true;
+    corvel->isOnline = false;
+    m_tableView.reloadData();
+    LODESTAR_LOG(fileName, "-[CorvelListViewController dataRefresh]", "Error: {} - > {}", description(error),
+                 "dataRefresh");
+}
+
+void CorvelListViewController::refresh()
+{
+    if (m_viewHasAppearedOnce) {
+        resetFetchData();
+    }
+    m_tableView.reloadData();
+    dataRefresh();
+    m_refreshControl.endRefreshing();
+}
+
+void CorvelListViewController::resetFetchData()
+{
+    for (const CorvelRef& corvel : RESTHandler::sharedInstance().corvelList()) {
+        corvel->setRestData(nullptr);
+        corvel->completedFetch = false;
+    }
+}
+
+void CorvelListViewController::introDidFinish()
+{
+    UserDefaults& defaults = UserDefaults::standard();
+    defaults.setBool(true, "showedPreview");
+    defaults.synchronize();
+    dataRefresh();
+}
+
+int CorvelListViewController::numberOfRowsInSection(TableKind /*tableView*/, int /*section*/) const
+{
+    return static_cast<int>(RESTHandler::sharedInstance().corvelList().size());
+}
+
+QVariant CorvelListViewController::cellForRowAtIndexPath(TableKind /*tableView*/, IndexPath indexPath)
+{
+    const CorvelRef corvel = corvelAtRow(indexPath.row);
+    if (!corvel) {
+        return {};
+    }
+    CorvelListCell cell;
+    cell.configure(*corvel);
+    cell.setRightButtons(makeRightButtons());
+    return QVariant::fromValue(cell);
+}
+
+void CorvelListViewController::didSelectRowAtIndexPath(TableKind /*tableView*/, IndexPath indexPath)
+{
+    const CorvelRef corvel = corvelAtRow(indexPath.row);
+    if (!corvel || !corvel->completedFetch || !corvel->isOnline) {
+        return;
+    }
+    if (const auto tasks = Storyboard::main().instantiateViewController("corvelTasksViewController")) {
+        if (auto* receiver = dynamic_cast<CorvelReceiving*>(tasks.get())) {
+            receiver->setCorvel(corvel);
+        }
+        if (navigationController() != nullptr) {
+            navigationController()->pushViewController(tasks, Animated::Yes);
+        }
+    }
+    m_tableView.deselectRow(indexPath);
+}
+
+bool CorvelListViewController::tappedButtonAtIndex(int row, int index, SwipeDirection /*direction*/,
+                                                   FromExpansion /*fromExpansion*/)
+{
+    if (!corvelAtRow(row)) {
+        return true;
+    }
+    if (index == deleteButton) {
+        deleteCorvelAtIndex(static_cast<std::size_t>(row));
+    } else if (index == editButton) {
+        editCorvelAtIndex(static_cast<std::size_t>(row));
+    }
+    return true;
+}
+
+bool CorvelListViewController::swipeTableCell(int row, int tappedButtonAtIndex)
+{
+    return this->tappedButtonAtIndex(row, tappedButtonAtIndex, SwipeDirection::RightToLeft, FromExpansion::No);
+}
+
+void CorvelListViewController::deleteCorvelAtIndex(std::size_t index)
+{
+    RESTHandler& rest = RESTHandler::sharedInstance();
+    const CorvelRef corvel = rest.corvelList()[index];
+    UserDefaults::standard().removeObjectForKey(corvel->address().value_or(std::string()));
+    deleteCorvel(corvel);
+    saveIgnoringErrors();
+    rest.removeCorvelAtIndex(index);
+    m_tableView.deleteRow({0, static_cast<int>(index)}, RowAnimation::Left);
+    if (rest.corvelList().empty()) {
+        m_tableView.setHidden(true);
+    }
+}
+
+void CorvelListViewController::editCorvelAtIndex(std::size_t index)
+{
+    m_tableView.setEditing(false, true);
+    if (const auto editor = Storyboard::main().instantiate<DeltaCorvelViewController>("deltaCorvel")) {
+        editor->setCorvel(RESTHandler::sharedInstance().corvelList()[index]);
+        presentEditor(editor);
+    }
+}
+
+void CorvelListViewController::addCorvel()
+{
+    if (const auto editor = Storyboard::main().instantiate<DeltaCorvelViewController>("deltaCorvel")) {
+        editor->setParentList(self<CorvelListViewController>());
+        presentEditor(editor);
+    }
+}
+
+void CorvelListViewController::presentEditor(const std::shared_ptr<DeltaCorvelViewController>& editor)
+{
+    presentSemiViewController(editor, {.pushParentBack = false, .height = sheetHeight});
+}
+
+void CorvelListViewController::openSettings()
+{
+    const auto settings = Storyboard::main().instantiateViewController("settingsViewController");
+    if (settings && navigationController() != nullptr) {
+        navigationController()->pushViewController(settings, Animated::Yes);
+    }
+}
+
+void CorvelListViewController::resizeModal(double keyboardHeight, Up up)
+{
+    resizeSemiView(up == Up::Yes ? keyboardHeight + sheetHeight : sheetHeight);
+}
+
+void CorvelListViewController::hideModalView()
+{
+    dismissSemiModalView();
+    if (RESTHandler::sharedInstance().corvelList().size() == 1) {
+        m_tableView.setHidden(false);
+    }
+    m_tableView.reloadData();
+}
+
+void CorvelListViewController::keyboardWillShow(double keyboardHeight)
+{
+    if (isInWindow()) {
+        resizeModal(keyboardHeight, Up::Yes);
+    }
+}
+
+void CorvelListViewController::keyboardWillHide()
+{
+    if (isInWindow()) {
+        resizeModal(0, Up::No);
+    }
+}
+
+void CorvelListViewController::statusWillShow()
+{
+    resizeSemiView(sheetHeightWithStatus);
+}
+
+void CorvelListViewController::statusShouldHide()
+{
+    resizeSemiView(sheetHeightAfterStatus);
+}
+
+} // namespace lodestar

@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+import Lodestar.Views
+
+/// The console editor's form, below the bar of its sheet: four fields and, when the sheet makes room for it, the line
+/// that says how saving goes.
+SheetContent {
+    id: scene
+
+    required property ViewController controller
+
+    readonly property DeltaCorvelViewController editor: controller as DeltaCorvelViewController
+
+    title: editor.navigationBar.text
+    saveEnabled: !editor.busy
+    firstField: nameField
+    onSaved: editor.saveCorvel()
+    onCancelled: editor.cancel()
+
+    Connections {
+        target: scene.controller
+        function onEndEditingRequested() {
+            scene.forceActiveFocus(Qt.OtherFocusReason);
+            Qt.inputMethod.hide();
+        }
+    }
+
+    /// A press beside the fields ends editing.
+    MouseArea {
+        anchors.fill: parent
+        onClicked: scene.editor.hideKeyboardOnTouch()
+    }
+
+    Flickable {
+        id: form
+
+        anchors.fill: parent
+        contentHeight: fields.height
+        interactive: contentHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+
+        Column {
+            id: fields
+
+            width: form.width
+
+            EditorField {
+                id: nameField
+
+                label: qsTr("Name")
+                outlet: scene.editor.nameField
+                ruled: false
+            }
+            EditorField {
+                label: qsTr("Address")
+                outlet: scene.editor.addressField
+                inputMethodHints: Qt.ImhUrlCharactersOnly | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
+            }
+            EditorField {
+                label: qsTr("User ID")
+                outlet: scene.editor.usernameField
+            }
+            EditorField {
+                label: qsTr("Password")
+                outlet: scene.editor.passwordField
+                secure: true
+            }
+            StatusLine {
+                outlet: scene.editor.statusLabel
+                busy: scene.editor.busy
+                width: parent.width
+
+                Rule {}
+            }
+        }
+    }
+
+    component Rule: Hairline {
+        x: Theme.mirrored ? scene.editor.separatorRight : scene.editor.separatorLeft
+        width: parent.width - scene.editor.separatorLeft - scene.editor.separatorRight
+    }
+    component EditorField: FormField {
+        id: field
+
+        property bool ruled: true
+
+        // Pale while saving only: beside an error the text has to be read, though it cannot be changed for a moment yet.
+        opacity: scene.editor.busy ? 0.5 : 1
+        onReturnPressed: scene.editor.textFieldShouldReturn(outlet)
+
+        Rule {
+            visible: field.ruled
+        }
+    }
+}

@@ -1,0 +1,231 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/Corvels/DeltaCorvelViewController.h"
+
+#include "Controllers/REST/RESTHandler.h"
+#include "Feedback/VireoLogger.h"
+#include "Kit/Core/UIColor+Tessel.h"
+#include "Platform/NotificationCenter.h"
+#include "Platform/Queues/MainQueue.h"
+#include "Views/Common/Registry.h"
+#include "Views/Corvels/CorvelListViewController.h"
+
+#include <algorithm>
+#include <chrono>
+
+namespace lodestar
+{
+namespace
+{
+
+constexpr auto fileName = "Shared/Views/Corvels/DeltaCorvelViewController";
+constexpr std::chrono::seconds statusTime{2};
+
+QString text(const std::optional<std::string>& value)
+{
+    return value ? QString::fromStdString(*value) : QString();
+}
+
+} // namespace
+
+DeltaCorvelViewController::DeltaCorvelViewController()
+{
+    setTitle(tr("Add Corvel"));
+}
+
+void DeltaCorvelViewController::viewDidLoad()
+{
+    LODESTAR_LOG(fileName, "-[DeltaCorvelViewController viewDidLoad]", "DeltaCorvelViewController instantiation");
+    if (m_corvel) {
+        setTitle(tr("Edit Corvel"));
+        m_nameField.setText(text(m_corvel->name()));
+        m_addressField.setText(text(m_corvel->address()));
+        m_usernameField.setText(text(m_corvel->username()));
+        m_passwordField.setText(text(m_corvel->password()));
+    } else {
+        m_hasCreated = false;
+        m_creatingInstance = true;
+    }
+    m_navigationBar.setText(title());
+}
+
+bool DeltaCorvelViewController::textFieldShouldReturn(FieldOutlet* textField)
+{
+    textField->resignFirstResponder();
+    return true;
+}
+
+bool DeltaCorvelViewController::fieldsValidate() const
+{
+    return !m_nameField.text().isEmpty() && !m_addressField.text().isEmpty() && !m_usernameField.text().isEmpty() &&
+           !m_passwordField.text().isEmpty();
+}
+
+void DeltaCorvelViewController::hideKeyboardOnTouch()
+{
+    endEditing();
+}
+
+void DeltaCorvelViewController::saveCorvel()
+{
+    // A second press while the first is under way would add the console twice.
+    if (isBusy() || m_closed) {
+        return;
+    }
+    endEditing();
+    setFieldsEnabled(false);
+    showStatusWithMessage(tr("verifying..."));
+    if (!fieldsValidate()) {
+        showStatusWithError(tr("Please enter all fields"));
+        return;
+    }
+    insertRecordIfNeeded();
+    copyFieldsToRecord();
+    if (isAddressRegistered()) {
+        showStatusWithError(tr("Corvel has already been added"));
+        return;
+    }
+    logOnAndFetch();
+}
+
+void DeltaCorvelViewController::insertRecordIfNeeded()
+{
+    // A second attempt after a failure goes on with the record of the first.
+    if (!m_hasCreated && m_creatingInstance) {
+        m_corvel = insertNewCorvel();
+        m_corvel->setDemo(false);
+        m_hasCreated = true;
+    }
+}
+
+void DeltaCorvelViewController::copyFieldsToRecord()
+{
+    m_corvel->setName(m_nameField.text().toStdString());
+    m_corvel->setAddress(m_addressField.text().toStdString());
+    m_corvel->setUsername(m_usernameField.text().toStdString());
+    m_corvel->setPassword(m_passwordField.text().toStdString());
+}
+
+bool DeltaCorvelViewController::isAddressRegistered() const
+{
+    // The record itself is not left out: one that is in the list always matches, so a registered console cannot be
+    // saved from here. That is meant.
+    const std::vector<CorvelRef>& corvels = RESTHandler::sharedInstance().corvelList();
+    return std::ranges::any_of(
+        corvels, [address = m_corvel->address()](const CorvelRef& other) { return other->address() == address; });
+}
+
+void DeltaCorvelViewController::logOnAndFetch()
+{
+    const auto screen = self<DeltaCorvelViewController>();
+    const CorvelRef corvel = m_corvel;
+    RESTHandler::sharedInstance()
+        .login(corvel, CheckToken::Yes)
+        .then([corvel](const SessionKey& key) {
+            corvel->isOnline = true;
+            return RESTHandler::sharedInstance().fetchAllDataForCorvel(corvel, key);
+        })
+        .then([corvel](const std::shared_ptr<const FeedDictionary>& feeds) {
+            corvel->setRestData(feeds);
+            return RESTHandler::sharedInstance().processInformationForCorvel(corvel);
+        })
+        .thenOnMain([screen, corvel](const std::string&) { screen->didFetch(corvel); },
+                    [screen](const Error& error) { screen->didFail(error); });
+}
+
+void DeltaCorvelViewController::didFetch(const CorvelRef& corvel)
+{
+    // Cancelled meanwhile: the record is gone and must not come back by the list.
+    if (!corvel->isInserted()) {
+        forgetSessionKeyOfUnregistered(*corvel);
+        return;
+    }
+    if (m_closed) {
+        return;
+    }
+    showStatusWithMessage(tr("gathering data..."));
+    corvel->setVersion(RESTHandler::versionString(feedOfType(*corvel, ObjectType::ManagementConsole)));
+    corvel->completedFetch = true;
+    RESTHandler::sharedInstance().addCorvel(corvel);
+    saveIgnoringErrors();
+    close();
+}
+
+void DeltaCorvelViewController::didFail(const Error& error)
+{
+    LODESTAR_LOG(fileName, "-[DeltaCorvelViewController saveCorvel:]", "Error: {} - > {}", description(error),
+                 "saveCorvel:");
+    showStatusWithError(QString::fromStdString(error.localizedDescription));
+}
+
+void DeltaCorvelViewController::cancel()
+{
+    if (m_hasCreated && m_creatingInstance && m_corvel) {
+        deleteCorvel(m_corvel);
+    }
+    close();
+}
+
+void DeltaCorvelViewController::close()
+{
+    m_closed = true;
+    // The list drops its sheet, and with it perhaps the last reference to this.
+    const auto screen = shared_from_this();
+    m_parentList.reset();
+    NotificationCenter::defaultCenter().postNotification("CloseDeltaCorvel");
+}
+
+void DeltaCorvelViewController::showStatusWithMessage(const QString& message)
+{
+    showStatus(message, StatusKind::Message);
+    if (!m_closed) {
+        NotificationCenter::defaultCenter().postNotification("StatusWillShow");
+    }
+}
+
+void DeltaCorvelViewController::showStatusWithError(const QString& message)
+{
+    showStatus(message, StatusKind::Failure);
+    hideStatusLater(Reenable::Yes);
+}
+
+void DeltaCorvelViewController::showWithSuccess(const QString& message)
+{
+    showStatus(message, StatusKind::Success);
+    hideStatusLater(Reenable::No);
+}
+
+void DeltaCorvelViewController::showStatus(const QString& text, StatusKind kind)
+{
+    ++m_statusSerial;
+    m_statusLabel.setText(text);
+    m_statusLabel.setColor(kind == StatusKind::Failure   ? UIColor::errorRed()
+                           : kind == StatusKind::Success ? UIColor::successGreen()
+                                                         : UIColor::darkGrayColor());
+    m_statusKind = kind;
+    Q_EMIT statusKindChanged();
+}
+
+void DeltaCorvelViewController::hideStatusLater(Reenable fields)
+{
+    // The text itself stays; only the line goes. A status shown meanwhile, or a closed sheet, is left alone.
+    const std::weak_ptr<ViewController> weak = weak_from_this();
+    MainQueue::shared().asyncAfter(statusTime, [this, weak, fields, serial = m_statusSerial] {
+        const auto screen = weak.lock();
+        if (!screen || m_closed || serial != m_statusSerial) {
+            return;
+        }
+        NotificationCenter::defaultCenter().postNotification("StatusShouldHide");
+        if (fields == Reenable::Yes) {
+            setFieldsEnabled(true);
+        }
+    });
+}
+
+void DeltaCorvelViewController::setFieldsEnabled(bool enabled)
+{
+    for (FieldOutlet* field : {&m_nameField, &m_addressField, &m_usernameField, &m_passwordField}) {
+        field->setEnabled(enabled);
+    }
+}
+
+} // namespace lodestar

@@ -1,0 +1,273 @@
+// SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Lodestar.Charts
+import Lodestar.Kit
+import Lodestar.Views
+
+/// The dashboard: three figures and two pies. Cards keep their places while their content is loading, so that nothing
+/// moves when it comes.
+PageScaffold {
+    id: scene
+
+    readonly property DashboardTableViewController dashboard: controller as DashboardTableViewController
+
+    readonly property int widthClass: Theme.widthClass(Window.width)
+    readonly property bool compact: widthClass === Theme.compactWidth
+    readonly property int measure: widthClass === Theme.wideWidth ? Theme.dashboardMeasure : Theme.measure
+    readonly property real pieDiameter: widthClass === Theme.wideWidth ? 360 : Math.min(240, 0.62 * Window.width)
+    readonly property real shortestSide: Math.min(Window.width, Window.height)
+
+    function reportSize() {
+        dashboard.setViewSize(width, shortestSide);
+    }
+    function scroll(by: real) {
+        page.contentY = Math.max(0, Math.min(page.contentHeight - page.height, page.contentY + by));
+    }
+
+    onWidthChanged: reportSize()
+    onShortestSideChanged: reportSize()
+
+    Keys.onPressed: event => {
+        switch (event.key) {
+        case Qt.Key_Down: scroll(44); break;
+        case Qt.Key_Up: scroll(-44); break;
+        case Qt.Key_PageDown: scroll(page.height - 44); break;
+        case Qt.Key_PageUp: scroll(44 - page.height); break;
+        case Qt.Key_Home: scroll(-page.contentHeight); break;
+        case Qt.Key_End: scroll(page.contentHeight); break;
+        default: return;
+        }
+        event.accepted = true;
+    }
+
+    bar: RootBar {
+        controller: scene.controller
+        measure: scene.measure
+    }
+    scrollView: page
+
+    /// Words above a card that come with its content. Their place is kept.
+    component Heading: Item {
+        id: heading
+
+        required property ViewOutlet outlet
+        required property string text
+        property real space: Theme.sectionGap
+
+        width: parent ? parent.width : 0
+        implicitHeight: space + words.height + 8
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
+        Accessible.ignored: outlet.hidden
+
+        Label {
+            id: words
+
+            text: heading.text
+            size: Theme.captionSize
+            color: Theme.ink2
+            visible: !heading.outlet.hidden
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.rowStart
+            width: parent.width - Theme.rowStart - Theme.rowEnd
+            y: heading.space
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+    }
+
+    component Figure: Item {
+        id: figure
+
+        required property LabelOutlet count
+        required property ViewOutlet status
+        required property string caption
+
+        implicitHeight: number.height + words.height
+        Accessible.role: Accessible.StaticText
+        Accessible.name: caption + ", " + count.text
+        Accessible.ignored: count.hidden
+
+        OutletLabel {
+            id: number
+
+            outlet: figure.count
+            size: Theme.figureSize
+            width: parent.width
+            height: lineHeight
+            horizontalAlignment: Text.AlignHCenter
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 17
+            Accessible.ignored: true
+        }
+        Label {
+            id: words
+
+            text: figure.caption
+            size: Theme.noteSize
+            color: Theme.ink2
+            visible: !figure.status.hidden
+            width: parent.width
+            y: number.height
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.WordWrap
+            Accessible.ignored: true
+        }
+    }
+
+    component ChartCard: Rectangle {
+        id: card
+
+        required property PieChartView chart
+        required property IndicatorOutlet indicator
+
+        implicitHeight: Theme.textScale > 1 ? Math.max(scene.dashboard.chartRowHeight, pie.implicitHeight)
+                                            : scene.dashboard.chartRowHeight
+        radius: Theme.cardRadius
+        color: Theme.card
+
+        PieChart {
+            id: pie
+
+            outlet: card.chart
+            visible: !card.chart.hidden
+            anchors.fill: parent
+            maximumDiameter: scene.pieDiameter
+            cardColor: Theme.card
+            textColor: Theme.ink2
+            fontFamily: Theme.family
+            textScale: Theme.textScale
+            reducedMotion: Theme.reducedMotion
+            mirrored: Theme.mirrored
+            focusColor: Theme.accentInk
+        }
+        Spinner {
+            outlet: card.indicator
+            anchors.centerIn: parent
+        }
+    }
+
+    ScrollPage {
+        id: page
+
+        measure: scene.measure
+        topSpace: 0
+        visible: scene.dashboard.noDataView.hidden
+
+        Heading {
+            outlet: scene.dashboard.corvelOverviewLabel
+            text: qsTr("Corvel Overview")
+            space: 4
+        }
+        Rectangle {
+            id: figures
+
+            readonly property real topPadding: scene.compact ? 16 : 24
+            readonly property bool stacked: Theme.stacked
+            readonly property real column: stacked ? width : width / 3
+
+            width: parent.width
+            implicitHeight: figureGrid.height + 2 * topPadding - 2
+            radius: Theme.cardRadius
+            color: Theme.card
+
+            Grid {
+                id: figureGrid
+
+                y: figures.topPadding
+                columns: figures.stacked ? 1 : 3
+                rowSpacing: 24
+                leftPadding: 6
+                columnSpacing: 12
+                layoutDirection: Theme.mirrored ? Qt.RightToLeft : Qt.LeftToRight
+
+                Figure {
+                    count: scene.dashboard.corvelOnlineCount
+                    status: scene.dashboard.corvelOnlineStatus
+                    caption: qsTr("Corvels Online")
+                    width: figures.column - 12
+                }
+                Figure {
+                    count: scene.dashboard.attentionLEDCount
+                    status: scene.dashboard.attentionLEDStatus
+                    caption: qsTr("Attention LEDs")
+                    width: figures.column - 12
+                }
+                Figure {
+                    count: scene.dashboard.totalEventsCount
+                    status: scene.dashboard.totalEventsStatus
+                    caption: qsTr("Serviceable Events")
+                    width: figures.column - 12
+                }
+            }
+            FigureRule {
+                place: 1
+            }
+            FigureRule {
+                place: 2
+            }
+
+            component FigureRule: Rectangle {
+                /// How many figures stand before it.
+                required property int place
+
+                readonly property real thickness: 1 / Screen.devicePixelRatio
+                readonly property real step: (figureGrid.height + figureGrid.rowSpacing) / 3
+
+                visible: !scene.dashboard.corvelOnlineCount.hidden
+                color: Theme.hairline
+                x: figures.stacked ? 10 : Math.round(place * figures.column)
+                y: figures.stacked ? Math.round(figureGrid.y + place * step - figureGrid.rowSpacing / 2)
+                                   : figureGrid.y + 4
+                width: figures.stacked ? figures.width - 25 : thickness
+                height: figures.stacked ? thickness : figureGrid.height - 8
+            }
+        }
+        Grid {
+            id: charts
+
+            readonly property bool paired: !scene.compact
+            readonly property real cell: paired ? (width - columnSpacing) / 2 : width
+
+            width: parent.width
+            columns: paired ? 2 : 1
+            columnSpacing: 12
+            layoutDirection: Theme.mirrored ? Qt.RightToLeft : Qt.LeftToRight
+
+            Column {
+                width: charts.cell
+
+                Heading {
+                    outlet: scene.dashboard.managedSystemLabel
+                    text: qsTr("Managed Systems")
+                }
+                ChartCard {
+                    chart: scene.dashboard.manSysPieChartView
+                    indicator: scene.dashboard.manSysLoadingIndicator
+                    width: parent.width
+                }
+            }
+            Column {
+                width: charts.cell
+
+                Heading {
+                    outlet: scene.dashboard.lparLabel
+                    text: qsTr("Logical Partitions")
+                }
+                ChartCard {
+                    chart: scene.dashboard.lparPieChartView
+                    indicator: scene.dashboard.lParLoadingIndicator
+                    width: parent.width
+                }
+            }
+        }
+    }
+    NoContent {
+        anchors.fill: parent
+        visible: !scene.dashboard.noDataView.hidden
+        picture: "no_data_consoles"
+        text: qsTr("No consoles yet.")
+    }
+}

@@ -1,0 +1,313 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/Dashboard/DashboardTableViewController.h"
+
+#include "Controllers/REST/RESTHandler.h"
+#include "Feedback/VireoLogger.h"
+#include "Kit/Core/UIColor+Tessel.h"
+#include "Platform/Queues/MainQueue.h"
+#include "Views/Dashboard/StateCounts.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <pthread.h>
+#include <sched.h>
+#include <thread>
+
+namespace lodestar
+{
+namespace
+{
+
+constexpr auto fileName = "Shared/Views/Dashboard/DashboardTableViewController";
+
+constexpr int managedSystemsRow = 2;
+constexpr int partitionsRow = 5;
+constexpr double tabletSide = 600;
+constexpr double tabletRatio = 2.2;
+constexpr double phoneRatio = 1.2;
+
+constexpr double animationTime = 1.5;
+
+/// What one draw finds.
+struct Totals {
+    std::int32_t online = 0;
+    std::int32_t attentionLEDs = 0;
+    std::int32_t events = 0;
+    StateCounts managedSystems;
+    StateCounts partitions;
+};
+
+/// A 32-bit sum that wraps instead of being undefined.
+void add(std::int32_t& sum, std::size_t value)
+{
+    sum = static_cast<std::int32_t>(static_cast<std::uint32_t>(sum) + static_cast<std::uint32_t>(value));
+}
+
+// The line number is part of the message: it names the missing feed in a log, whatever becomes of this file's lines.
+void logMissing(int line, std::string_view message)
+{
+    VireoLogger::log(2, 0, line, fileName, "-[DashboardTableViewController createDashboard]",
+                     callStackReturnAddresses(), "{}", message);
+}
+
+/// Counts the feed's entries by the text below content/`type`/`element`, as the console sends it. An entry that has no
+/// such element has no state and is left out.
+void countStates(StateCounts& counts, const Feed& feed, std::string_view type, std::string_view element)
+{
+    for (const XMLElement& entry : feed.entries()) {
+        if (auto state = entry.path({"content", type, element}).text()) {
+            counts.add(std::move(*state));
+        }
+    }
+}
+
+/// The three feeds of one console are judged apart: one that is missing takes nothing from the others.
+void addCorvel(Totals& totals, const Corvel& corvel)
+{
+    add(totals.online, corvel.isOnline ? 1 : 0);
+    add(totals.attentionLEDs, static_cast<std::size_t>(corvel.numMSLEDs.load()));
+    const Feed systems = feedOfType(corvel, ObjectType::ManagedSystem);
+    if (systems.isNA()) {
+        logMissing(131, "Managed Systems data isn't available for this Corvel, was it loaded?");
+    } else {
+        countStates(totals.managedSystems, systems, ObjectType::ManagedSystem, "State");
+    }
+    const Feed partitions = feedOfType(corvel, ObjectType::LogicalPartition);
+    if (partitions.isNA()) {
+        logMissing(147, "Logical partitions data isn't available for this Corvel, was it loaded?");
+    } else {
+        countStates(totals.partitions, partitions, ObjectType::LogicalPartition, "PartitionState");
+    }
+    const Feed events = feedOfType(corvel, ObjectType::ServiceableEvent);
+    if (events.isNA()) {
+        logMissing(154, "Serviceable data isn't available for this Corvel, was it loaded?");
+    } else {
+        add(totals.events, events.entryCount());
+    }
+}
+
+const QList<QColor>& managedSystemColors()
+{
+    static const QList<QColor> colors = {UIColor::dashboardBlue(), UIColor::dashboardRed(), UIColor::dashboardGreen(),
+                                         UIColor::dashboardGrey(), UIColor::dashboardYellow()};
+    return colors;
+}
+
+const QList<QColor>& partitionColors()
+{
+    static const QList<QColor> colors = {UIColor::dashboardYellow(), UIColor::dashboardGreen(),
+                                         UIColor::dashboardBlue(), UIColor::dashboardGrey(),
+                                         UIColor::dashboardOrange()};
+    return colors;
+}
+
+/// The plain count, were it ever fractional with one digit, and no sign after it.
+NumberFormatter valueFormatter()
+{
+    NumberFormatter formatter;
+    formatter.numberStyle = NumberFormatter::Style::Percent;
+    formatter.maximumFractionDigits = 1;
+    formatter.multiplier = 1.0;
+    formatter.percentSymbol.clear();
+    return formatter;
+}
+
+/// Colours go by position, not by state: a state has no colour of its own.
+PieChartData pieData(const StateCounts& counts, const QList<QColor>& colors, double valueFontSize)
+{
+    PieChartData data;
+    for (const auto& [state, count] : counts.entries()) {
+        data.dataSet.entries.append(BarChartEntry{static_cast<float>(count), static_cast<int>(data.xVals.size())});
+        data.xVals.append(QString::fromStdString(state));
+    }
+    data.dataSet.colors = colors;
+    data.setValueFormatter(valueFormatter());
+    data.setValueFont(chartFont(QStringLiteral("HelveticaNeue"), valueFontSize));
+    data.setValueTextColor(Qt::white);
+    return data;
+}
+
+/// Lets the calling thread run only when nothing else wants the processor.
+void takeIdlePriority()
+{
+    const sched_param parameters{};
+    pthread_setschedparam(pthread_self(), SCHED_IDLE, &parameters);
+}
+
+} // namespace
+
+DashboardTableViewController::DashboardTableViewController()
+{
+    setContentHidden(true);
+    m_noDataView.setHidden(true);
+}
+
+DashboardTableViewController::~DashboardTableViewController()
+{
+    // The threads are not joined: at idle priority they may take long to notice, and they touch nothing of this.
+    m_stopWaiting.request_stop();
+}
+
+void DashboardTableViewController::viewDidLoad()
+{
+    setTitle(tr("Dashboard"));
+}
+
+void DashboardTableViewController::viewDidAppear()
+{
+    UILoadingContent();
+    // One wait an appearance: shown twice while a wait runs, the dashboard is drawn twice.
+    std::thread([dashboard = weak_from_this(), stop = m_stopWaiting.get_token()] {
+        takeIdlePriority();
+        waitForRequestToEnd(dashboard, stop);
+    }).detach();
+}
+
+void DashboardTableViewController::waitForRequestToEnd(const std::weak_ptr<ViewController>& dashboard,
+                                                       const std::stop_token& stop)
+{
+    const RESTHandler& rest = RESTHandler::sharedInstance();
+    // Reads the flags as fast as it can, and is meant to: the numbers are there the moment that the last console is.
+    // Idle priority keeps it out of everybody's way. A console that is never done keeps it going.
+    std::size_t count = 0;
+    std::size_t done = 0;
+    do {
+        if (stop.stop_requested()) {
+            return;
+        }
+        done = static_cast<std::size_t>(std::ranges::count_if(
+            *rest.corvelListSnapshot(), [](const CorvelRef& corvel) { return corvel->completedFetch.load(); }));
+        // Asked anew: a console that was added while the flags were read is waited for as well.
+        count = rest.corvelListSnapshot()->size();
+    } while (done < count);
+
+    MainQueue::shared().async([dashboard, count] {
+        const auto screen = std::static_pointer_cast<DashboardTableViewController>(dashboard.lock());
+        if (!screen) {
+            return;
+        }
+        if (count == 0) {
+            screen->showNothing();
+        } else {
+            screen->createDashboard();
+        }
+    });
+}
+
+void DashboardTableViewController::createDashboard()
+{
+    Totals totals;
+    const std::vector<CorvelRef>& corvels = RESTHandler::sharedInstance().corvelList();
+    for (const CorvelRef& corvel : corvels) {
+        addCorvel(totals, *corvel);
+    }
+    m_corvelOnlineCount.setText(QStringLiteral("%1 / %2").arg(totals.online).arg(static_cast<int>(corvels.size())));
+    m_attentionLEDCount.setText(QString::number(totals.attentionLEDs));
+    m_totalEventsCount.setText(QString::number(totals.events));
+    applySettings(m_manSysPieChartView);
+    m_manSysPieChartView.setData(pieData(totals.managedSystems, managedSystemColors(), 12));
+    m_manSysPieChartView.highlightValues({});
+    applySettings(m_lparPieChartView);
+    m_lparPieChartView.setData(pieData(totals.partitions, partitionColors(), 10));
+    m_lparPieChartView.highlightValues({});
+    UIShowContent();
+}
+
+void DashboardTableViewController::applySettings(PieChartView& pie)
+{
+    pie.setDelegate(this);
+    pie.setUsePercentValues(true);
+    pie.setHoleTransparent(true);
+    pie.setHoleRadiusPercent(0.54);
+    pie.setTransparentCircleRadiusPercent(0.58);
+    pie.setDescriptionText(QString());
+    pie.setDrawHole(true);
+    pie.setRotationAngle(0);
+    pie.setRotationEnabled(true);
+    Legend legend = pie.legend();
+    legend.position = LegendPosition::AboveChartLeft;
+    legend.xEntrySpace = 0.8;
+    legend.yEntrySpace = 0.8;
+    legend.yOffset = 18;
+    pie.setLegend(legend);
+    pie.setDrawSliceText(false);
+    // The second word on percentages is the one that counts: slices show how many, not what share.
+    pie.setUsePercentValues(false);
+    pie.setRotationWithTwoFingers(true);
+}
+
+void DashboardTableViewController::UILoadingContent()
+{
+    setContentHidden(true);
+    m_noDataView.setHidden(true);
+    for (IndicatorOutlet* indicator : {&m_manSysLoadingIndicator, &m_lParLoadingIndicator}) {
+        indicator->setHidden(false);
+        indicator->startAnimating();
+    }
+}
+
+void DashboardTableViewController::UIShowContent()
+{
+    stopLoading();
+    setContentHidden(false);
+    for (PieChartView* pie : {&m_manSysPieChartView, &m_lparPieChartView}) {
+        pie->animate(animationTime, animationTime, ChartEasingOption::EaseOutBack);
+    }
+}
+
+void DashboardTableViewController::showNothing()
+{
+    stopLoading();
+    m_noDataView.setHidden(false);
+}
+
+void DashboardTableViewController::stopLoading()
+{
+    for (IndicatorOutlet* indicator : {&m_manSysLoadingIndicator, &m_lParLoadingIndicator}) {
+        indicator->stopAnimating();
+        indicator->setHidden(true);
+    }
+}
+
+void DashboardTableViewController::setContentHidden(bool hidden)
+{
+    const std::array<ViewOutlet*, 9> views = {&m_corvelOnlineCount,   &m_attentionLEDCount,  &m_totalEventsCount,
+                                              &m_corvelOnlineStatus,  &m_attentionLEDStatus, &m_totalEventsStatus,
+                                              &m_CorvelOverviewLabel, &m_managedSystemLabel, &m_lparLabel};
+    for (ViewOutlet* view : views) {
+        view->setHidden(hidden);
+    }
+    m_manSysPieChartView.setHidden(hidden);
+    m_lparPieChartView.setHidden(hidden);
+}
+
+void DashboardTableViewController::setViewSize(double width, double shortestSide)
+{
+    m_viewWidth = width;
+    m_tabletIdiom = shortestSide >= tabletSide;
+    Q_EMIT viewSizeChanged();
+}
+
+std::optional<double> DashboardTableViewController::heightForRowAtIndexPath(IndexPath indexPath) const
+{
+    // Counted without regard to the section.
+    if (indexPath.row != managedSystemsRow && indexPath.row != partitionsRow) {
+        return std::nullopt;
+    }
+    return chartRowHeight();
+}
+
+double DashboardTableViewController::chartRowHeight() const
+{
+    return m_viewWidth / (m_tabletIdiom ? tabletRatio : phoneRatio);
+}
+
+void DashboardTableViewController::chartValueSelected(ChartView& /*chartView*/, const ChartEntry& /*entry*/,
+                                                      int /*dataSetIndex*/, const Highlight& /*highlight*/)
+{
+}
+
+void DashboardTableViewController::chartValueNothingSelected(ChartView& /*chartView*/) {}
+
+} // namespace lodestar

@@ -1,0 +1,112 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Charts/PieChartView.h"
+#include "Kit/Core/Outlets.h"
+#include "Kit/Core/Table.h"
+#include "Kit/Core/ViewController.h"
+
+#include <memory>
+#include <optional>
+#include <stop_token>
+
+namespace lodestar
+{
+
+/// The dashboard: how many consoles are online, how many attention LEDs are lit, how many events there are, and two
+/// pies of states. It fetches nothing; each time it appears it waits until every console of the working list has been
+/// fetched and then draws what the records hold. Main thread, but for the wait.
+class DashboardTableViewController : public lodestar::ViewController, public ChartViewDelegate
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the storyboard")
+    Q_PROPERTY(lodestar::IndicatorOutlet* lParLoadingIndicator READ lParLoadingIndicator CONSTANT)
+    Q_PROPERTY(lodestar::IndicatorOutlet* manSysLoadingIndicator READ manSysLoadingIndicator CONSTANT)
+    Q_PROPERTY(lodestar::LabelOutlet* corvelOnlineCount READ corvelOnlineCount CONSTANT)
+    Q_PROPERTY(lodestar::LabelOutlet* attentionLEDCount READ attentionLEDCount CONSTANT)
+    Q_PROPERTY(lodestar::LabelOutlet* totalEventsCount READ totalEventsCount CONSTANT)
+    Q_PROPERTY(lodestar::ViewOutlet* corvelOnlineStatus READ corvelOnlineStatus CONSTANT)
+    Q_PROPERTY(lodestar::ViewOutlet* attentionLEDStatus READ attentionLEDStatus CONSTANT)
+    Q_PROPERTY(lodestar::ViewOutlet* totalEventsStatus READ totalEventsStatus CONSTANT)
+    Q_PROPERTY(lodestar::ViewOutlet* corvelOverviewLabel READ CorvelOverviewLabel CONSTANT)
+    Q_PROPERTY(lodestar::ViewOutlet* managedSystemLabel READ managedSystemLabel CONSTANT)
+    Q_PROPERTY(lodestar::ViewOutlet* lparLabel READ lparLabel CONSTANT)
+    Q_PROPERTY(lodestar::ViewOutlet* noDataView READ noDataView CONSTANT)
+    Q_PROPERTY(lodestar::PieChartView* manSysPieChartView READ manSysPieChartView CONSTANT)
+    Q_PROPERTY(lodestar::PieChartView* lparPieChartView READ lparPieChartView CONSTANT)
+    Q_PROPERTY(double chartRowHeight READ chartRowHeight NOTIFY viewSizeChanged)
+
+public:
+    DashboardTableViewController();
+    /// Ends the waits that are still running.
+    ~DashboardTableViewController() override;
+
+    IndicatorOutlet* lParLoadingIndicator() { return &m_lParLoadingIndicator; }
+    IndicatorOutlet* manSysLoadingIndicator() { return &m_manSysLoadingIndicator; }
+    LabelOutlet* corvelOnlineCount() { return &m_corvelOnlineCount; }
+    LabelOutlet* attentionLEDCount() { return &m_attentionLEDCount; }
+    LabelOutlet* totalEventsCount() { return &m_totalEventsCount; }
+    ViewOutlet* corvelOnlineStatus() { return &m_corvelOnlineStatus; }
+    ViewOutlet* attentionLEDStatus() { return &m_attentionLEDStatus; }
+    ViewOutlet* totalEventsStatus() { return &m_totalEventsStatus; }
+    ViewOutlet* CorvelOverviewLabel() { return &m_CorvelOverviewLabel; }
+    ViewOutlet* managedSystemLabel() { return &m_managedSystemLabel; }
+    ViewOutlet* lparLabel() { return &m_lparLabel; }
+    /// Shown when there is nothing to sum up.
+    ViewOutlet* noDataView() { return &m_noDataView; }
+    PieChartView* manSysPieChartView() { return &m_manSysPieChartView; }
+    PieChartView* lparPieChartView() { return &m_lparPieChartView; }
+
+    /// Returns once every console of the working list has been fetched, `createDashboard` scheduled on the main thread,
+    /// or once it is told to stop. Background thread; it holds no reference to the dashboard while it waits.
+    static void waitForRequestToEnd(const std::weak_ptr<ViewController>& dashboard, const std::stop_token& stop);
+    void createDashboard();
+    void UILoadingContent();
+    void UIShowContent();
+
+    /// The size of the controller's view, and the shorter side of the screen, which tells a tablet. Points.
+    Q_INVOKABLE void setViewSize(double width, double shortestSide);
+    /// None for a row whose height is the scene's own.
+    std::optional<double> heightForRowAtIndexPath(IndexPath indexPath) const;
+    double chartRowHeight() const;
+
+    /// Both do nothing: a slice that is tapped stands out, and that is all.
+    void chartValueSelected(ChartView& chartView, const ChartEntry& entry, int dataSetIndex,
+                            const Highlight& highlight) override;
+    void chartValueNothingSelected(ChartView& chartView) override;
+
+Q_SIGNALS:
+    void viewSizeChanged();
+
+protected:
+    void viewDidLoad() override;
+    void viewDidAppear() override;
+
+private:
+    void showNothing();
+    void stopLoading();
+    void applySettings(PieChartView& pie);
+    void setContentHidden(bool hidden);
+
+    std::stop_source m_stopWaiting;
+    double m_viewWidth = 0;
+    bool m_tabletIdiom = false;
+
+    IndicatorOutlet m_lParLoadingIndicator;
+    IndicatorOutlet m_manSysLoadingIndicator;
+    LabelOutlet m_corvelOnlineCount;
+    LabelOutlet m_attentionLEDCount;
+    LabelOutlet m_totalEventsCount;
+    ViewOutlet m_corvelOnlineStatus;
+    ViewOutlet m_attentionLEDStatus;
+    ViewOutlet m_totalEventsStatus;
+    ViewOutlet m_CorvelOverviewLabel;
+    ViewOutlet m_managedSystemLabel;
+    ViewOutlet m_lparLabel;
+    ViewOutlet m_noDataView;
+    PieChartView m_manSysPieChartView;
+    PieChartView m_lparPieChartView;
+};
+
+} // namespace lodestar

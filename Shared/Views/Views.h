@@ -1,0 +1,13 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+class QQmlEngine;
+
+namespace lodestar
+{
+
+/// Makes `import Lodestar.Views` work in the engine, and the modules that it stands on. Once an engine, before it loads
+/// anything.
+void installViews(QQmlEngine& engine);
+
+} // namespace lodestar
