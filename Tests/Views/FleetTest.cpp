@@ -1,0 +1,168 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Application/Model/StoreStack.h"
+#include "Controllers/REST/RESTHandler.h"
+#include "Platform/URLLoading/ServerTrust.h"
+#include "Platform/UserDefaults.h"
+#include "Simulator/SimulatorProcess.h"
+#include "Tests/Views/ViewsFixture.h"
+#include "Views/Corvels/CorvelListCell.h"
+#include "Views/Corvels/CorvelListViewController.h"
+#include "Views/Corvels/DeltaCorvelViewController.h"
+#include "Views/Dashboard/DashboardTableViewController.h"
+
+namespace lodestar::testing
+{
+namespace
+{
+
+using ::testing::ElementsAre;
+using ::testing::MatchesRegex;
+
+constexpr auto listFile = "Shared/Views/Corvels/CorvelListViewController";
+
+/// The screens against real consoles.
+class FleetTest : public ViewsTest
+{
+protected:
+    void SetUp() override
+    {
+        ViewsTest::SetUp();
+        UserDefaults::standard().setBool(true, "initialLoad");
+        UserDefaults::standard().setBool(true, "showedPreview");
+        ServerTrust::shared().forgetAll();
+    }
+    void TearDown() override
+    {
+        list.reset();
+        ViewsTest::TearDown();
+    }
+    void start(int consoles)
+    {
+        simulator::Settings settings;
+        settings.consoles = consoles;
+        fleet.start(settings);
+    }
+    CorvelRef addConsole(int console, const std::string& name)
+    {
+        const CorvelRef corvel = addCorvel(name, fleet.address(console));
+        corvel->setUsername(fleet.user());
+        corvel->setPassword(fleet.password());
+        return corvel;
+    }
+    void loadAndWait()
+    {
+        list = makeController<CorvelListViewController>();
+        list->loadViewIfNeeded();
+        ASSERT_TRUE(allFetched());
+    }
+    bool allFetched()
+    {
+        return runUntil(
+            [] {
+                const auto& corvels = RESTHandler::sharedInstance().corvelList();
+                return std::ranges::all_of(corvels,
+                                           [](const CorvelRef& corvel) { return corvel->completedFetch.load(); });
+            },
+            std::chrono::seconds(30));
+    }
+    CorvelListCell cell(int row) const
+    {
+        return list->cellForRowAtIndexPath(TableKind::Main, {0, row}).value<CorvelListCell>();
+    }
+
+    simulator::SimulatorProcess fleet;
+    std::shared_ptr<CorvelListViewController> list;
+};
+
+TEST_F(FleetTest, EachConsoleIsJudgedByItsLogonAndCountedByItsFeeds)
+{
+    start(3);
+    addConsole(0, "Good");
+    addConsole(1, "Refused");
+    addConsole(2, "No feeds");
+    fleet.setFault("refuseLogon:1");
+    fleet.setFault("refuseFeed:2");
+    loadAndWait();
+
+    const simulator::InventorySummary summary = fleet.summary(0);
+    EXPECT_EQ(cell(0).statusLabel().text, summary.systemErrors > 0 ? "Error" : "Good");
+    EXPECT_EQ(cell(0).attentionLabel().text, QString::number(summary.attentionLEDs));
+    EXPECT_EQ(cell(0).eventsLabel().text, QString::number(summary.events));
+    EXPECT_THAT(cell(0).versionLabel().text.toStdString(), MatchesRegex("V[0-9]+R.+"));
+    EXPECT_EQ(cell(1).statusLabel().text, "Offline");
+    EXPECT_EQ(cell(1).versionLabel().text, "(null)");
+    EXPECT_EQ(cell(2).statusLabel().text, "Good");
+    EXPECT_EQ(cell(2).versionLabel().text, "N/A");
+    EXPECT_EQ(cell(2).eventsLabel().text, "0");
+    const std::vector<std::string> log = messages(listFile);
+    EXPECT_EQ(std::ranges::count_if(log, [](const std::string& line) { return line.starts_with("Error: "); }), 1);
+    EXPECT_TRUE(std::ranges::any_of(log, [](const std::string& line) { return line.ends_with(" - > dataRefresh"); }));
+
+    const auto dashboard = makeController<DashboardTableViewController>();
+    dashboard->loadViewIfNeeded();
+    dashboard->beginAppearance();
+    ASSERT_TRUE(runUntil([&] { return !dashboard->corvelOnlineCount()->isHidden(); }));
+    EXPECT_EQ(dashboard->corvelOnlineCount()->text(), "2 / 3");
+    EXPECT_EQ(dashboard->totalEventsCount()->text(), QString::number(summary.events));
+
+    // The console comes back, and the one that was there goes: values stay, the state tells.
+    fleet.clearFaults();
+    fleet.stopConsole(0);
+    list->refreshControl()->pull();
+    ASSERT_TRUE(allFetched());
+    EXPECT_EQ(cell(0).statusLabel().text, "Offline");
+    EXPECT_EQ(cell(0).attentionLabel().text, QString::number(summary.attentionLEDs));
+    EXPECT_NE(cell(1).statusLabel().text, "Offline");
+}
+
+TEST_F(FleetTest, TheEditorAddsAConsoleOnceItHasEverything)
+{
+    start(1);
+    list = makeController<CorvelListViewController>();
+    list->loadViewIfNeeded();
+    EXPECT_TRUE(list->tableView()->isHidden());
+    list->addCorvel();
+    auto* editor = qobject_cast<DeltaCorvelViewController*>(list->semiModal()->controller());
+    ASSERT_NE(editor, nullptr);
+    std::vector<QString> statuses;
+    QObject::connect(editor->statusLabel(), &LabelOutlet::textChanged,
+                     [&] { statuses.push_back(editor->statusLabel()->text()); });
+    editor->nameField()->setText("Harbour A");
+    editor->addressField()->setText(QString::fromStdString(fleet.address(0)));
+    editor->usernameField()->setText(QString::fromStdString(fleet.user()));
+    editor->passwordField()->setText(QString::fromStdString(fleet.password()));
+    editor->saveCorvel();
+    ASSERT_TRUE(runUntil([&] { return list->semiModal() == nullptr; }, std::chrono::seconds(30)));
+
+    EXPECT_THAT(statuses, ElementsAre("verifying...", "gathering data..."));
+    EXPECT_THAT(takeNotifications(), ElementsAre("StatusWillShow", "StatusWillShow", "CloseDeltaCorvel"));
+    ASSERT_EQ(RESTHandler::sharedInstance().corvelList().size(), 1U);
+    EXPECT_FALSE(list->tableView()->isHidden());
+    EXPECT_EQ(list->tableView()->count(), 1);
+    EXPECT_FALSE(cell(0).selectionArrow().hidden);
+    EXPECT_TRUE(UserDefaults::standard().stringForKey(fleet.address(0)).has_value());
+    EXPECT_THAT(storedNames(), ElementsAre("Harbour A"));
+}
+
+TEST_F(FleetTest, CancellingWhileItGathersLeavesNoTrace)
+{
+    start(1);
+    fleet.setLatency(200);
+    const auto editor = makeController<DeltaCorvelViewController>();
+    editor->loadViewIfNeeded();
+    editor->nameField()->setText("Harbour A");
+    editor->addressField()->setText(QString::fromStdString(fleet.address(0)));
+    editor->usernameField()->setText(QString::fromStdString(fleet.user()));
+    editor->passwordField()->setText(QString::fromStdString(fleet.password()));
+    editor->saveCorvel();
+    const CorvelRef record = editor->corvel();
+    ASSERT_TRUE(runUntil([&] { return record->isOnline.load(); }, std::chrono::seconds(30)));
+    editor->cancel();
+    ASSERT_TRUE(
+        runUntil([&] { return !UserDefaults::standard().stringForKey(fleet.address(0)); }, std::chrono::seconds(30)));
+    EXPECT_TRUE(RESTHandler::sharedInstance().corvelList().empty());
+    EXPECT_TRUE(storedNames().empty());
+}
+
+} // namespace
+} // namespace lodestar::testing

@@ -1,0 +1,173 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Tests/Views/ViewsFixture.h"
+
+#include "Application/Model/StoreStack.h"
+#include "Controllers/REST/RESTHandler.h"
+#include "Feedback/VireoLogger.h"
+#include "Kit/Core/Storyboard.h"
+#include "Platform/Queues/MainQueue.h"
+#include "Platform/Resources.h"
+#include "Platform/UserDefaults.h"
+#include "Views/Corvels/DeltaCorvelViewController.h"
+
+#include <QGuiApplication>
+
+#include <algorithm>
+#include <filesystem>
+
+namespace lodestar::testing
+{
+namespace
+{
+
+class DemoResources : public Resources
+{
+public:
+    std::optional<std::string> contents(const std::string& name, const std::string& extension) const override
+    {
+        const auto feed = demoFeeds().find(name);
+        return extension == "xml" && feed != demoFeeds().end() ? std::optional(feed->second) : std::nullopt;
+    }
+};
+
+constexpr auto console =
+    "<feed><entry><content><ManagementConsole><VersionInfo><Version>3</Version><Release>2</Release>"
+    "<Maintenance>4</Maintenance><Minor>0</Minor><ServicePackName>SP1</ServicePackName></VersionInfo>"
+    "</ManagementConsole></content></entry></feed>";
+constexpr auto systems =
+    "<feed><entry><content><ManagedSystem><State>operating</State>"
+    "<PhysicalSystemAttentionLEDState>true</PhysicalSystemAttentionLEDState></ManagedSystem></content></entry></feed>";
+
+} // namespace
+
+std::map<std::string, std::string>& demoFeeds()
+{
+    static std::map<std::string, std::string> feeds;
+    return feeds;
+}
+
+void ViewsTest::SetUp()
+{
+    demoFeeds() = {{"ManagementConsole", console},
+                   {"ManagedSystem", systems},
+                   {"VirtualIOServer", "<feed/>"},
+                   {"LogicalPartition", "<feed/>"},
+                   {"ServiceableEvent", "<feed><entry/><entry/></feed>"},
+                   {"Group", "<feed/>"}};
+    Resources::install(std::make_unique<DemoResources>());
+    std::string folder = std::filesystem::temp_directory_path() / "lodestar-views-XXXXXX";
+    m_folder = mkdtemp(folder.data());
+    StoreStack::shared().setApplicationDocumentsDirectory(m_folder);
+    for (const std::string& key : UserDefaults::standard().allKeys()) {
+        UserDefaults::standard().removeObjectForKey(key);
+    }
+    RESTHandler::sharedInstance().setCorvelList({});
+    Storyboard::main() = Storyboard();
+    Storyboard::main().registerScene(
+        "deltaCorvel", [] { return makeController<DeltaCorvelViewController>(); }, QUrl());
+    m_listener = VireoLogger::addListener([this](const VireoLogger::Entry& entry) {
+        const std::lock_guard lock(m_mutex);
+        m_lines.push_back({entry.level, entry.tag, entry.line, std::string(entry.fileName), std::string(entry.method),
+                           std::string(entry.message)});
+    });
+    for (const char* name : {"CloseDeltaCorvel", "StatusWillShow", "StatusShouldHide"}) {
+        m_observations.push_back(NotificationCenter::defaultCenter().addObserver(
+            name, [this, name] { m_notifications.emplace_back(name); }));
+    }
+}
+
+void ViewsTest::TearDown()
+{
+    drain();
+    m_observations.clear();
+    m_listener.reset();
+    RESTHandler::sharedInstance().setCorvelList({});
+    StoreStack::shared().close();
+    std::filesystem::remove_all(m_folder);
+}
+
+bool ViewsTest::runUntil(const std::function<bool()>& predicate, std::chrono::milliseconds limit)
+{
+    return MainQueue::shared().runUntil(predicate, limit);
+}
+
+void ViewsTest::drain()
+{
+    while (MainQueue::shared().drain()) {
+    }
+}
+
+CorvelRef ViewsTest::addCorvel(const std::string& name, const std::string& address, bool demo)
+{
+    const auto corvel = std::static_pointer_cast<Corvel>(
+        StoreStack::shared().managedObjectContext().insertNewObject(Corvel::entityName));
+    corvel->setName(name);
+    corvel->setAddress(address);
+    corvel->setUsername("oversight");
+    corvel->setPassword("secret");
+    corvel->setDemo(demo);
+    RESTHandler::sharedInstance().addCorvel(corvel);
+    return corvel;
+}
+
+std::vector<std::string> ViewsTest::storedNames()
+{
+    StoreStack::shared().close();
+    std::vector<std::string> names;
+    const auto fetched = StoreStack::shared().managedObjectContext().fetchAll(Corvel::entityName);
+    if (fetched) {
+        for (const auto& object : fetched.value()) {
+            names.push_back(std::static_pointer_cast<Corvel>(object)->name().value_or("(null)"));
+        }
+    }
+    return names;
+}
+
+XMLElement ViewsTest::parse(const std::string& xml)
+{
+    return XMLElement::parse(xml).value();
+}
+
+std::shared_ptr<const FeedDictionary> ViewsTest::feeds(const std::map<std::string, Feed>& byType)
+{
+    auto dictionary = std::make_shared<FeedDictionary>();
+    for (const auto& [type, feed] : byType) {
+        dictionary->setFeed(type, feed);
+    }
+    return dictionary;
+}
+
+std::vector<LoggedLine> ViewsTest::lines(const std::string& fileName)
+{
+    const std::lock_guard lock(m_mutex);
+    std::vector<LoggedLine> found;
+    std::ranges::copy_if(m_lines, std::back_inserter(found),
+                         [&fileName](const LoggedLine& line) { return line.fileName == fileName; });
+    return found;
+}
+
+std::vector<std::string> ViewsTest::messages(const std::string& fileName)
+{
+    std::vector<std::string> found;
+    for (const LoggedLine& line : lines(fileName)) {
+        found.push_back(line.message);
+    }
+    return found;
+}
+
+std::vector<std::string> ViewsTest::takeNotifications()
+{
+    return std::exchange(m_notifications, {});
+}
+
+} // namespace lodestar::testing
+
+int main(int argc, char** argv)
+{
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    }
+    const QGuiApplication application(argc, argv);
+    ::testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}

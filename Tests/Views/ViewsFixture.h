@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Application/Model/Corvel.h"
+#include "Controllers/REST/Feed.h"
+#include "Kit/Core/NavigationController.h"
+#include "Platform/NotificationCenter.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <functional>
+#include <map>
+#include <memory>
+#include <mutex>
+#include <string>
+#include <vector>
+
+namespace lodestar::testing
+{
+
+/// One logged line, kept.
+struct LoggedLine {
+    int level;
+    int tag;
+    int line;
+    std::string fileName;
+    std::string method;
+    std::string message;
+};
+
+/// Feeds of the demonstration console by object type, changeable from test to test.
+std::map<std::string, std::string>& demoFeeds();
+
+/// The screens' surroundings, fresh for each test: an empty store in a folder of its own, empty defaults, an empty
+/// working list, the storyboard with the editor only, and every logged line and some notifications kept.
+class ViewsTest : public ::testing::Test
+{
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    static bool runUntil(const std::function<bool()>& predicate,
+                         std::chrono::milliseconds limit = std::chrono::seconds(10));
+    /// Runs what is queued on the main thread, and what that queues.
+    static void drain();
+
+    /// A record in the store's context and the working list.
+    static CorvelRef addCorvel(const std::string& name, const std::string& address, bool demo = false);
+    /// Names of the records that the store's file holds.
+    std::vector<std::string> storedNames();
+    static XMLElement parse(const std::string& xml);
+    static std::shared_ptr<const FeedDictionary> feeds(const std::map<std::string, Feed>& byType);
+
+    std::vector<LoggedLine> lines(const std::string& fileName);
+    std::vector<std::string> messages(const std::string& fileName);
+    std::vector<std::string> takeNotifications();
+
+private:
+    std::string m_folder;
+    std::mutex m_mutex;
+    std::vector<LoggedLine> m_lines;
+    std::vector<std::string> m_notifications;
+    std::shared_ptr<void> m_listener;
+    std::vector<NotificationCenter::Observation> m_observations;
+};
+
+} // namespace lodestar::testing
