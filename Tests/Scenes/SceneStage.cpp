@@ -1,0 +1,302 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Tests/Scenes/SceneStage.h"
+
+#include "Application/Model/StoreStack.h"
+#include "Controllers/REST/RESTHandler.h"
+#include "Kit/Core/MainLoop.h"
+#include "Kit/Core/NavigationController.h"
+#include "Kit/Core/Storyboard.h"
+#include "Kit/Core/UIColor+Tessel.h"
+#include "Platform/UserDefaults.h"
+#include "Views/Views.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QQmlComponent>
+#include <QTimer>
+
+#include <stdexcept>
+
+namespace lodestar::scenes
+{
+namespace
+{
+
+constexpr int waitLimit = 5000;
+
+std::string feedOf(const std::string& type, const std::string& element,
+                   const std::vector<std::pair<std::string, int>>& states)
+{
+    std::string xml = "<feed>";
+    for (const auto& [state, count] : states) {
+        for (int i = 0; i < count; ++i) {
+            xml += "<entry><content><" + type + "><" + element + ">" + state + "</" + element + "></" + type +
+                   "></content></entry>";
+        }
+    }
+    return xml + "</feed>";
+}
+
+Feed parse(const std::string& xml)
+{
+    return Feed(XMLElement::parse(xml).value());
+}
+
+CorvelRef makeRecord(const ConsoleLook& look)
+{
+    const auto corvel = std::static_pointer_cast<Corvel>(
+        StoreStack::shared().managedObjectContext().insertNewObject(Corvel::entityName));
+    corvel->setName(look.name);
+    corvel->setAddress(look.address);
+    corvel->setUsername("oversight");
+    corvel->setPassword("twelve-chars");
+    if (!look.version.empty()) {
+        corvel->setVersion(look.version);
+    }
+    corvel->completedFetch = look.state != ConsoleLook::State::Fetching;
+    corvel->isOnline = look.state == ConsoleLook::State::Online;
+    corvel->numMSErrors = look.systemErrors;
+    corvel->numMSLEDs = look.attentionLEDs;
+    auto feeds = std::make_shared<FeedDictionary>();
+    feeds->setFeed(ObjectType::ManagedSystem, parse(feedOf("ManagedSystem", "State", look.systems)));
+    feeds->setFeed(ObjectType::LogicalPartition, parse(feedOf("LogicalPartition", "PartitionState", look.partitions)));
+    feeds->setFeed(ObjectType::ServiceableEvent, parse(feedOf("ServiceableEvent", "Id", {{"1", look.events}})));
+    corvel->setRestData(feeds);
+    return corvel;
+}
+
+void setRecords(const std::vector<ConsoleLook>& consoles)
+{
+    std::vector<CorvelRef> records;
+    for (const ConsoleLook& look : consoles) {
+        records.push_back(makeRecord(look));
+    }
+    RESTHandler::sharedInstance().setCorvelList(std::move(records));
+}
+
+template <typename Controller>
+std::shared_ptr<Controller> makeScene(const char* file)
+{
+    auto controller = makeController<Controller>();
+    controller->setScene(QUrl(QStringLiteral("qrc:/Lodestar/Views/") + QLatin1String(file)));
+    return controller;
+}
+
+void collect(QQuickItem* from, const std::function<bool(QQuickItem*)>& wanted, std::vector<QQuickItem*>& found)
+{
+    if (!from->isVisible()) {
+        return;
+    }
+    if (wanted(from)) {
+        found.push_back(from);
+    }
+    for (QQuickItem* child : from->childItems()) {
+        collect(child, wanted, found);
+    }
+}
+
+bool hasType(const QObject* object, const QByteArray& name)
+{
+    for (const QMetaObject* type = object->metaObject(); type != nullptr; type = type->superClass()) {
+        const QByteArray typeName = type->className();
+        if (typeName == name || typeName.startsWith(name + "_QML")) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+std::vector<ConsoleLook> fleet()
+{
+    using State = ConsoleLook::State;
+    return {
+        {.name = "Harbour A",
+         .address = "corvel-a.harbour.example",
+         .version = "V3R2.4.0.SP1",
+         .attentionLEDs = 0,
+         .events = 3,
+         .systems = {{"operating", 17}, {"incomplete", 2}},
+         .partitions = {{"not activated", 21}, {"running", 60}}},
+        {.name = "Harbour B",
+         .address = "corvel-b.harbour.example",
+         .version = "V3R2.4.0.SP1",
+         .systemErrors = 2,
+         .attentionLEDs = 2,
+         .events = 14,
+         .systems = {{"standby", 3}, {"power off", 4}, {"error", 1}},
+         .partitions = {{"running", 36}, {"starting", 5}, {"shutting down", 3}, {"error", 4}}},
+        {.name = "Ridgeway Laboratory", .address = "10.24.8.11", .version = "V3R2.3.2.SP4", .state = State::Fetching},
+        {.name = "Northfield Recovery Site",
+         .address = "corvel-1.northfield.example",
+         .version = "V3R1.9.0.SP2",
+         .state = State::Offline},
+        {.name = "Uplands Colocation",
+         .address = "corvel-2.uplands.example",
+         .version = "V3R2.4.0.SP1",
+         .attentionLEDs = 1},
+        {.name = "Demo Corvel", .address = "127.0.0.1", .version = "V3R2.4.0.SP1", .attentionLEDs = 1, .events = 4},
+    };
+}
+
+std::vector<ConsoleLook> longNames()
+{
+    using State = ConsoleLook::State;
+    const std::string name = "Recovery site of the northern harbour district, second hall, racks 12 to 48";
+    const std::string address = "management-console-0017.recovery-north.infrastructure.customers.example.org";
+    return {
+        {.name = name, .address = address, .version = "V10R2.1070.0.SP1045", .attentionLEDs = 128, .events = 12840},
+        {.name = name,
+         .address = address,
+         .version = "V10R2.1070.0.SP1045",
+         .systemErrors = 7,
+         .attentionLEDs = 99999,
+         .events = 99999},
+        {.name = name, .address = address, .state = State::Offline},
+        {.name = name, .address = address, .version = "V(null)R(null).(null).(null).(null)"},
+        {.name = "A", .address = "::1", .state = State::Fetching},
+    };
+}
+
+SceneStage::SceneStage()
+{
+    static const bool installed = [] {
+        installMainLoop();
+        return true;
+    }();
+    Q_UNUSED(installed)
+    StoreStack::shared().setApplicationDocumentsDirectory(m_folder.path().toStdString());
+    UserDefaults::standard().setBool(true, "initialLoad");
+    UserDefaults::standard().setBool(true, "showedPreview");
+    TabBarAppearance::appearance().selectedImageTintColor = UIColor::selectedBlue();
+    Storyboard::main() = Storyboard();
+    Storyboard::main().registerScene(
+        "deltaCorvel", [] { return makeScene<DeltaCorvelViewController>("DeltaCorvelScene.qml"); },
+        QUrl(QStringLiteral("qrc:/Lodestar/Views/DeltaCorvelScene.qml")));
+    installViews(m_engine);
+    QObject::connect(&m_engine, &QQmlEngine::warnings, [this](const QList<QQmlError>& warnings) {
+        for (const QQmlError& warning : warnings) {
+            m_warnings << warning.toString();
+        }
+    });
+}
+
+SceneStage::~SceneStage()
+{
+    closeWindow();
+    RESTHandler::sharedInstance().setCorvelList({});
+    StoreStack::shared().close();
+}
+
+void SceneStage::closeWindow()
+{
+    m_window.reset();
+    m_tabs.reset();
+    m_list.reset();
+    m_dashboard.reset();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+}
+
+void SceneStage::show(QSize size, const std::vector<ConsoleLook>& consoles)
+{
+    closeWindow();
+    RESTHandler::sharedInstance().setCorvelList({});
+    m_list = makeScene<CorvelListViewController>("CorvelListScene.qml");
+    m_dashboard = makeScene<DashboardTableViewController>("DashboardScene.qml");
+    m_tabs = makeController<TabBarController>(
+        std::vector<TabBarItem>{{"Corvels", "tab_consoles", makeController<NavigationController>(m_list)},
+                                {"Dashboard", "tab_dashboard", makeController<NavigationController>(m_dashboard)}});
+    // Loaded while there is nothing to fetch.
+    m_tabs->loadViewIfNeeded();
+    m_list->loadViewIfNeeded();
+    setRecords(consoles);
+    m_list->tableView()->setHidden(consoles.empty());
+    m_list->tableView()->reloadData();
+
+    QQmlComponent component(&m_engine);
+    component.setData("import QtQuick\nimport Lodestar.Kit\n"
+                      "Window { id: window; required property ViewController controller\n"
+                      "color: Theme.ground; LayoutMirroring.enabled: Theme.mirrored\n"
+                      "LayoutMirroring.childrenInherit: true\n"
+                      "SceneHost { anchors.fill: parent; focus: true; reportsAppearance: true\n"
+                      "controller: window.controller } }",
+                      QUrl(QStringLiteral("stage.qml")));
+    QObject* made = component.createWithInitialProperties(
+        {{QStringLiteral("controller"), QVariant::fromValue<QObject*>(m_tabs.get())}});
+    m_window.reset(qobject_cast<QQuickWindow*>(made));
+    if (!m_window) {
+        throw std::runtime_error(component.errorString().toStdString());
+    }
+    m_window->resize(size);
+    m_window->show();
+    m_window->requestActivate();
+    settle(60);
+}
+
+void SceneStage::showDashboard()
+{
+    m_tabs->setSelectedIndex(1);
+    settle(60);
+}
+
+DeltaCorvelViewController* SceneStage::openEditor()
+{
+    m_list->addCorvel();
+    return qobject_cast<DeltaCorvelViewController*>(m_list->semiModal()->controller());
+}
+
+bool SceneStage::waitFor(const std::function<bool()>& predicate) const
+{
+    QElapsedTimer timer;
+    timer.start();
+    while (!predicate()) {
+        if (timer.elapsed() > waitLimit) {
+            return false;
+        }
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    return true;
+}
+
+void SceneStage::settle(int milliseconds) const
+{
+    QEventLoop loop;
+    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+QImage SceneStage::grab() const
+{
+    return m_window->grabWindow();
+}
+
+std::vector<QQuickItem*> SceneStage::items(const QString& typeName) const
+{
+    std::vector<QQuickItem*> found;
+    collect(
+        m_window->contentItem(), [name = typeName.toLatin1()](QQuickItem* item) { return hasType(item, name); }, found);
+    return found;
+}
+
+QQuickItem* SceneStage::item(const QString& objectName) const
+{
+    std::vector<QQuickItem*> found;
+    collect(
+        m_window->contentItem(), [&objectName](QQuickItem* item) { return item->objectName() == objectName; }, found);
+    return found.empty() ? nullptr : found.front();
+}
+
+void SceneStage::swipe(int row) const
+{
+    for (QQuickItem* place : items(QStringLiteral("TableRow"))) {
+        if (place->property("index").toInt() == row) {
+            QMetaObject::invokeMethod(place->property("swipe").value<QQuickItem*>(), "toggle");
+        }
+    }
+}
+
+} // namespace lodestar::scenes

@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: Apache-2.0
+// lodestar-screenshots FOLDER [TEXT]: one picture a screen and look, without a display. With TEXT only those whose file
+// name contains it.
+#include "Kit/Core/Appearance.h"
+#include "Tests/Scenes/SceneStage.h"
+
+#include <QDir>
+#include <QGuiApplication>
+
+#include <cstdio>
+#include <optional>
+
+using namespace lodestar;
+using namespace lodestar::scenes;
+
+namespace
+{
+
+struct Look {
+    const char* name;
+    std::vector<ConsoleLook> consoles;
+    std::function<void(SceneStage&)> prepare;
+    /// Also drawn wide, dark, in large text and mirrored.
+    bool isMain = false;
+};
+
+struct Variant {
+    QSize size;
+    QString suffix;
+    bool dark = false;
+    double textScale = 1;
+    bool mirrored = false;
+};
+
+DeltaCorvelViewController& filledEditor(SceneStage& stage)
+{
+    DeltaCorvelViewController& editor = *stage.openEditor();
+    editor.nameField()->setText("Harbour C");
+    editor.addressField()->setText("corvel-c.harbour.example");
+    editor.usernameField()->setText("oversight");
+    editor.passwordField()->setText("twelve-chars");
+    return editor;
+}
+
+void showBusyEditor(SceneStage& stage, const char* message)
+{
+    DeltaCorvelViewController& editor = filledEditor(stage);
+    for (FieldOutlet* field :
+         {editor.nameField(), editor.addressField(), editor.usernameField(), editor.passwordField()}) {
+        field->setEnabled(false);
+    }
+    editor.showStatusWithMessage(QString::fromLatin1(message));
+}
+
+std::vector<ConsoleLook> allIn(ConsoleLook::State state)
+{
+    std::vector<ConsoleLook> consoles = fleet();
+    for (ConsoleLook& console : consoles) {
+        console.state = state;
+    }
+    return consoles;
+}
+
+std::vector<Look> consoleLooks()
+{
+    const auto nothing = [](SceneStage&) {};
+    std::vector<ConsoleLook> failing = allIn(ConsoleLook::State::Online);
+    for (ConsoleLook& console : failing) {
+        console.systemErrors = 1;
+    }
+    std::vector<ConsoleLook> fetching = allIn(ConsoleLook::State::Fetching);
+    fetching.back().version.clear();
+    return {
+        {"consoles-online", fleet(), nothing, true},
+        {"consoles-swiped", fleet(), [](SceneStage& stage) { stage.swipe(4); }, true},
+        {"consoles-fetching", fetching, nothing},
+        {"consoles-offline", allIn(ConsoleLook::State::Offline), nothing},
+        {"consoles-error", failing, nothing},
+        {"consoles-long-names", longNames(), nothing, true},
+        {"consoles-empty", {}, nothing, true},
+    };
+}
+
+std::vector<Look> editorLooks()
+{
+    std::vector<ConsoleLook> five = fleet();
+    five.pop_back();
+    const auto edit = [](SceneStage& stage) {
+        stage.list().swipeTableCell(0, 1);
+        qobject_cast<DeltaCorvelViewController*>(stage.list().semiModal()->controller())->saveCorvel();
+    };
+    return {
+        {"console-editor-empty", five, [](SceneStage& stage) { stage.openEditor(); }},
+        {"console-editor-filled", five, [](SceneStage& stage) { filledEditor(stage); }, true},
+        {"console-editor-verifying", five, [](SceneStage& stage) { showBusyEditor(stage, "verifying..."); }, true},
+        {"console-editor-gathering", five, [](SceneStage& stage) { showBusyEditor(stage, "gathering data..."); }},
+        {"console-editor-error-fields", five, [](SceneStage& stage) { stage.openEditor()->saveCorvel(); }},
+        {"console-editor-error-added", five, edit, true},
+        {"console-editor-error-logon", five,
+         [](SceneStage& stage) {
+             filledEditor(stage).showStatusWithError("The operation couldn't be completed: the console at "
+                                                     "corvel-c.harbour.example took too long to answer.");
+         },
+         true},
+    };
+}
+
+std::vector<Look> dashboardLooks()
+{
+    std::vector<ConsoleLook> fetched = fleet();
+    fetched[2].state = ConsoleLook::State::Offline;
+    std::vector<ConsoleLook> loading = fleet();
+    const auto open = [](SceneStage& stage) { stage.showDashboard(); };
+    const auto openAndWait = [](SceneStage& stage) {
+        stage.showDashboard();
+        stage.waitFor([&] { return !stage.dashboard().corvelOnlineCount()->isHidden(); });
+        stage.settle(1900);
+    };
+    return {
+        {"dashboard-loading", loading, open},
+        {"dashboard-growing", fetched, open},
+        {"dashboard-drawn", fetched, openAndWait, true},
+        {"dashboard-drawn-below", fetched,
+         [openAndWait](SceneStage& stage) {
+             openAndWait(stage);
+             for (QQuickItem* page : stage.items("ScrollPage")) {
+                 page->setProperty("contentY", qMax(0.0, page->property("contentHeight").toDouble() - page->height()));
+             }
+         }},
+        {"dashboard-empty", {}, open, true},
+    };
+}
+
+std::vector<Variant> variantsOf(const Look& look)
+{
+    std::vector<Variant> variants = {{{360, 640}, "360"}, {{390, 844}, "390"}, {{768, 1024}, "768"}};
+    if (look.isMain) {
+        variants.push_back({{1280, 800}, "1280"});
+        for (const QSize& size : {QSize(390, 844), QSize(768, 1024)}) {
+            const QString width = QString::number(size.width());
+            variants.push_back({size, width + "-dark", true});
+            variants.push_back({size, width + "-text200", false, 2});
+            variants.push_back({size, width + "-rtl", false, 1, true});
+        }
+        variants.push_back({{360, 640}, "360-text130", false, 1.3});
+    }
+    return variants;
+}
+
+void take(SceneStage& stage, const Look& look, const Variant& variant, const QString& file)
+{
+    Appearance& appearance = Appearance::shared();
+    appearance.overrideDark(variant.dark);
+    appearance.overrideTextScale(variant.textScale);
+    appearance.overrideMirrored(variant.mirrored);
+    stage.show(variant.size, look.consoles);
+    look.prepare(stage);
+    stage.settle();
+    if (!stage.grab().save(file)) {
+        std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_QUICK_BACKEND", "software");
+    qputenv("QT_SCALE_FACTOR", "2");
+    const QGuiApplication application(argc, argv);
+    const QStringList arguments = QGuiApplication::arguments();
+    if (arguments.size() < 2) {
+        std::fprintf(stderr, "lodestar-screenshots FOLDER [TEXT]\n");
+        return 2;
+    }
+    const QDir folder(arguments[1]);
+    folder.mkpath(QStringLiteral("."));
+    SceneStage stage;
+    for (const auto& looks : {consoleLooks(), editorLooks(), dashboardLooks()}) {
+        for (const Look& look : looks) {
+            for (const Variant& variant : variantsOf(look)) {
+                const QString name = QString::fromLatin1(look.name) + '-' + variant.suffix + ".png";
+                if (arguments.size() < 3 || name.contains(arguments[2])) {
+                    take(stage, look, variant, folder.filePath(name));
+                }
+            }
+        }
+    }
+    for (const QString& warning : stage.warnings()) {
+        std::fprintf(stderr, "%s\n", qPrintable(warning));
+    }
+    return stage.warnings().isEmpty() ? 0 : 1;
+}
