@@ -68,9 +68,7 @@ void CellHost::configure()
 
 void CellHost::make(const QVariant& cell)
 {
-    QQmlContext* context = m_delegate->creationContext();
-    QObject* made = m_delegate->createWithInitialProperties({{cellProperty, cell}},
-                                                            context != nullptr ? context : qmlContext(this));
+    QObject* made = m_delegate->createWithInitialProperties({{cellProperty, cell}}, m_delegate->creationContext());
     m_item = qobject_cast<QQuickItem*>(made);
     if (!m_item) {
         delete made;

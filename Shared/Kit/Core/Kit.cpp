@@ -2,6 +2,7 @@
 #include "Kit/Core/Kit.h"
 
 #include "Kit/Core/IconProvider.h"
+#include "Kit/Core/ShadowProvider.h"
 #include "Kit/Core/UIFont+System.h"
 
 #include <QQmlEngine>
@@ -19,6 +20,7 @@ void installKit(QQmlEngine& engine)
     UIFont::install();
     engine.addImportPath(QStringLiteral("qrc:/"));
     engine.addImageProvider(QStringLiteral("icon"), new IconProvider);
+    engine.addImageProvider(QStringLiteral("shadow"), new ShadowProvider);
 }
 
 } // namespace lodestar

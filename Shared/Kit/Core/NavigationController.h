@@ -11,7 +11,7 @@ namespace lodestar
 enum class Animated { No, Yes };
 
 /// A stack of screens, the last one shown. One StackView mirrors it, so that navigation needs no window.
-class NavigationController : public ViewController
+class NavigationController : public lodestar::ViewController
 {
     Q_OBJECT
     QML_ELEMENT

@@ -34,7 +34,7 @@ private:
 };
 
 /// A text.
-class LabelOutlet : public ViewOutlet
+class LabelOutlet : public lodestar::ViewOutlet
 {
     Q_OBJECT
     QML_ELEMENT
@@ -60,7 +60,7 @@ private:
 };
 
 /// An activity indicator, hidden while it stands still unless told otherwise.
-class IndicatorOutlet : public ViewOutlet
+class IndicatorOutlet : public lodestar::ViewOutlet
 {
     Q_OBJECT
     QML_ELEMENT
@@ -82,7 +82,7 @@ private:
 };
 
 /// A text field. QML writes the user's typing into `text`.
-class FieldOutlet : public ViewOutlet
+class FieldOutlet : public lodestar::ViewOutlet
 {
     Q_OBJECT
     QML_ELEMENT
@@ -110,7 +110,7 @@ private:
 };
 
 /// A picture by the name of its resource, without extension.
-class ImageOutlet : public ViewOutlet
+class ImageOutlet : public lodestar::ViewOutlet
 {
     Q_OBJECT
     QML_ELEMENT
@@ -130,7 +130,7 @@ private:
 };
 
 /// A switch. QML writes the user's flip into `on`.
-class SwitchOutlet : public ViewOutlet
+class SwitchOutlet : public lodestar::ViewOutlet
 {
     Q_OBJECT
     QML_ELEMENT

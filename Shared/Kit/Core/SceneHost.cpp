@@ -5,7 +5,6 @@
 #include "Kit/Core/TabBarController.h"
 
 #include <QQmlComponent>
-#include <QQmlContext>
 #include <QQmlEngine>
 
 #include <utility>
@@ -92,8 +91,10 @@ void SceneHost::load()
     m_controller->loadViewIfNeeded();
     QQmlComponent component(qmlEngine(this), sceneOf(*m_controller));
     const QVariant controller = QVariant::fromValue<QObject*>(m_controller.data());
-    QObject* made =
-        component.createWithInitialProperties({{QStringLiteral("controller"), controller}}, qmlContext(this));
+    // Creating from a broken file crashes in Qt 6.4.
+    QObject* made = component.isReady()
+                        ? component.createWithInitialProperties({{QStringLiteral("controller"), controller}})
+                        : nullptr;
     m_scene = qobject_cast<QQuickItem*>(made);
     if (!m_scene) {
         delete made;

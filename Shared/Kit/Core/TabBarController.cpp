@@ -36,6 +36,11 @@ void TabBarController::setSelectedIndex(int index)
     }
 }
 
+QColor TabBarController::selectedImageTintColor() const
+{
+    return TabBarAppearance::appearance().selectedImageTintColor;
+}
+
 QString TabBarController::titleAt(int index) const
 {
     return controllerAt(index) != nullptr ? m_items[static_cast<std::size_t>(index)].title : QString();

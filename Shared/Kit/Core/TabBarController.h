@@ -18,13 +18,14 @@ struct TabBarItem {
 };
 
 /// Screens side by side behind a bar of tabs. The first is selected at the start.
-class TabBarController : public ViewController
+class TabBarController : public lodestar::ViewController
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(int count READ count CONSTANT)
     Q_PROPERTY(int selectedIndex READ selectedIndex WRITE setSelectedIndex NOTIFY selectedIndexChanged)
+    Q_PROPERTY(QColor selectedImageTintColor READ selectedImageTintColor CONSTANT)
 
 public:
     explicit TabBarController(std::vector<TabBarItem> items);
@@ -33,6 +34,8 @@ public:
     int count() const { return static_cast<int>(m_items.size()); }
     int selectedIndex() const { return m_selectedIndex; }
     void setSelectedIndex(int index);
+    /// Invalid for the kit's own.
+    QColor selectedImageTintColor() const;
     Q_INVOKABLE QString titleAt(int index) const;
     Q_INVOKABLE QString imageNameAt(int index) const;
     Q_INVOKABLE lodestar::ViewController* controllerAt(int index) const;

@@ -212,6 +212,12 @@ QHash<int, QByteArray> TableOutlet::roleNames() const
             {SectionHasHeader, "sectionHasHeader"}};
 }
 
+bool TableOutlet::isHeaderAt(int index) const
+{
+    const std::optional<IndexPath> path = pathAt(index);
+    return path && path->row < 0;
+}
+
 void TableOutlet::select(int index)
 {
     const std::optional<IndexPath> path = pathAt(index);

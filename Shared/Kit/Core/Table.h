@@ -95,6 +95,7 @@ public:
     QHash<int, QByteArray> roleNames() const override;
 
     /// QML's calls; indexes are of this flat list.
+    Q_INVOKABLE bool isHeaderAt(int index) const;
     Q_INVOKABLE void select(int index);
     /// Closes every open swipe: "leave editing mode".
     void setEditing(bool editing, bool animated);

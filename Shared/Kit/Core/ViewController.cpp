@@ -7,6 +7,7 @@
 
 #include <QQmlEngine>
 
+#include <algorithm>
 #include <utility>
 
 namespace lodestar
@@ -56,6 +57,32 @@ void ViewController::endAppearance()
 {
     if (std::exchange(m_appeared, false)) {
         viewDidDisappear();
+    }
+}
+
+bool ViewController::canGoBack() const
+{
+    return m_navigationController != nullptr && m_navigationController->rootViewController() != this;
+}
+
+QString ViewController::backButtonTitle() const
+{
+    if (!canGoBack()) {
+        return {};
+    }
+    const auto& stack = m_navigationController->viewControllers();
+    const auto self = std::find_if(stack.begin(), stack.end(), [this](const auto& each) { return each.get() == this; });
+    if (self == stack.begin() || self == stack.end()) {
+        return {};
+    }
+    const ViewController& below = **std::prev(self);
+    return below.backTitle().isNull() ? below.title() : below.backTitle();
+}
+
+void ViewController::goBack()
+{
+    if (canGoBack() && m_navigationController->topViewController() == this) {
+        m_navigationController->pop();
     }
 }
 

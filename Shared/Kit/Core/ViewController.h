@@ -52,6 +52,11 @@ public:
     bool isInWindow() const { return m_appeared; }
 
     NavigationController* navigationController() const { return m_navigationController; }
+    /// Whether a screen lies below this one, and the text of the button that leads back to it, empty for none.
+    Q_INVOKABLE bool canGoBack() const;
+    Q_INVOKABLE QString backButtonTitle() const;
+    /// Pops this screen if it is the last of its stack.
+    Q_INVOKABLE void goBack();
     TabBarController* tabBarController() const;
 
     /// Puts a controller in a sheet that slides up over this one. A sheet that is up is dismissed first.

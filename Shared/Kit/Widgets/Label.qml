@@ -12,7 +12,8 @@ Text {
     /// Bars stop growing earlier than the rest.
     property real scaleFactor: Theme.textScale
 
-    readonly property real drop: Math.round(Appearance.textDrop(font.pixelSize, lineHeight) * Screen.devicePixelRatio)
+    readonly property int drawnSize: fontSizeMode === Text.FixedSize ? font.pixelSize : fontInfo.pixelSize
+    readonly property real drop: Math.round(Appearance.textDrop(drawnSize, lineHeight) * Screen.devicePixelRatio)
                                  / Screen.devicePixelRatio
 
     color: Theme.ink

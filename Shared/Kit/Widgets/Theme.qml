@@ -36,7 +36,7 @@ QtObject {
     readonly property color accent: "#009EEB"
     readonly property color accentInk: dark ? "#71C7F4" : "#0072AD"
     readonly property color fill: accentInk
-    readonly property color onFill: dark ? "#04121B" : "#FFFFFF"
+    readonly property color fillInk: dark ? "#04121B" : "#FFFFFF"
     readonly property color tabSelected: dark ? "#009EEB" : "#0072AD"
     readonly property color track: dark ? "#5C6773" : "#8A95A3"
     readonly property color segment: dark ? "#39434F" : "#FFFFFF"
@@ -48,10 +48,9 @@ QtObject {
     readonly property color plate: dark ? "#F2C7C1" : "#FBEAE7"
     readonly property color systemOrange: dark ? "#F39C12" : "#B35900"
     readonly property color systemRed: "#E32226"
-    readonly property color onSystemRed: "#FFFFFF"
     readonly property color systemRedInk: dark ? "#FF7A75" : "#E32226"
     readonly property color systemLightGrey: dark ? "#4A5460" : "#C3CAD3"
-    readonly property color onSystemLightGrey: dark ? "#ECEFF3" : "#1A2027"
+    readonly property color lightGreyInk: dark ? "#ECEFF3" : "#1A2027"
     readonly property color tesselBlue: "#133C5B"
     readonly property color tesselLightGreen: "#7BBE31"
 
@@ -61,12 +60,30 @@ QtObject {
     readonly property color chartBlue: dark ? "#A9DDF8" : "#00308B"
     readonly property color chartGrid: dark ? "#333C47" : "#C4CCD5"
 
+    /// The colour as text or mark. Controllers name the platform's colours as they are in the light; palette colours are
+    /// the same in both appearances and pass.
+    function inkFor(named: color): color {
+        if (Qt.colorEqual(named, "#66707E")) {
+            return systemGrey;
+        }
+        if (Qt.colorEqual(named, "#555555")) {
+            return titleInk;
+        }
+        if (Qt.colorEqual(named, "#E32226")) {
+            return systemRedInk;
+        }
+        return Qt.colorEqual(named, "#B35900") ? systemOrange : named;
+    }
+    /// The colour as a button's ground.
+    function surfaceFor(named: color): color {
+        return Qt.colorEqual(named, "#C3CAD3") ? systemLightGrey : named;
+    }
     /// What reads on a button of that colour.
     function inkOn(background: color): color {
         if (Qt.colorEqual(background, tesselLightGreen)) {
             return tesselBlue;
         }
-        return Qt.colorEqual(background, systemLightGrey) ? onSystemLightGrey : "#FFFFFF";
+        return Qt.colorEqual(background, systemLightGrey) ? lightGreyInk : "#FFFFFF";
     }
 
     // Type
@@ -132,6 +149,10 @@ QtObject {
     }
     function cardMargin(width: real): int {
         return width < 600 ? 12 : 24;
+    }
+    /// Beside cards in a page of that width: the margin, or what keeps them at the readable measure.
+    function sideMargin(width: real, maximum: real): real {
+        return Math.max(cardMargin(width), Math.floor((width - maximum) / 2));
     }
 
     // Motion, milliseconds

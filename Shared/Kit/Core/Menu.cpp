@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/Menu.h"
+
+#include <algorithm>
+#include <iterator>
+#include <utility>
+
+namespace lodestar
+{
+
+QVariantList MenuOutlet::choices() const
+{
+    QVariantList list;
+    std::transform(m_choices.begin(), m_choices.end(), std::back_inserter(list),
+                   [](const MenuChoice& choice) { return QVariant::fromValue(choice); });
+    return list;
+}
+
+void MenuOutlet::present(QString title, QString message, std::vector<MenuChoice> choices, int cancelIndex,
+                         Handler handler)
+{
+    m_title = std::move(title);
+    m_message = std::move(message);
+    m_choices = std::move(choices);
+    m_cancelIndex = cancelIndex;
+    m_handler = std::move(handler);
+    m_presented = true;
+    Q_EMIT presentedChanged();
+}
+
+void MenuOutlet::dismiss()
+{
+    // The texts stay: what fades out still shows them.
+    m_handler = nullptr;
+    if (std::exchange(m_presented, false)) {
+        Q_EMIT presentedChanged();
+    }
+}
+
+void MenuOutlet::choose(int index)
+{
+    if (!m_presented || index < 0 || index >= static_cast<int>(m_choices.size())) {
+        return;
+    }
+    const Handler handler = std::move(m_handler);
+    dismiss();
+    if (handler) {
+        handler(index);
+    }
+}
+
+} // namespace lodestar

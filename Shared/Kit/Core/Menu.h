@@ -1,0 +1,72 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <QVariantList>
+#include <QtQml/qqmlregistration.h>
+
+#include <functional>
+#include <vector>
+
+namespace lodestar
+{
+
+/// One choice of an alert or an action sheet.
+struct MenuChoice {
+    Q_GADGET
+    QML_VALUE_TYPE(menuChoice)
+    Q_PROPERTY(QString title MEMBER title)
+    Q_PROPERTY(bool destructive MEMBER destructive)
+    Q_PROPERTY(QString imageName MEMBER imageName)
+
+public:
+    QString title;
+    bool destructive = false;
+    QString imageName{}; ///< action sheets only
+    friend bool operator==(const MenuChoice&, const MenuChoice&) = default;
+};
+
+/// An alert or an action sheet as its controller sees it, a constant property like every outlet. Main thread.
+class MenuOutlet : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
+    Q_PROPERTY(bool presented READ isPresented NOTIFY presentedChanged)
+    Q_PROPERTY(QString title READ title NOTIFY presentedChanged)
+    Q_PROPERTY(QString message READ message NOTIFY presentedChanged)
+    Q_PROPERTY(QVariantList choices READ choices NOTIFY presentedChanged)
+    Q_PROPERTY(int cancelIndex READ cancelIndex NOTIFY presentedChanged)
+
+public:
+    using Handler = std::function<void(int index)>;
+
+    using QObject::QObject;
+    bool isPresented() const { return m_presented; }
+    const QString& title() const { return m_title; }
+    const QString& message() const { return m_message; }
+    QVariantList choices() const;
+    /// The choice that Escape and a tap beside an action sheet stand for; -1 for none. An action sheet sets it apart.
+    int cancelIndex() const { return m_cancelIndex; }
+
+    /// Shows it, in the place of one that is up. The handler is called once with the choice, after the outlet has been
+    /// taken down, so that it may show the next.
+    void present(QString title, QString message, std::vector<MenuChoice> choices, int cancelIndex, Handler handler);
+    /// Takes it down without a choice.
+    void dismiss();
+    Q_INVOKABLE void choose(int index);
+
+Q_SIGNALS:
+    void presentedChanged();
+
+private:
+    bool m_presented = false;
+    QString m_title;
+    QString m_message;
+    std::vector<MenuChoice> m_choices;
+    int m_cancelIndex = -1;
+    Handler m_handler;
+};
+
+} // namespace lodestar

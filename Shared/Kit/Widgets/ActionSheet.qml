@@ -1,0 +1,170 @@
+// SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Templates as T
+import Lodestar.Kit
+
+/// Choices for one thing, at the window's lower edge, Cancel set apart. Follows its outlet.
+T.Popup {
+    id: sheet
+
+    required property MenuOutlet outlet
+    property real slide: 0
+
+    readonly property var cancelChoice: outlet.cancelIndex >= 0 ? outlet.choices[outlet.cancelIndex] : undefined
+
+    parent: Overlay.overlay
+    modal: true
+    dim: true
+    focus: true
+    closePolicy: T.Popup.NoAutoClose
+    padding: 0
+    width: parent !== null ? Math.min(parent.width - 24, Theme.actionSheetMaxWidth) : 0
+    height: card.implicitHeight
+    x: parent !== null ? Math.round((parent.width - width) / 2) : 0
+    y: parent !== null ? parent.height - (height + 8) * slide : 0
+
+    function follow() {
+        if (outlet.presented) {
+            open();
+        } else {
+            close();
+        }
+    }
+    function cancel() {
+        if (outlet.cancelIndex >= 0) {
+            outlet.choose(outlet.cancelIndex);
+        }
+    }
+
+    Component.onCompleted: follow()
+    onOpened: card.forceActiveFocus(Qt.OtherFocusReason)
+
+    Connections {
+        target: sheet.outlet
+        function onPresentedChanged() {
+            sheet.follow();
+        }
+    }
+
+    enter: Transition {
+        NumberAnimation { property: "slide"; to: 1; duration: Theme.sheetIn; easing.type: Easing.OutCubic }
+    }
+    exit: Transition {
+        NumberAnimation { property: "slide"; to: 0; duration: Theme.sheetOut; easing.type: Easing.OutCubic }
+    }
+    T.Overlay.modal: Rectangle {
+        color: Theme.scrim
+
+        Behavior on opacity {
+            NumberAnimation { duration: Theme.sheetIn }
+        }
+        TapHandler {
+            onTapped: sheet.cancel()
+        }
+    }
+
+    background: Item {}
+    contentItem: FocusScope {
+        id: card
+
+        focus: true
+        implicitHeight: rows.height + (cancelBox.visible ? 8 + cancelBox.height : 0)
+        LayoutMirroring.enabled: Theme.mirrored
+        LayoutMirroring.childrenInherit: true
+        Accessible.role: Accessible.PopupMenu
+        Accessible.name: sheet.outlet.title
+        Keys.onEscapePressed: sheet.cancel()
+        Keys.onBackPressed: sheet.cancel()
+        Keys.onDownPressed: (event) => card.step(event, true)
+        Keys.onUpPressed: (event) => card.step(event, false)
+
+        function step(event: var, forward: bool) {
+            const from = Window.activeFocusItem ?? card;
+            from.nextItemInFocusChain(forward).forceActiveFocus(Qt.TabFocusReason);
+            event.accepted = true;
+        }
+
+        BoxShadow {
+            anchors.fill: rows
+        }
+        Rectangle {
+            anchors.fill: rows
+            radius: Theme.sheetRadius
+            color: Theme.raised
+        }
+        Column {
+            id: rows
+
+            width: parent.width
+
+            Item {
+                visible: sheet.outlet.title !== ""
+                width: parent.width
+                height: title.height + 27
+
+                Label {
+                    id: title
+
+                    text: sheet.outlet.title
+                    size: Theme.captionSize
+                    color: Theme.ink2
+                    x: 20
+                    y: 14
+                    width: parent.width - 40
+                    horizontalAlignment: Text.AlignHCenter
+                    elide: Text.ElideMiddle
+                    Accessible.ignored: true
+                }
+            }
+            Repeater {
+                model: sheet.outlet.choices
+
+                MenuRow {
+                    id: row
+
+                    required property int index
+                    required property menuChoice modelData
+
+                    visible: index !== sheet.outlet.cancelIndex
+                    rowHeight: 56
+                    chevron: false
+                    text: modelData.title
+                    iconName: modelData.imageName
+                    iconColor: modelData.destructive ? Theme.systemRedInk : Theme.accentInk
+                    ink: modelData.destructive ? Theme.systemRedInk : Theme.ink
+                    Accessible.role: Accessible.MenuItem
+                    separator: index > 0 || sheet.outlet.title !== ""
+                    onClicked: sheet.outlet.choose(index)
+                }
+            }
+        }
+        Item {
+            id: cancelBox
+
+            visible: sheet.cancelChoice !== undefined
+            y: rows.height + 8
+            width: parent.width
+            height: cancelButton.implicitHeight
+
+            BoxShadow {
+                anchors.fill: parent
+            }
+            Rectangle {
+                anchors.fill: parent
+                radius: Theme.sheetRadius
+                color: cancelButton.down ? Theme.pressed : Theme.raised
+            }
+            PlainButton {
+                id: cancelButton
+
+                anchors.fill: parent
+                implicitHeight: Math.max(56, Math.round(22 * Theme.textScale) + 24)
+                text: sheet.cancelChoice?.title ?? ""
+                onClicked: sheet.cancel()
+            }
+        }
+    }
+}

@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Lodestar.Kit
+
+/// Rounds a square surface by covering its corners with what lies behind it. Rows of a card are pressed, swiped and
+/// removed one by one, and the software renderer clips to rectangles only.
+Item {
+    id: corners
+
+    property bool roundTop: true
+    property bool roundBottom: true
+    property color color: Theme.ground
+    property int radius: Theme.cardRadius
+
+    Repeater {
+        model: 4
+
+        Icon {
+            required property int index
+
+            readonly property bool isBottom: index > 1
+            readonly property bool isRight: index === 1 || index === 2
+
+            name: "corner"
+            size: corners.radius
+            color: corners.color
+            visible: isBottom ? corners.roundBottom : corners.roundTop
+            x: isRight ? corners.width - width : 0
+            y: isBottom ? corners.height - height : 0
+            rotation: index * 90
+            LayoutMirroring.enabled: false
+        }
+    }
+}

@@ -1,0 +1,272 @@
+// SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Lodestar.Kit
+
+/// A table drawn as cards: its rows, with hairlines between, in one rounded card a section, headers above. Give it the
+/// outlet and a delegate, a component whose root is a TableCell. Arrows, Home, End and the page keys move, Enter and Space
+/// choose, the menu key swipes, F5 refreshes.
+FocusScope {
+    id: view
+
+    required property TableOutlet table
+    required property Component delegate
+    property RefreshControl refreshControl: null
+    property int measure: Theme.measure
+    /// Above the first card: 8 below a bar of 52, 0 below a tab root's of 60.
+    property real topSpace: 8
+    property alias header: list.header
+    property alias footer: list.footer
+    property alias currentIndex: list.currentIndex
+    readonly property alias flickable: list
+    /// What is pressed, chosen and swiped open.
+    readonly property alias rows: tableState
+    signal swipeButtonTapped(int section, int row, int index, bool leading)
+
+    visible: !table.hidden
+    activeFocusOnTab: true
+    Accessible.role: Accessible.List
+
+    function closeSwipes() {
+        tableState.closeSwipes();
+    }
+    function pull() {
+        if (refreshControl !== null) {
+            refreshControl.pull();
+        }
+    }
+    function step(from: int, direction: int, rows: int) {
+        const target = tableState.rowFrom(from, direction, rows);
+        tableState.keyboardUsed = true;
+        if (target >= 0) {
+            list.currentIndex = target;
+        }
+    }
+    function activateCurrent() {
+        const place = list.currentItem as TableRow;
+        if (place !== null && !place.isHeader) {
+            tableState.activate(place.index, place.selectable);
+        }
+    }
+    function swipeByKeyboard() {
+        const place = list.currentItem as TableRow;
+        if (place !== null && place.swipe.hasButtons) {
+            tableState.keyboardUsed = true;
+            place.swipe.toggle();
+            tableState.swipeHasKeyboard = tableState.swiped === place.swipe;
+            if (tableState.swipeHasKeyboard) {
+                place.swipe.takeKeyboard();
+            }
+        }
+    }
+    /// Whether the key was one of the table's.
+    function handleKey(key: int, modifiers: int): bool {
+        const page = Math.max(1, Math.floor(list.height / Math.max(1, table.rowHeight)) - 1);
+        switch (key) {
+        case Qt.Key_Down:
+            step(list.currentIndex, 1, 1);
+            return true;
+        case Qt.Key_Up:
+            step(list.currentIndex, -1, 1);
+            return true;
+        case Qt.Key_PageDown:
+            step(list.currentIndex, 1, page);
+            return true;
+        case Qt.Key_PageUp:
+            step(list.currentIndex, -1, page);
+            return true;
+        case Qt.Key_Home:
+            step(-1, 1, 1);
+            return true;
+        case Qt.Key_End:
+            step(table.count, -1, 1);
+            return true;
+        case Qt.Key_Return:
+        case Qt.Key_Enter:
+        case Qt.Key_Space:
+            activateCurrent();
+            return true;
+        case Qt.Key_F10:
+            if (!(modifiers & Qt.ShiftModifier)) {
+                return false;
+            }
+            swipeByKeyboard();
+            return true;
+        case Qt.Key_Menu:
+            swipeByKeyboard();
+            return true;
+        case Qt.Key_F5:
+            pull();
+            return true;
+        default:
+            return false;
+        }
+    }
+
+    TableState {
+        id: tableState
+
+        table: view.table
+        delegate: view.delegate
+        sideMargin: Theme.sideMargin(view.width, view.measure)
+        currentIndex: list.currentIndex
+        listHasKeyboard: list.activeFocus && !swipeHasKeyboard
+        onRowTapped: (index) => list.currentIndex = index
+        onKeyboardReturned: list.forceActiveFocus(Qt.OtherFocusReason)
+        onSwipeButtonTapped: (section, row, index, leading) => view.swipeButtonTapped(section, row, index, leading)
+    }
+    ListView {
+        id: list
+
+        property bool reachedPull: false
+
+        anchors.fill: parent
+        model: view.table
+        reuseItems: true
+        focus: true
+        keyNavigationEnabled: false
+        highlightFollowsCurrentItem: true
+        highlightMoveDuration: Theme.settle
+        highlightResizeDuration: 0
+        cacheBuffer: 120
+        topMargin: header === null ? view.topSpace : 0
+        bottomMargin: Theme.groupGap
+        currentIndex: -1
+        boundsBehavior: Flickable.DragAndOvershootBounds
+        remove: view.table.removalAnimated ? slideAway : null
+        displaced: view.table.removalAnimated ? closeUp : null
+        delegate: TableRow {
+            id: place
+
+            width: list.width
+            content: host.item as TableCell
+            swipe: swipeCell as SwipeCell
+            ListView.onReused: configure()
+            ListView.onPooled: swipeCell.reset()
+
+            readonly property bool focused: tableState.currentIndex === index && tableState.listHasKeyboard
+            /// Sections without a header stand apart by a gap.
+            readonly property real gap: firstInSection && section > 0 && !sectionHasHeader ? Theme.groupGap : 0
+            readonly property bool besidePressed: index === tableState.pressedIndex || index - 1 === tableState.pressedIndex
+
+            implicitHeight: isHeader ? header.implicitHeight
+                                     : gap + Math.max(Math.round(tableState.table.rowHeight * Theme.textScale), host.implicitHeight)
+            height: implicitHeight
+
+            function configure() {
+                swipeCell.reset();
+                host.configure();
+            }
+
+            SectionHeader {
+                id: header
+
+                visible: place.isHeader
+                text: place.headerTitle
+                space: place.index === 0 ? 12 - view.topSpace : Theme.sectionGap
+                x: tableState.sideMargin
+                width: place.width - 2 * x
+            }
+            SwipeCell {
+                id: swipeCell
+
+                visible: !place.isHeader
+                x: tableState.sideMargin
+                y: place.gap
+                width: place.width - 2 * x
+                height: place.height - place.gap
+                text: place.content !== null ? place.content.accessibleText : ""
+                buttons: place.content !== null ? place.content.swipeButtons : []
+                leadingButtons: place.content !== null ? place.content.leadingSwipeButtons : []
+                pressable: place.selectable
+                highlighted: tableState.selectedIndex === place.index && place.selectable
+                focusShown: place.focused && tableState.keyboardUsed
+                Accessible.role: Accessible.ListItem
+                Accessible.name: text
+                Accessible.selectable: place.selectable
+                Accessible.onPressAction: tableState.activate(place.index, place.selectable)
+                onClicked: {
+                    tableState.keyboardUsed = false;
+                    tableState.rowTapped(place.index);
+                    if (isOpen) {
+                        close();
+                    } else {
+                        tableState.activate(place.index, place.selectable);
+                    }
+                }
+                onOpening: tableState.swipeOpens(swipeCell)
+                onPressedLookChanged: tableState.rowPressed(place.index, pressedLook)
+                onEscaped: tableState.closeSwipes()
+                onButtonTapped: (button, leading) => tableState.swipeButtonTapped(place.section, place.row, button, leading)
+
+                CellHost {
+                    id: host
+
+                    anchors.fill: parent
+                    table: tableState.table
+                    index: place.index
+                    delegate: tableState.delegate
+                }
+            }
+            CardCorners {
+                visible: !place.isHeader && (place.firstInSection || place.lastInSection)
+                x: swipeCell.x
+                y: swipeCell.y
+                width: swipeCell.width
+                height: swipeCell.height
+                roundTop: place.firstInSection
+                roundBottom: place.lastInSection
+            }
+            Hairline {
+                visible: !place.isHeader && !place.firstInSection && !place.besidePressed
+                x: swipeCell.x + (Theme.mirrored ? tableState.table.separatorRight : tableState.table.separatorLeft)
+                width: Math.max(0, swipeCell.width - tableState.table.separatorLeft - tableState.table.separatorRight
+                                - (swipeCell.reveal > 0 ? swipeCell.reveal - tableState.table.separatorRight : 0))
+            }
+        }
+
+        onMovementStarted: view.closeSwipes()
+        onActiveFocusChanged: {
+            if (activeFocus && currentIndex < 0) {
+                list.currentIndex = tableState.rowFrom(-1, 1, 1);
+            } else if (!activeFocus && !tableState.swipeHasKeyboard) {
+                tableState.keyboardUsed = false;
+            }
+        }
+        onDraggingChanged: {
+            if (!dragging && indicator.progress >= 1) {
+                view.pull();
+            }
+        }
+        Keys.onPressed: (event) => event.accepted = view.handleKey(event.key, event.modifiers)
+    }
+    PullIndicator {
+        id: indicator
+
+        anchors.horizontalCenter: parent.horizontalCenter
+        visible: view.refreshControl !== null && overshoot > 0
+        overshoot: -list.verticalOvershoot
+        refreshing: view.refreshControl !== null && view.refreshControl.refreshing
+    }
+
+    Transition {
+        id: slideAway
+
+        NumberAnimation {
+            property: "x"
+            to: -list.width
+            duration: Theme.rowDelete
+            easing.type: Easing.OutCubic
+        }
+    }
+    Transition {
+        id: closeUp
+
+        NumberAnimation {
+            property: "y"
+            duration: Theme.rowDelete
+            easing.type: Easing.OutCubic
+        }
+    }
+}

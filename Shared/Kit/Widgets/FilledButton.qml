@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import Lodestar.Kit
+
+/// The one action of a screen.
+T.AbstractButton {
+    id: button
+
+    implicitWidth: label.implicitWidth + 48
+    implicitHeight: Math.max(48, label.implicitHeight + 20)
+    focusPolicy: Qt.StrongFocus
+    Accessible.role: Accessible.Button
+    Accessible.name: text
+
+    contentItem: Item {
+        Label {
+            id: label
+
+            text: button.text
+            // As the whole button at 40 % on a card.
+            color: button.enabled ? Theme.fillInk : Qt.tint(Theme.card, Qt.rgba(Theme.fillInk.r, Theme.fillInk.g, Theme.fillInk.b, 0.4))
+            anchors.centerIn: parent
+            width: Math.min(implicitWidth, parent.width)
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+    }
+    background: Rectangle {
+        radius: Theme.cardRadius
+        opacity: button.enabled ? 1 : 0.4
+        color: button.down ? Qt.darker(Theme.fill, 1.163) : button.hovered ? Qt.darker(Theme.fill, 1.075) : Theme.fill
+
+        Behavior on color {
+            ColorAnimation { duration: button.down ? Theme.pressIn : Theme.pressOut }
+        }
+        FocusRing {
+            anchors.fill: parent
+            anchors.margins: 2
+            radius: Theme.cardRadius - 2
+            border.color: Theme.fillInk
+            shown: button.visualFocus
+        }
+    }
+    Keys.onReturnPressed: button.clicked()
+    Keys.onEnterPressed: button.clicked()
+}

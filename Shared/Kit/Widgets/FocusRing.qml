@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+
+/// The inner ring that shows where the keyboard is.
+Rectangle {
+    id: ring
+
+    property bool shown: false
+
+    visible: shown
+    color: "transparent"
+    radius: Theme.cardRadius
+    border.width: 2
+    border.color: Theme.accentInk
+}

@@ -1,0 +1,115 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import Lodestar.Kit
+
+/// One field of a form: its name and the text that its outlet holds, both ways.
+Item {
+    id: field
+
+    required property string label
+    required property FieldOutlet outlet
+    property string placeholder
+    property bool secure: false
+    property int inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
+    property int rowHeight: 56
+    property real labelWidth: 112
+    /// Where Return leads; without one it ends editing.
+    property FormField next: null
+    signal returnPressed()
+
+    readonly property bool stacked: Theme.stacked
+
+    implicitHeight: Math.round(rowHeight * (stacked ? Theme.textScale * 1.3 : Theme.textScale))
+    width: parent !== null ? parent.width : implicitWidth
+    visible: !outlet.hidden
+    enabled: outlet.enabled
+    opacity: enabled ? 1 : 0.5
+
+    function edit(reason: int) {
+        input.forceActiveFocus(reason);
+    }
+
+    Connections {
+        target: field.outlet
+        function onTextChanged() {
+            if (input.text !== field.outlet.text) {
+                input.text = field.outlet.text;
+            }
+        }
+        function onResignRequested() {
+            input.focus = false;
+        }
+    }
+
+    // The whole row takes a press.
+    TapHandler {
+        onTapped: input.forceActiveFocus(Qt.MouseFocusReason)
+    }
+    Label {
+        id: name
+
+        text: field.label
+        size: Theme.stateSize
+        color: Theme.ink2
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.rowStart
+        y: field.stacked ? 8 : (parent.height - height) / 2
+        width: field.stacked ? parent.width - Theme.rowStart - Theme.rowEnd : field.labelWidth
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+    T.TextField {
+        id: input
+
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.rowStart + (field.stacked ? 0 : field.labelWidth)
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.rowEnd
+        y: field.stacked ? name.y + name.height : 0
+        height: parent.height - y
+        topPadding: Math.round(Appearance.textDrop(font.pixelSize, height))
+        verticalAlignment: TextInput.AlignTop
+        horizontalAlignment: TextInput.AlignLeft
+        font.family: Theme.family
+        font.pixelSize: Math.round(Theme.bodySize * Theme.textScale)
+        color: Theme.ink
+        selectionColor: Theme.match
+        selectedTextColor: Theme.ink
+        selectByMouse: true
+        clip: contentWidth > width
+        echoMode: field.secure ? TextInput.Password : TextInput.Normal
+        passwordCharacter: "\u2022"
+        passwordMaskDelay: 0
+        inputMethodHints: field.inputMethodHints | (field.secure ? Qt.ImhHiddenText | Qt.ImhSensitiveData : 0)
+        cursorDelegate: Caret {}
+        Accessible.role: Accessible.EditableText
+        Accessible.name: field.label
+        Accessible.passwordEdit: field.secure
+        Component.onCompleted: text = field.outlet.text
+        onTextChanged: field.outlet.text = text
+        onAccepted: {
+            if (field.next !== null) {
+                field.next.edit(Qt.TabFocusReason);
+            } else {
+                focus = false;
+            }
+            field.returnPressed();
+        }
+
+        Label {
+            visible: input.text === "" && input.preeditText === ""
+            text: field.placeholder
+            color: Theme.ink3
+            anchors.verticalCenter: parent.verticalCenter
+            width: parent.width
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+    }
+    FocusRing {
+        anchors.fill: parent
+        anchors.margins: 2
+        shown: input.activeFocus && (input.focusReason === Qt.TabFocusReason || input.focusReason === Qt.BacktabFocusReason)
+    }
+}

@@ -1,0 +1,53 @@
+// SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Lodestar.Kit
+
+/// A card of fixed rows, one below the other, with hairlines between those that are shown. Rows may tell `pressedLook`;
+/// the hairlines beside such a row go.
+Item {
+    id: card
+
+    default property alias rows: column.data
+    property color behind: Theme.ground
+    property color surface: Theme.card
+    property real separatorLeft: 10
+    property real separatorRight: 15
+
+    implicitHeight: column.implicitHeight
+
+    Rectangle {
+        anchors.fill: parent
+        color: card.surface
+        radius: Theme.cardRadius
+    }
+    Column {
+        id: column
+
+        width: parent.width
+    }
+    function pressed(item: Item): bool {
+        const row = item as MenuRow;
+        return row !== null && row.pressedLook;
+    }
+
+    Repeater {
+        model: column.visibleChildren.length
+
+        Hairline {
+            required property int index
+            readonly property Item below: column.visibleChildren[index] ?? null
+            readonly property Item above: column.visibleChildren[index - 1] ?? null
+
+            visible: above !== null && below !== null && !card.pressed(above) && !card.pressed(below)
+            x: Theme.mirrored ? card.separatorRight : card.separatorLeft
+            y: below !== null ? below.y : 0
+            width: card.width - card.separatorLeft - card.separatorRight
+        }
+    }
+    CardCorners {
+        anchors.fill: parent
+        color: card.behind
+    }
+}

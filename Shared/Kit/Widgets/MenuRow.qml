@@ -1,0 +1,127 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import Lodestar.Kit
+
+/// A row of a fixed menu: a drawing, a title, optionally a count or note, a chevron where it leads on. What it holds
+/// stands at its end.
+T.AbstractButton {
+    id: row
+
+    property string iconName
+    property color iconColor: Theme.accentInk
+    property color ink: Theme.ink
+    property string detail
+    property bool chevron: true
+    /// A row that only rests, or whose own control is what one presses.
+    property bool pressable: true
+    property int rowHeight: 52
+    /// A hairline on its upper edge, where no GroupCard draws it.
+    property bool separator: false
+    default property alias accessory: accessories.data
+
+    readonly property bool pressedLook: pressable && down
+    readonly property bool stacked: Theme.stacked && detail !== ""
+    readonly property real textStart: iconName === "" ? Theme.rowStart : 60
+
+    implicitHeight: Math.max(Math.round(rowHeight * Theme.textScale),
+                             titleLabel.implicitHeight + (stacked ? detailLabel.implicitHeight : 0) + 16)
+    width: parent !== null ? parent.width : implicitWidth
+    focusPolicy: pressable ? Qt.StrongFocus : Qt.NoFocus
+    hoverEnabled: pressable
+    Accessible.role: pressable ? Accessible.Button : Accessible.StaticText
+    Accessible.name: text + (detail === "" ? "" : ", " + detail)
+    Keys.onReturnPressed: row.clicked()
+    Keys.onEnterPressed: row.clicked()
+
+    contentItem: Item {
+        opacity: row.enabled ? 1 : 0.6
+
+        Icon {
+            visible: row.iconName !== ""
+            name: row.iconName
+            color: row.enabled ? row.iconColor : Theme.ink3
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.rowStart
+            anchors.verticalCenter: parent.verticalCenter
+        }
+        Column {
+            anchors.left: parent.left
+            anchors.leftMargin: row.textStart
+            anchors.right: row.stacked ? ends.left : detailLabel.left
+            anchors.rightMargin: 12
+            anchors.verticalCenter: parent.verticalCenter
+
+            Label {
+                id: titleLabel
+
+                text: row.text
+                color: row.enabled ? row.ink : Theme.ink3
+                width: parent.width
+                wrapMode: Text.Wrap
+                Accessible.ignored: true
+            }
+            Label {
+                visible: row.stacked
+                text: row.detail
+                size: Theme.stateSize
+                color: Theme.ink2
+                width: parent.width
+                wrapMode: Text.Wrap
+                Accessible.ignored: true
+            }
+        }
+        Label {
+            id: detailLabel
+
+            visible: !row.stacked && row.detail !== ""
+            text: row.detail
+            size: Theme.stateSize
+            color: Theme.ink2
+            width: visible ? Math.min(implicitWidth, row.width * 0.45) : 0
+            anchors.right: ends.left
+            anchors.rightMargin: ends.width > 0 ? 12 : 0
+            anchors.verticalCenter: parent.verticalCenter
+            elide: Text.ElideMiddle
+            Accessible.ignored: true
+        }
+        Item {
+            id: ends
+
+            anchors.right: parent.right
+            anchors.rightMargin: Theme.rowEnd
+            width: accessories.width + (arrow.visible ? arrow.width : 0) + (accessories.width > 0 && arrow.visible ? 12 : 0)
+            height: parent.height
+
+            Row {
+                id: accessories
+
+                anchors.verticalCenter: parent.verticalCenter
+            }
+            Chevron {
+                id: arrow
+
+                visible: row.chevron && row.enabled
+                anchors.right: parent.right
+                anchors.verticalCenter: parent.verticalCenter
+            }
+        }
+    }
+    background: Rectangle {
+        color: row.pressedLook ? Theme.pressed : row.hovered && row.enabled ? Theme.hovered : "transparent"
+        radius: row.pressedLook ? 0 : Theme.cardRadius
+
+        Behavior on color {
+            ColorAnimation { duration: row.pressedLook ? Theme.pressIn : Theme.pressOut }
+        }
+        FocusRing {
+            anchors.fill: parent
+            shown: row.visualFocus
+        }
+        Hairline {
+            visible: row.separator && !row.pressedLook
+            x: Theme.mirrored ? 15 : 10
+            width: parent.width - 25
+        }
+    }
+}

@@ -1,0 +1,104 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+
+/// The bar of a pushed screen: the way back, a title or a title view in its middle, buttons at its end.
+Item {
+    id: bar
+
+    /// The screen's controller: its title, and the way back if there is one.
+    property ViewController controller: null
+    property string title: controller !== null ? controller.title : ""
+    /// Stands in for the title.
+    property Item titleView: null
+    property alias trailing: ends.data
+    /// Content slides beneath.
+    property bool scrolled: false
+    property bool canGoBack: false
+    property string backTitle
+    signal back()
+
+    readonly property int edge: width < 600 ? 4 : 12
+    readonly property real content: Math.min(width, Theme.measure + 48)
+    readonly property real side: (width - content) / 2 + (width > content ? 24 : edge)
+    readonly property real room: width - 2 * (side + Math.max(backButton.visible ? backButton.width : 0, ends.width, 44))
+
+    implicitHeight: Theme.barHeight
+
+    Component.onCompleted: {
+        // Asked once: while it slides out, a screen that was taken off its stack still shows its way back.
+        if (controller !== null && controller.canGoBack()) {
+            canGoBack = true;
+            backTitle = controller.backButtonTitle();
+        }
+    }
+    onBack: {
+        if (controller !== null) {
+            controller.goBack();
+        }
+    }
+    onTitleViewChanged: {
+        if (titleView !== null) {
+            titleView.parent = middle;
+        }
+    }
+
+    PlainButton {
+        id: backButton
+
+        visible: bar.canGoBack
+        text: bar.backTitle
+        leftPadding: Theme.mirrored ? 12 : 32
+        rightPadding: Theme.mirrored ? 32 : 12
+        implicitWidth: text === "" ? Theme.target : Math.min(contentItem.implicitWidth + 44, 132)
+        scaleFactor: Theme.barScale
+        anchors.left: parent.left
+        anchors.leftMargin: bar.side
+        anchors.verticalCenter: parent.verticalCenter
+        Accessible.name: qsTr("Back")
+        onClicked: bar.back()
+
+        Icon {
+            name: "back"
+            directional: true
+            anchors.left: parent.left
+            anchors.leftMargin: 10
+            anchors.verticalCenter: parent.verticalCenter
+            opacity: backButton.pressed ? 0.55 : backButton.hovered ? 0.8 : 1
+        }
+    }
+    Item {
+        id: middle
+
+        anchors.centerIn: parent
+        width: bar.titleView !== null ? bar.titleView.width : Math.max(0, bar.room)
+        height: bar.titleView !== null ? bar.titleView.height : parent.height
+
+        Label {
+            visible: bar.titleView === null
+            text: bar.title
+            anchors.verticalCenter: parent.verticalCenter
+            width: parent.width
+            line: 24
+            scaleFactor: Theme.barScale
+            color: Theme.titleInk
+            horizontalAlignment: Text.AlignHCenter
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 8
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+        }
+    }
+    Row {
+        id: ends
+
+        anchors.right: parent.right
+        anchors.rightMargin: bar.side
+        anchors.verticalCenter: parent.verticalCenter
+    }
+    Hairline {
+        visible: bar.scrolled
+        width: parent.width
+        anchors.bottom: parent.bottom
+    }
+}

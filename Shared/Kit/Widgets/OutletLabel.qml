@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+
+/// A label that shows what its outlet says. An outlet without a colour leaves `baseColor`.
+Label {
+    id: label
+
+    required property LabelOutlet outlet
+    property color baseColor: Theme.ink
+
+    text: outlet.text
+    visible: !outlet.hidden
+    color: outlet.color.valid ? Theme.inkFor(outlet.color) : baseColor
+}

@@ -1,0 +1,47 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+
+/// The bar of a tab's first screen: a large title on the text edge of the cards below, buttons at its end.
+Item {
+    id: bar
+
+    property ViewController controller: null
+    property string title: controller !== null ? controller.title : ""
+    property alias trailing: ends.data
+    property bool scrolled: false
+    /// Of the content below.
+    property int measure: Theme.measure
+
+    readonly property real margin: Theme.sideMargin(width, measure)
+
+    implicitHeight: Theme.rootBarHeight
+
+    Label {
+        // Large letters start a little inside their box: 2 less puts them on the edge.
+        anchors.left: parent.left
+        anchors.leftMargin: bar.margin + Theme.rowStart - 2
+        anchors.right: ends.left
+        anchors.rightMargin: 8
+        anchors.verticalCenter: parent.verticalCenter
+        text: bar.title
+        size: Theme.rootTitleSize
+        scaleFactor: Theme.barScale
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 8
+        Accessible.role: Accessible.Heading
+        Accessible.name: text
+    }
+    Row {
+        id: ends
+
+        anchors.right: parent.right
+        anchors.rightMargin: bar.margin - (bar.margin < 24 ? 4 : -4)
+        anchors.verticalCenter: parent.verticalCenter
+    }
+    Hairline {
+        visible: bar.scrolled
+        width: parent.width
+        anchors.bottom: parent.bottom
+    }
+}

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+
+/// Fixed content that scrolls: cards and headers one below the other, at the readable measure.
+Flickable {
+    id: page
+
+    default property alias content: column.data
+    property int measure: Theme.measure
+    /// Above the first card: 8 below a bar of 52, 0 below a tab root's of 60. A header on top: `space: 12 - topSpace`.
+    property real topSpace: 8
+
+    readonly property real margin: Theme.sideMargin(width, measure)
+
+    anchors.fill: parent
+    contentWidth: width
+    contentHeight: column.y + column.implicitHeight + Theme.groupGap
+    boundsBehavior: Flickable.DragAndOvershootBounds
+    flickableDirection: Flickable.VerticalFlick
+
+    /// Brings an item that took the keyboard into view.
+    function reveal(item: Item) {
+        const spot = item.mapToItem(contentItem, 0, 0);
+        if (spot.y < contentY) {
+            contentY = Math.max(0, spot.y - 12);
+        } else if (spot.y + item.height > contentY + height) {
+            contentY = Math.min(contentHeight - height, spot.y + item.height + 12 - height);
+        }
+    }
+
+    readonly property Item keyboardItem: Window.activeFocusItem
+    onKeyboardItemChanged: {
+        for (let item = keyboardItem; item !== null; item = item.parent) {
+            if (item === column) {
+                reveal(keyboardItem);
+                return;
+            }
+        }
+    }
+
+    Column {
+        id: column
+
+        x: page.margin
+        y: page.topSpace
+        width: page.width - 2 * page.margin
+    }
+}

@@ -1,0 +1,99 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import Lodestar.Kit
+
+/// Takes a bar's place while its list is searched.
+Item {
+    id: bar
+
+    property alias text: field.text
+    property alias placeholder: placeholderLabel.text
+    signal cancelled()
+
+    readonly property real margin: Theme.sideMargin(width, Theme.measure)
+
+    implicitHeight: Theme.barHeight
+
+    function start() {
+        field.forceActiveFocus(Qt.OtherFocusReason);
+    }
+
+    Rectangle {
+        anchors.left: parent.left
+        anchors.leftMargin: bar.margin
+        anchors.right: cancelButton.left
+        anchors.verticalCenter: parent.verticalCenter
+        height: 40
+        radius: Theme.fieldRadius
+        color: Theme.well
+
+        Icon {
+            id: glass
+
+            name: "search"
+            color: Theme.ink2
+            anchors.left: parent.left
+            anchors.leftMargin: 10
+            anchors.verticalCenter: parent.verticalCenter
+        }
+        T.TextField {
+            id: field
+
+            anchors.left: glass.right
+            anchors.leftMargin: 8
+            anchors.right: clearButton.left
+            height: parent.height
+            topPadding: Math.round(Appearance.textDrop(font.pixelSize, height))
+            verticalAlignment: TextInput.AlignTop
+            font.family: Theme.family
+            font.pixelSize: Math.round(Theme.bodySize * Theme.barScale)
+            color: Theme.ink
+            selectionColor: Theme.match
+            selectedTextColor: Theme.ink
+            selectByMouse: true
+            cursorDelegate: Caret {}
+            inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
+            Accessible.role: Accessible.EditableText
+            Accessible.name: qsTr("Search")
+            Keys.onEscapePressed: bar.cancelled()
+
+            Label {
+                id: placeholderLabel
+
+                visible: field.text === "" && field.preeditText === ""
+                text: qsTr("Search")
+                scaleFactor: Theme.barScale
+                color: Theme.ink2
+                anchors.verticalCenter: parent.verticalCenter
+                width: parent.width
+                elide: Text.ElideRight
+                Accessible.ignored: true
+            }
+        }
+        IconButton {
+            id: clearButton
+
+            visible: field.text !== ""
+            iconName: "close"
+            text: qsTr("Clear")
+            ink: Theme.ink2
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            onClicked: {
+                field.clear();
+                bar.start();
+            }
+        }
+    }
+    PlainButton {
+        id: cancelButton
+
+        text: qsTr("Cancel")
+        scaleFactor: Theme.barScale
+        anchors.right: parent.right
+        anchors.rightMargin: bar.margin - 12
+        anchors.verticalCenter: parent.verticalCenter
+        onClicked: bar.cancelled()
+    }
+}

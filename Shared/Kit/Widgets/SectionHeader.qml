@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+
+/// The words above a card.
+Item {
+    id: header
+
+    property string text
+    /// Above the words; the first of a page stands 12 below the bar.
+    property real space: Theme.sectionGap
+
+    implicitHeight: space + label.implicitHeight + 8
+    Accessible.role: Accessible.Heading
+    Accessible.name: text
+
+    Label {
+        id: label
+
+        text: header.text
+        size: Theme.captionSize
+        color: Theme.ink2
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.rowStart
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.rowEnd
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 8
+        elide: Text.ElideMiddle
+        Accessible.ignored: true
+    }
+}

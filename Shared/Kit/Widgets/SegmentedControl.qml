@@ -1,0 +1,90 @@
+// SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Lodestar.Kit
+
+/// A few choices side by side, one of them chosen. `activated` tells of the user's choice only.
+Rectangle {
+    id: control
+
+    required property var titles
+    property int currentIndex: 0
+    signal activated(int index)
+
+    implicitHeight: Math.max(40, Math.round(20 * Theme.textScale) + 16)
+    radius: Theme.fieldRadius
+    color: Theme.well
+    Accessible.role: Accessible.PageTabList
+
+    function choose(index: int) {
+        if (index !== currentIndex && index >= 0 && index < titles.length) {
+            currentIndex = index;
+            activated(index);
+        }
+    }
+
+    Row {
+        anchors.fill: parent
+        anchors.margins: 2
+
+        Repeater {
+            model: control.titles
+
+            T.AbstractButton {
+                id: segment
+
+                required property int index
+                required property string modelData
+                readonly property bool chosen: index === control.currentIndex
+
+                width: (control.width - 4) / control.titles.length
+                height: control.height - 4
+                text: modelData
+                focusPolicy: Qt.StrongFocus
+                Accessible.role: Accessible.PageTab
+                Accessible.name: text
+                Accessible.checked: chosen
+                onClicked: control.choose(index)
+                Keys.onLeftPressed: control.choose(control.currentIndex + (Theme.mirrored ? 1 : -1))
+                Keys.onRightPressed: control.choose(control.currentIndex + (Theme.mirrored ? -1 : 1))
+
+                contentItem: Item {
+                    Label {
+                        text: segment.text
+                        size: Theme.stateSize
+                        color: segment.chosen ? Theme.ink : Theme.ink2
+                        opacity: segment.pressed && !segment.chosen ? 0.55 : 1
+                        anchors.verticalCenter: parent.verticalCenter
+                        width: parent.width
+                        horizontalAlignment: Text.AlignHCenter
+                        elide: Text.ElideMiddle
+                        Accessible.ignored: true
+                    }
+                }
+                background: Item {
+                    BoxShadow {
+                        visible: segment.chosen && !Theme.dark
+                        radius: Theme.segmentRadius
+                        blur: 3
+                        offsetY: 1
+                        strength: 0.14
+                        anchors.fill: parent
+                    }
+                    Rectangle {
+                        anchors.fill: parent
+                        visible: segment.chosen
+                        radius: Theme.segmentRadius
+                        color: Theme.segment
+                    }
+                    FocusRing {
+                        anchors.fill: parent
+                        radius: Theme.segmentRadius
+                        shown: segment.visualFocus
+                    }
+                }
+            }
+        }
+    }
+}

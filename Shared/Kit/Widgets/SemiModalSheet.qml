@@ -1,0 +1,190 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Templates as T
+import Lodestar.Kit
+
+/// The sheet that slides up over a screen: a bar of 44 docked on the content, whose height the presentation says. Only
+/// Cancel, or Escape, leads out; what lies behind takes no press. The content's controller lives as long as the sheet is
+/// seen, however early the presentation goes.
+T.Popup {
+    id: sheet
+
+    property SemiModalPresentation presentation: null
+    /// What steps back while the sheet is up, if the presentation wants it.
+    property Item underlay: null
+
+    readonly property SheetContent sheetContent: host.scene as SheetContent
+    readonly property int barHeight: Math.max(Theme.target, Math.round(22 * Theme.barScale) + 16)
+    property real bodyHeight: 0
+    /// 1 up, 0 away.
+    property real slide: 0
+
+    parent: Overlay.overlay
+    modal: true
+    focus: true
+    dim: true
+    closePolicy: T.Popup.NoAutoClose
+    padding: 0
+    margins: 0
+    width: parent !== null ? Math.min(parent.width, Theme.sheetMaxWidth) : 0
+    height: Math.min(barHeight + bodyHeight, parent !== null ? parent.height - 24 : 0)
+    x: parent !== null ? Math.round((parent.width - width) / 2) : 0
+    y: parent !== null ? parent.height - height * slide : 0
+
+    function follow() {
+        if (presentation !== null) {
+            bodyHeight = presentation.height;
+            host.controller = presentation.controller;
+            open();
+        } else {
+            close();
+        }
+    }
+
+    onPresentationChanged: follow()
+    Component.onCompleted: follow()
+    onOpened: {
+        if (sheetContent !== null && sheetContent.firstField !== null) {
+            sheetContent.firstField.edit(Qt.OtherFocusReason);
+        }
+    }
+    onClosed: host.controller = null
+
+    Connections {
+        target: sheet.presentation
+        function onHeightChanged() {
+            resizing.to = sheet.presentation.height;
+            resizing.restart();
+        }
+    }
+    NumberAnimation {
+        id: resizing
+
+        target: sheet
+        property: "bodyHeight"
+        duration: Theme.sheetBack
+        easing.type: Easing.OutCubic
+    }
+    Binding {
+        target: sheet.underlay
+        property: "scale"
+        value: 1 - 0.06 * sheet.slide
+        when: sheet.presentation !== null && sheet.presentation.pushParentBack && sheet.underlay !== null
+    }
+
+    enter: Transition {
+        NumberAnimation {
+            property: "slide"
+            to: 1
+            duration: Theme.sheetIn
+            easing.type: Easing.OutCubic
+        }
+    }
+    exit: Transition {
+        NumberAnimation {
+            property: "slide"
+            to: 0
+            duration: Theme.sheetOut
+            easing.type: Easing.OutCubic
+        }
+    }
+    T.Overlay.modal: Rectangle {
+        color: Theme.scrim
+
+        Behavior on opacity {
+            NumberAnimation { duration: Theme.sheetIn }
+        }
+    }
+
+    background: Item {
+        BoxShadow {
+            anchors.fill: parent
+            radius: Theme.sheetRadius
+            blur: 28
+            offsetY: -6
+            strength: Theme.dark ? 0.5 : 0.14
+        }
+        Rectangle {
+            width: parent.width
+            height: parent.height + Theme.sheetRadius
+            radius: Theme.sheetRadius
+            color: Theme.raised
+        }
+    }
+    contentItem: FocusScope {
+        focus: true
+        LayoutMirroring.enabled: Theme.mirrored
+        LayoutMirroring.childrenInherit: true
+        Accessible.role: Accessible.Dialog
+        Accessible.name: titleLabel.text
+        Keys.onEscapePressed: sheet.cancel()
+        Keys.onBackPressed: sheet.cancel()
+
+        PlainButton {
+            id: cancelButton
+
+            text: sheet.sheetContent !== null ? sheet.sheetContent.cancelText : ""
+            enabled: sheet.sheetContent !== null && sheet.sheetContent.cancelEnabled
+            scaleFactor: Theme.barScale
+            leftPadding: 20
+            rightPadding: 20
+            height: sheet.barHeight
+            anchors.left: parent.left
+            onClicked: sheet.cancel()
+        }
+        Label {
+            id: titleLabel
+
+            readonly property real side: Math.max(cancelButton.width, saveButton.width)
+
+            text: sheet.sheetContent !== null && sheet.sheetContent.title !== "" ? sheet.sheetContent.title
+                                                                                 : host.controller?.title ?? ""
+            scaleFactor: Theme.barScale
+            color: Theme.titleInk
+            horizontalAlignment: Text.AlignHCenter
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 8
+            x: side
+            width: parent.width - 2 * side
+            y: (sheet.barHeight - height) / 2
+            Accessible.ignored: true
+        }
+        PlainButton {
+            id: saveButton
+
+            visible: text !== ""
+            text: sheet.sheetContent !== null ? sheet.sheetContent.saveText : ""
+            enabled: sheet.sheetContent !== null && sheet.sheetContent.saveEnabled
+            scaleFactor: Theme.barScale
+            leftPadding: 20
+            rightPadding: 20
+            height: sheet.barHeight
+            anchors.right: parent.right
+            onClicked: {
+                if (sheet.sheetContent !== null) {
+                    sheet.sheetContent.saved();
+                }
+            }
+        }
+        Hairline {
+            width: parent.width
+            y: sheet.barHeight - height
+        }
+        SceneHost {
+            id: host
+
+            focus: true
+            y: sheet.barHeight
+            width: parent.width
+            height: parent.height - y
+            clip: true
+        }
+    }
+
+    function cancel() {
+        if (sheetContent !== null && sheetContent.cancelEnabled) {
+            sheetContent.cancelled();
+        }
+    }
+}

@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+
+/// The scene of a controller that is shown in a sheet. The sheet draws the bar above it from these and tells what was
+/// pressed there.
+FocusScope {
+    id: content
+
+    property string title
+    property string cancelText: qsTr("Cancel")
+    property string saveText: qsTr("Save")
+    property bool saveEnabled: true
+    /// Whether Cancel, and with it Escape, is there now.
+    property bool cancelEnabled: true
+    signal cancelled()
+    signal saved()
+    /// The first field, which gets the keyboard once the sheet is up.
+    property FormField firstField: null
+}

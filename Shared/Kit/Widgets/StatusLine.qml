@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+
+/// The line below a form that says what is going on, in the colour that its outlet gives; errors ride on their plate.
+Item {
+    id: status
+
+    required property LabelOutlet outlet
+    property bool busy: false
+
+    readonly property bool failed: Qt.colorEqual(outlet.color, Theme.errorRed)
+
+    implicitHeight: Math.max(42, word.implicitHeight + 18)
+    visible: !outlet.hidden
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: outlet.text
+
+    Spinner {
+        id: spinner
+
+        size: 16
+        running: status.busy && !status.failed && status.outlet.text !== ""
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.rowStart
+        anchors.verticalCenter: parent.verticalCenter
+    }
+    StateWord {
+        id: word
+
+        word: status.outlet.text
+        mark: status.failed ? "error" : ""
+        color: status.outlet.color.valid ? status.outlet.color : Theme.titleInk
+        markLeads: true
+        wraps: true
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.rowStart + (spinner.running ? 26 : 0)
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.rowStart
+        anchors.verticalCenter: parent.verticalCenter
+    }
+}

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import QtQuick.Templates as T
+import Lodestar.Kit
+
+/// A switch, 50 by 30 in a target of 44. With an outlet it shows that and writes the user's flip into it.
+T.Switch {
+    id: control
+
+    property SwitchOutlet outlet: null
+
+    implicitWidth: 50
+    implicitHeight: Theme.target
+    focusPolicy: Qt.StrongFocus
+    opacity: enabled ? 1 : 0.4
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: text
+    Accessible.checkable: true
+    Accessible.checked: checked
+
+    onToggled: {
+        if (outlet !== null) {
+            outlet.on = checked;
+        }
+    }
+    Binding {
+        control.checked: control.outlet !== null && control.outlet.on
+        when: control.outlet !== null
+    }
+
+    indicator: Rectangle {
+        width: 50
+        height: 30
+        y: (control.height - height) / 2
+        radius: 15
+        color: control.checked ? Theme.accent : Theme.track
+
+        Behavior on color {
+            ColorAnimation { duration: Theme.settle }
+        }
+        Rectangle {
+            width: 26
+            height: 26
+            radius: 13
+            y: 2
+            x: 2 + (control.checked !== Theme.mirrored ? 20 : 0)
+            color: "#FFFFFF"
+            border.width: 1 / Screen.devicePixelRatio
+            border.color: "#29101821"
+
+            Behavior on x {
+                NumberAnimation { duration: Theme.settle; easing.type: Easing.OutCubic }
+            }
+        }
+    }
+    background: FocusRing {
+        x: -4
+        y: (control.height - height) / 2
+        width: 58
+        height: 38
+        radius: 19
+        shown: control.visualFocus
+    }
+}

@@ -1,0 +1,59 @@
+// SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Lodestar.Kit
+
+/// Mirrors a tab bar controller. A tab's scene is made when it is first shown and stays.
+FocusScope {
+    id: view
+
+    required property TabBarController controller
+
+    readonly property bool rail: Theme.widthClass(width) === Theme.wideWidth
+
+    focus: true
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.ground
+    }
+    FocusScope {
+        id: body
+
+        focus: true
+        x: view.rail && !Theme.mirrored ? bar.width : 0
+        width: parent.width - (view.rail ? bar.width : 0)
+        height: parent.height - (view.rail ? 0 : bar.height)
+
+        Repeater {
+            model: view.controller.count
+
+            SceneView {
+                id: tab
+
+                required property int index
+                readonly property bool selected: view.controller.selectedIndex === index
+                property bool shown: false
+
+                anchors.fill: parent
+                controller: shown ? view.controller.controllerAt(index) : null
+                visible: selected
+                focus: selected
+                enabled: selected
+                onSelectedChanged: shown = shown || selected
+                Component.onCompleted: shown = shown || selected
+            }
+        }
+    }
+    TabBar {
+        id: bar
+
+        controller: view.controller
+        rail: view.rail
+        width: rail ? implicitWidth : parent.width
+        height: rail ? parent.height : implicitHeight
+        x: rail && Theme.mirrored ? parent.width - width : 0
+        y: rail ? 0 : parent.height - height
+    }
+}

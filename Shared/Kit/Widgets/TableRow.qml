@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+
+/// One place of a CardTable: a header, or a row of the card. The table's own part; screens write a TableCell.
+Item {
+    required property int index
+    required property bool isHeader
+    required property string headerTitle
+    required property int section
+    required property int row
+    required property bool firstInSection
+    required property bool lastInSection
+    required property bool sectionHasHeader
+
+    property TableCell content: null
+    property SwipeCell swipe: null
+    readonly property bool selectable: content !== null && content.selectable
+}

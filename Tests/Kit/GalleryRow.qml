@@ -1,0 +1,51 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+
+TableCell {
+    id: cell
+
+    required property var cell
+
+    readonly property bool stacked: Theme.stacked
+
+    accessibleText: cell.cell.name + ", " + cell.cell.state
+    selectable: cell.cell.online
+    swipeButtons: [{"title": "Delete", "backgroundColor": Theme.systemRed}, {"title": "Edit", "backgroundColor": "#C3CAD3"}]
+    leadingSwipeButtons: cell.cell.badge === "" ? [] : [{"title": "Good", "backgroundColor": "#133C5B", "imageName": "check"}]
+    implicitHeight: stacked ? name.implicitHeight + state.implicitHeight + 20 : 0
+
+    Icon {
+        id: badge
+
+        visible: cell.cell.badge !== ""
+        name: cell.cell.badge
+        size: 20 * Theme.badgeScale
+        anchors.left: parent.left
+        anchors.leftMargin: Theme.rowStart
+        y: cell.stacked ? 10 + (name.implicitHeight - height) / 2 : (parent.height - height) / 2
+    }
+    Label {
+        id: name
+
+        text: cell.cell.name
+        elide: cell.stacked ? Text.ElideNone : Text.ElideMiddle
+        wrapMode: cell.stacked ? Text.WrapAnywhere : Text.NoWrap
+        anchors.left: parent.left
+        anchors.leftMargin: badge.visible ? 25 + badge.width : Theme.rowStart
+        anchors.right: cell.stacked ? parent.right : state.left
+        anchors.rightMargin: 12
+        y: cell.stacked ? 10 : (parent.height - height) / 2
+    }
+    StateWord {
+        id: state
+
+        word: cell.cell.state
+        mark: cell.cell.mark
+        color: cell.cell.color
+        markLeads: cell.stacked
+        x: cell.stacked !== Theme.mirrored ? (cell.stacked ? name.x : 15)
+                                           : cell.stacked ? name.x + name.width - width : parent.width - width - 15
+        y: cell.stacked ? name.y + name.height : (parent.height - height) / 2
+    }
+}

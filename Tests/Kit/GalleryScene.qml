@@ -1,0 +1,43 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+
+/// A list screen as the application's are.
+PageScaffold {
+    id: scene
+
+    required property var controller
+
+    scrollView: table.flickable
+    bar: RootBar {
+        title: scene.controller.title
+        trailing: [
+            IconButton {
+                iconName: "settings"
+                text: "Settings"
+            },
+            IconButton {
+                iconName: "add"
+                text: "Add"
+            }
+        ]
+    }
+
+    CardTable {
+        id: table
+
+        objectName: "table"
+        anchors.fill: parent
+        topSpace: 0
+        table: scene.controller.tableView
+        refreshControl: scene.controller.refreshControl
+        delegate: GalleryRow {}
+        onSwipeButtonTapped: (section, row, index, leading) => scene.controller.swipeTapped(section, row, index, leading)
+    }
+    Alert {
+        outlet: scene.controller.alert
+    }
+    ActionSheet {
+        outlet: scene.controller.actions
+    }
+}
