@@ -2,11 +2,14 @@
 #include "Application/Model/Corvel.h"
 #include "Application/Model/Group.h"
 #include "Application/Model/StoreStack.h"
+#include "Platform/Queues/MainQueue.h"
 
 #include <gmock/gmock.h>
 
 #include <atomic>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <thread>
 
 namespace lodestar
@@ -117,6 +120,26 @@ TEST_F(CorvelTests, OnlyAttributesMakeChanges)
     EXPECT_FALSE(context().hasChanges());
     corvel->setVersion(std::nullopt);
     EXPECT_TRUE(context().hasChanges());
+}
+
+TEST_F(CorvelTests, ADeletedPasswordIsWipedOnTheMainQueuesNextTurn)
+{
+    for (const bool closedBefore : {false, true}) {
+        const CorvelRef corvel = insert();
+        corvel->setPassword("s3cret");
+        StoreStack::shared().saveContext();
+        context().deleteObject(corvel);
+        StoreStack::shared().saveContext();
+        if (closedBefore) {
+            StoreStack::shared().close();
+        }
+        MainQueue::shared().drain();
+        for (const auto& entry : std::filesystem::directory_iterator(folder / "Documents")) {
+            std::ifstream file(entry.path(), std::ios::binary);
+            const std::string bytes(std::istreambuf_iterator<char>(file), {});
+            EXPECT_THAT(bytes, ::testing::Not(::testing::HasSubstr("s3cret"))) << entry.path();
+        }
+    }
 }
 
 TEST_F(CorvelTests, TheLastFetchIsASnapshotOnEveryThread)

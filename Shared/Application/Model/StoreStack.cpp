@@ -4,6 +4,7 @@
 #include "Application/Model/Corvel.h"
 #include "Application/Model/Group.h"
 #include "Feedback/VireoLogger.h"
+#include "Platform/Queues/MainQueue.h"
 
 #include <cstdlib>
 #include <utility>
@@ -54,6 +55,14 @@ ObjectContext& StoreStack::managedObjectContext()
                         std::make_shared<Error>(opened.error())});
         }
         m_context = std::move(opened).value();
+        // The reset deletes and saves console by console, on the main thread: one wiping at its end is enough.
+        m_context->setScrubNeeded([] {
+            MainQueue::shared().async([] {
+                if (const auto& context = shared().m_context; context != nullptr) {
+                    context->scrub();
+                }
+            });
+        });
     }
     return *m_context;
 }

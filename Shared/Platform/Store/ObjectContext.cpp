@@ -112,7 +112,8 @@ struct ObjectContext::State {
     std::vector<ObjectRef> inserted;     ///< not saved yet, in order
     std::vector<ManagedObject*> changed; ///< saved ones with dirty bits; owned by `saved`
     std::vector<ObjectRef> deleted;      ///< still in the store
-    bool scrubPending = false;           ///< the log still holds deleted records
+    std::function<void()> scrubNeeded;
+    bool scrubPending = false; ///< the log still holds deleted records
 };
 
 void ManagedObject::setAttribute(std::size_t index, AttributeValue value)
@@ -327,18 +328,25 @@ Result<void> ObjectContext::save()
         m_state->entities[object->m_entity].saved.insert_or_assign(rowIds[i], std::move(object));
     }
     m_state->inserted.clear();
-    scrub();
+    if (m_state->scrubPending && m_state->scrubNeeded) {
+        m_state->scrubNeeded();
+    } else {
+        scrub();
+    }
     return {};
 }
 
-// The write-ahead log keeps every page as it once was, deleted passwords included, until it is moved into the main file
-// and cut. The save itself stands by now, so a failure here only leaves the work to the next save or to closing.
+// The deletion itself stands by now: a failure here only leaves the work to the next save or to closing.
 void ObjectContext::scrub()
 {
     if (m_state->scrubPending) {
-        m_state->scrubPending = sqlite3_wal_checkpoint_v2(m_state->database->getHandle(), "main",
-                                                          SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr) != SQLITE_OK;
+        m_state->scrubPending = !emptyLog(*m_state->database);
     }
+}
+
+void ObjectContext::setScrubNeeded(std::function<void()> scrubNeeded)
+{
+    m_state->scrubNeeded = std::move(scrubNeeded);
 }
 
 } // namespace lodestar

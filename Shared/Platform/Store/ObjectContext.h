@@ -100,6 +100,12 @@ public:
     /// Writes what changed, in one transaction. On failure the store is as before and every change still pending.
     Result<void> save();
 
+    /// Wipes what deleted objects left in the store's files, if anything; a few writes to the disk. `save` does so at
+    /// once, or, with a function set here, calls that, which is to see to it soon: many deletions in a row then share
+    /// it. What is not wiped by then is when the store is closed or opened again.
+    void scrub();
+    void setScrubNeeded(std::function<void()> scrubNeeded);
+
 private:
     friend class ManagedObject;
     struct State;
@@ -109,7 +115,6 @@ private:
     void writeDeleted();
     void writeChanged();
     std::vector<std::int64_t> writeInserted();
-    void scrub();
 
     std::unique_ptr<State> m_state;
 };

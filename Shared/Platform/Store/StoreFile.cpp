@@ -343,10 +343,19 @@ Result<std::unique_ptr<SQLite::Database>> connect(const std::string& path, const
     }
     setCheckpointOnClose(*database, true);
     makePrivate(path);
+    if (hasLog) {
+        emptyLog(*database); // a process that was killed could not
+    }
     return database;
 }
 
 } // namespace
+
+bool emptyLog(const SQLite::Database& database)
+{
+    return sqlite3_wal_checkpoint_v2(database.getHandle(), "main", SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr) ==
+           SQLITE_OK;
+}
 
 Error storeError(const SQLite::Exception& exception)
 {

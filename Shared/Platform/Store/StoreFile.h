@@ -18,6 +18,10 @@ namespace lodestar
 /// what is no store of this model, a damaged store, a store that cannot be written, a log whose main file is missing.
 Result<std::unique_ptr<SQLite::Database>> openStoreFile(const std::string& path, const ManagedObjectModel& model);
 
+/// Moves the write-ahead log into the main file and cuts it to nothing. Until then it keeps every page as it once was,
+/// deleted passwords included. False when that failed, with the store as good as before.
+bool emptyLog(const SQLite::Database& database);
+
 /// Domain `storeErrorDomain`, SQLite's extended code and text.
 Error storeError(const SQLite::Exception& exception);
 
