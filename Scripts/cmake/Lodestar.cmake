@@ -23,6 +23,7 @@ target_compile_options(lodestar_settings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Wold-style-cast
   -Woverloaded-virtual -Werror
   "-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=")
+target_compile_definitions(lodestar_settings INTERFACE QT_NO_KEYWORDS)
 target_include_directories(lodestar_settings INTERFACE "${CMAKE_SOURCE_DIR}/Shared")
 find_package(Threads REQUIRED)
 target_link_libraries(lodestar_settings INTERFACE Threads::Threads)

@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Application/MainStoryboard.h"
+
+#include "Kit/Core/NavigationController.h"
+#include "Kit/Core/Storyboard.h"
+#include "Kit/Core/TabBarController.h"
+#include "Views/Corvels/CorvelListViewController.h"
+#include "Views/Corvels/DeltaCorvelViewController.h"
+#include "Views/Dashboard/DashboardTableViewController.h"
+
+#include <QCoreApplication>
+
+namespace lodestar
+{
+namespace
+{
+
+QUrl viewsScene(const char* file)
+{
+    return QUrl(QStringLiteral("qrc:/Lodestar/Views/") + QLatin1String(file));
+}
+
+QUrl applicationScene(const char* file)
+{
+    return QUrl(QStringLiteral("qrc:/Lodestar/Application/") + QLatin1String(file));
+}
+
+std::shared_ptr<ViewController> inNavigation(const char* identifier)
+{
+    return makeController<NavigationController>(Storyboard::main().instantiateViewController(identifier));
+}
+
+/// The main interface: the console list and the dashboard, each in a stack of its own, behind the tab bar.
+std::shared_ptr<ViewController> makeMainInterface()
+{
+    return makeController<TabBarController>(std::vector<TabBarItem>{
+        {QCoreApplication::translate("MainStoryboard", "Corvels"), QStringLiteral("tab_consoles"),
+         inNavigation("corvelListView")},
+        {QCoreApplication::translate("MainStoryboard", "Dashboard"), QStringLiteral("tab_dashboard"),
+         inNavigation("dashboardView")},
+    });
+}
+
+template <typename Controller>
+Storyboard::Factory factory()
+{
+    return [] { return makeController<Controller>(); };
+}
+
+} // namespace
+
+void registerMainStoryboard(LoginViewController::RootSwitch showRoot)
+{
+    Storyboard& storyboard = Storyboard::main();
+    storyboard.registerScene(
+        "loginViewController",
+        [showRoot = std::move(showRoot)] { return makeController<LoginViewController>(showRoot); },
+        applicationScene("LoginScene.qml"));
+    storyboard.registerScene("mainView", &makeMainInterface, {});
+    storyboard.registerScene("corvelListView", factory<CorvelListViewController>(), viewsScene("CorvelListScene.qml"));
+    storyboard.registerScene("deltaCorvel", factory<DeltaCorvelViewController>(), viewsScene("DeltaCorvelScene.qml"));
+    storyboard.registerScene("dashboardView", factory<DashboardTableViewController>(),
+                             viewsScene("DashboardScene.qml"));
+}
+
+} // namespace lodestar

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Application/TerminationSignals.h"
+
+#include <QSocketNotifier>
+
+#ifdef Q_OS_UNIX
+#include <cerrno>
+#include <csignal>
+#include <fcntl.h>
+#include <unistd.h>
+#endif
+
+namespace lodestar
+{
+
+#ifdef Q_OS_UNIX
+
+namespace
+{
+
+constexpr int endingSignals[] = {SIGTERM, SIGINT, SIGHUP};
+
+// The handler may only write; the main loop reads.
+int signalPipe[2] = {-1, -1};
+
+void noteSignal(int)
+{
+    const int interrupted = errno;
+    const char one = 1;
+    [[maybe_unused]] const ssize_t written = ::write(signalPipe[1], &one, 1);
+    errno = interrupted;
+}
+
+} // namespace
+
+struct TerminationSignals::State {
+    std::function<void()> terminate;
+    std::unique_ptr<QSocketNotifier> notifier;
+};
+
+TerminationSignals::TerminationSignals(std::function<void()> terminate) : m_state(std::make_unique<State>())
+{
+    m_state->terminate = std::move(terminate);
+    if (::pipe(signalPipe) != 0) {
+        return;
+    }
+    for (const int end : signalPipe) {
+        ::fcntl(end, F_SETFD, FD_CLOEXEC);
+        ::fcntl(end, F_SETFL, O_NONBLOCK);
+    }
+    m_state->notifier = std::make_unique<QSocketNotifier>(signalPipe[0], QSocketNotifier::Read);
+    QObject::connect(m_state->notifier.get(), &QSocketNotifier::activated, [state = m_state.get()] {
+        state->notifier->setEnabled(false);
+        state->terminate();
+    });
+    struct sigaction action = {};
+    action.sa_handler = &noteSignal;
+    action.sa_flags = SA_RESTART;
+    for (const int signal : endingSignals) {
+        ::sigaction(signal, &action, nullptr);
+    }
+}
+
+TerminationSignals::~TerminationSignals()
+{
+    for (const int signal : endingSignals) {
+        ::signal(signal, SIG_DFL);
+    }
+    m_state->notifier.reset();
+    ::close(signalPipe[0]);
+    ::close(signalPipe[1]);
+}
+
+#else
+
+struct TerminationSignals::State {
+};
+TerminationSignals::TerminationSignals(std::function<void()>) {}
+TerminationSignals::~TerminationSignals() = default;
+
+#endif
+
+} // namespace lodestar

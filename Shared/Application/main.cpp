@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Application/Adapters/FileUserDefaults.h"
+#include "Application/Adapters/MainLoop.h"
+#include "Application/Adapters/PackageResources.h"
+#include "Application/Adapters/SystemKeychain.h"
+#include "Application/AppDelegate.h"
+#include "Application/FeedbackWindow.h"
+#include "Application/MainStoryboard.h"
+#include "Application/Model/StoreStack.h"
+#include "Application/TerminationSignals.h"
+#include "Feedback/VireoLogger.h"
+#include "Kit/Core/UIFont+System.h"
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QGuiApplication>
+#include <QStandardPaths>
+
+#include <cstdio>
+
+using namespace lodestar;
+
+namespace
+{
+
+struct Options {
+    QString dataFolder;
+    bool fullScreen = false;
+    bool quitAfterFirstFrame = false;
+};
+
+Options parseOptions(const QGuiApplication& application)
+{
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QCoreApplication::translate("main", "Watches Corvel consoles and changes nothing."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    const QCommandLineOption data(QStringLiteral("data"),
+                                  QCoreApplication::translate("main", "Keep everything in this folder."),
+                                  QStringLiteral("folder"));
+    const QCommandLineOption fullScreen(QStringLiteral("full-screen"),
+                                        QCoreApplication::translate("main", "Fill the screen."));
+    const QCommandLineOption firstFrame(
+        QStringLiteral("quit-after-first-frame"),
+        QCoreApplication::translate("main", "Leave once the first screen is drawn, for measuring."));
+    parser.addOptions({data, fullScreen, firstFrame});
+    parser.process(application);
+    return {parser.value(data), parser.isSet(fullScreen), parser.isSet(firstFrame)};
+}
+
+/// Makes the folder, for this user alone. Everything that is kept lies below it.
+QString makeDataFolder(const QString& asked)
+{
+    const QString folder = asked.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
+                                           : QDir(asked).absolutePath();
+    QDir().mkpath(folder);
+    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    return folder;
+}
+
+void installPlatform(const QString& folder)
+{
+    VireoLogger::openLogFolder((folder + QStringLiteral("/Logs")).toStdString());
+    UserDefaults::install(
+        std::make_unique<FileUserDefaults>((folder + QStringLiteral("/Lodestar.defaults")).toStdString()));
+    Keychain::install(std::make_unique<SystemKeychain>());
+    Resources::install(std::make_unique<PackageResources>());
+    StoreStack::shared().setApplicationDocumentsDirectory((folder + QStringLiteral("/Documents")).toStdString());
+}
+
+/// Becoming active locks; the first activation comes with the first frame, so the initial screen is not made twice.
+void followActivation(const QGuiApplication& application, AppDelegate& delegate)
+{
+    QObject::connect(&application, &QGuiApplication::applicationStateChanged, [&delegate](Qt::ApplicationState state) {
+        if (state == Qt::ApplicationActive) {
+            delegate.applicationDidBecomeActive();
+        }
+    });
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setApplicationName(QStringLiteral("Lodestar"));
+    QGuiApplication::setApplicationVersion(QStringLiteral(LODESTAR_VERSION));
+    QGuiApplication::setDesktopFileName(QStringLiteral("org.ornis.Lodestar"));
+    const Options options = parseOptions(application);
+
+    const MainLoop mainLoop;
+    const TerminationSignals terminationSignals([] { QGuiApplication::quit(); });
+    installPlatform(makeDataFolder(options.dataFolder));
+    UIFont::install();
+
+    AppDelegate delegate;
+    registerMainStoryboard([&delegate](std::shared_ptr<ViewController> root) {
+        delegate.window()->setRootViewController(std::move(root));
+    });
+    delegate.applicationDidFinishLaunching();
+
+    FeedbackWindow* window = delegate.window();
+    if (options.quitAfterFirstFrame) {
+        QObject::connect(window, &QQuickWindow::frameSwapped, &application, &QGuiApplication::quit,
+                         Qt::QueuedConnection);
+    }
+    delegate.showInitialViewController();
+    window->loadInterface();
+    if (options.fullScreen) {
+        window->showFullScreen();
+    } else {
+        window->resize(390, 844);
+        window->show();
+    }
+    followActivation(application, delegate);
+
+    const int status = QGuiApplication::exec();
+    delegate.applicationWillTerminate();
+    FeedbackWindow::tearDown();
+    UserDefaults::standard().synchronize();
+    VireoLogger::flush();
+    return status;
+}
