@@ -3,7 +3,7 @@
 
 #include "Feedback/VireoLogger.h"
 #include "Kit/Core/Kit.h"
-#include "Views/Common/Views.h"
+#include "Views/Views.h"
 
 #include <QKeyEvent>
 #include <QQmlEngine>
