@@ -61,4 +61,17 @@ std::string userInfoDescription(const Error& error)
     return singleLine("{" + pairs + "}");
 }
 
+std::string shownDescription(const Error& error)
+{
+    if (!error.localizedDescription.empty()) {
+        return error.localizedDescription;
+    }
+    constexpr std::string_view failed = "The operation couldn\u2019t be completed. ";
+    std::string sentence(failed);
+    if (!error.failureReason.empty()) {
+        return sentence + error.failureReason;
+    }
+    return sentence + "(" + error.domain + " error " + std::to_string(error.code) + ".)";
+}
+
 } // namespace lodestar

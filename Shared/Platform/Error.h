@@ -33,5 +33,7 @@ inline constexpr std::string_view storeErrorDomain = "ObjectStore";
 std::string description(const Error& error);
 /// The part of the error that is not domain and code, as `{key=value, …}`: what a log calls the user information.
 std::string userInfoDescription(const Error& error);
+/// What a person is told: the error's own description, or a sentence made of its reason, or of its domain and code.
+std::string shownDescription(const Error& error);
 
 } // namespace lodestar

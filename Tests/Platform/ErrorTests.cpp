@@ -27,5 +27,15 @@ TEST(ErrorTests, UserInformationIsEverythingButDomainAndCode)
               "{localizedDescription=Timed out, failureReason=idle, underlying=ObjectStore 11}");
 }
 
+TEST(ErrorTests, AnErrorThatNobodyDescribedStillTellsSomething)
+{
+    EXPECT_EQ(shownDescription({"RXPromise", -1000, {}, {}, nullptr}),
+              "The operation couldn\u2019t be completed. (RXPromise error -1000.)");
+    EXPECT_EQ(shownDescription({"RXPromise", -1000, {}, "No answer.", nullptr}),
+              "The operation couldn\u2019t be completed. No answer.");
+    EXPECT_EQ(shownDescription({"URLError", -1001, "The request timed out.", "why", nullptr}),
+              "The request timed out.");
+}
+
 } // namespace
 } // namespace lodestar
