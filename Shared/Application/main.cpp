@@ -102,8 +102,14 @@ int main(int argc, char** argv)
 
     FeedbackWindow* window = delegate.window();
     if (options.quitAfterFirstFrame) {
-        QObject::connect(window, &QQuickWindow::frameSwapped, &application, &QGuiApplication::quit,
-                         Qt::QueuedConnection);
+        QObject::connect(
+            window, &QQuickWindow::frameSwapped, &application,
+            [] {
+                std::puts("first frame");
+                std::fflush(stdout);
+                QGuiApplication::quit();
+            },
+            Qt::QueuedConnection);
     }
     delegate.showInitialViewController();
     window->loadInterface();
