@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
+import Lodestar.Application
 import Lodestar.Kit
 
 // The application's mark on the bare ground.
