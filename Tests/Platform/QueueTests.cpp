@@ -46,17 +46,17 @@ TEST(ThreadPoolTests, GrowsWhileEveryThreadBlocksAndShrinksWhenIdle)
 {
     constexpr std::ptrdiff_t blockers = 16;
     std::latch everybodyIn(blockers);
-    std::latch done(blockers);
+    std::latch goOn(1);
     ThreadPool pool({2, 16, 1ms, 5ms});
     for (std::ptrdiff_t i = 0; i < blockers; ++i) {
-        // Returns only if all run at the same time.
         pool.submit([&] {
-            everybodyIn.arrive_and_wait();
-            done.count_down();
+            everybodyIn.count_down();
+            goOn.wait();
         });
     }
-    done.wait();
+    everybodyIn.wait(); // returns only if all run at the same time
     EXPECT_EQ(pool.threadCount(), static_cast<std::size_t>(blockers));
+    goOn.count_down();
     const auto limit = std::chrono::steady_clock::now() + 30s;
     while (pool.threadCount() > 2 && std::chrono::steady_clock::now() < limit) {
         std::this_thread::yield();

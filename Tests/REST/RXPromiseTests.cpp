@@ -221,6 +221,37 @@ TEST(RXPromiseTests, NothingRegisteredDuringSettlementIsLostWithTheHandle)
     ASSERT_EQ(ran, 3 * rounds);
 }
 
+TEST(RXPromiseTests, AContextMayRegisterAndLetGoWhileItIsGivenABlock)
+{
+    class Registering final : public ManualThread
+    {
+    public:
+        void dispatchBlock(Task block) override
+        {
+            ManualThread::dispatchBlock(std::move(block));
+            if (derived.has_value()) {
+                derived->thenOn(next, [this](int value) { seen += value; });
+                derived.reset();
+            }
+        }
+        std::optional<RXPromise<int>> derived;
+        std::shared_ptr<ManualThread> next = std::make_shared<ManualThread>();
+        int seen = 0;
+    };
+    const auto before = std::make_shared<ManualThread>();
+    const auto registering = std::make_shared<Registering>();
+    {
+        const RXPromise<int> source;
+        registering->derived = source.thenOn(before, [](int value) { return value; });
+        registering->derived->thenOn(registering, [&](int value) { registering->seen += value; });
+        source.fulfillWithValue(1);
+    }
+    EXPECT_EQ(before->runAll(), 1U) << "settles the derived promise, whose only handle goes meanwhile";
+    registering->runAll();
+    registering->next->runAll();
+    EXPECT_EQ(registering->seen, 2);
+}
+
 TEST(RXPromiseTests, QueuesAreKnownByTheirLabels)
 {
     const RXPromise<int> promise;
