@@ -40,19 +40,19 @@ protected:
     }
     static RXPromise<int> fulfilled(int value)
     {
-        const RXPromise<int> promise;
+        RXPromise<int> promise;
         promise.fulfillWithValue(value);
         return promise;
     }
     static RXPromise<int> rejected(std::string_view why)
     {
-        const RXPromise<int> promise;
+        RXPromise<int> promise;
         promise.rejectWithReason(why);
         return promise;
     }
     static RXPromise<int> cancelled()
     {
-        const RXPromise<int> promise;
+        RXPromise<int> promise;
         promise.cancel();
         return promise;
     }
@@ -128,7 +128,7 @@ TEST_F(RXPromiseChainTests, HandlersAgreeOnTheDerivedType)
 TEST_F(RXPromiseChainTests, AReturnedPromiseIsWaitedFor)
 {
     for (const bool settleFirst : {true, false}) {
-        const RXPromise<int> inner;
+        RXPromise<int> inner;
         const RXPromise<int> outer;
         const auto derived = outer.thenOnMain([&](int) { return inner; });
         const auto end = derived.thenOnMain([](int v) { return v + 1; }, [](const Error&) { return -1; });
@@ -266,6 +266,7 @@ TEST_F(RXPromiseChainTests, AllNeverRejectsWhenEveryInputRecovers)
 {
     std::vector<RXPromise<std::string>> recovered;
     std::vector<RXPromise<int>> sources(6);
+    recovered.reserve(sources.size());
     for (const auto& source : sources) {
         recovered.push_back(source.then([](int v) { return std::to_string(v); }, [](const Error&) { return "NA"; }));
     }

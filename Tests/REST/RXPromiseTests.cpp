@@ -2,6 +2,7 @@
 // Settling, contexts, order, life.
 #include "Controllers/REST/RXPromise.h"
 #include "Platform/Queues/MainQueue.h"
+#include "Tests/Platform/StoreFixture.h"
 
 #include <gtest/gtest.h>
 
@@ -134,6 +135,25 @@ TEST(RXPromiseTests, EachContextRunsItsHandlers)
     EXPECT_EQ(ExecutionContext::defaultConcurrentQueue().kind(), DispatchQueue::Kind::Concurrent);
 }
 
+using RXPromiseStoreTests = test::StoreFixture;
+
+TEST_F(RXPromiseStoreTests, AnObjectContextRunsHandlersWhereItIsUsed)
+{
+    MainQueue::shared().adoptCurrentThread();
+    const std::unique_ptr<ObjectContext> context = open();
+    bool onMain = false;
+    const RXPromise<std::string> promise;
+    promise.thenOn(*context, [&](const std::string& title) {
+        onMain = MainQueue::shared().isCurrent();
+        insert(*context, title);
+    });
+    std::thread([&] { promise.fulfillWithValue("from a worker"); }).join();
+    EXPECT_TRUE(titles(fetch(*context)).empty());
+    MainQueue::shared().drain();
+    EXPECT_TRUE(onMain);
+    EXPECT_EQ(titles(fetch(*context)), std::vector<std::string>{"from a worker"});
+}
+
 TEST(RXPromiseTests, HandlersOfDifferentPromisesRunAtTheSameTime)
 {
     // Shared: a handler may still be looking at it when this test is over.
@@ -179,6 +199,7 @@ TEST(RXPromiseTests, ManyThreadsSettleAndRegisterAndEachHandlerRunsOnce)
         std::latch handled(40);
         std::atomic<int> sum = 0;
         std::vector<std::thread> threads;
+        threads.reserve(4);
         for (int t = 0; t < 4; ++t) {
             threads.emplace_back([&, t] {
                 start.arrive_and_wait();

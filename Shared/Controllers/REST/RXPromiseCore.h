@@ -127,14 +127,12 @@ public:
     Node() = default;
     Node(const Node&) = delete;
     Node& operator=(const Node&) = delete;
+    virtual ~Node() = default;
 
     /// On the thread that settles (or registers on a settled promise), outside the sync queue.
     virtual void parentSettled(Core& parent) = 0;
     /// The promise is gone without having been settled.
     virtual void parentGone() = 0;
-
-protected:
-    virtual ~Node() = default;
 
 private:
     friend class Core;
@@ -180,8 +178,6 @@ public:
     void addNode(Node& node) { addNode(node, nullptr); }
 
 protected:
-    ~Core() override = default;
-
     /// Settles with what `store` puts in place, within the sync queue. False, and `store` not called, when settled.
     template <typename Store>
     bool settle(State state, Store&& store)

@@ -126,6 +126,12 @@ public:
     static_assert(std::is_copy_constructible_v<Stored<T>>, "Every handler may want the value");
 
     explicit ValueCore(ExecutionContext context) : Core(std::move(context)) {}
+    ~ValueCore() override
+    {
+        if (settledState() == State::Fulfilled) {
+            std::destroy_at(&m_value);
+        }
+    }
 
     void fulfil(Stored<T> value)
     {
@@ -150,13 +156,6 @@ public:
     }
 
 protected:
-    ~ValueCore() override
-    {
-        if (settledState() == State::Fulfilled) {
-            std::destroy_at(&m_value);
-        }
-    }
-
     /// Settles with the outcome of a handler.
     template <typename Outcome>
     void resolve(State parentState, Outcome outcome)

@@ -15,10 +15,12 @@ class Task
 {
 public:
     static constexpr std::size_t inlineSize = 48;
+    static constexpr std::size_t inlineAlignment = alignof(std::max_align_t);
 
     Task() = default;
-    template <typename F>
-    requires(!std::is_same_v<std::decay_t<F>, Task> && std::is_invocable_v<std::decay_t<F>&>) Task(F&& function)
+    template <typename F, typename = std::enable_if_t<!std::is_same_v<std::decay_t<F>, Task> &&
+                                                      std::is_invocable_v<std::decay_t<F>&>>>
+    Task(F&& function)
     {
         using Function = std::decay_t<F>;
         if constexpr (fitsInline<Function>()) {
@@ -61,8 +63,9 @@ private:
     template <typename F>
     static constexpr bool fitsInline()
     {
-        return sizeof(F) <= inlineSize && alignof(F) <= alignof(std::max_align_t) &&
-               std::is_nothrow_move_constructible_v<F>;
+        constexpr bool fits = sizeof(F) <= inlineSize;
+        constexpr bool aligned = alignof(F) <= inlineAlignment;
+        return fits && aligned && std::is_nothrow_move_constructible_v<F>;
     }
     template <typename F>
     static constexpr Operations inlineOperations = {
@@ -90,7 +93,7 @@ private:
     }
 
     const Operations* m_operations = nullptr;
-    alignas(std::max_align_t) std::byte m_storage[inlineSize];
+    alignas(inlineAlignment) std::byte m_storage[inlineSize];
 };
 
 } // namespace lodestar
