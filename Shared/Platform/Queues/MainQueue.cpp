@@ -2,6 +2,7 @@
 #include "Platform/Queues/MainQueue.h"
 
 #include "Platform/Queues/Ring.h"
+#include "Platform/Queues/ThreadName.h"
 
 #include <algorithm>
 #include <atomic>
@@ -9,7 +10,6 @@
 #include <cstdint>
 #include <memory>
 #include <mutex>
-#include <pthread.h>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -98,7 +98,7 @@ void MainQueue::State::callWake(std::unique_lock<std::mutex>& lock)
 
 void MainQueue::State::runTimers()
 {
-    pthread_setname_np(pthread_self(), "lodestar-timer");
+    nameThisThread("lodestar-timer");
     std::unique_lock lock(mutex);
     while (true) {
         if (timers.empty()) {

@@ -2,6 +2,7 @@
 #include "Platform/Queues/ThreadPool.h"
 
 #include "Platform/Queues/Ring.h"
+#include "Platform/Queues/ThreadName.h"
 
 #include <algorithm>
 #include <atomic>
@@ -10,7 +11,6 @@
 #include <cstdlib>
 #include <ctime>
 #include <mutex>
-#include <pthread.h>
 #include <system_error>
 #include <thread>
 #include <vector>
@@ -191,7 +191,7 @@ void ThreadPool::State::startThread()
 
 void ThreadPool::State::work()
 {
-    pthread_setname_np(pthread_self(), "lodestar-pool");
+    nameThisThread("lodestar-pool");
     std::unique_lock lock(mutex);
     Job job;
     while (nextJob(job, lock)) {
@@ -277,7 +277,7 @@ bool ThreadPool::State::sleep(std::unique_lock<std::mutex>& lock)
 
 void ThreadPool::State::watch()
 {
-    pthread_setname_np(pthread_self(), "lodestar-watch");
+    nameThisThread("lodestar-watch");
     std::unique_lock lock(mutex);
     while (!stopped && !(finishing && threads == 0)) {
         if (!watching) {

@@ -12,7 +12,7 @@ PageScaffold {
     readonly property CorvelListViewController corvels: controller as CorvelListViewController
     readonly property bool sheetUp: corvels.semiModal !== null
     /// Points of the window that the keyboard covers.
-    readonly property real keyboardHeight: Qt.inputMethod.visible ? Qt.inputMethod.keyboardRectangle.height : 0
+    readonly property real keyboardHeight: Qt.inputMethod.keyboardRectangle.height
 
     onKeyboardHeightChanged: {
         if (keyboardHeight > 0) {
@@ -43,12 +43,12 @@ PageScaffold {
     scrollView: table.flickable
 
     Shortcut {
-        sequences: [StandardKey.New]
+        sequences: ["Ctrl+N"]
         enabled: scene.visible && !scene.sheetUp
         onActivated: scene.corvels.addCorvel()
     }
     Shortcut {
-        sequences: [StandardKey.Refresh, "Ctrl+R"]
+        sequences: ["F5", "Ctrl+R"]
         enabled: scene.visible && !scene.sheetUp
         onActivated: scene.corvels.refreshControl.pull()
     }

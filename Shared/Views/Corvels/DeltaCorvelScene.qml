@@ -22,7 +22,6 @@ SheetContent {
         target: scene.controller
         function onEndEditingRequested() {
             scene.forceActiveFocus(Qt.OtherFocusReason);
-            Qt.inputMethod.hide();
         }
     }
 
@@ -48,20 +47,24 @@ SheetContent {
             EditorField {
                 id: nameField
 
+                editor: scene.editor
                 label: qsTr("Name")
                 outlet: scene.editor.nameField
                 ruled: false
             }
             EditorField {
+                editor: scene.editor
                 label: qsTr("Address")
                 outlet: scene.editor.addressField
                 inputMethodHints: Qt.ImhUrlCharactersOnly | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
             }
             EditorField {
+                editor: scene.editor
                 label: qsTr("User ID")
                 outlet: scene.editor.usernameField
             }
             EditorField {
+                editor: scene.editor
                 label: qsTr("Password")
                 outlet: scene.editor.passwordField
                 secure: true
@@ -71,25 +74,33 @@ SheetContent {
                 busy: scene.editor.busy
                 width: parent.width
 
-                Rule {}
+                Rule {
+                    editor: scene.editor
+                }
             }
         }
     }
 
     component Rule: Hairline {
-        x: Theme.mirrored ? scene.editor.separatorRight : scene.editor.separatorLeft
-        width: parent.width - scene.editor.separatorLeft - scene.editor.separatorRight
+        id: rule
+
+        required property DeltaCorvelViewController editor
+
+        x: Theme.mirrored ? rule.editor.separatorRight : rule.editor.separatorLeft
+        width: parent.width - rule.editor.separatorLeft - rule.editor.separatorRight
     }
     component EditorField: FormField {
         id: field
 
+        required property DeltaCorvelViewController editor
         property bool ruled: true
 
         // Pale while saving only: beside an error the text has to be read, though it cannot be changed for a moment yet.
-        opacity: scene.editor.busy ? 0.5 : 1
-        onReturnPressed: scene.editor.textFieldShouldReturn(outlet)
+        opacity: field.editor.busy ? 0.5 : 1
+        onReturnPressed: field.editor.textFieldShouldReturn(outlet)
 
         Rule {
+            editor: field.editor
             visible: field.ruled
         }
     }

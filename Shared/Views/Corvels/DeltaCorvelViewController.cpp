@@ -154,7 +154,7 @@ void DeltaCorvelViewController::didFail(const Error& error)
 {
     LODESTAR_LOG(fileName, "-[DeltaCorvelViewController saveCorvel:]", "Error: {} - > {}", description(error),
                  "saveCorvel:");
-    showStatusWithError(QString::fromStdString(error.localizedDescription));
+    showStatusWithError(QString::fromStdString(shownDescription(error)));
 }
 
 void DeltaCorvelViewController::cancel()

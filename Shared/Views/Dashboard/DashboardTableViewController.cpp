@@ -131,8 +131,10 @@ PieChartData pieData(const StateCounts& counts, const QList<QColor>& colors, dou
 /// Lets the calling thread run only when nothing else wants the processor.
 void takeIdlePriority()
 {
+#ifdef SCHED_IDLE
     const sched_param parameters{};
     pthread_setschedparam(pthread_self(), SCHED_IDLE, &parameters);
+#endif
 }
 
 } // namespace
