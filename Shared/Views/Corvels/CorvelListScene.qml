@@ -11,8 +11,9 @@ PageScaffold {
 
     readonly property CorvelListViewController corvels: controller as CorvelListViewController
     readonly property bool sheetUp: corvels.semiModal !== null
+    readonly property var inputMethod: Qt.inputMethod
     /// Points of the window that the keyboard covers.
-    readonly property real keyboardHeight: Qt.inputMethod.keyboardRectangle.height
+    readonly property real keyboardHeight: inputMethod.visible ? inputMethod.keyboardRectangle.height : 0
 
     onKeyboardHeightChanged: {
         if (keyboardHeight > 0) {
