@@ -283,7 +283,8 @@ TEST_F(InventoryTest, WorkingListKeepsTheStoresOrderAndIsReadFromAnyThread)
     std::atomic<bool> over{false};
     std::thread reader([&over] {
         while (!over) {
-            for (const CorvelRef& corvel : *handler().corvelListSnapshot()) {
+            const auto list = handler().corvelListSnapshot();
+            for (const CorvelRef& corvel : *list) {
                 ASSERT_TRUE(corvel->address());
             }
         }

@@ -40,7 +40,8 @@ public:
     void setCorvelList(std::vector<CorvelRef> list);
     void addCorvel(CorvelRef corvel);
     void removeCorvelAtIndex(std::size_t index);
-    /// The list as it is now, from any thread.
+    /// The list as it is now, from any thread. Keep the pointer in a variable while going through the list: a range-for
+    /// over the call itself would let it go.
     std::shared_ptr<const std::vector<CorvelRef>> corvelListSnapshot() const;
     /// Every record of the store, in the store's order; none when the fetch fails. Main thread.
     std::vector<CorvelRef> fetchCorvels() const;

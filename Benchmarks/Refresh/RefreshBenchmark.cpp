@@ -1,0 +1,304 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Application/Model/StoreStack.h"
+#include "Benchmarks/Rows.h"
+#include "Controllers/REST/RESTHandler.h"
+#include "Platform/Queues/MainQueue.h"
+#include "Platform/URLLoading/ServerTrust.h"
+#include "Platform/UserDefaults.h"
+#include "Simulator/SimulatorProcess.h"
+
+#include <benchmark/benchmark.h>
+
+#include <array>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <spawn.h>
+#include <stdexcept>
+#include <string>
+#include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+extern char** environ;
+
+// Ours and the reference run as whole processes in turn, each with its own start and its own handshakes. The addresses,
+// session keys and certificates are laid out in a file by this program, which also runs the simulator.
+
+namespace lodestar
+{
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+constexpr std::array<std::string_view, 6> feedPaths = {
+    "uom/ManagementConsole", "uom/ManagedSystem",    "uom/VirtualIOServer",
+    "uom/LogicalPartition",  "sem/ServiceableEvent", "uom/Group",
+};
+constexpr int lookUps = 200;
+
+struct Console {
+    std::string address;
+    std::string key;
+    std::string fingerprint; ///< lower-case hexadecimal
+};
+
+ServerTrust::Fingerprint fingerprintOf(const std::string& hex)
+{
+    ServerTrust::Fingerprint leaf{};
+    for (std::size_t i = 0; i < leaf.size(); ++i) {
+        leaf[i] = static_cast<std::uint8_t>(std::stoi(hex.substr(2 * i, 2), nullptr, 16));
+    }
+    return leaf;
+}
+
+// ---- What a measured process of ours does.
+
+std::vector<Console> readConsoles(const std::string& path)
+{
+    std::vector<Console> consoles;
+    std::ifstream file(path);
+    for (Console one; file >> one.address >> one.key >> one.fingerprint;) {
+        ServerTrust::shared().remember(one.address, 12443, fingerprintOf(one.fingerprint));
+        UserDefaults::standard().setString(one.key, one.address);
+        consoles.push_back(one);
+    }
+    return consoles;
+}
+
+/// Fetches and counts every console as a refresh does, and prints the memory that this took.
+int refreshAll(const std::string& path)
+{
+    auto& handler = RESTHandler::sharedInstance();
+    std::vector<CorvelRef> corvels;
+    std::vector<RXPromise<std::string>> refreshes;
+    for (const Console& console : readConsoles(path)) {
+        auto corvel = std::make_shared<Corvel>();
+        corvel->setName(console.address);
+        corvel->setAddress(console.address);
+        corvels.push_back(corvel);
+        refreshes.push_back(handler.fetchAllDataForCorvel(corvel, console.key)
+                                .then([corvel, &handler](const std::shared_ptr<const FeedDictionary>& feeds) {
+                                    corvel->setRestData(feeds);
+                                    return handler.processInformationForCorvel(corvel);
+                                }));
+    }
+    const auto all = RXPromise<std::string>::all(refreshes);
+    if (!MainQueue::shared().runUntil([&all] { return all.isFulfilled(); }, std::chrono::minutes(10))) {
+        return 1;
+    }
+    std::size_t retained = 0;
+    for (const CorvelRef& corvel : corvels) {
+        for (const std::string_view feedPath : feedPaths) {
+            const Feed feed = feedOfType(*corvel, feedPath.substr(4));
+            if (feed.isNA() || feed.entryCount() == 0) {
+                std::fprintf(stderr, "%s has no %.*s\n", corvel->address()->c_str(), static_cast<int>(feedPath.size()),
+                             feedPath.data());
+                return 1;
+            }
+            retained += feed.root().documentMemory();
+        }
+    }
+    rusage usage{};
+    getrusage(RUSAGE_SELF, &usage);
+    std::ofstream(path + ".memory") << static_cast<double>(usage.ru_maxrss) * 1024 << ' ' << retained << '\n';
+    return 0;
+}
+
+/// Looks a value up again and again on the calling thread, as a list does for its rows.
+int lookUpAll(const std::string& path, const std::string& link)
+{
+    readConsoles(path);
+    Corvel corvel;
+    corvel.setAddress(link.substr(8, link.find(':', 8) - 8));
+    for (int i = 0; i < lookUps; ++i) {
+        if (!RESTHandler::sharedInstance().fetchDataFromAtomLink(link, corvel)) {
+            return 1;
+        }
+    }
+    return 0;
+}
+
+// ---- The measuring process.
+
+/// Runs a program to its end; nanoseconds.
+double run(const std::vector<std::string>& command)
+{
+    std::vector<char*> arguments;
+    for (const std::string& word : command) {
+        arguments.push_back(const_cast<char*>(word.c_str()));
+    }
+    arguments.push_back(nullptr);
+    const auto start = std::chrono::steady_clock::now();
+    pid_t pid = 0;
+    int status = 0;
+    if (posix_spawnp(&pid, arguments[0], nullptr, nullptr, arguments.data(), environ) != 0 ||
+        waitpid(pid, &status, 0) != pid || status != 0) {
+        throw std::runtime_error(command[0] + " failed");
+    }
+    return std::chrono::duration<double, std::nano>(std::chrono::steady_clock::now() - start).count();
+}
+
+/// A fleet whose consoles are logged on to, with the files that the measured processes read.
+class Fleet
+{
+public:
+    explicit Fleet(int consoles)
+    {
+        std::string folder = (fs::temp_directory_path() / "lodestar-refresh-XXXXXX").string();
+        if (mkdtemp(folder.data()) == nullptr) {
+            throw std::runtime_error("no scratch folder");
+        }
+        m_folder = folder;
+        StoreStack::shared().setApplicationDocumentsDirectory(folder);
+        simulator::Settings settings;
+        settings.consoles = consoles;
+        settings.systems = 40;
+        settings.vios = 80;
+        settings.events = 120;
+        settings.groups = 120;
+        settings.feedBytes = 200'000;
+        settings.gzip = false; // curl would be sent ten times as much
+        settings.recordCap = 0;
+        m_simulator.start(settings);
+        logOn();
+        writeFiles();
+    }
+    ~Fleet()
+    {
+        StoreStack::shared().close();
+        fs::remove_all(m_folder);
+    }
+    Fleet(const Fleet&) = delete;
+    Fleet& operator=(const Fleet&) = delete;
+
+    double ours(const std::string& mode) const
+    {
+        return run({fs::read_symlink("/proc/self/exe").string(), mode, m_folder + "/consoles", m_link});
+    }
+    double curl(const std::string& configuration) const { return run({"curl", "-q", "-K", m_folder + configuration}); }
+    /// Peak resident memory and retained feeds of the last refresh, in bytes.
+    std::pair<double, double> memory() const
+    {
+        std::pair<double, double> bytes{0, 0};
+        std::ifstream(m_folder + "/consoles.memory") >> bytes.first >> bytes.second;
+        return bytes;
+    }
+
+private:
+    void logOn()
+    {
+        std::vector<RXPromise<SessionKey>> logons;
+        for (int i = 0; i < m_simulator.consoleCount(); ++i) {
+            auto corvel = std::make_shared<Corvel>();
+            corvel->setAddress(m_simulator.address(i));
+            corvel->setUsername(m_simulator.user());
+            corvel->setPassword(m_simulator.password());
+            logons.push_back(RESTHandler::sharedInstance().login(corvel, CheckToken::Yes));
+        }
+        const auto all = RXPromise<SessionKey>::all(logons);
+        MainQueue::shared().runUntil([&all] { return !all.isPending(); }, std::chrono::minutes(5));
+        const auto result = all.result();
+        if (!result || !*result) {
+            throw std::runtime_error("a console could not be logged on to");
+        }
+        for (std::size_t i = 0; i < result->value().size(); ++i) {
+            const int console = static_cast<int>(i);
+            m_consoles.push_back({m_simulator.address(console), result->value()[i].value(),
+                                  m_simulator.certificateFingerprint(console)});
+        }
+    }
+
+    static void addTransfer(std::ofstream& file, const std::string& url, const Console& console)
+    {
+        file << "url = \"" << url << "\"\noutput = \"/dev/null\"\nheader = \"X-API-Session: " << console.key
+             << "\"\ninsecure\nhttp1.1\n";
+    }
+
+    void writeFiles()
+    {
+        std::ofstream list(m_folder + "/consoles");
+        std::ofstream feeds(m_folder + "/feeds");
+        feeds << "parallel\nsilent\nfail\n";
+        const char* separator = "";
+        for (const Console& console : m_consoles) {
+            list << console.address << ' ' << console.key << ' ' << console.fingerprint << '\n';
+            for (const std::string_view path : feedPaths) {
+                feeds << std::exchange(separator, "next\nfail\n");
+                addTransfer(feeds, "https://" + console.address + ":12443/rest/api/" + std::string(path), console);
+            }
+        }
+        m_link = "https://" + m_consoles[0].address + ":12443/rest/api/uom/LogicalPartition/none/quick/PartitionState";
+        std::ofstream single(m_folder + "/lookups");
+        single << "silent\n";
+        for (int i = 0; i < lookUps; ++i) {
+            addTransfer(single, m_link, m_consoles[0]);
+        }
+    }
+
+    std::string m_folder;
+    simulator::SimulatorProcess m_simulator;
+    std::vector<Console> m_consoles;
+    std::string m_link;
+};
+
+void measureRows(bench::Rows& rows)
+{
+    for (const int consoles : {50, 500}) {
+        const Fleet fleet(consoles);
+        double excess = 0;
+        const auto medians = bench::medianInterleaved(
+            [&] {
+                const double time = fleet.ours("--refresh");
+                const auto [resident, retained] = fleet.memory();
+                excess = std::max(excess, resident - retained);
+                return time;
+            },
+            [&] { return fleet.curl("/feeds"); });
+        const std::string what = "refresh of " + std::to_string(consoles) + " consoles x 6 feeds";
+        rows.add(what + " / curl --parallel", medians.ours, medians.reference, 1.15);
+        rows.add(what + ": memory beyond the feeds / 150 MB", excess / 1e6, 150, 1, "MB");
+        if (consoles == 50) {
+            const auto lookUpTimes = bench::medianInterleaved([&] { return fleet.ours("--look-ups"); },
+                                                              [&] { return fleet.curl("/lookups"); });
+            rows.add("200 blocking look-ups / curl on one connection", lookUpTimes.ours, lookUpTimes.reference, 1.3);
+        }
+    }
+}
+
+void refreshOnce(benchmark::State& state)
+{
+    const Fleet fleet(static_cast<int>(state.range(0)));
+    for ([[maybe_unused]] auto iteration : state) {
+        fleet.ours("--refresh");
+    }
+}
+BENCHMARK(refreshOnce)->Arg(50)->Unit(benchmark::kMillisecond)->UseRealTime();
+
+} // namespace
+} // namespace lodestar
+
+int main(int argc, char** argv)
+{
+    using namespace lodestar;
+    if (argc == 4 && std::string_view(argv[1]) == "--refresh") {
+        return refreshAll(argv[2]);
+    }
+    if (argc == 4 && std::string_view(argv[1]) == "--look-ups") {
+        return lookUpAll(argv[2], argv[3]);
+    }
+    bench::Rows rows(argc, argv);
+    if (rows.requested()) {
+        measureRows(rows);
+        return rows.write();
+    }
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
+        return 1;
+    }
+    benchmark::RunSpecifiedBenchmarks();
+    return 0;
+}
