@@ -59,6 +59,8 @@ ServerTrust::Fingerprint fingerprintOf(const std::string& hex)
 
 std::vector<Console> readConsoles(const std::string& path)
 {
+    // A store of its own, beside the one of the measuring process.
+    StoreStack::shared().setApplicationDocumentsDirectory(fs::path(path).parent_path().string() + "/measured");
     std::vector<Console> consoles;
     std::ifstream file(path);
     for (Console one; file >> one.address >> one.key >> one.fingerprint;) {
@@ -72,10 +74,11 @@ std::vector<Console> readConsoles(const std::string& path)
 /// Fetches and counts every console as a refresh does, and prints the memory that this took.
 int refreshAll(const std::string& path)
 {
+    const std::vector<Console> consoles = readConsoles(path);
     auto& handler = RESTHandler::sharedInstance();
     std::vector<CorvelRef> corvels;
     std::vector<RXPromise<std::string>> refreshes;
-    for (const Console& console : readConsoles(path)) {
+    for (const Console& console : consoles) {
         auto corvel = std::make_shared<Corvel>();
         corvel->setName(console.address);
         corvel->setAddress(console.address);
@@ -153,6 +156,7 @@ public:
             throw std::runtime_error("no scratch folder");
         }
         m_folder = folder;
+        fs::create_directory(m_folder + "/measured");
         StoreStack::shared().setApplicationDocumentsDirectory(folder);
         simulator::Settings settings;
         settings.consoles = consoles;
@@ -222,7 +226,7 @@ private:
     {
         std::ofstream list(m_folder + "/consoles");
         std::ofstream feeds(m_folder + "/feeds");
-        feeds << "parallel\nsilent\nfail\n";
+        feeds << "parallel\nno-progress-meter\nsilent\nfail\n";
         const char* separator = "";
         for (const Console& console : m_consoles) {
             list << console.address << ' ' << console.key << ' ' << console.fingerprint << '\n';
@@ -233,7 +237,7 @@ private:
         }
         m_link = "https://" + m_consoles[0].address + ":12443/rest/api/uom/LogicalPartition/none/quick/PartitionState";
         std::ofstream single(m_folder + "/lookups");
-        single << "silent\n";
+        single << "no-progress-meter\nsilent\n";
         for (int i = 0; i < lookUps; ++i) {
             addTransfer(single, m_link, m_consoles[0]);
         }

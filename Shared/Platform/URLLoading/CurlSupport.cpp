@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <malloc.h>
 #include <mutex>
 #include <sys/resource.h>
 
@@ -49,6 +50,10 @@ void prepareProcessForTransfers()
     static std::once_flag once;
     std::call_once(once, [] {
         curl_global_init(CURL_GLOBAL_DEFAULT);
+#ifdef M_ARENA_MAX
+        // Bodies are filled on one thread and freed on others: with an arena a thread each would keep what others need.
+        mallopt(M_ARENA_MAX, 2);
+#endif
         rlimit files{};
         if (getrlimit(RLIMIT_NOFILE, &files) == 0 && files.rlim_cur < files.rlim_max) {
             files.rlim_cur = files.rlim_max;
