@@ -106,7 +106,7 @@ protected:
     {
         auto outcome = std::make_shared<std::promise<Result<URLLoad>>>();
         auto future = outcome->get_future();
-        sendAsynchronousRequest(request, m_queue, [outcome](Result<URLLoad> load) { outcome->set_value(load); });
+        sendAsynchronousRequest(request, m_queue, [outcome](const Result<URLLoad>& load) { outcome->set_value(load); });
         if (future.wait_for(patience) != std::future_status::ready) {
             return Error{"test", 0, "the request never ended", {}, nullptr};
         }

@@ -11,7 +11,6 @@
 #include <sys/resource.h>
 
 using testing::AllOf;
-using testing::AnyOf;
 using testing::Each;
 using testing::ElementsAre;
 using testing::Ge;
@@ -383,6 +382,7 @@ TEST_F(URLLoadingTest, BlockingLookUpsShareOneConnection)
     EXPECT_TRUE(loadAsynchronously(feedRequest(simulator, key)).ok());
 
     std::vector<std::thread> threads;
+    threads.reserve(8);
     std::atomic<int> good{0};
     for (int i = 0; i < 8; ++i) {
         threads.emplace_back([&] {

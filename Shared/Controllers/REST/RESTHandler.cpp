@@ -229,7 +229,7 @@ URLRequest RESTHandler::sessionValidRequestWithToken(const std::string& token, c
     return request;
 }
 
-RXPromise<SessionKey> RESTHandler::login(CorvelRef corvel, CheckToken checkToken)
+RXPromise<SessionKey> RESTHandler::login(const CorvelRef& corvel, CheckToken checkToken)
 {
     RXPromise<SessionKey> promise;
     if (corvel->demo() == 1) {

@@ -49,15 +49,16 @@ public:
     URLRequest loginRequestForCorvel(const Corvel& corvel) const;
     URLRequest sessionValidRequestWithToken(const std::string& token, const Corvel& corvel) const;
     /// The key with which the console's requests are to be made. Rejected when the logon fails.
-    RXPromise<SessionKey> login(CorvelRef corvel, CheckToken checkToken);
+    RXPromise<SessionKey> login(const CorvelRef& corvel, CheckToken checkToken);
 
     /// One feed's root. Rejected when the request fails or ends with a status other than 200.
-    RXPromise<XMLElement> fetchDataOfType(std::string_view type, CorvelRef corvel, std::string_view schema,
-                                          SessionKey key);
+    RXPromise<XMLElement> fetchDataOfType(std::string_view type, const CorvelRef& corvel, std::string_view schema,
+                                          const SessionKey& key);
     /// All six feeds in parallel; never rejected: a feed that failed is "NA".
-    RXPromise<std::shared_ptr<const FeedDictionary>> fetchAllDataForCorvel(CorvelRef corvel, SessionKey key);
+    RXPromise<std::shared_ptr<const FeedDictionary>> fetchAllDataForCorvel(const CorvelRef& corvel,
+                                                                           const SessionKey& key);
     /// Counts managed systems in error and with a lit attention LED into the record; always fulfilled with "OK".
-    RXPromise<std::string> processInformationForCorvel(CorvelRef corvel);
+    RXPromise<std::string> processInformationForCorvel(const CorvelRef& corvel);
     /// The text behind a link, without its quotes. Blocks the calling thread until the answer or the time-out.
     std::optional<std::string> fetchDataFromAtomLink(const std::string& link, const Corvel& corvel) const;
     XMLElement getDemoDataForContentType(std::string_view type) const;

@@ -77,8 +77,8 @@ void settle(const RXPromise<XMLElement>& promise, const Result<URLLoad>& load)
 
 } // namespace
 
-RXPromise<XMLElement> RESTHandler::fetchDataOfType(std::string_view type, CorvelRef corvel, std::string_view schema,
-                                                   SessionKey key)
+RXPromise<XMLElement> RESTHandler::fetchDataOfType(std::string_view type, const CorvelRef& corvel,
+                                                   std::string_view schema, const SessionKey& key)
 {
     RXPromise<XMLElement> promise;
     if (corvel->demo() == 1) {
@@ -97,7 +97,8 @@ RXPromise<XMLElement> RESTHandler::fetchDataOfType(std::string_view type, Corvel
     return promise;
 }
 
-RXPromise<std::shared_ptr<const FeedDictionary>> RESTHandler::fetchAllDataForCorvel(CorvelRef corvel, SessionKey key)
+RXPromise<std::shared_ptr<const FeedDictionary>> RESTHandler::fetchAllDataForCorvel(const CorvelRef& corvel,
+                                                                                    const SessionKey& key)
 {
     RXPromise<std::shared_ptr<const FeedDictionary>> promise;
     const auto collector = std::make_shared<FeedCollector>();
@@ -122,7 +123,7 @@ RXPromise<std::shared_ptr<const FeedDictionary>> RESTHandler::fetchAllDataForCor
     return promise;
 }
 
-RXPromise<std::string> RESTHandler::processInformationForCorvel(CorvelRef corvel)
+RXPromise<std::string> RESTHandler::processInformationForCorvel(const CorvelRef& corvel)
 {
     RXPromise<std::string> promise;
     corvel->numMSErrors = 0;

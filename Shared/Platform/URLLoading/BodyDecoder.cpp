@@ -12,7 +12,7 @@ namespace
 
 constexpr int anyHeader = 15 + 32; // largest window, zlib and gzip headers told apart by zlib
 constexpr int noHeader = -15;
-constexpr std::size_t pieceSize = 32 * 1024;
+constexpr std::size_t pieceSize = 32UL * 1024;
 
 } // namespace
 

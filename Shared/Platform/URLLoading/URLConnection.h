@@ -96,10 +96,10 @@ Result<URLLoad> sendSynchronousRequest(const URLRequest& request);
 
 /// What protects the device from a hostile server. Process-wide; set before the first transfer, tests excepted.
 struct TransferLimits {
-    std::size_t headerBytes = 256 * 1024;       ///< all header bytes of one transfer, redirects included
-    std::size_t bodyBytes = 192 * 1024 * 1024;  ///< one decoded body
-    std::size_t heldBytes = 1024 * 1024 * 1024; ///< all bodies being received at once
-    int redirects = 20;                         ///< hops followed; the last response is then the answer
+    std::size_t headerBytes = 256UL * 1024;       ///< all header bytes of one transfer, redirects included
+    std::size_t bodyBytes = 192UL * 1024 * 1024;  ///< one decoded body
+    std::size_t heldBytes = 1024UL * 1024 * 1024; ///< all bodies being received at once
+    int redirects = 20;                           ///< hops followed; the last response is then the answer
     /// A transfer's total time is its idle limit times this, so that a trickling server cannot hold it for ever.
     int totalTimeFactor = 1;
 
