@@ -98,8 +98,9 @@ std::vector<Look> editorLooks()
         {"console-editor-error-added", five, edit, true},
         {"console-editor-error-logon", five,
          [](SceneStage& stage) {
-             filledEditor(stage).showStatusWithError("The operation couldn't be completed: the console at "
-                                                     "corvel-c.harbour.example took too long to answer.");
+             DeltaCorvelViewController& editor = filledEditor(stage);
+             editor.showStatusWithMessage("verifying...");
+             editor.showStatusWithError("Could not connect to the server.");
          },
          true},
     };

@@ -12,8 +12,9 @@ TableCell {
 
     required property corvelListCell cell
 
-    readonly property bool stacked: Theme.stacked
-    readonly property bool captioned: !stacked && Theme.widthClass(Window.width) !== Theme.compactWidth
+    readonly property bool captioned: !Theme.stacked && Theme.widthClass(Window.width) !== Theme.compactWidth
+    /// One value a line: with large text, and where the three would not fit beside each other.
+    readonly property bool stacked: Theme.stacked || (!captioned && metrics.neededWidth > width - Theme.rowStart - trailing)
     readonly property bool narrow: Window.width < 375
     readonly property real scale100: Theme.textScale
     /// Kept free at the end for the chevron, there or not, so that columns stay in line.
@@ -159,6 +160,7 @@ TableCell {
             /// A value that needs more than its column takes it from the next.
             readonly property real secondStart: Math.max(firstColumn, status.implicitWidth + 12)
             readonly property real thirdStart: secondStart + Math.max(secondColumn, attention.implicitWidth + 12)
+            readonly property real neededWidth: thirdStart + events.implicitWidth
 
             anchors {
                 left: row.captioned ? undefined : parent.left
