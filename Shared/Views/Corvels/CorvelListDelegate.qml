@@ -130,11 +130,8 @@ TableCell {
             color: Theme.ink2
             elide: Text.ElideMiddle
             width: Math.min(implicitWidth, content.identityWidth)
-            anchors {
-                left: besideName ? undefined : parent.left
-                right: besideName ? parent.right : undefined
-                rightMargin: besideName ? 24 : 0
-            }
+            // By place, not by anchors: an item that changes from one side's anchor to the other's loses its width.
+            x: besideName === Theme.mirrored ? (besideName ? 24 : 0) : parent.width - width - (besideName ? 24 : 0)
             y: besideName ? name.baselineOffset - baselineOffset : address.y + address.height
             Accessible.ignored: true
         }
@@ -162,11 +159,7 @@ TableCell {
             readonly property real thirdStart: secondStart + Math.max(secondColumn, attention.implicitWidth + 12)
             readonly property real neededWidth: thirdStart + events.implicitWidth
 
-            anchors {
-                left: row.captioned ? undefined : parent.left
-                right: parent.right
-                rightMargin: row.captioned ? 24 : 0
-            }
+            x: !row.captioned ? 0 : Theme.mirrored ? 24 : parent.width - width - 24
             width: content.metricsWidth
             height: row.stacked ? 2 * lineStep + events.height : status.height
             y: row.captioned ? Math.round((content.height - height) / 2)
