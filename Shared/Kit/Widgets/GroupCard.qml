@@ -15,6 +15,8 @@ Item {
     property real separatorLeft: 10
     property real separatorRight: 15
 
+    property var shownRows: []
+
     implicitHeight: column.implicitHeight
 
     Rectangle {
@@ -26,6 +28,7 @@ Item {
         id: column
 
         width: parent.width
+        onPositioningComplete: card.shownRows = Array.from(children).filter((row) => row.visible && row.height > 0)
     }
     function pressed(item: Item): bool {
         const row = item as MenuRow;
@@ -33,14 +36,14 @@ Item {
     }
 
     Repeater {
-        model: column.visibleChildren.length
+        model: Math.max(0, card.shownRows.length - 1)
 
         Hairline {
             required property int index
-            readonly property Item below: column.visibleChildren[index] ?? null
-            readonly property Item above: column.visibleChildren[index - 1] ?? null
+            readonly property Item above: card.shownRows[index] ?? null
+            readonly property Item below: card.shownRows[index + 1] ?? null
 
-            visible: above !== null && below !== null && !card.pressed(above) && !card.pressed(below)
+            visible: !card.pressed(above) && !card.pressed(below)
             x: Theme.mirrored ? card.separatorRight : card.separatorLeft
             y: below !== null ? below.y : 0
             width: card.width - card.separatorLeft - card.separatorRight
