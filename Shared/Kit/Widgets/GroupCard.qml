@@ -30,20 +30,16 @@ Item {
         width: parent.width
         onPositioningComplete: card.shownRows = Array.from(children).filter((row) => row.visible && row.height > 0)
     }
-    function pressed(item: Item): bool {
-        const row = item as MenuRow;
-        return row !== null && row.pressedLook;
-    }
-
     Repeater {
         model: Math.max(0, card.shownRows.length - 1)
 
         Hairline {
             required property int index
-            readonly property Item above: card.shownRows[index] ?? null
             readonly property Item below: card.shownRows[index + 1] ?? null
+            readonly property MenuRow rowAbove: card.shownRows[index] as MenuRow
+            readonly property MenuRow rowBelow: below as MenuRow
 
-            visible: !card.pressed(above) && !card.pressed(below)
+            visible: !(rowAbove !== null && rowAbove.pressedLook) && !(rowBelow !== null && rowBelow.pressedLook)
             x: Theme.mirrored ? card.separatorRight : card.separatorLeft
             y: below !== null ? below.y : 0
             width: card.width - card.separatorLeft - card.separatorRight
