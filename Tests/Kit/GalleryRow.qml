@@ -31,10 +31,11 @@ TableCell {
         text: cell.cell.name
         elide: cell.stacked ? Text.ElideNone : Text.ElideMiddle
         wrapMode: cell.stacked ? Text.WrapAnywhere : Text.NoWrap
-        anchors.left: parent.left
-        anchors.leftMargin: badge.visible ? 25 + badge.width : Theme.rowStart
-        anchors.right: cell.stacked ? parent.right : state.left
-        anchors.rightMargin: 12
+        x: Theme.mirrored ? parent.width - start - width : start
+        width: parent.width - start - (cell.stacked ? 15 : state.implicitWidth + 27)
+
+        readonly property real start: badge.visible ? 25 + badge.width : Theme.rowStart
+
         y: cell.stacked ? 10 : (parent.height - height) / 2
     }
     StateWord {
@@ -44,8 +45,8 @@ TableCell {
         mark: cell.cell.mark
         color: cell.cell.color
         markLeads: cell.stacked
-        x: cell.stacked !== Theme.mirrored ? (cell.stacked ? name.x : 15)
-                                           : cell.stacked ? name.x + name.width - width : parent.width - width - 15
+        x: cell.stacked ? (Theme.mirrored ? name.x + name.width - width : name.x)
+                        : Theme.mirrored ? 15 : parent.width - width - 15
         y: cell.stacked ? name.y + name.height : (parent.height - height) / 2
     }
 }

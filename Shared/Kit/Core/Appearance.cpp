@@ -65,10 +65,12 @@ bool Appearance::isReducedMotion() const
     return m_reducedMotion.value_or(false);
 }
 
-double Appearance::textDrop(int pixelSize, double lineHeight) const
+double Appearance::textDrop(int pixelSize, double lineHeight, double devicePixelRatio) const
 {
     const QFontMetricsF metrics(UIFont::systemFontOfSize(pixelSize));
-    return (lineHeight + metrics.capHeight()) / 2 - metrics.ascent();
+    const double baseline = (lineHeight + metrics.capHeight()) / 2;
+    const double ratio = std::max(1.0, devicePixelRatio);
+    return std::round(baseline * ratio) / ratio - metrics.ascent();
 }
 
 void Appearance::overrideDark(std::optional<bool> dark)

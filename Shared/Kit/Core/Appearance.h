@@ -36,8 +36,9 @@ public:
     bool isMirrored() const;
     bool isReducedMotion() const;
 
-    /// How far below the top of a line of that height a text of that size starts, so that its capitals are centred.
-    Q_INVOKABLE double textDrop(int pixelSize, double lineHeight) const;
+    /// How far below the top of a line of that height a text of that size starts, so that its capitals are centred and
+    /// stand on a device pixel.
+    Q_INVOKABLE double textDrop(int pixelSize, double lineHeight, double devicePixelRatio) const;
 
     void overrideDark(std::optional<bool> dark);
     void overrideTextScale(std::optional<double> scale);

@@ -19,7 +19,7 @@ T.Popup {
     modal: true
     dim: true
     focus: true
-    closePolicy: T.Popup.NoAutoClose
+    closePolicy: T.Popup.CloseOnReleaseOutside
     padding: 0
     width: parent !== null ? Math.min(parent.width - 24, Theme.actionSheetMaxWidth) : 0
     height: card.implicitHeight
@@ -40,6 +40,12 @@ T.Popup {
     }
 
     Component.onCompleted: follow()
+    onAboutToHide: {
+        // By a press beside it.
+        if (outlet.presented) {
+            cancel();
+        }
+    }
     onOpened: card.forceActiveFocus(Qt.OtherFocusReason)
 
     Connections {
@@ -60,9 +66,6 @@ T.Popup {
 
         Behavior on opacity {
             NumberAnimation { duration: Theme.sheetIn }
-        }
-        TapHandler {
-            onTapped: sheet.cancel()
         }
     }
 

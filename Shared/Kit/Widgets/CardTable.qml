@@ -176,14 +176,13 @@ FocusScope {
                 y: place.gap
                 width: place.width - 2 * x
                 height: place.height - place.gap
-                text: place.content !== null ? place.content.accessibleText : ""
                 buttons: place.content !== null ? place.content.swipeButtons : []
                 leadingButtons: place.content !== null ? place.content.leadingSwipeButtons : []
                 pressable: place.selectable
                 highlighted: tableState.selectedIndex === place.index && place.selectable
                 focusShown: place.focused && tableState.keyboardUsed
                 Accessible.role: Accessible.ListItem
-                Accessible.name: text
+                Accessible.name: place.content !== null ? place.content.accessibleText : ""
                 Accessible.selectable: place.selectable
                 Accessible.onPressAction: tableState.activate(place.index, place.selectable)
                 onClicked: {

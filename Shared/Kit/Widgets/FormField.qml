@@ -43,8 +43,9 @@ Item {
     }
 
     // The whole row takes a press.
-    TapHandler {
-        onTapped: input.forceActiveFocus(Qt.MouseFocusReason)
+    MouseArea {
+        anchors.fill: parent
+        onClicked: input.forceActiveFocus(Qt.MouseFocusReason)
     }
     Label {
         id: name
@@ -68,7 +69,7 @@ Item {
         anchors.rightMargin: Theme.rowEnd
         y: field.stacked ? name.y + name.height : 0
         height: parent.height - y
-        topPadding: Math.round(Appearance.textDrop(font.pixelSize, height))
+        topPadding: Appearance.textDrop(font.pixelSize, height, Screen.devicePixelRatio)
         verticalAlignment: TextInput.AlignTop
         horizontalAlignment: TextInput.AlignLeft
         font.family: Theme.family

@@ -13,8 +13,7 @@ Text {
     property real scaleFactor: Theme.textScale
 
     readonly property int drawnSize: fontSizeMode === Text.FixedSize ? font.pixelSize : fontInfo.pixelSize
-    readonly property real drop: Math.round(Appearance.textDrop(drawnSize, lineHeight) * Screen.devicePixelRatio)
-                                 / Screen.devicePixelRatio
+    readonly property real drop: Appearance.textDrop(drawnSize, lineHeight, Screen.devicePixelRatio)
 
     color: Theme.ink
     font.family: Theme.family

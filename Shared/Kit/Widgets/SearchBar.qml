@@ -44,7 +44,7 @@ Item {
             anchors.leftMargin: 8
             anchors.right: clearButton.left
             height: parent.height
-            topPadding: Math.round(Appearance.textDrop(font.pixelSize, height))
+            topPadding: Appearance.textDrop(font.pixelSize, height, Screen.devicePixelRatio)
             verticalAlignment: TextInput.AlignTop
             font.family: Theme.family
             font.pixelSize: Math.round(Theme.bodySize * Theme.barScale)

@@ -17,6 +17,7 @@ T.Popup {
     readonly property SheetContent sheetContent: host.scene as SheetContent
     readonly property int barHeight: Math.max(Theme.target, Math.round(22 * Theme.barScale) + 16)
     property real bodyHeight: 0
+    property bool complete: false
     /// 1 up, 0 away.
     property real slide: 0
 
@@ -26,7 +27,6 @@ T.Popup {
     dim: true
     closePolicy: T.Popup.NoAutoClose
     padding: 0
-    margins: 0
     width: parent !== null ? Math.min(parent.width, Theme.sheetMaxWidth) : 0
     height: Math.min(barHeight + bodyHeight, parent !== null ? parent.height - 24 : 0)
     x: parent !== null ? Math.round((parent.width - width) / 2) : 0
@@ -42,8 +42,15 @@ T.Popup {
         }
     }
 
-    onPresentationChanged: follow()
-    Component.onCompleted: follow()
+    onPresentationChanged: {
+        if (complete) {
+            follow();
+        }
+    }
+    Component.onCompleted: {
+        complete = true;
+        follow();
+    }
     onOpened: {
         if (sheetContent !== null && sheetContent.firstField !== null) {
             sheetContent.firstField.edit(Qt.OtherFocusReason);

@@ -2,12 +2,11 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Lodestar.Kit
 
 /// A row that slides aside and uncovers buttons: trailing ones at its end, leading ones at its start. By finger or mouse,
 /// or at once by a long press, the secondary button or the menu key.
-T.AbstractButton {
+Item {
     id: cell
 
     property var buttons: []
@@ -15,9 +14,10 @@ T.AbstractButton {
     property bool pressable: true
     /// Shown pressed whatever the finger does.
     property bool highlighted: false
-    property bool focusShown: visualFocus
+    property bool focusShown: false
     property color surface: Theme.card
     default property alias content: holder.data
+    signal clicked()
     signal buttonTapped(int index, bool leading)
     /// The cell is about to uncover buttons: close the others.
     signal opening()
@@ -28,7 +28,8 @@ T.AbstractButton {
     property real reveal: 0
     property bool keyboardWanted: false
     readonly property bool isOpen: reveal !== 0
-    readonly property bool pressedLook: highlighted || (pressable && down && !isOpen)
+    readonly property bool hovered: area.containsMouse
+    readonly property bool pressedLook: highlighted || (pressable && area.pressed && area.containsMouse && !area.held && !isOpen)
     readonly property int buttonWidth: 72
     readonly property real trailingWidth: buttons.length * buttonWidth
     readonly property real leadingWidth: leadingButtons.length * buttonWidth
@@ -58,10 +59,10 @@ T.AbstractButton {
     }
     /// To the first of the buttons that are uncovered, or about to be.
     function takeKeyboard() {
-        const buttons = uncovered.itemAt(0) as SwipeButtons;
-        keyboardWanted = buttons === null;
-        if (buttons !== null) {
-            buttons.takeKeyboard();
+        const first = uncovered.itemAt(0) as SwipeButtons;
+        keyboardWanted = first === null;
+        if (first !== null) {
+            first.takeKeyboard();
         }
     }
     function closeByKeyboard() {
@@ -74,9 +75,6 @@ T.AbstractButton {
         settling.start();
     }
 
-    hoverEnabled: pressable
-    focusPolicy: Qt.NoFocus
-
     NumberAnimation {
         id: settling
 
@@ -85,58 +83,92 @@ T.AbstractButton {
         duration: Theme.settle
         easing.type: Easing.OutCubic
     }
-    DragHandler {
-        id: drag
 
-        property real from: 0
-
-        target: null
-        enabled: cell.hasButtons
-        xAxis.enabled: true
-        yAxis.enabled: false
-        cursorShape: Qt.ArrowCursor
-        onActiveChanged: {
-            if (active) {
-                settling.stop();
-                from = cell.reveal;
-                if (from === 0) {
-                    cell.opening();
-                }
-                return;
-            }
-            const extent = cell.reveal > 0 ? cell.trailingWidth : -cell.leadingWidth;
-            const speed = (Theme.mirrored ? 1 : -1) * centroid.velocity.x * Math.sign(extent);
-            const stays = Math.abs(cell.reveal) > Math.abs(extent) / 2 ? speed > -300 : speed > 300;
-            cell.settleTo(stays && extent !== 0 ? extent : 0);
-        }
-        onTranslationChanged: {
-            if (!active) {
-                return;
-            }
-            const wish = from + (Theme.mirrored ? 1 : -1) * translation.x;
-            const limit = wish > 0 ? cell.trailingWidth : cell.leadingWidth;
-            const over = Math.max(0, Math.abs(wish) - limit);
-            // Past the last button the row follows with a fifth of the finger.
-            cell.reveal = Math.sign(wish) * (limit === 0 ? 0 : Math.min(Math.abs(wish), limit) + over / 5);
-        }
-    }
-    TapHandler {
-        acceptedButtons: Qt.RightButton
-        enabled: cell.hasButtons
-        onTapped: cell.toggle()
-    }
-    onPressAndHold: {
-        if (hasButtons) {
-            toggle();
-        }
-    }
-
-    contentItem: Item {
+    Item {
+        anchors.fill: parent
         clip: cell.isOpen
 
         Rectangle {
             anchors.fill: parent
             color: cell.surface
+        }
+        // Pointer handlers here would keep a finger from scrolling the list: Qt 6.4's flickable takes nothing from them.
+        MouseArea {
+            id: area
+
+            property bool held: false
+            property real from: 0
+            property real lastX: 0
+            property real lastTime: 0
+            /// Points a second, towards the end of the row.
+            property real speed: 0
+
+            anchors.fill: parent
+            acceptedButtons: Qt.LeftButton | Qt.RightButton
+            hoverEnabled: true
+            drag.target: cell.hasButtons ? handle : null
+            drag.axis: Drag.XAxis
+            onPressed: {
+                held = false;
+                handle.x = 0;
+            }
+            onClicked: (mouse) => {
+                if (mouse.button === Qt.LeftButton) {
+                    cell.clicked();
+                } else if (cell.hasButtons) {
+                    cell.toggle();
+                }
+            }
+            onPressAndHold: (mouse) => {
+                if (cell.hasButtons && mouse.button === Qt.LeftButton) {
+                    held = true;
+                    cell.toggle();
+                }
+            }
+            drag.onActiveChanged: {
+                if (drag.active) {
+                    settling.stop();
+                    from = cell.reveal;
+                    lastX = handle.x;
+                    lastTime = Date.now();
+                    speed = 0;
+                    if (from === 0) {
+                        cell.opening();
+                    }
+                } else {
+                    letGo();
+                }
+            }
+
+            function follow(x: real) {
+                const now = Date.now();
+                if (now > lastTime) {
+                    speed = (Theme.mirrored ? 1 : -1) * (x - lastX) / (now - lastTime) * 1000;
+                    lastX = x;
+                    lastTime = now;
+                }
+                const wish = from + (Theme.mirrored ? 1 : -1) * x;
+                const limit = wish > 0 ? cell.trailingWidth : cell.leadingWidth;
+                const over = Math.max(0, Math.abs(wish) - limit);
+                // Past the last button the row follows with a fifth of the finger.
+                cell.reveal = Math.sign(wish) * (limit === 0 ? 0 : Math.min(Math.abs(wish), limit) + over / 5);
+            }
+            function letGo() {
+                const extent = cell.reveal > 0 ? cell.trailingWidth : -cell.leadingWidth;
+                // A finger that rested before it went was not flicking.
+                const flick = Date.now() - lastTime < 50 ? speed * Math.sign(extent) : 0;
+                const stays = Math.abs(cell.reveal) > Math.abs(extent) / 2 ? flick > -300 : flick > 300;
+                cell.settleTo(stays ? extent : 0);
+            }
+        }
+        Item {
+            id: handle
+
+            onXChanged: {
+                if (area.drag.active) {
+                    area.follow(x);
+                }
+            }
         }
         Repeater {
             id: uncovered

@@ -1,0 +1,116 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Kit/Core/Appearance.h"
+#include "Kit/Core/Kit.h"
+#include "Kit/Core/ViewController.h"
+
+#include <QCoreApplication>
+#include <QDeadlineTimer>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickView>
+#include <QTest>
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+
+namespace lodestar
+{
+
+/// Runs the event loop until the predicate holds; false when it does not within ten seconds.
+inline bool waitFor(const std::function<bool()>& predicate)
+{
+    const QDeadlineTimer limit(10000);
+    while (!predicate()) {
+        if (limit.hasExpired()) {
+            return false;
+        }
+        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 5);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    return true;
+}
+
+/// A window that shows a controller, as the application's does.
+class KitWindow
+{
+public:
+    explicit KitWindow(const std::shared_ptr<ViewController>& root, QSize size = {390, 844})
+    {
+        installKit(*m_view.engine());
+        QObject::connect(m_view.engine(), &QQmlEngine::warnings, &m_view, [](const QList<QQmlError>& warnings) {
+            for (const QQmlError& warning : warnings) {
+                ADD_FAILURE() << warning.toString().toStdString();
+            }
+        });
+        m_view.engine()->setOutputWarningsToStandardError(false);
+        m_view.setInitialProperties({{QStringLiteral("controller"), QVariant::fromValue<QObject*>(root.get())}});
+        m_view.setResizeMode(QQuickView::SizeRootObjectToView);
+        m_view.resize(size);
+        m_view.setSource(QUrl(QStringLiteral("qrc:/Lodestar/Kit/RootView.qml")));
+        m_view.show();
+        m_view.requestActivate();
+        EXPECT_TRUE(waitFor([&] { return m_view.isExposed() && m_view.isActive(); }));
+    }
+    ~KitWindow()
+    {
+        // Appearance outlives the window, and its overrides would the test.
+        Appearance::shared().overrideDark({});
+        Appearance::shared().overrideTextScale({});
+        Appearance::shared().overrideMirrored({});
+        Appearance::shared().overrideReducedMotion({});
+    }
+
+    QQuickView& view() { return m_view; }
+    /// The first item below the window whose QML type is so named, or whose objectName is; null for none.
+    QQuickItem* find(const QString& name) { return find(m_view.contentItem(), name); }
+    static QQuickItem* find(QQuickItem* item, const QString& name)
+    {
+        const QString type = QString::fromLatin1(item->metaObject()->className()).section(u"_QML"_qs, 0, 0);
+        if (item->objectName() == name || type == name) {
+            return item;
+        }
+        for (QQuickItem* child : item->childItems()) {
+            if (QQuickItem* found = find(child, name)) {
+                return found;
+            }
+        }
+        return nullptr;
+    }
+    static QPoint centre(const QQuickItem* item)
+    {
+        return item->mapToScene({item->width() / 2, item->height() / 2}).toPoint();
+    }
+    void click(const QPoint& at, Qt::MouseButton button = Qt::LeftButton)
+    {
+        QTest::mouseClick(&m_view, button, {}, at);
+    }
+    void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&m_view, key, modifiers); }
+    void drag(QPoint from, QPoint by)
+    {
+        QTest::mousePress(&m_view, Qt::LeftButton, {}, from);
+        for (int step = 1; step <= 8; ++step) {
+            QTest::mouseMove(&m_view, from + by * step / 8, 12);
+        }
+        QTest::mouseRelease(&m_view, Qt::LeftButton, {}, from + by, 60);
+    }
+    void swipe(QPoint from, QPoint by)
+    {
+        static QPointingDevice* const finger = QTest::createTouchDevice();
+        QTest::touchEvent(&m_view, finger).press(1, from, &m_view);
+        for (int step = 1; step <= 8; ++step) {
+            QTest::qWait(12);
+            QTest::touchEvent(&m_view, finger).move(1, from + by * step / 8, &m_view);
+        }
+        QTest::qWait(60);
+        QTest::touchEvent(&m_view, finger).release(1, from + by, &m_view);
+    }
+
+private:
+    QQuickView m_view;
+};
+
+} // namespace lodestar

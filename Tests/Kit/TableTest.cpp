@@ -1,0 +1,208 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/Table.h"
+
+#include "Platform/Queues/MainQueue.h"
+
+#include <QSignalSpy>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <thread>
+
+namespace lodestar
+{
+
+namespace
+{
+
+using testing::ElementsAre;
+
+class Source : public TableDataSource
+{
+public:
+    int numberOfSections(TableKind) const override { return static_cast<int>(rows.size()); }
+    int numberOfRowsInSection(TableKind, int section) const override
+    {
+        ++asked;
+        return rows[static_cast<std::size_t>(section)];
+    }
+    std::optional<QString> titleForHeaderInSection(TableKind, int section) const override
+    {
+        return titles[static_cast<std::size_t>(section)];
+    }
+    QVariant cellForRowAtIndexPath(TableKind, IndexPath indexPath) override
+    {
+        ++configured;
+        return QString("%1.%2").arg(indexPath.section).arg(indexPath.row);
+    }
+    void didSelectRowAtIndexPath(TableKind, IndexPath indexPath) override { selected.push_back(indexPath); }
+
+    std::vector<int> rows;
+    std::vector<std::optional<QString>> titles;
+    mutable int asked = 0;
+    int configured = 0;
+    std::vector<IndexPath> selected;
+};
+
+/// The list as text: headers in brackets, rows by their cell, f and l for first and last.
+std::vector<std::string> shown(const TableOutlet& table)
+{
+    std::vector<std::string> lines;
+    for (int row = 0; row < table.rowCount(); ++row) {
+        const auto read = [&](int role) { return table.data(table.index(row), role); };
+        if (read(TableOutlet::IsHeader).toBool()) {
+            lines.push_back("[" + read(TableOutlet::HeaderTitle).toString().toStdString() + "]");
+            EXPECT_FALSE(read(TableOutlet::Cell).isValid());
+        } else {
+            lines.push_back(read(TableOutlet::Cell).toString().toStdString() +
+                            (read(TableOutlet::FirstInSection).toBool() ? "f" : "") +
+                            (read(TableOutlet::LastInSection).toBool() ? "l" : ""));
+        }
+    }
+    return lines;
+}
+
+void announce()
+{
+    bool later = false;
+    MainQueue::shared().async([&] { later = true; });
+    EXPECT_TRUE(MainQueue::shared().runUntil([&] { return later; }, std::chrono::seconds(5)));
+}
+
+} // namespace
+
+TEST(TableTest, SectionsBecomeOneListWithHeadersEmptyAndEqualOnesIncluded)
+{
+    Source source;
+    source.rows = {2, 0, 0, 1, 0};
+    source.titles = {"A", "A", std::nullopt, std::nullopt, ""};
+    TableOutlet table(source, TableKind::Main);
+    EXPECT_EQ(source.asked, 0);
+    table.reloadData();
+    EXPECT_THAT(shown(table), ElementsAre("[A]", "0.0f", "0.1l", "[A]", "3.0fl", "[]"));
+
+    for (int index = -1; index <= table.count(); ++index) {
+        table.select(index);
+    }
+    EXPECT_THAT(source.selected, ElementsAre(IndexPath{0, 0}, IndexPath{0, 1}, IndexPath{3, 0}));
+    QSignalSpy deselected(&table, &TableOutlet::deselected);
+    table.deselectRow({3, 0});
+    table.deselectRow({2, 0});
+    ASSERT_EQ(deselected.count(), 1);
+    EXPECT_EQ(deselected[0][0], 4);
+}
+
+TEST(TableTest, ReloadChangesTheEndOfTheListOnlyAndAnnouncesCellsOnce)
+{
+    Source source;
+    source.rows = {3};
+    source.titles = {std::nullopt};
+    TableOutlet table(source, TableKind::Main);
+    table.reloadData();
+    announce();
+    QSignalSpy reset(&table, &QAbstractItemModel::modelReset);
+    QSignalSpy inserted(&table, &QAbstractItemModel::rowsInserted);
+    QSignalSpy removed(&table, &QAbstractItemModel::rowsRemoved);
+    QSignalSpy changed(&table, &QAbstractItemModel::dataChanged);
+
+    source.rows = {5};
+    table.reloadData();
+    source.rows = {2};
+    table.reloadData();
+    table.reloadData();
+    ASSERT_EQ(inserted.count(), 1);
+    EXPECT_EQ(inserted[0][1], 3);
+    EXPECT_EQ(inserted[0][2], 4);
+    ASSERT_EQ(removed.count(), 1);
+    EXPECT_EQ(removed[0][1], 2);
+    EXPECT_EQ(removed[0][2], 4);
+    EXPECT_EQ(changed.count(), 0);
+    announce();
+    ASSERT_EQ(changed.count(), 1);
+    EXPECT_EQ(changed[0][1].toModelIndex().row(), 1);
+    EXPECT_EQ(reset.count(), 0);
+
+    // A cell is made once between reloads, whoever asks how often.
+    source.configured = 0;
+    shown(table);
+    shown(table);
+    EXPECT_EQ(source.configured, 2);
+    table.reloadData();
+    shown(table);
+    EXPECT_EQ(source.configured, 4);
+    // A row that comes into view again is always configured again.
+    table.configureCell(0);
+    table.configureCell(0);
+    EXPECT_EQ(source.configured, 6);
+}
+
+TEST(TableTest, ManyReloadsOfAHugeTableAskForItsShapeOnly)
+{
+    Source source;
+    source.rows = {100000};
+    source.titles = {std::nullopt};
+    TableOutlet table(source, TableKind::Main);
+    QSignalSpy changed(&table, &QAbstractItemModel::dataChanged);
+    for (int time = 0; time < 500; ++time) {
+        table.reloadData();
+    }
+    announce();
+    EXPECT_EQ(source.asked, 500);
+    EXPECT_EQ(source.configured, 0);
+    EXPECT_EQ(changed.count(), 1);
+    EXPECT_EQ(table.count(), 100000);
+}
+
+TEST(TableTest, ADeletedRowMovesTheOthersUpWithoutConfiguringThem)
+{
+    Source source;
+    source.rows = {2, 2};
+    source.titles = {"A", "B"};
+    TableOutlet table(source, TableKind::Main);
+    table.reloadData();
+    shown(table);
+    source.configured = 0;
+    QSignalSpy changed(&table, &QAbstractItemModel::dataChanged);
+    source.rows = {1, 2};
+    table.deleteRow({0, 0}, RowAnimation::Left);
+    EXPECT_TRUE(table.isRemovalAnimated());
+    EXPECT_THAT(shown(table), ElementsAre("[A]", "0.1fl", "[B]", "1.0f", "1.1l"));
+    EXPECT_EQ(source.configured, 0);
+    ASSERT_EQ(changed.count(), 1);
+    EXPECT_FALSE(changed[0][2].value<QList<int>>().contains(TableOutlet::Cell));
+
+    source.rows = {0, 2};
+    table.deleteRow({0, 0}, RowAnimation::None);
+    EXPECT_FALSE(table.isRemovalAnimated());
+    EXPECT_THAT(shown(table), ElementsAre("[A]", "[B]", "1.0f", "1.1l"));
+    // A row that was not there: the source knows better.
+    source.rows = {1, 2};
+    table.deleteRow({0, 3}, RowAnimation::Left);
+    EXPECT_THAT(shown(table), ElementsAre("[A]", "0.0fl", "[B]", "1.0f", "1.1l"));
+}
+
+TEST(TableTest, AReloadFromAWorkerAsksTheSourceOnTheMainThread)
+{
+    Source source;
+    source.rows = {1};
+    source.titles = {std::nullopt};
+    TableOutlet table(source, TableKind::Main);
+    RefreshControl control;
+    QSignalSpy pulled(&control, &RefreshControl::valueChanged);
+    control.pull();
+    control.pull();
+    EXPECT_EQ(pulled.count(), 1);
+    std::thread([&] {
+        table.reloadData();
+        table.setHidden(true);
+        control.endRefreshing();
+    }).join();
+    EXPECT_EQ(source.asked, 0);
+    EXPECT_TRUE(control.isRefreshing());
+    announce();
+    EXPECT_EQ(table.count(), 1);
+    EXPECT_TRUE(table.isHidden());
+    EXPECT_FALSE(control.isRefreshing());
+}
+
+} // namespace lodestar

@@ -1,0 +1,148 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/Appearance.h"
+#include "Kit/Core/IconProvider.h"
+#include "Kit/Core/Kit.h"
+
+#include <QColor>
+#include <QDirIterator>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+namespace lodestar
+{
+
+namespace
+{
+
+double light(const QColor& color)
+{
+    const auto linear = [](double part) {
+        return part <= 0.04045 ? part / 12.92 : std::pow((part + 0.055) / 1.055, 2.4);
+    };
+    return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
+}
+
+double contrast(const QColor& one, const QColor& other)
+{
+    const double a = light(one) + 0.05;
+    const double b = light(other) + 0.05;
+    return a > b ? a / b : b / a;
+}
+
+class ThemeTest : public testing::Test
+{
+protected:
+    ThemeTest()
+    {
+        installKit(m_engine);
+        QQmlComponent component(&m_engine);
+        component.setData("import QtQml; import Lodestar.Kit; QtObject { readonly property QtObject theme: Theme }",
+                          {});
+        m_holder.reset(component.create());
+        EXPECT_NE(m_holder, nullptr) << component.errorString().toStdString();
+    }
+    ~ThemeTest() override
+    {
+        Appearance::shared().overrideDark({});
+        Appearance::shared().overrideTextScale({});
+        Appearance::shared().overrideMirrored({});
+    }
+    QVariant theme(const char* property) const
+    {
+        const QVariant value = m_holder->property("theme").value<QObject*>()->property(property);
+        EXPECT_TRUE(value.isValid()) << property;
+        return value;
+    }
+    QColor color(const char* role) const { return theme(role).value<QColor>(); }
+
+    QQmlEngine m_engine;
+    std::unique_ptr<QObject> m_holder;
+};
+
+} // namespace
+
+TEST_F(ThemeTest, TextsKeepTheirContrastInBothAppearances)
+{
+    struct Pair {
+        const char* text;
+        const char* on;
+        double inLight;
+        double inDark;
+    };
+    const Pair pairs[] = {
+        {"ink", "card", 16.4, 16.2},
+        {"ink2", "card", 6.6, 8.8},
+        {"ink2", "ground", 6.0, 4.5},
+        {"ink3", "card", 5.0, 7.0},
+        {"ink3", "ground", 4.5, 4.5},
+        {"titleInk", "ground", 6.7, 13.0},
+        {"accentInk", "card", 5.2, 9.9},
+        {"accentInk", "ground", 4.7, 9.9},
+        {"fillInk", "fill", 5.2, 10.0},
+        {"successGreen", "card", 4.4, 4.2},
+        {"failedRed", "card", 3.2, 5.7},
+        {"errorRed", "plate", 8.3, 6.4},
+        {"systemOrange", "card", 4.8, 8.4},
+        {"systemRedInk", "raised", 4.5, 6.5},
+        {"accent", "card", 2.9, 6.2},
+        {"lightGreyInk", "systemLightGrey", 9.8, 6.6},
+        {"ink", "match", 13.1, 9.9},
+        {"ink", "pressed", 12, 12},
+        {"chartOrange", "card", 3.0, 8.4},
+        {"chartBlue", "card", 11.6, 12.7},
+        {"tesselBlue", "tesselLightGreen", 4.5, 4.5},
+    };
+    for (const bool dark : {false, true}) {
+        Appearance::shared().overrideDark(dark);
+        for (const Pair& pair : pairs) {
+            EXPECT_GE(contrast(color(pair.text), color(pair.on)) + 0.05, dark ? pair.inDark : pair.inLight)
+                << pair.text << " on " << pair.on << (dark ? ", dark" : ", light");
+        }
+    }
+}
+
+TEST_F(ThemeTest, ScaleStopsWhereItShouldAndDirectionFollows)
+{
+    const auto with = [&](double scale) {
+        Appearance::shared().overrideTextScale(scale);
+        return std::vector<double>{theme("textScale").toDouble(), theme("barScale").toDouble(),
+                                   theme("badgeScale").toDouble(), theme("stacked").toBool() ? 1.0 : 0.0};
+    };
+    EXPECT_EQ(with(0.5), (std::vector<double>{1, 1, 1, 0}));
+    EXPECT_EQ(with(1.4), (std::vector<double>{1.4, 1.3, 1.4, 0}));
+    EXPECT_EQ(with(9), (std::vector<double>{2, 1.3, 1.5, 1}));
+    Appearance::shared().overrideMirrored(true);
+    EXPECT_TRUE(theme("mirrored").toBool());
+}
+
+TEST_F(ThemeTest, EveryDrawingIsReadAndTinted)
+{
+    IconProvider provider;
+    int drawings = 0;
+    QDirIterator files(QStringLiteral(":/icons"));
+    while (files.hasNext()) {
+        files.next();
+        const QString name = files.fileInfo().baseName();
+        QSize size;
+        const QImage image = provider.requestImage(name + "/ff0000", &size, {48, 48});
+        ASSERT_EQ(image.size(), QSize(48, 48)) << name.toStdString();
+        int painted = 0;
+        for (int y = 0; y < 48; ++y) {
+            for (int x = 0; x < 48; ++x) {
+                painted += qAlpha(image.pixel(x, y)) > 40 ? 1 : 0;
+            }
+        }
+        EXPECT_GT(painted, 20) << name.toStdString();
+        ++drawings;
+    }
+    EXPECT_GT(drawings, 50);
+    const QImage red = provider.requestImage("state_good/ff0000", nullptr, {12, 12});
+    EXPECT_EQ(red.pixel(6, 6), qRgb(255, 0, 0));
+    EXPECT_NEAR(qAlpha(provider.requestImage("state_good/80ff0000", nullptr, {12, 12}).pixel(6, 6)), 128, 1);
+    EXPECT_TRUE(provider.requestImage("nonesuch/ff0000", nullptr, {}).isNull());
+}
+
+} // namespace lodestar

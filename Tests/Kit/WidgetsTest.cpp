@@ -1,0 +1,346 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Gallery.h"
+#include "Kit/Core/NavigationController.h"
+#include "Kit/Core/TabBarController.h"
+#include "KitWindow.h"
+#include "Platform/Queues/MainQueue.h"
+
+#include <QImage>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace lodestar
+{
+
+namespace
+{
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+std::shared_ptr<GalleryController> gallery(const char* scene)
+{
+    auto controller = makeController<GalleryController>();
+    controller->setScene(QUrl(QStringLiteral("qrc:/kit/%1.qml").arg(QLatin1String(scene))));
+    return controller;
+}
+
+class WidgetsTest : public testing::Test
+{
+protected:
+    std::shared_ptr<GalleryController> list = gallery("GalleryScene");
+
+    /// The drawn row of the list, by its flat index.
+    static QQuickItem* row(KitWindow& window, int index)
+    {
+        QQuickItem* item = nullptr;
+        QMetaObject::invokeMethod(flickable(window), "itemAtIndex", Q_RETURN_ARG(QQuickItem*, item), Q_ARG(int, index));
+        return item;
+    }
+    static QQuickItem* flickable(KitWindow& window)
+    {
+        return window.find("table")->property("flickable").value<QQuickItem*>();
+    }
+    static double reveal(KitWindow& window, int index)
+    {
+        return row(window, index)->property("swipe").value<QQuickItem*>()->property("reveal").toDouble();
+    }
+};
+
+} // namespace
+
+TEST_F(WidgetsTest, ARowSwipesByMouseAndFingerOneAtATimeAndStaysOpenOverAReload)
+{
+    KitWindow window(list);
+    const QPoint first = KitWindow::centre(row(window, 0));
+    window.drag(first, {-130, 0});
+    EXPECT_TRUE(waitFor([&] { return reveal(window, 0) == 144; }));
+    EXPECT_THAT(list->selected, IsEmpty());
+
+    list->rows[0].push_back({"new", "operating", "good", Qt::black, "", true});
+    list->rows[0][0].name = "renamed";
+    list->configured.clear();
+    list->tableView()->reloadData();
+    EXPECT_TRUE(waitFor([&] { return list->configured.size() >= 8; }));
+    EXPECT_EQ(reveal(window, 0), 144);
+    // Every visible row once: eight rows, one of them new, one a header.
+    EXPECT_EQ(list->configured.size(), 8U);
+
+    const QPoint second = KitWindow::centre(row(window, 1));
+    window.swipe(second, {120, 0});
+    EXPECT_TRUE(waitFor([&] { return reveal(window, 1) == -72 && reveal(window, 0) == 0; }));
+    // A tap beside the buttons closes and chooses nothing; a second one chooses.
+    window.click(second);
+    EXPECT_TRUE(waitFor([&] { return reveal(window, 1) == 0; }));
+    EXPECT_THAT(list->selected, IsEmpty());
+    window.click(second);
+    EXPECT_THAT(list->selected, ElementsAre(IndexPath{0, 1}));
+
+    // Too short a swipe falls back; up and down is the list's.
+    window.swipe(first, {-40, 0});
+    EXPECT_TRUE(waitFor([&] { return reveal(window, 0) == 0; }));
+    window.drag(first, {-130, 0});
+    EXPECT_TRUE(waitFor([&] { return reveal(window, 0) == 144; }));
+    window.swipe(second, {0, -60});
+    EXPECT_TRUE(waitFor([&] { return reveal(window, 0) == 0; }));
+}
+
+TEST_F(WidgetsTest, SwipeButtonsReportTheirIndexFromTheOuterEdgeAndSwapSides)
+{
+    for (const bool mirrored : {false, true}) {
+        list = gallery("GalleryScene");
+        Appearance::shared().overrideMirrored(mirrored);
+        KitWindow window(list);
+        Appearance::shared().overrideMirrored(mirrored);
+        const QPoint middle = KitWindow::centre(row(window, 1));
+        window.swipe(middle, {mirrored ? 130 : -130, 0});
+        ASSERT_TRUE(waitFor([&] { return reveal(window, 1) == 144; }));
+        const int edge = mirrored ? 12 : 378;
+        window.click({edge + (mirrored ? 100 : -100), middle.y()});
+        EXPECT_THAT(list->swiped, ElementsAre(1));
+        ASSERT_TRUE(waitFor([&] { return reveal(window, 1) == 0; }));
+
+        window.swipe(middle, {mirrored ? 130 : -130, 0});
+        ASSERT_TRUE(waitFor([&] { return reveal(window, 1) == 144; }));
+        window.click({edge + (mirrored ? 30 : -30), middle.y()});
+        EXPECT_THAT(list->swiped, ElementsAre(1, 0));
+        EXPECT_EQ(list->tableView()->count(), 7);
+        EXPECT_TRUE(waitFor([&] { return KitWindow::centre(row(window, 1)).y() == middle.y(); }));
+    }
+}
+
+TEST_F(WidgetsTest, TheTableWorksByKeyboardAlone)
+{
+    KitWindow window(list);
+    QTest::keyClick(&window.view(), Qt::Key_Tab);
+    for (int tab = 0; tab < 6 && !window.find("table")->hasActiveFocus(); ++tab) {
+        window.key(Qt::Key_Tab);
+    }
+    ASSERT_TRUE(window.find("table")->hasActiveFocus());
+    window.key(Qt::Key_Home);
+    window.key(Qt::Key_Down);
+    window.key(Qt::Key_Return);
+    EXPECT_THAT(list->selected, ElementsAre(IndexPath{0, 1}));
+    // Over the header into the second section, to its end and back up.
+    window.key(Qt::Key_End);
+    window.key(Qt::Key_Up);
+    window.key(Qt::Key_Space);
+    EXPECT_EQ(list->selected.back(), (IndexPath{1, 0}));
+    window.key(Qt::Key_Up);
+    window.key(Qt::Key_Up);
+    window.key(Qt::Key_Enter);
+    EXPECT_EQ(list->selected.back(), (IndexPath{0, 3}));
+
+    window.key(Qt::Key_Menu);
+    EXPECT_TRUE(waitFor([&] { return reveal(window, 3) == 144; }));
+    window.key(Qt::Key_Escape);
+    EXPECT_TRUE(waitFor([&] { return reveal(window, 3) == 0; }));
+    EXPECT_TRUE(window.find("table")->hasActiveFocus());
+    window.key(Qt::Key_Menu);
+    EXPECT_TRUE(waitFor([&] { return reveal(window, 3) == 144; }));
+    window.key(Qt::Key_Left);
+    window.key(Qt::Key_Return);
+    EXPECT_THAT(list->swiped, ElementsAre(1));
+
+    int pulls = 0;
+    QObject::connect(list->refreshControl(), &RefreshControl::valueChanged, [&] { ++pulls; });
+    EXPECT_TRUE(waitFor([&] { return window.find("table")->hasActiveFocus(); }));
+    window.key(Qt::Key_F5);
+    EXPECT_EQ(pulls, 1);
+}
+
+TEST_F(WidgetsTest, APullBeyondThePointRefreshesOnceLetGo)
+{
+    KitWindow window(list);
+    int pulls = 0;
+    QObject::connect(list->refreshControl(), &RefreshControl::valueChanged, [&] {
+        ++pulls;
+        list->refreshControl()->endRefreshing();
+    });
+    const QPoint from = KitWindow::centre(row(window, 1));
+    window.swipe(from, {0, 60});
+    EXPECT_EQ(pulls, 0);
+    EXPECT_TRUE(waitFor([&] { return flickable(window)->property("verticalOvershoot").toDouble() == 0; }));
+    window.swipe(from, {0, 320});
+    EXPECT_EQ(pulls, 1);
+    EXPECT_FALSE(list->refreshControl()->isRefreshing());
+}
+
+TEST_F(WidgetsTest, ASheetDocksItsBarFollowsItsHeightAndKeepsItsContentUntilItHasSlidOut)
+{
+    KitWindow window(list, {800, 700});
+    std::weak_ptr<GalleryController> weak;
+    {
+        auto editor = gallery("GallerySheet");
+        weak = editor;
+        list->presentSemiViewController(editor, {false, 224});
+    }
+    ASSERT_TRUE(waitFor([&] { return window.find("GallerySheet") != nullptr; }));
+    QQuickItem* content = window.find("GallerySheet");
+    EXPECT_TRUE(waitFor([&] { return content->mapToScene({0, 0}) == QPointF(120, 476); }));
+    EXPECT_EQ(content->width(), 560);
+    list->resizeSemiView(266);
+    EXPECT_TRUE(waitFor([&] { return content->mapToScene({0, 0}) == QPointF(120, 434); }));
+
+    // The first field has the keyboard; typing reaches the outlet, Return goes on, Escape is Cancel.
+    EXPECT_TRUE(waitFor([&] {
+        const QQuickItem* focused = window.view().activeFocusItem();
+        return focused != nullptr && window.find("name")->isAncestorOf(focused);
+    }));
+    window.key(Qt::Key_End);
+    window.key(Qt::Key_X);
+    EXPECT_EQ(weak.lock()->nameField()->text(), "Harbour Cx");
+    window.key(Qt::Key_Return);
+    window.key(Qt::Key_Y);
+    EXPECT_EQ(weak.lock()->addressField()->text(), "y");
+    weak.lock()->addressField()->setText("changed");
+    weak.lock()->addressField()->resignFirstResponder();
+    window.key(Qt::Key_Z);
+    EXPECT_EQ(weak.lock()->addressField()->text(), "changed");
+    // What lies behind takes nothing.
+    window.click({400, 100});
+    EXPECT_THAT(list->selected, IsEmpty());
+    EXPECT_NE(list->semiModal(), nullptr);
+    window.key(Qt::Key_Escape);
+    EXPECT_EQ(weak.lock()->cancelled, 1);
+
+    const QPointer<QQuickItem> scene(content);
+    bool sceneWentFirst = false;
+    QObject::connect(content, &QObject::destroyed, content, [&] { sceneWentFirst = !weak.expired(); });
+    list->dismissSemiModalView();
+    EXPECT_FALSE(weak.expired());
+    EXPECT_TRUE(waitFor([&] { return weak.expired(); }));
+    EXPECT_TRUE(scene.isNull());
+    EXPECT_TRUE(sceneWentFirst);
+
+    list->presentSemiViewController(gallery("GallerySheet"), {false, 224});
+    EXPECT_TRUE(waitFor([&] {
+        QQuickItem* again = window.find("GallerySheet");
+        return again != nullptr && again->mapToScene({0, 0}) == QPointF(120, 476);
+    }));
+}
+
+TEST_F(WidgetsTest, NavigationSlidesItsScreensAndEveryWayBackPops)
+{
+    auto navigation = makeController<NavigationController>(list);
+    auto second = gallery("GalleryScene");
+    auto tabs = makeController<TabBarController>(
+        std::vector<TabBarItem>{{"One", "tab_consoles", navigation}, {"Two", "tab_dashboard", second}});
+    KitWindow window(tabs);
+    EXPECT_EQ(list->appeared, 1);
+    EXPECT_FALSE(second->isViewLoaded());
+
+    const std::vector<std::function<void()>> ways = {
+        [&] { window.key(Qt::Key_Escape); },
+        [&] { window.key(Qt::Key_Back); },
+        [&] {
+            window.swipe({4, 400}, {200, 0});
+        },
+        [&] {
+            window.click({26, 26});
+        },
+    };
+    for (const auto& goBack : ways) {
+        std::weak_ptr<GalleryController> weak;
+        {
+            auto detail = gallery("GalleryDetail");
+            weak = detail;
+            navigation->pushViewController(detail, Animated::Yes);
+        }
+        QQuickItem* scene = window.find("GalleryDetail");
+        ASSERT_NE(scene, nullptr);
+        EXPECT_TRUE(waitFor([&] {
+            return scene->mapToScene({0, 0}) == QPointF(0, 0) && !window.find("GalleryScene")->isVisible();
+        }));
+        bool sceneWentFirst = false;
+        QObject::connect(scene, &QObject::destroyed, scene, [&] { sceneWentFirst = !weak.expired(); });
+        goBack();
+        EXPECT_EQ(navigation->depth(), 1);
+        EXPECT_TRUE(waitFor([&] { return weak.expired(); }));
+        EXPECT_TRUE(sceneWentFirst);
+        EXPECT_TRUE(waitFor([&] { return window.find("GalleryScene")->isVisible(); }));
+    }
+    EXPECT_EQ(list->appeared, 5);
+    // A root has no way back.
+    window.key(Qt::Key_Escape);
+    EXPECT_EQ(navigation->depth(), 1);
+
+    window.click({292, 816});
+    EXPECT_EQ(tabs->selectedIndex(), 1);
+    EXPECT_EQ(second->appeared, 1);
+    EXPECT_EQ(list->disappeared, 5);
+}
+
+TEST_F(WidgetsTest, AlertsAndActionSheetsAnswerToPressesAndKeys)
+{
+    KitWindow window(list);
+    std::vector<int> answers;
+    const auto answer = [&](int index) { answers.push_back(index); };
+    const std::vector<MenuChoice> choices{{"OK", true}, {"Cancel"}};
+    for (MenuOutlet* menu : {list->alert(), list->actions()}) {
+        answers.clear();
+        menu->present("Reset?", "All goes", choices, 1, answer);
+        EXPECT_TRUE(waitFor([&] { return !window.find("table")->hasActiveFocus(); }));
+        window.key(Qt::Key_Escape);
+        EXPECT_THAT(answers, ElementsAre(1));
+        menu->present("Reset?", "All goes", choices, 1, answer);
+        EXPECT_TRUE(waitFor([&] { return window.view().activeFocusItem() != nullptr; }));
+        window.click({200, 200});
+        // A tap beside an action sheet cancels; an alert wants an answer.
+        EXPECT_EQ(menu->isPresented(), menu == list->alert());
+        menu->dismiss();
+    }
+    EXPECT_THAT(list->selected, IsEmpty());
+}
+
+TEST_F(WidgetsTest, CapitalsAreCentredInTheirLineByPixels)
+{
+    for (const int size : {13, 17, 34}) {
+        QQuickView view;
+        installKit(*view.engine());
+        QQmlComponent component(view.engine());
+        component.setData(
+            QStringLiteral("import QtQuick; import Lodestar.Kit; Rectangle { color: \"white\"; width: 60; "
+                           "height: label.height; Label { id: label; text: \"H\"; size: %1; "
+                           "color: \"black\" } }")
+                .arg(size)
+                .toUtf8(),
+            QUrl());
+        view.setContent({}, &component, component.create());
+        view.show();
+        ASSERT_TRUE(waitFor([&] { return view.isExposed(); }));
+        const QImage image = view.grabWindow();
+        int top = -1;
+        int bottom = -1;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (qGray(image.pixel(x, y)) < 128) {
+                    top = top < 0 ? y : top;
+                    bottom = y;
+                }
+            }
+        }
+        ASSERT_GE(top, 0) << size;
+        EXPECT_NEAR(top, image.height() - 1 - bottom, 1) << size;
+    }
+}
+
+TEST_F(WidgetsTest, EveryWidgetStandsUpInEveryAppearance)
+{
+    for (const double scale : {1.0, 2.0}) {
+        for (const bool mirrored : {false, true}) {
+            auto board = gallery("Gallery");
+            KitWindow window(board, {1200, 1400});
+            Appearance::shared().overrideDark(mirrored);
+            Appearance::shared().overrideTextScale(scale);
+            Appearance::shared().overrideMirrored(mirrored);
+            Appearance::shared().overrideReducedMotion(true);
+            EXPECT_FALSE(window.view().grabWindow().isNull());
+            // The first row grew with the text, the bar's title no further than bars do.
+            EXPECT_NEAR(window.find("SwipeCell")->height(), scale > 1 ? 116 : 50, 16);
+            EXPECT_EQ(window.find("NavigationBar")->height(), 52);
+        }
+    }
+}
+
+} // namespace lodestar
