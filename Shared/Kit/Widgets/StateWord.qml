@@ -21,7 +21,8 @@ Item {
     readonly property color shownColor: Theme.inkFor(color)
     readonly property real gap: scaleFactor >= 1.5 ? 10 : 6
     readonly property real markSpace: mark === "" ? 0 : markItem.width + gap
-    readonly property real wish: Math.ceil(measure.advanceWidth) + markSpace
+    // A point more than measured: the layout may round its glyphs up.
+    readonly property real wish: Math.ceil(Math.max(measure.advanceWidth, measure.boundingRect.width)) + 1 + markSpace
     readonly property real used: Math.min(width, wish)
 
     /// From the start of the item to where the system's direction puts it.
