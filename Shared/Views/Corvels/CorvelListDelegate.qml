@@ -14,7 +14,7 @@ TableCell {
 
     readonly property bool captioned: !Theme.stacked && Theme.widthClass(Window.width) !== Theme.compactWidth
     /// One value a line: with large text, and where the three would not fit beside each other.
-    readonly property bool stacked: Theme.stacked || (!captioned && metrics.neededWidth > width - Theme.rowStart - trailing)
+    readonly property bool stacked: Theme.stacked || (!captioned && metrics.neededWidth > width - Theme.rowStart - Theme.rowEnd)
     readonly property bool narrow: Window.width < 375
     readonly property real scale100: Theme.textScale
     /// Kept free at the end for the chevron, there or not, so that columns stay in line.

@@ -1,0 +1,212 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Controllers/REST/RESTHandler.h"
+#include "Kit/Core/NavigationController.h"
+#include "Kit/Core/Storyboard.h"
+#include "Tests/Scenes/SceneTest.h"
+#include "Views/Common/CorvelReceiving.h"
+
+#include <QAccessible>
+
+namespace lodestar::scenes
+{
+namespace
+{
+
+class TasksController : public ViewController, public CorvelReceiving
+{
+public:
+    void setCorvel(CorvelRef value) override { corvel = std::move(value); }
+    CorvelRef corvel;
+};
+
+class DrivingTest : public SceneTest
+{
+protected:
+    void registerTasks()
+    {
+        Storyboard::main().registerScene(
+            "corvelTasksViewController", [this] { return tasks = makeController<TasksController>(); },
+            QUrl(QStringLiteral("qrc:/Lodestar/Kit/FocusRing.qml")));
+    }
+    DeltaCorvelViewController* editor() const
+    {
+        return stage.list().semiModal() == nullptr
+                   ? nullptr
+                   : qobject_cast<DeltaCorvelViewController*>(stage.list().semiModal()->controller());
+    }
+    void drag(const QQuickItem* item, int by) const
+    {
+        const QPoint from = centerOf(item);
+        QTest::mousePress(&stage.window(), Qt::LeftButton, {}, from);
+        for (int step = 1; step <= 10; ++step) {
+            QTest::mouseMove(&stage.window(), from + QPoint(by * step / 10, 0));
+            QCoreApplication::processEvents();
+        }
+        QTest::mouseRelease(&stage.window(), Qt::LeftButton, {}, from + QPoint(by, 0));
+    }
+
+    std::shared_ptr<TasksController> tasks;
+};
+
+TEST_F(DrivingTest, TheFormIsFilledByKeyboardAndTellsWhatIsMissing)
+{
+    stage.show({390, 844}, fleet());
+    EXPECT_EQ(stage.item("settingsButton"), nullptr);
+    click(stage.item("addButton"));
+    ASSERT_TRUE(waitForSheet());
+    DeltaCorvelViewController& form = *editor();
+    // The first field has the keyboard.
+    type("Harbour C");
+    press(Qt::Key_Tab);
+    type("c.example");
+    press(Qt::Key_Tab);
+    type("oversight");
+    EXPECT_EQ(form.nameField()->text(), "Harbour C");
+    EXPECT_EQ(form.addressField()->text(), "c.example");
+    EXPECT_EQ(form.usernameField()->text(), "oversight");
+
+    click(button("Save"));
+    EXPECT_TRUE(stage.waitFor([&] { return text("Please enter all fields") != nullptr; }));
+    EXPECT_TRUE(stage.waitFor([&] {
+        const QQuickItem* line = text("Please enter all fields");
+        return line->mapToScene(QPointF(0, line->height())).y() <= stage.window().height();
+    })) << "the status line stays outside the window";
+    EXPECT_FALSE(form.nameField()->isEnabled());
+    EXPECT_TRUE(stage.waitFor([&] { return form.nameField()->isEnabled(); }));
+
+    press(Qt::Key_Escape);
+    EXPECT_EQ(stage.list().semiModal(), nullptr);
+    EXPECT_TRUE(stage.waitFor([&] { return button("Cancel") == nullptr; }));
+}
+
+TEST_F(DrivingTest, BusyFormTakesNoSecondSave)
+{
+    stage.show({390, 844}, fleet());
+    press(Qt::Key_N, Qt::ControlModifier);
+    ASSERT_TRUE(waitForSheet());
+    editor()->showStatusWithMessage("verifying...");
+    ASSERT_TRUE(stage.waitFor([&] { return text("verifying...") != nullptr; }));
+    EXPECT_FALSE(button("Save")->isEnabled());
+    click(button("Cancel"));
+    EXPECT_EQ(stage.list().semiModal(), nullptr);
+}
+
+TEST_F(DrivingTest, RowsOpenByPointerAndByKeyboard)
+{
+    registerTasks();
+    stage.show({390, 844}, fleet());
+    const auto depth = [this] { return stage.list().navigationController()->depth(); };
+    click(row(3)); // offline
+    EXPECT_EQ(depth(), 1);
+    click(row(1));
+    ASSERT_EQ(depth(), 2);
+    EXPECT_EQ(tasks->corvel->name(), "Harbour B");
+    stage.list().navigationController()->pop();
+    ASSERT_TRUE(stage.waitFor([&] { return row(1) != nullptr; }));
+    stage.settle(200);
+
+    press(Qt::Key_Home);
+    press(Qt::Key_Return);
+    ASSERT_EQ(depth(), 2);
+    EXPECT_EQ(tasks->corvel->name(), "Harbour A");
+}
+
+TEST_F(DrivingTest, ASwipeUncoversEditAndDelete)
+{
+    stage.show({390, 844}, fleet());
+    drag(row(4), -200);
+    ASSERT_TRUE(stage.waitFor([&] { return button("Edit") != nullptr; }));
+    stage.settle(300);
+    EXPECT_GE(button("Delete")->mapToScene({}).x(), button("Edit")->mapToScene({}).x() + 72);
+    click(button("Edit"));
+    ASSERT_NE(editor(), nullptr);
+    EXPECT_EQ(editor()->nameField()->text(), "Uplands Colocation");
+    ASSERT_TRUE(waitForSheet());
+    press(Qt::Key_Escape);
+    ASSERT_TRUE(stage.waitFor([&] { return button("Cancel") == nullptr; }));
+
+    drag(row(0), -200);
+    ASSERT_TRUE(stage.waitFor([&] { return button("Delete") != nullptr; }));
+    stage.settle(300);
+    click(button("Delete"));
+    EXPECT_EQ(RESTHandler::sharedInstance().corvelList().size(), 5U);
+    EXPECT_EQ(stage.list().tableView()->count(), 5);
+}
+
+TEST_F(DrivingTest, DeletingTheLastRowByKeyboardLeavesTheEmptyLook)
+{
+    stage.show({390, 844}, {fleet().front()});
+    press(Qt::Key_Home);
+    press(Qt::Key_Menu);
+    ASSERT_TRUE(stage.waitFor([&] { return button("Delete") != nullptr; }));
+    stage.settle(300);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(RESTHandler::sharedInstance().corvelList().empty());
+    ASSERT_TRUE(stage.waitFor([&] { return text("No consoles yet.") != nullptr; }));
+    click(button("Add Corvel"));
+    EXPECT_NE(editor(), nullptr);
+}
+
+TEST_F(DrivingTest, RefreshKeyPulls)
+{
+    stage.show({390, 844}, {});
+    int pulls = 0;
+    QObject::connect(stage.list().refreshControl(), &RefreshControl::valueChanged, [&pulls] { ++pulls; });
+    press(Qt::Key_R, Qt::ControlModifier);
+    EXPECT_EQ(pulls, 1);
+    press(Qt::Key_F5);
+    EXPECT_EQ(pulls, 2);
+}
+
+TEST_F(DrivingTest, TheSheetStandsOnTheKeyboard)
+{
+    stage.show({390, 844}, fleet());
+    stage.openEditor();
+    ASSERT_TRUE(waitForSheet());
+    const double before = button("Cancel")->mapToScene({}).y();
+    stage.list().keyboardWillShow(260);
+    EXPECT_TRUE(stage.waitFor([&] { return button("Cancel")->mapToScene({}).y() == before - 260; }));
+    stage.list().keyboardWillHide();
+    EXPECT_TRUE(stage.waitFor([&] { return button("Cancel")->mapToScene({}).y() == before; }));
+}
+
+TEST_F(DrivingTest, ARowIsOneSentenceForScreenReaders)
+{
+    QAccessible::setActive(true);
+    stage.show({390, 844}, fleet());
+    std::vector<QString> sentences;
+    for (QQuickItem* cell : stage.items("SwipeCell")) {
+        QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(cell);
+        ASSERT_NE(spoken, nullptr);
+        sentences.push_back(spoken->text(QAccessible::Name));
+        EXPECT_EQ(spoken->role(), QAccessible::ListItem);
+    }
+    ASSERT_EQ(sentences.size(), 6U);
+    EXPECT_EQ(sentences[1], "Harbour B, Error, attention 2, events 14");
+    EXPECT_EQ(sentences[2], "Ridgeway Laboratory, updating");
+    EXPECT_EQ(sentences[3], "Northfield Recovery Site, Offline, attention 0, events 0");
+}
+
+TEST_F(DrivingTest, TheDashboardLoadsAndDraws)
+{
+    stage.show({390, 844}, fleet());
+    stage.showDashboard();
+    EXPECT_EQ(text("Corvels Online"), nullptr);
+    EXPECT_EQ(stage.items("Spinner").size(), 2U);
+    for (const CorvelRef& corvel : RESTHandler::sharedInstance().corvelList()) {
+        corvel->completedFetch = true;
+    }
+    ASSERT_TRUE(stage.waitFor([&] { return text("4 / 6") != nullptr; }));
+    EXPECT_NE(text("Corvels Online"), nullptr);
+    EXPECT_TRUE(stage.items("Spinner").empty());
+    const std::vector<QQuickItem*> pies = stage.items("PieChart");
+    ASSERT_EQ(pies.size(), 2U);
+    EXPECT_DOUBLE_EQ(pies[0]->height(), 390 / 1.2);
+
+    stage.show({768, 1024}, {});
+    stage.showDashboard();
+    EXPECT_TRUE(stage.waitFor([&] { return text("No consoles yet.") != nullptr; }));
+}
+
+} // namespace
+} // namespace lodestar::scenes

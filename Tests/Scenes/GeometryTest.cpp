@@ -1,0 +1,155 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Tests/Scenes/SceneTest.h"
+
+#include <tuple>
+
+namespace lodestar::scenes
+{
+namespace
+{
+
+constexpr int elideMiddle = 2;
+constexpr double tolerance = 1;
+
+/// Width, height, text scale, right to left.
+using Setting = std::tuple<int, int, double, bool>;
+
+class GeometryTest : public SceneTest, public ::testing::WithParamInterface<Setting>
+{
+protected:
+    void apply()
+    {
+        Appearance::shared().overrideTextScale(std::get<2>(GetParam()));
+        Appearance::shared().overrideMirrored(std::get<3>(GetParam()));
+    }
+    QSize size() const { return {std::get<0>(GetParam()), std::get<1>(GetParam())}; }
+
+    /// Where a text's letters are, in the window.
+    static QRectF inkOf(const QQuickItem* text)
+    {
+        const double width = std::min(text->property("contentWidth").toDouble(), text->width());
+        const int alignment = text->property("effectiveHorizontalAlignment").toInt();
+        const double free = text->width() - width;
+        const double x = alignment == Qt::AlignRight ? free : alignment == Qt::AlignHCenter ? free / 2 : 0;
+        return text->mapRectToScene(QRectF(x, 0, width, text->height()));
+    }
+    std::vector<QQuickItem*> texts() const
+    {
+        std::vector<QQuickItem*> found = stage.items("QQuickText");
+        std::erase_if(found, [](const QQuickItem* item) {
+            return item->property("text").toString().isEmpty() || item->width() <= 0;
+        });
+        return found;
+    }
+    /// Sentences are whole; only names, which say so, are cut in their middle. Nothing leaves the window at its sides.
+    void expectNothingClipped() const
+    {
+        for (const QQuickItem* item : texts()) {
+            const std::string words = item->property("text").toString().toStdString();
+            const bool mayElide = item->property("elide").toInt() == elideMiddle;
+            EXPECT_TRUE(mayElide || !item->property("truncated").toBool()) << words;
+            EXPECT_LE(item->property("contentWidth").toDouble(), item->width() + tolerance) << words;
+            const QRectF ink = inkOf(item);
+            EXPECT_GE(ink.left(), -tolerance) << words;
+            EXPECT_LE(ink.right(), size().width() + tolerance) << words;
+        }
+    }
+    void expectNothingOverlaps() const
+    {
+        const std::vector<QQuickItem*> all = texts();
+        for (std::size_t i = 0; i < all.size(); ++i) {
+            for (std::size_t j = i + 1; j < all.size(); ++j) {
+                if (rowOf(all[i]) == nullptr || rowOf(all[i]) != rowOf(all[j])) {
+                    continue;
+                }
+                const QRectF common = inkOf(all[i]).intersected(inkOf(all[j]));
+                EXPECT_TRUE(common.width() <= tolerance || common.height() <= tolerance)
+                    << all[i]->property("text").toString().toStdString() << " / "
+                    << all[j]->property("text").toString().toStdString();
+            }
+        }
+    }
+    void expectTargetsLargeEnough() const
+    {
+        for (const QQuickItem* item : stage.items("QQuickAbstractButton")) {
+            EXPECT_GE(item->width(), 44) << item->property("text").toString().toStdString();
+            EXPECT_GE(item->height(), 44) << item->property("text").toString().toStdString();
+        }
+    }
+    static const QQuickItem* rowOf(const QQuickItem* item)
+    {
+        while (item != nullptr && !QByteArray(item->metaObject()->className()).startsWith("TableRow")) {
+            item = item->parentItem();
+        }
+        return item;
+    }
+    void expectSound() const
+    {
+        ASSERT_FALSE(texts().empty());
+        expectNothingClipped();
+        expectNothingOverlaps();
+        expectTargetsLargeEnough();
+    }
+};
+
+TEST_P(GeometryTest, Consoles)
+{
+    apply();
+    stage.show(size(), fleet());
+    expectSound();
+    stage.show(size(), longNames());
+    expectSound();
+    stage.show(size(), {});
+    expectSound();
+}
+
+TEST_P(GeometryTest, RowsMirrorAndKeepTheirHeight)
+{
+    apply();
+    stage.show(size(), fleet());
+    const double scale = std::get<2>(GetParam());
+    for (const QQuickItem* place : stage.items("TableRow")) {
+        EXPECT_GE(place->height(), std::round(92 * scale));
+        EXPECT_TRUE(scale >= 1.5 || place->height() == std::round(92 * scale));
+    }
+    const QQuickItem* name = text("Harbour A");
+    ASSERT_NE(name, nullptr);
+    const QRectF ink = inkOf(name);
+    const bool atStart = ink.center().x() < row(0)->mapRectToScene(row(0)->boundingRect()).center().x();
+    EXPECT_EQ(atStart, !std::get<3>(GetParam()));
+}
+
+TEST_P(GeometryTest, Editor)
+{
+    apply();
+    stage.show(size(), fleet());
+    stage.openEditor()->saveCorvel();
+    ASSERT_TRUE(waitForSheet());
+    stage.settle(300);
+    expectSound();
+}
+
+TEST_P(GeometryTest, Dashboard)
+{
+    apply();
+    std::vector<ConsoleLook> consoles = fleet();
+    consoles[2].state = ConsoleLook::State::Offline;
+    stage.show(size(), consoles);
+    stage.showDashboard();
+    ASSERT_TRUE(stage.waitFor([this] { return text("4 / 6") != nullptr; }));
+    expectSound();
+    // Side by side from tablets on.
+    const std::vector<QQuickItem*> pies = stage.items("PieChart");
+    ASSERT_EQ(pies.size(), 2U);
+    EXPECT_EQ(pies[0]->mapToScene({}).y() == pies[1]->mapToScene({}).y(), size().width() >= 600);
+}
+
+INSTANTIATE_TEST_SUITE_P(Sizes, GeometryTest,
+                         ::testing::Values(Setting{360, 640, 1, false}, Setting{390, 844, 1, true},
+                                           Setting{360, 640, 1.3, false}, Setting{390, 844, 2, false},
+                                           Setting{360, 640, 2, true}, Setting{768, 1024, 1, false},
+                                           Setting{768, 1024, 2, false}, Setting{1280, 800, 1, false},
+                                           Setting{1280, 800, 1, true}));
+
+} // namespace
+} // namespace lodestar::scenes
