@@ -52,8 +52,8 @@ Options parseOptions(const QGuiApplication& application)
 /// Makes the folder, for this user alone. Everything that is kept lies below it.
 QString makeDataFolder(const QString& asked)
 {
-    const QString folder = asked.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
-                                           : QDir(asked).absolutePath();
+    QString folder = asked.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
+                                     : QDir(asked).absolutePath();
     QDir().mkpath(folder);
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     return folder;

@@ -43,7 +43,7 @@ std::size_t XMLDocument::memory() const
 {
     std::size_t names = 0;
     for (const std::string& name : m_names) {
-        names += sizeof name + name.capacity();
+        names += sizeof(std::string) + name.capacity();
     }
     return sizeof *this + m_nodes.capacity() * sizeof(Node) + m_attributes.capacity() * sizeof(Attribute) +
            m_text.capacity() + m_values.capacity() + names +

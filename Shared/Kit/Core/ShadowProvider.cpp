@@ -15,14 +15,18 @@ namespace lodestar
 namespace
 {
 
+std::size_t placeOf(int line, int lineStep, int place, int step)
+{
+    const int index = line * lineStep + place * step;
+    return static_cast<std::size_t>(index);
+}
+
 /// One pass of a running mean over lines of `length` values that lie `step` apart. Three in a row come close to a bell.
 void mean(std::vector<float>& values, int lines, int length, int lineStep, int step, int reach)
 {
     std::vector<float> line(static_cast<std::size_t>(length));
     for (int number = 0; number < lines; ++number) {
-        const auto at = [&](int place) -> float& {
-            return values[static_cast<std::size_t>(number * lineStep + place * step)];
-        };
+        const auto at = [&](int place) -> float& { return values[placeOf(number, lineStep, place, step)]; };
         for (int place = 0; place < length; ++place) {
             line[static_cast<std::size_t>(place)] = at(place);
         }
@@ -60,7 +64,7 @@ QImage ShadowProvider::requestImage(const QString& id, QSize* size, const QSize&
     std::vector<float> alpha(static_cast<std::size_t>(side) * static_cast<std::size_t>(side));
     for (int y = 0; y < side; ++y) {
         for (int x = 0; x < side; ++x) {
-            alpha[static_cast<std::size_t>(y * side + x)] = static_cast<float>(qAlpha(box.pixel(x, y)));
+            alpha[placeOf(y, side, x, 1)] = static_cast<float>(qAlpha(box.pixel(x, y)));
         }
     }
     // A blur of n reaches n outwards and inwards: three means of a third each.
@@ -72,8 +76,8 @@ QImage ShadowProvider::requestImage(const QString& id, QSize* size, const QSize&
     QImage image(side, side, QImage::Format_ARGB32);
     for (int y = 0; y < side; ++y) {
         for (int x = 0; x < side; ++x) {
-            const float strength = alpha[static_cast<std::size_t>(y * side + x)] * static_cast<float>(color.alphaF());
-            image.setPixel(x, y, qRgba(color.red(), color.green(), color.blue(), static_cast<int>(strength + 0.5F)));
+            const float strength = alpha[placeOf(y, side, x, 1)] * static_cast<float>(color.alphaF());
+            image.setPixel(x, y, qRgba(color.red(), color.green(), color.blue(), qRound(strength)));
         }
     }
     if (size != nullptr) {

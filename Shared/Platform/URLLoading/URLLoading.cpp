@@ -21,15 +21,15 @@ void sendAsynchronousRequest(URLRequest request, const OperationQueue& queue,
         Result<URLLoad> load;
         HeldBytes held;
     };
-    auto client = std::make_shared<LoadClient>(
-        [queue, completion = std::move(completion)](Result<URLLoad> load, HeldBytes held) mutable {
-            held.setDelivering();
-            auto delivery = std::make_unique<Delivery>(std::move(completion), std::move(load), std::move(held));
-            queue.addOperation([delivery = std::move(delivery)] {
-                const auto call = std::move(delivery->completion);
-                call(std::move(delivery->load));
-            });
+    auto client = std::make_shared<LoadClient>([queue, completion = std::move(completion)](Result<URLLoad> load,
+                                                                                           HeldBytes held) mutable {
+        held.setDelivering();
+        auto delivery = std::make_unique<Delivery>(Delivery{std::move(completion), std::move(load), std::move(held)});
+        queue.addOperation([delivery = std::move(delivery)] {
+            const auto call = std::move(delivery->completion);
+            call(std::move(delivery->load));
         });
+    });
     NetworkThread::shared().start(std::make_shared<Transfer>(std::move(request), std::move(client)));
 }
 
