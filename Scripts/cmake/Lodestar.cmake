@@ -52,10 +52,10 @@ function(lodestar_library name)
   target_link_libraries(${name} PUBLIC lodestar_settings ${ARG_LIBRARIES})
 endfunction()
 
-# lodestar_test(<name> SOURCES ... LIBRARIES ... [LABELS ...] [TIMEOUT seconds]): a GoogleTest program, one ctest entry a test
-# case. Programs with Qt in them run without a display.
+# lodestar_test(<name> SOURCES ... LIBRARIES ... [LABELS ...] [TIMEOUT seconds] [SERIAL]): a GoogleTest program, one ctest
+# entry a test case. Programs with Qt in them run without a display. SERIAL is for those that play gestures in real time.
 function(lodestar_test name)
-  cmake_parse_arguments(ARG "" "TIMEOUT" "SOURCES;LIBRARIES;LABELS" ${ARGN})
+  cmake_parse_arguments(ARG "SERIAL" "TIMEOUT" "SOURCES;LIBRARIES;LABELS" ${ARGN})
   if(NOT ARG_TIMEOUT)
     set(ARG_TIMEOUT 120)
   endif()
@@ -64,7 +64,7 @@ function(lodestar_test name)
   add_executable(${name} ${ARG_SOURCES})
   target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}")
   target_link_libraries(${name} PRIVATE lodestar_settings ${ARG_LIBRARIES} GTest::gmock GTest::gtest_main)
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}"
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT ${ARG_TIMEOUT} LABELS "${ARG_LABELS}" RUN_SERIAL ${ARG_SERIAL}
     ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software")
 endfunction()
 
