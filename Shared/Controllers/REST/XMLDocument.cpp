@@ -23,12 +23,18 @@ std::string_view XMLDocument::text(Index index) const
     return std::string_view(m_text).substr(node.text, node.textEnd - node.text);
 }
 
+std::span<const XMLDocument::Attribute> XMLDocument::attributes(Index index) const
+{
+    const std::size_t begin = m_nodes[index].attributes;
+    const std::size_t end = index + 1 < m_nodes.size() ? m_nodes[index + 1].attributes : m_attributes.size();
+    return {m_attributes.data() + begin, end - begin};
+}
+
 const XMLDocument::Attribute* XMLDocument::attribute(Index index, Name name) const
 {
-    const std::size_t end = index + 1 < m_nodes.size() ? m_nodes[index + 1].attributes : m_attributes.size();
-    for (std::size_t i = m_nodes[index].attributes; i < end; ++i) {
-        if (m_attributes[i].name == name) {
-            return &m_attributes[i];
+    for (const Attribute& attribute : attributes(index)) {
+        if (attribute.name == name) {
+            return &attribute;
         }
     }
     return nullptr;

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <memory>
+#include <span>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -47,6 +48,7 @@ public:
     /// `noName` when the document has no such name.
     Name find(std::string_view name) const;
     std::string_view text(Index index) const;
+    std::span<const Attribute> attributes(Index index) const;
     /// Null when the element has no such attribute.
     const Attribute* attribute(Index index, Name name) const;
     std::string_view value(const Attribute& attribute) const;

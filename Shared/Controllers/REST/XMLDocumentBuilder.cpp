@@ -106,16 +106,18 @@ XMLDocumentBuilder* XMLDocumentBuilder::of(void* context)
     return parser == builder->m_parser && !builder->m_failed ? builder : nullptr;
 }
 
-void XMLDocumentBuilder::startElement(void* context, const xmlChar* localName, const xmlChar* /*prefix*/,
+void XMLDocumentBuilder::startElement(void* context, const xmlChar* localName, const xmlChar* prefix,
                                       const xmlChar* /*uri*/, int /*namespaceCount*/, const xmlChar** /*namespaces*/,
-                                      int attributeCount, int /*defaultedCount*/, const xmlChar** attributes)
+                                      int attributeCount, int defaultedCount, const xmlChar** attributes)
 {
     XMLDocumentBuilder* const self = of(context);
     if (self == nullptr) {
         return;
     }
     try {
-        self->open(localName, attributes, attributeCount);
+        self->closeAbandoned();
+        // Values that only a declaration gives stand last, and are not read.
+        self->open(self->localPart(localName, prefix), attributes, attributeCount - defaultedCount);
     } catch (const std::bad_alloc&) {
         self->fail(outOfMemory());
     }
@@ -132,7 +134,11 @@ void XMLDocumentBuilder::endElement(void* context, const xmlChar* /*localName*/,
 void XMLDocumentBuilder::characters(void* context, const xmlChar* bytes, int length)
 {
     XMLDocumentBuilder* const self = of(context);
-    if (self == nullptr || self->m_open.empty()) {
+    if (self == nullptr) {
+        return;
+    }
+    self->closeAbandoned();
+    if (self->m_open.empty()) {
         return;
     }
     try {
@@ -152,6 +158,18 @@ void XMLDocumentBuilder::noteError(void* context, xmlErrorPtr error)
     static_cast<XMLDocumentBuilder*>(parser->_private)->fail(outOfMemory());
 }
 
+/// A name that is no proper qualified name comes whole; what stands before its colon is a prefix all the same.
+const xmlChar* XMLDocumentBuilder::localPart(const xmlChar* name, const xmlChar* prefix) const
+{
+    const std::string_view whole = chars(name);
+    const std::size_t colon = whole.find(':');
+    if (prefix != nullptr || colon == 0 || colon == std::string_view::npos || colon + 1 == whole.size()) {
+        return name;
+    }
+    const xmlChar* const part = xmlDictLookup(m_parser->dict, name + colon + 1, -1);
+    return part != nullptr ? part : name;
+}
+
 void XMLDocumentBuilder::open(const xmlChar* localName, const xmlChar** attributes, int attributeCount)
 {
     XMLDocument& document = *m_document;
@@ -167,7 +185,7 @@ void XMLDocumentBuilder::open(const xmlChar* localName, const xmlChar** attribut
     for (int i = 0; i < attributeCount; ++i) {
         // Five pointers an attribute: name, prefix, address of the name space, begin and end of the value.
         const xmlChar** const one = attributes + std::ptrdiff_t{5} * i;
-        addAttribute(one[0], {chars(one[3]), static_cast<std::size_t>(one[4] - one[3])});
+        addAttribute(localPart(one[0], one[1]), {chars(one[3]), static_cast<std::size_t>(one[4] - one[3])});
     }
 }
 
@@ -206,6 +224,15 @@ void XMLDocumentBuilder::close()
     m_open.pop_back();
     node.end = static_cast<XMLDocument::Index>(m_document->m_nodes.size());
     node.textEnd = static_cast<std::uint32_t>(m_document->m_text.size());
+}
+
+/// An element whose start tag breaks off is given up by the parser without an event: what follows belongs to its
+/// parent.
+void XMLDocumentBuilder::closeAbandoned()
+{
+    while (m_open.size() > static_cast<std::size_t>(m_parser->nameNr)) {
+        close();
+    }
 }
 
 void XMLDocumentBuilder::append(std::string_view text)

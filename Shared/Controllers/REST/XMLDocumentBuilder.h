@@ -26,9 +26,11 @@ private:
     static void characters(void* context, const xmlChar* bytes, int length);
     static void noteError(void* context, xmlErrorPtr error);
 
+    const xmlChar* localPart(const xmlChar* name, const xmlChar* prefix) const;
     void open(const xmlChar* localName, const xmlChar** attributes, int attributeCount);
     void addAttribute(const xmlChar* localName, std::string_view raw);
     void close();
+    void closeAbandoned();
     void append(std::string_view text);
     XMLDocument::Name intern(const xmlChar* name);
     void fail(Error error);

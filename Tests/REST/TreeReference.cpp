@@ -1,0 +1,175 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Tests/REST/TreeReference.h"
+
+#include "Controllers/REST/XMLDocument.h"
+#include "Controllers/REST/XMLElement.h"
+
+#include <libxml/parser.h>
+#include <libxml/tree.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <memory>
+#include <set>
+#include <vector>
+
+namespace lodestar
+{
+namespace
+{
+
+std::string_view view(const xmlChar* text)
+{
+    return reinterpret_cast<const char*>(text);
+}
+
+/// Lengths before the texts, so that no text can pass for the structure.
+std::string field(std::string_view text)
+{
+    return std::to_string(text.size()) + ":" + std::string(text);
+}
+
+std::string_view localName(const xmlChar* name, const xmlNs* ns)
+{
+    const std::string_view qualified = view(name);
+    const std::size_t colon = qualified.find(':');
+    const bool declared = ns != nullptr && ns->prefix != nullptr;
+    return declared || colon == 0 || colon == std::string_view::npos || colon + 1 == qualified.size()
+               ? qualified
+               : qualified.substr(colon + 1);
+}
+
+std::string ownText(const xmlNode* first)
+{
+    std::string text;
+    for (const xmlNode* node = first; node != nullptr; node = node->next) {
+        if ((node->type == XML_TEXT_NODE || node->type == XML_CDATA_SECTION_NODE) && node->content != nullptr) {
+            text += view(node->content);
+        }
+    }
+    return text;
+}
+
+/// Appends the lines of an element and of all below it, and its text to `text`; returns the number of elements.
+std::size_t appendTree(const xmlNode& element, std::vector<std::string>& lines, std::string& text)
+{
+    const std::size_t line = lines.size();
+    lines.emplace_back();
+    const std::size_t textBegin = text.size();
+    std::size_t count = 1;
+    for (const xmlNode* node = element.children; node != nullptr; node = node->next) {
+        if (node->type == XML_ELEMENT_NODE) {
+            count += appendTree(*node, lines, text);
+        } else if ((node->type == XML_TEXT_NODE || node->type == XML_CDATA_SECTION_NODE) && node->content != nullptr) {
+            text += view(node->content);
+        }
+    }
+    std::string attributes;
+    std::set<std::string_view> seen;
+    for (const xmlAttr* attribute = element.properties; attribute != nullptr; attribute = attribute->next) {
+        const std::string_view name = localName(attribute->name, attribute->ns);
+        if (seen.insert(name).second) {
+            attributes += " " + field(name) + "=" + field(ownText(attribute->children));
+        }
+    }
+    lines[line] = std::to_string(count) + " " + field(localName(element.name, element.ns)) + attributes + " " +
+                  field(std::string_view(text).substr(textBegin)) + "\n";
+    return count;
+}
+
+/// Through the arena for what only it can list, the names of attributes, and through the element for every answer.
+void appendElement(const XMLDocument& document, XMLDocument::Index& index, const XMLElement& element, std::string& out)
+{
+    const XMLDocument::Index own = index++;
+    const XMLDocument::Index end = document.node(own).end;
+    std::string attributes;
+    std::set<std::string_view> seen;
+    for (const XMLDocument::Attribute& attribute : document.attributes(own)) {
+        const std::string_view name = document.nameText(attribute.name);
+        if (seen.insert(name).second) {
+            attributes += " " + field(name) + "=" + field(element.attribute(name).value_or("(no attribute)"));
+        }
+    }
+    out += std::to_string(end - own) + " " + field(element.name()) + attributes + " " +
+           field(element.text().value_or("(no text)")) + "\n";
+
+    std::set<std::string_view> names;
+    std::vector<std::pair<std::string_view, std::size_t>> order;
+    for (XMLDocument::Index child = own + 1; child < end; child = document.node(child).end) {
+        const std::string_view name = document.nameText(document.node(child).name);
+        const auto same = [&](const auto& entry) { return entry.first == name; };
+        order.emplace_back(name, static_cast<std::size_t>(std::count_if(order.begin(), order.end(), same)));
+        names.insert(name);
+    }
+    std::vector<std::pair<std::string_view, std::vector<XMLElement>>> byName;
+    byName.reserve(names.size());
+    for (const std::string_view name : names) {
+        byName.emplace_back(name, element.children(name));
+        if (byName.back().second.size() != element.childCount(name) ||
+            !(byName.back().second.front() == element.child(name))) {
+            out += "(child, children and childCount disagree)\n";
+        }
+    }
+    for (const auto& [name, number] : order) {
+        const auto found = std::find_if(byName.begin(), byName.end(), [&](const auto& e) { return e.first == name; });
+        appendElement(document, index, number < found->second.size() ? found->second[number] : XMLElement(), out);
+    }
+}
+
+} // namespace
+
+std::string readTree(std::string_view bytes)
+{
+    xmlResetLastError();
+    const std::unique_ptr<xmlDoc, decltype(&xmlFreeDoc)> document(
+        xmlReadMemory(bytes.data(), static_cast<int>(bytes.size()), nullptr, nullptr,
+                      XML_PARSE_RECOVER | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING),
+        &xmlFreeDoc);
+    const xmlError* error = xmlGetLastError();
+    if (error != nullptr && error->code == XML_ERR_NO_MEMORY) {
+        return "(error)";
+    }
+    const xmlNode* root = document ? xmlDocGetRootElement(document.get()) : nullptr;
+    if (root == nullptr) {
+        return "(none)";
+    }
+    std::vector<std::string> lines;
+    std::string text;
+    appendTree(*root, lines, text);
+    std::string all;
+    for (const std::string& line : lines) {
+        all += line;
+    }
+    return all;
+}
+
+std::string readArena(std::string_view bytes)
+{
+    const Result<XMLElement> root = XMLElement::parse(bytes);
+    if (!root) {
+        return "(error)";
+    }
+    if (!root.value()) {
+        return "(none)";
+    }
+    const Result<std::shared_ptr<const XMLDocument>> document = XMLDocument::parse(bytes);
+    std::string all;
+    XMLDocument::Index index = 0;
+    appendElement(*document.value(), index, root.value(), all);
+    return all;
+}
+
+std::string firstDifference(std::string_view bytes)
+{
+    const std::string tree = readTree(bytes);
+    const std::string arena = readArena(bytes);
+    if (tree == arena) {
+        return {};
+    }
+    const auto at = std::mismatch(tree.begin(), tree.end(), arena.begin(), arena.end());
+    const auto position = static_cast<std::size_t>(at.first - tree.begin());
+    const std::size_t from = position < 60 ? 0 : position - 60;
+    return "tree:  " + tree.substr(from, 160) + "\narena: " + arena.substr(from, 160);
+}
+
+} // namespace lodestar

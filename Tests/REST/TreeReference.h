@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace lodestar
+{
+
+/// What a document reads as through libxml2's own tree, made with `xmlReadMemory` in recovery mode.
+///
+/// One line for each element in document order, with its number of descendants, its name, its attributes and the text
+/// below it. Entity references read as nothing, in text and in attributes; of attributes with the same name the first
+/// one counts; a prefix that the document does not declare is no part of a name. "(none)" stands for no root, "(error)"
+/// for a tree that memory ran out on, or that libxml2 gave up as if it had.
+std::string readTree(std::string_view bytes);
+
+/// The same through `XMLElement` and the arena below it.
+std::string readArena(std::string_view bytes);
+
+/// The first place where the two differ, for a message; empty when they do not.
+std::string firstDifference(std::string_view bytes);
+
+} // namespace lodestar
