@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Adapters/FileUserDefaults.h"
-#include "Application/Adapters/MainLoop.h"
 #include "Application/Adapters/PackageResources.h"
 #include "Application/Adapters/SystemKeychain.h"
 #include "Application/AppDelegate.h"
@@ -9,6 +8,7 @@
 #include "Application/Model/StoreStack.h"
 #include "Application/TerminationSignals.h"
 #include "Feedback/VireoLogger.h"
+#include "Kit/Core/MainLoop.h"
 #include "Kit/Core/UIFont+System.h"
 
 #include <QCommandLineParser>

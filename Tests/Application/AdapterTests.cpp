@@ -1,20 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Adapters/FileUserDefaults.h"
-#include "Application/Adapters/MainLoop.h"
 #include "Application/Adapters/PackageResources.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Tests/Application/SystemKeychainTests.h"
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QEventLoop>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
 #include <fstream>
-#include <functional>
 #include <random>
 #include <thread>
 
@@ -24,8 +21,6 @@ namespace lodestar
 namespace
 {
 
-using ::testing::ElementsAre;
-using ::testing::IsEmpty;
 using ::testing::UnorderedElementsAreArray;
 
 class FileUserDefaultsTests : public ::testing::Test
@@ -202,92 +197,6 @@ TEST(PackageResourcesTests, ReadsTheProgramsOwnFilesFromAnyThread)
     EXPECT_EQ(resources.contents("AdapterTests", "h"), std::nullopt);
     EXPECT_EQ(resources.contents("AdapterTests", ""), std::nullopt);
     EXPECT_EQ(resources.contents("", ""), std::nullopt);
-}
-
-/// Runs Qt's loop until the condition holds; the loop is woken by nothing but the blocks under test and a long timer.
-bool spinUntil(const std::function<bool()>& condition)
-{
-    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(20);
-    while (!condition() && std::chrono::steady_clock::now() < end) {
-        QCoreApplication::processEvents(QEventLoop::AllEvents, 100);
-    }
-    return condition();
-}
-
-TEST(MainLoopTests, BlocksFromAnyThreadRunInOrderOnTheMainThread)
-{
-    const MainLoop loop;
-    std::vector<int> order;
-    bool onMain = true;
-    std::thread([&] {
-        for (int i = 0; i < 1000; ++i) {
-            MainQueue::shared().async([&order, &onMain, i] {
-                order.push_back(i);
-                onMain &= MainQueue::shared().isCurrent();
-            });
-        }
-    }).join();
-    EXPECT_THAT(order, IsEmpty());
-    EXPECT_TRUE(spinUntil([&] { return order.size() == 1000; }));
-    EXPECT_TRUE(std::is_sorted(order.begin(), order.end()));
-    EXPECT_TRUE(onMain);
-    bool fired = false;
-    MainQueue::shared().asyncAfter(std::chrono::milliseconds(5), [&] { fired = true; });
-    EXPECT_TRUE(spinUntil([&] { return fired; }));
-}
-
-TEST(MainLoopTests, ANestedLoopRunsTheBlocksBehindTheOneThatStartedIt)
-{
-    const MainLoop loop;
-    std::vector<std::string> order;
-    QEventLoop first;
-    QEventLoop second;
-    MainQueue& queue = MainQueue::shared();
-    queue.async([&] {
-        order.emplace_back("first begins");
-        first.exec();
-        order.emplace_back("first ends");
-    });
-    queue.async([&] {
-        order.emplace_back("second begins");
-        second.exec();
-        order.emplace_back("second ends");
-    });
-    // Queued before any drain, so that no new block wakes the loops: they must find it by themselves.
-    queue.async([&] {
-        order.emplace_back("third");
-        second.quit();
-        queue.async([&] { first.quit(); });
-    });
-    EXPECT_TRUE(spinUntil([&] { return order.size() == 5; }));
-    EXPECT_THAT(order, ElementsAre("first begins", "second begins", "third", "second ends", "first ends"));
-}
-
-TEST(MainLoopTests, BlocksThatComeWithoutALoopWaitForTheNextOne)
-{
-    std::atomic<bool> stop = false;
-    std::atomic<int> queued = 0;
-    int ran = 0;
-    std::thread producer([&] {
-        while (!stop) {
-            ++queued;
-            MainQueue::shared().async([&] { ++ran; });
-            std::this_thread::yield();
-        }
-    });
-    while (queued < 2000) {
-        const MainLoop loop;
-        QCoreApplication::processEvents();
-    }
-    stop = true;
-    producer.join();
-    QCoreApplication::processEvents();
-    const int before = ran;
-    MainQueue::shared().async([&] { ++ran; });
-    QCoreApplication::processEvents();
-    EXPECT_EQ(ran, before) << "nobody drains";
-    const MainLoop loop;
-    EXPECT_TRUE(spinUntil([&] { return ran == queued + 1; }));
 }
 
 } // namespace

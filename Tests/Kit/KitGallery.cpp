@@ -139,7 +139,7 @@ int main(int argc, char** argv)
     if (argc != 2) {
         qFatal("usage: kit-gallery FOLDER");
     }
-    lodestar::installMainLoop();
+    const lodestar::MainLoop mainLoop;
     lodestar::run(QString::fromLocal8Bit(argv[1]));
     return 0;
 }

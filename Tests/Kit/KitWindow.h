@@ -97,12 +97,13 @@ public:
         }
         QTest::mouseRelease(&m_view, Qt::LeftButton, {}, from + by, 60);
     }
-    void swipe(QPoint from, QPoint by)
+    /// Eight moves of a finger, so many milliseconds apart.
+    void swipe(QPoint from, QPoint by, int pace = 12)
     {
         static QPointingDevice* const finger = QTest::createTouchDevice();
         QTest::touchEvent(&m_view, finger).press(1, from, &m_view);
         for (int step = 1; step <= 8; ++step) {
-            QTest::qWait(12);
+            QTest::qWait(pace);
             QTest::touchEvent(&m_view, finger).move(1, from + by * step / 8, &m_view);
         }
         QTest::qWait(60);

@@ -20,6 +20,6 @@ int main(int argc, char** argv)
     QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false"));
     testing::InitGoogleTest(&argc, argv);
     const QGuiApplication application(argc, argv);
-    lodestar::installMainLoop();
+    const lodestar::MainLoop mainLoop;
     return RUN_ALL_TESTS();
 }

@@ -76,8 +76,8 @@ TEST_F(WidgetsTest, ARowSwipesByMouseAndFingerOneAtATimeAndStaysOpenOverAReload)
     window.click(second);
     EXPECT_THAT(list->selected, ElementsAre(IndexPath{0, 1}));
 
-    // Too short a swipe falls back; up and down is the list's.
-    window.swipe(first, {-40, 0});
+    // A short, slow swipe falls back; up and down is the list's.
+    window.swipe(first, {-40, 0}, 40);
     EXPECT_TRUE(waitFor([&] { return reveal(window, 0) == 0; }));
     window.drag(first, {-130, 0});
     EXPECT_TRUE(waitFor([&] { return reveal(window, 0) == 144; }));

@@ -3,7 +3,6 @@
 
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
-#include "Kit/Core/MainLoop.h"
 #include "Kit/Core/NavigationController.h"
 #include "Kit/Core/Storyboard.h"
 #include "Kit/Core/UIColor+Tessel.h"
@@ -162,11 +161,6 @@ std::vector<ConsoleLook> longNames()
 
 SceneStage::SceneStage()
 {
-    static const bool installed = [] {
-        installMainLoop();
-        return true;
-    }();
-    Q_UNUSED(installed)
     StoreStack::shared().setApplicationDocumentsDirectory(m_folder.path().toStdString());
     UserDefaults::standard().setBool(true, "initialLoad");
     UserDefaults::standard().setBool(true, "showedPreview");

@@ -2,6 +2,7 @@
 // lodestar-screenshots FOLDER [TEXT]: one picture a screen and look, without a display. With TEXT only those whose file
 // name contains it.
 #include "Kit/Core/Appearance.h"
+#include "Kit/Core/MainLoop.h"
 #include "Tests/Scenes/SceneStage.h"
 
 #include <QDir>
@@ -170,6 +171,7 @@ int main(int argc, char** argv)
     qputenv("QT_QUICK_BACKEND", "software");
     qputenv("QT_SCALE_FACTOR", "2");
     const QGuiApplication application(argc, argv);
+    const MainLoop mainLoop;
     const QStringList arguments = QGuiApplication::arguments();
     if (arguments.size() < 2) {
         std::fprintf(stderr, "lodestar-screenshots FOLDER [TEXT]\n");

@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QEvent>
+#include <QObject>
 
 namespace lodestar
 {
@@ -12,40 +13,47 @@ namespace lodestar
 namespace
 {
 
-/// Posted events are the one way into a Qt loop that any thread may take.
-class Drain : public QObject
+QEvent::Type wakeType()
 {
-public:
-    using QObject::QObject;
-    static QEvent::Type eventType()
-    {
-        static const int type = QEvent::registerEventType();
-        return static_cast<QEvent::Type>(type);
-    }
+    static const int type = QEvent::registerEventType();
+    return static_cast<QEvent::Type>(type);
+}
 
-protected:
-    bool event(QEvent* event) override
-    {
-        if (event->type() == eventType()) {
-            MainQueue::shared().drain();
-            return true;
-        }
-        return QObject::event(event);
-    }
-};
+/// Posted ahead of every drain: a nested loop that a block starts meets it and drains what is behind that block.
+QEvent::Type nestedType()
+{
+    static const int type = QEvent::registerEventType();
+    return static_cast<QEvent::Type>(type);
+}
 
 } // namespace
 
-void installMainLoop()
+class MainLoop::Receiver : public QObject
 {
-    MainQueue& queue = MainQueue::shared();
-    queue.adoptCurrentThread();
-    QCoreApplication* application = QCoreApplication::instance();
-    auto* drain = new Drain(application);
-    QObject::connect(application, &QObject::destroyed, application, [] { MainQueue::shared().setWake({}); });
-    queue.setWake([drain] { QCoreApplication::postEvent(drain, new QEvent(Drain::eventType())); });
-    // What was queued before there was a loop woke nobody.
-    QCoreApplication::postEvent(drain, new QEvent(Drain::eventType()));
+public:
+    bool event(QEvent* event) override
+    {
+        if (event->type() != wakeType() && event->type() != nestedType()) {
+            return QObject::event(event);
+        }
+        QCoreApplication::postEvent(this, new QEvent(nestedType()));
+        MainQueue::shared().drain();
+        QCoreApplication::removePostedEvents(this, nestedType());
+        return true;
+    }
+};
+
+MainLoop::MainLoop() : m_receiver(std::make_unique<Receiver>())
+{
+    MainQueue::shared().adoptCurrentThread();
+    // The queue calls this from any thread, but never again once it has another or none.
+    MainQueue::shared().setWake(
+        [receiver = m_receiver.get()] { QCoreApplication::postEvent(receiver, new QEvent(wakeType())); });
+}
+
+MainLoop::~MainLoop()
+{
+    MainQueue::shared().setWake(nullptr);
 }
 
 } // namespace lodestar

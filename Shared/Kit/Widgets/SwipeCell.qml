@@ -98,7 +98,13 @@ Item {
 
             property bool held: false
             property real from: 0
-            property real lastX: 0
+            // Speed is taken over a stretch of the way: single moves come in bunches when the program was busy, and two of
+            // a bunch tell nothing.
+            readonly property int stretch: 40
+            property real stretchX: 0
+            property real stretchTime: 0
+            property real nextX: 0
+            property real nextTime: 0
             property real lastTime: 0
             /// Points a second, towards the end of the row.
             property real speed: 0
@@ -129,8 +135,8 @@ Item {
                 if (drag.active) {
                     settling.stop();
                     from = cell.reveal;
-                    lastX = handle.x;
-                    lastTime = Date.now();
+                    stretchX = nextX = handle.x;
+                    stretchTime = nextTime = lastTime = Date.now();
                     speed = 0;
                     if (from === 0) {
                         cell.opening();
@@ -142,11 +148,14 @@ Item {
 
             function follow(x: real) {
                 const now = Date.now();
-                if (now > lastTime) {
-                    speed = (Theme.mirrored ? 1 : -1) * (x - lastX) / (now - lastTime) * 1000;
-                    lastX = x;
-                    lastTime = now;
+                if (now - nextTime >= stretch) {
+                    stretchX = nextX;
+                    stretchTime = nextTime;
+                    nextX = x;
+                    nextTime = now;
                 }
+                speed = (Theme.mirrored ? 1 : -1) * (x - stretchX) / Math.max(stretch, now - stretchTime) * 1000;
+                lastTime = now;
                 const wish = from + (Theme.mirrored ? 1 : -1) * x;
                 const limit = wish > 0 ? cell.trailingWidth : cell.leadingWidth;
                 const over = Math.max(0, Math.abs(wish) - limit);

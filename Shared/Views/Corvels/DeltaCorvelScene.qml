@@ -55,6 +55,7 @@ SheetContent {
             EditorField {
                 editor: scene.editor
                 label: qsTr("Address")
+                placeholder: qsTr("Host name or address")
                 outlet: scene.editor.addressField
                 inputMethodHints: Qt.ImhUrlCharactersOnly | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
             }
