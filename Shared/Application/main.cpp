@@ -14,6 +14,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QGuiApplication>
+#include <QScreen>
 #include <QStandardPaths>
 
 #include <cstdio>
@@ -114,7 +115,10 @@ int main(int argc, char** argv)
     delegate.showInitialViewController();
     window->loadInterface();
     if (options.fullScreen) {
-        window->showFullScreen();
+        // A bare X server has no window manager that would grant the full screen.
+        window->setFlag(Qt::FramelessWindowHint);
+        window->setGeometry(window->screen()->geometry());
+        window->show();
     } else {
         window->resize(390, 844);
         window->show();
