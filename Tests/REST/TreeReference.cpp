@@ -110,15 +110,17 @@ void appendElement(const XMLDocument& document, XMLDocument::Index& index, const
             out += "(child, children and childCount disagree)\n";
         }
     }
-    for (const auto& [name, number] : order) {
-        const auto found = std::find_if(byName.begin(), byName.end(), [&](const auto& e) { return e.first == name; });
-        appendElement(document, index, number < found->second.size() ? found->second[number] : XMLElement(), out);
+    for (const auto& one : order) {
+        const auto found =
+            std::find_if(byName.begin(), byName.end(), [&](const auto& e) { return e.first == one.first; });
+        appendElement(document, index, one.second < found->second.size() ? found->second[one.second] : XMLElement(),
+                      out);
     }
 }
 
-} // namespace
-
-std::string readTree(std::string_view bytes)
+/// What `read` makes of the root of the library's own tree.
+template <typename Read>
+std::string withTree(std::string_view bytes, const Read& read)
 {
     xmlResetLastError();
     const std::unique_ptr<xmlDoc, decltype(&xmlFreeDoc)> document(
@@ -130,17 +132,38 @@ std::string readTree(std::string_view bytes)
         return "(error)";
     }
     const xmlNode* root = document ? xmlDocGetRootElement(document.get()) : nullptr;
-    if (root == nullptr) {
+    return root != nullptr ? read(*root) : "(none)";
+}
+
+} // namespace
+
+std::string readTree(std::string_view bytes)
+{
+    return withTree(bytes, [](const xmlNode& root) {
+        std::vector<std::string> lines;
+        std::string text;
+        appendTree(root, lines, text);
+        std::string all;
+        for (const std::string& line : lines) {
+            all += line;
+        }
+        return all;
+    });
+}
+
+std::string readTreeChildText(std::string_view bytes, std::string_view name)
+{
+    return withTree(bytes, [name](const xmlNode& root) -> std::string {
+        for (const xmlNode* node = root.children; node != nullptr; node = node->next) {
+            if (node->type == XML_ELEMENT_NODE && localName(node->name, node->ns) == name) {
+                std::vector<std::string> lines;
+                std::string text;
+                appendTree(*node, lines, text);
+                return "=" + text;
+            }
+        }
         return "(none)";
-    }
-    std::vector<std::string> lines;
-    std::string text;
-    appendTree(*root, lines, text);
-    std::string all;
-    for (const std::string& line : lines) {
-        all += line;
-    }
-    return all;
+    });
 }
 
 std::string readArena(std::string_view bytes)

@@ -15,7 +15,10 @@ namespace lodestar
 /// for a tree that memory ran out on, or that libxml2 gave up as if it had.
 std::string readTree(std::string_view bytes);
 
-/// The same through `XMLElement` and the arena below it.
+/// The text of the root's first child element of the name, after "="; "(none)" and "(error)" as above.
+std::string readTreeChildText(std::string_view bytes, std::string_view name);
+
+/// The same as `readTree` through `XMLElement` and the arena below it.
 std::string readArena(std::string_view bytes);
 
 /// The first place where the two differ, for a message; empty when they do not.

@@ -26,16 +26,6 @@ constexpr std::string_view k2Namespace = "http://www.w3.org/XML/1998/namespace/k
 constexpr std::string_view webContent = "application/vnd.ornis.varnex.web+xml";
 constexpr std::chrono::seconds logonTimeout{10};
 
-/// The session key of a logon answer, or the error with which the logon is rejected.
-Result<SessionKey> sessionKeyOfAnswer(std::string_view body)
-{
-    const Result<XMLElement> root = XMLElement::parse(body);
-    if (!root) {
-        return root.error();
-    }
-    return root.value().child("X-API-Session").text();
-}
-
 /// Logon and session check of one record. Everything that is read of the record is read when it is made, on the thread
 /// that asked for the key: the record may be edited while the requests run.
 class Logon : public std::enable_shared_from_this<Logon>

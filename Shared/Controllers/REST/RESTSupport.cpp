@@ -56,6 +56,15 @@ SessionKey storedSessionKey(const Corvel& corvel)
     return address ? UserDefaults::standard().stringForKey(*address) : std::nullopt;
 }
 
+Result<SessionKey> sessionKeyOfAnswer(std::string_view body)
+{
+    const Result<XMLElement> root = XMLElement::parse(body);
+    if (!root) {
+        return root.error();
+    }
+    return root.value().child("X-API-Session").text();
+}
+
 bool isUTF8(std::string_view bytes)
 {
     for (std::size_t i = 0; i < bytes.size();) {

@@ -19,6 +19,9 @@ std::string consoleURL(const Corvel& corvel, std::string_view schema, std::strin
 /// The session key that is stored for the record's address.
 SessionKey storedSessionKey(const Corvel& corvel);
 
+/// The session key of the body of a logon answer, or the error with which the logon is rejected.
+Result<SessionKey> sessionKeyOfAnswer(std::string_view body);
+
 /// Whether the bytes are well-formed UTF-8 (no overlong forms, no surrogates).
 bool isUTF8(std::string_view bytes);
 
