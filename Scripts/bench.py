@@ -9,7 +9,8 @@ import subprocess
 import sys
 import tempfile
 
-PROGRAMS = ["PromiseBenchmark", "FeedBenchmark", "StoreBenchmark", "RefreshBenchmark", "StartBenchmark"]
+PROGRAMS = ["PromiseBenchmark", "FeedBenchmark", "StoreBenchmark", "RefreshBenchmark", "ListBenchmark",
+            "StartBenchmark"]
 
 
 def rows_of(program):

@@ -6,6 +6,7 @@
 #include "Platform/URLLoading/ServerTrust.h"
 #include "Platform/UserDefaults.h"
 #include "Simulator/SimulatorProcess.h"
+#include "Tests/ScratchFolder.h"
 
 #include <benchmark/benchmark.h>
 
@@ -151,13 +152,8 @@ class Fleet
 public:
     explicit Fleet(int consoles)
     {
-        std::string folder = (fs::temp_directory_path() / "lodestar-refresh-XXXXXX").string();
-        if (mkdtemp(folder.data()) == nullptr) {
-            throw std::runtime_error("no scratch folder");
-        }
-        m_folder = folder;
-        fs::create_directory(m_folder + "/measured");
-        StoreStack::shared().setApplicationDocumentsDirectory(folder);
+        fs::create_directory(m_scratch.file("measured"));
+        StoreStack::shared().setApplicationDocumentsDirectory(m_scratch.path());
         simulator::Settings settings;
         settings.consoles = consoles;
         settings.systems = 40;
@@ -171,24 +167,23 @@ public:
         logOn();
         writeFiles();
     }
-    ~Fleet()
-    {
-        StoreStack::shared().close();
-        fs::remove_all(m_folder);
-    }
+    ~Fleet() { StoreStack::shared().close(); }
     Fleet(const Fleet&) = delete;
     Fleet& operator=(const Fleet&) = delete;
 
     double ours(const std::string& mode) const
     {
-        return run({fs::read_symlink("/proc/self/exe").string(), mode, m_folder + "/consoles", m_link});
+        return run({fs::read_symlink("/proc/self/exe").string(), mode, m_scratch.file("consoles"), m_link});
     }
-    double curl(const std::string& configuration) const { return run({"curl", "-q", "-K", m_folder + configuration}); }
+    double curl(const std::string& configuration) const
+    {
+        return run({"curl", "-q", "-K", m_scratch.file(configuration)});
+    }
     /// Peak resident memory and retained feeds of the last refresh, in bytes.
     std::pair<double, double> memory() const
     {
         std::pair<double, double> bytes{0, 0};
-        std::ifstream(m_folder + "/consoles.memory") >> bytes.first >> bytes.second;
+        std::ifstream(m_scratch.file("consoles.memory")) >> bytes.first >> bytes.second;
         return bytes;
     }
 
@@ -224,8 +219,8 @@ private:
 
     void writeFiles()
     {
-        std::ofstream list(m_folder + "/consoles");
-        std::ofstream feeds(m_folder + "/feeds");
+        std::ofstream list(m_scratch.file("consoles"));
+        std::ofstream feeds(m_scratch.file("feeds"));
         feeds << "parallel\nno-progress-meter\nsilent\nfail\n";
         const char* separator = "";
         for (const Console& console : m_consoles) {
@@ -236,14 +231,14 @@ private:
             }
         }
         m_link = "https://" + m_consoles[0].address + ":12443/rest/api/uom/LogicalPartition/none/quick/PartitionState";
-        std::ofstream single(m_folder + "/lookups");
+        std::ofstream single(m_scratch.file("lookups"));
         single << "no-progress-meter\nsilent\n";
         for (int i = 0; i < lookUps; ++i) {
             addTransfer(single, m_link, m_consoles[0]);
         }
     }
 
-    std::string m_folder;
+    const ScratchFolder m_scratch;
     simulator::SimulatorProcess m_simulator;
     std::vector<Console> m_consoles;
     std::string m_link;
@@ -261,13 +256,13 @@ void measureRows(bench::Rows& rows)
                 excess = std::max(excess, resident - retained);
                 return time;
             },
-            [&] { return fleet.curl("/feeds"); });
+            [&] { return fleet.curl("feeds"); });
         const std::string what = "refresh of " + std::to_string(consoles) + " consoles x 6 feeds";
         rows.add(what + " / curl --parallel", medians.ours, medians.reference, 1.15);
         rows.add(what + ": memory beyond the feeds / 150 MB", excess / 1e6, 150, 1, "MB");
         if (consoles == 50) {
             const auto lookUpTimes = bench::medianInterleaved([&] { return fleet.ours("--look-ups"); },
-                                                              [&] { return fleet.curl("/lookups"); });
+                                                              [&] { return fleet.curl("lookups"); });
             rows.add("200 blocking look-ups / curl on one connection", lookUpTimes.ours, lookUpTimes.reference, 1.3);
         }
     }

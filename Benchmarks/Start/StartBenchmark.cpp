@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Benchmarks/Rows.h"
+#include "Tests/ScratchFolder.h"
 
 #include <algorithm>
 #include <cerrno>
@@ -34,31 +35,9 @@ constexpr const char* marker = "first frame\n";
     throw std::runtime_error(what);
 }
 
-/// A folder for one program's settings and files, removed at the end. The first start fills it; the later ones find
-/// what a user's second start finds.
-class Home
-{
-public:
-    Home()
-    {
-        std::string path = (std::filesystem::temp_directory_path() / "start-XXXXXX").string();
-        if (mkdtemp(path.data()) == nullptr) {
-            fail("no temporary folder");
-        }
-        m_path = path;
-    }
-    Home(const Home&) = delete;
-    Home& operator=(const Home&) = delete;
-    ~Home()
-    {
-        std::error_code ignored;
-        std::filesystem::remove_all(m_path, ignored);
-    }
-    const std::string& path() const { return m_path; }
-
-private:
-    std::string m_path;
-};
+/// Where one program keeps its settings and files. The first start fills it; the later ones find what a user's second
+/// start finds.
+using Home = lodestar::ScratchFolder;
 
 /// This environment, but without a display, with the software renderer, and with everything kept in `home`.
 std::vector<std::string> environmentIn(const std::string& home)

@@ -7,6 +7,7 @@
 #include "Application/Model/Corvel.h"
 #include "Application/Model/StoreStack.h"
 #include "Benchmarks/Rows.h"
+#include "Tests/ScratchFolder.h"
 
 #include <benchmark/benchmark.h>
 
@@ -21,29 +22,6 @@ namespace
 {
 
 constexpr int consoles = 5000;
-
-class ScratchFolder
-{
-public:
-    ScratchFolder()
-    {
-        const std::filesystem::path memory = "/dev/shm";
-        const bool inMemory = std::filesystem::is_directory(memory);
-        std::string name = (inMemory ? memory : std::filesystem::temp_directory_path()) / "lodestar-bench-XXXXXX";
-        if (::mkdtemp(name.data()) == nullptr) {
-            throw std::runtime_error("no scratch folder");
-        }
-        m_path = name;
-    }
-    ~ScratchFolder() { std::filesystem::remove_all(m_path); }
-    ScratchFolder(const ScratchFolder&) = delete;
-    ScratchFolder& operator=(const ScratchFolder&) = delete;
-
-    std::string file(const char* name) const { return m_path / name; }
-
-private:
-    std::filesystem::path m_path;
-};
 
 void check(bool holds, const char* what)
 {

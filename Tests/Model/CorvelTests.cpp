@@ -3,6 +3,7 @@
 #include "Application/Model/Group.h"
 #include "Application/Model/StoreStack.h"
 #include "Platform/Queues/MainQueue.h"
+#include "Tests/ScratchFolder.h"
 
 #include <gmock/gmock.h>
 
@@ -35,17 +36,8 @@ namespace
 class CorvelTests : public ::testing::Test
 {
 public:
-    CorvelTests()
-    {
-        std::string name = std::filesystem::temp_directory_path() / "lodestar-model-XXXXXX";
-        folder = ::mkdtemp(name.data());
-        StoreStack::shared().setApplicationDocumentsDirectory(folder / "Documents");
-    }
-    ~CorvelTests() override
-    {
-        StoreStack::shared().close();
-        std::filesystem::remove_all(folder);
-    }
+    CorvelTests() { StoreStack::shared().setApplicationDocumentsDirectory(folder.path() / "Documents"); }
+    ~CorvelTests() override { StoreStack::shared().close(); }
     CorvelTests(const CorvelTests&) = delete;
     CorvelTests& operator=(const CorvelTests&) = delete;
 
@@ -62,7 +54,7 @@ protected:
         return result;
     }
 
-    std::filesystem::path folder;
+    const ScratchFolder folder;
 };
 
 TEST_F(CorvelTests, AttributesAreKeptAndTheRestIsNot)
@@ -134,7 +126,7 @@ TEST_F(CorvelTests, ADeletedPasswordIsWipedOnTheMainQueuesNextTurn)
             StoreStack::shared().close();
         }
         MainQueue::shared().drain();
-        for (const auto& entry : std::filesystem::directory_iterator(folder / "Documents")) {
+        for (const auto& entry : std::filesystem::directory_iterator(folder.path() / "Documents")) {
             std::ifstream file(entry.path(), std::ios::binary);
             const std::string bytes(std::istreambuf_iterator<char>(file), {});
             EXPECT_THAT(bytes, ::testing::Not(::testing::HasSubstr("s3cret"))) << entry.path();

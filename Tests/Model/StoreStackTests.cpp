@@ -2,6 +2,7 @@
 #include "Application/Model/Corvel.h"
 #include "Application/Model/StoreStack.h"
 #include "Feedback/VireoLogger.h"
+#include "Tests/ScratchFolder.h"
 
 #include <SQLiteCpp/Database.h>
 #include <gmock/gmock.h>
@@ -24,17 +25,8 @@ using ::testing::Not;
 class StoreStackTests : public ::testing::Test
 {
 public:
-    StoreStackTests()
-    {
-        std::string name = std::filesystem::temp_directory_path() / "lodestar-stack-XXXXXX";
-        folder = ::mkdtemp(name.data());
-        StoreStack::shared().setApplicationDocumentsDirectory(folder);
-    }
-    ~StoreStackTests() override
-    {
-        StoreStack::shared().close();
-        std::filesystem::remove_all(folder);
-    }
+    StoreStackTests() { StoreStack::shared().setApplicationDocumentsDirectory(folder); }
+    ~StoreStackTests() override { StoreStack::shared().close(); }
     StoreStackTests(const StoreStackTests&) = delete;
     StoreStackTests& operator=(const StoreStackTests&) = delete;
 
@@ -55,7 +47,8 @@ protected:
         return {std::istreambuf_iterator<char>(stream), {}};
     }
 
-    std::filesystem::path folder;
+    const ScratchFolder scratch;
+    const std::filesystem::path& folder = scratch.path();
 };
 
 TEST_F(StoreStackTests, AStoreThatCannotBeOpenedEndsTheProcessWithOneLine)

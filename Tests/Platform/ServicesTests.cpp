@@ -3,6 +3,7 @@
 #include "Platform/NotificationCenter.h"
 #include "Platform/Resources.h"
 #include "Platform/UserDefaults.h"
+#include "Tests/ScratchFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -126,8 +127,8 @@ TEST(Services, FolderResourcesReadWholeFilesOfTheTopLevelOnly)
 {
     EXPECT_EQ(Resources::main().contents("ManagedSystem", "xml"), std::nullopt);
 
-    std::string pattern = (std::filesystem::temp_directory_path() / "resources-XXXXXX").string();
-    const std::filesystem::path folder = ::mkdtemp(pattern.data());
+    const ScratchFolder scratch;
+    const std::filesystem::path& folder = scratch.path();
     const std::string bytes("a\0b\r\n\xff", 6);
     std::ofstream(folder / "ManagedSystem.xml", std::ios::binary) << bytes;
     std::ofstream(folder / "plain") << "";

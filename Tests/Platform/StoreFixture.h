@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Platform/Store/ObjectContext.h"
+#include "Tests/ScratchFolder.h"
 
 #include <SQLiteCpp/Database.h>
 #include <gtest/gtest.h>
@@ -22,23 +23,13 @@ namespace lodestar::test
 class StoreFixture : public ::testing::Test
 {
 public:
-    ~StoreFixture() override { std::filesystem::remove_all(folder); }
+    StoreFixture() = default;
     StoreFixture(const StoreFixture&) = delete;
     StoreFixture& operator=(const StoreFixture&) = delete;
 
 protected:
     using ObjectRef = std::shared_ptr<ManagedObject>;
     enum Attribute : std::size_t { Title, Note, Count };
-
-    StoreFixture()
-    {
-        // In memory where that can be had: thousands of saves wait for the disk otherwise.
-        const std::filesystem::path memory = "/dev/shm";
-        const bool inMemory = std::filesystem::is_directory(memory);
-        std::string name = (inMemory ? memory : std::filesystem::temp_directory_path()) / "lodestar-store-XXXXXX";
-        folder = ::mkdtemp(name.data());
-        path = folder / "Test.sqlite";
-    }
 
     static ManagedObjectModel model(int version = 1)
     {
@@ -129,8 +120,9 @@ protected:
     /// A second, plain connection to the store.
     SQLite::Database plain() const { return {path.string(), SQLite::OPEN_READWRITE | SQLite::OPEN_CREATE, 1000}; }
 
-    std::filesystem::path folder;
-    std::filesystem::path path;
+    const ScratchFolder scratch;
+    const std::filesystem::path& folder = scratch.path();
+    std::filesystem::path path = folder / "Test.sqlite";
 };
 
 } // namespace lodestar::test

@@ -8,6 +8,7 @@
 #include "Platform/URLLoading/ServerTrust.h"
 #include "Platform/UserDefaults.h"
 #include "Simulator/SimulatorProcess.h"
+#include "Tests/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 
@@ -28,10 +29,7 @@ protected:
     void SetUp() override
     {
         MainQueue::shared().adoptCurrentThread();
-        std::string folder = testing::TempDir() + "lodestar-rest-XXXXXX";
-        ASSERT_NE(mkdtemp(folder.data()), nullptr);
-        m_folder = folder;
-        StoreStack::shared().setApplicationDocumentsDirectory(folder);
+        StoreStack::shared().setApplicationDocumentsDirectory(m_folder.path());
         handler().setCorvelList({});
         for (const std::string& key : defaults().allKeys()) {
             defaults().removeObjectForKey(key);
@@ -52,7 +50,6 @@ protected:
         m_listener.reset();
         handler().setCorvelList({});
         StoreStack::shared().close();
-        std::filesystem::remove_all(m_folder);
     }
 
     static RESTHandler& handler() { return RESTHandler::sharedInstance(); }
@@ -119,7 +116,7 @@ protected:
     }
 
 private:
-    std::string m_folder;
+    const ScratchFolder m_folder;
     std::shared_ptr<void> m_listener;
     std::mutex m_linesMutex;
     std::vector<std::string> m_lines;

@@ -55,9 +55,7 @@ void ViewsTest::SetUp()
                    {"ServiceableEvent", "<feed><entry/><entry/></feed>"},
                    {"Group", "<feed/>"}};
     Resources::install(std::make_unique<DemoResources>());
-    std::string folder = std::filesystem::temp_directory_path() / "lodestar-views-XXXXXX";
-    m_folder = mkdtemp(folder.data());
-    StoreStack::shared().setApplicationDocumentsDirectory(m_folder);
+    StoreStack::shared().setApplicationDocumentsDirectory(m_folder.path());
     for (const std::string& key : UserDefaults::standard().allKeys()) {
         UserDefaults::standard().removeObjectForKey(key);
     }
@@ -83,7 +81,6 @@ void ViewsTest::TearDown()
     m_listener.reset();
     RESTHandler::sharedInstance().setCorvelList({});
     StoreStack::shared().close();
-    std::filesystem::remove_all(m_folder);
 }
 
 bool ViewsTest::runUntil(const std::function<bool()>& predicate, std::chrono::milliseconds limit)

@@ -5,6 +5,7 @@
 #include "Controllers/REST/Feed.h"
 #include "Kit/Core/NavigationController.h"
 #include "Platform/NotificationCenter.h"
+#include "Tests/ScratchFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -58,7 +59,7 @@ protected:
     std::vector<std::string> takeNotifications();
 
 private:
-    std::string m_folder;
+    const ScratchFolder m_folder;
     std::mutex m_mutex;
     std::vector<LoggedLine> m_lines;
     std::vector<std::string> m_notifications;

@@ -51,4 +51,18 @@ void forgetSessionKeyOfUnregistered(const Corvel& corvel)
     }
 }
 
+RXPromise<std::string> fetchInventory(const CorvelRef& corvel)
+{
+    return RESTHandler::sharedInstance()
+        .login(corvel, CheckToken::Yes)
+        .then([corvel](const SessionKey& key) {
+            corvel->isOnline = true;
+            return RESTHandler::sharedInstance().fetchAllDataForCorvel(corvel, key);
+        })
+        .then([corvel](const std::shared_ptr<const FeedDictionary>& feeds) {
+            corvel->setRestData(feeds);
+            return RESTHandler::sharedInstance().processInformationForCorvel(corvel);
+        });
+}
+
 } // namespace lodestar

@@ -2,6 +2,9 @@
 #pragma once
 
 #include "Application/Model/Corvel.h"
+#include "Controllers/REST/RXPromise.h"
+
+#include <string>
 
 namespace lodestar
 {
@@ -22,5 +25,9 @@ bool isRegistered(const CorvelRef& corvel);
 /// A logon that was under way when its record was deleted stores its session key afterwards: takes that key away again,
 /// unless a registered console has the same address.
 void forgetSessionKeyOfUnregistered(const Corvel& corvel);
+
+/// Logs on to the console, marks its record online, gives it its six feeds and counts them. Rejected when the logon
+/// fails; a feed that fails is "NA".
+RXPromise<std::string> fetchInventory(const CorvelRef& corvel);
 
 } // namespace lodestar

@@ -128,18 +128,9 @@ void CorvelListViewController::refreshCorvel(const CorvelRef& corvel)
 {
     // The screen is kept until the result is stored, also when it is closed meanwhile.
     const auto screen = self<CorvelListViewController>();
-    RESTHandler::sharedInstance()
-        .login(corvel, CheckToken::Yes)
-        .then([corvel](const SessionKey& key) {
-            corvel->isOnline = true;
-            return RESTHandler::sharedInstance().fetchAllDataForCorvel(corvel, key);
-        })
-        .then([corvel](const std::shared_ptr<const FeedDictionary>& feeds) {
-            corvel->setRestData(feeds);
-            return RESTHandler::sharedInstance().processInformationForCorvel(corvel);
-        })
-        .thenOnMain([screen, corvel](const std::string&) { screen->didRefreshCorvel(corvel); },
-                    [screen, corvel](const Error& error) { screen->didFailToRefreshCorvel(corvel, error); });
+    fetchInventory(corvel).thenOnMain(
+        [screen, corvel](const std::string&) { screen->didRefreshCorvel(corvel); },
+        [screen, corvel](const Error& error) { screen->didFailToRefreshCorvel(corvel, error); });
 }
 
 void CorvelListViewController::didRefreshCorvel(const CorvelRef& corvel)

@@ -118,18 +118,8 @@ void DeltaCorvelViewController::logOnAndFetch()
 {
     const auto screen = self<DeltaCorvelViewController>();
     const CorvelRef corvel = m_corvel;
-    RESTHandler::sharedInstance()
-        .login(corvel, CheckToken::Yes)
-        .then([corvel](const SessionKey& key) {
-            corvel->isOnline = true;
-            return RESTHandler::sharedInstance().fetchAllDataForCorvel(corvel, key);
-        })
-        .then([corvel](const std::shared_ptr<const FeedDictionary>& feeds) {
-            corvel->setRestData(feeds);
-            return RESTHandler::sharedInstance().processInformationForCorvel(corvel);
-        })
-        .thenOnMain([screen, corvel](const std::string&) { screen->didFetch(corvel); },
-                    [screen](const Error& error) { screen->didFail(error); });
+    fetchInventory(corvel).thenOnMain([screen, corvel](const std::string&) { screen->didFetch(corvel); },
+                                      [screen](const Error& error) { screen->didFail(error); });
 }
 
 void DeltaCorvelViewController::didFetch(const CorvelRef& corvel)
