@@ -3,24 +3,25 @@
 
 #include "Controllers/REST/XMLDocumentBuilder.h"
 
+#include <new>
+
 namespace lodestar
 {
 
 Result<std::shared_ptr<const XMLDocument>> XMLDocument::parse(std::string_view bytes)
 {
-    return XMLDocumentBuilder(bytes.size()).run(bytes);
-}
-
-XMLDocument::Name XMLDocument::find(std::string_view name) const
-{
-    const auto known = m_nameIds.find(name);
-    return known != m_nameIds.end() ? known->second : noName;
+    // Also what is made before the first event, and after the last, may find no memory.
+    try {
+        return XMLDocumentBuilder().run(bytes);
+    } catch (const std::bad_alloc&) {
+        return XMLDocumentBuilder::outOfMemory();
+    }
 }
 
 std::string_view XMLDocument::text(Index index) const
 {
     const Node& node = m_nodes[index];
-    return std::string_view(m_text).substr(node.text, node.textEnd - node.text);
+    return {m_text.data() + node.text, node.textEnd - node.text};
 }
 
 std::span<const XMLDocument::Attribute> XMLDocument::attributes(Index index) const
@@ -42,18 +43,13 @@ const XMLDocument::Attribute* XMLDocument::attribute(Index index, Name name) con
 
 std::string_view XMLDocument::value(const Attribute& attribute) const
 {
-    return std::string_view(m_values).substr(attribute.value, attribute.valueLength);
+    return {m_values.data() + attribute.value, attribute.valueLength};
 }
 
 std::size_t XMLDocument::memory() const
 {
-    std::size_t names = 0;
-    for (const std::string& name : m_names) {
-        names += sizeof(std::string) + name.capacity();
-    }
-    return sizeof *this + m_nodes.capacity() * sizeof(Node) + m_attributes.capacity() * sizeof(Attribute) +
-           m_text.capacity() + m_values.capacity() + names +
-           m_nameIds.size() * (sizeof(std::string_view) + sizeof(Name) + 2 * sizeof(void*));
+    return sizeof *this + m_nodes.memory() + m_attributes.memory() + m_text.memory() + m_values.memory() +
+           m_names.memory();
 }
 
 } // namespace lodestar

@@ -1,16 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Controllers/REST/XMLArray.h"
+#include "Controllers/REST/XMLNames.h"
 #include "Platform/Result.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <span>
-#include <string>
 #include <string_view>
-#include <unordered_map>
-#include <vector>
 
 namespace lodestar
 {
@@ -23,7 +22,7 @@ class XMLDocument
 {
 public:
     using Index = std::uint32_t;
-    using Name = std::uint32_t;
+    using Name = XMLNames::Name;
 
     struct Node {
         Name name;
@@ -37,16 +36,16 @@ public:
         std::uint32_t value;
         std::uint32_t valueLength;
     };
-    static constexpr Name noName = UINT32_MAX;
+    static constexpr Name noName = XMLNames::none;
 
     /// Null when no document, or one without a root, can be made of the bytes.
     static Result<std::shared_ptr<const XMLDocument>> parse(std::string_view bytes);
 
     const Node& node(Index index) const { return m_nodes[index]; }
     Index childrenBegin(Index index) const { return index + 1; }
-    std::string_view nameText(Name name) const { return m_names[name]; }
+    std::string_view nameText(Name name) const { return m_names.text(name); }
     /// `noName` when the document has no such name.
-    Name find(std::string_view name) const;
+    Name find(std::string_view name) const { return m_names.find(name); }
     std::string_view text(Index index) const;
     std::span<const Attribute> attributes(Index index) const;
     /// Null when the element has no such attribute.
@@ -57,12 +56,11 @@ public:
 private:
     friend class XMLDocumentBuilder;
 
-    std::vector<Node> m_nodes;
-    std::vector<Attribute> m_attributes;
-    std::string m_text;
-    std::string m_values;
-    std::vector<std::string> m_names;
-    std::unordered_map<std::string_view, Name> m_nameIds; ///< views into m_names, which no longer moves
+    XMLArray<Node> m_nodes;
+    XMLArray<Attribute> m_attributes;
+    XMLArray<char> m_text;
+    XMLArray<char> m_values;
+    XMLNames m_names;
 };
 
 } // namespace lodestar

@@ -4,7 +4,6 @@
 #include <libxml/parserInternals.h>
 
 #include <limits>
-#include <mutex>
 #include <new>
 
 namespace lodestar
@@ -16,11 +15,6 @@ constexpr std::size_t arenaLimit = std::numeric_limits<std::uint32_t>::max() - 1
 // Salvage what can be salvaged, print nothing, open nothing. Entities are never replaced, no DTD is ever loaded, and
 // the parser's own limits on depth and size stay on.
 constexpr int parseOptions = XML_PARSE_RECOVER | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
-
-Error outOfMemory()
-{
-    return {"XML", XML_ERR_NO_MEMORY, "There is not enough memory to read the answer.", {}, nullptr};
-}
 
 Error tooLarge()
 {
@@ -43,16 +37,14 @@ struct ParserDeleter {
 
 } // namespace
 
-XMLDocumentBuilder::XMLDocumentBuilder(std::size_t inputSize)
+Error XMLDocumentBuilder::outOfMemory()
 {
-    m_document->m_text.reserve(inputSize / 3);
-    m_document->m_nodes.reserve(inputSize / 64);
+    // Short enough to need none.
+    return {"XML", XML_ERR_NO_MEMORY, "Out of memory.", {}, nullptr};
 }
 
 Result<std::shared_ptr<const XMLDocument>> XMLDocumentBuilder::run(std::string_view bytes)
 {
-    static std::once_flag initialised;
-    std::call_once(initialised, &xmlInitParser);
     if (bytes.empty()) {
         return std::shared_ptr<const XMLDocument>();
     }
@@ -67,21 +59,11 @@ Result<std::shared_ptr<const XMLDocument>> XMLDocumentBuilder::run(std::string_v
     m_parser = parser.get();
     parser->_private = this;
     xmlCtxtUseOptions(parser.get(), parseOptions);
-    // Declarations go the library's own way, so that entities and defaulted attributes mean what they mean to its
-    // tree; what would become the tree's nodes comes here.
-    xmlSAXHandler& events = *parser->sax;
-    events.startElementNs = &startElement;
-    events.endElementNs = &endElement;
-    events.characters = &characters;
-    events.ignorableWhitespace = &characters;
-    events.cdataBlock = &characters;
-    events.reference = nullptr;
-    events.comment = nullptr;
-    events.processingInstruction = nullptr;
-    events.serror = &noteError;
+    setEvents(*parser->sax);
     xmlParseDocument(parser.get());
-    if (parser->errNo == XML_ERR_NO_MEMORY) {
-        fail(outOfMemory());
+    // A shorter document must never pass for a whole one.
+    if (m_memory.ranOut() || parser->errNo == XML_ERR_NO_MEMORY) {
+        return outOfMemory();
     }
     if (m_failed) {
         return m_error;
@@ -89,12 +71,23 @@ Result<std::shared_ptr<const XMLDocument>> XMLDocumentBuilder::run(std::string_v
     if (m_document->m_nodes.empty()) {
         return std::shared_ptr<const XMLDocument>();
     }
-    try {
-        finish();
-    } catch (const std::bad_alloc&) {
-        return outOfMemory();
-    }
+    finish();
     return std::shared_ptr<const XMLDocument>(std::move(m_document));
+}
+
+void XMLDocumentBuilder::setEvents(xmlSAXHandler& events) const
+{
+    setDeclarationEvents(events);
+    events.startElementNs = &startElement;
+    events.endElementNs = &endElement;
+    events.characters = &characters;
+    // One function for both spares the parser a look at what is blank.
+    events.ignorableWhitespace = &characters;
+    events.cdataBlock = &characters;
+    events.reference = nullptr;
+    events.comment = nullptr;
+    events.processingInstruction = nullptr;
+    events.serror = &noteError;
 }
 
 /// Null for events that come from inside an entity's text: the parser checks that text when the entity is first named,
@@ -117,7 +110,7 @@ void XMLDocumentBuilder::startElement(void* context, const xmlChar* localName, c
     try {
         self->closeAbandoned();
         // Values that only a declaration gives stand last, and are not read.
-        self->open(self->localPart(localName, prefix), attributes, attributeCount - defaultedCount);
+        self->open(localName, prefix, attributes, attributeCount - defaultedCount);
     } catch (const std::bad_alloc&) {
         self->fail(outOfMemory());
     }
@@ -141,14 +134,21 @@ void XMLDocumentBuilder::characters(void* context, const xmlChar* bytes, int len
     if (self->m_open.empty()) {
         return;
     }
+    XMLArray<char>& text = self->m_document->m_text;
+    const auto count = static_cast<std::size_t>(length);
+    if (text.size() + count >= arenaLimit) {
+        self->fail(tooLarge());
+        return;
+    }
     try {
-        self->append({chars(bytes), static_cast<std::size_t>(length)});
+        text.append(chars(bytes), count);
     } catch (const std::bad_alloc&) {
         self->fail(outOfMemory());
     }
 }
 
-/// A shorter document must never pass for a whole one: later errors may overwrite the one that counts.
+/// The parser also says that it is out of memory when one of its own limits is reached. Later errors may overwrite the
+/// one that counts.
 void XMLDocumentBuilder::noteError(void* context, xmlErrorPtr error)
 {
     if (context == nullptr || error == nullptr || error->code != XML_ERR_NO_MEMORY) {
@@ -158,19 +158,8 @@ void XMLDocumentBuilder::noteError(void* context, xmlErrorPtr error)
     static_cast<XMLDocumentBuilder*>(parser->_private)->fail(outOfMemory());
 }
 
-/// A name that is no proper qualified name comes whole; what stands before its colon is a prefix all the same.
-const xmlChar* XMLDocumentBuilder::localPart(const xmlChar* name, const xmlChar* prefix) const
-{
-    const std::string_view whole = chars(name);
-    const std::size_t colon = whole.find(':');
-    if (prefix != nullptr || colon == 0 || colon == std::string_view::npos || colon + 1 == whole.size()) {
-        return name;
-    }
-    const xmlChar* const part = xmlDictLookup(m_parser->dict, name + colon + 1, -1);
-    return part != nullptr ? part : name;
-}
-
-void XMLDocumentBuilder::open(const xmlChar* localName, const xmlChar** attributes, int attributeCount)
+void XMLDocumentBuilder::open(const xmlChar* localName, const xmlChar* prefix, const xmlChar** attributes,
+                              int attributeCount)
 {
     XMLDocument& document = *m_document;
     if (document.m_nodes.size() >= arenaLimit || document.m_attributes.size() >= arenaLimit) {
@@ -179,40 +168,37 @@ void XMLDocumentBuilder::open(const xmlChar* localName, const xmlChar** attribut
     }
     const auto index = static_cast<XMLDocument::Index>(document.m_nodes.size());
     const auto text = static_cast<std::uint32_t>(document.m_text.size());
-    document.m_nodes.push_back(
-        {intern(localName), index + 1, text, text, static_cast<XMLDocument::Index>(document.m_attributes.size())});
+    document.m_nodes.push_back({nameOf(localName, prefix), index + 1, text, text,
+                                static_cast<XMLDocument::Index>(document.m_attributes.size())});
     m_open.push_back(index);
     for (int i = 0; i < attributeCount; ++i) {
         // Five pointers an attribute: name, prefix, address of the name space, begin and end of the value.
         const xmlChar** const one = attributes + std::ptrdiff_t{5} * i;
-        addAttribute(localPart(one[0], one[1]), {chars(one[3]), static_cast<std::size_t>(one[4] - one[3])});
+        addAttribute(one[0], one[1], {chars(one[3]), static_cast<std::size_t>(one[4] - one[3])});
     }
 }
 
 /// The parser leaves references in a value as they stand, "&" itself among them as "&#38;".
-void XMLDocumentBuilder::addAttribute(const xmlChar* localName, std::string_view raw)
+void XMLDocumentBuilder::addAttribute(const xmlChar* localName, const xmlChar* prefix, std::string_view raw)
 {
-    XMLDocument& document = *m_document;
-    if (document.m_values.size() + raw.size() >= arenaLimit) {
+    XMLArray<char>& values = m_document->m_values;
+    const std::size_t begin = values.size();
+    if (begin + raw.size() >= arenaLimit) {
         fail(tooLarge());
         return;
     }
-    const std::size_t begin = document.m_values.size();
-    while (!raw.empty()) {
-        const std::size_t reference = raw.find('&');
-        document.m_values.append(raw.substr(0, reference));
-        if (reference == std::string_view::npos) {
-            break;
-        }
+    std::size_t reference = raw.find('&');
+    while (reference != std::string_view::npos) {
         const std::size_t end = raw.find(';', reference);
-        const std::string_view name = raw.substr(reference, end == std::string_view::npos ? end : end - reference + 1);
-        if (name == "&#38;") {
-            document.m_values += '&';
-        }
-        raw.remove_prefix(reference + name.size());
+        const std::size_t next = end == std::string_view::npos ? raw.size() : end + 1;
+        const bool ampersand = raw.substr(reference, next - reference) == "&#38;";
+        values.append(raw.data(), reference + (ampersand ? 1 : 0));
+        raw.remove_prefix(next);
+        reference = raw.find('&');
     }
-    document.m_attributes.push_back({intern(localName), static_cast<std::uint32_t>(begin),
-                                     static_cast<std::uint32_t>(document.m_values.size() - begin)});
+    values.append(raw.data(), raw.size());
+    m_document->m_attributes.push_back({nameOf(localName, prefix), static_cast<std::uint32_t>(begin),
+                                        static_cast<std::uint32_t>(values.size() - begin)});
 }
 
 void XMLDocumentBuilder::close()
@@ -235,22 +221,24 @@ void XMLDocumentBuilder::closeAbandoned()
     }
 }
 
-void XMLDocumentBuilder::append(std::string_view text)
+/// The number of a local name. A name that is no proper qualified name comes whole; what stands before its colon is a
+/// prefix all the same.
+XMLDocument::Name XMLDocumentBuilder::nameOf(const xmlChar* name, const xmlChar* prefix)
 {
-    if (m_document->m_text.size() + text.size() >= arenaLimit) {
-        fail(tooLarge());
-        return;
+    const bool prefixed = prefix != nullptr;
+    constexpr std::uint64_t spread = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio
+    constexpr unsigned indexBits = 10;
+    static_assert(1U << indexBits == std::tuple_size_v<decltype(m_known)>);
+    KnownName& known = m_known[reinterpret_cast<std::uintptr_t>(name) * spread >> (64U - indexBits)];
+    if (known.at != name || known.prefixed != prefixed) {
+        std::string_view text = chars(name);
+        const std::size_t colon = prefixed ? 0 : text.find(':');
+        if (colon != 0 && colon != std::string_view::npos && colon + 1 != text.size()) {
+            text.remove_prefix(colon + 1);
+        }
+        known = {name, prefixed, m_document->m_names.intern(text)};
     }
-    m_document->m_text.append(text);
-}
-
-XMLDocument::Name XMLDocumentBuilder::intern(const xmlChar* name)
-{
-    const auto [known, isNew] = m_byAddress.try_emplace(name, static_cast<XMLDocument::Name>(m_byAddress.size()));
-    if (isNew) {
-        m_document->m_names.emplace_back(chars(name));
-    }
-    return known->second;
+    return known.name;
 }
 
 void XMLDocumentBuilder::fail(Error error)
@@ -268,15 +256,11 @@ void XMLDocumentBuilder::finish()
     while (!m_open.empty()) {
         close();
     }
-    XMLDocument& document = *m_document;
-    document.m_nodes.shrink_to_fit();
-    document.m_attributes.shrink_to_fit();
-    document.m_text.shrink_to_fit();
-    document.m_values.shrink_to_fit();
-    document.m_nameIds.reserve(document.m_names.size());
-    for (std::size_t i = 0; i < document.m_names.size(); ++i) {
-        document.m_nameIds.try_emplace(document.m_names[i], static_cast<XMLDocument::Name>(i));
-    }
+    m_document->m_nodes.shrinkToFit();
+    m_document->m_attributes.shrinkToFit();
+    m_document->m_text.shrinkToFit();
+    m_document->m_values.shrinkToFit();
+    m_document->m_names.shrinkToFit();
 }
 
 } // namespace lodestar

@@ -1,23 +1,39 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Controllers/REST/XMLDeclarations.h"
 #include "Controllers/REST/XMLDocument.h"
+#include "Controllers/REST/XMLMemory.h"
 
 #include <libxml/parser.h>
+
+#include <array>
 
 namespace lodestar
 {
 
 /// Fills a document from libxml2's events. One parse, one thread; the static functions are the parser's callbacks.
+/// Making one may throw `std::bad_alloc`.
 class XMLDocumentBuilder
 {
 public:
-    explicit XMLDocumentBuilder(std::size_t inputSize);
-
-    /// Runs the parse. Null without a root; an error when memory or the arena's indexes ran out.
+    /// Runs the parse. Null without a root; an error when memory or the arena's indexes ran out. Throws
+    /// `std::bad_alloc`.
     Result<std::shared_ptr<const XMLDocument>> run(std::string_view bytes);
 
+    /// Making it takes no memory.
+    static Error outOfMemory();
+
+    XMLExpansion& expansion() { return m_expansion; }
+
 private:
+    /// Where the parser keeps a name, and whether a prefix stood before it. It keeps one copy of each name.
+    struct KnownName {
+        const xmlChar* at;
+        bool prefixed;
+        XMLDocument::Name name;
+    };
+
     static XMLDocumentBuilder* of(void* context);
     static void startElement(void* context, const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri,
                              int namespaceCount, const xmlChar** namespaces, int attributeCount, int defaultedCount,
@@ -26,19 +42,20 @@ private:
     static void characters(void* context, const xmlChar* bytes, int length);
     static void noteError(void* context, xmlErrorPtr error);
 
-    const xmlChar* localPart(const xmlChar* name, const xmlChar* prefix) const;
-    void open(const xmlChar* localName, const xmlChar** attributes, int attributeCount);
-    void addAttribute(const xmlChar* localName, std::string_view raw);
+    void setEvents(xmlSAXHandler& events) const;
+    void open(const xmlChar* localName, const xmlChar* prefix, const xmlChar** attributes, int attributeCount);
+    void addAttribute(const xmlChar* localName, const xmlChar* prefix, std::string_view raw);
     void close();
     void closeAbandoned();
-    void append(std::string_view text);
-    XMLDocument::Name intern(const xmlChar* name);
+    XMLDocument::Name nameOf(const xmlChar* name, const xmlChar* prefix);
     void fail(Error error);
     void finish();
 
+    XMLMemoryWatch m_memory;
     std::shared_ptr<XMLDocument> m_document = std::make_shared<XMLDocument>();
-    std::vector<XMLDocument::Index> m_open;
-    std::unordered_map<const xmlChar*, XMLDocument::Name> m_byAddress; ///< the parser keeps one copy of each name
+    XMLArray<XMLDocument::Index> m_open;
+    std::array<KnownName, 1024> m_known{}; ///< by address; a name that another has driven out is looked up by its text
+    XMLExpansion m_expansion;
     xmlParserCtxtPtr m_parser = nullptr;
     bool m_failed = false;
     Error m_error;

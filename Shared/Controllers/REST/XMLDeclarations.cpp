@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Controllers/REST/XMLDeclarations.h"
+
+#include "Controllers/REST/XMLDocumentBuilder.h"
+
+#include <libxml/SAX2.h>
+#include <libxml/entities.h>
+#include <libxml/hash.h>
+#include <libxml/parserInternals.h>
+
+namespace lodestar
+{
+namespace
+{
+
+/// No console declares anything at all.
+constexpr std::size_t mostExpandedBytes = 1U << 20U;
+constexpr std::size_t costOfExpansion = 100;
+
+/// An entity that has been checked and has no content of its own kept is read anew at every reference. With this for
+/// its content it is not. It does not own it, so that it is neither freed nor looked into.
+xmlNode* anyContent()
+{
+    static xmlNode content{};
+    return &content;
+}
+
+xmlEntityPtr entityNamed(void* context, const xmlChar* name)
+{
+    const xmlEntityPtr entity = xmlSAX2GetEntity(context, name);
+    if (entity != nullptr && entity->etype == XML_INTERNAL_GENERAL_ENTITY && entity->checked != 0 &&
+        entity->children == nullptr) {
+        entity->children = anyContent();
+        entity->owner = 0;
+    }
+    return entity;
+}
+
+xmlEntityPtr parameterEntityNamed(void* context, const xmlChar* name)
+{
+    const xmlEntityPtr entity = xmlSAX2GetParameterEntity(context, name);
+    auto* const parser = static_cast<xmlParserCtxtPtr>(context);
+    if (entity != nullptr && !static_cast<XMLDocumentBuilder*>(parser->_private)->expansion().add(*entity)) {
+        xmlStopParser(parser);
+        return nullptr;
+    }
+    return entity;
+}
+
+/// Comes when all declarations have been read. What they say attributes are by default would be looked through, and
+/// compared with every other attribute, at each start tag.
+void declarationsEnd(void* context, const xmlChar* /*name*/, const xmlChar* /*publicId*/, const xmlChar* /*systemId*/)
+{
+    auto* const parser = static_cast<xmlParserCtxtPtr>(context);
+    if (parser->attsDefault != nullptr) {
+        xmlHashFree(parser->attsDefault, &xmlHashDefaultDeallocator);
+        parser->attsDefault = nullptr;
+    }
+}
+
+} // namespace
+
+bool XMLExpansion::add(const xmlEntity& entity)
+{
+    m_bytes += costOfExpansion + static_cast<std::size_t>(entity.length > 0 ? entity.length : 0);
+    return m_bytes <= mostExpandedBytes;
+}
+
+void setDeclarationEvents(xmlSAXHandler& events)
+{
+    events.getEntity = &entityNamed;
+    events.getParameterEntity = &parameterEntityNamed;
+    events.externalSubset = &declarationsEnd;
+    events.resolveEntity = nullptr;
+    events.attributeDecl = nullptr;
+    events.elementDecl = nullptr;
+    events.notationDecl = nullptr;
+}
+
+} // namespace lodestar
