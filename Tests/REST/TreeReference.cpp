@@ -168,14 +168,15 @@ std::string readTreeChildText(std::string_view bytes, std::string_view name)
 
 std::string readArena(std::string_view bytes)
 {
-    const Result<XMLElement> root = XMLElement::parse(bytes);
+    const Result<XMLElement> root = XMLElement::parse(std::string(bytes));
     if (!root) {
         return "(error)";
     }
     if (!root.value()) {
         return "(none)";
     }
-    const Result<std::shared_ptr<const XMLDocument>> document = XMLDocument::parse(bytes);
+    const Result<std::shared_ptr<const XMLDocument>> document =
+        XMLDocument::parse(std::string(bytes).c_str(), bytes.size());
     std::string all;
     XMLDocument::Index index = 0;
     appendElement(*document.value(), index, root.value(), all);

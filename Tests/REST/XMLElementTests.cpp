@@ -1,12 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Controllers/REST/XMLDocument.h"
 #include "Controllers/REST/XMLElement.h"
 #include "Tests/REST/TreeReference.h"
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <fstream>
 #include <iterator>
 #include <random>
+#include <sys/mman.h>
+#include <unistd.h>
 
 namespace lodestar
 {
@@ -19,9 +23,9 @@ XMLElement parsed(std::string_view bytes)
     return root ? std::move(root).value() : XMLElement();
 }
 
-std::string demoFeed()
+std::string demoFeed(const std::string& name)
 {
-    std::ifstream file(LODESTAR_DEMO_FOLDER "/ManagementConsole.xml");
+    std::ifstream file(LODESTAR_DEMO_FOLDER "/" + name);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
@@ -57,14 +61,62 @@ TEST(XMLElementTests, HandMadeDamageReadsAsTheLibrarysOwnTree)
           "<!DOCTYPE a [<!ENTITY e 'in<b>side</b>'><!ATTLIST a d CDATA 'default'>]><a c='&e;'>1&e;2&e;3</a>",
           "<a>\xff\xfe</a>", "<a><![CDATA[x]]y</a>", "<a><?p x?>t<!-- - -- --></a>",
           "<a xmlns:p='u'><p:b p:c='d'/></a>", "<?xml version='1.0' encoding='ISO-8859-1'?><a>\xe4</a>",
-          "<a b='&#38;&lt;x;'>&#x41;&#0;</a>"}) {
+          "<a b='&#38;&lt;x;'>&#x41;&#0;</a>",
+          // Entities named often, first in a value, in each other, in a declaration; what follows an error.
+          "<!DOCTYPE a [<!ENTITY e 'x'>]><a b='&e;'>1&e;2&e;3</a>",
+          "<!DOCTYPE a [<!ENTITY e '<b>'>]><a>1&e;2&e;3&amp;4</a>",
+          "<!DOCTYPE a [<!ENTITY e '&f;'><!ENTITY f '&e;'>]><a>1&e;2&f;3&amp;4</a>",
+          "<!DOCTYPE a [<!ENTITY % p '<!ENTITY e \"x\">'>%p;%p;%q;]><a>1&e;2&amp;</a>",
+          "<!DOCTYPE a [<!ATTLIST a xmlns:p CDATA 'u' p:d CDATA 'x' n NMTOKENS '1'>]><a n=' 1  2 '><p:b/><a "
+          "p:d='y'/></a>",
+          "<!DOCTYPE a SYSTEM 'x' [<!ELEMENT a (b|c)*><!NOTATION n SYSTEM 'x'><!ENTITY u SYSTEM 'x' NDATA "
+          "n>]><a>&u;&v;</a>",
+          // What the bytes are, or say that they are.
+          "\xef\xbb\xbf<a>\xc3\xa4</a>", "<?xml version='1.0' encoding='utf-8'?><a>\xc3\xa4</a>",
+          "<?xml version='encoding=\"UTF-8\"' encoding='ISO-8859-1'?><a>\xe4</a>",
+          "<?xml version='1.0' encoding=\"UTF-8\"?><a>\r\n\xc3\xa4\r</a>",
+          "<?xml version='1.0' encoding='nonsense'?><a>\xe4</a>",
+          " <?xml version='1.0' encoding='ISO-8859-1'?><a>\xe4</a>"}) {
         EXPECT_EQ(firstDifference(bytes), "") << bytes;
     }
 }
 
+TEST(XMLElementTests, OtherEncodingsReadAsTheLibrarysOwnTree)
+{
+    const std::string feed = demoFeed("ManagementConsole.xml");
+    for (const bool bigEndian : {false, true}) {
+        std::string wide = bigEndian ? std::string("\xfe\xff", 2) : std::string("\xff\xfe", 2);
+        for (const char c : feed.substr(feed.find("<feed"))) {
+            wide += bigEndian ? std::string{'\0', c} : std::string{c, '\0'};
+        }
+        EXPECT_EQ(firstDifference(wide), "");
+        EXPECT_EQ(parsed(wide).childCount("entry"), 1U);
+        EXPECT_EQ(firstDifference(std::string_view(wide).substr(2)), "") << "without its mark";
+    }
+}
+
+/// The parser reads the bytes where they are. It must not look past them, here to where the next page cannot be read.
+TEST(XMLElementTests, NothingPastTheBytesIsLookedAt)
+{
+    const auto page = static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+    auto* const pages =
+        static_cast<char*>(::mmap(nullptr, 2 * page, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0));
+    ASSERT_NE(static_cast<void*>(pages), MAP_FAILED);
+    ASSERT_EQ(::mprotect(pages + page, page, PROT_NONE), 0);
+    const std::string feed = demoFeed("ManagementConsole.xml");
+    ASSERT_LT(feed.size(), page);
+    for (std::size_t length = 1; length <= feed.size(); ++length) {
+        char* const begin = pages + page - length - 1;
+        std::memcpy(begin, feed.data(), length);
+        begin[length] = '\0';
+        ASSERT_EQ(XMLDocument::parse(begin, length).ok(), true) << length;
+    }
+    ::munmap(pages, 2 * page);
+}
+
 TEST(XMLElementTests, AFeedCutAtEveryByteReadsAsTheLibrarysOwnTree)
 {
-    const std::string feed = demoFeed();
+    const std::string feed = demoFeed("ManagementConsole.xml");
     ASSERT_GT(feed.size(), 1000U);
     for (std::size_t length = 0; length <= feed.size(); ++length) {
         ASSERT_EQ(firstDifference(std::string_view(feed).substr(0, length)), "") << "cut at " << length;
@@ -73,13 +125,26 @@ TEST(XMLElementTests, AFeedCutAtEveryByteReadsAsTheLibrarysOwnTree)
 
 TEST(XMLElementTests, MutatedFeedsReadAsTheLibrarysOwnTree)
 {
-    const std::string feed = demoFeed();
+    const std::string feed = demoFeed("ManagementConsole.xml");
     std::mt19937 random(20260312); // NOLINT(cert-msc51-cpp): the same feeds in every run
     const std::string_view alphabet = "<>/&;='\"! []ab0\xc3\xff";
     for (int round = 0; round < 2000; ++round) {
         std::string damaged = feed;
         for (int change = 0; change < 1 + round % 6; ++change) {
             damaged[random() % damaged.size()] = alphabet[random() % alphabet.size()];
+        }
+        ASSERT_EQ(firstDifference(damaged), "") << "round " << round;
+    }
+}
+
+TEST(XMLElementTests, LongerFeedsCutAndMutatedReadAsTheLibrarysOwnTree)
+{
+    const std::string feed = demoFeed("ServiceableEvent.xml");
+    std::mt19937 random(20260313); // NOLINT(cert-msc51-cpp): the same feeds in every run
+    for (int round = 0; round < 150; ++round) {
+        std::string damaged = feed.substr(0, feed.size() - random() % (feed.size() / 2));
+        for (int change = 0; change < 1 + round % 3; ++change) {
+            damaged[random() % damaged.size()] = "<>/&;\"x\0"[random() % 8];
         }
         ASSERT_EQ(firstDifference(damaged), "") << "round " << round;
     }

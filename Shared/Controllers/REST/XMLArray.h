@@ -30,6 +30,13 @@ public:
     const T& operator[](std::size_t index) const { return m_values[index]; }
     std::size_t memory() const { return m_capacity * sizeof(T); }
 
+    /// Room for so many in all. Room that is never used costs no memory, only addresses.
+    void reserve(std::size_t count)
+    {
+        if (count > m_capacity) {
+            setCapacity(count);
+        }
+    }
     /// Throws `std::bad_alloc`, with the array as it was.
     void push_back(const T& value)
     {
@@ -55,6 +62,9 @@ public:
     /// Gives back what is not in use; leaves it when the allocator cannot.
     void shrinkToFit()
     {
+        if (m_size == m_capacity) {
+            return;
+        }
         if (m_size == 0) {
             std::free(m_values);
             m_values = nullptr;
@@ -69,7 +79,10 @@ private:
     void grow(std::size_t count)
     {
         const std::size_t smallest = 256 / sizeof(T);
-        const std::size_t capacity = m_size + count + (m_size > smallest ? m_size : smallest);
+        setCapacity(m_size + count + (m_size > smallest ? m_size : smallest));
+    }
+    void setCapacity(std::size_t capacity)
+    {
         auto* const moved = static_cast<T*>(std::realloc(m_values, capacity * sizeof(T)));
         if (moved == nullptr) {
             throw std::bad_alloc();

@@ -8,11 +8,11 @@
 namespace lodestar
 {
 
-Result<std::shared_ptr<const XMLDocument>> XMLDocument::parse(std::string_view bytes)
+Result<std::shared_ptr<const XMLDocument>> XMLDocument::parse(const char* bytes, std::size_t size)
 {
     // Also what is made before the first event, and after the last, may find no memory.
     try {
-        return XMLDocumentBuilder().run(bytes);
+        return XMLDocumentBuilder().run({bytes, size});
     } catch (const std::bad_alloc&) {
         return XMLDocumentBuilder::outOfMemory();
     }

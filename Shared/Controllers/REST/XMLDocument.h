@@ -38,8 +38,8 @@ public:
     };
     static constexpr Name noName = XMLNames::none;
 
-    /// Null when no document, or one without a root, can be made of the bytes.
-    static Result<std::shared_ptr<const XMLDocument>> parse(std::string_view bytes);
+    /// Null when no document, or one without a root, can be made of the bytes. A zero must stand after them.
+    static Result<std::shared_ptr<const XMLDocument>> parse(const char* bytes, std::size_t size);
 
     const Node& node(Index index) const { return m_nodes[index]; }
     Index childrenBegin(Index index) const { return index + 1; }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Controllers/REST/XMLDocumentBuilder.h"
 
+#include "Controllers/REST/XMLInput.h"
+
 #include <libxml/parserInternals.h>
 
 #include <limits>
@@ -48,11 +50,10 @@ Result<std::shared_ptr<const XMLDocument>> XMLDocumentBuilder::run(std::string_v
     if (bytes.empty()) {
         return std::shared_ptr<const XMLDocument>();
     }
-    if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
+    if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max()) || hasMonstrousTag(bytes)) {
         return tooLarge();
     }
-    const std::unique_ptr<xmlParserCtxt, ParserDeleter> parser(
-        xmlCreateMemoryParserCtxt(bytes.data(), static_cast<int>(bytes.size())));
+    const std::unique_ptr<xmlParserCtxt, ParserDeleter> parser(makeXMLParser(bytes));
     if (parser == nullptr) {
         return outOfMemory();
     }
@@ -60,6 +61,7 @@ Result<std::shared_ptr<const XMLDocument>> XMLDocumentBuilder::run(std::string_v
     parser->_private = this;
     xmlCtxtUseOptions(parser.get(), parseOptions);
     setEvents(*parser->sax);
+    reserve(bytes.size());
     xmlParseDocument(parser.get());
     // A shorter document must never pass for a whole one.
     if (m_memory.ranOut() || parser->errNo == XML_ERR_NO_MEMORY) {
@@ -88,6 +90,15 @@ void XMLDocumentBuilder::setEvents(xmlSAXHandler& events) const
     events.comment = nullptr;
     events.processingInstruction = nullptr;
     events.serror = &noteError;
+}
+
+/// Room for most feeds. Beyond it the arrays grow.
+void XMLDocumentBuilder::reserve(std::size_t inputSize)
+{
+    m_document->m_nodes.reserve(inputSize / 32);
+    m_document->m_attributes.reserve(inputSize / 64);
+    m_document->m_text.reserve(inputSize / 2);
+    m_document->m_values.reserve(inputSize / 4);
 }
 
 /// Null for events that come from inside an entity's text: the parser checks that text when the entity is first named,

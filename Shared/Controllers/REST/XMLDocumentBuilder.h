@@ -17,8 +17,8 @@ namespace lodestar
 class XMLDocumentBuilder
 {
 public:
-    /// Runs the parse. Null without a root; an error when memory or the arena's indexes ran out. Throws
-    /// `std::bad_alloc`.
+    /// Runs the parse. Null without a root; an error when memory or the arena's indexes ran out. A zero must
+    /// stand after the bytes. Throws `std::bad_alloc`.
     Result<std::shared_ptr<const XMLDocument>> run(std::string_view bytes);
 
     /// Making it takes no memory.
@@ -43,6 +43,7 @@ private:
     static void noteError(void* context, xmlErrorPtr error);
 
     void setEvents(xmlSAXHandler& events) const;
+    void reserve(std::size_t inputSize);
     void open(const xmlChar* localName, const xmlChar* prefix, const xmlChar** attributes, int attributeCount);
     void addAttribute(const xmlChar* localName, const xmlChar* prefix, std::string_view raw);
     void close();

@@ -26,9 +26,9 @@ void forEachChild(const XMLDocument& document, XMLDocument::Index parent, std::s
 
 } // namespace
 
-Result<XMLElement> XMLElement::parse(std::string_view bytes)
+Result<XMLElement> XMLElement::parse(const std::string& bytes)
 {
-    Result<std::shared_ptr<const XMLDocument>> document = XMLDocument::parse(bytes);
+    Result<std::shared_ptr<const XMLDocument>> document = XMLDocument::parse(bytes.c_str(), bytes.size());
     if (!document) {
         return document.error();
     }

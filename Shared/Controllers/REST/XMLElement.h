@@ -26,7 +26,10 @@ public:
     /// Parses leniently: what can be salvaged of a damaged document is kept. Bytes from which no document can be made
     /// give no element; running out of memory is an error, never a shorter document. Entity references read as nothing
     /// and no file or address is ever opened.
-    static Result<XMLElement> parse(std::string_view bytes);
+    static Result<XMLElement> parse(const std::string& bytes);
+    static Result<XMLElement> parse(const char* text) { return parse(std::string(text)); }
+    /// Copies the bytes first: the parser wants to see where they end.
+    static Result<XMLElement> parse(std::string_view bytes) { return parse(std::string(bytes)); }
 
     bool exists() const { return m_document != nullptr; }
     explicit operator bool() const { return exists(); }

@@ -1,0 +1,183 @@
+// SPDX-License-Identifier: Apache-2.0
+// Documents made to cost much: each must be read in little time and memory, and open nothing.
+#include "Controllers/REST/XMLElement.h"
+
+#include <gtest/gtest.h>
+#include <libxml/parser.h>
+
+#include <cstdlib>
+#include <ctime>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <sys/stat.h>
+
+namespace lodestar
+{
+namespace
+{
+
+std::string repeated(std::string_view text, int count)
+{
+    std::string all;
+    for (int i = 0; i < count; ++i) {
+        all += text;
+    }
+    return all;
+}
+
+std::string numbered(int from, int to, const std::function<std::string(int)>& one)
+{
+    std::string all;
+    for (int i = from; i <= to; ++i) {
+        all += one(i);
+    }
+    return all;
+}
+
+std::string document(const std::string& declarations, const std::string& content)
+{
+    return "<!DOCTYPE a [" + declarations + "]><a>" + content + "<last/></a>";
+}
+
+/// Entities that each name the one before ten times.
+std::string laughs(int levels)
+{
+    return "<!ENTITY e0 'lol'>" + numbered(1, levels, [](int i) {
+               return "<!ENTITY e" + std::to_string(i) + " '" + repeated("&e" + std::to_string(i - 1) + ";", 10) + "'>";
+           });
+}
+
+struct Bomb {
+    const char* name;
+    std::string bytes;
+    /// Whether what follows the bomb must be read.
+    bool readToTheEnd;
+};
+
+std::vector<Bomb> bombs()
+{
+    const std::string large = repeated("x", 80'000);
+    const std::string manyReferences = repeated("&e;", 26'000);
+    return {
+        {"nested", document(laughs(9), "&e9;"), false},
+        {"nested, often named", document(laughs(9), repeated("&e4;", 5'000)), false},
+        {"nested, in an attribute", document(laughs(9), "<b c='&e9;'/>"), false},
+        {"quadratic text", document("<!ENTITY e '" + large + "'>", manyReferences), true},
+        {"quadratic elements", document("<!ENTITY e '" + repeated("<b/>", 20'000) + "'>", manyReferences), true},
+        {"quadratic, first named in an attribute",
+         document("<!ENTITY e '" + large + "'>", "<b c='&e;'/>" + manyReferences), true},
+        {"quadratic attributes", document("<!ENTITY e '" + large + "'>", repeated("<b c='&e;'/>", 6'600)), true},
+        {"nested parameter entities",
+         document("<!ENTITY % p0 \"<!ENTITY x 'y'>\">" +
+                      numbered(1, 9,
+                               [](int i) {
+                                   return "<!ENTITY % p" + std::to_string(i) + " '" +
+                                          repeated("&#37;p" + std::to_string(i - 1) + ";", 10) + "'>";
+                               }) +
+                      "%p9;",
+                  "t"),
+         false},
+        {"quadratic parameter entity",
+         document("<!ENTITY % p '" + repeated("<!-- x -->", 8'000) + "'>" + repeated("%p;", 26'000), "t"), false},
+        {"many defaults",
+         document("<!ATTLIST b " + numbered(1, 3'000, [](int i) { return "c" + std::to_string(i) + " CDATA '' "; }) +
+                      ">",
+                  repeated("<b/>", 20'000)),
+         true},
+        {"large default", document("<!ATTLIST b c CDATA '" + large + "'>", repeated("<b/>", 20'000)), true},
+        {"defaults made of entities",
+         document("<!ENTITY e '" + large + "'><!ATTLIST b " +
+                      numbered(1, 1'000, [](int i) { return "c" + std::to_string(i) + " CDATA '&e;&e;' "; }) + ">",
+                  repeated("<b/>", 10'000)),
+         true},
+        {"depth", repeated("<a>", 100'000) + repeated("</a>", 100'000), false},
+        {"attributes",
+         document("", "<b " + numbered(1, 100'000, [](int i) { return "c" + std::to_string(i) + "='>' "; }) + "/>"),
+         false},
+    };
+}
+
+double threadMilliseconds()
+{
+    struct timespec now {
+    };
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) * 1e3 + static_cast<double>(now.tv_nsec) / 1e6;
+}
+
+/// A figure of the process's memory in kilobytes.
+long kilobytes(const std::string& key)
+{
+    std::ifstream status("/proc/self/status");
+    for (std::string line; std::getline(status, line);) {
+        if (line.rfind(key + ":", 0) == 0) {
+            return std::strtol(line.c_str() + key.size() + 1, nullptr, 10);
+        }
+    }
+    return 0;
+}
+
+TEST(XMLLimitsTests, BombsTakeLittleTimeAndMemory)
+{
+    for (const Bomb& bomb : bombs()) {
+        std::ofstream("/proc/self/clear_refs") << "5"; // the peak begins anew
+        const long before = kilobytes("VmRSS");
+        const double start = threadMilliseconds();
+        const auto root = XMLElement::parse(bomb.bytes);
+        EXPECT_LE(threadMilliseconds() - start, 100) << bomb.name;
+        EXPECT_LE(kilobytes("VmHWM") - before, 20'000) << bomb.name;
+        if (bomb.readToTheEnd) {
+            ASSERT_TRUE(root.ok()) << bomb.name;
+            EXPECT_TRUE(root.value().child("last").exists()) << bomb.name;
+        }
+    }
+}
+
+TEST(XMLLimitsTests, LongStretchesThatAreNoMonstrousTagAreRead)
+{
+    const std::string equations = repeated("a=\"b\" ", 5'000);
+    for (const std::string& bytes :
+         {"<a><b>" + equations + "</b><last/></a>", "<a><!-- " + equations + " --><last/></a>",
+          "<a><b c='" + repeated("\"", 9'000) + "'/><last/></a>",
+          "<a>" + repeated("<b c='1' d=\"2\"/>", 9'000) + "<last/></a>"}) {
+        const auto root = XMLElement::parse(bytes);
+        ASSERT_TRUE(root.ok());
+        EXPECT_TRUE(root.value().child("last").exists()) << bytes.substr(0, 20);
+    }
+}
+
+int loads = 0;
+
+TEST(XMLLimitsTests, NothingOutsideTheDocumentIsOpened)
+{
+    // Whoever opens a pipe that nobody writes to waits for ever.
+    std::string folder = std::filesystem::temp_directory_path() / "lodestar-xml-XXXXXX";
+    ASSERT_NE(::mkdtemp(folder.data()), nullptr);
+    const std::string pipe = folder + "/pipe";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
+    const xmlExternalEntityLoader usual = xmlGetExternalEntityLoader();
+    loads = 0;
+    xmlSetExternalEntityLoader([](const char*, const char*, xmlParserCtxtPtr) -> xmlParserInputPtr {
+        ++loads;
+        return nullptr;
+    });
+    // The first round counts what the library would load, the second lets it.
+    for (int round = 0; round < 2; ++round) {
+        for (const std::string& address : {pipe, "file://" + pipe, std::string("http://127.0.0.1:9/x")}) {
+            const auto root = XMLElement::parse(
+                "<!DOCTYPE a SYSTEM '" + address + "' [<!ENTITY e SYSTEM '" + address + "'><!ENTITY % p SYSTEM '" +
+                address + "'>%p;]><a xmlns:i='http://www.w3.org/2001/XInclude'><i:include href='" + address +
+                "'/>1&e;<b c='&e;'/><last/></a>");
+            ASSERT_TRUE(root.ok());
+            EXPECT_EQ(root.value().text(), "1");
+            EXPECT_TRUE(root.value().child("last").exists());
+        }
+        xmlSetExternalEntityLoader(usual);
+    }
+    EXPECT_EQ(loads, 0);
+    std::filesystem::remove_all(folder);
+}
+
+} // namespace
+} // namespace lodestar
