@@ -90,7 +90,7 @@ double keptBytes()
 {
     const double before = allocated();
     const XMLElement root = parsed();
-    check(root.childCount("entry") == static_cast<std::size_t>(systems * partitionsEach), "every entry is there");
+    check(root.childCount("entry") == std::size_t{systems} * partitionsEach, "every entry is there");
     return allocated() - before;
 }
 
