@@ -101,15 +101,6 @@ void XMLDocumentBuilder::reserve(std::size_t inputSize)
     m_document->m_values.reserve(inputSize / 4);
 }
 
-/// Null for events that come from inside an entity's text: the parser checks that text when the entity is first named,
-/// with a context of its own, and references read as nothing.
-XMLDocumentBuilder* XMLDocumentBuilder::of(void* context)
-{
-    auto* const parser = static_cast<xmlParserCtxtPtr>(context);
-    auto* const builder = static_cast<XMLDocumentBuilder*>(parser->_private);
-    return parser == builder->m_parser && !builder->m_failed ? builder : nullptr;
-}
-
 void XMLDocumentBuilder::startElement(void* context, const xmlChar* localName, const xmlChar* prefix,
                                       const xmlChar* /*uri*/, int /*namespaceCount*/, const xmlChar** /*namespaces*/,
                                       int attributeCount, int defaultedCount, const xmlChar** attributes)
@@ -223,33 +214,15 @@ void XMLDocumentBuilder::close()
     node.textEnd = static_cast<std::uint32_t>(m_document->m_text.size());
 }
 
-/// An element whose start tag breaks off is given up by the parser without an event: what follows belongs to its
-/// parent.
-void XMLDocumentBuilder::closeAbandoned()
+/// A name that is no proper qualified name comes whole; what stands before its colon is a prefix all the same.
+XMLDocument::Name XMLDocumentBuilder::internLocalPart(const xmlChar* name, const xmlChar* prefix)
 {
-    while (m_open.size() > static_cast<std::size_t>(m_parser->nameNr)) {
-        close();
+    std::string_view text = chars(name);
+    const std::size_t colon = prefix != nullptr ? 0 : text.find(':');
+    if (colon != 0 && colon != std::string_view::npos && colon + 1 != text.size()) {
+        text.remove_prefix(colon + 1);
     }
-}
-
-/// The number of a local name. A name that is no proper qualified name comes whole; what stands before its colon is a
-/// prefix all the same.
-XMLDocument::Name XMLDocumentBuilder::nameOf(const xmlChar* name, const xmlChar* prefix)
-{
-    const bool prefixed = prefix != nullptr;
-    constexpr std::uint64_t spread = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio
-    constexpr unsigned indexBits = 10;
-    static_assert(1U << indexBits == std::tuple_size_v<decltype(m_known)>);
-    KnownName& known = m_known[reinterpret_cast<std::uintptr_t>(name) * spread >> (64U - indexBits)];
-    if (known.at != name || known.prefixed != prefixed) {
-        std::string_view text = chars(name);
-        const std::size_t colon = prefixed ? 0 : text.find(':');
-        if (colon != 0 && colon != std::string_view::npos && colon + 1 != text.size()) {
-            text.remove_prefix(colon + 1);
-        }
-        known = {name, prefixed, m_document->m_names.intern(text)};
-    }
-    return known.name;
+    return m_document->m_names.intern(text);
 }
 
 void XMLDocumentBuilder::fail(Error error)

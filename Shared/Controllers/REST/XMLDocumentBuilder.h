@@ -8,6 +8,7 @@
 #include <libxml/parser.h>
 
 #include <array>
+#include <cstdint>
 
 namespace lodestar
 {
@@ -27,6 +28,7 @@ public:
     XMLExpansion& expansion() { return m_expansion; }
 
 private:
+    static constexpr unsigned knownBits = 10;
     /// Where the parser keeps a name, and whether a prefix stood before it. It keeps one copy of each name.
     struct KnownName {
         const xmlChar* at;
@@ -34,7 +36,14 @@ private:
         XMLDocument::Name name;
     };
 
-    static XMLDocumentBuilder* of(void* context);
+    /// Null for events that come from inside an entity's text: the parser checks that text when the entity is first
+    /// named, with a context of its own, and references read as nothing.
+    static XMLDocumentBuilder* of(void* context)
+    {
+        auto* const parser = static_cast<xmlParserCtxtPtr>(context);
+        auto* const builder = static_cast<XMLDocumentBuilder*>(parser->_private);
+        return parser == builder->m_parser && !builder->m_failed ? builder : nullptr;
+    }
     static void startElement(void* context, const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri,
                              int namespaceCount, const xmlChar** namespaces, int attributeCount, int defaultedCount,
                              const xmlChar** attributes);
@@ -47,15 +56,33 @@ private:
     void open(const xmlChar* localName, const xmlChar* prefix, const xmlChar** attributes, int attributeCount);
     void addAttribute(const xmlChar* localName, const xmlChar* prefix, std::string_view raw);
     void close();
-    void closeAbandoned();
-    XMLDocument::Name nameOf(const xmlChar* name, const xmlChar* prefix);
+    /// An element whose start tag breaks off is given up by the parser without an event: what follows belongs to its
+    /// parent.
+    void closeAbandoned()
+    {
+        while (m_open.size() > static_cast<std::size_t>(m_parser->nameNr)) {
+            close();
+        }
+    }
+    /// The number of a local name.
+    XMLDocument::Name nameOf(const xmlChar* name, const xmlChar* prefix)
+    {
+        constexpr std::uint64_t spread = 0x9E3779B97F4A7C15; // 2^64 over the golden ratio
+        KnownName& known = m_known[reinterpret_cast<std::uintptr_t>(name) * spread >> (64U - knownBits)];
+        if (known.at != name || known.prefixed != (prefix != nullptr)) {
+            known = {name, prefix != nullptr, internLocalPart(name, prefix)};
+        }
+        return known.name;
+    }
+    XMLDocument::Name internLocalPart(const xmlChar* name, const xmlChar* prefix);
     void fail(Error error);
     void finish();
 
     XMLMemoryWatch m_memory;
     std::shared_ptr<XMLDocument> m_document = std::make_shared<XMLDocument>();
     XMLArray<XMLDocument::Index> m_open;
-    std::array<KnownName, 1024> m_known{}; ///< by address; a name that another has driven out is looked up by its text
+    std::array<KnownName, std::size_t{1} << knownBits>
+        m_known{}; ///< by address; a name that another has driven out is looked up by its text
     XMLExpansion m_expansion;
     xmlParserCtxtPtr m_parser = nullptr;
     bool m_failed = false;
