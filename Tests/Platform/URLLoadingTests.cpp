@@ -402,13 +402,29 @@ TEST_F(URLLoadingTest, BlockingLookUpsShareOneConnection)
     EXPECT_EQ(good, 160);
 }
 
-TEST_F(URLLoadingTest, DescriptorsSufficeForAFleet)
+TEST_F(URLLoadingTest, AFleetSharesFewConnectionsAConsole)
 {
-    simulator::SimulatorProcess simulator{{}};
-    logOn(simulator);
+    simulator::Settings settings;
+    settings.consoles = 16;
+    simulator::SimulatorProcess simulator{settings};
+    std::vector<URLRequest> requests;
+    for (int i = 0; i < settings.consoles; ++i) {
+        requests.insert(requests.end(), 6, feedRequest(simulator, logOn(simulator, i), i));
+    }
+    std::latch settled(std::ssize(requests));
+    std::atomic<int> answered{0};
+    for (const URLRequest& request : requests) {
+        sendAsynchronousRequest(request, m_queue, [&](const Result<URLLoad>& load) {
+            answered += load.ok() ? 1 : 0;
+            settled.count_down();
+        });
+    }
+    settled.wait();
+    EXPECT_EQ(answered, std::ssize(requests));
+    EXPECT_LE(simulator.handshakes(), 3U * static_cast<unsigned>(settings.consoles));
     rlimit files{};
     ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &files), 0);
-    EXPECT_EQ(files.rlim_cur, files.rlim_max);
+    EXPECT_EQ(files.rlim_cur, files.rlim_max) << "and descriptors suffice for all";
 }
 
 using URLLoadingDeathTest = URLLoadingTest;

@@ -3,6 +3,8 @@
 #include "Platform/URLLoading/CurlSupport.h"
 #include "Platform/URLLoading/Redirect.h"
 #include "Platform/URLLoading/Strand.h"
+#include "Platform/URLLoading/Transfer.h"
+#include "Platform/URLLoading/TransferQueue.h"
 
 #include <gtest/gtest.h>
 
@@ -161,6 +163,40 @@ TEST(OriginTests, ServersAreToldApartByWhatTheirAddressesMean)
     EXPECT_EQ(Origin::ofURL("https://HOST/x"), (Origin{"https", "host", 443}));
     EXPECT_EQ(Origin::ofURL("https://[::1]:12443/"), (Origin{"https", "::1", 12443}));
     EXPECT_EQ(Origin::ofURL("no address"), std::nullopt);
+}
+
+TEST(TransferQueueTests, BusyServersLetTheOthersGoFirst)
+{
+    using Busy = TransferQueue::Busy;
+    TransferQueue queue;
+    std::vector<std::shared_ptr<Transfer>> transfers;
+    for (const char* url :
+         {"https://a:1/0", "https://a:1/1", "https://a:1/2", "https://a:1/3", "https://b:1", "https://a:2/"}) {
+        URLRequest request;
+        request.url = url;
+        transfers.push_back(std::make_shared<Transfer>(request, nullptr));
+        queue.push(transfers.back());
+    }
+    const auto take = [&](Busy busy) {
+        const auto taken = queue.take(busy);
+        if (taken != nullptr) {
+            queue.didStart(*taken);
+        }
+        return taken;
+    };
+    for (const std::size_t expected : {0U, 1U, 4U, 5U}) {
+        EXPECT_EQ(take(Busy::Skip), transfers[expected]);
+    }
+    EXPECT_EQ(take(Busy::Skip), nullptr);
+    EXPECT_FALSE(queue.empty());
+    EXPECT_EQ(take(Busy::Take), transfers[2]);
+    queue.didEnd(*transfers[0]);
+    EXPECT_EQ(take(Busy::Skip), nullptr) << "two are left";
+    queue.didEnd(*transfers[1]);
+    EXPECT_FALSE(queue.erase(transfers[2]));
+    EXPECT_EQ(take(Busy::Skip), transfers[3]);
+    EXPECT_TRUE(queue.empty());
+    EXPECT_EQ(take(Busy::Take), nullptr);
 }
 
 TEST(StrandTests, BlocksRunOneAtATimeAndInOrderAlsoWithoutAHolder)

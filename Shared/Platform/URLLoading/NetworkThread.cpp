@@ -19,6 +19,8 @@ namespace
 
 // Enough to keep both ends busy on a fast network; each costs about 100 KB while it runs.
 constexpr std::size_t briskTransfers = 128;
+// As many as one or two consoles ask for at once: these need not share connections.
+constexpr std::size_t briskTransfersOfFew = 12;
 constexpr std::size_t waitingBytesLimit = 48UL * 1024 * 1024;
 constexpr long keptConnections = 512;
 constexpr std::size_t descriptorsForOthers = 256;
@@ -177,12 +179,14 @@ void NetworkThread::takeInbox()
         started.swap(m_started);
         cancelled.swap(m_cancelled);
     }
-    std::ranges::move(started, std::back_inserter(m_waiting));
+    for (auto& transfer : started) {
+        m_waiting.push(std::move(transfer));
+    }
     for (const auto& transfer : cancelled) {
         if (m_running.contains(transfer.get())) {
             remove(transfer);
             transfer->fail(URLErrorCode::Cancelled);
-        } else if (std::erase(m_waiting, transfer) != 0) {
+        } else if (m_waiting.erase(transfer)) {
             transfer->fail(URLErrorCode::Cancelled);
         }
     }
@@ -191,41 +195,59 @@ void NetworkThread::takeInbox()
 void NetworkThread::startWaiting()
 {
     readersAwaited = false;
-    while (!m_waiting.empty() && mayStart(Clock::now())) {
-        const std::shared_ptr<Transfer> transfer = std::move(m_waiting.front());
-        m_waiting.pop_front();
+    while (const std::shared_ptr<Transfer> transfer = nextToStart(Clock::now())) {
         if (transfer->start()) {
+            m_waiting.didStart(*transfer);
             m_running.emplace(transfer.get(), transfer);
             add(transfer);
         }
     }
 }
 
-bool NetworkThread::mayStart(Clock::time_point now)
+/// Null when nothing waits or all that does has to wait on.
+std::shared_ptr<Transfer> NetworkThread::nextToStart(Clock::time_point now)
 {
+    if (m_waiting.empty()) {
+        return nullptr;
+    }
     if (m_running.empty()) {
+        return m_waiting.take(TransferQueue::Busy::Take);
+    }
+    if (m_running.size() >= descriptorLimit() || !readersKeepUp()) {
+        return nullptr;
+    }
+    if (m_running.size() >= briskTransfersOfFew) {
+        countSlow(now);
+    }
+    if (briskCount() >= briskTransfers) {
+        return nullptr;
+    }
+    return m_waiting.take(briskCount() < briskTransfersOfFew ? TransferQueue::Busy::Take : TransferQueue::Busy::Skip);
+}
+
+bool NetworkThread::readersKeepUp()
+{
+    if (HeldBytes::waitingForReaders() < waitingBytesLimit) {
         return true;
     }
-    if (m_running.size() >= descriptorLimit()) {
-        return false;
-    }
-    if (HeldBytes::waitingForReaders() >= waitingBytesLimit) {
-        readersAwaited = true;
-        // Again, for the reader that came in between.
-        if (HeldBytes::waitingForReaders() >= waitingBytesLimit) {
-            return false;
-        }
-    }
-    if (m_running.size() - std::min(m_slow, m_running.size()) < briskTransfers) {
-        return true;
-    }
+    readersAwaited = true;
+    // Again, for the reader that came in between.
+    return HeldBytes::waitingForReaders() < waitingBytesLimit;
+}
+
+std::size_t NetworkThread::briskCount() const
+{
+    return m_running.size() - std::min(m_slow, m_running.size());
+}
+
+void NetworkThread::countSlow(Clock::time_point now)
+{
     if (now - m_slowCounted < slowCountInterval) {
-        return false;
+        return;
     }
     m_slowCounted = now;
     m_slow = static_cast<std::size_t>(
         std::ranges::count_if(m_running, [now](const auto& entry) { return entry.second->isSlow(now); }));
-    return m_running.size() - m_slow < briskTransfers;
 }
 
 void NetworkThread::add(const std::shared_ptr<Transfer>& transfer)
@@ -249,6 +271,7 @@ void NetworkThread::finishDone()
         if (transfer->hopEnded(result)) {
             add(transfer);
         } else {
+            m_waiting.didEnd(*transfer);
             m_running.erase(done);
         }
     }
@@ -279,6 +302,7 @@ void NetworkThread::failOverdue()
 void NetworkThread::remove(const std::shared_ptr<Transfer>& transfer)
 {
     curl_multi_remove_handle(m_multi, transfer->handle());
+    m_waiting.didEnd(*transfer);
     m_running.erase(transfer.get());
 }
 

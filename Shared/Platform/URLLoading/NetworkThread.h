@@ -2,8 +2,8 @@
 #pragma once
 
 #include "Platform/URLLoading/Transfer.h"
+#include "Platform/URLLoading/TransferQueue.h"
 
-#include <deque>
 #include <memory>
 #include <mutex>
 #include <thread>
@@ -43,7 +43,10 @@ private:
     int waitTime() const;
     void takeInbox();
     void startWaiting();
-    bool mayStart(Clock::time_point now);
+    std::shared_ptr<Transfer> nextToStart(Clock::time_point now);
+    bool readersKeepUp();
+    void countSlow(Clock::time_point now);
+    std::size_t briskCount() const;
     void add(const std::shared_ptr<Transfer>& transfer);
     void finishDone();
     void failOverdue();
@@ -64,7 +67,7 @@ private:
     bool m_stopping = false;
 
     // The loop's own.
-    std::deque<std::shared_ptr<Transfer>> m_waiting;
+    TransferQueue m_waiting;
     std::unordered_map<Transfer*, std::shared_ptr<Transfer>> m_running;
     std::size_t m_slow = 0; ///< of the running ones, as last counted
     Clock::time_point m_slowCounted;

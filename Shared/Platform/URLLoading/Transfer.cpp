@@ -35,6 +35,12 @@ std::optional<Number> numberIn(std::string_view text)
     return problem == std::errc() && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
 }
 
+std::string serverOf(const std::string& url)
+{
+    constexpr std::string_view beforeHost = "https://";
+    return url.substr(0, url.find('/', beforeHost.size()));
+}
+
 int statusOfLine(std::string_view line)
 {
     const std::size_t blank = line.find(' ');
@@ -44,7 +50,10 @@ int statusOfLine(std::string_view line)
 } // namespace
 
 Transfer::Transfer(URLRequest request, std::shared_ptr<TransferClient> client)
-    : m_limits(TransferLimits::shared()), m_request(std::move(request)), m_client(std::move(client))
+    : m_limits(TransferLimits::shared()),
+      m_server(serverOf(request.url)),
+      m_request(std::move(request)),
+      m_client(std::move(client))
 {
     if (m_request.timeout.count() <= 0) {
         m_request.timeout = URLRequest::defaultTimeout;

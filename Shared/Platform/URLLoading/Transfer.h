@@ -52,6 +52,8 @@ public:
     /// Starts the clocks. False when there is nothing to drive, because the transfer has failed already.
     bool start();
     CURL* handle() const { return m_easy.get(); }
+    /// Scheme, host and port of the first hop, as they stood in the address.
+    const std::string& server() const { return m_server; }
     bool hopEnded(CURLcode result);
     void fail(URLErrorCode code);
 
@@ -81,6 +83,7 @@ private:
     static std::size_t body(char* bytes, std::size_t size, std::size_t count, void* self);
 
     const TransferLimits m_limits;
+    const std::string m_server;
     URLRequest m_request; ///< of the current hop
     std::shared_ptr<TransferClient> m_client;
     CurlEasy m_easy;
