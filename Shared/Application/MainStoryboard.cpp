@@ -6,7 +6,12 @@
 #include "Kit/Core/TabBarController.h"
 #include "Views/Corvels/CorvelListViewController.h"
 #include "Views/Corvels/DeltaCorvelViewController.h"
+#include "Views/Dashboard/CorvelOverviewTableViewController.h"
 #include "Views/Dashboard/DashboardTableViewController.h"
+#include "Views/Dashboard/MSOverViewController.h"
+#include "Views/ManagedSystems/MSDetailViewController.h"
+#include "Views/ManagedSystems/MSListViewController.h"
+#include "Views/ManagementConsole/MCViewController.h"
 
 #include <QCoreApplication>
 
@@ -61,6 +66,12 @@ void registerMainStoryboard(LoginViewController::RootSwitch showRoot)
     storyboard.registerScene("deltaCorvel", factory<DeltaCorvelViewController>(), viewsScene("DeltaCorvelScene.qml"));
     storyboard.registerScene("dashboardView", factory<DashboardTableViewController>(),
                              viewsScene("DashboardScene.qml"));
+    storyboard.registerScene("corvelTasksViewController", factory<CorvelOverviewTableViewController>(),
+                             viewsScene("MenuScene.qml"));
+    storyboard.registerScene("managedSystemsView", factory<MSListViewController>(), viewsScene("MSListScene.qml"));
+    storyboard.registerScene("managedSystemInfo", factory<MSDetailViewController>(), viewsScene("DetailScene.qml"));
+    storyboard.registerScene("managedSystemMenu", factory<MSOverViewController>(), viewsScene("MSOverScene.qml"));
+    storyboard.registerScene("managementConsoleView", factory<MCViewController>(), viewsScene("MCScene.qml"));
 }
 
 } // namespace lodestar

@@ -39,7 +39,8 @@ void MenuOutlet::dismiss()
 
 void MenuOutlet::choose(int index)
 {
-    if (!m_presented || index < 0 || index >= static_cast<int>(m_choices.size())) {
+    if (!m_presented || index < 0 || index >= static_cast<int>(m_choices.size()) ||
+        !m_choices[static_cast<std::size_t>(index)].enabled) {
         return;
     }
     const Handler handler = std::move(m_handler);

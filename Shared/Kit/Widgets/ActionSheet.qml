@@ -132,6 +132,7 @@ T.Popup {
                     required property menuChoice modelData
 
                     visible: index !== sheet.outlet.cancelIndex
+                    enabled: modelData.enabled
                     rowHeight: 56
                     chevron: false
                     text: modelData.title

@@ -3,7 +3,7 @@ import QtQuick
 import Lodestar.Kit
 
 /// A picture and one or two lines where there is nothing to show, a little above the middle, and the one thing to do
-/// about it.
+/// about it. A headline, where there is one, stands above the lines.
 Item {
     id: view
 
@@ -13,6 +13,7 @@ Item {
     property ImageOutlet imageOutlet: null
     property LabelOutlet labelOutlet: null
     property LabelOutlet secondLabelOutlet: null
+    property LabelOutlet headlineOutlet: null
     property string actionText
     signal action()
 
@@ -21,7 +22,7 @@ Item {
 
     visible: (labelOutlet === null || !labelOutlet.hidden) && (imageOutlet === null || !imageOutlet.hidden)
     Accessible.role: Accessible.StaticText
-    Accessible.name: lines + (secondLines === "" ? "" : "\n" + secondLines)
+    Accessible.name: (headline.visible ? headline.text + "\n" : "") + lines + (secondLines === "" ? "" : "\n" + secondLines)
 
     Column {
         anchors.centerIn: parent
@@ -37,6 +38,17 @@ Item {
         Item {
             width: 1
             height: 20
+        }
+        Label {
+            id: headline
+
+            visible: view.headlineOutlet !== null && !view.headlineOutlet.hidden && text !== ""
+            text: view.headlineOutlet !== null ? view.headlineOutlet.text : ""
+            width: parent.width
+            bottomPadding: 4 - drop
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
         }
         Label {
             text: view.lines

@@ -12,18 +12,21 @@ namespace lodestar
 /// The views of a table cell as values: what the outlets of a controller are to a screen, these are to a row. A row is
 /// configured by making its cell anew, so nothing here notifies.
 
-/// A text in a cell. An invalid colour is the view's own.
+/// A text in a cell. An invalid colour is the view's own. In a list of search results `match` is what was searched for,
+/// to be marked where the text holds it; elsewhere it is empty.
 struct CellLabel {
     Q_GADGET
     QML_VALUE_TYPE(cellLabel)
     Q_PROPERTY(QString text MEMBER text)
     Q_PROPERTY(QColor color MEMBER color)
     Q_PROPERTY(bool hidden MEMBER hidden)
+    Q_PROPERTY(QString match MEMBER match)
 
 public:
     QString text;
     QColor color;
     bool hidden = false;
+    QString match{};
 
     friend bool operator==(const CellLabel&, const CellLabel&) = default;
 };

@@ -1,0 +1,81 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Kit/Core/Outlets.h"
+
+#include <QStringList>
+
+#include <functional>
+
+namespace lodestar
+{
+
+/// The button at the end of a screen's bar. Until an item is set there is none. Setters as for every outlet; what is
+/// tapped runs on the main thread.
+class BarButtonOutlet : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
+    Q_PROPERTY(QString imageName READ imageName NOTIFY itemChanged)
+    Q_PROPERTY(QString title READ title NOTIFY itemChanged)
+    Q_PROPERTY(bool enabled READ isEnabled NOTIFY itemChanged)
+
+public:
+    enum class SystemItem { None, Search, Refresh };
+    Q_ENUM(SystemItem)
+
+    explicit BarButtonOutlet(QObject* parent = nullptr) : QObject(parent) {}
+    SystemItem systemItem() const { return m_item; }
+    bool isEnabled() const { return m_enabled; }
+    void setEnabled(bool enabled);
+    /// Puts an enabled button in the place of the one that is there.
+    void setItem(SystemItem item, std::function<void()> action);
+    /// Empty without an item.
+    QString imageName() const;
+    QString title() const;
+    /// Nothing while disabled.
+    Q_INVOKABLE void tap();
+
+Q_SIGNALS:
+    void itemChanged();
+
+private:
+    SystemItem m_item = SystemItem::None;
+    bool m_enabled = false;
+    std::function<void()> m_action;
+};
+
+/// A search bar and the display of its results: hidden until it becomes the first responder, and again when it is
+/// cancelled. QML writes the user's typing into `text`. The scope bar is never shown, yet one scope is always selected.
+/// Main thread.
+class SearchBarOutlet : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
+    Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
+    Q_PROPERTY(bool active READ isActive NOTIFY activeChanged)
+
+public:
+    explicit SearchBarOutlet(QObject* parent = nullptr) : QObject(parent) {}
+    const QString& text() const { return m_text; }
+    void setText(const QString& text);
+    bool isActive() const { return m_active; }
+    void becomeFirstResponder();
+    Q_INVOKABLE void cancel();
+    static QStringList scopeButtonTitles() { return {tr("All")}; }
+    static int selectedScopeButtonIndex() { return 0; }
+
+Q_SIGNALS:
+    void textChanged();
+    void activeChanged();
+    /// The field takes the keyboard, also when the bar is up already.
+    void focusRequested();
+
+private:
+    QString m_text;
+    bool m_active = false;
+};
+
+} // namespace lodestar

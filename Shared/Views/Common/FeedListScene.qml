@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Lodestar.Kit
+import Lodestar.Views
+
+/// A list of a console's feed in its three looks, with search. A screen gives the delegate of a row, and whatever it puts
+/// up itself, as children.
+PageScaffold {
+    id: scene
+
+    /// A component whose root is a TableCell; it draws the rows of both tables.
+    required property Component delegate
+    signal swipeButtonTapped(bool inSearchResults, int section, int row, int index, bool leading)
+
+    readonly property FeedListViewController list: controller as FeedListViewController
+    readonly property bool searching: list.searchBar.active
+    readonly property bool contentShown: !list.tableView.hidden
+    readonly property bool resultsShown: searching && contentShown && list.searchBar.text !== ""
+
+    function cancelSearch(event: var) {
+        event.accepted = searching;
+        if (searching) {
+            list.searchBar.cancel();
+        }
+    }
+    function enterTable() {
+        (resultsShown ? results : table).forceActiveFocus(Qt.TabFocusReason);
+    }
+
+    onSearchingChanged: {
+        if (!searching) {
+            table.forceActiveFocus(Qt.OtherFocusReason);
+        }
+    }
+    Keys.onEscapePressed: (event) => scene.cancelSearch(event)
+    Keys.onBackPressed: (event) => scene.cancelSearch(event)
+
+    Shortcut {
+        sequences: [StandardKey.Find]
+        enabled: scene.visible && scene.list.rightBarButton.imageName === "search"
+        onActivated: scene.list.rightBarButton.tap()
+    }
+    Shortcut {
+        sequences: ["F5", "Ctrl+R"]
+        enabled: scene.visible && !scene.searching && scene.contentShown
+        onActivated: scene.list.refreshControl.pull()
+    }
+    Shortcut {
+        sequences: ["F5", "Ctrl+R"]
+        enabled: scene.visible && !scene.contentShown && scene.list.rightBarButton.imageName === "refresh"
+        onActivated: scene.list.rightBarButton.tap()
+    }
+
+    bar: Item {
+        id: bars
+
+        property bool scrolled: false
+
+        implicitHeight: Theme.barHeight
+
+        NavigationBar {
+            anchors.fill: parent
+            visible: !scene.searching
+            controller: scene.controller
+            scrolled: bars.scrolled
+            titleView: TitleView {
+                titleOutlet: scene.list.header.titleLabel
+                subtitleOutlet: scene.list.header.subtitleLabel
+            }
+            trailing: IconButton {
+                objectName: "rightBarButton"
+                visible: iconName !== ""
+                enabled: scene.list.rightBarButton.enabled
+                iconName: scene.list.rightBarButton.imageName
+                text: scene.list.rightBarButton.title
+                onClicked: scene.list.rightBarButton.tap()
+            }
+        }
+        SearchBar {
+            id: search
+
+            anchors.fill: parent
+            visible: scene.searching
+            onTextChanged: scene.list.searchBar.text = text
+            onCancelled: scene.list.searchBar.cancel()
+            Keys.onDownPressed: scene.enterTable()
+            Keys.onReturnPressed: scene.enterTable()
+            Keys.onEnterPressed: scene.enterTable()
+
+            Connections {
+                target: scene.list.searchBar
+                function onFocusRequested() {
+                    search.start();
+                }
+                function onTextChanged() {
+                    search.text = scene.list.searchBar.text;
+                }
+            }
+            Hairline {
+                visible: bars.scrolled
+                width: parent.width
+                anchors.bottom: parent.bottom
+            }
+        }
+    }
+    scrollView: resultsShown ? results.flickable : table.flickable
+
+    CardTable {
+        id: table
+
+        table: scene.list.tableView
+        refreshControl: scene.list.refreshControl
+        delegate: scene.delegate
+        visible: scene.contentShown && !scene.resultsShown
+        focus: true
+        anchors.fill: parent
+        onSwipeButtonTapped: (section, row, index, leading) => scene.swipeButtonTapped(false, section, row, index, leading)
+    }
+    CardTable {
+        id: results
+
+        table: scene.list.searchResultsTableView
+        delegate: scene.delegate
+        visible: scene.resultsShown
+        anchors.fill: parent
+        onSwipeButtonTapped: (section, row, index, leading) => scene.swipeButtonTapped(true, section, row, index, leading)
+    }
+    NoContent {
+        anchors.fill: parent
+        visible: scene.contentShown && (scene.resultsShown ? results.table.count : table.table.count) === 0
+        picture: scene.resultsShown ? "search" : scene.list.noDataImage.imageName
+        text: scene.resultsShown ? qsTr("Nothing found.") : scene.list.emptyText
+    }
+    NoContent {
+        anchors.fill: parent
+        imageOutlet: scene.list.noDataImage
+        labelOutlet: scene.list.noDataLabel
+        headlineOutlet: scene.list.noDataHeadline
+    }
+    Spinner {
+        outlet: scene.list.fetchingActivityIndicator
+        anchors.centerIn: parent
+        anchors.verticalCenterOffset: -30
+    }
+}

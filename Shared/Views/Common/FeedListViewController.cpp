@@ -1,0 +1,204 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/Common/FeedListViewController.h"
+
+#include "Controllers/REST/RESTHandler.h"
+#include "Platform/Queues/DispatchQueue.h"
+#include "Views/Common/FeedTimeStamp.h"
+
+#include <QCoreApplication>
+
+namespace lodestar
+{
+
+FeedListViewController::FeedListViewController(const FeedListTraits& traits)
+    : m_traits(traits),
+      m_log(traits.fileName),
+      m_tableView(*this, TableKind::Main),
+      m_searchResultsTableView(*this, TableKind::SearchResults)
+{
+    m_tableView.setHidden(true);
+    m_fetchingActivityIndicator.startAnimating();
+    m_noDataImage.setImageName(QString::fromLatin1(traits.noDataImage));
+    m_noDataLabel.setText(translated(traits.noDataText));
+    if (traits.noDataHeadline != nullptr) {
+        m_noDataHeadline.setText(translated(traits.noDataHeadline));
+    }
+}
+
+QString FeedListViewController::translated(const char* text) const
+{
+    return QCoreApplication::translate("FeedListViewController", text);
+}
+
+QString FeedListViewController::emptyText() const
+{
+    return translated(m_traits.emptyText);
+}
+
+void FeedListViewController::viewDidLoad()
+{
+    const std::string_view className = m_traits.fileName.substr(m_traits.fileName.rfind('/') + 1);
+    m_log.write(m_traits.instantiationLine, "viewDidLoad", std::string(className) + " instantiation");
+    connect(&m_refreshControl, &RefreshControl::valueChanged, this, &FeedListViewController::refreshTable);
+    connect(&m_searchBar, &SearchBarOutlet::textChanged, this, [this] {
+        if (m_searchBar.isActive() && shouldReloadTableForSearchString(m_searchBar.text())) {
+            m_searchResultsTableView.reloadData();
+        }
+    });
+    for (TableOutlet* table : {&m_tableView, &m_searchResultsTableView}) {
+        table->setRowHeight(m_traits.rowHeight);
+    }
+    m_tableView.setSeparatorInset(m_traits.separators.left, m_traits.separators.right);
+    m_searchResultsTableView.setSeparatorInset(m_traits.resultSeparators.left, m_traits.resultSeparators.right);
+    for (ViewOutlet* view : std::initializer_list<ViewOutlet*>{&m_noDataImage, &m_noDataLabel, &m_noDataHeadline}) {
+        view->setHidden(true);
+    }
+    setCustomNavigationBar();
+    setHeaderTitle(translated(m_traits.title), tr("updating..."));
+    setBackTitle(QStringLiteral(""));
+    emptyLists();
+    DispatchQueue::globalBackground().async([screen = self<FeedListViewController>()] { screen->fetchFeed(); });
+}
+
+Feed FeedListViewController::feed() const
+{
+    return m_corvel ? feedOfType(*m_corvel, m_traits.type) : Feed::notAvailable();
+}
+
+void FeedListViewController::fetchFeed()
+{
+    if (m_corvel && !m_corvel->completedFetch) {
+        fetchNewRESTData();
+        return;
+    }
+    const Feed stored = feed();
+    if (stored.isNA()) {
+        UINoContent();
+        return;
+    }
+    showFeed(stored.root());
+}
+
+RXPromise<std::string> FeedListViewController::fetchNewRESTData()
+{
+    return fetchAfresh(m_traits.newDataFetch);
+}
+
+RXPromise<std::string> FeedListViewController::fetchAfresh(const FeedFetch& fetch)
+{
+    onMainThread<FeedListViewController>([](FeedListViewController& screen) { screen.emptyLists(); });
+    // The screen is kept until the feed is stored, also when it is closed meanwhile.
+    const auto screen = self<FeedListViewController>();
+    return RESTHandler::sharedInstance()
+        .login(m_corvel, CheckToken::No)
+        .then([screen](const SessionKey& key) {
+            const FeedListTraits& traits = screen->m_traits;
+            return RESTHandler::sharedInstance().fetchDataOfType(traits.type, screen->m_corvel, traits.schema, key);
+        })
+        .thenOnMain(
+            [screen](const XMLElement& feedRoot) {
+                setFeedOfType(*screen->m_corvel, screen->m_traits.type, Feed(feedRoot));
+                screen->showFeed(feedRoot);
+                return std::string("OK");
+            },
+            [screen, fetch](const Error& error) {
+                screen->m_log.writeError(fetch.line, fetch.selector, error);
+                screen->UINoContent();
+                return error;
+            });
+}
+
+void FeedListViewController::parseTimeStampFromXML(const XMLElement& feedRoot)
+{
+    setHeaderTitle(translated(m_traits.title), feedTimeStamp(feedRoot));
+}
+
+void FeedListViewController::refreshTable()
+{
+    UILoadingData();
+    const RXPromise<std::string> fetched = fetchAfresh(m_traits.pullFetch);
+    if (m_traits.pullEnds == PullEnds::AtOnce) {
+        m_refreshControl.endRefreshing();
+        return;
+    }
+    const auto screen = self<FeedListViewController>();
+    fetched.thenOnMain([screen](const std::string&) { screen->m_refreshControl.endRefreshing(); },
+                       [screen](const Error&) { screen->m_refreshControl.endRefreshing(); });
+}
+
+void FeedListViewController::refreshFromButton()
+{
+    UILoadingData();
+    fetchAfresh(m_traits.buttonFetch);
+}
+
+void FeedListViewController::UILoadingData()
+{
+    MainQueue::shared().async([screen = self<FeedListViewController>()] {
+        screen->m_tableView.setHidden(true);
+        screen->m_noDataLabel.setHidden(true);
+        screen->m_noDataHeadline.setHidden(true);
+        screen->m_noDataImage.setHidden(true);
+        screen->m_fetchingActivityIndicator.startAnimating();
+    });
+}
+
+void FeedListViewController::UIShowContent()
+{
+    MainQueue::shared().async([screen = self<FeedListViewController>()] { screen->showContentNow(); });
+}
+
+void FeedListViewController::UINoContent()
+{
+    MainQueue::shared().async([screen = self<FeedListViewController>()] { screen->showNoContentNow(); });
+}
+
+void FeedListViewController::showContentNow()
+{
+    m_noDataLabel.setHidden(true);
+    m_noDataImage.setHidden(true);
+    m_fetchingActivityIndicator.stopAnimating();
+    m_tableView.setHidden(false);
+    m_tableView.reloadData();
+    // Whoever searches while the feed is fetched anew goes on in the new one.
+    if (m_searchBar.isActive() && shouldReloadTableForSearchString(m_searchBar.text())) {
+        m_searchResultsTableView.reloadData();
+    }
+    if (m_traits.searchable) {
+        m_rightBarButton.setItem(BarButtonOutlet::SystemItem::Search, [this] { showSearchBar(); });
+    } else {
+        m_rightBarButton.setItem(BarButtonOutlet::SystemItem::None, {});
+    }
+}
+
+void FeedListViewController::showNoContentNow()
+{
+    m_rightBarButton.setEnabled(false);
+    m_searchBar.cancel();
+    setHeaderTitle(translated(m_traits.title), QString());
+    m_tableView.setHidden(true);
+    m_fetchingActivityIndicator.stopAnimating();
+    m_noDataLabel.setHidden(false);
+    m_noDataHeadline.setHidden(false);
+    m_noDataImage.setHidden(false);
+    m_rightBarButton.setItem(BarButtonOutlet::SystemItem::Refresh, [this] { refreshFromButton(); });
+}
+
+bool FeedListViewController::shouldReloadTableForSearchString(const QString& searchString)
+{
+    filterContentForSearchText(searchString,
+                               SearchBarOutlet::scopeButtonTitles().at(SearchBarOutlet::selectedScopeButtonIndex()));
+    return true;
+}
+
+void FeedListViewController::showSearchBar()
+{
+    m_searchBar.becomeFirstResponder();
+}
+
+QString FeedListViewController::matchFor(TableKind tableView) const
+{
+    return tableView == TableKind::SearchResults ? m_searchBar.text() : QString();
+}
+
+} // namespace lodestar

@@ -1,0 +1,52 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/Common/GroupedFeed.h"
+
+#include <utility>
+
+namespace lodestar
+{
+
+void GroupedFeed::append(const std::string& system, XMLElement element, std::string_view searchText)
+{
+    const auto [place, isNew] = m_indexes.try_emplace(system, m_groups.size());
+    if (isNew) {
+        m_groups.push_back({system, {}});
+    }
+    m_groups[place->second].list.append(std::move(element), searchText);
+}
+
+void GroupedFeed::clear()
+{
+    *this = {};
+}
+
+std::string GroupedFeed::keyAt(std::size_t group) const
+{
+    return group < m_groups.size() ? m_groups[group].system : std::string();
+}
+
+const std::vector<XMLElement>& GroupedFeed::elementsAt(std::size_t group) const
+{
+    static const std::vector<XMLElement> none;
+    return group < m_groups.size() ? m_groups[group].list.elements() : none;
+}
+
+std::optional<std::size_t> GroupedFeed::groupOf(const std::string& system) const
+{
+    const auto found = m_indexes.find(system);
+    return found != m_indexes.end() ? std::optional(found->second) : std::nullopt;
+}
+
+std::vector<ElementGroup> GroupedFeed::containing(std::string_view text) const
+{
+    std::vector<ElementGroup> found;
+    for (const Group& group : m_groups) {
+        std::vector<XMLElement> elements = group.list.containing(text);
+        if (!elements.empty()) {
+            found.push_back({group.system, std::move(elements)});
+        }
+    }
+    return found;
+}
+
+} // namespace lodestar

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+import Lodestar.Views
+
+/// A menu's row: it draws a MenuRow and leaves the press to the table.
+TableCell {
+    id: row
+
+    required property menuCell cell
+
+    accessibleText: content.Accessible.name
+    selectable: !cell.rests && cell.enabled
+    implicitHeight: content.implicitHeight
+
+    MenuRow {
+        id: content
+
+        anchors.fill: parent
+        text: row.cell.title
+        iconName: row.cell.imageName
+        iconColor: row.cell.rests ? Theme.ink3 : Theme.accentInk
+        detail: row.cell.detail
+        chevron: !row.cell.rests
+        enabled: row.cell.enabled
+        pressable: false
+        background: null
+        Accessible.ignored: true
+    }
+    /// The press is the table's.
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.NoButton
+    }
+}

@@ -1,0 +1,30 @@
+// SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Lodestar.Kit
+import Lodestar.Views
+
+/// A fixed menu that leads to other scenes.
+PageScaffold {
+    id: scene
+
+    /// Above the first card; scrolls with it.
+    property alias header: table.header
+
+    readonly property MenuTableViewController menu: controller as MenuTableViewController
+
+    bar: NavigationBar {
+        controller: scene.controller
+    }
+    scrollView: table.flickable
+
+    CardTable {
+        id: table
+
+        table: scene.menu.tableView
+        delegate: MenuDelegate {}
+        focus: true
+        anchors.fill: parent
+    }
+}

@@ -1,0 +1,32 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Views/Common/CorvelReceiving.h"
+#include "Views/Common/MenuTableViewController.h"
+
+namespace lodestar
+{
+
+/// The menu of one console: what it manages, with counts, and the console itself.
+class CorvelOverviewTableViewController : public lodestar::MenuTableViewController, public CorvelReceiving
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the storyboard")
+
+public:
+    const CorvelRef& corvel() const { return m_corvel; }
+    void setCorvel(CorvelRef corvel) override { m_corvel = std::move(corvel); }
+
+protected:
+    void viewDidLoad() override;
+    Sections makeSections() const override;
+    void openRow(IndexPath indexPath) override;
+
+private:
+    QString countOf(std::string_view type) const;
+
+    CorvelRef m_corvel;
+};
+
+} // namespace lodestar

@@ -1,0 +1,39 @@
+// SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Lodestar.Kit
+import Lodestar.Views
+
+/// A managed system's menu, below two gauges.
+MenuScene {
+    id: scene
+
+    readonly property MSOverViewController system: controller as MSOverViewController
+
+    header: Item {
+        id: ornament
+
+        width: scene.width
+        height: 162
+
+        Repeater {
+            model: scene.system.gauges
+
+            CircleGauge {
+                required property gaugeFigure modelData
+
+                x: Theme.mirrored ? ornament.width - modelData.frame.x - width : modelData.frame.x
+                y: modelData.frame.y
+                width: modelData.frame.width
+                height: modelData.frame.height
+                total: modelData.total
+                current: modelData.current
+                clockwise: modelData.clockwise
+                strokeColor: modelData.strokeColor
+                trackColor: "transparent"
+                Accessible.ignored: true
+            }
+        }
+    }
+}

@@ -1,0 +1,69 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/Dashboard/MSOverViewController.h"
+
+#include "Controllers/REST/Feed.h"
+
+namespace lodestar
+{
+namespace
+{
+
+constexpr auto performanceScene = "pcmDataView";
+constexpr auto partitionsScene = "logicalPartitionsView";
+constexpr auto informationScene = "managedSystemInfo";
+
+QString textOf(const XMLElement& element)
+{
+    return QString::fromStdString(element.text().value_or(""));
+}
+
+} // namespace
+
+void MSOverViewController::viewDidLoad()
+{
+    MenuTableViewController::viewDidLoad();
+    setTitle(tr("Managed System"));
+}
+
+QList<GaugeFigure> MSOverViewController::gauges() const
+{
+    return {{QRectF(15, 28, 110, 110), 100, 90, false, QColor(245, 94, 78)},
+            {QRectF(85, 28, 110, 110), 100, 60, false, QColor(77, 186, 122)}};
+}
+
+MenuTableViewController::Sections MSOverViewController::makeSections() const
+{
+    // The resting row says which system the menu is for.
+    return {{{tr("Performance Monitoring"), "performance", performanceScene}},
+            {{textOf(m_system.child("SystemName")), "managed_systems", "", textOf(m_system.child("State"))},
+             {tr("Logical Partitions"), "logical_partitions", partitionsScene}},
+            {{tr("System Information"), "info", informationScene}}};
+}
+
+void MSOverViewController::openRow(IndexPath indexPath)
+{
+    if (indexPath == IndexPath{0, 0}) {
+        openScene(*this, performanceScene, {.corvel = m_corvel, .systemID = systemIDAtRow(indexPath.row)});
+    } else if (indexPath == IndexPath{1, 1}) {
+        openScene(*this, partitionsScene, {.corvel = m_corvel, .partitionName = m_system.child("SystemName").text()});
+    } else if (indexPath == IndexPath{2, 0}) {
+        openScene(*this, informationScene, {.rootXML = m_system});
+    }
+}
+
+std::optional<std::string> MSOverViewController::systemIDAtRow(int row) const
+{
+    // By the selected row, which here is always the first: the feed's first system is charted, whichever system the
+    // menu is for. That is meant.
+    const Feed feed = m_corvel ? feedOfType(*m_corvel, ObjectType::ManagedSystem) : Feed::notAvailable();
+    const std::vector<XMLElement> entries = feed.entries();
+    if (static_cast<std::size_t>(row) >= entries.size()) {
+        return {};
+    }
+    const XMLElement content = entries[static_cast<std::size_t>(row)].child("content");
+    // Some consoles put the metadata beside the system, most into it.
+    auto beside = content.path({"Metadata", "Atom", "AtomID"}).text();
+    return beside ? beside : content.path({ObjectType::ManagedSystem, "Metadata", "Atom", "AtomID"}).text();
+}
+
+} // namespace lodestar

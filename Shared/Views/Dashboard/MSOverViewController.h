@@ -1,0 +1,66 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Views/Common/CorvelReceiving.h"
+#include "Views/Common/MenuTableViewController.h"
+#include "Views/Common/SceneInputs.h"
+
+#include <QColor>
+#include <QList>
+#include <QRectF>
+
+namespace lodestar
+{
+
+/// What a circle gauge shows, and where. Points.
+struct GaugeFigure {
+    Q_GADGET
+    QML_VALUE_TYPE(gaugeFigure)
+    Q_PROPERTY(QRectF frame MEMBER frame)
+    Q_PROPERTY(double total MEMBER total)
+    Q_PROPERTY(double current MEMBER current)
+    Q_PROPERTY(bool clockwise MEMBER clockwise)
+    Q_PROPERTY(QColor strokeColor MEMBER strokeColor)
+
+public:
+    QRectF frame;
+    double total;
+    double current;
+    bool clockwise;
+    QColor strokeColor;
+
+    friend bool operator==(const GaugeFigure&, const GaugeFigure&) = default;
+};
+
+/// The menu of one managed system: performance, partitions, details.
+class MSOverViewController : public lodestar::MenuTableViewController, public CorvelReceiving, public RootXMLReceiving
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the storyboard")
+    Q_PROPERTY(QList<lodestar::GaugeFigure> gauges READ gauges CONSTANT)
+
+public:
+    const CorvelRef& corvel() const { return m_corvel; }
+    void setCorvel(CorvelRef corvel) override { m_corvel = std::move(corvel); }
+    const XMLElement& system() const { return m_system; }
+    void setSystem(XMLElement system) { m_system = std::move(system); }
+    /// The same, for openers that do not know this screen.
+    void setRootXML(XMLElement rootXML) override { setSystem(std::move(rootXML)); }
+
+    /// An ornament: the figures are fixed and say nothing of the system. That the two overlap is meant.
+    QList<GaugeFigure> gauges() const;
+
+protected:
+    void viewDidLoad() override;
+    Sections makeSections() const override;
+    void openRow(IndexPath indexPath) override;
+
+private:
+    std::optional<std::string> systemIDAtRow(int row) const;
+
+    CorvelRef m_corvel;
+    XMLElement m_system;
+};
+
+} // namespace lodestar

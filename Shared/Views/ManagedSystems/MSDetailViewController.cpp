@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/ManagedSystems/MSDetailViewController.h"
+
+#include "Controllers/REST/RESTSupport.h"
+#include "Views/Common/ScreenLog.h"
+
+#include <QDesktopServices>
+
+#include <utility>
+
+namespace lodestar
+{
+namespace
+{
+
+constexpr ScreenLog screenLog("Shared/Views/ManagedSystems/MSDetailViewController");
+constexpr auto populate = "populateSystemDetails";
+
+constexpr IndexPath referenceCodeRow = {0, 2};
+
+} // namespace
+
+MSDetailViewController::MSDetailViewController()
+{
+    setSectionTitles({tr("Main Information"), tr("Model & Serial Information"), tr("Processor Information"),
+                      tr("Memory Information")});
+}
+
+void MSDetailViewController::viewDidLoad()
+{
+    screenLog.write(23, "viewDidLoad", "MSDetailViewController instantiation");
+    setTitle(QString::fromStdString(m_rootXML.child("SystemName").text().value_or("")));
+    setBackTitle(QStringLiteral(""));
+    populateSystemDetails();
+}
+
+void MSDetailViewController::populateSystemDetails()
+{
+    const auto text = [this](std::string_view name) { return m_rootXML.child(name).text(); };
+    // The prefix is another screen's, and stays: logs are searched for these lines.
+    screenLog.write(47, populate, "DeltaCorvelViewController: Fetching Main Items");
+    DetailSection main{{row(tr("IP Address"), text("PrimaryIPAddress")), row(tr("Status"), text("State")),
+                        row(tr("Reference Code"), text("ReferenceCode")),
+                        row(tr("Attention LED On"), text("PhysicalSystemAttentionLEDState"))}};
+
+    screenLog.write(58, populate, "DeltaCorvelViewController: Fetching MTSM");
+    const XMLElement model = m_rootXML.child("MachineTypeModelAndSerialNumber");
+    DetailSection serial{{row(tr("Serial Number"), model.child("SerialNumber").text()),
+                          row(tr("Machine Type"), model.child("MachineType").text()),
+                          row(tr("Model"), model.child("Model").text())}};
+
+    screenLog.write(69, populate, "DeltaCorvelViewController: Fetching Processor Information");
+    const auto units =
+        m_rootXML.path({"AssociatedSystemProcessorConfiguration", "ConfigurableSystemProcessorUnits"}).text();
+    DetailSection processor{{row(tr("Available Processing Units"), units)}};
+
+    screenLog.write(78, populate, "DeltaCorvelViewController: Fetching Memory Information");
+    const auto memory = m_rootXML.path({"AssociatedSystemMemoryConfiguration", "ConfigurableSystemMemory"}).text();
+    DetailSection memorySection{{row(tr("Available Memory"), shownText(memory) + " MB")}};
+
+    setTableData({std::move(main), std::move(serial), std::move(processor), std::move(memorySection)});
+}
+
+bool MSDetailViewController::leadsOn(IndexPath indexPath) const
+{
+    return indexPath == referenceCodeRow && valueAt(indexPath) != QLatin1String("(null)");
+}
+
+void MSDetailViewController::openRow(IndexPath indexPath)
+{
+    QDesktopServices::openUrl(documentationURL(valueAt(indexPath)));
+}
+
+QUrl MSDetailViewController::documentationURL(const QString& referenceCode)
+{
+    return QUrl(QStringLiteral(LODESTAR_REFERENCE_CODE_URL) +
+                QString::fromLatin1(QUrl::toPercentEncoding(referenceCode)));
+}
+
+} // namespace lodestar

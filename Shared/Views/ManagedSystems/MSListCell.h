@@ -1,0 +1,57 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Kit/Core/Table.h"
+#include "Views/Common/CellViews.h"
+
+#include <QCoreApplication>
+#include <QList>
+
+namespace lodestar
+{
+
+class XMLElement;
+
+/// One row of the managed-system list, as a value: name, state and, for a system in error or with its attention LED
+/// lit, a badge that the name makes room for.
+class MSListCell
+{
+    Q_GADGET
+    Q_DECLARE_TR_FUNCTIONS(lodestar::MSListCell)
+    QML_VALUE_TYPE(msListCell)
+    Q_PROPERTY(lodestar::CellImage statusImage READ statusImage)
+    Q_PROPERTY(lodestar::CellLabel nameLabel READ nameLabel)
+    Q_PROPERTY(lodestar::CellLabel statusLabel READ statusLabel)
+    Q_PROPERTY(QString statusMark READ statusMark)
+    Q_PROPERTY(double nameLeftConstraint READ nameLeftConstraint)
+    Q_PROPERTY(QList<lodestar::SwipeButton> rightButtons READ rightButtons)
+    Q_PROPERTY(QString accessibleText READ accessibleText)
+
+public:
+    MSListCell() = default;
+    /// `match` is what was searched for; empty for none.
+    MSListCell(const XMLElement& system, const QString& match);
+
+    const CellImage& statusImage() const { return m_statusImage; }
+    const CellLabel& nameLabel() const { return m_nameLabel; }
+    const CellLabel& statusLabel() const { return m_statusLabel; }
+    /// The shape that says the state without colour: "good", "error" or "off".
+    const QString& statusMark() const { return m_statusMark; }
+    /// Points from the row's start to the name.
+    double nameLeftConstraint() const { return m_nameLeftConstraint; }
+    void setRightButtons(QList<SwipeButton> buttons) { m_rightButtons = std::move(buttons); }
+    const QList<SwipeButton>& rightButtons() const { return m_rightButtons; }
+    QString accessibleText() const;
+
+private:
+    CellImage m_statusImage{{}, true};
+    CellLabel m_nameLabel;
+    CellLabel m_statusLabel;
+    QString m_statusMark;
+    double m_nameLeftConstraint = 20;
+    bool m_isError = false;
+    bool m_isLEDLit = false;
+    QList<SwipeButton> m_rightButtons;
+};
+
+} // namespace lodestar

@@ -1,0 +1,165 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/ManagedSystems/MSListViewController.h"
+
+#include "Kit/Core/Storyboard.h"
+#include "Kit/Core/UIColor+Tessel.h"
+#include "Views/Common/SceneInputs.h"
+#include "Views/ManagedSystems/MSListCell.h"
+
+#include <QCoreApplication>
+
+#include <array>
+#include <utility>
+
+namespace lodestar
+{
+namespace
+{
+
+constexpr FeedListTraits traits = {
+    .fileName = "Shared/Views/ManagedSystems/MSListViewController",
+    .instantiationLine = 40,
+    .type = ObjectType::ManagedSystem,
+    .title = QT_TRANSLATE_NOOP("FeedListViewController", "Managed Systems"),
+    .newDataFetch = {"fetchNewRESTData", 165},
+    .noDataImage = "no_data_systems",
+    .noDataText =
+        QT_TRANSLATE_NOOP("FeedListViewController", "Managed systems could not be loaded. Refresh to try again."),
+    .emptyText = QT_TRANSLATE_NOOP("FeedListViewController", "This console manages no systems."),
+};
+
+constexpr auto informationScene = "managedSystemInfo";
+constexpr auto performanceScene = "pcmDataView";
+constexpr auto partitionsScene = "logicalPartitionsView";
+constexpr auto menuScene = "managedSystemMenu";
+
+constexpr int cancelItem = 3;
+constexpr int menuButton = 0;
+
+MenuChoice choice(const QString& title, const char* image, const char* scene)
+{
+    return {title, false, QString::fromLatin1(image), Storyboard::main().hasScene(scene)};
+}
+
+QList<SwipeButton> makeRightButtons()
+{
+    if (!Storyboard::main().hasScene(menuScene)) {
+        return {};
+    }
+    return {SwipeButton{MSListViewController::tr("System menu"), UIColor::tesselBlue(), QStringLiteral("more")}};
+}
+
+} // namespace
+
+MSListViewController::MSListViewController() : FeedListViewController(traits) {}
+
+void MSListViewController::emptyLists()
+{
+    m_MSList.clear();
+    m_filteredMSList.clear();
+}
+
+void MSListViewController::showFeed(const XMLElement& feedRoot)
+{
+    createMSList();
+    parseTimeStampFromXML(feedRoot);
+    UIShowContent();
+}
+
+void MSListViewController::createMSList()
+{
+    log().write(197, "createMSList", "MSListViewController: Creating Managed System List");
+    ElementList systems;
+    const Feed stored = feed();
+    for (const XMLElement& entry : stored.entries()) {
+        // An entry of another type is no system.
+        XMLElement system = entry.path({"content", ObjectType::ManagedSystem});
+        if (system) {
+            const std::string name = system.child("SystemName").text().value_or("");
+            systems.append(std::move(system), name);
+        }
+    }
+    onMainThread<MSListViewController>([systems = std::move(systems)](MSListViewController& screen) mutable {
+        screen.m_MSList.append(std::move(systems));
+        screen.tableView()->reloadData();
+    });
+}
+
+void MSListViewController::filterContentForSearchText(const QString& searchText, const QString& /*scope*/)
+{
+    m_filteredMSList = m_MSList.containing(searchText.toStdString());
+}
+
+int MSListViewController::numberOfRowsInSection(TableKind tableView, int /*section*/) const
+{
+    if (m_MSList.empty() || feed().isNA()) {
+        return 0;
+    }
+    return static_cast<int>(tableView == TableKind::SearchResults ? m_filteredMSList.size() : m_MSList.size());
+}
+
+XMLElement MSListViewController::systemAt(TableKind tableView, int row) const
+{
+    return elementAt(tableView == TableKind::SearchResults ? m_filteredMSList : m_MSList.elements(), row);
+}
+
+QVariant MSListViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)
+{
+    MSListCell cell(systemAt(tableView, indexPath.row), matchFor(tableView));
+    cell.setRightButtons(makeRightButtons());
+    return QVariant::fromValue(cell);
+}
+
+void MSListViewController::didSelectRowAtIndexPath(TableKind tableView, IndexPath indexPath)
+{
+    m_actionSheet.present(tr("Managed System"), {},
+                          {choice(tr("System Information"), "info", informationScene),
+                           choice(tr("Performance Monitoring"), "performance", performanceScene),
+                           choice(tr("Logical Partitions"), "logical_partitions", partitionsScene),
+                           {tr("Cancel")}},
+                          cancelItem, [this, tableView, indexPath](int index) {
+                              // Taken again: the list may have come anew while the sheet was up.
+                              openItem(index, systemAt(tableView, indexPath.row));
+                          });
+    (tableView == TableKind::SearchResults ? searchResultsTableView() : this->tableView())->deselectRow(indexPath);
+}
+
+void MSListViewController::openItem(int index, const XMLElement& system)
+{
+    if (!system) {
+        return;
+    }
+    const auto name = system.child("SystemName").text();
+    switch (index) {
+    case 0:
+        openScene(*this, informationScene, {.rootXML = system});
+        break;
+    case 1:
+        openScene(
+            *this, performanceScene,
+            {.corvel = corvel(), .sysName = name, .systemID = system.path({"Metadata", "Atom", "AtomID"}).text()});
+        break;
+    case 2:
+        openScene(*this, partitionsScene, {.corvel = corvel(), .partitionName = name});
+        break;
+    default:
+        break;
+    }
+}
+
+bool MSListViewController::tappedButtonAtIndex(TableKind tableView, int row, int index)
+{
+    const XMLElement system = systemAt(tableView, row);
+    if (index == menuButton && system) {
+        openScene(*this, menuScene, {.corvel = corvel(), .rootXML = system});
+    }
+    return true;
+}
+
+bool MSListViewController::swipeTableCell(bool inSearchResults, int row, int tappedButtonAtIndex)
+{
+    return this->tappedButtonAtIndex(inSearchResults ? TableKind::SearchResults : TableKind::Main, row,
+                                     tappedButtonAtIndex);
+}
+
+} // namespace lodestar

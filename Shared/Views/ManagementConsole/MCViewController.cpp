@@ -1,0 +1,103 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/ManagementConsole/MCViewController.h"
+
+#include "Controllers/REST/RESTHandler.h"
+#include "Views/Common/FeedTimeStamp.h"
+#include "Views/Common/ScreenLog.h"
+
+#include <utility>
+
+namespace lodestar
+{
+namespace
+{
+
+constexpr ScreenLog screenLog("Shared/Views/ManagementConsole/MCViewController");
+constexpr auto populate = "populateTableViewFromXML:";
+
+} // namespace
+
+MCViewController::MCViewController()
+{
+    setSectionTitles({tr("Main Information"), tr("Model & Serial Information"), tr("Version Information")});
+    tableView()->setHidden(true);
+    m_contentLabel.setText(tr("Console information could not be loaded."));
+    m_contentLabel.setHidden(true);
+}
+
+void MCViewController::viewDidLoad()
+{
+    screenLog.write(26, "viewDidLoad", "MCViewController instantiation");
+    m_header.setCustomNavigationBar();
+    m_header.setHeaderTitle(tr("Management Console"), tr("updating..."));
+    fetchSystemInformation();
+}
+
+void MCViewController::fetchSystemInformation()
+{
+    if (m_corvel && !m_corvel->completedFetch) {
+        m_fetchingActivityIndicator.startAnimating();
+        fetchAfresh();
+        return;
+    }
+    const Feed stored = m_corvel ? feedOfType(*m_corvel, ObjectType::ManagementConsole) : Feed::notAvailable();
+    if (stored.isNA()) {
+        m_header.setHeaderTitle(tr("Console Data"), tr("N/A"));
+        return;
+    }
+    populateTableViewFromXML(stored.root());
+}
+
+void MCViewController::fetchAfresh()
+{
+    const auto screen = self<MCViewController>();
+    RESTHandler::sharedInstance()
+        .login(m_corvel, CheckToken::No)
+        .then([corvel = m_corvel](const SessionKey& key) {
+            return RESTHandler::sharedInstance().fetchDataOfType(ObjectType::ManagementConsole, corvel, "uom", key);
+        })
+        .thenOnMain(
+            [screen](const XMLElement& feedRoot) {
+                setFeedOfType(*screen->m_corvel, ObjectType::ManagementConsole, Feed(feedRoot));
+                screen->populateTableViewFromXML(feedRoot);
+                return std::string("OK");
+            },
+            [screen](const Error& error) {
+                screenLog.writeError(121, "fetchSystemInformation", error);
+                screen->m_fetchingActivityIndicator.stopAnimating();
+                screen->m_contentLabel.setHidden(false);
+                return error;
+            });
+}
+
+void MCViewController::parseTimeStampFromXML(const XMLElement& feedRoot)
+{
+    m_header.setHeaderTitle(tr("Management Console"), feedTimeStamp(feedRoot));
+}
+
+void MCViewController::populateTableViewFromXML(const XMLElement& feedRoot)
+{
+    parseTimeStampFromXML(feedRoot);
+    screenLog.write(135, populate, "MCViewController: Fetching data");
+    const XMLElement console = feedRoot.path({"entry", "content", ObjectType::ManagementConsole});
+
+    screenLog.write(138, populate, "MCViewController: Fetching Main items");
+    DetailSection main{{row(tr("Console Name"), console.child("ManagementConsoleName").text())}};
+
+    screenLog.write(144, populate, "MCViewController: Fetching MTSM");
+    const XMLElement model = console.child("MachineTypeModelAndSerialNumber");
+    DetailSection serial{{row(tr("Serial Number"), model.child("SerialNumber").text()),
+                          row(tr("Machine Type"), model.child("MachineType").text()),
+                          row(tr("Model"), model.child("Model").text())}};
+
+    // The line says processors and introduces the version.
+    screenLog.write(156, populate, "MCViewController: Fetching processor information");
+    DetailSection version{{row(tr("Version"), QString::fromStdString(RESTHandler::versionString(Feed(feedRoot)))),
+                           row(tr("Build Level"), console.path({"VersionInfo", "BuildLevel"}).text())}};
+
+    m_fetchingActivityIndicator.stopAnimating();
+    tableView()->setHidden(false);
+    setTableData({std::move(main), std::move(serial), std::move(version)});
+}
+
+} // namespace lodestar

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Controllers/REST/XMLElement.h"
+#include "Kit/Core/Outlets.h"
+#include "Views/Common/CorvelReceiving.h"
+#include "Views/Common/DetailViewController.h"
+#include "Views/Common/TitleHeader.h"
+
+namespace lodestar
+{
+
+/// What a console says of itself: name, model, version. Shown from the console's last whole fetch if that has ended,
+/// fetched otherwise. Main thread.
+class MCViewController : public lodestar::DetailViewController, public CorvelReceiving
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the storyboard")
+    Q_PROPERTY(lodestar::TitleHeader* header READ header CONSTANT)
+    Q_PROPERTY(lodestar::LabelOutlet* contentLabel READ contentLabel CONSTANT)
+    Q_PROPERTY(lodestar::IndicatorOutlet* fetchingActivityIndicator READ fetchingActivityIndicator CONSTANT)
+
+public:
+    MCViewController();
+
+    const CorvelRef& corvel() const { return m_corvel; }
+    void setCorvel(CorvelRef corvel) override { m_corvel = std::move(corvel); }
+    TitleHeader* header() { return &m_header; }
+    /// Shown when the fetch failed.
+    LabelOutlet* contentLabel() { return &m_contentLabel; }
+    IndicatorOutlet* fetchingActivityIndicator() { return &m_fetchingActivityIndicator; }
+
+    void fetchSystemInformation();
+    void populateTableViewFromXML(const XMLElement& feedRoot);
+    void parseTimeStampFromXML(const XMLElement& feedRoot);
+
+protected:
+    void viewDidLoad() override;
+
+private:
+    void fetchAfresh();
+
+    CorvelRef m_corvel;
+    TitleHeader m_header;
+    LabelOutlet m_contentLabel;
+    IndicatorOutlet m_fetchingActivityIndicator;
+};
+
+} // namespace lodestar
