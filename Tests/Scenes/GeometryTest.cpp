@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Controllers/REST/Feed.h"
+#include "Kit/Core/NavigationController.h"
 #include "Tests/Scenes/SceneTest.h"
 
 #include <tuple>
@@ -142,6 +144,24 @@ TEST_P(GeometryTest, Dashboard)
     const std::vector<QQuickItem*> pies = stage.items("PieChart");
     ASSERT_EQ(pies.size(), 2U);
     EXPECT_EQ(pies[0]->mapToScene({}).y() == pies[1]->mapToScene({}).y(), size().width() >= 600);
+}
+
+TEST_P(GeometryTest, Inventory)
+{
+    apply();
+    stage.show(size(), fleet());
+    const CorvelRef corvel = demoConsole();
+    const XMLElement system =
+        feedOfType(*corvel, ObjectType::ManagedSystem).entries().at(2).path({"content", ObjectType::ManagedSystem});
+    for (const char* scene : {"corvelTasksViewController", "managedSystemsView", "managementConsoleView",
+                              "managedSystemInfo", "managedSystemMenu"}) {
+        ASSERT_NE(stage.open(scene, {.corvel = corvel, .rootXML = system}), nullptr);
+        ASSERT_TRUE(stage.waitFor([this] { return row(0) != nullptr && stage.items("Spinner").empty(); }));
+        stage.settle(200);
+        expectSound();
+        stage.list().navigationController()->pop();
+        stage.settle(200);
+    }
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, GeometryTest,

@@ -7,11 +7,17 @@
 #include "Kit/Core/Storyboard.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/UserDefaults.h"
+#include "Views/Dashboard/CorvelOverviewTableViewController.h"
+#include "Views/Dashboard/MSOverViewController.h"
+#include "Views/ManagedSystems/MSDetailViewController.h"
+#include "Views/ManagedSystems/MSListViewController.h"
+#include "Views/ManagementConsole/MCViewController.h"
 #include "Views/Views.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QFile>
 #include <QQmlComponent>
 #include <QTimer>
 
@@ -80,6 +86,23 @@ std::shared_ptr<Controller> makeScene(const char* file)
     auto controller = makeController<Controller>();
     controller->setScene(QUrl(QStringLiteral("qrc:/Lodestar/Views/") + QLatin1String(file)));
     return controller;
+}
+
+template <typename Controller>
+void registerScene(const char* identifier, const char* file)
+{
+    Storyboard::main().registerScene(
+        identifier, [] { return makeController<Controller>(); },
+        QUrl(QStringLiteral("qrc:/Lodestar/Views/") + QLatin1String(file)));
+}
+
+std::string demoFeed(std::string_view type)
+{
+    QFile file(QStringLiteral(":/demo/%1.xml").arg(QLatin1String(type.data(), static_cast<qsizetype>(type.size()))));
+    if (!file.open(QIODevice::ReadOnly)) {
+        throw std::runtime_error("no demonstration feed " + std::string(type));
+    }
+    return file.readAll().toStdString();
 }
 
 void collect(QQuickItem* from, const std::function<bool(QQuickItem*)>& wanted, std::vector<QQuickItem*>& found)
@@ -159,6 +182,27 @@ std::vector<ConsoleLook> longNames()
     };
 }
 
+CorvelRef demoConsole(const std::map<std::string, std::string>& feeds)
+{
+    const auto corvel = std::static_pointer_cast<Corvel>(
+        StoreStack::shared().managedObjectContext().insertNewObject(Corvel::entityName));
+    corvel->setName("Harbour B");
+    corvel->setAddress("127.0.0.1");
+    corvel->setDemo(true);
+    corvel->completedFetch = true;
+    corvel->isOnline = true;
+    auto dictionary = std::make_shared<FeedDictionary>();
+    for (const std::string_view type :
+         {ObjectType::ManagementConsole, ObjectType::ManagedSystem, ObjectType::VirtualIOServer,
+          ObjectType::LogicalPartition, ObjectType::ServiceableEvent, ObjectType::Group}) {
+        const auto given = feeds.find(std::string(type));
+        const std::string xml = given != feeds.end() ? given->second : demoFeed(type);
+        dictionary->setFeed(type, xml.empty() ? Feed::notAvailable() : parse(xml));
+    }
+    corvel->setRestData(dictionary);
+    return corvel;
+}
+
 SceneStage::SceneStage()
 {
     StoreStack::shared().setApplicationDocumentsDirectory(m_folder.path().toStdString());
@@ -166,9 +210,12 @@ SceneStage::SceneStage()
     UserDefaults::standard().setBool(true, "showedPreview");
     TabBarAppearance::appearance().selectedImageTintColor = UIColor::selectedBlue();
     Storyboard::main() = Storyboard();
-    Storyboard::main().registerScene(
-        "deltaCorvel", [] { return makeScene<DeltaCorvelViewController>("DeltaCorvelScene.qml"); },
-        QUrl(QStringLiteral("qrc:/Lodestar/Views/DeltaCorvelScene.qml")));
+    registerScene<DeltaCorvelViewController>("deltaCorvel", "DeltaCorvelScene.qml");
+    registerScene<CorvelOverviewTableViewController>("corvelTasksViewController", "MenuScene.qml");
+    registerScene<MSListViewController>("managedSystemsView", "MSListScene.qml");
+    registerScene<MSDetailViewController>("managedSystemInfo", "DetailScene.qml");
+    registerScene<MSOverViewController>("managedSystemMenu", "MSOverScene.qml");
+    registerScene<MCViewController>("managementConsoleView", "MCScene.qml");
     installViews(m_engine);
     QObject::connect(&m_engine, &QQmlEngine::warnings, [this](const QList<QQmlError>& warnings) {
         for (const QQmlError& warning : warnings) {
@@ -240,6 +287,15 @@ DeltaCorvelViewController* SceneStage::openEditor()
 {
     m_list->addCorvel();
     return qobject_cast<DeltaCorvelViewController*>(m_list->semiModal()->controller());
+}
+
+ViewController* SceneStage::open(std::string_view identifier, SceneInputs inputs) const
+{
+    if (!openScene(*m_list, identifier, std::move(inputs))) {
+        return nullptr;
+    }
+    settle(60);
+    return m_list->navigationController()->topViewController();
 }
 
 bool SceneStage::waitFor(const std::function<bool()>& predicate) const

@@ -3,6 +3,7 @@
 
 #include "Application/Model/Corvel.h"
 #include "Kit/Core/TabBarController.h"
+#include "Views/Common/SceneInputs.h"
 #include "Views/Corvels/CorvelListViewController.h"
 #include "Views/Corvels/DeltaCorvelViewController.h"
 #include "Views/Dashboard/DashboardTableViewController.h"
@@ -46,6 +47,10 @@ std::vector<ConsoleLook> fleet();
 /// Names, addresses and counts far longer than any row.
 std::vector<ConsoleLook> longNames();
 
+/// A fetched console with the demonstration's feeds, those that are given in their place; an empty text is a feed that
+/// failed. It is in no list.
+CorvelRef demoConsole(const std::map<std::string, std::string>& feeds = {});
+
 /// A window with the two tabs of the main interface in it, drawn without a display. Nothing is fetched: records are as
 /// they are told. One at a time; needs a QGuiApplication.
 class SceneStage
@@ -60,6 +65,13 @@ public:
     void show(QSize size, const std::vector<ConsoleLook>& consoles);
     void showDashboard();
     DeltaCorvelViewController* openEditor();
+    /// A screen over the console list, by its scene's identifier; null for a scene that the stage does not have.
+    ViewController* open(std::string_view identifier, SceneInputs inputs) const;
+    template <typename Controller>
+    Controller* open(std::string_view identifier, SceneInputs inputs) const
+    {
+        return qobject_cast<Controller*>(open(identifier, std::move(inputs)));
+    }
 
     CorvelListViewController& list() const { return *m_list; }
     DashboardTableViewController& dashboard() const { return *m_dashboard; }

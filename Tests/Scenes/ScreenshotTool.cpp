@@ -3,7 +3,7 @@
 // name contains it.
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/MainLoop.h"
-#include "Tests/Scenes/SceneStage.h"
+#include "Tests/Scenes/Looks.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -16,14 +16,6 @@ using namespace lodestar::scenes;
 
 namespace
 {
-
-struct Look {
-    const char* name;
-    std::vector<ConsoleLook> consoles;
-    std::function<void(SceneStage&)> prepare;
-    /// Also drawn wide, dark, in large text and mirrored.
-    bool isMain = false;
-};
 
 struct Variant {
     QSize size;
@@ -180,7 +172,7 @@ int main(int argc, char** argv)
     const QDir folder(arguments[1]);
     folder.mkpath(QStringLiteral("."));
     SceneStage stage;
-    for (const auto& looks : {consoleLooks(), editorLooks(), dashboardLooks()}) {
+    for (const auto& looks : {consoleLooks(), editorLooks(), dashboardLooks(), inventoryLooks()}) {
         for (const Look& look : looks) {
             for (const Variant& variant : variantsOf(look)) {
                 const QString name = QString::fromLatin1(look.name) + '-' + variant.suffix + ".png";

@@ -38,7 +38,7 @@ PageScaffold {
     Keys.onBackPressed: (event) => scene.cancelSearch(event)
 
     Shortcut {
-        sequences: [StandardKey.Find]
+        sequences: ["Ctrl+F"]
         enabled: scene.visible && scene.list.rightBarButton.imageName === "search"
         onActivated: scene.list.rightBarButton.tap()
     }

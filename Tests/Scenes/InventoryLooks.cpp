@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Controllers/REST/Feed.h"
+#include "Tests/Scenes/Looks.h"
+#include "Views/Common/FeedListViewController.h"
+
+#include <array>
+
+namespace lodestar::scenes
+{
+namespace
+{
+
+std::string longNamedSystems()
+{
+    std::string feed = "<feed>";
+    for (const auto& [name, state, led] : std::vector<std::array<const char*, 3>>{
+             {"recovery-site-of-the-northern-harbour-district-hall-2-rack-12", "operating", "false"},
+             {"recovery-site-of-the-northern-harbour-district-hall-2-rack-48", "operating", "true"},
+             {"recovery-site-of-the-northern-harbour-district-hall-3-rack-01",
+              "incomplete, waiting for the service processor to answer", "true"},
+             {"a", "error", "false"},
+             {"", "", "false"}}) {
+        feed += std::string("<entry><published>2026-03-12T09:41:00.000Z</published><content><ManagedSystem>") +
+                "<SystemName>" + name + "</SystemName><State>" + state + "</State><PhysicalSystemAttentionLEDState>" +
+                led + "</PhysicalSystemAttentionLEDState></ManagedSystem></content></entry>";
+    }
+    return feed + "</feed>";
+}
+
+FeedListViewController& openSystems(SceneStage& stage, const std::map<std::string, std::string>& feeds = {})
+{
+    auto& list = *stage.open<FeedListViewController>("managedSystemsView", {.corvel = demoConsole(feeds)});
+    stage.waitFor([&] { return !list.fetchingActivityIndicator()->isAnimating(); });
+    stage.settle();
+    return list;
+}
+
+void search(SceneStage& stage, const char* text)
+{
+    FeedListViewController& list = openSystems(stage);
+    list.showSearchBar();
+    list.searchBar()->setText(QString::fromLatin1(text));
+}
+
+XMLElement demoSystem(const CorvelRef& corvel, std::size_t index)
+{
+    return feedOfType(*corvel, ObjectType::ManagedSystem).entries().at(index).path({"content", "ManagedSystem"});
+}
+
+std::vector<Look> systemLooks()
+{
+    return {
+        {"managed-systems", fleet(), [](SceneStage& stage) { openSystems(stage); }, true},
+        {"managed-systems-long-names", fleet(),
+         [](SceneStage& stage) {
+             openSystems(stage, {{"ManagedSystem", longNamedSystems()}});
+         },
+         true},
+        {"managed-systems-loading", fleet(),
+         [](SceneStage& stage) {
+             FeedListViewController& list = openSystems(stage);
+             list.UILoadingData();
+             list.setHeaderTitle("Managed Systems", "updating...");
+         }},
+        {"managed-systems-failed", fleet(),
+         [](SceneStage& stage) {
+             openSystems(stage, {{"ManagedSystem", ""}});
+         },
+         true},
+        {"managed-systems-empty", fleet(),
+         [](SceneStage& stage) {
+             openSystems(stage, {{"ManagedSystem", "<feed/>"}});
+         }},
+        {"managed-systems-actions", fleet(), [](SceneStage& stage) { openSystems(stage).tableView()->select(2); },
+         true},
+        {"managed-systems-search", fleet(), [](SceneStage& stage) { search(stage, "LED"); }, true},
+        {"managed-systems-search-nothing", fleet(), [](SceneStage& stage) { search(stage, "zz"); }},
+        {"managed-systems-swiped", fleet(),
+         [](SceneStage& stage) {
+             openSystems(stage);
+             stage.swipe(2);
+         },
+         true},
+        {"system-detail", fleet(),
+         [](SceneStage& stage) { stage.open("managedSystemInfo", {.rootXML = demoSystem(demoConsole(), 2)}); }, true},
+        {"system-menu", fleet(),
+         [](SceneStage& stage) {
+             const CorvelRef corvel = demoConsole();
+             stage.open("managedSystemMenu", {.corvel = corvel, .rootXML = demoSystem(corvel, 2)});
+             stage.settle(1100);
+         },
+         true},
+    };
+}
+
+std::vector<Look> consoleInventoryLooks()
+{
+    return {
+        {"console-overview", fleet(),
+         [](SceneStage& stage) {
+             stage.open("corvelTasksViewController", {.corvel = demoConsole({{"Group", ""}})});
+         },
+         true},
+        {"console-information", fleet(),
+         [](SceneStage& stage) { stage.open("managementConsoleView", {.corvel = demoConsole()}); }, true},
+        {"console-information-failed", fleet(),
+         [](SceneStage& stage) {
+             stage.open("managementConsoleView", {.corvel = demoConsole({{"ManagementConsole", ""}})});
+         }},
+    };
+}
+
+} // namespace
+
+std::vector<Look> inventoryLooks()
+{
+    std::vector<Look> looks = consoleInventoryLooks();
+    for (Look& look : systemLooks()) {
+        looks.push_back(std::move(look));
+    }
+    return looks;
+}
+
+} // namespace lodestar::scenes

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Tests/Scenes/SceneStage.h"
+
+namespace lodestar::scenes
+{
+
+/// A screen as it is to be photographed.
+struct Look {
+    const char* name;
+    std::vector<ConsoleLook> consoles;
+    std::function<void(SceneStage&)> prepare;
+    /// Also drawn wide, dark, in large text and mirrored.
+    bool isMain = false;
+};
+
+/// The menus, lists and details of a console's inventory.
+std::vector<Look> inventoryLooks();
+
+} // namespace lodestar::scenes

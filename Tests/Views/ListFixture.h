@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Kit/Core/Storyboard.h"
+#include "Tests/Views/ViewsFixture.h"
+#include "Views/Common/CorvelReceiving.h"
+#include "Views/Common/FeedListViewController.h"
+#include "Views/Common/SceneInputs.h"
+
+namespace lodestar::testing
+{
+
+/// A scene that stands where another screen will, and keeps what it was given.
+class ReceivingScene : public ViewController,
+                       public CorvelReceiving,
+                       public RootXMLReceiving,
+                       public PartitionNarrowing,
+                       public PerformanceReceiving
+{
+public:
+    void setCorvel(CorvelRef corvel) override { inputs.corvel = std::move(corvel); }
+    void setRootXML(XMLElement rootXML) override { inputs.rootXML = std::move(rootXML); }
+    void setPartitionName(std::optional<std::string> name) override { inputs.partitionName = std::move(name); }
+    void setSysName(std::optional<std::string> name) override { inputs.sysName = std::move(name); }
+    void setSystemID(std::optional<std::string> systemID) override { inputs.systemID = std::move(systemID); }
+    SceneInputs inputs;
+};
+
+/// Screens on a stack, with scenes behind them that keep their inputs.
+class ListTest : public ViewsTest
+{
+protected:
+    void TearDown() override
+    {
+        opened.reset();
+        navigation.reset();
+        ViewsTest::TearDown();
+    }
+
+    template <typename Controller>
+    std::shared_ptr<Controller> push(std::shared_ptr<Controller> screen)
+    {
+        navigation = makeController<NavigationController>(makeController<ViewController>());
+        navigation->loadViewIfNeeded();
+        navigation->beginAppearance();
+        navigation->pushViewController(screen, Animated::No);
+        return screen;
+    }
+    template <typename Controller>
+    std::shared_ptr<Controller> open(const CorvelRef& corvel)
+    {
+        auto screen = makeController<Controller>();
+        screen->setCorvel(corvel);
+        return push(screen);
+    }
+    void registerScenes(const std::vector<std::string>& identifiers)
+    {
+        for (const std::string& identifier : identifiers) {
+            Storyboard::main().registerScene(
+                identifier,
+                [this, identifier] {
+                    openedScene = identifier;
+                    return opened = makeController<ReceivingScene>();
+                },
+                QUrl());
+        }
+    }
+    /// Back to the screen, to open the next.
+    void goBack() const { navigation->popViewController(Animated::No); }
+    /// A console whose last whole fetch ended with these feeds.
+    static CorvelRef addFetched(const std::map<std::string, Feed>& byType)
+    {
+        const CorvelRef corvel = addCorvel("Harbour A", "127.0.0.1", true);
+        corvel->setRestData(feeds(byType));
+        corvel->completedFetch = true;
+        return corvel;
+    }
+    static bool hasContent(FeedListViewController& list)
+    {
+        return runUntil([&] { return !list.tableView()->isHidden(); });
+    }
+    static bool hasNoContent(FeedListViewController& list)
+    {
+        return runUntil([&] { return !list.noDataLabel()->isHidden(); });
+    }
+
+    std::shared_ptr<NavigationController> navigation;
+    std::shared_ptr<ReceivingScene> opened;
+    std::string openedScene;
+};
+
+} // namespace lodestar::testing

@@ -1,0 +1,496 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Controllers/REST/RESTHandler.h"
+#include "Kit/Core/UIColor+Tessel.h"
+#include "Platform/URLLoading/ServerTrust.h"
+#include "Simulator/SimulatorProcess.h"
+#include "Tests/Views/ListFixture.h"
+#include "Views/Dashboard/CorvelOverviewTableViewController.h"
+#include "Views/Dashboard/MSOverViewController.h"
+#include "Views/ManagedSystems/MSDetailViewController.h"
+#include "Views/ManagedSystems/MSListCell.h"
+#include "Views/ManagedSystems/MSListViewController.h"
+#include "Views/ManagementConsole/MCViewController.h"
+
+#include <QDesktopServices>
+
+namespace lodestar::testing
+{
+namespace
+{
+
+using ::testing::ElementsAre;
+using ::testing::IsEmpty;
+
+constexpr auto listFile = "Shared/Views/ManagedSystems/MSListViewController";
+constexpr auto detailFile = "Shared/Views/ManagedSystems/MSDetailViewController";
+constexpr auto consoleFile = "Shared/Views/ManagementConsole/MCViewController";
+
+std::string system(const std::string& name, const std::string& state, const std::string& led = "false",
+                   const std::string& rest = "")
+{
+    return "<entry><published>2026-07-03T10:25:00.000Z</published><content><ManagedSystem><SystemName>" + name +
+           "</SystemName><State>" + state + "</State><PhysicalSystemAttentionLEDState>" + led +
+           "</PhysicalSystemAttentionLEDState>" + rest + "</ManagedSystem></content></entry>";
+}
+
+std::vector<int> lineNumbers(const std::vector<LoggedLine>& lines)
+{
+    std::vector<int> numbers;
+    for (const LoggedLine& line : lines) {
+        EXPECT_EQ(line.level, 2);
+        EXPECT_EQ(line.tag, 0);
+        numbers.push_back(line.line);
+    }
+    return numbers;
+}
+
+class ManagedSystemsTest : public ListTest
+{
+protected:
+    CorvelRef addConsole(const std::string& entries)
+    {
+        return addFetched({{"ManagedSystem", Feed(parse("<feed>" + entries + "</feed>"))}});
+    }
+    std::shared_ptr<MSListViewController> openList(const CorvelRef& corvel)
+    {
+        return open<MSListViewController>(corvel);
+    }
+    static MSListCell cell(MSListViewController& list, int row, TableKind kind = TableKind::Main)
+    {
+        return list.cellForRowAtIndexPath(kind, {0, row}).value<MSListCell>();
+    }
+    static QString subtitle(FeedListViewController& list) { return list.header()->subtitleLabel()->text(); }
+};
+
+TEST_F(ManagedSystemsTest, AFetchedConsoleIsShownFromItsFeedWithoutAFetch)
+{
+    // What a fetch would bring is another list.
+    demoFeeds()["ManagedSystem"] = "<feed/>";
+    const CorvelRef corvel = addConsole(system("zeta", "operating") + "<entry><content><Other/></content></entry>" +
+                                        "<entry/>" + system("alpha", "standby"));
+    const auto list = openList(corvel);
+    EXPECT_EQ(list->header()->titleLabel()->text(), "Managed Systems");
+    EXPECT_EQ(subtitle(*list), "updating...");
+    EXPECT_TRUE(list->tableView()->isHidden() && list->fetchingActivityIndicator()->isAnimating());
+    EXPECT_TRUE(list->noDataImage()->isHidden() && list->noDataLabel()->isHidden());
+    EXPECT_EQ(list->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::None);
+    EXPECT_TRUE(list->backTitle().isEmpty() && !list->backTitle().isNull());
+
+    ASSERT_TRUE(hasContent(*list));
+    EXPECT_FALSE(list->fetchingActivityIndicator()->isAnimating());
+    EXPECT_EQ(list->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::Search);
+    EXPECT_EQ(subtitle(*list), "3 Jul 2026, 10:25");
+    ASSERT_EQ(list->tableView()->count(), 2);
+    EXPECT_EQ(cell(*list, 0).nameLabel().text, "zeta");
+    EXPECT_EQ(cell(*list, 1).nameLabel().text, "alpha");
+    EXPECT_EQ(cell(*list, 2).nameLabel().text, "");
+    EXPECT_EQ(list->tableView()->rowHeight(), 50);
+    EXPECT_EQ(list->tableView()->separatorRight(), 15);
+    EXPECT_EQ(list->searchResultsTableView()->separatorRight(), 17);
+
+    const std::vector<LoggedLine> log = lines(listFile);
+    EXPECT_THAT(lineNumbers(log), ElementsAre(40, 197));
+    EXPECT_EQ(log[0].message, "MSListViewController instantiation");
+    EXPECT_EQ(log[0].method, "-[MSListViewController viewDidLoad]");
+    EXPECT_EQ(log[1].message, "MSListViewController: Creating Managed System List");
+    EXPECT_EQ(log[1].method, "-[MSListViewController createMSList]");
+}
+
+TEST_F(ManagedSystemsTest, RowsShowStateAndBadgesByExactWording)
+{
+    const CorvelRef corvel =
+        addConsole(system("good", "operating") + system("lamp", "operating", "true") + system("broken", "error") +
+                   system("both", "incomplete - recovery", "true") + system("capital", "Operating", "True") +
+                   system("shout", "Error") + "<entry><content><ManagedSystem/></content></entry>");
+    const auto list = openList(corvel);
+    ASSERT_TRUE(hasContent(*list));
+    const auto expectRow = [&](int row, const char* badge, double left, const QColor& color, const char* mark) {
+        const MSListCell shown = cell(*list, row);
+        EXPECT_EQ(shown.statusImage().imageName, badge) << row;
+        EXPECT_EQ(shown.statusImage().hidden, *badge == 0) << row;
+        EXPECT_EQ(shown.nameLeftConstraint(), left) << row;
+        EXPECT_EQ(shown.statusLabel().color, color) << row;
+        EXPECT_EQ(shown.statusMark(), mark) << row;
+    };
+    expectRow(0, "", 20, UIColor::successGreen(), "good");
+    expectRow(1, "ms_lederror", 45, UIColor::successGreen(), "good");
+    expectRow(2, "ms_stateerror", 45, UIColor::grayColor(), "error");
+    expectRow(3, "ms_botherror", 45, UIColor::grayColor(), "error");
+    expectRow(4, "", 20, UIColor::grayColor(), "off");
+    expectRow(5, "", 20, UIColor::grayColor(), "off");
+    expectRow(6, "", 20, UIColor::grayColor(), "off");
+    EXPECT_EQ(cell(*list, 4).statusLabel().text, "Operating");
+    EXPECT_EQ(cell(*list, 1).accessibleText(), "lamp, operating, attention LED on");
+    EXPECT_EQ(cell(*list, 2).accessibleText(), "broken, error");
+    EXPECT_EQ(cell(*list, 3).accessibleText(), "both, incomplete - recovery, error, attention LED on");
+}
+
+TEST_F(ManagedSystemsTest, AFeedThatFailedShowsNoContentUntilItIsRefreshed)
+{
+    const CorvelRef corvel = addFetched({{"ManagedSystem", Feed::notAvailable()}});
+    demoFeeds()["ManagedSystem"] = "<feed>" + system("alpha", "operating") + "</feed>";
+    const auto list = openList(corvel);
+    ASSERT_TRUE(hasNoContent(*list));
+    EXPECT_TRUE(list->tableView()->isHidden());
+    EXPECT_FALSE(list->noDataImage()->isHidden() || list->fetchingActivityIndicator()->isAnimating());
+    EXPECT_EQ(list->header()->titleLabel()->text(), "Managed Systems");
+    EXPECT_EQ(subtitle(*list), "");
+    EXPECT_EQ(list->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::Refresh);
+    EXPECT_TRUE(list->rightBarButton()->isEnabled());
+
+    list->rightBarButton()->tap();
+    EXPECT_FALSE(list->noDataLabel()->isHidden());
+    ASSERT_TRUE(runUntil([&] { return list->fetchingActivityIndicator()->isAnimating(); }));
+    EXPECT_TRUE(list->noDataLabel()->isHidden() && list->noDataImage()->isHidden());
+    ASSERT_TRUE(hasContent(*list));
+    EXPECT_EQ(list->tableView()->count(), 1);
+    EXPECT_EQ(feedOfType(*corvel, ObjectType::ManagedSystem).entryCount(), 1U);
+}
+
+TEST_F(ManagedSystemsTest, AnUnfetchedConsoleIsFetchedAndAnEmptyFeedIsContent)
+{
+    demoFeeds()["ManagedSystem"] = "<feed><entry><published>yesterday</published></entry></feed>";
+    const CorvelRef corvel = addCorvel("Demo", "127.0.0.1", true);
+    const auto list = openList(corvel);
+    ASSERT_TRUE(hasContent(*list));
+    EXPECT_EQ(list->tableView()->count(), 0);
+    EXPECT_EQ(subtitle(*list), "");
+    EXPECT_EQ(list->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::Search);
+    EXPECT_FALSE(corvel->completedFetch);
+
+    // The pull's control ends with the pull; the list's own indicator runs on.
+    demoFeeds()["ManagedSystem"] = "<feed>" + system("alpha", "operating") + "</feed>";
+    list->refreshControl()->pull();
+    EXPECT_FALSE(list->refreshControl()->isRefreshing());
+    ASSERT_TRUE(runUntil([&] { return list->fetchingActivityIndicator()->isAnimating(); }));
+    EXPECT_TRUE(list->tableView()->isHidden());
+    ASSERT_TRUE(hasContent(*list));
+    EXPECT_EQ(list->tableView()->count(), 1);
+
+    // Two fetches under way at once: neither clears what the other brought.
+    const auto first = list->fetchNewRESTData();
+    const auto second = list->fetchNewRESTData();
+    ASSERT_TRUE(runUntil([&] { return !first.isPending() && !second.isPending() && list->MSList().size() == 2; }));
+    EXPECT_EQ(first.result()->value(), "OK");
+
+    // Another screen's fetch failed meanwhile.
+    setFeedOfType(*corvel, ObjectType::ManagedSystem, Feed::notAvailable());
+    list->tableView()->reloadData();
+    EXPECT_EQ(list->tableView()->count(), 0);
+}
+
+TEST_F(ManagedSystemsTest, SearchFollowsTheTypingAndTheFetches)
+{
+    demoFeeds()["ManagedSystem"] = "<feed>" + system("new-abc", "operating") + "</feed>";
+    const auto list = openList(
+        addConsole(system("ABC-1", "operating") + system("other", "operating") + system("xabcx", "error", "true")));
+    ASSERT_TRUE(hasContent(*list));
+    int focused = 0;
+    QObject::connect(list->searchBar(), &SearchBarOutlet::focusRequested, [&] { ++focused; });
+    list->rightBarButton()->tap();
+    EXPECT_TRUE(list->searchBar()->isActive());
+    EXPECT_EQ(focused, 1);
+    list->searchBar()->setText("aBc");
+    ASSERT_EQ(list->searchResultsTableView()->count(), 2);
+    EXPECT_EQ(cell(*list, 1, TableKind::SearchResults).nameLabel().text, "xabcx");
+    EXPECT_EQ(cell(*list, 1, TableKind::SearchResults).nameLabel().match, "aBc");
+    EXPECT_EQ(cell(*list, 1).nameLabel().text, "other");
+    EXPECT_EQ(cell(*list, 1).nameLabel().match, "");
+    EXPECT_EQ(list->tableView()->count(), 3);
+    EXPECT_TRUE(list->shouldReloadTableForSearchString("nothing like it"));
+    EXPECT_THAT(list->filteredMSList(), IsEmpty());
+
+    list->refreshFromButton();
+    ASSERT_TRUE(runUntil([&] { return list->searchResultsTableView()->count() == 1; }));
+    EXPECT_EQ(cell(*list, 0, TableKind::SearchResults).nameLabel().text, "new-abc");
+    list->searchBar()->cancel();
+    EXPECT_FALSE(list->searchBar()->isActive());
+    EXPECT_EQ(list->searchBar()->text(), "");
+}
+
+TEST_F(ManagedSystemsTest, TheSheetOpensTheSystemOfTheTableThatWasTapped)
+{
+    const CorvelRef corvel =
+        addConsole(system("first", "operating") +
+                   system("second", "operating", "false", "<Metadata><Atom><AtomID>id-2</AtomID></Atom></Metadata>"));
+    registerScenes({"managedSystemInfo", "logicalPartitionsView"});
+    const auto list = openList(corvel);
+    ASSERT_TRUE(hasContent(*list));
+    std::vector<int> deselected;
+    QObject::connect(list->searchResultsTableView(), &TableOutlet::deselected,
+                     [&](int row) { deselected.push_back(row); });
+    list->showSearchBar();
+    list->searchBar()->setText("second");
+    const auto choose = [&](int item) {
+        list->searchResultsTableView()->select(0);
+        list->actionSheet()->choose(item);
+    };
+    list->searchResultsTableView()->select(0);
+    EXPECT_EQ(list->actionSheet()->title(), "Managed System");
+    ASSERT_EQ(list->actionSheet()->choices().size(), 4);
+    EXPECT_EQ(list->actionSheet()->choices()[1].value<MenuChoice>().title, "Performance Monitoring");
+    EXPECT_FALSE(list->actionSheet()->choices()[1].value<MenuChoice>().enabled);
+    EXPECT_THAT(deselected, ElementsAre(0));
+    list->actionSheet()->choose(1);
+    EXPECT_TRUE(list->actionSheet()->isPresented());
+    list->actionSheet()->choose(3);
+    EXPECT_EQ(navigation->depth(), 2);
+
+    choose(0);
+    EXPECT_EQ(openedScene, "managedSystemInfo");
+    EXPECT_EQ(opened->inputs.rootXML.child("SystemName").text(), "second");
+    goBack();
+    choose(2);
+    EXPECT_EQ(openedScene, "logicalPartitionsView");
+    EXPECT_EQ(opened->inputs.corvel, corvel);
+    EXPECT_EQ(opened->inputs.partitionName, "second");
+    goBack();
+    registerScenes({"pcmDataView", "managedSystemMenu"});
+    choose(1);
+    EXPECT_EQ(opened->inputs.corvel, corvel);
+    EXPECT_EQ(opened->inputs.sysName, "second");
+    EXPECT_EQ(opened->inputs.systemID, "id-2");
+    goBack();
+
+    ASSERT_EQ(cell(*list, 0).rightButtons().size(), 1);
+    EXPECT_TRUE(list->swipeTableCell(false, 0, 0));
+    EXPECT_EQ(openedScene, "managedSystemMenu");
+    EXPECT_EQ(opened->inputs.rootXML.child("SystemName").text(), "first");
+    goBack();
+
+    // The list goes while the sheet is up.
+    list->tableView()->select(1);
+    list->fetchNewRESTData();
+    list->actionSheet()->choose(0);
+    EXPECT_EQ(navigation->depth(), 2);
+}
+
+class BrowserStub : public QObject
+{
+    Q_OBJECT
+public:
+    std::vector<QUrl> opened;
+    Q_SLOT void open(const QUrl& url) { opened.push_back(url); }
+};
+
+class SystemDetailTest : public ListTest
+{
+protected:
+    std::shared_ptr<MSDetailViewController> show(const std::string& xml)
+    {
+        const auto detail = makeController<MSDetailViewController>();
+        detail->setRootXML(parse(xml));
+        return push(detail);
+    }
+    static DetailCell cell(DetailViewController& detail, int section, int row)
+    {
+        return detail.cellForRowAtIndexPath(TableKind::Main, {section, row}).value<DetailCell>();
+    }
+};
+
+TEST_F(SystemDetailTest, ShowsTheFactsInFourSections)
+{
+    const auto detail = show("<s><SystemName>helios-03</SystemName><PrimaryIPAddress>fe80::1</PrimaryIPAddress>"
+                             "<State>error</State><MachineTypeModelAndSerialNumber><SerialNumber>06A</SerialNumber>"
+                             "<Model>M16</Model></MachineTypeModelAndSerialNumber>"
+                             "<AssociatedSystemMemoryConfiguration><ConfigurableSystemMemory>262144"
+                             "</ConfigurableSystemMemory></AssociatedSystemMemoryConfiguration></s>");
+    EXPECT_EQ(detail->title(), "helios-03");
+    std::vector<QStringList> data;
+    for (const DetailSection& section : detail->tableData()) {
+        data.push_back(section.data);
+    }
+    EXPECT_THAT(data, ElementsAre(QStringList({"IP Address:fe80::1", "Status:error", "Reference Code:(null)",
+                                               "Attention LED On:(null)"}),
+                                  QStringList({"Serial Number:06A", "Machine Type:(null)", "Model:M16"}),
+                                  QStringList({"Available Processing Units:(null)"}),
+                                  QStringList({"Available Memory:262144 MB"})));
+    EXPECT_EQ(cell(*detail, 0, 0).detailTextLabel, "fe80");
+    EXPECT_EQ(detail->titleForHeaderInSection(TableKind::Main, 1), "Model & Serial Information");
+    EXPECT_EQ(detail->titleForHeaderInSection(TableKind::Main, 4), "");
+    const std::vector<LoggedLine> log = lines(detailFile);
+    EXPECT_THAT(lineNumbers(log), ElementsAre(23, 47, 58, 69, 78));
+    EXPECT_EQ(log[4].message, "DeltaCorvelViewController: Fetching Memory Information");
+    EXPECT_EQ(log[4].method, "-[MSDetailViewController populateSystemDetails]");
+}
+
+TEST_F(SystemDetailTest, OnlyAReferenceCodeLeadsOnToItsDocumentation)
+{
+    BrowserStub browser;
+    QDesktopServices::setUrlHandler("https", &browser, "open");
+    const auto detail = show("<s><ReferenceCode>X4 17&amp;a/ü</ReferenceCode></s>");
+    std::vector<int> deselected;
+    QObject::connect(detail->tableView(), &TableOutlet::deselected, [&](int row) { deselected.push_back(row); });
+    EXPECT_TRUE(cell(*detail, 0, 2).disclosure);
+    EXPECT_FALSE(cell(*detail, 0, 1).disclosure || cell(*detail, 1, 2).disclosure);
+    for (int flat = 0; flat < detail->tableView()->count(); ++flat) {
+        detail->tableView()->select(flat);
+    }
+    ASSERT_EQ(browser.opened.size(), 1U);
+    EXPECT_EQ(browser.opened[0].toString(QUrl::FullyEncoded),
+              "https://docs.example/reference-codes?code=X4%2017%26a%2F%C3%BC");
+    EXPECT_EQ(deselected.size(), 9U);
+
+    const auto none = show("<s><SystemName>alpha</SystemName></s>");
+    EXPECT_FALSE(cell(*none, 0, 2).disclosure);
+    none->didSelectRowAtIndexPath(TableKind::Main, {0, 2});
+    EXPECT_EQ(browser.opened.size(), 1U);
+    QDesktopServices::unsetUrlHandler("https");
+}
+
+class ConsoleScreensTest : public SystemDetailTest
+{
+};
+
+TEST_F(ConsoleScreensTest, ConsoleInformationComesFromTheFeedOrSaysThatThereIsNone)
+{
+    const std::string xml =
+        "<feed><entry><published>2026-07-03T10:25:00.000Z</published><content><ManagementConsole>"
+        "<ManagementConsoleName>corvel-a</ManagementConsoleName><VersionInfo><Version>3</Version><Release>2</Release>"
+        "<Minor>0</Minor><ServicePackName>SP1</ServicePackName><BuildLevel>20260118.2</BuildLevel></VersionInfo>"
+        "</ManagementConsole></content></entry></feed>";
+    const auto shown = open<MCViewController>(addFetched({{"ManagementConsole", Feed(parse(xml))}}));
+    EXPECT_EQ(shown->header()->titleLabel()->text(), "Management Console");
+    EXPECT_EQ(shown->header()->subtitleLabel()->text(), "3 Jul 2026, 10:25");
+    EXPECT_EQ(cell(*shown, 0, 0).detailTextLabel, "corvel-a");
+    EXPECT_EQ(cell(*shown, 1, 0).detailTextLabel, "(null)");
+    // Maintenance stands before the minor release, and is missing.
+    EXPECT_EQ(cell(*shown, 2, 0), (DetailCell{"Version", "V3R2.(null).0.SP1", false}));
+    EXPECT_EQ(cell(*shown, 2, 1), (DetailCell{"Build Level", "20260118.2", false}));
+    EXPECT_EQ(shown->titleForHeaderInSection(TableKind::Main, 2), "Version Information");
+    EXPECT_FALSE(shown->tableView()->isHidden());
+    EXPECT_THAT(lineNumbers(lines(consoleFile)), ElementsAre(26, 135, 138, 144, 156));
+
+    const auto failed = open<MCViewController>(addFetched({{"ManagementConsole", Feed::notAvailable()}}));
+    EXPECT_EQ(failed->header()->titleLabel()->text(), "Console Data");
+    EXPECT_EQ(failed->header()->subtitleLabel()->text(), "N/A");
+    EXPECT_TRUE(failed->tableView()->isHidden() && failed->contentLabel()->isHidden());
+
+    demoFeeds()["ManagementConsole"] = xml;
+    const auto fetched = open<MCViewController>(addCorvel("Demo", "127.0.0.1", true));
+    EXPECT_EQ(fetched->header()->subtitleLabel()->text(), "updating...");
+    EXPECT_TRUE(fetched->fetchingActivityIndicator()->isAnimating());
+    ASSERT_TRUE(runUntil([&] { return !fetched->tableView()->isHidden(); }));
+    EXPECT_FALSE(fetched->fetchingActivityIndicator()->isAnimating());
+    EXPECT_EQ(cell(*fetched, 0, 0).detailTextLabel, "corvel-a");
+}
+
+TEST_F(ConsoleScreensTest, TheOverviewCountsAndLeadsOnWhereThereIsAScene)
+{
+    const CorvelRef corvel =
+        addFetched({{"ManagedSystem", Feed(parse("<feed><entry/><entry/></feed>"))}, {"Group", Feed::notAvailable()}});
+    registerScenes({"managedSystemsView", "logicalPartitionsView", "serviceableEventsView", "managementConsoleView"});
+    const auto overview = open<CorvelOverviewTableViewController>(corvel);
+    EXPECT_EQ(overview->title(), "Harbour A");
+    EXPECT_TRUE(overview->backTitle().isEmpty() && !overview->backTitle().isNull());
+    const auto menuCell = [&](int section, int row) {
+        return overview->cellForRowAtIndexPath(TableKind::Main, {section, row}).value<MenuCell>();
+    };
+    EXPECT_EQ(menuCell(0, 0).detail, "2");
+    EXPECT_TRUE(menuCell(0, 0).enabled);
+    EXPECT_FALSE(menuCell(0, 1).enabled || menuCell(0, 3).enabled);
+    EXPECT_EQ(menuCell(0, 3).detail, "not loaded");
+    EXPECT_EQ(menuCell(2, 0).detail, "");
+
+    std::vector<std::string> scenes;
+    int deselected = 0;
+    QObject::connect(overview->tableView(), &TableOutlet::deselected, [&] { ++deselected; });
+    for (int flat = 0; flat < overview->tableView()->count(); ++flat) {
+        overview->tableView()->select(flat);
+        if (navigation->depth() == 3) {
+            EXPECT_EQ(opened->inputs.corvel, corvel);
+            scenes.push_back(openedScene);
+            goBack();
+        }
+    }
+    EXPECT_THAT(scenes, ElementsAre("managedSystemsView", "logicalPartitionsView", "serviceableEventsView",
+                                    "managementConsoleView"));
+    EXPECT_EQ(deselected, 6);
+    registerScenes({"viosView", "resourceGroupsView"});
+    overview->didSelectRowAtIndexPath(TableKind::Main, {0, 1});
+    EXPECT_EQ(openedScene, "viosView");
+    goBack();
+    overview->didSelectRowAtIndexPath(TableKind::Main, {0, 7});
+    EXPECT_EQ(openedScene, "resourceGroupsView");
+    goBack();
+    // A fetch of another screen shows when this one comes back.
+    setFeedOfType(*corvel, ObjectType::Group, Feed(parse("<feed><entry/></feed>")));
+    overview->didSelectRowAtIndexPath(TableKind::Main, {2, 0});
+    goBack();
+    EXPECT_EQ(menuCell(0, 3).detail, "1");
+}
+
+TEST_F(ConsoleScreensTest, TheSystemMenuChartsTheFirstSystemAndOpensItsOwn)
+{
+    const CorvelRef corvel = addFetched(
+        {{"ManagedSystem",
+          Feed(parse("<feed>" +
+                     system("first", "operating", "false", "<Metadata><Atom><AtomID>id-1</AtomID></Atom></Metadata>") +
+                     system("second", "standby") + "</feed>"))}});
+    registerScenes({"pcmDataView", "logicalPartitionsView", "managedSystemInfo"});
+    const auto menu = makeController<MSOverViewController>();
+    menu->setCorvel(corvel);
+    menu->setSystem(parse("<s><SystemName>second</SystemName></s>"));
+    push(menu);
+    EXPECT_EQ(menu->title(), "Managed System");
+    ASSERT_EQ(menu->gauges().size(), 2);
+    EXPECT_EQ(menu->gauges()[1], (GaugeFigure{QRectF(85, 28, 110, 110), 100, 60, false, QColor(77, 186, 122)}));
+
+    menu->didSelectRowAtIndexPath(TableKind::Main, {0, 0});
+    EXPECT_EQ(openedScene, "pcmDataView");
+    EXPECT_EQ(opened->inputs.systemID, "id-1");
+    EXPECT_EQ(opened->inputs.sysName, std::nullopt);
+    goBack();
+    menu->didSelectRowAtIndexPath(TableKind::Main, {1, 0});
+    EXPECT_EQ(navigation->depth(), 2);
+    menu->didSelectRowAtIndexPath(TableKind::Main, {1, 1});
+    EXPECT_EQ(opened->inputs.partitionName, "second");
+    goBack();
+    menu->didSelectRowAtIndexPath(TableKind::Main, {2, 0});
+    EXPECT_EQ(openedScene, "managedSystemInfo");
+    EXPECT_EQ(opened->inputs.rootXML, menu->system());
+}
+
+/// Against a console that refuses.
+TEST_F(ManagedSystemsTest, ARefusedFetchIsLoggedAndKeepsTheStoredFeed)
+{
+    ServerTrust::shared().forgetAll();
+    simulator::SimulatorProcess fleet{simulator::Settings{}};
+    const CorvelRef corvel = addCorvel("Harbour A", fleet.address(0));
+    corvel->setUsername(fleet.user());
+    corvel->setPassword(fleet.password());
+    const auto list = openList(corvel);
+    ASSERT_TRUE(hasContent(*list));
+    const auto count = static_cast<std::size_t>(list->tableView()->count());
+    EXPECT_EQ(count, feedOfType(*corvel, ObjectType::ManagedSystem).entryCount());
+    EXPECT_GT(count, 0U);
+
+    fleet.setFault("refuseFeed:ManagedSystem:0");
+    list->refreshControl()->pull();
+    ASSERT_TRUE(hasNoContent(*list));
+    EXPECT_EQ(feedOfType(*corvel, ObjectType::ManagedSystem).entryCount(), count);
+    const LoggedLine error = lines(listFile).back();
+    EXPECT_EQ(error.line, 165);
+    EXPECT_EQ(error.method, "-[MSListViewController fetchNewRESTData]");
+    EXPECT_TRUE(error.message.starts_with("Error: RXPromise") && error.message.ends_with(" - > fetchNewRESTData"))
+        << error.message;
+
+    fleet.setFault("refuseFeed:ManagementConsole:0");
+    const auto information = open<MCViewController>(corvel);
+    ASSERT_TRUE(runUntil([&] { return !information->contentLabel()->isHidden(); }));
+    EXPECT_FALSE(information->fetchingActivityIndicator()->isAnimating());
+    EXPECT_EQ(lines(consoleFile).back().line, 121);
+
+    // A screen that is closed while it fetches still stores what comes, and then goes.
+    fleet.clearFaults();
+    corvel->setRestData(nullptr);
+    std::weak_ptr<MSListViewController> closed = openList(corvel);
+    navigation.reset();
+    EXPECT_TRUE(runUntil(
+        [&] { return feedOfType(*corvel, ObjectType::ManagedSystem).entryCount() == count && closed.expired(); }));
+}
+
+} // namespace
+} // namespace lodestar::testing
+
+#include "ManagedSystemsTest.moc"
