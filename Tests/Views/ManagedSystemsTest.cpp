@@ -459,6 +459,8 @@ TEST_F(ManagedSystemsTest, ARefusedFetchIsLoggedAndKeepsTheStoredFeed)
     const CorvelRef corvel = addCorvel("Harbour A", fleet.address(0));
     corvel->setUsername(fleet.user());
     corvel->setPassword(fleet.password());
+    const auto logon = RESTHandler::sharedInstance().login(corvel, CheckToken::Yes);
+    ASSERT_TRUE(runUntil([&] { return logon.isFulfilled(); }));
     const auto list = openList(corvel);
     ASSERT_TRUE(hasContent(*list));
     const auto count = static_cast<std::size_t>(list->tableView()->count());

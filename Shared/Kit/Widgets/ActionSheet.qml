@@ -28,6 +28,7 @@ T.Popup {
 
     function follow() {
         if (outlet.presented) {
+            keyboard.remember();
             open();
         } else {
             close();
@@ -39,7 +40,12 @@ T.Popup {
         }
     }
 
+    readonly property KeyboardReturn keyboard: KeyboardReturn {
+        inside: sheet.parent
+    }
+
     Component.onCompleted: follow()
+    onClosed: keyboard.giveBack()
     onAboutToHide: {
         // By a press beside it.
         if (outlet.presented) {

@@ -27,6 +27,7 @@ T.Popup {
 
     function follow() {
         if (outlet.presented) {
+            keyboard.remember();
             open();
         } else {
             close();
@@ -40,7 +41,12 @@ T.Popup {
         }
     }
 
+    readonly property KeyboardReturn keyboard: KeyboardReturn {
+        inside: alert.parent
+    }
+
     Component.onCompleted: follow()
+    onClosed: keyboard.giveBack()
     onOpened: {
         const first = buttons.itemAt(Math.max(0, outlet.cancelIndex));
         if (first !== null) {

@@ -150,8 +150,11 @@ FocusScope {
             readonly property real gap: firstInSection && section > 0 && !sectionHasHeader ? Theme.groupGap : 0
             readonly property bool besidePressed: index === tableState.pressedIndex || index - 1 === tableState.pressedIndex
 
+            // Asked once more while the table is taken down.
+            readonly property real rowHeight: tableState !== null ? tableState.table.rowHeight : 0
+
             implicitHeight: isHeader ? header.implicitHeight
-                                     : gap + Math.max(Math.round(tableState.table.rowHeight * Theme.textScale), host.implicitHeight)
+                                     : gap + Math.max(Math.round(rowHeight * Theme.textScale), host.implicitHeight)
             height: implicitHeight
 
             function configure() {

@@ -15,6 +15,8 @@ T.AbstractButton {
     property bool chevron: true
     /// A row that only rests, or whose own control is what one presses.
     property bool pressable: true
+    /// Looks as if it cannot be chosen: by itself when disabled. A table's row draws this one disabled and takes the press.
+    property bool greyed: !enabled
     property int rowHeight: 52
     /// A hairline on its upper edge, where no GroupCard draws it.
     property bool separator: false
@@ -35,12 +37,12 @@ T.AbstractButton {
     Keys.onEnterPressed: row.clicked()
 
     contentItem: Item {
-        opacity: row.enabled ? 1 : 0.6
+        opacity: row.greyed ? 0.6 : 1
 
         Icon {
             visible: row.iconName !== ""
             name: row.iconName
-            color: row.enabled ? row.iconColor : Theme.ink3
+            color: row.greyed ? Theme.ink3 : row.iconColor
             anchors.left: parent.left
             anchors.leftMargin: Theme.rowStart
             anchors.verticalCenter: parent.verticalCenter
@@ -56,7 +58,7 @@ T.AbstractButton {
                 id: titleLabel
 
                 text: row.text
-                color: row.enabled ? row.ink : Theme.ink3
+                color: row.greyed ? Theme.ink3 : row.ink
                 width: parent.width
                 wrapMode: Text.Wrap
                 Accessible.ignored: true
@@ -101,7 +103,7 @@ T.AbstractButton {
             Chevron {
                 id: arrow
 
-                visible: row.chevron && row.enabled
+                visible: row.chevron && !row.greyed
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
             }

@@ -130,7 +130,7 @@ PageScaffold {
     NoContent {
         anchors.fill: parent
         visible: scene.contentShown && (scene.resultsShown ? results.table.count : table.table.count) === 0
-        picture: scene.resultsShown ? "search" : scene.list.noDataImage.imageName
+        picture: scene.list.noDataImage.imageName
         text: scene.resultsShown ? qsTr("Nothing found.") : scene.list.emptyText
     }
     NoContent {

@@ -73,8 +73,8 @@ std::optional<FeedDate> parseFeedDate(std::string_view text)
 
 QString mediumDateShortTime(const FeedDate& date, const QLocale& locale)
 {
-    // The C locale's short time has seconds.
-    const QLocale shown = locale == QLocale::c() ? QLocale(QLocale::English, QLocale::UnitedKingdom) : locale;
+    // The C locale's short time has seconds, also as the system's locale, which does not equal it.
+    const QLocale shown = locale.language() == QLocale::C ? QLocale(QLocale::English, QLocale::UnitedKingdom) : locale;
     return shown.toString(date.date, mediumDatePattern(shown)) + QStringLiteral(", ") +
            shown.toString(date.time, QLocale::ShortFormat);
 }

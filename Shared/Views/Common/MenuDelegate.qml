@@ -9,7 +9,7 @@ TableCell {
 
     required property menuCell cell
 
-    accessibleText: content.Accessible.name
+    accessibleText: cell.title + (cell.detail === "" ? "" : ", " + cell.detail)
     selectable: !cell.rests && cell.enabled
     implicitHeight: content.implicitHeight
 
@@ -22,14 +22,10 @@ TableCell {
         iconColor: row.cell.rests ? Theme.ink3 : Theme.accentInk
         detail: row.cell.detail
         chevron: !row.cell.rests
-        enabled: row.cell.enabled
+        enabled: false
+        greyed: !row.cell.enabled
         pressable: false
         background: null
         Accessible.ignored: true
-    }
-    /// The press is the table's.
-    MouseArea {
-        anchors.fill: parent
-        acceptedButtons: Qt.NoButton
     }
 }

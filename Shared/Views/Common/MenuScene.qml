@@ -9,8 +9,9 @@ import Lodestar.Views
 PageScaffold {
     id: scene
 
-    /// Above the first card; scrolls with it.
-    property alias header: table.header
+    /// Above the first card, and how far what stands there has been scrolled up.
+    property alias topSpace: table.topSpace
+    readonly property real scrolledBy: table.flickable.contentY + table.topSpace
 
     readonly property MenuTableViewController menu: controller as MenuTableViewController
 

@@ -85,7 +85,7 @@ TableCell {
             mark: row.stateMark
             markLeads: row.stacked
             wraps: row.stacked
-            width: row.stacked ? row.room : Math.min(implicitWidth, Math.round(row.room * 0.6))
+            width: row.stacked ? row.room : Math.min(implicitWidth, Math.round(row.room * 0.5))
             // By place, not by anchors: an item that changes from one side's anchor to the other's loses its width.
             x: row.stacked !== Theme.mirrored ? 0 : parent.width - width
             y: row.stacked ? words.height : Math.round((nameLabel.lineHeight - height) / 2)

@@ -11,11 +11,14 @@ MenuScene {
 
     readonly property MSOverViewController system: controller as MSOverViewController
 
-    header: Item {
+    topSpace: 162
+
+    Item {
         id: ornament
 
+        y: -scene.scrolledBy
         width: scene.width
-        height: 162
+        height: scene.topSpace
 
         Repeater {
             model: scene.system.gauges
