@@ -26,6 +26,27 @@ public:
     SceneInputs inputs;
 };
 
+/// A feed's entry.
+inline std::string system(const std::string& name, const std::string& state, const std::string& led = "false",
+                          const std::string& rest = "")
+{
+    return "<entry><published>2026-07-03T10:25:00.000Z</published><content><ManagedSystem><SystemName>" + name +
+           "</SystemName><State>" + state + "</State><PhysicalSystemAttentionLEDState>" + led +
+           "</PhysicalSystemAttentionLEDState>" + rest + "</ManagedSystem></content></entry>";
+}
+
+/// The lines' numbers; each is to be of level 2, without a tag.
+inline std::vector<int> lineNumbers(const std::vector<LoggedLine>& lines)
+{
+    std::vector<int> numbers;
+    for (const LoggedLine& line : lines) {
+        EXPECT_EQ(line.level, 2);
+        EXPECT_EQ(line.tag, 0);
+        numbers.push_back(line.line);
+    }
+    return numbers;
+}
+
 /// Screens on a stack, with scenes behind them that keep their inputs.
 class ListTest : public ViewsTest
 {
