@@ -6,6 +6,7 @@
 #include <QQmlEngine>
 
 #include <algorithm>
+#include <numeric>
 #include <utility>
 
 namespace lodestar
@@ -45,6 +46,12 @@ void TableOutlet::setRowHeight(double height)
     }
 }
 
+int TableOutlet::rows() const
+{
+    return std::accumulate(m_sections.begin(), m_sections.end(), 0,
+                           [](int sum, const SectionInfo& section) { return sum + section.rows; });
+}
+
 std::vector<TableOutlet::SectionInfo> TableOutlet::askForShape(int& count) const
 {
     std::vector<SectionInfo> sections(static_cast<std::size_t>(std::max(0, m_source.numberOfSections(m_kind))));
@@ -72,6 +79,7 @@ void TableOutlet::reloadOnMain()
     int count = 0;
     std::vector<SectionInfo> sections = askForShape(count);
     const int before = m_count;
+    const int rowsBefore = rows();
     const auto adopt = [&] {
         m_sections = std::move(sections);
         m_count = count;
@@ -90,7 +98,7 @@ void TableOutlet::reloadOnMain()
     } else {
         adopt();
     }
-    if (count != before) {
+    if (count != before || rows() != rowsBefore) {
         Q_EMIT countChanged();
     }
     Q_EMIT reloaded();

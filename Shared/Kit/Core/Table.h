@@ -51,6 +51,7 @@ class TableOutlet : public QAbstractListModel
     Q_PROPERTY(double separatorRight READ separatorRight NOTIFY separatorChanged)
     Q_PROPERTY(double rowHeight READ rowHeight NOTIFY rowHeightChanged)
     Q_PROPERTY(int count READ count NOTIFY countChanged)
+    Q_PROPERTY(int rows READ rows NOTIFY countChanged)
     Q_PROPERTY(bool removalAnimated READ isRemovalAnimated NOTIFY removalAnimatedChanged)
 
 public:
@@ -74,7 +75,9 @@ public:
     void setSeparatorInset(double left, double right);
     double rowHeight() const { return m_rowHeight; }
     void setRowHeight(double height);
+    /// Headers and rows; rows alone.
     int count() const { return m_count; }
+    int rows() const;
     /// How the rows that went last are to go.
     bool isRemovalAnimated() const { return m_removalAnimated; }
 

@@ -181,6 +181,7 @@ FocusScope {
                 height: place.height - place.gap
                 buttons: place.content !== null ? place.content.swipeButtons : []
                 leadingButtons: place.content !== null ? place.content.leadingSwipeButtons : []
+                leadingExpansion: place.content !== null ? place.content.leadingSwipeExpansion : -1
                 pressable: place.selectable
                 highlighted: tableState.selectedIndex === place.index && place.selectable
                 focusShown: place.focused && tableState.keyboardUsed
@@ -221,10 +222,13 @@ FocusScope {
                 roundBottom: place.lastInSection
             }
             Hairline {
+                // From the row's two ends. It makes way for uncovered buttons.
+                readonly property real start: tableState.table.separatorLeft + Math.max(0, -swipeCell.reveal)
+                readonly property real end: Math.max(tableState.table.separatorRight, swipeCell.reveal)
+
                 visible: !place.isHeader && !place.firstInSection && !place.besidePressed
-                x: swipeCell.x + (Theme.mirrored ? tableState.table.separatorRight : tableState.table.separatorLeft)
-                width: Math.max(0, swipeCell.width - tableState.table.separatorLeft - tableState.table.separatorRight
-                                - (swipeCell.reveal > 0 ? swipeCell.reveal - tableState.table.separatorRight : 0))
+                x: swipeCell.x + (Theme.mirrored ? end : start)
+                width: Math.max(0, swipeCell.width - start - end)
             }
         }
 

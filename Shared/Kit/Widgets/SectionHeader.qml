@@ -17,7 +17,8 @@ Item {
     Label {
         id: label
 
-        text: header.text
+        // One line whatever a console answers, and no longer than any line can show.
+        text: header.text.slice(0, 300).replace(/\s+/g, " ").trim()
         size: Theme.captionSize
         color: Theme.ink2
         anchors.left: parent.left

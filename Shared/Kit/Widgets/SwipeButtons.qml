@@ -15,10 +15,14 @@ FocusScope {
     required property int buttonWidth
     /// How much of them is uncovered.
     required property real extent
+    /// The button that fills all that is uncovered; -1 for none.
+    property int expanded: -1
     signal tapped(int index)
     signal escaped()
 
     readonly property bool atRight: trailing !== Theme.mirrored
+    /// What a drag uncovers beyond the last button. The outermost fills it, the others go with the row.
+    readonly property real spread: Math.max(0, extent - buttons.length * buttonWidth)
 
     Accessible.role: Accessible.Grouping
     Accessible.name: qsTr("Actions")
@@ -36,23 +40,30 @@ FocusScope {
             required property var modelData
             readonly property color ground: Theme.surfaceFor(modelData.backgroundColor)
             readonly property string picture: modelData.imageName ?? ""
-            // The outermost also fills what a drag beyond the last button uncovers.
-            readonly property real spread: index === 0 ? Math.max(0, view.extent - view.buttons.length * view.buttonWidth) : 0
-            readonly property real start: index * view.buttonWidth
+            readonly property real narrow: view.buttonWidth + (index === 0 ? view.spread : 0)
+            readonly property real start: (index * view.buttonWidth + (index > 0 ? view.spread : 0)) * (1 - fill)
+            property real fill: index === view.expanded ? 1 : 0
 
-            width: view.buttonWidth + spread
+            width: narrow + (Math.max(narrow, view.extent) - narrow) * fill
             height: view.height
             x: view.atRight ? view.width - start - width : start
-            z: -index
+            z: fill > 0 ? 1 : -index
             text: modelData.title
             focusPolicy: Qt.StrongFocus
             Accessible.role: Accessible.Button
-            Accessible.name: text
+            Accessible.name: text !== "" ? text : picture
             onClicked: view.tapped(index)
             Keys.onReturnPressed: button.clicked()
             Keys.onEnterPressed: button.clicked()
             Keys.onLeftPressed: view.step(index + (view.atRight ? 1 : -1))
             Keys.onRightPressed: view.step(index + (view.atRight ? -1 : 1))
+
+            Behavior on fill {
+                NumberAnimation {
+                    duration: Theme.settle
+                    easing.type: Easing.OutCubic
+                }
+            }
 
             contentItem: Item {
                 Icon {

@@ -11,6 +11,8 @@ Item {
 
     property var buttons: []
     property var leadingButtons: []
+    /// The leading button that a far drag lets fill the row, and chooses when the finger goes; -1 for none.
+    property int leadingExpansion: -1
     property bool pressable: true
     /// Shown pressed whatever the finger does.
     property bool highlighted: false
@@ -26,6 +28,8 @@ Item {
 
     /// How far the row is aside: positive uncovers the trailing buttons.
     property real reveal: 0
+    /// The drag has come so far that letting go chooses the expanding button.
+    property bool expanded: false
     property bool keyboardWanted: false
     readonly property bool isOpen: reveal !== 0
     readonly property bool hovered: area.containsMouse
@@ -49,6 +53,7 @@ Item {
     function reset() {
         settling.stop();
         reveal = 0;
+        expanded = false;
     }
     function toggle() {
         if (isOpen) {
@@ -158,11 +163,23 @@ Item {
                 lastTime = now;
                 const wish = from + (Theme.mirrored ? 1 : -1) * x;
                 const limit = wish > 0 ? cell.trailingWidth : cell.leadingWidth;
+                if (wish < 0 && limit > 0 && cell.leadingExpansion >= 0) {
+                    cell.reveal = Math.max(wish, -cell.width);
+                    cell.expanded = -wish > 1.5 * limit;
+                    return;
+                }
+                cell.expanded = false;
                 const over = Math.max(0, Math.abs(wish) - limit);
                 // Past the last button the row follows with a fifth of the finger.
                 cell.reveal = Math.sign(wish) * (limit === 0 ? 0 : Math.min(Math.abs(wish), limit) + over / 5);
             }
             function letGo() {
+                if (cell.expanded) {
+                    cell.expanded = false;
+                    cell.close();
+                    cell.buttonTapped(cell.leadingExpansion, true);
+                    return;
+                }
                 const extent = cell.reveal > 0 ? cell.trailingWidth : -cell.leadingWidth;
                 // A finger that rested before it went was not flicking.
                 const flick = Date.now() - lastTime < 50 ? speed * Math.sign(extent) : 0;
@@ -197,6 +214,7 @@ Item {
                 trailing: cell.reveal > 0
                 buttonWidth: cell.buttonWidth
                 extent: Math.abs(cell.reveal)
+                expanded: cell.expanded ? cell.leadingExpansion : -1
                 onTapped: (index) => {
                     const leading = !trailing;
                     cell.close();

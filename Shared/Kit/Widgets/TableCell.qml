@@ -12,4 +12,6 @@ Item {
     /// Values with `title`, `backgroundColor` and, for a picture, `imageName`; the first stands at the outer edge.
     property var swipeButtons: []
     property var leadingSwipeButtons: []
+    /// The leading button that a far drag lets fill the row, and chooses when the finger goes; -1 for none.
+    property int leadingSwipeExpansion: -1
 }

@@ -129,7 +129,7 @@ PageScaffold {
     }
     NoContent {
         anchors.fill: parent
-        visible: scene.contentShown && (scene.resultsShown ? results.table.count : table.table.count) === 0
+        visible: scene.contentShown && (scene.resultsShown ? results.table.rows : table.table.rows) === 0
         picture: scene.list.noDataImage.imageName
         text: scene.resultsShown ? qsTr("Nothing found.") : scene.list.emptyText
     }
