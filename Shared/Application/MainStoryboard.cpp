@@ -9,9 +9,13 @@
 #include "Views/Dashboard/CorvelOverviewTableViewController.h"
 #include "Views/Dashboard/DashboardTableViewController.h"
 #include "Views/Dashboard/MSOverViewController.h"
+#include "Views/LogicalPartitions/LPDetailViewController.h"
+#include "Views/LogicalPartitions/LPListViewController.h"
 #include "Views/ManagedSystems/MSDetailViewController.h"
 #include "Views/ManagedSystems/MSListViewController.h"
 #include "Views/ManagementConsole/MCViewController.h"
+#include "Views/VIOS/VIOSDetailViewController.h"
+#include "Views/VIOS/VIOSViewController.h"
 
 #include <QCoreApplication>
 
@@ -72,6 +76,12 @@ void registerMainStoryboard(LoginViewController::RootSwitch showRoot)
     storyboard.registerScene("managedSystemInfo", factory<MSDetailViewController>(), viewsScene("DetailScene.qml"));
     storyboard.registerScene("managedSystemMenu", factory<MSOverViewController>(), viewsScene("MSOverScene.qml"));
     storyboard.registerScene("managementConsoleView", factory<MCViewController>(), viewsScene("MCScene.qml"));
+    storyboard.registerScene("logicalPartitionsView", factory<LPListViewController>(),
+                             viewsScene("GroupedListScene.qml"));
+    storyboard.registerScene("logicalPartitionsDetail", factory<LPDetailViewController>(),
+                             viewsScene("DetailScene.qml"));
+    storyboard.registerScene("viosView", factory<VIOSViewController>(), viewsScene("GroupedListScene.qml"));
+    storyboard.registerScene("viosDetail", factory<VIOSDetailViewController>(), viewsScene("DetailScene.qml"));
 }
 
 } // namespace lodestar

@@ -17,5 +17,7 @@ struct Look {
 
 /// The menus, lists and details of a console's inventory.
 std::vector<Look> inventoryLooks();
+/// The lists by managed system, and their details.
+std::vector<Look> groupedLooks();
 
 } // namespace lodestar::scenes

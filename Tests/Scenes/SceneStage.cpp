@@ -9,9 +9,13 @@
 #include "Platform/UserDefaults.h"
 #include "Views/Dashboard/CorvelOverviewTableViewController.h"
 #include "Views/Dashboard/MSOverViewController.h"
+#include "Views/LogicalPartitions/LPDetailViewController.h"
+#include "Views/LogicalPartitions/LPListViewController.h"
 #include "Views/ManagedSystems/MSDetailViewController.h"
 #include "Views/ManagedSystems/MSListViewController.h"
 #include "Views/ManagementConsole/MCViewController.h"
+#include "Views/VIOS/VIOSDetailViewController.h"
+#include "Views/VIOS/VIOSViewController.h"
 #include "Views/Views.h"
 
 #include <QCoreApplication>
@@ -216,6 +220,10 @@ SceneStage::SceneStage()
     registerScene<MSDetailViewController>("managedSystemInfo", "DetailScene.qml");
     registerScene<MSOverViewController>("managedSystemMenu", "MSOverScene.qml");
     registerScene<MCViewController>("managementConsoleView", "MCScene.qml");
+    registerScene<LPListViewController>("logicalPartitionsView", "GroupedListScene.qml");
+    registerScene<LPDetailViewController>("logicalPartitionsDetail", "DetailScene.qml");
+    registerScene<VIOSViewController>("viosView", "GroupedListScene.qml");
+    registerScene<VIOSDetailViewController>("viosDetail", "DetailScene.qml");
     installViews(m_engine);
     QObject::connect(&m_engine, &QQmlEngine::warnings, [this](const QList<QQmlError>& warnings) {
         for (const QQmlError& warning : warnings) {

@@ -37,8 +37,7 @@ QString FeedListViewController::emptyText() const
 
 void FeedListViewController::viewDidLoad()
 {
-    const std::string_view className = m_traits.fileName.substr(m_traits.fileName.rfind('/') + 1);
-    m_log.write(m_traits.instantiationLine, "viewDidLoad", std::string(className) + " instantiation");
+    m_log.write(m_traits.instantiationLine, "viewDidLoad", std::string(m_log.className()) + " instantiation");
     connect(&m_refreshControl, &RefreshControl::valueChanged, this, &FeedListViewController::refreshTable);
     connect(&m_searchBar, &SearchBarOutlet::textChanged, this, [this] {
         if (m_searchBar.isActive() && shouldReloadTableForSearchString(m_searchBar.text())) {

@@ -6,13 +6,26 @@
 namespace lodestar
 {
 
-void GroupedFeed::append(const std::string& system, XMLElement element, std::string_view searchText)
+ElementList& GroupedFeed::listOf(const std::string& system)
 {
     const auto [place, isNew] = m_indexes.try_emplace(system, m_groups.size());
     if (isNew) {
         m_groups.push_back({system, {}});
     }
-    m_groups[place->second].list.append(std::move(element), searchText);
+    return m_groups[place->second].list;
+}
+
+void GroupedFeed::append(const std::string& system, XMLElement element, std::string_view searchText)
+{
+    listOf(system).append(std::move(element), searchText);
+}
+
+void GroupedFeed::append(GroupedFeed&& others)
+{
+    for (Group& group : others.m_groups) {
+        listOf(group.system).append(std::move(group.list));
+    }
+    others.clear();
 }
 
 void GroupedFeed::clear()

@@ -26,6 +26,8 @@ class GroupedFeed
 {
 public:
     void append(const std::string& system, XMLElement element, std::string_view searchText);
+    /// Each system's elements behind those that it already has here.
+    void append(GroupedFeed&& others);
     void clear();
     std::size_t groupCount() const { return m_groups.size(); }
     /// Empty for a group that is not there.
@@ -40,6 +42,8 @@ private:
         std::string system;
         ElementList list;
     };
+    ElementList& listOf(const std::string& system);
+
     std::vector<Group> m_groups;
     std::unordered_map<std::string, std::size_t> m_indexes;
 };

@@ -10,8 +10,7 @@ namespace lodestar
 
 void ScreenLog::write(int line, std::string_view selector, std::string_view message) const
 {
-    const std::string_view className = m_fileName.substr(m_fileName.rfind('/') + 1);
-    VireoLogger::log(2, 0, line, m_fileName, fmt::format("-[{} {}]", className, selector), callStackReturnAddresses(),
+    VireoLogger::log(2, 0, line, m_fileName, fmt::format("-[{} {}]", className(), selector), callStackReturnAddresses(),
                      "{}", message);
 }
 

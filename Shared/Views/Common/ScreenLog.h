@@ -17,6 +17,8 @@ public:
     /// the log.
     constexpr explicit ScreenLog(std::string_view fileName) : m_fileName(fileName) {}
 
+    constexpr std::string_view className() const { return m_fileName.substr(m_fileName.rfind('/') + 1); }
+
     /// `selector` with its colons, as in "parseTimeStampFromXML:".
     void write(int line, std::string_view selector, std::string_view message) const;
     /// "Error: … - > …" with the error and the method that started the work.

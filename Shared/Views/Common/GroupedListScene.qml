@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Lodestar.Kit
+import Lodestar.Views
+
+/// A console's logical partitions or virtual I/O servers, under the managed systems that they belong to.
+FeedListScene {
+    delegate: StateRow {
+        required property partitionCell cell
+
+        name: cell.nameLabel
+        caption: cell.typeLabel.text
+        state: cell.stateLabel
+        stateMark: cell.stateMark
+        note: cell.referenceCodeLabel.text
+        chevron: true
+        leadingSwipeButtons: cell.leftButtons
+        leadingSwipeExpansion: cell.leftExpansion
+        accessibleText: cell.accessibleText
+    }
+}

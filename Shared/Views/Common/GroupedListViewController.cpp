@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/Common/GroupedListViewController.h"
+
+#include "Controllers/REST/RESTHandler.h"
+#include "Controllers/REST/RESTSupport.h"
+#include "Views/Common/SceneInputs.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace lodestar
+{
+namespace
+{
+
+constexpr auto seperate = "seperatePartitionsBySystemFromXML:";
+
+const std::vector<XMLElement>& noGroup()
+{
+    static const std::vector<XMLElement> none;
+    return none;
+}
+
+} // namespace
+
+GroupedListViewController::GroupedListViewController(const GroupedListTraits& traits)
+    : FeedListViewController(traits.list), m_grouping(traits)
+{
+}
+
+void GroupedListViewController::emptyLists()
+{
+    m_partitions.clear();
+    m_filteredPartitions.clear();
+}
+
+void GroupedListViewController::showFeed(const XMLElement& feedRoot)
+{
+    parseTimeStampFromXML(feedRoot);
+    seperatePartitionsBySystemFromXML(feedRoot);
+}
+
+void GroupedListViewController::seperatePartitionsBySystemFromXML(const XMLElement& feedRoot)
+{
+    const std::string className(log().className());
+    log().write(m_grouping.seperatingLine, seperate, className + ": Seperating partitions");
+    GroupedFeed partitions;
+    for (const XMLElement& entry : feedRoot.children("entry")) {
+        log().write(m_grouping.partitionLine, seperate, className + ": Fetching partition");
+        XMLElement partition = entry.path({"content", m_grouping.list.type});
+        // An entry of another type is no partition.
+        if (!partition) {
+            continue;
+        }
+        log().write(m_grouping.linkLine, seperate, className + ": Fetching stored link");
+        const std::optional<std::string> system = systemOf(partition);
+        if (system) {
+            const std::string name = partition.child("PartitionName").text().value_or("");
+            partitions.append(*system, std::move(partition), name);
+        }
+    }
+    onMainThread<GroupedListViewController>(
+        [partitions = std::move(partitions)](GroupedListViewController& screen) mutable {
+            screen.m_partitions.append(std::move(partitions));
+        });
+    UIShowContent();
+}
+
+std::optional<std::string> GroupedListViewController::systemOf(const XMLElement& partition) const
+{
+    const auto link = partition.child("AssociatedManagedSystem").attribute("href");
+    std::optional<std::string> name =
+        RESTHandler::sharedInstance().fetchDataFromAtomLink(shownText(link) + "/quick/SystemName", *corvel());
+    if (!name && m_grouping.nameless == Nameless::LeftOut) {
+        return std::nullopt;
+    }
+    // A section needs words above it.
+    return name.value_or("").empty() ? tr("Unknown system").toStdString() : std::move(name);
+}
+
+void GroupedListViewController::filterContentForSearchText(const QString& searchText, const QString& /*scope*/)
+{
+    m_filteredPartitions = m_partitions.containing(searchText.toStdString());
+}
+
+const std::vector<XMLElement>& GroupedListViewController::groupAt(TableKind tableView, int section) const
+{
+    const auto index = static_cast<std::size_t>(section);
+    if (section < 0 || tableView != TableKind::SearchResults) {
+        return section < 0 ? noGroup() : m_partitions.elementsAt(index);
+    }
+    return index < m_filteredPartitions.size() ? m_filteredPartitions[index].elements : noGroup();
+}
+
+const std::vector<XMLElement>& GroupedListViewController::groupNamed(TableKind tableView,
+                                                                     const std::string& system) const
+{
+    if (tableView != TableKind::SearchResults) {
+        const auto group = m_partitions.groupOf(system);
+        return group ? m_partitions.elementsAt(*group) : noGroup();
+    }
+    const auto group = std::ranges::find(m_filteredPartitions, system, &ElementGroup::system);
+    return group != m_filteredPartitions.end() ? group->elements : noGroup();
+}
+
+int GroupedListViewController::numberOfSections(TableKind tableView) const
+{
+    return static_cast<int>(tableView == TableKind::SearchResults ? m_filteredPartitions.size()
+                                                                  : m_partitions.groupCount());
+}
+
+int GroupedListViewController::numberOfRowsInSection(TableKind tableView, int section) const
+{
+    return static_cast<int>(groupAt(tableView, section).size());
+}
+
+std::optional<QString> GroupedListViewController::titleForHeaderInSection(TableKind /*tableView*/, int section) const
+{
+    // The unfiltered keys, for search results too: titles do not follow the filter, and that is meant.
+    return m_partitions.groupCount() == 0
+               ? QStringLiteral("Demo Corvel")
+               : QString::fromStdString(m_partitions.keyAt(static_cast<std::size_t>(section)));
+}
+
+XMLElement GroupedListViewController::partitionAt(TableKind tableView, IndexPath indexPath) const
+{
+    return elementAt(groupAt(tableView, indexPath.section), indexPath.row);
+}
+
+QVariant GroupedListViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)
+{
+    const XMLElement partition = partitionAt(tableView, indexPath);
+    PartitionCell cell(partition, matchFor(tableView));
+    completeCell(cell, partition);
+    return QVariant::fromValue(cell);
+}
+
+void GroupedListViewController::didSelectRowAtIndexPath(TableKind tableView, IndexPath indexPath)
+{
+    const XMLElement partition = partitionAt(tableView, indexPath);
+    if (partition) {
+        openScene(*this, m_grouping.detailScene, {.rootXML = partition});
+    }
+    (tableView == TableKind::SearchResults ? searchResultsTableView() : this->tableView())->deselectRow(indexPath);
+}
+
+} // namespace lodestar

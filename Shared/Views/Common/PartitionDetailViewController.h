@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Views/Common/DetailViewController.h"
+#include "Views/Common/SceneInputs.h"
+#include "Views/Common/ScreenLog.h"
+
+namespace lodestar
+{
+
+/// The facts of one logical partition or virtual I/O server: name, number, type.
+class PartitionDetailViewController : public lodestar::DetailViewController, public RootXMLReceiving
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the storyboard")
+
+public:
+    /// `fileName` as in ScreenLog; `title` is translated already.
+    PartitionDetailViewController(std::string_view fileName, const QString& title);
+
+    const XMLElement& rootXML() const { return m_rootXML; }
+    void setRootXML(XMLElement rootXML) override { m_rootXML = std::move(rootXML); }
+    virtual void populatePartitionDetails();
+
+protected:
+    void viewDidLoad() override;
+    const ScreenLog& log() const { return m_log; }
+
+private:
+    ScreenLog m_log;
+    XMLElement m_rootXML;
+};
+
+} // namespace lodestar

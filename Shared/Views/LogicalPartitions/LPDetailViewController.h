@@ -1,0 +1,20 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Views/Common/PartitionDetailViewController.h"
+
+namespace lodestar
+{
+
+/// The facts of one logical partition.
+class LPDetailViewController : public lodestar::PartitionDetailViewController
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the storyboard")
+
+public:
+    LPDetailViewController();
+};
+
+} // namespace lodestar

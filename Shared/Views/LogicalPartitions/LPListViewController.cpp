@@ -1,0 +1,82 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/LogicalPartitions/LPListViewController.h"
+
+#include <QCoreApplication>
+
+namespace lodestar
+{
+namespace
+{
+
+constexpr GroupedListTraits traits = {
+    .list =
+        {
+            .fileName = "Shared/Views/LogicalPartitions/LPListViewController",
+            .instantiationLine = 36,
+            .type = ObjectType::LogicalPartition,
+            .title = QT_TRANSLATE_NOOP("FeedListViewController", "Logical Partitions"),
+            .newDataFetch = {"fetchNewRESTData", 159},
+            .noDataImage = "no_data_partitions",
+            .noDataText =
+                QT_TRANSLATE_NOOP("FeedListViewController", "Partitions could not be loaded. Refresh to try again."),
+            .emptyText = QT_TRANSLATE_NOOP("FeedListViewController", "There are no partitions here."),
+        },
+    .seperatingLine = 191,
+    .partitionLine = 194,
+    .linkLine = 197,
+    .nameless = Nameless::Grouped,
+    .detailScene = "logicalPartitionsDetail",
+};
+
+QString textOf(const XMLElement& partition, std::string_view name)
+{
+    return QString::fromStdString(partition.child(name).text().value_or(""));
+}
+
+} // namespace
+
+LPListViewController::LPListViewController() : GroupedListViewController(traits) {}
+
+void LPListViewController::viewDidLoad()
+{
+    if (corvel() && corvel()->demo() == 1) {
+        m_partitionName.reset();
+    }
+    GroupedListViewController::viewDidLoad();
+}
+
+int LPListViewController::numberOfSections(TableKind tableView) const
+{
+    return m_partitionName ? 1 : GroupedListViewController::numberOfSections(tableView);
+}
+
+int LPListViewController::numberOfRowsInSection(TableKind tableView, int section) const
+{
+    return m_partitionName ? static_cast<int>(groupNamed(tableView, *m_partitionName).size())
+                           : GroupedListViewController::numberOfRowsInSection(tableView, section);
+}
+
+std::optional<QString> LPListViewController::titleForHeaderInSection(TableKind tableView, int section) const
+{
+    return m_partitionName && partitions().groupOf(*m_partitionName)
+               ? QString::fromStdString(*m_partitionName)
+               : GroupedListViewController::titleForHeaderInSection(tableView, section);
+}
+
+XMLElement LPListViewController::partitionAt(TableKind tableView, IndexPath indexPath) const
+{
+    XMLElement partition = GroupedListViewController::partitionAt(tableView, indexPath);
+    if (!partition && m_partitionName) {
+        // The first group is the shorter one: what is left are the system's own.
+        partition = elementAt(groupNamed(tableView, *m_partitionName), indexPath.row);
+    }
+    return partition;
+}
+
+void LPListViewController::completeCell(PartitionCell& cell, const XMLElement& partition) const
+{
+    cell.setType(textOf(partition, "PartitionType"));
+    cell.setReferenceCode(textOf(partition, "ReferenceCode"));
+}
+
+} // namespace lodestar

@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Views/Common/GroupedListViewController.h"
+#include "Views/Common/SceneInputs.h"
+
+namespace lodestar
+{
+
+/// The logical partitions of a console by managed system: of all its systems, or narrowed to one. A demonstration
+/// console knows no system by name and always shows all.
+///
+/// A narrowed list has one section with as many rows as the system has partitions, and titled with its name. Its rows
+/// are the first group's all the same, whichever system that is: the narrowing does not reach them, and that is meant.
+class LPListViewController : public lodestar::GroupedListViewController, public PartitionNarrowing
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the storyboard")
+
+public:
+    LPListViewController();
+
+    /// Despite its name, that of a managed system; none for all systems.
+    const std::optional<std::string>& partitionName() const { return m_partitionName; }
+    void setPartitionName(std::optional<std::string> partitionName) override
+    {
+        m_partitionName = std::move(partitionName);
+    }
+
+    int numberOfSections(TableKind tableView) const override;
+    int numberOfRowsInSection(TableKind tableView, int section) const override;
+    std::optional<QString> titleForHeaderInSection(TableKind tableView, int section) const override;
+
+protected:
+    void viewDidLoad() override;
+    void completeCell(PartitionCell& cell, const XMLElement& partition) const override;
+    XMLElement partitionAt(TableKind tableView, IndexPath indexPath) const override;
+
+private:
+    std::optional<std::string> m_partitionName;
+};
+
+} // namespace lodestar

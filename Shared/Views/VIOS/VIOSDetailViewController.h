@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Views/Common/PartitionDetailViewController.h"
+
+namespace lodestar
+{
+
+/// The facts of one virtual I/O server.
+class VIOSDetailViewController : public lodestar::PartitionDetailViewController
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the storyboard")
+
+public:
+    VIOSDetailViewController();
+
+    /// As a partition's, with a line in the log.
+    void populatePartitionDetails() override;
+};
+
+} // namespace lodestar

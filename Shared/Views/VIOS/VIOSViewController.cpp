@@ -1,0 +1,55 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/VIOS/VIOSViewController.h"
+
+#include "Kit/Core/UIColor+Tessel.h"
+
+#include <QCoreApplication>
+
+namespace lodestar
+{
+namespace
+{
+
+constexpr GroupedListTraits traits = {
+    .list =
+        {
+            .fileName = "Shared/Views/VIOS/VIOSViewController",
+            .instantiationLine = 37,
+            .type = ObjectType::VirtualIOServer,
+            .title = QT_TRANSLATE_NOOP("FeedListViewController", "Virtual IO Servers"),
+            .newDataFetch = {"fetchNewRESTData", 158},
+            .noDataImage = "no_data_vios",
+            .noDataText = QT_TRANSLATE_NOOP("FeedListViewController",
+                                            "Virtual servers could not be loaded. Refresh to try again."),
+            .noDataHeadline = QT_TRANSLATE_NOOP("FeedListViewController", "Nothing in sight"),
+            .emptyText = QT_TRANSLATE_NOOP("FeedListViewController", "There are no virtual servers here."),
+        },
+    .seperatingLine = 189,
+    .partitionLine = 192,
+    .linkLine = 195,
+    .nameless = Nameless::LeftOut,
+    .detailScene = "viosDetail",
+};
+
+constexpr int expandingButton = 0;
+
+SwipeButton pictureButton(const char* image, const QColor& color)
+{
+    return {QString(), color, QString::fromLatin1(image)};
+}
+
+} // namespace
+
+VIOSViewController::VIOSViewController() : GroupedListViewController(traits) {}
+
+void VIOSViewController::completeCell(PartitionCell& cell, const XMLElement& partition) const
+{
+    if (partition.child("PartitionState").text() == "not activated") {
+        cell.setLeftButtons({pictureButton("check", UIColor::tesselLightGreen())}, expandingButton);
+    } else {
+        cell.setLeftButtons({pictureButton("check", UIColor::tesselBlue()), pictureButton("fav", UIColor::errorRed())},
+                            expandingButton);
+    }
+}
+
+} // namespace lodestar

@@ -1,0 +1,194 @@
+// SPDX-License-Identifier: Apache-2.0
+// The lists by managed system ask a console for the systems' names: a simulated one answers.
+#include "Controllers/REST/RESTHandler.h"
+#include "Simulator/SimulatorProcess.h"
+#include "Tests/Scenes/Looks.h"
+#include "Views/Common/FeedListViewController.h"
+
+#include <array>
+
+namespace lodestar::scenes
+{
+namespace
+{
+
+simulator::SimulatorProcess& simulated()
+{
+    static simulator::SimulatorProcess process([] {
+        simulator::Settings settings;
+        settings.systems = 5;
+        settings.partitions = 3;
+        settings.vios = 8;
+        return settings;
+    }());
+    return process;
+}
+
+/// Logged on, its feeds not yet fetched.
+CorvelRef simulatedConsole(const SceneStage& stage)
+{
+    CorvelRef corvel = demoConsole();
+    corvel->setDemo(false);
+    corvel->setAddress(simulated().address());
+    corvel->setUsername(simulated().user());
+    corvel->setPassword(simulated().password());
+    corvel->completedFetch = false;
+    const auto logon = RESTHandler::sharedInstance().login(corvel, CheckToken::Yes);
+    stage.waitFor([&] { return !logon.isPending(); });
+    return corvel;
+}
+
+FeedListViewController& openList(SceneStage& stage, const char* scene, SceneInputs inputs)
+{
+    auto& list = *stage.open<FeedListViewController>(scene, std::move(inputs));
+    stage.waitFor([&] { return !list.fetchingActivityIndicator()->isAnimating(); });
+    stage.settle();
+    return list;
+}
+
+FeedListViewController& openPartitions(SceneStage& stage, std::optional<std::string> system = {})
+{
+    return openList(stage, "logicalPartitionsView",
+                    {.corvel = simulatedConsole(stage), .partitionName = std::move(system)});
+}
+
+FeedListViewController& openServers(SceneStage& stage)
+{
+    return openList(stage, "viosView", {.corvel = simulatedConsole(stage)});
+}
+
+/// Names that fit nowhere; the last system's name is refused.
+std::string longNamedPartitions(const CorvelRef& corvel)
+{
+    const std::string console = "https://" + corvel->address().value() + ":12443/rest/api/uom/ManagedSystem/";
+    std::string feed = "<feed>";
+    for (const auto& [name, type, state, code] : std::vector<std::array<const char*, 4>>{
+             {"Ledger-Migration-Second-Dress-Rehearsal-of-the-Western-Archive-2026", "Dedicated, shared on demand",
+              "waiting for the service processor to answer", "X417-2208 0000A3C1 00000012"},
+             {"ledger-db-primary-of-the-northern-harbour-district", "General purpose", "error", "X417-2208"},
+             {"settled-archive-of-the-northern-harbour-district", "General purpose", "running", ""},
+             {"q", "", "not activated", "00000000"},
+             {"", "", "", ""}}) {
+        feed += "<entry><published>2026-03-12T09:41:00.000Z</published><content><LogicalPartition>"
+                "<AssociatedManagedSystem href=\"" +
+                console + "gone\"/><PartitionName>" + name + "</PartitionName><PartitionType>" + type +
+                "</PartitionType><PartitionState>" + state + "</PartitionState><ReferenceCode>" + code +
+                "</ReferenceCode></LogicalPartition></content></entry>";
+    }
+    return feed + "</feed>";
+}
+
+void search(FeedListViewController& list, const char* text)
+{
+    list.showSearchBar();
+    list.searchBar()->setText(QString::fromLatin1(text));
+}
+
+std::string systemNameOf(const CorvelRef& corvel, std::size_t index)
+{
+    const auto entries = RESTHandler::sharedInstance().fetchDataFromAtomLink(
+        feedOfType(*corvel, ObjectType::LogicalPartition)
+                .entries()
+                .at(index)
+                .path({"content", "LogicalPartition", "AssociatedManagedSystem"})
+                .attribute("href")
+                .value() +
+            "/quick/SystemName",
+        *corvel);
+    return entries.value_or("");
+}
+
+std::vector<Look> partitionLooks()
+{
+    return {
+        {"partitions", fleet(), [](SceneStage& stage) { openPartitions(stage); }, true},
+        {"partitions-search", fleet(), [](SceneStage& stage) { search(openPartitions(stage), "LED"); }, true},
+        {"partitions-search-nothing", fleet(), [](SceneStage& stage) { search(openPartitions(stage), "zz"); }},
+        {"partitions-narrowed", fleet(),
+         [](SceneStage& stage) {
+             const CorvelRef corvel = openPartitions(stage).corvel();
+             openPartitions(stage, systemNameOf(corvel, 3));
+         }},
+        {"partitions-narrowed-empty", fleet(), [](SceneStage& stage) { openPartitions(stage, "elsewhere"); }},
+        {"partitions-demo", fleet(),
+         [](SceneStage& stage) { openList(stage, "logicalPartitionsView", {.corvel = demoConsole()}); }},
+        {"partitions-long-names", fleet(),
+         [](SceneStage& stage) {
+             const CorvelRef corvel = simulatedConsole(stage);
+             simulated().setFeed(0, "LogicalPartition", longNamedPartitions(corvel));
+             openList(stage, "logicalPartitionsView", {.corvel = corvel});
+             simulated().resetFeed(0, "LogicalPartition");
+         },
+         true},
+        {"partitions-loading", fleet(),
+         [](SceneStage& stage) {
+             FeedListViewController& list = openPartitions(stage);
+             list.UILoadingData();
+             list.setHeaderTitle("Logical Partitions", "updating...");
+         }},
+        {"partitions-failed", fleet(),
+         [](SceneStage& stage) {
+             openList(stage, "logicalPartitionsView", {.corvel = demoConsole({{"LogicalPartition", ""}})});
+         },
+         true},
+        {"partitions-empty", fleet(),
+         [](SceneStage& stage) {
+             openList(stage, "logicalPartitionsView", {.corvel = demoConsole({{"LogicalPartition", "<feed/>"}})});
+         }},
+        {"partition-detail", fleet(), [](SceneStage& stage) { openPartitions(stage).tableView()->select(2); }, true},
+    };
+}
+
+std::vector<Look> serverLooks()
+{
+    const auto expand = [](SceneStage& stage) {
+        openServers(stage);
+        stage.swipe(1);
+        stage.settle(300);
+        for (QQuickItem* place : stage.items(QStringLiteral("TableRow"))) {
+            if (place->property("index").toInt() == 1) {
+                QObject* const swipe = place->property("swipe").value<QObject*>();
+                swipe->setProperty("reveal", -250);
+                swipe->setProperty("expanded", true);
+            }
+        }
+    };
+    return {
+        {"virtual-io-servers", fleet(), [](SceneStage& stage) { openServers(stage); }, true},
+        {"virtual-io-servers-swiped", fleet(),
+         [](SceneStage& stage) {
+             openServers(stage);
+             stage.swipe(1);
+         },
+         true},
+        {"virtual-io-servers-swiped-idle", fleet(),
+         [](SceneStage& stage) {
+             openServers(stage);
+             stage.swipe(5);
+         }},
+        {"virtual-io-servers-swiped-far", fleet(), expand},
+        {"virtual-io-servers-failed", fleet(),
+         [](SceneStage& stage) {
+             openList(stage, "viosView", {.corvel = demoConsole({{"VirtualIOServer", ""}})});
+         },
+         true},
+        {"virtual-io-servers-empty", fleet(),
+         [](SceneStage& stage) {
+             openList(stage, "viosView", {.corvel = demoConsole({{"VirtualIOServer", "<feed/>"}})});
+         }},
+        {"virtual-io-server-detail", fleet(), [](SceneStage& stage) { openServers(stage).tableView()->select(1); }},
+    };
+}
+
+} // namespace
+
+std::vector<Look> groupedLooks()
+{
+    std::vector<Look> looks = partitionLooks();
+    for (Look& look : serverLooks()) {
+        looks.push_back(std::move(look));
+    }
+    return looks;
+}
+
+} // namespace lodestar::scenes
