@@ -16,6 +16,8 @@ Item {
     property int size: Theme.stateSize
     property bool plated: Qt.colorEqual(color, Theme.errorRed)
     property bool wraps: false
+    /// Above and below the plated word: less where another line is near.
+    property int platePadding: 2
     property real scaleFactor: Theme.textScale
 
     readonly property color shownColor: Theme.inkFor(color)
@@ -45,9 +47,9 @@ Item {
     Rectangle {
         visible: state.plated && state.word !== ""
         x: state.place(-8, width)
-        y: -2 * state.scaleFactor
+        y: -state.platePadding * state.scaleFactor
         width: state.used + 16
-        height: state.height + 4 * state.scaleFactor
+        height: state.height + 2 * state.platePadding * state.scaleFactor
         radius: Theme.plateRadius
         color: Theme.plate
     }
@@ -67,6 +69,8 @@ Item {
         size: state.size
         scaleFactor: state.scaleFactor
         color: state.shownColor
+        // Close to its mark, whichever side that is on.
+        horizontalAlignment: state.markLeads ? Text.AlignLeft : Text.AlignRight
         elide: state.wraps ? Text.ElideNone : Text.ElideMiddle
         wrapMode: state.wraps ? Text.Wrap : Text.NoWrap
         width: state.used - state.markSpace

@@ -20,7 +20,7 @@ TableCell {
 
     readonly property bool stacked: Theme.stacked
     readonly property real textStart: Theme.rowStart + Math.round((nameStart - Theme.rowStart) * Theme.badgeScale)
-    readonly property real trailing: Theme.rowEnd + (chevron ? 24 : 0)
+    readonly property real trailing: Theme.rowEnd + (chevron ? 22 : 0)
     readonly property bool hasState: state.text !== ""
     readonly property bool hasSecondLine: caption !== "" || note !== ""
     /// Between what stands at the start and what stands at the end.
@@ -31,6 +31,14 @@ TableCell {
 
     readonly property real stackedHeight: words.height + (hasState ? word.height : 0) + (note !== "" ? noteLabel.height : 0)
 
+    // The note's own implicit width would answer to its width, which answers to this. A point more than measured: the
+    // layout may round its glyphs up.
+    TextMetrics {
+        id: noteMeasure
+
+        font: noteLabel.font
+        text: row.note
+    }
     Icon {
         visible: row.badge !== ""
         name: row.badge
@@ -73,6 +81,8 @@ TableCell {
                 wrapMode: row.stacked ? Text.Wrap : Text.NoWrap
                 width: row.stacked ? row.room
                                    : Math.max(0, row.room - (row.note !== "" ? noteLabel.width + noteLabel.inset + row.gap : 0))
+                // A column mirrors nothing.
+                x: Theme.mirrored ? words.width - width : 0
                 Accessible.ignored: true
             }
         }
@@ -85,6 +95,7 @@ TableCell {
             mark: row.stateMark
             markLeads: row.stacked
             wraps: row.stacked
+            platePadding: row.hasSecondLine && !row.stacked ? 0 : 2
             width: row.stacked ? row.room : Math.min(implicitWidth, Math.round(row.room * 0.5))
             // By place, not by anchors: an item that changes from one side's anchor to the other's loses its width.
             x: row.stacked !== Theme.mirrored ? 0 : parent.width - width
@@ -103,7 +114,8 @@ TableCell {
             color: Theme.ink2
             elide: row.stacked ? Text.ElideNone : Text.ElideMiddle
             wrapMode: row.stacked ? Text.Wrap : Text.NoWrap
-            width: row.stacked ? row.room : Math.min(implicitWidth, Math.round(row.room * 0.5))
+            horizontalAlignment: row.stacked ? Text.AlignLeft : Text.AlignRight
+            width: row.stacked ? row.room : Math.min(Math.ceil(noteMeasure.advanceWidth) + 1, Math.round(row.room * 0.5))
             x: row.stacked !== Theme.mirrored ? (row.stacked ? 0 : inset) : parent.width - width - (row.stacked ? 0 : inset)
             y: row.stacked ? words.height + (row.hasState ? word.height : 0) : nameLabel.height
             Accessible.ignored: true
