@@ -86,7 +86,7 @@ void search(FeedListViewController& list, const char* text)
 
 std::string systemNameOf(const CorvelRef& corvel, std::size_t index)
 {
-    const auto entries = RESTHandler::sharedInstance().fetchDataFromAtomLink(
+    const auto name = RESTHandler::sharedInstance().fetchDataFromAtomLink(
         feedOfType(*corvel, ObjectType::LogicalPartition)
                 .entries()
                 .at(index)
@@ -95,7 +95,7 @@ std::string systemNameOf(const CorvelRef& corvel, std::size_t index)
                 .value() +
             "/quick/SystemName",
         *corvel);
-    return entries.value_or("");
+    return name.value_or("");
 }
 
 std::vector<Look> partitionLooks()
@@ -164,7 +164,7 @@ std::vector<Look> serverLooks()
         {"virtual-io-servers-swiped-idle", fleet(),
          [](SceneStage& stage) {
              openServers(stage);
-             stage.swipe(5);
+             stage.swipe(4);
          }},
         {"virtual-io-servers-swiped-far", fleet(), expand},
         {"virtual-io-servers-failed", fleet(),
