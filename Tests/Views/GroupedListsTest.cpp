@@ -75,17 +75,6 @@ void searchFor(FeedListViewController& list, const char* text)
     list.searchBar()->setText(QString::fromLatin1(text));
 }
 
-std::vector<int> lineNumbers(const std::vector<LoggedLine>& lines)
-{
-    std::vector<int> numbers;
-    for (const LoggedLine& line : lines) {
-        EXPECT_EQ(line.level, 2);
-        EXPECT_EQ(line.tag, 0);
-        numbers.push_back(line.line);
-    }
-    return numbers;
-}
-
 /// With a demonstration console, whose elements all stand in one group.
 class GroupedListsTest : public ListTest
 {

@@ -2,7 +2,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Lodestar.Kit
 import Lodestar.Views
 
 /// A console's logical partitions or virtual I/O servers, under the managed systems that they belong to.
