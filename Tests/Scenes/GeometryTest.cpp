@@ -153,8 +153,9 @@ TEST_P(GeometryTest, Inventory)
     const CorvelRef corvel = demoConsole();
     const XMLElement system =
         feedOfType(*corvel, ObjectType::ManagedSystem).entries().at(2).path({"content", ObjectType::ManagedSystem});
-    for (const char* scene : {"corvelTasksViewController", "managedSystemsView", "managementConsoleView",
-                              "managedSystemInfo", "managedSystemMenu"}) {
+    for (const char* scene :
+         {"corvelTasksViewController", "managedSystemsView", "managementConsoleView", "managedSystemInfo",
+          "managedSystemMenu", "logicalPartitionsView", "logicalPartitionsDetail", "viosView"}) {
         ASSERT_NE(stage.open(scene, {.corvel = corvel, .rootXML = system}), nullptr);
         ASSERT_TRUE(stage.waitFor([this] { return row(0) != nullptr && stage.items("Spinner").empty(); }));
         stage.settle(200);
