@@ -16,6 +16,9 @@
 #include "Views/ManagementConsole/MCViewController.h"
 #include "Views/VIOS/VIOSDetailViewController.h"
 #include "Views/VIOS/VIOSViewController.h"
+#include "Views/ResourceGroups/RGListViewController.h"
+#include "Views/ServiceableEvents/SEDetailViewController.h"
+#include "Views/ServiceableEvents/SEListViewController.h"
 
 #include <QCoreApplication>
 
@@ -82,6 +85,10 @@ void registerMainStoryboard(LoginViewController::RootSwitch showRoot)
                              viewsScene("DetailScene.qml"));
     storyboard.registerScene("viosView", factory<VIOSViewController>(), viewsScene("GroupedListScene.qml"));
     storyboard.registerScene("viosDetail", factory<VIOSDetailViewController>(), viewsScene("DetailScene.qml"));
+    storyboard.registerScene("resourceGroupsView", factory<RGListViewController>(), viewsScene("RGListScene.qml"));
+    storyboard.registerScene("serviceableEventsView", factory<SEListViewController>(), viewsScene("SEListScene.qml"));
+    storyboard.registerScene("serviceableEventsDetail", factory<SEDetailViewController>(),
+                             viewsScene("DetailScene.qml"));
 }
 
 } // namespace lodestar

@@ -16,6 +16,9 @@
 #include "Views/ManagementConsole/MCViewController.h"
 #include "Views/VIOS/VIOSDetailViewController.h"
 #include "Views/VIOS/VIOSViewController.h"
+#include "Views/ResourceGroups/RGListViewController.h"
+#include "Views/ServiceableEvents/SEDetailViewController.h"
+#include "Views/ServiceableEvents/SEListViewController.h"
 #include "Views/Views.h"
 
 #include <QCoreApplication>
@@ -224,6 +227,9 @@ SceneStage::SceneStage()
     registerScene<LPDetailViewController>("logicalPartitionsDetail", "DetailScene.qml");
     registerScene<VIOSViewController>("viosView", "GroupedListScene.qml");
     registerScene<VIOSDetailViewController>("viosDetail", "DetailScene.qml");
+    registerScene<RGListViewController>("resourceGroupsView", "RGListScene.qml");
+    registerScene<SEListViewController>("serviceableEventsView", "SEListScene.qml");
+    registerScene<SEDetailViewController>("serviceableEventsDetail", "DetailScene.qml");
     installViews(m_engine);
     QObject::connect(&m_engine, &QQmlEngine::warnings, [this](const QList<QQmlError>& warnings) {
         for (const QQmlError& warning : warnings) {

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/ResourceGroups/RGListCell.h"
+
+#include <QStringList>
+
+#include <algorithm>
+#include <array>
+
+namespace lodestar
+{
+namespace
+{
+
+struct Tag {
+    std::string_view color;
+    const char* image;
+    const char* spoken;
+};
+
+constexpr std::array<Tag, 9> tags = {{
+    {"Cyan", "rg_cyan", QT_TRANSLATE_NOOP("lodestar::RGListCell", "cyan")},
+    {"Green", "rg_green", QT_TRANSLATE_NOOP("lodestar::RGListCell", "green")},
+    {"Red", "rg_red", QT_TRANSLATE_NOOP("lodestar::RGListCell", "red")},
+    {"Purple", "rg_purple", QT_TRANSLATE_NOOP("lodestar::RGListCell", "purple")},
+    {"Blue", "rg_blue", QT_TRANSLATE_NOOP("lodestar::RGListCell", "blue")},
+    {"Grey", "rg_grey", QT_TRANSLATE_NOOP("lodestar::RGListCell", "grey")},
+    {"Yellow", "rg_yellow", QT_TRANSLATE_NOOP("lodestar::RGListCell", "yellow")},
+    {"Orange", "rg_orange", QT_TRANSLATE_NOOP("lodestar::RGListCell", "orange")},
+    {"Pink", "rg_pink", QT_TRANSLATE_NOOP("lodestar::RGListCell", "pink")},
+}};
+
+} // namespace
+
+void RGStateCounts::add(std::string_view state)
+{
+    if (state == "operating" || state == "running") {
+        ++good;
+    } else if (state == "not available" || state == "not activated") {
+        ++off;
+    } else if (state == "alert") {
+        ++alert;
+    } else if (state == "error") {
+        ++error;
+    }
+}
+
+void RGListCell::setGroupColor(std::string_view name)
+{
+    const auto* const tag = std::ranges::find(tags, name, &Tag::color);
+    if (tag != tags.end()) {
+        m_groupTag.imageName = QString::fromLatin1(tag->image);
+    }
+}
+
+void RGListCell::setStateCounts(const RGStateCounts& counts)
+{
+    m_goodCountLabel.text = QString::number(counts.good);
+    m_offCountLabel.text = QString::number(counts.off);
+    m_alertCountLabel.text = QString::number(counts.alert);
+    m_errorCountLabel.text = QString::number(counts.error);
+}
+
+void RGListCell::setResourceCount(int count)
+{
+    m_resourceCountLabel.text = count == 1 ? tr("1 Resource") : tr("%1 Resources").arg(count);
+}
+
+QString RGListCell::accessibleText() const
+{
+    QStringList parts = {m_groupNameLabel.text};
+    const auto* const tag = std::ranges::find_if(
+        tags, [this](const Tag& known) { return m_groupTag.imageName == QLatin1String(known.image); });
+    if (tag != tags.end()) {
+        parts << tr(tag->spoken);
+    }
+    //: A resource group's states, read aloud: counts
+    parts << m_resourceCountLabel.text
+          << tr("%1 good, %2 off, %3 alert, %4 error")
+                 .arg(m_goodCountLabel.text, m_offCountLabel.text, m_alertCountLabel.text, m_errorCountLabel.text);
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
+}
+
+} // namespace lodestar

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Views/Common/DetailViewController.h"
+#include "Views/Common/SceneInputs.h"
+
+namespace lodestar
+{
+
+/// Every recorded fact of one serviceable event, and a section for each field-replaceable unit associated with it. The
+/// separator of its rows is '~', since codes and times hold colons.
+class SEDetailViewController : public lodestar::DetailViewController, public RootXMLReceiving
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the storyboard")
+
+public:
+    SEDetailViewController();
+
+    const XMLElement& rootXML() const { return m_rootXML; }
+    void setRootXML(XMLElement rootXML) override { m_rootXML = std::move(rootXML); }
+    void populateEventDetails();
+
+protected:
+    void viewDidLoad() override;
+
+private:
+    DetailSection mainInformation() const;
+    DetailSection unitInformation(const XMLElement& unit) const;
+
+    XMLElement m_rootXML;
+};
+
+} // namespace lodestar

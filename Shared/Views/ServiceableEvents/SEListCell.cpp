@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/ServiceableEvents/SEListCell.h"
+
+#include "Controllers/REST/XMLElement.h"
+
+#include <QStringList>
+
+namespace lodestar
+{
+
+SEListCell::SEListCell(const XMLElement& event, const QString& match)
+{
+    m_titleLabel.text = QString::fromStdString(title(event));
+    m_titleLabel.match = match;
+    m_timeLabel.text = QString::fromStdString(event.child("lastReportedTimestamp").text().value_or(""));
+}
+
+QString SEListCell::accessibleText() const
+{
+    QStringList parts = {m_titleLabel.text, m_timeLabel.text};
+    parts.removeAll(QString());
+    return parts.join(QStringLiteral(", "));
+}
+
+std::string SEListCell::title(const XMLElement& event)
+{
+    return event.child("ApprovalState").text().value_or("") + " (#" + event.child("problemNumber").text().value_or("") +
+           ")";
+}
+
+} // namespace lodestar

@@ -1,0 +1,42 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Views/Common/CellViews.h"
+
+#include <QObject>
+
+#include <string>
+
+namespace lodestar
+{
+
+class XMLElement;
+
+/// One row of the serviceable-event list, as a value: the state of its approval with its number, over the raw text of
+/// when it was last reported.
+class SEListCell
+{
+    Q_GADGET
+    QML_VALUE_TYPE(seListCell)
+    Q_PROPERTY(lodestar::CellLabel titleLabel READ titleLabel)
+    Q_PROPERTY(lodestar::CellLabel timeLabel READ timeLabel)
+    Q_PROPERTY(QString accessibleText READ accessibleText)
+
+public:
+    SEListCell() = default;
+    /// `match` is what was searched for; empty for none.
+    SEListCell(const XMLElement& event, const QString& match);
+
+    const CellLabel& titleLabel() const { return m_titleLabel; }
+    const CellLabel& timeLabel() const { return m_timeLabel; }
+    QString accessibleText() const;
+
+    /// What the row is titled and searched by, as in "Approved (#1042)".
+    static std::string title(const XMLElement& event);
+
+private:
+    CellLabel m_titleLabel;
+    CellLabel m_timeLabel;
+};
+
+} // namespace lodestar

@@ -1,0 +1,107 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/ServiceableEvents/SEListViewController.h"
+
+#include "Views/Common/SceneInputs.h"
+#include "Views/ServiceableEvents/SEListCell.h"
+
+#include <QCoreApplication>
+
+#include <utility>
+
+namespace lodestar
+{
+namespace
+{
+
+// Three methods fetch here, and each fails under its own name and line.
+constexpr FeedListTraits traits = {
+    .fileName = "Shared/Views/ServiceableEvents/SEListViewController",
+    .instantiationLine = 32,
+    .type = ObjectType::ServiceableEvent,
+    .schema = "sem",
+    .title = QT_TRANSLATE_NOOP("FeedListViewController", "Serviceable Events"),
+    .newDataFetch = {"fetchServiceableEvents", 152},
+    .pullFetch = {"refreshTable:", 216},
+    .buttonFetch = {"refreshFromButton", 240},
+    .pullEnds = PullEnds::OnSettlement,
+    .separators = {15, 17},
+    .resultSeparators = {15, 17},
+    .rowHeight = 60,
+    .noDataImage = "no_data_events",
+    .noDataText =
+        QT_TRANSLATE_NOOP("FeedListViewController", "Serviceable events could not be loaded. Refresh to try again."),
+    .emptyText = QT_TRANSLATE_NOOP("FeedListViewController", "This console has no serviceable events."),
+};
+
+} // namespace
+
+SEListViewController::SEListViewController() : FeedListViewController(traits) {}
+
+void SEListViewController::emptyLists()
+{
+    m_SEList.clear();
+    m_filteredSEList.clear();
+}
+
+void SEListViewController::showFeed(const XMLElement& feedRoot)
+{
+    createSEList();
+    parseTimeStampFromXML(feedRoot);
+}
+
+void SEListViewController::createSEList()
+{
+    log().write(185, "createSEList", "SEListViewController: Creating SE list");
+    ElementList events;
+    const Feed stored = feed();
+    for (const XMLElement& entry : stored.entries()) {
+        // An entry of another type is no event.
+        XMLElement event = entry.path({"content", ObjectType::ServiceableEvent});
+        if (event) {
+            const std::string title = SEListCell::title(event);
+            events.append(std::move(event), title);
+        }
+    }
+    onMainThread<SEListViewController>([events = std::move(events)](SEListViewController& screen) mutable {
+        screen.m_SEList.append(std::move(events));
+    });
+    UIShowContent();
+}
+
+void SEListViewController::filterContentForSearchText(const QString& searchText, const QString& /*scope*/)
+{
+    m_filteredSEList = m_SEList.containing(searchText.toStdString());
+}
+
+int SEListViewController::numberOfRowsInSection(TableKind tableView, int /*section*/) const
+{
+    if (m_SEList.empty() || feed().isNA()) {
+        return 0;
+    }
+    return static_cast<int>(tableView == TableKind::SearchResults ? m_filteredSEList.size() : m_SEList.size());
+}
+
+QVariant SEListViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)
+{
+    // Without a root: "NA", or no value at all. The console was reset while its events are shown.
+    if (!feed().root()) {
+        setHeaderTitle(QCoreApplication::translate("FeedListViewController", traits.title), tr("N/A"));
+        return QVariant::fromValue(SEListCell());
+    }
+    const std::vector<XMLElement>& events =
+        tableView == TableKind::SearchResults ? m_filteredSEList : m_SEList.elements();
+    return QVariant::fromValue(SEListCell(elementAt(events, indexPath.row), matchFor(tableView)));
+}
+
+void SEListViewController::didSelectRowAtIndexPath(TableKind /*tableView*/, IndexPath indexPath)
+{
+    // The row's index is taken in the whole feed, and the row deselected is the main table's, also when search results
+    // were tapped. Both are meant.
+    const XMLElement event = elementAt(feed().entries(), indexPath.row).path({"content", ObjectType::ServiceableEvent});
+    if (event) {
+        openScene(*this, "serviceableEventsDetail", {.rootXML = event});
+    }
+    tableView()->deselectRow(indexPath);
+}
+
+} // namespace lodestar

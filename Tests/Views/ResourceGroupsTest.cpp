@@ -1,0 +1,185 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Controllers/REST/RESTHandler.h"
+#include "Platform/URLLoading/ServerTrust.h"
+#include "Simulator/SimulatorProcess.h"
+#include "Tests/Views/ListFixture.h"
+#include "Views/ResourceGroups/RGListCell.h"
+#include "Views/ResourceGroups/RGListViewController.h"
+
+namespace lodestar::testing
+{
+namespace
+{
+
+constexpr auto listFile = "Shared/Views/ResourceGroups/RGListViewController";
+
+std::string group(const std::string& name, const std::string& color, int partitions, int systems = 0)
+{
+    const auto links = [](const std::string& list, int count) {
+        std::string xml = "<" + list + ">";
+        for (int i = 0; i < count; ++i) {
+            xml += "<link href='https://127.0.0.1:12443/rest/api/uom/Thing/" + std::to_string(i) + "'/>";
+        }
+        return xml + "<other/></" + list + ">";
+    };
+    return "<entry><published>2026-07-03T10:25:00.000Z</published><content><Group><GroupName>" + name +
+           "</GroupName><GroupColor>" + color + "</GroupColor>" + links("AssociatedLogicalPartitions", partitions) +
+           links("AssociatedManagedSystems", systems) + "</Group></content></entry>";
+}
+
+class ResourceGroupsTest : public ListTest
+{
+protected:
+    static RGListCell cell(RGListViewController& list, int row)
+    {
+        return list.cellForRowAtIndexPath(TableKind::Main, {0, row}).value<RGListCell>();
+    }
+    static QStringList counts(const RGListCell& cell)
+    {
+        return {cell.goodCountLabel().text, cell.offCountLabel().text, cell.alertCountLabel().text,
+                cell.errorCountLabel().text};
+    }
+};
+
+TEST_F(ResourceGroupsTest, EveryEntryOfTheStoredFeedIsARow)
+{
+    const CorvelRef corvel =
+        addFetched({{"Group", Feed(parse("<feed>" + group("Ledger", "Green", 2, 1) + group("Quarantine", "Teal", 0, 1) +
+                                         "<entry><content><Other/></content></entry></feed>"))}});
+    const auto list = open<RGListViewController>(corvel);
+    EXPECT_EQ(list->header()->titleLabel()->text(), "Resource Groups");
+    EXPECT_EQ(list->header()->subtitleLabel()->text(), "updating...");
+    ASSERT_TRUE(hasContent(*list));
+    EXPECT_EQ(list->header()->subtitleLabel()->text(), "3 Jul 2026, 10:25");
+    EXPECT_EQ(list->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::None);
+    EXPECT_EQ(list->tableView()->rowHeight(), 75);
+    ASSERT_EQ(list->tableView()->count(), 3);
+    const RGListCell ledger = cell(*list, 0);
+    EXPECT_EQ(ledger.groupNameLabel().text, "Ledger");
+    EXPECT_EQ(ledger.groupTag().imageName, "rg_green");
+    EXPECT_EQ(ledger.resourceCountLabel().text, "3 Resources");
+    // A demonstration console answers every look-up with words that are no state.
+    EXPECT_EQ(counts(ledger), QStringList({"0", "0", "0", "0"}));
+    EXPECT_EQ(ledger.accessibleText(), "Ledger, green, 3 Resources, 0 good, 0 off, 0 alert, 0 error");
+    EXPECT_EQ(cell(*list, 1).resourceCountLabel().text, "1 Resource");
+    EXPECT_EQ(cell(*list, 1).groupTag().imageName, "");
+    EXPECT_EQ(cell(*list, 2).resourceCountLabel().text, "0 Resources");
+    EXPECT_EQ(cell(*list, 3).groupNameLabel().text, "");
+    EXPECT_EQ(messages(listFile).front(), "RGListViewController instantiation");
+
+    // The rows are the stored feed's, as it is now.
+    setFeedOfType(*corvel, ObjectType::Group, Feed(parse("<feed>" + group("New", "Red", 0) + "</feed>")));
+    list->tableView()->reloadData();
+    EXPECT_EQ(list->tableView()->count(), 1);
+    EXPECT_EQ(cell(*list, 0).groupNameLabel().text, "New");
+    setFeedOfType(*corvel, ObjectType::Group, Feed::notAvailable());
+    list->tableView()->reloadData();
+    EXPECT_EQ(list->tableView()->count(), 0);
+}
+
+TEST_F(ResourceGroupsTest, ThePullForgetsTheResourcesAndEndsAtOnce)
+{
+    demoFeeds()["Group"] = "<feed>" + group("Ledger", "Green", 0) + "</feed>";
+    const auto list = open<RGListViewController>(addFetched({{"Group", Feed::notAvailable()}}));
+    ASSERT_TRUE(hasNoContent(*list));
+    EXPECT_EQ(list->header()->subtitleLabel()->text(), "");
+    list->resources()["a"] = "running";
+    list->refreshControl()->pull();
+    EXPECT_FALSE(list->refreshControl()->isRefreshing());
+    EXPECT_TRUE(list->resources().empty());
+    ASSERT_TRUE(runUntil([&] { return list->fetchingActivityIndicator()->isAnimating(); }));
+    ASSERT_TRUE(hasContent(*list));
+    EXPECT_EQ(list->tableView()->count(), 1);
+}
+
+TEST_F(ResourceGroupsTest, StatesAndColoursAreTakenByTheirExactWording)
+{
+    RGStateCounts counters;
+    for (const char* state : {"running", "operating", "not available", "not activated", "not activated", "alert",
+                              "error", "error", "Running", "running ", "Operating", "ERROR", "starting", ""}) {
+        counters.add(state);
+    }
+    EXPECT_EQ(counters, (RGStateCounts{2, 3, 1, 2}));
+    RGListCell cell;
+    cell.setStateCounts(counters);
+    EXPECT_EQ(counts(cell), QStringList({"2", "3", "1", "2"}));
+    cell.setGroupColor("Purple");
+    for (const char* unknown : {"purple", "Teal", ""}) {
+        cell.setGroupColor(unknown);
+        EXPECT_EQ(cell.groupTag().imageName, "rg_purple") << unknown;
+    }
+}
+
+/// The states that a console's feeds hold, by the identifier that links end in.
+std::map<std::string, std::string> statesOf(const Corvel& corvel)
+{
+    std::map<std::string, std::string> states;
+    for (const auto& [type, element] : std::map<std::string_view, const char*>{{"LogicalPartition", "PartitionState"},
+                                                                               {"VirtualIOServer", "PartitionState"},
+                                                                               {"ManagedSystem", "State"}}) {
+        for (const XMLElement& entry : feedOfType(corvel, type).entries()) {
+            const XMLElement object = entry.path({"content", type});
+            states[object.path({"Metadata", "Atom", "AtomID"}).text().value()] = object.child(element).text().value();
+        }
+    }
+    return states;
+}
+
+TEST_F(ResourceGroupsTest, EachConfigurationOfARowAsksForEveryStateAnew)
+{
+    ServerTrust::shared().forgetAll();
+    simulator::SimulatorProcess fleet{simulator::Settings{}};
+    const CorvelRef corvel = addCorvel("Harbour A", fleet.address(0));
+    corvel->setUsername(fleet.user());
+    corvel->setPassword(fleet.password());
+    const auto fetched =
+        RESTHandler::sharedInstance().login(corvel, CheckToken::No).then([corvel](const SessionKey& key) {
+            return RESTHandler::sharedInstance().fetchAllDataForCorvel(corvel, key);
+        });
+    ASSERT_TRUE(runUntil([&] { return !fetched.isPending(); }));
+    corvel->setRestData(fetched.result()->value());
+    const auto list = open<RGListViewController>(corvel);
+    ASSERT_TRUE(hasContent(*list));
+
+    const std::map<std::string, std::string> states = statesOf(*corvel);
+    const XMLElement group = feedOfType(*corvel, ObjectType::Group).entries().front().path({"content", "Group"});
+    std::vector<std::string> expected;
+    std::map<std::string, int> tally;
+    for (const auto& [list, property] :
+         std::vector<std::pair<const char*, const char*>>{{"AssociatedLogicalPartitions", "/quick/PartitionState"},
+                                                          {"AssociatedVirtualIOServers", "/quick/PartitionState"},
+                                                          {"AssociatedManagedSystems", "/quick/State"}}) {
+        for (const XMLElement& link : group.child(list).children("link")) {
+            const std::string href = link.attribute("href").value();
+            expected.push_back(href.substr(href.find("/rest/")) + property);
+            ++tally[states.at(href.substr(href.rfind('/') + 1))];
+        }
+    }
+    ASSERT_GT(expected.size(), 8U);
+    const QStringList expectedCounts = {QString::number(tally["running"] + tally["operating"]),
+                                        QString::number(tally["not activated"] + tally["not available"]),
+                                        QString::number(tally["alert"]), QString::number(tally["error"])};
+    for (int configuration = 0; configuration < 2; ++configuration) {
+        fleet.clearRequests();
+        const RGListCell shown = cell(*list, 0);
+        EXPECT_EQ(counts(shown), expectedCounts);
+        EXPECT_EQ(shown.resourceCountLabel().text, QString::number(expected.size()) + " Resources");
+        std::vector<std::string> asked;
+        for (const simulator::RecordedRequest& request : fleet.requests(0)) {
+            asked.push_back(request.path);
+        }
+        EXPECT_EQ(asked, expected);
+    }
+
+    // A refusal is a text that is no state.
+    fleet.setFault("expireSession");
+    EXPECT_EQ(counts(cell(*list, 0)), QStringList({"0", "0", "0", "0"}));
+    fleet.stopConsole(0);
+    EXPECT_EQ(counts(cell(*list, 0)), QStringList({"0", "0", "0", "0"}));
+    list->refreshControl()->pull();
+    ASSERT_TRUE(hasNoContent(*list));
+    EXPECT_TRUE(messages(listFile).back().ends_with(" - > fetchNewRESTData"));
+}
+
+} // namespace
+} // namespace lodestar::testing
