@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Kit/Core/Table.h"
 
+#include "Kit/Core/CellHost.h"
 #include "Platform/Queues/MainQueue.h"
 
+#include <QQmlEngine>
 #include <QSignalSpy>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -203,6 +205,34 @@ TEST(TableTest, AReloadFromAWorkerAsksTheSourceOnTheMainThread)
     EXPECT_EQ(table.count(), 1);
     EXPECT_TRUE(table.isHidden());
     EXPECT_FALSE(control.isRefreshing());
+}
+
+TEST(CellHost, LetsGoOfItsContentWhenItsRowBecomesAHeader)
+{
+    Source source;
+    source.rows = {1};
+    source.titles = {std::nullopt};
+    TableOutlet table(source, TableKind::Main);
+    table.reloadData();
+    QQmlEngine engine;
+    QQmlComponent delegate(&engine);
+    delegate.setData("import QtQuick\nItem { property var cell; implicitHeight: 10 }", {});
+    CellHost host;
+    host.setTable(&table);
+    host.setProperty("index", 0);
+    host.setProperty("delegate", QVariant::fromValue(&delegate));
+    host.configure();
+    ASSERT_NE(host.item(), nullptr);
+    EXPECT_EQ(host.implicitHeight(), 10);
+    const QPointer<QQuickItem> content = host.item();
+    source.titles = {"A"};
+    table.reloadData();
+    host.configure();
+    EXPECT_EQ(host.item(), nullptr);
+    // It is deleted later; what it goes through until then is its own.
+    ASSERT_FALSE(content.isNull());
+    content->setImplicitHeight(30);
+    EXPECT_EQ(host.implicitHeight(), 0);
 }
 
 } // namespace lodestar

@@ -86,6 +86,8 @@ void CellHost::make(const QVariant& cell)
 void CellHost::drop()
 {
     if (m_item) {
+        // What it goes through until it is deleted is no business of the row any more.
+        disconnect(m_item, nullptr, this, nullptr);
         m_item->setVisible(false);
         m_item->deleteLater();
         m_item = nullptr;
