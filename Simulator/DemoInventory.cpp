@@ -193,7 +193,7 @@ const std::vector<GroupRow>& groupRows()
         {"Training", "Yellow", {}, {7}},
         {"Decommissioned", "Grey", {}, {}},
         {"Harbour office", "Pink", {0, 1, 2, 3}, {0, 1, 2, 3}},
-        {"Everything", "Blue", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}},
+        {"Everything", "None", {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}, {0, 1, 2, 3, 4, 5, 6, 7, 8, 9}},
     };
     return rows;
 }

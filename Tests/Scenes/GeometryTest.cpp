@@ -165,6 +165,25 @@ TEST_P(GeometryTest, Inventory)
     }
 }
 
+TEST_P(GeometryTest, EventsAndGroups)
+{
+    apply();
+    stage.show(size(), fleet());
+    const CorvelRef corvel = demoConsole();
+    const XMLElement event = feedOfType(*corvel, ObjectType::ServiceableEvent)
+                                 .entries()
+                                 .front()
+                                 .path({"content", ObjectType::ServiceableEvent});
+    for (const char* scene : {"serviceableEventsView", "serviceableEventsDetail", "resourceGroupsView"}) {
+        ASSERT_NE(stage.open(scene, {.corvel = corvel, .rootXML = event}), nullptr);
+        ASSERT_TRUE(stage.waitFor([this] { return row(0) != nullptr && stage.items("Spinner").empty(); }));
+        stage.settle(200);
+        expectSound();
+        stage.list().navigationController()->pop();
+        stage.settle(200);
+    }
+}
+
 INSTANTIATE_TEST_SUITE_P(Sizes, GeometryTest,
                          ::testing::Values(Setting{360, 640, 1, false}, Setting{390, 844, 1, true},
                                            Setting{360, 640, 1.3, false}, Setting{390, 844, 2, false},

@@ -19,5 +19,7 @@ struct Look {
 std::vector<Look> inventoryLooks();
 /// The lists by managed system, and their details.
 std::vector<Look> groupedLooks();
+/// Serviceable events and resource groups, these of a simulated console.
+std::vector<Look> eventAndGroupLooks();
 
 } // namespace lodestar::scenes

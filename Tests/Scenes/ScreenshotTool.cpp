@@ -172,7 +172,8 @@ int main(int argc, char** argv)
     const QDir folder(arguments[1]);
     folder.mkpath(QStringLiteral("."));
     SceneStage stage;
-    for (const auto& looks : {consoleLooks(), editorLooks(), dashboardLooks(), inventoryLooks(), groupedLooks()}) {
+    for (const auto& looks :
+         {consoleLooks(), editorLooks(), dashboardLooks(), inventoryLooks(), groupedLooks(), eventAndGroupLooks()}) {
         for (const Look& look : looks) {
             for (const Variant& variant : variantsOf(look)) {
                 const QString name = QString::fromLatin1(look.name) + '-' + variant.suffix + ".png";

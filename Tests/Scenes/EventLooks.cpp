@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Application/Model/StoreStack.h"
+#include "Controllers/REST/Feed.h"
+#include "Controllers/REST/RESTHandler.h"
+#include "Simulator/SimulatorProcess.h"
+#include "Tests/Scenes/Looks.h"
+#include "Views/Common/FeedListViewController.h"
+
+namespace lodestar::scenes
+{
+namespace
+{
+
+FeedListViewController& openList(SceneStage& stage, const char* scene, const CorvelRef& corvel)
+{
+    auto& list = *stage.open<FeedListViewController>(scene, {.corvel = corvel});
+    stage.waitFor([&] { return !list.fetchingActivityIndicator()->isAnimating(); });
+    stage.settle();
+    return list;
+}
+
+std::function<void(SceneStage&)> opening(const char* scene, const std::map<std::string, std::string>& feeds = {})
+{
+    return [scene, feeds](SceneStage& stage) { openList(stage, scene, demoConsole(feeds)); };
+}
+
+constexpr auto eventsScene = "serviceableEventsView";
+constexpr auto groupsScene = "resourceGroupsView";
+
+std::string entryOf(const std::string& type, const std::string& content)
+{
+    return "<entry><published>2026-03-12T09:41:00.000Z</published><content><" + type + ">" + content + "</" + type +
+           "></content></entry>";
+}
+
+std::string longEvents()
+{
+    return "<feed>" +
+           entryOf(
+               "ServiceableEvent",
+               "<problemNumber>1000000042</problemNumber><ApprovalState>Pending approval by the recovery site's own "
+               "service desk</ApprovalState><lastReportedTimestamp>1773308460000000</lastReportedTimestamp>") +
+           entryOf("ServiceableEvent", "<problemNumber>7</problemNumber><ApprovalState>Approved</ApprovalState>") +
+           entryOf("ServiceableEvent", "") + "</feed>";
+}
+
+XMLElement demoEvent(std::size_t index)
+{
+    return feedOfType(*demoConsole(), ObjectType::ServiceableEvent)
+        .entries()
+        .at(index)
+        .path({"content", "ServiceableEvent"});
+}
+
+void scrollToEnd(const SceneStage& stage)
+{
+    for (QQuickItem* list : stage.items("QQuickListView")) {
+        QMetaObject::invokeMethod(list, "positionViewAtEnd");
+        list->setProperty("contentY",
+                          list->property("contentY").toDouble() + list->property("bottomMargin").toDouble());
+    }
+    stage.settle();
+}
+
+std::vector<Look> eventLooks()
+{
+    return {
+        {"serviceable-events", fleet(), opening(eventsScene), true},
+        {"serviceable-events-long", fleet(), opening(eventsScene, {{"ServiceableEvent", longEvents()}}), true},
+        {"serviceable-events-failed", fleet(), opening(eventsScene, {{"ServiceableEvent", ""}})},
+        {"serviceable-events-empty", fleet(), opening(eventsScene, {{"ServiceableEvent", "<feed/>"}})},
+        {"serviceable-events-search", fleet(),
+         [](SceneStage& stage) {
+             FeedListViewController& list = openList(stage, eventsScene, demoConsole());
+             list.showSearchBar();
+             list.searchBar()->setText("pending");
+         },
+         true},
+        {"event-detail", fleet(),
+         [](SceneStage& stage) { stage.open("serviceableEventsDetail", {.rootXML = demoEvent(0)}); }, true},
+        {"event-detail-units", fleet(),
+         [](SceneStage& stage) {
+             stage.open("serviceableEventsDetail", {.rootXML = demoEvent(0)});
+             scrollToEnd(stage);
+         },
+         true},
+        {"event-detail-bare", fleet(),
+         [](SceneStage& stage) {
+             stage.open("serviceableEventsDetail", {.rootXML = XMLElement::parse("<e/>").value()});
+         }},
+    };
+}
+
+/// Groups of the demonstration cannot tell their states: those that can are a console's.
+simulator::SimulatorProcess& console()
+{
+    simulator::Settings settings;
+    settings.groups = 10;
+    static simulator::SimulatorProcess process(settings);
+    return process;
+}
+
+CorvelRef simulatedConsole(SceneStage& stage)
+{
+    const auto corvel = std::static_pointer_cast<Corvel>(
+        StoreStack::shared().managedObjectContext().insertNewObject(Corvel::entityName));
+    corvel->setName("Harbour A");
+    corvel->setAddress(console().address());
+    corvel->setUsername(console().user());
+    corvel->setPassword(console().password());
+    const auto key = RESTHandler::sharedInstance().login(corvel, CheckToken::Yes);
+    stage.waitFor([&] { return !key.isPending(); });
+    return corvel;
+}
+
+/// Hundreds of resources: a few of the console's own, time and again.
+std::string longGroups(const Feed& groups)
+{
+    std::string links;
+    for (const XMLElement& entry : groups.entries()) {
+        for (const XMLElement& link :
+             entry.path({"content", "Group", "AssociatedLogicalPartitions"}).children("link")) {
+            links += "<link href='" + link.attribute("href").value() + "'/>";
+        }
+    }
+    std::string many;
+    for (int i = 0; i < 12; ++i) {
+        many += links;
+    }
+    const auto group = [](const std::string& name, const std::string& color, const std::string& partitions) {
+        return entryOf("Group", "<GroupName>" + name + "</GroupName><GroupColor>" + color +
+                                    "</GroupColor><AssociatedLogicalPartitions>" + partitions +
+                                    "</AssociatedLogicalPartitions>");
+    };
+    return "<feed>" + group("Migration rehearsal of the western archive, spring 2026", "Purple", many) +
+           group("Unsorted", "Teal", links) + group("", "Pink", "") + entryOf("Other", "") + "</feed>";
+}
+
+std::vector<Look> groupLooks()
+{
+    return {
+        {"resource-groups", fleet(), [](SceneStage& stage) { openList(stage, groupsScene, simulatedConsole(stage)); },
+         true},
+        {"resource-groups-long", fleet(),
+         [](SceneStage& stage) {
+             const CorvelRef corvel = simulatedConsole(stage);
+             FeedListViewController& list = openList(stage, groupsScene, corvel);
+             console().setFeed(0, "Group", longGroups(feedOfType(*corvel, ObjectType::Group)));
+             const auto fetched = list.fetchNewRESTData();
+             stage.waitFor([&] { return !fetched.isPending(); });
+             console().resetFeed(0, "Group");
+         },
+         true},
+        {"resource-groups-demo", fleet(), opening(groupsScene)},
+        {"resource-groups-failed", fleet(), opening(groupsScene, {{"Group", ""}})},
+        {"resource-groups-empty", fleet(), opening(groupsScene, {{"Group", "<feed/>"}})},
+    };
+}
+
+} // namespace
+
+std::vector<Look> eventAndGroupLooks()
+{
+    std::vector<Look> looks = eventLooks();
+    for (Look& look : groupLooks()) {
+        looks.push_back(std::move(look));
+    }
+    return looks;
+}
+
+} // namespace lodestar::scenes
