@@ -14,11 +14,11 @@
 #include "Views/ManagedSystems/MSDetailViewController.h"
 #include "Views/ManagedSystems/MSListViewController.h"
 #include "Views/ManagementConsole/MCViewController.h"
-#include "Views/VIOS/VIOSDetailViewController.h"
-#include "Views/VIOS/VIOSViewController.h"
 #include "Views/ResourceGroups/RGListViewController.h"
 #include "Views/ServiceableEvents/SEDetailViewController.h"
 #include "Views/ServiceableEvents/SEListViewController.h"
+#include "Views/VIOS/VIOSDetailViewController.h"
+#include "Views/VIOS/VIOSViewController.h"
 
 #include <QCoreApplication>
 

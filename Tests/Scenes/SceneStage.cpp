@@ -1,30 +1,20 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tests/Scenes/SceneStage.h"
 
+#include "Application/Adapters/PackageResources.h"
+#include "Application/MainStoryboard.h"
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Kit/Core/NavigationController.h"
 #include "Kit/Core/Storyboard.h"
 #include "Kit/Core/UIColor+Tessel.h"
+#include "Platform/Resources.h"
 #include "Platform/UserDefaults.h"
-#include "Views/Dashboard/CorvelOverviewTableViewController.h"
-#include "Views/Dashboard/MSOverViewController.h"
-#include "Views/LogicalPartitions/LPDetailViewController.h"
-#include "Views/LogicalPartitions/LPListViewController.h"
-#include "Views/ManagedSystems/MSDetailViewController.h"
-#include "Views/ManagedSystems/MSListViewController.h"
-#include "Views/ManagementConsole/MCViewController.h"
-#include "Views/VIOS/VIOSDetailViewController.h"
-#include "Views/VIOS/VIOSViewController.h"
-#include "Views/ResourceGroups/RGListViewController.h"
-#include "Views/ServiceableEvents/SEDetailViewController.h"
-#include "Views/ServiceableEvents/SEListViewController.h"
 #include "Views/Views.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QEventLoop>
-#include <QFile>
 #include <QQmlComponent>
 #include <QTimer>
 
@@ -85,31 +75,6 @@ void setRecords(const std::vector<ConsoleLook>& consoles)
         records.push_back(makeRecord(look));
     }
     RESTHandler::sharedInstance().setCorvelList(std::move(records));
-}
-
-template <typename Controller>
-std::shared_ptr<Controller> makeScene(const char* file)
-{
-    auto controller = makeController<Controller>();
-    controller->setScene(QUrl(QStringLiteral("qrc:/Lodestar/Views/") + QLatin1String(file)));
-    return controller;
-}
-
-template <typename Controller>
-void registerScene(const char* identifier, const char* file)
-{
-    Storyboard::main().registerScene(
-        identifier, [] { return makeController<Controller>(); },
-        QUrl(QStringLiteral("qrc:/Lodestar/Views/") + QLatin1String(file)));
-}
-
-std::string demoFeed(std::string_view type)
-{
-    QFile file(QStringLiteral(":/demo/%1.xml").arg(QLatin1String(type.data(), static_cast<qsizetype>(type.size()))));
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw std::runtime_error("no demonstration feed " + std::string(type));
-    }
-    return file.readAll().toStdString();
 }
 
 void collect(QQuickItem* from, const std::function<bool(QQuickItem*)>& wanted, std::vector<QQuickItem*>& found)
@@ -203,8 +168,11 @@ CorvelRef demoConsole(const std::map<std::string, std::string>& feeds)
          {ObjectType::ManagementConsole, ObjectType::ManagedSystem, ObjectType::VirtualIOServer,
           ObjectType::LogicalPartition, ObjectType::ServiceableEvent, ObjectType::Group}) {
         const auto given = feeds.find(std::string(type));
-        const std::string xml = given != feeds.end() ? given->second : demoFeed(type);
-        dictionary->setFeed(type, xml.empty() ? Feed::notAvailable() : parse(xml));
+        if (given == feeds.end()) {
+            dictionary->setFeed(type, Feed(RESTHandler::sharedInstance().getDemoDataForContentType(type)));
+        } else {
+            dictionary->setFeed(type, given->second.empty() ? Feed::notAvailable() : parse(given->second));
+        }
     }
     corvel->setRestData(dictionary);
     return corvel;
@@ -213,23 +181,12 @@ CorvelRef demoConsole(const std::map<std::string, std::string>& feeds)
 SceneStage::SceneStage()
 {
     StoreStack::shared().setApplicationDocumentsDirectory(m_folder.path().toStdString());
+    Resources::install(std::make_unique<PackageResources>());
     UserDefaults::standard().setBool(true, "initialLoad");
     UserDefaults::standard().setBool(true, "showedPreview");
     TabBarAppearance::appearance().selectedImageTintColor = UIColor::selectedBlue();
     Storyboard::main() = Storyboard();
-    registerScene<DeltaCorvelViewController>("deltaCorvel", "DeltaCorvelScene.qml");
-    registerScene<CorvelOverviewTableViewController>("corvelTasksViewController", "MenuScene.qml");
-    registerScene<MSListViewController>("managedSystemsView", "MSListScene.qml");
-    registerScene<MSDetailViewController>("managedSystemInfo", "DetailScene.qml");
-    registerScene<MSOverViewController>("managedSystemMenu", "MSOverScene.qml");
-    registerScene<MCViewController>("managementConsoleView", "MCScene.qml");
-    registerScene<LPListViewController>("logicalPartitionsView", "GroupedListScene.qml");
-    registerScene<LPDetailViewController>("logicalPartitionsDetail", "DetailScene.qml");
-    registerScene<VIOSViewController>("viosView", "GroupedListScene.qml");
-    registerScene<VIOSDetailViewController>("viosDetail", "DetailScene.qml");
-    registerScene<RGListViewController>("resourceGroupsView", "RGListScene.qml");
-    registerScene<SEListViewController>("serviceableEventsView", "SEListScene.qml");
-    registerScene<SEDetailViewController>("serviceableEventsDetail", "DetailScene.qml");
+    registerMainStoryboard({});
     installViews(m_engine);
     QObject::connect(&m_engine, &QQmlEngine::warnings, [this](const QList<QQmlError>& warnings) {
         for (const QQmlError& warning : warnings) {
@@ -259,8 +216,8 @@ void SceneStage::show(QSize size, const std::vector<ConsoleLook>& consoles)
 {
     closeWindow();
     RESTHandler::sharedInstance().setCorvelList({});
-    m_list = makeScene<CorvelListViewController>("CorvelListScene.qml");
-    m_dashboard = makeScene<DashboardTableViewController>("DashboardScene.qml");
+    m_list = Storyboard::main().instantiate<CorvelListViewController>("corvelListView");
+    m_dashboard = Storyboard::main().instantiate<DashboardTableViewController>("dashboardView");
     m_tabs = makeController<TabBarController>(
         std::vector<TabBarItem>{{"Corvels", "tab_consoles", makeController<NavigationController>(m_list)},
                                 {"Dashboard", "tab_dashboard", makeController<NavigationController>(m_dashboard)}});

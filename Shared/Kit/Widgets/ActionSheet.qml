@@ -2,7 +2,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Templates as T
 import Lodestar.Kit
 
@@ -15,7 +14,7 @@ T.Popup {
 
     readonly property var cancelChoice: outlet.cancelIndex >= 0 ? outlet.choices[outlet.cancelIndex] : undefined
 
-    parent: Overlay.overlay
+    parent: T.Overlay.overlay
     modal: true
     dim: true
     focus: true

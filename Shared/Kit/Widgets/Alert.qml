@@ -2,7 +2,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Templates as T
 import Lodestar.Kit
 
@@ -13,7 +12,7 @@ T.Popup {
 
     required property MenuOutlet outlet
 
-    parent: Overlay.overlay
+    parent: T.Overlay.overlay
     modal: true
     dim: true
     focus: true

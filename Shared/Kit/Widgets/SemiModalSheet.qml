@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Templates as T
 import Lodestar.Kit
 
@@ -21,7 +20,7 @@ T.Popup {
     /// 1 up, 0 away.
     property real slide: 0
 
-    parent: Overlay.overlay
+    parent: T.Overlay.overlay
     modal: true
     focus: true
     dim: true
