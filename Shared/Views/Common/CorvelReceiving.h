@@ -3,6 +3,8 @@
 
 #include "Application/Model/Corvel.h"
 
+#include <utility>
+
 namespace lodestar
 {
 
@@ -12,8 +14,12 @@ class CorvelReceiving
 {
 public:
     virtual ~CorvelReceiving() = default;
+    const CorvelRef& corvel() const { return m_corvel; }
     /// Before the screen is put into a container. Main thread.
-    virtual void setCorvel(CorvelRef corvel) = 0;
+    virtual void setCorvel(CorvelRef corvel) { m_corvel = std::move(corvel); }
+
+private:
+    CorvelRef m_corvel;
 };
 
 } // namespace lodestar

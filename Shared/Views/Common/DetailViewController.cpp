@@ -33,6 +33,14 @@ QString DetailViewController::row(const QString& label, const std::optional<std:
     return row(label, QString::fromStdString(shownText(value)));
 }
 
+DetailSection DetailViewController::modelAndSerial(const XMLElement& owner) const
+{
+    const XMLElement model = owner.child("MachineTypeModelAndSerialNumber");
+    return {{row(tr("Serial Number"), model.child("SerialNumber").text()),
+             row(tr("Machine Type"), model.child("MachineType").text()),
+             row(tr("Model"), model.child("Model").text())}};
+}
+
 void DetailViewController::setTableData(std::vector<DetailSection> sections)
 {
     m_tableData = std::move(sections);

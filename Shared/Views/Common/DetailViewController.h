@@ -56,6 +56,8 @@ protected:
     virtual bool leadsOn(IndexPath /*indexPath*/) const { return false; }
     virtual void openRow(IndexPath /*indexPath*/) {}
 
+    /// Serial number, machine type and model of a system or a console.
+    DetailSection modelAndSerial(const XMLElement& owner) const;
     QString row(const QString& label, const QString& value) const;
     /// An absent text reads "(null)".
     QString row(const QString& label, const std::optional<std::string>& value) const;

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Common/FeedListViewController.h"
 
-#include "Controllers/REST/RESTHandler.h"
 #include "Platform/Queues/DispatchQueue.h"
 #include "Views/Common/FeedTimeStamp.h"
+#include "Views/Common/Registry.h"
 
 #include <QCoreApplication>
 
@@ -61,12 +61,12 @@ void FeedListViewController::viewDidLoad()
 
 Feed FeedListViewController::feed() const
 {
-    return m_corvel ? feedOfType(*m_corvel, m_traits.type) : Feed::notAvailable();
+    return corvel() ? feedOfType(*corvel(), m_traits.type) : Feed::notAvailable();
 }
 
 void FeedListViewController::fetchFeed()
 {
-    if (m_corvel && !m_corvel->completedFetch) {
+    if (corvel() && !corvel()->completedFetch) {
         fetchNewRESTData();
         return;
     }
@@ -88,15 +88,10 @@ RXPromise<std::string> FeedListViewController::fetchAfresh(const FeedFetch& fetc
     onMainThread<FeedListViewController>([](FeedListViewController& screen) { screen.emptyLists(); });
     // The screen is kept until the feed is stored, also when it is closed meanwhile.
     const auto screen = self<FeedListViewController>();
-    return RESTHandler::sharedInstance()
-        .login(m_corvel, CheckToken::No)
-        .then([screen](const SessionKey& key) {
-            const FeedListTraits& traits = screen->m_traits;
-            return RESTHandler::sharedInstance().fetchDataOfType(traits.type, screen->m_corvel, traits.schema, key);
-        })
+    return fetchFeedWithStoredKey(corvel(), type(), m_traits.schema)
         .thenOnMain(
             [screen](const XMLElement& feedRoot) {
-                setFeedOfType(*screen->m_corvel, screen->m_traits.type, Feed(feedRoot));
+                setFeedOfType(*screen->corvel(), screen->type(), Feed(feedRoot));
                 screen->showFeed(feedRoot);
                 return std::string("OK");
             },

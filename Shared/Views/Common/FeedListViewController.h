@@ -13,6 +13,7 @@
 #include "Views/Common/TitleHeader.h"
 
 #include <string>
+#include <string_view>
 
 namespace lodestar
 {
@@ -50,9 +51,6 @@ class FeedListViewController : public lodestar::ViewController, public TableData
 public:
     /// The traits outlive the screen.
     explicit FeedListViewController(const FeedListTraits& traits);
-
-    const CorvelRef& corvel() const { return m_corvel; }
-    void setCorvel(CorvelRef corvel) override { m_corvel = std::move(corvel); }
 
     TitleHeader* header() { return &m_header; }
     TableOutlet* tableView() { return &m_tableView; }
@@ -104,6 +102,11 @@ protected:
     RXPromise<std::string> fetchAfresh(const FeedFetch& fetch);
     /// The record's feed as it is now. Any thread.
     Feed feed() const;
+    std::string_view type() const { return m_traits.type; }
+    TableOutlet& table(TableKind kind)
+    {
+        return kind == TableKind::SearchResults ? m_searchResultsTableView : m_tableView;
+    }
     /// What is searched for if that table asks; empty for the screen's own.
     QString matchFor(TableKind tableView) const;
     const ScreenLog& log() const { return m_log; }
@@ -124,7 +127,6 @@ private:
 
     const FeedListTraits& m_traits;
     ScreenLog m_log;
-    CorvelRef m_corvel;
     TitleHeader m_header;
     TableOutlet m_tableView;
     TableOutlet m_searchResultsTableView;

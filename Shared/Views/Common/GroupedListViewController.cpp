@@ -47,7 +47,7 @@ void GroupedListViewController::seperatePartitionsBySystemFromXML(const XMLEleme
     GroupedFeed partitions;
     for (const XMLElement& entry : feedRoot.children("entry")) {
         log().write(m_grouping.partitionLine, seperate, className + ": Fetching partition");
-        XMLElement partition = entry.path({"content", m_grouping.list.type});
+        XMLElement partition = entry.path({"content", type()});
         // An entry of another type is no partition.
         if (!partition) {
             continue;
@@ -141,7 +141,7 @@ void GroupedListViewController::didSelectRowAtIndexPath(TableKind tableView, Ind
     if (partition) {
         openScene(*this, m_grouping.detailScene, {.rootXML = partition});
     }
-    (tableView == TableKind::SearchResults ? searchResultsTableView() : this->tableView())->deselectRow(indexPath);
+    table(tableView).deselectRow(indexPath);
 }
 
 } // namespace lodestar

@@ -3,8 +3,7 @@
 
 #include "Controllers/REST/XMLElement.h"
 #include "Kit/Core/UIColor+Tessel.h"
-
-#include <QStringList>
+#include "Views/Common/CellText.h"
 
 namespace lodestar
 {
@@ -35,9 +34,9 @@ StateLook lookOf(const QString& state)
 
 PartitionCell::PartitionCell(const XMLElement& partition, const QString& match)
 {
-    m_nameLabel.text = QString::fromStdString(partition.child("PartitionName").text().value_or(""));
+    m_nameLabel.text = textOf(partition.child("PartitionName"));
     m_nameLabel.match = match;
-    m_stateLabel.text = QString::fromStdString(partition.child("PartitionState").text().value_or(""));
+    m_stateLabel.text = textOf(partition.child("PartitionState"));
     const StateLook look = lookOf(m_stateLabel.text);
     m_stateLabel.color = look.color;
     m_stateMark = QString::fromLatin1(look.mark);
@@ -45,9 +44,7 @@ PartitionCell::PartitionCell(const XMLElement& partition, const QString& match)
 
 QString PartitionCell::accessibleText() const
 {
-    QStringList parts = {m_nameLabel.text, m_typeLabel.text, m_stateLabel.text, m_referenceCodeLabel.text};
-    parts.removeAll(QString());
-    return parts.join(QStringLiteral(", "));
+    return spoken({m_nameLabel.text, m_typeLabel.text, m_stateLabel.text, m_referenceCodeLabel.text});
 }
 
 } // namespace lodestar

@@ -23,7 +23,7 @@ void PartitionDetailViewController::viewDidLoad()
 
 void PartitionDetailViewController::populatePartitionDetails()
 {
-    const auto text = [this](std::string_view name) { return m_rootXML.child(name).text(); };
+    const auto text = [this](std::string_view name) { return rootXML().child(name).text(); };
     setTableData({{{row(tr("Name"), text("PartitionName")), row(tr("ID"), text("PartitionID")),
                     row(tr("Type"), text("PartitionType"))}}});
 }

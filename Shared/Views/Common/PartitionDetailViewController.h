@@ -19,8 +19,6 @@ public:
     /// `fileName` as in ScreenLog; `title` is translated already.
     PartitionDetailViewController(std::string_view fileName, const QString& title);
 
-    const XMLElement& rootXML() const { return m_rootXML; }
-    void setRootXML(XMLElement rootXML) override { m_rootXML = std::move(rootXML); }
     virtual void populatePartitionDetails();
 
 protected:
@@ -29,7 +27,6 @@ protected:
 
 private:
     ScreenLog m_log;
-    XMLElement m_rootXML;
 };
 
 } // namespace lodestar

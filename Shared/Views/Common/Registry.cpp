@@ -65,4 +65,13 @@ RXPromise<std::string> fetchInventory(const CorvelRef& corvel)
         });
 }
 
+RXPromise<XMLElement> fetchFeedWithStoredKey(const CorvelRef& corvel, std::string_view type, std::string_view schema)
+{
+    return RESTHandler::sharedInstance()
+        .login(corvel, CheckToken::No)
+        .then([corvel, type, schema](const SessionKey& key) {
+            return RESTHandler::sharedInstance().fetchDataOfType(type, corvel, schema, key);
+        });
+}
+
 } // namespace lodestar

@@ -3,8 +3,10 @@
 
 #include "Application/Model/Corvel.h"
 #include "Controllers/REST/RXPromise.h"
+#include "Controllers/REST/XMLElement.h"
 
 #include <string>
+#include <string_view>
 
 namespace lodestar
 {
@@ -29,5 +31,9 @@ void forgetSessionKeyOfUnregistered(const Corvel& corvel);
 /// Logs on to the console, marks its record online, gives it its six feeds and counts them. Rejected when the logon
 /// fails; a feed that fails is "NA".
 RXPromise<std::string> fetchInventory(const CorvelRef& corvel);
+
+/// One feed of the console, asked for with the session key that is stored for it: a key that the console no longer
+/// takes is a refusal, until the console list logs on anew. Type and schema outlive the fetch. Any thread.
+RXPromise<XMLElement> fetchFeedWithStoredKey(const CorvelRef& corvel, std::string_view type, std::string_view schema);
 
 } // namespace lodestar

@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace lodestar
 {
@@ -21,7 +22,11 @@ class RootXMLReceiving
 {
 public:
     virtual ~RootXMLReceiving() = default;
-    virtual void setRootXML(XMLElement rootXML) = 0;
+    const XMLElement& rootXML() const { return m_rootXML; }
+    virtual void setRootXML(XMLElement rootXML) { m_rootXML = std::move(rootXML); }
+
+private:
+    XMLElement m_rootXML;
 };
 
 /// A list that can narrow itself to one managed system, named despite its name by `partitionName`; none for all.

@@ -46,15 +46,15 @@ void CorvelOverviewTableViewController::viewDidLoad()
 {
     MenuTableViewController::viewDidLoad();
     setBackTitle(QStringLiteral(""));
-    setTitle(m_corvel ? QString::fromStdString(m_corvel->name().value_or("")) : QString());
+    setTitle(corvel() ? QString::fromStdString(corvel()->name().value_or("")) : QString());
 }
 
 QString CorvelOverviewTableViewController::countOf(std::string_view type) const
 {
-    if (!m_corvel || !m_corvel->restData()) {
+    if (!corvel() || !corvel()->restData()) {
         return {};
     }
-    const Feed feed = feedOfType(*m_corvel, type);
+    const Feed feed = feedOfType(*corvel(), type);
     return feed.isNA() ? tr("not loaded") : QString::number(feed.entryCount());
 }
 
@@ -70,7 +70,7 @@ MenuTableViewController::Sections CorvelOverviewTableViewController::makeSection
 
 void CorvelOverviewTableViewController::openRow(IndexPath indexPath)
 {
-    openScene(*this, sceneOf(indexPath), {.corvel = m_corvel});
+    openScene(*this, sceneOf(indexPath), {.corvel = corvel()});
 }
 
 } // namespace lodestar

@@ -14,10 +14,6 @@ class CorvelOverviewTableViewController : public lodestar::MenuTableViewControll
     QML_ELEMENT
     QML_UNCREATABLE("made by the storyboard")
 
-public:
-    const CorvelRef& corvel() const { return m_corvel; }
-    void setCorvel(CorvelRef corvel) override { m_corvel = std::move(corvel); }
-
 protected:
     void viewDidLoad() override;
     Sections makeSections() const override;
@@ -25,8 +21,6 @@ protected:
 
 private:
     QString countOf(std::string_view type) const;
-
-    CorvelRef m_corvel;
 };
 
 } // namespace lodestar

@@ -2,6 +2,7 @@
 #include "Views/Dashboard/MSOverViewController.h"
 
 #include "Controllers/REST/Feed.h"
+#include "Views/Common/CellText.h"
 
 namespace lodestar
 {
@@ -11,11 +12,6 @@ namespace
 constexpr auto performanceScene = "pcmDataView";
 constexpr auto partitionsScene = "logicalPartitionsView";
 constexpr auto informationScene = "managedSystemInfo";
-
-QString textOf(const XMLElement& element)
-{
-    return QString::fromStdString(element.text().value_or(""));
-}
 
 } // namespace
 
@@ -35,7 +31,7 @@ MenuTableViewController::Sections MSOverViewController::makeSections() const
 {
     // The resting row says which system the menu is for.
     return {{{tr("Performance Monitoring"), "performance", performanceScene}},
-            {{textOf(m_system.child("SystemName")), "managed_systems", "", textOf(m_system.child("State"))},
+            {{textOf(system().child("SystemName")), "managed_systems", "", textOf(system().child("State"))},
              {tr("Logical Partitions"), "logical_partitions", partitionsScene}},
             {{tr("System Information"), "info", informationScene}}};
 }
@@ -43,11 +39,11 @@ MenuTableViewController::Sections MSOverViewController::makeSections() const
 void MSOverViewController::openRow(IndexPath indexPath)
 {
     if (indexPath == IndexPath{0, 0}) {
-        openScene(*this, performanceScene, {.corvel = m_corvel, .systemID = systemIDAtRow(indexPath.row)});
+        openScene(*this, performanceScene, {.corvel = corvel(), .systemID = systemIDAtRow(indexPath.row)});
     } else if (indexPath == IndexPath{1, 1}) {
-        openScene(*this, partitionsScene, {.corvel = m_corvel, .partitionName = m_system.child("SystemName").text()});
+        openScene(*this, partitionsScene, {.corvel = corvel(), .partitionName = system().child("SystemName").text()});
     } else if (indexPath == IndexPath{2, 0}) {
-        openScene(*this, informationScene, {.rootXML = m_system});
+        openScene(*this, informationScene, {.rootXML = system()});
     }
 }
 
@@ -55,7 +51,7 @@ std::optional<std::string> MSOverViewController::systemIDAtRow(int row) const
 {
     // By the selected row, which here is always the first: the feed's first system is charted, whichever system the
     // menu is for. That is meant.
-    const Feed feed = m_corvel ? feedOfType(*m_corvel, ObjectType::ManagedSystem) : Feed::notAvailable();
+    const Feed feed = corvel() ? feedOfType(*corvel(), ObjectType::ManagedSystem) : Feed::notAvailable();
     const std::vector<XMLElement> entries = feed.entries();
     if (static_cast<std::size_t>(row) >= entries.size()) {
         return {};

@@ -41,12 +41,9 @@ class MSOverViewController : public lodestar::MenuTableViewController, public Co
     Q_PROPERTY(QList<lodestar::GaugeFigure> gauges READ gauges CONSTANT)
 
 public:
-    const CorvelRef& corvel() const { return m_corvel; }
-    void setCorvel(CorvelRef corvel) override { m_corvel = std::move(corvel); }
-    const XMLElement& system() const { return m_system; }
-    void setSystem(XMLElement system) { m_system = std::move(system); }
-    /// The same, for openers that do not know this screen.
-    void setRootXML(XMLElement rootXML) override { setSystem(std::move(rootXML)); }
+    /// The element that the screen was opened with.
+    const XMLElement& system() const { return rootXML(); }
+    void setSystem(XMLElement system) { setRootXML(std::move(system)); }
 
     /// An ornament: the figures are fixed and say nothing of the system. That the two overlap is meant.
     QList<GaugeFigure> gauges() const;
@@ -58,9 +55,6 @@ protected:
 
 private:
     std::optional<std::string> systemIDAtRow(int row) const;
-
-    CorvelRef m_corvel;
-    XMLElement m_system;
 };
 
 } // namespace lodestar

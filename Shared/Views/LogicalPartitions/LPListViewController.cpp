@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/LogicalPartitions/LPListViewController.h"
 
+#include "Views/Common/CellText.h"
+
 #include <QCoreApplication>
 
 namespace lodestar
@@ -27,11 +29,6 @@ constexpr GroupedListTraits traits = {
     .nameless = Nameless::Grouped,
     .detailScene = "logicalPartitionsDetail",
 };
-
-QString textOf(const XMLElement& partition, std::string_view name)
-{
-    return QString::fromStdString(partition.child(name).text().value_or(""));
-}
 
 } // namespace
 
@@ -75,8 +72,8 @@ XMLElement LPListViewController::partitionAt(TableKind tableView, IndexPath inde
 
 void LPListViewController::completeCell(PartitionCell& cell, const XMLElement& partition) const
 {
-    cell.setType(textOf(partition, "PartitionType"));
-    cell.setReferenceCode(textOf(partition, "ReferenceCode"));
+    cell.setType(textOf(partition.child("PartitionType")));
+    cell.setReferenceCode(textOf(partition.child("ReferenceCode")));
 }
 
 } // namespace lodestar

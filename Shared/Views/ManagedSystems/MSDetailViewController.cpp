@@ -2,6 +2,7 @@
 #include "Views/ManagedSystems/MSDetailViewController.h"
 
 #include "Controllers/REST/RESTSupport.h"
+#include "Views/Common/CellText.h"
 #include "Views/Common/ScreenLog.h"
 
 #include <QDesktopServices>
@@ -29,14 +30,14 @@ MSDetailViewController::MSDetailViewController()
 void MSDetailViewController::viewDidLoad()
 {
     screenLog.write(23, "viewDidLoad", "MSDetailViewController instantiation");
-    setTitle(QString::fromStdString(m_rootXML.child("SystemName").text().value_or("")));
+    setTitle(textOf(rootXML().child("SystemName")));
     setBackTitle(QStringLiteral(""));
     populateSystemDetails();
 }
 
 void MSDetailViewController::populateSystemDetails()
 {
-    const auto text = [this](std::string_view name) { return m_rootXML.child(name).text(); };
+    const auto text = [this](std::string_view name) { return rootXML().child(name).text(); };
     // The prefix is another screen's, and stays: logs are searched for these lines.
     screenLog.write(47, populate, "DeltaCorvelViewController: Fetching Main Items");
     DetailSection main{{row(tr("IP Address"), text("PrimaryIPAddress")), row(tr("Status"), text("State")),
@@ -44,18 +45,15 @@ void MSDetailViewController::populateSystemDetails()
                         row(tr("Attention LED On"), text("PhysicalSystemAttentionLEDState"))}};
 
     screenLog.write(58, populate, "DeltaCorvelViewController: Fetching MTSM");
-    const XMLElement model = m_rootXML.child("MachineTypeModelAndSerialNumber");
-    DetailSection serial{{row(tr("Serial Number"), model.child("SerialNumber").text()),
-                          row(tr("Machine Type"), model.child("MachineType").text()),
-                          row(tr("Model"), model.child("Model").text())}};
+    DetailSection serial = modelAndSerial(rootXML());
 
     screenLog.write(69, populate, "DeltaCorvelViewController: Fetching Processor Information");
     const auto units =
-        m_rootXML.path({"AssociatedSystemProcessorConfiguration", "ConfigurableSystemProcessorUnits"}).text();
+        rootXML().path({"AssociatedSystemProcessorConfiguration", "ConfigurableSystemProcessorUnits"}).text();
     DetailSection processor{{row(tr("Available Processing Units"), units)}};
 
     screenLog.write(78, populate, "DeltaCorvelViewController: Fetching Memory Information");
-    const auto memory = m_rootXML.path({"AssociatedSystemMemoryConfiguration", "ConfigurableSystemMemory"}).text();
+    const auto memory = rootXML().path({"AssociatedSystemMemoryConfiguration", "ConfigurableSystemMemory"}).text();
     DetailSection memorySection{{row(tr("Available Memory"), shownText(memory) + " MB")}};
 
     setTableData({std::move(main), std::move(serial), std::move(processor), std::move(memorySection)});

@@ -17,8 +17,6 @@ class MSDetailViewController : public lodestar::DetailViewController, public Roo
 public:
     MSDetailViewController();
 
-    const XMLElement& rootXML() const { return m_rootXML; }
-    void setRootXML(XMLElement rootXML) override { m_rootXML = std::move(rootXML); }
     void populateSystemDetails();
 
     /// Where a reference code is documented. Its base address is chosen when the program is built
@@ -29,9 +27,6 @@ protected:
     void viewDidLoad() override;
     bool leadsOn(IndexPath indexPath) const override;
     void openRow(IndexPath indexPath) override;
-
-private:
-    XMLElement m_rootXML;
 };
 
 } // namespace lodestar

@@ -3,10 +3,10 @@
 
 #include "Controllers/REST/XMLElement.h"
 #include "Kit/Core/UIColor+Tessel.h"
-
-#include <QStringList>
+#include "Views/Common/CellText.h"
 
 #include <string>
+#include <utility>
 
 namespace lodestar
 {
@@ -28,7 +28,7 @@ MSListCell::MSListCell(const XMLElement& system, const QString& match)
         m_statusImage = {QString::fromLatin1(badge), false};
         m_nameLeftConstraint = nameLeftBesideBadge;
     }
-    m_nameLabel.text = QString::fromStdString(system.child("SystemName").text().value_or(""));
+    m_nameLabel.text = textOf(system.child("SystemName"));
     m_nameLabel.match = match;
     m_statusLabel.text = QString::fromStdString(state);
     const bool isOperating = state == "operating";
@@ -45,9 +45,8 @@ QString MSListCell::accessibleText() const
     if (m_isLEDLit) {
         parts << tr("attention LED on");
     }
-    parts.removeAll(QString());
     parts.removeDuplicates();
-    return parts.join(QStringLiteral(", "));
+    return spoken(std::move(parts));
 }
 
 } // namespace lodestar

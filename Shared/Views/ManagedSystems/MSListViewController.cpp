@@ -51,13 +51,7 @@ QList<SwipeButton> makeRightButtons()
 
 } // namespace
 
-MSListViewController::MSListViewController() : FeedListViewController(traits) {}
-
-void MSListViewController::emptyLists()
-{
-    m_MSList.clear();
-    m_filteredMSList.clear();
-}
+MSListViewController::MSListViewController() : FlatListViewController(traits) {}
 
 void MSListViewController::showFeed(const XMLElement& feedRoot)
 {
@@ -69,43 +63,18 @@ void MSListViewController::showFeed(const XMLElement& feedRoot)
 void MSListViewController::createMSList()
 {
     log().write(197, "createMSList", "MSListViewController: Creating Managed System List");
-    ElementList systems;
-    const Feed stored = feed();
-    for (const XMLElement& entry : stored.entries()) {
-        // An entry of another type is no system.
-        XMLElement system = entry.path({"content", ObjectType::ManagedSystem});
-        if (system) {
-            const std::string name = system.child("SystemName").text().value_or("");
-            systems.append(std::move(system), name);
-        }
-    }
-    onMainThread<MSListViewController>([systems = std::move(systems)](MSListViewController& screen) mutable {
-        screen.m_MSList.append(std::move(systems));
-        screen.tableView()->reloadData();
-    });
+    appendStoredFeed();
+    tableView()->reloadData();
 }
 
-void MSListViewController::filterContentForSearchText(const QString& searchText, const QString& /*scope*/)
+std::string MSListViewController::searchTextOf(const XMLElement& system) const
 {
-    m_filteredMSList = m_MSList.containing(searchText.toStdString());
-}
-
-int MSListViewController::numberOfRowsInSection(TableKind tableView, int /*section*/) const
-{
-    if (m_MSList.empty() || feed().isNA()) {
-        return 0;
-    }
-    return static_cast<int>(tableView == TableKind::SearchResults ? m_filteredMSList.size() : m_MSList.size());
-}
-
-XMLElement MSListViewController::systemAt(TableKind tableView, int row) const
-{
-    return elementAt(tableView == TableKind::SearchResults ? m_filteredMSList : m_MSList.elements(), row);
+    return system.child("SystemName").text().value_or("");
 }
 
 QVariant MSListViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)
 {
-    MSListCell cell(systemAt(tableView, indexPath.row), matchFor(tableView));
+    MSListCell cell(elementAtRow(tableView, indexPath.row), matchFor(tableView));
     cell.setRightButtons(makeRightButtons());
     return QVariant::fromValue(cell);
 }
@@ -119,9 +88,9 @@ void MSListViewController::didSelectRowAtIndexPath(TableKind tableView, IndexPat
                            {tr("Cancel")}},
                           cancelItem, [this, tableView, indexPath](int index) {
                               // Taken again: the list may have come anew while the sheet was up.
-                              openItem(index, systemAt(tableView, indexPath.row));
+                              openItem(index, elementAtRow(tableView, indexPath.row));
                           });
-    (tableView == TableKind::SearchResults ? searchResultsTableView() : this->tableView())->deselectRow(indexPath);
+    table(tableView).deselectRow(indexPath);
 }
 
 void MSListViewController::openItem(int index, const XMLElement& system)
@@ -149,7 +118,7 @@ void MSListViewController::openItem(int index, const XMLElement& system)
 
 bool MSListViewController::tappedButtonAtIndex(TableKind tableView, int row, int index)
 {
-    const XMLElement system = systemAt(tableView, row);
+    const XMLElement system = elementAtRow(tableView, row);
     if (index == menuButton && system) {
         openScene(*this, menuScene, {.corvel = corvel(), .rootXML = system});
     }

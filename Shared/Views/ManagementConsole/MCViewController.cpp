@@ -3,6 +3,7 @@
 
 #include "Controllers/REST/RESTHandler.h"
 #include "Views/Common/FeedTimeStamp.h"
+#include "Views/Common/Registry.h"
 #include "Views/Common/ScreenLog.h"
 
 #include <utility>
@@ -35,12 +36,12 @@ void MCViewController::viewDidLoad()
 
 void MCViewController::fetchSystemInformation()
 {
-    if (m_corvel && !m_corvel->completedFetch) {
+    if (corvel() && !corvel()->completedFetch) {
         m_fetchingActivityIndicator.startAnimating();
         fetchAfresh();
         return;
     }
-    const Feed stored = m_corvel ? feedOfType(*m_corvel, ObjectType::ManagementConsole) : Feed::notAvailable();
+    const Feed stored = corvel() ? feedOfType(*corvel(), ObjectType::ManagementConsole) : Feed::notAvailable();
     if (stored.isNA()) {
         m_header.setHeaderTitle(tr("Console Data"), tr("N/A"));
         return;
@@ -51,14 +52,10 @@ void MCViewController::fetchSystemInformation()
 void MCViewController::fetchAfresh()
 {
     const auto screen = self<MCViewController>();
-    RESTHandler::sharedInstance()
-        .login(m_corvel, CheckToken::No)
-        .then([corvel = m_corvel](const SessionKey& key) {
-            return RESTHandler::sharedInstance().fetchDataOfType(ObjectType::ManagementConsole, corvel, "uom", key);
-        })
+    fetchFeedWithStoredKey(corvel(), ObjectType::ManagementConsole, "uom")
         .thenOnMain(
             [screen](const XMLElement& feedRoot) {
-                setFeedOfType(*screen->m_corvel, ObjectType::ManagementConsole, Feed(feedRoot));
+                setFeedOfType(*screen->corvel(), ObjectType::ManagementConsole, Feed(feedRoot));
                 screen->populateTableViewFromXML(feedRoot);
                 return std::string("OK");
             },
@@ -85,10 +82,7 @@ void MCViewController::populateTableViewFromXML(const XMLElement& feedRoot)
     DetailSection main{{row(tr("Console Name"), console.child("ManagementConsoleName").text())}};
 
     screenLog.write(144, populate, "MCViewController: Fetching MTSM");
-    const XMLElement model = console.child("MachineTypeModelAndSerialNumber");
-    DetailSection serial{{row(tr("Serial Number"), model.child("SerialNumber").text()),
-                          row(tr("Machine Type"), model.child("MachineType").text()),
-                          row(tr("Model"), model.child("Model").text())}};
+    DetailSection serial = modelAndSerial(console);
 
     // The line says processors and introduces the version.
     screenLog.write(156, populate, "MCViewController: Fetching processor information");

@@ -24,8 +24,6 @@ class MCViewController : public lodestar::DetailViewController, public CorvelRec
 public:
     MCViewController();
 
-    const CorvelRef& corvel() const { return m_corvel; }
-    void setCorvel(CorvelRef corvel) override { m_corvel = std::move(corvel); }
     TitleHeader* header() { return &m_header; }
     /// Shown when the fetch failed.
     LabelOutlet* contentLabel() { return &m_contentLabel; }
@@ -41,7 +39,6 @@ protected:
 private:
     void fetchAfresh();
 
-    CorvelRef m_corvel;
     TitleHeader m_header;
     LabelOutlet m_contentLabel;
     IndicatorOutlet m_fetchingActivityIndicator;

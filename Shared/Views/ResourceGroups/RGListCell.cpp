@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/ResourceGroups/RGListCell.h"
 
-#include <QStringList>
+#include "Views/Common/CellText.h"
 
 #include <algorithm>
 #include <array>
+#include <utility>
 
 namespace lodestar
 {
@@ -77,8 +78,7 @@ QString RGListCell::accessibleText() const
     parts << m_resourceCountLabel.text
           << tr("%1 good, %2 off, %3 alert, %4 error")
                  .arg(m_goodCountLabel.text, m_offCountLabel.text, m_alertCountLabel.text, m_errorCountLabel.text);
-    parts.removeAll(QString());
-    return parts.join(QStringLiteral(", "));
+    return spoken(std::move(parts));
 }
 
 } // namespace lodestar

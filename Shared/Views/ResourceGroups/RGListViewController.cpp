@@ -2,6 +2,7 @@
 #include "Views/ResourceGroups/RGListViewController.h"
 
 #include "Controllers/REST/RESTHandler.h"
+#include "Views/Common/CellText.h"
 #include "Views/Common/ElementList.h"
 
 #include <QCoreApplication>
@@ -61,7 +62,7 @@ QVariant RGListViewController::cellForRowAtIndexPath(TableKind /*tableView*/, In
     const std::vector<XMLElement> systems = links("AssociatedManagedSystems");
 
     RGListCell cell;
-    cell.setGroupName(QString::fromStdString(group.child("GroupName").text().value_or("")));
+    cell.setGroupName(textOf(group.child("GroupName")));
     cell.setGroupColor(group.child("GroupColor").text().value_or(""));
     RGStateCounts counters;
     processStates(partitions, counters, LinkKind::Partition);

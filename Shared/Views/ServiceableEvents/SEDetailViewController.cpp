@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/ServiceableEvents/SEDetailViewController.h"
 
+#include "Views/Common/CellText.h"
 #include "Views/Common/ScreenLog.h"
 
 #include <QDateTime>
@@ -17,12 +18,6 @@ namespace
 {
 
 constexpr ScreenLog screenLog("Shared/Views/ServiceableEvents/SEDetailViewController");
-
-// An absent text is an empty value here, not "(null)".
-QString textOf(const XMLElement& element)
-{
-    return QString::fromStdString(element.text().value_or(""));
-}
 
 /// The decimal number that the text starts with; 0 for none.
 double decimalNumber(std::string_view text)
@@ -78,7 +73,7 @@ void SEDetailViewController::viewDidLoad()
 void SEDetailViewController::populateEventDetails()
 {
     std::vector<DetailSection> sections = {mainInformation()};
-    for (const XMLElement& unit : m_rootXML.child("fieldReplaceableUnits").children("FieldReplaceableUnit")) {
+    for (const XMLElement& unit : rootXML().child("fieldReplaceableUnits").children("FieldReplaceableUnit")) {
         sections.push_back(unitInformation(unit));
     }
     setTableData(std::move(sections));
@@ -86,10 +81,11 @@ void SEDetailViewController::populateEventDetails()
 
 DetailSection SEDetailViewController::mainInformation() const
 {
-    const auto text = [this](auto... names) { return textOf(m_rootXML.path({names...})); };
-    const auto time = [this](const char* name) { return eventTime(m_rootXML.child(name)); };
+    // An absent text is an empty value here, not "(null)".
+    const auto text = [this](auto... names) { return textOf(rootXML().path({names...})); };
+    const auto time = [this](const char* name) { return eventTime(rootXML().child(name)); };
     const auto model = [this](const char* node) {
-        return textOf(m_rootXML.path({node, "managedTypeModelSerial", "Model"}));
+        return textOf(rootXML().path({node, "managedTypeModelSerial", "Model"}));
     };
     return {{
         row(tr("Problem Number"), text("problemNumber")),

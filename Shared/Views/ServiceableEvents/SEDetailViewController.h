@@ -18,8 +18,6 @@ class SEDetailViewController : public lodestar::DetailViewController, public Roo
 public:
     SEDetailViewController();
 
-    const XMLElement& rootXML() const { return m_rootXML; }
-    void setRootXML(XMLElement rootXML) override { m_rootXML = std::move(rootXML); }
     void populateEventDetails();
 
 protected:
@@ -28,8 +26,6 @@ protected:
 private:
     DetailSection mainInformation() const;
     DetailSection unitInformation(const XMLElement& unit) const;
-
-    XMLElement m_rootXML;
 };
 
 } // namespace lodestar

@@ -2,8 +2,7 @@
 #include "Views/ServiceableEvents/SEListCell.h"
 
 #include "Controllers/REST/XMLElement.h"
-
-#include <QStringList>
+#include "Views/Common/CellText.h"
 
 namespace lodestar
 {
@@ -12,14 +11,12 @@ SEListCell::SEListCell(const XMLElement& event, const QString& match)
 {
     m_titleLabel.text = QString::fromStdString(title(event));
     m_titleLabel.match = match;
-    m_timeLabel.text = QString::fromStdString(event.child("lastReportedTimestamp").text().value_or(""));
+    m_timeLabel.text = textOf(event.child("lastReportedTimestamp"));
 }
 
 QString SEListCell::accessibleText() const
 {
-    QStringList parts = {m_titleLabel.text, m_timeLabel.text};
-    parts.removeAll(QString());
-    return parts.join(QStringLiteral(", "));
+    return spoken({m_titleLabel.text, m_timeLabel.text});
 }
 
 std::string SEListCell::title(const XMLElement& event)

@@ -35,13 +35,7 @@ constexpr FeedListTraits traits = {
 
 } // namespace
 
-SEListViewController::SEListViewController() : FeedListViewController(traits) {}
-
-void SEListViewController::emptyLists()
-{
-    m_SEList.clear();
-    m_filteredSEList.clear();
-}
+SEListViewController::SEListViewController() : FlatListViewController(traits) {}
 
 void SEListViewController::showFeed(const XMLElement& feedRoot)
 {
@@ -52,33 +46,13 @@ void SEListViewController::showFeed(const XMLElement& feedRoot)
 void SEListViewController::createSEList()
 {
     log().write(185, "createSEList", "SEListViewController: Creating SE list");
-    ElementList events;
-    const Feed stored = feed();
-    for (const XMLElement& entry : stored.entries()) {
-        // An entry of another type is no event.
-        XMLElement event = entry.path({"content", ObjectType::ServiceableEvent});
-        if (event) {
-            const std::string title = SEListCell::title(event);
-            events.append(std::move(event), title);
-        }
-    }
-    onMainThread<SEListViewController>([events = std::move(events)](SEListViewController& screen) mutable {
-        screen.m_SEList.append(std::move(events));
-    });
+    appendStoredFeed();
     UIShowContent();
 }
 
-void SEListViewController::filterContentForSearchText(const QString& searchText, const QString& /*scope*/)
+std::string SEListViewController::searchTextOf(const XMLElement& event) const
 {
-    m_filteredSEList = m_SEList.containing(searchText.toStdString());
-}
-
-int SEListViewController::numberOfRowsInSection(TableKind tableView, int /*section*/) const
-{
-    if (m_SEList.empty() || feed().isNA()) {
-        return 0;
-    }
-    return static_cast<int>(tableView == TableKind::SearchResults ? m_filteredSEList.size() : m_SEList.size());
+    return SEListCell::title(event);
 }
 
 QVariant SEListViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)
@@ -88,9 +62,7 @@ QVariant SEListViewController::cellForRowAtIndexPath(TableKind tableView, IndexP
         setHeaderTitle(QCoreApplication::translate("FeedListViewController", traits.title), tr("N/A"));
         return QVariant::fromValue(SEListCell());
     }
-    const std::vector<XMLElement>& events =
-        tableView == TableKind::SearchResults ? m_filteredSEList : m_SEList.elements();
-    return QVariant::fromValue(SEListCell(elementAt(events, indexPath.row), matchFor(tableView)));
+    return QVariant::fromValue(SEListCell(elementAtRow(tableView, indexPath.row), matchFor(tableView)));
 }
 
 void SEListViewController::didSelectRowAtIndexPath(TableKind /*tableView*/, IndexPath indexPath)

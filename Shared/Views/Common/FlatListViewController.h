@@ -1,0 +1,46 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Views/Common/ElementList.h"
+#include "Views/Common/FeedListViewController.h"
+
+#include <string>
+#include <vector>
+
+namespace lodestar
+{
+
+/// A list of one section: the feed's elements, in the order of the feed. Nothing is sorted.
+///
+/// A screen of this kind overrides `showFeed`, which calls `appendStoredFeed`, and `searchTextOf`.
+class FlatListViewController : public lodestar::FeedListViewController
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the storyboard")
+
+public:
+    using FeedListViewController::FeedListViewController;
+
+    void filterContentForSearchText(const QString& searchText, const QString& scope) override;
+    int numberOfRowsInSection(TableKind tableView, int section) const override;
+
+protected:
+    void emptyLists() override;
+    /// Puts the elements of the stored feed behind those that are listed. It does not clear: a fetch that ends while
+    /// another is under way lists its elements behind the other's. Any thread.
+    void appendStoredFeed();
+    /// What an element's row is searched by. Any thread.
+    virtual std::string searchTextOf(const XMLElement& element) const = 0;
+
+    const std::vector<XMLElement>& elements() const { return m_list.elements(); }
+    const std::vector<XMLElement>& filteredElements() const { return m_filteredList; }
+    /// What stands in a row of that table; no element for a row that is not there.
+    XMLElement elementAtRow(TableKind tableView, int row) const;
+
+private:
+    ElementList m_list;
+    std::vector<XMLElement> m_filteredList;
+};
+
+} // namespace lodestar
