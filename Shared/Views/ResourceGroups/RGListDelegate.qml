@@ -6,18 +6,22 @@ import Lodestar.Kit
 import Lodestar.Views
 
 /// A resource group's row: tag and name, how many resources at the end, and below four counts that stand in columns. With
-/// large text the number of resources stands below the name, and the columns break into lines where they do not fit.
+/// large text, and sooner where a row is narrow for its text, the number of resources stands below the name, and the
+/// columns break into lines where they do not fit.
 TableCell {
     id: row
 
     required property rgListCell cell
 
     readonly property real scale100: Theme.textScale
-    readonly property bool stacked: Theme.stacked
+    readonly property bool stacked: Theme.stacked || room < leastRoom
     readonly property real tagSize: Math.round(28 * Theme.badgeScale)
     /// The drawing's own margin hangs out, so that the tag's ink starts where other rows' text does.
     readonly property real tagStart: Theme.rowStart - 2
     readonly property real textStart: tagStart + tagSize + 14
+    readonly property real room: width - textStart - Theme.rowEnd
+    /// For a name and a number beside it: a line of less cuts most names.
+    readonly property real leastRoom: 14 * Theme.bodySize * scale100
 
     accessibleText: cell.accessibleText
     selectable: false
@@ -34,7 +38,7 @@ TableCell {
 
         implicitWidth: shape.width + gap + number.implicitWidth
         implicitHeight: number.height
-        readonly property real gap: row.stacked ? 10 : 6
+        readonly property real gap: Theme.stacked ? 10 : 6
 
         StateMark {
             id: shape
