@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/Queues/MainQueue.h"
-#include "Platform/URLLoading/ServerTrust.h"
-#include "Simulator/SimulatorProcess.h"
 #include "Tests/Views/ListFixture.h"
+#include "Views/Common/Registry.h"
 #include "Views/LogicalPartitions/LPDetailViewController.h"
 #include "Views/LogicalPartitions/LPListViewController.h"
 #include "Views/VIOS/VIOSDetailViewController.h"
@@ -30,12 +28,6 @@ constexpr auto partitionsFile = "Shared/Views/LogicalPartitions/LPListViewContro
 constexpr auto serversFile = "Shared/Views/VIOS/VIOSViewController";
 constexpr auto Main = TableKind::Main;
 constexpr auto Results = TableKind::SearchResults;
-
-std::string entry(const std::string& type, const std::string& inner)
-{
-    return "<entry><published>2026-07-03T10:25:00.000Z</published><content><" + type + ">" + inner + "</" + type +
-           "></content></entry>";
-}
 
 std::string named(const std::string& name, const std::string& state = "running")
 {
@@ -190,21 +182,13 @@ protected:
     void SetUp() override
     {
         ListTest::SetUp();
-        ServerTrust::shared().forgetAll();
         simulator::Settings settings;
         settings.systems = 3;
         fleet.start(settings);
-        corvel = addCorvel("Harbour A", fleet.address(0));
-        corvel->setUsername(fleet.user());
-        corvel->setPassword(fleet.password());
+        corvel = addLoggedOn(fleet);
         std::optional<XMLElement> feed;
         const auto keep = [&feed](const XMLElement& root) { feed = root; };
-        RESTHandler::sharedInstance()
-            .login(corvel, CheckToken::Yes)
-            .then([corvel = corvel](const SessionKey& key) {
-                return RESTHandler::sharedInstance().fetchDataOfType("ManagedSystem", corvel, "uom", key);
-            })
-            .thenOnMain(keep);
+        fetchFeedWithStoredKey(corvel, "ManagedSystem", "uom").thenOnMain(keep);
         ASSERT_TRUE(runUntil([&] { return feed.has_value(); }));
         for (const XMLElement& entry : feed->children("entry")) {
             const XMLElement system = entry.path({"content", "ManagedSystem"});

@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Controllers/REST/RESTHandler.h"
 #include "Kit/Core/Storyboard.h"
+#include "Platform/URLLoading/ServerTrust.h"
+#include "Simulator/SimulatorProcess.h"
 #include "Tests/Views/ViewsFixture.h"
 #include "Views/Common/CorvelReceiving.h"
 #include "Views/Common/FeedListViewController.h"
@@ -27,12 +30,18 @@ public:
 };
 
 /// A feed's entry.
+inline std::string entry(const std::string& type, const std::string& inner)
+{
+    return "<entry><published>2026-07-03T10:25:00.000Z</published><content><" + type + ">" + inner + "</" + type +
+           "></content></entry>";
+}
+
 inline std::string system(const std::string& name, const std::string& state, const std::string& led = "false",
                           const std::string& rest = "")
 {
-    return "<entry><published>2026-07-03T10:25:00.000Z</published><content><ManagedSystem><SystemName>" + name +
-           "</SystemName><State>" + state + "</State><PhysicalSystemAttentionLEDState>" + led +
-           "</PhysicalSystemAttentionLEDState>" + rest + "</ManagedSystem></content></entry>";
+    return entry("ManagedSystem", "<SystemName>" + name + "</SystemName><State>" + state +
+                                      "</State><PhysicalSystemAttentionLEDState>" + led +
+                                      "</PhysicalSystemAttentionLEDState>" + rest);
 }
 
 /// The lines' numbers; each is to be of level 2, without a tag.
@@ -94,6 +103,17 @@ protected:
         const CorvelRef corvel = addCorvel("Harbour A", "127.0.0.1", true);
         corvel->setRestData(feeds(byType));
         corvel->completedFetch = true;
+        return corvel;
+    }
+    /// A simulated console that has been logged on to and not yet fetched.
+    static CorvelRef addLoggedOn(const simulator::SimulatorProcess& fleet)
+    {
+        ServerTrust::shared().forgetAll();
+        const CorvelRef corvel = addCorvel("Harbour A", fleet.address(0));
+        corvel->setUsername(fleet.user());
+        corvel->setPassword(fleet.password());
+        const auto logon = RESTHandler::sharedInstance().login(corvel, CheckToken::Yes);
+        EXPECT_TRUE(runUntil([&] { return logon.isFulfilled(); }));
         return corvel;
     }
     static bool hasContent(FeedListViewController& list)

@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/RESTHandler.h"
 #include "Kit/Core/UIColor+Tessel.h"
-#include "Platform/URLLoading/ServerTrust.h"
-#include "Simulator/SimulatorProcess.h"
 #include "Tests/Views/ListFixture.h"
 #include "Views/ManagedSystems/MSListCell.h"
 #include "Views/ManagedSystems/MSListViewController.h"
@@ -243,13 +240,8 @@ TEST_F(ManagedSystemsTest, TheSheetOpensTheSystemOfTheTableThatWasTapped)
 /// Against a console that refuses.
 TEST_F(ManagedSystemsTest, ARefusedFetchIsLoggedAndKeepsTheStoredFeed)
 {
-    ServerTrust::shared().forgetAll();
     simulator::SimulatorProcess fleet{simulator::Settings{}};
-    const CorvelRef corvel = addCorvel("Harbour A", fleet.address(0));
-    corvel->setUsername(fleet.user());
-    corvel->setPassword(fleet.password());
-    const auto logon = RESTHandler::sharedInstance().login(corvel, CheckToken::Yes);
-    ASSERT_TRUE(runUntil([&] { return logon.isFulfilled(); }));
+    const CorvelRef corvel = addLoggedOn(fleet);
     const auto list = openList(corvel);
     ASSERT_TRUE(hasContent(*list));
     const auto count = static_cast<std::size_t>(list->tableView()->count());

@@ -1,7 +1,4 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/RESTHandler.h"
-#include "Platform/URLLoading/ServerTrust.h"
-#include "Simulator/SimulatorProcess.h"
 #include "Tests/Views/ListFixture.h"
 #include "Views/ResourceGroups/RGListCell.h"
 #include "Views/ResourceGroups/RGListViewController.h"
@@ -22,9 +19,9 @@ std::string group(const std::string& name, const std::string& color, int partiti
         }
         return xml + "<other/></" + list + ">";
     };
-    return "<entry><published>2026-07-03T10:25:00.000Z</published><content><Group><GroupName>" + name +
-           "</GroupName><GroupColor>" + color + "</GroupColor>" + links("AssociatedLogicalPartitions", partitions) +
-           links("AssociatedManagedSystems", systems) + "</Group></content></entry>";
+    return entry("Group", "<GroupName>" + name + "</GroupName><GroupColor>" + color + "</GroupColor>" +
+                              links("AssociatedLogicalPartitions", partitions) +
+                              links("AssociatedManagedSystems", systems));
 }
 
 class ResourceGroupsTest : public ListTest
@@ -126,11 +123,8 @@ std::map<std::string, std::string> statesOf(const Corvel& corvel)
 
 TEST_F(ResourceGroupsTest, EachConfigurationOfARowAsksForEveryStateAnew)
 {
-    ServerTrust::shared().forgetAll();
     simulator::SimulatorProcess fleet{simulator::Settings{}};
-    const CorvelRef corvel = addCorvel("Harbour A", fleet.address(0));
-    corvel->setUsername(fleet.user());
-    corvel->setPassword(fleet.password());
+    const CorvelRef corvel = addLoggedOn(fleet);
     const auto fetched =
         RESTHandler::sharedInstance().login(corvel, CheckToken::Yes).then([corvel](const SessionKey& key) {
             return RESTHandler::sharedInstance().fetchAllDataForCorvel(corvel, key);

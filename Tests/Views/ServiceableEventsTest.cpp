@@ -1,7 +1,4 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/RESTHandler.h"
-#include "Platform/URLLoading/ServerTrust.h"
-#include "Simulator/SimulatorProcess.h"
 #include "Tests/Views/ListFixture.h"
 #include "Views/ServiceableEvents/SEDetailViewController.h"
 #include "Views/ServiceableEvents/SEListCell.h"
@@ -21,9 +18,9 @@ constexpr auto listFile = "Shared/Views/ServiceableEvents/SEListViewController";
 
 std::string event(const std::string& number, const std::string& approval, const std::string& lastReported)
 {
-    return "<entry><published>2026-07-03T10:25:00.000Z</published><content><ServiceableEvent><problemNumber>" + number +
-           "</problemNumber><ApprovalState>" + approval + "</ApprovalState><lastReportedTimestamp>" + lastReported +
-           "</lastReportedTimestamp></ServiceableEvent></content></entry>";
+    return entry("ServiceableEvent", "<problemNumber>" + number + "</problemNumber><ApprovalState>" + approval +
+                                         "</ApprovalState><lastReportedTimestamp>" + lastReported +
+                                         "</lastReportedTimestamp>");
 }
 
 const std::string otherEntry = "<entry><content><Other/></content></entry>";
@@ -119,13 +116,8 @@ TEST_F(ServiceableEventsTest, ARowAskedForWithoutAFeedSaysSoInTheHeader)
 /// Against a real console, first well, then refusing.
 TEST_F(ServiceableEventsTest, ThePullEndsWithItsFetchAndEveryFetchFailsUnderItsOwnName)
 {
-    ServerTrust::shared().forgetAll();
     simulator::SimulatorProcess fleet{simulator::Settings{}};
-    const CorvelRef corvel = addCorvel("Harbour A", fleet.address(0));
-    corvel->setUsername(fleet.user());
-    corvel->setPassword(fleet.password());
-    const auto key = RESTHandler::sharedInstance().login(corvel, CheckToken::Yes);
-    ASSERT_TRUE(runUntil([&] { return !key.isPending(); }));
+    const CorvelRef corvel = addLoggedOn(fleet);
     const auto list = open<SEListViewController>(corvel);
     ASSERT_TRUE(hasContent(*list));
     EXPECT_EQ(fleet.requests(0).back().path, "/rest/api/sem/ServiceableEvent");
