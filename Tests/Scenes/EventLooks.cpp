@@ -1,37 +1,20 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Application/Model/StoreStack.h"
 #include "Controllers/REST/Feed.h"
-#include "Controllers/REST/RESTHandler.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Scenes/Looks.h"
-#include "Views/Common/FeedListViewController.h"
 
 namespace lodestar::scenes
 {
 namespace
 {
 
-FeedListViewController& openList(SceneStage& stage, const char* scene, const CorvelRef& corvel)
-{
-    auto& list = *stage.open<FeedListViewController>(scene, {.corvel = corvel});
-    stage.waitFor([&] { return !list.fetchingActivityIndicator()->isAnimating(); });
-    stage.settle();
-    return list;
-}
-
 std::function<void(SceneStage&)> opening(const char* scene, const std::map<std::string, std::string>& feeds = {})
 {
-    return [scene, feeds](SceneStage& stage) { openList(stage, scene, demoConsole(feeds)); };
+    return [scene, feeds](SceneStage& stage) { stage.openList(scene, {.corvel = demoConsole(feeds)}); };
 }
 
 constexpr auto eventsScene = "serviceableEventsView";
 constexpr auto groupsScene = "resourceGroupsView";
-
-std::string entryOf(const std::string& type, const std::string& content)
-{
-    return "<entry><published>2026-03-12T09:41:00.000Z</published><content><" + type + ">" + content + "</" + type +
-           "></content></entry>";
-}
 
 std::string longEvents()
 {
@@ -70,12 +53,7 @@ std::vector<Look> eventLooks()
         {"serviceable-events-failed", fleet(), opening(eventsScene, {{"ServiceableEvent", ""}})},
         {"serviceable-events-empty", fleet(), opening(eventsScene, {{"ServiceableEvent", "<feed/>"}})},
         {"serviceable-events-search", fleet(),
-         [](SceneStage& stage) {
-             FeedListViewController& list = openList(stage, eventsScene, demoConsole());
-             list.showSearchBar();
-             list.searchBar()->setText("pending");
-         },
-         true},
+         [](SceneStage& stage) { search(stage.openList(eventsScene, {.corvel = demoConsole()}), "pending"); }, true},
         {"event-detail", fleet(),
          [](SceneStage& stage) { stage.open("serviceableEventsDetail", {.rootXML = demoEvent(0)}); }, true},
         {"event-detail-units", fleet(),
@@ -98,19 +76,6 @@ simulator::SimulatorProcess& console()
     settings.groups = 10;
     static simulator::SimulatorProcess process(settings);
     return process;
-}
-
-CorvelRef simulatedConsole(SceneStage& stage)
-{
-    const auto corvel = std::static_pointer_cast<Corvel>(
-        StoreStack::shared().managedObjectContext().insertNewObject(Corvel::entityName));
-    corvel->setName("Harbour A");
-    corvel->setAddress(console().address());
-    corvel->setUsername(console().user());
-    corvel->setPassword(console().password());
-    const auto key = RESTHandler::sharedInstance().login(corvel, CheckToken::Yes);
-    stage.waitFor([&] { return !key.isPending(); });
-    return corvel;
 }
 
 /// Hundreds of resources: a few of the console's own, time and again.
@@ -139,12 +104,12 @@ std::string longGroups(const Feed& groups)
 std::vector<Look> groupLooks()
 {
     return {
-        {"resource-groups", fleet(), [](SceneStage& stage) { openList(stage, groupsScene, simulatedConsole(stage)); },
-         true},
+        {"resource-groups", fleet(),
+         [](SceneStage& stage) { stage.openList(groupsScene, {.corvel = simulatedConsole(stage, console())}); }, true},
         {"resource-groups-long", fleet(),
          [](SceneStage& stage) {
-             const CorvelRef corvel = simulatedConsole(stage);
-             FeedListViewController& list = openList(stage, groupsScene, corvel);
+             const CorvelRef corvel = simulatedConsole(stage, console());
+             FeedListViewController& list = stage.openList(groupsScene, {.corvel = corvel});
              console().setFeed(0, "Group", longGroups(feedOfType(*corvel, ObjectType::Group)));
              const auto fetched = list.fetchNewRESTData();
              stage.waitFor([&] { return !fetched.isPending(); });

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Kit/Core/NavigationController.h"
 #include "Tests/Scenes/SceneTest.h"
 #include "Views/ResourceGroups/RGListViewController.h"
 #include "Views/ServiceableEvents/SEListViewController.h"
@@ -19,17 +18,7 @@ protected:
     {
         QAccessible::setActive(true);
         stage.show({390, 844}, fleet());
-        auto* const list = stage.open<List>(scene, {.corvel = demoConsole(feeds)});
-        stage.waitFor([&] { return !list->fetchingActivityIndicator()->isAnimating(); });
-        stage.settle(200);
-        return list;
-    }
-    ViewController* top() const { return stage.list().navigationController()->topViewController(); }
-    static QString spokenAs(const QQuickItem* tableRow)
-    {
-        auto* const cell = tableRow->property("swipe").value<QQuickItem*>();
-        QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(cell);
-        return spoken != nullptr ? spoken->text(QAccessible::Name) : QString();
+        return &stage.openList<List>(scene, {.corvel = demoConsole(feeds)});
     }
 };
 

@@ -3,7 +3,6 @@
 #include "Controllers/REST/RESTHandler.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Scenes/Looks.h"
-#include "Views/Common/FeedListViewController.h"
 
 #include <array>
 
@@ -24,37 +23,15 @@ simulator::SimulatorProcess& simulated()
     return process;
 }
 
-/// Logged on, its feeds not yet fetched.
-CorvelRef simulatedConsole(const SceneStage& stage)
-{
-    CorvelRef corvel = demoConsole();
-    corvel->setDemo(false);
-    corvel->setAddress(simulated().address());
-    corvel->setUsername(simulated().user());
-    corvel->setPassword(simulated().password());
-    corvel->completedFetch = false;
-    const auto logon = RESTHandler::sharedInstance().login(corvel, CheckToken::Yes);
-    stage.waitFor([&] { return !logon.isPending(); });
-    return corvel;
-}
-
-FeedListViewController& openList(SceneStage& stage, const char* scene, SceneInputs inputs)
-{
-    auto& list = *stage.open<FeedListViewController>(scene, std::move(inputs));
-    stage.waitFor([&] { return !list.fetchingActivityIndicator()->isAnimating(); });
-    stage.settle();
-    return list;
-}
-
 FeedListViewController& openPartitions(SceneStage& stage, std::optional<std::string> system = {})
 {
-    return openList(stage, "logicalPartitionsView",
-                    {.corvel = simulatedConsole(stage), .partitionName = std::move(system)});
+    return stage.openList("logicalPartitionsView",
+                          {.corvel = simulatedConsole(stage, simulated()), .partitionName = std::move(system)});
 }
 
 FeedListViewController& openServers(SceneStage& stage)
 {
-    return openList(stage, "viosView", {.corvel = simulatedConsole(stage)});
+    return stage.openList("viosView", {.corvel = simulatedConsole(stage, simulated())});
 }
 
 /// Names that fit nowhere; the last system's name is refused.
@@ -69,19 +46,12 @@ std::string longNamedPartitions(const CorvelRef& corvel)
              {"settled-archive-of-the-northern-harbour-district", "General purpose", "running", ""},
              {"q", "", "not activated", "00000000"},
              {"", "", "", ""}}) {
-        feed += "<entry><published>2026-03-12T09:41:00.000Z</published><content><LogicalPartition>"
-                "<AssociatedManagedSystem href=\"" +
-                console + "gone\"/><PartitionName>" + name + "</PartitionName><PartitionType>" + type +
-                "</PartitionType><PartitionState>" + state + "</PartitionState><ReferenceCode>" + code +
-                "</ReferenceCode></LogicalPartition></content></entry>";
+        feed += entryOf("LogicalPartition", "<AssociatedManagedSystem href=\"" + console + "gone\"/><PartitionName>" +
+                                                name + "</PartitionName><PartitionType>" + type +
+                                                "</PartitionType><PartitionState>" + state +
+                                                "</PartitionState><ReferenceCode>" + code + "</ReferenceCode>");
     }
     return feed + "</feed>";
-}
-
-void search(FeedListViewController& list, const char* text)
-{
-    list.showSearchBar();
-    list.searchBar()->setText(QString::fromLatin1(text));
 }
 
 std::string systemNameOf(const CorvelRef& corvel, std::size_t index)
@@ -111,12 +81,12 @@ std::vector<Look> partitionLooks()
          }},
         {"partitions-narrowed-empty", fleet(), [](SceneStage& stage) { openPartitions(stage, "elsewhere"); }},
         {"partitions-demo", fleet(),
-         [](SceneStage& stage) { openList(stage, "logicalPartitionsView", {.corvel = demoConsole()}); }},
+         [](SceneStage& stage) { stage.openList("logicalPartitionsView", {.corvel = demoConsole()}); }},
         {"partitions-long-names", fleet(),
          [](SceneStage& stage) {
-             const CorvelRef corvel = simulatedConsole(stage);
+             const CorvelRef corvel = simulatedConsole(stage, simulated());
              simulated().setFeed(0, "LogicalPartition", longNamedPartitions(corvel));
-             openList(stage, "logicalPartitionsView", {.corvel = corvel});
+             stage.openList("logicalPartitionsView", {.corvel = corvel});
              simulated().resetFeed(0, "LogicalPartition");
          },
          true},
@@ -128,12 +98,12 @@ std::vector<Look> partitionLooks()
          }},
         {"partitions-failed", fleet(),
          [](SceneStage& stage) {
-             openList(stage, "logicalPartitionsView", {.corvel = demoConsole({{"LogicalPartition", ""}})});
+             stage.openList("logicalPartitionsView", {.corvel = demoConsole({{"LogicalPartition", ""}})});
          },
          true},
         {"partitions-empty", fleet(),
          [](SceneStage& stage) {
-             openList(stage, "logicalPartitionsView", {.corvel = demoConsole({{"LogicalPartition", "<feed/>"}})});
+             stage.openList("logicalPartitionsView", {.corvel = demoConsole({{"LogicalPartition", "<feed/>"}})});
          }},
         {"partition-detail", fleet(), [](SceneStage& stage) { openPartitions(stage).tableView()->select(2); }, true},
     };
@@ -169,12 +139,12 @@ std::vector<Look> serverLooks()
         {"virtual-io-servers-swiped-far", fleet(), expand},
         {"virtual-io-servers-failed", fleet(),
          [](SceneStage& stage) {
-             openList(stage, "viosView", {.corvel = demoConsole({{"VirtualIOServer", ""}})});
+             stage.openList("viosView", {.corvel = demoConsole({{"VirtualIOServer", ""}})});
          },
          true},
         {"virtual-io-servers-empty", fleet(),
          [](SceneStage& stage) {
-             openList(stage, "viosView", {.corvel = demoConsole({{"VirtualIOServer", "<feed/>"}})});
+             stage.openList("viosView", {.corvel = demoConsole({{"VirtualIOServer", "<feed/>"}})});
          }},
         {"virtual-io-server-detail", fleet(), [](SceneStage& stage) { openServers(stage).tableView()->select(1); }},
     };

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Kit/Core/NavigationController.h"
 #include "Tests/Scenes/SceneTest.h"
 #include "Views/LogicalPartitions/LPDetailViewController.h"
 #include "Views/LogicalPartitions/LPListViewController.h"
@@ -19,12 +18,8 @@ protected:
     Controller* openList(std::string_view scene, SceneInputs inputs)
     {
         stage.show({390, 844}, fleet());
-        auto* const list = stage.open<Controller>(scene, std::move(inputs));
-        stage.waitFor([&] { return !list->fetchingActivityIndicator()->isAnimating(); });
-        stage.settle(200);
-        return list;
+        return &stage.openList<Controller>(scene, std::move(inputs));
     }
-    ViewController* top() const { return stage.list().navigationController()->topViewController(); }
     QQuickItem* swipe(int index) const { return row(index)->property("swipe").value<QQuickItem*>(); }
     double reveal(int index) const { return swipe(index)->property("reveal").toDouble(); }
     /// Leaves the button down.

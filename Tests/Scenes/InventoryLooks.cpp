@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Controllers/REST/Feed.h"
 #include "Tests/Scenes/Looks.h"
-#include "Views/Common/FeedListViewController.h"
 
 #include <array>
 
@@ -20,26 +19,16 @@ std::string longNamedSystems()
               "incomplete, waiting for the service processor to answer", "true"},
              {"a", "error", "false"},
              {"", "", "false"}}) {
-        feed += std::string("<entry><published>2026-03-12T09:41:00.000Z</published><content><ManagedSystem>") +
-                "<SystemName>" + name + "</SystemName><State>" + state + "</State><PhysicalSystemAttentionLEDState>" +
-                led + "</PhysicalSystemAttentionLEDState></ManagedSystem></content></entry>";
+        feed += entryOf("ManagedSystem", std::string("<SystemName>") + name + "</SystemName><State>" + state +
+                                             "</State><PhysicalSystemAttentionLEDState>" + led +
+                                             "</PhysicalSystemAttentionLEDState>");
     }
     return feed + "</feed>";
 }
 
 FeedListViewController& openSystems(SceneStage& stage, const std::map<std::string, std::string>& feeds = {})
 {
-    auto& list = *stage.open<FeedListViewController>("managedSystemsView", {.corvel = demoConsole(feeds)});
-    stage.waitFor([&] { return !list.fetchingActivityIndicator()->isAnimating(); });
-    stage.settle();
-    return list;
-}
-
-void search(SceneStage& stage, const char* text)
-{
-    FeedListViewController& list = openSystems(stage);
-    list.showSearchBar();
-    list.searchBar()->setText(QString::fromLatin1(text));
+    return stage.openList("managedSystemsView", {.corvel = demoConsole(feeds)});
 }
 
 XMLElement demoSystem(const CorvelRef& corvel, std::size_t index)
@@ -73,8 +62,8 @@ std::vector<Look> systemLooks()
          }},
         {"managed-systems-actions", fleet(), [](SceneStage& stage) { openSystems(stage).tableView()->select(2); },
          true},
-        {"managed-systems-search", fleet(), [](SceneStage& stage) { search(stage, "LED"); }, true},
-        {"managed-systems-search-nothing", fleet(), [](SceneStage& stage) { search(stage, "zz"); }},
+        {"managed-systems-search", fleet(), [](SceneStage& stage) { search(openSystems(stage), "LED"); }, true},
+        {"managed-systems-search-nothing", fleet(), [](SceneStage& stage) { search(openSystems(stage), "zz"); }},
         {"managed-systems-swiped", fleet(),
          [](SceneStage& stage) {
              openSystems(stage);

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Controllers/REST/RESTHandler.h"
-#include "Kit/Core/NavigationController.h"
 #include "Tests/Scenes/SceneTest.h"
 #include "Views/Dashboard/MSOverViewController.h"
 #include "Views/ManagedSystems/MSDetailViewController.h"
@@ -19,17 +18,7 @@ protected:
     MSListViewController* openSystems(const std::map<std::string, std::string>& feeds = {})
     {
         stage.show({390, 844}, fleet());
-        auto* const list = stage.open<MSListViewController>("managedSystemsView", {.corvel = demoConsole(feeds)});
-        stage.waitFor([&] { return !list->fetchingActivityIndicator()->isAnimating(); });
-        stage.settle(200);
-        return list;
-    }
-    ViewController* top() const { return stage.list().navigationController()->topViewController(); }
-    QString spokenAs(const QQuickItem* tableRow) const
-    {
-        auto* const cell = tableRow->property("swipe").value<QQuickItem*>();
-        QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(cell);
-        return spoken != nullptr ? spoken->text(QAccessible::Name) : QString();
+        return &stage.openList<MSListViewController>("managedSystemsView", {.corvel = demoConsole(feeds)});
     }
 };
 

@@ -3,6 +3,11 @@
 
 #include "Tests/Scenes/SceneStage.h"
 
+namespace lodestar::simulator
+{
+class SimulatorProcess;
+}
+
 namespace lodestar::scenes
 {
 
@@ -14,6 +19,12 @@ struct Look {
     /// Also drawn wide, dark, in large text and mirrored.
     bool isMain = false;
 };
+
+/// A simulated console under the demonstration's name: logged on, its feeds not yet fetched. It is in no list.
+CorvelRef simulatedConsole(const SceneStage& stage, const simulator::SimulatorProcess& simulated);
+void search(FeedListViewController& list, const char* text);
+/// A feed's entry of a type.
+std::string entryOf(const std::string& type, const std::string& content);
 
 /// The menus, lists and details of a console's inventory.
 std::vector<Look> inventoryLooks();

@@ -3,6 +3,7 @@
 
 #include "Application/Model/Corvel.h"
 #include "Kit/Core/TabBarController.h"
+#include "Views/Common/FeedListViewController.h"
 #include "Views/Common/SceneInputs.h"
 #include "Views/Corvels/CorvelListViewController.h"
 #include "Views/Corvels/DeltaCorvelViewController.h"
@@ -71,6 +72,16 @@ public:
     Controller* open(std::string_view identifier, SceneInputs inputs) const
     {
         return qobject_cast<Controller*>(open(identifier, std::move(inputs)));
+    }
+
+    /// Likewise a list, when it has fetched what it shows and its motion has ended.
+    template <typename List = FeedListViewController>
+    List& openList(std::string_view identifier, SceneInputs inputs) const
+    {
+        List& list = *open<List>(identifier, std::move(inputs));
+        waitFor([&list] { return !list.fetchingActivityIndicator()->isAnimating(); });
+        settle();
+        return list;
     }
 
     CorvelListViewController& list() const { return *m_list; }

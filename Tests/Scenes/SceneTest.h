@@ -2,8 +2,10 @@
 #pragma once
 
 #include "Kit/Core/Appearance.h"
+#include "Kit/Core/NavigationController.h"
 #include "Tests/Scenes/SceneStage.h"
 
+#include <QAccessible>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -72,6 +74,14 @@ protected:
             }
         }
         return nullptr;
+    }
+    ViewController* top() const { return stage.list().navigationController()->topViewController(); }
+    /// What a screen reader says for a table's row, once it is active.
+    static QString spokenAs(const QQuickItem* tableRow)
+    {
+        auto* const cell = tableRow->property("swipe").value<QQuickItem*>();
+        QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(cell);
+        return spoken != nullptr ? spoken->text(QAccessible::Name) : QString();
     }
     bool waitForSheet() const
     {

@@ -1,0 +1,35 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Tests/Scenes/Looks.h"
+
+#include "Controllers/REST/RESTHandler.h"
+#include "Simulator/SimulatorProcess.h"
+
+namespace lodestar::scenes
+{
+
+CorvelRef simulatedConsole(const SceneStage& stage, const simulator::SimulatorProcess& simulated)
+{
+    CorvelRef corvel = demoConsole();
+    corvel->setDemo(false);
+    corvel->setAddress(simulated.address());
+    corvel->setUsername(simulated.user());
+    corvel->setPassword(simulated.password());
+    corvel->completedFetch = false;
+    const auto logon = RESTHandler::sharedInstance().login(corvel, CheckToken::Yes);
+    stage.waitFor([&] { return !logon.isPending(); });
+    return corvel;
+}
+
+void search(FeedListViewController& list, const char* text)
+{
+    list.showSearchBar();
+    list.searchBar()->setText(QString::fromLatin1(text));
+}
+
+std::string entryOf(const std::string& type, const std::string& content)
+{
+    return "<entry><published>2026-03-12T09:41:00.000Z</published><content><" + type + ">" + content + "</" + type +
+           "></content></entry>";
+}
+
+} // namespace lodestar::scenes
