@@ -264,6 +264,26 @@ TEST_F(GroupingTest, EveryPartitionAsksForItsSystemInTheThreadThatGroups)
     EXPECT_TRUE(runUntil([&] { return list->numberOfRowsInSection(Main, 0) == 4; }));
 }
 
+TEST_F(GroupingTest, AListLooksAllItsSystemsUpOverOneConnection)
+{
+    constexpr int count = 200;
+    std::string feed;
+    for (int i = 0; i < count; ++i) {
+        feed += partition(i % 3, named("LPAR" + std::to_string(i)));
+    }
+    store("LogicalPartition", feed);
+    const auto before = fleet.handshakes(0);
+    const auto list = openLoaded<LPListViewController>();
+    EXPECT_THAT(fleet.requests(0), SizeIs(count));
+    EXPECT_LE(fleet.handshakes(0) - before, 1U);
+    // On the main thread after a fetch, whose own connection is another.
+    fleet.setFeed(0, "LogicalPartition", "<feed>" + feed + "</feed>");
+    list->refreshFromButton();
+    ASSERT_TRUE(runUntil([&] { return list->numberOfSections(Main) == 3; }));
+    EXPECT_GE(fleet.requests(0).size(), 2U * count);
+    EXPECT_LE(fleet.handshakes(0) - before, 3U);
+}
+
 TEST_F(GroupingTest, WithoutASystemsNamePartitionsAreKeptAndServersLeftOut)
 {
     for (const std::string type : {"LogicalPartition", "VirtualIOServer"}) {

@@ -59,22 +59,17 @@ TEST(SearchIndexTest, FindsRowsByAnyPartOfTheirNameWhateverItsCase)
     // Not across the end of one name and the start of the next.
     EXPECT_THAT(index.rowsContaining(std::string_view("a\0bc", 4)), IsEmpty());
     EXPECT_EQ(index.rowsContaining("").size(), 8U);
-
-    SearchIndex more;
-    more.add("cab");
-    more.add("ABCD");
-    index.add(more);
-    EXPECT_THAT(index.rowsContaining("abc"), ElementsAre(0U, 2U, 3U, 9U));
 }
 
 TEST(GroupedFeedTest, KeepsKeysInTheOrderOfTheirFirstElementAndFiltersPerKey)
 {
     const auto feed = XMLElement::parse("<f><p>LPAR01</p><p>web</p><p>MyLpar2</p><p>mail</p></f>").value();
     const std::vector<XMLElement> all = feed.children("p");
-    GroupedFeed groups;
+    const auto textOf = [](const XMLElement& element) { return element.text().value_or(""); };
+    GroupedFeed groups(textOf);
     const std::vector<std::string> systems = {"zeta", "alpha", "zeta", "mid"};
     for (std::size_t i = 0; i < all.size(); ++i) {
-        groups.append(systems[i], all[i], all[i].text().value());
+        groups.append(systems[i], all[i]);
     }
     ASSERT_EQ(groups.groupCount(), 3U);
     EXPECT_EQ(groups.keyAt(0), "zeta");
@@ -90,7 +85,20 @@ TEST(GroupedFeedTest, KeepsKeysInTheOrderOfTheirFirstElementAndFiltersPerKey)
     ASSERT_EQ(found.size(), 1U);
     EXPECT_EQ(found[0].system, "zeta");
     EXPECT_THAT(found[0].elements, ElementsAre(all[0], all[2]));
+
+    // What comes after a search is found by the next one, whether in a group that was searched or in a new one.
+    GroupedFeed more(textOf);
+    more.append("last", all[0]);
+    more.append("zeta", all[1]);
+    more.append("zeta", all[2]);
+    EXPECT_EQ(more.containing("w").size(), 1U);
+    groups.append(std::move(more));
+    const std::vector<ElementGroup> foundThen = groups.containing("LPAR");
+    ASSERT_EQ(foundThen.size(), 2U);
+    EXPECT_THAT(foundThen[0].elements, ElementsAre(all[0], all[2], all[2]));
+    EXPECT_EQ(foundThen[1].system, "last");
     groups.clear();
+    EXPECT_THAT(groups.containing(""), IsEmpty());
     EXPECT_EQ(groups.groupCount(), 0U);
     EXPECT_EQ(groups.groupOf("zeta"), std::nullopt);
 }

@@ -8,12 +8,6 @@
 namespace lodestar
 {
 
-void ElementList::append(XMLElement element, std::string_view searchText)
-{
-    m_elements.push_back(std::move(element));
-    m_index.add(searchText);
-}
-
 void ElementList::append(ElementList&& others)
 {
     if (empty()) {
@@ -21,20 +15,32 @@ void ElementList::append(ElementList&& others)
         return;
     }
     std::ranges::move(others.m_elements, std::back_inserter(m_elements));
-    m_index.add(others.m_index);
 }
 
 void ElementList::clear()
 {
-    *this = {};
+    *this = ElementList(m_searchText);
 }
 
-std::vector<XMLElement> ElementList::containing(std::string_view text) const
+void ElementList::prepareSearch()
 {
-    const std::vector<std::size_t> rows = m_index.rowsContaining(text);
+    while (m_index.size() < m_elements.size()) {
+        m_index.add(m_searchText(m_elements[m_index.size()]));
+    }
+}
+
+std::vector<std::uint32_t> ElementList::rowsContaining(std::string_view text)
+{
+    prepareSearch();
+    return m_index.rowsContaining(text);
+}
+
+std::vector<XMLElement> ElementList::containing(std::string_view text)
+{
+    const std::vector<std::uint32_t> rows = rowsContaining(text);
     std::vector<XMLElement> found;
     found.reserve(rows.size());
-    std::ranges::transform(rows, std::back_inserter(found), [this](std::size_t row) { return m_elements[row]; });
+    std::ranges::transform(rows, std::back_inserter(found), [this](std::uint32_t row) { return m_elements[row]; });
     return found;
 }
 
@@ -42,6 +48,12 @@ XMLElement elementAt(const std::vector<XMLElement>& elements, int row)
 {
     const auto index = static_cast<std::size_t>(row);
     return row >= 0 && index < elements.size() ? elements[index] : XMLElement();
+}
+
+XMLElement elementAt(const std::vector<XMLElement>& elements, const std::vector<std::uint32_t>& found, int row)
+{
+    const auto index = static_cast<std::size_t>(row);
+    return row >= 0 && index < found.size() && found[index] < elements.size() ? elements[found[index]] : XMLElement();
 }
 
 } // namespace lodestar

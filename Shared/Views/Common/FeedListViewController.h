@@ -120,6 +120,15 @@ protected:
             [screen = self<Controller>(), change = std::move(change)]() mutable { change(*screen); });
     }
 
+    /// Makes a list ready to be searched if that holds up no screen: after a fetch the first search does it.
+    template <typename List>
+    static void prepareSearchOffMain(List& list)
+    {
+        if (!MainQueue::shared().isCurrent()) {
+            list.prepareSearch();
+        }
+    }
+
 private:
     QString translated(const char* text) const;
     void showContentNow();

@@ -14,23 +14,23 @@ void FlatListViewController::emptyLists()
 
 void FlatListViewController::appendStoredFeed()
 {
-    ElementList list;
+    ElementList list(m_searchText);
     const Feed stored = feed();
     for (const XMLElement& entry : stored.entries()) {
         XMLElement element = entry.path({"content", type()});
         // An entry of another type has no row.
         if (element) {
-            const std::string searchText = searchTextOf(element);
-            list.append(std::move(element), searchText);
+            list.append(std::move(element));
         }
     }
+    prepareSearchOffMain(list);
     onMainThread<FlatListViewController>(
         [list = std::move(list)](FlatListViewController& screen) mutable { screen.m_list.append(std::move(list)); });
 }
 
 void FlatListViewController::filterContentForSearchText(const QString& searchText, const QString& /*scope*/)
 {
-    m_filteredList = m_list.containing(searchText.toStdString());
+    m_filteredList = m_list.rowsContaining(searchText.toStdString());
 }
 
 int FlatListViewController::numberOfRowsInSection(TableKind tableView, int /*section*/) const
@@ -43,7 +43,8 @@ int FlatListViewController::numberOfRowsInSection(TableKind tableView, int /*sec
 
 XMLElement FlatListViewController::elementAtRow(TableKind tableView, int row) const
 {
-    return elementAt(tableView == TableKind::SearchResults ? m_filteredList : m_list.elements(), row);
+    return tableView == TableKind::SearchResults ? elementAt(elements(), m_filteredList, row)
+                                                 : elementAt(elements(), row);
 }
 
 } // namespace lodestar

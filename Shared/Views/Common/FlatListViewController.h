@@ -4,7 +4,7 @@
 #include "Views/Common/ElementList.h"
 #include "Views/Common/FeedListViewController.h"
 
-#include <string>
+#include <cstdint>
 #include <vector>
 
 namespace lodestar
@@ -12,7 +12,7 @@ namespace lodestar
 
 /// A list of one section: the feed's elements, in the order of the feed. Nothing is sorted.
 ///
-/// A screen of this kind overrides `showFeed`, which calls `appendStoredFeed`, and `searchTextOf`.
+/// A screen of this kind says what its rows are searched by and overrides `showFeed`, which calls `appendStoredFeed`.
 class FlatListViewController : public lodestar::FeedListViewController
 {
     Q_OBJECT
@@ -20,7 +20,10 @@ class FlatListViewController : public lodestar::FeedListViewController
     QML_UNCREATABLE("made by the storyboard")
 
 public:
-    using FeedListViewController::FeedListViewController;
+    FlatListViewController(const FeedListTraits& traits, SearchText searchText)
+        : FeedListViewController(traits), m_searchText(searchText), m_list(searchText)
+    {
+    }
 
     void filterContentForSearchText(const QString& searchText, const QString& scope) override;
     int numberOfRowsInSection(TableKind tableView, int section) const override;
@@ -30,17 +33,17 @@ protected:
     /// Puts the elements of the stored feed behind those that are listed. It does not clear: a fetch that ends while
     /// another is under way lists its elements behind the other's. Any thread.
     void appendStoredFeed();
-    /// What an element's row is searched by. Any thread.
-    virtual std::string searchTextOf(const XMLElement& element) const = 0;
 
     const std::vector<XMLElement>& elements() const { return m_list.elements(); }
-    const std::vector<XMLElement>& filteredElements() const { return m_filteredList; }
+    /// What the search found, as places in `elements`.
+    const std::vector<std::uint32_t>& filteredElements() const { return m_filteredList; }
     /// What stands in a row of that table; no element for a row that is not there.
     XMLElement elementAtRow(TableKind tableView, int row) const;
 
 private:
+    const SearchText m_searchText;
     ElementList m_list;
-    std::vector<XMLElement> m_filteredList;
+    std::vector<std::uint32_t> m_filteredList;
 };
 
 } // namespace lodestar

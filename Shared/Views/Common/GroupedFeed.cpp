@@ -10,14 +10,14 @@ ElementList& GroupedFeed::listOf(const std::string& system)
 {
     const auto [place, isNew] = m_indexes.try_emplace(system, m_groups.size());
     if (isNew) {
-        m_groups.push_back({system, {}});
+        m_groups.push_back({system, ElementList(m_searchText)});
     }
     return m_groups[place->second].list;
 }
 
-void GroupedFeed::append(const std::string& system, XMLElement element, std::string_view searchText)
+void GroupedFeed::append(const std::string& system, XMLElement element)
 {
-    listOf(system).append(std::move(element), searchText);
+    listOf(system).append(std::move(element));
 }
 
 void GroupedFeed::append(GroupedFeed&& others)
@@ -30,7 +30,14 @@ void GroupedFeed::append(GroupedFeed&& others)
 
 void GroupedFeed::clear()
 {
-    *this = {};
+    *this = GroupedFeed(m_searchText);
+}
+
+void GroupedFeed::prepareSearch()
+{
+    for (Group& group : m_groups) {
+        group.list.prepareSearch();
+    }
 }
 
 std::string GroupedFeed::keyAt(std::size_t group) const
@@ -50,10 +57,10 @@ std::optional<std::size_t> GroupedFeed::groupOf(const std::string& system) const
     return found != m_indexes.end() ? std::optional(found->second) : std::nullopt;
 }
 
-std::vector<ElementGroup> GroupedFeed::containing(std::string_view text) const
+std::vector<ElementGroup> GroupedFeed::containing(std::string_view text)
 {
     std::vector<ElementGroup> found;
-    for (const Group& group : m_groups) {
+    for (Group& group : m_groups) {
         std::vector<XMLElement> elements = group.list.containing(text);
         if (!elements.empty()) {
             found.push_back({group.system, std::move(elements)});

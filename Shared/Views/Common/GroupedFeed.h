@@ -25,17 +25,20 @@ struct ElementGroup {
 class GroupedFeed
 {
 public:
-    void append(const std::string& system, XMLElement element, std::string_view searchText);
+    explicit GroupedFeed(SearchText searchText) : m_searchText(searchText) {}
+
+    void append(const std::string& system, XMLElement element);
     /// Each system's elements behind those that it already has here.
     void append(GroupedFeed&& others);
     void clear();
+    void prepareSearch();
     std::size_t groupCount() const { return m_groups.size(); }
     /// Empty for a group that is not there.
     std::string keyAt(std::size_t group) const;
     const std::vector<XMLElement>& elementsAt(std::size_t group) const;
     std::optional<std::size_t> groupOf(const std::string& system) const;
     /// Per key the elements whose search text contains the text, case ignored. A key without any is left out.
-    std::vector<ElementGroup> containing(std::string_view text) const;
+    std::vector<ElementGroup> containing(std::string_view text);
 
 private:
     struct Group {
@@ -44,6 +47,7 @@ private:
     };
     ElementList& listOf(const std::string& system);
 
+    SearchText m_searchText;
     std::vector<Group> m_groups;
     std::unordered_map<std::string, std::size_t> m_indexes;
 };

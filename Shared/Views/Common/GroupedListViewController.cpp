@@ -21,10 +21,15 @@ const std::vector<XMLElement>& noGroup()
     return none;
 }
 
+std::string nameOf(const XMLElement& partition)
+{
+    return partition.child("PartitionName").text().value_or("");
+}
+
 } // namespace
 
 GroupedListViewController::GroupedListViewController(const GroupedListTraits& traits)
-    : FeedListViewController(traits.list), m_grouping(traits)
+    : FeedListViewController(traits.list), m_grouping(traits), m_partitions(nameOf)
 {
 }
 
@@ -44,7 +49,7 @@ void GroupedListViewController::seperatePartitionsBySystemFromXML(const XMLEleme
 {
     const std::string className(log().className());
     log().write(m_grouping.seperatingLine, seperate, className + ": Seperating partitions");
-    GroupedFeed partitions;
+    GroupedFeed partitions(nameOf);
     for (const XMLElement& entry : feedRoot.children("entry")) {
         log().write(m_grouping.partitionLine, seperate, className + ": Fetching partition");
         XMLElement partition = entry.path({"content", type()});
@@ -55,10 +60,10 @@ void GroupedListViewController::seperatePartitionsBySystemFromXML(const XMLEleme
         log().write(m_grouping.linkLine, seperate, className + ": Fetching stored link");
         const std::optional<std::string> system = systemOf(partition);
         if (system) {
-            const std::string name = partition.child("PartitionName").text().value_or("");
-            partitions.append(*system, std::move(partition), name);
+            partitions.append(*system, std::move(partition));
         }
     }
+    prepareSearchOffMain(partitions);
     onMainThread<GroupedListViewController>(
         [partitions = std::move(partitions)](GroupedListViewController& screen) mutable {
             screen.m_partitions.append(std::move(partitions));

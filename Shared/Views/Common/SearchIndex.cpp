@@ -4,6 +4,7 @@
 #include <QString>
 
 #include <algorithm>
+#include <cstring>
 #include <numeric>
 
 namespace lodestar
@@ -47,21 +48,12 @@ void SearchIndex::add(std::string_view name)
     m_ends.push_back(m_names.size());
 }
 
-void SearchIndex::add(const SearchIndex& other)
+std::vector<std::uint32_t> SearchIndex::rowsContaining(std::string_view text) const
 {
-    const std::size_t offset = m_names.size();
-    m_names.append(other.m_names);
-    m_ends.reserve(m_ends.size() + other.m_ends.size());
-    std::ranges::transform(other.m_ends, std::back_inserter(m_ends),
-                           [offset](std::size_t end) { return end + offset; });
-}
-
-std::vector<std::size_t> SearchIndex::rowsContaining(std::string_view text) const
-{
-    std::vector<std::size_t> rows;
+    std::vector<std::uint32_t> rows;
     if (text.empty()) {
         rows.resize(m_ends.size());
-        std::iota(rows.begin(), rows.end(), std::size_t{0});
+        std::iota(rows.begin(), rows.end(), std::uint32_t{0});
         return rows;
     }
     // It could only match across the end of a name.
@@ -69,9 +61,14 @@ std::vector<std::size_t> SearchIndex::rowsContaining(std::string_view text) cons
         return rows;
     }
     const std::string wanted = folded(text);
-    const std::string_view names = m_names;
-    std::size_t row = 0;
-    for (std::size_t at = names.find(wanted); at != std::string_view::npos; at = names.find(wanted, m_ends[row])) {
+    // Several times as fast as the string's own search where the first letter is a common one.
+    const auto find = [&](std::size_t from) {
+        return static_cast<const char*>(
+            ::memmem(m_names.data() + from, m_names.size() - from, wanted.data(), wanted.size()));
+    };
+    std::uint32_t row = 0;
+    for (const char* found = find(0); found != nullptr; found = find(m_ends[row])) {
+        const auto at = static_cast<std::size_t>(found - m_names.data());
         while (m_ends[row] <= at) {
             ++row;
         }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,11 +17,9 @@ class SearchIndex
 public:
     /// The next row's name, in UTF-8.
     void add(std::string_view name);
-    /// The other's rows, behind these.
-    void add(const SearchIndex& other);
     std::size_t size() const { return m_ends.size(); }
     /// The rows whose name contains the text, in order. An empty text is in every name.
-    std::vector<std::size_t> rowsContaining(std::string_view text) const;
+    std::vector<std::uint32_t> rowsContaining(std::string_view text) const;
 
     static std::string folded(std::string_view text);
 

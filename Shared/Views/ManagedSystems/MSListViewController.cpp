@@ -36,6 +36,11 @@ constexpr auto menuScene = "managedSystemMenu";
 constexpr int cancelItem = 3;
 constexpr int menuButton = 0;
 
+std::string nameOf(const XMLElement& system)
+{
+    return system.child("SystemName").text().value_or("");
+}
+
 MenuChoice choice(const QString& title, const char* image, const char* scene)
 {
     return {title, false, QString::fromLatin1(image), Storyboard::main().hasScene(scene)};
@@ -51,7 +56,7 @@ QList<SwipeButton> makeRightButtons()
 
 } // namespace
 
-MSListViewController::MSListViewController() : FlatListViewController(traits) {}
+MSListViewController::MSListViewController() : FlatListViewController(traits, nameOf) {}
 
 void MSListViewController::showFeed(const XMLElement& feedRoot)
 {
@@ -65,11 +70,6 @@ void MSListViewController::createMSList()
     log().write(197, "createMSList", "MSListViewController: Creating Managed System List");
     appendStoredFeed();
     tableView()->reloadData();
-}
-
-std::string MSListViewController::searchTextOf(const XMLElement& system) const
-{
-    return system.child("SystemName").text().value_or("");
 }
 
 QVariant MSListViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)

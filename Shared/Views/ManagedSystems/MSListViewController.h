@@ -4,7 +4,7 @@
 #include "Kit/Core/Menu.h"
 #include "Views/Common/FlatListViewController.h"
 
-#include <string>
+#include <cstdint>
 #include <vector>
 
 namespace lodestar
@@ -24,7 +24,8 @@ public:
 
     MenuOutlet* actionSheet() { return &m_actionSheet; }
     const std::vector<XMLElement>& MSList() const { return elements(); }
-    const std::vector<XMLElement>& filteredMSList() const { return filteredElements(); }
+    /// What the search found, as rows of `MSList`.
+    const std::vector<std::uint32_t>& filteredMSList() const { return filteredElements(); }
 
     /// Appends the systems of the stored feed. Any thread.
     void createMSList();
@@ -37,7 +38,6 @@ public:
 
 protected:
     void showFeed(const XMLElement& feedRoot) override;
-    std::string searchTextOf(const XMLElement& system) const override;
 
 private:
     void openItem(int index, const XMLElement& system);

@@ -35,7 +35,7 @@ constexpr FeedListTraits traits = {
 
 } // namespace
 
-SEListViewController::SEListViewController() : FlatListViewController(traits) {}
+SEListViewController::SEListViewController() : FlatListViewController(traits, SEListCell::title) {}
 
 void SEListViewController::showFeed(const XMLElement& feedRoot)
 {
@@ -48,11 +48,6 @@ void SEListViewController::createSEList()
     log().write(185, "createSEList", "SEListViewController: Creating SE list");
     appendStoredFeed();
     UIShowContent();
-}
-
-std::string SEListViewController::searchTextOf(const XMLElement& event) const
-{
-    return SEListCell::title(event);
 }
 
 QVariant SEListViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)

@@ -3,7 +3,7 @@
 
 #include "Views/Common/FlatListViewController.h"
 
-#include <string>
+#include <cstdint>
 #include <vector>
 
 namespace lodestar
@@ -20,7 +20,8 @@ public:
     SEListViewController();
 
     const std::vector<XMLElement>& SEList() const { return elements(); }
-    const std::vector<XMLElement>& filteredSEList() const { return filteredElements(); }
+    /// What the search found, as rows of `SEList`.
+    const std::vector<std::uint32_t>& filteredSEList() const { return filteredElements(); }
 
     /// Appends the events of the stored feed and shows the content. Any thread.
     void createSEList();
@@ -31,7 +32,6 @@ public:
 
 protected:
     void showFeed(const XMLElement& feedRoot) override;
-    std::string searchTextOf(const XMLElement& event) const override;
 };
 
 } // namespace lodestar
