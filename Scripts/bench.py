@@ -10,7 +10,7 @@ import sys
 import tempfile
 
 PROGRAMS = ["PromiseBenchmark", "FeedBenchmark", "StoreBenchmark", "RefreshBenchmark", "ListBenchmark",
-            "StartBenchmark"]
+            "ScrollBenchmark", "StartBenchmark"]
 
 
 def rows_of(program):
