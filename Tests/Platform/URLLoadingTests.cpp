@@ -421,7 +421,7 @@ TEST_F(URLLoadingTest, AFleetSharesFewConnectionsAConsole)
     }
     settled.wait();
     EXPECT_EQ(answered, std::ssize(requests));
-    EXPECT_LE(simulator.handshakes(), 3U * static_cast<unsigned>(settings.consoles));
+    EXPECT_LE(simulator.handshakes(), 2U * static_cast<unsigned>(settings.consoles));
     rlimit files{};
     ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &files), 0);
     EXPECT_EQ(files.rlim_cur, files.rlim_max) << "and descriptors suffice for all";

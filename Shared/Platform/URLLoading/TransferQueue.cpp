@@ -13,7 +13,6 @@ namespace lodestar
 namespace
 {
 
-constexpr std::size_t transfersOfBusyServer = 2;
 // How far ahead one whose turn it is not yet is passed over: keeps a long queue of silent servers from being walked
 // through again and again.
 constexpr std::ptrdiff_t sight = 256;
@@ -55,8 +54,7 @@ void TransferQueue::didEnd(const Transfer& transfer)
 
 bool TransferQueue::isBusy(const Transfer& transfer) const
 {
-    const auto entry = m_running.find(transfer.server());
-    return entry != m_running.end() && entry->second >= transfersOfBusyServer;
+    return m_running.contains(transfer.server());
 }
 
 } // namespace lodestar

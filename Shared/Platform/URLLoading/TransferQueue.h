@@ -12,9 +12,9 @@ namespace lodestar
 
 class Transfer;
 
-/// Transfers that wait for their turn: in the order in which they came, but that a server of which several run already
-/// lets the others go first. So a fleet's transfers share a few connections a server, each with its handshake, instead
-/// of opening one each. Not thread-safe.
+/// Transfers that wait for their turn: in the order in which they came, but that a server of which one runs already
+/// lets the others go first. So a fleet's transfers share a connection a server, with its handshake, instead of opening
+/// one each. Not thread-safe.
 class TransferQueue
 {
 public:
