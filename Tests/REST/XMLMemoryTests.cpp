@@ -8,6 +8,7 @@
 #include <libxml/parser.h>
 
 #include <cstddef>
+#include <ctime>
 
 extern "C" {
 void* __libc_malloc(std::size_t size);
@@ -46,6 +47,14 @@ void* calloc(std::size_t count, std::size_t size) noexcept
 void* realloc(void* block, std::size_t size) noexcept
 {
     return refuse() ? nullptr : __libc_realloc(block, size);
+}
+/// The library seeds its dictionaries by the clock, and what it allocates depends on the seed.
+std::time_t time(std::time_t* result) noexcept
+{
+    if (result != nullptr) {
+        *result = 0;
+    }
+    return 0;
 }
 }
 
