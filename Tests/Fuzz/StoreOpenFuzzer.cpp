@@ -8,6 +8,7 @@
 #include "Application/Model/Corvel.h"
 #include "Application/Model/StoreStack.h"
 #include "Tests/Fuzz/Require.h"
+#include "Tests/ScratchFolder.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -40,12 +41,6 @@ std::string read(const std::string& path)
 struct Scratch {
     Scratch()
     {
-        const std::filesystem::path memory = "/dev/shm";
-        const bool inMemory = std::filesystem::is_directory(memory);
-        std::string name = (inMemory ? memory : std::filesystem::temp_directory_path()) / "lodestar-fuzz-XXXXXX";
-        require(::mkdtemp(name.data()) != nullptr, "a scratch folder");
-        folder = name;
-        path = folder / "Lodestar.sqlite";
         {
             auto context = ObjectContext::open(path, StoreStack::managedObjectModel());
             require(context.ok(), "a new store");
@@ -56,9 +51,6 @@ struct Scratch {
         }
         good = read(path);
     }
-    ~Scratch() { std::filesystem::remove_all(folder); }
-    Scratch(const Scratch&) = delete;
-    Scratch& operator=(const Scratch&) = delete;
 
     static void add(ObjectContext& context, const std::string& name)
     {
@@ -68,8 +60,9 @@ struct Scratch {
         corvel->setPassword("a password");
     }
 
-    std::filesystem::path folder;
-    std::string path;
+    const ScratchFolder scratch;
+    const std::filesystem::path& folder = scratch.path();
+    const std::string path = scratch.file("Lodestar.sqlite");
     std::string good;
 };
 

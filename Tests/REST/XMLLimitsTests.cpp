@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Documents made to cost much: each must be read in little time and memory, and open nothing.
 #include "Controllers/REST/XMLElement.h"
+#include "Tests/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 #include <libxml/parser.h>
@@ -152,9 +153,8 @@ int loads = 0;
 TEST(XMLLimitsTests, NothingOutsideTheDocumentIsOpened)
 {
     // Whoever opens a pipe that nobody writes to waits for ever.
-    std::string folder = std::filesystem::temp_directory_path() / "lodestar-xml-XXXXXX";
-    ASSERT_NE(::mkdtemp(folder.data()), nullptr);
-    const std::string pipe = folder + "/pipe";
+    const ScratchFolder folder;
+    const std::string pipe = folder.file("pipe");
     ASSERT_EQ(::mkfifo(pipe.c_str(), S_IRUSR | S_IWUSR), 0);
     const xmlExternalEntityLoader usual = xmlGetExternalEntityLoader();
     loads = 0;
@@ -176,7 +176,6 @@ TEST(XMLLimitsTests, NothingOutsideTheDocumentIsOpened)
         xmlSetExternalEntityLoader(usual);
     }
     EXPECT_EQ(loads, 0);
-    std::filesystem::remove_all(folder);
 }
 
 } // namespace
