@@ -204,6 +204,10 @@ SceneStage::~SceneStage()
 
 void SceneStage::closeWindow()
 {
+    if (m_list) {
+        // An editor that adds holds its list: only its dismissal lets go of both, and of what it still meant to post.
+        m_list->dismissSemiModalView();
+    }
     m_window.reset();
     m_tabs.reset();
     m_list.reset();
