@@ -165,7 +165,7 @@ int main(int argc, char** argv)
     const QGuiApplication application(argc, argv);
     const MainLoop mainLoop;
     const QStringList arguments = QGuiApplication::arguments();
-    if (arguments.size() < 2) {
+    if (arguments.size() < 2 || arguments[1].startsWith('-')) {
         std::fprintf(stderr, "lodestar-screenshots FOLDER [TEXT]\n");
         return 2;
     }

@@ -16,8 +16,10 @@ MenuScene {
     Item {
         id: ornament
 
+        // The frames are a phone's; on wide pages they keep their place beside the cards.
+        x: Theme.sideMargin(scene.width, Theme.measure) - Theme.cardMargin(0)
         y: -scene.scrolledBy
-        width: scene.width
+        width: scene.width - 2 * x
         height: scene.topSpace
 
         Repeater {
