@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/MainStoryboard.h"
 
+#include "Application/IntroView.h"
 #include "Kit/Core/NavigationController.h"
 #include "Kit/Core/Storyboard.h"
 #include "Kit/Core/TabBarController.h"
@@ -63,6 +64,7 @@ Storyboard::Factory factory()
 
 void registerMainStoryboard(LoginViewController::RootSwitch showRoot)
 {
+    CorvelListViewController::setIntroPresenter(&IntroView::showIntroViewInView);
     Storyboard& storyboard = Storyboard::main();
     storyboard.registerScene(
         "loginViewController",

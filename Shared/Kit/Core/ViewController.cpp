@@ -123,6 +123,13 @@ void ViewController::dismissSemiModalView()
     MainQueue::shared().async([keep = presentation->sharedController()] {});
 }
 
+void ViewController::setIntro(std::shared_ptr<PagedIntro> intro)
+{
+    // What draws the old one hears of the change before it goes.
+    const std::shared_ptr<PagedIntro> previous = std::exchange(m_intro, std::move(intro));
+    Q_EMIT introChanged();
+}
+
 SemiModalPresentation::SemiModalPresentation(std::shared_ptr<ViewController> controller,
                                              ViewController::SemiModalOptions options)
     : m_controller(std::move(controller)), m_height(options.height), m_pushParentBack(options.pushParentBack)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Kit/Core/PagedIntro.h"
+
 #include <QObject>
 #include <QString>
 #include <QUrl>
@@ -27,6 +29,7 @@ class ViewController : public QObject, public std::enable_shared_from_this<ViewC
     Q_PROPERTY(QString backTitle READ backTitle NOTIFY backTitleChanged)
     Q_PROPERTY(QUrl scene READ scene CONSTANT)
     Q_PROPERTY(lodestar::SemiModalPresentation* semiModal READ semiModal NOTIFY semiModalChanged)
+    Q_PROPERTY(lodestar::PagedIntro* intro READ intro NOTIFY introChanged)
 
 public:
     ViewController();
@@ -70,10 +73,15 @@ public:
     void dismissSemiModalView();
     SemiModalPresentation* semiModal() const { return m_semiModal.get(); }
 
+    /// The pages laid over this screen; null for none.
+    PagedIntro* intro() const { return m_intro.get(); }
+    void setIntro(std::shared_ptr<PagedIntro> intro);
+
 Q_SIGNALS:
     void titleChanged();
     void backTitleChanged();
     void semiModalChanged();
+    void introChanged();
     /// The scene ends text editing: takes the keyboard away.
     void endEditingRequested();
 
@@ -101,6 +109,7 @@ private:
     NavigationController* m_navigationController = nullptr;
     TabBarController* m_tabBarController = nullptr;
     std::unique_ptr<SemiModalPresentation> m_semiModal;
+    std::shared_ptr<PagedIntro> m_intro;
 };
 
 /// A sheet that is up: its content and its height, the bar that the sheet docks above it not counted. It goes with the

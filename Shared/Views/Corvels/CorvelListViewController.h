@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Application/Model/Corvel.h"
+#include "Kit/Core/PagedIntro.h"
 #include "Kit/Core/Table.h"
 #include "Kit/Core/ViewController.h"
 #include "Platform/Error.h"
@@ -17,7 +18,7 @@ class DeltaCorvelViewController;
 
 /// The console list: every registered console with its version, address and health, refreshed from the consoles on
 /// load and on pull. Its rows are the working list's records in list order, one section. Main thread.
-class CorvelListViewController : public lodestar::ViewController, public TableDataSource
+class CorvelListViewController : public lodestar::ViewController, public TableDataSource, public PagedIntroDelegate
 {
     Q_OBJECT
     QML_ELEMENT
@@ -54,7 +55,7 @@ public:
     /// The pull: every row back to its spinners, then `dataRefresh`. The control ends at once.
     void refresh();
     void resetFetchData();
-    void introDidFinish();
+    void introDidFinish() override;
 
     int numberOfRowsInSection(TableKind tableView, int section) const override;
     QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;

@@ -1,0 +1,143 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QColor>
+#include <QObject>
+#include <QString>
+#include <QUrl>
+#include <QVariantList>
+#include <QtQml/qqmlregistration.h>
+
+#include <memory>
+#include <vector>
+
+namespace lodestar
+{
+
+class ViewController;
+
+/// One page: a picture that fills it, words and all. The words are told once more, for those whom a picture does not
+/// reach: screen readers, and screens or text sizes at which the picture's own cannot be read.
+struct IntroPage {
+    Q_GADGET
+    QML_VALUE_TYPE(introPage)
+    Q_PROPERTY(QUrl background MEMBER background)
+    Q_PROPERTY(QString heading MEMBER heading)
+    Q_PROPERTY(QString words MEMBER words)
+
+public:
+    QUrl background{}; ///< empty for a page without a picture
+    QString heading{};
+    QString words{};
+    friend bool operator==(const IntroPage&, const IntroPage&) = default;
+};
+
+/// Told when an intro is over, however it ended.
+class PagedIntroDelegate
+{
+public:
+    virtual ~PagedIntroDelegate() = default;
+    virtual void introDidFinish() = 0;
+};
+
+/// The row of dots that tells and turns pages.
+class PageControlOutlet : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
+    Q_PROPERTY(int currentPage READ currentPage WRITE setCurrentPage NOTIFY currentPageChanged)
+    Q_PROPERTY(int numberOfPages READ numberOfPages CONSTANT)
+    Q_PROPERTY(QColor pageIndicatorTintColor READ pageIndicatorTintColor NOTIFY colorsChanged)
+    Q_PROPERTY(QColor currentPageIndicatorTintColor READ currentPageIndicatorTintColor NOTIFY colorsChanged)
+
+public:
+    explicit PageControlOutlet(int numberOfPages, QObject* parent = nullptr);
+    int numberOfPages() const { return m_numberOfPages; }
+    int currentPage() const { return m_currentPage; }
+    /// Pages that are not there are passed over.
+    void setCurrentPage(int page);
+    const QColor& pageIndicatorTintColor() const { return m_pageIndicatorTintColor; }
+    void setPageIndicatorTintColor(const QColor& color);
+    const QColor& currentPageIndicatorTintColor() const { return m_currentPageIndicatorTintColor; }
+    void setCurrentPageIndicatorTintColor(const QColor& color);
+
+Q_SIGNALS:
+    void currentPageChanged();
+    void colorsChanged();
+
+private:
+    int m_numberOfPages;
+    int m_currentPage = 0;
+    QColor m_pageIndicatorTintColor;
+    QColor m_currentPageIndicatorTintColor;
+};
+
+/// A button that is a word.
+class ButtonOutlet : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
+    Q_PROPERTY(QColor titleColor READ titleColor NOTIFY titleColorChanged)
+
+public:
+    using QObject::QObject;
+    const QColor& titleColor() const { return m_titleColor; }
+    void setTitleColor(const QColor& color);
+
+Q_SIGNALS:
+    void titleColorChanged();
+
+private:
+    QColor m_titleColor;
+};
+
+/// Pages laid over the whole of a screen, turned by swipes and keys. It ends once: by the skip button, by a swipe past
+/// the last page, or by Escape. Main thread.
+class PagedIntro : public QObject, public std::enable_shared_from_this<PagedIntro>
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
+    Q_PROPERTY(QVariantList pages READ pageList CONSTANT)
+    Q_PROPERTY(lodestar::PageControlOutlet* pageControl READ pageControl CONSTANT)
+    Q_PROPERTY(lodestar::ButtonOutlet* skipButton READ skipButton CONSTANT)
+    Q_PROPERTY(bool presented READ isPresented NOTIFY presentedChanged)
+    Q_PROPERTY(double animationDuration READ animationDuration CONSTANT)
+
+public:
+    explicit PagedIntro(std::vector<IntroPage> pages);
+
+    const std::vector<IntroPage>& pages() const { return m_pages; }
+    QVariantList pageList() const;
+    PageControlOutlet* pageControl() { return &m_pageControl; }
+    ButtonOutlet* skipButton() { return &m_skipButton; }
+    void setDelegate(std::weak_ptr<PagedIntroDelegate> delegate);
+
+    /// Lays it over the screen, in the place of one that is there. The screen keeps it. Once an intro, which is held by
+    /// `std::shared_ptr`.
+    void showInView(ViewController& view, double animationDuration);
+    /// Whether it is to be seen. It stays with its screen after it has ended, so that it can be drawn on its way out.
+    bool isPresented() const { return m_presented; }
+    /// Seconds, of coming and of going.
+    double animationDuration() const { return m_animationDuration; }
+
+    /// The next page, or the end when there is none.
+    Q_INVOKABLE void turnPage();
+    /// Ends it and tells the delegate, which may be gone. Later calls do nothing.
+    Q_INVOKABLE void finish();
+
+Q_SIGNALS:
+    void presentedChanged();
+
+private:
+    std::vector<IntroPage> m_pages;
+    PageControlOutlet m_pageControl;
+    ButtonOutlet m_skipButton;
+    std::weak_ptr<PagedIntroDelegate> m_delegate;
+    double m_animationDuration = 0;
+    bool m_presented = false;
+};
+
+} // namespace lodestar
