@@ -118,6 +118,10 @@ TEST_F(ConsoleScreensTest, ConsoleInformationComesFromTheFeedOrSaysThatThereIsNo
     EXPECT_EQ(failed->header()->subtitleLabel()->text(), "N/A");
     EXPECT_TRUE(failed->tableView()->isHidden() && failed->contentLabel()->isHidden());
 
+    const auto alone = open<MCViewController>(nullptr);
+    alone->fetchSystemInformation();
+    EXPECT_EQ(alone->header()->subtitleLabel()->text(), "N/A");
+
     demoFeeds()["ManagementConsole"] = xml;
     const auto fetched = open<MCViewController>(addCorvel("Demo", "127.0.0.1", true));
     EXPECT_EQ(fetched->header()->subtitleLabel()->text(), "updating...");

@@ -103,6 +103,28 @@ TEST_F(InventoryFaultsTest, EveryListEndsInTheLookThatItsAnswerDeserves)
     }
 }
 
+TEST_F(InventoryFaultsTest, AListWithoutAConsoleFailsToFetchAndGoesOn)
+{
+    for (const ListKind& kind : everyList) {
+        SCOPED_TRACE(kind.type);
+        const auto list = push(kind.make());
+        ASSERT_TRUE(hasNoContent(*list));
+        int failures = 0;
+        QObject::connect(list->noDataLabel(), &ViewOutlet::hiddenChanged,
+                         [&] { failures += list->noDataLabel()->isHidden() ? 0 : 1; });
+        list->refreshControl()->pull();
+        EXPECT_TRUE(runUntil([&] { return failures == 1 && !list->refreshControl()->isRefreshing(); }));
+        list->refreshFromButton();
+        EXPECT_TRUE(runUntil([&] { return failures == 2; }));
+        EXPECT_TRUE(list->tableView()->isHidden());
+        EXPECT_EQ(drawAll(*list), 0);
+    }
+    RGStateCounts counts;
+    makeController<RGListViewController>()->processStates({parse("<link href='https://127.0.0.1:12443/a'/>")}, counts,
+                                                          RGListViewController::LinkKind::Partition);
+    EXPECT_EQ(counts, RGStateCounts{});
+}
+
 TEST_F(InventoryFaultsTest, ADamagedFeedShowsWhatCouldBeSaved)
 {
     fleet.setFault("malformedFeed:All");

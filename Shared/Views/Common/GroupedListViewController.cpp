@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Common/GroupedListViewController.h"
 
-#include "Controllers/REST/RESTHandler.h"
 #include "Controllers/REST/RESTSupport.h"
+#include "Views/Common/Registry.h"
 #include "Views/Common/SceneInputs.h"
 
 #include <algorithm>
@@ -74,8 +74,7 @@ void GroupedListViewController::seperatePartitionsBySystemFromXML(const XMLEleme
 std::optional<std::string> GroupedListViewController::systemOf(const XMLElement& partition) const
 {
     const auto link = partition.child("AssociatedManagedSystem").attribute("href");
-    std::optional<std::string> name =
-        RESTHandler::sharedInstance().fetchDataFromAtomLink(shownText(link) + "/quick/SystemName", *corvel());
+    std::optional<std::string> name = fetchLinkedText(shownText(link) + "/quick/SystemName", corvel());
     if (!name && m_grouping.nameless == Nameless::LeftOut) {
         return std::nullopt;
     }

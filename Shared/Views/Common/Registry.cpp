@@ -67,11 +67,21 @@ RXPromise<std::string> fetchInventory(const CorvelRef& corvel)
 
 RXPromise<XMLElement> fetchFeedWithStoredKey(const CorvelRef& corvel, std::string_view type, std::string_view schema)
 {
+    if (!corvel) {
+        RXPromise<XMLElement> promise;
+        promise.rejectWithReason("no console");
+        return promise;
+    }
     return RESTHandler::sharedInstance()
         .login(corvel, CheckToken::No)
         .then([corvel, type, schema](const SessionKey& key) {
             return RESTHandler::sharedInstance().fetchDataOfType(type, corvel, schema, key);
         });
+}
+
+std::optional<std::string> fetchLinkedText(const std::string& link, const CorvelRef& corvel)
+{
+    return corvel ? RESTHandler::sharedInstance().fetchDataFromAtomLink(link, *corvel) : std::nullopt;
 }
 
 } // namespace lodestar

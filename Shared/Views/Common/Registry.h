@@ -5,6 +5,7 @@
 #include "Controllers/REST/RXPromise.h"
 #include "Controllers/REST/XMLElement.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -33,7 +34,12 @@ void forgetSessionKeyOfUnregistered(const Corvel& corvel);
 RXPromise<std::string> fetchInventory(const CorvelRef& corvel);
 
 /// One feed of the console, asked for with the session key that is stored for it: a key that the console no longer
-/// takes is a refusal, until the console list logs on anew. Type and schema outlive the fetch. Any thread.
+/// takes is a refusal, until the console list logs on anew. Rejected for no console. Type and schema outlive the fetch.
+/// Any thread.
 RXPromise<XMLElement> fetchFeedWithStoredKey(const CorvelRef& corvel, std::string_view type, std::string_view schema);
+
+/// What the console answers at the link, quotes removed; nothing when it cannot be had and for no console. Blocks its
+/// caller. Any thread.
+std::optional<std::string> fetchLinkedText(const std::string& link, const CorvelRef& corvel);
 
 } // namespace lodestar

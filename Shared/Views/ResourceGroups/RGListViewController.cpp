@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/ResourceGroups/RGListViewController.h"
 
-#include "Controllers/REST/RESTHandler.h"
 #include "Views/Common/CellText.h"
 #include "Views/Common/ElementList.h"
+#include "Views/Common/Registry.h"
 
 #include <QCoreApplication>
 
@@ -80,8 +80,7 @@ void RGListViewController::processStates(const std::vector<XMLElement>& links, R
     // One request after another, nothing kept, on the thread that configures the row: states are as they are now.
     for (const XMLElement& link : links) {
         const auto href = link.attribute("href");
-        const auto state =
-            href ? RESTHandler::sharedInstance().fetchDataFromAtomLink(*href + property, *corvel()) : std::nullopt;
+        const auto state = href ? fetchLinkedText(*href + property, corvel()) : std::nullopt;
         counters.add(state.value_or(""));
     }
 }
