@@ -125,10 +125,26 @@ TEST_P(GeometryTest, Editor)
 {
     apply();
     stage.show(size(), fleet());
-    stage.openEditor()->saveCorvel();
+    DeltaCorvelViewController& editor = *stage.openEditor();
     ASSERT_TRUE(waitForSheet());
+    // What is written is seen.
+    const QQuickItem* form = stage.items("Form").at(0);
+    const std::vector<QQuickItem*> fields = stage.items("FormField");
+    ASSERT_EQ(fields.size(), 4U);
+    for (QQuickItem* field : {fields[3], fields[0]}) {
+        QMetaObject::invokeMethod(field, "edit", Q_ARG(int, int(Qt::TabFocusReason)));
+        stage.settle(200);
+        const QRectF place = field->mapRectToItem(form, field->boundingRect());
+        EXPECT_GE(place.top(), 0);
+        EXPECT_LE(place.bottom(), form->height());
+    }
+    // And what went wrong is read without scrolling.
+    editor.saveCorvel();
     stage.settle(300);
     expectSound();
+    const QQuickItem* error = text("Please enter all fields");
+    ASSERT_NE(error, nullptr);
+    EXPECT_LE(error->mapToScene(QPointF(0, error->height())).y(), size().height());
 }
 
 TEST_P(GeometryTest, Dashboard)

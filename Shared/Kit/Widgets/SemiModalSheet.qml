@@ -15,7 +15,11 @@ T.Popup {
 
     readonly property SheetContent sheetContent: host.scene as SheetContent
     readonly property int barHeight: Math.max(Theme.target, Math.round(22 * Theme.barScale) + 16)
+    readonly property real maximumHeight: parent !== null ? parent.height - 24 : 0
+    readonly property real extraHeight: sheetContent !== null ? sheetContent.extraHeight : 0
     property real bodyHeight: 0
+    /// What bodyHeight is on its way to.
+    property real statedHeight: 0
     property bool complete: false
     /// 1 up, 0 away.
     property real slide: 0
@@ -27,13 +31,14 @@ T.Popup {
     closePolicy: T.Popup.NoAutoClose
     padding: 0
     width: parent !== null ? Math.min(parent.width, Theme.sheetMaxWidth) : 0
-    height: Math.min(barHeight + bodyHeight, parent !== null ? parent.height - 24 : 0)
+    height: Math.min(barHeight + bodyHeight + extraHeight, maximumHeight)
     x: parent !== null ? Math.round((parent.width - width) / 2) : 0
     y: parent !== null ? parent.height - height * slide : 0
 
     function follow() {
         if (presentation !== null) {
-            bodyHeight = presentation.height;
+            statedHeight = presentation.height;
+            bodyHeight = statedHeight;
             host.controller = presentation.controller;
             open();
         } else {
@@ -60,7 +65,8 @@ T.Popup {
     Connections {
         target: sheet.presentation
         function onHeightChanged() {
-            resizing.to = sheet.presentation.height;
+            sheet.statedHeight = sheet.presentation.height;
+            resizing.to = sheet.statedHeight;
             resizing.restart();
         }
     }
@@ -71,6 +77,12 @@ T.Popup {
         property: "bodyHeight"
         duration: Theme.sheetBack
         easing.type: Easing.OutCubic
+    }
+    Binding {
+        target: sheet.sheetContent
+        property: "restingHeight"
+        value: Math.min(sheet.statedHeight + sheet.extraHeight, sheet.maximumHeight - sheet.barHeight)
+        when: sheet.sheetContent !== null
     }
     Binding {
         target: sheet.underlay

@@ -17,4 +17,8 @@ FocusScope {
     signal saved()
     /// The first field, which gets the keyboard once the sheet is up.
     property FormField firstField: null
+    /// What the scene needs above the heights that its controller states, which are those of text at 100 %.
+    property real extraHeight: 0
+    /// How tall the scene will be once the sheet has come to rest; set by the sheet.
+    property real restingHeight: 0
 }

@@ -15,6 +15,8 @@ SheetContent {
     title: editor.navigationBar.text
     saveEnabled: !editor.busy
     firstField: nameField
+    // The fields grow with the text.
+    extraHeight: Math.max(0, status.y - 4 * nameField.rowHeight)
     onSaved: editor.saveCorvel()
     onCancelled: editor.cancel()
 
@@ -31,53 +33,55 @@ SheetContent {
         onClicked: scene.editor.hideKeyboardOnTouch()
     }
 
-    Flickable {
+    Form {
         id: form
 
         anchors.fill: parent
-        contentHeight: fields.height
-        interactive: contentHeight > height
-        boundsBehavior: Flickable.StopAtBounds
+        restingHeight: scene.restingHeight
 
-        Column {
-            id: fields
+        EditorField {
+            id: nameField
 
+            editor: scene.editor
+            label: qsTr("Name")
+            outlet: scene.editor.nameField
+            ruled: false
+        }
+        EditorField {
+            editor: scene.editor
+            label: qsTr("Address")
+            placeholder: qsTr("Host name or address")
+            outlet: scene.editor.addressField
+            inputMethodHints: Qt.ImhUrlCharactersOnly | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
+        }
+        EditorField {
+            editor: scene.editor
+            label: qsTr("User ID")
+            outlet: scene.editor.usernameField
+        }
+        EditorField {
+            editor: scene.editor
+            label: qsTr("Password")
+            outlet: scene.editor.passwordField
+            secure: true
+        }
+        StatusLine {
+            id: status
+
+            outlet: scene.editor.statusLabel
+            busy: scene.editor.busy
             width: form.width
 
-            EditorField {
-                id: nameField
-
+            Rule {
                 editor: scene.editor
-                label: qsTr("Name")
-                outlet: scene.editor.nameField
-                ruled: false
             }
-            EditorField {
-                editor: scene.editor
-                label: qsTr("Address")
-                placeholder: qsTr("Host name or address")
-                outlet: scene.editor.addressField
-                inputMethodHints: Qt.ImhUrlCharactersOnly | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
-            }
-            EditorField {
-                editor: scene.editor
-                label: qsTr("User ID")
-                outlet: scene.editor.usernameField
-            }
-            EditorField {
-                editor: scene.editor
-                label: qsTr("Password")
-                outlet: scene.editor.passwordField
-                secure: true
-            }
-            StatusLine {
-                outlet: scene.editor.statusLabel
-                busy: scene.editor.busy
-                width: parent.width
-
-                Rule {
-                    editor: scene.editor
-                }
+        }
+    }
+    Connections {
+        target: scene.editor.statusLabel
+        function onTextChanged() {
+            if (scene.editor.statusLabel.text !== "") {
+                form.reveal(status);
             }
         }
     }

@@ -1,0 +1,84 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+
+/// A column of rows that scrolls where it has too little room: to the row that is being edited, and to the one that it
+/// is asked to reveal.
+Flickable {
+    id: form
+
+    default property alias rows: column.data
+    /// How tall the form will be once what holds it has come to rest.
+    property real restingHeight: height
+
+    readonly property Item edited: rowOf(form.Window.activeFocusItem)
+    property Item revealed: null
+    property real lastRestingHeight: 0
+
+    function reveal(row: Item) {
+        revealed = row;
+        follow();
+    }
+    function rowOf(item: Item): Item {
+        let row = item;
+        while (row !== null && row.parent !== column) {
+            row = row.parent;
+        }
+        return row;
+    }
+    function follow() {
+        if (revealed === null) {
+            return;
+        }
+        const from = scrolling.running ? scrolling.to : contentY;
+        const wanted = Math.min(revealed.y, Math.max(from, revealed.y + revealed.height - restingHeight));
+        scrollTo(Math.max(0, Math.min(wanted, column.implicitHeight - restingHeight)));
+    }
+    function scrollTo(y: real) {
+        scrolling.stop();
+        if (y !== contentY) {
+            scrolling.to = y;
+            scrolling.start();
+        }
+    }
+
+    contentHeight: column.implicitHeight
+    interactive: contentHeight > height
+    boundsBehavior: Flickable.StopAtBounds
+
+    onEditedChanged: {
+        if (edited !== null) {
+            reveal(edited);
+        }
+    }
+    onContentHeightChanged: follow()
+    onRestingHeightChanged: {
+        // Less room takes away the end of the form again, unless somebody writes there.
+        if (restingHeight < lastRestingHeight) {
+            revealed = edited;
+            if (edited === null) {
+                scrollTo(0);
+            }
+        }
+        lastRestingHeight = restingHeight;
+        follow();
+    }
+    onMovementStarted: {
+        scrolling.stop();
+        revealed = null;
+    }
+
+    Column {
+        id: column
+
+        width: form.width
+    }
+    NumberAnimation {
+        id: scrolling
+
+        target: form
+        property: "contentY"
+        duration: Theme.sheetBack
+        easing.type: Easing.OutCubic
+    }
+}
