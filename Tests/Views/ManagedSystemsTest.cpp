@@ -262,6 +262,8 @@ TEST_F(ManagedSystemsTest, ARefusedFetchIsLoggedAndKeepsTheStoredFeed)
     const auto information = open<MCViewController>(corvel);
     ASSERT_TRUE(runUntil([&] { return !information->contentLabel()->isHidden(); }));
     EXPECT_FALSE(information->fetchingActivityIndicator()->isAnimating());
+    EXPECT_EQ(information->header()->titleLabel()->text(), "Management Console");
+    EXPECT_EQ(information->header()->subtitleLabel()->text(), "");
     EXPECT_EQ(lines(consoleFile).back().line, 121);
 
     // A screen that is closed while it fetches still stores what comes, and then goes.

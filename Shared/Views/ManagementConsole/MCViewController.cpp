@@ -62,6 +62,8 @@ void MCViewController::fetchAfresh()
             [screen](const Error& error) {
                 screenLog.writeError(121, "fetchSystemInformation", error);
                 screen->m_fetchingActivityIndicator.stopAnimating();
+                // Nothing is being updated any more.
+                screen->m_header.setHeaderTitle(tr("Management Console"), QString());
                 screen->m_contentLabel.setHidden(false);
                 return error;
             });
