@@ -11,6 +11,7 @@
 #include <filesystem>
 #include <fstream>
 #include <functional>
+#include <regex>
 #include <sys/stat.h>
 
 namespace lodestar
@@ -47,6 +48,22 @@ std::string laughs(int levels)
     return "<!ENTITY e0 'lol'>" + numbered(1, levels, [](int i) {
                return "<!ENTITY e" + std::to_string(i) + " '" + repeated("&e" + std::to_string(i - 1) + ";", 10) + "'>";
            });
+}
+
+std::string manyAttributes(const std::string& equalsValue = "='>' ")
+{
+    return "<b " + numbered(1, 100'000, [&](int i) { return "c" + std::to_string(i) + equalsValue; }) + "/>";
+}
+
+/// With each "|" made a letter both of whose bytes look like a "<".
+std::string utf16(const std::string& ascii)
+{
+    std::string units = "\xff\xfe";
+    for (const char c : ascii) {
+        units += c == '|' ? '<' : c;
+        units += c == '|' ? '<' : '\0';
+    }
+    return units;
 }
 
 struct Bomb {
@@ -93,8 +110,15 @@ std::vector<Bomb> bombs()
                   repeated("<b/>", 10'000)),
          true},
         {"depth", repeated("<a>", 100'000) + repeated("</a>", 100'000), false},
-        {"attributes",
-         document("", "<b " + numbered(1, 100'000, [](int i) { return "c" + std::to_string(i) + "='>' "; }) + "/>"),
+        {"attributes", document("", manyAttributes()), false},
+        {"attributes in UTF-16", utf16(document("", manyAttributes("='|' "))), false},
+        {"attributes in a declared encoding",
+         "<?xml version='1.0' encoding='UTF-7'?><a>" + std::regex_replace(manyAttributes(), std::regex("<"), "+ADw-"),
+         false},
+        {"attributes in an entity", document("<!ENTITY e \"&#60;" + manyAttributes().substr(1) + "\">", "&e;"), false},
+        {"name spaces",
+         document("",
+                  "<b " + numbered(1, 100'000, [](int i) { return "xmlns:c" + std::to_string(i) + "='u' "; }) + "/>"),
          false},
     };
 }

@@ -2,6 +2,7 @@
 #include "Controllers/REST/XMLDeclarations.h"
 
 #include "Controllers/REST/XMLDocumentBuilder.h"
+#include "Controllers/REST/XMLInput.h"
 
 #include <libxml/SAX2.h>
 #include <libxml/entities.h>
@@ -17,6 +18,13 @@ namespace
 constexpr std::size_t mostExpandedBytes = 1U << 20U;
 constexpr std::size_t costOfExpansion = 100;
 
+/// Whether the entity's text, which the parser is about to check with a context of its own, would keep it long.
+bool isMonstrous(const xmlEntity& entity)
+{
+    return entity.etype == XML_INTERNAL_GENERAL_ENTITY && entity.checked == 0 && entity.content != nullptr &&
+           hasMonstrousTag({reinterpret_cast<const char*>(entity.content), static_cast<std::size_t>(entity.length)});
+}
+
 /// An entity that has been checked and has no content of its own kept is read anew at every reference. With this for
 /// its content it is not. It does not own it, so that it is neither freed nor looked into.
 xmlNode* anyContent()
@@ -28,6 +36,12 @@ xmlNode* anyContent()
 xmlEntityPtr entityNamed(void* context, const xmlChar* name)
 {
     const xmlEntityPtr entity = xmlSAX2GetEntity(context, name);
+    if (entity != nullptr && isMonstrous(*entity)) {
+        auto* const parser = static_cast<xmlParserCtxtPtr>(context);
+        static_cast<XMLDocumentBuilder*>(parser->_private)->refuse();
+        xmlStopParser(parser);
+        return nullptr;
+    }
     if (entity != nullptr && entity->etype == XML_INTERNAL_GENERAL_ENTITY && entity->checked != 0 &&
         entity->children == nullptr) {
         entity->children = anyContent();

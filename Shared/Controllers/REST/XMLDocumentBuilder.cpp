@@ -50,7 +50,7 @@ Result<std::shared_ptr<const XMLDocument>> XMLDocumentBuilder::run(std::string_v
     if (bytes.empty()) {
         return std::shared_ptr<const XMLDocument>();
     }
-    if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max()) || hasMonstrousTag(bytes)) {
+    if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
         return tooLarge();
     }
     const std::unique_ptr<xmlParserCtxt, ParserDeleter> parser(makeXMLParser(bytes));
@@ -58,11 +58,15 @@ Result<std::shared_ptr<const XMLDocument>> XMLDocumentBuilder::run(std::string_v
         return outOfMemory();
     }
     m_parser = parser.get();
+    m_memory.limitAttributesOf(*parser);
     parser->_private = this;
     xmlCtxtUseOptions(parser.get(), parseOptions);
     setEvents(*parser->sax);
     reserve(bytes.size());
     xmlParseDocument(parser.get());
+    if (m_memory.hadMonstrousTag()) {
+        return tooLarge();
+    }
     // A shorter document must never pass for a whole one.
     if (m_memory.ranOut() || parser->errNo == XML_ERR_NO_MEMORY) {
         return outOfMemory();
@@ -223,6 +227,11 @@ XMLDocument::Name XMLDocumentBuilder::internLocalPart(const xmlChar* name, const
         text.remove_prefix(colon + 1);
     }
     return m_document->m_names.intern(text);
+}
+
+void XMLDocumentBuilder::refuse()
+{
+    fail(tooLarge());
 }
 
 void XMLDocumentBuilder::fail(Error error)

@@ -26,6 +26,8 @@ public:
     static Error outOfMemory();
 
     XMLExpansion& expansion() { return m_expansion; }
+    /// Ends the parse: the document is too large in some way.
+    void refuse();
 
 private:
     static constexpr unsigned knownBits = 10;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Controllers/REST/XMLInput.h"
 
+#include "Controllers/REST/XMLMemory.h"
+
 #include <libxml/parserInternals.h>
 #include <libxml/xmlIO.h>
 
@@ -34,7 +36,6 @@ bool isPlainUTF8(std::string_view bytes)
 
 /// Tags shorter than this cannot hold enough attributes to matter.
 constexpr std::size_t shortSpan = 4096;
-constexpr std::size_t mostAttributes = 1000;
 
 /// Values, that is quoted texts after an "=", between a "<" and the ">" that ends its tag.
 bool isMonstrous(std::string_view tag)

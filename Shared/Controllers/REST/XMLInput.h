@@ -13,9 +13,7 @@ namespace lodestar
 /// zero after them.
 xmlParserCtxtPtr makeXMLParser(std::string_view bytes);
 
-/// Whether a start tag has more attributes than any feed's. The parser compares each attribute of a tag with every
-/// other, so that one tag of a megabyte keeps it for seconds and a larger one for minutes. Tells for encodings that
-/// keep ASCII as it is.
+/// Whether a start tag has more than `mostAttributes`, in UTF-8.
 bool hasMonstrousTag(std::string_view bytes);
 
 } // namespace lodestar

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Controllers/REST/XMLMemory.h"
 
-#include <libxml/parser.h>
 #include <libxml/xmlmemory.h>
 
 #include <cstdlib>
@@ -14,6 +13,19 @@ namespace
 {
 
 thread_local bool refused = false;
+thread_local bool monstrous = false;
+thread_local const xmlParserCtxt* limited = nullptr;
+
+/// The parser keeps five pointers for each attribute of the tag that it is in, two for each name space in force.
+bool isRoomForMonstrousTag(const void* block, std::size_t size)
+{
+    if (limited == nullptr || block == nullptr) {
+        return false;
+    }
+    constexpr std::size_t one = sizeof(void*);
+    return (block == static_cast<const void*>(limited->atts) && size > one * 5 * mostAttributes) ||
+           (block == static_cast<const void*>(limited->nsTab) && size > one * 2 * mostAttributes);
+}
 
 void* noted(void* block)
 {
@@ -28,6 +40,10 @@ void* allocate(std::size_t size)
 
 void* reallocate(void* block, std::size_t size)
 {
+    if (isRoomForMonstrousTag(block, size)) {
+        monstrous = true;
+        return nullptr;
+    }
     // Nothing is what a size of nothing gives, and rightly.
     return size != 0 ? noted(std::realloc(block, size)) : std::realloc(block, size);
 }
@@ -49,6 +65,22 @@ XMLMemoryWatch::XMLMemoryWatch()
         xmlInitParser();
     });
     refused = false;
+    monstrous = false;
+}
+
+XMLMemoryWatch::~XMLMemoryWatch()
+{
+    limited = nullptr;
+}
+
+void XMLMemoryWatch::limitAttributesOf(const xmlParserCtxt& parser)
+{
+    limited = &parser;
+}
+
+bool XMLMemoryWatch::hadMonstrousTag() const
+{
+    return monstrous;
 }
 
 bool XMLMemoryWatch::ranOut() const
