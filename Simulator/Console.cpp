@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Simulator/Console.h"
 
+#include "Simulator/Metrics.h"
+
 #include <algorithm>
+#include <charconv>
 
 namespace lodestar::simulator
 {
@@ -77,6 +80,17 @@ void cut(Response& response, std::uint64_t after, Ending ending)
     response.ending = ending;
 }
 
+/// The number behind a name in a target's query; 0 for none.
+int queryNumber(const std::string& target, const std::string& name)
+{
+    const std::size_t at = target.find(name + "=", std::min(target.find('?'), target.size()));
+    int number = 0;
+    if (at != std::string::npos) {
+        std::from_chars(target.data() + at + name.size() + 1, target.data() + target.size(), number);
+    }
+    return std::max(0, number);
+}
+
 int hopIn(const std::string& target)
 {
     const std::size_t at = target.find("?hop=");
@@ -144,7 +158,7 @@ Response Console::answer(const Request& request, const std::vector<Fault>& fault
     } else if (!hasSession(request)) {
         return errorResponse(403, "The session is not valid.");
     } else {
-        draft = answerOf(request, kind);
+        draft = answerOf(request, kind, faults);
     }
     for (const Fault& fault : faults) {
         if (strikes(fault, kind)) {
@@ -184,7 +198,7 @@ RequestKind Console::kindOf(const Request& request) const
         return {Logon, {}};
     }
     if (path.starts_with("/rest/api/pcm/")) {
-        return {Metrics, {}};
+        return {path.ends_with("/ProcessedMetrics") ? Metrics : MetricsDocument, {}};
     }
     if (path.find("/quick/") != std::string::npos) {
         return {Quick, {}};
@@ -239,7 +253,7 @@ bool Console::hasSession(const Request& request) const
     return m_sessions.contains(request.header("X-API-Session").value_or(""));
 }
 
-Console::Draft Console::answerOf(const Request& request, const RequestKind& kind)
+Console::Draft Console::answerOf(const Request& request, const RequestKind& kind, const std::vector<Fault>& faults)
 {
     Draft draft;
     if (request.method != "GET") {
@@ -248,6 +262,10 @@ Console::Draft Console::answerOf(const Request& request, const RequestKind& kind
     }
     if (kind.area == RequestKind::Area::Quick) {
         draft.response = quick(request.path());
+        return draft;
+    }
+    if (kind.area == RequestKind::Area::Metrics || kind.area == RequestKind::Area::MetricsDocument) {
+        draft.response = metrics(request, kind, faults);
         return draft;
     }
     const bool isFeed = kind.area == RequestKind::Area::Feed || kind.area == RequestKind::Area::SessionCheck;
@@ -273,6 +291,37 @@ Response Console::quick(const std::string& path) const
     const auto value = m_served->quickValues.find(path.substr(idStart, at - idStart) + path.substr(at + 6));
     return value == m_served->quickValues.end() ? errorResponse(404, "There is no such property.")
                                                 : textResponse("application/json", value->second);
+}
+
+// The paths are ".../ManagedSystem/ID/ProcessedMetrics" and ".../ManagedSystem/ID/ProcessedMetrics/NUMBER.json", NUMBER
+// being how many samples were asked for.
+Response Console::metrics(const Request& request, const RequestKind& kind, const std::vector<Fault>& faults) const
+{
+    const bool isFeed = kind.area == RequestKind::Area::Metrics;
+    const std::string path = request.path();
+    const std::size_t idEnd = path.find("/ProcessedMetrics");
+    const std::string id = path.substr(0, idEnd).substr(path.substr(0, idEnd).rfind('/') + 1);
+    const auto system = std::ranges::find(inventory().systems, id, &ManagedSystem::id);
+    if (system == inventory().systems.end()) {
+        return errorResponse(404, "There is no such system.");
+    }
+    const std::string contentType = isFeed ? "application/atom+xml; charset=UTF-8" : "application/json";
+    if (const auto own = m_ownFeeds.find(isFeed ? "Metrics" : "MetricsDocument"); own != m_ownFeeds.end()) {
+        return textResponse(contentType, *own->second);
+    }
+    if (isFeed) {
+        const std::string link = "https://" + m_address + ":" + std::to_string(consolePort) + path + "/" +
+                                 std::to_string(queryNumber(request.target, "NoOfSamples")) + ".json";
+        return textResponse(contentType, writeMetricsFeed(inventory(), *system, link));
+    }
+    MetricsShape shape;
+    shape.samples = std::min(std::max(0, std::atoi(path.c_str() + path.rfind('/') + 1)), m_settings.samples);
+    shape.samples = find(faults, FaultName::EmptyMetrics, kind) != nullptr ? 0 : shape.samples;
+    shape.unprocessed = find(faults, FaultName::UnprocessedMetrics, kind) != nullptr;
+    shape.nulls = find(faults, FaultName::NullMetrics, kind) != nullptr;
+    shape.partitions = m_settings.partitions;
+    shape.seed = m_settings.seed + static_cast<std::uint64_t>(system - inventory().systems.begin());
+    return textResponse(contentType, writeMetricsDocument(inventory(), *system, shape));
 }
 
 void Console::apply(const Fault& fault, const Request& request, const std::string& nextAddress, Draft& draft) const
@@ -339,6 +388,9 @@ void Console::apply(const Fault& fault, const Request& request, const std::strin
     }
     case FaultName::Chunked:
         response.chunked = true;
+        break;
+    case FaultName::FailedStatus:
+        response.status = 500;
         break;
     default:
         break;

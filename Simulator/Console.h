@@ -42,7 +42,7 @@ public:
 
     /// Every session key becomes invalid.
     void expireSessions() { m_sessions.clear(); }
-    /// From now on that text in the place of the console's own feed.
+    /// From now on that text in the place of the console's own feed; also of "Metrics" and "MetricsDocument".
     void setFeed(const std::string& type, std::string text);
     void resetFeed(const std::string& type) { m_ownFeeds.erase(type); }
 
@@ -57,8 +57,9 @@ private:
     RequestKind kindOf(const Request& request) const;
     Response logon(const Request& request, const std::vector<Fault>& faults);
     bool hasSession(const Request& request) const;
-    Draft answerOf(const Request& request, const RequestKind& kind);
+    Draft answerOf(const Request& request, const RequestKind& kind, const std::vector<Fault>& faults);
     Response quick(const std::string& path) const;
+    Response metrics(const Request& request, const RequestKind& kind, const std::vector<Fault>& faults) const;
     void apply(const Fault& fault, const Request& request, const std::string& nextAddress, Draft& draft) const;
     void compress(Draft& draft);
 

@@ -13,7 +13,7 @@ namespace lodestar::simulator
 namespace
 {
 
-constexpr std::array<std::pair<std::string_view, FaultName>, 25> names = {{
+constexpr std::array<std::pair<std::string_view, FaultName>, 29> names = {{
     {"refuseLogon", FaultName::RefuseLogon},
     {"logonWithoutKey", FaultName::LogonWithoutKey},
     {"logonNotXML", FaultName::LogonNotXML},
@@ -39,15 +39,20 @@ constexpr std::array<std::pair<std::string_view, FaultName>, 25> names = {{
     {"expiredCertificate", FaultName::ExpiredCertificate},
     {"misnamedCertificate", FaultName::MisnamedCertificate},
     {"chunked", FaultName::Chunked},
+    {"failedStatus", FaultName::FailedStatus},
+    {"nullMetrics", FaultName::NullMetrics},
+    {"unprocessedMetrics", FaultName::UnprocessedMetrics},
+    {"emptyMetrics", FaultName::EmptyMetrics},
 }};
 
-constexpr std::array<std::string_view, 12> targets = {
+constexpr std::array<std::string_view, 13> targets = {
     "",
     "All",
     "Logon",
     "SessionCheck",
     "Quick",
     "Metrics",
+    "MetricsDocument",
     "ManagementConsole",
     "Group",
     "ManagedSystem",
@@ -78,6 +83,8 @@ std::string_view areaName(RequestKind::Area area)
         return "Quick";
     case RequestKind::Area::Metrics:
         return "Metrics";
+    case RequestKind::Area::MetricsDocument:
+        return "MetricsDocument";
     case RequestKind::Area::Feed:
     case RequestKind::Area::Other:
         break;
@@ -125,6 +132,10 @@ bool strikes(const Fault& fault, const RequestKind& kind)
     case FaultName::LogonWithoutKey:
     case FaultName::LogonNotXML:
         return kind.area == Logon;
+    case FaultName::NullMetrics:
+    case FaultName::UnprocessedMetrics:
+    case FaultName::EmptyMetrics:
+        return kind.area == MetricsDocument;
     default:
         break;
     }

@@ -60,12 +60,18 @@ enum class FaultName {
     MisnamedCertificate,
     /// No fault: bodies are sent in chunks, whole.
     Chunked,
+    /// Status 500 over the answer that there is.
+    FailedStatus,
+    /// Metrics whose samples have some nulls, say that nothing was processed, or are none at all.
+    NullMetrics,
+    UnprocessedMetrics,
+    EmptyMetrics,
 };
 
 struct Fault {
     FaultName name = FaultName::RefuseLogon;
-    /// What is struck: a feed's type, "Logon", "SessionCheck", "Quick", "Metrics" or "All"; empty for what the name
-    /// says. For `LogonNotXML` the form.
+    /// What is struck: a feed's type, "Logon", "SessionCheck", "Quick", "Metrics" (the feed of them), "MetricsDocument"
+    /// or "All"; empty for what the name says. For `LogonNotXML` the form.
     std::string what;
     /// None for every console.
     std::optional<int> console;
@@ -78,7 +84,7 @@ struct Fault {
 
 /// What a request is for.
 struct RequestKind {
-    enum class Area { Logon, SessionCheck, Feed, Quick, Metrics, Other };
+    enum class Area { Logon, SessionCheck, Feed, Quick, Metrics, MetricsDocument, Other };
 
     Area area = Area::Other;
     /// The object type of a feed; empty for the rest.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Simulator/FeedWriter.h"
 
+#include "Simulator/Metrics.h"
 #include "Simulator/XmlWriter.h"
 
 #include <algorithm>
@@ -356,6 +357,12 @@ void writeDemoFeeds(const std::string& folder)
         if (!file.flush()) {
             throw std::runtime_error("cannot write " + path);
         }
+    }
+    // One document for every system: the demonstration asks by no identifier.
+    std::ofstream metrics(folder + "/ManagedSystem.json", std::ios::binary | std::ios::trunc);
+    metrics << writeMetricsDocument(inventory, inventory.systems.front(), {});
+    if (!metrics.flush()) {
+        throw std::runtime_error("cannot write " + folder + "/ManagedSystem.json");
     }
 }
 

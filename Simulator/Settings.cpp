@@ -50,6 +50,7 @@ const std::map<std::string, Setter, std::less<>>& setters()
         {"--vios", numberSetter(&Settings::vios)},
         {"--events", numberSetter(&Settings::events)},
         {"--groups", numberSetter(&Settings::groups)},
+        {"--samples", numberSetter(&Settings::samples)},
         {"--feed-bytes", numberSetter(&Settings::feedBytes)},
         {"--latency", numberSetter(&Settings::latency)},
         {"--seed", numberSetter(&Settings::seed)},
@@ -79,6 +80,7 @@ std::vector<std::string> argumentsOf(const Settings& settings)
         "--vios",       std::to_string(settings.vios),
         "--events",     std::to_string(settings.events),
         "--groups",     std::to_string(settings.groups),
+        "--samples",    std::to_string(settings.samples),
         "--feed-bytes", std::to_string(settings.feedBytes),
         "--latency",    std::to_string(settings.latency),
         "--seed",       std::to_string(settings.seed),
@@ -130,6 +132,7 @@ std::string_view helpText()
   --vios N          virtual I/O servers a console (6)
   --events N        serviceable events a console (8)
   --groups N        resource groups a console (9)
+  --samples N       metrics samples a system (240); each grows with the partitions
   --feed-bytes N    pad every feed to about N bytes (0: not padded)
   --latency MS      wait before every answer (0)
   --seed N          another seed gives another inventory (1)
@@ -143,9 +146,10 @@ std::string_view helpText()
   --control         end when standard input ends
   --write-demo DIR  write the demonstration feeds and end
 
-Faults. WHAT is a feed's type, or Logon, SessionCheck, Quick, Metrics, All; feeds when left out:
+Faults. WHAT is a feed's type, or Logon, SessionCheck, Quick, Metrics, MetricsDocument, All; feeds when left out:
   refuseFeed emptyFeed stallFeed malformedFeed cutBody cutChunk cutGzip reset trickle hugeBody gzipBomb
-  hugeHeaders redirectLoop redirectOtherHost chunked; basicAuth (everything when left out)
+  hugeHeaders redirectLoop redirectOtherHost chunked failedStatus; basicAuth (everything when left out)
+  nullMetrics unprocessedMetrics emptyMetrics (the metrics document)
   refuseLogon logonWithoutKey logonNotXML[:html|empty|json]
   silentAfterAccept closePort expiredCertificate misnamedCertificate; at once and once: expireSession swapCertificate
 

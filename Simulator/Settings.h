@@ -25,6 +25,9 @@ struct Settings {
     int vios = 6;
     int events = 8;
     int groups = 9;
+    /// Metrics samples that a console has of a system, at most as many as it is asked for. Each has the figures of the
+    /// system's partitions too: with 105 of those, 240 samples come to about 12 MB.
+    int samples = 240;
     /// About how many bytes each feed is padded to; 0 for no padding.
     std::size_t feedBytes = 0;
     /// Milliseconds between a request and its answer.

@@ -48,7 +48,8 @@ public:
     void clearFaults() { command("clear"); }
     /// For connections made from now on.
     void setLatency(int milliseconds) { command("latency " + std::to_string(milliseconds)); }
-    /// That text, with status 200, in the place of the console's own feed of a type.
+    /// That text, with status 200, in the place of the console's own feed of a type, or of its "Metrics" or
+    /// "MetricsDocument".
     void setFeed(int console, std::string_view type, std::string_view text);
     void resetFeed(int console, std::string_view type);
     /// Nobody listens on the address, and connections are closed; then the same console on the same address again.

@@ -57,6 +57,8 @@ TEST(DemoFeeds, AreWhatTheProgramWrites)
         EXPECT_EQ(contents(std::filesystem::path(LODESTAR_DEMO_FOLDER) / name), contents(folder / name))
             << "write them with: lodestar-simulator --write-demo Resources/Demo";
     }
+    EXPECT_EQ(contents(std::filesystem::path(LODESTAR_DEMO_FOLDER) / "ManagedSystem.json"),
+              contents(folder / "ManagedSystem.json"));
     std::filesystem::remove_all(folder);
     EXPECT_THROW(writeDemoFeeds("/nowhere"), std::runtime_error);
 }

@@ -55,6 +55,7 @@ TEST(SimulatorProtocol, SettingsSurviveTheCommandLine)
     settings.consoles = 7;
     settings.systems = 0;
     settings.feedBytes = 200000;
+    settings.samples = 12;
     settings.seed = 18446744073709551615U;
     settings.user = "--consoles";
     settings.password = "a&b <c>";

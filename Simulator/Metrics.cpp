@@ -1,0 +1,221 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Simulator/Metrics.h"
+
+#include "Simulator/XmlWriter.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <chrono>
+#include <cmath>
+#include <cstdio>
+#include <numbers>
+#include <random>
+
+namespace lodestar::simulator
+{
+
+namespace
+{
+
+constexpr std::chrono::seconds interval{180};
+
+/// Shares of a system's whole that are not given out, by quarter of the period but for the last step.
+constexpr std::array<double, 4> freeProcessors = {0.3125, 0.21875, 0.1875, 0.25};
+constexpr std::array<double, 4> freeMemory = {0.25, 0.15625, 0.09375, 0.0390625};
+/// What the system keeps for itself.
+constexpr double ownMemory = 1904.0 / 262144;
+constexpr double lastLoad = 0.40625;
+
+std::size_t stepAt(double part)
+{
+    constexpr std::array<double, 3> steps = {0.26, 0.62, 0.82};
+    return static_cast<std::size_t>(std::ranges::upper_bound(steps, part) - steps.begin());
+}
+
+std::string decimal(double value, int decimals = 2)
+{
+    std::array<char, 64> text{};
+    const auto [end, error] =
+        std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, decimals);
+    std::string out(text.data(), end);
+    while (out.find('.') != std::string::npos && (out.back() == '0' || out.back() == '.')) {
+        const bool wasPoint = out.back() == '.';
+        out.pop_back();
+        if (wasPoint) {
+            break;
+        }
+    }
+    return out;
+}
+
+/// "2026-03-12T09:41:00.000Z" as seconds since 1970.
+std::chrono::sys_seconds momentOf(const std::string& published)
+{
+    const auto part = [&published](std::size_t from, std::size_t length) {
+        return std::atoi(published.substr(from, length).c_str());
+    };
+    const std::chrono::year_month_day date{std::chrono::year(part(0, 4)),
+                                           std::chrono::month(static_cast<unsigned>(part(5, 2))),
+                                           std::chrono::day(static_cast<unsigned>(part(8, 2)))};
+    return std::chrono::sys_days(date) + std::chrono::hours(part(11, 2)) + std::chrono::minutes(part(14, 2)) +
+           std::chrono::seconds(part(17, 2));
+}
+
+std::string stamp(std::chrono::sys_seconds moment)
+{
+    const auto day = std::chrono::floor<std::chrono::days>(moment);
+    const std::chrono::year_month_day date(day);
+    const std::chrono::hh_mm_ss time(moment - day);
+    std::array<char, 64> text{};
+    std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02d.+0000", static_cast<int>(date.year()),
+                  static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
+                  static_cast<int>(time.hours().count()), static_cast<int>(time.minutes().count()),
+                  static_cast<int>(time.seconds().count()));
+    return text.data();
+}
+
+std::string quoted(std::string_view text)
+{
+    std::string out = "\"";
+    for (const char c : text) {
+        if (c == '"' || c == '\\') {
+            out += '\\';
+        }
+        out += c;
+    }
+    return out + '"';
+}
+
+std::string figure(std::string_view name, const std::string& value)
+{
+    return quoted(name) + ":[" + value + "]";
+}
+
+class Document
+{
+public:
+    Document(const Inventory& inventory, const ManagedSystem& system, const MetricsShape& shape)
+        : m_system(system),
+          m_shape(shape),
+          m_end(momentOf(inventory.published)),
+          m_processors(std::atof(system.processorUnits.c_str())),
+          m_random(shape.seed)
+    {
+    }
+
+    std::string write()
+    {
+        m_out = R"({"systemUtil":{"utilInfo":{"name":)" + quoted(m_system.name) + R"(,"id":)" + quoted(m_system.id) +
+                R"(,"intervalSeconds":)" + std::to_string(interval.count()) + R"(,"startTimeStamp":)" +
+                quoted(stamp(momentAt(0))) + R"(,"endTimeStamp":)" + quoted(stamp(m_end)) + "},\n\"utilSamples\":[";
+        for (int i = 0; i < m_shape.samples; ++i) {
+            m_out += i == 0 ? "\n" : ",\n";
+            writeSample(i);
+        }
+        return m_out + "\n]}}\n";
+    }
+
+private:
+    std::chrono::sys_seconds momentAt(int i) const { return m_end - interval * std::max(0, m_shape.samples - 1 - i); }
+    double partAt(int i) const { return m_shape.samples > 1 ? double(i) / (m_shape.samples - 1) : 1.0; }
+    double noise() { return std::uniform_real_distribution<double>(-1, 1)(m_random); }
+
+    /// The share of the processors in use: busy by day, quiet by night, never still, and round at the end.
+    double loadAt(int i)
+    {
+        const auto sinceMidnight = momentAt(i) - std::chrono::floor<std::chrono::days>(momentAt(i));
+        const double hour = std::chrono::duration<double, std::ratio<3600>>(sinceMidnight).count();
+        m_wander = 0.85 * m_wander + 0.02 * noise();
+        const double daily = 0.38 - 0.16 * std::cos((hour - 2) / 12 * std::numbers::pi);
+        const double end = std::clamp((partAt(i) - 0.9) * 10, 0.0, 1.0);
+        return i + 1 == m_shape.samples ? lastLoad : std::max(0.02, (1 - end) * daily + end * lastLoad + m_wander);
+    }
+
+    std::string valueOr(const std::string& value, bool isNull) const
+    {
+        return isNull || m_shape.unprocessed ? "null" : value;
+    }
+
+    void writeSample(int i)
+    {
+        const std::size_t step = stepAt(partAt(i));
+        const bool inside = m_shape.nulls && i > 0 && i + 1 < m_shape.samples;
+        const double memory = m_system.memoryMB;
+        const double available = std::round(memory * freeMemory.at(step));
+        m_out += R"({"sampleInfo":{"timeStamp":)" + quoted(stamp(momentAt(i))) + R"(,"errorInfo":[{"errMsg":)" +
+                 quoted(m_shape.unprocessed ? "Processing did not happen for this sample." : "") + "}]}";
+        m_out += R"(,"serverUtil":{"processor":{)" + figure("totalProcUnits", valueOr(decimal(m_processors), false)) +
+                 "," +
+                 figure("availableProcUnits",
+                        valueOr(decimal(m_processors * freeProcessors.at(step)), inside && i % 17 == 3)) +
+                 "," + figure("utilizedProcUnits", valueOr(decimal(m_processors * loadAt(i)), inside && i % 23 == 5)) +
+                 R"(},"memory":{)" + figure("totalMem", valueOr(decimal(memory), inside && i % 31 == 7)) + "," +
+                 figure("availableMem", valueOr(decimal(available), inside && i % 37 == 9)) + "," +
+                 figure("assignedMemToLpars",
+                        valueOr(decimal(memory - available - std::round(memory * ownMemory)), inside && i % 41 == 11)) +
+                 "}}";
+        if (m_shape.partitions > 0) {
+            writePartitions();
+        }
+        m_out += '}';
+    }
+
+    void writePartitions()
+    {
+        m_out += R"(,"partitionUtil":[)";
+        for (int i = 0; i < m_shape.partitions; ++i) {
+            const double share = m_processors / m_shape.partitions;
+            m_out += i == 0 ? "{" : ",{";
+            m_out += R"("number":)" + std::to_string(i + 1) + R"(,"name":)" +
+                     quoted(m_system.name + "-partition-" + std::to_string(i + 1)) + R"(,"processor":{)" +
+                     figure("entitledProcUnits", decimal(share)) + "," +
+                     figure("utilizedProcUnits", decimal(share * (0.5 + 0.4 * noise()), 6)) + "," +
+                     figure("idleProcUnits", decimal(share * (0.2 + 0.1 * noise()), 6)) + R"(},"memory":{)" +
+                     figure("assignedMem", decimal(double(m_system.memoryMB) / m_shape.partitions)) +
+                     R"(},"traffic":[)";
+            for (int adapter = 0; adapter < 3; ++adapter) {
+                m_out += adapter == 0 ? "{" : ",{";
+                m_out += R"("location":"U4210.M16.06A17A8-V)" + std::to_string(i + 1) + "-C" +
+                         std::to_string(adapter + 2) + R"(",)" +
+                         figure("receivedBytes", decimal(1e6 * (2 + noise()), 3)) + "," +
+                         figure("sentBytes", decimal(1e6 * (2 + noise()), 3)) + "}";
+            }
+            m_out += "]}";
+        }
+        m_out += ']';
+    }
+
+    const ManagedSystem& m_system;
+    const MetricsShape& m_shape;
+    std::chrono::sys_seconds m_end;
+    double m_processors;
+    std::mt19937_64 m_random;
+    double m_wander = 0;
+    std::string m_out;
+};
+
+} // namespace
+
+std::string writeMetricsDocument(const Inventory& inventory, const ManagedSystem& system, const MetricsShape& shape)
+{
+    return Document(inventory, system, shape).write();
+}
+
+std::string writeMetricsFeed(const Inventory& inventory, const ManagedSystem& system, const std::string& documentLink)
+{
+    XmlWriter xml(false);
+    xml.raw(R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)");
+    xml.open("feed", {{"xmlns", "http://www.w3.org/2005/Atom"}});
+    xml.text("id", system.id);
+    xml.text("updated", inventory.published);
+    xml.open("entry");
+    xml.text("title", system.name);
+    xml.text("published", inventory.published);
+    xml.empty("link", {{"type", "application/json"}, {"href", documentLink}});
+    xml.close();
+    xml.close();
+    return xml.take();
+}
+
+} // namespace lodestar::simulator
