@@ -40,6 +40,7 @@ protected:
             m_lines.emplace_back(entry.message);
             m_sources.push_back(std::to_string(entry.level) + " " + std::to_string(entry.tag) + " " +
                                 std::string(entry.fileName) + " " + std::string(entry.method));
+            m_numbers.push_back(entry.line);
             m_haveStacks = m_haveStacks && !entry.stacktrace.empty() && entry.line > 0;
         });
     }
@@ -101,6 +102,7 @@ protected:
     {
         const std::lock_guard lock(m_linesMutex);
         m_sources.clear();
+        m_numbers.clear();
         return std::exchange(m_lines, {});
     }
     /// Level, tag, file and method of the same lines.
@@ -108,6 +110,11 @@ protected:
     {
         const std::lock_guard lock(m_linesMutex);
         return m_sources;
+    }
+    std::vector<int> lineNumbers()
+    {
+        const std::lock_guard lock(m_linesMutex);
+        return m_numbers;
     }
     bool linesHaveStacks()
     {
@@ -121,6 +128,7 @@ private:
     std::mutex m_linesMutex;
     std::vector<std::string> m_lines;
     std::vector<std::string> m_sources;
+    std::vector<int> m_numbers;
     bool m_haveStacks = true;
 };
 

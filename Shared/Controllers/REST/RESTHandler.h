@@ -3,6 +3,7 @@
 
 #include "Application/Model/Corvel.h"
 #include "Controllers/REST/Feed.h"
+#include "Controllers/REST/MetricsDocument.h"
 #include "Controllers/REST/RXPromise.h"
 #include "Platform/Queues/OperationQueue.h"
 #include "Platform/URLLoading/URLConnection.h"
@@ -62,6 +63,12 @@ public:
     /// The text behind a link, without its quotes. Blocks the calling thread until the answer or the time-out.
     std::optional<std::string> fetchDataFromAtomLink(const std::string& link, const Corvel& corvel) const;
     XMLElement getDemoDataForContentType(std::string_view type) const;
+
+    /// The processed performance metrics of the managed system that goes by the identifier. Rejected with the reason
+    /// "Processing did not happen" when the console has not processed any, and when what it sends as the document
+    /// cannot be read.
+    RXPromise<MetricsDocument> fetchPCMDataForManagedSystem(const std::optional<std::string>& systemID,
+                                                            const CorvelRef& corvel, const SessionKey& key);
 
     /// "V…R…" from the five elements of the record's console feed, "(null)" for each missing one.
     static std::string versionString(const Feed& managementConsole);

@@ -1,0 +1,141 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Controllers/REST/RESTHandler.h"
+#include "Controllers/REST/RESTSupport.h"
+#include "Feedback/VireoLogger.h"
+#include "Platform/Resources.h"
+
+#include <utility>
+
+namespace lodestar
+{
+
+namespace
+{
+
+constexpr std::string_view notProcessed = "Processing did not happen";
+
+/// Line numbers are part of a message's identity in a log: they stay what they are.
+template <typename... Args>
+void log(int line, fmt::format_string<Args...> format, Args&&... args)
+{
+    VireoLogger::log(2, 0, line, "Shared/Controllers/REST/RESTHandler",
+                     "-[RESTHandler fetchPCMDataForManagedSystem:corvel:key:]", callStackReturnAddresses(), format,
+                     std::forward<Args>(args)...);
+}
+
+/// The first message of the first sample's errors. No sample at all means that nothing was processed; a sample that
+/// says nothing, or nothing readable, was.
+std::string_view processingMessage(const MetricsDocument& document)
+{
+    const MetricsValue sample = document.root().path({"systemUtil", "utilSamples"}).first();
+    if (!sample.exists()) {
+        return notProcessed;
+    }
+    for (const MetricsValue& record : sample.path({"sampleInfo", "errorInfo"}).elements()) {
+        if (const MetricsValue message = record.member("errMsg"); message.exists()) {
+            return message.text().value_or("");
+        }
+    }
+    return {};
+}
+
+Result<MetricsDocument> demoMetrics()
+{
+    return MetricsDocument::parse(Resources::main().contents("ManagedSystem", "json").value_or(""));
+}
+
+/// The two requests of one call: the feed, then the document that its first entry links to. What is read of the record
+/// is read when it is made, on the thread that asked.
+class MetricsFetch : public std::enable_shared_from_this<MetricsFetch>
+{
+public:
+    MetricsFetch(OperationQueue queue, const Corvel& corvel, SessionKey key, RXPromise<MetricsDocument> promise)
+        : m_queue(std::move(queue)),
+          m_name(shownText(corvel.name())),
+          m_key(std::move(key)),
+          m_promise(std::move(promise))
+    {
+    }
+
+    void start(const std::string& feedURL) const
+    {
+        URLRequest request = requestFor(feedURL);
+        request.headers.addValue("Accept", "application/atom+xml");
+        request.headers.addValue("Accept", "application/vnd.ornis.varnex.uom+xml");
+        log(261, "Request: <URLRequest> {{ URL: {} }}", request.url);
+        sendAsynchronousRequest(std::move(request), m_queue,
+                                [self = shared_from_this()](const Result<URLLoad>& load) { self->receivedFeed(load); });
+    }
+
+private:
+    URLRequest requestFor(std::string url) const
+    {
+        URLRequest request;
+        request.url = std::move(url);
+        if (m_key) {
+            request.headers.setValue("X-API-Session", *m_key);
+        }
+        return request;
+    }
+
+    void receivedFeed(const Result<URLLoad>& load) const
+    {
+        if (!load) {
+            m_promise.rejectWithReason(load.error());
+            return;
+        }
+        if (load.value().response.statusCode != 200) {
+            m_promise.rejectWithReason();
+            return;
+        }
+        const Result<XMLElement> feed = XMLElement::parse(load.value().body);
+        log(272, "RESTHandler: fetching PCM data for {}", m_name);
+        // A feed without a link leads to an empty address, which fails like any that cannot be reached.
+        const auto href = feed ? feed.value().path({"entry", "link"}).attribute("href") : std::nullopt;
+        sendAsynchronousRequest(
+            requestFor(href.value_or("")), m_queue,
+            [self = shared_from_this()](const Result<URLLoad>& second) { self->receivedDocument(second); });
+    }
+
+    /// Whatever body came is read: this answer's own status and error are not looked at. That is meant. A request that
+    /// brought nothing reads as an empty body.
+    void receivedDocument(const Result<URLLoad>& load) const
+    {
+        const Result<MetricsDocument> parsed = MetricsDocument::parse(load ? load.value().body : std::string());
+        log(283, "RESTHandler: fetching PCM error message for {}", m_name);
+        const MetricsDocument document = parsed ? parsed.value() : MetricsDocument();
+        if (processingMessage(document).find(notProcessed) != std::string_view::npos) {
+            m_promise.rejectWithReason(std::string(notProcessed));
+            return;
+        }
+        m_promise.fulfillWithValue(document);
+    }
+
+    const OperationQueue m_queue;
+    const std::string m_name;
+    const SessionKey m_key;
+    const RXPromise<MetricsDocument> m_promise;
+};
+
+} // namespace
+
+RXPromise<MetricsDocument> RESTHandler::fetchPCMDataForManagedSystem(const std::optional<std::string>& systemID,
+                                                                     const CorvelRef& corvel, const SessionKey& key)
+{
+    RXPromise<MetricsDocument> promise;
+    if (corvel->demo() == 1) {
+        const Result<MetricsDocument> document = demoMetrics();
+        if (document) {
+            promise.fulfillWithValue(document.value());
+        } else {
+            promise.rejectWithReason(document.error());
+        }
+        return promise;
+    }
+    std::make_shared<MetricsFetch>(m_queue, *corvel, key, promise)
+        ->start(fmt::format("https://{}:12443/rest/api/pcm/ManagedSystem/{}/ProcessedMetrics?NoOfSamples=240",
+                            shownText(corvel->address()), shownText(systemID)));
+    return promise;
+}
+
+} // namespace lodestar
