@@ -10,7 +10,7 @@ import sys
 import tempfile
 
 PROGRAMS = ["PromiseBenchmark", "FeedBenchmark", "StoreBenchmark", "RefreshBenchmark", "ListBenchmark",
-            "ScrollBenchmark", "StartBenchmark"]
+            "ScrollBenchmark", "StartBenchmark", "ChartsBenchmark"]
 
 
 def rows_of(program):

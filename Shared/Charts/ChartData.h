@@ -74,4 +74,51 @@ struct PieChartData {
     bool operator==(const PieChartData&) const = default;
 };
 
+/// One line. Entries whose value is not finite are left out; the line joins their neighbours. Entries may arrive in any
+/// order and are joined by rising x index, those of the same index in the order given.
+struct LineChartDataSet : ChartDataSet {
+    LineChartDataSet() { valueFormatter.maximumFractionDigits = 2; }
+
+    double lineWidth = 1;    ///< In points, as the circle's radius.
+    double circleRadius = 4; ///< Of the circle at every entry; 0 for none.
+    bool drawCircleHoleEnabled = true;
+
+    bool operator==(const LineChartDataSet&) const = default;
+};
+
+/// The labels and the lines. The label of position i belongs to x index i; an entry whose index is beyond the labels
+/// is charted all the same, without a label.
+struct LineChartData {
+    QStringList xVals;
+    QList<LineChartDataSet> dataSets;
+
+    bool operator==(const LineChartData&) const = default;
+};
+
+/// The bars of one colour. Values that are not finite have no bar.
+struct BarChartDataSet : ChartDataSet {
+    BarChartDataSet() { valueFormatter.maximumFractionDigits = 2; }
+
+    double barSpace = 0.2; ///< Share of a bar's place that stays empty, 0 to 0.9.
+
+    bool operator==(const BarChartDataSet&) const = default;
+};
+
+/// The labels and the bars; bars of several data sets stand side by side at their x index.
+struct BarChartData {
+    QStringList xVals;
+    QList<BarChartDataSet> dataSets;
+
+    bool operator==(const BarChartData&) const = default;
+};
+
+/// Bars with lines in front of them, over the same labels.
+struct CombinedChartData {
+    QStringList xVals;
+    QList<BarChartDataSet> barDataSets;
+    QList<LineChartDataSet> lineDataSets;
+
+    bool operator==(const CombinedChartData&) const = default;
+};
+
 } // namespace lodestar

@@ -47,7 +47,7 @@ protected:
     void focusOutEvent(QFocusEvent* event) override;
 
     bool isMotionReduced() const { return m_reducedMotion; }
-    ChartStyle style() const;
+    virtual ChartStyle style() const;
     /// The frame at the grow-in's present place, and the complete one.
     ChartFrame currentFrame() const;
     ChartFrame completeFrame() const;

@@ -5,9 +5,12 @@
 
 #include <QColor>
 #include <QFont>
+#include <QList>
 #include <QSizeF>
+#include <QString>
 
 class QPainter;
+class QRectF;
 
 namespace lodestar
 {
@@ -19,6 +22,9 @@ struct ChartStyle {
     QFont textFont;                     ///< Their face; sizes are the chart's own.
     double textScale = 1;               ///< 1 is 100 % text.
     Qt::LayoutDirection direction = Qt::LeftToRight;
+    QColor gridColor{0xC4, 0xCC, 0xD5};
+    QColor axisColor{0xA9, 0xB3, 0xBF};
+    QList<QColor> seriesColors = {}; ///< Stand in for the colours of a plot's data sets by position, as far as they go.
 };
 
 /// One drawing of a chart.
@@ -27,6 +33,9 @@ struct ChartFrame {
     ChartStyle style;
     ChartPhases phases;
 };
+
+/// Writes a chart's description into the lower end corner of a box, if it has one.
+void drawDescription(QPainter& painter, const QString& text, const QRectF& box, const ChartStyle& style);
 
 /// Draws one kind of chart with a painter in device-independent pixels, origin at the chart's top left. Knows nothing
 /// of items, windows or time; the same call gives the same picture on every backend.

@@ -45,7 +45,13 @@ public:
     /// Grows the chart in, durations in seconds. The chart is complete at once where no item shows it.
     void animate(double xAxisDuration, double yAxisDuration, ChartEasingOption easingOption);
 
-    /// What a screen reader says instead of the picture; empty without data.
+    /// The same along x alone, as lines grow.
+    void animate(double xAxisDuration, ChartEasingOption easingOption = ChartEasingOption::EaseInOutQuart)
+    {
+        animate(xAxisDuration, 0, easingOption);
+    }
+
+    /// What a screen reader says instead of the picture; empty when there is nothing to say.
     virtual QString accessibleText() const = 0;
 
 Q_SIGNALS:

@@ -138,7 +138,8 @@ void PieChartRenderer::draw(QPainter& painter, const ChartFrame& frame) const
         drawSlices(painter, placed, frame.style);
         drawValues(painter, placed, frame);
     }
-    drawDescription(painter, frame);
+    drawDescription(painter, m_model.descriptionText,
+                    QRectF(QPointF(0, 0), frame.size).adjusted(margin, margin, -margin, -margin), frame.style);
 }
 
 void PieChartRenderer::drawSlices(QPainter& painter, const PieLayout& layout, const ChartStyle& style) const
@@ -180,20 +181,6 @@ void PieChartRenderer::drawValues(QPainter& painter, const PieLayout& layout, co
         text.draw(painter, lines, slice, inner, layout.radius, data.dataSet.colorAt(slice.entry));
     }
     painter.setOpacity(1);
-}
-
-void PieChartRenderer::drawDescription(QPainter& painter, const ChartFrame& frame) const
-{
-    if (m_model.descriptionText.isEmpty()) {
-        return;
-    }
-    QFont font = frame.style.textFont;
-    font.setPixelSize(qMax(1, qRound(11 * frame.style.textScale)));
-    painter.setFont(font);
-    painter.setPen(frame.style.textColor);
-    const QRectF box = QRectF(QPointF(0, 0), frame.size).adjusted(margin, margin, -margin, -margin);
-    const auto end = frame.style.direction == Qt::RightToLeft ? Qt::AlignLeft : Qt::AlignRight;
-    painter.drawText(box, static_cast<int>(end | Qt::AlignBottom) | Qt::TextSingleLine, m_model.descriptionText);
 }
 
 double PieChartRenderer::preferredHeight(double width, const ChartStyle& style) const

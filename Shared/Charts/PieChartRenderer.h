@@ -55,7 +55,6 @@ public:
 private:
     void drawSlices(QPainter& painter, const PieLayout& layout, const ChartStyle& style) const;
     void drawValues(QPainter& painter, const PieLayout& layout, const ChartFrame& frame) const;
-    void drawDescription(QPainter& painter, const ChartFrame& frame) const;
     std::vector<PieSlice> slicesOf(const PieLayout& layout, const ChartPhases& phases) const;
     std::vector<LegendItem> legendItems() const;
 

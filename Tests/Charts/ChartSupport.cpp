@@ -39,30 +39,27 @@ PieChartModel barePie(const QList<float>& counts)
     return model;
 }
 
-Picture::Picture(const PieChartModel& model, ChartFrame frame, double pixelRatio)
+ChartFrame inLato(ChartFrame frame)
+{
+    frame.style.textFont = QFont(QStringLiteral("Lato"));
+    return frame;
+}
+
+Drawing::Drawing(const ChartRenderer& renderer, const ChartFrame& frame, double pixelRatio)
     : image((frame.size * pixelRatio).toSize(), QImage::Format_ARGB32_Premultiplied), ratio(pixelRatio)
 {
     image.setDevicePixelRatio(pixelRatio);
     image.fill(frame.style.cardColor);
-    frame.style.textFont = QFont(QStringLiteral("Lato"));
-    const PieChartRenderer renderer(model);
-    layout = renderer.layout(frame);
     QPainter painter(&image);
-    renderer.draw(painter, frame);
+    renderer.draw(painter, inLato(frame));
 }
 
-QColor Picture::at(QPointF point) const
+QColor Drawing::at(QPointF point) const
 {
     return image.pixelColor((point * ratio).toPoint());
 }
 
-QColor Picture::at(double share, double angle) const
-{
-    const double radians = angle * std::numbers::pi / 180;
-    return at(layout.center + share * layout.radius * QPointF(std::sin(radians), -std::cos(radians)));
-}
-
-int Picture::count(const QColor& color, const QRectF& area) const
+int Drawing::count(const QColor& color, const QRectF& area) const
 {
     const QRect pixels = QRectF(area.topLeft() * ratio, area.size() * ratio).toRect() & image.rect();
     int found = 0;
@@ -72,6 +69,78 @@ int Picture::count(const QColor& color, const QRectF& area) const
         }
     }
     return found;
+}
+
+Picture::Picture(const PieChartModel& model, const ChartFrame& frame, double pixelRatio)
+    : Drawing(PieChartRenderer(model), frame, pixelRatio), layout(PieChartRenderer(model).layout(inLato(frame)))
+{
+}
+
+QColor Picture::at(double share, double angle) const
+{
+    const double radians = angle * std::numbers::pi / 180;
+    return at(layout.center + share * layout.radius * QPointF(std::sin(radians), -std::cos(radians)));
+}
+
+void setUpLines(PlotChartView& view)
+{
+    view.setNoDataText(QStringLiteral("No performance data available."));
+    view.setHighlightEnabled(false);
+    view.setPinchZoomEnabled(true);
+    view.setHighlightIndicatorEnabled(false);
+    view.setDrawGridBackgroundEnabled(false);
+    XAxis xAxis;
+    xAxis.drawGridLinesEnabled = false;
+    view.setXAxis(xAxis);
+    YAxis leftAxis;
+    leftAxis.startAtZeroEnabled = false;
+    leftAxis.gridLineDashLengths = {5, 5};
+    leftAxis.drawLimitLinesBehindDataEnabled = true;
+    view.setLeftAxis(leftAxis);
+    YAxis rightAxis;
+    rightAxis.enabled = false;
+    view.setRightAxis(rightAxis);
+    Legend legend = view.legend();
+    legend.form = LegendForm::Line;
+    view.setLegend(legend);
+}
+
+void showLine(LineChartView& view, const QList<float>& values, const QColor& color)
+{
+    setUpLines(view);
+    Legend legend = view.legend();
+    legend.enabled = false;
+    view.setLegend(legend);
+    LineChartData data;
+    LineChartDataSet line;
+    line.label = QStringLiteral("line");
+    line.colors = {color};
+    line.circleRadius = 0;
+    for (qsizetype i = 0; i < values.size(); ++i) {
+        data.xVals << QString::number(i);
+        line.entries << ChartEntry{values.at(i), static_cast<int>(i)};
+    }
+    data.dataSets << line;
+    view.setData(data);
+}
+
+PlotPicture::PlotPicture(const PlotChartView& view, const ChartFrame& frame, double pixelRatio)
+    : Drawing(PlotRenderer(view.model()), frame, pixelRatio), layout(PlotRenderer(view.model()).layout(inLato(frame)))
+{
+}
+
+QRectF PlotPicture::span(const QColor& color, double index) const
+{
+    const int x = qRound(layout.transform.toX(index) * ratio);
+    int top = -1;
+    int bottom = -1;
+    for (int y = 0; y < image.height() && x < image.width(); ++y) {
+        if (near(image.pixelColor(x, y), color, 12)) {
+            top = top < 0 ? y : top;
+            bottom = y + 1;
+        }
+    }
+    return top < 0 ? QRectF() : QRectF(x / ratio, top / ratio, 1 / ratio, (bottom - top) / ratio);
 }
 
 bool near(const QColor& first, const QColor& second, int tolerance)

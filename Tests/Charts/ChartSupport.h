@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Charts/LineChartView.h"
 #include "Charts/PieChartRenderer.h"
+#include "Charts/PlotRenderer.h"
 
 #include <QImage>
 
@@ -32,20 +34,50 @@ PieChartModel dashboardPie(const QList<float>& counts);
 /// The same without values and legend, so that only slices are drawn.
 PieChartModel barePie(const QList<float>& counts);
 
-/// A drawn chart on its card, 366 × 325 points at two pixels a point unless told otherwise.
-struct Picture {
-    explicit Picture(const PieChartModel& model, ChartFrame frame = {QSizeF(366, 325), {}, {}}, double pixelRatio = 2);
+/// A drawn chart on its card, in Lato, 366 × 325 points at two pixels a point unless told otherwise.
+struct Drawing {
+    Drawing(const ChartRenderer& renderer, const ChartFrame& frame, double pixelRatio);
 
     /// The colour at a point of the chart.
     QColor at(QPointF point) const;
-    /// The colour at a share of the radius and an angle clockwise from 12 o'clock.
-    QColor at(double share, double angle) const;
     /// How many pixels of exactly that colour lie within the rectangle, in points.
     int count(const QColor& color, const QRectF& area) const;
 
     QImage image;
-    PieLayout layout;
     double ratio;
+};
+
+/// The frame in the face that drawings are made in.
+ChartFrame inLato(ChartFrame frame);
+
+struct Picture : Drawing {
+    explicit Picture(const PieChartModel& model, const ChartFrame& frame = {QSizeF(366, 325), {}, {}},
+                     double pixelRatio = 2);
+
+    using Drawing::at;
+    /// The colour at a share of the radius and an angle clockwise from 12 o'clock.
+    QColor at(double share, double angle) const;
+
+    PieLayout layout;
+};
+
+/// A line over these values; labels "0", "1", … set up as the performance screen does it, but for the legend.
+void showLine(LineChartView& view, const QList<float>& values, const QColor& color = blue);
+/// The settings alone.
+void setUpLines(PlotChartView& view);
+
+struct PlotPicture : Drawing {
+    explicit PlotPicture(const PlotChartView& view, const ChartFrame& frame = {QSizeF(366, 400), {}, {}},
+                         double pixelRatio = 2);
+
+    QPointF point(double index, double value) const
+    {
+        return {layout.transform.toX(index), layout.transform.toY(value)};
+    }
+    /// The topmost and lowest point of that colour above or below an x index; an empty rectangle without any.
+    QRectF span(const QColor& color, double index) const;
+
+    PlotLayout layout;
 };
 
 /// Whether two colours differ by at most a step or two, as rounding allows.

@@ -1,0 +1,91 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Charts/ChartItem.h"
+#include "Charts/PlotChartView.h"
+#include "Charts/PlotGesture.h"
+#include "Charts/PlotRenderer.h"
+
+#include <QVariantList>
+
+#include <optional>
+
+namespace lodestar
+{
+
+/// Draws a view of a chart with axes, whatever its marks, and takes its input: two fingers zoom about the point between
+/// them, a double tap zooms in there and, at the closest, shows all again, the wheel and the touchpad zoom at the
+/// pointer, a finger or the mouse moves a zoomed plot and can throw it, a tap selects. Keys: arrows move, + and - zoom,
+/// Home and Escape show all. What the plot has no use for is left to the page.
+class PlotChartItem : public lodestar::ChartItem
+{
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(lodestar::PlotChartView* outlet READ outlet WRITE setOutlet NOTIFY outletChanged)
+    Q_PROPERTY(QColor gridColor MEMBER m_gridColor NOTIFY styleChanged)
+    Q_PROPERTY(QColor axisColor MEMBER m_axisColor NOTIFY styleChanged)
+    /// Colours that stand in for those of the data sets, by position: the appearance's own. Empty for none.
+    Q_PROPERTY(QVariantList seriesColors MEMBER m_seriesColors NOTIFY styleChanged)
+
+public:
+    explicit PlotChartItem(QQuickItem* parent = nullptr);
+
+    /// Not owned, may be null.
+    PlotChartView* outlet() const { return m_outlet; }
+    void setOutlet(PlotChartView* outlet);
+    /// Whether the plot is on its way to another zoom or gliding after a throw.
+    bool isMoving() const;
+
+Q_SIGNALS:
+    void outletChanged();
+
+protected:
+    const ChartRenderer* renderer() const override;
+    ChartStyle style() const override;
+    bool event(QEvent* event) override;
+    void mousePressEvent(QMouseEvent* event) override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+    void mouseReleaseEvent(QMouseEvent* event) override;
+    void mouseUngrabEvent() override;
+    void touchEvent(QTouchEvent* event) override;
+    void touchUngrabEvent() override;
+    void wheelEvent(QWheelEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+private:
+    /// The plot's place; empty without one.
+    QRectF plot() const;
+    PlotFreedom freedom() const;
+    /// A point of the chart as shares of the plot, counted from its lower left.
+    QPointF shareOf(QPointF position) const;
+
+    void press(QPointF position, quint64 time);
+    /// Whether the gesture is the plot's own now.
+    bool move(QPointF position, quint64 time);
+    void release(quint64 time);
+    void pinch(QPointF first, QPointF second);
+    void cancel();
+    void rest();
+
+    void moveBy(QPointF points);
+    /// Whether anything changed.
+    bool zoomAt(QPointF position, double factor);
+    void tapTwice(QPointF position);
+    void glideTo(const PlotViewport& viewport);
+    void glideOn(QPointF pointsPerSecond);
+    bool pressKey(int key);
+
+    QPointer<PlotChartView> m_outlet;
+    std::optional<PlotRenderer> m_renderer;
+    QColor m_gridColor{0xC4, 0xCC, 0xD5};
+    QColor m_axisColor{0xA9, 0xB3, 0xBF};
+    QVariantList m_seriesColors;
+    PlotGesture m_gesture;
+    QVariantAnimation m_zoom; ///< From 0 to 1 on the way between the two viewports.
+    PlotViewport m_zoomFrom;
+    PlotViewport m_zoomTo;
+    QVariantAnimation m_glide; ///< The way of a throw in points.
+    QPointF m_glided;
+};
+
+} // namespace lodestar

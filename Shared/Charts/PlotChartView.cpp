@@ -1,0 +1,100 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Charts/PlotChartView.h"
+
+#include <utility>
+
+namespace lodestar
+{
+namespace
+{
+
+constexpr double legendOffset = 14; // So that a legend below keeps off the card's edge.
+
+} // namespace
+
+PlotChartView::PlotChartView(QObject* parent) : ChartView(parent)
+{
+    m_model.legend.yOffset = legendOffset;
+}
+
+void PlotChartView::setNoDataText(const QString& text)
+{
+    if (m_model.noDataText != text) {
+        m_model.noDataText = text;
+        Q_EMIT changed();
+        Q_EMIT dataChanged();
+    }
+}
+
+QSizeF PlotChartView::smallestViewport() const
+{
+    return {std::min(1.0, 2 / m_model.wholeX().length()), 0.02};
+}
+
+void PlotChartView::setLayers(const QStringList& xVals, std::vector<std::shared_ptr<const PlotLayer>> layers)
+{
+    m_model.xVals = xVals;
+    m_model.layers = std::move(layers);
+    m_model.highlights.clear();
+    m_model.viewport = {};
+    Q_EMIT changed();
+    Q_EMIT dataChanged();
+    Q_EMIT selectionChanged();
+}
+
+void PlotChartView::highlightValues(const QList<Highlight>& highlights)
+{
+    if (m_model.highlights != highlights) {
+        m_model.highlights = highlights;
+        Q_EMIT changed();
+        Q_EMIT selectionChanged();
+    }
+}
+
+void PlotChartView::select(const std::optional<Highlight>& highlight)
+{
+    const std::optional<ChartEntry> entry = highlight ? m_model.entryOf(*highlight) : std::nullopt;
+    if (!entry || m_model.highlights.contains(*highlight)) {
+        highlightValues({});
+        if (delegate() != nullptr) {
+            delegate()->chartValueNothingSelected(*this);
+        }
+        return;
+    }
+    highlightValues({*highlight});
+    if (delegate() != nullptr) {
+        delegate()->chartValueSelected(*this, *entry, highlight->dataSetIndex, *highlight);
+    }
+}
+
+QString PlotChartView::accessibleText() const
+{
+    QStringList texts;
+    for (const PlotModel::Series& each : m_model.allSeries()) {
+        if (!each.series->isEmpty()) {
+            const QString value = each.dataSet->valueFormatter.stringFromNumber(each.series->latest().value);
+            //: A data set's name and its latest value, as in "Processors Used 6.5".
+            texts << tr("%1 %2").arg(each.dataSet->label, value).trimmed();
+        }
+    }
+    //: Between the data sets of a chart as they are read out.
+    return texts.isEmpty() ? m_model.noDataText : texts.join(tr(", "));
+}
+
+QString PlotChartView::selectedText() const
+{
+    if (m_model.highlights.isEmpty()) {
+        return {};
+    }
+    const Highlight& highlight = m_model.highlights.constFirst();
+    const std::optional<ChartEntry> entry = m_model.entryOf(highlight);
+    if (!entry) {
+        return {};
+    }
+    const ChartDataSet& dataSet = *m_model.allSeries()[static_cast<std::size_t>(highlight.dataSetIndex)].dataSet;
+    //: A data set's name, the label of one of its values, and the value.
+    return tr("%1, %2: %3")
+        .arg(dataSet.label, m_model.xVals.value(entry->xIndex), dataSet.valueFormatter.stringFromNumber(entry->value));
+}
+
+} // namespace lodestar

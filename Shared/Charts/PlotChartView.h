@@ -1,0 +1,86 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Charts/ChartView.h"
+#include "Charts/PlotModel.h"
+
+#include <optional>
+
+namespace lodestar
+{
+
+/// A controller's side of a chart with axes. Which marks it has is the subclass's matter; settings, zoom, selection and
+/// text are the same for all of them.
+class PlotChartView : public lodestar::ChartView
+{
+    Q_OBJECT
+    QML_NAMED_ELEMENT(PlotChartView)
+    QML_UNCREATABLE("made by controllers")
+    Q_PROPERTY(QString selectedText READ selectedText NOTIFY selectionChanged)
+
+public:
+    explicit PlotChartView(QObject* parent = nullptr);
+
+    /// The whole of what is drawn.
+    const PlotModel& model() const { return m_model; }
+
+    void setDescriptionText(const QString& text) { assign(m_model.descriptionText, text); }
+    void setNoDataText(const QString& text);
+    void setHighlightEnabled(bool on) { assign(m_model.highlightEnabled, on); }
+    void setDragEnabled(bool on) { assign(m_model.dragEnabled, on); }
+    void setScaleEnabled(bool on) { assign(m_model.scaleEnabled, on); }
+    void setPinchZoomEnabled(bool on) { assign(m_model.pinchZoomEnabled, on); }
+    void setHighlightIndicatorEnabled(bool on) { assign(m_model.highlightIndicatorEnabled, on); }
+    void setDrawGridBackgroundEnabled(bool on) { assign(m_model.drawGridBackgroundEnabled, on); }
+    const XAxis& xAxis() const { return m_model.xAxis; }
+    void setXAxis(const XAxis& axis) { assign(m_model.xAxis, axis); }
+    const YAxis& leftAxis() const { return m_model.leftAxis; }
+    void setLeftAxis(const YAxis& axis) { assign(m_model.leftAxis, axis); }
+    const YAxis& rightAxis() const { return m_model.rightAxis; }
+    void setRightAxis(const YAxis& axis) { assign(m_model.rightAxis, axis); }
+    const Legend& legend() const { return m_model.legend; }
+    void setLegend(const Legend& legend) { assign(m_model.legend, legend); }
+
+    /// What is seen of the plot. New data show it whole again.
+    const PlotViewport& viewport() const { return m_model.viewport; }
+    /// Kept within the whole and the smallest part.
+    void setViewport(const PlotViewport& viewport)
+    {
+        assign(m_model.viewport, viewport.zoomed(1, 1, {0, 0}, smallestViewport()));
+    }
+    /// The smallest part that can be zoomed in on, as shares of the whole: two steps of the x axis, a fiftieth of the
+    /// values.
+    QSizeF smallestViewport() const;
+
+    /// Highlights exactly these, none for an empty list. The delegate is not told: it is the program speaking.
+    void highlightValues(const QList<Highlight>& highlights);
+    /// The user's selection of an entry, or of nothing; the delegate is told. Selecting the selected entry again
+    /// selects nothing.
+    void select(const std::optional<Highlight>& highlight);
+
+    /// Names and latest values in order, as in "Total Processors 16, Processors Used 6.5"; the no-data text without
+    /// data.
+    QString accessibleText() const override;
+    /// Name, label and value of the entry that is highlighted first; empty without one.
+    QString selectedText() const;
+
+Q_SIGNALS:
+    void selectionChanged();
+
+protected:
+    void setLayers(const QStringList& xVals, std::vector<std::shared_ptr<const PlotLayer>> layers);
+
+private:
+    template <typename T>
+    void assign(T& member, const T& value)
+    {
+        if (!(member == value)) {
+            member = value;
+            Q_EMIT changed();
+        }
+    }
+
+    PlotModel m_model;
+};
+
+} // namespace lodestar

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QPointF>
+#include <QtGlobal>
+
+#include <optional>
+
+namespace lodestar
+{
+
+/// The directions in which a plot can be moved.
+struct PlotFreedom {
+    bool x = false;
+    bool y = false;
+};
+
+/// Two fingers' change from one event to the next.
+struct PlotPinch {
+    double factorX = 1;
+    double factorY = 1;
+    QPointF from; ///< The point between the fingers before and after.
+    QPointF to;
+};
+
+/// Tells taps, double taps, drags and pinches over a plot apart. A stroke in a direction in which the plot cannot be
+/// moved is left to the page. Positions in points, times in milliseconds.
+class PlotGesture
+{
+public:
+    enum class State { Idle, Pressed, Dragging, Pinching, Refused };
+    enum class Tap { None, Single, Double };
+
+    void press(QPointF position, quint64 time, PlotFreedom freedom);
+    /// How far to move the plot; nothing unless dragging.
+    std::optional<QPointF> move(QPointF position, quint64 time);
+    /// Ends the gesture. A second tap soon after the first and near it makes the two a double one.
+    Tap release(quint64 time);
+    /// After the release of a drag: the speed to go on with in points a second, 0 unless it was still moving.
+    QPointF throwSpeed() const { return m_throw; }
+    /// Two fingers down or moved. Without `bothAxes` only the axis along which they lay at first is enlarged.
+    std::optional<PlotPinch> pinch(QPointF first, QPointF second, bool bothAxes);
+    /// One of two fingers has left; the other one goes on dragging.
+    void endPinch(QPointF remaining, quint64 time, PlotFreedom freedom);
+    void cancel() { m_state = State::Idle; }
+
+    State state() const { return m_state; }
+    QPointF pressPosition() const { return m_press; }
+
+private:
+    State judge(QPointF position) const;
+
+    State m_state = State::Idle;
+    PlotFreedom m_freedom;
+    QPointF m_press;
+    quint64 m_pressTime = 0;
+    QPointF m_last;
+    quint64 m_lastTime = 0;
+    QPointF m_speed;
+    QPointF m_throw;
+    QPointF m_first; ///< The fingers of a pinch.
+    QPointF m_second;
+    bool m_alongX = false;
+    std::optional<quint64> m_tapTime; ///< When and where the last tap was, unless it ended a double one.
+    QPointF m_tapPosition;
+};
+
+} // namespace lodestar

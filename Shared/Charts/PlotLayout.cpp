@@ -1,0 +1,215 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Charts/PlotLayout.h"
+
+#include "Charts/AxisTicks.h"
+
+#include <QFontMetricsF>
+
+#include <algorithm>
+#include <cmath>
+
+namespace lodestar
+{
+namespace
+{
+
+constexpr double axisFontSize = 11;
+constexpr double edge = 12;      // Between the plot and the chart's edge where no label stands.
+constexpr double top = 18;       // The same at the top.
+constexpr double tickPitch = 44; // Least distance of value ticks.
+constexpr double labelGap = 8;   // Between an axis and its labels.
+constexpr double spaceStep = 20; // Of `spaceBetweenLabels`.
+constexpr double smallest = 24;  // A plot of less in either direction is left off.
+
+enum class Place { Left, Right, Top, Bottom };
+
+/// Finds room for the labels and puts them there.
+class Placement
+{
+public:
+    Placement(const PlotModel& model, const ChartFrame& frame)
+        : m_model(model), m_scale(frame.style.textScale), m_size(frame.size), m_metrics(axisFont(frame.style))
+    {
+        m_layout.legend = layoutLegend(model.legend, legendItems(frame.style), frame.size, frame.style);
+        m_layout.content = contentBeside(model.legend, m_layout.legend, frame.size, frame.style);
+    }
+
+    PlotLayout layout()
+    {
+        if (!m_model.isEmpty()) {
+            placePlot();
+        }
+        if (m_layout.hasPlot()) {
+            placeIndices();
+        }
+        return m_layout;
+    }
+
+private:
+    std::vector<LegendItem> legendItems(const ChartStyle& style) const
+    {
+        std::vector<LegendItem> items;
+        if (m_model.isEmpty()) {
+            return items;
+        }
+        for (const PlotModel::Series& each : m_model.allSeries()) {
+            const auto number = static_cast<qsizetype>(items.size());
+            const bool replaced = number < style.seriesColors.size();
+            items.push_back({each.dataSet->label, replaced ? style.seriesColors.at(number) : each.dataSet->colorAt(0)});
+        }
+        return items;
+    }
+
+    bool hasLabelsAt(Place place) const
+    {
+        const XAxisLabelPosition position = m_model.xAxis.labelPosition;
+        const bool both = position == XAxisLabelPosition::BothSided;
+        switch (place) {
+        case Place::Left:
+            return m_model.leftAxis.enabled;
+        case Place::Right:
+            return m_model.rightAxis.enabled;
+        case Place::Top:
+            return m_model.xAxis.enabled && (both || position == XAxisLabelPosition::Top);
+        case Place::Bottom:
+            return m_model.xAxis.enabled && (both || position == XAxisLabelPosition::Bottom);
+        }
+        return false;
+    }
+
+    double lineHeight() const { return 14 * m_scale; }
+
+    void placePlot()
+    {
+        QRectF plot = m_layout.content;
+        const double room = labelGap + lineHeight();
+        plot.setTop(plot.top() + (hasLabelsAt(Place::Top) ? edge + room : top));
+        plot.setBottom(plot.bottom() - (hasLabelsAt(Place::Bottom) ? room : 0) - edge);
+        if (plot.height() < smallest) {
+            return;
+        }
+        const double most = std::max(plot.height() / (tickPitch * m_scale), 1.0);
+        const bool zero = m_model.leftAxis.startAtZeroEnabled ||
+                          std::ranges::any_of(m_model.layers, [](const auto& layer) { return layer->standsOnZero(); });
+        m_layout.whole = {m_model.wholeX(), valueAxis(m_model.dataExtent().y, zero, most)};
+        const PlotExtent visible = m_model.viewport.of(m_layout.whole);
+        const TickStep step = tickStep(visible.y.length(), most);
+        m_layout.valueTicks = ticksWithin(visible.y, step);
+        double widest = 0;
+        for (const double tick : std::as_const(m_layout.valueTicks)) {
+            widest = std::max(widest, m_metrics.horizontalAdvance(step.text(tick)));
+        }
+        const double beside = std::ceil(edge * 0.75 + widest + labelGap);
+        plot.setLeft(plot.left() + (hasLabelsAt(Place::Left) ? beside : edge));
+        plot.setRight(plot.right() - (hasLabelsAt(Place::Right) ? beside : edge));
+        if (plot.width() < smallest) {
+            return;
+        }
+        m_layout.transform = {plot, visible};
+        placeValues(step);
+    }
+
+    void placeValues(const TickStep& step)
+    {
+        const QRectF& plot = m_layout.transform.plot;
+        for (const double tick : std::as_const(m_layout.valueTicks)) {
+            const QString text = step.text(tick);
+            const QSizeF size(m_metrics.horizontalAdvance(text), m_metrics.capHeight());
+            const double y = m_layout.transform.toY(tick) - size.height() / 2;
+            if (hasLabelsAt(Place::Left)) {
+                m_layout.leftLabels.push_back({tick, text, {{plot.left() - labelGap - size.width(), y}, size}});
+            }
+            if (hasLabelsAt(Place::Right)) {
+                m_layout.rightLabels.push_back({tick, text, {{plot.right() + labelGap, y}, size}});
+            }
+        }
+    }
+
+    /// The labels of every n-th index in view; nothing when they would come too close to each other.
+    std::optional<std::vector<AxisLabel>> labelsEvery(int stride) const
+    {
+        const double gap = std::max(m_model.xAxis.spaceBetweenLabels, 0.0) * spaceStep * m_scale;
+        const PlotInterval& visible = m_layout.transform.visible.x;
+        const auto last = std::min(std::floor(visible.to), static_cast<double>(m_model.xVals.size() - 1));
+        double index = std::max(std::ceil(visible.from / stride) * stride, 0.0);
+        std::vector<AxisLabel> labels;
+        for (; index <= last; index += stride) {
+            const double most = m_size.width() - 2;
+            const QString text =
+                m_metrics.elidedText(m_model.xVals.at(static_cast<qsizetype>(index)), Qt::ElideMiddle, most);
+            const double width = m_metrics.horizontalAdvance(text);
+            // Centred below its index, but never beyond the chart's edge.
+            const double x =
+                std::clamp(m_layout.transform.toX(index) - width / 2, 1.0, std::max(most - width, 1.0) + 1);
+            if (!labels.empty() && x < labels.back().box.right() + gap) {
+                return std::nullopt;
+            }
+            labels.push_back({index, text, {x, 0, width, m_metrics.capHeight()}});
+        }
+        return labels;
+    }
+
+    void placeIndices()
+    {
+        if (!m_model.xAxis.enabled || m_model.xVals.isEmpty()) {
+            return;
+        }
+        const PlotTransform& transform = m_layout.transform;
+        const double pitch = transform.plot.width() / transform.visible.x.length();
+        // No label is narrower than this, and the tries stay few.
+        int stride =
+            labelStride((std::max(m_model.xAxis.spaceBetweenLabels, 0.0) * spaceStep * m_scale + 4 * m_scale) / pitch);
+        std::optional<std::vector<AxisLabel>> labels = labelsEvery(stride);
+        while (!labels) {
+            stride = labelStride(stride + 1.0);
+            labels = labelsEvery(stride);
+        }
+        for (AxisLabel& label : *labels) {
+            m_layout.indexTicks << label.at;
+            const QRectF box = label.box;
+            const double below = transform.plot.bottom() + labelGap + (lineHeight() - box.height()) / 2;
+            const double above = transform.plot.top() - labelGap - (lineHeight() + box.height()) / 2;
+            switch (m_model.xAxis.labelPosition) {
+            case XAxisLabelPosition::BothSided:
+                m_layout.topLabels.push_back({label.at, label.text, box.translated(0, above)});
+                [[fallthrough]];
+            case XAxisLabelPosition::Bottom:
+                m_layout.bottomLabels.push_back({label.at, label.text, box.translated(0, below)});
+                break;
+            case XAxisLabelPosition::Top:
+                m_layout.topLabels.push_back({label.at, label.text, box.translated(0, above)});
+                break;
+            case XAxisLabelPosition::TopInside:
+                m_layout.topLabels.push_back(
+                    {label.at, label.text, box.translated(0, transform.plot.top() + labelGap)});
+                break;
+            case XAxisLabelPosition::BottomInside:
+                m_layout.bottomLabels.push_back(
+                    {label.at, label.text, box.translated(0, transform.plot.bottom() - labelGap - box.height())});
+                break;
+            }
+        }
+    }
+
+    const PlotModel& m_model;
+    double m_scale;
+    QSizeF m_size;
+    QFontMetricsF m_metrics;
+    PlotLayout m_layout;
+};
+
+} // namespace
+
+QFont axisFont(const ChartStyle& style)
+{
+    QFont font = style.textFont;
+    font.setPixelSize(qMax(1, qRound(axisFontSize * style.textScale)));
+    return font;
+}
+
+PlotLayout layoutPlot(const PlotModel& model, const ChartFrame& frame)
+{
+    return Placement(model, frame).layout();
+}
+
+} // namespace lodestar

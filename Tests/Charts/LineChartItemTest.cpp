@@ -1,0 +1,267 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "ChartSupport.h"
+#include "Charts/Charts.h"
+#include "Charts/PlotChartItem.h"
+
+#include <QAccessible>
+#include <QQmlComponent>
+#include <QQmlContext>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTest>
+#include <QWheelEvent>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace lodestar::charttest
+{
+namespace
+{
+
+/// A line chart at the top of a page that can be scrolled, in a shown window.
+class LineChartItemTest : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        QList<float> values;
+        for (int i = 0; i < 240; ++i) {
+            values << static_cast<float>(i % 17);
+        }
+        showLine(m_view, values);
+        installCharts(m_engine);
+        m_engine.rootContext()->setContextProperty(QStringLiteral("chartView"), &m_view);
+        QQmlComponent component(&m_engine);
+        component.setData(R"(
+            import QtQuick
+            import Lodestar.Charts
+            Window {
+                width: 366; height: 500; visible: true
+                Flickable {
+                    objectName: "page"; anchors.fill: parent; contentHeight: 2000
+                    LineChart {
+                        objectName: "chart"; outlet: chartView; width: 366; height: 400
+                        seriesColors: ["#e32226"]
+                    }
+                }
+            })",
+                          QUrl());
+        m_root.reset(component.create());
+        ASSERT_TRUE(m_root) << component.errorString().toStdString();
+        m_window = qobject_cast<QQuickWindow*>(m_root.get());
+        m_item = m_window->findChild<PlotChartItem*>(QStringLiteral("chart"));
+        m_page = m_window->findChild<QQuickItem*>(QStringLiteral("page"));
+        ASSERT_TRUE(m_item && m_page);
+        ASSERT_TRUE(QTest::qWaitForWindowExposed(m_window));
+        m_window->requestActivate();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(m_window));
+    }
+
+    double scrolled() const { return m_page->property("contentY").toDouble(); }
+    const PlotViewport& seen() const { return m_view.viewport(); }
+    bool settled()
+    {
+        return QTest::qWaitFor([this] { return !m_item->isMoving(); });
+    }
+    QTest::QTouchEventSequence touch() { return QTest::touchEvent(m_window, m_finger); }
+    /// One finger from a point by a stroke, in steps that the window hands on one by one.
+    void stroke(QPoint from, QPoint by, const std::function<bool()>& arrived)
+    {
+        touch().press(0, from);
+        for (int step = 1; step <= 20 && !arrived(); ++step) {
+            touch().move(0, from + by * step / 20);
+            (void)QTest::qWaitFor(arrived, 40);
+        }
+        EXPECT_TRUE(arrived());
+        touch().release(0, from + by);
+    }
+    void turnWheel(QPoint angle, QPoint at = {183, 180})
+    {
+        QWheelEvent event(at, m_window->mapToGlobal(at), {}, angle, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                          false);
+        QCoreApplication::sendEvent(m_window, &event);
+    }
+
+    const std::unique_ptr<QPointingDevice> m_device{QTest::createTouchDevice()}; // Outlives the window it touches.
+    QPointingDevice* const m_finger = m_device.get();
+    LineChartView m_view;
+    QQmlEngine m_engine;
+    std::unique_ptr<QObject> m_root;
+    QQuickWindow* m_window = nullptr;
+    PlotChartItem* m_item = nullptr;
+    QQuickItem* m_page = nullptr;
+};
+
+TEST_F(LineChartItemTest, TwoFingersZoomAboutThePointBetweenThem)
+{
+    const QRectF plot = PlotRenderer(m_view.model()).layout({QSizeF(366, 400), {}, {}}).transform.plot;
+    const QPoint center = plot.center().toPoint();
+    const auto spread = [&] {
+        touch().press(0, center + QPoint(-40, -40)).press(1, center + QPoint(40, 40));
+        touch().move(0, center + QPoint(-41, -41)).move(1, center + QPoint(41, 41));
+        touch().move(0, center + QPoint(-80, -80)).move(1, center + QPoint(80, 80));
+        touch().release(0, center + QPoint(-80, -80)).release(1, center + QPoint(80, 80));
+    };
+    spread();
+    ASSERT_TRUE(QTest::qWaitFor([this] { return seen().isZoomed(); }));
+    EXPECT_NEAR(seen().width, 0.5, 0.03);
+    EXPECT_NEAR(seen().height, 0.5, 0.03);
+    EXPECT_NEAR(seen().x + seen().width / 2, 0.5, 0.02);
+    EXPECT_EQ(scrolled(), 0);
+
+    m_view.setViewport({});
+    m_view.setScaleEnabled(false);
+    spread();
+    EXPECT_EQ(seen(), PlotViewport());
+}
+
+TEST_F(LineChartItemTest, AFingerMovesAZoomedPlotAndOtherwiseThePage)
+{
+    m_view.setViewport({0.5, 0, 0.25, 1});
+    stroke({100, 150}, {150, 4}, [this] { return seen().x < 0.45; });
+    EXPECT_EQ(scrolled(), 0);
+    ASSERT_TRUE(settled());
+    stroke({200, 300}, {0, -200}, [this] { return scrolled() > 20; });
+    EXPECT_EQ(seen().height, 1);
+    m_page->setProperty("contentY", 0);
+
+    m_view.setViewport({0.5, 0.25, 0.25, 0.5});
+    stroke({200, 300}, {0, 150}, [this] { return seen().y > 0.3; });
+    EXPECT_EQ(scrolled(), 0) << "zoomed upwards too, the plot takes upright strokes";
+}
+
+TEST_F(LineChartItemTest, AMouseDragsWithinTheEdgesAndOnlyWhenAllowed)
+{
+    const auto drag = [this](QPoint from, QPoint to) {
+        QTest::mousePress(m_window, Qt::LeftButton, Qt::NoModifier, from);
+        QTest::mouseMove(m_window, (from + to) / 2);
+        QTest::mouseMove(m_window, to);
+        QTest::mouseRelease(m_window, Qt::LeftButton, Qt::NoModifier, to);
+        ASSERT_TRUE(settled());
+    };
+    m_view.setViewport({0.05, 0, 0.5, 1});
+    drag({60, 150}, {350, 150});
+    EXPECT_EQ(seen(), (PlotViewport{0, 0, 0.5, 1})) << "to the edge and no further";
+    drag({340, 150}, {240, 150});
+    EXPECT_GT(seen().x, 0.1) << "to the left shows what is later";
+    m_view.setViewport({0.2, 0, 0.5, 1});
+    m_view.setDragEnabled(false);
+    drag({60, 150}, {350, 150});
+    EXPECT_EQ(seen().x, 0.2);
+}
+
+TEST_F(LineChartItemTest, ADoubleTapZoomsInThereAndAtTheClosestShowsAll)
+{
+    m_item->setProperty("reducedMotion", true);
+    const auto tapTwice = [this](QPoint at) {
+        touch().press(0, at);
+        touch().release(0, at);
+        touch().press(0, at);
+        touch().release(0, at);
+    };
+    tapTwice({300, 100});
+    EXPECT_EQ(seen().width, 0.5);
+    EXPECT_EQ(seen().height, 0.5);
+    EXPECT_GT(seen().x, 0.35);
+    EXPECT_GT(seen().y, 0.3) << "higher on the screen is a greater value";
+    for (int i = 0; i < 12 && seen().isZoomed(); ++i) {
+        tapTwice({300, 100});
+    }
+    EXPECT_EQ(seen(), PlotViewport());
+    m_item->setProperty("reducedMotion", false);
+    tapTwice({300, 100});
+    EXPECT_TRUE(m_item->isMoving());
+    ASSERT_TRUE(settled());
+    EXPECT_EQ(seen().width, 0.5);
+    tapTwice({300, 100});
+    m_view.setData(m_view.data());
+    EXPECT_FALSE(m_item->isMoving()) << "new data are shown whole";
+}
+
+TEST_F(LineChartItemTest, TheWheelZoomsAtThePointerAndGoesOnToThePageAtEitherEnd)
+{
+    turnWheel({0, 120});
+    EXPECT_LT(seen().width, 0.9);
+    EXPECT_EQ(scrolled(), 0);
+    const double x = seen().x;
+    turnWheel({-120, 0});
+    EXPECT_GT(seen().x, x) << "sideways it moves";
+    turnWheel({0, -240});
+    EXPECT_EQ(seen(), PlotViewport());
+    turnWheel({0, -120});
+    EXPECT_TRUE(QTest::qWaitFor([this] { return scrolled() > 0; }));
+}
+
+TEST_F(LineChartItemTest, KeysZoomMoveAndShowAll)
+{
+    m_item->setProperty("reducedMotion", true);
+    m_item->forceActiveFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(m_item->hasVisualFocus());
+    QTest::keyClick(m_window, Qt::Key_Plus);
+    EXPECT_EQ(seen(), (PlotViewport{0.25, 0.25, 0.5, 0.5}));
+    QTest::keyClick(m_window, Qt::Key_Right);
+    EXPECT_EQ(seen().x, 0.35);
+    QTest::keyClick(m_window, Qt::Key_Up);
+    EXPECT_EQ(seen().y, 0.35);
+    QTest::keyClick(m_window, Qt::Key_Minus);
+    EXPECT_EQ(seen(), PlotViewport());
+    QTest::keyClick(m_window, Qt::Key_Plus);
+    QTest::keyClick(m_window, Qt::Key_Home);
+    EXPECT_EQ(seen(), PlotViewport());
+
+    m_item->setProperty("reducedMotion", false);
+    QTest::keyClick(m_window, Qt::Key_Plus);
+    QTest::keyClick(m_window, Qt::Key_Plus);
+    ASSERT_TRUE(settled());
+    EXPECT_EQ(seen().width, 0.25) << "keys in quick succession add up";
+    QTest::keyClick(m_window, Qt::Key_Escape);
+    ASSERT_TRUE(settled());
+    EXPECT_EQ(seen(), PlotViewport());
+}
+
+TEST_F(LineChartItemTest, TapsSelectOnlyWhereHighlightingIsOn)
+{
+    const PlotLayout layout = PlotRenderer(m_view.model()).layout({QSizeF(366, 400), {}, {}});
+    const QPoint at(qRound(layout.transform.toX(120)), 150);
+    QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, at);
+    EXPECT_TRUE(m_view.model().highlights.isEmpty());
+    m_view.setHighlightEnabled(true);
+    QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, at);
+    EXPECT_EQ(m_view.model().highlights, (QList<Highlight>{{120, 0}}));
+}
+
+TEST_F(LineChartItemTest, IsReadWithItsTextAndOutlivesItsView)
+{
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(m_item);
+    ASSERT_TRUE(interface != nullptr);
+    EXPECT_EQ(interface->role(), QAccessible::Chart);
+    EXPECT_EQ(interface->text(QAccessible::Name), "line 1");
+
+    const auto ink = [this] {
+        const QImage image = m_window->grabWindow();
+        int found = 0;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                found += near(image.pixelColor(x, y), red, 40) ? 1 : 0;
+            }
+        }
+        return found;
+    };
+    EXPECT_GT(ink(), 500) << "in the appearance's colour";
+    auto other = std::make_unique<LineChartView>();
+    showLine(*other, {1, 2, 3});
+    m_item->setOutlet(other.get());
+    EXPECT_GT(ink(), 100);
+    QTest::keyClick(m_window, Qt::Key_Plus);
+    other.reset();
+    EXPECT_EQ(ink(), 0);
+    m_item->forceActiveFocus();
+    QTest::keyClick(m_window, Qt::Key_Plus);
+    QTest::mouseDClick(m_window, Qt::LeftButton, Qt::NoModifier, {180, 100});
+    turnWheel({0, 120});
+}
+
+} // namespace
+} // namespace lodestar::charttest
