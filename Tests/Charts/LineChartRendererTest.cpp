@@ -136,7 +136,9 @@ TEST(LineChartRendererTest, GridIsDashedFiveOnFiveOffAndMissingWhereSwitchedOff)
 {
     LineChartView view;
     showLine(view, {0, 1});
-    view.setLegend({});
+    LineChartData data = view.data();
+    data.dataSets[0].lineWidth = 0;
+    view.setData(data);
     ChartFrame frame = phone;
     frame.style.gridColor = red;
     const PlotPicture picture(view, frame);
