@@ -9,7 +9,7 @@ import subprocess
 import sys
 import tempfile
 
-PROGRAMS = ["PromiseBenchmark", "FeedBenchmark", "StoreBenchmark", "RefreshBenchmark", "ListBenchmark",
+PROGRAMS = ["PromiseBenchmark", "FeedBenchmark", "MetricsBenchmark", "StoreBenchmark", "RefreshBenchmark", "ListBenchmark",
             "ScrollBenchmark", "StartBenchmark", "ChartsBenchmark"]
 
 
