@@ -28,12 +28,45 @@ public:
 
     std::optional<std::string> contents(const std::string& name, const std::string& extension) const override
     {
-        const std::string file = extension.empty() ? name : name + "." + extension;
-        // The top level only: a name is never a way out of the folder or into one below.
-        if (name.empty() || file.find('/') != std::string::npos || file.find('\0') != std::string::npos) {
+        return name.empty() ? std::nullopt : read(m_folder, extension.empty() ? name : name + "." + extension);
+    }
+
+    std::optional<std::vector<std::string>> filesInFolder(const std::string& folder) const override
+    {
+        if (!isPlain(folder)) {
             return std::nullopt;
         }
-        const std::filesystem::path path = m_folder / file;
+        std::error_code failure;
+        std::filesystem::directory_iterator entry(m_folder / folder, failure);
+        std::vector<std::string> names;
+        for (; !failure && entry != std::filesystem::directory_iterator(); entry.increment(failure)) {
+            std::error_code unreadable;
+            if (entry->is_regular_file(unreadable)) {
+                names.push_back(entry->path().filename().string());
+            }
+        }
+        return failure ? std::nullopt : std::optional(std::move(names));
+    }
+
+    std::optional<std::string> contentsInFolder(const std::string& folder, const std::string& file) const override
+    {
+        return isPlain(folder) ? read(m_folder / folder, file) : std::nullopt;
+    }
+
+private:
+    /// A name is never a way out of the folder or into one below.
+    static bool isPlain(const std::string& name)
+    {
+        return !name.empty() && name != "." && name != ".." && name.find('/') == std::string::npos &&
+               name.find('\0') == std::string::npos;
+    }
+
+    static std::optional<std::string> read(const std::filesystem::path& folder, const std::string& file)
+    {
+        if (!isPlain(file)) {
+            return std::nullopt;
+        }
+        const std::filesystem::path path = folder / file;
         std::error_code failure;
         if (!std::filesystem::is_regular_file(path, failure)) {
             return std::nullopt;
@@ -46,7 +79,6 @@ public:
         return stream.bad() ? std::nullopt : std::optional(std::move(bytes));
     }
 
-private:
     std::filesystem::path m_folder;
 };
 
@@ -58,6 +90,16 @@ std::unique_ptr<Resources>& mainResources()
 }
 
 } // namespace
+
+std::optional<std::vector<std::string>> Resources::filesInFolder(const std::string& /*folder*/) const
+{
+    return std::nullopt;
+}
+
+std::optional<std::string> Resources::contentsInFolder(const std::string& /*folder*/, const std::string& /*file*/) const
+{
+    return std::nullopt;
+}
 
 Resources& Resources::main()
 {

@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace lodestar
 {
@@ -15,6 +16,11 @@ public:
     virtual ~Resources() = default;
     /// The whole file `name.extension` at the package's top level; nothing when there is no such file.
     virtual std::optional<std::string> contents(const std::string& name, const std::string& extension) const = 0;
+    /// The names of the files in a folder at the package's top level, in the order in which it lists them, which is
+    /// none; nothing when there is no such folder or it cannot be read.
+    virtual std::optional<std::vector<std::string>> filesInFolder(const std::string& folder) const;
+    /// The whole file of that name in such a folder; nothing when it cannot be read.
+    virtual std::optional<std::string> contentsInFolder(const std::string& folder, const std::string& file) const;
 
     /// The process's resources: none until `install`.
     static Resources& main();

@@ -199,6 +199,19 @@ TEST(PackageResourcesTests, ReadsTheProgramsOwnFilesFromAnyThread)
     EXPECT_EQ(resources.contents("", ""), std::nullopt);
 }
 
+TEST(PackageResourcesTests, ListsAndReadsAFolder)
+{
+    const PackageResources resources;
+    const auto files = resources.filesInFolder("Folder");
+    ASSERT_TRUE(files.has_value());
+    EXPECT_THAT(*files, UnorderedElementsAreArray({"AdapterTests.cpp", "SystemKeychainTests.h"}));
+    EXPECT_EQ(resources.contentsInFolder("Folder", "AdapterTests.cpp"), resources.contents("AdapterTests", "cpp"));
+    EXPECT_EQ(resources.contentsInFolder("Folder", "missing"), std::nullopt);
+    EXPECT_EQ(resources.filesInFolder("AdapterTests.cpp"), std::nullopt);
+    EXPECT_EQ(resources.filesInFolder("Missing"), std::nullopt);
+    EXPECT_EQ(resources.filesInFolder(""), std::nullopt);
+}
+
 } // namespace
 
 } // namespace lodestar

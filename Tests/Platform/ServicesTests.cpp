@@ -143,7 +143,15 @@ TEST(Services, FolderResourcesReadWholeFilesOfTheTopLevelOnly)
     for (const char* name : {"sub", "missing", "inner/file", "../x", ""}) {
         EXPECT_EQ(resources.contents(name, "xml"), std::nullopt) << name;
     }
+    EXPECT_THAT(resources.filesInFolder("inner").value(), ::testing::ElementsAre("file.xml"));
+    EXPECT_EQ(resources.contentsInFolder("inner", "file.xml"), "x");
+    for (const char* name : {"missing", "plain", "..", ".", "", "inner/.."}) {
+        EXPECT_EQ(resources.filesInFolder(name), std::nullopt) << name;
+        EXPECT_EQ(resources.contentsInFolder(name, "file.xml"), std::nullopt) << name;
+    }
+    EXPECT_EQ(resources.contentsInFolder("inner", "../plain"), std::nullopt);
     Resources::install(nullptr);
+    EXPECT_EQ(Resources::main().filesInFolder("inner"), std::nullopt);
     std::filesystem::remove_all(folder);
 }
 
