@@ -1,0 +1,77 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lodestar
+{
+
+struct RichTextColor {
+    std::uint8_t red = 0;
+    std::uint8_t green = 0;
+    std::uint8_t blue = 0;
+    friend bool operator==(const RichTextColor&, const RichTextColor&) = default;
+};
+
+struct RichTextStyle {
+    std::size_t font = 0; ///< index into the document's fonts
+    int halfPoints = 24;
+    bool bold = false;
+    bool italic = false;
+    bool underline = false;
+    std::optional<RichTextColor> color{}; ///< none for the reader's own
+    friend bool operator==(const RichTextStyle&, const RichTextStyle&) = default;
+};
+
+/// A stretch of text in one style: UTF-8, never empty, without control characters but tabs and, for a break inside the
+/// paragraph, line feeds.
+struct RichTextRun {
+    std::string text;
+    RichTextStyle style;
+};
+
+enum class RichTextAlignment : std::uint8_t { Left, Center, Right, Justified };
+
+/// Lengths in twentieths of a point, within ±31680 (22 inches).
+struct RichTextParagraph {
+    RichTextAlignment alignment = RichTextAlignment::Left;
+    int leftIndent = 0;
+    int rightIndent = 0;
+    int firstLineIndent = 0; ///< beside the left indent; negative where a list's marker hangs
+    int spaceBefore = 0;
+    int spaceAfter = 0;
+    std::string marker{}; ///< of a list's item, as in "•" or "2."; empty for none
+    RichTextStyle markerStyle{};
+    std::vector<RichTextRun> runs{}; ///< none for an empty line
+};
+
+/// A text as a word processor wrote it, flattened.
+struct RichTextDocument {
+    /// Family names. The first is empty: the reader's own.
+    std::vector<std::string> fonts{std::string()};
+    std::vector<RichTextParagraph> paragraphs{};
+    /// A limit was reached: what lies behind it is missing.
+    bool truncated = false;
+};
+
+/// What a document may take. More is left out.
+struct RichTextLimits {
+    static constexpr std::size_t bytes = std::size_t(4) * 1024 * 1024;
+    static constexpr std::size_t depth = 256;         ///< groups inside each other; text deeper than that is left out
+    static constexpr std::size_t pieces = 100000;     ///< paragraphs and runs
+    static constexpr std::size_t tableEntries = 1024; ///< fonts, and colours
+    static constexpr std::size_t fontName = 128;
+};
+
+/// Reads rich text: fonts, sizes, bold, italic, underlines, colours, alignment, indents, list markers, tabs and breaks.
+/// Pictures, notes, headers and whatever it does not know are passed over. Any bytes may be given: damaged rich text
+/// yields what can be read of it, bytes that are no rich text are read as plain text in UTF-8, a paragraph a line, and
+/// no bytes are no paragraphs. Time and memory are linear in the size. Any thread.
+RichTextDocument readRichText(std::string_view bytes);
+
+} // namespace lodestar

@@ -1,0 +1,477 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/About/RichText/RichTextReader.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace lodestar
+{
+namespace
+{
+
+constexpr int longestLength = 31680;
+constexpr int largestSize = 800;
+constexpr int longestFallback = 64;
+constexpr int symbolCharacterSet = 2;
+constexpr char32_t bullet = 0x2022;
+
+bool isOn(const RichTextToken& token)
+{
+    return !token.hasValue || token.value != 0;
+}
+
+int length(const RichTextToken& token)
+{
+    return std::clamp(token.value, -longestLength, longestLength);
+}
+
+std::uint8_t component(const RichTextToken& token)
+{
+    return static_cast<std::uint8_t>(std::clamp(token.value, 0, 255));
+}
+
+/// Markers are written with the tab that leads to the item's text.
+std::string trimmed(const std::string& text)
+{
+    const std::size_t first = text.find_first_not_of(" \t\n");
+    const std::size_t last = text.find_last_not_of(" \t\n");
+    return first == std::string::npos ? std::string() : text.substr(first, last - first + 1);
+}
+
+} // namespace
+
+RichTextDocument RichTextReader::read()
+{
+    for (RichTextToken token = m_tokens.next(); token.kind != RichTextToken::Kind::End; token = m_tokens.next()) {
+        handle(token);
+        if (isFull()) {
+            m_document.truncated = true;
+            break;
+        }
+        // Whatever follows the text's own group is no part of it.
+        if (token.kind == RichTextToken::Kind::GroupClose && m_stack.empty()) {
+            break;
+        }
+    }
+    finish();
+    return std::move(m_document);
+}
+
+void RichTextReader::handle(const RichTextToken& token)
+{
+    switch (token.kind) {
+    case RichTextToken::Kind::GroupOpen:
+        openGroup();
+        return;
+    case RichTextToken::Kind::GroupClose:
+        closeGroup();
+        return;
+    default:
+        break;
+    }
+    if (m_tooDeep > 0 || m_state.destination == Destination::Skipped) {
+        return;
+    }
+    switch (token.kind) {
+    case RichTextToken::Kind::Text:
+        handleText(token);
+        break;
+    case RichTextToken::Kind::Byte:
+        handleByte(token);
+        break;
+    case RichTextToken::Kind::Symbol:
+        handleSymbol(token.value);
+        break;
+    case RichTextToken::Kind::Word:
+        handleWord(richTextWordNamed(token.text), token);
+        break;
+    default:
+        m_skip = std::max(0, m_skip - 1);
+        break;
+    }
+}
+
+void RichTextReader::openGroup()
+{
+    m_skip = 0;
+    if (m_tooDeep > 0 || m_stack.size() >= RichTextLimits::depth) {
+        ++m_tooDeep;
+        m_document.truncated = true;
+        return;
+    }
+    m_stack.push_back(m_state);
+}
+
+void RichTextReader::closeGroup()
+{
+    m_skip = 0;
+    if (m_tooDeep > 0) {
+        --m_tooDeep;
+        return;
+    }
+    if (m_stack.empty()) {
+        return;
+    }
+    flushSurrogate();
+    const bool wasFontTable = m_state.destination == Destination::FontTable;
+    if (wasFontTable) {
+        nameFont(U';');
+    } else if (m_stack.size() == 1) {
+        // The last paragraph has no end of its own, and its format goes with the group.
+        endPendingParagraph();
+    }
+    m_state = std::move(m_stack.back());
+    m_stack.pop_back();
+    if (wasFontTable && m_state.fontNumber < 0) {
+        useFont(m_defaultFont);
+    }
+}
+
+void RichTextReader::handleText(const RichTextToken& token)
+{
+    std::string_view text = token.text;
+    const std::size_t skipped = std::min(static_cast<std::size_t>(m_skip), text.size());
+    m_skip -= static_cast<int>(skipped);
+    text.remove_prefix(skipped);
+    for (const char each : text) {
+        const auto byte = static_cast<std::uint8_t>(each);
+        if (byte == '\t' || (byte >= 0x20 && byte != 0x7F)) {
+            appendByte(byte);
+        }
+    }
+}
+
+void RichTextReader::handleByte(const RichTextToken& token)
+{
+    if (m_skip > 0) {
+        --m_skip;
+    } else if (token.value == '\t' || (token.value >= 0x20 && token.value != 0x7F)) {
+        appendByte(static_cast<std::uint8_t>(token.value));
+    }
+}
+
+void RichTextReader::handleSymbol(int symbol)
+{
+    if (symbol == '*') {
+        // What follows may be passed over by those who do not know it, and nothing that is known here is marked so.
+        m_state.destination = Destination::Skipped;
+        return;
+    }
+    if (m_skip > 0) {
+        --m_skip;
+        return;
+    }
+    switch (symbol) {
+    case '\\':
+    case '{':
+    case '}':
+        append(static_cast<char32_t>(symbol));
+        break;
+    case '~':
+        append(0xA0);
+        break;
+    case '_':
+        append(0x2011);
+        break;
+    case '\t':
+        append(U'\t');
+        break;
+    case '\r':
+    case '\n':
+        endParagraph();
+        break;
+    default:
+        break;
+    }
+}
+
+void RichTextReader::handleWord(const RichTextWord& word, const RichTextToken& token)
+{
+    if (word.action == RichTextAction::Unicode) {
+        m_skip = m_state.unicodeFallback;
+        appendUtf16(static_cast<char16_t>(token.value & 0xFFFF));
+        return;
+    }
+    if (m_skip > 0) {
+        --m_skip;
+        return;
+    }
+    switch (word.action) {
+    case RichTextAction::SkipGroup:
+        m_state.destination = Destination::Skipped;
+        break;
+    case RichTextAction::Character:
+        append(word.argument);
+        break;
+    case RichTextAction::Paragraph:
+        endParagraph();
+        break;
+    case RichTextAction::UnicodeFallback:
+        m_state.unicodeFallback = std::clamp(token.value, 0, longestFallback);
+        break;
+    case RichTextAction::CodePage:
+        m_codePage = codePageNumbered(token.value);
+        break;
+    case RichTextAction::MacCodePage:
+        m_codePage = RichTextCodePage::MacRoman;
+        break;
+    case RichTextAction::OtherCodePage:
+        m_codePage = RichTextCodePage::Unknown;
+        break;
+    default:
+        handleStyleWord(word, token);
+        handleParagraphWord(word, token);
+        handleTableWord(word, token);
+        break;
+    }
+}
+
+void RichTextReader::handleStyleWord(const RichTextWord& word, const RichTextToken& token)
+{
+    RichTextStyle& style = m_state.style;
+    switch (word.action) {
+    case RichTextAction::StyleDefaults:
+        style = {};
+        m_state.hidden = false;
+        useFont(m_defaultFont);
+        break;
+    case RichTextAction::Bold:
+        style.bold = isOn(token);
+        break;
+    case RichTextAction::Italic:
+        style.italic = isOn(token);
+        break;
+    case RichTextAction::Underline:
+        style.underline = isOn(token);
+        break;
+    case RichTextAction::NoUnderline:
+        style.underline = false;
+        break;
+    case RichTextAction::Hidden:
+        m_state.hidden = isOn(token);
+        break;
+    case RichTextAction::Size:
+        style.halfPoints = token.value > 0 ? std::min(token.value, largestSize) : RichTextStyle().halfPoints;
+        break;
+    case RichTextAction::Color: {
+        const auto index = static_cast<std::size_t>(std::max(0, token.value));
+        style.color = index < m_colors.size() ? m_colors[index] : std::nullopt;
+        break;
+    }
+    default:
+        break;
+    }
+}
+
+void RichTextReader::handleParagraphWord(const RichTextWord& word, const RichTextToken& token)
+{
+    RichTextParagraph& paragraph = m_state.paragraph;
+    switch (word.action) {
+    case RichTextAction::ParagraphDefaults:
+        paragraph = {};
+        break;
+    case RichTextAction::Align:
+        paragraph.alignment = static_cast<RichTextAlignment>(word.argument);
+        break;
+    case RichTextAction::LeftIndent:
+        paragraph.leftIndent = length(token);
+        break;
+    case RichTextAction::RightIndent:
+        paragraph.rightIndent = length(token);
+        break;
+    case RichTextAction::FirstLineIndent:
+        paragraph.firstLineIndent = length(token);
+        break;
+    case RichTextAction::SpaceBefore:
+        paragraph.spaceBefore = std::max(0, length(token));
+        break;
+    case RichTextAction::SpaceAfter:
+        paragraph.spaceAfter = std::max(0, length(token));
+        break;
+    default:
+        break;
+    }
+}
+
+void RichTextReader::handleTableWord(const RichTextWord& word, const RichTextToken& token)
+{
+    const bool inColors = m_state.destination == Destination::ColorTable;
+    switch (word.action) {
+    case RichTextAction::FontTable:
+        m_state.destination = Destination::FontTable;
+        break;
+    case RichTextAction::ColorTable:
+        m_state.destination = Destination::ColorTable;
+        break;
+    case RichTextAction::Marker:
+        m_state.destination = Destination::Marker;
+        break;
+    case RichTextAction::Font:
+        if (m_state.destination == Destination::FontTable) {
+            nameFont(U';');
+            m_tableFont = token.value;
+        } else {
+            useFont(token.value);
+        }
+        break;
+    case RichTextAction::DefaultFont:
+        m_defaultFont = token.value;
+        break;
+    case RichTextAction::CharacterSet:
+        if (m_state.destination == Destination::FontTable && token.value == symbolCharacterSet &&
+            m_symbolFonts.size() < RichTextLimits::tableEntries) {
+            m_symbolFonts.insert(m_tableFont);
+        }
+        break;
+    case RichTextAction::Red:
+    case RichTextAction::Green:
+    case RichTextAction::Blue:
+        if (inColors) {
+            RichTextColor color = m_color.value_or(RichTextColor());
+            (word.action == RichTextAction::Red     ? color.red
+             : word.action == RichTextAction::Green ? color.green
+                                                    : color.blue) = component(token);
+            m_color = color;
+        }
+        break;
+    default:
+        break;
+    }
+}
+
+void RichTextReader::appendByte(std::uint8_t byte)
+{
+    // A symbol font's characters are drawings at the places of letters, and all that texts draw with them are bullets.
+    const bool drawing = byte > 0x20 && m_symbolFonts.count(m_state.fontNumber) > 0;
+    append(drawing ? bullet : characterOfByte(byte, m_codePage));
+}
+
+void RichTextReader::appendUtf16(char16_t unit)
+{
+    if (unit >= 0xD800 && unit < 0xDC00) {
+        flushSurrogate();
+        m_highSurrogate = unit;
+    } else if (unit >= 0xDC00 && unit < 0xE000 && m_highSurrogate != 0) {
+        const char32_t high = std::exchange(m_highSurrogate, char16_t(0)) - 0xD800U;
+        append(0x10000 + (high << 10U) + (unit - 0xDC00U));
+    } else if (unit >= 0xF000 && unit < 0xF100) {
+        append(bullet);
+    } else {
+        append(unit);
+    }
+}
+
+void RichTextReader::flushSurrogate()
+{
+    if (std::exchange(m_highSurrogate, char16_t(0)) != 0) {
+        append(replacementCharacter);
+    }
+}
+
+void RichTextReader::append(char32_t character)
+{
+    flushSurrogate();
+    if ((character < 0x20 && character != U'\t' && character != U'\n') || character == 0x7F) {
+        return;
+    }
+    switch (m_state.destination) {
+    case Destination::Body:
+        if (!m_state.hidden) {
+            appendCharacter(runText(), character);
+        }
+        break;
+    case Destination::Marker:
+        if (m_paragraph.marker.empty()) {
+            m_paragraph.markerStyle = m_state.style;
+        }
+        appendCharacter(m_paragraph.marker, character);
+        break;
+    case Destination::FontTable:
+        nameFont(character);
+        break;
+    case Destination::ColorTable:
+        if (character == U';') {
+            endColor();
+        }
+        break;
+    case Destination::Skipped:
+        break;
+    }
+}
+
+std::string& RichTextReader::runText()
+{
+    if (m_paragraph.runs.empty() || m_paragraph.runs.back().style != m_state.style) {
+        m_paragraph.runs.push_back({{}, m_state.style});
+        ++m_pieces;
+    }
+    return m_paragraph.runs.back().text;
+}
+
+void RichTextReader::nameFont(char32_t character)
+{
+    if (character != U';') {
+        if (m_fontName.size() < RichTextLimits::fontName) {
+            appendCharacter(m_fontName, character);
+        }
+        return;
+    }
+    const std::string name = trimmed(std::exchange(m_fontName, {}));
+    if (!name.empty() && m_tableFont >= 0 && m_document.fonts.size() < RichTextLimits::tableEntries) {
+        m_fonts[m_tableFont] = m_document.fonts.size();
+        m_document.fonts.push_back(name);
+    }
+    m_tableFont = -1;
+}
+
+void RichTextReader::endColor()
+{
+    if (m_colors.size() < RichTextLimits::tableEntries) {
+        m_colors.push_back(m_color);
+    }
+    m_color.reset();
+}
+
+std::size_t RichTextReader::fontNumbered(int number) const
+{
+    const auto found = m_fonts.find(number);
+    return found != m_fonts.end() ? found->second : 0;
+}
+
+void RichTextReader::useFont(int number)
+{
+    m_state.fontNumber = number;
+    m_state.style.font = fontNumbered(number);
+}
+
+void RichTextReader::endParagraph()
+{
+    if (m_state.destination != Destination::Body) {
+        return;
+    }
+    flushSurrogate();
+    RichTextParagraph paragraph = m_state.paragraph;
+    paragraph.marker = trimmed(m_paragraph.marker);
+    paragraph.markerStyle = m_paragraph.markerStyle;
+    paragraph.runs = std::move(m_paragraph.runs);
+    m_document.paragraphs.push_back(std::move(paragraph));
+    m_paragraph = {};
+    ++m_pieces;
+}
+
+void RichTextReader::endPendingParagraph()
+{
+    if (!m_paragraph.runs.empty() || !trimmed(m_paragraph.marker).empty()) {
+        endParagraph();
+    }
+}
+
+void RichTextReader::finish()
+{
+    // Cut off: what was under way is shown in its format.
+    m_state.destination = Destination::Body;
+    flushSurrogate();
+    endPendingParagraph();
+}
+
+} // namespace lodestar

@@ -1,0 +1,64 @@
+// SPDX-License-Identifier: Apache-2.0
+// Any bytes as a rich text: what comes of them is text in UTF-8 within every limit that the reader promises.
+#include "Tests/Fuzz/Require.h"
+#include "Views/About/RichText/RichText.h"
+#include "Views/About/RichText/RichTextCharacters.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstdlib>
+
+namespace
+{
+
+using lodestar::fuzz::require;
+
+bool isLength(int length)
+{
+    return std::abs(length) <= 31680;
+}
+
+/// Without control characters but tabs and breaks, and equal to itself made clean.
+bool isText(const std::string& text)
+{
+    std::string unbroken = text;
+    std::replace(unbroken.begin(), unbroken.end(), '\n', '\t');
+    return lodestar::sanitizedUtf8(unbroken) == unbroken;
+}
+
+void requireSound(const lodestar::RichTextDocument& document, std::size_t size)
+{
+    require(!document.fonts.empty() && document.fonts.size() <= lodestar::RichTextLimits::tableEntries,
+            "bounded fonts");
+    std::size_t pieces = document.paragraphs.size();
+    std::size_t bytes = 0;
+    for (const lodestar::RichTextParagraph& paragraph : document.paragraphs) {
+        require(isLength(paragraph.leftIndent) && isLength(paragraph.rightIndent) &&
+                    isLength(paragraph.firstLineIndent) && isLength(paragraph.spaceBefore) &&
+                    isLength(paragraph.spaceAfter),
+                "lengths within their range");
+        require(isText(paragraph.marker), "a marker in UTF-8", paragraph.marker);
+        pieces += paragraph.runs.size();
+        for (const lodestar::RichTextRun& run : paragraph.runs) {
+            require(!run.text.empty() && isText(run.text), "text in UTF-8", run.text);
+            require(run.style.font < document.fonts.size(), "a font of the document");
+            require(run.style.halfPoints > 0 && run.style.halfPoints <= 800, "a size within its range");
+            bytes += run.text.size();
+        }
+    }
+    require(pieces <= lodestar::RichTextLimits::pieces + 1, "bounded pieces");
+    require(bytes <= 3 * size, "no more text than was given");
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
+{
+    // As they are, and as the inside of a rich text.
+    const std::string bytes(reinterpret_cast<const char*>(data), size);
+    requireSound(lodestar::readRichText(bytes), size);
+    const std::string rich = "{\\rtf1" + bytes;
+    requireSound(lodestar::readRichText(rich), rich.size());
+    return 0;
+}
