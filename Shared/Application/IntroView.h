@@ -3,7 +3,10 @@
 
 #include "Kit/Core/PagedIntro.h"
 
+#include <QCoreApplication>
+
 #include <memory>
+#include <vector>
 
 namespace lodestar
 {
@@ -16,8 +19,13 @@ using IntroViewDelegate = PagedIntroDelegate;
 /// The tour: six pages, one picture each.
 class IntroView
 {
+    Q_DECLARE_TR_FUNCTIONS(IntroView)
+
 public:
     IntroView() = default;
+
+    /// The pages in order. A picture that is not there leaves its page without one.
+    static std::vector<IntroPage> pages();
 
     /// Builds the tour and lays it over the whole of the screen, usually the tab bar controller. Main thread.
     static void showIntroViewInView(ViewController& view, std::weak_ptr<IntroViewDelegate> delegate);

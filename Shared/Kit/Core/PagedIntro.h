@@ -22,6 +22,7 @@ struct IntroPage {
     Q_GADGET
     QML_VALUE_TYPE(introPage)
     Q_PROPERTY(QUrl background MEMBER background)
+    Q_PROPERTY(bool hasBackground READ hasBackground)
     Q_PROPERTY(QString heading MEMBER heading)
     Q_PROPERTY(QString words MEMBER words)
 
@@ -29,6 +30,8 @@ public:
     QUrl background{}; ///< empty for a page without a picture
     QString heading{};
     QString words{};
+
+    bool hasBackground() const { return !background.isEmpty(); }
     friend bool operator==(const IntroPage&, const IntroPage&) = default;
 };
 

@@ -4,7 +4,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Lodestar.Kit
 
-/// Draws any controller and the sheet that it puts up.
+/// Draws any controller, the sheet that it puts up and the intro that is laid over it.
 FocusScope {
     id: view
 
@@ -38,6 +38,24 @@ FocusScope {
         }
     }
 
+    readonly property PagedIntro intro: controller !== null ? controller.intro : null
+    property bool hasIntro: false
+
+    function makeIntro() {
+        if (intro !== null && !hasIntro) {
+            hasIntro = true;
+            // By name: most starts show none, and need not load it.
+            Qt.createComponent("PagedIntroView.qml").createObject(view, {
+                "over": view,
+                "intro": Qt.binding(() => view.intro)
+            });
+        }
+    }
+
     onPresentationChanged: makeSheet()
-    Component.onCompleted: makeSheet()
+    onIntroChanged: makeIntro()
+    Component.onCompleted: {
+        makeSheet();
+        makeIntro();
+    }
 }

@@ -1,0 +1,76 @@
+// SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Lodestar.Kit
+
+/// A dot a page, the current one drawn out. A tap goes to the page of the nearest dot: dots are far smaller than a finger.
+Item {
+    id: control
+
+    property PageControlOutlet outlet: null
+
+    // What a screen reader turns pages by.
+    property int value: outlet !== null ? outlet.currentPage + 1 : 0
+    readonly property int minimumValue: 1
+    readonly property int maximumValue: outlet !== null ? outlet.numberOfPages : 1
+    readonly property int stepSize: 1
+
+    implicitWidth: dots.width + Theme.target - 8
+    implicitHeight: Theme.target
+    Accessible.role: Accessible.Slider
+    Accessible.name: qsTr("Page %1 of %2").arg(value).arg(maximumValue)
+    Accessible.onIncreaseAction: control.turnTo(control.value)
+    Accessible.onDecreaseAction: control.turnTo(control.value - 2)
+
+    function turnTo(page: int) {
+        if (outlet !== null) {
+            outlet.currentPage = page;
+        }
+    }
+    function nearest(x: real): int {
+        let found = 0;
+        let least = width;
+        for (let index = 0; index < marks.count; ++index) {
+            const mark = marks.itemAt(index);
+            const distance = Math.abs(mark.x + mark.width / 2 - x);
+            if (distance < least) {
+                found = index;
+                least = distance;
+            }
+        }
+        return found;
+    }
+
+    Row {
+        id: dots
+
+        anchors.centerIn: parent
+        spacing: 10
+
+        Repeater {
+            id: marks
+
+            model: control.outlet !== null ? control.outlet.numberOfPages : 0
+
+            Rectangle {
+                required property int index
+                readonly property bool current: index === control.value - 1
+
+                width: current ? 20 : 8
+                height: 8
+                radius: 4
+                color: current ? control.outlet?.currentPageIndicatorTintColor ?? Theme.accent
+                               : control.outlet?.pageIndicatorTintColor ?? Theme.faint
+
+                Behavior on width {
+                    NumberAnimation { duration: Theme.pressOut }
+                }
+            }
+        }
+    }
+    MouseArea {
+        anchors.fill: parent
+        onClicked: (mouse) => control.turnTo(control.nearest(mouse.x - dots.x))
+    }
+}

@@ -1,0 +1,166 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Tests/Scenes/TourPictures.h"
+
+#include "Application/IntroView.h"
+#include "Kit/Core/Appearance.h"
+#include "Kit/Core/UIColor+Tessel.h"
+#include "Kit/Core/UIFont+System.h"
+#include "Tests/Scenes/Looks.h"
+
+#include <QPainter>
+#include <QPainterPath>
+
+#include <cstdio>
+#include <functional>
+#include <vector>
+
+namespace lodestar::scenes
+{
+namespace
+{
+
+// Points of a page. The screens widget shows the part above the words on its own where the words cannot be read: it
+// counts on their place.
+constexpr QSize pageSize(390, 844);
+constexpr QRectF screenFrame(45, 64, 300, 500);
+constexpr double wordsTop = 676;
+constexpr double wordsWidth = 316;
+constexpr int headingSize = 28;
+constexpr int headingLine = 36;
+constexpr int wordsSize = 17;
+constexpr int wordsLine = 22;
+
+const QColor night("#0B2236");
+const QColor wordsColor("#BFD3E3");
+const QColor starColor("#9AD6F8");
+
+using Scene = std::function<void(SceneStage&)>;
+
+std::vector<Scene> scenesOfPages()
+{
+    const auto list = [](const char* identifier) {
+        return [identifier](SceneStage& stage) { stage.openList(identifier, {.corvel = demoConsole()}); };
+    };
+    return {
+        [](SceneStage&) {},
+        [](SceneStage& stage) {
+            stage.showDashboard();
+            stage.waitFor([&] { return !stage.dashboard().corvelOnlineCount()->isHidden(); });
+            stage.settle(1900);
+        },
+        list("managedSystemsView"),
+        list("logicalPartitionsView"),
+        [](SceneStage& stage) {
+            const XMLElement system = feedOfType(*demoConsole(), ObjectType::ManagedSystem)
+                                          .entries()
+                                          .front()
+                                          .path({"content", "ManagedSystem"});
+            stage.open("managedSystemInfo", {.corvel = demoConsole(), .rootXML = system});
+        },
+        list("serviceableEventsView"),
+    };
+}
+
+void drawSky(QPainter& painter)
+{
+    struct Star {
+        QPointF at;
+        double radius;
+        double opacity;
+    };
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(starColor);
+    for (const Star& star : {Star{{22, 92}, 1.2, 0.7}, Star{{366, 60}, 1.1, 0.6}, Star{{132, 36}, 0.8, 0.5},
+                             Star{{240, 24}, 1, 0.5}, Star{{374, 236}, 1.3, 0.7}, Star{{18, 318}, 0.9, 0.45},
+                             Star{{30, 470}, 1, 0.5}, Star{{362, 430}, 0.9, 0.5}}) {
+        painter.setOpacity(star.opacity);
+        painter.drawEllipse(star.at, star.radius, star.radius);
+    }
+    // The list's reflection in calm water.
+    painter.setBrush(UIColor::selectedBlue());
+    struct Ripple {
+        double width;
+        double opacity;
+    };
+    double y = screenFrame.bottom() + 24;
+    for (const Ripple& ripple : {Ripple{222, 0.9}, Ripple{134, 0.5}, Ripple{66, 0.28}}) {
+        painter.setOpacity(ripple.opacity);
+        painter.drawRoundedRect(QRectF((pageSize.width() - ripple.width) / 2, y, ripple.width, 6), 3, 3);
+        y += 24;
+    }
+    painter.setOpacity(1);
+}
+
+void drawScreen(QPainter& painter, const QImage& screen)
+{
+    const double ratio = screen.width() / screenFrame.width();
+    const QSize pixels = (screenFrame.size() * 2).toSize();
+    const QImage part = screen.copy(0, 0, screen.width(), qRound(screenFrame.height() * ratio))
+                            .scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    QPainterPath corners;
+    corners.addRoundedRect(screenFrame, 16, 16);
+    QBrush brush(part);
+    brush.setTransform(QTransform::fromTranslate(screenFrame.x(), screenFrame.y()).scale(0.5, 0.5));
+    painter.setPen(Qt::NoPen);
+    painter.fillPath(corners, brush);
+}
+
+double drawLines(QPainter& painter, const QString& text, int size, int line, double width, double top)
+{
+    painter.setFont(UIFont::systemFontOfSize(size));
+    const QFontMetricsF metrics(painter.font());
+    QString row;
+    const auto draw = [&] {
+        painter.drawText(QRectF(0, top, pageSize.width(), line), Qt::AlignCenter, row);
+        top += line;
+    };
+    for (const QString& word : text.split(QLatin1Char(' '))) {
+        const QString longer = row.isEmpty() ? word : row + QLatin1Char(' ') + word;
+        if (metrics.horizontalAdvance(longer) > width) {
+            draw();
+            row = word;
+        } else {
+            row = longer;
+        }
+    }
+    draw();
+    return top;
+}
+
+QImage makePage(const QImage& screen, const IntroPage& page)
+{
+    QImage image(pageSize * 2, QImage::Format_RGB32);
+    image.setDevicePixelRatio(2);
+    image.fill(night);
+    QPainter painter(&image);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform | QPainter::TextAntialiasing);
+    drawSky(painter);
+    drawScreen(painter, screen);
+    painter.setPen(Qt::white);
+    const double below = drawLines(painter, page.heading, headingSize, headingLine, pageSize.width() - 48.0, wordsTop);
+    painter.setPen(wordsColor);
+    drawLines(painter, page.words, wordsSize, wordsLine, wordsWidth, below + 8);
+    return image;
+}
+
+} // namespace
+
+bool writeTourPictures(SceneStage& stage, const QDir& folder)
+{
+    Appearance::shared().overrideDark(false);
+    const std::vector<Scene> scenes = scenesOfPages();
+    const std::vector<IntroPage> pages = IntroView::pages();
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        stage.show(pageSize, fleet());
+        scenes.at(i)(stage);
+        stage.settle();
+        const QString file = folder.filePath(QStringLiteral("ts%1.png").arg(i + 1));
+        if (!makePage(stage.grab(), pages[i]).save(file, "PNG", 0)) {
+            std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
+            return false;
+        }
+    }
+    return true;
+}
+
+} // namespace lodestar::scenes

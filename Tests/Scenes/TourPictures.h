@@ -1,0 +1,15 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Tests/Scenes/SceneStage.h"
+
+#include <QDir>
+
+namespace lodestar::scenes
+{
+
+/// Makes the tour's six pictures, ts1.png to ts6.png, of the application's own screens and the tour's words. False when
+/// one cannot be written.
+bool writeTourPictures(SceneStage& stage, const QDir& folder);
+
+} // namespace lodestar::scenes
