@@ -5,6 +5,9 @@
 #include "Kit/Core/NavigationController.h"
 #include "Kit/Core/Storyboard.h"
 #include "Kit/Core/TabBarController.h"
+#include "Views/About/OpenSourceViewController.h"
+#include "Views/About/OrnisLicenseViewController.h"
+#include "Views/About/VersionViewController.h"
 #include "Views/Corvels/CorvelListViewController.h"
 #include "Views/Corvels/DeltaCorvelViewController.h"
 #include "Views/Dashboard/CorvelOverviewTableViewController.h"
@@ -91,6 +94,12 @@ void registerMainStoryboard(LoginViewController::RootSwitch showRoot)
     storyboard.registerScene("serviceableEventsView", factory<SEListViewController>(), viewsScene("SEListScene.qml"));
     storyboard.registerScene("serviceableEventsDetail", factory<SEDetailViewController>(),
                              viewsScene("DetailScene.qml"));
+    storyboard.registerScene("versionViewController", factory<VersionViewController>(),
+                             viewsScene("RichDocumentScene.qml"));
+    storyboard.registerScene("openSourceViewController", factory<OpenSourceViewController>(),
+                             viewsScene("OpenSourceScene.qml"));
+    storyboard.registerScene("OrnisLicenseViewController", factory<OrnisLicenseViewController>(),
+                             viewsScene("RichDocumentScene.qml"));
 }
 
 } // namespace lodestar

@@ -26,6 +26,8 @@ void search(FeedListViewController& list, const char* text);
 /// A feed's entry of a type.
 std::string entryOf(const std::string& type, const std::string& content);
 
+/// Release notes, licence agreement, open-source notices and the tour.
+std::vector<Look> aboutLooks();
 /// The menus, lists and details of a console's inventory.
 std::vector<Look> inventoryLooks();
 /// The lists by managed system, and their details.

@@ -237,7 +237,7 @@ void SceneStage::show(QSize size, const std::vector<ConsoleLook>& consoles)
                       "Window { id: window; required property ViewController controller\n"
                       "color: Theme.ground; LayoutMirroring.enabled: Theme.mirrored\n"
                       "LayoutMirroring.childrenInherit: true\n"
-                      "SceneHost { anchors.fill: parent; focus: true; reportsAppearance: true\n"
+                      "SceneView { anchors.fill: parent; focus: true; reportsAppearance: true\n"
                       "controller: window.controller } }",
                       QUrl(QStringLiteral("stage.qml")));
     QObject* made = component.createWithInitialProperties(

@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 // lodestar-screenshots FOLDER [TEXT]: one picture a screen and look, without a display. With TEXT only those whose file
 // name contains it.
+// lodestar-screenshots --tour FOLDER: the tour's pictures, as they stand in Resources/tour.
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/MainLoop.h"
 #include "Tests/Scenes/Looks.h"
+#include "Tests/Scenes/TourPictures.h"
 
 #include <QDir>
 #include <QGuiApplication>
@@ -165,15 +167,19 @@ int main(int argc, char** argv)
     const QGuiApplication application(argc, argv);
     const MainLoop mainLoop;
     const QStringList arguments = QGuiApplication::arguments();
-    if (arguments.size() < 2 || arguments[1].startsWith('-')) {
+    const bool tour = arguments.size() > 2 && arguments[1] == QLatin1String("--tour");
+    if (arguments.size() < 2 || (arguments[1].startsWith('-') && !tour)) {
         std::fprintf(stderr, "lodestar-screenshots FOLDER [TEXT]\n");
         return 2;
     }
-    const QDir folder(arguments[1]);
+    const QDir folder(arguments[tour ? 2 : 1]);
     folder.mkpath(QStringLiteral("."));
     SceneStage stage;
-    for (const auto& looks :
-         {consoleLooks(), editorLooks(), dashboardLooks(), inventoryLooks(), groupedLooks(), eventAndGroupLooks()}) {
+    if (tour) {
+        return writeTourPictures(stage, folder) ? 0 : 1;
+    }
+    for (const auto& looks : {consoleLooks(), editorLooks(), dashboardLooks(), inventoryLooks(), groupedLooks(),
+                              eventAndGroupLooks(), aboutLooks()}) {
         for (const Look& look : looks) {
             for (const Variant& variant : variantsOf(look)) {
                 const QString name = QString::fromLatin1(look.name) + '-' + variant.suffix + ".png";

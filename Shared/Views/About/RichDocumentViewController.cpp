@@ -1,0 +1,19 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/About/RichDocumentViewController.h"
+
+#include "Platform/Queues/DispatchQueue.h"
+#include "Platform/Resources.h"
+
+namespace lodestar
+{
+
+void RichDocumentViewController::setupWebView()
+{
+    // Megabytes may be there to be read.
+    DispatchQueue::globalBackground().async([screen = self<RichDocumentViewController>()] {
+        const auto bytes = Resources::main().contents(screen->m_resource, "rtf");
+        screen->webview()->setDocument(bytes ? readRichText(*bytes) : RichTextDocument());
+    });
+}
+
+} // namespace lodestar

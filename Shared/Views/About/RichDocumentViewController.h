@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Kit/Core/ViewController.h"
+#include "Views/About/RichDocumentOutlet.h"
+
+#include <string>
+
+namespace lodestar
+{
+
+/// A screen that shows one rich text of the application's package. Main thread.
+class RichDocumentViewController : public lodestar::ViewController
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the storyboard")
+    Q_PROPERTY(lodestar::RichDocumentOutlet* webview READ webview CONSTANT)
+
+public:
+    RichDocumentOutlet* webview() { return &m_webview; }
+    /// Has the text read and put into the view, which stays empty when there is none.
+    void setupWebView();
+
+protected:
+    /// The resource's name, without its extension "rtf".
+    explicit RichDocumentViewController(std::string resource) : m_resource(std::move(resource)) {}
+
+private:
+    std::string m_resource;
+    RichDocumentOutlet m_webview;
+};
+
+} // namespace lodestar

@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Views/About/RichDocumentViewController.h"
+
+namespace lodestar
+{
+
+/// The release notes.
+class VersionViewController : public lodestar::RichDocumentViewController
+{
+    Q_OBJECT
+
+public:
+    VersionViewController() : RichDocumentViewController("VersionChangelog") {}
+
+protected:
+    void viewDidLoad() override;
+};
+
+} // namespace lodestar
