@@ -14,6 +14,7 @@ namespace
 
 constexpr qsizetype mostTicks = 200;
 constexpr double headroom = 0.02;  // Of the values' range, that is kept free beyond them.
+constexpr double mostEmpty = 0.15; // Of the same, below the values for the sake of a round beginning.
 constexpr int mostFixedDigits = 7; // Before or after the point; more are written with an exponent.
 
 double powerOfTen(int exponent)
@@ -106,6 +107,11 @@ PlotInterval valueAxis(PlotInterval values, bool withZero, double most)
     const double half = tickStep(values.length() + 2 * room, most).size() / 2;
     PlotInterval axis{2 * half * std::floor((values.from - room) / (2 * half)),
                       half * std::ceil((values.to + room) / half)};
+    // Best begun at a tick, but not if much of the plot were empty for it.
+    const double nearer = half * std::floor((values.from - room) / half);
+    if (nearer - axis.from > mostEmpty * values.length()) {
+        axis.from = nearer;
+    }
     // An axis of values that are never negative has no negative part, and the other way round.
     if (values.from >= 0) {
         axis.from = std::max(axis.from, 0.0);

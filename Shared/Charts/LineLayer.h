@@ -3,6 +3,7 @@
 
 #include "Charts/PlotLayer.h"
 
+#include <QLineF>
 #include <QPolygonF>
 
 #include <vector>
@@ -10,9 +11,9 @@
 namespace lodestar
 {
 
-/// A plot's lines. A line with more entries than pixel columns is drawn as the span from the least to the greatest
-/// value of every column, which the eye cannot tell from the line itself and which takes the same time for any number
-/// of entries; any other line is drawn point by point.
+/// A plot's lines. A line with more entries in view than pixel columns is drawn as the span from the least to the
+/// greatest value of every column, which the eye cannot tell from the line itself and which takes the same time for any
+/// number of entries; any other line is drawn point by point.
 class LineLayer : public PlotLayer
 {
 public:
@@ -31,10 +32,12 @@ private:
         mutable PlotTransform transform;
         mutable double pixelRatio = 0;
         mutable QPolygonF points;
+        mutable QList<QLineF> pieces; ///< From point to point, or across what has no columns.
         mutable std::vector<QRectF> columns;
     };
 
     static void prepare(const Line& line, const PlotCanvas& canvas);
+    static void drawStrokes(QPainter& painter, const Line& line, const QColor& color);
     static void drawCircles(QPainter& painter, const Line& line, const QColor& color, const PlotCanvas& canvas);
 
     std::vector<Line> m_lines;

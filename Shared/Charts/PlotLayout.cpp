@@ -17,6 +17,7 @@ constexpr double axisFontSize = 11;
 constexpr double edge = 12;      // Between the plot and the chart's edge where no label stands.
 constexpr double top = 18;       // The same at the top.
 constexpr double tickPitch = 44; // Least distance of value ticks.
+constexpr double mostSteps = 10; // From one value tick to the next, however tall the plot is.
 constexpr double labelGap = 8;   // Between an axis and its labels.
 constexpr double spaceStep = 20; // Of `spaceBetweenLabels`.
 constexpr double smallest = 24;  // A plot of less in either direction is left off.
@@ -88,7 +89,7 @@ private:
         if (plot.height() < smallest) {
             return;
         }
-        const double most = std::max(plot.height() / (tickPitch * m_scale), 1.0);
+        const double most = std::clamp(plot.height() / (tickPitch * m_scale), 1.0, mostSteps);
         const bool zero = m_model.leftAxis.startAtZeroEnabled ||
                           std::ranges::any_of(m_model.layers, [](const auto& layer) { return layer->standsOnZero(); });
         m_layout.whole = {m_model.wholeX(), valueAxis(m_model.dataExtent().y, zero, most)};

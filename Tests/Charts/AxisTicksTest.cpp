@@ -82,6 +82,7 @@ TEST(AxisTicksTest, EveryAxisHoldsItsValuesAndEnds)
 TEST(AxisTicksTest, AnAxisLeavesRoomButNeverCrossesZeroForIt)
 {
     EXPECT_EQ(valueAxis({2.8, 16}, false, 10), (PlotInterval{2, 17}));
+    EXPECT_EQ(valueAxis({5.2, 16}, false, 5).from, 2.5) << "a whole step of 5 would be empty";
     EXPECT_EQ(valueAxis({0, 10}, false, 10).from, 0);
     EXPECT_GT(valueAxis({0, 10}, false, 10).to, 10) << "the highest value keeps off the edge";
     EXPECT_EQ(valueAxis({-10, 0}, false, 10).to, 0);

@@ -198,6 +198,43 @@ TEST(LineChartRendererTest, DenseLinesShowEveryExtreme)
     EXPECT_NEAR(level.center().y(), picture.point(0, 5).y(), 0.6);
 }
 
+TEST(LineChartRendererTest, LinesGoOnAcrossGapsHoweverCloselyTheyAreLookedAt)
+{
+    QList<float> values(100001, NAN);
+    for (int i = 0; i < 40000; ++i) {
+        values[i] = 2;
+        values[100000 - i] = 6;
+    }
+    LineChartView view;
+    showLine(view, values);
+    const PlotPicture whole(view);
+    EXPECT_NEAR(whole.span(blue, 50000).center().y(), whole.point(0, 4).y(), 1.5);
+    EXPECT_NEAR(whole.span(blue, 45000).center().y(), whole.point(0, 3).y(), 1.5);
+    view.setViewport({0.5 - 0.00001, 0, 0.00002, 1});
+    const PlotPicture close(view);
+    ASSERT_NEAR(close.layout.transform.visible.x.length(), 2, 0.01);
+    EXPECT_NEAR(close.span(blue, 50000).center().y(), close.point(0, 4).y(), 1.5);
+    view.setViewport({0.35, 0, 0.1, 1});
+    const PlotPicture edge(view);
+    EXPECT_NEAR(edge.span(blue, 44000).center().y(), edge.point(0, 2.8).y(), 1.5) << "on to an entry out of view";
+}
+
+TEST(LineChartRendererTest, WideAndSeeThroughLinesAreOfOnePiece)
+{
+    LineChartView view;
+    showLine(view, {0, 4, 0}, QColor(0, 0, 255, 128));
+    LineChartData data = view.data();
+    data.dataSets[0].lineWidth = 8;
+    view.setData(data);
+    YAxis axis;
+    axis.drawGridLinesEnabled = false;
+    view.setLeftAxis(axis);
+    const PlotPicture picture(view);
+    const QColor once = picture.at(picture.point(0.5, 2));
+    EXPECT_TRUE(near(once, QColor(127, 127, 255), 3));
+    EXPECT_TRUE(near(picture.at(picture.point(1, 4) + QPointF(0, 4)), once, 3)) << "no darker where pieces meet";
+}
+
 TEST(LineChartRendererTest, DenseAndSparseDrawingLookTheSame)
 {
     // A slow wave once as 200 points and once as 20,000.
