@@ -128,6 +128,7 @@ void LineLayer::prepare(const Line& line, const PlotCanvas& canvas)
     line.points.clear();
     line.pieces.clear();
     line.columns.clear();
+    line.mask = {};
     const auto [first, last] = rangeInView(line.series, canvas.transform);
     if (static_cast<double>(last - first) > denseFrom * canvas.transform.plot.width() * canvas.pixelRatio) {
         Reduction(line.series, canvas.transform, canvas.pixelRatio, line.dataSet.lineWidth)
@@ -166,10 +167,15 @@ void LineLayer::draw(QPainter& painter, const PlotCanvas& canvas) const
         }
         prepare(line, canvas);
         const QColor color = canvas.colorOf(line.dataSet, static_cast<qsizetype>(i));
-        painter.setPen(Qt::NoPen);
-        painter.setBrush(color);
-        painter.drawRects(line.columns.data(), static_cast<int>(line.columns.size()));
+        if (!line.columns.empty()) {
+            if (line.mask.isEmpty() || line.mask.color() != color) {
+                line.mask = LineMask(line.columns, color, canvas.pixelRatio);
+            }
+            line.mask.draw(painter);
+        }
         if (line.series.size() == 1) {
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(color);
             const double radius = std::max(width, 1.5); // A single value is no line, but is not to be overlooked.
             painter.drawEllipse(line.points.constFirst(), radius, radius);
         }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Charts/LineMask.h"
 #include "Charts/PlotLayer.h"
 
 #include <QLineF>
@@ -34,6 +35,7 @@ private:
         mutable QPolygonF points;
         mutable QList<QLineF> pieces; ///< From point to point, or across what has no columns.
         mutable std::vector<QRectF> columns;
+        mutable LineMask mask; ///< Of the columns.
     };
 
     static void prepare(const Line& line, const PlotCanvas& canvas);
