@@ -17,6 +17,7 @@
 #include "Views/LogicalPartitions/LPListViewController.h"
 #include "Views/ManagedSystems/MSDetailViewController.h"
 #include "Views/ManagedSystems/MSListViewController.h"
+#include "Views/ManagedSystems/PCM/PCMViewController.h"
 #include "Views/ManagementConsole/MCViewController.h"
 #include "Views/ResourceGroups/RGListViewController.h"
 #include "Views/ServiceableEvents/SEDetailViewController.h"
@@ -83,6 +84,7 @@ void registerMainStoryboard(LoginViewController::RootSwitch showRoot)
     storyboard.registerScene("managedSystemsView", factory<MSListViewController>(), viewsScene("MSListScene.qml"));
     storyboard.registerScene("managedSystemInfo", factory<MSDetailViewController>(), viewsScene("DetailScene.qml"));
     storyboard.registerScene("managedSystemMenu", factory<MSOverViewController>(), viewsScene("MSOverScene.qml"));
+    storyboard.registerScene("pcmDataView", factory<PCMViewController>(), viewsScene("PCMScene.qml"));
     storyboard.registerScene("managementConsoleView", factory<MCViewController>(), viewsScene("MCScene.qml"));
     storyboard.registerScene("logicalPartitionsView", factory<LPListViewController>(),
                              viewsScene("GroupedListScene.qml"));

@@ -25,8 +25,8 @@ class DemoResources : public Resources
 public:
     std::optional<std::string> contents(const std::string& name, const std::string& extension) const override
     {
-        const auto feed = demoFeeds().find(name);
-        return extension == "xml" && feed != demoFeeds().end() ? std::optional(feed->second) : std::nullopt;
+        const auto feed = demoFeeds().find(extension == "xml" ? name : name + "." + extension);
+        return feed != demoFeeds().end() ? std::optional(feed->second) : std::nullopt;
     }
 };
 

@@ -31,7 +31,8 @@ struct LoggedLine {
     std::string message;
 };
 
-/// Feeds of the demonstration console by object type, changeable from test to test.
+/// Feeds of the demonstration console by object type, and other files by their whole name, changeable from test to
+/// test.
 std::map<std::string, std::string>& demoFeeds();
 
 /// The screens' surroundings, fresh for each test: an empty store in a folder of its own, empty defaults, an empty

@@ -101,4 +101,14 @@ void SwitchOutlet::setOn(bool on)
     });
 }
 
+void SegmentedControlOutlet::setSelectedSegmentIndex(int index)
+{
+    onMain(this, [index](SegmentedControlOutlet& outlet) {
+        if (outlet.m_selectedSegmentIndex != index) {
+            outlet.m_selectedSegmentIndex = index;
+            Q_EMIT outlet.selectedSegmentIndexChanged();
+        }
+    });
+}
+
 } // namespace lodestar

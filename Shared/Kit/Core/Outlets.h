@@ -149,4 +149,25 @@ private:
     bool m_on = false;
 };
 
+/// A few choices side by side, of which one is chosen. QML writes the user's choice into `selectedSegmentIndex`.
+class SegmentedControlOutlet : public lodestar::ViewOutlet
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
+    Q_PROPERTY(int selectedSegmentIndex READ selectedSegmentIndex WRITE setSelectedSegmentIndex NOTIFY
+                   selectedSegmentIndexChanged)
+
+public:
+    explicit SegmentedControlOutlet(QObject* parent = nullptr) : ViewOutlet(parent) {}
+    int selectedSegmentIndex() const { return m_selectedSegmentIndex; }
+    void setSelectedSegmentIndex(int index);
+
+Q_SIGNALS:
+    void selectedSegmentIndexChanged();
+
+private:
+    int m_selectedSegmentIndex = 0;
+};
+
 } // namespace lodestar

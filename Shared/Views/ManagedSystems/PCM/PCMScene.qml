@@ -1,0 +1,219 @@
+// SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Lodestar.Charts
+import Lodestar.Kit
+import Lodestar.Views
+
+/// The performance of a managed system: processors or memory, their latest values, their lines. Cards keep their places
+/// while their content is loading, so that nothing moves when it comes.
+PageScaffold {
+    id: scene
+
+    readonly property PCMViewController performance: controller as PCMViewController
+
+    bar: NavigationBar {
+        controller: scene.controller
+        titleView: TitleView {
+            titleOutlet: scene.performance.header.titleLabel
+            subtitleOutlet: scene.performance.header.subtitleLabel
+        }
+    }
+    scrollView: page
+
+    /// One latest value under the stroke of its line.
+    component Figure: Item {
+        id: figure
+
+        required property LabelOutlet value
+        required property IndicatorOutlet indicator
+        required property string caption
+        required property color strokeColor
+        readonly property real startPadding: scene.width < 375 ? 14 : Theme.rowStart
+
+        implicitHeight: words.height + number.height
+        Accessible.role: Accessible.StaticText
+        Accessible.name: caption + (value.hidden || value.text === "" ? "" : ", " + value.text)
+
+        Row {
+            id: key
+
+            anchors.left: parent.left
+            anchors.leftMargin: figure.startPadding
+            anchors.right: parent.right
+            anchors.rightMargin: 4
+            layoutDirection: Theme.mirrored ? Qt.RightToLeft : Qt.LeftToRight
+            spacing: 6
+
+            Rectangle {
+                width: 16
+                height: 2
+                radius: 1
+                color: figure.strokeColor
+                anchors.verticalCenter: parent.verticalCenter
+            }
+            Label {
+                id: words
+
+                text: figure.caption
+                size: Theme.noteSize
+                color: Theme.ink2
+                width: Math.min(implicitWidth, key.width - 22)
+                elide: Text.ElideRight
+                Accessible.ignored: true
+            }
+        }
+        OutletLabel {
+            id: number
+
+            outlet: figure.value
+            size: Theme.valueSize
+            y: words.height
+            height: lineHeight
+            anchors.left: parent.left
+            anchors.leftMargin: figure.startPadding
+            anchors.right: parent.right
+            anchors.rightMargin: 8
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 12
+            elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+        Spinner {
+            outlet: figure.indicator
+            size: 16
+            y: words.height + (number.height - height) / 2
+            anchors.left: parent.left
+            anchors.leftMargin: figure.startPadding
+        }
+    }
+
+    ScrollPage {
+        id: page
+
+        topSpace: 4
+
+        SegmentedControl {
+            id: segments
+
+            width: page.width < 600 ? parent.width : Math.min(parent.width, 360)
+            anchors.horizontalCenter: parent.horizontalCenter
+            titles: [qsTr("Processors"), qsTr("Memory")]
+            currentIndex: scene.performance.typeSegmentedControl.selectedSegmentIndex
+            onActivated: index => scene.performance.selectedSegmentedIndex(index)
+        }
+        Item {
+            width: 1
+            height: 12
+        }
+        Rectangle {
+            id: values
+
+            readonly property bool stacked: Theme.stacked
+            readonly property real column: stacked ? width : width / 3
+
+            width: parent.width
+            implicitHeight: figures.height + 26
+            radius: Theme.cardRadius
+            color: Theme.card
+
+            Grid {
+                id: figures
+
+                y: 14
+                columns: values.stacked ? 1 : 3
+                rowSpacing: 20
+                layoutDirection: Theme.mirrored ? Qt.RightToLeft : Qt.LeftToRight
+
+                Figure {
+                    value: scene.performance.totalLabel
+                    indicator: scene.performance.totalIndicator
+                    caption: qsTr("Total")
+                    strokeColor: Theme.chartOrange
+                    width: values.column
+                }
+                Figure {
+                    value: scene.performance.allocatedLabel
+                    indicator: scene.performance.allocatedIndicator
+                    caption: qsTr("Allocated")
+                    strokeColor: Theme.chartGreen
+                    width: values.column
+                }
+                Figure {
+                    value: scene.performance.usedLabel
+                    indicator: scene.performance.usedIndicator
+                    caption: qsTr("Used")
+                    strokeColor: Theme.chartBlue
+                    width: values.column
+                }
+            }
+            Repeater {
+                model: [1, 2]
+
+                Hairline {
+                    required property int modelData
+                    readonly property real step: (figures.height + figures.rowSpacing) / 3
+
+                    vertical: !values.stacked
+                    x: !values.stacked ? Math.round(modelData * values.column) : Theme.mirrored ? 15 : 10
+                    y: values.stacked ? Math.round(figures.y + modelData * step - figures.rowSpacing / 2)
+                                      : figures.y + 2
+                    width: values.stacked ? values.width - 25 : thickness
+                    height: values.stacked ? thickness : figures.height - 4
+                }
+            }
+        }
+        Item {
+            width: 1
+            height: 12
+        }
+        Rectangle {
+            id: card
+
+            readonly property real above: page.topSpace + segments.height + values.height + 24
+
+            objectName: "chartCard"
+            width: parent.width
+            implicitHeight: Math.max(360, Math.min(700, page.height - above - Theme.groupGap))
+            radius: Theme.cardRadius
+            color: Theme.card
+
+            LineChart {
+                outlet: scene.performance.chartView
+                visible: !scene.performance.chartView.hidden
+                anchors.fill: parent
+                anchors.topMargin: 4
+                anchors.bottomMargin: 14
+                cardColor: Theme.card
+                textColor: Theme.ink2
+                gridColor: Theme.chartGrid
+                axisColor: Theme.faint
+                seriesColors: [Theme.chartOrange, Theme.chartGreen, Theme.chartBlue]
+                fontFamily: Theme.family
+                textScale: Theme.textScale
+                reducedMotion: Theme.reducedMotion
+                mirrored: Theme.mirrored
+                focusColor: Theme.accentInk
+            }
+            Column {
+                anchors.centerIn: parent
+                width: Math.min(280 * Theme.textScale, parent.width - 40)
+                spacing: 12
+
+                Spinner {
+                    outlet: scene.performance.fetchingActivityView
+                    anchors.horizontalCenter: parent.horizontalCenter
+                }
+                OutletLabel {
+                    outlet: scene.performance.fetchingLabel
+                    size: Theme.stateSize
+                    baseColor: Theme.ink2
+                    width: parent.width
+                    horizontalAlignment: Text.AlignHCenter
+                    wrapMode: Text.Wrap
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,280 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/ManagedSystems/PCM/PCMViewController.h"
+
+#include "Controllers/REST/RESTHandler.h"
+#include "Views/Common/FeedTimeStamp.h"
+#include "Views/Common/ScreenLog.h"
+
+#include <QDateTime>
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace lodestar
+{
+namespace
+{
+
+constexpr ScreenLog screenLog("Shared/Views/ManagedSystems/PCM/PCMViewController");
+constexpr auto calculate = "calculateGraphValuesFromJSON:";
+
+/// Skipped samples that get a log line each. What a broken console may send is not to fill the log.
+constexpr std::size_t mostSkippedLines = 1000;
+
+constexpr double newDataSeconds = 3.0;
+constexpr double openingSeconds = 2.5;
+
+/// Orange, green and blue as charts have them on a light card; the scene knows their dark counterparts.
+const std::array<QColor, 3> seriesColors = {QColor(0xD9, 0x7A, 0x00), QColor(0x00, 0x8B, 0x11),
+                                            QColor(0x00, 0x30, 0x8B)};
+constexpr std::array<double MetricsFigures::*, 3> seriesFigures = {&MetricsFigures::total, &MetricsFigures::allocated,
+                                                                   &MetricsFigures::used};
+
+/// Digits and a point in every language: the figures are the console's.
+QString twoDecimals(double value)
+{
+    return QString::number(value, 'f', 2);
+}
+
+QString shown(const std::optional<MetricsDate>& date)
+{
+    if (!date) {
+        return {};
+    }
+    const QDateTime local = QDateTime::fromSecsSinceEpoch(date->time_since_epoch().count());
+    return mediumDateShortTime({local.date(), local.time()});
+}
+
+/// A date that cannot be read leaves the other one alone.
+QString period(const QString& start, const QString& end)
+{
+    return start.isEmpty() || end.isEmpty() ? start + end : QStringLiteral("%1 - %2").arg(start, end);
+}
+
+void logSkipped(const MetricsReduction& reduction, MetricsSegment segment)
+{
+    const bool isMemory = segment == MetricsSegment::Memory;
+    const std::string subject = isMemory ? "Memory" : "Processor";
+    const std::size_t lines = std::min(reduction.skipped.size(), mostSkippedLines);
+    for (std::size_t i = 0; i < lines; ++i) {
+        const SkippedSample& skipped = reduction.skipped[i];
+        if (skipped.reason == SkippedSample::Reason::Null) {
+            screenLog.write(isMemory ? 314 : 262, calculate,
+                            subject + " PCM Information has a null value for key: " + std::string(skipped.key));
+        } else {
+            screenLog.write(isMemory ? 320 : 268, calculate,
+                            subject + " PCM Information has no number for key: " + std::string(skipped.key));
+        }
+    }
+    if (reduction.skipped.size() > lines) {
+        screenLog.write(330, calculate,
+                        std::to_string(reduction.skipped.size() - lines) + " more samples were skipped");
+    }
+}
+
+} // namespace
+
+PCMViewController::PCMViewController()
+{
+    m_fetchingLabel.setText(tr("Fetching performance data..."));
+}
+
+QString PCMViewController::name() const
+{
+    return QString::fromStdString(m_sysName.value_or(""));
+}
+
+void PCMViewController::viewDidLoad()
+{
+    screenLog.write(39, "viewDidLoad", "PCMViewController instantiation");
+    m_header.setCustomNavigationBar();
+    m_header.setHeaderTitle(name(), tr("updating..."));
+    startLoadingIndicators();
+    fetchPCMData();
+    configureChart();
+}
+
+void PCMViewController::configureChart()
+{
+    m_chartView.setDelegate(this);
+    m_chartView.setDescriptionText({});
+    m_chartView.setNoDataText(tr("No performance data available."));
+    m_chartView.setHighlightEnabled(false);
+    m_chartView.setDragEnabled(true);
+    m_chartView.setScaleEnabled(true);
+    m_chartView.setPinchZoomEnabled(true);
+    m_chartView.setHighlightIndicatorEnabled(false);
+    m_chartView.setDrawGridBackgroundEnabled(false);
+
+    XAxis xAxis = m_chartView.xAxis();
+    xAxis.removeAllLimitLines();
+    xAxis.labelPosition = XAxisLabelPosition::Bottom;
+    xAxis.spaceBetweenLabels = 1;
+    xAxis.drawGridLinesEnabled = false;
+    m_chartView.setXAxis(xAxis);
+
+    YAxis leftAxis = m_chartView.leftAxis();
+    leftAxis.removeAllLimitLines();
+    leftAxis.startAtZeroEnabled = false;
+    leftAxis.gridLineDashLengths = {5, 5};
+    leftAxis.drawLimitLinesBehindDataEnabled = true;
+    m_chartView.setLeftAxis(leftAxis);
+
+    YAxis rightAxis = m_chartView.rightAxis();
+    rightAxis.enabled = false;
+    m_chartView.setRightAxis(rightAxis);
+
+    Legend legend = m_chartView.legend();
+    legend.form = LegendForm::Line;
+    m_chartView.setLegend(legend);
+    m_chartView.animate(openingSeconds, ChartEasingOption::EaseInOutQuart);
+}
+
+void PCMViewController::selectedSegmentedIndex(int index)
+{
+    m_typeSegmentedControl.setSelectedSegmentIndex(index);
+    startLoadingIndicators();
+    fetchPCMData();
+}
+
+void PCMViewController::fetchPCMData()
+{
+    if (!corvel()) {
+        showFailure();
+        return;
+    }
+    const auto screen = self<PCMViewController>();
+    const std::uint64_t fetch = ++m_fetch;
+    RESTHandler::sharedInstance()
+        .login(corvel(), CheckToken::No)
+        .then([corvel = corvel(), systemID = m_systemID](const SessionKey& key) {
+            return RESTHandler::sharedInstance().fetchPCMDataForManagedSystem(systemID, corvel, key);
+        })
+        .thenOnMain(
+            [screen, fetch](const MetricsDocument& document) {
+                if (fetch == screen->m_fetch) {
+                    screen->showMetrics(document);
+                }
+                return std::string("OK");
+            },
+            [screen, fetch](const Error& error) {
+                screenLog.writeError(163, "fetchPCMData", error);
+                if (fetch == screen->m_fetch) {
+                    screen->showFailure();
+                }
+                return error;
+            });
+}
+
+void PCMViewController::showMetrics(const MetricsDocument& document)
+{
+    const MetricsValue util = document.root().member("systemUtil");
+    const auto date = [&util](std::string_view key) {
+        const auto stamp = util.path({"utilInfo", key}).text();
+        return stamp ? dateFromString(*stamp) : std::nullopt;
+    };
+    m_header.setHeaderTitle(name(), period(shown(date("startTimeStamp")), shown(date("endTimeStamp"))));
+    calculateGraphValuesFromJSON(util.member("utilSamples"));
+}
+
+void PCMViewController::showFailure()
+{
+    m_fetchingActivityView.stopAnimating();
+    for (LabelOutlet* label : {&m_totalLabel, &m_allocatedLabel, &m_usedLabel}) {
+        label->setText(QStringLiteral("-"));
+    }
+    m_chartView.clear();
+    stopLoadingIndicators();
+    m_header.setHeaderTitle(name(), {});
+}
+
+void PCMViewController::calculateGraphValuesFromJSON(const MetricsValue& samples)
+{
+    const auto segment = MetricsSegment{m_typeSegmentedControl.selectedSegmentIndex()};
+    const MetricsReduction reduction = reduceMetrics(samples, segment);
+    logSkipped(reduction, segment);
+    if (reduction.first) {
+        m_startDate = reduction.first->date;
+    }
+    // A last sample that was skipped leaves the values as they were.
+    if (reduction.last) {
+        setLatest(reduction.last->figures);
+        m_endDate = reduction.last->date;
+    }
+    setChartData(reduction, segment);
+    m_chartView.setHidden(false);
+    stopLoadingIndicators();
+}
+
+void PCMViewController::setLatest(const MetricsFigures& figures)
+{
+    m_totalLabel.setText(twoDecimals(figures.total));
+    m_allocatedLabel.setText(twoDecimals(figures.allocated));
+    m_usedLabel.setText(twoDecimals(figures.used));
+}
+
+void PCMViewController::setChartData(const MetricsReduction& reduction, MetricsSegment segment)
+{
+    std::array<QString, 3> names;
+    if (reduction.sampleCount > 0 && segment == MetricsSegment::Processors) {
+        names = {tr("Total Processors"), tr("Processors Allocated"), tr("Processors Used")};
+    } else if (reduction.sampleCount > 0 && segment == MetricsSegment::Memory) {
+        names = {tr("Total Memory"), tr("Memory Allocated"), tr("Memory Used")};
+    }
+    LineChartData data;
+    data.xVals.reserve(static_cast<qsizetype>(reduction.xLabels.size()));
+    for (const std::string& label : reduction.xLabels) {
+        data.xVals << QString::fromStdString(label);
+    }
+    for (std::size_t series = 0; series < names.size(); ++series) {
+        LineChartDataSet set;
+        set.label = names.at(series);
+        set.colors = {seriesColors.at(series)};
+        set.lineWidth = 1;
+        set.circleRadius = 0;
+        set.drawCircleHoleEnabled = false;
+        set.entries.reserve(static_cast<qsizetype>(reduction.points.size()));
+        for (const MetricsPoint& point : reduction.points) {
+            set.entries << ChartEntry{static_cast<float>(point.figures.*seriesFigures.at(series)), point.xIndex};
+        }
+        data.dataSets << set;
+    }
+    m_chartView.setData(data);
+}
+
+void PCMViewController::startLoadingIndicators()
+{
+    m_chartView.setHidden(true);
+    m_fetchingLabel.setHidden(false);
+    m_fetchingActivityView.startAnimating();
+    for (LabelOutlet* label : {&m_totalLabel, &m_allocatedLabel, &m_usedLabel}) {
+        label->setHidden(true);
+    }
+    for (IndicatorOutlet* indicator : {&m_totalIndicator, &m_allocatedIndicator, &m_usedIndicator}) {
+        indicator->startAnimating();
+    }
+}
+
+void PCMViewController::stopLoadingIndicators()
+{
+    m_chartView.setHidden(false);
+    m_chartView.animate(newDataSeconds);
+    m_fetchingLabel.setHidden(true);
+    m_fetchingActivityView.stopAnimating();
+    for (IndicatorOutlet* indicator : {&m_totalIndicator, &m_allocatedIndicator, &m_usedIndicator}) {
+        indicator->stopAnimating();
+    }
+    for (LabelOutlet* label : {&m_totalLabel, &m_allocatedLabel, &m_usedLabel}) {
+        label->setHidden(false);
+    }
+}
+
+void PCMViewController::chartValueSelected(ChartView& /*chartView*/, const ChartEntry& /*entry*/, int /*dataSetIndex*/,
+                                           const Highlight& /*highlight*/)
+{
+}
+
+void PCMViewController::chartValueNothingSelected(ChartView& /*chartView*/) {}
+
+} // namespace lodestar

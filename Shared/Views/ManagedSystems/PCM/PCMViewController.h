@@ -1,0 +1,111 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Charts/LineChartView.h"
+#include "Kit/Core/Outlets.h"
+#include "Kit/Core/ViewController.h"
+#include "Views/Common/CorvelReceiving.h"
+#include "Views/Common/SceneInputs.h"
+#include "Views/Common/TitleHeader.h"
+#include "Views/ManagedSystems/PCM/MetricsReduction.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace lodestar
+{
+
+/// The performance of one managed system: its total, allocated and used processors or memory as lines, and the latest
+/// of each as a number. Every choice of a segment fetches the whole document anew. Main thread.
+class PCMViewController : public lodestar::ViewController,
+                          public CorvelReceiving,
+                          public PerformanceReceiving,
+                          private ChartViewDelegate
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made by the storyboard")
+    Q_PROPERTY(lodestar::TitleHeader* header READ header CONSTANT)
+    Q_PROPERTY(lodestar::LineChartView* chartView READ chartView CONSTANT)
+    Q_PROPERTY(lodestar::SegmentedControlOutlet* typeSegmentedControl READ typeSegmentedControl CONSTANT)
+    Q_PROPERTY(lodestar::LabelOutlet* fetchingLabel READ fetchingLabel CONSTANT)
+    Q_PROPERTY(lodestar::IndicatorOutlet* fetchingActivityView READ fetchingActivityView CONSTANT)
+    Q_PROPERTY(lodestar::LabelOutlet* totalLabel READ totalLabel CONSTANT)
+    Q_PROPERTY(lodestar::LabelOutlet* allocatedLabel READ allocatedLabel CONSTANT)
+    Q_PROPERTY(lodestar::LabelOutlet* usedLabel READ usedLabel CONSTANT)
+    Q_PROPERTY(lodestar::IndicatorOutlet* totalIndicator READ totalIndicator CONSTANT)
+    Q_PROPERTY(lodestar::IndicatorOutlet* allocatedIndicator READ allocatedIndicator CONSTANT)
+    Q_PROPERTY(lodestar::IndicatorOutlet* usedIndicator READ usedIndicator CONSTANT)
+
+public:
+    PCMViewController();
+
+    /// None when the opener gave none: the title is then empty.
+    const std::optional<std::string>& sysName() const { return m_sysName; }
+    void setSysName(std::optional<std::string> sysName) override { m_sysName = std::move(sysName); }
+    const std::optional<std::string>& systemID() const { return m_systemID; }
+    void setSystemID(std::optional<std::string> systemID) override { m_systemID = std::move(systemID); }
+    /// Of the first and the last sample when they were last charted; none before and for a stamp that cannot be read.
+    const std::optional<MetricsDate>& startDate() const { return m_startDate; }
+    const std::optional<MetricsDate>& endDate() const { return m_endDate; }
+
+    TitleHeader* header() { return &m_header; }
+    LineChartView* chartView() { return &m_chartView; }
+    /// Segment 0 is processors, segment 1 memory.
+    SegmentedControlOutlet* typeSegmentedControl() { return &m_typeSegmentedControl; }
+    LabelOutlet* fetchingLabel() { return &m_fetchingLabel; }
+    IndicatorOutlet* fetchingActivityView() { return &m_fetchingActivityView; }
+    /// The latest values with two decimals, "-" after a failure; a spinner stands in for each while it is fetched.
+    LabelOutlet* totalLabel() { return &m_totalLabel; }
+    LabelOutlet* allocatedLabel() { return &m_allocatedLabel; }
+    LabelOutlet* usedLabel() { return &m_usedLabel; }
+    IndicatorOutlet* totalIndicator() { return &m_totalIndicator; }
+    IndicatorOutlet* allocatedIndicator() { return &m_allocatedIndicator; }
+    IndicatorOutlet* usedIndicator() { return &m_usedIndicator; }
+
+    /// What the segmented control does.
+    Q_INVOKABLE void selectedSegmentedIndex(int index);
+    /// A fetch that is under way goes on, and what it brings is not shown.
+    void fetchPCMData();
+    /// Charts an array of samples by the segment that is chosen.
+    void calculateGraphValuesFromJSON(const MetricsValue& samples);
+    void startLoadingIndicators();
+    void stopLoadingIndicators();
+
+protected:
+    void viewDidLoad() override;
+
+private:
+    void chartValueSelected(ChartView& chartView, const ChartEntry& entry, int dataSetIndex,
+                            const Highlight& highlight) override;
+    void chartValueNothingSelected(ChartView& chartView) override;
+
+    void configureChart();
+    void showMetrics(const MetricsDocument& document);
+    void showFailure();
+    void setLatest(const MetricsFigures& figures);
+    void setChartData(const MetricsReduction& reduction, MetricsSegment segment);
+    QString name() const;
+
+    std::optional<std::string> m_sysName;
+    std::optional<std::string> m_systemID;
+    std::optional<MetricsDate> m_startDate;
+    std::optional<MetricsDate> m_endDate;
+    /// Counts fetches: only the latest is shown.
+    std::uint64_t m_fetch = 0;
+
+    TitleHeader m_header;
+    LineChartView m_chartView;
+    SegmentedControlOutlet m_typeSegmentedControl;
+    LabelOutlet m_fetchingLabel;
+    IndicatorOutlet m_fetchingActivityView;
+    LabelOutlet m_totalLabel;
+    LabelOutlet m_allocatedLabel;
+    LabelOutlet m_usedLabel;
+    IndicatorOutlet m_totalIndicator;
+    IndicatorOutlet m_allocatedIndicator;
+    IndicatorOutlet m_usedIndicator;
+};
+
+} // namespace lodestar
