@@ -34,5 +34,7 @@ std::vector<Look> inventoryLooks();
 std::vector<Look> groupedLooks();
 /// Serviceable events and resource groups, these of a simulated console.
 std::vector<Look> eventAndGroupLooks();
+/// The performance of a managed system.
+std::vector<Look> performanceLooks();
 
 } // namespace lodestar::scenes
