@@ -63,6 +63,8 @@ Item {
     T.TextField {
         id: input
 
+        readonly property string accessibleName: field.label
+
         anchors.left: parent.left
         anchors.leftMargin: Theme.rowStart + (field.stacked ? 0 : field.labelWidth)
         anchors.right: parent.right
@@ -87,7 +89,12 @@ Item {
         Accessible.role: Accessible.EditableText
         Accessible.name: field.label
         Accessible.passwordEdit: field.secure
-        Component.onCompleted: text = field.outlet.text
+        Component.onCompleted: {
+            text = field.outlet.text;
+            if (field.secure) {
+                SecureText.hideFromAccessibility(input);
+            }
+        }
         onTextChanged: field.outlet.text = text
         onAccepted: {
             if (field.next !== null) {
