@@ -53,6 +53,8 @@ int runKeychainCalls()
     write("p\u00E4ss 'w\u014Drd' ");
     read("Admin");
     read("Nobody");
+    write(std::string("cut\0short", 9));
+    read("Admin");
     write("");
     read("Admin");
     return 0;
@@ -112,14 +114,15 @@ TEST_F(SystemKeychainTests, KeepsPasswordsInTheSystemsService)
                             environmentWithBus(QString()));
     EXPECT_THAT(lines(output),
                 ElementsAre("read [] in time", "write [] in time", "read [p\u00E4ss 'w\u014Drd' ] in time",
-                            "read [] in time", "write [] in time", "read [] in time"));
+                            "read [] in time", "write error -2 in time", "read [p\u00E4ss 'w\u014Drd' ] in time",
+                            "write [] in time", "read [] in time"));
 }
 
 TEST_F(SystemKeychainTests, FailsSoonWithoutAService)
 {
     const auto output = run(m_self, {QStringLiteral("--keychain")},
                             environmentWithBus(QStringLiteral("unix:path=") + m_home.filePath(QStringLiteral("none"))));
-    ASSERT_EQ(output.size(), 6);
+    ASSERT_EQ(output.size(), 8);
     EXPECT_THAT(lines(output), Each(HasSubstr(" error ")));
     EXPECT_THAT(lines(output), Each(HasSubstr("in time")));
 }
@@ -139,10 +142,10 @@ TEST_F(SystemKeychainTests, AServiceThatNeverAnswersCostsOneDeadline)
     const auto output = lines(run(m_self, {QStringLiteral("--keychain")},
                                   environmentWithBus(QStringLiteral("unix:path=") + QFile::decodeName(path))));
     ::close(listener);
-    ASSERT_EQ(output.size(), 6U);
+    ASSERT_EQ(output.size(), 8U);
     EXPECT_EQ(output[0], "read error " + std::to_string(SystemKeychain::timedOut) + " at deadline");
     EXPECT_THAT(std::vector(output.begin() + 1, output.end()), Each(HasSubstr("in time")));
-    EXPECT_THAT(output, Each(HasSubstr("error " + std::to_string(SystemKeychain::timedOut))));
+    EXPECT_THAT(output, Each(HasSubstr(" error -")));
 }
 
 } // namespace

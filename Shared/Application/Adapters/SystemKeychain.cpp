@@ -163,6 +163,10 @@ Result<std::string> SystemKeychain::password(const std::string& service, const s
 Result<void> SystemKeychain::setPassword(const std::string& password, const std::string& service,
                                          const std::string& account)
 {
+    // The service would keep what stands before it, and call that a success.
+    if (password.find('\0') != std::string::npos) {
+        return makeError(notAText, "The keychain service keeps no text with a null character.");
+    }
     const Result<std::string> answer = m_worker->ask([password, service, account] {
         auto* const job = new QKeychain::WritePasswordJob(QString::fromStdString(service));
         job->setKey(QString::fromStdString(account));

@@ -16,11 +16,13 @@ namespace lodestar
 /// at once rather than each wait the deadline out. A write that failed so may yet be carried out when the service wakes
 /// up.
 ///
-/// Errors are of the domain "Keychain", with the codes of the service's library and `timedOut`.
+/// Errors are of the domain "Keychain", with the codes of the service's library, `timedOut` and `notAText`.
 class SystemKeychain final : public Keychain
 {
 public:
     static constexpr int timedOut = -1;
+    /// A password with a null character in it, which the service cannot keep.
+    static constexpr int notAText = -2;
 
     explicit SystemKeychain(std::chrono::milliseconds deadline = std::chrono::seconds(3));
     ~SystemKeychain() override;
