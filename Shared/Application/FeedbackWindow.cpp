@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/FeedbackWindow.h"
 
+#include "Application/DiscardedInterface.h"
 #include "Feedback/VireoLogger.h"
 #include "Kit/Core/Kit.h"
 #include "Views/Views.h"
@@ -64,6 +65,7 @@ void FeedbackWindow::setRootViewController(std::shared_ptr<ViewController> contr
     const auto previous = std::exchange(m_rootViewController, std::move(controller));
     if (previous) {
         previous->endAppearance();
+        discardInterface(*previous, *this);
     }
     Q_EMIT rootViewControllerChanged();
     if (m_rootViewController) {

@@ -1,21 +1,202 @@
 // SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Lodestar.Application
 import Lodestar.Kit
 
-// The application's mark on the bare ground.
-Rectangle {
+/// The passcode screen: the application's mark, which moves up for the field and its two buttons. Where the window is too
+/// short the space above the field gives way, then everything scrolls.
+FocusScope {
     id: scene
 
     required property LoginViewController controller
 
-    color: Theme.ground
+    readonly property var inputMethod: Qt.inputMethod
+    readonly property real screenHeight: Window.height
+    /// In the scene's points; of no height, on the lower edge, while there is none.
+    readonly property rect keyboardFrame: inputMethod.visible && inputMethod.keyboardRectangle.height > 0
+                                          ? inputMethod.keyboardRectangle : Qt.rect(0, screenHeight, width, 0)
+    readonly property real shownHeight: height - keyboardFrame.height
 
-    Icon {
-        anchors.centerIn: parent
-        name: "app_icon"
-        size: 96
-        Accessible.role: Accessible.Graphic
-        Accessible.name: qsTr("Lodestar")
+    /// 0 the mark alone, 1 all there.
+    property real opening: 0
+    readonly property real logoStart: Theme.reducedMotion ? controller.logoYAlignment.constant : height / 2
+    readonly property real logoCentre: logoStart + (controller.logoYAlignment.constant - logoStart) * opening
+    readonly property real logoEnd: controller.logoYAlignment.constant + logo.height / 2
+    property real wishedSpace: controller.spaceToPassword.constant
+    readonly property real space: Math.max(12 + label.height + 8, Math.min(wishedSpace, shownHeight - logoEnd - below))
+    readonly property real below: field.height + 12 + loginButton.height + 12 + resetButton.height + 16
+
+    focus: true
+
+    Behavior on wishedSpace {
+        NumberAnimation { duration: Theme.reducedMotion ? 0 : scene.controller.shiftDuration; easing.type: Easing.OutCubic }
+    }
+    SequentialAnimation {
+        id: openingMotion
+
+        PauseAnimation { duration: scene.controller.openingDelay }
+        NumberAnimation {
+            target: scene
+            property: "opening"
+            to: 1
+            duration: Theme.reducedMotion ? 120 : scene.controller.openingDuration
+            easing.type: Easing.InOutCubic
+        }
+    }
+
+    function open() {
+        if (!controller.isFirstLaunch && opening === 0 && !openingMotion.running) {
+            openingMotion.start();
+            field.edit();
+        }
+    }
+    function tellLayout() {
+        if (height > 0 && screenHeight > 0) {
+            controller.viewDidLayoutSubviews(height, screenHeight);
+        }
+    }
+    /// With a keyboard up the button is to be seen, otherwise the mark.
+    function settleScroll() {
+        const wanted = keyboardFrame.height > 0 ? loginButton.y + loginButton.height + 12 - page.height : 0;
+        page.contentY = Math.max(0, Math.min(wanted, page.contentHeight - page.height));
+    }
+
+    onHeightChanged: tellLayout()
+    onScreenHeightChanged: tellLayout()
+    onKeyboardFrameChanged: {
+        // The frame is read against the window's height.
+        tellLayout();
+        controller.keyboardDidChangeFrame(keyboardFrame, 0.25);
+    }
+    onShownHeightChanged: settleScroll()
+    onSpaceChanged: settleScroll()
+    Component.onCompleted: {
+        tellLayout();
+        open();
+    }
+
+    Connections {
+        target: scene.controller
+        function onIsFirstLaunchChanged() {
+            scene.open();
+        }
+        function onEndEditingRequested() {
+            field.focus = false;
+        }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.ground
+    }
+    Flickable {
+        id: page
+
+        readonly property real columnWidth: Math.min(width - 48, 342 * Math.min(Theme.textScale, 1.5))
+        readonly property real columnX: (width - columnWidth) / 2
+
+        width: parent.width
+        height: scene.shownHeight
+        contentWidth: width
+        contentHeight: Math.max(height, resetButton.y + resetButton.height + 16)
+        interactive: contentHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+
+        /// A press beside the field ends editing.
+        MouseArea {
+            width: page.contentWidth
+            height: page.contentHeight
+            onClicked: scene.controller.hideKeyboardOnTouch()
+        }
+        Icon {
+            id: logo
+
+            name: scene.controller.logoImageView.imageName
+            size: 96
+            x: (page.width - width) / 2
+            y: scene.logoCentre - height / 2
+        }
+        Label {
+            id: nameLabel
+
+            readonly property bool roomy: scene.space - label.height - 8 >= 16 + height + 4
+
+            text: qsTr("Lodestar")
+            size: Theme.rootTitleSize
+            x: (page.width - width) / 2
+            y: logo.y + logo.height + 16
+            opacity: roomy ? scene.opening : 0
+            Accessible.role: Accessible.Heading
+            Accessible.name: text
+
+            Behavior on opacity {
+                enabled: scene.opening === 1
+                NumberAnimation { duration: Theme.settle }
+            }
+        }
+        Label {
+            id: label
+
+            visible: !scene.controller.passwordLabel.hidden
+            text: scene.controller.passwordLabel.text
+            size: Theme.captionSize
+            color: Theme.ink2
+            opacity: scene.opening
+            x: page.columnX
+            y: field.y - height - 8
+            width: page.columnWidth
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+        PasscodeField {
+            id: field
+
+            label: scene.controller.passwordLabel.text
+            outlet: scene.controller.passwordTextField
+            opacity: scene.opening
+            x: page.columnX
+            y: scene.logoEnd + scene.space
+            width: page.columnWidth
+            onAccepted: scene.controller.returnPressed()
+            onVisibleChanged: {
+                if (visible) {
+                    edit();
+                }
+            }
+        }
+        FilledButton {
+            id: loginButton
+
+            objectName: "loginButton"
+            visible: !scene.controller.loginButton.hidden
+            enabled: scene.controller.loginButton.enabled
+            text: qsTr("Log In")
+            opacity: scene.opening
+            x: page.columnX
+            y: field.y + field.height + 12
+            width: page.columnWidth
+            onClicked: scene.controller.performLogin()
+        }
+        PlainButton {
+            id: resetButton
+
+            objectName: "resetPasswordButton"
+            visible: !scene.controller.resetPasswordButton.hidden
+            enabled: scene.controller.resetPasswordButton.enabled
+            text: qsTr("Reset Passcode")
+            size: Theme.stateSize
+            opacity: scene.opening
+            x: (page.width - width) / 2
+            y: loginButton.y + loginButton.height + 8
+            width: Math.min(implicitWidth, page.columnWidth)
+            onClicked: scene.controller.resetPassword()
+        }
+    }
+    Alert {
+        outlet: scene.controller.alert
+        // Whatever had the keyboard: the next thing to do is to write.
+        onClosed: field.edit()
     }
 }

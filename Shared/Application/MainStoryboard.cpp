@@ -2,6 +2,8 @@
 #include "Application/MainStoryboard.h"
 
 #include "Application/IntroView.h"
+#include "Application/PasswordCreationViewController.h"
+#include "Application/SettingsViewController.h"
 #include "Kit/Core/NavigationController.h"
 #include "Kit/Core/Storyboard.h"
 #include "Kit/Core/TabBarController.h"
@@ -74,6 +76,10 @@ void registerMainStoryboard(LoginViewController::RootSwitch showRoot)
         "loginViewController",
         [showRoot = std::move(showRoot)] { return makeController<LoginViewController>(showRoot); },
         applicationScene("LoginScene.qml"));
+    storyboard.registerScene("passwordCreation", factory<PasswordCreationViewController>(),
+                             applicationScene("PasswordCreationScene.qml"));
+    storyboard.registerScene("settingsViewController", factory<SettingsViewController>(),
+                             applicationScene("SettingsScene.qml"));
     storyboard.registerScene("mainView", &makeMainInterface, {});
     storyboard.registerScene("corvelListView", factory<CorvelListViewController>(), viewsScene("CorvelListScene.qml"));
     storyboard.registerScene("deltaCorvel", factory<DeltaCorvelViewController>(), viewsScene("DeltaCorvelScene.qml"));

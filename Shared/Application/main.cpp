@@ -6,6 +6,7 @@
 #include "Application/FeedbackWindow.h"
 #include "Application/MainStoryboard.h"
 #include "Application/Model/StoreStack.h"
+#include "Application/PrivacyCover.h"
 #include "Application/TerminationSignals.h"
 #include "Feedback/VireoLogger.h"
 #include "Kit/Core/MainLoop.h"
@@ -71,13 +72,15 @@ void installPlatform(const QString& folder)
 }
 
 /// Becoming active locks; the first activation comes with the first frame, so the initial screen is not made twice.
-void followActivation(const QGuiApplication& application, AppDelegate& delegate)
+void followActivation(const QGuiApplication& application, AppDelegate& delegate, PrivacyCover& cover)
 {
-    QObject::connect(&application, &QGuiApplication::applicationStateChanged, [&delegate](Qt::ApplicationState state) {
-        if (state == Qt::ApplicationActive) {
-            delegate.applicationDidBecomeActive();
-        }
-    });
+    QObject::connect(&application, &QGuiApplication::applicationStateChanged, &application,
+                     [&delegate, &cover](Qt::ApplicationState state) {
+                         if (state == Qt::ApplicationActive) {
+                             delegate.applicationDidBecomeActive();
+                         }
+                         cover.applicationStateDidChange(state);
+                     });
 }
 
 } // namespace
@@ -123,7 +126,8 @@ int main(int argc, char** argv)
         window->resize(390, 844);
         window->show();
     }
-    followActivation(application, delegate);
+    PrivacyCover cover(*window);
+    followActivation(application, delegate, cover);
 
     const int status = QGuiApplication::exec();
     delegate.applicationWillTerminate();

@@ -9,6 +9,7 @@
 #include "Kit/Core/Storyboard.h"
 #include "Kit/Core/TabBarController.h"
 #include "Kit/Core/UIColor+Tessel.h"
+#include "Platform/Keychain.h"
 #include "Platform/UserDefaults.h"
 #include "Views/Corvels/CorvelListViewController.h"
 
@@ -35,7 +36,8 @@ protected:
     ~AppDelegateTest() override
     {
         FeedbackWindow::tearDown();
-        UserDefaults::standard().removeObjectForKey("requirePassword");
+        UserDefaults::install(nullptr);
+        Keychain::install(nullptr);
         RESTHandler::sharedInstance().setCorvelList({});
         StoreStack::shared().close();
     }
@@ -82,6 +84,7 @@ TEST_F(AppDelegateTest, ARequiredPasscodeStandsInFrontAtEveryActivation)
 {
     m_delegate.showInitialViewController();
     UserDefaults::standard().setBool(true, "requirePassword");
+    ASSERT_TRUE(Keychain::standard().setPassword("passcode", "Login", "Admin"));
     m_delegate.applicationDidBecomeActive();
     ViewController* const first = root();
     EXPECT_NE(dynamic_cast<LoginViewController*>(first), nullptr);

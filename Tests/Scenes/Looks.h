@@ -37,4 +37,7 @@ std::vector<Look> eventAndGroupLooks();
 /// The performance of a managed system.
 std::vector<Look> performanceLooks();
 
+/// The passcode screen, the settings and the passcode sheet.
+std::vector<Look> lockLooks();
+
 } // namespace lodestar::scenes

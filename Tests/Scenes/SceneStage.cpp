@@ -205,8 +205,10 @@ SceneStage::~SceneStage()
 void SceneStage::closeWindow()
 {
     if (m_list) {
-        // An editor that adds holds its list: only its dismissal lets go of both, and of what it still meant to post.
-        m_list->dismissSemiModalView();
+        // A sheet holds the screen under it: only its dismissal lets go of both, and of what it still meant to post.
+        for (const auto& screen : m_list->navigationController()->viewControllers()) {
+            screen->dismissSemiModalView();
+        }
     }
     m_window.reset();
     m_tabs.reset();

@@ -165,6 +165,7 @@ int main(int argc, char** argv)
     qputenv("QT_QUICK_BACKEND", "software");
     qputenv("QT_SCALE_FACTOR", "2");
     const QGuiApplication application(argc, argv);
+    QGuiApplication::setApplicationVersion(QStringLiteral("1.0"));
     const MainLoop mainLoop;
     const QStringList arguments = QGuiApplication::arguments();
     const bool tour = arguments.size() > 2 && arguments[1] == QLatin1String("--tour");
@@ -179,7 +180,7 @@ int main(int argc, char** argv)
         return writeTourPictures(stage, folder) ? 0 : 1;
     }
     for (const auto& looks : {consoleLooks(), editorLooks(), dashboardLooks(), inventoryLooks(), groupedLooks(),
-                              eventAndGroupLooks(), performanceLooks(), aboutLooks()}) {
+                              eventAndGroupLooks(), performanceLooks(), aboutLooks(), lockLooks()}) {
         for (const Look& look : looks) {
             for (const Variant& variant : variantsOf(look)) {
                 const QString name = QString::fromLatin1(look.name) + '-' + variant.suffix + ".png";

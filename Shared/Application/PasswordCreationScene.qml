@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Application
+import Lodestar.Kit
+
+/// The passcode sheet's form, below the bar of its sheet: the old passcode, if there is one, and the new one twice.
+SheetContent {
+    id: scene
+
+    required property ViewController controller
+
+    readonly property PasswordCreationViewController sheet: controller as PasswordCreationViewController
+
+    readonly property int statedHeight: sheet.heightForRowAtIndexPath(0) + sheet.heightForRowAtIndexPath(1)
+                                        + sheet.heightForRowAtIndexPath(2) + sheet.heightForRowAtIndexPath(3)
+
+    title: sheet.navigationBar.text
+    firstField: oldField.visible ? oldField : updateField
+    // The rows grow with the text.
+    extraHeight: Math.max(0, trailingRow.y + trailingRow.height - statedHeight)
+    onSaved: sheet.savePW()
+    onCancelled: sheet.cancel()
+
+    Connections {
+        target: scene.controller
+        function onEndEditingRequested() {
+            const edited = scene.Window.activeFocusItem;
+            if (edited !== null) {
+                edited.focus = false;
+            }
+        }
+    }
+
+    /// A press beside the fields ends editing.
+    MouseArea {
+        anchors.fill: parent
+        onClicked: scene.sheet.hideKeyboardOnTouch()
+    }
+    Form {
+        id: form
+
+        anchors.fill: parent
+        restingHeight: scene.restingHeight
+
+        PasscodeRow {
+            id: oldField
+
+            sheet: scene.sheet
+            label: qsTr("Old passcode")
+            outlet: scene.sheet.oldPassword
+            row: 0
+        }
+        PasscodeRow {
+            id: updateField
+
+            sheet: scene.sheet
+            label: qsTr("New passcode")
+            outlet: scene.sheet.updatePassword
+            row: 1
+            ruled: oldField.visible
+        }
+        PasscodeRow {
+            sheet: scene.sheet
+            label: qsTr("Verify passcode")
+            outlet: scene.sheet.verifyPassword
+            row: 2
+            ruled: true
+        }
+        Item {
+            id: trailingRow
+
+            width: form.width
+            height: Math.max(scene.sheet.heightForRowAtIndexPath(3), note.height + 10)
+
+            Label {
+                id: note
+
+                text: qsTr("Any characters, any length.")
+                size: Theme.noteSize
+                color: Theme.ink2
+                x: Theme.rowStart
+                width: parent.width - Theme.rowStart - Theme.rowEnd
+                anchors.verticalCenter: parent.verticalCenter
+                wrapMode: Text.Wrap
+            }
+            Rule {
+                sheet: scene.sheet
+            }
+        }
+    }
+    Alert {
+        outlet: scene.sheet.alert
+    }
+
+    component Rule: Hairline {
+        required property PasswordCreationViewController sheet
+
+        x: Theme.mirrored ? sheet.separatorRight : sheet.separatorLeft
+        width: parent.width - sheet.separatorLeft - sheet.separatorRight
+    }
+    component PasscodeRow: FormField {
+        id: field
+
+        required property PasswordCreationViewController sheet
+        required property int row
+        property bool ruled: false
+
+        secure: true
+        labelWidth: Math.round(137 * Theme.textScale)
+        rowHeight: sheet.heightForRowAtIndexPath(row)
+        onReturnPressed: sheet.textFieldShouldReturn(outlet)
+
+        Rule {
+            sheet: field.sheet
+            visible: field.ruled
+        }
+    }
+}

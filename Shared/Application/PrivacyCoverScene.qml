@@ -1,0 +1,21 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+
+/// The window without its content: the passcode screen as it opens.
+Rectangle {
+    anchors.fill: parent
+    color: Theme.ground
+
+    Icon {
+        anchors.centerIn: parent
+        name: "app_icon"
+        size: 96
+    }
+    MouseArea {
+        anchors.fill: parent
+        hoverEnabled: true
+        acceptedButtons: Qt.AllButtons
+        onWheel: (wheel) => wheel.accepted = true
+    }
+}

@@ -1,0 +1,108 @@
+// SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Lodestar.Application
+import Lodestar.Kit
+
+/// The settings: two cards of fixed rows.
+PageScaffold {
+    id: scene
+
+    readonly property SettingsViewController settings: controller as SettingsViewController
+    readonly property var inputMethod: Qt.inputMethod
+    /// Points of the window that the keyboard covers.
+    readonly property real keyboardHeight: inputMethod.visible ? inputMethod.keyboardRectangle.height : 0
+
+    Keys.onUpPressed: moveKeyboard(false)
+    Keys.onDownPressed: moveKeyboard(true)
+
+    function moveKeyboard(forward: bool) {
+        const next = Window.activeFocusItem?.nextItemInFocusChain(forward) ?? null;
+        if (next !== null) {
+            next.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason);
+        }
+    }
+    onKeyboardHeightChanged: {
+        if (keyboardHeight > 0) {
+            settings.keyboardWillShow(keyboardHeight);
+        } else {
+            settings.keyboardWillHide();
+        }
+    }
+
+    bar: NavigationBar {
+        controller: scene.controller
+    }
+    scrollView: page
+
+    ScrollPage {
+        id: page
+
+        GroupCard {
+            width: parent.width
+            separatorLeft: scene.settings.separatorLeft
+            separatorRight: scene.settings.separatorRight
+
+            MenuRow {
+                id: requireRow
+
+                text: qsTr("Require Passcode")
+                iconName: "lock"
+                chevron: false
+                pressable: false
+
+                Switch {
+                    objectName: "passwordSwitch"
+                    text: requireRow.text
+                    outlet: scene.settings.passwordSwitch
+                    focus: true
+                    onToggled: scene.settings.togglePassword()
+                }
+            }
+            MenuRow {
+                objectName: "passwordCell"
+                text: qsTr("Change Passcode")
+                iconName: "key"
+                enabled: scene.settings.passwordCell.enabled
+                greyed: !scene.settings.passwordCellLabel.enabled
+                chevron: !scene.settings.passwordCellArrow.hidden
+                onClicked: scene.settings.selectRow(0, 1)
+            }
+        }
+        Item {
+            width: parent.width
+            height: Theme.groupGap
+        }
+        GroupCard {
+            width: parent.width
+            separatorLeft: scene.settings.separatorLeft
+            separatorRight: scene.settings.separatorRight
+
+            MenuRow {
+                text: qsTr("Intro Tour")
+                iconName: "tour"
+                onClicked: scene.settings.selectRow(1, 0)
+            }
+            MenuRow {
+                text: qsTr("Version")
+                detail: scene.settings.version
+                iconName: "release_notes"
+                onClicked: scene.settings.selectRow(1, 1)
+            }
+            MenuRow {
+                text: qsTr("Open Source Licenses")
+                iconName: "notices"
+                onClicked: scene.settings.selectRow(1, 2)
+            }
+            MenuRow {
+                text: qsTr("Ornis License")
+                iconName: "license"
+                onClicked: scene.settings.selectRow(1, 3)
+            }
+        }
+    }
+    Alert {
+        outlet: scene.settings.alert
+    }
+}

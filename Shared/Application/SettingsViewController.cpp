@@ -1,0 +1,160 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Application/SettingsViewController.h"
+
+#include "Application/IntroView.h"
+#include "Application/Passcode.h"
+#include "Application/PasswordCreationViewController.h"
+#include "Kit/Core/NavigationController.h"
+#include "Kit/Core/Storyboard.h"
+#include "Kit/Core/TabBarController.h"
+#include "Platform/UserDefaults.h"
+
+#include <QCoreApplication>
+
+namespace lodestar
+{
+namespace
+{
+
+constexpr auto requirePassword = "requirePassword";
+
+constexpr IndexPath changePasscodeRow{0, 1};
+constexpr IndexPath introTourRow{1, 0};
+constexpr IndexPath versionRow{1, 1};
+constexpr IndexPath openSourceRow{1, 2};
+constexpr IndexPath licenceRow{1, 3};
+
+// Points of the sheet below its bar: with the row for the old passcode, and without.
+constexpr double sheetHeightWithOldPasscode = 164;
+constexpr double sheetHeight = 119;
+
+double restingSheetHeight()
+{
+    return Passcode::exists() ? sheetHeightWithOldPasscode : sheetHeight;
+}
+
+} // namespace
+
+QString SettingsViewController::version() const
+{
+    return QCoreApplication::applicationVersion();
+}
+
+void SettingsViewController::viewDidLoad()
+{
+    Passcode::recomputeExists();
+    setTitle(tr("Settings"));
+    m_passwordCellArrow.setImageName(QStringLiteral("chevron"));
+    const bool required = UserDefaults::standard().boolForKey(requirePassword);
+    m_passwordSwitch.setOn(required);
+    setPasswordCellEnabled(required);
+    m_closeObservation =
+        NotificationCenter::defaultCenter().addObserver("ClosePasswordCreationView", [this] { hideModalView(); });
+}
+
+void SettingsViewController::viewDidAppear()
+{
+    // It was emptied for the back button of the screen that was pushed.
+    setTitle(tr("Settings"));
+}
+
+void SettingsViewController::viewWillDisappear()
+{
+    turnOffWithoutPasscode();
+}
+
+void SettingsViewController::turnOffWithoutPasscode()
+{
+    if (Passcode::stored().empty()) {
+        UserDefaults::standard().setBool(false, requirePassword);
+        m_passwordSwitch.setOn(false);
+        setPasswordCellEnabled(false);
+    }
+}
+
+void SettingsViewController::setPasswordCellEnabled(bool enabled)
+{
+    m_passwordCell.setEnabled(enabled);
+    m_passwordCellLabel.setEnabled(enabled);
+    m_passwordCellArrow.setHidden(!enabled);
+}
+
+void SettingsViewController::togglePassword()
+{
+    UserDefaults& defaults = UserDefaults::standard();
+    defaults.setBool(m_passwordSwitch.isOn(), requirePassword);
+    const bool required = defaults.boolForKey(requirePassword);
+    setPasswordCellEnabled(required);
+    if (required && !Passcode::exists()) {
+        presentPasscodeSheet();
+    }
+}
+
+void SettingsViewController::didSelectRowAtIndexPath(IndexPath indexPath)
+{
+    if (indexPath == changePasscodeRow && m_passwordCell.isEnabled()) {
+        presentPasscodeSheet();
+    } else if (indexPath == introTourRow) {
+        showIntroTour();
+    } else if (indexPath == versionRow) {
+        pushWithoutTitle("versionViewController");
+    } else if (indexPath == openSourceRow) {
+        pushWithoutTitle("openSourceViewController");
+    } else if (indexPath == licenceRow) {
+        pushWithoutTitle("OrnisLicenseViewController");
+    }
+}
+
+void SettingsViewController::presentPasscodeSheet()
+{
+    const auto sheet = Storyboard::main().instantiate<PasswordCreationViewController>("passwordCreation");
+    if (!sheet) {
+        return;
+    }
+    sheet->setParentSettings(self<SettingsViewController>());
+    // Loading computes anew whether there is a passcode, which the height tells by.
+    sheet->loadViewIfNeeded();
+    presentSemiViewController(sheet, {.pushParentBack = false, .height = restingSheetHeight()});
+}
+
+void SettingsViewController::showIntroTour()
+{
+    ViewController* const tabs = tabBarController();
+    IntroView::showIntroViewInView(tabs != nullptr ? *tabs : *this, self<SettingsViewController>());
+}
+
+void SettingsViewController::pushWithoutTitle(std::string_view identifier)
+{
+    const auto screen = Storyboard::main().instantiateViewController(identifier);
+    if (screen && navigationController() != nullptr) {
+        setTitle(QStringLiteral(""));
+        navigationController()->pushViewController(screen, Animated::Yes);
+    }
+}
+
+void SettingsViewController::resizeModal(double keyboardHeight, Up up)
+{
+    resizeSemiView(restingSheetHeight() + (up == Up::Yes ? keyboardHeight : 0));
+}
+
+void SettingsViewController::hideModalView()
+{
+    dismissSemiModalView();
+    turnOffWithoutPasscode();
+}
+
+void SettingsViewController::keyboardWillShow(double keyboardHeight)
+{
+    if (isInWindow()) {
+        resizeModal(keyboardHeight, Up::Yes);
+    }
+}
+
+void SettingsViewController::keyboardWillHide()
+{
+    if (isInWindow()) {
+        resizeModal(0, Up::No);
+    }
+}
+
+} // namespace lodestar

@@ -1,0 +1,83 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Application/ControlOutlets.h"
+#include "Kit/Core/Menu.h"
+#include "Kit/Core/PagedIntro.h"
+#include "Kit/Core/Table.h"
+#include "Kit/Core/ViewController.h"
+#include "Platform/NotificationCenter.h"
+
+#include <string_view>
+
+namespace lodestar
+{
+
+/// The settings: whether a passcode is required, which is the application's only preference, and the ways to the intro
+/// tour and the about screens. Main thread.
+class SettingsViewController : public lodestar::ViewController, public PagedIntroDelegate
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The storyboard makes it.")
+    Q_PROPERTY(lodestar::SwitchOutlet* passwordSwitch READ passwordSwitch CONSTANT)
+    Q_PROPERTY(lodestar::ControlOutlet* passwordCell READ passwordCell CONSTANT)
+    Q_PROPERTY(lodestar::ControlOutlet* passwordCellLabel READ passwordCellLabel CONSTANT)
+    Q_PROPERTY(lodestar::ImageOutlet* passwordCellArrow READ passwordCellArrow CONSTANT)
+    Q_PROPERTY(lodestar::MenuOutlet* alert READ alert CONSTANT)
+    Q_PROPERTY(double separatorLeft READ separatorLeft CONSTANT)
+    Q_PROPERTY(double separatorRight READ separatorRight CONSTANT)
+    Q_PROPERTY(QString version READ version CONSTANT)
+
+public:
+    enum class Up { No, Yes };
+
+    SwitchOutlet* passwordSwitch() { return &m_passwordSwitch; }
+    /// The row that changes the passcode: disabled it takes no touches.
+    ControlOutlet* passwordCell() { return &m_passwordCell; }
+    ControlOutlet* passwordCellLabel() { return &m_passwordCellLabel; }
+    ImageOutlet* passwordCellArrow() { return &m_passwordCellArrow; }
+    /// What the passcode sheet says after it has gone.
+    MenuOutlet* alert() { return &m_alert; }
+    double separatorLeft() const { return 10; }
+    double separatorRight() const { return 15; }
+    /// The application's; beside the row that leads to the release notes.
+    QString version() const;
+
+    /// The switch was flipped by hand.
+    Q_INVOKABLE void togglePassword();
+    /// Section 0: the switch, change passcode. Section 1: tour, release notes, notices, licence agreement. A scene that
+    /// the storyboard does not have is not opened. The row goes back to its unpressed look by itself.
+    void didSelectRowAtIndexPath(IndexPath indexPath);
+    Q_INVOKABLE void selectRow(int section, int row) { didSelectRowAtIndexPath({section, row}); }
+
+    /// Heights in points: the sheet stands on the keyboard.
+    void resizeModal(double keyboardHeight, Up up);
+    void hideModalView();
+    Q_INVOKABLE void keyboardWillShow(double keyboardHeight);
+    Q_INVOKABLE void keyboardWillHide();
+    /// Nothing: the settings are as they were.
+    void introDidFinish() override {}
+
+protected:
+    void viewDidLoad() override;
+    void viewDidAppear() override;
+    void viewDidDisappear() override { viewWillDisappear(); }
+
+private:
+    void viewWillDisappear();
+    void setPasswordCellEnabled(bool enabled);
+    void turnOffWithoutPasscode();
+    void presentPasscodeSheet();
+    void showIntroTour();
+    void pushWithoutTitle(std::string_view identifier);
+
+    NotificationCenter::Observation m_closeObservation;
+    SwitchOutlet m_passwordSwitch;
+    ControlOutlet m_passwordCell;
+    ControlOutlet m_passwordCellLabel;
+    ImageOutlet m_passwordCellArrow;
+    MenuOutlet m_alert;
+};
+
+} // namespace lodestar

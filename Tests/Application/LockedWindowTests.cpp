@@ -1,0 +1,278 @@
+// SPDX-License-Identifier: Apache-2.0
+// The lock as an attacker meets it: the real window, every way in but the passcode.
+#include "Application/AppDelegate.h"
+#include "Application/FeedbackWindow.h"
+#include "Application/PrivacyCover.h"
+#include "Application/SettingsViewController.h"
+#include "Kit/Core/Appearance.h"
+#include "Kit/Core/NavigationController.h"
+#include "Kit/Core/TabBarController.h"
+#include "Tests/Application/LockFixture.h"
+#include "Views/Corvels/CorvelListViewController.h"
+
+#include <QAccessible>
+#include <QClipboard>
+#include <QDeadlineTimer>
+#include <QGuiApplication>
+#include <QImage>
+#include <QQuickItem>
+#include <QTest>
+
+#include <set>
+
+namespace lodestar::lock
+{
+namespace
+{
+
+const QString secret = QStringLiteral("s3cret");
+
+class LockedWindowTest : public LockTest
+{
+protected:
+    LockedWindowTest()
+    {
+        QAccessible::setActive(true);
+        Appearance::shared().overrideReducedMotion(true);
+        registerMainStoryboard(
+            [this](std::shared_ptr<ViewController> shown) { delegate.window()->setRootViewController(shown); });
+        passcode() = secret.toStdString();
+    }
+    ~LockedWindowTest() override
+    {
+        FeedbackWindow::tearDown();
+        settle();
+        Appearance::shared().overrideReducedMotion({});
+        QAccessible::setActive(false);
+    }
+
+    FeedbackWindow& window() const { return *delegate.window(); }
+    void open(bool required)
+    {
+        require(required);
+        delegate.showInitialViewController();
+        window().loadInterface();
+        window().resize(390, 844);
+        window().show();
+        window().requestActivate();
+        ASSERT_TRUE(waitFor([this] { return window().isExposed() && window().isActive(); }));
+    }
+    static void settle(int milliseconds = 20)
+    {
+        const QDeadlineTimer limit(milliseconds);
+        while (!limit.hasExpired()) {
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
+            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        }
+    }
+    static bool waitFor(const std::function<bool()>& predicate)
+    {
+        const QDeadlineTimer limit(10'000);
+        while (!predicate()) {
+            if (limit.hasExpired()) {
+                return false;
+            }
+            settle(5);
+        }
+        return true;
+    }
+    LoginViewController* login() const { return dynamic_cast<LoginViewController*>(window().rootViewController()); }
+    CorvelListViewController& list() const
+    {
+        const auto* tabs = dynamic_cast<TabBarController*>(window().rootViewController());
+        const auto* stack = dynamic_cast<NavigationController*>(tabs->controllerAt(0));
+        return *dynamic_cast<CorvelListViewController*>(stack->rootViewController());
+    }
+    SettingsViewController& openSettings() const
+    {
+        list().openSettings();
+        return *dynamic_cast<SettingsViewController*>(list().navigationController()->topViewController());
+    }
+    /// Everything that a screen reader can reach in the window.
+    std::set<QString> spoken() const
+    {
+        std::set<QString> texts;
+        collect(QAccessible::queryAccessibleInterface(&window()), texts);
+        texts.erase(QString());
+        return texts;
+    }
+    static void collect(QAccessibleInterface* element, std::set<QString>& texts)
+    {
+        if (element == nullptr || !element->isValid()) {
+            return;
+        }
+        for (const QAccessible::Text kind : {QAccessible::Name, QAccessible::Description, QAccessible::Value}) {
+            texts.insert(element->text(kind));
+        }
+        if (QAccessibleTextInterface* const text = element->textInterface()) {
+            texts.insert(text->text(0, text->characterCount()));
+        }
+        for (int index = 0; index < element->childCount(); ++index) {
+            collect(element->child(index), texts);
+        }
+    }
+    static bool showsOnlyTheMark(const QImage& picture, int centre)
+    {
+        const QRgb ground = picture.pixel(0, 0);
+        for (int y = 0; y < picture.height(); ++y) {
+            for (int x = 0; x < picture.width(); ++x) {
+                if (picture.pixel(x, y) != ground && !QRect(146, centre - 49, 98, 98).contains(x, y)) {
+                    ADD_FAILURE() << "something at " << x << ", " << y;
+                    return false;
+                }
+            }
+        }
+        return picture.pixel(195, centre - 20) != ground;
+    }
+    void type(const QString& text) const
+    {
+        for (const QChar letter : text) {
+            QTest::keyClick(&window(), letter.toLatin1());
+        }
+    }
+    void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const { QTest::keyClick(&window(), key, modifiers); }
+
+    AppDelegate delegate;
+};
+
+TEST_F(LockedWindowTest, NothingOfTheOldInterfaceStaysWhateverWasOpen)
+{
+    open(true);
+    ASSERT_NE(login(), nullptr);
+    settle(300);
+    const QImage locked = window().grabWindow();
+    const std::set<QString> lockedTexts = spoken();
+
+    const std::vector<std::function<void()>> openers = {
+        [] {},
+        [this] { list().addCorvel(); },
+        [this] {
+            openSettings().didSelectRowAtIndexPath({0, 1});
+        },
+        [this] {
+            openSettings().didSelectRowAtIndexPath({1, 0});
+        },
+        [this] { openSettings().alert()->present("Password Saved", {}, {{"Continue"}}, 0, {}); },
+        [this] {
+            SettingsViewController& settings = openSettings();
+            settings.didSelectRowAtIndexPath({0, 1});
+            settings.alert()->present("Password Saved", {}, {{"Continue"}}, 0, {});
+        },
+    };
+    for (std::size_t index = 0; index < openers.size(); ++index) {
+        SCOPED_TRACE(index);
+        type(secret);
+        press(Qt::Key_Return);
+        ASSERT_EQ(login(), nullptr);
+        openers[index]();
+        settle(400);
+        ASSERT_NE(window().grabWindow(), locked);
+        const std::weak_ptr<ViewController> main = window().rootViewController()->weak_from_this();
+        const std::weak_ptr<ViewController> screen = list().weak_from_this();
+
+        delegate.applicationDidBecomeActive();
+        ASSERT_NE(login(), nullptr);
+        // Before any event has run: the frame that the system may show first.
+        EXPECT_TRUE(showsOnlyTheMark(window().grabWindow(), 844 / 3));
+        settle(300);
+        EXPECT_TRUE(main.expired());
+        EXPECT_TRUE(screen.expired());
+        EXPECT_EQ(spoken(), lockedTexts);
+    }
+}
+
+TEST_F(LockedWindowTest, NoKeyLeadsBehindIt)
+{
+    open(false);
+    openSettings().alert()->present("Password Saved", {}, {{"Continue"}}, 0, {});
+    settle(300);
+    require();
+    delegate.applicationDidBecomeActive();
+    settle(300);
+    LoginViewController* const lock = login();
+    ASSERT_NE(lock, nullptr);
+    std::set<QQuickItem*> reached;
+    for (int step = 0; step < 12; ++step) {
+        press(Qt::Key_Tab);
+        reached.insert(window().activeFocusItem());
+    }
+    EXPECT_EQ(reached.size(), 3U) << "the field and the two buttons";
+    for (const QQuickItem* item : reached) {
+        ASSERT_NE(item, nullptr);
+        EXPECT_TRUE(item->isVisible());
+    }
+    for (const Qt::Key key : {Qt::Key_Escape, Qt::Key_Back, Qt::Key_F5, Qt::Key_Menu, Qt::Key_Home, Qt::Key_Left}) {
+        press(key);
+        press(key, Qt::AltModifier);
+        press(key, Qt::ControlModifier);
+    }
+    press(Qt::Key_N, Qt::ControlModifier);
+    press(Qt::Key_R, Qt::ControlModifier);
+    settle(50);
+    EXPECT_EQ(login(), lock);
+}
+
+TEST_F(LockedWindowTest, TheTextIsNotGivenAway)
+{
+    open(true);
+    settle(300);
+    QGuiApplication::clipboard()->setText(QStringLiteral("mine"));
+    type(QStringLiteral("wr0ng"));
+    ASSERT_EQ(login()->passwordTextField()->text(), QStringLiteral("wr0ng"));
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_C, Qt::ControlModifier);
+    press(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("mine"));
+    const auto isGivenAway = [this] {
+        const std::set<QString> texts = spoken();
+        return std::any_of(texts.begin(), texts.end(),
+                           [](const QString& text) { return text.contains(QStringLiteral("wr0")); });
+    };
+    EXPECT_FALSE(isGivenAway());
+    EXPECT_EQ(spoken().count(QStringLiteral("Passcode")), 1U) << "the field has its name";
+    login()->passwordTextField()->setText(QStringLiteral("wr0ng"));
+    press(Qt::Key_Return);
+    EXPECT_TRUE(login()->alert()->isPresented());
+    settle(300);
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(login()->alert()->isPresented());
+    settle(300);
+    press(Qt::Key_Z, Qt::ControlModifier);
+    EXPECT_EQ(login()->passwordTextField()->text(), QString());
+    // The field has the keyboard again.
+    type(secret);
+    press(Qt::Key_Return);
+    EXPECT_EQ(login(), nullptr);
+
+    openSettings().didSelectRowAtIndexPath({0, 1});
+    settle(300);
+    type(QStringLiteral("wr0ng"));
+    EXPECT_FALSE(isGivenAway());
+    EXPECT_EQ(spoken().count(QStringLiteral("Old passcode")), 1U);
+    EXPECT_THAT(logged(), ::testing::Not(::testing::HasSubstr("wr0")));
+}
+
+TEST_F(LockedWindowTest, TheSystemsPictureOfTheWindowShowsNothing)
+{
+    open(false);
+    PrivacyCover cover(window());
+    openSettings().alert()->present("Password Saved", {}, {{"Continue"}}, 0, {});
+    settle(300);
+    const QImage shown = window().grabWindow();
+    cover.applicationStateDidChange(Qt::ApplicationInactive);
+    EXPECT_EQ(window().grabWindow(), shown) << "nothing is required";
+
+    cover.applicationStateDidChange(Qt::ApplicationActive);
+    require();
+    for (const Qt::ApplicationState state :
+         {Qt::ApplicationInactive, Qt::ApplicationHidden, Qt::ApplicationSuspended}) {
+        cover.applicationStateDidChange(state);
+        EXPECT_TRUE(showsOnlyTheMark(window().grabWindow(), 422));
+    }
+    // It locks nothing by itself.
+    cover.applicationStateDidChange(Qt::ApplicationActive);
+    EXPECT_EQ(window().grabWindow(), shown);
+}
+
+} // namespace
+} // namespace lodestar::lock

@@ -1,0 +1,193 @@
+// SPDX-License-Identifier: Apache-2.0
+// The passcode in a real secret service. The program starts itself anew in a session bus with a service of its own.
+#include "Application/Adapters/SystemKeychain.h"
+#include "Application/Passcode.h"
+#include "Application/PasswordCreationViewController.h"
+#include "Application/SettingsViewController.h"
+#include "Kit/Core/MainLoop.h"
+#include "Kit/Core/NavigationController.h"
+#include "Kit/Core/TabBarController.h"
+#include "Tests/Application/LockFixture.h"
+
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <algorithm>
+#include <csignal>
+#include <string_view>
+
+namespace lodestar::lock
+{
+namespace
+{
+
+constexpr auto keyringProcess = "LODESTAR_TEST_KEYRING";
+constexpr std::chrono::milliseconds deadline{1500};
+
+/// The keychain's library knows one thread a process.
+class SharedSystemKeychain final : public Keychain
+{
+public:
+    Result<std::string> password(const std::string& service, const std::string& account) override
+    {
+        return system().password(service, account);
+    }
+    Result<void> setPassword(const std::string& password, const std::string& service,
+                             const std::string& account) override
+    {
+        return system().setPassword(password, service, account);
+    }
+
+private:
+    static SystemKeychain& system()
+    {
+        static SystemKeychain keychain(deadline);
+        return keychain;
+    }
+};
+
+class PasscodeServiceTest : public LockTest
+{
+protected:
+    PasscodeServiceTest()
+    {
+        Keychain::install(std::make_unique<SharedSystemKeychain>());
+        EXPECT_TRUE(Passcode::store({}));
+        require(false);
+    }
+
+    /// What another program finds.
+    static QString seenFromOutside()
+    {
+        QProcess tool;
+        tool.start(QStringLiteral("secret-tool"),
+                   {QStringLiteral("lookup"), QStringLiteral("user"), QStringLiteral("Admin"), QStringLiteral("server"),
+                    QStringLiteral("Login")});
+        EXPECT_TRUE(tool.waitForFinished(20'000));
+        return QString::fromUtf8(tool.readAllStandardOutput());
+    }
+    std::shared_ptr<PasswordCreationViewController> openSheet()
+    {
+        settings = Storyboard::main().instantiate<SettingsViewController>("settingsViewController");
+        settings->beginAppearance();
+        settings->passwordSwitch()->setOn(true);
+        settings->togglePassword();
+        if (settings->semiModal() == nullptr) {
+            settings->didSelectRowAtIndexPath({0, 1});
+        }
+        return std::dynamic_pointer_cast<PasswordCreationViewController>(settings->semiModal()->sharedController());
+    }
+    /// Whether it was told as saved.
+    bool save(const QString& oldText, const QString& newText)
+    {
+        const auto sheet = openSheet();
+        sheet->oldPassword()->setText(oldText);
+        sheet->updatePassword()->setText(newText);
+        sheet->verifyPassword()->setText(newText);
+        sheet->savePW();
+        const bool saved = settings->alert()->isPresented();
+        EXPECT_NE(saved, sheet->alert()->isPresented());
+        sheet->cancel();
+        return saved;
+    }
+    bool opens(const QString& text)
+    {
+        const auto login = Storyboard::main().instantiate<LoginViewController>("loginViewController");
+        root = login;
+        login->beginAppearance();
+        login->passwordTextField()->setText(text);
+        if (root == login) {
+            login->performLogin();
+        }
+        return std::dynamic_pointer_cast<TabBarController>(root) != nullptr;
+    }
+
+    std::shared_ptr<SettingsViewController> settings;
+};
+
+TEST_F(PasscodeServiceTest, IsSetChangedAndResetInTheSightOfOthers)
+{
+    const QString first = QString::fromUtf8("p\u00E4ss 'w\u014Drd' \U0001F511 ");
+    const QString second(10'000, u'\u00FC');
+    ASSERT_TRUE(save({}, first));
+    EXPECT_EQ(seenFromOutside(), first);
+    EXPECT_FALSE(opens(first.trimmed()));
+    EXPECT_TRUE(opens(first));
+
+    EXPECT_FALSE(save(first.trimmed(), second));
+    EXPECT_EQ(seenFromOutside(), first);
+    EXPECT_TRUE(save(first, second));
+    EXPECT_EQ(seenFromOutside(), second);
+    EXPECT_FALSE(save(second, QString::fromLatin1("a\0b", 3))) << "the service would keep its first letter only";
+    EXPECT_EQ(seenFromOutside(), second);
+    EXPECT_TRUE(opens(second));
+
+    EXPECT_FALSE(opens(QStringLiteral("forgotten")));
+    std::dynamic_pointer_cast<LoginViewController>(root)->resetApplicationData();
+    EXPECT_EQ(seenFromOutside(), QString());
+    EXPECT_FALSE(isRequired());
+}
+
+TEST_F(PasscodeServiceTest, WithTheServiceGoneNothingIsToldAsSavedAndNobodyWaitsForLong)
+{
+    ASSERT_TRUE(save({}, QStringLiteral("kept")));
+    const int service = qEnvironmentVariableIntValue(keyringProcess);
+    ASSERT_GT(service, 0);
+    ASSERT_EQ(::kill(service, SIGKILL), 0);
+
+    QElapsedTimer timer;
+    timer.start();
+    EXPECT_FALSE(save(QStringLiteral("kept"), QStringLiteral("lost")));
+    EXPECT_TRUE(opens(QStringLiteral("anything"))) << "what cannot be read is no passcode";
+    EXPECT_FALSE(isRequired());
+    EXPECT_LT(timer.elapsed(), 6 * deadline.count());
+    EXPECT_THAT(logged(), ::testing::AllOf(::testing::HasSubstr("The passcode cannot be read: "),
+                                           ::testing::HasSubstr("The passcode cannot be written: ")));
+    EXPECT_THAT(logged(), ::testing::Not(::testing::AnyOf(::testing::HasSubstr("kept"), ::testing::HasSubstr("lost"))));
+}
+
+int runInSession(int argc, char** argv)
+{
+    const QTemporaryDir home;
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("HOME"), home.path());
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), home.path());
+    environment.remove(QStringLiteral("XDG_DATA_HOME"));
+    // The bus would start another service for a question that comes before ours is there.
+    const QString script =
+        QStringLiteral(
+            "gnome-keyring-daemon --foreground --unlock --components=secrets < <(printf '\\n') >/dev/null 2>&1 & "
+            "export %1=$!; for i in $(seq 200); do dbus-send --session --print-reply "
+            "--dest=org.freedesktop.DBus / org.freedesktop.DBus.NameHasOwner "
+            "string:org.freedesktop.secrets | grep -q true && break; sleep 0.1; done; exec \"$0\" \"$@\"")
+            .arg(QLatin1String(keyringProcess));
+    QStringList arguments{QStringLiteral("--"), QStringLiteral("bash"), QStringLiteral("-c"), script};
+    for (int index = 0; index < argc; ++index) {
+        arguments << QString::fromLocal8Bit(argv[index]);
+    }
+    QProcess session;
+    session.setProcessEnvironment(environment);
+    session.setProcessChannelMode(QProcess::ForwardedChannels);
+    session.start(QStringLiteral("dbus-run-session"), arguments);
+    const bool finished = session.waitForFinished(90'000);
+    return finished && session.exitStatus() == QProcess::NormalExit ? session.exitCode() : 1;
+}
+
+} // namespace
+} // namespace lodestar::lock
+
+int main(int argc, char** argv)
+{
+    const bool lists = std::any_of(
+        argv, argv + argc, [](std::string_view argument) { return argument.substr(0, 18) == "--gtest_list_tests"; });
+    if (!lists && !qEnvironmentVariableIsSet(lodestar::lock::keyringProcess)) {
+        return lodestar::lock::runInSession(argc, argv);
+    }
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    testing::InitGoogleMock(&argc, argv);
+    const QGuiApplication application(argc, argv);
+    const lodestar::MainLoop mainLoop;
+    return RUN_ALL_TESTS();
+}

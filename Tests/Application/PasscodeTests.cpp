@@ -1,0 +1,317 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Application/Passcode.h"
+#include "Application/PasswordCreationViewController.h"
+#include "Application/SettingsViewController.h"
+#include "Kit/Core/NavigationController.h"
+#include "Kit/Core/TabBarController.h"
+#include "Platform/NotificationCenter.h"
+#include "Tests/Application/LockFixture.h"
+
+namespace lodestar::lock
+{
+namespace
+{
+
+using ::testing::HasSubstr;
+using ::testing::Not;
+
+class PasscodeTest : public LockTest
+{
+protected:
+    LoginViewController& showLogin()
+    {
+        login = Storyboard::main().instantiate<LoginViewController>("loginViewController");
+        root = login;
+        login->viewDidLayoutSubviews(844, 844);
+        login->beginAppearance();
+        return *login;
+    }
+    bool isUnlocked() const { return dynamic_cast<TabBarController*>(root.get()) != nullptr; }
+    bool opens(const QString& text)
+    {
+        LoginViewController& screen = showLogin();
+        screen.passwordTextField()->setText(text);
+        screen.performLogin();
+        return isUnlocked();
+    }
+
+    SettingsViewController& showSettings()
+    {
+        settings = Storyboard::main().instantiate<SettingsViewController>("settingsViewController");
+        stack = makeController<NavigationController>(makeController<ViewController>());
+        stack->beginAppearance();
+        stack->pushViewController(settings, Animated::No);
+        return *settings;
+    }
+    PasswordCreationViewController* sheet() const
+    {
+        return settings->semiModal() == nullptr
+                   ? nullptr
+                   : qobject_cast<PasswordCreationViewController*>(settings->semiModal()->controller());
+    }
+    void flip(bool on) const
+    {
+        settings->passwordSwitch()->setOn(on);
+        settings->togglePassword();
+    }
+    void save(const QString& oldText, const QString& newText, const QString& verification) const
+    {
+        sheet()->oldPassword()->setText(oldText);
+        sheet()->updatePassword()->setText(newText);
+        sheet()->verifyPassword()->setText(verification);
+        sheet()->savePW();
+    }
+    /// Whether the change-passcode row shows that it can be chosen, and can.
+    bool isChangeOffered() const
+    {
+        EXPECT_EQ(settings->passwordCell()->isEnabled(), settings->passwordCellLabel()->isEnabled());
+        EXPECT_EQ(settings->passwordCell()->isEnabled(), !settings->passwordCellArrow()->isHidden());
+        return settings->passwordCell()->isEnabled();
+    }
+
+    std::shared_ptr<LoginViewController> login;
+    std::shared_ptr<SettingsViewController> settings;
+    std::shared_ptr<NavigationController> stack;
+};
+
+TEST_F(PasscodeTest, AFreshInstallationDiscardsThePasscodeOfAnEarlierOne)
+{
+    passcode() = "left over";
+    UserDefaults::standard().setBool(true, "requirePassword");
+    showLogin();
+    EXPECT_TRUE(isUnlocked());
+    EXPECT_EQ(passcode(), "");
+    EXPECT_FALSE(isRequired());
+}
+
+TEST_F(PasscodeTest, AStoredPasscodeThatIsNotRequiredIsNotAskedFor)
+{
+    passcode() = "set";
+    require(false);
+    showLogin();
+    EXPECT_TRUE(isUnlocked());
+    EXPECT_TRUE(login->passwordTextField()->isHidden());
+    EXPECT_EQ(passcode(), "set");
+}
+
+TEST_F(PasscodeTest, OnlyTheVeryTextOpens)
+{
+    require();
+    passcode() = "Caf\u00E9 9";
+    LoginViewController& screen = showLogin();
+    EXPECT_FALSE(isUnlocked());
+    EXPECT_FALSE(screen.passwordTextField()->isHidden());
+    for (const char* wrong : {"", "caf\u00E9 9", "Caf\u00E9 9 ", " Caf\u00E9 9", "Cafe\u0301 9", "Caf\u00E9 90"}) {
+        screen.passwordTextField()->setText(QString::fromUtf8(wrong));
+        screen.performLogin();
+        ASSERT_FALSE(isUnlocked()) << wrong;
+        EXPECT_EQ(screen.passwordTextField()->text(), "");
+        EXPECT_TRUE(screen.alert()->isPresented());
+        EXPECT_EQ(screen.alert()->title(), "Login Failed");
+        EXPECT_EQ(screen.alert()->message(), "Incorrect Credentials");
+        EXPECT_EQ(screen.alert()->choices().size(), 1);
+        screen.alert()->choose(0);
+        EXPECT_FALSE(screen.alert()->isPresented());
+    }
+    screen.passwordTextField()->setText(QString::fromUtf8("Caf\u00E9 9"));
+    screen.performLogin();
+    EXPECT_TRUE(isUnlocked());
+    EXPECT_THAT(logged(), Not(HasSubstr("Caf")));
+}
+
+TEST_F(PasscodeTest, AnyTextButNoneIsAPasscode)
+{
+    require(false);
+    showSettings();
+    for (const QString& text :
+         {QStringLiteral("a"), QStringLiteral(" "), QString(10'000, u'x'),
+          QString::fromUtf8("\U0001F468\u200D\U0001F469\u200D\U0001F467"), QString::fromUtf8("e\u0301\n\t\"'<&>")}) {
+        passcode().clear();
+        flip(true);
+        if (sheet() == nullptr) {
+            settings->didSelectRowAtIndexPath({0, 1});
+        }
+        save({}, text, text);
+        EXPECT_EQ(passcode(), text.toStdString());
+        EXPECT_TRUE(opens(text));
+        EXPECT_FALSE(opens(text + ' '));
+    }
+    EXPECT_EQ(settings->alert()->title(), "Password Saved");
+}
+
+TEST_F(PasscodeTest, AKeychainThatCannotBeReadSwitchesTheLockOffAndIsLogged)
+{
+    require();
+    passcode() = "secret";
+    keychain->readsFail = true;
+    showLogin();
+    EXPECT_TRUE(isUnlocked());
+    EXPECT_FALSE(isRequired());
+    EXPECT_THAT(logged(), HasSubstr("The passcode cannot be read: "));
+}
+
+TEST_F(PasscodeTest, TheSheetRefusesInOneWay)
+{
+    passcode() = "old";
+    require();
+    showSettings();
+    settings->didSelectRowAtIndexPath({0, 1});
+    ASSERT_NE(sheet(), nullptr);
+    const QString texts[][3] = {{"wrong", "new", "new"}, {"", "new", "new"}, {"old", "", ""},
+                                {"old", "new", ""},      {"old", "", "new"}, {"old", "new", "New"}};
+    for (const auto& [oldText, newText, verification] : texts) {
+        save(oldText, newText, verification);
+        ASSERT_NE(sheet(), nullptr);
+        EXPECT_EQ(sheet()->alert()->title(), "Failed");
+        EXPECT_EQ(sheet()->alert()->message(), "Please reenter password");
+        for (const FieldOutlet* field :
+             {sheet()->oldPassword(), sheet()->updatePassword(), sheet()->verifyPassword()}) {
+            EXPECT_EQ(field->text(), "");
+            EXPECT_TRUE(field->isEnabled());
+        }
+        sheet()->alert()->choose(0);
+    }
+    EXPECT_EQ(passcode(), "old");
+    save("old", "new", "new");
+    EXPECT_EQ(sheet(), nullptr);
+    EXPECT_EQ(passcode(), "new");
+    EXPECT_EQ(settings->alert()->title(), "Password Saved");
+    EXPECT_EQ(settings->alert()->message(), "");
+}
+
+TEST_F(PasscodeTest, AWriteThatFailedIsNotToldAsSaved)
+{
+    require(false);
+    showSettings();
+    flip(true);
+    keychain->writesFail = true;
+    save({}, "new", "new");
+    ASSERT_NE(sheet(), nullptr);
+    EXPECT_EQ(sheet()->alert()->title(), "Failed");
+    EXPECT_TRUE(sheet()->updatePassword()->isEnabled());
+    EXPECT_FALSE(settings->alert()->isPresented());
+    EXPECT_THAT(logged(), HasSubstr("The passcode cannot be written: "));
+    sheet()->cancel();
+    EXPECT_FALSE(isRequired());
+}
+
+TEST_F(PasscodeTest, TheSwitchCannotStayOnWithoutAPasscode)
+{
+    require(false);
+    showSettings();
+    EXPECT_FALSE(isChangeOffered());
+    settings->didSelectRowAtIndexPath({0, 1});
+    EXPECT_EQ(sheet(), nullptr);
+
+    flip(true);
+    ASSERT_NE(sheet(), nullptr);
+    EXPECT_TRUE(isRequired());
+    EXPECT_TRUE(isChangeOffered());
+    EXPECT_FALSE(settings->semiModal()->pushParentBack());
+    EXPECT_TRUE(sheet()->oldPassword()->isHidden());
+    sheet()->cancel();
+    EXPECT_EQ(sheet(), nullptr);
+    EXPECT_FALSE(isRequired());
+    EXPECT_FALSE(settings->passwordSwitch()->isOn());
+    EXPECT_FALSE(isChangeOffered());
+
+    flip(true);
+    stack->pop();
+    EXPECT_FALSE(isRequired());
+}
+
+TEST_F(PasscodeTest, ThePasscodeSurvivesTheSwitchAndTheFlagFollowsLoadsOnly)
+{
+    require(false);
+    showSettings();
+    flip(true);
+    save({}, "first", "first");
+    EXPECT_TRUE(isRequired());
+    flip(false);
+    EXPECT_FALSE(isRequired());
+    EXPECT_EQ(passcode(), "first");
+    // Nothing has loaded since the passcode was saved.
+    flip(true);
+    ASSERT_NE(sheet(), nullptr);
+    EXPECT_FALSE(sheet()->oldPassword()->isHidden());
+    EXPECT_EQ(settings->semiModal()->height(), 164);
+    sheet()->cancel();
+    EXPECT_TRUE(isRequired());
+    flip(false);
+    flip(true);
+    EXPECT_EQ(sheet(), nullptr);
+    EXPECT_TRUE(isRequired());
+}
+
+TEST_F(PasscodeTest, TheSheetsHeightsFollowThePasscodeAndTheKeyboard)
+{
+    require(false);
+    showSettings();
+    flip(true);
+    const auto heights = [this] {
+        std::vector<int> rows;
+        for (int row = 0; row < 4; ++row) {
+            rows.push_back(sheet()->heightForRowAtIndexPath(row));
+        }
+        return rows;
+    };
+    EXPECT_EQ(settings->semiModal()->height(), 119);
+    EXPECT_THAT(heights(), ::testing::ElementsAre(0, 44, 44, 30));
+    settings->keyboardWillShow(260);
+    EXPECT_EQ(settings->semiModal()->height(), 379);
+    settings->keyboardWillHide();
+    EXPECT_EQ(settings->semiModal()->height(), 119);
+    save({}, "p", "p");
+    settings->didSelectRowAtIndexPath({0, 1});
+    EXPECT_EQ(settings->semiModal()->height(), 164);
+    EXPECT_THAT(heights(), ::testing::ElementsAre(44, 44, 44, 30));
+    stack->endAppearance();
+    settings->keyboardWillShow(260);
+    EXPECT_EQ(settings->semiModal()->height(), 164) << "not in a window";
+}
+
+TEST_F(PasscodeTest, TheTitleMakesRoomForThePushedScreensBackButton)
+{
+    require(false);
+    showSettings();
+    EXPECT_EQ(settings->title(), "Settings");
+    const char* const screens[] = {"versionViewController", "openSourceViewController", "OrnisLicenseViewController"};
+    for (int row = 1; row <= 3; ++row) {
+        std::weak_ptr<ViewController> pushed;
+        Storyboard::main().registerScene(screens[row - 1],
+                                         [&pushed] {
+                                             auto screen = makeController<ViewController>();
+                                             pushed = screen;
+                                             return screen;
+                                         },
+                                         {});
+        settings->didSelectRowAtIndexPath({1, row});
+        EXPECT_EQ(stack->topViewController(), pushed.lock().get());
+        EXPECT_EQ(stack->topViewController()->backButtonTitle(), "");
+        stack->pop();
+        EXPECT_EQ(settings->title(), "Settings");
+    }
+}
+
+TEST_F(PasscodeTest, TheFieldKeepsClearOfTheKeyboard)
+{
+    passcode() = "p";
+    require();
+    LoginViewController& screen = showLogin();
+    EXPECT_DOUBLE_EQ(screen.logoYAlignment()->constant(), 844 / 3.0);
+    EXPECT_EQ(screen.spaceToPassword()->constant(), 200);
+    screen.keyboardDidChangeFrame({0, 584, 390, 260}, 0.25);
+    EXPECT_EQ(screen.spaceToPassword()->constant(), 50);
+    EXPECT_EQ(screen.shiftDuration(), 250);
+    screen.returnPressed();
+    EXPECT_FALSE(screen.alert()->isPresented()) << "the keyboard's return key only takes it away";
+    screen.keyboardDidChangeFrame({0, 844, 390, 260}, 0.25);
+    EXPECT_EQ(screen.spaceToPassword()->constant(), 200);
+    screen.returnPressed();
+    EXPECT_TRUE(screen.alert()->isPresented());
+    screen.viewDidLayoutSubviews(548, 568);
+    EXPECT_EQ(screen.logoYAlignment()->constant(), 137);
+}
+
+} // namespace
+} // namespace lodestar::lock

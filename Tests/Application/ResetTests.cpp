@@ -1,0 +1,171 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Application/Adapters/FileUserDefaults.h"
+#include "Kit/Core/TabBarController.h"
+#include "Tests/Application/LockFixture.h"
+#include "Views/Common/Registry.h"
+
+#include <filesystem>
+
+namespace lodestar::lock
+{
+namespace
+{
+
+namespace fs = std::filesystem;
+
+class ResetTest : public LockTest
+{
+protected:
+    ResetTest()
+    {
+        VireoLogger::openLogFolder(folder.file("Logs"));
+        UserDefaults::install(std::make_unique<FileUserDefaults>(folder.file("Lodestar.defaults")));
+        StoreStack::shared().setApplicationDocumentsDirectory(folder.file("Documents"));
+        RESTHandler::sharedInstance().setCorvelList(RESTHandler::sharedInstance().fetchCorvels());
+    }
+    ~ResetTest() override { VireoLogger::openLogFolder("/dev/null/nowhere"); }
+
+    static CorvelRef addConsole(const std::string& address, const std::string& password)
+    {
+        const CorvelRef corvel = insertNewCorvel();
+        corvel->setDemo(false);
+        corvel->setName(address);
+        corvel->setAddress(address);
+        corvel->setUsername("oversight");
+        corvel->setPassword(password);
+        return corvel;
+    }
+    void fill(int consoles) const
+    {
+        RESTHandler& rest = RESTHandler::sharedInstance();
+        for (int index = 0; index < consoles; ++index) {
+            const std::string number = std::to_string(index);
+            // Nobody listens there.
+            rest.addCorvel(addConsole("127.0.99." + number, "secret-password-" + number));
+            UserDefaults::standard().setString("secret-key-" + number, "127.0.99." + number);
+        }
+        saveIgnoringErrors();
+        passcode() = "secret-passcode";
+        require();
+        ASSERT_TRUE(UserDefaults::standard().synchronize());
+    }
+    std::shared_ptr<LoginViewController> lockedScreen()
+    {
+        auto login = Storyboard::main().instantiate<LoginViewController>("loginViewController");
+        root = login;
+        login->beginAppearance();
+        return login;
+    }
+    /// What is written late is written.
+    void settle() const
+    {
+        MainQueue::shared().runUntil([] { return false; }, std::chrono::milliseconds(50));
+        UserDefaults::standard().synchronize();
+        VireoLogger::flush();
+    }
+    std::map<std::string, std::string> files() const
+    {
+        std::map<std::string, std::string> found;
+        for (const auto& entry : fs::recursive_directory_iterator(folder.path())) {
+            if (entry.is_regular_file()) {
+                const std::string name = fs::relative(entry.path(), folder.path());
+                found[name] = folder.read(name);
+            }
+        }
+        return found;
+    }
+    std::vector<std::string> filesWithSecrets() const
+    {
+        std::vector<std::string> names;
+        for (const auto& [name, content] : files()) {
+            if (content.find("secret-") != std::string::npos) {
+                names.push_back(name);
+            }
+        }
+        return names;
+    }
+};
+
+TEST_F(ResetTest, LeavesNoSecretInAnyFileAndComesUpAsOnTheFirstDay)
+{
+    fill(40);
+    ASSERT_THAT(filesWithSecrets(), ::testing::Contains("Lodestar.defaults")) << "the search itself works";
+    const auto login = lockedScreen();
+    login->passwordTextField()->setText("secret-attempt");
+    login->performLogin();
+    login->alert()->choose(0);
+    // An editor that the lock took away had inserted this one, but not saved it.
+    addConsole("10.0.0.1", "secret-unsaved");
+
+    login->resetPassword();
+    EXPECT_EQ(login->alert()->title(), "Reset Application?");
+    EXPECT_EQ(login->alert()->message(), "Resetting your password will clear all application data");
+    login->alert()->choose(1);
+    EXPECT_EQ(passcode(), "secret-passcode") << "cancelled";
+    login->resetPassword();
+    login->alert()->choose(0);
+
+    ASSERT_NE(dynamic_cast<TabBarController*>(root.get()), nullptr);
+    EXPECT_EQ(passcode(), "");
+    EXPECT_FALSE(isRequired());
+    EXPECT_FALSE(UserDefaults::standard().boolForKey("showedPreview"));
+    root->loadViewIfNeeded();
+    ASSERT_EQ(RESTHandler::sharedInstance().corvelList().size(), 1U);
+    EXPECT_EQ(RESTHandler::sharedInstance().corvelList().front()->name(), "Demo Corvel");
+    settle();
+    EXPECT_THAT(filesWithSecrets(), ::testing::IsEmpty());
+    EXPECT_EQ(UserDefaults::standard().allKeys(), std::vector<std::string>{"initialLoad"});
+
+    root.reset();
+    StoreStack::shared().close();
+    EXPECT_THAT(filesWithSecrets(), ::testing::IsEmpty());
+    std::vector<std::string> names;
+    for (const auto& [name, content] : files()) {
+        names.push_back(name);
+    }
+    EXPECT_THAT(names,
+                ::testing::UnorderedElementsAre("Documents/Lodestar.sqlite", "Lodestar.defaults", "Logs/lodestar.log"));
+    // The demonstration has been refreshed, and with that saved.
+    for (const CorvelRef& corvel : RESTHandler::sharedInstance().fetchCorvels()) {
+        EXPECT_EQ(corvel->name(), "Demo Corvel");
+    }
+}
+
+TEST_F(ResetTest, AKeychainThatRefusesDoesNotKeepTheRest)
+{
+    fill(2);
+    const auto login = lockedScreen();
+    keychain->writesFail = true;
+    login->resetApplicationData();
+    settle();
+    EXPECT_FALSE(isRequired());
+    EXPECT_THAT(filesWithSecrets(), ::testing::IsEmpty());
+}
+
+TEST_F(ResetTest, AResetThatTheProcessDidNotSurviveIsFinishedBeforeAnythingIsShown)
+{
+    fill(3);
+    const auto login = lockedScreen();
+    std::string written;
+    keychain->onWrite = [&] { written = folder.read("Lodestar.defaults"); };
+    login->resetApplicationData();
+    keychain->onWrite = nullptr;
+
+    // The state of the disk after the first step, in a new process.
+    root.reset();
+    StoreStack::shared().close();
+    std::ofstream(folder.file("Lodestar.defaults"), std::ios::binary) << written;
+    UserDefaults::install(std::make_unique<FileUserDefaults>(folder.file("Lodestar.defaults")));
+    RESTHandler::sharedInstance().setCorvelList({});
+    RESTHandler::sharedInstance().addCorvel(addConsole("127.0.99.0", "secret-password-0"));
+    saveIgnoringErrors();
+    ASSERT_TRUE(isRequired());
+    lockedScreen();
+    ASSERT_NE(dynamic_cast<TabBarController*>(root.get()), nullptr);
+    EXPECT_TRUE(RESTHandler::sharedInstance().corvelList().empty());
+    settle();
+    EXPECT_THAT(filesWithSecrets(), ::testing::IsEmpty());
+}
+
+} // namespace
+} // namespace lodestar::lock

@@ -1,0 +1,124 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Application/SettingsViewController.h"
+#include "Platform/Keychain.h"
+#include "Platform/UserDefaults.h"
+#include "Tests/Scenes/SceneTest.h"
+
+#include <tuple>
+
+namespace lodestar::scenes
+{
+namespace
+{
+
+class SettingsTest : public SceneTest
+{
+protected:
+    SettingsTest()
+    {
+        std::ignore = Keychain::standard().setPassword({}, "Login", "Admin");
+        UserDefaults::standard().setBool(false, "requirePassword");
+    }
+    void open()
+    {
+        stage.show({390, 844}, fleet());
+        click(stage.item("settingsButton"));
+        settings = qobject_cast<SettingsViewController*>(top());
+        ASSERT_NE(settings, nullptr);
+        ASSERT_TRUE(stage.waitFor([this] { return stage.item("passwordSwitch") != nullptr; }));
+        stage.settle(200);
+    }
+    static std::string passcode() { return Keychain::standard().password("Login", "Admin").value(); }
+    /// Up, with its bar on top of that many points.
+    bool waitForSheetOf(double height) const
+    {
+        return stage.waitFor([this, height] {
+            const QQuickItem* const cancel = button(QStringLiteral("Cancel"));
+            return cancel != nullptr && cancel->mapToScene({}).y() == 844 - 44 - height;
+        });
+    }
+    bool waitForNoSheet() const
+    {
+        return stage.waitFor([this] { return button(QStringLiteral("Save")) == nullptr; });
+    }
+    bool isSwitchDrawnOn() const { return stage.item("passwordSwitch")->property("checked").toBool(); }
+
+    SettingsViewController* settings = nullptr;
+};
+
+TEST_F(SettingsTest, APasscodeIsSetAndChangedByHand)
+{
+    open();
+    EXPECT_FALSE(stage.item("passwordCell")->isEnabled());
+    click(stage.item("passwordSwitch"));
+    ASSERT_TRUE(waitForSheetOf(119));
+    EXPECT_EQ(text("Old passcode"), nullptr);
+    type("first ");
+    press(Qt::Key_Tab);
+    type("first ");
+    click(button("Save"));
+    ASSERT_TRUE(stage.waitFor([this] { return button("Continue") != nullptr; }));
+    EXPECT_EQ(passcode(), "first ");
+    ASSERT_TRUE(waitForNoSheet());
+    stage.settle(150);
+    click(button("Continue"));
+    ASSERT_TRUE(stage.waitFor([this] { return button("Continue") == nullptr; }));
+    EXPECT_TRUE(isSwitchDrawnOn());
+
+    click(stage.item("passwordCell"));
+    ASSERT_TRUE(waitForSheetOf(164));
+    ASSERT_NE(text("Old passcode"), nullptr);
+    type("wrong");
+    press(Qt::Key_Tab);
+    type("second");
+    press(Qt::Key_Tab);
+    type("second");
+    click(button("Save"));
+    ASSERT_TRUE(stage.waitFor([this] { return button("OK") != nullptr; }));
+    stage.settle(150);
+    press(Qt::Key_Return);
+    ASSERT_TRUE(stage.waitFor([this] { return button("OK") == nullptr; }));
+    EXPECT_EQ(passcode(), "first ");
+    EXPECT_NE(settings->semiModal(), nullptr);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(settings->semiModal(), nullptr);
+    EXPECT_TRUE(waitForNoSheet());
+}
+
+TEST_F(SettingsTest, CancellingTheFirstPasscodeTurnsTheSwitchBack)
+{
+    open();
+    // By keyboard: the switch has it.
+    press(Qt::Key_Space);
+    ASSERT_TRUE(waitForSheetOf(119));
+    EXPECT_TRUE(isSwitchDrawnOn());
+    click(button("Cancel"));
+    ASSERT_TRUE(waitForNoSheet());
+    EXPECT_FALSE(isSwitchDrawnOn());
+    EXPECT_FALSE(UserDefaults::standard().boolForKey("requirePassword"));
+    click(stage.item("passwordCell"));
+    EXPECT_EQ(settings->semiModal(), nullptr);
+}
+
+TEST_F(SettingsTest, TheSheetIsAsTallAsItsRows)
+{
+    std::ignore = Keychain::standard().setPassword("p", "Login", "Admin");
+    UserDefaults::standard().setBool(true, "requirePassword");
+    open();
+    click(stage.item("passwordCell"));
+    ASSERT_TRUE(waitForSheetOf(164));
+    std::vector<double> tops;
+    for (const char* label : {"Old passcode", "New passcode", "Verify passcode"}) {
+        ASSERT_NE(text(label), nullptr) << label;
+        tops.push_back(text(label)->mapToScene({}).y());
+    }
+    EXPECT_EQ(tops[1] - tops[0], 44);
+    EXPECT_EQ(tops[2] - tops[1], 44);
+    const QQuickItem* const note = text("Any characters, any length.");
+    EXPECT_LE(note->mapToScene(QPointF(0, note->height())).y(), 844);
+    settings->keyboardWillShow(260);
+    EXPECT_TRUE(waitForSheetOf(164 + 260));
+}
+
+} // namespace
+} // namespace lodestar::scenes
