@@ -21,12 +21,13 @@ BELOW = {
     "Controllers/REST": PLATFORM | {"Feedback", "Application/Model"},
     "Views/About/RichText": set(),
     "Kit": PLATFORM | {"Feedback"},
+    "Feedback/UI": PLATFORM | {"Feedback", "Kit"},
     "Charts": PLATFORM | {"Feedback"},
     "Views": PLATFORM | {"Feedback", "Application/Model", "Controllers/REST", "Kit", "Charts", "Views/About/RichText"},
-    "Application": PLATFORM | {"Feedback", "Application/Model", "Controllers/REST", "Kit", "Charts", "Views"},
+    "Application": PLATFORM | {"Feedback", "Application/Model", "Controllers/REST", "Kit", "Feedback/UI", "Charts", "Views"},
 }
 # Every module whose files must compile without Qt.
-QT_FREE = {"Platform", "Application/Model", "Controllers/REST", "Views/About/RichText"}
+QT_FREE = {"Platform", "Feedback", "Application/Model", "Controllers/REST", "Views/About/RichText"}
 # The logger is the one thing above Platform that Platform itself may call: trust decisions are logged where they fall.
 EXCEPTIONS = {("Platform", "Feedback/VireoLogger.h")}
 

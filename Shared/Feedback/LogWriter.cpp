@@ -55,6 +55,7 @@ void LogWriter::append(std::string_view line)
     bool wake = false;
     {
         const std::lock_guard lock(m_mutex);
+        m_lastLines.append(line);
         const std::size_t before = m_pending.size();
         if (before + line.size() > mostPending) {
             ++m_linesDropped;

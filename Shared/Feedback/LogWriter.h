@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Feedback/LastLines.h"
 #include "Feedback/RotatingLogFile.h"
 
 #include <atomic>
@@ -28,6 +29,8 @@ public:
     /// counted instead.
     void append(std::string_view line);
     void flush();
+    /// What was logged last, for a crash.
+    const LastLines& lastLines() const { return m_lastLines; }
 
 private:
     LogWriter() = default;
@@ -39,6 +42,7 @@ private:
     std::mutex m_mutex; ///< guards what follows; held for no longer than a copy into the buffer
     std::condition_variable m_changed;
     std::string m_pending;
+    LastLines m_lastLines;
     std::size_t m_linesDropped = 0;
     bool m_stopping = false;
     std::thread m_thread;

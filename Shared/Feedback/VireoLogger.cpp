@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/VireoLogger.h"
 
+#include "Feedback/CrashCapture.h"
 #include "Feedback/LogListeners.h"
 #include "Feedback/LogText.h"
 #include "Feedback/LogWriter.h"
@@ -17,6 +18,7 @@
 #include <execinfo.h>
 #include <iterator>
 #include <link.h>
+#include <random>
 #include <typeinfo>
 #include <unistd.h>
 #include <utility>
@@ -144,12 +146,23 @@ VireoLogger::Settings& VireoLogger::settings()
     return settings;
 }
 
+const std::string& VireoLogger::sessionIdentifier()
+{
+    // Chance, not the clock: it names the run and nothing of the device.
+    static const std::string identifier = [] {
+        std::random_device chance;
+        return fmt::format("{:08x}{:08x}", chance(), chance());
+    }();
+    return identifier;
+}
+
 void VireoLogger::startSession(std::string_view applicationKey)
 {
     // The key is a credential: whether there is one may be known, what it is may not.
-    LODESTAR_LOG(ownFile, "+[VireoLogger startSession:]", "session started {} an application key, mode {}, {} on shake",
+    LODESTAR_LOG(ownFile, "+[VireoLogger startSession:]",
+                 "session started {} an application key, mode {}, {} on shake, named {}",
                  applicationKey.empty() ? "without" : "with", settings().mode,
-                 settings().reportOnShake ? "reports" : "no report");
+                 settings().reportOnShake ? "reports" : "no report", sessionIdentifier());
 }
 
 void VireoLogger::uncaughtExceptionHandler()
@@ -157,8 +170,9 @@ void VireoLogger::uncaughtExceptionHandler()
     static std::atomic<bool> running = false;
     if (!running.exchange(true)) {
         try {
-            LODESTAR_LOG(ownFile, "+[VireoLogger uncaughtExceptionHandler]", "uncaught exception: {}",
-                         describeExceptionInFlight());
+            const std::string description = describeExceptionInFlight();
+            CrashCapture::noteException(description);
+            LODESTAR_LOG(ownFile, "+[VireoLogger uncaughtExceptionHandler]", "uncaught exception: {}", description);
             flush();
         } catch (...) {
             std::abort();

@@ -21,6 +21,8 @@ public:
     struct Settings {
         bool reportOnShake = false;
         int mode = 0;
+        /// Screens offer a button for the feedback screen, on devices that are not shaken.
+        bool offersEntry = false;
     };
     /// One line as it was logged; what a listener gets.
     struct Entry {
@@ -44,7 +46,10 @@ public:
     static Settings& settings();
     /// Starts a new feedback session under the application's key. Main thread.
     static void startSession(std::string_view applicationKey);
-    /// To be installed with `std::set_terminate`: logs the exception in flight and aborts.
+    /// Names this run of the program in the log and in reports. Any thread.
+    static const std::string& sessionIdentifier();
+    /// To be installed with `std::set_terminate`: logs the exception in flight, notes it for the crash report and
+    /// aborts.
     [[noreturn]] static void uncaughtExceptionHandler();
     /// Presents the feedback screen; without a presenter only a line is logged. Main thread.
     static void feedback();

@@ -1,0 +1,283 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Feedback/CrashCapture.h"
+
+#include "Feedback/CrashModules.h"
+#include "Feedback/LogText.h"
+#include "Feedback/LogWriter.h"
+#include "Feedback/PrivateFile.h"
+
+#include <fmt/core.h>
+
+#include <array>
+#include <atomic>
+#include <cerrno>
+#include <csignal>
+#include <cstring>
+#include <ctime>
+#include <execinfo.h>
+#include <fcntl.h>
+#include <random>
+#include <set>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <ucontext.h>
+#include <unistd.h>
+
+namespace lodestar
+{
+
+namespace
+{
+
+constexpr std::array<int, 6> crashSignals = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGTRAP, SIGABRT};
+constexpr int mostFrames = 64;
+/// Room kept on the disk, for a crash that is about the disk being full.
+constexpr off_t reservedBytes = 64L << 10;
+/// A handler that hangs is ended by the alarm after so many seconds.
+constexpr unsigned handlerSeconds = 10;
+
+/// All that the handler touches. Filled before it is installed, but for the exception.
+struct State {
+    std::atomic<int> descriptor = -1;
+    std::atomic<pid_t> reporter = 0; ///< the thread that is writing
+    std::array<struct sigaction, crashSignals.size()> previous = {};
+    char exception[4096] = {};
+    std::atomic<std::size_t> exceptionLength = 0;
+    const LastLines* lastLines = nullptr;
+};
+State state;
+
+alignas(16) char alternateStack[64 << 10];
+
+/// Puts text together without the library, whose formatting may allocate or lock.
+class SafeWriter
+{
+public:
+    explicit SafeWriter(int descriptor) : m_descriptor(descriptor) {}
+    void text(const char* bytes, std::size_t count)
+    {
+        while (count > 0) {
+            const ssize_t written = ::write(m_descriptor, bytes, count);
+            if (written <= 0 && !(written < 0 && errno == EINTR)) {
+                return; // nowhere to write to: the crash goes its way unrecorded
+            }
+            if (written > 0) {
+                bytes += written;
+                count -= static_cast<std::size_t>(written);
+            }
+        }
+    }
+    void text(const char* words) { text(words, std::strlen(words)); }
+    void number(std::uintptr_t value, unsigned base)
+    {
+        char digits[24];
+        std::size_t at = sizeof digits;
+        do {
+            digits[--at] = "0123456789abcdef"[value % base];
+            value /= base;
+        } while (value > 0);
+        text(digits + at, sizeof digits - at);
+    }
+    void line(const char* name, std::uintptr_t value, unsigned base)
+    {
+        text(name);
+        number(value, base);
+        text("\n");
+    }
+
+private:
+    int m_descriptor;
+};
+
+/// Where the thread was, and whence it was called if that can be told without unwinding.
+struct Place {
+    std::uintptr_t counter = 0;
+    std::uintptr_t stack = 0;
+    std::uintptr_t link = 0;
+};
+
+Place placeOf(const void* context)
+{
+    const auto& machine = static_cast<const ucontext_t*>(context)->uc_mcontext;
+#if defined(__x86_64__)
+    return {static_cast<std::uintptr_t>(machine.gregs[REG_RIP]), static_cast<std::uintptr_t>(machine.gregs[REG_RSP]),
+            0};
+#elif defined(__aarch64__)
+    return {machine.pc, machine.sp, machine.regs[30]};
+#else
+    (void)machine;
+    return {};
+#endif
+}
+
+void writeReport(SafeWriter& out, int signal, const siginfo_t* info, const Place& place)
+{
+    out.line("signal ", static_cast<std::uintptr_t>(signal), 10);
+    // Negative codes, of signals that somebody sent, count as none.
+    out.line("code ", static_cast<std::uintptr_t>(info->si_code > 0 ? info->si_code : 0), 10);
+    out.line("time ", static_cast<std::uintptr_t>(std::time(nullptr)), 10);
+    out.line("thread ", static_cast<std::uintptr_t>(::gettid()), 10);
+    if (signal == SIGSEGV || signal == SIGBUS) {
+        out.line("address ", reinterpret_cast<std::uintptr_t>(info->si_addr), 16);
+    }
+    if (const std::size_t length = state.exceptionLength.load(std::memory_order_acquire); length > 0) {
+        out.text("exception ");
+        out.text(state.exception, length);
+        out.text("\n");
+    }
+    out.line("counter ", place.counter, 16);
+    state.lastLines->read([&out](const char* bytes, std::size_t count) { out.text(bytes, count); });
+    out.text("\nframes\n");
+    // From here on memory is read that the crash may have wrecked; what is written above stands in any case.
+    void* frames[mostFrames];
+    const int count = ::backtrace(frames, mostFrames);
+    for (int index = 0; index < count; ++index) {
+        out.line("frame ", reinterpret_cast<std::uintptr_t>(frames[index]), 16);
+    }
+    if (place.counter == 0) {
+        // A call through a null pointer: only its return address tells who made it.
+        const std::uintptr_t caller =
+            place.link != 0 ? place.link : *reinterpret_cast<const std::uintptr_t*>(place.stack);
+        out.line("caller ", caller, 16);
+    }
+    out.text("end\n");
+}
+
+/// Lets the signal happen as it would have without this handler.
+void giveBack(int signal, const siginfo_t* info, const struct sigaction& handler)
+{
+    ::sigaction(signal, &handler, nullptr);
+    // A fault comes again by itself when its instruction does; everything else has to be sent again. It is blocked
+    // until this handler has returned.
+    const bool isFault = info->si_code > 0 && signal != SIGTRAP && signal != SIGABRT;
+    if (!isFault) {
+        ::raise(signal);
+    }
+}
+
+void handleCrash(int signal, siginfo_t* info, void* context)
+{
+    const int interrupted = errno;
+    struct sigaction byDefault = {};
+    byDefault.sa_handler = SIG_DFL;
+    pid_t reporter = 0;
+    if (!state.reporter.compare_exchange_strong(reporter, ::gettid())) {
+        if (reporter != ::gettid()) {
+            // Another thread's crash is being written down and ends the process; two at once would be neither.
+            const struct timespec patience = {handlerSeconds, 0};
+            ::nanosleep(&patience, nullptr);
+        }
+        giveBack(signal, info, byDefault);
+        return;
+    }
+    ::sigaction(SIGALRM, &byDefault, nullptr);
+    ::alarm(handlerSeconds);
+    byDefault.sa_handler = SIG_IGN;
+    ::sigaction(SIGXFSZ, &byDefault, nullptr); // a limit on file sizes is a full disk, not a death of its own
+    if (const int descriptor = state.descriptor.load(std::memory_order_acquire); descriptor >= 0) {
+        SafeWriter out(descriptor);
+        writeReport(out, signal, info, placeOf(context));
+    }
+    ::alarm(0);
+    std::size_t index = 0;
+    while (crashSignals[index] != signal) {
+        ++index;
+    }
+    giveBack(signal, info, state.previous[index]);
+    errno = interrupted;
+}
+
+Result<int> openFile(const std::string& folder)
+{
+    if (const Result<void> made = makePrivateFolder(folder); !made) {
+        return made.error();
+    }
+    const std::string path = fmt::format("{}/crash-{}-{:08x}", folder, ::getpid(), std::random_device()());
+    const int descriptor =
+        ::open(path.c_str(), O_RDWR | O_APPEND | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
+    if (descriptor < 0) {
+        return reportError("Crashes will go unrecorded", errno);
+    }
+    // Locked for life: a start beside this one must not take the file for a dead run's.
+    ::flock(descriptor, LOCK_EX | LOCK_NB);
+    ::fallocate(descriptor, FALLOC_FL_KEEP_SIZE, 0, reservedBytes); // not every disk can; then it is as it is
+    return descriptor;
+}
+
+void installHandlers()
+{
+    stack_t stack = {};
+    stack.ss_sp = alternateStack;
+    stack.ss_size = sizeof alternateStack;
+    ::sigaltstack(&stack, nullptr);
+    struct sigaction action = {};
+    action.sa_sigaction = &handleCrash;
+    action.sa_flags = SA_SIGINFO | SA_ONSTACK;
+    ::sigemptyset(&action.sa_mask);
+    for (std::size_t index = 0; index < crashSignals.size(); ++index) {
+        ::sigaction(crashSignals[index], &action, &state.previous[index]);
+    }
+}
+
+} // namespace
+
+Result<void> CrashCapture::install(const std::string& folder, const Run& run)
+{
+    const Result<int> opened = openFile(folder);
+    if (!opened) {
+        return opened.error();
+    }
+    std::string header = fmt::format("crash file 1\nprocess {}\nversion ", ::getpid());
+    appendLogText(header, run.version);
+    header += "\nsession ";
+    appendLogText(header, run.session);
+    header += '\n';
+    if (const Result<void> written = writeFully(opened.value(), header); !written) {
+        ::close(opened.value());
+        return written;
+    }
+    const bool isFirst = state.lastLines == nullptr;
+    state.lastLines = &LogWriter::shared().lastLines();
+    // The file before this one stays open: whoever writes to it at this moment must not write to a stranger.
+    state.descriptor.store(opened.value(), std::memory_order_release);
+    void* first[1];
+    ::backtrace(first, 1); // loads what it needs, which must not happen in the handler
+    if (isFirst) {
+        installHandlers();
+    }
+    return {};
+}
+
+void CrashCapture::recordModules()
+{
+    static std::set<std::pair<std::uintptr_t, std::string>> recorded;
+    const int descriptor = state.descriptor.load(std::memory_order_acquire);
+    if (descriptor < 0) {
+        return;
+    }
+    std::string lines;
+    for (const LoadedModule& module : loadedModules()) {
+        if (recorded.emplace(module.base, module.path).second) {
+            lines += fmt::format("module {:x} {:x} {:x} {} ", module.base, module.first, module.end,
+                                 module.buildId.empty() ? "-" : module.buildId);
+            appendLogText(lines, module.path);
+            lines += '\n';
+        }
+    }
+    // In one piece, since a crash on another thread appends to the same file. A full disk costs names, no addresses.
+    [[maybe_unused]] const ssize_t written = ::write(descriptor, lines.data(), lines.size());
+}
+
+void CrashCapture::noteException(std::string_view text) noexcept
+{
+    try {
+        std::string line;
+        appendLogText(line, text.substr(0, sizeof state.exception / 4)); // an escaped byte takes up to four
+        std::memcpy(state.exception, line.data(), line.size());
+        state.exceptionLength.store(line.size(), std::memory_order_release);
+    } catch (...) {
+        return; // no memory to tell it with: the addresses have to do
+    }
+}
+
+} // namespace lodestar

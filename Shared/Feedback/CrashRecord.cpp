@@ -1,0 +1,152 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Feedback/CrashRecord.h"
+
+#include <fmt/core.h>
+
+#include <algorithm>
+#include <charconv>
+#include <csignal>
+
+namespace lodestar
+{
+
+namespace
+{
+
+constexpr std::size_t mostModules = 2000;
+constexpr std::size_t mostCalls = 256;
+
+std::string_view takeUntil(std::string_view& text, char end)
+{
+    const std::size_t at = text.find(end);
+    const std::string_view part = text.substr(0, at);
+    text.remove_prefix(at == std::string_view::npos ? text.size() : at + 1);
+    return part;
+}
+
+template <typename Number>
+Number numberIn(std::string_view text, int base)
+{
+    Number number = 0;
+    std::from_chars(text.data(), text.data() + text.size(), number, base);
+    return number;
+}
+
+std::optional<LoadedModule> parseModule(std::string_view text)
+{
+    LoadedModule module;
+    module.base = numberIn<std::uintptr_t>(takeUntil(text, ' '), 16);
+    module.first = numberIn<std::uintptr_t>(takeUntil(text, ' '), 16);
+    module.end = numberIn<std::uintptr_t>(takeUntil(text, ' '), 16);
+    const std::string_view buildId = takeUntil(text, ' ');
+    module.buildId = buildId == "-" ? "" : buildId;
+    module.path = text;
+    return module.first < module.end ? std::optional(std::move(module)) : std::nullopt;
+}
+
+struct Reader {
+    CrashRecord record;
+    std::uintptr_t counter = 0;
+    std::uintptr_t caller = 0;
+    bool inFrames = false;
+
+    void read(std::string_view line)
+    {
+        const std::string_view whole = line;
+        const std::string_view name = takeUntil(line, ' ');
+        if (inFrames || record.signal == 0) {
+            readField(name, line);
+        } else if (!readCrashField(name, line) && !whole.empty()) {
+            record.lastLines.emplace_back(whole); // the log stands between the fields and the frames
+        }
+        inFrames = inFrames || whole == "frames";
+    }
+
+    /// The fields before a crash and after the log.
+    void readField(std::string_view name, std::string_view value)
+    {
+        if (name == "version") {
+            record.version = value;
+        } else if (name == "session") {
+            record.session = value;
+        } else if (name == "signal") {
+            record.signal = numberIn<int>(value, 10);
+        } else if (name == "frame" && record.calls.size() < mostCalls) {
+            record.calls.push_back(numberIn<std::uintptr_t>(value, 16));
+        } else if (name == "caller") {
+            caller = numberIn<std::uintptr_t>(value, 16);
+        } else if (name == "module" && record.modules.size() < mostModules) {
+            if (std::optional<LoadedModule> module = parseModule(value)) {
+                record.modules.push_back(std::move(*module));
+            }
+        }
+    }
+
+    bool readCrashField(std::string_view name, std::string_view value)
+    {
+        if (name == "code") {
+            record.code = numberIn<int>(value, 10);
+        } else if (name == "time") {
+            record.time = numberIn<std::time_t>(value, 10);
+        } else if (name == "address") {
+            record.address = numberIn<std::uintptr_t>(value, 16);
+        } else if (name == "exception") {
+            record.exception = value;
+        } else if (name == "counter") {
+            counter = numberIn<std::uintptr_t>(value, 16);
+        } else if (name == "module") {
+            readField(name, value); // the background was just writing it
+        } else {
+            return name == "thread" || name == "frames";
+        }
+        return true;
+    }
+
+    /// The handler's own frames go: the calls start where it crashed.
+    void settle()
+    {
+        std::vector<std::uintptr_t>& calls = record.calls;
+        const auto place = std::find(calls.begin(), calls.end(), counter);
+        if (counter != 0 && place != calls.end()) {
+            calls.erase(calls.begin(), place);
+        } else {
+            // The stack could not be unwound past the handler: what is in it is the handler.
+            calls = {counter};
+        }
+        if (caller != 0) {
+            calls.insert(calls.begin() + 1, caller);
+        }
+    }
+};
+
+} // namespace
+
+std::string CrashRecord::signalName() const
+{
+    const char* name = ::sigabbrev_np(signal);
+    return name == nullptr ? fmt::format("signal {}", signal) : fmt::format("SIG{}", name);
+}
+
+std::string CrashRecord::summary() const
+{
+    std::string text = fmt::format("The application ended by {}", signalName());
+    if (address) {
+        text += fmt::format(" at address 0x{:x}", *address);
+    }
+    return text + (exception.empty() ? "." : fmt::format(": {}", exception));
+}
+
+std::optional<CrashRecord> parseCrashRecord(std::string_view text)
+{
+    Reader reader;
+    while (!text.empty()) {
+        reader.read(takeUntil(text, '\n'));
+    }
+    if (reader.record.signal == 0) {
+        return std::nullopt;
+    }
+    reader.settle();
+    return std::move(reader.record);
+}
+
+} // namespace lodestar

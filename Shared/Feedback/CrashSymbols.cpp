@@ -1,0 +1,130 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Feedback/CrashSymbols.h"
+
+#include "Feedback/SymbolModule.h"
+
+#include <fmt/core.h>
+
+#include <algorithm>
+#include <dlfcn.h>
+#include <set>
+
+namespace lodestar
+{
+
+namespace
+{
+
+const LoadedModule* moduleAt(const std::vector<LoadedModule>& modules, std::uintptr_t address)
+{
+    const auto found = std::find_if(modules.begin(), modules.end(),
+                                    [address](const LoadedModule& module) { return module.contains(address); });
+    return found == modules.end() ? nullptr : &*found;
+}
+
+/// A return address points behind its call, which may be the last thing that its function does.
+std::uintptr_t placeOfCall(const CrashRecord& record, std::size_t index)
+{
+    const std::uintptr_t address = record.calls[index];
+    return index == 0 || address == 0 ? address : address - 1;
+}
+
+/// Where the record's address lies in this run; 0 when its file, or that build of it, is not loaded.
+std::uintptr_t addressInThisRun(const CrashRecord& record, std::uintptr_t address,
+                                const std::vector<LoadedModule>& loaded)
+{
+    const LoadedModule* then = moduleAt(record.modules, address);
+    if (then == nullptr || then->buildId.empty()) {
+        return 0;
+    }
+    const auto now = std::find_if(loaded.begin(), loaded.end(),
+                                  [then](const LoadedModule& module) { return module.buildId == then->buildId; });
+    return now == loaded.end() ? 0 : address - then->base + now->base;
+}
+
+using FindSymbols = decltype(&lodestar_find_symbols);
+
+FindSymbols findSymbols(const std::vector<LoadedModule>& loaded)
+{
+    if (loaded.empty()) {
+        return nullptr;
+    }
+    const std::string& program = loaded.front().path;
+    const std::string folder = program.substr(0, program.rfind('/'));
+    for (const char* place : {"/", "/../lib/lodestar/"}) {
+        if (void* module = ::dlopen((folder + place + "lodestar-symbols.so").c_str(), RTLD_NOW | RTLD_LOCAL)) {
+            return reinterpret_cast<FindSymbols>(::dlsym(module, "lodestar_find_symbols"));
+        }
+    }
+    return nullptr;
+}
+
+struct Names {
+    std::vector<std::size_t> calls; ///< whose addresses are asked for
+    std::vector<std::string> text;  ///< one for each call of the record
+};
+
+void addName(void* context, std::size_t index, const char* function, const char* file, unsigned line)
+{
+    auto& names = *static_cast<Names*>(context);
+    const std::string_view path = file;
+    std::string& text = names.text[names.calls[index]];
+    text = function;
+    if (!path.empty()) {
+        text += fmt::format(" ({}:{})", path.substr(path.rfind('/') + 1), line);
+    }
+}
+
+std::vector<std::string> namesOf(const CrashRecord& record)
+{
+    const std::vector<LoadedModule> loaded = loadedModules();
+    Names names;
+    names.text.resize(record.calls.size());
+    std::vector<void*> addresses;
+    for (std::size_t index = 0; index < record.calls.size(); ++index) {
+        if (const std::uintptr_t address = addressInThisRun(record, placeOfCall(record, index), loaded)) {
+            names.calls.push_back(index);
+            addresses.push_back(reinterpret_cast<void*>(address));
+        }
+    }
+    const FindSymbols find = addresses.empty() ? nullptr : findSymbols(loaded);
+    if (find != nullptr) {
+        find(addresses.data(), addresses.size(), &addName, &names);
+    }
+    return std::move(names.text);
+}
+
+std::string text(const CrashRecord& record, const std::vector<std::string>& names)
+{
+    std::string result = record.summary() + "\n\n";
+    std::set<std::string> files;
+    for (std::size_t index = 0; index < record.calls.size(); ++index) {
+        const std::uintptr_t address = record.calls[index];
+        // The path above the file's name may tell whose home it is.
+        if (const LoadedModule* module = moduleAt(record.modules, placeOfCall(record, index))) {
+            result += fmt::format("{:2}  {}+0x{:x}", index, module->name(), address - module->base);
+            files.insert(fmt::format("{}  {}\n", module->name(), module->buildId));
+        } else {
+            result += fmt::format("{:2}  0x{:x}", index, address);
+        }
+        result += names[index].empty() ? "\n" : "  " + names[index] + "\n";
+    }
+    for (const std::string& file : files) {
+        result += (file == *files.begin() ? "\n" : "") + file;
+    }
+    return result;
+}
+
+} // namespace
+
+std::string symbolisedText(const CrashRecord& record)
+{
+    return text(record, namesOf(record));
+}
+
+std::string addressText(const CrashRecord& record)
+{
+    return text(record, std::vector<std::string>(record.calls.size()));
+}
+
+} // namespace lodestar

@@ -1,0 +1,38 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <atomic>
+#include <cstddef>
+#include <string_view>
+
+namespace lodestar
+{
+
+/// The last lines of the log in memory, for the moment of a crash: what the background has not written by then would be
+/// lost, and it is what happened last. Writers take turns (the log writer's lock); a signal handler may read at any
+/// time and at worst sees one line torn.
+class LastLines
+{
+public:
+    static constexpr std::size_t capacity = std::size_t{16} << 10;
+
+    void append(std::string_view line);
+    /// Calls `piece` with the kept bytes in order, in at most two pieces. Safe in a signal handler if the function is.
+    /// The first line may lack its start.
+    template <typename Function>
+    void read(Function piece) const
+    {
+        const std::size_t total = m_total.load(std::memory_order_acquire);
+        const std::size_t at = total % capacity;
+        if (total > capacity) {
+            piece(m_bytes + at, capacity - at);
+        }
+        piece(m_bytes, at);
+    }
+
+private:
+    char m_bytes[capacity] = {};
+    std::atomic<std::size_t> m_total = 0;
+};
+
+} // namespace lodestar

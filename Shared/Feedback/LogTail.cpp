@@ -1,0 +1,87 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Feedback/LogTail.h"
+
+#include <fmt/core.h>
+
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace lodestar
+{
+
+namespace
+{
+
+/// The end of a file, at most so many bytes; empty when it cannot be read.
+std::string endOf(const std::string& path, std::size_t bytes)
+{
+    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
+    struct stat status = {};
+    std::string text;
+    if (descriptor >= 0 && ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)) {
+        const auto size = static_cast<std::size_t>(status.st_size);
+        text.resize(size < bytes ? size : bytes);
+        std::size_t done = 0;
+        while (done < text.size()) {
+            const auto from = static_cast<off_t>(size - text.size() + done);
+            const ssize_t count = ::pread(descriptor, text.data() + done, text.size() - done, from);
+            if (count < 0 && errno == EINTR) {
+                continue;
+            }
+            if (count <= 0) {
+                break;
+            }
+            done += static_cast<std::size_t>(count);
+        }
+        text.resize(done);
+    }
+    if (descriptor >= 0) {
+        ::close(descriptor);
+    }
+    return text;
+}
+
+/// The last so many bytes of the text, from the start of a line.
+std::string wholeLines(std::string text, std::size_t bytes)
+{
+    if (text.size() > bytes) {
+        const std::size_t feed = text.find('\n', text.size() - bytes - 1);
+        text.erase(0, feed == std::string::npos ? text.size() : feed + 1);
+    }
+    return text;
+}
+
+/// The youngest two files, one byte more than asked for, which tells whether the first line is whole.
+std::string lastFiles(const std::string& folder, std::size_t bytes)
+{
+    const std::string path = folder + "/lodestar.log";
+    std::string text = endOf(path, bytes + 1);
+    if (text.size() <= bytes) {
+        text.insert(0, endOf(path + ".1", bytes + 1 - text.size()));
+    }
+    return text;
+}
+
+} // namespace
+
+std::string logTail(const std::string& folder, std::size_t bytes)
+{
+    return wholeLines(lastFiles(folder, bytes), bytes);
+}
+
+std::string logTailBeforeThisRun(const std::string& folder, std::size_t bytes)
+{
+    // This run has logged little yet; what it did log must not push the other's lines out.
+    constexpr std::size_t ownLines = std::size_t{256} << 10;
+    std::string text = lastFiles(folder, bytes + ownLines);
+    const std::size_t header = text.find(fmt::format(" process {}, program loaded at ", ::getpid()));
+    if (header != std::string::npos) {
+        const std::size_t line = text.rfind('\n', header);
+        text.erase(line == std::string::npos ? 0 : line + 1);
+    }
+    return wholeLines(std::move(text), bytes);
+}
+
+} // namespace lodestar

@@ -1,0 +1,228 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Feedback/ReportStore.h"
+#include "Tests/ScratchFolder.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cerrno>
+#include <csignal>
+#include <cstdio>
+#include <fcntl.h>
+#include <filesystem>
+#include <spawn.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace lodestar
+{
+
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::SizeIs;
+
+namespace
+{
+
+namespace fs = std::filesystem;
+
+/// Runs and deaths of the child program in one data folder.
+class CrashCaptureTest : public testing::Test
+{
+protected:
+    /// A child that is still running, its standard input open.
+    struct Child {
+        pid_t process = 0;
+        int input = -1;
+        int output = -1;
+    };
+
+    Child start(const std::string& what)
+    {
+        std::array<int, 2> input{};
+        std::array<int, 2> output{};
+        EXPECT_EQ(::pipe2(input.data(), O_CLOEXEC), 0);
+        EXPECT_EQ(::pipe2(output.data(), O_CLOEXEC), 0);
+        posix_spawn_file_actions_t actions;
+        ::posix_spawn_file_actions_init(&actions);
+        ::posix_spawn_file_actions_adddup2(&actions, input[0], STDIN_FILENO);
+        ::posix_spawn_file_actions_adddup2(&actions, output[1], STDOUT_FILENO);
+        std::string program = CRASH_CHILD;
+        std::string folder = m_folder.path();
+        std::string way = what;
+        char* arguments[] = {program.data(), folder.data(), way.data(), nullptr};
+        // A sanitizer's own handlers would turn the deaths looked for into exits of theirs.
+        char address[] = "ASAN_OPTIONS=handle_segv=0:handle_sigbus=0:handle_sigfpe=0:handle_sigill=0:handle_abort=0:"
+                         "handle_sigtrap=0:detect_leaks=0:detect_stack_use_after_return=0";
+        char thread[] = "TSAN_OPTIONS=handle_segv=0:handle_sigbus=0:handle_sigfpe=0:handle_sigill=0:handle_abort=0:"
+                        "handle_sigtrap=0:report_signal_unsafe=0";
+        char* environment[] = {address, thread, nullptr};
+        Child child;
+        EXPECT_EQ(::posix_spawn(&child.process, program.c_str(), &actions, nullptr, arguments, environment), 0);
+        ::posix_spawn_file_actions_destroy(&actions);
+        ::close(input[0]);
+        ::close(output[1]);
+        child.input = input[1];
+        child.output = output[0];
+        return child;
+    }
+
+    static int end(const Child& child)
+    {
+        ::close(child.input);
+        int status = 0;
+        while (::waitpid(child.process, &status, 0) < 0 && errno == EINTR) {
+        }
+        ::close(child.output);
+        return status;
+    }
+
+    int run(const std::string& what) { return end(start(what)); }
+
+    /// The signal that ended the run; 0 for none.
+    int signalOf(const std::string& what)
+    {
+        const int status = run(what);
+        return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
+    }
+
+    /// How many reports the next start made; negative when it ended otherwise.
+    int collect()
+    {
+        const int status = run("collect");
+        return WIFEXITED(status) ? WEXITSTATUS(status) - 100 : -1;
+    }
+
+    /// Of the one report that there must be.
+    ReportBundle report()
+    {
+        const std::vector<Report> reports = m_store.unanswered();
+        EXPECT_THAT(reports, SizeIs(1));
+        const auto bundle = m_store.read(reports.empty() ? "" : reports.front().identifier);
+        return bundle ? bundle.value() : ReportBundle();
+    }
+
+    std::size_t crashFiles() const
+    {
+        const fs::directory_iterator files(m_folder.path() / "Crashes");
+        return static_cast<std::size_t>(std::distance(fs::begin(files), fs::end(files)));
+    }
+
+    ScratchFolder m_folder;
+    ReportStore m_store{m_folder.file("Reports")};
+};
+
+} // namespace
+
+TEST_F(CrashCaptureTest, EverySignalEndsTheProcessAsItWouldHaveAndLeavesAReport)
+{
+    struct Way {
+        std::string what;
+        int signal;
+        std::string function = "crashHere";
+    };
+    // A call that leads nowhere is told by the function that made it.
+    const std::vector<Way> ways = {{"segv", SIGSEGV},
+                                   {"bus", SIGBUS},
+                                   {"fpe", SIGFPE},
+                                   {"ill", SIGILL},
+                                   {"trap", SIGTRAP},
+                                   {"abort", SIGABRT},
+                                   {"null-call", SIGSEGV, "operator()"}};
+    for (const auto& [what, signal, function] : ways) {
+        SCOPED_TRACE(what);
+        fs::remove_all(m_folder.path() / "Logs");
+        EXPECT_EQ(signalOf(what), signal);
+        ASSERT_EQ(collect(), 1);
+        const ReportBundle crash = report();
+        EXPECT_EQ(crash.kind, Report::Kind::Crash);
+        EXPECT_EQ(crash.version, "9.8.7");
+        EXPECT_THAT(crash.session, SizeIs(16));
+        EXPECT_THAT(crash.note, HasSubstr(std::string("SIG") + ::sigabbrev_np(signal)));
+        EXPECT_THAT(crash.crash, HasSubstr(function));
+        EXPECT_THAT(crash.crash, HasSubstr("CrashChild+0x"));
+        EXPECT_THAT(crash.log, HasSubstr("last words before " + what + " {"));
+        EXPECT_THAT(crash.log, Not(HasSubstr("of a crash"))); // a line of the next start
+        EXPECT_TRUE(m_store.remove(crash.identifier).ok());
+    }
+    EXPECT_EQ(crashFiles(), 0U);
+    EXPECT_EQ(collect(), 0);
+}
+
+TEST_F(CrashCaptureTest, AnUncaughtExceptionIsToldWithItsTypeAndWithoutSecrets)
+{
+    EXPECT_EQ(signalOf("exception"), SIGABRT);
+    ASSERT_EQ(collect(), 1);
+    const ReportBundle crash = report();
+    EXPECT_THAT(crash.note, HasSubstr("std::runtime_error: the password is [removed]"));
+    for (const ReportFile& file : reportFiles(crash)) {
+        EXPECT_THAT(file.bytes, Not(HasSubstr("hunter2"))) << file.name;
+    }
+    EXPECT_THAT(crash.crash, HasSubstr("crashHere"));
+}
+
+TEST_F(CrashCaptureTest, CrashesOfTheHandlerAndOfManyThreadsEndAtOnceAndLeaveWhatWasWritten)
+{
+    // Unwinding fails in the handler: where it crashed and what was logged stand in the file by then.
+    EXPECT_EQ(signalOf("no-stack"), SIGSEGV);
+    ASSERT_EQ(collect(), 1);
+    EXPECT_THAT(report().crash, HasSubstr("crashWithoutStack"));
+    EXPECT_THAT(report().log, HasSubstr("last words before no-stack"));
+    EXPECT_TRUE(m_store.remove(report().identifier).ok());
+
+    EXPECT_EQ(signalOf("overflow"), SIGSEGV);
+    ASSERT_EQ(collect(), 1);
+    EXPECT_THAT(report().crash, HasSubstr("overflow"));
+    EXPECT_TRUE(m_store.remove(report().identifier).ok());
+
+    EXPECT_THAT(signalOf("two-threads"), testing::AnyOf(SIGSEGV, SIGBUS));
+    EXPECT_EQ(collect(), 1);
+    EXPECT_THAT(report().note, testing::AnyOf(HasSubstr("SIGSEGV"), HasSubstr("SIGBUS")));
+}
+
+TEST_F(CrashCaptureTest, RunsThatDidNotCrashLeaveNoReport)
+{
+    EXPECT_EQ(signalOf("killed"), SIGKILL);
+    const Child living = start("wait");
+    std::array<char, 6> ready{};
+    EXPECT_EQ(::read(living.output, ready.data(), ready.size()), 6);
+    EXPECT_EQ(crashFiles(), 2U);
+    EXPECT_EQ(collect(), 0);
+    EXPECT_EQ(crashFiles(), 1U) << "the file of the run that lives stays";
+    EXPECT_EQ(end(living), 0);
+    EXPECT_EQ(collect(), 0);
+    EXPECT_EQ(crashFiles(), 0U);
+
+    // A disk that takes nothing more changes nothing about how the process ends.
+    EXPECT_EQ(signalOf("full-disk"), SIGSEGV);
+    EXPECT_EQ(collect(), 0);
+}
+
+TEST_F(CrashCaptureTest, AReportThatCannotBeKeptIsKeptLaterAndBadFilesStopNothing)
+{
+    EXPECT_EQ(signalOf("segv"), SIGSEGV);
+    fs::create_directories(m_folder.path() / "Crashes");
+    std::ofstream(m_folder.file("Reports")) << "in the way";
+    EXPECT_EQ(collect(), 0);
+    EXPECT_EQ(crashFiles(), 1U);
+    fs::remove(m_folder.file("Reports"));
+    // Naming the functions has crashed on this one; the other two are no crash files at all.
+    const fs::path crash = fs::directory_iterator(m_folder.path() / "Crashes")->path();
+    fs::rename(crash, crash.string() + ".reading");
+    std::ofstream(m_folder.file("Crashes/crash-1-0")) << std::string(3000, '\0');
+    std::ofstream(m_folder.file("Crashes/crash-1-1")) << "signal 11\nframe zzz\nmodule 5\nmodule 9 8 7";
+    fs::create_symlink("/etc/passwd", m_folder.file("Crashes/crash-1-2"));
+    EXPECT_EQ(collect(), 2);
+    std::string all;
+    for (const Report& report : m_store.list()) {
+        all += m_store.read(report.identifier).value().crash;
+    }
+    EXPECT_THAT(all, HasSubstr("CrashChild+0x"));
+    EXPECT_THAT(all, Not(HasSubstr("crashHere")));
+    EXPECT_THAT(all, Not(HasSubstr("root")));
+    EXPECT_EQ(collect(), 0);
+}
+
+} // namespace lodestar

@@ -1,0 +1,118 @@
+// SPDX-License-Identifier: Apache-2.0
+// The program that the crash tests let die: CrashChild FOLDER WHAT. "collect" is its next start.
+#include "Feedback/CrashCapture.h"
+#include "Feedback/CrashCollector.h"
+#include "Feedback/VireoLogger.h"
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <exception>
+#include <functional>
+#include <map>
+#include <stdexcept>
+#include <string>
+#include <sys/mman.h>
+#include <sys/resource.h>
+#include <thread>
+#include <unistd.h>
+
+using namespace lodestar;
+
+namespace
+{
+
+volatile int zero = 0;
+
+[[gnu::noinline]] int overflow(int depth)
+{
+    volatile char room[4096] = {};
+    room[depth % 4096] = 1;
+    return depth < 0 ? 0 : overflow(depth + 1) + room[0];
+}
+
+void readPastTheEnd()
+{
+    std::FILE* file = std::tmpfile();
+    auto* bytes = static_cast<volatile char*>(::mmap(nullptr, 4096, PROT_READ, MAP_SHARED, ::fileno(file), 0));
+    zero = bytes[0];
+}
+
+/// Wrecks the stack pointer first, so that the handler itself crashes on the way up the stack.
+void crashWithoutStack()
+{
+#if defined(__x86_64__)
+    asm volatile("mov $64, %%rsp\n mov 0, %%rax" ::: "memory");
+#elif defined(__aarch64__)
+    asm volatile("mov x0, #64\n mov sp, x0\n ldr x0, [sp]" ::: "memory");
+#endif
+}
+
+void crashOnTwoThreads()
+{
+    std::thread other([] { ::raise(SIGSEGV); });
+    ::raise(SIGBUS);
+    other.join();
+}
+
+} // namespace
+
+/// Found by its name in the report.
+[[gnu::noinline]] void crashHere(const std::string& what)
+{
+    const std::map<std::string, std::function<void()>> ways = {
+        {"segv", [] { zero = *reinterpret_cast<volatile int*>(zero + 16); }},
+        {"bus", &readPastTheEnd},
+        {"fpe", [] { ::raise(SIGFPE); }},
+        {"ill", [] { __builtin_trap(); }},
+        {"trap", [] { ::raise(SIGTRAP); }},
+        {"abort", [] { std::abort(); }},
+        {"null-call",
+         [] {
+             void (*volatile nowhere)() = nullptr;
+             nowhere();
+         }},
+        {"overflow", [] { zero = overflow(zero); }},
+        {"no-stack", &crashWithoutStack},
+        {"two-threads", &crashOnTwoThreads},
+        {"exception", [] { throw std::runtime_error("the password is hunter2-swordfish"); }},
+        {"full-disk",
+         [] {
+             const struct rlimit nothingMore = {16, 16};
+             ::setrlimit(RLIMIT_FSIZE, &nothingMore);
+             ::raise(SIGSEGV);
+         }},
+        {"killed", [] { ::raise(SIGKILL); }},
+    };
+    ways.at(what)();
+}
+
+int main(int argc, char** argv)
+{
+    if (argc < 3) {
+        return 2;
+    }
+    const std::string folder = argv[1];
+    const std::string what = argv[2];
+    VireoLogger::openLogFolder(folder + "/Logs");
+    if (what == "collect") {
+        const CrashSources sources = {folder + "/Crashes", folder + "/Logs", {"hunter2-swordfish"}};
+        return collectCrashes(sources, ReportStore(folder + "/Reports")) + 100;
+    }
+    const struct rlimit noCore = {0, 0};
+    ::setrlimit(RLIMIT_CORE, &noCore);
+    std::set_terminate(&VireoLogger::uncaughtExceptionHandler);
+    if (!CrashCapture::install(folder + "/Crashes", {"9.8.7", VireoLogger::sessionIdentifier()})) {
+        return 3;
+    }
+    CrashCapture::recordModules();
+    LODESTAR_LOG("Tests/Feedback/CrashChild", "main", "last words before {}", what);
+    if (what == "wait") {
+        std::puts("ready");
+        std::fflush(stdout);
+        std::getchar();
+        return 0;
+    }
+    crashHere(what);
+    return 0;
+}

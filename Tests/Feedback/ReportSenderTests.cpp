@@ -1,0 +1,80 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Feedback/ReportSender.h"
+#include "Tests/Platform/ScriptedServer.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <openssl/pem.h>
+
+#include <cstdio>
+#include <cstdlib>
+#include <future>
+
+namespace lodestar
+{
+
+namespace
+{
+
+/// A certificate for which the system's authorities vouch: they are read once a process, hence the environment.
+class VouchedLeaf : public testing::Environment
+{
+public:
+    void SetUp() override
+    {
+        m_path = testing::TempDir() + "lodestar-report-authority-" + std::to_string(getpid()) + ".pem";
+        std::FILE* file = std::fopen(m_path.c_str(), "w");
+        ASSERT_NE(file, nullptr);
+        EXPECT_EQ(PEM_write_X509(file, leaf->certificate.get()), 1);
+        std::fclose(file);
+        setenv("SSL_CERT_FILE", m_path.c_str(), 1);
+    }
+    void TearDown() override { std::remove(m_path.c_str()); }
+
+    const test::ScriptedServer::LeafRef leaf = simulator::makeLeaf("127.0.0.1", simulator::Leaf::Kind::Valid);
+
+private:
+    std::string m_path;
+};
+
+VouchedLeaf& vouched()
+{
+    static auto* const leaf = new VouchedLeaf;
+    return *leaf;
+}
+
+const testing::Environment* const registered = testing::AddGlobalTestEnvironment(&vouched());
+
+Result<void> send(const std::string& address)
+{
+    ReportBundle bundle;
+    bundle.note = "a note";
+    const OperationQueue queue;
+    std::promise<Result<void>> outcome;
+    sendReport(bundle, address, queue, [&outcome](Result<void> sent) { outcome.set_value(std::move(sent)); });
+    return outcome.get_future().get();
+}
+
+Result<void> sendTo(const std::string& answer, const test::ScriptedServer::LeafRef& leaf)
+{
+    const test::ScriptedServer server(answer, test::ScriptedServer::Ending::Notice, "127.0.0.1", leaf);
+    return send(server.url() + "reports");
+}
+
+} // namespace
+
+TEST(ReportSenderTest, OnlyAVouchedServersGoodAnswerOverTlsCountsAsSent)
+{
+    const std::string good = "HTTP/1.1 201 Created\r\nContent-Length: 0\r\n\r\n";
+    EXPECT_TRUE(sendTo(good, vouched().leaf).ok());
+    EXPECT_FALSE(sendTo(good, simulator::makeLeaf("127.0.0.1", simulator::Leaf::Kind::Valid)).ok());
+    const Result<void> refused = sendTo("HTTP/1.1 507 Full\r\nContent-Length: 0\r\n\r\n", vouched().leaf);
+    ASSERT_FALSE(refused.ok());
+    EXPECT_THAT(refused.error().localizedDescription, testing::HasSubstr("507"));
+    for (const std::string address : {"", "http://127.0.0.1/", "https", "ftp://127.0.0.1/"}) {
+        EXPECT_FALSE(send(address).ok()) << address;
+    }
+    EXPECT_EQ(feedbackAddress(), "") << "no build sends anything unless it is told where to";
+}
+
+} // namespace lodestar
