@@ -10,6 +10,7 @@
 
 #include <array>
 #include <atomic>
+#include <bit>
 #include <cerrno>
 #include <csignal>
 #include <cstring>
@@ -136,8 +137,7 @@ void writeReport(SafeWriter& out, int signal, const siginfo_t* info, const Place
     }
     if (place.counter == 0) {
         // A call through a null pointer: only its return address tells who made it.
-        const std::uintptr_t caller =
-            place.link != 0 ? place.link : *reinterpret_cast<const std::uintptr_t*>(place.stack);
+        const std::uintptr_t caller = place.link != 0 ? place.link : *std::bit_cast<const std::uintptr_t*>(place.stack);
         out.line("caller ", caller, 16);
     }
     out.text("end\n");
@@ -232,7 +232,7 @@ Result<void> CrashCapture::install(const std::string& folder, const Run& run)
     header += "\nsession ";
     appendLogText(header, run.session);
     header += '\n';
-    if (const Result<void> written = writeFully(opened.value(), header); !written) {
+    if (Result<void> written = writeFully(opened.value(), header); !written) {
         ::close(opened.value());
         return written;
     }

@@ -77,7 +77,7 @@ ReportBundle bundleOf(const CrashRecord& record, const CrashSources& sources, bo
 }
 
 /// Whether a report came of the file.
-bool collect(std::string path, const CrashSources& sources, const ReportStore& store)
+bool collect(const std::string& path, const CrashSources& sources, const ReportStore& store)
 {
     const Result<std::string> text = readPrivateFile(path, mostCrashBytes);
     const std::optional<CrashRecord> record = text ? parseCrashRecord(text.value()) : std::nullopt;

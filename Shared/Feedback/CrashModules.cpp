@@ -4,6 +4,7 @@
 #include <fmt/core.h>
 
 #include <algorithm>
+#include <bit>
 #include <climits>
 #include <cstring>
 #include <link.h>
@@ -64,7 +65,7 @@ int addModule(dl_phdr_info* info, std::size_t, void* result)
             module.first = std::min(module.first, start);
             module.end = std::max<std::uintptr_t>(module.end, start + segment.p_memsz);
         } else if (segment.p_type == PT_NOTE && module.buildId.empty()) {
-            module.buildId = buildIdIn(reinterpret_cast<const char*>(start), segment.p_memsz);
+            module.buildId = buildIdIn(std::bit_cast<const char*>(start), segment.p_memsz);
         }
     }
     module.path = modules.empty() ? programPath() : info->dlpi_name;

@@ -6,6 +6,7 @@
 #include <fmt/core.h>
 
 #include <algorithm>
+#include <bit>
 #include <dlfcn.h>
 #include <set>
 
@@ -84,7 +85,7 @@ std::vector<std::string> namesOf(const CrashRecord& record)
     for (std::size_t index = 0; index < record.calls.size(); ++index) {
         if (const std::uintptr_t address = addressInThisRun(record, placeOfCall(record, index), loaded)) {
             names.calls.push_back(index);
-            addresses.push_back(reinterpret_cast<void*>(address));
+            addresses.push_back(std::bit_cast<void*>(address));
         }
     }
     const FindSymbols find = addresses.empty() ? nullptr : findSymbols(loaded);

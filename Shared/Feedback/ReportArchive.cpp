@@ -62,10 +62,14 @@ std::string zipArchive(std::string_view folder, const std::vector<ReportFile>& f
         append32(directory, ownerMayReadAndWrite);
         append32(directory, static_cast<std::uint32_t>(archive.size()));
         directory += name;
-        archive += "PK\3\4" + fields + name + file.bytes;
+        archive += "PK\3\4";
+        archive += fields;
+        archive += name;
+        archive += file.bytes;
     }
     const auto start = static_cast<std::uint32_t>(archive.size());
-    archive += directory + "PK\5\6";
+    archive += directory;
+    archive += "PK\5\6";
     append32(archive, 0); // one disk
     append16(archive, static_cast<std::uint32_t>(files.size()));
     append16(archive, static_cast<std::uint32_t>(files.size()));

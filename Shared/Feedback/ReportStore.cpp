@@ -61,7 +61,7 @@ Result<void> writeFiles(const std::string& folder, const std::vector<ReportFile>
         return reportError("The report cannot be written", errno);
     }
     for (const ReportFile& file : files) {
-        if (const Result<void> written = writePrivateFile(folder + "/" + file.name, file.bytes); !written) {
+        if (Result<void> written = writePrivateFile(folder + "/" + file.name, file.bytes); !written) {
             return written;
         }
     }
@@ -104,7 +104,7 @@ Result<void> ReportStore::makeRoom(Report::Kind kind) const
                                         "There are too many reports. Delete one first.", "too many reports", nullptr});
     }
     for (; reports.size() >= m_limits.crashes && !reports.empty(); reports.pop_back()) {
-        if (const Result<void> removed = remove(reports.back().identifier); !removed) {
+        if (Result<void> removed = remove(reports.back().identifier); !removed) {
             return removed;
         }
     }
