@@ -18,6 +18,9 @@ void installKit(QQmlEngine& engine)
     // The module is a static library: naming the generated function is what links its registration in.
     [[maybe_unused]] static volatile auto registration = &qml_register_types_Lodestar_Kit;
     UIFont::install();
+    if (engine.imageProvider(QStringLiteral("icon")) != nullptr) {
+        return; // by another module that stands on the kit
+    }
     engine.addImportPath(QStringLiteral("qrc:/"));
     engine.addImageProvider(QStringLiteral("icon"), new IconProvider);
     engine.addImageProvider(QStringLiteral("shadow"), new ShadowProvider);

@@ -11,6 +11,8 @@ Item {
     required property FieldOutlet outlet
     property string placeholder
     property bool secure: false
+    /// Not for pictures of the screen, though it can be read; a secure field is covered in any case.
+    property bool confidential: false
     property int inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
     property int rowHeight: 56
     property real labelWidth: 112
@@ -89,6 +91,7 @@ Item {
         Accessible.role: Accessible.EditableText
         Accessible.name: field.label
         Accessible.passwordEdit: field.secure
+        Privacy.covered: field.confidential
         Component.onCompleted: {
             text = field.outlet.text;
             if (field.secure) {

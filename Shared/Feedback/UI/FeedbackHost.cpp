@@ -1,0 +1,117 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Feedback/UI/FeedbackHost.h"
+
+#include "Feedback/CrashCollector.h"
+#include "Feedback/UI/FeedbackViewController.h"
+#include "Kit/Core/NavigationController.h"
+#include "Platform/Queues/DispatchQueue.h"
+#include "Platform/Queues/MainQueue.h"
+
+#include <QPointer>
+
+#include <utility>
+
+namespace lodestar
+{
+
+void FeedbackHost::setUp(FeedbackSetup setup)
+{
+    m_setup = std::make_shared<const FeedbackSetup>(std::move(setup));
+}
+
+void FeedbackHost::need()
+{
+    if (!m_needed) {
+        m_needed = true;
+        Q_EMIT neededChanged();
+    }
+}
+
+void FeedbackHost::setScreen(std::shared_ptr<ViewController> screen)
+{
+    // The one that goes may be the one asking.
+    const auto keep = std::exchange(m_screen, std::move(screen));
+    Q_EMIT screenChanged();
+}
+
+void FeedbackHost::present(QImage picture)
+{
+    if (!m_setup || m_screen) {
+        return;
+    }
+    using Lock = FeedbackViewController::Lock;
+    const auto close = [host = QPointer<FeedbackHost>(this)] {
+        if (host) {
+            // One that was begun before a lock, if that is gone, comes back.
+            host->setScreen(host->m_locked ? nullptr : std::exchange(host->m_aside, nullptr));
+        }
+    };
+    auto feedback = makeController<FeedbackViewController>(m_setup, std::move(picture),
+                                                           m_locked ? Lock::Locked : Lock::Open, close);
+    need();
+    setScreen(makeController<NavigationController>(std::move(feedback)));
+}
+
+void FeedbackHost::setLocked(bool locked)
+{
+    if (m_locked == locked) {
+        return;
+    }
+    m_locked = locked;
+    if (locked) {
+        m_alert->dismiss();
+        if (m_screen) {
+            m_aside = m_screen;
+            setScreen(nullptr);
+        }
+        return;
+    }
+    if (m_aside && !m_screen) {
+        setScreen(std::exchange(m_aside, nullptr));
+    }
+    askAboutCrashes();
+}
+
+void FeedbackHost::offerCrashes()
+{
+    if (!m_setup) {
+        return;
+    }
+    CrashSources sources = {m_setup->crashFolder, m_setup->logFolder,
+                            m_setup->secrets ? m_setup->secrets() : std::vector<std::string>()};
+    DispatchQueue::globalBackground().async(
+        [host = QPointer<FeedbackHost>(this), setup = m_setup, sources = std::move(sources)] {
+            setup->store.sweep();
+            collectCrashes(sources, setup->store);
+            MainQueue::shared().async([host, reports = setup->store.unanswered()] {
+                if (host) {
+                    host->m_crashes = reports;
+                    host->askAboutCrashes();
+                }
+            });
+        });
+}
+
+void FeedbackHost::askAboutCrashes()
+{
+    if (m_locked || m_crashes.empty()) {
+        return;
+    }
+    need();
+    const auto count = static_cast<int>(m_crashes.size());
+    m_alert->present(
+        tr("Lodestar ended unexpectedly"),
+        count == 1
+            ? tr("A report was made on this device. It holds no passwords and is sent nowhere by itself.")
+            : tr("%1 reports were made on this device. They hold no passwords and are sent nowhere by themselves.")
+                  .arg(count),
+        {{tr("Keep")}, {tr("Delete"), true}}, 0, [this](int index) {
+            for (const Report& crash : std::exchange(m_crashes, {})) {
+                if (index == 0 || !m_setup->store.remove(crash.identifier)) {
+                    m_setup->store.keep(crash.identifier);
+                }
+            }
+        });
+}
+
+} // namespace lodestar

@@ -1,0 +1,68 @@
+// SPDX-License-Identifier: Apache-2.0
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import QtQuick.Templates as T
+import Lodestar.Feedback
+import Lodestar.Kit
+
+/// Lays the feedback screen over everything that the window shows, popups included, and asks about crashes.
+Item {
+    id: layer
+
+    required property FeedbackHost host
+
+    function follow() {
+        if (host.screen !== null) {
+            keyboard.remember();
+            cover.open();
+        } else {
+            cover.close();
+        }
+    }
+    Component.onCompleted: follow()
+
+    Connections {
+        target: layer.host
+        function onScreenChanged() {
+            layer.follow();
+        }
+    }
+
+    readonly property KeyboardReturn keyboard: KeyboardReturn {
+        inside: layer
+    }
+
+    T.Popup {
+        id: cover
+
+        objectName: "feedbackCover"
+        parent: T.Overlay.overlay
+        modal: true
+        dim: false
+        focus: true
+        closePolicy: T.Popup.NoAutoClose
+        padding: 0
+        margins: 0
+        width: parent !== null ? parent.width : 0
+        height: parent !== null ? parent.height : 0
+        onClosed: layer.keyboard.giveBack()
+
+        enter: Transition {
+            NumberAnimation { property: "opacity"; from: 0; to: 1; duration: Theme.alertIn; easing.type: Easing.OutCubic }
+        }
+        background: Rectangle {
+            color: Theme.ground
+        }
+        contentItem: SceneView {
+            controller: layer.host.screen
+            reportsAppearance: true
+            focus: true
+            LayoutMirroring.enabled: Theme.mirrored
+            LayoutMirroring.childrenInherit: true
+        }
+    }
+    Alert {
+        outlet: layer.host.alert
+    }
+}

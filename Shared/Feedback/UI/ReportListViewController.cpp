@@ -1,0 +1,62 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Feedback/UI/ReportListViewController.h"
+
+#include "Feedback/UI/ReportViewController.h"
+#include "Kit/Core/NavigationController.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+#include <QLocale>
+
+#include <utility>
+
+namespace lodestar
+{
+
+QString reportKindName(Report::Kind kind)
+{
+    return kind == Report::Kind::Crash ? QCoreApplication::translate("Reports", "Crash")
+                                       : QCoreApplication::translate("Reports", "Feedback");
+}
+
+ReportListViewController::ReportListViewController(std::shared_ptr<const FeedbackSetup> setup)
+    : m_setup(std::move(setup))
+{
+    setTitle(tr("Reports"));
+    setScene(QUrl(QStringLiteral("qrc:/Lodestar/Feedback/ReportListScene.qml")));
+}
+
+void ReportListViewController::viewDidAppear()
+{
+    // A few dozen small files: quicker than a spinner.
+    m_reports = m_setup->store.list();
+    Q_EMIT rowsChanged();
+}
+
+QVariantList ReportListViewController::rows() const
+{
+    QVariantList rows;
+    for (const Report& report : m_reports) {
+        const QDateTime made = QDateTime::fromString(QString::fromStdString(report.made), Qt::ISODate).toLocalTime();
+        const QString note = QString::fromStdString(report.note).trimmed();
+        rows << QVariant::fromValue(ReportRow{reportKindName(report.kind), note.section('\n', 0, 0),
+                                              QLocale().toString(made, QLocale::ShortFormat)});
+    }
+    return rows;
+}
+
+void ReportListViewController::open(int row)
+{
+    if (row < 0 || row >= static_cast<int>(m_reports.size())) {
+        return;
+    }
+    const Result<ReportBundle> bundle = m_setup->store.read(m_reports[static_cast<std::size_t>(row)].identifier);
+    if (bundle) {
+        navigationController()->pushViewController(makeController<ReportViewController>(m_setup, bundle.value()),
+                                                   Animated::Yes);
+    } else {
+        viewDidAppear(); // somebody took it away meanwhile
+    }
+}
+
+} // namespace lodestar

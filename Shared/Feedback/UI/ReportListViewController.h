@@ -1,0 +1,54 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Feedback/UI/FeedbackSetup.h"
+#include "Kit/Core/ViewController.h"
+
+#include <QVariantList>
+
+namespace lodestar
+{
+
+/// "Feedback" or "Crash".
+QString reportKindName(Report::Kind kind);
+
+/// A row of the list of reports.
+struct ReportRow {
+    Q_GADGET
+    QML_VALUE_TYPE(reportRow)
+    Q_PROPERTY(QString title MEMBER title)
+    Q_PROPERTY(QString note MEMBER note)
+    Q_PROPERTY(QString time MEMBER time)
+
+public:
+    QString title;
+    QString note; ///< its first line
+    QString time; ///< of this place, in short
+};
+
+/// The reports on this device, youngest first.
+class ReportListViewController : public ViewController
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Made by controllers")
+    Q_PROPERTY(QVariantList rows READ rows NOTIFY rowsChanged)
+
+public:
+    explicit ReportListViewController(std::shared_ptr<const FeedbackSetup> setup);
+
+    QVariantList rows() const;
+    Q_INVOKABLE void open(int row);
+
+Q_SIGNALS:
+    void rowsChanged();
+
+protected:
+    void viewDidAppear() override;
+
+private:
+    std::shared_ptr<const FeedbackSetup> m_setup;
+    std::vector<Report> m_reports;
+};
+
+} // namespace lodestar

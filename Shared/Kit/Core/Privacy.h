@@ -1,0 +1,36 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QObject>
+#include <QtQml/qqmlregistration.h>
+
+namespace lodestar
+{
+
+/// Attached to an item that shows what a picture of the screen must not: `Privacy.covered: true`. The one who takes the
+/// picture covers it; the item itself draws as ever. Fields that hide their text need no mark.
+class Privacy : public QObject
+{
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("Attached to items")
+    QML_ATTACHED(lodestar::Privacy)
+    Q_PROPERTY(bool covered READ isCovered WRITE setCovered NOTIFY coveredChanged)
+
+public:
+    explicit Privacy(QObject* parent = nullptr) : QObject(parent) {}
+    bool isCovered() const { return m_covered; }
+    void setCovered(bool covered);
+
+    static Privacy* qmlAttachedProperties(QObject* object);
+    /// Whether the object is marked, without attaching anything to it.
+    static bool covers(QObject* object);
+
+Q_SIGNALS:
+    void coveredChanged();
+
+private:
+    bool m_covered = false;
+};
+
+} // namespace lodestar
