@@ -2,8 +2,11 @@
 #include "Application/FeedbackWindow.h"
 
 #include "Application/DiscardedInterface.h"
+#include "Application/LoginViewController.h"
+#include "Feedback/UI/FeedbackUI.h"
 #include "Feedback/VireoLogger.h"
 #include "Kit/Core/Kit.h"
+#include "Platform/UserDefaults.h"
 #include "Views/Views.h"
 
 #include <QKeyEvent>
@@ -22,6 +25,14 @@ void installApplicationScenes(QQmlEngine& engine)
     [[maybe_unused]] static volatile auto registration = &qml_register_types_Lodestar_Application;
     installKit(engine);
     installViews(engine);
+    installFeedbackUI(engine);
+}
+
+/// The passcode screen passes on by itself where none is required: it locks nothing then.
+bool isLock(const ViewController* controller)
+{
+    return qobject_cast<const LoginViewController*>(controller) != nullptr &&
+           UserDefaults::standard().boolForKey("requirePassword");
 }
 
 std::unique_ptr<FeedbackWindow>& theWindow()
@@ -67,6 +78,7 @@ void FeedbackWindow::setRootViewController(std::shared_ptr<ViewController> contr
         previous->endAppearance();
         discardInterface(*previous, *this);
     }
+    m_feedbackHost.setLocked(isLock(m_rootViewController.get()));
     Q_EMIT rootViewControllerChanged();
     if (m_rootViewController) {
         m_rootViewController->loadViewIfNeeded();

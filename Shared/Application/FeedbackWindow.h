@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Feedback/UI/FeedbackHost.h"
 #include "Kit/Core/ViewController.h"
 
 #include <QQuickView>
@@ -18,6 +19,7 @@ class FeedbackWindow : public QQuickView
     QML_ELEMENT
     QML_UNCREATABLE("The process has one window, and it is made in C++.")
     Q_PROPERTY(lodestar::ViewController* rootViewController READ rootViewController NOTIFY rootViewControllerChanged)
+    Q_PROPERTY(lodestar::FeedbackHost* feedbackHost READ feedbackHost CONSTANT)
 
 public:
     enum class EventType { Touches, Motion, RemoteControl };
@@ -34,6 +36,8 @@ public:
     ViewController* rootViewController() const { return m_rootViewController.get(); }
     /// Shows the controller in place of what was shown, which is let go of.
     void setRootViewController(std::shared_ptr<ViewController> controller);
+    /// What feedback lays over the screens.
+    FeedbackHost* feedbackHost() { return &m_feedbackHost; }
     /// Loads the interface's root item. Once, before the window is shown.
     void loadInterface();
 
@@ -48,6 +52,7 @@ protected:
 
 private:
     std::shared_ptr<ViewController> m_rootViewController;
+    FeedbackHost m_feedbackHost;
 };
 
 } // namespace lodestar

@@ -3,6 +3,7 @@
 #include "Application/Adapters/PackageResources.h"
 #include "Application/Adapters/SystemKeychain.h"
 #include "Application/AppDelegate.h"
+#include "Application/FeedbackSupport.h"
 #include "Application/FeedbackWindow.h"
 #include "Application/MainStoryboard.h"
 #include "Application/Model/StoreStack.h"
@@ -19,6 +20,7 @@
 #include <QStandardPaths>
 
 #include <cstdio>
+#include <memory>
 
 using namespace lodestar;
 
@@ -64,6 +66,7 @@ QString makeDataFolder(const QString& asked)
 void installPlatform(const QString& folder)
 {
     VireoLogger::openLogFolder((folder + QStringLiteral("/Logs")).toStdString());
+    FeedbackSupport::captureCrashes(folder, QStringLiteral(LODESTAR_VERSION));
     UserDefaults::install(
         std::make_unique<FileUserDefaults>((folder + QStringLiteral("/Lodestar.defaults")).toStdString()));
     Keychain::install(std::make_unique<SystemKeychain>());
@@ -95,7 +98,8 @@ int main(int argc, char** argv)
 
     const MainLoop mainLoop;
     const TerminationSignals terminationSignals([] { QGuiApplication::quit(); });
-    installPlatform(makeDataFolder(options.dataFolder));
+    const QString dataFolder = makeDataFolder(options.dataFolder);
+    installPlatform(dataFolder);
     UIFont::install();
 
     AppDelegate delegate;
@@ -105,6 +109,7 @@ int main(int argc, char** argv)
     delegate.applicationDidFinishLaunching();
 
     FeedbackWindow* window = delegate.window();
+    auto feedback = std::make_unique<FeedbackSupport>(*window, dataFolder, QStringLiteral(LODESTAR_VERSION));
     if (options.quitAfterFirstFrame) {
         QObject::connect(
             window, &QQuickWindow::frameSwapped, &application,
@@ -131,6 +136,7 @@ int main(int argc, char** argv)
 
     const int status = QGuiApplication::exec();
     delegate.applicationWillTerminate();
+    feedback.reset();
     FeedbackWindow::tearDown();
     UserDefaults::standard().synchronize();
     VireoLogger::flush();

@@ -145,6 +145,7 @@ TableCell {
             anchors.left: parent.left
             width: Math.min(implicitWidth, content.identityWidth)
             y: name.height
+            Privacy.covered: true
             Accessible.ignored: true
         }
 

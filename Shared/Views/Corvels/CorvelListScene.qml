@@ -27,6 +27,13 @@ PageScaffold {
         controller: scene.controller
         trailing: [
             IconButton {
+                objectName: "feedbackButton"
+                iconName: "feedback"
+                text: qsTr("Feedback")
+                visible: !scene.corvels.feedbackHidden
+                onClicked: scene.corvels.openFeedback()
+            },
+            IconButton {
                 objectName: "settingsButton"
                 iconName: "settings"
                 text: qsTr("Settings")

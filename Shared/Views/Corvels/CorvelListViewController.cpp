@@ -70,6 +70,11 @@ bool CorvelListViewController::isSettingsHidden() const
     return !Storyboard::main().hasScene("settingsViewController");
 }
 
+bool CorvelListViewController::isFeedbackHidden() const
+{
+    return !VireoLogger::settings().offersEntry;
+}
+
 void CorvelListViewController::viewDidLoad()
 {
     LODESTAR_LOG(fileName, "-[CorvelListViewController viewDidLoad]", "CorvelListViewController instantiation");
@@ -270,6 +275,11 @@ void CorvelListViewController::addCorvel()
 void CorvelListViewController::presentEditor(const std::shared_ptr<DeltaCorvelViewController>& editor)
 {
     presentSemiViewController(editor, {.pushParentBack = false, .height = sheetHeight});
+}
+
+void CorvelListViewController::openFeedback()
+{
+    VireoLogger::feedback();
 }
 
 void CorvelListViewController::openSettings()

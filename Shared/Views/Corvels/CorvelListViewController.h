@@ -26,6 +26,7 @@ class CorvelListViewController : public lodestar::ViewController, public TableDa
     Q_PROPERTY(lodestar::TableOutlet* tableView READ tableView CONSTANT)
     Q_PROPERTY(lodestar::RefreshControl* refreshControl READ refreshControl CONSTANT)
     Q_PROPERTY(bool settingsHidden READ isSettingsHidden CONSTANT)
+    Q_PROPERTY(bool feedbackHidden READ isFeedbackHidden CONSTANT)
 
 public:
     /// Where the keyboard stands when the sheet is to make room.
@@ -46,8 +47,12 @@ public:
     /// The settings button is not there while the storyboard has no settings.
     bool isSettingsHidden() const;
 
+    /// The feedback button is there on devices that are not shaken.
+    bool isFeedbackHidden() const;
+
     Q_INVOKABLE void addCorvel();
     Q_INVOKABLE void openSettings();
+    Q_INVOKABLE void openFeedback();
     /// Seeds the demonstration console, at most once an installation. It is stored with the next save.
     void addTestCorvel();
     /// Fetches every console of the list at once. Each result is drawn as it comes.

@@ -52,12 +52,14 @@ SheetContent {
             label: qsTr("Address")
             placeholder: qsTr("Host name or address")
             outlet: scene.editor.addressField
+            confidential: true
             inputMethodHints: Qt.ImhUrlCharactersOnly | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
         }
         EditorField {
             editor: scene.editor
             label: qsTr("User ID")
             outlet: scene.editor.usernameField
+            confidential: true
         }
         EditorField {
             editor: scene.editor
