@@ -28,6 +28,8 @@ std::string entryOf(const std::string& type, const std::string& content);
 
 /// Release notes, licence agreement, open-source notices and the tour.
 std::vector<Look> aboutLooks();
+/// The feedback screens, over the console list.
+std::vector<Look> feedbackLooks();
 /// The menus, lists and details of a console's inventory.
 std::vector<Look> inventoryLooks();
 /// The lists by managed system, and their details.

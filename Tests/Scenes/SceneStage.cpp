@@ -5,6 +5,7 @@
 #include "Application/MainStoryboard.h"
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
+#include "Feedback/UI/FeedbackUI.h"
 #include "Kit/Core/NavigationController.h"
 #include "Kit/Core/Storyboard.h"
 #include "Kit/Core/UIColor+Tessel.h"
@@ -188,6 +189,7 @@ SceneStage::SceneStage()
     Storyboard::main() = Storyboard();
     registerMainStoryboard({});
     installViews(m_engine);
+    installFeedbackUI(m_engine);
     QObject::connect(&m_engine, &QQmlEngine::warnings, [this](const QList<QQmlError>& warnings) {
         for (const QQmlError& warning : warnings) {
             m_warnings << warning.toString();
@@ -211,6 +213,7 @@ void SceneStage::closeWindow()
         }
     }
     m_window.reset();
+    m_feedback.reset();
     m_tabs.reset();
     m_list.reset();
     m_dashboard.reset();
@@ -234,16 +237,27 @@ void SceneStage::show(QSize size, const std::vector<ConsoleLook>& consoles)
     m_list->tableView()->setHidden(consoles.empty());
     m_list->tableView()->reloadData();
 
+    m_feedback = std::make_unique<FeedbackHost>();
+    m_feedback->setUp({.store = reports(),
+                       .crashFolder = m_folder.filePath("Crashes").toStdString(),
+                       .logFolder = m_folder.filePath("Logs").toStdString(),
+                       .exportFolder = m_folder.filePath("Exported").toStdString(),
+                       .version = "1.0.0",
+                       .address = {},
+                       .secrets = [] { return std::vector<std::string>{"twelve-chars"}; }});
     QQmlComponent component(&m_engine);
-    component.setData("import QtQuick\nimport Lodestar.Kit\n"
+    component.setData("import QtQuick\nimport Lodestar.Feedback\nimport Lodestar.Kit\n"
                       "Window { id: window; required property ViewController controller\n"
+                      "required property FeedbackHost feedback\n"
+                      "FeedbackLayer { anchors.fill: parent; host: window.feedback }\n"
                       "color: Theme.ground; LayoutMirroring.enabled: Theme.mirrored\n"
                       "LayoutMirroring.childrenInherit: true\n"
                       "SceneView { anchors.fill: parent; focus: true; reportsAppearance: true\n"
                       "controller: window.controller } }",
                       QUrl(QStringLiteral("stage.qml")));
     QObject* made = component.createWithInitialProperties(
-        {{QStringLiteral("controller"), QVariant::fromValue<QObject*>(m_tabs.get())}});
+        {{QStringLiteral("controller"), QVariant::fromValue<QObject*>(m_tabs.get())},
+         {QStringLiteral("feedback"), QVariant::fromValue<QObject*>(m_feedback.get())}});
     m_window.reset(qobject_cast<QQuickWindow*>(made));
     if (!m_window) {
         throw std::runtime_error(component.errorString().toStdString());

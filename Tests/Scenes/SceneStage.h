@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Application/Model/Corvel.h"
+#include "Feedback/UI/FeedbackHost.h"
 #include "Kit/Core/TabBarController.h"
 #include "Views/Common/FeedListViewController.h"
 #include "Views/Common/SceneInputs.h"
@@ -88,6 +89,9 @@ public:
     DashboardTableViewController& dashboard() const { return *m_dashboard; }
     TabBarController& tabs() const { return *m_tabs; }
     QQuickWindow& window() const { return *m_window; }
+    /// Laid over the window, its files in a folder of the stage's. The consoles' one password is the secret.
+    FeedbackHost& feedback() const { return *m_feedback; }
+    ReportStore reports() const { return ReportStore(m_folder.filePath("Reports").toStdString()); }
 
     /// Runs the event loop until the predicate holds; false when it does not within five seconds.
     bool waitFor(const std::function<bool()>& predicate) const;
@@ -113,6 +117,7 @@ private:
     std::shared_ptr<CorvelListViewController> m_list;
     std::shared_ptr<DashboardTableViewController> m_dashboard;
     std::shared_ptr<TabBarController> m_tabs;
+    std::unique_ptr<FeedbackHost> m_feedback;
     std::unique_ptr<QQuickWindow> m_window;
 };
 

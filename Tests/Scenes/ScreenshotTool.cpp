@@ -180,7 +180,7 @@ int main(int argc, char** argv)
         return writeTourPictures(stage, folder) ? 0 : 1;
     }
     for (const auto& looks : {consoleLooks(), editorLooks(), dashboardLooks(), inventoryLooks(), groupedLooks(),
-                              eventAndGroupLooks(), performanceLooks(), aboutLooks(), lockLooks()}) {
+                              eventAndGroupLooks(), performanceLooks(), aboutLooks(), lockLooks(), feedbackLooks()}) {
         for (const Look& look : looks) {
             for (const Variant& variant : variantsOf(look)) {
                 const QString name = QString::fromLatin1(look.name) + '-' + variant.suffix + ".png";
