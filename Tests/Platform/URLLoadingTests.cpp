@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+// What a single request sends, and what its answer may be.
 #include "Platform/URLLoading/HeldBytes.h"
 #include "Tests/Platform/ScriptedServer.h"
 #include "Tests/Platform/URLLoadingFixture.h"
@@ -6,7 +7,6 @@
 #include <gmock/gmock.h>
 
 #include <atomic>
-#include <cstdlib>
 #include <latch>
 #include <sys/resource.h>
 
@@ -294,154 +294,6 @@ TEST_F(URLLoadingTest, StatusesAreAnswersAndChallengesForPasswordsGetNone)
     simulator.clearFaults();
     simulator.setFault("refuseFeed:ManagedSystem");
     EXPECT_EQ(loadAsynchronously(feedRequest(simulator, key)).value().response.statusCode, 500);
-}
-
-TEST_F(URLLoadingTest, CancelledConnectionsEndOnceWhenever)
-{
-    simulator::SimulatorProcess simulator{{}};
-    const std::string key = logOn(simulator);
-    simulator.setFault("stallFeed:All");
-    constexpr int count = 120;
-    std::vector<std::shared_ptr<URLConnection>> connections;
-    std::vector<std::shared_ptr<RecordingDelegate>> delegates;
-    for (int i = 0; i < count; ++i) {
-        // A third never answers, a third answers at once, and a third is cancelled while it still waits for its turn.
-        const bool answers = i % 3 == 1;
-        delegates.push_back(std::make_shared<RecordingDelegate>(Answer::Accept));
-        connections.push_back(URLConnection::make(
-            answers ? consoleRequest(simulator.address(), "/none") : feedRequest(simulator, key), delegates.back()));
-        connections.back()->setDelegateQueue(m_queue);
-        connections.back()->start();
-        if (i % 3 == 2) {
-            connections.back()->cancel();
-        }
-    }
-    for (const auto& connection : connections) {
-        connection->cancel();
-        connection->cancel();
-    }
-    for (int i = 0; i < count; ++i) {
-        const auto& delegate = delegates[static_cast<std::size_t>(i)];
-        const Result<URLLoad> load = delegate->outcome();
-        if (!load.ok()) {
-            EXPECT_EQ(codeOf(load), URLErrorCode::Cancelled);
-        } else {
-            EXPECT_EQ(i % 3, 1);
-        }
-        connections[static_cast<std::size_t>(i)]->cancel();
-    }
-    m_queue.waitUntilAllOperationsAreFinished();
-    for (const auto& delegate : delegates) {
-        EXPECT_EQ(delegate->ends, 1);
-        EXPECT_EQ(delegate.use_count(), 1) << "an ended connection lets its delegate go";
-    }
-}
-
-TEST_F(URLLoadingTest, DawdlingServerDoesNotHoldUpTheOthers)
-{
-    simulator::Settings settings;
-    settings.consoles = 2;
-    simulator::SimulatorProcess simulator(settings);
-    const std::string badKey = logOn(simulator, 0);
-    const std::string key = logOn(simulator, 1);
-    simulator.setFault("stallFeed:All:0");
-    std::vector<std::shared_ptr<RecordingDelegate>> stalled;
-    std::vector<std::shared_ptr<URLConnection>> connections;
-    for (int i = 0; i < 400; ++i) {
-        stalled.push_back(std::make_shared<RecordingDelegate>(Answer::Accept));
-        connections.push_back(URLConnection::make(feedRequest(simulator, badKey, 0), stalled.back()));
-        connections.back()->setDelegateQueue(m_queue);
-        connections.back()->start();
-    }
-    std::latch settled(50);
-    const auto start = std::chrono::steady_clock::now();
-    for (int i = 0; i < 50; ++i) {
-        sendAsynchronousRequest(feedRequest(simulator, key, 1), m_queue, [&](const Result<URLLoad>& load) {
-            EXPECT_TRUE(load.ok());
-            settled.count_down();
-        });
-    }
-    settled.wait();
-    EXPECT_LT(std::chrono::steady_clock::now() - start, 20s) << "the silent requests have a minute";
-    for (const auto& connection : connections) {
-        connection->cancel();
-    }
-    for (const auto& delegate : stalled) {
-        EXPECT_EQ(codeOf(delegate->outcome()), URLErrorCode::Cancelled);
-    }
-}
-
-TEST_F(URLLoadingTest, BlockingLookUpsShareOneConnection)
-{
-    simulator::SimulatorProcess simulator{{}};
-    const std::string key = logOn(simulator);
-    const auto before = simulator.handshakes();
-    for (int i = 0; i < 200; ++i) {
-        ASSERT_TRUE(sendSynchronousRequest(feedRequest(simulator, key)).ok());
-    }
-    EXPECT_EQ(simulator.handshakes() - before, 1U);
-    // The server lets the connection go between two look-ups.
-    simulator.stopConsole(0);
-    simulator.startConsole(0);
-    EXPECT_TRUE(sendSynchronousRequest(feedRequest(simulator, key)).ok());
-    EXPECT_TRUE(loadAsynchronously(feedRequest(simulator, key)).ok());
-
-    std::vector<std::thread> threads;
-    threads.reserve(8);
-    std::atomic<int> good{0};
-    for (int i = 0; i < 8; ++i) {
-        threads.emplace_back([&] {
-            for (int k = 0; k < 20; ++k) {
-                good += sendSynchronousRequest(feedRequest(simulator, key)).ok() ? 1 : 0;
-            }
-        });
-    }
-    for (std::thread& thread : threads) {
-        thread.join();
-    }
-    EXPECT_EQ(good, 160);
-}
-
-TEST_F(URLLoadingTest, AFleetSharesFewConnectionsAConsole)
-{
-    simulator::Settings settings;
-    settings.consoles = 16;
-    simulator::SimulatorProcess simulator{settings};
-    std::vector<URLRequest> requests;
-    for (int i = 0; i < settings.consoles; ++i) {
-        requests.insert(requests.end(), 6, feedRequest(simulator, logOn(simulator, i), i));
-    }
-    std::latch settled(std::ssize(requests));
-    std::atomic<int> answered{0};
-    for (const URLRequest& request : requests) {
-        sendAsynchronousRequest(request, m_queue, [&](const Result<URLLoad>& load) {
-            answered += load.ok() ? 1 : 0;
-            settled.count_down();
-        });
-    }
-    settled.wait();
-    EXPECT_EQ(answered, std::ssize(requests));
-    EXPECT_LE(simulator.handshakes(), 2U * static_cast<unsigned>(settings.consoles));
-    rlimit files{};
-    ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &files), 0);
-    EXPECT_EQ(files.rlim_cur, files.rlim_max) << "and descriptors suffice for all";
-}
-
-using URLLoadingDeathTest = URLLoadingTest;
-
-TEST_F(URLLoadingDeathTest, ProcessEndsWithTransfersInFlight)
-{
-    testing::GTEST_FLAG(death_test_style) = "threadsafe";
-    const auto leave = [this] {
-        simulator::SimulatorProcess simulator{{}};
-        const std::string key = logOn(simulator);
-        simulator.setFault("stallFeed:All");
-        for (int i = 0; i < 300; ++i) {
-            connect(feedRequest(simulator, key), Answer::Accept);
-        }
-        std::exit(7);
-    };
-    EXPECT_EXIT(leave(), testing::ExitedWithCode(7), "");
 }
 
 } // namespace lodestar::test

@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <arpa/inet.h>
 #include <array>
-#include <cerrno>
 #include <csignal>
 #include <strings.h>
 #include <sys/socket.h>
@@ -39,11 +38,11 @@ std::string Answer::header(std::string_view name) const
     return {};
 }
 
-TlsClient::TlsClient(const std::string& address, int milliseconds, Step upTo)
+TlsClient::TlsClient(const std::string& address)
 {
     std::signal(SIGPIPE, SIG_IGN);
     m_descriptor = ::socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    const timeval limit{milliseconds / 1000, suseconds_t{milliseconds % 1000} * 1000};
+    const timeval limit{10, 0};
     setsockopt(m_descriptor, SOL_SOCKET, SO_RCVTIMEO, &limit, sizeof limit);
     sockaddr_in name{};
     name.sin_family = AF_INET;
@@ -52,7 +51,7 @@ TlsClient::TlsClient(const std::string& address, int milliseconds, Step upTo)
     if (::connect(m_descriptor, reinterpret_cast<const sockaddr*>(&name), sizeof name) != 0) {
         ::close(m_descriptor);
         m_descriptor = -1;
-    } else if (upTo == Step::Handshake) {
+    } else {
         handshake();
     }
 }
@@ -64,13 +63,12 @@ TlsClient::~TlsClient()
     }
 }
 
-bool TlsClient::handshake()
+void TlsClient::handshake()
 {
     m_context.reset(SSL_CTX_new(TLS_client_method()));
     m_ssl.reset(SSL_new(m_context.get()));
     SSL_set_fd(m_ssl.get(), m_descriptor);
     m_handshaken = SSL_connect(m_ssl.get()) == 1;
-    return m_handshaken;
 }
 
 std::string TlsClient::fingerprint() const
@@ -78,11 +76,6 @@ std::string TlsClient::fingerprint() const
     Leaf leaf;
     leaf.certificate.reset(SSL_get1_peer_certificate(m_ssl.get()));
     return leaf.fingerprint();
-}
-
-bool TlsClient::certificateExpired() const
-{
-    return X509_cmp_current_time(X509_get0_notAfter(SSL_get0_peer_certificate(m_ssl.get()))) < 0;
 }
 
 bool TlsClient::certificateNames(const std::string& address) const
@@ -99,30 +92,19 @@ bool TlsClient::readMore()
 {
     std::array<char, 65536> bytes{};
     ERR_clear_error();
-    errno = 0;
     const int count = SSL_read(m_ssl.get(), bytes.data(), static_cast<int>(bytes.size()));
     if (count > 0) {
         m_received.append(bytes.data(), static_cast<std::size_t>(count));
         return true;
     }
     const int error = SSL_get_error(m_ssl.get(), count);
-    if (errno == ECONNRESET) {
-        m_end = End::Reset;
-    } else if (error == SSL_ERROR_ZERO_RETURN || error == SSL_ERROR_SSL) {
+    if (error == SSL_ERROR_ZERO_RETURN || error == SSL_ERROR_SSL) {
         m_end = End::Closed;
     }
     return false;
 }
 
-bool TlsClient::bodyComplete(const Answer& answer) const
-{
-    if (answer.header("Transfer-Encoding") == "chunked") {
-        return m_received.ends_with("0\r\n\r\n");
-    }
-    return m_received.size() >= declaredSize(answer);
-}
-
-Answer TlsClient::receive(std::size_t bodyLimit)
+Answer TlsClient::receive()
 {
     Answer answer;
     std::size_t headEnd = 0;
@@ -140,26 +122,18 @@ Answer TlsClient::receive(std::size_t bodyLimit)
     }
     answer.status = std::stoi(answer.headers.front().substr(9, 3));
     m_received.erase(0, headEnd + 4);
-    while (!bodyComplete(answer) && m_received.size() < bodyLimit) {
+    const std::size_t size = declaredSize(answer);
+    while (m_received.size() < size) {
         if (!readMore()) {
             answer.end = m_end;
             answer.body = std::move(m_received);
             return answer;
         }
     }
-    answer.end = bodyComplete(answer) ? End::Whole : End::Nothing;
-    const bool chunked = answer.header("Transfer-Encoding") == "chunked";
-    const std::size_t size = chunked ? m_received.size() : declaredSize(answer);
+    answer.end = End::Whole;
     answer.body = m_received.substr(0, size);
     m_received.erase(0, size);
     return answer;
-}
-
-std::string TlsClient::receiveBytes(std::size_t count)
-{
-    while (m_received.size() < count && readMore()) {
-    }
-    return m_received;
 }
 
 std::string getRequest(std::string_view path, std::string_view key, std::string_view more)

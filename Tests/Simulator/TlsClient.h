@@ -12,12 +12,12 @@ namespace lodestar::simulator::test
 {
 
 /// How the bytes of an answer ended.
-enum class End { Whole, Closed, Reset, Nothing };
+enum class End { Whole, Closed, Nothing };
 
 struct Answer {
     int status = 0;
     std::vector<std::string> headers;
-    /// As received, still chunked or compressed.
+    /// As received, still compressed.
     std::string body;
     End end = End::Nothing;
     std::string header(std::string_view name) const;
@@ -27,32 +27,23 @@ struct Answer {
 class TlsClient
 {
 public:
-    enum class Step { Connect, Handshake };
-
-    /// Goes no further than `upTo`. Waits for bytes at most `milliseconds`.
-    explicit TlsClient(const std::string& address, int milliseconds = 10000, Step upTo = Step::Handshake);
+    explicit TlsClient(const std::string& address);
     ~TlsClient();
     TlsClient(const TlsClient&) = delete;
     TlsClient& operator=(const TlsClient&) = delete;
 
-    bool connected() const { return m_descriptor >= 0; }
     bool handshaken() const { return m_handshaken; }
-    /// Tries the handshake that `Step::Connect` left out.
-    bool handshake();
-    /// SHA-256 of the server's certificate; whether it has expired; whether it names the address.
+    /// SHA-256 of the server's certificate; whether it names the address.
     std::string fingerprint() const;
-    bool certificateExpired() const;
     bool certificateNames(const std::string& address) const;
 
     void send(std::string_view bytes);
-    /// The next answer; its body is read up to `bodyLimit` bytes.
-    Answer receive(std::size_t bodyLimit = 64U << 20U);
-    /// What comes within the waiting time, as it comes.
-    std::string receiveBytes(std::size_t count);
+    /// The next answer.
+    Answer receive();
 
 private:
+    void handshake();
     bool readMore();
-    bool bodyComplete(const Answer& answer) const;
 
     int m_descriptor = -1;
     ContextPtr m_context;
