@@ -3,11 +3,10 @@
 //
 // The feed is one of a console with thousands of partitions, as the simulator sends it. Memory that earlier runs left
 // with the allocator is given back before each run: what the heap went through before can double a time.
-#include "Benchmarks/Rows.h"
+#include "Benchmarks/Program.h"
 #include "Controllers/REST/XMLElement.h"
 #include "Simulator/FeedWriter.h"
 
-#include <benchmark/benchmark.h>
 #include <libxml/parser.h>
 
 #include <cstdio>
@@ -127,29 +126,23 @@ BENCHMARK_CAPTURE(parse, tree, &tree, &large)
 BENCHMARK_CAPTURE(parse, ours200, &ours, &usual)->Name("feed parse, 200 KB")->UseManualTime();
 BENCHMARK_CAPTURE(parse, tree200, &tree, &usual)->Name("libxml2's tree, 200 KB")->UseManualTime();
 
+void measureRows(bench::Rows& rows)
+{
+    const auto medians = [](const Load& load) {
+        return bench::medianInterleaved([&] { return ours(load); }, [&] { return tree(load); }, 21);
+    };
+    const auto many = medians(large());
+    rows.add("feed parse, 26 MB / libxml2's tree of it, built and dropped", many.ours, many.reference, 0.38);
+    const auto few = medians(usual());
+    rows.add("feed parse, 200 KB / libxml2's tree of it, built and dropped", few.ours, few.reference, 0.4);
+    rows.add("memory of a parsed feed / bytes of input", keptBytes(large()), static_cast<double>(large().bytes.size()),
+             2.5, "bytes");
+}
+
 } // namespace
 } // namespace lodestar
 
 int main(int argc, char** argv)
 {
-    using namespace lodestar;
-    bench::Rows rows(argc, argv);
-    if (rows.requested()) {
-        const auto medians = [](const Load& load) {
-            return bench::medianInterleaved([&] { return ours(load); }, [&] { return tree(load); }, 21);
-        };
-        const auto many = medians(large());
-        rows.add("feed parse, 26 MB / libxml2's tree of it, built and dropped", many.ours, many.reference, 0.38);
-        const auto few = medians(usual());
-        rows.add("feed parse, 200 KB / libxml2's tree of it, built and dropped", few.ours, few.reference, 0.4);
-        rows.add("memory of a parsed feed / bytes of input", keptBytes(large()),
-                 static_cast<double>(large().bytes.size()), 2.5, "bytes");
-        return rows.write();
-    }
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 1;
-    }
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return lodestar::bench::run(argc, argv, lodestar::measureRows);
 }

@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Benchmarks/Rows.h"
+#include "Benchmarks/List/ScreenProgram.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
-#include "Kit/Core/MainLoop.h"
 #include "Kit/Core/NavigationController.h"
 #include "Platform/UserDefaults.h"
 #include "Simulator/SimulatorProcess.h"
@@ -11,8 +10,6 @@
 #include "Views/ManagedSystems/MSListViewController.h"
 
 #include <QElapsedTimer>
-#include <QGuiApplication>
-#include <benchmark/benchmark.h>
 #include <fmt/format.h>
 
 #include <cstring>
@@ -30,13 +27,6 @@ namespace
 constexpr int shortList = 100;
 constexpr int longList = 100'000;
 constexpr double frame = 16.0; // milliseconds
-
-void require(bool condition, const char* what)
-{
-    if (!condition) {
-        throw std::runtime_error(what);
-    }
-}
 
 std::string nameOf(int row)
 {
@@ -63,15 +53,16 @@ public:
     ListOnScreen(scenes::SceneStage& stage, const CorvelRef& corvel, int rows)
         : m_stage(stage), m_list(*stage.open<MSListViewController>("managedSystemsView", {.corvel = corvel}))
     {
-        require(stage.waitFor([&] { return !m_list.tableView()->isHidden() && m_list.tableView()->rows() == rows; }),
-                "the list did not come");
+        bench::require(
+            stage.waitFor([&] { return !m_list.tableView()->isHidden() && m_list.tableView()->rows() == rows; }),
+            "the list did not come");
         stage.settle();
         for (QQuickItem* item : stage.items(QStringLiteral("QQuickListView"))) {
             if (item->property("count").toInt() == rows) {
                 m_flickable = item;
             }
         }
-        require(m_flickable != nullptr, "no list is drawn");
+        bench::require(m_flickable != nullptr, "no list is drawn");
     }
     ~ListOnScreen()
     {
@@ -102,8 +93,8 @@ public:
             times.push_back(static_cast<double>(timer.nsecsElapsed()));
         }
         QObject::disconnect(counted);
-        require(frames == 2 * steps, "a frame was not drawn");
-        require(m_flickable->property("contentY").toDouble() == start, "the list did not scroll");
+        bench::require(frames == 2 * steps, "a frame was not drawn");
+        bench::require(m_flickable->property("contentY").toDouble() == start, "the list did not scroll");
         return bench::median(std::move(times));
     }
 
@@ -166,7 +157,7 @@ void measureSearch(bench::Rows& rows, scenes::SceneStage& stage, const CorvelRef
         const auto times = bench::medianInterleaved([&] { controller.shouldReloadTableForSearchString(typed); },
                                                     [&] { benchmark::DoNotOptimize(plainSearch(names, text)); });
         const std::size_t found = plainSearch(names, text);
-        require(controller.filteredMSList().size() == found, "the searches do not agree");
+        bench::require(controller.filteredMSList().size() == found, "the searches do not agree");
         rows.add(fmt::format("search of 100,000 names, {} found", found), times.ours, times.reference, 3);
     }
     controller.showSearchBar();
@@ -178,7 +169,7 @@ void measureSearch(bench::Rows& rows, scenes::SceneStage& stage, const CorvelRef
         timer.start();
         controller.searchBar()->setText(QStringLiteral("harbour-00"));
         keystrokes.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
-        require(controller.searchResultsTableView()->rows() == 10'000, "the results were not listed");
+        bench::require(controller.searchResultsTableView()->rows() == 10'000, "the results were not listed");
     }
     rows.add("a keystroke among 100,000 rows, its results listed", bench::median(keystrokes), 1, frame, "ms");
     controller.searchBar()->cancel();
@@ -200,7 +191,7 @@ void measureHandshakes(bench::Rows& rows, scenes::SceneStage& stage)
         return RESTHandler::sharedInstance().fetchAllDataForCorvel(corvel, key);
     });
     const auto isDone = [&] { return fetched.isFulfilled(); };
-    require(stage.waitFor(isDone), "the console was not fetched");
+    bench::require(stage.waitFor(isDone), "the console was not fetched");
     corvel->setRestData(fetched.result()->value());
     corvel->completedFetch = true;
     const auto before = fleet.statistics();
@@ -213,7 +204,7 @@ void measureHandshakes(bench::Rows& rows, scenes::SceneStage& stage)
         }
         return listed > 0;
     };
-    require(stage.waitFor(isListed) && listed == systems * partitions, "the partitions were not listed");
+    bench::require(stage.waitFor(isListed) && listed == systems * partitions, "the partitions were not listed");
     const auto after = fleet.statistics();
     rows.add("handshakes of a list's 200 look-ups", static_cast<double>(after.handshakes - before.handshakes), 1, 1,
              "");
@@ -276,7 +267,7 @@ BENCHMARK(searchFirst)->Unit(benchmark::kMillisecond);
 void twoLogLines(benchmark::State& state)
 {
     const QTemporaryDir folder;
-    require(VireoLogger::openLogFolder(folder.path().toStdString()), "no log folder");
+    bench::require(VireoLogger::openLogFolder(folder.path().toStdString()), "no log folder");
     logLines(state, static_cast<int>(state.range(0)));
 }
 BENCHMARK(twoLogLines)->Arg(5)->Arg(40);
@@ -286,20 +277,6 @@ BENCHMARK(twoLogLines)->Arg(5)->Arg(40);
 
 int main(int argc, char** argv)
 {
-    using namespace lodestar;
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    qputenv("QT_QUICK_BACKEND", "software");
-    const QGuiApplication application(argc, argv);
-    const MainLoop mainLoop;
-    bench::Rows rows(argc, argv);
-    if (rows.requested()) {
-        measureRows(rows);
-        return rows.write();
-    }
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 1;
-    }
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    const lodestar::bench::Screen screen(argc, argv);
+    return lodestar::bench::run(argc, argv, lodestar::measureRows);
 }

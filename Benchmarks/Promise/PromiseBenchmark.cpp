@@ -9,7 +9,7 @@
 //    blocks given to the same pool, each by the one before it.
 //  - all: create 1,000 promises, join them, settle each, wait for the handler of the whole. The reference registers one
 //    handler a promise and waits for all of them.
-#include "Benchmarks/Rows.h"
+#include "Benchmarks/Program.h"
 #include "Controllers/REST/RXPromise.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/Queues/ThreadPool.h"
@@ -17,7 +17,6 @@
 #include <QFuture>
 #include <QPromise>
 #include <QThreadPool>
-#include <benchmark/benchmark.h>
 
 #include <atomic>
 #include <functional>
@@ -181,25 +180,19 @@ void compare(bench::Rows& rows, std::string_view name, double goal, int count, v
     rows.add(name, medians.ours / count, medians.reference / count, goal);
 }
 
+void measureRows(bench::Rows& rows)
+{
+    compare(rows, "promise: create, one then, settle / QPromise and then", 0.5, 20000, oneThen, oneThenOfQPromise);
+    compare(rows, "promise: create, one then, settle / std::promise, no continuation", 1.2, 20000, oneThen,
+            noThenOfStdPromise);
+    compare(rows, "promise: chain of 100 with pool hops / a pool task a link", 2, 100, chain, chainOfPoolTasks);
+    compare(rows, "all: of 1,000 inputs / one then each", 0.5, 20, joined, oneThenEach);
+}
+
 } // namespace
 } // namespace lodestar
 
 int main(int argc, char** argv)
 {
-    using namespace lodestar;
-    bench::Rows rows(argc, argv);
-    if (rows.requested()) {
-        compare(rows, "promise: create, one then, settle / QPromise and then", 0.5, 20000, oneThen, oneThenOfQPromise);
-        compare(rows, "promise: create, one then, settle / std::promise, no continuation", 1.2, 20000, oneThen,
-                noThenOfStdPromise);
-        compare(rows, "promise: chain of 100 with pool hops / a pool task a link", 2, 100, chain, chainOfPoolTasks);
-        compare(rows, "all: of 1,000 inputs / one then each", 0.5, 20, joined, oneThenEach);
-        return rows.write();
-    }
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 1;
-    }
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return lodestar::bench::run(argc, argv, lodestar::measureRows);
 }

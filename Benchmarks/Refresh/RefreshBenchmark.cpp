@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Model/StoreStack.h"
-#include "Benchmarks/Rows.h"
+#include "Benchmarks/Program.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/URLLoading/ServerTrust.h"
 #include "Platform/UserDefaults.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/ScratchFolder.h"
-
-#include <benchmark/benchmark.h>
 
 #include <array>
 #include <cstdio>
@@ -289,15 +287,5 @@ int main(int argc, char** argv)
     if (argc == 4 && std::string_view(argv[1]) == "--look-ups") {
         return lookUpAll(argv[2], argv[3]);
     }
-    bench::Rows rows(argc, argv);
-    if (rows.requested()) {
-        measureRows(rows);
-        return rows.write();
-    }
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 1;
-    }
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return bench::run(argc, argv, measureRows);
 }

@@ -6,10 +6,8 @@
 // same disk, with the same settings; the reference keeps its three statements prepared.
 #include "Application/Model/Corvel.h"
 #include "Application/Model/StoreStack.h"
-#include "Benchmarks/Rows.h"
+#include "Benchmarks/Program.h"
 #include "Tests/ScratchFolder.h"
-
-#include <benchmark/benchmark.h>
 
 #include <cstdlib>
 #include <filesystem>
@@ -161,26 +159,20 @@ void saveEach(benchmark::State& state)
 BENCHMARK(saveEach<Ours>)->Name("save after each of 5,000")->Unit(benchmark::kMillisecond)->UseRealTime();
 BENCHMARK(saveEach<PlainStatements>)->Name("plain statements")->Unit(benchmark::kMillisecond)->UseRealTime();
 
+void measureRows(bench::Rows& rows)
+{
+    const ScratchFolder folder;
+    Ours ours(folder.file("Ours.sqlite"));
+    PlainStatements reference(folder.file("Reference.sqlite"));
+    const auto medians = bench::medianInterleaved(ours, reference, 31);
+    rows.add("save after each of 5,000 consoles / plain statements, same settings", medians.ours / consoles,
+             medians.reference / consoles, 1.3);
+}
+
 } // namespace
 } // namespace lodestar
 
 int main(int argc, char** argv)
 {
-    using namespace lodestar;
-    bench::Rows rows(argc, argv);
-    if (rows.requested()) {
-        const ScratchFolder folder;
-        Ours ours(folder.file("Ours.sqlite"));
-        PlainStatements reference(folder.file("Reference.sqlite"));
-        const auto medians = bench::medianInterleaved(ours, reference, 31);
-        rows.add("save after each of 5,000 consoles / plain statements, same settings", medians.ours / consoles,
-                 medians.reference / consoles, 1.3);
-        return rows.write();
-    }
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 1;
-    }
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return lodestar::bench::run(argc, argv, lodestar::measureRows);
 }
