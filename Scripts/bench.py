@@ -11,6 +11,8 @@ import tempfile
 
 PROGRAMS = ["PromiseBenchmark", "FeedBenchmark", "MetricsBenchmark", "StoreBenchmark", "RefreshBenchmark", "ListBenchmark",
             "ScrollBenchmark", "StartBenchmark", "ChartsBenchmark"]
+# A quarter of an hour and more: run when asked for.
+LONG = ["SoakBenchmark"]
 
 
 def rows_of(program):
@@ -34,11 +36,12 @@ def main():
     parser = argparse.ArgumentParser()
     parser.add_argument("--build", type=pathlib.Path, required=True)
     parser.add_argument("--out", type=pathlib.Path, required=True)
+    parser.add_argument("--long", action="store_true", help="run the long programs as well")
     parser.add_argument("only", nargs="*", help="programs to run instead of all")
     arguments = parser.parse_args()
     rows = []
     print(f"{'row':<58} {'ours':>14} {'reference':>14} {'unit':<5} {'ratio':>7}    {'goal':<6}")
-    for name in arguments.only or PROGRAMS:
+    for name in arguments.only or PROGRAMS + (LONG if arguments.long else []):
         found = rows_of(arguments.build / "bin" / name)
         for row in found:
             print(line(row), flush=True)
