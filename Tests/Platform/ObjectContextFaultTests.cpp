@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Tests/LongRun.h"
 #include "Tests/Platform/StoreFixture.h"
 
 #include <gmock/gmock.h>
@@ -6,6 +7,7 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <fcntl.h>
 #include <random>
 #include <sqlite3.h>
 #include <sys/wait.h>
@@ -22,7 +24,7 @@ using ::testing::AnyOf;
 using ::testing::ElementsAre;
 
 /// Makes SQLite's writes to the disk fail from within the process: the n-th one only, or that and all later ones, as on
-/// a full disk.
+/// a full disk. Or has no file opened for writing, as on a disk that is mounted to be read only.
 class WriteFault
 {
 public:
@@ -34,10 +36,12 @@ public:
         replace("pwrite", reinterpret_cast<sqlite3_syscall_ptr>(&failingPwrite));
         replace("pwrite64", reinterpret_cast<sqlite3_syscall_ptr>(&failingPwrite));
         replace("ftruncate", reinterpret_cast<sqlite3_syscall_ptr>(&failingTruncate));
+        replace("open", reinterpret_cast<sqlite3_syscall_ptr>(&failingOpen));
     }
     ~WriteFault()
     {
         disarm();
+        setReadOnly(false);
         sqlite3_vfs* const vfs = sqlite3_vfs_find("unix");
         vfs->xSetSystemCall(vfs, nullptr, nullptr);
     }
@@ -52,6 +56,7 @@ public:
     }
     static void disarm() { s_left = -1; }
     static int failures() { return s_failures; }
+    static void setReadOnly(bool readOnly) { s_readOnly = readOnly; }
 
 private:
     static void replace(const char* name, sqlite3_syscall_ptr function)
@@ -85,6 +90,16 @@ private:
     }
     static int failingTruncate(int file, off_t size) { return fails() ? -1 : ::ftruncate(file, size); }
 
+    static int failingOpen(const char* file, int flags, int mode)
+    {
+        if (s_readOnly && (flags & O_ACCMODE) != O_RDONLY) {
+            errno = EROFS;
+            return -1;
+        }
+        return ::open(file, flags, mode);
+    }
+
+    static inline bool s_readOnly = false;
     static inline int s_left = -1;
     static inline Kind s_kind = Kind::Once;
     static inline int s_failures = 0;
@@ -168,6 +183,25 @@ TEST_F(ObjectContextFaultTests, AFailedWriteWhileOpeningLeavesNoHalfStore)
     }
 }
 
+TEST_F(ObjectContextFaultTests, AStoreThatCannotBeWrittenIsRefusedAndLeftAsItWas)
+{
+    {
+        const auto context = open();
+        insert(*context, "a");
+        ASSERT_TRUE(context->save().ok());
+    }
+    const WriteFault fault;
+    const auto before = snapshot();
+    WriteFault::setReadOnly(true);
+    const auto opened = ObjectContext::open(path, model());
+    WriteFault::setReadOnly(false);
+    ASSERT_FALSE(opened.ok());
+    EXPECT_EQ(opened.error().domain, storeErrorDomain);
+    EXPECT_THAT(opened.error().code, AnyOf(SQLITE_READONLY, SQLITE_CANTOPEN));
+    EXPECT_EQ(snapshot(), before);
+    EXPECT_THAT(titles(fetch(*open())), ElementsAre("a"));
+}
+
 TEST_F(ObjectContextFaultTests, AKilledProcessKeepsWhatWasAcknowledged)
 {
     {
@@ -177,7 +211,7 @@ TEST_F(ObjectContextFaultTests, AKilledProcessKeepsWhatWasAcknowledged)
         ASSERT_TRUE(context->save().ok());
     }
     std::mt19937 random(20);
-    for (int round = 0; round < 25; ++round) {
+    for (int round = 0; round < rounds(25, 1000); ++round) {
         std::array<int, 2> acknowledgements{};
         ASSERT_EQ(::pipe(acknowledgements.data()), 0);
         const pid_t child = ::fork();
@@ -242,7 +276,7 @@ TEST_F(ObjectContextFaultTests, DamageIsRefusedOrSurvived)
     std::mt19937 random(7);
     int refusals = 0;
     int survivals = 0;
-    for (int round = 0; round < 600; ++round) {
+    for (int round = 0; round < rounds(600, 10'000); ++round) {
         SCOPED_TRACE(round);
         clear();
         auto files = whole;

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <thread>
 
+using testing::AllOf;
 using testing::Contains;
 using testing::Each;
 using testing::ElementsAre;
@@ -319,8 +320,19 @@ TEST_F(InventoryTest, FleetWithBadConsolesRefreshesEachForItself)
         }
     }
     std::vector<RXPromise<std::string>> refreshes;
+    testing::internal::CaptureStdout();
     std::ranges::transform(corvels, std::back_inserter(refreshes), refresh);
-    ASSERT_TRUE(settled(RXPromise<std::string>::all(refreshes)).ok());
+    const bool allSettled = settled(RXPromise<std::string>::all(refreshes)).ok();
+    std::string told = testing::internal::GetCapturedStdout();
+    ASSERT_TRUE(allSettled);
+    for (const std::string& line : takeLines()) {
+        told += line + '\n';
+    }
+    EXPECT_THAT(told, AllOf(HasSubstr("Receiving data"), HasSubstr("Console 4")));
+    for (const std::string& secret : {simulator.password(), defaults().stringForKey(*corvels[4]->address()).value(),
+                                      std::string("<LogonRequest"), std::string("<entry")}) {
+        EXPECT_THAT(told, testing::Not(HasSubstr(secret))) << "neither password nor key nor body is told";
+    }
     for (int i = 0; i < settings.consoles; ++i) {
         SCOPED_TRACE(i);
         const CorvelRef& corvel = corvels[static_cast<std::size_t>(i)];

@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: Apache-2.0
+// The wall clock set forward and back by years while something waits. A program of its own, since it stands in for the
+// process's wall clock.
+#include "Platform/Queues/MainQueue.h"
+#include "Tests/Platform/URLLoadingFixture.h"
+
+#include <gmock/gmock.h>
+
+#include <atomic>
+#include <ctime>
+#include <sys/syscall.h>
+#include <sys/time.h>
+#include <unistd.h>
+
+namespace
+{
+
+std::atomic<std::time_t> jump{0}; ///< seconds
+
+} // namespace
+
+extern "C" {
+int clock_gettime(clockid_t clock, timespec* now) noexcept
+{
+    const long result = ::syscall(SYS_clock_gettime, clock, now);
+    if (result == 0 && (clock == CLOCK_REALTIME || clock == CLOCK_REALTIME_COARSE)) {
+        now->tv_sec += jump;
+    }
+    return static_cast<int>(result);
+}
+std::time_t time(std::time_t* result) noexcept
+{
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME, &now);
+    if (result != nullptr) {
+        *result = now.tv_sec;
+    }
+    return now.tv_sec;
+}
+int gettimeofday(timeval* result, void* /*zone*/) noexcept
+{
+    timespec now{};
+    clock_gettime(CLOCK_REALTIME, &now);
+    *result = {now.tv_sec, now.tv_nsec / 1000};
+    return 0;
+}
+}
+
+namespace lodestar::test
+{
+namespace
+{
+
+using namespace std::chrono_literals;
+using std::chrono::steady_clock;
+using testing::AllOf;
+using testing::Ge;
+using testing::Le;
+
+constexpr std::time_t tenYears = 315'000'000;
+
+TEST_F(URLLoadingTest, DeadlinesDoNotFollowTheWallClock)
+{
+    MainQueue::shared().adoptCurrentThread();
+    simulator::SimulatorProcess simulator{{}};
+    const std::string key = logOn(simulator);
+    const std::time_t before = std::time(nullptr);
+    for (const std::time_t to : {tenYears, -tenYears}) {
+        SCOPED_TRACE(to);
+        jump = 0;
+        simulator.setFault("stallFeed:ManagedSystem");
+        URLRequest request = feedRequest(simulator, key);
+        request.timeout = 1500ms;
+        const auto start = steady_clock::now();
+        const auto delegate = connect(request, Answer::Accept);
+        bool due = false;
+        MainQueue::shared().asyncAfter(100ms, [&due] { due = true; });
+        jump = to;
+        ASSERT_GT(std::abs(std::time(nullptr) - before), tenYears / 2) << "the clock can be set at all";
+        EXPECT_TRUE(MainQueue::shared().runUntil([&due] { return due; }, 60s));
+        EXPECT_THAT(steady_clock::now() - start, AllOf(Ge(100ms), Le(3s)));
+        EXPECT_EQ(codeOf(delegate->outcome()), URLErrorCode::TimedOut);
+        EXPECT_THAT(steady_clock::now() - start, AllOf(Ge(1500ms), Le(4500ms)));
+        simulator.clearFaults();
+        EXPECT_TRUE(loadAsynchronously(feedRequest(simulator, key)).ok()) << "of a server that is known";
+        EXPECT_TRUE(sendSynchronousRequest(feedRequest(simulator, key)).ok());
+    }
+    jump = 0;
+}
+
+} // namespace
+} // namespace lodestar::test
