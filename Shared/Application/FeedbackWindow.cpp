@@ -6,10 +6,13 @@
 #include "Feedback/UI/FeedbackUI.h"
 #include "Feedback/VireoLogger.h"
 #include "Kit/Core/Kit.h"
+#include "Kit/Core/UIFont+System.h"
 #include "Platform/UserDefaults.h"
 #include "Views/Views.h"
 
+#include <QFontMetricsF>
 #include <QKeyEvent>
+#include <QQmlComponent>
 #include <QQmlEngine>
 
 extern void qml_register_types_Lodestar_Application();
@@ -35,6 +38,40 @@ bool isLock(const ViewController* controller)
            UserDefaults::standard().boolForKey("requirePassword");
 }
 
+QUrl mainScene()
+{
+    return QUrl(QStringLiteral("qrc:/Lodestar/Application/MainScene.qml"));
+}
+
+/// An engine that has compiled the window's root. It does so while the typeface is read: a window that stood already
+/// would lay out all its text once more for the new face.
+QQmlEngine* makeEngine()
+{
+    auto* const engine = new QQmlEngine;
+    installApplicationScenes(*engine);
+    // The engine keeps what it has compiled.
+    const QQmlComponent root(engine, mainScene());
+    UIFont::awaitInstalled();
+    return engine;
+}
+
+/// Has the first screen, as it is without a passcode, compiled in the background. The components are the owner's.
+void compileFirstScreen(QQmlEngine& engine, QObject& owner)
+{
+    for (const char* scene : {"qrc:/Lodestar/Kit/TabBarView.qml", "qrc:/Lodestar/Kit/NavigationView.qml",
+                              "qrc:/Lodestar/Views/CorvelListScene.qml"}) {
+        new QQmlComponent(&engine, QUrl(QLatin1String(scene)), QQmlComponent::Asynchronous, &owner);
+    }
+}
+
+/// Loads the face at the sizes of the first screen.
+void loadFirstFaces()
+{
+    for (const double size : {28, 17, 15, 13, 11}) {
+        static_cast<void>(QFontMetricsF(UIFont::systemFontOfSize(size)).horizontalAdvance(u'x'));
+    }
+}
+
 std::unique_ptr<FeedbackWindow>& theWindow()
 {
     static std::unique_ptr<FeedbackWindow> window;
@@ -43,12 +80,14 @@ std::unique_ptr<FeedbackWindow>& theWindow()
 
 } // namespace
 
-FeedbackWindow::FeedbackWindow()
+FeedbackWindow::FeedbackWindow() : QQuickView(makeEngine(), nullptr)
 {
+    compileFirstScreen(*engine(), *this);
+    loadFirstFaces();          // Meanwhile: there is nothing else for this thread to do.
+    engine()->setParent(this); // after them: what was made with an engine goes before it
     setTitle(QStringLiteral("Lodestar"));
     setResizeMode(QQuickView::SizeRootObjectToView);
     setMinimumSize({320, 480});
-    installApplicationScenes(*engine());
 }
 
 FeedbackWindow::~FeedbackWindow() = default;
@@ -89,7 +128,7 @@ void FeedbackWindow::setRootViewController(std::shared_ptr<ViewController> contr
 void FeedbackWindow::loadInterface()
 {
     setInitialProperties({{QStringLiteral("window"), QVariant::fromValue(this)}});
-    setSource(QUrl(QStringLiteral("qrc:/Lodestar/Application/MainScene.qml")));
+    setSource(mainScene());
 }
 
 void FeedbackWindow::motionBegan(EventType type, EventSubtype subtype)

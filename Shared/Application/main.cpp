@@ -95,12 +95,12 @@ int main(int argc, char** argv)
     QGuiApplication::setApplicationVersion(QStringLiteral(LODESTAR_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.ornis.Lodestar"));
     const Options options = parseOptions(application);
+    UIFont::install();
 
     const MainLoop mainLoop;
     const TerminationSignals terminationSignals([] { QGuiApplication::quit(); });
     const QString dataFolder = makeDataFolder(options.dataFolder);
     installPlatform(dataFolder);
-    UIFont::install();
 
     AppDelegate delegate;
     registerMainStoryboard([&delegate](std::shared_ptr<ViewController> root) {

@@ -30,6 +30,7 @@ double systemTextScale()
 
 Appearance::Appearance()
 {
+    UIFont::awaitInstalled();
     QGuiApplication::instance()->installEventFilter(this);
     QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
 }

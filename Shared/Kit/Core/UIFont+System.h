@@ -6,7 +6,8 @@
 namespace lodestar
 {
 
-/// The application's one typeface. A size in points is a size in the scene's units, so it becomes a pixel size.
+/// The application's one typeface. A size in points is a size in the scene's units, so it becomes a pixel size. Main
+/// thread.
 struct UIFont {
     /// "Avenir Book" at the size.
     static QFont systemFontOfSize(double size);
@@ -14,9 +15,11 @@ struct UIFont {
     static QFont boldSystemFontOfSize(double size);
     static QFont fontWithName(const QString& family, double size);
 
-    /// Brings the faces that stand in for the named ones into the process and makes the system font the default. Call
-    /// once the application object stands; later calls do nothing.
+    /// Makes the system font the default and starts bringing the faces that stand in for the named ones into the
+    /// process, on a thread of its own. Call once the application object stands; later calls do nothing.
     static void install();
+    /// Returns when the faces are there. The functions above and the first use of `Appearance` wait by themselves.
+    static void awaitInstalled();
 };
 
 } // namespace lodestar
