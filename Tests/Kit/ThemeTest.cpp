@@ -145,4 +145,34 @@ TEST_F(ThemeTest, EveryDrawingIsReadAndTinted)
     EXPECT_TRUE(provider.requestImage("nonesuch/ff0000", nullptr, {}).isNull());
 }
 
+TEST_F(ThemeTest, WhatIsNotSeenIsNeitherDrawnNorMade)
+{
+    QQmlComponent component(&m_engine);
+    component.setData(R"(
+        import QtQuick
+        import Lodestar.Kit
+        Item {
+            id: page
+            property bool shown: false
+            readonly property url source: icon.source
+            readonly property Item made: (nothing.children[0] as Loader).item
+            readonly property string spoken: nothing.Accessible.name
+            Item { visible: page.shown; Icon { id: icon; name: "search" } }
+            NoContent { id: nothing; visible: page.shown; text: "Nothing"; secondText: "at all" }
+        })",
+                      QUrl(QStringLiteral("qrc:/kit/Seen.qml")));
+    const std::unique_ptr<QObject> page(component.create());
+    ASSERT_NE(page, nullptr) << component.errorString().toStdString();
+    EXPECT_TRUE(page->property("source").toUrl().isEmpty());
+    EXPECT_EQ(page->property("made").value<QObject*>(), nullptr);
+    EXPECT_EQ(page->property("spoken").toString(), "Nothing\nat all");
+    page->setProperty("shown", true);
+    EXPECT_EQ(page->property("source").toUrl().scheme(), "image");
+    const QObject* const made = page->property("made").value<QObject*>();
+    EXPECT_NE(made, nullptr);
+    page->setProperty("shown", false);
+    EXPECT_TRUE(page->property("source").toUrl().isEmpty());
+    EXPECT_EQ(page->property("made").value<QObject*>(), made);
+}
+
 } // namespace lodestar

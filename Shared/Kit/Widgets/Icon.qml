@@ -16,7 +16,8 @@ Image {
 
     width: size
     height: size
-    source: name === "" ? "" : "image://icon/" + name + "/" + color.toString().substring(1)
+    // What is not seen is not drawn either.
+    source: name === "" || !visible ? "" : "image://icon/" + name + "/" + color.toString().substring(1)
     sourceSize.width: pixels
     sourceSize.height: pixels
     mirror: directional && Theme.mirrored

@@ -12,8 +12,14 @@ Text {
     /// Bars stop growing earlier than the rest.
     property real scaleFactor: Theme.textScale
 
-    readonly property int drawnSize: fontSizeMode === Text.FixedSize ? font.pixelSize : fontInfo.pixelSize
+    readonly property bool shrinks: fontSizeMode !== Text.FixedSize
+    readonly property int drawnSize: shrinks ? fittedSize() : font.pixelSize
     readonly property real drop: Appearance.textDrop(drawnSize, lineHeight, Screen.devicePixelRatio)
+
+    /// Apart from the binding, which would not be compiled with it.
+    function fittedSize(): int {
+        return fontInfo.pixelSize;
+    }
 
     color: Theme.ink
     font.family: Theme.family

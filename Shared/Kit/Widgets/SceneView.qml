@@ -11,6 +11,8 @@ FocusScope {
     property alias controller: host.controller
     property alias reportsAppearance: host.reportsAppearance
     readonly property alias scene: host.scene
+    /// What the scene stands in, for the sheet that is over it.
+    readonly property alias body: host
 
     SceneHost {
         id: host
@@ -18,15 +20,6 @@ FocusScope {
         anchors.fill: parent
         focus: true
     }
-    Component {
-        id: sheetComponent
-
-        SemiModalSheet {
-            presentation: view.presentation
-            underlay: host
-        }
-    }
-
     readonly property SemiModalPresentation presentation: controller !== null ? controller.semiModal : null
     property bool hasSheet: false
 
@@ -34,7 +27,8 @@ FocusScope {
         // Once made it stays: it slides out after the presentation has gone.
         if (presentation !== null && !hasSheet) {
             hasSheet = true;
-            sheetComponent.createObject(view);
+            // By address: naming the type would have every screen wait for it to be compiled.
+            Qt.createComponent("SemiModalSheet.qml").createObject(view, {"view": view});
         }
     }
 

@@ -9,9 +9,10 @@ import Lodestar.Kit
 T.Popup {
     id: sheet
 
-    property SemiModalPresentation presentation: null
-    /// What steps back while the sheet is up, if the presentation wants it.
-    property Item underlay: null
+    /// The screen: what it puts up is shown, and it steps back meanwhile if the presentation wants it.
+    required property SceneView view
+    readonly property SemiModalPresentation presentation: view.presentation
+    readonly property Item underlay: view.body
 
     readonly property SheetContent sheetContent: host.scene as SheetContent
     readonly property int barHeight: Math.max(Theme.target, Math.round(22 * Theme.barScale) + 16)

@@ -114,8 +114,11 @@ Item {
             /// Points a second, towards the end of the row.
             property real speed: 0
 
+            // Joined with | it would be interpreted, and the first interpreted look at Qt has all its names read.
+            readonly property int leftOrRight: Qt.LeftButton + Qt.RightButton
+
             anchors.fill: parent
-            acceptedButtons: Qt.LeftButton | Qt.RightButton
+            acceptedButtons: leftOrRight
             hoverEnabled: true
             drag.target: cell.hasButtons ? handle : null
             drag.axis: Drag.XAxis

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+
+/// What a NoContent draws.
+Item {
+    id: body
+
+    required property NoContent view
+
+    Column {
+        anchors.centerIn: parent
+        anchors.verticalCenterOffset: -30
+        width: Math.min(280 * Theme.textScale, parent.width - 80)
+
+        Icon {
+            name: body.view.imageOutlet !== null ? body.view.imageOutlet.imageName : body.view.picture
+            size: 96
+            color: Theme.ink3
+            anchors.horizontalCenter: parent.horizontalCenter
+        }
+        Item {
+            width: 1
+            height: 20
+        }
+        Label {
+            visible: text !== ""
+            text: body.view.headline
+            width: parent.width
+            bottomPadding: 4 - drop
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+        Label {
+            text: body.view.lines
+            size: Theme.stateSize
+            color: Theme.ink2
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+        Label {
+            visible: text !== "" && (body.view.secondLabelOutlet === null || !body.view.secondLabelOutlet.hidden)
+            text: body.view.secondLines
+            size: Theme.stateSize
+            color: Theme.ink2
+            width: parent.width
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
+            Accessible.ignored: true
+        }
+        PlainButton {
+            visible: text !== ""
+            text: body.view.actionText
+            anchors.horizontalCenter: parent.horizontalCenter
+            onClicked: body.view.action()
+        }
+    }
+}
