@@ -14,7 +14,7 @@ namespace lodestar
 ///
 /// Over the passcode screen it knows nothing of what lies behind the lock: the report gets no log, and the reports that
 /// were made before cannot be reached from it.
-class FeedbackViewController : public ViewController
+class FeedbackViewController : public lodestar::ViewController
 {
     Q_OBJECT
     QML_ELEMENT

@@ -27,7 +27,7 @@ public:
 };
 
 /// The reports on this device, youngest first.
-class ReportListViewController : public ViewController
+class ReportListViewController : public lodestar::ViewController
 {
     Q_OBJECT
     QML_ELEMENT

@@ -13,7 +13,7 @@ namespace lodestar
 
 /// A report's texts and picture, to be read: before it is sent, with the button that sends it; or one that was kept,
 /// with the ways to hand it on and to delete it.
-class ReportViewController : public ViewController
+class ReportViewController : public lodestar::ViewController
 {
     Q_OBJECT
     QML_ELEMENT
