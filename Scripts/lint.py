@@ -132,7 +132,7 @@ def check_tidy(source, build):
         file = pathlib.Path(command["file"])
         if not any(file.is_relative_to(source / folder) for folder in ("Shared", "Simulator", "Benchmarks")):
             continue
-        digest = hashlib.sha256(config + command["command"].encode())
+        digest = hashlib.sha256(config + command["command"].replace(str(source), "").encode())
         for dependency in sorted({str(file), *objects.get(command.get("output", ""), [])}):
             path = pathlib.Path(os.path.join(build, dependency))
             if path.is_relative_to(source) and path.is_file():
