@@ -70,7 +70,8 @@ protected:
         return screen;
     }
     /// What is read in the background has been read when nobody else holds the screen.
-    static bool waitUntilRead(const std::shared_ptr<ViewController>& screen)
+    template <typename Screen>
+    static bool waitUntilRead(const std::shared_ptr<Screen>& screen)
     {
         return runUntil([&] { return screen.use_count() == 1; });
     }
@@ -129,8 +130,8 @@ TEST_F(AboutTest, ALongTextIsCutIntoPiecesThatAreItAgain)
         EXPECT_LE(piece.size(), 4000);
     }
     // Only inside the line that is too long were feeds added.
+    EXPECT_TRUE(whole.endsWith(text.mid(text.indexOf(QLatin1String("\n\nParagraph 0,")))));
     EXPECT_EQ(whole.remove(QLatin1Char('\n')), text.remove(QLatin1Char('\n')));
-    EXPECT_TRUE(outlet.pieces().last().endsWith(QLatin1String("of two lines.\n\n")));
 }
 
 TEST_F(AboutTest, MarkupEscapesScalesAndStaysReadable)

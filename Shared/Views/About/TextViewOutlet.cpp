@@ -3,8 +3,6 @@
 
 #include "Kit/Core/OnMain.h"
 
-#include <QMetaObject>
-
 #include <utility>
 
 namespace lodestar
@@ -41,7 +39,11 @@ void TextViewOutlet::setAttributedText(const QString& text)
     onMain(this, [text](TextViewOutlet& outlet) {
         outlet.m_attributedText = text;
         if (!std::exchange(outlet.m_willCut, true)) {
-            QMetaObject::invokeMethod(&outlet, "cut", Qt::QueuedConnection);
+            MainQueue::shared().async([guard = QPointer<TextViewOutlet>(&outlet)] {
+                if (guard) {
+                    guard->cut();
+                }
+            });
         }
     });
 }

@@ -22,14 +22,14 @@ public:
     void setAttributedText(const QString& text);
 
     /// The text in pieces of some paragraphs each, line feeds between: an item that drew it whole would take seconds.
-    /// They follow the text before the next event is handled, however often it was set.
+    /// They follow the text once the main queue comes to it, however often it was set meanwhile.
     const QStringList& pieces() const { return m_pieces; }
 
 Q_SIGNALS:
     void piecesChanged();
 
 private:
-    Q_INVOKABLE void cut();
+    void cut();
 
     QString m_attributedText;
     QStringList m_pieces;
