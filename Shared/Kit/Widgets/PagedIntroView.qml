@@ -10,8 +10,9 @@ import Lodestar.Kit
 T.Popup {
     id: view
 
-    property PagedIntro intro: null
-    required property Item over
+    /// The screen that it lies over, which has the intro.
+    required property SceneView over
+    readonly property PagedIntro intro: over.intro
 
     // A popup opens in a window only, and the first screen is made before it is put into one.
     readonly property bool wanted: intro !== null && intro.presented && over.Window.window !== null

@@ -38,11 +38,8 @@ FocusScope {
     function makeIntro() {
         if (intro !== null && !hasIntro) {
             hasIntro = true;
-            // By name: most starts show none, and need not load it.
-            Qt.createComponent("PagedIntroView.qml").createObject(view, {
-                "over": view,
-                "intro": Qt.binding(() => view.intro)
-            });
+            // By address: most starts show none, and need not load it.
+            Qt.createComponent("PagedIntroView.qml").createObject(view, {"over": view});
         }
     }
 
