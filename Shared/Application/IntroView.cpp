@@ -36,10 +36,10 @@ std::vector<IntroPage> IntroView::pages()
          tr("Find a system by name. Badges tell errors and lit attention LEDs.")},
         {pictureNamed(QStringLiteral("ts4")), tr("Down to the partition"),
          tr("Partitions and virtual I/O servers stand under the system that runs them.")},
-        {pictureNamed(QStringLiteral("ts5")), tr("Every fact at hand"),
-         tr("Models, serial numbers, versions and reference codes are one tap away.")},
-        {pictureNamed(QStringLiteral("ts6")), tr("Events as they stand"),
-         tr("See what the consoles report. Lodestar reads only and changes nothing.")},
+        {pictureNamed(QStringLiteral("ts5")), tr("Load over time"),
+         tr("Processors and memory of a system, total, allocated and used, as lines.")},
+        {pictureNamed(QStringLiteral("ts6")), tr("Behind a passcode"),
+         tr("Lock Lodestar if you like. It reads only and changes nothing on a console.")},
     };
 }
 

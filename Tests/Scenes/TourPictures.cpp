@@ -10,8 +10,13 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <algorithm>
 #include <cstdio>
-#include <functional>
+#include <cstdlib>
+#include <map>
+#include <stdexcept>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace lodestar::scenes
@@ -23,6 +28,8 @@ namespace
 // counts on their place.
 constexpr QSize pageSize(390, 844);
 constexpr QRectF screenFrame(45, 64, 300, 500);
+// What of it stands above the tab bar has the frame's proportions.
+constexpr QSize screenSize(390, 706);
 constexpr double wordsTop = 676;
 constexpr double wordsWidth = 316;
 constexpr int headingSize = 28;
@@ -34,30 +41,34 @@ const QColor night("#0B2236");
 const QColor wordsColor("#BFD3E3");
 const QColor starColor("#9AD6F8");
 
-using Scene = std::function<void(SceneStage&)>;
-
-std::vector<Scene> scenesOfPages()
+Look lookNamed(std::string_view name, const std::vector<Look>& looks)
 {
-    const auto list = [](const char* identifier) {
-        return [identifier](SceneStage& stage) { stage.openList(identifier, {.corvel = demoConsole()}); };
-    };
+    const auto found = std::find_if(looks.begin(), looks.end(), [name](const Look& look) { return look.name == name; });
+    if (found == looks.end()) {
+        throw std::logic_error("no look is called " + std::string(name));
+    }
+    return *found;
+}
+
+/// The screens of the tour's pages, in their order.
+std::vector<Look> looksOfPages()
+{
+    std::vector<ConsoleLook> fetched = fleet();
+    for (ConsoleLook& console : fetched) {
+        console.state = console.state == ConsoleLook::State::Fetching ? ConsoleLook::State::Online : console.state;
+    }
     return {
-        [](SceneStage&) {},
-        [](SceneStage& stage) {
-            stage.showDashboard();
-            stage.waitFor([&] { return !stage.dashboard().corvelOnlineCount()->isHidden(); });
-            stage.settle(1900);
-        },
-        list("managedSystemsView"),
-        list("logicalPartitionsView"),
-        [](SceneStage& stage) {
-            const XMLElement system = feedOfType(*demoConsole(), ObjectType::ManagedSystem)
-                                          .entries()
-                                          .front()
-                                          .path({"content", "ManagedSystem"});
-            stage.open("managedSystemInfo", {.corvel = demoConsole(), .rootXML = system});
-        },
-        list("serviceableEventsView"),
+        {"list", fetched, [](SceneStage&) {}},
+        {"dashboard", fetched,
+         [](SceneStage& stage) {
+             stage.showDashboard();
+             stage.waitFor([&] { return !stage.dashboard().corvelOnlineCount()->isHidden(); });
+             stage.settle(1900);
+         }},
+        lookNamed("managed-systems", inventoryLooks()),
+        lookNamed("partitions", groupedLooks()),
+        lookNamed("performance-processors", performanceLooks()),
+        lookNamed("settings-on", lockLooks()),
     };
 }
 
@@ -143,19 +154,47 @@ QImage makePage(const QImage& screen, const IntroPage& page)
     return image;
 }
 
+/// The picture in 256 colours, which takes a third of the room: the most frequent ones, none too close to another.
+/// Screens are flat, so that what is left to be replaced is the edges of letters.
+QImage withPalette(const QImage& image)
+{
+    std::map<QRgb, int> counts;
+    for (int y = 0; y < image.height(); ++y) {
+        const auto* const line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+        std::for_each(line, line + image.width(), [&](QRgb color) { ++counts[color]; });
+    }
+    std::vector<std::pair<QRgb, int>> colors(counts.begin(), counts.end());
+    std::stable_sort(colors.begin(), colors.end(),
+                     [](const auto& left, const auto& right) { return left.second > right.second; });
+    const auto isClose = [](QRgb left, QRgb right) {
+        return std::max({std::abs(qRed(left) - qRed(right)), std::abs(qGreen(left) - qGreen(right)),
+                         std::abs(qBlue(left) - qBlue(right))}) <= 5;
+    };
+    QList<QRgb> palette;
+    for (const auto& [color, count] : colors) {
+        if (palette.size() < 256 &&
+            std::none_of(palette.begin(), palette.end(), [&](QRgb chosen) { return isClose(chosen, color); })) {
+            palette.append(color);
+        }
+    }
+    return image.convertToFormat(QImage::Format_Indexed8, palette, Qt::ThresholdDither);
+}
+
 } // namespace
 
 bool writeTourPictures(SceneStage& stage, const QDir& folder)
 {
     Appearance::shared().overrideDark(false);
-    const std::vector<Scene> scenes = scenesOfPages();
+    const std::vector<Look> looks = looksOfPages();
     const std::vector<IntroPage> pages = IntroView::pages();
     for (std::size_t i = 0; i < pages.size(); ++i) {
-        stage.show(pageSize, fleet());
-        scenes.at(i)(stage);
+        const Look& look = looks.at(i);
+        stage.show(screenSize, look.consoles);
+        look.prepare(stage);
         stage.settle();
+        const QImage picture = withPalette(makePage(stage.grab(), pages[i]));
         const QString file = folder.filePath(QStringLiteral("ts%1.png").arg(i + 1));
-        if (!makePage(stage.grab(), pages[i]).save(file, "PNG", 0)) {
+        if (!picture.save(file, "PNG", 0)) {
             std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
             return false;
         }
