@@ -48,6 +48,8 @@ std::map<std::string, std::string>& demoFeeds()
 
 void ViewsTest::SetUp()
 {
+    // Else whichever thread comes to the queue first is the main one.
+    MainQueue::shared().adoptCurrentThread();
     demoFeeds() = {{"ManagementConsole", console},
                    {"ManagedSystem", systems},
                    {"VirtualIOServer", "<feed/>"},
