@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Benchmarks/Rows.h"
+#include "Benchmarks/Program.h"
 #include "Charts/LineChartView.h"
 #include "Charts/PlotRenderer.h"
 
@@ -11,11 +11,9 @@
 #include <QLineSeries>
 #include <QPainter>
 #include <QValueAxis>
-#include <benchmark/benchmark.h>
 
 #include <array>
 #include <cmath>
-#include <stdexcept>
 #include <string>
 
 // Three lines of so many samples as the performance screen shows them, drawn into an image of a phone's chart at two
@@ -48,8 +46,8 @@ QImage emptyImage()
     return image;
 }
 
-/// Pixels that are not white: a drawing that drew nothing is no figure to be held against.
-int inkOf(const QImage& image)
+/// A drawing that drew nothing is no figure to be held against.
+void requireInk(const QImage& image)
 {
     int found = 0;
     for (int y = 0; y < image.height(); ++y) {
@@ -57,7 +55,7 @@ int inkOf(const QImage& image)
             found += image.pixelColor(x, y).lightness() < 240 ? 1 : 0;
         }
     }
-    return found;
+    bench::require(found >= 2000, "nothing was drawn");
 }
 
 class Ours
@@ -173,13 +171,6 @@ private:
     QImage m_image = emptyImage();
 };
 
-void requireInk(const QImage& image)
-{
-    if (inkOf(image) < 2000) {
-        throw std::runtime_error("nothing was drawn");
-    }
-}
-
 void addRow(bench::Rows& rows, int count, double goal)
 {
     Ours ours(count);
@@ -228,18 +219,11 @@ void redraw(benchmark::State& state)
 }
 BENCHMARK(redraw)->Arg(240)->Arg(24'000)->Arg(1'000'000)->Unit(benchmark::kMicrosecond);
 
-int run(int argc, char** argv)
+void measureRows(bench::Rows& rows)
 {
-    bench::Rows rows(argc, argv);
-    if (rows.requested()) {
-        addRow(rows, 240, 1.0);
-        addRow(rows, 24'000, 0.15);
-        addMillion(rows);
-        return rows.write();
-    }
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    addRow(rows, 240, 1.0);
+    addRow(rows, 24'000, 0.15);
+    addMillion(rows);
 }
 
 } // namespace
@@ -249,5 +233,5 @@ int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    return lodestar::run(argc, argv);
+    return lodestar::bench::run(argc, argv, lodestar::measureRows);
 }

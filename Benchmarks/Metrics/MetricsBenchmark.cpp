@@ -1,15 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 // What it costs to make a chart's series of the metrics of a system with many partitions, beside the parser alone on
 // the same bytes: a fresh parser each time, as a client that fetches one document has it.
-#include "Benchmarks/Rows.h"
+#include "Benchmarks/Program.h"
 #include "Simulator/Metrics.h"
 #include "Views/ManagedSystems/PCM/MetricsReduction.h"
 
-#include <benchmark/benchmark.h>
 #include <simdjson.h>
 
-#include <cstdio>
-#include <cstdlib>
 #include <malloc.h>
 
 namespace lodestar
@@ -18,14 +15,6 @@ namespace
 {
 
 constexpr std::size_t samples = 240;
-
-void check(bool holds, const char* what)
-{
-    if (!holds) {
-        std::fprintf(stderr, "%s\n", what);
-        std::abort();
-    }
-}
 
 const std::string& large()
 {
@@ -49,10 +38,10 @@ double ours()
 {
     return timed([] {
         const auto document = MetricsDocument::parse(large());
-        check(document.ok(), "the document can be parsed");
+        bench::require(document.ok(), "the document cannot be parsed");
         const MetricsReduction reduction =
             reduceMetrics(document.value().root().path({"systemUtil", "utilSamples"}), MetricsSegment::Processors);
-        check(reduction.points.size() == samples, "every sample is there");
+        bench::require(reduction.points.size() == samples, "samples are missing");
     });
 }
 
@@ -60,7 +49,7 @@ double parserAlone()
 {
     return timed([] {
         simdjson::dom::parser parser;
-        check(parser.parse(large()).error() == simdjson::SUCCESS, "the parser can parse the document");
+        bench::require(parser.parse(large()).error() == simdjson::SUCCESS, "the parser cannot parse the document");
     });
 }
 
@@ -78,23 +67,16 @@ BENCHMARK_CAPTURE(run, parserAlone, &parserAlone)
     ->Unit(benchmark::kMillisecond)
     ->UseManualTime();
 
+void measureRows(bench::Rows& rows)
+{
+    const auto medians = bench::medianInterleaved(&ours, &parserAlone, 31);
+    rows.add("metrics of 240 samples, 12 MB: parse and reduce / parser alone", medians.ours, medians.reference, 1.5);
+}
+
 } // namespace
 } // namespace lodestar
 
 int main(int argc, char** argv)
 {
-    using namespace lodestar;
-    bench::Rows rows(argc, argv);
-    if (rows.requested()) {
-        const auto medians = bench::medianInterleaved(&ours, &parserAlone, 31);
-        rows.add("metrics of 240 samples, 12 MB: parse and reduce / parser alone", medians.ours, medians.reference,
-                 1.5);
-        return rows.write();
-    }
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 1;
-    }
-    benchmark::RunSpecifiedBenchmarks();
-    return 0;
+    return lodestar::bench::run(argc, argv, lodestar::measureRows);
 }

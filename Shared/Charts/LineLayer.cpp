@@ -1,7 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Charts/LineLayer.h"
 
+#include "Charts/LineMask.h"
+
+#include <QLineF>
 #include <QPainter>
+#include <QPolygonF>
 
 #include <algorithm>
 #include <cmath>
@@ -95,6 +99,91 @@ private:
     bool m_lastSteep = false;
 };
 
+/// One line, drawn anew.
+class LineDrawing
+{
+public:
+    LineDrawing(const LineChartDataSet& dataSet, const PlotSeries& series, const PlotCanvas& canvas,
+                const QColor& color)
+        : m_dataSet(dataSet), m_canvas(canvas), m_color(color), m_isSingle(series.size() == 1)
+    {
+        const PlotTransform& transform = canvas.transform;
+        const auto [first, last] = rangeInView(series, transform);
+        if (static_cast<double>(last - first) > denseFrom * transform.plot.width() * canvas.pixelRatio) {
+            Reduction(series, transform, canvas.pixelRatio, dataSet.lineWidth).run(m_columns, m_pieces);
+            return;
+        }
+        m_points.reserve(last - first);
+        m_pieces.reserve(last - first);
+        for (qsizetype i = first; i < last; ++i) {
+            m_points << pointOf(series.at(i), transform);
+            if (i > first) {
+                m_pieces << QLineF(m_points.at(m_points.size() - 2), m_points.constLast());
+            }
+        }
+    }
+
+    void draw(QPainter& painter) const
+    {
+        if (!m_columns.empty()) {
+            LineMask(m_columns, m_color, m_canvas.pixelRatio).draw(painter);
+        }
+        if (m_isSingle) {
+            painter.setPen(Qt::NoPen);
+            painter.setBrush(m_color);
+            // A single value is no line, but is not to be overlooked.
+            const double radius = std::max(m_dataSet.lineWidth, 1.5);
+            painter.drawEllipse(m_points.constFirst(), radius, radius);
+        }
+        drawStrokes(painter);
+        drawCircles(painter);
+    }
+
+private:
+    void drawStrokes(QPainter& painter) const
+    {
+        const double width = m_dataSet.lineWidth;
+        if (!(width > 0)) {
+            return;
+        }
+        painter.setBrush(Qt::NoBrush);
+        if (m_points.isEmpty() || (width <= thin && m_color.alpha() == 255)) {
+            // Piece by piece takes a tenth of the time of a joined outline and looks the same, unless it is wide
+            // enough to show its corners or lets what lies doubly beneath them be seen.
+            painter.setPen(QPen(m_color, width, Qt::SolidLine, Qt::SquareCap));
+            painter.drawLines(m_pieces);
+        } else {
+            painter.setPen(QPen(m_color, width, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
+            painter.drawPolyline(m_points);
+        }
+    }
+
+    void drawCircles(QPainter& painter) const
+    {
+        const double radius = m_dataSet.circleRadius;
+        if (!(radius > 0)) {
+            return;
+        }
+        painter.setPen(Qt::NoPen);
+        for (const QPointF& point : m_points) {
+            painter.setBrush(m_color);
+            painter.drawEllipse(point, radius, radius);
+            if (m_dataSet.drawCircleHoleEnabled) {
+                painter.setBrush(m_canvas.style.cardColor);
+                painter.drawEllipse(point, radius / 2, radius / 2);
+            }
+        }
+    }
+
+    const LineChartDataSet& m_dataSet;
+    const PlotCanvas& m_canvas;
+    QColor m_color;
+    bool m_isSingle;
+    QPolygonF m_points;
+    QList<QLineF> m_pieces; // From point to point, or across what has no columns.
+    std::vector<QRectF> m_columns;
+};
+
 } // namespace
 
 LineLayer::LineLayer(const QList<LineChartDataSet>& dataSets)
@@ -118,29 +207,33 @@ const PlotSeries& LineLayer::series(qsizetype position) const
     return m_lines.at(static_cast<std::size_t>(position)).series;
 }
 
-void LineLayer::prepare(const Line& line, const PlotCanvas& canvas)
+void LineLayer::update(const PlotCanvas& canvas) const
 {
-    if (line.transform == canvas.transform && line.pixelRatio == canvas.pixelRatio) {
+    QList<QColor> colors;
+    for (const Line& line : m_lines) {
+        colors << canvas.colorOf(line.dataSet, colors.size());
+    }
+    const QColor& cardColor = canvas.style.cardColor;
+    if (m_picture.transform == canvas.transform && m_picture.pixelRatio == canvas.pixelRatio &&
+        m_picture.colors == colors && m_picture.cardColor == cardColor) {
         return;
     }
-    line.transform = canvas.transform;
-    line.pixelRatio = canvas.pixelRatio;
-    line.points.clear();
-    line.pieces.clear();
-    line.columns.clear();
-    line.mask = {};
-    const auto [first, last] = rangeInView(line.series, canvas.transform);
-    if (static_cast<double>(last - first) > denseFrom * canvas.transform.plot.width() * canvas.pixelRatio) {
-        Reduction(line.series, canvas.transform, canvas.pixelRatio, line.dataSet.lineWidth)
-            .run(line.columns, line.pieces);
-        return;
+    const double ratio = canvas.pixelRatio;
+    const QRectF shown = canvas.transform.plot.adjusted(-beyond, -beyond, beyond, beyond);
+    const QRect pixels = QRectF(shown.topLeft() * ratio, shown.size() * ratio).toAlignedRect();
+    m_picture = {canvas.transform, ratio, colors, cardColor, pixels.topLeft(), std::move(m_picture.image)};
+    if (m_picture.image.size() != pixels.size()) {
+        m_picture.image = QImage(pixels.size(), QImage::Format_ARGB32_Premultiplied);
     }
-    line.points.reserve(last - first);
-    line.pieces.reserve(last - first);
-    for (qsizetype i = first; i < last; ++i) {
-        line.points << pointOf(line.series.at(i), canvas.transform);
-        if (i > first) {
-            line.pieces << QLineF(line.points.at(line.points.size() - 2), line.points.constLast());
+    m_picture.image.fill(Qt::transparent);
+    QPainter painter(&m_picture.image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.translate(-pixels.topLeft());
+    painter.scale(ratio, ratio);
+    for (std::size_t i = 0; i < m_lines.size(); ++i) {
+        const Line& line = m_lines[i];
+        if (!line.series.isEmpty()) {
+            LineDrawing(line.dataSet, line.series, canvas, colors.at(static_cast<qsizetype>(i))).draw(painter);
         }
     }
 }
@@ -152,6 +245,7 @@ void LineLayer::draw(QPainter& painter, const PlotCanvas& canvas) const
     if (grown <= 0) {
         return;
     }
+    update(canvas);
     painter.save();
     if (grown < 1) {
         const double end = canvas.transform.toX(canvas.wholeX.from + grown * canvas.wholeX.length());
@@ -159,65 +253,10 @@ void LineLayer::draw(QPainter& painter, const PlotCanvas& canvas) const
         shown.setRight(std::max(end, shown.left()));
         painter.setClipRect(shown, Qt::IntersectClip);
     }
-    for (std::size_t i = 0; i < m_lines.size(); ++i) {
-        const Line& line = m_lines[i];
-        const double width = line.dataSet.lineWidth;
-        if (line.series.isEmpty()) {
-            continue;
-        }
-        prepare(line, canvas);
-        const QColor color = canvas.colorOf(line.dataSet, static_cast<qsizetype>(i));
-        if (!line.columns.empty()) {
-            if (line.mask.isEmpty() || line.mask.color() != color) {
-                line.mask = LineMask(line.columns, color, canvas.pixelRatio);
-            }
-            line.mask.draw(painter);
-        }
-        if (line.series.size() == 1) {
-            painter.setPen(Qt::NoPen);
-            painter.setBrush(color);
-            const double radius = std::max(width, 1.5); // A single value is no line, but is not to be overlooked.
-            painter.drawEllipse(line.points.constFirst(), radius, radius);
-        }
-        drawStrokes(painter, line, color);
-        drawCircles(painter, line, color, canvas);
-    }
+    // In device pixels the picture is copied as it is; in points it would be scaled, which takes far longer.
+    painter.scale(1 / canvas.pixelRatio, 1 / canvas.pixelRatio);
+    painter.drawImage(m_picture.position, m_picture.image);
     painter.restore();
-}
-
-void LineLayer::drawStrokes(QPainter& painter, const Line& line, const QColor& color)
-{
-    const double width = line.dataSet.lineWidth;
-    if (!(width > 0)) {
-        return;
-    }
-    painter.setBrush(Qt::NoBrush);
-    if (line.points.isEmpty() || (width <= thin && color.alpha() == 255)) {
-        // Piece by piece takes a tenth of the time of a joined outline and looks the same, unless it is wide enough to
-        // show its corners or lets what lies doubly beneath them be seen.
-        painter.setPen(QPen(color, width, Qt::SolidLine, Qt::SquareCap));
-        painter.drawLines(line.pieces);
-    } else {
-        painter.setPen(QPen(color, width, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin));
-        painter.drawPolyline(line.points);
-    }
-}
-
-void LineLayer::drawCircles(QPainter& painter, const Line& line, const QColor& color, const PlotCanvas& canvas)
-{
-    const double radius = line.dataSet.circleRadius;
-    if (!(radius > 0)) {
-        return;
-    }
-    painter.setPen(Qt::NoPen);
-    for (const QPointF& point : line.points) {
-        painter.setBrush(color);
-        painter.drawEllipse(point, radius, radius);
-        if (line.dataSet.drawCircleHoleEnabled) {
-            painter.setBrush(canvas.style.cardColor);
-            painter.drawEllipse(point, radius / 2, radius / 2);
-        }
-    }
 }
 
 } // namespace lodestar

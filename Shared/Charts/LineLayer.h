@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Charts/LineMask.h"
 #include "Charts/PlotLayer.h"
 
-#include <QLineF>
-#include <QPolygonF>
+#include <QImage>
 
 #include <vector>
 
@@ -14,7 +12,8 @@ namespace lodestar
 
 /// A plot's lines. A line with more entries in view than pixel columns is drawn as the span from the least to the
 /// greatest value of every column, which the eye cannot tell from the line itself and which takes the same time for any
-/// number of entries; any other line is drawn point by point.
+/// number of entries; any other line is drawn point by point. The lines are kept as a picture until they would look
+/// different, so that growing in, selecting and limit lines redraw none of them.
 class LineLayer : public PlotLayer
 {
 public:
@@ -29,20 +28,22 @@ private:
     struct Line {
         LineChartDataSet dataSet;
         PlotSeries series;
-        // What was drawn last, kept until the zoom, the place or the size changes.
-        mutable PlotTransform transform;
-        mutable double pixelRatio = 0;
-        mutable QPolygonF points;
-        mutable QList<QLineF> pieces; ///< From point to point, or across what has no columns.
-        mutable std::vector<QRectF> columns;
-        mutable LineMask mask; ///< Of the columns.
     };
 
-    static void prepare(const Line& line, const PlotCanvas& canvas);
-    static void drawStrokes(QPainter& painter, const Line& line, const QColor& color);
-    static void drawCircles(QPainter& painter, const Line& line, const QColor& color, const PlotCanvas& canvas);
+    /// The lines as they were drawn last, with everything that their look depends on.
+    struct Picture {
+        PlotTransform transform;
+        double pixelRatio = 0;
+        QList<QColor> colors;
+        QColor cardColor;
+        QPoint position; ///< In device pixels of the chart.
+        QImage image;
+    };
+
+    void update(const PlotCanvas& canvas) const;
 
     std::vector<Line> m_lines;
+    mutable Picture m_picture;
 };
 
 } // namespace lodestar

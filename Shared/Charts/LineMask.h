@@ -14,7 +14,7 @@ namespace lodestar
 {
 
 /// A dense line's columns, set pixel by pixel: hundreds of narrow rectangles take a painter longer than everything else
-/// in a chart. Made once a zoom, drawn as one picture.
+/// in a chart.
 class LineMask
 {
 public:
@@ -23,8 +23,6 @@ public:
     /// lie on pixel edges. Overlapping rectangles add nothing to each other.
     LineMask(std::span<const QRectF> columns, const QColor& color, double pixelRatio);
 
-    bool isEmpty() const { return m_image.isNull(); }
-    const QColor& color() const { return m_color; }
     void draw(QPainter& painter) const;
 
 private:

@@ -9,7 +9,8 @@ namespace lodestar
 namespace
 {
 
-constexpr qsizetype blockSize = 256;
+constexpr qsizetype blockSize = 16;
+constexpr qsizetype spanSize = 256; // A multiple.
 
 bool isFinite(const ChartEntry& entry)
 {
@@ -35,17 +36,28 @@ PlotSeries::PlotSeries(const QList<ChartEntry>& entries) : m_entries(entries)
     if (m_entries.isEmpty()) {
         return;
     }
-    for (qsizetype start = 0; start < m_entries.size(); start += blockSize) {
-        Extremes block{m_entries.at(start).value, m_entries.at(start).value};
-        for (qsizetype i = start; i < std::min(start + blockSize, m_entries.size()); ++i) {
-            block.least = std::min(block.least, m_entries.at(i).value);
-            block.greatest = std::max(block.greatest, m_entries.at(i).value);
+    for (qsizetype i = 0; i < m_entries.size(); ++i) {
+        if (i % blockSize == 0) {
+            m_blocks.push_back(extremesOf(i));
         }
-        m_blocks.push_back(block);
+        m_blocks.back().include(extremesOf(i));
+    }
+    constexpr auto blocksPerSpan = static_cast<std::size_t>(spanSize / blockSize);
+    for (std::size_t i = 0; i < m_blocks.size(); ++i) {
+        if (i % blocksPerSpan == 0) {
+            m_spans.push_back(m_blocks[i]);
+        }
+        m_spans.back().include(m_blocks[i]);
     }
     m_extent.x = {static_cast<double>(m_entries.constFirst().xIndex),
                   static_cast<double>(m_entries.constLast().xIndex)};
     m_extent.y = values(0, m_entries.size());
+}
+
+void PlotSeries::Extremes::include(const Extremes& other)
+{
+    least = std::min(least, other.least);
+    greatest = std::max(greatest, other.greatest);
 }
 
 qsizetype PlotSeries::lowerBound(double index) const
@@ -60,21 +72,20 @@ PlotInterval PlotSeries::values(qsizetype first, qsizetype last) const
     if (first >= last) {
         return {};
     }
-    float least = m_entries.at(first).value;
-    float greatest = least;
+    Extremes found = extremesOf(first);
     for (qsizetype i = first; i < last;) {
-        if (i % blockSize == 0 && i + blockSize <= last) {
-            const Extremes& block = m_blocks[static_cast<std::size_t>(i / blockSize)];
-            least = std::min(least, block.least);
-            greatest = std::max(greatest, block.greatest);
+        if (i % spanSize == 0 && i + spanSize <= last) {
+            found.include(m_spans[static_cast<std::size_t>(i / spanSize)]);
+            i += spanSize;
+        } else if (i % blockSize == 0 && i + blockSize <= last) {
+            found.include(m_blocks[static_cast<std::size_t>(i / blockSize)]);
             i += blockSize;
         } else {
-            least = std::min(least, m_entries.at(i).value);
-            greatest = std::max(greatest, m_entries.at(i).value);
+            found.include(extremesOf(i));
             ++i;
         }
     }
-    return {least, greatest};
+    return {found.least, found.greatest};
 }
 
 std::optional<ChartEntry> PlotSeries::nearest(double index) const

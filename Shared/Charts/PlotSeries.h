@@ -11,7 +11,8 @@ namespace lodestar
 {
 
 /// A data set's entries made ready to be drawn and asked: finite, by rising x index, with the extremes of every block
-/// of entries, so that the extremes of a million are found in the time that a few hundred take. Copies share entries.
+/// of entries and of blocks, so that the extremes of a million are found in the time that a few hundred take. Copies
+/// share entries.
 class PlotSeries
 {
 public:
@@ -35,10 +36,15 @@ private:
     struct Extremes {
         float least;
         float greatest;
+
+        void include(const Extremes& other);
     };
 
+    Extremes extremesOf(qsizetype position) const { return {at(position).value, at(position).value}; }
+
     QList<ChartEntry> m_entries;
-    std::vector<Extremes> m_blocks;
+    std::vector<Extremes> m_blocks; ///< The last one may be shorter than the others.
+    std::vector<Extremes> m_spans;  ///< Of blocks, in the same way.
     PlotExtent m_extent;
 };
 
