@@ -43,7 +43,6 @@ PageScaffold {
             anchors.leftMargin: figure.startPadding
             anchors.right: parent.right
             anchors.rightMargin: 4
-            layoutDirection: Theme.mirrored ? Qt.RightToLeft : Qt.LeftToRight
             spacing: 6
 
             Rectangle {
@@ -124,7 +123,6 @@ PageScaffold {
                 y: 14
                 columns: values.stacked ? 1 : 3
                 rowSpacing: 20
-                layoutDirection: Theme.mirrored ? Qt.RightToLeft : Qt.LeftToRight
 
                 Figure {
                     value: scene.performance.totalLabel
@@ -172,10 +170,12 @@ PageScaffold {
             id: card
 
             readonly property real above: page.topSpace + segments.height + values.height + 24
+            /// Plot and axis keep 320 to 640 whatever the legend below them takes.
+            readonly property real legend: 42 + 60 * (Theme.textScale - 1)
 
             objectName: "chartCard"
             width: parent.width
-            implicitHeight: Math.max(360, Math.min(700, page.height - above - Theme.groupGap))
+            implicitHeight: legend + Math.max(320, Math.min(640, page.height - above - Theme.groupGap - legend))
             radius: Theme.cardRadius
             color: Theme.card
 
@@ -183,8 +183,7 @@ PageScaffold {
                 outlet: scene.performance.chartView
                 visible: !scene.performance.chartView.hidden
                 anchors.fill: parent
-                anchors.topMargin: 4
-                anchors.bottomMargin: 14
+                anchors.bottomMargin: 4
                 cardColor: Theme.card
                 textColor: Theme.ink2
                 gridColor: Theme.chartGrid
