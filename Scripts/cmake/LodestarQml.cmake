@@ -1,9 +1,10 @@
 # SPDX-License-Identifier: Apache-2.0
-# lodestar_qml_module(<target> URI <uri> [INCLUDES folders] [SINGLETONS files] [QML_FILES files] [IMPORTS uris]): makes the
+# lodestar_qml_module(<target> URI <uri> [INCLUDES folders] [SINGLETONS files] [QML_FILES files] [IMPORTS uris] [USES uris]): makes the
 # static library a QML module under qrc:/, its files at the module's top whatever folder they come from. INCLUDES are the
-# folders of the registered C++ types: generated code includes their headers by bare name. Lint it with <target>_qmllint.
+# folders of the registered C++ types: generated code includes their headers by bare name. USES are modules of whose types the QML speaks,
+# but which importing this one does not load. Lint it with <target>_qmllint.
 function(lodestar_qml_module target)
-  cmake_parse_arguments(ARG "" "URI" "INCLUDES;SINGLETONS;QML_FILES;IMPORTS" ${ARGN})
+  cmake_parse_arguments(ARG "" "URI" "INCLUDES;SINGLETONS;QML_FILES;IMPORTS;USES" ${ARGN})
   string(REPLACE "." "/" path "${ARG_URI}")
   target_include_directories(${target} PUBLIC ${ARG_INCLUDES})
   set_source_files_properties(${ARG_SINGLETONS} PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
@@ -13,7 +14,7 @@ function(lodestar_qml_module target)
   endforeach()
   qt_add_qml_module(${target} URI ${ARG_URI} VERSION 1.0 NO_PLUGIN RESOURCE_PREFIX /
     OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml/${path}" IMPORT_PATH "${CMAKE_BINARY_DIR}/qml"
-    DEPENDENCIES QtQuick IMPORTS ${ARG_IMPORTS}
+    DEPENDENCIES QtQuick ${ARG_USES} IMPORTS ${ARG_IMPORTS}
     QML_FILES ${ARG_SINGLETONS} ${ARG_QML_FILES})
   # Compiled QML is not ours to tidy.
   get_target_property(sources ${target} SOURCES)

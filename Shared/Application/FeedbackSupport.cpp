@@ -5,6 +5,7 @@
 #include "Application/Model/Corvel.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/CrashCapture.h"
+#include "Feedback/CrashCollector.h"
 #include "Feedback/ReportSender.h"
 #include "Feedback/UI/FeedbackHost.h"
 #include "Feedback/UI/ScreenGrabber.h"
@@ -13,6 +14,7 @@
 #include "Platform/UserDefaults.h"
 
 #include <QInputDevice>
+#include <QPointer>
 #include <QStandardPaths>
 
 #include <algorithm>
@@ -24,24 +26,28 @@ namespace
 
 constexpr std::string_view ownFile = "Shared/Application/FeedbackSupport";
 
+/// Of the process; nothing is kept before it is set.
+QString& keptIn()
+{
+    static QString folder;
+    return folder;
+}
+
+/// Null while there is no window for it.
+QPointer<FeedbackHost>& currentHost()
+{
+    static QPointer<FeedbackHost> host;
+    return host;
+}
+
 std::string crashFolder(const QString& dataFolder)
 {
     return (dataFolder + QStringLiteral("/Crashes")).toStdString();
 }
 
-/// Every password and session key in use.
-std::vector<std::string> secretsInUse()
+ReportStore reportStore(const QString& dataFolder)
 {
-    std::vector<std::string> secrets;
-    for (const CorvelRef& corvel : RESTHandler::sharedInstance().corvelList()) {
-        const auto key = UserDefaults::standard().stringForKey(corvel->address().value_or(std::string()));
-        for (const std::optional<std::string>& secret : {corvel->password(), key}) {
-            if (secret) {
-                secrets.push_back(*secret);
-            }
-        }
-    }
-    return secrets;
+    return ReportStore((dataFolder + QStringLiteral("/Reports")).toStdString());
 }
 
 bool hasTouchScreen()
@@ -54,19 +60,25 @@ bool hasTouchScreen()
 
 FeedbackSetup setupFor(const QString& dataFolder, const QString& version)
 {
-    return {.store = ReportStore((dataFolder + QStringLiteral("/Reports")).toStdString()),
+    return {.store = reportStore(dataFolder),
             .crashFolder = crashFolder(dataFolder),
             .logFolder = (dataFolder + QStringLiteral("/Logs")).toStdString(),
             .exportFolder = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation).toStdString(),
             .version = version.toStdString(),
             .address = feedbackAddress(),
-            .secrets = &secretsInUse};
+            .secrets = &FeedbackSupport::secretsInUse};
 }
 
 } // namespace
 
+void FeedbackSupport::keepIn(const QString& dataFolder)
+{
+    keptIn() = dataFolder;
+}
+
 void FeedbackSupport::captureCrashes(const QString& dataFolder, const QString& version)
 {
+    keepIn(dataFolder);
     const Result<void> installed =
         CrashCapture::install(crashFolder(dataFolder), {version.toStdString(), VireoLogger::sessionIdentifier()});
     if (!installed) {
@@ -74,8 +86,41 @@ void FeedbackSupport::captureCrashes(const QString& dataFolder, const QString& v
     }
 }
 
+void FeedbackSupport::forgetReports()
+{
+    if (currentHost()) {
+        currentHost()->forget();
+    }
+    if (keptIn().isEmpty()) {
+        return;
+    }
+    forgetCrashes(crashFolder(keptIn()));
+    if (const Result<void> removed = reportStore(keptIn()).removeAll(); !removed) {
+        LODESTAR_LOG(ownFile, "forgetReports", "a report could not be deleted: {}", description(removed.error()));
+    }
+}
+
+std::vector<std::string> FeedbackSupport::secretsInUse()
+{
+    std::vector<std::string> secrets;
+    for (const CorvelRef& corvel : RESTHandler::sharedInstance().corvelList()) {
+        if (const auto password = corvel->password()) {
+            secrets.push_back(*password);
+        }
+    }
+    // All texts among the defaults are session keys; one may outlive its console.
+    for (const std::string& name : UserDefaults::standard().allKeys()) {
+        if (const auto key = UserDefaults::standard().stringForKey(name)) {
+            secrets.push_back(*key);
+        }
+    }
+    return secrets;
+}
+
 FeedbackSupport::FeedbackSupport(FeedbackWindow& window, const QString& dataFolder, const QString& version)
 {
+    keepIn(dataFolder);
+    currentHost() = window.feedbackHost();
     window.feedbackHost()->setUp(setupFor(dataFolder, version));
     VireoLogger::setFeedbackPresenter([&window] {
         // A picture of the feedback screen itself would be of no use.

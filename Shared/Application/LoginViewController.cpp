@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/LoginViewController.h"
 
+#include "Application/FeedbackSupport.h"
 #include "Application/Passcode.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Kit/Core/Storyboard.h"
@@ -172,6 +173,7 @@ void LoginViewController::resetApplicationData()
     // A keychain that refuses does not stop the rest: "requirePassword" goes below, and with it the lock.
     std::ignore = Passcode::store({});
     deleteEveryRecord();
+    FeedbackSupport::forgetReports();
     for (const std::string& key : defaults.allKeys()) {
         defaults.removeObjectForKey(key);
     }

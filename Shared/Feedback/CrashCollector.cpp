@@ -101,24 +101,36 @@ bool collect(const std::string& path, const CrashSources& sources, const ReportS
     return true;
 }
 
-} // namespace
-
-int collectCrashes(const CrashSources& sources, const ReportStore& store)
+std::vector<std::string> abandonedFiles(const std::string& crashFolder)
 {
     std::vector<std::string> paths;
     std::error_code failure;
-    for (std::filesystem::directory_iterator entry(sources.crashFolder, failure), end; !failure && entry != end;
+    for (std::filesystem::directory_iterator entry(crashFolder, failure), end; !failure && entry != end;
          entry.increment(failure)) {
         const std::string path = entry->path();
         if (entry->path().filename().string().starts_with("crash-") && isAbandoned(path)) {
             paths.push_back(path);
         }
     }
+    return paths;
+}
+
+} // namespace
+
+int collectCrashes(const CrashSources& sources, const ReportStore& store)
+{
     int reports = 0;
-    for (const std::string& path : paths) {
+    for (const std::string& path : abandonedFiles(sources.crashFolder)) {
         reports += collect(path, sources, store) ? 1 : 0;
     }
     return reports;
+}
+
+void forgetCrashes(const std::string& crashFolder)
+{
+    for (const std::string& path : abandonedFiles(crashFolder)) {
+        ::unlink(path.c_str());
+    }
 }
 
 } // namespace lodestar

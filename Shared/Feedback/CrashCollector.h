@@ -21,4 +21,7 @@ struct CrashSources {
 /// that has already crashed this function is kept without the names of its functions. Not on the main thread.
 int collectCrashes(const CrashSources& sources, const ReportStore& store);
 
+/// Takes away what crashed runs left.
+void forgetCrashes(const std::string& crashFolder);
+
 } // namespace lodestar

@@ -130,7 +130,8 @@ std::string CrashRecord::signalName() const
 std::string CrashRecord::summary() const
 {
     std::string text = fmt::format("The application ended by {}", signalName());
-    if (address) {
+    // Of a signal that a process sent, the place tells who sent it.
+    if (address && code > 0) {
         text += fmt::format(" at address 0x{:x}", *address);
     }
     return text + (exception.empty() ? "." : fmt::format(": {}", exception));

@@ -198,6 +198,18 @@ Result<void> ReportStore::remove(const std::string& identifier) const
     return failure ? Result<void>(reportError("The report cannot be deleted", failure.value())) : Result<void>();
 }
 
+Result<void> ReportStore::removeAll() const
+{
+    Result<void> done;
+    for (const std::string& identifier : identifiers()) {
+        if (Result<void> removed = remove(identifier); !removed) {
+            done = std::move(removed);
+        }
+    }
+    sweep();
+    return done;
+}
+
 std::vector<Report> ReportStore::unanswered() const
 {
     std::vector<Report> reports = list();

@@ -35,6 +35,8 @@ public:
     std::vector<Report> list() const;
     Result<ReportBundle> read(const std::string& identifier) const;
     Result<void> remove(const std::string& identifier) const;
+    /// Everything, damaged reports as well; the last failure of several.
+    Result<void> removeAll() const;
 
     /// Crash reports that nobody has yet said to keep, youngest first.
     std::vector<Report> unanswered() const;

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 // The lock as an attacker meets it: the real window, every way in but the passcode.
 #include "Application/AppDelegate.h"
+#include "Application/FeedbackSupport.h"
 #include "Application/FeedbackWindow.h"
 #include "Application/PrivacyCover.h"
 #include "Application/SettingsViewController.h"
+#include "Feedback/UI/FeedbackViewController.h"
+#include "Feedback/UI/ScreenGrabber.h"
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/NavigationController.h"
 #include "Kit/Core/TabBarController.h"
@@ -123,6 +126,15 @@ protected:
             }
         }
         return picture.pixel(195, centre - 20) != ground;
+    }
+    FeedbackViewController* feedback() const
+    {
+        auto* const stack = qobject_cast<NavigationController*>(window().feedbackHost()->screen());
+        return stack == nullptr ? nullptr : qobject_cast<FeedbackViewController*>(stack->rootViewController());
+    }
+    void shake() const
+    {
+        window().motionBegan(FeedbackWindow::EventType::Motion, FeedbackWindow::EventSubtype::MotionShake);
     }
     void type(const QString& text) const
     {
@@ -272,6 +284,58 @@ TEST_F(LockedWindowTest, TheSystemsPictureOfTheWindowShowsNothing)
     // It locks nothing by itself.
     cover.applicationStateDidChange(Qt::ApplicationActive);
     EXPECT_EQ(window().grabWindow(), shown);
+}
+
+TEST_F(LockedWindowTest, FeedbackNeitherPassesTheLockNorTellsWhatIsBehindIt)
+{
+    const FeedbackSupport support(window(), QString::fromStdString(folder.path()), QStringLiteral("1.0.0"));
+    const ReportStore reports(folder.file("Reports"));
+    open(false);
+    window().motionBegan(FeedbackWindow::EventType::RemoteControl, FeedbackWindow::EventSubtype::RemoteControlPlay);
+    EXPECT_EQ(feedback(), nullptr);
+    shake();
+    ASSERT_NE(feedback(), nullptr);
+    feedback()->noteView()->setText(QStringLiteral("begun before"));
+    settle(300);
+    shake();
+    EXPECT_EQ(feedback()->noteView()->text(), QStringLiteral("begun before")) << "one at a time";
+
+    require();
+    delegate.applicationDidBecomeActive();
+    EXPECT_TRUE(showsOnlyTheMark(window().grabWindow(), 844 / 3)) << "before any event has run";
+    settle(300);
+    LoginViewController* const lock = login();
+    ASSERT_NE(lock, nullptr);
+    EXPECT_EQ(spoken().count(QStringLiteral("begun before")), 0U);
+    type(QStringLiteral("wr0ng"));
+    const QImage ofTheLock = grabCovered(window());
+    press(Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+    ASSERT_NE(feedback(), nullptr);
+    EXPECT_EQ(feedback()->noteView()->text(), QString());
+    EXPECT_EQ(feedback()->sketch()->composed(), ofTheLock);
+    settle(300);
+    EXPECT_EQ(spoken().count(QStringLiteral("Reports")), 0U);
+    feedback()->submit();
+    ASSERT_TRUE(waitFor([this] { return feedback()->alert()->isPresented(); }));
+    feedback()->alert()->choose(0);
+    ASSERT_EQ(reports.list().size(), 1U);
+    EXPECT_EQ(reports.read(reports.list().front().identifier).value().log, "");
+    settle(300);
+    EXPECT_EQ(login(), lock) << "the lock is still up";
+    press(Qt::Key_A, Qt::ControlModifier);
+    type(secret);
+    press(Qt::Key_Return);
+    EXPECT_EQ(login(), nullptr) << "and its field has the keyboard";
+    ASSERT_NE(feedback(), nullptr);
+    EXPECT_EQ(feedback()->noteView()->text(), QStringLiteral("begun before"));
+    settle(300);
+
+    // Who resets instead of unlocking gets nothing of it.
+    delegate.applicationDidBecomeActive();
+    login()->resetApplicationData();
+    EXPECT_EQ(login(), nullptr);
+    EXPECT_EQ(feedback(), nullptr);
+    EXPECT_TRUE(reports.list().empty());
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Adapters/FileUserDefaults.h"
+#include "Application/FeedbackSupport.h"
+#include "Feedback/CrashCollector.h"
 #include "Kit/Core/TabBarController.h"
 #include "Tests/Application/LockFixture.h"
 #include "Views/Common/Registry.h"
@@ -20,7 +22,6 @@ protected:
     {
         VireoLogger::openLogFolder(folder.file("Logs"));
         UserDefaults::install(std::make_unique<FileUserDefaults>(folder.file("Lodestar.defaults")));
-        StoreStack::shared().setApplicationDocumentsDirectory(folder.file("Documents"));
         RESTHandler::sharedInstance().setCorvelList(RESTHandler::sharedInstance().fetchCorvels());
     }
     ~ResetTest() override { VireoLogger::openLogFolder("/dev/null/nowhere"); }
@@ -123,8 +124,7 @@ TEST_F(ResetTest, LeavesNoSecretInAnyFileAndComesUpAsOnTheFirstDay)
     for (const auto& [name, content] : files()) {
         names.push_back(name);
     }
-    EXPECT_THAT(names,
-                ::testing::UnorderedElementsAre("Documents/Lodestar.sqlite", "Lodestar.defaults", "Logs/lodestar.log"));
+    EXPECT_THAT(names, ::testing::UnorderedElementsAre("Lodestar.sqlite", "Lodestar.defaults", "Logs/lodestar.log"));
     // The demonstration has been refreshed, and with that saved.
     for (const CorvelRef& corvel : RESTHandler::sharedInstance().fetchCorvels()) {
         EXPECT_EQ(corvel->name(), "Demo Corvel");
@@ -165,6 +165,44 @@ TEST_F(ResetTest, AResetThatTheProcessDidNotSurviveIsFinishedBeforeAnythingIsSho
     EXPECT_TRUE(RESTHandler::sharedInstance().corvelList().empty());
     settle();
     EXPECT_THAT(filesWithSecrets(), ::testing::IsEmpty());
+}
+
+TEST_F(ResetTest, ReportsHoldNoSecretAndGoWithTheRest)
+{
+    fill(3);
+    // Its console is gone, the key is not.
+    UserDefaults::standard().setString("secret-key-orphan", "127.0.99.77");
+    const auto login = lockedScreen();
+    login->passwordTextField()->setText("secret-attempt");
+    login->performLogin();
+    login->alert()->choose(0);
+    settle();
+    const auto isStoreOrDefaults = ::testing::AnyOf("Lodestar.defaults", ::testing::StartsWith("Lodestar.sqlite"));
+    EXPECT_THAT(filesWithSecrets(), ::testing::Each(isStoreOrDefaults)) << "after use";
+
+    // The worst that a crash can tell: what was thrown, and lines of the log that should never have been written.
+    FeedbackSupport::keepIn(QString::fromStdString(folder.path()));
+    fs::create_directory(folder.file("Crashes"));
+    std::ofstream(folder.file("Crashes/crash-1-1")) << "crash file 1\nversion 1.0.0\nsession s\nsignal 6\ntime 1\n"
+                                                       "exception what: secret-password-1\n"
+                                                       "PUT secret%2Dpassword-2 X-API-Session: secret-key-0\n"
+                                                       "secret-key-orphan\n\nframes\nframe 1\n";
+    const ReportStore reports(folder.file("Reports"));
+    ASSERT_EQ(collectCrashes({folder.file("Crashes"), folder.file("Logs"), FeedbackSupport::secretsInUse()}, reports),
+              1);
+    EXPECT_THAT(filesWithSecrets(), ::testing::Each(isStoreOrDefaults)) << "after a crash";
+    for (const auto& [name, content] : files()) {
+        EXPECT_THAT(content, ::testing::Not(::testing::HasSubstr("secret-passcode"))) << name;
+    }
+
+    std::ofstream(folder.file("Crashes/crash-1-2")) << "secret-password-1";
+    login->resetApplicationData();
+    settle();
+    EXPECT_THAT(filesWithSecrets(), ::testing::IsEmpty());
+    EXPECT_THAT(reports.list(), ::testing::IsEmpty());
+    EXPECT_TRUE(fs::is_empty(folder.file("Reports")));
+    EXPECT_TRUE(fs::is_empty(folder.file("Crashes")));
+    FeedbackSupport::keepIn({});
 }
 
 } // namespace

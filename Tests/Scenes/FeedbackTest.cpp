@@ -100,6 +100,9 @@ TEST_F(FeedbackTest, DrawingsAreUndoneAndKeptWithTheNoteButWithoutPasswords)
     EXPECT_EQ(colorAt(feedback->sketch()->composed(), {0.5, 0.85}), Sketch::colors().at(3));
     click(stage.item("undoTool"));
     EXPECT_NE(colorAt(feedback->sketch()->composed(), {0.5, 0.85}), Sketch::colors().at(3));
+    // Up and down is a stroke, too, and no scrolling.
+    draw({0.3, 0.2}, {0.3, 0.9});
+    EXPECT_EQ(colorAt(feedback->sketch()->composed(), {0.3, 0.5}), Sketch::colors().at(3));
     click(stage.item("coverTool"));
     draw({0.1, 0.7}, {0.9, 0.9});
     const QColor hidden = colorAt(feedback->sketch()->composed(), {0.5, 0.8});
@@ -137,18 +140,16 @@ TEST_F(FeedbackTest, ReportsAreReadExportedAndDeletedWithTheKeyboardAlone)
     press(Qt::Key_Return);
     ASSERT_TRUE(stage.waitFor([this] { return text("a line of the log") != nullptr; }));
     stage.settle();
-    click(stage.item("exportButton"));
-    ASSERT_TRUE(stage.waitFor([this] { return button("OK") != nullptr; }));
+    stage.item("exportButton")->forceActiveFocus(Qt::TabFocusReason);
     press(Qt::Key_Return);
+    ASSERT_TRUE(stage.waitFor([this] { return button("OK") != nullptr; }));
+    press(Qt::Key_Return); // while it still fades in
     EXPECT_TRUE(stage.waitFor([this] { return button("OK") == nullptr; }));
-    click(stage.item("deleteButton"));
+    stage.item("deleteButton")->forceActiveFocus(Qt::TabFocusReason);
+    press(Qt::Key_Return);
     ASSERT_TRUE(stage.waitFor([this] { return button("Cancel") != nullptr && button("Delete") != nullptr; }));
-    stage.settle();
-    for (QQuickItem* item : stage.items("PlainButton")) {
-        if (item->property("text").toString() == "Delete") {
-            click(item);
-        }
-    }
+    press(Qt::Key_Right);
+    press(Qt::Key_Return);
     EXPECT_TRUE(stage.waitFor([this] { return stage.reports().list().empty(); }));
     EXPECT_TRUE(stage.waitFor([this] { return text("No reports on this device.") != nullptr; }));
 }

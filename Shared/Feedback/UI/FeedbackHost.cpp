@@ -72,6 +72,16 @@ void FeedbackHost::setLocked(bool locked)
     askAboutCrashes();
 }
 
+void FeedbackHost::forget()
+{
+    m_crashes.clear();
+    m_aside.reset();
+    m_alert->dismiss();
+    if (m_screen) {
+        setScreen(nullptr);
+    }
+}
+
 void FeedbackHost::offerCrashes()
 {
     if (!m_setup) {

@@ -41,6 +41,9 @@ public:
     /// been asked about.
     void offerCrashes();
     void setLocked(bool locked);
+    /// Lets go of whatever is on screen, stands aside or waits to be asked about: its reports have been taken away, and
+    /// whoever comes next did not begin it.
+    void forget();
     bool isLocked() const { return m_locked; }
 
 Q_SIGNALS:

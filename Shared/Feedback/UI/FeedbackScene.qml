@@ -58,7 +58,7 @@ PageScaffold {
     }
 
     Shortcut {
-        sequences: [StandardKey.Undo]
+        sequences: ["Ctrl+Z"]
         enabled: !note.activeFocus && scene.visible
         onActivated: scene.feedback.sketch.undo()
     }
@@ -70,7 +70,8 @@ PageScaffold {
 
         Item {
             readonly property size drawn: scene.feedback.sketch.pictureSize
-            readonly property real room: page.height - tools.height - noteCard.height - foot.height - more.height - 84
+            // The first row below looks out: there is more to find.
+            readonly property real room: page.height - tools.height - noteCard.height - foot.height - 68
             readonly property real wanted: Math.max(240, room)
 
             width: parent.width
@@ -203,6 +204,13 @@ PageScaffold {
                 Accessible.name: qsTr("What happened?")
                 Component.onCompleted: text = scene.feedback.noteView.text
                 onTextChanged: scene.feedback.noteView.text = text
+
+                Connections {
+                    target: scene.feedback.noteView
+                    function onTextChanged() {
+                        note.text = scene.feedback.noteView.text;
+                    }
+                }
                 Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
                 Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
                 Keys.onEscapePressed: scene.feedback.cancel()

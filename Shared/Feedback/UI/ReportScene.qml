@@ -11,10 +11,11 @@ PageScaffold {
 
     readonly property ReportViewController report: controller as ReportViewController
 
-    scrollView: list
+    readonly property size drawn: report.picture !== null ? report.picture.pictureSize : Qt.size(0, 0)
 
     bar: NavigationBar {
         controller: scene.controller
+        scrolled: list.contentY - list.top > 0.5
         trailing: [
             IconButton {
                 objectName: "exportButton"
@@ -43,34 +44,20 @@ PageScaffold {
     ListView {
         id: list
 
+        readonly property real top: originY - topMargin
+
         objectName: "reportLines"
         anchors.fill: parent
         focus: true
         activeFocusOnTab: true
+        topMargin: scene.drawn.width > 0 ? 332 : 8
         bottomMargin: Theme.groupGap
         boundsBehavior: Flickable.DragAndOvershootBounds
         model: scene.report.lines
         keyNavigationEnabled: false
-        Keys.onDownPressed: contentY = Math.min(Math.max(originY, originY + contentHeight - height), contentY + 48)
-        Keys.onUpPressed: contentY = Math.max(originY, contentY - 48)
-        header: Item {
-            readonly property size drawn: scene.report.picture !== null ? scene.report.picture.pictureSize : Qt.size(0, 0)
-
-            width: list.width
-            height: drawn.width > 0 ? 332 : 8
-
-            SketchView {
-                visible: parent.drawn.width > 0
-                sketch: scene.report.picture
-                enabled: false
-                y: 8
-                height: 312
-                width: parent.drawn.height > 0 ? height * parent.drawn.width / parent.drawn.height : 0
-                anchors.horizontalCenter: parent.horizontalCenter
-                Accessible.role: Accessible.Graphic
-                Accessible.name: qsTr("Picture of the screen")
-            }
-        }
+        Keys.onDownPressed: contentY = Math.min(Math.max(top, originY + contentHeight + bottomMargin - height),
+                                                contentY + 48)
+        Keys.onUpPressed: contentY = Math.max(top, contentY - 48)
         delegate: Label {
             required property string modelData
 
@@ -82,6 +69,21 @@ PageScaffold {
             width: list.width - 2 * x
             Accessible.role: Accessible.StaticText
             Accessible.name: modelData
+        }
+        Component.onCompleted: contentY = top
+
+        // In the margin and no header: a list of Qt 6.4 makes none of a component that is bound.
+        SketchView {
+            parent: list.contentItem
+            visible: scene.drawn.width > 0
+            sketch: scene.report.picture
+            enabled: false
+            y: list.originY - 324
+            height: 312
+            width: scene.drawn.height > 0 ? height * scene.drawn.width / scene.drawn.height : 0
+            anchors.horizontalCenter: parent !== null ? parent.horizontalCenter : undefined
+            Accessible.role: Accessible.Graphic
+            Accessible.name: qsTr("Picture of the screen")
         }
     }
     Alert {

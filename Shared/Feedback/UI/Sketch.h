@@ -25,7 +25,7 @@ class Sketch : public QObject
     Q_PROPERTY(int color READ color WRITE setColor NOTIFY toolChanged)
     Q_PROPERTY(QVariantList colors READ colorList CONSTANT)
     Q_PROPERTY(bool canUndo READ canUndo NOTIFY marksChanged)
-    Q_PROPERTY(QSize pictureSize READ pictureSize CONSTANT)
+    Q_PROPERTY(QSizeF pictureSize READ pictureSize CONSTANT)
 
 public:
     enum class Tool { Pen, Cover };
@@ -41,7 +41,7 @@ public:
     static QList<QColor> colors();
     static QVariantList colorList();
     bool canUndo() const { return !m_marks.empty(); }
-    QSize pictureSize() const { return m_picture.size(); }
+    QSizeF pictureSize() const { return m_picture.size(); }
 
     /// One mark of the tool, from where it is set down to where it is lifted. Points beyond the edge are drawn on it.
     void begin(QPointF point);

@@ -151,6 +151,8 @@ T.Popup {
                     required property int index
                     required property menuChoice modelData
 
+                    // From the first moment on: who types ahead does not type past the question.
+                    focus: index === Math.max(0, alert.outlet.cancelIndex)
                     width: body.sideBySide ? grid.width / 2 : grid.width
                     implicitHeight: Math.max(48, Math.round(22 * Theme.textScale) + 26)
                     text: modelData.title

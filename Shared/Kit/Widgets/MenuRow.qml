@@ -24,6 +24,7 @@ T.AbstractButton {
 
     readonly property bool pressedLook: pressable && down
     readonly property bool stacked: Theme.stacked && detail !== ""
+    readonly property bool beside: !Theme.stacked && detail !== ""
     readonly property real textStart: iconName === "" ? Theme.rowStart : 60
 
     implicitHeight: Math.max(Math.round(rowHeight * Theme.textScale),
@@ -76,11 +77,12 @@ T.AbstractButton {
         Label {
             id: detailLabel
 
-            visible: !row.stacked && row.detail !== ""
+            visible: row.beside
             text: row.detail
             size: Theme.stateSize
             color: Theme.ink2
-            width: visible ? Math.min(implicitWidth, row.width * 0.45) : 0
+            // Not by its being visible, which changes with what the row is in.
+            width: row.beside ? Math.min(implicitWidth, row.width * 0.45) : 0
             anchors.right: ends.left
             anchors.rightMargin: ends.width > 0 ? 12 : 0
             anchors.verticalCenter: parent.verticalCenter

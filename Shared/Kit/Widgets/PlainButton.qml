@@ -21,6 +21,9 @@ T.AbstractButton {
     Accessible.name: text
 
     contentItem: Item {
+        implicitWidth: label.implicitWidth
+        implicitHeight: label.implicitHeight
+
         Label {
             id: label
 
