@@ -40,7 +40,7 @@ QVariantList ReportListViewController::rows() const
         const QDateTime made = QDateTime::fromString(QString::fromStdString(report.made), Qt::ISODate).toLocalTime();
         const QString note = QString::fromStdString(report.note).trimmed();
         rows << QVariant::fromValue(ReportRow{reportKindName(report.kind), note.section('\n', 0, 0),
-                                              QLocale().toString(made, QLocale::ShortFormat)});
+                                              QLocale().toString(made.date(), QLocale::ShortFormat)});
     }
     return rows;
 }

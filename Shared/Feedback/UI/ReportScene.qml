@@ -15,7 +15,7 @@ PageScaffold {
 
     bar: NavigationBar {
         controller: scene.controller
-        scrolled: list.contentY - list.top > 0.5
+        scrolled: list.contentY - list.start > 0.5
         trailing: [
             IconButton {
                 objectName: "exportButton"
@@ -44,7 +44,7 @@ PageScaffold {
     ListView {
         id: list
 
-        readonly property real top: originY - topMargin
+        readonly property real start: originY - topMargin
 
         objectName: "reportLines"
         anchors.fill: parent
@@ -55,9 +55,9 @@ PageScaffold {
         boundsBehavior: Flickable.DragAndOvershootBounds
         model: scene.report.lines
         keyNavigationEnabled: false
-        Keys.onDownPressed: contentY = Math.min(Math.max(top, originY + contentHeight + bottomMargin - height),
+        Keys.onDownPressed: contentY = Math.min(Math.max(start, originY + contentHeight + bottomMargin - height),
                                                 contentY + 48)
-        Keys.onUpPressed: contentY = Math.max(top, contentY - 48)
+        Keys.onUpPressed: contentY = Math.max(start, contentY - 48)
         delegate: Label {
             required property string modelData
 
@@ -70,7 +70,7 @@ PageScaffold {
             Accessible.role: Accessible.StaticText
             Accessible.name: modelData
         }
-        Component.onCompleted: contentY = top
+        Component.onCompleted: contentY = start
 
         // In the margin and no header: a list of Qt 6.4 makes none of a component that is bound.
         SketchView {
