@@ -142,4 +142,11 @@ std::string sanitizedUtf8(std::string_view bytes)
     return text;
 }
 
+std::string trimmedText(const std::string& text)
+{
+    const std::size_t first = text.find_first_not_of(" \t\n");
+    const std::size_t last = text.find_last_not_of(" \t\n");
+    return first == std::string::npos ? std::string() : text.substr(first, last - first + 1);
+}
+
 } // namespace lodestar

@@ -20,5 +20,7 @@ char32_t characterOfByte(std::uint8_t byte, RichTextCodePage codePage);
 void appendCharacter(std::string& text, char32_t character);
 /// The text with every byte that is no UTF-8 made U+FFFD, and without control characters but tabs.
 std::string sanitizedUtf8(std::string_view bytes);
+/// Without the white space around it.
+std::string trimmedText(const std::string& text);
 
 } // namespace lodestar

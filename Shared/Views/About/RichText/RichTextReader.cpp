@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/About/RichText/RichTextReader.h"
 
+#include "Views/About/RichText/RichTextFormat.h"
+
 #include <algorithm>
 #include <utility>
 
@@ -9,34 +11,8 @@ namespace lodestar
 namespace
 {
 
-constexpr int longestLength = 31680;
-constexpr int largestSize = 800;
 constexpr int longestFallback = 64;
-constexpr int symbolCharacterSet = 2;
 constexpr char32_t bullet = 0x2022;
-
-bool isOn(const RichTextToken& token)
-{
-    return !token.hasValue || token.value != 0;
-}
-
-int length(const RichTextToken& token)
-{
-    return std::clamp(token.value, -longestLength, longestLength);
-}
-
-std::uint8_t component(const RichTextToken& token)
-{
-    return static_cast<std::uint8_t>(std::clamp(token.value, 0, 255));
-}
-
-/// Markers are written with the tab that leads to the item's text.
-std::string trimmed(const std::string& text)
-{
-    const std::size_t first = text.find_first_not_of(" \t\n");
-    const std::size_t last = text.find_last_not_of(" \t\n");
-    return first == std::string::npos ? std::string() : text.substr(first, last - first + 1);
-}
 
 } // namespace
 
@@ -115,7 +91,7 @@ void RichTextReader::closeGroup()
     flushSurrogate();
     const bool wasFontTable = m_state.destination == Destination::FontTable;
     if (wasFontTable) {
-        nameFont(U';');
+        m_tables.endFontName();
     } else if (m_stack.size() == 1) {
         // The last paragraph has no end of its own, and its format goes with the group.
         endPendingParagraph();
@@ -220,7 +196,6 @@ void RichTextReader::handleWord(const RichTextWord& word, const RichTextToken& t
         break;
     default:
         handleStyleWord(word, token);
-        handleParagraphWord(word, token);
         handleTableWord(word, token);
         break;
     }
@@ -228,74 +203,27 @@ void RichTextReader::handleWord(const RichTextWord& word, const RichTextToken& t
 
 void RichTextReader::handleStyleWord(const RichTextWord& word, const RichTextToken& token)
 {
-    RichTextStyle& style = m_state.style;
     switch (word.action) {
     case RichTextAction::StyleDefaults:
-        style = {};
+        m_state.style = {};
         m_state.hidden = false;
         useFont(m_defaultFont);
         break;
-    case RichTextAction::Bold:
-        style.bold = isOn(token);
-        break;
-    case RichTextAction::Italic:
-        style.italic = isOn(token);
-        break;
-    case RichTextAction::Underline:
-        style.underline = isOn(token);
-        break;
-    case RichTextAction::NoUnderline:
-        style.underline = false;
-        break;
     case RichTextAction::Hidden:
-        m_state.hidden = isOn(token);
+        m_state.hidden = token.isOn();
         break;
-    case RichTextAction::Size:
-        style.halfPoints = token.value > 0 ? std::min(token.value, largestSize) : RichTextStyle().halfPoints;
-        break;
-    case RichTextAction::Color: {
-        const auto index = static_cast<std::size_t>(std::max(0, token.value));
-        style.color = index < m_colors.size() ? m_colors[index] : std::nullopt;
-        break;
-    }
-    default:
-        break;
-    }
-}
-
-void RichTextReader::handleParagraphWord(const RichTextWord& word, const RichTextToken& token)
-{
-    RichTextParagraph& paragraph = m_state.paragraph;
-    switch (word.action) {
-    case RichTextAction::ParagraphDefaults:
-        paragraph = {};
-        break;
-    case RichTextAction::Align:
-        paragraph.alignment = static_cast<RichTextAlignment>(word.argument);
-        break;
-    case RichTextAction::LeftIndent:
-        paragraph.leftIndent = length(token);
-        break;
-    case RichTextAction::RightIndent:
-        paragraph.rightIndent = length(token);
-        break;
-    case RichTextAction::FirstLineIndent:
-        paragraph.firstLineIndent = length(token);
-        break;
-    case RichTextAction::SpaceBefore:
-        paragraph.spaceBefore = std::max(0, length(token));
-        break;
-    case RichTextAction::SpaceAfter:
-        paragraph.spaceAfter = std::max(0, length(token));
+    case RichTextAction::Color:
+        m_state.style.color = m_tables.color(token.value);
         break;
     default:
+        applyStyleWord(m_state.style, word, token);
+        applyParagraphWord(m_state.paragraph, word, token);
         break;
     }
 }
 
 void RichTextReader::handleTableWord(const RichTextWord& word, const RichTextToken& token)
 {
-    const bool inColors = m_state.destination == Destination::ColorTable;
     switch (word.action) {
     case RichTextAction::FontTable:
         m_state.destination = Destination::FontTable;
@@ -308,8 +236,7 @@ void RichTextReader::handleTableWord(const RichTextWord& word, const RichTextTok
         break;
     case RichTextAction::Font:
         if (m_state.destination == Destination::FontTable) {
-            nameFont(U';');
-            m_tableFont = token.value;
+            m_tables.beginFont(token.value);
         } else {
             useFont(token.value);
         }
@@ -318,20 +245,15 @@ void RichTextReader::handleTableWord(const RichTextWord& word, const RichTextTok
         m_defaultFont = token.value;
         break;
     case RichTextAction::CharacterSet:
-        if (m_state.destination == Destination::FontTable && token.value == symbolCharacterSet &&
-            m_symbolFonts.size() < RichTextLimits::tableEntries) {
-            m_symbolFonts.insert(m_tableFont);
+        if (m_state.destination == Destination::FontTable) {
+            m_tables.setCharacterSet(token.value);
         }
         break;
     case RichTextAction::Red:
     case RichTextAction::Green:
     case RichTextAction::Blue:
-        if (inColors) {
-            RichTextColor color = m_color.value_or(RichTextColor());
-            (word.action == RichTextAction::Red     ? color.red
-             : word.action == RichTextAction::Green ? color.green
-                                                    : color.blue) = component(token);
-            m_color = color;
+        if (m_state.destination == Destination::ColorTable) {
+            m_tables.setColorComponent(word.action, token.value);
         }
         break;
     default:
@@ -342,7 +264,7 @@ void RichTextReader::handleTableWord(const RichTextWord& word, const RichTextTok
 void RichTextReader::appendByte(std::uint8_t byte)
 {
     // A symbol font's characters are drawings at the places of letters, and all that texts draw with them are bullets.
-    const bool drawing = byte > 0x20 && m_symbolFonts.count(m_state.fontNumber) > 0;
+    const bool drawing = byte > 0x20 && m_tables.isSymbolFont(m_state.fontNumber);
     append(drawing ? bullet : characterOfByte(byte, m_codePage));
 }
 
@@ -387,12 +309,10 @@ void RichTextReader::append(char32_t character)
         appendCharacter(m_paragraph.marker, character);
         break;
     case Destination::FontTable:
-        nameFont(character);
+        m_tables.appendToFontName(character);
         break;
     case Destination::ColorTable:
-        if (character == U';') {
-            endColor();
-        }
+        m_tables.appendToColors(character);
         break;
     case Destination::Skipped:
         break;
@@ -408,40 +328,10 @@ std::string& RichTextReader::runText()
     return m_paragraph.runs.back().text;
 }
 
-void RichTextReader::nameFont(char32_t character)
-{
-    if (character != U';') {
-        if (m_fontName.size() < RichTextLimits::fontName) {
-            appendCharacter(m_fontName, character);
-        }
-        return;
-    }
-    const std::string name = trimmed(std::exchange(m_fontName, {}));
-    if (!name.empty() && m_tableFont >= 0 && m_document.fonts.size() < RichTextLimits::tableEntries) {
-        m_fonts[m_tableFont] = m_document.fonts.size();
-        m_document.fonts.push_back(name);
-    }
-    m_tableFont = -1;
-}
-
-void RichTextReader::endColor()
-{
-    if (m_colors.size() < RichTextLimits::tableEntries) {
-        m_colors.push_back(m_color);
-    }
-    m_color.reset();
-}
-
-std::size_t RichTextReader::fontNumbered(int number) const
-{
-    const auto found = m_fonts.find(number);
-    return found != m_fonts.end() ? found->second : 0;
-}
-
 void RichTextReader::useFont(int number)
 {
     m_state.fontNumber = number;
-    m_state.style.font = fontNumbered(number);
+    m_state.style.font = m_tables.font(number);
 }
 
 void RichTextReader::endParagraph()
@@ -451,7 +341,7 @@ void RichTextReader::endParagraph()
     }
     flushSurrogate();
     RichTextParagraph paragraph = m_state.paragraph;
-    paragraph.marker = trimmed(m_paragraph.marker);
+    paragraph.marker = trimmedText(m_paragraph.marker);
     paragraph.markerStyle = m_paragraph.markerStyle;
     paragraph.runs = std::move(m_paragraph.runs);
     m_document.paragraphs.push_back(std::move(paragraph));
@@ -461,7 +351,7 @@ void RichTextReader::endParagraph()
 
 void RichTextReader::endPendingParagraph()
 {
-    if (!m_paragraph.runs.empty() || !trimmed(m_paragraph.marker).empty()) {
+    if (!m_paragraph.runs.empty() || !trimmedText(m_paragraph.marker).empty()) {
         endParagraph();
     }
 }
@@ -472,6 +362,7 @@ void RichTextReader::finish()
     m_state.destination = Destination::Body;
     flushSurrogate();
     endPendingParagraph();
+    m_document.fonts = m_tables.takeFontNames();
 }
 
 } // namespace lodestar

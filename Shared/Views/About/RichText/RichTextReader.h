@@ -3,11 +3,9 @@
 
 #include "Views/About/RichText/RichText.h"
 #include "Views/About/RichText/RichTextCharacters.h"
+#include "Views/About/RichText/RichTextTables.h"
 #include "Views/About/RichText/RichTextTokens.h"
 #include "Views/About/RichText/RichTextWords.h"
-
-#include <map>
-#include <set>
 
 namespace lodestar
 {
@@ -41,7 +39,6 @@ private:
     void handleSymbol(int symbol);
     void handleWord(const RichTextWord& word, const RichTextToken& token);
     void handleStyleWord(const RichTextWord& word, const RichTextToken& token);
-    void handleParagraphWord(const RichTextWord& word, const RichTextToken& token);
     void handleTableWord(const RichTextWord& word, const RichTextToken& token);
 
     void appendByte(std::uint8_t byte);
@@ -49,9 +46,6 @@ private:
     void append(char32_t character);
     void flushSurrogate();
     std::string& runText();
-    void nameFont(char32_t character);
-    void endColor();
-    std::size_t fontNumbered(int number) const;
     void useFont(int number);
     void endParagraph();
     void endPendingParagraph();
@@ -68,12 +62,7 @@ private:
     char16_t m_highSurrogate = 0;
     RichTextCodePage m_codePage = RichTextCodePage::Windows1252;
     int m_defaultFont = -1;
-    std::map<int, std::size_t> m_fonts; ///< number -> index
-    std::set<int> m_symbolFonts;
-    int m_tableFont = -1;
-    std::string m_fontName;
-    std::vector<std::optional<RichTextColor>> m_colors;
-    std::optional<RichTextColor> m_color;
+    RichTextTables m_tables;
 };
 
 } // namespace lodestar

@@ -23,6 +23,9 @@ struct RichTextToken {
     std::string_view text{};
     int value = 0;
     bool hasValue = false;
+
+    /// What a switch says: on, unless its parameter is 0.
+    bool isOn() const { return !hasValue || value != 0; }
 };
 
 /// Cuts rich text into its tokens. Any bytes may be given; each is read once.
