@@ -122,19 +122,20 @@ TEST_F(MainQueueTests, NobodyIsInARemovedWakeFunction)
 
 TEST_F(MainQueueTests, DelayedBlocksRunInTheOrderOfTheirTimesAndNotBefore)
 {
+    // Far enough apart for a machine that takes a while between two of these lines.
     std::vector<int> order;
     const auto start = std::chrono::steady_clock::now();
     std::chrono::steady_clock::duration last{};
-    queue.asyncAfter(30ms, [&] {
+    queue.asyncAfter(400ms, [&] {
         order.push_back(3);
         last = std::chrono::steady_clock::now() - start;
     });
-    queue.asyncAfter(10ms, [&] { order.push_back(1); });
-    queue.asyncAfter(10ms, [&] { order.push_back(2); });
+    queue.asyncAfter(100ms, [&] { order.push_back(1); });
+    queue.asyncAfter(100ms, [&] { order.push_back(2); });
     queue.async([&] { order.push_back(0); });
     EXPECT_TRUE(queue.runUntil([&] { return order.size() == 4; }, 10s));
     EXPECT_EQ(order, (std::vector{0, 1, 2, 3}));
-    EXPECT_GE(last, 30ms);
+    EXPECT_GE(last, 400ms);
     EXPECT_FALSE(queue.runUntil([] { return false; }, 5ms));
 }
 
