@@ -3,9 +3,12 @@
 
 #include <algorithm>
 #include <csignal>
-#include <malloc.h>
 #include <mutex>
 #include <sys/resource.h>
+
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
 
 namespace lodestar
 {

@@ -2,14 +2,10 @@
 #include "Platform/URLLoading/NetworkThread.h"
 
 #include <algorithm>
-#include <array>
 #include <atomic>
 #include <cstdio>
 #include <cstdlib>
-#include <sys/epoll.h>
-#include <sys/eventfd.h>
 #include <sys/resource.h>
-#include <unistd.h>
 
 namespace lodestar
 {
@@ -25,6 +21,7 @@ constexpr std::size_t waitingBytesLimit = 48UL * 1024 * 1024;
 constexpr long keptConnections = 512;
 constexpr std::size_t descriptorsForOthers = 256;
 constexpr std::chrono::milliseconds slowCountInterval{50};
+constexpr int longestWait = 60'000; ///< milliseconds
 
 std::atomic<NetworkThread*> theThread{nullptr};
 std::atomic<bool> readersAwaited{false};
@@ -64,24 +61,13 @@ NetworkThread& NetworkThread::shared()
     return *thread;
 }
 
-NetworkThread::NetworkThread()
-    : m_multi(curl_multi_init()),
-      m_epoll(epoll_create1(EPOLL_CLOEXEC)),
-      m_wakeEvent(eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK))
+NetworkThread::NetworkThread() : m_multi(curl_multi_init())
 {
-    if (m_multi == nullptr || m_epoll < 0 || m_wakeEvent < 0) {
+    if (m_multi == nullptr) {
         std::fputs("The network thread could not be made\n", stderr);
         std::abort();
     }
-    curl_multi_setopt(m_multi, CURLMOPT_SOCKETFUNCTION, &NetworkThread::socketFunction);
-    curl_multi_setopt(m_multi, CURLMOPT_SOCKETDATA, this);
-    curl_multi_setopt(m_multi, CURLMOPT_TIMERFUNCTION, &NetworkThread::timerFunction);
-    curl_multi_setopt(m_multi, CURLMOPT_TIMERDATA, this);
     curl_multi_setopt(m_multi, CURLMOPT_MAXCONNECTS, keptConnections);
-    epoll_event event{};
-    event.events = EPOLLIN;
-    event.data.fd = m_wakeEvent;
-    epoll_ctl(m_epoll, EPOLL_CTL_ADD, m_wakeEvent, &event);
     m_thread = std::thread([this] { run(); });
 }
 
@@ -115,14 +101,11 @@ void NetworkThread::readerCaughtUp()
 
 void NetworkThread::wake() const
 {
-    const std::uint64_t one = 1;
-    // A full counter is a wake-up that is already on its way.
-    static_cast<void>(!write(m_wakeEvent, &one, sizeof one));
+    curl_multi_wakeup(m_multi);
 }
 
 void NetworkThread::run()
 {
-    std::array<epoll_event, 256> events{};
     for (;;) {
         {
             const std::lock_guard lock(m_inboxMutex);
@@ -132,42 +115,25 @@ void NetworkThread::run()
         }
         takeInbox();
         startWaiting();
-        const int count = epoll_wait(m_epoll, events.data(), static_cast<int>(events.size()), waitTime());
+        curl_multi_poll(m_multi, nullptr, 0, waitTime(), nullptr);
         int running = 0;
-        for (int i = 0; i < count; ++i) {
-            const epoll_event& event = events[static_cast<std::size_t>(i)];
-            if (event.data.fd == m_wakeEvent) {
-                std::uint64_t wakes = 0;
-                static_cast<void>(!read(m_wakeEvent, &wakes, sizeof wakes));
-                continue;
-            }
-            const unsigned int what = event.events;
-            const int action = ((what & EPOLLIN) != 0 ? CURL_CSELECT_IN : 0) |
-                               ((what & EPOLLOUT) != 0 ? CURL_CSELECT_OUT : 0) |
-                               ((what & (EPOLLERR | EPOLLHUP)) != 0 ? CURL_CSELECT_ERR : 0);
-            curl_multi_socket_action(m_multi, event.data.fd, action, &running);
-        }
-        if (m_curlTimer <= Clock::now()) {
-            m_curlTimer = Clock::time_point::max();
-            curl_multi_socket_action(m_multi, CURL_SOCKET_TIMEOUT, 0, &running);
-        }
+        curl_multi_perform(m_multi, &running);
         finishDone();
         failOverdue();
     }
 }
 
+/// libcurl's own timers cut the wait short by themselves.
 int NetworkThread::waitTime() const
 {
     const Clock::time_point now = Clock::now();
-    Clock::time_point until = std::min(m_curlTimer, m_nextDeadline);
-    if (!m_waiting.empty()) {
-        until = std::min(until, now + slowCountInterval);
-    }
+    const Clock::time_point until =
+        m_waiting.empty() ? m_nextDeadline : std::min(m_nextDeadline, now + slowCountInterval);
     if (until == Clock::time_point::max()) {
-        return -1;
+        return longestWait;
     }
     const auto wait = std::chrono::ceil<std::chrono::milliseconds>(until - now);
-    return static_cast<int>(std::clamp<std::int64_t>(wait.count(), 0, 60'000));
+    return static_cast<int>(std::clamp<std::int64_t>(wait.count(), 0, longestWait));
 }
 
 void NetworkThread::takeInbox()
@@ -304,34 +270,6 @@ void NetworkThread::remove(const std::shared_ptr<Transfer>& transfer)
     curl_multi_remove_handle(m_multi, transfer->handle());
     m_waiting.didEnd(*transfer);
     m_running.erase(transfer.get());
-}
-
-int NetworkThread::socketChanged(curl_socket_t socket, int what)
-{
-    if (what == CURL_POLL_REMOVE) {
-        // The socket may be closed, and so gone from the set, already.
-        epoll_ctl(m_epoll, EPOLL_CTL_DEL, socket, nullptr);
-        return 0;
-    }
-    epoll_event event{};
-    event.data.fd = socket;
-    event.events = ((what & CURL_POLL_IN) != 0 ? EPOLLIN : 0U) | ((what & CURL_POLL_OUT) != 0 ? EPOLLOUT : 0U);
-    if (epoll_ctl(m_epoll, EPOLL_CTL_MOD, socket, &event) != 0) {
-        epoll_ctl(m_epoll, EPOLL_CTL_ADD, socket, &event);
-    }
-    return 0;
-}
-
-int NetworkThread::socketFunction(CURL*, curl_socket_t socket, int what, void* self, void*)
-{
-    return static_cast<NetworkThread*>(self)->socketChanged(socket, what);
-}
-
-int NetworkThread::timerFunction(CURLM*, long milliseconds, void* self)
-{
-    auto& timer = static_cast<NetworkThread*>(self)->m_curlTimer;
-    timer = milliseconds < 0 ? Clock::time_point::max() : Clock::now() + std::chrono::milliseconds(milliseconds);
-    return 0;
 }
 
 } // namespace lodestar

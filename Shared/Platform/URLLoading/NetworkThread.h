@@ -52,13 +52,7 @@ private:
     void failOverdue();
     void remove(const std::shared_ptr<Transfer>& transfer);
 
-    int socketChanged(curl_socket_t socket, int what);
-    static int socketFunction(CURL*, curl_socket_t socket, int what, void* self, void*);
-    static int timerFunction(CURLM*, long milliseconds, void* self);
-
     CURLM* m_multi = nullptr;
-    int m_epoll = -1;
-    int m_wakeEvent = -1;
     std::thread m_thread;
 
     std::mutex m_inboxMutex;
@@ -71,7 +65,6 @@ private:
     std::unordered_map<Transfer*, std::shared_ptr<Transfer>> m_running;
     std::size_t m_slow = 0; ///< of the running ones, as last counted
     Clock::time_point m_slowCounted;
-    Clock::time_point m_curlTimer = Clock::time_point::max();
     Clock::time_point m_nextDeadline = Clock::time_point::max();
 };
 
