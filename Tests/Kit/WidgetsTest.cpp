@@ -271,6 +271,40 @@ TEST_F(WidgetsTest, NavigationSlidesItsScreensAndEveryWayBackPops)
     EXPECT_EQ(list->disappeared, 5);
 }
 
+TEST_F(WidgetsTest, AScreenThatSlidesTakesNoPressAndTheNextPushOrPopDoesNotWaitForIt)
+{
+    auto navigation = makeController<NavigationController>(list);
+    KitWindow window(navigation);
+    const auto slid = [&] { return !window.find("lodestar::NavigationStack")->property("busy").toBool(); };
+    navigation->pushViewController(gallery("GalleryDetail"), Animated::Yes);
+    EXPECT_FALSE(slid());
+    EXPECT_GT(window.find("GalleryDetail")->mapToScene({0, 0}).x(), 0);
+    window.click({200, 200});
+    window.click({26, 26});
+    EXPECT_EQ(navigation->depth(), 2);
+    EXPECT_THAT(list->selected, IsEmpty());
+
+    const auto third = gallery("GalleryDetail");
+    navigation->pushViewController(third, Animated::Yes);
+    navigation->pop();
+    navigation->pop();
+    EXPECT_EQ(window.find("GalleryScene")->mapToScene({0, 0}), QPointF(-130, 0));
+    EXPECT_TRUE(waitFor([&] { return slid() && window.find("GalleryDetail") == nullptr; }));
+    EXPECT_EQ(window.find("GalleryScene")->mapToScene({0, 0}), QPointF(0, 0));
+    EXPECT_TRUE(window.find("GalleryScene")->hasFocus());
+
+    // Without motion both stay where they are.
+    Appearance::shared().overrideReducedMotion(true);
+    navigation->pushViewController(gallery("GalleryDetail"), Animated::Yes);
+    EXPECT_FALSE(slid());
+    EXPECT_EQ(window.find("GalleryDetail")->mapToScene({0, 0}), QPointF(0, 0));
+    EXPECT_EQ(window.find("GalleryScene")->mapToScene({0, 0}), QPointF(0, 0));
+    navigation->pop();
+    navigation->pushViewController(gallery("GalleryDetail"), Animated::No);
+    EXPECT_TRUE(slid());
+    EXPECT_FALSE(window.find("GalleryScene")->isVisible());
+}
+
 TEST_F(WidgetsTest, AlertsAndActionSheetsAnswerToPressesAndKeys)
 {
     KitWindow window(list);

@@ -73,7 +73,7 @@ protected:
     }
     void expectTargetsLargeEnough() const
     {
-        for (const QQuickItem* item : stage.items("QQuickAbstractButton")) {
+        for (const QQuickItem* item : stage.buttons()) {
             EXPECT_GE(item->width(), 44) << item->property("text").toString().toStdString();
             EXPECT_GE(item->height(), 44) << item->property("text").toString().toStdString();
         }

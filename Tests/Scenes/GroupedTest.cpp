@@ -40,7 +40,7 @@ TEST_F(GroupedTest, AServersButtonsAreShownAndDoNothing)
     const auto letGo = [&](int by) { QTest::mouseRelease(&stage.window(), Qt::LeftButton, {}, from + QPoint(by, 0)); };
     const auto buttons = [&] {
         std::vector<QQuickItem*> shown;
-        for (QQuickItem* item : stage.items(QStringLiteral("QQuickAbstractButton"))) {
+        for (QQuickItem* item : stage.buttons()) {
             if (item->property("picture").isValid()) {
                 shown.push_back(item);
             }

@@ -323,6 +323,16 @@ std::vector<QQuickItem*> SceneStage::items(const QString& typeName) const
     return found;
 }
 
+std::vector<QQuickItem*> SceneStage::buttons() const
+{
+    std::vector<QQuickItem*> found;
+    collect(
+        m_window->contentItem(),
+        [](QQuickItem* item) { return hasType(item, "QQuickAbstractButton") || hasType(item, "lodestar::Pressable"); },
+        found);
+    return found;
+}
+
 QQuickItem* SceneStage::item(const QString& objectName) const
 {
     std::vector<QQuickItem*> found;

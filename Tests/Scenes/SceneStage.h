@@ -102,6 +102,8 @@ public:
 
     /// Visible items whose C++ or QML type has the name, in the order of the tree.
     std::vector<QQuickItem*> items(const QString& typeName) const;
+    /// Everything visible that is pressed by itself: rows of tables are not.
+    std::vector<QQuickItem*> buttons() const;
     QQuickItem* item(const QString& objectName) const;
     /// Uncovers a row's buttons.
     void swipe(int row) const;

@@ -50,7 +50,7 @@ protected:
     }
     QQuickItem* button(const QString& text) const
     {
-        for (QQuickItem* item : stage.items(QStringLiteral("QQuickAbstractButton"))) {
+        for (QQuickItem* item : stage.buttons()) {
             if (item->property("text").toString() == text) {
                 return item;
             }

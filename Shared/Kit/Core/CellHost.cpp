@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Kit/Core/CellHost.h"
 
-#include <QQmlContext>
+#include "Kit/Core/MakeItem.h"
+
 #include <QQmlEngine>
 #include <QQmlProperty>
 
@@ -68,15 +69,11 @@ void CellHost::configure()
 
 void CellHost::make(const QVariant& cell)
 {
-    QObject* made = m_delegate->createWithInitialProperties({{cellProperty, cell}}, m_delegate->creationContext());
-    m_item = qobject_cast<QQuickItem*>(made);
+    m_item = makeItem(*m_delegate, {{cellProperty, cell}}, *this);
     if (!m_item) {
-        delete made;
         qWarning("A row cannot be shown: %s", qPrintable(m_delegate->errorString()));
         return;
     }
-    m_item->setParent(this);
-    m_item->setParentItem(this);
     connect(m_item, &QQuickItem::implicitHeightChanged, this, [this] { setImplicitHeight(m_item->implicitHeight()); });
     fill();
     setImplicitHeight(m_item->implicitHeight());

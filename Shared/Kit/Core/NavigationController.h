@@ -10,7 +10,7 @@ namespace lodestar
 
 enum class Animated { No, Yes };
 
-/// A stack of screens, the last one shown. One StackView mirrors it, so that navigation needs no window.
+/// A stack of screens, the last one shown. One NavigationStack mirrors it, so that navigation needs no window.
 class NavigationController : public lodestar::ViewController
 {
     Q_OBJECT

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Kit/Core/SceneHost.h"
 
+#include "Kit/Core/MakeItem.h"
 #include "Kit/Core/NavigationController.h"
 #include "Kit/Core/TabBarController.h"
 
@@ -91,17 +92,10 @@ void SceneHost::load()
     m_controller->loadViewIfNeeded();
     QQmlComponent component(qmlEngine(this), sceneOf(*m_controller));
     const QVariant controller = QVariant::fromValue<QObject*>(m_controller.data());
-    // Creating from a broken file crashes in Qt 6.4.
-    QObject* made = component.isReady()
-                        ? component.createWithInitialProperties({{QStringLiteral("controller"), controller}})
-                        : nullptr;
-    m_scene = qobject_cast<QQuickItem*>(made);
+    m_scene = makeItem(component, {{QStringLiteral("controller"), controller}}, *this);
     if (!m_scene) {
-        delete made;
         qWarning("A scene cannot be shown: %s", qPrintable(component.errorString()));
     } else {
-        m_scene->setParent(this);
-        m_scene->setParentItem(this);
         m_scene->setFocus(true);
         fill();
     }

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Lodestar.Kit
 
 /// A button that is a drawing; `text` is its name for those who do not see it.
-T.AbstractButton {
+Pressable {
     id: button
 
     required property string iconName
@@ -13,26 +12,24 @@ T.AbstractButton {
 
     implicitWidth: Theme.target
     implicitHeight: Theme.target
-    focusPolicy: Qt.StrongFocus
     opacity: enabled ? 1 : 0.4
     Accessible.role: Accessible.Button
     Accessible.name: text
 
-    contentItem: Item {
-        Icon {
-            name: button.iconName
-            color: button.ink
-            directional: button.directional
-            anchors.centerIn: parent
-            opacity: button.pressed ? 0.55 : button.hovered ? 0.8 : 1
-
-            Behavior on opacity {
-                NumberAnimation { duration: button.pressed ? Theme.pressIn : Theme.pressOut }
-            }
-        }
-    }
-    background: FocusRing {
+    FocusRing {
+        anchors.fill: parent
         shown: button.visualFocus
+    }
+    Icon {
+        name: button.iconName
+        color: button.ink
+        directional: button.directional
+        anchors.centerIn: parent
+        opacity: button.pressed ? 0.55 : button.hovered ? 0.8 : 1
+
+        Behavior on opacity {
+            NumberAnimation { duration: button.pressed ? Theme.pressIn : Theme.pressOut }
+        }
     }
     Keys.onReturnPressed: button.clicked()
     Keys.onEnterPressed: button.clicked()

@@ -2,7 +2,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Lodestar.Kit
 
 /// The buttons that a swiped row uncovers. They take the keyboard when they come; the arrows move between them and
@@ -33,7 +32,7 @@ FocusScope {
 
         model: view.buttons
 
-        T.AbstractButton {
+        Pressable {
             id: button
 
             required property int index
@@ -49,7 +48,6 @@ FocusScope {
             x: view.atRight ? view.width - start - width : start
             z: fill > 0 ? 1 : -index
             text: modelData.title
-            focusPolicy: Qt.StrongFocus
             Accessible.role: Accessible.Button
             Accessible.name: text !== "" ? text : picture
             onClicked: view.tapped(index)
@@ -65,30 +63,10 @@ FocusScope {
                 }
             }
 
-            contentItem: Item {
-                Icon {
-                    visible: button.picture !== ""
-                    name: button.picture
-                    color: Theme.inkOn(button.ground)
-                    anchors.centerIn: parent
-                }
-                Label {
-                    visible: button.picture === ""
-                    text: button.text
-                    size: Theme.stateSize
-                    scaleFactor: Theme.barScale
-                    color: Theme.inkOn(button.ground)
-                    width: parent.width - 8
-                    anchors.centerIn: parent
-                    horizontalAlignment: Text.AlignHCenter
-                    fontSizeMode: Text.HorizontalFit
-                    minimumPixelSize: 8
-                    Accessible.ignored: true
-                }
-            }
-            background: Rectangle {
-                color: button.down ? Qt.darker(button.ground, 1.163)
-                                   : button.hovered ? Qt.darker(button.ground, 1.075) : button.ground
+            Rectangle {
+                anchors.fill: parent
+                color: button.pressed ? Qt.darker(button.ground, 1.163)
+                                      : button.hovered ? Qt.darker(button.ground, 1.075) : button.ground
 
                 FocusRing {
                     anchors.fill: parent
@@ -97,6 +75,25 @@ FocusScope {
                     border.color: Theme.inkOn(button.ground)
                     shown: button.visualFocus
                 }
+            }
+            Icon {
+                visible: button.picture !== ""
+                name: button.picture
+                color: Theme.inkOn(button.ground)
+                anchors.centerIn: parent
+            }
+            Label {
+                visible: button.picture === ""
+                text: button.text
+                size: Theme.stateSize
+                scaleFactor: Theme.barScale
+                color: Theme.inkOn(button.ground)
+                width: parent.width - 8
+                anchors.centerIn: parent
+                horizontalAlignment: Text.AlignHCenter
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 8
+                Accessible.ignored: true
             }
         }
     }

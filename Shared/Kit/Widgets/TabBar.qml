@@ -2,7 +2,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Lodestar.Kit
 
 /// The tabs of a controller: along the lower edge, or as a rail at the start of wide windows, under the application's
@@ -61,7 +60,7 @@ Rectangle {
 
             model: bar.controller.count
 
-            T.AbstractButton {
+            Pressable {
                 id: tab
 
                 required property int index
@@ -71,7 +70,6 @@ Rectangle {
                 width: grid.tabWidth
                 height: bar.rail ? 64 : bar.height
                 text: bar.controller.titleAt(index)
-                focusPolicy: Qt.StrongFocus
                 Accessible.role: Accessible.PageTab
                 Accessible.name: text
                 Accessible.selected: selected
@@ -83,34 +81,32 @@ Rectangle {
                 Keys.onDownPressed: bar.step(bar.rail ? 1 : 0)
                 Keys.onReturnPressed: tab.clicked()
 
-                contentItem: Item {
-                    Column {
-                        anchors.centerIn: parent
-                        width: parent.width
-                        spacing: 2
-                        opacity: tab.pressed && !tab.selected ? 0.55 : 1
-
-                        Icon {
-                            name: tab.imageName === "" ? "" : tab.selected ? tab.imageName + "_selected" : tab.imageName
-                            color: tab.selected ? bar.tint : Theme.ink3
-                            anchors.horizontalCenter: parent.horizontalCenter
-                        }
-                        Label {
-                            text: tab.text
-                            size: Theme.axisSize
-                            scaleFactor: Theme.barScale
-                            color: tab.selected ? Theme.tabSelected : tab.hovered ? Theme.ink2 : Theme.ink3
-                            width: parent.width
-                            horizontalAlignment: Text.AlignHCenter
-                            elide: Text.ElideRight
-                            Accessible.ignored: true
-                        }
-                    }
-                }
-                background: FocusRing {
+                FocusRing {
                     anchors.fill: parent
                     anchors.margins: 3
                     shown: tab.visualFocus
+                }
+                Column {
+                    anchors.centerIn: parent
+                    width: parent.width
+                    spacing: 2
+                    opacity: tab.pressed && !tab.selected ? 0.55 : 1
+
+                    Icon {
+                        name: tab.imageName === "" ? "" : tab.selected ? tab.imageName + "_selected" : tab.imageName
+                        color: tab.selected ? bar.tint : Theme.ink3
+                        anchors.horizontalCenter: parent.horizontalCenter
+                    }
+                    Label {
+                        text: tab.text
+                        size: Theme.axisSize
+                        scaleFactor: Theme.barScale
+                        color: tab.selected ? Theme.tabSelected : tab.hovered ? Theme.ink2 : Theme.ink3
+                        width: parent.width
+                        horizontalAlignment: Text.AlignHCenter
+                        elide: Text.ElideRight
+                        Accessible.ignored: true
+                    }
                 }
             }
         }

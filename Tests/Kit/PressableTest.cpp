@@ -1,0 +1,92 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/Pressable.h"
+
+#include "KitWindow.h"
+
+#include <gtest/gtest.h>
+
+namespace lodestar
+{
+namespace
+{
+
+/// Two buttons one above the other, 100 by 50.
+class PressableTest : public testing::Test
+{
+protected:
+    PressableTest()
+    {
+        window.setGeometry(0, 0, 200, 200);
+        for (Pressable* const item : {&first, &second}) {
+            item->setParentItem(window.contentItem());
+            item->setSize({100, 50});
+            QObject::connect(item, &Pressable::clicked, item, [this, item] { clicks << item; });
+        }
+        second.setY(50);
+        window.show();
+        window.requestActivate();
+        EXPECT_TRUE(waitFor([this] { return window.isExposed() && window.isActive(); }));
+    }
+    void key(Qt::Key which) { QTest::keyClick(&window, which); }
+
+    QQuickWindow window;
+    Pressable first;
+    Pressable second;
+    QList<Pressable*> clicks;
+};
+
+TEST_F(PressableTest, AFingerOrMouseClicksWhereItLetsGoOfWhatItPressed)
+{
+    QTest::mousePress(&window, Qt::LeftButton, {}, {50, 20});
+    EXPECT_TRUE(first.isPressed());
+    EXPECT_TRUE(first.hasActiveFocus());
+    EXPECT_FALSE(first.hasVisualFocus());
+    QTest::mouseMove(&window, {50, 70});
+    EXPECT_FALSE(first.isPressed());
+    EXPECT_FALSE(second.isPressed());
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, {50, 70});
+    EXPECT_TRUE(clicks.isEmpty());
+
+    QTest::mouseClick(&window, Qt::RightButton, {}, {50, 20});
+    EXPECT_TRUE(clicks.isEmpty());
+    QTest::mouseDClick(&window, Qt::LeftButton, {}, {50, 20});
+    EXPECT_EQ(clicks, (QList<Pressable*>{&first, &first}));
+
+    QPointingDevice* const finger = QTest::createTouchDevice();
+    QTest::touchEvent(&window, finger).press(1, {50, 70}, &window);
+    QTest::touchEvent(&window, finger).release(1, {50, 70}, &window);
+    EXPECT_EQ(clicks.last(), &second);
+
+    // A press that loses its button is none.
+    QTest::mousePress(&window, Qt::LeftButton, {}, {50, 20});
+    first.setEnabled(false);
+    EXPECT_FALSE(first.isPressed());
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, {50, 20});
+    first.accessiblePressAction();
+    EXPECT_EQ(clicks.size(), 3);
+    second.accessiblePressAction();
+    EXPECT_EQ(clicks.size(), 4);
+}
+
+TEST_F(PressableTest, TheKeyboardGoesFromOneToTheNextWithARingAndTheSpaceBarPresses)
+{
+    first.forceActiveFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(first.hasVisualFocus());
+    key(Qt::Key_Tab);
+    EXPECT_TRUE(second.hasVisualFocus());
+    EXPECT_FALSE(first.hasVisualFocus());
+    QTest::keyPress(&window, Qt::Key_Space);
+    EXPECT_TRUE(second.isPressed());
+    QTest::keyRelease(&window, Qt::Key_Space);
+    EXPECT_EQ(clicks, QList<Pressable*>{&second});
+
+    // What the keyboard leaves while the bar is down is not clicked.
+    QTest::keyPress(&window, Qt::Key_Space);
+    first.forceActiveFocus(Qt::TabFocusReason);
+    EXPECT_FALSE(second.isPressed());
+    QTest::keyRelease(&window, Qt::Key_Space);
+    EXPECT_EQ(clicks.size(), 1);
+}
+
+} // namespace
+} // namespace lodestar
