@@ -14,17 +14,20 @@ namespace
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-const FeedDate summerMorning{QDate(2026, 7, 3), QTime(10, 25)};
+using namespace std::chrono_literals;
+
+const FeedDate summerMorning{2026y / 7 / 3, 10h + 25min};
 
 TEST(FeedTimeStampTest, ReadsThePatternAndNothingElse)
 {
     EXPECT_EQ(parseFeedDate("2026-07-03T10:25:00.000Z"), summerMorning);
-    EXPECT_EQ(parseFeedDate("2024-02-29T23:59:59.999Z"), (FeedDate{QDate(2024, 2, 29), QTime(23, 59, 59, 999)}));
-    for (const char* text : {"", "2026-07-03", "2026-07-03T10:25:00Z", "2026-07-03T10:25:00.000",
-                             "2026-07-03T10:25:00.000z", "2026-07-03T10:25:00.000+02:00", "2026-07-03 10:25:00.000Z",
-                             " 2026-07-03T10:25:00.000Z", "2026-07-03T10:25:00.000Z\n", "26-07-03T10:25:00.000Z",
-                             "2026-13-03T10:25:00.000Z", "2026-02-29T10:25:00.000Z", "2026-07-03T24:00:00.000Z",
-                             "2026-07-03T10:60:00.000Z", "2026-07-03T10:25:00.0a0Z", "２026-07-03T10:25:00.00Z"}) {
+    EXPECT_EQ(parseFeedDate("2024-02-29T23:59:59.999Z"), (FeedDate{2024y / 2 / 29, 24h - 1ms}));
+    for (const char* text :
+         {"", "2026-07-03", "2026-07-03T10:25:00Z", "2026-07-03T10:25:00.000", "2026-07-03T10:25:00.000z",
+          "2026-07-03T10:25:00.000+02:00", "2026-07-03 10:25:00.000Z", " 2026-07-03T10:25:00.000Z",
+          "2026-07-03T10:25:00.000Z\n", "26-07-03T10:25:00.000Z", "2026-13-03T10:25:00.000Z",
+          "0000-01-01T00:00:00.000Z", "2026-02-29T10:25:00.000Z", "2026-07-03T24:00:00.000Z",
+          "2026-07-03T10:60:00.000Z", "2026-07-03T10:25:00.0a0Z", "２026-07-03T10:25:00.00Z"}) {
         EXPECT_EQ(parseFeedDate(text), std::nullopt) << text;
     }
 }

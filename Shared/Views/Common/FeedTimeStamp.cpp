@@ -11,24 +11,6 @@ namespace lodestar
 namespace
 {
 
-constexpr std::string_view pattern = "0000-00-00T00:00:00.000Z";
-
-bool matchesPattern(std::string_view text)
-{
-    return std::ranges::equal(text, pattern, [](char given, char wanted) {
-        return wanted == '0' ? given >= '0' && given <= '9' : given == wanted;
-    });
-}
-
-int number(std::string_view digits)
-{
-    int value = 0;
-    for (const char digit : digits) {
-        value = value * 10 + (digit - '0');
-    }
-    return value;
-}
-
 struct MediumDate {
     QLocale::Language language;
     const char16_t* pattern;
@@ -60,23 +42,21 @@ QString mediumDatePattern(const QLocale& locale)
 
 } // namespace
 
-std::optional<FeedDate> parseFeedDate(std::string_view text)
+QString mediumDateShortTime(const WallClock& clock, const QLocale& locale)
 {
-    if (!matchesPattern(text)) {
-        return {};
-    }
-    const auto part = [text](std::size_t from, std::size_t length) { return number(text.substr(from, length)); };
-    const FeedDate read{QDate(part(0, 4), part(5, 2), part(8, 2)),
-                        QTime(part(11, 2), part(14, 2), part(17, 2), part(20, 3))};
-    return read.date.isValid() && read.time.isValid() ? std::optional(read) : std::nullopt;
+    // The C locale's short time has seconds, also as the system's locale, which does not equal it.
+    const QLocale shown = locale.language() == QLocale::C ? QLocale(QLocale::English, QLocale::UnitedKingdom) : locale;
+    return shown.toString(clock.date, mediumDatePattern(shown)) + QStringLiteral(", ") +
+           shown.toString(clock.time, QLocale::ShortFormat);
 }
 
 QString mediumDateShortTime(const FeedDate& date, const QLocale& locale)
 {
-    // The C locale's short time has seconds, also as the system's locale, which does not equal it.
-    const QLocale shown = locale.language() == QLocale::C ? QLocale(QLocale::English, QLocale::UnitedKingdom) : locale;
-    return shown.toString(date.date, mediumDatePattern(shown)) + QStringLiteral(", ") +
-           shown.toString(date.time, QLocale::ShortFormat);
+    const auto month = static_cast<int>(static_cast<unsigned>(date.date.month()));
+    const auto day = static_cast<int>(static_cast<unsigned>(date.date.day()));
+    return mediumDateShortTime(WallClock{QDate(static_cast<int>(date.date.year()), month, day),
+                                         QTime::fromMSecsSinceStartOfDay(static_cast<int>(date.time.count()))},
+                               locale);
 }
 
 QString feedTimeStamp(const XMLElement& feedRoot)
