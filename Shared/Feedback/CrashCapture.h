@@ -17,8 +17,8 @@ namespace lodestar
 /// signal before and lets the signal happen again, so that core files, exit codes and whoever waits for them see the
 /// crash as if it had never been here. A crash inside the handler ends the process at once.
 ///
-/// A stack that overflows on the main thread is recorded too; on another thread it ends the process unrecorded, since
-/// only the main thread has a second stack to run the handler on.
+/// A stack that overflows is recorded on the main thread and on those that begin with an `OwnThread`. On any other
+/// it ends the process unrecorded, for want of a second stack to run the handler on.
 class CrashCapture
 {
 public:
@@ -34,7 +34,8 @@ public:
     /// Adds the libraries that have been loaded since the last time, without which addresses in them tell nothing. Any
     /// thread but one at a time; it waits for the disk.
     static void recordModules();
-    /// What the coming abort is about; at most a kilobyte of it. Any thread.
+    /// What the coming abort is about; at most a kilobyte of it. It stands in the file as it comes: without secrets,
+    /// please. Any thread.
     static void noteException(std::string_view text) noexcept;
 };
 

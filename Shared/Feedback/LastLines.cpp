@@ -20,4 +20,10 @@ void LastLines::append(std::string_view line)
     m_total.store(total + line.size(), std::memory_order_release);
 }
 
+void LastLines::clear()
+{
+    m_total.store(0, std::memory_order_release);
+    std::memset(m_bytes, 0, capacity);
+}
+
 } // namespace lodestar

@@ -17,6 +17,7 @@ public:
     static constexpr std::size_t capacity = std::size_t{16} << 10;
 
     void append(std::string_view line);
+    void clear();
     /// Calls `piece` with the kept bytes in order, in at most two pieces. Safe in a signal handler if the function is.
     /// The first line may lack its start.
     template <typename Function>

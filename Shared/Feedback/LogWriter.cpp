@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/LogWriter.h"
 
+#include "Platform/Queues/OwnThread.h"
+
 #include <fmt/core.h>
 
 #include <chrono>
@@ -75,6 +77,18 @@ void LogWriter::flush()
     writePending();
 }
 
+void LogWriter::forget()
+{
+    const std::lock_guard fileLock(m_fileMutex);
+    {
+        const std::lock_guard lock(m_mutex);
+        m_pending.clear();
+        m_linesDropped = 0;
+        m_lastLines.clear();
+    }
+    m_file.empty();
+}
+
 /// With `m_fileMutex` held.
 void LogWriter::writePending()
 {
@@ -93,6 +107,7 @@ void LogWriter::writePending()
 
 void LogWriter::run()
 {
+    const OwnThread thread("lodestar-log");
     std::unique_lock lock(m_mutex);
     while (!m_stopping) {
         m_changed.wait(lock, [this] { return m_stopping || !m_pending.empty(); });

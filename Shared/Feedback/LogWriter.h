@@ -29,6 +29,8 @@ public:
     /// counted instead.
     void append(std::string_view line);
     void flush();
+    /// Drops all that has been logged, on the disk too.
+    void forget();
     /// What was logged last, for a crash.
     const LastLines& lastLines() const { return m_lastLines; }
 

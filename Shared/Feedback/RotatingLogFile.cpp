@@ -150,6 +150,22 @@ void RotatingLogFile::rotate()
     }
 }
 
+void RotatingLogFile::empty()
+{
+    if (!isOpen()) {
+        return;
+    }
+    for (int number = 1; number < m_limits.files; ++number) {
+        ::unlink((m_path + "." + std::to_string(number)).c_str());
+    }
+    if (::ftruncate(m_descriptor, 0) == 0) {
+        m_size = 0;
+        m_midLine = false;
+        m_bytesLost = 0;
+        append(m_header);
+    }
+}
+
 bool RotatingLogFile::openFile()
 {
     // No link is followed: what it points to is none of ours to append to.

@@ -33,6 +33,8 @@ public:
 
     /// Appends whole lines, each with its line feed. A file grows past its limit only to hold one line.
     void append(std::string_view lines);
+    /// Takes away the files that were set aside and what stands in this one, but for a header.
+    void empty();
 
 private:
     void close();

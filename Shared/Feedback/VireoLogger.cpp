@@ -2,6 +2,7 @@
 #include "Feedback/VireoLogger.h"
 
 #include "Feedback/CrashCapture.h"
+#include "Feedback/ExceptionText.h"
 #include "Feedback/LogListeners.h"
 #include "Feedback/LogText.h"
 #include "Feedback/LogWriter.h"
@@ -13,13 +14,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
-#include <cxxabi.h>
 #include <exception>
 #include <execinfo.h>
 #include <iterator>
 #include <link.h>
+#include <mutex>
 #include <random>
-#include <typeinfo>
 #include <unistd.h>
 #include <utility>
 
@@ -41,6 +41,18 @@ std::function<void()>& presenter()
 {
     static auto& function = *new std::function<void()>;
     return function;
+}
+
+/// Never destroyed: threads may end the process while it is ending.
+struct SecretsProvider {
+    std::mutex mutex;
+    std::function<std::vector<std::string>()> function;
+};
+
+SecretsProvider& secretsProvider()
+{
+    static auto& provider = *new SecretsProvider;
+    return provider;
 }
 
 void appendTime(std::string& line)
@@ -93,27 +105,6 @@ std::string fileHeader()
     appendTime(header);
     fmt::format_to(std::back_inserter(header), " process {}, program loaded at {:x}\n", ::getpid(), base);
     return header;
-}
-
-std::string describeExceptionInFlight()
-{
-    if (!std::current_exception()) {
-        return "terminated without an exception";
-    }
-    int status = 0;
-    const std::type_info* type = abi::__cxa_current_exception_type();
-    char* demangled = type == nullptr ? nullptr : abi::__cxa_demangle(type->name(), nullptr, nullptr, &status);
-    std::string text = demangled != nullptr ? demangled : type != nullptr ? type->name() : "unknown type";
-    std::free(demangled);
-    try {
-        throw;
-    } catch (const std::exception& exception) {
-        text += ": ";
-        text += exception.what();
-    } catch (...) {
-        text += " (no description)";
-    }
-    return text;
 }
 
 } // namespace
@@ -170,7 +161,12 @@ void VireoLogger::uncaughtExceptionHandler()
     static std::atomic<bool> running = false;
     if (!running.exchange(true)) {
         try {
-            const std::string description = describeExceptionInFlight();
+            std::function<std::vector<std::string>()> secrets;
+            {
+                const std::lock_guard lock(secretsProvider().mutex);
+                secrets = secretsProvider().function;
+            }
+            const std::string description = exceptionText(secrets);
             CrashCapture::noteException(description);
             LODESTAR_LOG(ownFile, "+[VireoLogger uncaughtExceptionHandler]", "uncaught exception: {}", description);
             flush();
@@ -195,6 +191,12 @@ void VireoLogger::setFeedbackPresenter(std::function<void()> presenter_)
     presenter() = std::move(presenter_);
 }
 
+void VireoLogger::setSecretsProvider(std::function<std::vector<std::string>()> provider)
+{
+    const std::lock_guard lock(secretsProvider().mutex);
+    secretsProvider().function.swap(provider);
+}
+
 bool VireoLogger::openLogFolder(const std::string& folder)
 {
     return LogWriter::shared().open(folder, "lodestar.log", fileHeader());
@@ -203,6 +205,11 @@ bool VireoLogger::openLogFolder(const std::string& folder)
 std::shared_ptr<void> VireoLogger::addListener(std::function<void(const Entry&)> listener)
 {
     return LogListeners::shared().add(std::move(listener));
+}
+
+void VireoLogger::forget()
+{
+    LogWriter::shared().forget();
 }
 
 void VireoLogger::flush()

@@ -48,9 +48,12 @@ public:
     static void startSession(std::string_view applicationKey);
     /// Names this run of the program in the log and in reports. Any thread.
     static const std::string& sessionIdentifier();
-    /// To be installed with `std::set_terminate`: logs the exception in flight, notes it for the crash report and
-    /// aborts.
+    /// To be installed with `std::set_terminate`: logs the exception in flight without the secrets in it, notes it for
+    /// the crash report and aborts.
     [[noreturn]] static void uncaughtExceptionHandler();
+    /// The secrets that an exception's description might tell. The function is called on any thread; it may take locks.
+    /// An empty function takes it away: descriptions are then told without what looks like a secret.
+    static void setSecretsProvider(std::function<std::vector<std::string>()> provider);
     /// Presents the feedback screen; without a presenter only a line is logged. Main thread.
     static void feedback();
     /// What `feedback` calls; an empty function takes it away. Main thread.
@@ -64,6 +67,8 @@ public:
     /// destroyed: once that has returned the function does not run. The message comes as it was logged, unescaped.
     /// Lines that the function logs itself reach no listener. For tests and the debug console.
     [[nodiscard]] static std::shared_ptr<void> addListener(std::function<void(const Entry&)> listener);
+    /// Empties the log: the file, those that were set aside, and what is kept in memory for a crash. Logging goes on.
+    static void forget();
     /// Writes what is buffered. Lines are written in the background within a fraction of a second, and at exit.
     static void flush();
 

@@ -3,6 +3,8 @@
 #include "Feedback/CrashCapture.h"
 #include "Feedback/CrashCollector.h"
 #include "Feedback/VireoLogger.h"
+#include "Platform/Queues/DispatchQueue.h"
+#include "Platform/Queues/OwnThread.h"
 
 #include <csignal>
 #include <cstdio>
@@ -10,6 +12,7 @@
 #include <exception>
 #include <functional>
 #include <map>
+#include <mutex>
 #include <stdexcept>
 #include <string>
 #include <sys/mman.h>
@@ -62,6 +65,46 @@ void crashOnTwoThreads()
     zero = 1; // the call must not become a jump, which leaves no frame
 }
 
+void overflowInThePool()
+{
+    DispatchQueue::globalBackground().async([] { zero = overflow(zero); });
+    ::sleep(60);
+}
+
+void overflowOnAThreadOfItsOwn()
+{
+    std::thread([] {
+        const OwnThread thread("overflows");
+        zero = overflow(zero);
+    }).join();
+}
+
+const std::string secret = "hunter2-swordfish";
+std::mutex guardOfSecrets;
+
+std::vector<std::string> secretsInUse()
+{
+    const std::lock_guard lock(guardOfSecrets);
+    return {secret};
+}
+
+void throwWithASecret()
+{
+    throw std::runtime_error("the password is " + secret);
+}
+
+/// Whoever ends holds the lock behind which the secrets are: nothing is unwound on the way to the handler.
+void throwWithTheLockHeld() noexcept
+{
+    const std::lock_guard lock(guardOfSecrets);
+    throwWithASecret();
+}
+
+void throwOnAWorker()
+{
+    std::thread(&throwWithASecret).join();
+}
+
 } // namespace
 
 /// Found by its name in the report.
@@ -76,9 +119,13 @@ void crashOnTwoThreads()
         {"abort", [] { std::abort(); }},
         {"null-call", &callNowhere},
         {"overflow", [] { zero = overflow(zero); }},
+        {"pool-overflow", &overflowInThePool},
+        {"thread-overflow", &overflowOnAThreadOfItsOwn},
         {"no-stack", &crashWithoutStack},
         {"two-threads", &crashOnTwoThreads},
-        {"exception", [] { throw std::runtime_error("the password is hunter2-swordfish"); }},
+        {"exception", &throwWithASecret},
+        {"exception-worker", &throwOnAWorker},
+        {"exception-locked", &throwWithTheLockHeld},
         {"full-disk",
          [] {
              const struct rlimit nothingMore = {16, 16};
@@ -99,11 +146,12 @@ int main(int argc, char** argv)
     const std::string what = argv[2];
     VireoLogger::openLogFolder(folder + "/Logs");
     if (what == "collect") {
-        const CrashSources sources = {folder + "/Crashes", folder + "/Logs", {"hunter2-swordfish"}};
+        const CrashSources sources = {folder + "/Crashes", folder + "/Logs", {secret}};
         return collectCrashes(sources, ReportStore(folder + "/Reports")) + 100;
     }
     const struct rlimit noCore = {0, 0};
     ::setrlimit(RLIMIT_CORE, &noCore);
+    VireoLogger::setSecretsProvider(&secretsInUse);
     std::set_terminate(&VireoLogger::uncaughtExceptionHandler);
     if (!CrashCapture::install(folder + "/Crashes", {"9.8.7", VireoLogger::sessionIdentifier()})) {
         return 3;

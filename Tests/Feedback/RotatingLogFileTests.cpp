@@ -64,6 +64,11 @@ TEST(RotatingLogFile, KeepsTheYoungestFilesWithTheirHeaderAndLosesNoLineInBetwee
     for (const char* name : {"log", "log.1", "log.2"}) {
         EXPECT_EQ(modeOf(std::filesystem::path(folder) / name), perms::owner_read | perms::owner_write) << name;
     }
+
+    file.empty();
+    file.append("9\n");
+    EXPECT_EQ(scratch.read("new/logs/log"), "H\n9\n");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1);
 }
 
 TEST(RotatingLogFile, GoesOnWithTheFileOfTheLastRunAndTightensItsMode)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Adapters/SystemKeychain.h"
 
+#include "Platform/Queues/OwnThread.h"
+
 #include <QCoreApplication>
 #include <QEvent>
 #include <QObject>
@@ -99,6 +101,9 @@ public:
     {
         m_thread->setObjectName(QStringLiteral("lodestar-keychain"));
         m_starter->moveToThread(m_thread.get());
+        QObject::connect(
+            m_thread.get(), &QThread::started, m_thread.get(),
+            [] { static thread_local const OwnThread thread("lodestar-keych"); }, Qt::DirectConnection);
         m_thread->start();
     }
     ~Worker()

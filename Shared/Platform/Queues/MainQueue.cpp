@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/Queues/MainQueue.h"
 
+#include "Platform/Queues/OwnThread.h"
 #include "Platform/Queues/Ring.h"
-#include "Platform/Queues/ThreadName.h"
 
 #include <algorithm>
 #include <atomic>
@@ -98,7 +98,7 @@ void MainQueue::State::callWake(std::unique_lock<std::mutex>& lock)
 
 void MainQueue::State::runTimers()
 {
-    nameThisThread("lodestar-timer");
+    const OwnThread thread("lodestar-timer");
     std::unique_lock lock(mutex);
     while (true) {
         if (timers.empty()) {

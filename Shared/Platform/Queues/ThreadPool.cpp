@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/Queues/ThreadPool.h"
 
+#include "Platform/Queues/OwnThread.h"
 #include "Platform/Queues/Ring.h"
-#include "Platform/Queues/ThreadName.h"
 
 #include <algorithm>
 #include <atomic>
@@ -191,7 +191,7 @@ void ThreadPool::State::startThread()
 
 void ThreadPool::State::work()
 {
-    nameThisThread("lodestar-pool");
+    const OwnThread thread("lodestar-pool");
     std::unique_lock lock(mutex);
     Job job;
     while (nextJob(job, lock)) {
@@ -277,7 +277,7 @@ bool ThreadPool::State::sleep(std::unique_lock<std::mutex>& lock)
 
 void ThreadPool::State::watch()
 {
-    nameThisThread("lodestar-watch");
+    const OwnThread thread("lodestar-watch");
     std::unique_lock lock(mutex);
     while (!stopped && !(finishing && threads == 0)) {
         if (!watching) {

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/URLLoading/NetworkThread.h"
 
+#include "Platform/Queues/OwnThread.h"
+
 #include <algorithm>
 #include <atomic>
 #include <cstdio>
@@ -106,6 +108,7 @@ void NetworkThread::wake() const
 
 void NetworkThread::run()
 {
+    const OwnThread thread("lodestar-net");
     for (;;) {
         {
             const std::lock_guard lock(m_inboxMutex);

@@ -5,6 +5,7 @@
 #include "Feedback/VireoLogger.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/Queues/MainQueue.h"
+#include "Platform/Queues/OwnThread.h"
 #include "Views/Dashboard/StateCounts.h"
 
 #include <algorithm>
@@ -161,6 +162,7 @@ void DashboardTableViewController::viewDidAppear()
     UILoadingContent();
     // One wait an appearance: shown twice while a wait runs, the dashboard is drawn twice.
     std::thread([dashboard = weak_from_this(), stop = m_stopWaiting.get_token()] {
+        const OwnThread thread("lodestar-wait");
         takeIdlePriority();
         waitForRequestToEnd(dashboard, stop);
     }).detach();

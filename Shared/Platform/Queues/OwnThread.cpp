@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/Queues/OwnThread.h"
+
+#include <csignal>
+#include <pthread.h>
+#include <sys/mman.h>
+
+namespace lodestar
+{
+
+namespace
+{
+
+/// For the handler and the unwinder, and the registers of the largest processors. Pages that are not touched cost no
+/// memory.
+constexpr std::size_t stackBytes = std::size_t{64} << 10;
+
+void nameThisThread([[maybe_unused]] const char* name)
+{
+#if defined(__linux__)
+    ::pthread_setname_np(::pthread_self(), name);
+#elif defined(__APPLE__)
+    ::pthread_setname_np(name);
+#endif
+}
+
+} // namespace
+
+OwnThread::OwnThread(const char* name)
+{
+    nameThisThread(name);
+    stack_t present = {};
+    if (::sigaltstack(nullptr, &present) != 0 || (present.ss_flags & SS_DISABLE) == 0) {
+        return; // somebody, a sanitizer for one, has given the thread such a stack and will take it back
+    }
+    void* const memory = ::mmap(nullptr, stackBytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
+    if (memory == MAP_FAILED) {
+        return;
+    }
+    stack_t second = {};
+    second.ss_sp = memory;
+    second.ss_size = stackBytes;
+    if (::sigaltstack(&second, nullptr) == 0) {
+        m_stack = memory;
+    } else {
+        ::munmap(memory, stackBytes);
+    }
+}
+
+OwnThread::~OwnThread()
+{
+    if (m_stack != nullptr) {
+        stack_t none = {};
+        none.ss_flags = SS_DISABLE;
+        ::sigaltstack(&none, nullptr);
+        ::munmap(m_stack, stackBytes);
+    }
+}
+
+} // namespace lodestar
