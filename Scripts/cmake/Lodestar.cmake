@@ -56,6 +56,16 @@ function(lodestar_library name)
   target_link_libraries(${name} PUBLIC lodestar_settings ${ARG_LIBRARIES})
 endfunction()
 
+# What every test runs under, whoever starts it: no display, and the sanitizers' settings. The caller's own settings do
+# not count, or a test would pass for one and fail for another.
+set(LODESTAR_TEST_ENVIRONMENT
+  QT_QPA_PLATFORM=offscreen
+  QT_QUICK_BACKEND=software
+  ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1
+  "LSAN_OPTIONS=suppressions=${CMAKE_SOURCE_DIR}/Tests/Sanitizers/lsan.supp:print_suppressions=0"
+  UBSAN_OPTIONS=print_stacktrace=1
+  TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1)
+
 # lodestar_test(<name> SOURCES ... LIBRARIES ... [LABELS ...] [TIMEOUT seconds] [SERIAL]): a GoogleTest program, one ctest
 # entry a test case. Programs with Qt in them run without a display. SERIAL is for those that play gestures in real time.
 function(lodestar_test name)
@@ -73,8 +83,15 @@ function(lodestar_test name)
   if(ARG_LABELS)
     list(APPEND properties LABELS ${ARG_LABELS})
   endif()
-  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES ${properties}
-    ENVIRONMENT "QT_QPA_PLATFORM=offscreen;QT_QUICK_BACKEND=software")
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 TEST_LIST ${name}_cases PROPERTIES ${properties})
+  # A list does not survive the way through the properties above: all of it but the first would be lost.
+  set(environment "${CMAKE_CURRENT_BINARY_DIR}/${name}_environment.cmake")
+  file(CONFIGURE OUTPUT "${environment}" @ONLY CONTENT [[
+if(@name@_cases)
+  set_tests_properties(${@name@_cases} PROPERTIES ENVIRONMENT "@LODESTAR_TEST_ENVIRONMENT@")
+endif()
+]])
+  set_property(DIRECTORY APPEND PROPERTY TEST_INCLUDE_FILES "${environment}")
 endfunction()
 
 # lodestar_benchmark(<name> SOURCES ... LIBRARIES ...): a Google Benchmark program, run by ./bench.
