@@ -78,7 +78,8 @@ T.Popup {
         return false;
     }
 
-    onWantedChanged: follow()
+    // Later: the screen tells of its window before the popup itself has heard of it, and would not be opened.
+    onWantedChanged: Qt.callLater(follow)
     Component.onCompleted: follow()
     onOpened: pages.forceActiveFocus(Qt.OtherFocusReason)
     onClosed: over.forceActiveFocus(Qt.OtherFocusReason)
