@@ -64,8 +64,16 @@ FeedbackSetup setupFor(const QString& dataFolder, const QString& version)
             .crashFolder = crashFolder(dataFolder),
             .logFolder = (dataFolder + QStringLiteral("/Logs")).toStdString(),
             .exportFolder = QStandardPaths::writableLocation(QStandardPaths::DownloadLocation).toStdString(),
-            .version = version.toStdString(),
             .address = feedbackAddress(),
+            .facts =
+                [version = version.toStdString()] {
+                    Report report;
+                    report.made = reportTimeNow();
+                    report.version = version;
+                    report.system = systemDescription();
+                    report.session = VireoLogger::sessionIdentifier();
+                    return report;
+                },
             .secrets = &FeedbackSupport::secretsInUse};
 }
 
@@ -95,6 +103,7 @@ void FeedbackSupport::forgetReports()
         return;
     }
     forgetCrashes(crashFolder(keptIn()));
+    VireoLogger::forget();
     if (const Result<void> removed = reportStore(keptIn()).removeAll(); !removed) {
         LODESTAR_LOG(ownFile, "forgetReports", "a report could not be deleted: {}", description(removed.error()));
     }
@@ -103,7 +112,8 @@ void FeedbackSupport::forgetReports()
 std::vector<std::string> FeedbackSupport::secretsInUse()
 {
     std::vector<std::string> secrets;
-    for (const CorvelRef& corvel : RESTHandler::sharedInstance().corvelList()) {
+    const auto list = RESTHandler::sharedInstance().corvelListSnapshot();
+    for (const CorvelRef& corvel : *list) {
         if (const auto password = corvel->password()) {
             secrets.push_back(*password);
         }
@@ -122,6 +132,7 @@ FeedbackSupport::FeedbackSupport(FeedbackWindow& window, const QString& dataFold
     keepIn(dataFolder);
     currentHost() = window.feedbackHost();
     window.feedbackHost()->setUp(setupFor(dataFolder, version));
+    VireoLogger::setSecretsProvider(&secretsInUse);
     VireoLogger::setFeedbackPresenter([&window] {
         // A picture of the feedback screen itself would be of no use.
         if (window.feedbackHost()->screen() == nullptr) {
@@ -138,6 +149,7 @@ FeedbackSupport::FeedbackSupport(FeedbackWindow& window, const QString& dataFold
 FeedbackSupport::~FeedbackSupport()
 {
     VireoLogger::setFeedbackPresenter({});
+    VireoLogger::setSecretsProvider({});
 }
 
 void FeedbackSupport::startAfterFirstFrame(FeedbackWindow& window)

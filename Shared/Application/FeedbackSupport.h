@@ -24,12 +24,12 @@ public:
     /// Crashes are recorded from here on. As early as the data folder is known.
     static void captureCrashes(const QString& dataFolder, const QString& version);
 
-    /// Takes away all reports, what crashed runs left, and the feedback that somebody has begun: part of a reset.
-    /// Files that were exported are the person's own.
+    /// Takes away all reports, what crashed runs left, the log, which names consoles, and the feedback that somebody
+    /// has begun: part of a reset. Files that were exported are the person's own.
     static void forgetReports();
     /// Every password and session key that the application holds, to be taken out of reports. The passcode is not among
     /// them: it is in no text to begin with, reading it may have to wait for the keychain, and most are so short that
-    /// the gaps it left in times and numbers would tell it.
+    /// the gaps it left in times and numbers would tell it. Any thread.
     static std::vector<std::string> secretsInUse();
 
     FeedbackSupport(FeedbackWindow& window, const QString& dataFolder, const QString& version);

@@ -193,6 +193,27 @@ TEST_F(LockedWindowTest, NothingOfTheOldInterfaceStaysWhateverWasOpen)
     }
 }
 
+TEST_F(LockedWindowTest, TheTourIsShownOnTheFirstDayAndAfterAReset)
+{
+    const auto isTourShown = [this] { return spoken().count(QStringLiteral("Every console, one list")) == 1; };
+    open(false);
+    settle(300);
+    EXPECT_FALSE(isTourShown());
+    require();
+    delegate.applicationDidBecomeActive();
+    login()->resetApplicationData();
+    EXPECT_TRUE(waitFor(isTourShown));
+    FeedbackWindow::tearDown();
+
+    // As the program starts: the first screen is there before it has a window to be shown in.
+    UserDefaults::standard().removeObjectForKey("initialLoad");
+    delegate.showInitialViewController();
+    window().loadInterface();
+    window().resize(390, 844);
+    window().show();
+    EXPECT_TRUE(waitFor(isTourShown));
+}
+
 TEST_F(LockedWindowTest, NoKeyLeadsBehindIt)
 {
     open(false);
@@ -329,6 +350,42 @@ TEST_F(LockedWindowTest, FeedbackNeitherPassesTheLockNorTellsWhatIsBehindIt)
     EXPECT_EQ(login(), nullptr) << "and its field has the keyboard";
     ASSERT_NE(feedback(), nullptr);
     EXPECT_EQ(feedback()->noteView()->text(), QStringLiteral("begun before"));
+    settle(300);
+
+    // What was begun over the lock when that came up anew holds nothing up: neither the lock nor what is behind it.
+    delegate.applicationDidBecomeActive();
+    settle(300);
+    shake();
+    ASSERT_NE(feedback(), nullptr);
+    feedback()->noteView()->setText(QStringLiteral("begun over it"));
+    settle(300);
+    delegate.applicationDidBecomeActive();
+    EXPECT_TRUE(showsOnlyTheMark(window().grabWindow(), 844 / 3));
+    settle(300);
+    EXPECT_EQ(feedback(), nullptr);
+    shake();
+    ASSERT_NE(feedback(), nullptr);
+    EXPECT_EQ(feedback()->noteView()->text(), QStringLiteral("begun over it"));
+    settle(300);
+    delegate.applicationDidBecomeActive();
+    settle(300);
+    type(secret);
+    press(Qt::Key_Return);
+    EXPECT_EQ(login(), nullptr);
+    for (const QString& note : {QStringLiteral("begun over it"), QStringLiteral("begun before")}) {
+        SCOPED_TRACE(note.toStdString());
+        settle(300);
+        ASSERT_NE(feedback(), nullptr);
+        EXPECT_EQ(feedback()->noteView()->text(), note);
+        press(Qt::Key_Escape);
+        ASSERT_TRUE(feedback()->alert()->isPresented()) << "the screen has the keyboard";
+        feedback()->alert()->choose(1);
+    }
+    settle(300);
+    EXPECT_EQ(feedback(), nullptr);
+    press(Qt::Key_N, Qt::ControlModifier);
+    EXPECT_NE(list().semiModal(), nullptr) << "the list has the keyboard again";
+    shake();
     settle(300);
 
     // Who resets instead of unlocking gets nothing of it.

@@ -196,9 +196,16 @@ TEST_F(ResetTest, ReportsHoldNoSecretAndGoWithTheRest)
     }
 
     std::ofstream(folder.file("Crashes/crash-1-2")) << "secret-password-1";
+    // No secret, but where the consoles are is nothing for whoever comes next.
+    LODESTAR_LOG("Tests/Application/ResetTests", "test", "no answer from 127.0.99.1");
+    settle();
+    std::ofstream(folder.file("Logs/lodestar.log.1")) << "no answer from 127.0.99.2";
     login->resetApplicationData();
     settle();
     EXPECT_THAT(filesWithSecrets(), ::testing::IsEmpty());
+    for (const auto& [name, content] : files()) {
+        EXPECT_THAT(content, ::testing::Not(::testing::HasSubstr("127.0.99."))) << name;
+    }
     EXPECT_THAT(reports.list(), ::testing::IsEmpty());
     EXPECT_TRUE(fs::is_empty(folder.file("Reports")));
     EXPECT_TRUE(fs::is_empty(folder.file("Crashes")));

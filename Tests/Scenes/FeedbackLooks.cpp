@@ -4,6 +4,9 @@
 #include "Kit/Core/NavigationController.h"
 #include "Tests/Scenes/Looks.h"
 
+#include <QDir>
+#include <QFile>
+
 #include <cmath>
 
 namespace lodestar::scenes
@@ -42,6 +45,21 @@ void drawOn(Sketch& sketch)
     sketch.setTool(Sketch::Tool::Pen);
 }
 
+const char* const logOfThisRun = "2026-03-12T16:39:58.041Z 2 0 [411] Shared/Views/Corvels/CorvelListViewController:61 "
+                                 "-[CorvelListViewController viewDidLoad] CorvelListViewController instantiation\n"
+                                 "2026-03-12T16:40:12.306Z 2 0 [414] Shared/Views/Corvels/CorvelListViewController:133 "
+                                 "-[CorvelListViewController refresh] Error: The connection timed out. - > login\n";
+
+void writeLog(const SceneStage& stage)
+{
+    const QDir folder(QString::fromStdString(stage.reports().folder()) + QStringLiteral("/../Logs"));
+    folder.mkpath(QStringLiteral("."));
+    QFile file(folder.filePath(QStringLiteral("lodestar.log")));
+    if (file.open(QIODevice::WriteOnly)) {
+        file.write(logOfThisRun);
+    }
+}
+
 void saveReports(const SceneStage& stage)
 {
     for (const Report& old : stage.reports().list()) {
@@ -51,7 +69,7 @@ void saveReports(const SceneStage& stage)
     crash.kind = Report::Kind::Crash;
     crash.made = "2026-03-11T08:14:05Z";
     crash.version = "1.0.0";
-    crash.system = "Debian GNU/Linux 12 (bookworm), Linux 6.1.0, x86_64";
+    crash.system = "Debian GNU/Linux 12 (bookworm), Linux 6.1.0, aarch64";
     crash.session = "59b1c3d3a9be44f0";
     crash.note = "The application ended by SIGSEGV at address 0x10.";
     crash.crash = "The application ended by SIGSEGV at address 0x10.\n\n"
@@ -92,6 +110,7 @@ std::vector<Look> feedbackLooks()
          [](SceneStage& stage) {
              FeedbackViewController& feedback = openFeedback(stage);
              feedback.noteView()->setText("Harbour B says Error, but every system in its list is operating.");
+             writeLog(stage);
              feedback.showText();
              stage.waitFor([&feedback] { return !feedback.isBusy(); });
              stage.settle();

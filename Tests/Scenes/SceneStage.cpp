@@ -102,6 +102,17 @@ bool hasType(const QObject* object, const QByteArray& name)
     return false;
 }
 
+/// The same wherever the pictures are made, and nothing of the machine.
+Report factsOfAPhone()
+{
+    Report facts;
+    facts.made = "2026-03-12T16:40:51Z";
+    facts.version = "1.0.0";
+    facts.system = "Debian GNU/Linux 12 (bookworm), Linux 6.1.0, aarch64";
+    facts.session = "59b1c3d3a9be44f0";
+    return facts;
+}
+
 } // namespace
 
 std::vector<ConsoleLook> fleet()
@@ -242,8 +253,8 @@ void SceneStage::show(QSize size, const std::vector<ConsoleLook>& consoles)
                        .crashFolder = m_folder.filePath("Crashes").toStdString(),
                        .logFolder = m_folder.filePath("Logs").toStdString(),
                        .exportFolder = m_folder.filePath("Exported").toStdString(),
-                       .version = "1.0.0",
                        .address = {},
+                       .facts = &factsOfAPhone,
                        .secrets = [] { return std::vector<std::string>{"twelve-chars"}; }});
     QQmlComponent component(&m_engine);
     component.setData("import QtQuick\nimport Lodestar.Feedback\nimport Lodestar.Kit\n"

@@ -39,11 +39,14 @@ void FeedbackHost::present(QImage picture)
     if (!m_setup || m_screen) {
         return;
     }
+    if (m_locked && m_begunOver) {
+        setScreen(std::exchange(m_begunOver, nullptr));
+        return;
+    }
     using Lock = FeedbackViewController::Lock;
     const auto close = [host = QPointer<FeedbackHost>(this)] {
         if (host) {
-            // One that was begun before a lock, if that is gone, comes back.
-            host->setScreen(host->m_locked ? nullptr : std::exchange(host->m_aside, nullptr));
+            host->setScreen(host->m_locked ? nullptr : host->takeFromAside());
         }
     };
     auto feedback = makeController<FeedbackViewController>(m_setup, std::move(picture),
@@ -52,30 +55,33 @@ void FeedbackHost::present(QImage picture)
     setScreen(makeController<NavigationController>(std::move(feedback)));
 }
 
+std::shared_ptr<ViewController> FeedbackHost::takeFromAside()
+{
+    return std::exchange(m_begunOver ? m_begunOver : m_begunBefore, nullptr);
+}
+
 void FeedbackHost::setLocked(bool locked)
 {
-    if (m_locked == locked) {
-        return;
-    }
-    m_locked = locked;
+    const bool wasLocked = std::exchange(m_locked, locked);
     if (locked) {
         m_alert->dismiss();
         if (m_screen) {
-            m_aside = m_screen;
+            (wasLocked ? m_begunOver : m_begunBefore) = m_screen;
             setScreen(nullptr);
         }
-        return;
+    } else if (wasLocked) {
+        if (!m_screen) {
+            setScreen(takeFromAside());
+        }
+        askAboutCrashes();
     }
-    if (m_aside && !m_screen) {
-        setScreen(std::exchange(m_aside, nullptr));
-    }
-    askAboutCrashes();
 }
 
 void FeedbackHost::forget()
 {
     m_crashes.clear();
-    m_aside.reset();
+    m_begunBefore.reset();
+    m_begunOver.reset();
     m_alert->dismiss();
     if (m_screen) {
         setScreen(nullptr);

@@ -15,7 +15,8 @@ namespace lodestar
 ///
 /// While the lock is up, nothing from behind it is shown: a screen that was begun before steps aside, with its picture
 /// and its note, and comes back when the lock is gone; the question about a crash waits as long. A screen that is
-/// opened over the lock gets the lock's own picture.
+/// opened over the lock gets the lock's own picture; when the lock comes up anew it steps aside too, and comes back
+/// when it is asked for again or the lock is gone.
 class FeedbackHost : public QObject
 {
     Q_OBJECT
@@ -40,6 +41,7 @@ public:
     /// Turns what crashed runs left into reports, in the background, and asks what to do with those that nobody has
     /// been asked about.
     void offerCrashes();
+    /// To be told of every lock that comes up, also of one after another.
     void setLocked(bool locked);
     /// Lets go of whatever is on screen, stands aside or waits to be asked about: its reports have been taken away, and
     /// whoever comes next did not begin it.
@@ -52,13 +54,15 @@ Q_SIGNALS:
 
 private:
     void setScreen(std::shared_ptr<ViewController> screen);
+    std::shared_ptr<ViewController> takeFromAside();
     void need();
     void askAboutCrashes();
 
     std::shared_ptr<const FeedbackSetup> m_setup;
     std::shared_ptr<ViewController> m_screen;
-    std::shared_ptr<ViewController> m_aside; ///< begun before the lock came up
-    std::vector<Report> m_crashes;           ///< to be asked about
+    std::shared_ptr<ViewController> m_begunBefore; ///< the lock came up, and aside since
+    std::shared_ptr<ViewController> m_begunOver;   ///< the lock, and aside since it came up anew
+    std::vector<Report> m_crashes;                 ///< to be asked about
     MenuOutlet* m_alert = new MenuOutlet(this);
     bool m_locked = false;
     bool m_needed = false;

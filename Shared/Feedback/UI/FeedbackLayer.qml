@@ -13,7 +13,10 @@ Item {
     required property FeedbackHost host
 
     function follow() {
-        if (host.screen !== null) {
+        if (host.screen !== null && cover.opened) {
+            // One follows another, whose question has just been answered: the keyboard would go with that.
+            screen.forceActiveFocus(Qt.OtherFocusReason);
+        } else if (host.screen !== null) {
             keyboard.remember();
             cover.open();
         } else {
@@ -55,6 +58,8 @@ Item {
             color: Theme.ground
         }
         contentItem: SceneView {
+            id: screen
+
             controller: layer.host.screen
             reportsAppearance: true
             focus: true

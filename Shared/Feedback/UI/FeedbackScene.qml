@@ -77,9 +77,7 @@ PageScaffold {
             width: parent.width
             height: drawn.width > 0 ? Math.min(wanted, width * drawn.height / drawn.width) : 0
 
-            SketchView {
-                id: picture
-
+            SketchPicture {
                 objectName: "sketchView"
                 sketch: scene.feedback.sketch
                 height: parent.height
@@ -88,16 +86,6 @@ PageScaffold {
                 enabled: !scene.feedback.busy
                 Accessible.role: Accessible.Graphic
                 Accessible.name: qsTr("Picture of the screen, to draw on")
-            }
-            CardCorners {
-                anchors.fill: picture
-            }
-            Rectangle {
-                anchors.fill: picture
-                color: "transparent"
-                radius: Theme.cardRadius
-                border.width: 1
-                border.color: Theme.hairline
             }
         }
         Item {

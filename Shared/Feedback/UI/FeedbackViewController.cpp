@@ -68,10 +68,7 @@ void FeedbackViewController::assemble(std::function<void(ReportBundle)> done)
 {
     setBusy(true);
     ReportBundle bundle;
-    bundle.made = reportTimeNow();
-    bundle.version = m_setup->version;
-    bundle.system = systemDescription();
-    bundle.session = VireoLogger::sessionIdentifier();
+    static_cast<Report&>(bundle) = m_setup->facts();
     bundle.note = m_noteView->text().left(longestNote).toStdString();
     auto secrets = m_setup->secrets ? m_setup->secrets() : std::vector<std::string>();
     DispatchQueue::globalBackground().async([screen = self<FeedbackViewController>(), done = std::move(done),

@@ -73,7 +73,7 @@ PageScaffold {
         Component.onCompleted: contentY = start
 
         // In the margin and no header: a list of Qt 6.4 makes none of a component that is bound.
-        SketchView {
+        SketchPicture {
             parent: list.contentItem
             visible: scene.drawn.width > 0
             sketch: scene.report.picture
