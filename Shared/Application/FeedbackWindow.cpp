@@ -87,7 +87,7 @@ FeedbackWindow::FeedbackWindow() : QQuickView(makeEngine(), nullptr)
     engine()->setParent(this); // after them: what was made with an engine goes before it
     setTitle(QStringLiteral("Lodestar"));
     setResizeMode(QQuickView::SizeRootObjectToView);
-    setMinimumSize({320, 480});
+    setMinimumSize({320, 320}); // the short side of the smallest phones, in whichever way they are held
 }
 
 FeedbackWindow::~FeedbackWindow() = default;

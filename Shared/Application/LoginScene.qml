@@ -15,8 +15,8 @@ FocusScope {
     readonly property var inputMethod: Qt.inputMethod
     readonly property real screenHeight: Window.height
     /// In the scene's points; of no height, on the lower edge, while there is none.
-    readonly property rect keyboardFrame: inputMethod.visible && inputMethod.keyboardRectangle.height > 0
-                                          ? inputMethod.keyboardRectangle : Qt.rect(0, screenHeight, width, 0)
+    property rect keyboardFrame: inputMethod.visible && inputMethod.keyboardRectangle.height > 0
+                                 ? inputMethod.keyboardRectangle : Qt.rect(0, screenHeight, width, 0)
     readonly property real shownHeight: height - keyboardFrame.height
 
     /// 0 the mark alone, 1 all there.
@@ -70,8 +70,6 @@ FocusScope {
         tellLayout();
         controller.keyboardDidChangeFrame(keyboardFrame, 0.25);
     }
-    onShownHeightChanged: settleScroll()
-    onSpaceChanged: settleScroll()
     Component.onCompleted: {
         tellLayout();
         open();
@@ -103,6 +101,9 @@ FocusScope {
         contentHeight: Math.max(height, resetButton.y + resetButton.height + 16)
         interactive: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
+        // Once what it reckons with is reckoned anew: the scene hears of a keyboard before the page does.
+        onHeightChanged: Qt.callLater(scene.settleScroll)
+        onContentHeightChanged: Qt.callLater(scene.settleScroll)
 
         /// A press beside the field ends editing.
         MouseArea {

@@ -8,7 +8,7 @@ Flickable {
     id: form
 
     default property alias rows: column.data
-    /// How tall the form will be once what holds it has come to rest.
+    /// How much of the form is to be seen once what holds it has come to rest.
     property real restingHeight: height
 
     readonly property Item edited: rowOf(form.Window.activeFocusItem)
@@ -43,7 +43,8 @@ Flickable {
     }
 
     contentHeight: column.implicitHeight
-    interactive: contentHeight > height
+    bottomMargin: Math.max(0, height - restingHeight)
+    interactive: contentHeight + bottomMargin > height
     boundsBehavior: Flickable.StopAtBounds
 
     onEditedChanged: {

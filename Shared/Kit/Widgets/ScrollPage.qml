@@ -11,26 +11,39 @@ Flickable {
     /// Above the first card: 8 below a bar of 52, 0 below a tab root's of 60. A header on top: `space: 12 - topSpace`.
     property real topSpace: 8
 
+    readonly property var inputMethod: Qt.inputMethod
+    /// Points of the page that a keyboard covers.
+    property real coveredHeight: inputMethod.visible ? inputMethod.keyboardRectangle.height : 0
+    readonly property real shownHeight: height - coveredHeight
+
     readonly property real margin: Theme.sideMargin(width, measure)
 
     anchors.fill: parent
     contentWidth: width
     contentHeight: column.y + column.implicitHeight + Theme.groupGap
+    bottomMargin: coveredHeight
     boundsBehavior: Flickable.DragAndOvershootBounds
     flickableDirection: Flickable.VerticalFlick
 
-    /// Brings an item that took the keyboard into view.
+    /// Brings an item that took the keyboard into view, its top if it is too tall.
     function reveal(item: Item) {
         const spot = item.mapToItem(contentItem, 0, 0);
         if (spot.y < contentY) {
             contentY = Math.max(0, spot.y - 12);
-        } else if (spot.y + item.height > contentY + height) {
-            contentY = Math.min(contentHeight - height, spot.y + item.height + 12 - height);
+        } else if (spot.y + item.height > contentY + shownHeight) {
+            contentY = Math.min(contentHeight - shownHeight, spot.y, spot.y + item.height + 12 - shownHeight);
         }
     }
 
     readonly property Item keyboardItem: Window.activeFocusItem
-    onKeyboardItemChanged: {
+    onKeyboardItemChanged: revealKeyboardItem()
+    onShownHeightChanged: {
+        if (coveredHeight > 0) {
+            revealKeyboardItem();
+        }
+    }
+
+    function revealKeyboardItem() {
         for (let item = keyboardItem; item !== null; item = item.parent) {
             if (item === column) {
                 reveal(keyboardItem);

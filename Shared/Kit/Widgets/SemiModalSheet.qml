@@ -18,6 +18,9 @@ T.Popup {
     readonly property int barHeight: Math.max(Theme.target, Math.round(22 * Theme.barScale) + 16)
     readonly property real maximumHeight: parent !== null ? parent.height - 24 : 0
     readonly property real extraHeight: sheetContent !== null ? sheetContent.extraHeight : 0
+    readonly property var inputMethod: Qt.inputMethod
+    /// Points of the sheet that the keyboard covers.
+    property real coveredHeight: inputMethod.visible ? inputMethod.keyboardRectangle.height : 0
     property real bodyHeight: 0
     /// What bodyHeight is on its way to.
     property real statedHeight: 0
@@ -82,7 +85,8 @@ T.Popup {
     Binding {
         target: sheet.sheetContent
         property: "restingHeight"
-        value: Math.min(sheet.statedHeight + sheet.extraHeight, sheet.maximumHeight - sheet.barHeight)
+        value: Math.min(sheet.statedHeight + sheet.extraHeight,
+                        sheet.maximumHeight - sheet.barHeight) - sheet.coveredHeight
         when: sheet.sheetContent !== null
     }
     Binding {
