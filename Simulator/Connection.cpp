@@ -22,13 +22,11 @@ constexpr std::chrono::milliseconds trickleInterval{1000};
 
 } // namespace
 
-Connection::Connection(EventLoop& loop, int descriptor, SslPtr ssl, Callbacks callbacks,
-                       std::chrono::milliseconds latency)
+Connection::Connection(EventLoop& loop, int descriptor, SslPtr ssl, Callbacks callbacks)
     : m_loop(loop),
       m_descriptor(descriptor),
       m_ssl(std::move(ssl)),
       m_callbacks(std::move(callbacks)),
-      m_latency(latency),
       m_watch(loop.watch(descriptor, EPOLLIN, [this](std::uint32_t events) { onEvents(events); }))
 {
     SSL_set_fd(m_ssl.get(), descriptor);
@@ -164,10 +162,10 @@ void Connection::begin(const Request& request)
     m_head = takeHead(m_response);
     m_bodySent = 0;
     m_phase = Phase::Head;
-    if (m_latency.count() > 0) {
+    if (m_response.delay.count() > 0) {
         m_phase = Phase::Wait;
         m_loop.change(m_watch, EPOLLRDHUP);
-        m_loop.after(m_latency, m_watch, [this] {
+        m_loop.after(m_response.delay, m_watch, [this] {
             m_phase = Phase::Head;
             pump();
         });

@@ -24,7 +24,7 @@ public:
     };
 
     /// Owns the descriptor.
-    Connection(EventLoop& loop, int descriptor, SslPtr ssl, Callbacks callbacks, std::chrono::milliseconds latency);
+    Connection(EventLoop& loop, int descriptor, SslPtr ssl, Callbacks callbacks);
     ~Connection();
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
@@ -54,7 +54,6 @@ private:
     int m_descriptor;
     SslPtr m_ssl;
     Callbacks m_callbacks;
-    std::chrono::milliseconds m_latency;
     EventLoop::Watch m_watch = 0;
     Phase m_phase = Phase::Handshake;
     RequestParser m_parser;

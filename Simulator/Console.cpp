@@ -12,40 +12,6 @@ namespace lodestar::simulator
 namespace
 {
 
-constexpr std::uint64_t hugeBody = 1ULL << 30U;
-constexpr std::uint64_t hugeHeaders = 16ULL << 20U;
-
-std::string quoted(const std::string& text)
-{
-    std::string out = "\"";
-    for (const char c : text) {
-        if (c == '"' || c == '\\') {
-            out += '\\';
-        }
-        out += c;
-    }
-    return out + "\"";
-}
-
-Response errorResponse(int status, const std::string& message)
-{
-    Response response;
-    response.status = status;
-    response.headers = {{"Content-Type", "application/xml"}};
-    response.body =
-        makeBody("<?xml version=\"1.0\" encoding=\"UTF-8\"?><ErrorResponse><HTTPStatus>" + std::to_string(status) +
-                 "</HTTPStatus><Message>" + message + "</Message></ErrorResponse>");
-    return response;
-}
-
-Response textResponse(const std::string& contentType, std::string text)
-{
-    Response response;
-    response.headers = {{"Content-Type", contentType}, {"Cache-Control", "no-store"}};
-    response.body = makeBody(std::move(text));
-    return response;
-}
-
 // The credentials are looked for as they stand: clients send them without escaping, and that must be seen here.
 bool holdsElement(const std::string& body, const std::string& name, const std::string& text)
 {
@@ -53,31 +19,6 @@ bool holdsElement(const std::string& body, const std::string& name, const std::s
     const std::size_t textStart = start == std::string::npos ? start : body.find('>', start);
     return textStart != std::string::npos &&
            body.compare(textStart + 1, text.size() + name.size() + 3, text + "</" + name + ">") == 0;
-}
-
-// A stray ampersand, an unknown entity, a missing end tag, and nothing of the last tenth.
-std::string damaged(std::string text)
-{
-    const std::size_t middle = text.find("</", text.size() / 2);
-    if (middle != std::string::npos) {
-        const std::size_t end = text.find('>', middle);
-        text.replace(middle, end == std::string::npos ? 0 : end - middle + 1, " & &nothing; ");
-    }
-    text.resize(text.size() - text.size() / 10);
-    return text;
-}
-
-// Where to stop so that a chunk is left open.
-std::uint64_t insideChunk(std::uint64_t size)
-{
-    constexpr std::uint64_t chunk = 8192;
-    return size < chunk ? size / 2 + 3 : size / 2 / chunk * (chunk + 8) + 106;
-}
-
-void cut(Response& response, std::uint64_t after, Ending ending)
-{
-    response.stopAfter = after;
-    response.ending = ending;
 }
 
 /// The number behind a name in a target's query; 0 for none.
@@ -89,12 +30,6 @@ int queryNumber(const std::string& target, const std::string& name)
         std::from_chars(target.data() + at + name.size() + 1, target.data() + target.size(), number);
     }
     return std::max(0, number);
-}
-
-int hopIn(const std::string& target)
-{
-    const std::size_t at = target.find("?hop=");
-    return at == std::string::npos ? 0 : std::atoi(target.c_str() + at + 5);
 }
 
 const Fault* find(const std::vector<Fault>& faults, FaultName name, const RequestKind& kind)
@@ -110,29 +45,16 @@ ServedInventory::ServedInventory(const Settings& settings, std::uint64_t number)
     : inventory(makeInventory(settings, number)), feeds(writeFeeds(inventory, Layout::Compact, settings.feedBytes))
 {
     for (const ManagedSystem& system : inventory.systems) {
-        quickValues.emplace(system.id + "/SystemName", quoted(system.name));
-        quickValues.emplace(system.id + "/State", quoted(system.state));
+        quickValues.emplace(system.id + "/SystemName", jsonText(system.name));
+        quickValues.emplace(system.id + "/State", jsonText(system.state));
     }
     for (const auto* list : {&inventory.partitions, &inventory.vios}) {
         for (const Partition& partition : *list) {
-            quickValues.emplace(partition.id + "/PartitionName", quoted(partition.name));
-            quickValues.emplace(partition.id + "/PartitionState", quoted(partition.state));
+            quickValues.emplace(partition.id + "/PartitionName", jsonText(partition.name));
+            quickValues.emplace(partition.id + "/PartitionState", jsonText(partition.state));
         }
     }
 }
-
-/// An answer while faults are still working on it.
-struct Console::Draft {
-    Response response;
-    /// The feed that the body is, as long as it is that and may be compressed; empty otherwise.
-    std::string feedType;
-
-    void replaceBody(BodyPtr body)
-    {
-        response.body = std::move(body);
-        feedType.clear();
-    }
-};
 
 Console::Console(const Settings& settings, int index, std::string address,
                  std::shared_ptr<const ServedInventory> inventory)
@@ -162,7 +84,7 @@ Response Console::answer(const Request& request, const std::vector<Fault>& fault
     }
     for (const Fault& fault : faults) {
         if (strikes(fault, kind)) {
-            apply(fault, request, nextAddress, draft);
+            draft.strike(fault, request, m_address, nextAddress);
         }
     }
     if (m_settings.gzip && request.acceptsGzip()) {
@@ -253,7 +175,7 @@ bool Console::hasSession(const Request& request) const
     return m_sessions.contains(request.header("X-API-Session").value_or(""));
 }
 
-Console::Draft Console::answerOf(const Request& request, const RequestKind& kind, const std::vector<Fault>& faults)
+Draft Console::answerOf(const Request& request, const RequestKind& kind, const std::vector<Fault>& faults)
 {
     Draft draft;
     if (request.method != "GET") {
@@ -322,79 +244,6 @@ Response Console::metrics(const Request& request, const RequestKind& kind, const
     shape.partitions = m_settings.partitions;
     shape.seed = m_settings.seed + static_cast<std::uint64_t>(system - inventory().systems.begin());
     return textResponse(contentType, writeMetricsDocument(inventory(), *system, shape));
-}
-
-void Console::apply(const Fault& fault, const Request& request, const std::string& nextAddress, Draft& draft) const
-{
-    Response& response = draft.response;
-    const std::uint64_t size = response.body->size();
-    switch (fault.name) {
-    case FaultName::RefuseFeed:
-        response = errorResponse(500, "The console is busy.");
-        draft.feedType.clear();
-        break;
-    case FaultName::EmptyFeed:
-        draft.replaceBody(makeBody(std::string()));
-        break;
-    case FaultName::StallFeed:
-        response.ending = Ending::Silence;
-        break;
-    case FaultName::Trickle:
-        response.trickled = true;
-        break;
-    case FaultName::CutBody:
-        cut(response, size / 2, Ending::Close);
-        draft.feedType.clear();
-        break;
-    case FaultName::CutChunk:
-        response.chunked = true;
-        cut(response, insideChunk(size), Ending::Close);
-        draft.feedType.clear();
-        break;
-    case FaultName::CutGzip: {
-        const std::string packed = gzipped(readAll(*response.body));
-        draft.replaceBody(makeBody(packed.substr(0, packed.size() / 2)));
-        response.headers.emplace_back("Content-Encoding", "gzip");
-        break;
-    }
-    case FaultName::Reset:
-        cut(response, size / 2, Ending::Reset);
-        draft.feedType.clear();
-        break;
-    case FaultName::MalformedFeed:
-        draft.replaceBody(makeBody(damaged(readAll(*response.body))));
-        break;
-    case FaultName::HugeBody:
-        draft.replaceBody(makeRepeatingBody(
-            "<feed>", "<entry><content>" + std::string(65536, ' ') + "</content></entry>", hugeBody, "</feed>"));
-        break;
-    case FaultName::GzipBomb:
-        draft.replaceBody(makeGzipBomb(hugeBody));
-        response.headers.emplace_back("Content-Encoding", "gzip");
-        break;
-    case FaultName::HugeHeaders:
-        response.headerFiller = hugeHeaders;
-        break;
-    case FaultName::RedirectLoop:
-    case FaultName::RedirectOtherHost: {
-        const bool loop = fault.name == FaultName::RedirectLoop;
-        const std::string hop = loop ? "?hop=" + std::to_string(hopIn(request.target) + 1) : std::string();
-        response = textResponse("text/html", "<p>It is elsewhere.</p>");
-        response.status = 307;
-        response.headers.emplace_back("Location", "https://" + (loop ? m_address : nextAddress) + ":" +
-                                                      std::to_string(consolePort) + request.path() + hop);
-        draft.feedType.clear();
-        break;
-    }
-    case FaultName::Chunked:
-        response.chunked = true;
-        break;
-    case FaultName::FailedStatus:
-        response.status = 500;
-        break;
-    default:
-        break;
-    }
 }
 
 void Console::compress(Draft& draft)

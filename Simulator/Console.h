@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Simulator/Draft.h"
 #include "Simulator/Fault.h"
 #include "Simulator/FeedWriter.h"
 #include "Simulator/Http.h"
@@ -52,15 +53,12 @@ public:
     void changeLeaf(Leaf::Kind kind);
 
 private:
-    struct Draft;
-
     RequestKind kindOf(const Request& request) const;
     Response logon(const Request& request, const std::vector<Fault>& faults);
     bool hasSession(const Request& request) const;
     Draft answerOf(const Request& request, const RequestKind& kind, const std::vector<Fault>& faults);
     Response quick(const std::string& path) const;
     Response metrics(const Request& request, const RequestKind& kind, const std::vector<Fault>& faults) const;
-    void apply(const Fault& fault, const Request& request, const std::string& nextAddress, Draft& draft) const;
     void compress(Draft& draft);
 
     const Settings& m_settings;

@@ -3,6 +3,7 @@
 
 #include "Simulator/Body.h"
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -58,6 +59,8 @@ private:
 enum class Ending { KeepAlive, Close, Reset, Silence };
 
 struct Response {
+    /// Before anything of it is sent.
+    std::chrono::milliseconds delay{0};
     int status = 200;
     std::vector<std::pair<std::string, std::string>> headers;
     /// Never null.

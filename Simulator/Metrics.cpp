@@ -75,21 +75,9 @@ std::string stamp(std::chrono::sys_seconds moment)
     return text.data();
 }
 
-std::string quoted(std::string_view text)
-{
-    std::string out = "\"";
-    for (const char c : text) {
-        if (c == '"' || c == '\\') {
-            out += '\\';
-        }
-        out += c;
-    }
-    return out + '"';
-}
-
 std::string figure(std::string_view name, const std::string& value)
 {
-    return quoted(name) + ":[" + value + "]";
+    return jsonText(name) + ":[" + value + "]";
 }
 
 class Document
@@ -106,9 +94,10 @@ public:
 
     std::string write()
     {
-        m_out = R"({"systemUtil":{"utilInfo":{"name":)" + quoted(m_system.name) + R"(,"id":)" + quoted(m_system.id) +
-                R"(,"intervalSeconds":)" + std::to_string(interval.count()) + R"(,"startTimeStamp":)" +
-                quoted(stamp(momentAt(0))) + R"(,"endTimeStamp":)" + quoted(stamp(m_end)) + "},\n\"utilSamples\":[";
+        m_out = R"({"systemUtil":{"utilInfo":{"name":)" + jsonText(m_system.name) + R"(,"id":)" +
+                jsonText(m_system.id) + R"(,"intervalSeconds":)" + std::to_string(interval.count()) +
+                R"(,"startTimeStamp":)" + jsonText(stamp(momentAt(0))) + R"(,"endTimeStamp":)" +
+                jsonText(stamp(m_end)) + "},\n\"utilSamples\":[";
         for (int i = 0; i < m_shape.samples; ++i) {
             m_out += i == 0 ? "\n" : ",\n";
             writeSample(i);
@@ -143,8 +132,8 @@ private:
         const bool inside = m_shape.nulls && i > 0 && i + 1 < m_shape.samples;
         const double memory = m_system.memoryMB;
         const double available = std::round(memory * freeMemory.at(step));
-        m_out += R"({"sampleInfo":{"timeStamp":)" + quoted(stamp(momentAt(i))) + R"(,"errorInfo":[{"errMsg":)" +
-                 quoted(m_shape.unprocessed ? "Processing did not happen for this sample." : "") + "}]}";
+        m_out += R"({"sampleInfo":{"timeStamp":)" + jsonText(stamp(momentAt(i))) + R"(,"errorInfo":[{"errMsg":)" +
+                 jsonText(m_shape.unprocessed ? "Processing did not happen for this sample." : "") + "}]}";
         m_out += R"(,"serverUtil":{"processor":{)" + figure("totalProcUnits", valueOr(decimal(m_processors), false)) +
                  "," +
                  figure("availableProcUnits",
@@ -168,7 +157,7 @@ private:
             const double share = m_processors / m_shape.partitions;
             m_out += i == 0 ? "{" : ",{";
             m_out += R"("number":)" + std::to_string(i + 1) + R"(,"name":)" +
-                     quoted(m_system.name + "-partition-" + std::to_string(i + 1)) + R"(,"processor":{)" +
+                     jsonText(m_system.name + "-partition-" + std::to_string(i + 1)) + R"(,"processor":{)" +
                      figure("entitledProcUnits", decimal(share)) + "," +
                      figure("utilizedProcUnits", decimal(share * (0.5 + 0.4 * noise()), 6)) + "," +
                      figure("idleProcUnits", decimal(share * (0.2 + 0.1 * noise()), 6)) + R"(},"memory":{)" +
@@ -196,6 +185,18 @@ private:
 };
 
 } // namespace
+
+std::string jsonText(std::string_view text)
+{
+    std::string out = "\"";
+    for (const char c : text) {
+        if (c == '"' || c == '\\') {
+            out += '\\';
+        }
+        out += c;
+    }
+    return out + '"';
+}
 
 std::string writeMetricsDocument(const Inventory& inventory, const ManagedSystem& system, const MetricsShape& shape)
 {

@@ -9,6 +9,9 @@
 namespace lodestar::simulator
 {
 
+/// The text as JSON has it, with its quotation marks. It must hold no control characters.
+std::string jsonText(std::string_view text);
+
 /// How a metrics document is to be.
 struct MetricsShape {
     int samples = 240;

@@ -197,8 +197,7 @@ void Simulator::adopt(Station& station, int descriptor)
     callbacks.answer = [this, &station, number](const Request& request) { return answer(station, number, request); };
     callbacks.handshaken = [&station] { ++station.statistics.handshakes; };
     callbacks.closed = [this, &station, number] { bury(station, number); };
-    auto connection = std::make_unique<Connection>(m_loop, descriptor, std::move(ssl), std::move(callbacks),
-                                                   std::chrono::milliseconds(m_settings.latency));
+    auto connection = std::make_unique<Connection>(m_loop, descriptor, std::move(ssl), std::move(callbacks));
     Connection& added = *connection;
     station.connections.emplace(number, std::move(connection));
     const auto isSilence = [](const Fault& each) { return each.name == FaultName::SilentAfterAccept; };
@@ -220,7 +219,9 @@ Response Simulator::answer(Station& station, std::uint64_t connection, const Req
     const int console = station.console.index();
     ++station.statistics.requests;
     record(console, connection, request);
-    return station.console.answer(request, faultsOf(console), address((console + 1) % consoleCount()));
+    Response response = station.console.answer(request, faultsOf(console), address((console + 1) % consoleCount()));
+    response.delay = std::chrono::milliseconds(m_settings.latency);
+    return response;
 }
 
 void Simulator::record(int console, std::uint64_t connection, const Request& request)

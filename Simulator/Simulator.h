@@ -36,6 +36,7 @@ public:
     /// Takes that fault away, as it was set.
     void clearFault(const Fault& fault);
     void clearFaults();
+    /// Of every request from now on, whatever connection it comes on.
     void setLatency(int milliseconds) { m_settings.latency = milliseconds; }
     /// That text in the place of the console's own feed; nothing gives it its own feed back.
     void setFeed(int console, const std::string& type, std::optional<std::string> text);

@@ -1,0 +1,147 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Simulator/Draft.h"
+
+#include <cstdlib>
+#include <utility>
+
+namespace lodestar::simulator
+{
+
+namespace
+{
+
+constexpr std::uint64_t hugeBody = 1ULL << 30U;
+constexpr std::uint64_t hugeHeaders = 16ULL << 20U;
+
+// A stray ampersand, an unknown entity, a missing end tag, and nothing of the last tenth.
+std::string damaged(std::string text)
+{
+    const std::size_t middle = text.find("</", text.size() / 2);
+    if (middle != std::string::npos) {
+        const std::size_t end = text.find('>', middle);
+        text.replace(middle, end == std::string::npos ? 0 : end - middle + 1, " & &nothing; ");
+    }
+    text.resize(text.size() - text.size() / 10);
+    return text;
+}
+
+// Where to stop so that a chunk is left open.
+std::uint64_t insideChunk(std::uint64_t size)
+{
+    constexpr std::uint64_t chunk = 8192;
+    return size < chunk ? size / 2 + 3 : size / 2 / chunk * (chunk + 8) + 106;
+}
+
+void cut(Response& response, std::uint64_t after, Ending ending)
+{
+    response.stopAfter = after;
+    response.ending = ending;
+}
+
+int hopIn(const std::string& target)
+{
+    const std::size_t at = target.find("?hop=");
+    return at == std::string::npos ? 0 : std::atoi(target.c_str() + at + 5);
+}
+
+} // namespace
+
+Response errorResponse(int status, const std::string& message)
+{
+    Response response;
+    response.status = status;
+    response.headers = {{"Content-Type", "application/xml"}};
+    response.body =
+        makeBody("<?xml version=\"1.0\" encoding=\"UTF-8\"?><ErrorResponse><HTTPStatus>" + std::to_string(status) +
+                 "</HTTPStatus><Message>" + message + "</Message></ErrorResponse>");
+    return response;
+}
+
+Response textResponse(const std::string& contentType, std::string text)
+{
+    Response response;
+    response.headers = {{"Content-Type", contentType}, {"Cache-Control", "no-store"}};
+    response.body = makeBody(std::move(text));
+    return response;
+}
+
+void Draft::replaceBody(BodyPtr body)
+{
+    response.body = std::move(body);
+    feedType.clear();
+}
+
+void Draft::strike(const Fault& fault, const Request& request, const std::string& address,
+                   const std::string& nextAddress)
+{
+    const std::uint64_t size = response.body->size();
+    switch (fault.name) {
+    case FaultName::RefuseFeed:
+        response = errorResponse(500, "The console is busy.");
+        feedType.clear();
+        break;
+    case FaultName::EmptyFeed:
+        replaceBody(makeBody(std::string()));
+        break;
+    case FaultName::StallFeed:
+        response.ending = Ending::Silence;
+        break;
+    case FaultName::Trickle:
+        response.trickled = true;
+        break;
+    case FaultName::CutBody:
+        cut(response, size / 2, Ending::Close);
+        feedType.clear();
+        break;
+    case FaultName::CutChunk:
+        response.chunked = true;
+        cut(response, insideChunk(size), Ending::Close);
+        feedType.clear();
+        break;
+    case FaultName::CutGzip: {
+        const std::string packed = gzipped(readAll(*response.body));
+        replaceBody(makeBody(packed.substr(0, packed.size() / 2)));
+        response.headers.emplace_back("Content-Encoding", "gzip");
+        break;
+    }
+    case FaultName::Reset:
+        cut(response, size / 2, Ending::Reset);
+        feedType.clear();
+        break;
+    case FaultName::MalformedFeed:
+        replaceBody(makeBody(damaged(readAll(*response.body))));
+        break;
+    case FaultName::HugeBody:
+        replaceBody(makeRepeatingBody("<feed>", "<entry><content>" + std::string(65536, ' ') + "</content></entry>",
+                                      hugeBody, "</feed>"));
+        break;
+    case FaultName::GzipBomb:
+        replaceBody(makeGzipBomb(hugeBody));
+        response.headers.emplace_back("Content-Encoding", "gzip");
+        break;
+    case FaultName::HugeHeaders:
+        response.headerFiller = hugeHeaders;
+        break;
+    case FaultName::RedirectLoop:
+    case FaultName::RedirectOtherHost: {
+        const bool loop = fault.name == FaultName::RedirectLoop;
+        const std::string hop = loop ? "?hop=" + std::to_string(hopIn(request.target) + 1) : std::string();
+        response = textResponse("text/html", "<p>It is elsewhere.</p>");
+        response.status = 307;
+        response.headers.emplace_back("Location", "https://" + (loop ? address : nextAddress) + ":" +
+                                                      std::to_string(consolePort) + request.path() + hop);
+        feedType.clear();
+        break;
+    }
+    case FaultName::Chunked:
+        response.chunked = true;
+        break;
+    case FaultName::FailedStatus:
+        response.status = 500;
+        break;
+    default:
+        break;
+    }
+}
+
+} // namespace lodestar::simulator
