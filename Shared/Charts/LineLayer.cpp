@@ -15,9 +15,10 @@ namespace lodestar
 namespace
 {
 
-constexpr double denseFrom = 1; // Entries a pixel column.
-constexpr double thin = 2;      // Lines up to this width need no joins that anyone could see.
-constexpr double beyond = 16;   // How far outside the plot anything is drawn, before it is cut off there.
+constexpr double denseFrom = 1;   // Entries a pixel column.
+constexpr double roughFrom = 128; // The same.
+constexpr double thin = 2;        // Lines up to this width need no joins that anyone could see.
+constexpr double beyond = 16;     // How far outside the plot anything is drawn, before it is cut off there.
 
 /// The entries to be drawn: those in view and their neighbours on both sides, to which the line goes on.
 std::pair<qsizetype, qsizetype> rangeInView(const PlotSeries& series, const PlotTransform& transform)
@@ -45,11 +46,22 @@ public:
     void run(std::vector<QRectF>& columns, QList<QLineF>& pieces)
     {
         const auto [start, end] = rangeInView(m_series, m_transform);
-        double x = std::floor(m_transform.plot.left() / m_step) * m_step;
-        qsizetype first = m_series.lowerBound(m_transform.toIndex(x));
+        // Columns are pixels that lie within the plot by more than half.
+        const double stop = m_transform.plot.right() - m_step / 2;
+        double x = std::round(m_transform.plot.left() / m_step) * m_step;
+        qsizetype first = m_series.lowerBound(m_transform.visible.x.from);
+        // So many entries a column make no difference that can be seen between them and their whole blocks.
+        const bool isRough =
+            m_series.isGapless() && static_cast<double>(end - start) > roughFrom * m_transform.plot.width() / m_step;
         bool joined = false; // Whether the column before had entries.
-        for (; x < m_transform.plot.right() + m_step && first < end; x += m_step) {
-            const qsizetype last = m_series.lowerBound(m_transform.toIndex(x + m_step));
+        for (; x < stop && first < end; x += m_step) {
+            // The last column has the entry on the plot's edge as well, which would begin another one beyond.
+            const bool isLast = x + m_step >= stop;
+            qsizetype last = m_series.lowerBound(isLast ? std::floor(m_transform.visible.x.to) + 1
+                                                        : m_transform.toIndex(x + m_step));
+            if (isRough && !isLast) {
+                last = last / PlotSeries::blockSize * PlotSeries::blockSize;
+            }
             if (first == last) {
                 joined = false;
                 continue;
@@ -75,19 +87,22 @@ private:
 
     void append(std::vector<QRectF>& columns, double x, const PlotInterval& values)
     {
+        const double left = m_transform.plot.left();
+        const double right = m_transform.plot.right();
         const double upper = m_transform.plot.top() - beyond;
         const double lower = m_transform.plot.bottom() + beyond;
         const double top = std::clamp(m_transform.toY(values.to) - m_lineWidth / 2, upper, lower);
         const double bottom = std::clamp(m_transform.toY(values.from) + m_lineWidth / 2, upper, lower);
         const bool steep = bottom - top > 3 * m_lineWidth && m_lineWidth > m_step;
         if (steep) {
-            // As wide as an upright line is.
-            columns.emplace_back(x + (m_step - m_lineWidth) / 2, top, m_lineWidth, bottom - top);
+            // As wide as an upright line is, but within the plot.
+            const double start = std::clamp(x + (m_step - m_lineWidth) / 2, left, std::max(right - m_lineWidth, left));
+            columns.emplace_back(start, top, m_lineWidth, bottom - top);
         } else if (!m_lastSteep && !columns.empty() && columns.back().top() == top &&
                    columns.back().bottom() == bottom && columns.back().right() > x - m_step / 2) {
-            columns.back().setRight(x + m_step);
+            columns.back().setRight(std::min(x + m_step, right));
         } else {
-            columns.emplace_back(x, top, m_step, bottom - top);
+            columns.emplace_back(QPointF(std::max(x, left), top), QPointF(std::min(x + m_step, right), bottom));
         }
         m_lastSteep = steep;
     }

@@ -4,7 +4,7 @@
 #include <QPainter>
 
 #include <algorithm>
-#include <cmath>
+#include <array>
 
 namespace lodestar
 {
@@ -16,10 +16,54 @@ QRectF inPixels(const QRectF& rect, double pixelRatio)
     return {rect.topLeft() * pixelRatio, rect.size() * pixelRatio};
 }
 
+/// Fills rectangles of an image with shades of one colour.
+class Filler
+{
+public:
+    Filler(QImage& image, const QColor& color)
+        : m_bits(reinterpret_cast<QRgb*>(image.bits())),
+          m_stride(image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb))),
+          m_width(image.width()),
+          m_height(image.height())
+    {
+        for (std::size_t i = 0; i < m_shades.size(); ++i) {
+            const int alpha = qRound(color.alpha() * static_cast<double>(i) / wholeShade);
+            m_shades.at(i) = qPremultiply(qRgba(color.red(), color.green(), color.blue(), alpha));
+        }
+    }
+
+    void fill(const QRectF& pixels)
+    {
+        const int left = std::clamp(qRound(pixels.left()), 0, m_width);
+        const int right = std::clamp(qRound(pixels.right()), left, m_width);
+        const double top = std::max(pixels.top(), 0.0);
+        const double bottom = std::min<double>(pixels.bottom(), m_height);
+        for (int y = static_cast<int>(top); y < bottom; ++y) {
+            const double coverage = std::max(std::min(y + 1.0, bottom) - std::max<double>(y, top), 0.0);
+            const QRgb shade = m_shades[static_cast<std::size_t>(coverage * wholeShade + 0.5)];
+            QRgb* const row = m_bits + y * m_stride;
+            for (int x = left; x < right; ++x) {
+                // What is covered twice stays as dark as its darker cover.
+                if (qAlpha(row[x]) < qAlpha(shade)) {
+                    row[x] = shade;
+                }
+            }
+        }
+    }
+
+private:
+    static constexpr int wholeShade = 255;
+
+    QRgb* m_bits;
+    qsizetype m_stride; // In pixels.
+    int m_width;
+    int m_height;
+    std::array<QRgb, wholeShade + 1> m_shades{}; // By the part of a pixel that is covered.
+};
+
 } // namespace
 
-LineMask::LineMask(std::span<const QRectF> columns, const QColor& color, double pixelRatio)
-    : m_color(color), m_pixelRatio(pixelRatio)
+LineMask::LineMask(std::span<const QRectF> columns, const QColor& color, double pixelRatio) : m_pixelRatio(pixelRatio)
 {
     QRectF bounds;
     for (const QRectF& column : columns) {
@@ -32,31 +76,9 @@ LineMask::LineMask(std::span<const QRectF> columns, const QColor& color, double 
     m_image = QImage(area.size(), QImage::Format_ARGB32_Premultiplied);
     m_image.fill(Qt::transparent);
     m_position = area.topLeft();
+    Filler filler(m_image, color);
     for (const QRectF& column : columns) {
-        fill(inPixels(column, pixelRatio).translated(-area.topLeft()));
-    }
-}
-
-void LineMask::fill(const QRectF& pixels)
-{
-    const int left = std::clamp(qRound(pixels.left()), 0, m_image.width());
-    const int right = std::clamp(qRound(pixels.right()), left, m_image.width());
-    const int first = std::max(static_cast<int>(std::floor(pixels.top())), 0);
-    const int last = std::min(static_cast<int>(std::ceil(pixels.bottom())), m_image.height());
-    for (int y = first; y < last; ++y) {
-        fillRow(y, left, right, std::min(y + 1.0, pixels.bottom()) - std::max<double>(y, pixels.top()));
-    }
-}
-
-void LineMask::fillRow(int y, int left, int right, double coverage)
-{
-    const auto alpha = static_cast<int>(std::lround(m_color.alpha() * std::clamp(coverage, 0.0, 1.0)));
-    const QRgb color = qPremultiply(qRgba(m_color.red(), m_color.green(), m_color.blue(), alpha));
-    auto* row = reinterpret_cast<QRgb*>(m_image.scanLine(y));
-    for (int x = left; x < right; ++x) {
-        if (qAlpha(row[x]) < alpha) {
-            row[x] = color;
-        }
+        filler.fill(inPixels(column, pixelRatio).translated(-area.topLeft()));
     }
 }
 

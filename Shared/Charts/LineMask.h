@@ -26,12 +26,8 @@ public:
     void draw(QPainter& painter) const;
 
 private:
-    void fill(const QRectF& pixels);
-    void fillRow(int y, int left, int right, double coverage);
-
     QImage m_image;
     QPoint m_position; ///< In device pixels of the chart.
-    QColor m_color;
     double m_pixelRatio = 1;
 };
 

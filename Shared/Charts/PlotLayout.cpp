@@ -136,9 +136,12 @@ private:
         std::vector<AxisLabel> labels;
         for (; index <= last; index += stride) {
             const double most = m_size.width() - 2;
-            const QString text =
-                m_metrics.elidedText(m_model.xVals.at(static_cast<qsizetype>(index)), Qt::ElideMiddle, most);
-            const double width = m_metrics.horizontalAdvance(text);
+            QString text = m_model.xVals.at(static_cast<qsizetype>(index));
+            double width = m_metrics.horizontalAdvance(text);
+            if (width > most) {
+                text = m_metrics.elidedText(text, Qt::ElideMiddle, most);
+                width = m_metrics.horizontalAdvance(text);
+            }
             // Centred below its index, but never beyond the chart's edge.
             const double x =
                 std::clamp(m_layout.transform.toX(index) - width / 2, 1.0, std::max(most - width, 1.0) + 1);

@@ -9,8 +9,7 @@ namespace lodestar
 namespace
 {
 
-constexpr qsizetype blockSize = 16;
-constexpr qsizetype spanSize = 256; // A multiple.
+constexpr qsizetype fan = 4; // Blocks that one of the level above spans.
 
 bool isFinite(const ChartEntry& entry)
 {
@@ -36,32 +35,46 @@ PlotSeries::PlotSeries(const QList<ChartEntry>& entries) : m_entries(entries)
     if (m_entries.isEmpty()) {
         return;
     }
-    for (qsizetype i = 0; i < m_entries.size(); ++i) {
-        if (i % blockSize == 0) {
-            m_blocks.push_back(extremesOf(i));
-        }
-        m_blocks.back().include(extremesOf(i));
-    }
-    constexpr auto blocksPerSpan = static_cast<std::size_t>(spanSize / blockSize);
-    for (std::size_t i = 0; i < m_blocks.size(); ++i) {
-        if (i % blocksPerSpan == 0) {
-            m_spans.push_back(m_blocks[i]);
-        }
-        m_spans.back().include(m_blocks[i]);
-    }
+    buildPyramid();
+    m_isGapless = std::adjacent_find(m_entries.cbegin(), m_entries.cend(), [](const auto& first, const auto& second) {
+                      return qint64{second.xIndex} - first.xIndex != 1;
+                  }) == m_entries.cend();
     m_extent.x = {static_cast<double>(m_entries.constFirst().xIndex),
                   static_cast<double>(m_entries.constLast().xIndex)};
     m_extent.y = values(0, m_entries.size());
 }
 
-void PlotSeries::Extremes::include(const Extremes& other)
+void PlotSeries::buildPyramid()
 {
-    least = std::min(least, other.least);
-    greatest = std::max(greatest, other.greatest);
+    const auto reduce = [](std::vector<Extremes>& blocks, qsizetype count, qsizetype perBlock, auto extremes) {
+        blocks.reserve(static_cast<std::size_t>((count + perBlock - 1) / perBlock));
+        for (qsizetype i = 0; i < count; ++i) {
+            if (i % perBlock == 0) {
+                blocks.push_back(extremes(i));
+            } else {
+                blocks.back().include(extremes(i));
+            }
+        }
+    };
+    Level level{blockSize, {}};
+    reduce(level.blocks, size(), blockSize, [this](qsizetype i) { return extremesOf(i); });
+    while (level.blocks.size() > fan) {
+        Level above{level.size * fan, {}};
+        reduce(above.blocks, static_cast<qsizetype>(level.blocks.size()), fan,
+               [&level](qsizetype i) { return level.blocks[static_cast<std::size_t>(i)]; });
+        m_levels.push_back(std::move(level));
+        level = std::move(above);
+    }
+    m_levels.push_back(std::move(level));
 }
 
 qsizetype PlotSeries::lowerBound(double index) const
 {
+    if (m_isGapless) {
+        // Samples mostly are, and a search among a million of them costs more than drawing what it finds.
+        const double position = std::ceil(index - m_entries.constFirst().xIndex);
+        return position > 0 ? static_cast<qsizetype>(std::min(position, static_cast<double>(size()))) : 0;
+    }
     const auto found = std::lower_bound(m_entries.cbegin(), m_entries.cend(), index,
                                         [](const ChartEntry& entry, double x) { return entry.xIndex < x; });
     return found - m_entries.cbegin();
@@ -74,16 +87,17 @@ PlotInterval PlotSeries::values(qsizetype first, qsizetype last) const
     }
     Extremes found = extremesOf(first);
     for (qsizetype i = first; i < last;) {
-        if (i % spanSize == 0 && i + spanSize <= last) {
-            found.include(m_spans[static_cast<std::size_t>(i / spanSize)]);
-            i += spanSize;
-        } else if (i % blockSize == 0 && i + blockSize <= last) {
-            found.include(m_blocks[static_cast<std::size_t>(i / blockSize)]);
-            i += blockSize;
-        } else {
-            found.include(extremesOf(i));
-            ++i;
+        // The largest block that begins here and ends in time.
+        const Level* largest = nullptr;
+        for (const Level& level : m_levels) {
+            if ((i & (level.size - 1)) != 0 || i + level.size > last) {
+                break;
+            }
+            largest = &level;
         }
+        found.include(largest != nullptr ? largest->blocks[static_cast<std::size_t>(i / largest->size)]
+                                         : extremesOf(i));
+        i += largest != nullptr ? largest->size : 1;
     }
     return {found.least, found.greatest};
 }

@@ -197,6 +197,29 @@ TEST(LineChartRendererTest, DenseLinesShowEveryExtreme)
     EXPECT_NEAR(level.center().y(), picture.point(0, 5).y(), 0.6);
 }
 
+TEST(LineChartRendererTest, DenseLinesEndWithThePlotOnEveryGridOfPixels)
+{
+    QList<float> values;
+    for (int i = 0; i < 5000; ++i) {
+        values << static_cast<float>(i % 7);
+    }
+    values.last() = 40;
+    LineChartView view;
+    showLine(view, values);
+    for (const double ratio : {1.0, 1.2, 1.5, 2.0, 3.0}) {
+        for (const double width : {366.0, 366.3, 366.7}) {
+            const PlotPicture picture(view, {QSizeF(width, 400), {}, {}}, ratio);
+            const QRectF plot = picture.layout.transform.plot;
+            const double start = qRound(plot.left() * ratio) / ratio;
+            const double end = qRound(plot.right() * ratio) / ratio;
+            EXPECT_EQ(picture.count(blue, QRectF(0, 0, start, 400)), 0) << ratio << " " << width;
+            EXPECT_EQ(picture.count(blue, QRectF(end, 0, width - end, 400)), 0) << ratio << " " << width;
+            const QRectF last = picture.span(blue, picture.layout.transform.toIndex(end - 1 / ratio));
+            EXPECT_NEAR(last.top(), picture.point(0, 40).y() - 0.5, 1.1 / ratio) << "the last value is seen";
+        }
+    }
+}
+
 TEST(LineChartRendererTest, LinesGoOnAcrossGapsHoweverCloselyTheyAreLookedAt)
 {
     QList<float> values(100001, NAN);
