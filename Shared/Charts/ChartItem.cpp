@@ -1,38 +1,56 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Charts/ChartItem.h"
 
-#include <QFocusEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QTouchEvent>
 
 #include <cmath>
 
 namespace lodestar
 {
+namespace
+{
+
+constexpr double focusWidth = 2; // Of the ring, within the chart's edge.
+constexpr double focusRadius = 12;
+
+} // namespace
 
 ChartItem::ChartItem(QQuickItem* parent) : QQuickPaintedItem(parent)
 {
     setAntialiasing(true);
+    setActiveFocusOnTab(true);
+    setAcceptedMouseButtons(Qt::LeftButton);
+    setAcceptTouchEvents(true);
     connect(this, &ChartItem::styleChanged, this, &ChartItem::refresh);
     connect(&m_growIn, &QVariantAnimation::valueChanged, this, [this] { update(); });
     m_growIn.setStartValue(0.0);
 }
 
-void ChartItem::attach(ChartView* view)
+void ChartItem::attach(ChartView* view, const ChartRenderer* renderer)
 {
     if (m_view != nullptr) {
         m_view->disconnect(this);
     }
+    endGesture();
+    rest();
     m_view = view;
+    m_renderer = renderer;
     m_growIn.stop();
     if (view != nullptr) {
         connect(view, &ChartView::changed, this, &ChartItem::refresh);
+        // What moved the old data must not move the new ones.
+        connect(view, &ChartView::dataChanged, this, &ChartItem::rest);
         connect(view, &ChartView::hiddenChanged, this, [this] { setVisible(!m_view->isHidden()); });
         connect(view, &ChartView::animateRequested, this, &ChartItem::grow);
         connect(view, &QObject::destroyed, this, [this] { update(); });
         setVisible(!view->isHidden());
     }
     refresh();
+    Q_EMIT outletChanged();
 }
 
 void ChartItem::refresh()
@@ -99,21 +117,101 @@ void ChartItem::paint(QPainter* painter)
     if (const ChartRenderer* drawing = renderer()) {
         drawing->draw(*painter, currentFrame());
     }
+    if (m_visualFocus) {
+        constexpr double inset = focusWidth / 2;
+        painter->setPen(QPen(m_focusColor, focusWidth));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRoundedRect(boundingRect().adjusted(inset, inset, -inset, -inset), focusRadius - inset,
+                                 focusRadius - inset);
+    }
+}
+
+void ChartItem::setVisualFocus(bool focus)
+{
+    if (m_visualFocus != focus) {
+        m_visualFocus = focus;
+        update();
+    }
 }
 
 void ChartItem::focusInEvent(QFocusEvent* event)
 {
     QQuickPaintedItem::focusInEvent(event);
-    const Qt::FocusReason reason = event->reason();
-    m_visualFocus = reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
-    Q_EMIT visualFocusChanged();
+    setVisualFocus(event->reason() == Qt::TabFocusReason || event->reason() == Qt::BacktabFocusReason);
 }
 
 void ChartItem::focusOutEvent(QFocusEvent* event)
 {
     QQuickPaintedItem::focusOutEvent(event);
-    m_visualFocus = false;
-    Q_EMIT visualFocusChanged();
+    setVisualFocus(false);
+}
+
+void ChartItem::endGesture()
+{
+    forget();
+    setKeepMouseGrab(false);
+    setKeepTouchGrab(false);
+}
+
+void ChartItem::mousePressEvent(QMouseEvent* event)
+{
+    press(event->position(), event->timestamp());
+}
+
+void ChartItem::mouseMoveEvent(QMouseEvent* event)
+{
+    setKeepMouseGrab(move(event->position(), event->timestamp()));
+}
+
+void ChartItem::mouseReleaseEvent(QMouseEvent* event)
+{
+    release(event->timestamp());
+    endGesture();
+}
+
+void ChartItem::mouseUngrabEvent()
+{
+    endGesture();
+}
+
+void ChartItem::touchEvent(QTouchEvent* event)
+{
+    const QList<QEventPoint>& points = event->points();
+    if (event->type() == QEvent::TouchCancel || points.isEmpty()) {
+        endGesture();
+        return;
+    }
+    event->accept();
+    const QEventPoint& first = points.first();
+    const bool firstLeft = first.state() == QEventPoint::Released;
+    if (points.size() > 1) {
+        const QEventPoint& second = points.at(1);
+        const bool secondLeft = second.state() == QEventPoint::Released;
+        if (firstLeft && secondLeft) {
+            endGesture();
+        } else if (firstLeft || secondLeft) {
+            leaveOne((firstLeft ? second : first).position(), event->timestamp());
+        } else if (moveTwo(first.position(), second.position())) {
+            setKeepTouchGrab(true);
+        }
+    } else if (first.state() == QEventPoint::Pressed) {
+        press(first.position(), event->timestamp());
+    } else if (firstLeft) {
+        release(event->timestamp());
+        endGesture();
+    } else if (move(first.position(), event->timestamp())) {
+        setKeepTouchGrab(true);
+    }
+}
+
+void ChartItem::touchUngrabEvent()
+{
+    endGesture();
+}
+
+void ChartItem::keyPressEvent(QKeyEvent* event)
+{
+    event->setAccepted(m_view != nullptr && pressKey(*event));
 }
 
 } // namespace lodestar

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Charts/ChartData.h"
 #include "Charts/ChartEasing.h"
+#include "Charts/ChartModel.h"
 
 #include <QObject>
 #include <QtQml/qqmlregistration.h>
+
+#include <optional>
 
 namespace lodestar
 {
@@ -31,6 +33,7 @@ class ChartView : public QObject
     QML_UNCREATABLE("made by controllers")
     Q_PROPERTY(bool hidden READ isHidden WRITE setHidden NOTIFY hiddenChanged)
     Q_PROPERTY(QString accessibleText READ accessibleText NOTIFY dataChanged)
+    Q_PROPERTY(QString selectedText READ selectedText NOTIFY selectionChanged)
 
 public:
     explicit ChartView(QObject* parent = nullptr) : QObject(parent) {}
@@ -41,6 +44,13 @@ public:
     /// Not owned and may be null; must outlive this or be taken back.
     ChartViewDelegate* delegate() const { return m_delegate; }
     void setDelegate(ChartViewDelegate* delegate) { m_delegate = delegate; }
+
+    void setDescriptionText(const QString& text) { assign(common().descriptionText, text); }
+    const Legend& legend() const { return common().legend; }
+    void setLegend(const Legend& legend) { assign(common().legend, legend); }
+
+    /// Highlights exactly these, none for an empty list. The delegate is not told: it is the program speaking.
+    void highlightValues(const QList<Highlight>& highlights);
 
     /// Grows the chart in, durations in seconds. The chart is complete at once where no item shows it.
     void animate(double xAxisDuration, double yAxisDuration, ChartEasingOption easingOption);
@@ -53,6 +63,8 @@ public:
 
     /// What a screen reader says instead of the picture; empty when there is nothing to say.
     virtual QString accessibleText() const = 0;
+    /// The same of the entry that is highlighted first; empty without one.
+    virtual QString selectedText() const = 0;
 
 Q_SIGNALS:
     void hiddenChanged();
@@ -60,7 +72,25 @@ Q_SIGNALS:
     void changed();
     /// The data, beside `changed`.
     void dataChanged();
+    void selectionChanged();
     void animateRequested(const lodestar::ChartAnimation& animation);
+
+protected:
+    /// The part of the subclass's model that all charts have.
+    virtual const ChartModel& common() const = 0;
+    virtual ChartModel& common() = 0;
+
+    template <typename T>
+    void assign(T& member, const T& value)
+    {
+        if (!(member == value)) {
+            member = value;
+            Q_EMIT changed();
+        }
+    }
+    void announceData();
+    /// The user's selection of an entry, or of nothing: the delegate is told.
+    void select(const std::optional<ChartEntry>& entry, const Highlight& highlight);
 
 private:
     ChartViewDelegate* m_delegate = nullptr;

@@ -2,8 +2,6 @@
 #include "Charts/PieChartItem.h"
 
 #include <QKeyEvent>
-#include <QMouseEvent>
-#include <QTouchEvent>
 
 #include <cmath>
 
@@ -12,23 +10,14 @@ namespace lodestar
 namespace
 {
 
-constexpr int spinTime = 900;       // Milliseconds that a thrown pie turns on.
 constexpr double slowestSpin = 40;  // Degrees a second below which a pie rests at once.
 constexpr double keyboardTurn = 15; // Degrees a key press.
 
 } // namespace
 
-PieChartItem::PieChartItem(QQuickItem* parent) : ChartItem(parent)
+PieChartItem::PieChartItem(QQuickItem* parent)
+    : ChartItem(parent), m_spin([this](double seconds) { turnBy(m_spinSpeed * seconds); })
 {
-    setAcceptedMouseButtons(Qt::LeftButton);
-    setAcceptTouchEvents(true);
-    m_spin.setEasingCurve(QEasingCurve::OutCubic);
-    m_spin.setStartValue(0.0);
-    m_spin.setDuration(spinTime);
-    connect(&m_spin, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
-        turnBy(value.toDouble() - m_spun);
-        m_spun = value.toDouble();
-    });
 }
 
 void PieChartItem::setOutlet(PieChartView* outlet)
@@ -36,15 +25,12 @@ void PieChartItem::setOutlet(PieChartView* outlet)
     if (m_outlet == outlet) {
         return;
     }
-    cancel();
-    m_spin.stop();
     m_outlet = outlet;
     m_renderer.reset();
     if (outlet != nullptr) {
         m_renderer.emplace(outlet->model()).setMaximumDiameter(m_maximumDiameter);
     }
-    attach(outlet);
-    Q_EMIT outletChanged();
+    attach(outlet, m_renderer ? &*m_renderer : nullptr);
 }
 
 void PieChartItem::setMaximumDiameter(qreal diameter)
@@ -59,15 +45,9 @@ void PieChartItem::setMaximumDiameter(qreal diameter)
     }
 }
 
-const ChartRenderer* PieChartItem::renderer() const
-{
-    // The renderer reads the view's model, so it falls silent with the view.
-    return m_outlet != nullptr && m_renderer ? &*m_renderer : nullptr;
-}
-
 void PieChartItem::press(QPointF position, quint64 time)
 {
-    m_spin.stop();
+    rest();
     PieGrip grip;
     if (m_outlet != nullptr && m_outlet->model().rotationEnabled) {
         const PieLayout layout = m_renderer->layout(completeFrame());
@@ -101,12 +81,30 @@ void PieChartItem::release(quint64 time)
     spin(m_gesture.release(time));
 }
 
-void PieChartItem::cancel()
+bool PieChartItem::moveTwo(QPointF first, QPointF second)
+{
+    m_gesture.cancel();
+    if (m_outlet == nullptr || !m_outlet->model().rotationEnabled || !m_outlet->model().rotationWithTwoFingers) {
+        return false;
+    }
+    rest();
+    const QPointF between = second - first;
+    if (m_twoFingers) {
+        turnBy(turnBetween(*m_twoFingers, between));
+    }
+    m_twoFingers = between;
+    return true;
+}
+
+void PieChartItem::leaveOne(QPointF /*remaining*/, quint64 /*time*/)
+{
+    forget();
+}
+
+void PieChartItem::forget()
 {
     m_gesture.cancel();
     m_twoFingers.reset();
-    setKeepMouseGrab(false);
-    setKeepTouchGrab(false);
 }
 
 void PieChartItem::turnBy(double degrees)
@@ -121,76 +119,8 @@ void PieChartItem::spin(double degreesPerSecond)
     if (std::abs(degreesPerSecond) < slowestSpin || isMotionReduced()) {
         return;
     }
-    // The curve sets out three times as fast as its mean, which is where the finger's speed goes on unbroken.
-    m_spun = 0;
-    m_spin.setEndValue(degreesPerSecond * spinTime / 1000 / 3);
+    m_spinSpeed = degreesPerSecond;
     m_spin.start();
-}
-
-void PieChartItem::mousePressEvent(QMouseEvent* event)
-{
-    press(event->position(), event->timestamp());
-}
-
-void PieChartItem::mouseMoveEvent(QMouseEvent* event)
-{
-    setKeepMouseGrab(move(event->position(), event->timestamp()));
-}
-
-void PieChartItem::mouseReleaseEvent(QMouseEvent* event)
-{
-    release(event->timestamp());
-    cancel();
-}
-
-void PieChartItem::mouseUngrabEvent()
-{
-    cancel();
-}
-
-void PieChartItem::touchEvent(QTouchEvent* event)
-{
-    const QList<QEventPoint>& points = event->points();
-    if (event->type() == QEvent::TouchCancel || points.isEmpty()) {
-        cancel();
-        return;
-    }
-    event->accept();
-    const QEventPoint& first = points.first();
-    if (points.size() > 1) {
-        m_gesture.cancel();
-        if (first.state() == QEventPoint::Released || points.at(1).state() == QEventPoint::Released) {
-            m_twoFingers.reset();
-        } else {
-            turnWithTwoFingers(first.position(), points.at(1).position());
-        }
-    } else if (first.state() == QEventPoint::Pressed) {
-        press(first.position(), event->timestamp());
-    } else if (first.state() == QEventPoint::Released) {
-        release(event->timestamp());
-        cancel();
-    } else if (m_gesture.state() != PieGesture::State::Idle) {
-        setKeepTouchGrab(move(first.position(), event->timestamp()));
-    }
-}
-
-void PieChartItem::turnWithTwoFingers(QPointF first, QPointF second)
-{
-    if (m_outlet == nullptr || !m_outlet->model().rotationEnabled || !m_outlet->model().rotationWithTwoFingers) {
-        return;
-    }
-    m_spin.stop();
-    setKeepTouchGrab(true);
-    const QPointF between = second - first;
-    if (m_twoFingers) {
-        turnBy(turnBetween(*m_twoFingers, between));
-    }
-    m_twoFingers = between;
-}
-
-void PieChartItem::touchUngrabEvent()
-{
-    cancel();
 }
 
 void PieChartItem::step(int by)
@@ -212,25 +142,27 @@ void PieChartItem::step(int by)
     }
 }
 
-void PieChartItem::keyPressEvent(QKeyEvent* event)
+bool PieChartItem::pressKey(const QKeyEvent& event)
 {
-    const bool arrow = event->key() == Qt::Key_Left || event->key() == Qt::Key_Right;
-    if (m_outlet == nullptr || (!arrow && event->key() != Qt::Key_Escape)) {
-        ChartItem::keyPressEvent(event);
-        return;
-    }
     // Right is clockwise in every language: the pie itself is never mirrored.
-    const int way = event->key() == Qt::Key_Right ? 1 : -1;
-    if (!arrow) {
+    const int way = event.key() == Qt::Key_Left ? -1 : 1;
+    switch (event.key()) {
+    case Qt::Key_Escape:
         if (!m_outlet->selectedEntry()) {
-            event->ignore(); // Leaves the screen, as elsewhere.
-            return;
+            return false; // Leaves the screen, as elsewhere.
         }
         m_outlet->select(std::nullopt);
-    } else if (!event->modifiers().testFlag(Qt::ShiftModifier)) {
-        step(way);
-    } else if (m_outlet->model().rotationEnabled) {
-        turnBy(way * keyboardTurn);
+        return true;
+    case Qt::Key_Left:
+    case Qt::Key_Right:
+        if (!event.modifiers().testFlag(Qt::ShiftModifier)) {
+            step(way);
+        } else if (m_outlet->model().rotationEnabled) {
+            turnBy(way * keyboardTurn);
+        }
+        return true;
+    default:
+        return false;
     }
 }
 

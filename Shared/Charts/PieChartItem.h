@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Charts/ChartGlide.h"
 #include "Charts/ChartItem.h"
 #include "Charts/PieChartRenderer.h"
 #include "Charts/PieChartView.h"
@@ -30,26 +31,19 @@ public:
     void setMaximumDiameter(qreal diameter);
 
 Q_SIGNALS:
-    void outletChanged();
     void maximumDiameterChanged();
 
 protected:
-    const ChartRenderer* renderer() const override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseUngrabEvent() override;
-    void touchEvent(QTouchEvent* event) override;
-    void touchUngrabEvent() override;
-    void keyPressEvent(QKeyEvent* event) override;
+    void press(QPointF position, quint64 time) override;
+    bool move(QPointF position, quint64 time) override;
+    void release(quint64 time) override;
+    bool moveTwo(QPointF first, QPointF second) override;
+    void leaveOne(QPointF remaining, quint64 time) override;
+    void forget() override;
+    bool pressKey(const QKeyEvent& event) override;
+    void rest() override { m_spin.stop(); }
 
 private:
-    void press(QPointF position, quint64 time);
-    /// Whether the gesture is the pie's own now.
-    bool move(QPointF position, quint64 time);
-    void release(quint64 time);
-    void cancel();
-    void turnWithTwoFingers(QPointF first, QPointF second);
     void turnBy(double degrees);
     void spin(double degreesPerSecond);
     void step(int by);
@@ -59,8 +53,8 @@ private:
     qreal m_maximumDiameter = 240;
     PieGesture m_gesture;
     std::optional<QPointF> m_twoFingers; ///< From the first finger to the second while both are down.
-    QVariantAnimation m_spin;
-    double m_spun = 0;
+    double m_spinSpeed = 0;              ///< Degrees a second.
+    ChartGlide m_spin;
 };
 
 } // namespace lodestar

@@ -1,17 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Charts/ChartData.h"
-#include "Charts/Legend.h"
-
-#include <QList>
-#include <QString>
+#include "Charts/ChartModel.h"
 
 namespace lodestar
 {
 
 /// Everything that a pie is drawn from: its settings, data and highlights. Radii are fractions of the pie's radius.
-struct PieChartModel {
+struct PieChartModel : ChartModel {
     bool usePercentValues = false; ///< Slices show their share of the total, 0 to 100, instead of their value.
     bool drawHole = true;
     bool holeTransparent = true; ///< Otherwise the hole is filled with the card's colour.
@@ -21,10 +17,7 @@ struct PieChartModel {
     bool rotationEnabled = true;
     bool rotationWithTwoFingers = false; ///< Two fingers turn the pie as well.
     bool drawSliceText = true;           ///< Slices show their label above their value.
-    QString descriptionText;             ///< In the lower end corner; empty for none.
-    Legend legend;
     PieChartData data;
-    QList<Highlight> highlights;
 
     /// An entry's value as a slice shows it.
     QString valueText(const ChartEntry& entry) const;

@@ -7,38 +7,16 @@ namespace lodestar
 void PieChartView::setData(const PieChartData& data)
 {
     m_model.data = data;
-    Q_EMIT changed();
-    Q_EMIT dataChanged();
-    Q_EMIT selectionChanged();
-}
-
-void PieChartView::highlightValues(const QList<Highlight>& highlights)
-{
-    if (m_model.highlights != highlights) {
-        m_model.highlights = highlights;
-        Q_EMIT changed();
-        Q_EMIT selectionChanged();
-    }
+    announceData();
 }
 
 void PieChartView::select(std::optional<qsizetype> entry)
 {
     const QList<ChartEntry>& entries = m_model.data.dataSet.entries;
-    if (entry && (*entry < 0 || *entry >= entries.size() || entry == selectedEntry())) {
-        entry.reset();
-    }
-    if (!entry) {
-        highlightValues({});
-        if (delegate() != nullptr) {
-            delegate()->chartValueNothingSelected(*this);
-        }
-        return;
-    }
-    const ChartEntry selected = entries.at(*entry);
-    const Highlight highlight{selected.xIndex, 0};
-    highlightValues({highlight});
-    if (delegate() != nullptr) {
-        delegate()->chartValueSelected(*this, selected, 0, highlight);
+    if (entry && *entry >= 0 && *entry < entries.size() && entry != selectedEntry()) {
+        ChartView::select(entries.at(*entry), {entries.at(*entry).xIndex, 0});
+    } else {
+        ChartView::select(std::nullopt, {});
     }
 }
 

@@ -14,17 +14,11 @@ constexpr double slack = 10;         // Beside the ring, since a fingertip is wi
 constexpr double startDistance = 5;  // Half of what a flickable page waits for: the pie has to decide before it.
 constexpr double flickSpeed = 900;   // Points a second.
 constexpr double steepness = 2;      // Vertical to horizontal, from which a stroke counts as vertical.
-constexpr quint64 restTime = 80;     // A finger that lay still this long before it left throws nothing.
 constexpr double fastestSpin = 1440; // Degrees a second: four turns.
 
 double lengthOf(QPointF vector)
 {
     return std::hypot(vector.x(), vector.y());
-}
-
-double secondsBetween(quint64 from, quint64 to)
-{
-    return static_cast<double>(std::max<quint64>(to > from ? to - from : 0, 1)) / 1000;
 }
 
 } // namespace
@@ -40,8 +34,8 @@ void PieGesture::press(QPointF position, quint64 time, const PieGrip& grip)
     m_state = State::Pressed;
     m_grip = grip;
     m_press = m_last = position;
-    m_pressTime = m_lastTime = time;
-    m_speed = 0;
+    m_pressTime = time;
+    m_speed.start(time);
 }
 
 PieGesture::State PieGesture::judge(QPointF position, quint64 time) const
@@ -74,19 +68,16 @@ std::optional<double> PieGesture::move(QPointF position, quint64 time)
         return std::nullopt;
     }
     const double turn = turnBetween(m_last - m_grip.center, position - m_grip.center);
-    const double speed = turn / secondsBetween(m_lastTime, time);
-    // Smoothed: the last event before a finger leaves is often a stray one.
-    m_speed = m_lastTime == m_pressTime ? speed : 0.6 * speed + 0.4 * m_speed;
+    m_speed.step(turn, time);
     m_last = position;
-    m_lastTime = time;
     return turn;
 }
 
 double PieGesture::release(quint64 time)
 {
-    const bool thrown = m_state == State::Turning && time <= m_lastTime + restTime;
+    const double speed = m_state == State::Turning ? m_speed.atRelease(time) : 0;
     m_state = State::Idle;
-    return thrown ? std::clamp(m_speed, -fastestSpin, fastestSpin) : 0;
+    return std::clamp(speed, -fastestSpin, fastestSpin);
 }
 
 } // namespace lodestar

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Charts/GestureSpeed.h"
+
 #include <QPointF>
-#include <QtGlobal>
 
 #include <optional>
 
@@ -44,8 +45,7 @@ private:
     QPointF m_press;
     quint64 m_pressTime = 0;
     QPointF m_last;
-    quint64 m_lastTime = 0;
-    double m_speed = 0;
+    GestureSpeed<double> m_speed;
 };
 
 /// Degrees from one direction to another by the shorter way, clockwise positive, -180 to 180.

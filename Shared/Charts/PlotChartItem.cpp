@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Charts/PlotChartItem.h"
 
+#include <QCursor>
 #include <QKeyEvent>
-#include <QMouseEvent>
 #include <QNativeGestureEvent>
-#include <QTouchEvent>
 #include <QWheelEvent>
 
 #include <algorithm>
@@ -16,7 +15,6 @@ namespace
 {
 
 constexpr int zoomTime = 240;         // Milliseconds of a zoom that no finger leads.
-constexpr int glideTime = 900;        // That a thrown plot glides on.
 constexpr double slowestThrow = 60;   // Points a second below which a plot rests at once.
 constexpr double stepFactor = 2;      // Of a double tap and of the keys.
 constexpr double wheelFactor = 1.2;   // Of a notch, which is 120.
@@ -24,10 +22,9 @@ constexpr double keyboardShare = 0.2; // Of what is seen, that an arrow key move
 
 } // namespace
 
-PlotChartItem::PlotChartItem(QQuickItem* parent) : ChartItem(parent)
+PlotChartItem::PlotChartItem(QQuickItem* parent)
+    : ChartItem(parent), m_glide([this](double seconds) { moveBy(m_glideSpeed * seconds); })
 {
-    setAcceptedMouseButtons(Qt::LeftButton);
-    setAcceptTouchEvents(true);
     m_zoom.setEasingCurve(QEasingCurve::OutCubic);
     m_zoom.setDuration(zoomTime);
     m_zoom.setStartValue(0.0);
@@ -37,13 +34,6 @@ PlotChartItem::PlotChartItem(QQuickItem* parent) : ChartItem(parent)
             m_outlet->setViewport(m_zoomFrom.towards(m_zoomTo, value.toDouble()));
         }
     });
-    m_glide.setEasingCurve(QEasingCurve::OutCubic);
-    m_glide.setDuration(glideTime);
-    m_glide.setStartValue(QPointF());
-    connect(&m_glide, &QVariantAnimation::valueChanged, this, [this](const QVariant& value) {
-        moveBy(value.toPointF() - m_glided);
-        m_glided = value.toPointF();
-    });
 }
 
 void PlotChartItem::setOutlet(PlotChartView* outlet)
@@ -51,31 +41,32 @@ void PlotChartItem::setOutlet(PlotChartView* outlet)
     if (m_outlet == outlet) {
         return;
     }
-    cancel();
-    rest();
-    if (m_outlet != nullptr) {
-        disconnect(m_outlet, nullptr, this, nullptr);
-    }
     m_outlet = outlet;
     m_renderer.reset();
     if (outlet != nullptr) {
         m_renderer.emplace(outlet->model());
-        // What moved the old data must not move the new ones.
-        connect(outlet, &PlotChartView::dataChanged, this, &PlotChartItem::rest);
     }
-    attach(outlet);
-    Q_EMIT outletChanged();
+    attach(outlet, m_renderer ? &*m_renderer : nullptr);
+    if (outlet != nullptr) {
+        connect(outlet, &ChartView::changed, this, &PlotChartItem::showHand);
+    }
+    showHand();
+}
+
+void PlotChartItem::showHand()
+{
+    const PlotFreedom free = freedom();
+    if (free.x || free.y) {
+        const bool isHeld = m_gesture.state() == PlotGesture::State::Dragging;
+        setCursor(QCursor(isHeld ? Qt::ClosedHandCursor : Qt::OpenHandCursor));
+    } else {
+        unsetCursor();
+    }
 }
 
 bool PlotChartItem::isMoving() const
 {
-    return m_zoom.state() == QAbstractAnimation::Running || m_glide.state() == QAbstractAnimation::Running;
-}
-
-const ChartRenderer* PlotChartItem::renderer() const
-{
-    // The renderer reads the view's model, so it falls silent with the view.
-    return m_outlet != nullptr && m_renderer ? &*m_renderer : nullptr;
+    return m_zoom.state() == QAbstractAnimation::Running || m_glide.isRunning();
 }
 
 ChartStyle PlotChartItem::style() const
@@ -91,7 +82,7 @@ ChartStyle PlotChartItem::style() const
 
 QRectF PlotChartItem::plot() const
 {
-    return renderer() != nullptr ? m_renderer->layout(completeFrame()).transform.plot : QRectF();
+    return m_outlet != nullptr ? m_renderer->layout(completeFrame()).transform.plot : QRectF();
 }
 
 PlotFreedom PlotChartItem::freedom() const
@@ -126,14 +117,14 @@ void PlotChartItem::moveBy(QPointF points)
     }
 }
 
-bool PlotChartItem::zoomAt(QPointF position, double factor)
+bool PlotChartItem::zoomAt(QPointF position, double factorX, double factorY)
 {
     if (m_outlet == nullptr || !m_outlet->model().scaleEnabled || m_outlet->model().isEmpty()) {
         return false;
     }
     rest();
     const PlotViewport before = m_outlet->viewport();
-    m_outlet->setViewport(before.zoomed(factor, factor, shareOf(position), m_outlet->smallestViewport()));
+    m_outlet->setViewport(before.zoomed(factorX, factorY, shareOf(position), m_outlet->smallestViewport()));
     return !(before == m_outlet->viewport());
 }
 
@@ -155,9 +146,7 @@ void PlotChartItem::glideOn(QPointF pointsPerSecond)
         isMotionReduced()) {
         return;
     }
-    // The curve sets out three times as fast as its mean, which is where the finger's speed goes on unbroken.
-    m_glided = {};
-    m_glide.setEndValue(pointsPerSecond * glideTime / 1000 / 3);
+    m_glideSpeed = pointsPerSecond;
     m_glide.start();
 }
 
@@ -171,6 +160,7 @@ bool PlotChartItem::move(QPointF position, quint64 time)
 {
     if (const std::optional<QPointF> by = m_gesture.move(position, time)) {
         moveBy(*by);
+        showHand();
     }
     return m_gesture.state() == PlotGesture::State::Dragging;
 }
@@ -201,96 +191,53 @@ void PlotChartItem::tapTwice(QPointF position)
     glideTo(closer == seen ? PlotViewport() : closer);
 }
 
-void PlotChartItem::pinch(QPointF first, QPointF second)
+bool PlotChartItem::moveTwo(QPointF first, QPointF second)
 {
     if (m_outlet == nullptr || !m_outlet->model().scaleEnabled || m_outlet->model().isEmpty()) {
-        return;
+        return false;
     }
     rest();
-    setKeepTouchGrab(true);
-    const auto pinch = m_gesture.pinch(first, second, m_outlet->model().pinchZoomEnabled);
-    if (!pinch) {
-        return;
+    if (const auto pinch = m_gesture.pinch(first, second, m_outlet->model().pinchZoomEnabled)) {
+        if (m_outlet->model().dragEnabled) {
+            moveBy(pinch->to - pinch->from);
+        }
+        m_outlet->setViewport(m_outlet->viewport().zoomed(pinch->factorX, pinch->factorY, shareOf(pinch->to),
+                                                          m_outlet->smallestViewport()));
     }
-    if (m_outlet->model().dragEnabled) {
-        moveBy(pinch->to - pinch->from);
-    }
-    m_outlet->setViewport(
-        m_outlet->viewport().zoomed(pinch->factorX, pinch->factorY, shareOf(pinch->to), m_outlet->smallestViewport()));
+    return true;
 }
 
-void PlotChartItem::cancel()
+void PlotChartItem::forget()
 {
     m_gesture.cancel();
-    setKeepMouseGrab(false);
-    setKeepTouchGrab(false);
+    showHand();
 }
 
-void PlotChartItem::mousePressEvent(QMouseEvent* event)
+void PlotChartItem::leaveOne(QPointF remaining, quint64 time)
 {
-    press(event->position(), event->timestamp());
-}
-
-void PlotChartItem::mouseMoveEvent(QMouseEvent* event)
-{
-    setKeepMouseGrab(move(event->position(), event->timestamp()));
-}
-
-void PlotChartItem::mouseReleaseEvent(QMouseEvent* event)
-{
-    release(event->timestamp());
-    cancel();
-}
-
-void PlotChartItem::mouseUngrabEvent()
-{
-    cancel();
-}
-
-void PlotChartItem::touchEvent(QTouchEvent* event)
-{
-    const QList<QEventPoint>& points = event->points();
-    if (event->type() == QEvent::TouchCancel || points.isEmpty()) {
-        cancel();
-        return;
-    }
-    event->accept();
-    const QEventPoint& first = points.first();
-    if (points.size() > 1) {
-        const bool firstLeft = first.state() == QEventPoint::Released;
-        if (firstLeft || points.at(1).state() == QEventPoint::Released) {
-            m_gesture.endPinch(points.at(firstLeft ? 1 : 0).position(), event->timestamp(), freedom());
-        } else {
-            pinch(first.position(), points.at(1).position());
-        }
-    } else if (first.state() == QEventPoint::Pressed) {
-        press(first.position(), event->timestamp());
-    } else if (first.state() == QEventPoint::Released) {
-        release(event->timestamp());
-        cancel();
-    } else if (m_gesture.state() != PlotGesture::State::Idle) {
-        setKeepTouchGrab(move(first.position(), event->timestamp()));
-    }
-}
-
-void PlotChartItem::touchUngrabEvent()
-{
-    cancel();
+    m_gesture.endPinch(remaining, time, freedom());
 }
 
 void PlotChartItem::wheelEvent(QWheelEvent* event)
 {
-    const QPoint angle = event->angleDelta();
-    event->setAccepted(false);
-    if (std::abs(angle.x()) > std::abs(angle.y())) {
-        if (freedom().x) {
-            rest();
-            moveBy(QPointF(event->pixelDelta().isNull() ? angle.x() / 2.0 : event->pixelDelta().x(), 0));
-            event->accept();
-        }
-    } else {
-        // At either end the wheel goes on to the page.
-        event->setAccepted(zoomAt(event->position(), std::pow(wheelFactor, angle.y() / 120.0)));
+    QPoint angle = event->angleDelta();
+    QPoint points = event->pixelDelta();
+    if (event->modifiers().testFlag(Qt::ShiftModifier)) { // Most mice have no other wheel.
+        angle = angle.transposed();
+        points = points.transposed();
+    }
+    if (std::abs(angle.x()) <= std::abs(angle.y())) {
+        // Nearer comes the time alone, lest the lines leave the plot upwards and downwards; with Control the values
+        // too. At either end the wheel goes on to the page.
+        const double factor = std::pow(wheelFactor, angle.y() / 120.0);
+        const bool both = factor < 1 || event->modifiers().testFlag(Qt::ControlModifier);
+        event->setAccepted(zoomAt(event->position(), factor, both ? factor : 1));
+        return;
+    }
+    event->setAccepted(freedom().x);
+    if (freedom().x) {
+        rest();
+        moveBy(QPointF(points.isNull() ? angle.x() / 2.0 : points.x(), 0));
     }
 }
 
@@ -299,43 +246,37 @@ bool PlotChartItem::event(QEvent* event)
     if (event->type() == QEvent::NativeGesture) {
         const auto* gesture = static_cast<QNativeGestureEvent*>(event);
         if (gesture->gestureType() == Qt::ZoomNativeGesture) {
-            event->setAccepted(zoomAt(gesture->position(), 1 + gesture->value()));
+            event->setAccepted(zoomAt(gesture->position(), 1 + gesture->value(), 1 + gesture->value()));
             return true;
         }
     }
     return ChartItem::event(event);
 }
 
-bool PlotChartItem::pressKey(int key)
+bool PlotChartItem::pressKey(const QKeyEvent& event)
 {
-    const PlotModel& model = m_outlet->model();
-    const PlotFreedom free = freedom();
-    const PlotViewport& seen = m_outlet->viewport();
-    switch (key) {
+    // A key pressed again before the plot has arrived goes on from where it was to arrive.
+    if (m_zoom.state() == QAbstractAnimation::Running) {
+        m_zoom.stop();
+        m_outlet->setViewport(m_zoomTo);
+    }
+    switch (event.key()) {
     case Qt::Key_Left:
+        return moveByKey(freedom().x, -keyboardShare, 0);
     case Qt::Key_Right:
-        if (free.x) {
-            glideTo(seen.moved(key == Qt::Key_Left ? -keyboardShare : keyboardShare, 0));
-        }
-        return free.x;
+        return moveByKey(freedom().x, keyboardShare, 0);
     case Qt::Key_Up:
+        return moveByKey(freedom().y, 0, keyboardShare);
     case Qt::Key_Down:
-        if (free.y) {
-            glideTo(seen.moved(0, key == Qt::Key_Down ? -keyboardShare : keyboardShare));
-        }
-        return free.y;
+        return moveByKey(freedom().y, 0, -keyboardShare);
     case Qt::Key_Plus:
     case Qt::Key_Equal:
-    case Qt::Key_Minus: {
-        const double factor = key == Qt::Key_Minus ? 1 / stepFactor : stepFactor;
-        if (model.scaleEnabled && !model.isEmpty()) {
-            glideTo(seen.zoomed(factor, factor, {0.5, 0.5}, m_outlet->smallestViewport()));
-        }
-        return model.scaleEnabled;
-    }
+        return zoomByKey(stepFactor);
+    case Qt::Key_Minus:
+        return zoomByKey(1 / stepFactor);
     case Qt::Key_Home:
     case Qt::Key_Escape:
-        if (seen.isZoomed()) {
+        if (m_outlet->viewport().isZoomed()) {
             glideTo({});
             return true;
         }
@@ -345,16 +286,21 @@ bool PlotChartItem::pressKey(int key)
     }
 }
 
-void PlotChartItem::keyPressEvent(QKeyEvent* event)
+bool PlotChartItem::moveByKey(bool free, double sharesX, double sharesY)
 {
-    // A key pressed again before the plot has arrived goes on from where it was to arrive.
-    if (m_outlet != nullptr && m_zoom.state() == QAbstractAnimation::Running) {
-        m_zoom.stop();
-        m_outlet->setViewport(m_zoomTo);
+    if (free) {
+        glideTo(m_outlet->viewport().moved(sharesX, sharesY));
     }
-    if (m_outlet == nullptr || !pressKey(event->key())) {
-        event->ignore();
+    return free;
+}
+
+bool PlotChartItem::zoomByKey(double factor)
+{
+    const PlotModel& model = m_outlet->model();
+    if (model.scaleEnabled && !model.isEmpty()) {
+        glideTo(model.viewport.zoomed(factor, factor, {0.5, 0.5}, m_outlet->smallestViewport()));
     }
+    return model.scaleEnabled;
 }
 
 } // namespace lodestar

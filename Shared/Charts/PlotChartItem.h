@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Charts/ChartGlide.h"
 #include "Charts/ChartItem.h"
 #include "Charts/PlotChartView.h"
 #include "Charts/PlotGesture.h"
@@ -14,9 +15,9 @@ namespace lodestar
 {
 
 /// Draws a view of a chart with axes, whatever its marks, and takes its input: two fingers zoom about the point between
-/// them, a double tap zooms in there and, at the closest, shows all again, the wheel and the touchpad zoom at the
-/// pointer, a finger or the mouse moves a zoomed plot and can throw it, a tap selects. Keys: arrows move, + and - zoom,
-/// Home and Escape show all. What the plot has no use for is left to the page.
+/// them, a double tap zooms in there and, at the closest, shows all again, the wheel zooms along x at the pointer, with
+/// Control along both axes, and with Shift moves, a touchpad pinches, a finger or the mouse moves a zoomed plot and can
+/// throw it, a tap selects. Keys: arrows move, + and - zoom, Home and Escape show all.
 class PlotChartItem : public lodestar::ChartItem
 {
     Q_OBJECT
@@ -36,44 +37,37 @@ public:
     /// Whether the plot is on its way to another zoom or gliding after a throw.
     bool isMoving() const;
 
-Q_SIGNALS:
-    void outletChanged();
-
 protected:
-    const ChartRenderer* renderer() const override;
     ChartStyle style() const override;
+    void press(QPointF position, quint64 time) override;
+    bool move(QPointF position, quint64 time) override;
+    void release(quint64 time) override;
+    bool moveTwo(QPointF first, QPointF second) override;
+    void leaveOne(QPointF remaining, quint64 time) override;
+    void forget() override;
+    bool pressKey(const QKeyEvent& event) override;
+    void rest() override;
     bool event(QEvent* event) override;
-    void mousePressEvent(QMouseEvent* event) override;
-    void mouseMoveEvent(QMouseEvent* event) override;
-    void mouseReleaseEvent(QMouseEvent* event) override;
-    void mouseUngrabEvent() override;
-    void touchEvent(QTouchEvent* event) override;
-    void touchUngrabEvent() override;
     void wheelEvent(QWheelEvent* event) override;
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     /// The plot's place; empty without one.
     QRectF plot() const;
     PlotFreedom freedom() const;
+    /// The pointer is a hand over a plot that can be moved.
+    void showHand();
     /// A point of the chart as shares of the plot, counted from its lower left.
     QPointF shareOf(QPointF position) const;
 
-    void press(QPointF position, quint64 time);
-    /// Whether the gesture is the plot's own now.
-    bool move(QPointF position, quint64 time);
-    void release(quint64 time);
-    void pinch(QPointF first, QPointF second);
-    void cancel();
-    void rest();
-
     void moveBy(QPointF points);
     /// Whether anything changed.
-    bool zoomAt(QPointF position, double factor);
+    bool zoomAt(QPointF position, double factorX, double factorY);
     void tapTwice(QPointF position);
     void glideTo(const PlotViewport& viewport);
     void glideOn(QPointF pointsPerSecond);
-    bool pressKey(int key);
+    /// Both tell whether the plot has a use for the key.
+    bool moveByKey(bool free, double sharesX, double sharesY);
+    bool zoomByKey(double factor);
 
     QPointer<PlotChartView> m_outlet;
     std::optional<PlotRenderer> m_renderer;
@@ -84,8 +78,8 @@ private:
     QVariantAnimation m_zoom; ///< From 0 to 1 on the way between the two viewports.
     PlotViewport m_zoomFrom;
     PlotViewport m_zoomTo;
-    QVariantAnimation m_glide; ///< The way of a throw in points.
-    QPointF m_glided;
+    QPointF m_glideSpeed; ///< Points a second.
+    ChartGlide m_glide;
 };
 
 } // namespace lodestar

@@ -37,34 +37,13 @@ void PlotChartView::setLayers(const QStringList& xVals, std::vector<std::shared_
     m_model.layers = std::move(layers);
     m_model.highlights.clear();
     m_model.viewport = {};
-    Q_EMIT changed();
-    Q_EMIT dataChanged();
-    Q_EMIT selectionChanged();
-}
-
-void PlotChartView::highlightValues(const QList<Highlight>& highlights)
-{
-    if (m_model.highlights != highlights) {
-        m_model.highlights = highlights;
-        Q_EMIT changed();
-        Q_EMIT selectionChanged();
-    }
+    announceData();
 }
 
 void PlotChartView::select(const std::optional<Highlight>& highlight)
 {
-    const std::optional<ChartEntry> entry = highlight ? m_model.entryOf(*highlight) : std::nullopt;
-    if (!entry || m_model.highlights.contains(*highlight)) {
-        highlightValues({});
-        if (delegate() != nullptr) {
-            delegate()->chartValueNothingSelected(*this);
-        }
-        return;
-    }
-    highlightValues({*highlight});
-    if (delegate() != nullptr) {
-        delegate()->chartValueSelected(*this, *entry, highlight->dataSetIndex, *highlight);
-    }
+    const bool isNew = highlight && !m_model.highlights.contains(*highlight);
+    ChartView::select(isNew ? m_model.entryOf(*highlight) : std::nullopt, highlight.value_or(Highlight()));
 }
 
 QString PlotChartView::accessibleText() const

@@ -16,7 +16,6 @@ class PlotChartView : public lodestar::ChartView
     Q_OBJECT
     QML_NAMED_ELEMENT(PlotChartView)
     QML_UNCREATABLE("made by controllers")
-    Q_PROPERTY(QString selectedText READ selectedText NOTIFY selectionChanged)
 
 public:
     explicit PlotChartView(QObject* parent = nullptr);
@@ -24,7 +23,6 @@ public:
     /// The whole of what is drawn.
     const PlotModel& model() const { return m_model; }
 
-    void setDescriptionText(const QString& text) { assign(m_model.descriptionText, text); }
     void setNoDataText(const QString& text);
     void setHighlightEnabled(bool on) { assign(m_model.highlightEnabled, on); }
     void setDragEnabled(bool on) { assign(m_model.dragEnabled, on); }
@@ -38,8 +36,6 @@ public:
     void setLeftAxis(const YAxis& axis) { assign(m_model.leftAxis, axis); }
     const YAxis& rightAxis() const { return m_model.rightAxis; }
     void setRightAxis(const YAxis& axis) { assign(m_model.rightAxis, axis); }
-    const Legend& legend() const { return m_model.legend; }
-    void setLegend(const Legend& legend) { assign(m_model.legend, legend); }
 
     /// What is seen of the plot. New data show it whole again.
     const PlotViewport& viewport() const { return m_model.viewport; }
@@ -52,8 +48,6 @@ public:
     /// values.
     QSizeF smallestViewport() const;
 
-    /// Highlights exactly these, none for an empty list. The delegate is not told: it is the program speaking.
-    void highlightValues(const QList<Highlight>& highlights);
     /// The user's selection of an entry, or of nothing; the delegate is told. Selecting the selected entry again
     /// selects nothing.
     void select(const std::optional<Highlight>& highlight);
@@ -61,24 +55,15 @@ public:
     /// Names and latest values in order, as in "Total Processors 16, Processors Used 6.5"; the no-data text without
     /// data.
     QString accessibleText() const override;
-    /// Name, label and value of the entry that is highlighted first; empty without one.
-    QString selectedText() const;
-
-Q_SIGNALS:
-    void selectionChanged();
+    /// Name, label and value.
+    QString selectedText() const override;
 
 protected:
     void setLayers(const QStringList& xVals, std::vector<std::shared_ptr<const PlotLayer>> layers);
 
 private:
-    template <typename T>
-    void assign(T& member, const T& value)
-    {
-        if (!(member == value)) {
-            member = value;
-            Q_EMIT changed();
-        }
-    }
+    const ChartModel& common() const override { return m_model; }
+    ChartModel& common() override { return m_model; }
 
     PlotModel m_model;
 };

@@ -13,7 +13,6 @@ constexpr double startDistance = 5;   // Half of what a flickable page waits for
 constexpr double tapDistance = 32;    // Between the taps of a double tap.
 constexpr quint64 tapTime = 300;      // From the end of one to the end of the other.
 constexpr quint64 longestTap = 500;   // A finger that lay longer meant something else.
-constexpr quint64 restTime = 80;      // A finger that lay still this long before it left throws nothing.
 constexpr double fastestThrow = 4000; // Points a second.
 constexpr double closestFingers = 24; // Nearer than this the ratio of distances is noise.
 
@@ -29,8 +28,9 @@ void PlotGesture::press(QPointF position, quint64 time, PlotFreedom freedom)
     m_state = State::Pressed;
     m_freedom = freedom;
     m_press = m_last = position;
-    m_pressTime = m_lastTime = time;
-    m_speed = m_throw = {};
+    m_pressTime = time;
+    m_speed.start(time);
+    m_throw = {};
 }
 
 PlotGesture::State PlotGesture::judge(QPointF position) const
@@ -52,11 +52,8 @@ std::optional<QPointF> PlotGesture::move(QPointF position, quint64 time)
         return std::nullopt;
     }
     const QPointF by = position - m_last;
-    const double seconds = static_cast<double>(std::max<quint64>(time > m_lastTime ? time - m_lastTime : 0, 1)) / 1000;
-    // Smoothed: the last event before a finger leaves is often a stray one.
-    m_speed = m_lastTime == m_pressTime ? by / seconds : 0.6 * by / seconds + 0.4 * m_speed;
+    m_speed.step(by, time);
     m_last = position;
-    m_lastTime = time;
     return by;
 }
 
@@ -64,10 +61,9 @@ PlotGesture::Tap PlotGesture::release(quint64 time)
 {
     const State ended = m_state;
     m_state = State::Idle;
-    m_throw = {};
-    if (ended == State::Dragging && time <= m_lastTime + restTime) {
-        const double speed = lengthOf(m_speed);
-        m_throw = speed > fastestThrow ? m_speed * (fastestThrow / speed) : m_speed;
+    m_throw = ended == State::Dragging ? m_speed.atRelease(time) : QPointF();
+    if (const double speed = lengthOf(m_throw); speed > fastestThrow) {
+        m_throw *= fastestThrow / speed;
     }
     if (ended != State::Pressed || time > m_pressTime + longestTap) {
         m_tapTime.reset();

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Charts/GestureSpeed.h"
+
 #include <QPointF>
-#include <QtGlobal>
 
 #include <optional>
 
@@ -55,8 +56,7 @@ private:
     QPointF m_press;
     quint64 m_pressTime = 0;
     QPointF m_last;
-    quint64 m_lastTime = 0;
-    QPointF m_speed;
+    GestureSpeed<QPointF> m_speed;
     QPointF m_throw;
     QPointF m_first; ///< The fingers of a pinch.
     QPointF m_second;

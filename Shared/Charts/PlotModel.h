@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Charts/ChartAxis.h"
-#include "Charts/Legend.h"
+#include "Charts/ChartModel.h"
 #include "Charts/PlotLayer.h"
 
 #include <QStringList>
@@ -14,9 +14,9 @@
 namespace lodestar
 {
 
-/// Everything that a chart with axes is drawn from: its settings, layers, highlights and what is seen of it.
-struct PlotModel {
-    QString descriptionText;               ///< In the plot's lower end corner; empty for none.
+/// Everything that a chart with axes is drawn from: its settings, layers, highlights, which count data sets through all
+/// layers, and what is seen of it.
+struct PlotModel : ChartModel {
     QString noDataText;                    ///< Instead of the plot while there is nothing to chart.
     bool highlightEnabled = true;          ///< Taps select the nearest entry.
     bool dragEnabled = true;               ///< A zoomed plot is moved by the finger.
@@ -27,10 +27,8 @@ struct PlotModel {
     XAxis xAxis;
     YAxis leftAxis;
     YAxis rightAxis;
-    Legend legend;
     QStringList xVals;
     std::vector<std::shared_ptr<const PlotLayer>> layers;
-    QList<Highlight> highlights; ///< Data sets are counted through all layers.
     PlotViewport viewport;
 
     /// Whether no layer has an entry to chart.

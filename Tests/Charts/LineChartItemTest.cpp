@@ -1,27 +1,19 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "ChartItemFixture.h"
 #include "ChartSupport.h"
-#include "Charts/Charts.h"
 #include "Charts/PlotChartItem.h"
 
 #include <QAccessible>
-#include <QQmlComponent>
-#include <QQmlContext>
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickWindow>
-#include <QTest>
 #include <QWheelEvent>
-#include <gtest/gtest.h>
 
-#include <memory>
+#include <functional>
 
 namespace lodestar::charttest
 {
 namespace
 {
 
-/// A line chart at the top of a page that can be scrolled, in a shown window.
-class LineChartItemTest : public testing::Test
+class LineChartItemTest : public ChartItemFixture<LineChartView, PlotChartItem>
 {
 protected:
     void SetUp() override
@@ -31,41 +23,14 @@ protected:
             values << static_cast<float>(i % 17);
         }
         showLine(m_view, values);
-        installCharts(m_engine);
-        m_engine.rootContext()->setContextProperty(QStringLiteral("chartView"), &m_view);
-        QQmlComponent component(&m_engine);
-        component.setData(R"(
-            import QtQuick
-            import Lodestar.Charts
-            Window {
-                width: 366; height: 500; visible: true
-                Flickable {
-                    objectName: "page"; anchors.fill: parent; contentHeight: 2000
-                    LineChart {
-                        objectName: "chart"; outlet: chartView; width: 366; height: 400
-                        seriesColors: ["#e32226"]
-                    }
-                }
-            })",
-                          QUrl());
-        m_root.reset(component.create());
-        ASSERT_TRUE(m_root) << component.errorString().toStdString();
-        m_window = qobject_cast<QQuickWindow*>(m_root.get());
-        m_item = m_window->findChild<PlotChartItem*>(QStringLiteral("chart"));
-        m_page = m_window->findChild<QQuickItem*>(QStringLiteral("page"));
-        ASSERT_TRUE(m_item && m_page);
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(m_window));
-        m_window->requestActivate();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(m_window));
+        show(R"(LineChart { outlet: chartView; width: 366; height: 400; seriesColors: ["#e32226"] })");
     }
 
-    double scrolled() const { return m_page->property("contentY").toDouble(); }
     const PlotViewport& seen() const { return m_view.viewport(); }
     bool settled()
     {
         return QTest::qWaitFor([this] { return !m_item->isMoving(); });
     }
-    QTest::QTouchEventSequence touch() { return QTest::touchEvent(m_window, m_finger); }
     /// One finger from a point by a stroke, in steps that the window hands on one by one.
     void stroke(QPoint from, QPoint by, const std::function<bool()>& arrived)
     {
@@ -77,21 +42,12 @@ protected:
         EXPECT_TRUE(arrived());
         touch().release(0, from + by);
     }
-    void turnWheel(QPoint angle, QPoint at = {183, 180})
+    void turnWheel(QPoint angle, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
-        QWheelEvent event(at, m_window->mapToGlobal(at), {}, angle, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
-                          false);
+        const QPoint at(183, 180);
+        QWheelEvent event(at, m_window->mapToGlobal(at), {}, angle, Qt::NoButton, modifiers, Qt::NoScrollPhase, false);
         QCoreApplication::sendEvent(m_window, &event);
     }
-
-    const std::unique_ptr<QPointingDevice> m_device{QTest::createTouchDevice()}; // Outlives the window it touches.
-    QPointingDevice* const m_finger = m_device.get();
-    LineChartView m_view;
-    QQmlEngine m_engine;
-    std::unique_ptr<QObject> m_root;
-    QQuickWindow* m_window = nullptr;
-    PlotChartItem* m_item = nullptr;
-    QQuickItem* m_page = nullptr;
 };
 
 TEST_F(LineChartItemTest, TwoFingersZoomAboutThePointBetweenThem)
@@ -111,7 +67,11 @@ TEST_F(LineChartItemTest, TwoFingersZoomAboutThePointBetweenThem)
     EXPECT_NEAR(seen().x + seen().width / 2, 0.5, 0.02);
     EXPECT_EQ(scrolled(), 0);
 
+    // Both fingers left at once; the next stroke is judged anew.
     m_view.setViewport({});
+    stroke({200, 300}, {0, -200}, [this] { return scrolled() > 20; });
+    m_page->setProperty("contentY", 0);
+
     m_view.setScaleEnabled(false);
     spread();
     EXPECT_EQ(seen(), PlotViewport());
@@ -141,7 +101,15 @@ TEST_F(LineChartItemTest, AMouseDragsWithinTheEdgesAndOnlyWhenAllowed)
         QTest::mouseRelease(m_window, Qt::LeftButton, Qt::NoModifier, to);
         ASSERT_TRUE(settled());
     };
+    EXPECT_EQ(m_item->cursor().shape(), Qt::ArrowCursor);
     m_view.setViewport({0.05, 0, 0.5, 1});
+    EXPECT_EQ(m_item->cursor().shape(), Qt::OpenHandCursor);
+    QTest::mousePress(m_window, Qt::LeftButton, Qt::NoModifier, {200, 150});
+    QTest::mouseMove(m_window, {210, 150});
+    QTest::mouseMove(m_window, {220, 150});
+    EXPECT_EQ(m_item->cursor().shape(), Qt::ClosedHandCursor);
+    QTest::mouseRelease(m_window, Qt::LeftButton, Qt::NoModifier, {220, 150});
+    EXPECT_EQ(m_item->cursor().shape(), Qt::OpenHandCursor);
     drag({60, 150}, {350, 150});
     EXPECT_EQ(seen(), (PlotViewport{0, 0, 0.5, 1})) << "to the edge and no further";
     drag({340, 150}, {240, 150});
@@ -184,10 +152,19 @@ TEST_F(LineChartItemTest, TheWheelZoomsAtThePointerAndGoesOnToThePageAtEitherEnd
 {
     turnWheel({0, 120});
     EXPECT_LT(seen().width, 0.9);
+    EXPECT_EQ(seen().height, 1);
     EXPECT_EQ(scrolled(), 0);
     const double x = seen().x;
     turnWheel({-120, 0});
     EXPECT_GT(seen().x, x) << "sideways it moves";
+    const double further = seen().x;
+    turnWheel({0, 120}, Qt::ShiftModifier);
+    EXPECT_LT(seen().x, further) << "with Shift, too";
+    EXPECT_NEAR(seen().width, 1 / 1.2, 1e-9);
+    turnWheel({0, 120}, Qt::ControlModifier);
+    EXPECT_NEAR(seen().height, 1 / 1.2, 1e-9);
+    turnWheel({0, -120});
+    EXPECT_EQ(seen().height, 1);
     turnWheel({0, -240});
     EXPECT_EQ(seen(), PlotViewport());
     turnWheel({0, -120});
@@ -198,7 +175,7 @@ TEST_F(LineChartItemTest, KeysZoomMoveAndShowAll)
 {
     m_item->setProperty("reducedMotion", true);
     m_item->forceActiveFocus(Qt::TabFocusReason);
-    EXPECT_TRUE(m_item->hasVisualFocus());
+    EXPECT_TRUE(near(m_window->grabWindow().pixelColor(1, 200), QColor(0x00, 0x72, 0xAD), 8)) << "the focus is shown";
     QTest::keyClick(m_window, Qt::Key_Plus);
     EXPECT_EQ(seen(), (PlotViewport{0.25, 0.25, 0.5, 0.5}));
     QTest::keyClick(m_window, Qt::Key_Right);

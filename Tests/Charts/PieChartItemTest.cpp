@@ -1,28 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Charts/PieChartItem.h"
 
+#include "ChartItemFixture.h"
 #include "ChartSupport.h"
-#include "Charts/Charts.h"
 
 #include <QAccessible>
-#include <QQmlComponent>
-#include <QQmlContext>
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickWindow>
 #include <QSignalSpy>
-#include <QTest>
-#include <gtest/gtest.h>
-
-#include <memory>
 
 namespace lodestar::charttest
 {
 namespace
 {
 
-/// A chart at the top of a page that can be scrolled, in a shown window.
-class PieChartItemTest : public testing::Test
+class PieChartItemTest : public ChartItemFixture<PieChartView, PieChartItem>
 {
 protected:
     void SetUp() override
@@ -34,29 +24,7 @@ protected:
         m_view.setRotationWithTwoFingers(true);
         m_view.setData(model.data);
 
-        installCharts(m_engine);
-        m_engine.rootContext()->setContextProperty(QStringLiteral("chartView"), &m_view);
-        QQmlComponent component(&m_engine);
-        component.setData(R"(
-            import QtQuick
-            import Lodestar.Charts
-            Window {
-                width: 366; height: 500; visible: true
-                Flickable {
-                    objectName: "page"; anchors.fill: parent; contentHeight: 2000
-                    PieChart { objectName: "pie"; outlet: chartView; width: 366; height: 325 }
-                }
-            })",
-                          QUrl());
-        m_root.reset(component.create());
-        ASSERT_TRUE(m_root) << component.errorString().toStdString();
-        m_window = qobject_cast<QQuickWindow*>(m_root.get());
-        m_item = m_window->findChild<PieChartItem*>(QStringLiteral("pie"));
-        m_page = m_window->findChild<QQuickItem*>(QStringLiteral("page"));
-        ASSERT_TRUE(m_item && m_page);
-        ASSERT_TRUE(QTest::qWaitForWindowExposed(m_window));
-        m_window->requestActivate();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(m_window));
+        show(R"(PieChart { outlet: chartView; width: 366; height: 325 })");
         m_layout = PieChartRenderer(m_view.model()).layout({QSizeF(366, 325), {}, {}});
     }
 
@@ -65,23 +33,13 @@ protected:
         const double radians = angle * M_PI / 180;
         return (m_layout.center + share * m_layout.radius * QPointF(std::sin(radians), -std::cos(radians))).toPoint();
     }
-    double scrolled() const { return m_page->property("contentY").toDouble(); }
-
-    const std::unique_ptr<QPointingDevice> m_device{QTest::createTouchDevice()}; // Outlives the window it touches.
-    QPointingDevice* const m_finger = m_device.get();
-    PieChartView m_view;
-    QQmlEngine m_engine;
-    std::unique_ptr<QObject> m_root;
-    QQuickWindow* m_window = nullptr;
-    PieChartItem* m_item = nullptr;
-    QQuickItem* m_page = nullptr;
     PieLayout m_layout;
 };
 
 TEST_F(PieChartItemTest, TapsAndClicksSelect)
 {
-    QTest::touchEvent(m_window, m_finger).press(0, on(0.8, 225));
-    QTest::touchEvent(m_window, m_finger).release(0, on(0.8, 225));
+    touch().press(0, on(0.8, 225));
+    touch().release(0, on(0.8, 225));
     EXPECT_EQ(m_view.selectedEntry(), 1);
     QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, on(0.8, 90));
     EXPECT_EQ(m_view.selectedEntry(), 0);
@@ -93,29 +51,29 @@ TEST_F(PieChartItemTest, AFingerAlongTheRingTurnsThePieAndThePageStays)
 {
     // Down the right side: what a page would take for scrolling. The window hands moves on once a frame, so each step
     // waits for what it brings about; the pause keeps the stroke at a hand's pace.
-    QTest::touchEvent(m_window, m_finger).press(0, on(0.8, 90));
+    touch().press(0, on(0.8, 90));
     for (int angle = 94; angle <= 150; angle += 4) {
         QTest::qWait(12);
-        QTest::touchEvent(m_window, m_finger).move(0, on(0.8, angle));
+        touch().move(0, on(0.8, angle));
         const double expected = angle - 90;
         ASSERT_TRUE(QTest::qWaitFor([&] { return std::abs(m_view.model().rotationAngle - expected) < 2; })) << angle;
     }
     EXPECT_EQ(scrolled(), 0);
-    QTest::touchEvent(m_window, m_finger).release(0, on(0.8, 150));
+    touch().release(0, on(0.8, 150));
     EXPECT_EQ(m_view.selectedEntry(), std::nullopt) << "a turn is no tap";
 }
 
 TEST_F(PieChartItemTest, AStrokeAcrossTheRingScrollsThePage)
 {
     const QPoint start = on(0.8, 180);
-    QTest::touchEvent(m_window, m_finger).press(0, start);
+    touch().press(0, start);
     for (int by = 6; by <= 120 && scrolled() <= 20; by += 6) {
-        QTest::touchEvent(m_window, m_finger).move(0, start - QPoint(0, by));
+        touch().move(0, start - QPoint(0, by));
         (void)QTest::qWaitFor([this] { return scrolled() > 20; }, 40); // Until the window has handed the move on.
     }
     EXPECT_GT(scrolled(), 20);
     EXPECT_EQ(m_view.model().rotationAngle, 0);
-    QTest::touchEvent(m_window, m_finger).release(0, start - QPoint(0, 120));
+    touch().release(0, start - QPoint(0, 120));
     EXPECT_EQ(m_view.selectedEntry(), std::nullopt);
 }
 
@@ -123,10 +81,10 @@ TEST_F(PieChartItemTest, TwoFingersTurnUnlessSwitchedOff)
 {
     const auto twist = [this] {
         const QPoint center = m_layout.center.toPoint();
-        QTest::touchEvent(m_window, m_finger).press(0, center + QPoint(-60, 0)).press(1, center + QPoint(60, 0));
-        QTest::touchEvent(m_window, m_finger).move(0, center + QPoint(-60, -1)).move(1, center + QPoint(60, 1));
-        QTest::touchEvent(m_window, m_finger).move(0, center + QPoint(0, -60)).move(1, center + QPoint(0, 60));
-        QTest::touchEvent(m_window, m_finger).release(0, center + QPoint(0, -60)).release(1, center + QPoint(0, 60));
+        touch().press(0, center + QPoint(-60, 0)).press(1, center + QPoint(60, 0));
+        touch().move(0, center + QPoint(-60, -1)).move(1, center + QPoint(60, 1));
+        touch().move(0, center + QPoint(0, -60)).move(1, center + QPoint(0, 60));
+        touch().release(0, center + QPoint(0, -60)).release(1, center + QPoint(0, 60));
     };
     twist();
     EXPECT_NEAR(m_view.model().rotationAngle, 90, 2);
