@@ -35,31 +35,6 @@ protected:
     const std::unique_ptr<QPointingDevice> m_touchScreen{QTest::createTouchDevice()};
 };
 
-TEST_F(PerformanceSceneTest, FromTheListOfSystemsToMemoryByPointer)
-{
-    stage.show({390, 844}, fleet());
-    stage.openList("managedSystemsView", {.corvel = demoConsole()});
-    click(row(0));
-    ASSERT_TRUE(stage.waitFor([&] { return button("Performance Monitoring") != nullptr; }));
-    stage.settle(200);
-    ASSERT_TRUE(button("Performance Monitoring")->isEnabled());
-    click(button("Performance Monitoring"));
-    ASSERT_TRUE(stage.waitFor([&] { return text("16.00") != nullptr; }));
-    stage.settle(400);
-    EXPECT_NE(text("helios-01"), nullptr);
-    EXPECT_NE(text("12.00"), nullptr);
-    EXPECT_NE(text("6.50"), nullptr);
-    click(button("Memory"));
-    ASSERT_TRUE(stage.waitFor([&] { return text("262.14") != nullptr; }));
-    EXPECT_NE(text("10.24"), nullptr);
-    EXPECT_EQ(text("16.00"), nullptr);
-    // The choice by keyboard, from the segment that has the focus.
-    press(Qt::Key_Left);
-    ASSERT_TRUE(stage.waitFor([&] { return text("16.00") != nullptr; }));
-    press(Qt::Key_Escape);
-    ASSERT_TRUE(stage.waitFor([&] { return text("helios-02") != nullptr; }));
-}
-
 TEST_F(PerformanceSceneTest, ChartZoomsByDoubleClickAndIsDragged)
 {
     PCMViewController& performance = openPerformance();
