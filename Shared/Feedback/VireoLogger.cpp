@@ -2,6 +2,7 @@
 #include "Feedback/VireoLogger.h"
 
 #include "Feedback/CrashCapture.h"
+#include "Feedback/CrashModules.h"
 #include "Feedback/ExceptionText.h"
 #include "Feedback/LogListeners.h"
 #include "Feedback/LogText.h"
@@ -15,13 +16,15 @@
 #include <cstdlib>
 #include <ctime>
 #include <exception>
-#include <execinfo.h>
 #include <iterator>
-#include <link.h>
 #include <mutex>
 #include <random>
 #include <unistd.h>
 #include <utility>
+
+#if __has_include(<execinfo.h>)
+#include <execinfo.h>
+#endif
 
 namespace lodestar
 {
@@ -94,13 +97,8 @@ void appendStack(std::string& line, std::span<void* const> stacktrace)
 /// Addresses mean something only with the place at which the program was loaded in that run.
 std::string fileHeader()
 {
-    std::uintptr_t base = 0;
-    ::dl_iterate_phdr(
-        [](dl_phdr_info* info, std::size_t, void* result) {
-            *static_cast<std::uintptr_t*>(result) = info->dlpi_addr; // the program itself comes first
-            return 1;
-        },
-        &base);
+    const std::vector<LoadedModule> modules = loadedModules();
+    const std::uintptr_t base = modules.empty() ? 0 : modules.front().base;
     std::string header;
     appendTime(header);
     fmt::format_to(std::back_inserter(header), " process {}, program loaded at {:x}\n", ::getpid(), base);
@@ -219,11 +217,15 @@ void VireoLogger::flush()
 
 [[gnu::noinline]] std::vector<void*> callStackReturnAddresses()
 {
+#if __has_include(<execinfo.h>)
     constexpr int most = 32;
     void* addresses[most + 1];
     const int count = ::backtrace(addresses, most + 1);
     // The first address lies in this function.
     return count <= 1 ? std::vector<void*>() : std::vector<void*>(addresses + 1, addresses + count);
+#else
+    return {};
+#endif
 }
 
 } // namespace lodestar

@@ -85,7 +85,7 @@ private:
     static void write(const Line& line);
 };
 
-/// The return addresses of the calling thread's stack, innermost first, at most 32.
+/// The return addresses of the calling thread's stack, innermost first, at most 32; none where the system cannot tell.
 std::vector<void*> callStackReturnAddresses();
 
 } // namespace lodestar

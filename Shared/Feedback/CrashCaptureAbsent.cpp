@@ -1,0 +1,25 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Feedback/CrashCapture.h"
+#include "Feedback/CrashModules.h"
+
+// In place of CrashCapture.cpp and CrashModules.cpp on systems whose loader and registers those do not know: crashes go
+// to the system's own reporter, and everything else of the feedback works.
+
+namespace lodestar
+{
+
+Result<void> CrashCapture::install(const std::string& /*folder*/, const Run& /*run*/)
+{
+    return Error{"CrashCapture", 1, "Crashes will go unrecorded", "not made for this system", nullptr};
+}
+
+void CrashCapture::recordModules() {}
+
+void CrashCapture::noteException(std::string_view /*text*/) noexcept {}
+
+std::vector<LoadedModule> loadedModules()
+{
+    return {};
+}
+
+} // namespace lodestar
