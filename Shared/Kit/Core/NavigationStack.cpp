@@ -84,6 +84,7 @@ void NavigationStack::slide(QQuickItem* coming, QQuickItem* going, bool isPop, b
     m_going = going;
     m_isPop = isPop;
     coming->setVisible(true);
+    coming->setFocus(true, Qt::OtherFocusReason); // keys are its own from now on
     if (animated && going != nullptr) {
         setProgress(0);
     } else {

@@ -23,7 +23,7 @@ class NavigationStack : public QQuickItem
         lodestar::NavigationController* controller READ controller WRITE setController NOTIFY controllerChanged FINAL)
     /// Makes an item with a property `controller`, for each of its screens.
     Q_PROPERTY(QQmlComponent* page MEMBER m_page NOTIFY pageChanged FINAL)
-    /// Of the slide, 1 when it is over: then a popped screen goes and the shown one takes the keyboard.
+    /// Of the slide, 1 when it is over: then a popped screen goes.
     Q_PROPERTY(qreal progress READ progress WRITE setProgress NOTIFY progressChanged FINAL)
     Q_PROPERTY(bool busy READ isBusy NOTIFY busyChanged FINAL)
     /// Screens come from the left.
