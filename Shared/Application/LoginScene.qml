@@ -101,9 +101,9 @@ FocusScope {
         contentHeight: Math.max(height, resetButton.y + resetButton.height + 16)
         interactive: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
-        // Once what it reckons with is reckoned anew: the scene hears of a keyboard before the page does.
-        onHeightChanged: Qt.callLater(scene.settleScroll)
-        onContentHeightChanged: Qt.callLater(scene.settleScroll)
+        // Here and not with the scene, which hears of a keyboard before the page does.
+        onHeightChanged: scene.settleScroll()
+        onContentHeightChanged: scene.settleScroll()
 
         /// A press beside the field ends editing.
         MouseArea {

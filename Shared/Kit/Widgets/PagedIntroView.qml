@@ -78,8 +78,13 @@ T.Popup {
         return false;
     }
 
-    // Later: the screen tells of its window before the popup itself has heard of it, and would not be opened.
-    onWantedChanged: Qt.callLater(follow)
+    // The screen tells of its window before the popup itself has heard of it, and would not be opened.
+    readonly property Timer later: Timer {
+        interval: 0
+        onTriggered: view.follow()
+    }
+
+    onWantedChanged: later.restart()
     Component.onCompleted: follow()
     onOpened: pages.forceActiveFocus(Qt.OtherFocusReason)
     onClosed: over.forceActiveFocus(Qt.OtherFocusReason)
