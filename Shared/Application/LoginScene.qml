@@ -65,13 +65,22 @@ FocusScope {
 
     onHeightChanged: tellLayout()
     onScreenHeightChanged: tellLayout()
-    onKeyboardFrameChanged: {
+    function tellKeyboard() {
         // The frame is read against the window's height.
         tellLayout();
         controller.keyboardDidChangeFrame(keyboardFrame, 0.25);
     }
+
+    /// What is told before all bindings have their first values would come round to them again.
+    property bool complete: false
+    onKeyboardFrameChanged: {
+        if (complete) {
+            tellKeyboard();
+        }
+    }
     Component.onCompleted: {
-        tellLayout();
+        complete = true;
+        tellKeyboard();
         open();
     }
 

@@ -133,8 +133,8 @@ void NavigationStack::settle()
     }
     coming->setX(0);
     coming->setOpacity(1);
-    coming->forceActiveFocus(Qt::OtherFocusReason);
     if (going) {
+        coming->forceActiveFocus(Qt::OtherFocusReason);
         going->setVisible(false);
         going->setX(0);
         if (m_isPop) {
