@@ -36,7 +36,7 @@ const std::array<QString, 3> names{QStringLiteral("Total Processors"), QStringLi
 float sample(int series, int index, int count)
 {
     // A day's load with noise: no line is straight, since no reduction may live on that.
-    const double noise = ((std::int64_t{index} * 7919 + series * 104729) % 101) / 101.0;
+    const double noise = static_cast<double>((std::int64_t{index} * 7919 + series * 104729) % 101) / 101.0;
     return static_cast<float>(16 - 4 * series + 2 * std::sin(6.28 * index / count) + noise);
 }
 
