@@ -5,6 +5,7 @@
 #include <chrono>
 #include <cstddef>
 #include <cstdio>
+#include <ctime>
 #include <fstream>
 #include <random>
 #include <string>
@@ -15,6 +16,15 @@
 
 namespace lodestar::bench
 {
+
+/// Nanoseconds of the processor that the calling thread has had. For work that waits for nothing: of what else a
+/// machine does, the longer of two such works would meet more.
+inline double processorTime()
+{
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1e9 + static_cast<double>(time.tv_nsec);
+}
 
 /// Nanoseconds that the call takes. A call that returns a number measures itself (in any unit, without its setting up):
 /// that number is the answer.

@@ -40,22 +40,15 @@ float sample(int series, int index, int count)
     return static_cast<float>(16 - 4 * series + 2 * std::sin(6.28 * index / count) + noise);
 }
 
-double processorTime()
-{
-    timespec time{};
-    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
-    return static_cast<double>(time.tv_sec) * 1e9 + static_cast<double>(time.tv_nsec);
-}
-
 /// A call that measures itself by its thread's processor time. Drawing waits for nothing, and of what else a machine
 /// does the longer of two drawings would meet more.
 template <typename Call>
 auto measured(Call call)
 {
     return [call] {
-        const double start = processorTime();
+        const double start = bench::processorTime();
         call();
-        return processorTime() - start;
+        return bench::processorTime() - start;
     };
 }
 

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/CrashModules.h"
 
-#include <fmt/core.h>
-
 #include <algorithm>
 #include <bit>
 #include <climits>
 #include <cstring>
 #include <link.h>
+#include <string_view>
 #include <unistd.h>
 
 namespace lodestar
@@ -15,6 +14,8 @@ namespace lodestar
 
 namespace
 {
+
+constexpr std::string_view hexDigits = "0123456789abcdef";
 
 std::size_t padded(std::size_t size)
 {
@@ -35,7 +36,9 @@ std::string buildIdIn(const char* notes, std::size_t size)
         if (note.n_type == NT_GNU_BUILD_ID && note.n_namesz == 4 && std::memcmp(name, "GNU", 4) == 0) {
             std::string text;
             for (std::size_t index = 0; index < note.n_descsz; ++index) {
-                text += fmt::format("{:02x}", static_cast<unsigned char>(name[padded(note.n_namesz) + index]));
+                const auto byte = static_cast<unsigned char>(name[padded(note.n_namesz) + index]);
+                text += hexDigits[byte >> 4U];
+                text += hexDigits[byte & 0xFU];
             }
             return text;
         }
