@@ -40,7 +40,7 @@ public:
         const double bottom = std::min<double>(pixels.bottom(), m_height);
         for (int y = static_cast<int>(top); y < bottom; ++y) {
             const double coverage = std::max(std::min(y + 1.0, bottom) - std::max<double>(y, top), 0.0);
-            const QRgb shade = m_shades[static_cast<std::size_t>(coverage * wholeShade + 0.5)];
+            const QRgb shade = m_shades[static_cast<std::size_t>(qRound(coverage * wholeShade))];
             QRgb* const row = m_bits + y * m_stride;
             for (int x = left; x < right; ++x) {
                 // What is covered twice stays as dark as its darker cover.
