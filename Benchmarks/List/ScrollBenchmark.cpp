@@ -98,9 +98,11 @@ public:
         return bench::median(std::move(times));
     }
 
-    /// Polishes and draws what changed, as when the window asks for its next frame.
+    /// Polishes and draws what changed, as when the window asks for its next frame, and lets rows go that were left,
+    /// which would otherwise be moved along with every frame that follows.
     void drawFrame() const
     {
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         QEvent update(QEvent::UpdateRequest);
         QCoreApplication::sendEvent(&m_stage.window(), &update);
     }
