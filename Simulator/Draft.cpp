@@ -32,12 +32,6 @@ std::uint64_t insideChunk(std::uint64_t size)
     return size < chunk ? size / 2 + 3 : size / 2 / chunk * (chunk + 8) + 106;
 }
 
-void cut(Response& response, std::uint64_t after, Ending ending)
-{
-    response.stopAfter = after;
-    response.ending = ending;
-}
-
 int hopIn(const std::string& target)
 {
     const std::size_t at = target.find("?hop=");
@@ -71,6 +65,13 @@ void Draft::replaceBody(BodyPtr body)
     feedType.clear();
 }
 
+void Draft::cut(std::uint64_t after, Ending ending)
+{
+    response.stopAfter = after;
+    response.ending = ending;
+    feedType.clear();
+}
+
 void Draft::strike(const Fault& fault, const Request& request, const std::string& address,
                    const std::string& nextAddress)
 {
@@ -90,13 +91,11 @@ void Draft::strike(const Fault& fault, const Request& request, const std::string
         response.trickled = true;
         break;
     case FaultName::CutBody:
-        cut(response, size / 2, Ending::Close);
-        feedType.clear();
+        cut(size / 2, Ending::Close);
         break;
     case FaultName::CutChunk:
         response.chunked = true;
-        cut(response, insideChunk(size), Ending::Close);
-        feedType.clear();
+        cut(insideChunk(size), Ending::Close);
         break;
     case FaultName::CutGzip: {
         const std::string packed = gzipped(readAll(*response.body));
@@ -105,8 +104,7 @@ void Draft::strike(const Fault& fault, const Request& request, const std::string
         break;
     }
     case FaultName::Reset:
-        cut(response, size / 2, Ending::Reset);
-        feedType.clear();
+        cut(size / 2, Ending::Reset);
         break;
     case FaultName::MalformedFeed:
         replaceBody(makeBody(damaged(readAll(*response.body))));

@@ -5,6 +5,7 @@
 #include "Simulator/Fault.h"
 #include "Simulator/Http.h"
 
+#include <cstdint>
 #include <string>
 
 namespace lodestar::simulator
@@ -21,6 +22,8 @@ struct Draft {
     std::string feedType;
 
     void replaceBody(BodyPtr body);
+    /// Sends so many bytes of the body as it stands, and then no more.
+    void cut(std::uint64_t after, Ending ending);
     /// Has one fault do to the answer what it does. Redirects lead to one of the addresses: the console's own, or the
     /// next console's.
     void strike(const Fault& fault, const Request& request, const std::string& address, const std::string& nextAddress);
