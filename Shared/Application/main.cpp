@@ -118,7 +118,7 @@ int main(int argc, char** argv)
                 std::fflush(stdout);
                 QGuiApplication::quit();
             },
-            Qt::QueuedConnection);
+            Qt::DirectConnection);
     }
     delegate.showInitialViewController();
     window->loadInterface();

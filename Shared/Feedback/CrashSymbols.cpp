@@ -2,12 +2,12 @@
 #include "Feedback/CrashSymbols.h"
 
 #include "Feedback/SymbolModule.h"
+#include "Platform/OwnModule.h"
 
 #include <fmt/core.h>
 
 #include <algorithm>
 #include <bit>
-#include <dlfcn.h>
 #include <set>
 
 namespace lodestar
@@ -45,21 +45,6 @@ std::uintptr_t addressInThisRun(const CrashRecord& record, std::uintptr_t addres
 
 using FindSymbols = decltype(&lodestar_find_symbols);
 
-FindSymbols findSymbols(const std::vector<LoadedModule>& loaded)
-{
-    if (loaded.empty()) {
-        return nullptr;
-    }
-    const std::string& program = loaded.front().path;
-    const std::string folder = program.substr(0, program.rfind('/'));
-    for (const char* place : {"/", "/../lib/lodestar/"}) {
-        if (void* module = ::dlopen((folder + place + "lodestar-symbols.so").c_str(), RTLD_NOW | RTLD_LOCAL)) {
-            return reinterpret_cast<FindSymbols>(::dlsym(module, "lodestar_find_symbols"));
-        }
-    }
-    return nullptr;
-}
-
 struct Names {
     std::vector<std::size_t> calls; ///< whose addresses are asked for
     std::vector<std::string> text;  ///< one for each call of the record
@@ -88,9 +73,12 @@ std::vector<std::string> namesOf(const CrashRecord& record)
             addresses.push_back(std::bit_cast<void*>(address));
         }
     }
-    const FindSymbols find = addresses.empty() ? nullptr : findSymbols(loaded);
+    if (addresses.empty()) {
+        return std::move(names.text);
+    }
+    void* const find = functionOfOwnModule("lodestar-symbols", "lodestar_find_symbols");
     if (find != nullptr) {
-        find(addresses.data(), addresses.size(), &addName, &names);
+        reinterpret_cast<FindSymbols>(find)(addresses.data(), addresses.size(), &addName, &names);
     }
     return std::move(names.text);
 }

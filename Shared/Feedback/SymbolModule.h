@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-/// The one function of lodestar-symbols.so, which lies beside the program. A module of its own, because the libraries
+/// The one function of lodestar-symbols.so (see OwnModule.h). A module of its own, because the libraries
 /// that read debugging information would make every start slower for the sake of the one after a crash.
 ///
 /// Names the functions at addresses of this process: calls `found` for each that has a name, with its index, its

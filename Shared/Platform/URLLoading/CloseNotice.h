@@ -13,7 +13,8 @@ namespace lodestar
 struct CloseNotice {
     bool received = false;
 
-    /// The connection's own notice, watched from the first call on. Null when memory is out. One thread.
+    /// The connection's own notice, watched from the first call on. Null when memory is out. One thread. Part of the
+    /// module that knows OpenSSL: called through its table, see CurlModule.h.
     static std::shared_ptr<const CloseNotice> ofConnection(ssl_st* connection);
 };
 

@@ -1,8 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/URLLoading/CurlSupport.h"
 
+#ifdef LODESTAR_CURL_IN_MODULE
+#include "Platform/OwnModule.h"
+
+#include <dlfcn.h>
+#endif
+
 #include <algorithm>
 #include <csignal>
+#include <cstdio>
+#include <cstdlib>
 #include <mutex>
 #include <sys/resource.h>
 
@@ -16,12 +24,12 @@ namespace lodestar
 namespace
 {
 
-using CurlURL = std::unique_ptr<CURLU, void (*)(CURLU*)>;
+using CurlURL = std::unique_ptr<CURLU, decltype(CurlModule::urlCleanup)>;
 
 CurlURL parsedURL(const std::string& url)
 {
-    CurlURL handle(curl_url(), curl_url_cleanup);
-    if (handle != nullptr && curl_url_set(handle.get(), CURLUPART_URL, url.c_str(), 0) != CURLUE_OK) {
+    CurlURL handle(curl().url(), curl().urlCleanup);
+    if (handle != nullptr && curl().urlSet(handle.get(), CURLUPART_URL, url.c_str(), 0) != CURLUE_OK) {
         handle.reset();
     }
     return handle;
@@ -30,11 +38,11 @@ CurlURL parsedURL(const std::string& url)
 std::optional<std::string> urlPart(const CurlURL& url, CURLUPart part, unsigned int flags = 0)
 {
     char* text = nullptr;
-    if (curl_url_get(url.get(), part, &text, flags) != CURLUE_OK) {
+    if (curl().urlGet(url.get(), part, &text, flags) != CURLUE_OK) {
         return std::nullopt;
     }
     std::string result(text);
-    curl_free(text);
+    curl().free(text);
     return result;
 }
 
@@ -46,13 +54,40 @@ std::string onOneLine(std::string text)
     return text;
 }
 
+const CurlModule* loadedModule()
+{
+#ifdef LODESTAR_CURL_IN_MODULE
+    auto* const function = functionOfOwnModule("lodestar-transfers", "lodestar_curl_module");
+    if (function == nullptr) {
+        const char* const reason = ::dlerror();
+        std::fprintf(stderr, "lodestar-transfers.so: %s\n", reason != nullptr ? reason : "not found");
+        return nullptr;
+    }
+    return reinterpret_cast<decltype(&lodestar_curl_module)>(function)();
+#else
+    return lodestar_curl_module();
+#endif
+}
+
 } // namespace
+
+const CurlModule& curl()
+{
+    static const CurlModule* const module = [] {
+        const CurlModule* const loaded = loadedModule();
+        if (loaded == nullptr || !loaded->prepare()) {
+            std::fputs("Transfers are not possible\n", stderr);
+            std::abort();
+        }
+        return loaded;
+    }();
+    return *module;
+}
 
 void prepareProcessForTransfers()
 {
     static std::once_flag once;
     std::call_once(once, [] {
-        curl_global_init(CURL_GLOBAL_DEFAULT);
 #ifdef M_ARENA_MAX
         // Bodies are filled on one thread and freed on others: with an arena a thread each would keep what others need.
         mallopt(M_ARENA_MAX, 2);
@@ -93,10 +128,10 @@ std::optional<Origin> Origin::ofURL(const std::string& url)
 std::optional<std::string> resolvedURL(const std::string& base, const std::string& reference)
 {
     const CurlURL handle = parsedURL(base);
-    if (handle == nullptr || curl_url_set(handle.get(), CURLUPART_URL, reference.c_str(), 0) != CURLUE_OK) {
+    if (handle == nullptr || curl().urlSet(handle.get(), CURLUPART_URL, reference.c_str(), 0) != CURLUE_OK) {
         return std::nullopt;
     }
-    curl_url_set(handle.get(), CURLUPART_FRAGMENT, nullptr, 0);
+    curl().urlSet(handle.get(), CURLUPART_FRAGMENT, nullptr, 0);
     return urlPart(handle, CURLUPART_URL);
 }
 
@@ -104,7 +139,7 @@ CurlList curlHeaders(const URLRequest& request)
 {
     CurlList list;
     const auto append = [&list](const std::string& line) {
-        if (curl_slist* const longer = curl_slist_append(list.get(), line.c_str()); longer != nullptr) {
+        if (curl_slist* const longer = curl().slistAppend(list.get(), line.c_str()); longer != nullptr) {
             static_cast<void>(list.release());
             list.reset(longer);
         }

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Platform/URLLoading/CurlModule.h"
 #include "Platform/URLLoading/URLRequest.h"
-
-#include <curl/curl.h>
 
 #include <memory>
 #include <optional>
@@ -13,16 +12,16 @@ namespace lodestar
 {
 
 struct CurlEasyDeleter {
-    void operator()(CURL* handle) const { curl_easy_cleanup(handle); }
+    void operator()(CURL* handle) const { curl().easyCleanup(handle); }
 };
 struct CurlListDeleter {
-    void operator()(curl_slist* list) const { curl_slist_free_all(list); }
+    void operator()(curl_slist* list) const { curl().slistFreeAll(list); }
 };
 using CurlEasy = std::unique_ptr<CURL, CurlEasyDeleter>;
 using CurlList = std::unique_ptr<curl_slist, CurlListDeleter>;
 
-/// Makes the process ready for many transfers, once: libcurl's global state, as many descriptors as the system allows,
-/// and no signal for a write to a closed socket.
+/// Makes the process ready for many transfers, once: as many descriptors as the system allows, memory that threads
+/// share, and no signal for a write to a closed socket.
 void prepareProcessForTransfers();
 
 /// Which server an address names. Lower case, the port always filled in; an IPv6 address without its brackets.

@@ -63,13 +63,8 @@ NetworkThread& NetworkThread::shared()
     return *thread;
 }
 
-NetworkThread::NetworkThread() : m_multi(curl_multi_init())
+NetworkThread::NetworkThread()
 {
-    if (m_multi == nullptr) {
-        std::fputs("The network thread could not be made\n", stderr);
-        std::abort();
-    }
-    curl_multi_setopt(m_multi, CURLMOPT_MAXCONNECTS, keptConnections);
     m_thread = std::thread([this] { run(); });
 }
 
@@ -103,12 +98,22 @@ void NetworkThread::readerCaughtUp()
 
 void NetworkThread::wake() const
 {
-    curl_multi_wakeup(m_multi);
+    // Until the thread has one, it has not looked at the inbox either.
+    if (CURLM* const multi = m_multi.load(); multi != nullptr) {
+        curl().multiWakeup(multi);
+    }
 }
 
 void NetworkThread::run()
 {
     const OwnThread thread("lodestar-net");
+    CURLM* const multi = curl().multiInit();
+    if (multi == nullptr) {
+        std::fputs("The network thread could not be made\n", stderr);
+        std::abort();
+    }
+    curl().multiSetopt(multi, CURLMOPT_MAXCONNECTS, keptConnections);
+    m_multi = multi;
     for (;;) {
         {
             const std::lock_guard lock(m_inboxMutex);
@@ -118,9 +123,9 @@ void NetworkThread::run()
         }
         takeInbox();
         startWaiting();
-        curl_multi_poll(m_multi, nullptr, 0, waitTime(), nullptr);
+        curl().multiPoll(multi, nullptr, 0, waitTime(), nullptr);
         int running = 0;
-        curl_multi_perform(m_multi, &running);
+        curl().multiPerform(multi, &running);
         finishDone();
         failOverdue();
     }
@@ -222,20 +227,20 @@ void NetworkThread::countSlow(Clock::time_point now)
 void NetworkThread::add(const std::shared_ptr<Transfer>& transfer)
 {
     m_nextDeadline = std::min(m_nextDeadline, transfer->deadline());
-    curl_multi_add_handle(m_multi, transfer->handle());
+    curl().multiAddHandle(m_multi, transfer->handle());
 }
 
 void NetworkThread::finishDone()
 {
     int left = 0;
-    while (const CURLMsg* const message = curl_multi_info_read(m_multi, &left)) {
+    while (const CURLMsg* const message = curl().multiInfoRead(m_multi, &left)) {
         if (message->msg != CURLMSG_DONE) {
             continue;
         }
         const CURLcode result = message->data.result;
         Transfer* done = nullptr;
-        curl_easy_getinfo(message->easy_handle, CURLINFO_PRIVATE, &done);
-        curl_multi_remove_handle(m_multi, message->easy_handle);
+        curl().easyGetinfo(message->easy_handle, CURLINFO_PRIVATE, &done);
+        curl().multiRemoveHandle(m_multi, message->easy_handle);
         const std::shared_ptr<Transfer> transfer = m_running.at(done);
         if (transfer->hopEnded(result)) {
             add(transfer);
@@ -270,7 +275,7 @@ void NetworkThread::failOverdue()
 
 void NetworkThread::remove(const std::shared_ptr<Transfer>& transfer)
 {
-    curl_multi_remove_handle(m_multi, transfer->handle());
+    curl().multiRemoveHandle(m_multi, transfer->handle());
     m_waiting.didEnd(*transfer);
     m_running.erase(transfer.get());
 }

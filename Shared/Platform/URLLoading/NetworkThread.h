@@ -4,6 +4,7 @@
 #include "Platform/URLLoading/Transfer.h"
 #include "Platform/URLLoading/TransferQueue.h"
 
+#include <atomic>
 #include <memory>
 #include <mutex>
 #include <thread>
@@ -52,7 +53,7 @@ private:
     void failOverdue();
     void remove(const std::shared_ptr<Transfer>& transfer);
 
-    CURLM* m_multi = nullptr;
+    std::atomic<CURLM*> m_multi = nullptr; ///< the thread's own doing: libcurl is loaded there
     std::thread m_thread;
 
     std::mutex m_inboxMutex;

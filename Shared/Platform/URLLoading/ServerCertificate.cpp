@@ -9,15 +9,18 @@
 namespace lodestar
 {
 
-struct ServerCertificate::Chain {
-    Chain() = default;
-    ~Chain()
+class ServerCertificate::PresentedChain final : public Chain
+{
+public:
+    PresentedChain() = default;
+    ~PresentedChain() override
     {
         X509_free(leaf);
         sk_X509_pop_free(others, X509_free);
     }
-    Chain(const Chain&) = delete;
-    Chain& operator=(const Chain&) = delete;
+    PresentedChain(const PresentedChain&) = delete;
+    PresentedChain& operator=(const PresentedChain&) = delete;
+    std::string systemObjection(const std::string& host) const override;
 
     X509* leaf = nullptr;
     STACK_OF(X509) * others = nullptr;
@@ -55,7 +58,7 @@ std::optional<ServerCertificate> ServerCertificate::ofConnection(const ssl_st* c
     if (connection == nullptr) {
         return std::nullopt;
     }
-    auto chain = std::make_shared<Chain>();
+    auto chain = std::make_shared<PresentedChain>();
     chain->leaf = SSL_get1_peer_certificate(connection);
     ServerCertificate certificate;
     unsigned int length = 0;
@@ -72,14 +75,14 @@ std::optional<ServerCertificate> ServerCertificate::ofConnection(const ssl_st* c
     return certificate;
 }
 
-std::string ServerCertificate::systemObjection() const
+std::string ServerCertificate::PresentedChain::systemObjection(const std::string& host) const
 {
     const std::unique_ptr<X509_STORE_CTX, void (*)(X509_STORE_CTX*)> context(X509_STORE_CTX_new(), X509_STORE_CTX_free);
     X509_STORE* const authorities = systemAuthorities();
     if (context == nullptr || authorities == nullptr ||
-        X509_STORE_CTX_init(context.get(), authorities, m_chain->leaf, m_chain->others) != 1 ||
+        X509_STORE_CTX_init(context.get(), authorities, leaf, others) != 1 ||
         X509_STORE_CTX_set_default(context.get(), "ssl_server") != 1 ||
-        !expectHost(X509_STORE_CTX_get0_param(context.get()), m_host)) {
+        !expectHost(X509_STORE_CTX_get0_param(context.get()), host)) {
         return "the certificate could not be examined";
     }
     if (X509_verify_cert(context.get()) == 1) {

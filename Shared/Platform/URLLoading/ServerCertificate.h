@@ -17,6 +17,7 @@ class ServerCertificate
 {
 public:
     /// None when the connection is not secured or the server presented nothing.
+    /// Part of the module that knows OpenSSL: called through its table, see CurlModule.h.
     static std::optional<ServerCertificate> ofConnection(const ssl_st* connection, std::string host, int port);
 
     const std::string& host() const { return m_host; }
@@ -24,10 +25,18 @@ public:
     const ServerTrust::Fingerprint& leaf() const { return m_leaf; }
     /// Asks the system's authorities about the chain, its dates and the host's name; an empty answer is "yes", any
     /// other is why not. Costs a chain's verification.
-    std::string systemObjection() const;
+    std::string systemObjection() const { return m_chain->systemObjection(m_host); }
 
 private:
-    struct Chain;
+    class Chain
+    {
+    public:
+        virtual ~Chain() = default;
+        virtual std::string systemObjection(const std::string& host) const = 0;
+    };
+    class PresentedChain;
+
+    ServerCertificate() = default;
     std::string m_host;
     int m_port = 0;
     ServerTrust::Fingerprint m_leaf{};

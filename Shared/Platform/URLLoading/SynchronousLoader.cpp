@@ -32,14 +32,14 @@ Pool& pool()
 
 } // namespace
 
-SynchronousLoader::SynchronousLoader() : m_multi(curl_multi_init())
+SynchronousLoader::SynchronousLoader() : m_multi(curl().multiInit())
 {
-    curl_multi_setopt(m_multi, CURLMOPT_MAXCONNECTS, connectionsOfLoader);
+    curl().multiSetopt(m_multi, CURLMOPT_MAXCONNECTS, connectionsOfLoader);
 }
 
 SynchronousLoader::~SynchronousLoader()
 {
-    curl_multi_cleanup(m_multi);
+    curl().multiCleanup(m_multi);
 }
 
 Result<URLLoad> SynchronousLoader::load(const URLRequest& request)
@@ -90,14 +90,14 @@ void SynchronousLoader::drive(Transfer& transfer)
 {
     bool again = transfer.start();
     while (again) {
-        curl_multi_add_handle(m_multi, transfer.handle());
+        curl().multiAddHandle(m_multi, transfer.handle());
         std::optional<CURLcode> result;
         bool overdue = false;
         while (!result && !overdue) {
             result = turn(transfer);
             overdue = !result && Transfer::Clock::now() >= transfer.deadline();
         }
-        curl_multi_remove_handle(m_multi, transfer.handle());
+        curl().multiRemoveHandle(m_multi, transfer.handle());
         if (overdue) {
             transfer.fail(URLErrorCode::TimedOut);
         }
@@ -109,15 +109,15 @@ void SynchronousLoader::drive(Transfer& transfer)
 std::optional<CURLcode> SynchronousLoader::turn(const Transfer& transfer)
 {
     int running = 0;
-    curl_multi_perform(m_multi, &running);
+    curl().multiPerform(m_multi, &running);
     int left = 0;
-    while (const CURLMsg* const message = curl_multi_info_read(m_multi, &left)) {
+    while (const CURLMsg* const message = curl().multiInfoRead(m_multi, &left)) {
         if (message->msg == CURLMSG_DONE) {
             return message->data.result;
         }
     }
     const auto wait = std::chrono::ceil<std::chrono::milliseconds>(transfer.deadline() - Transfer::Clock::now());
-    curl_multi_poll(m_multi, nullptr, 0, static_cast<int>(std::clamp<std::int64_t>(wait.count(), 0, 60'000)), nullptr);
+    curl().multiPoll(m_multi, nullptr, 0, static_cast<int>(std::clamp<std::int64_t>(wait.count(), 0, 60'000)), nullptr);
     return std::nullopt;
 }
 

@@ -70,46 +70,46 @@ bool Transfer::start()
 bool Transfer::prepareHop()
 {
     m_origin = Origin::ofURL(m_request.url);
-    m_easy.reset(m_origin ? curl_easy_init() : nullptr);
+    m_easy.reset(m_origin ? curl().easyInit() : nullptr);
     if (m_easy == nullptr) {
         end(urlError(m_origin ? URLErrorCode::Unknown : URLErrorCode::BadURL));
         return false;
     }
     CURL* const easy = m_easy.get();
     m_headers = curlHeaders(m_request);
-    curl_easy_setopt(easy, CURLOPT_PRIVATE, this);
-    curl_easy_setopt(easy, CURLOPT_URL, m_request.url.c_str());
-    curl_easy_setopt(easy, CURLOPT_PROTOCOLS_STR, "https");
-    curl_easy_setopt(easy, CURLOPT_DISALLOW_USERNAME_IN_URL, 1L);
-    curl_easy_setopt(easy, CURLOPT_PROXY, "");
-    curl_easy_setopt(easy, CURLOPT_NOSIGNAL, 1L);
+    curl().easySetopt(easy, CURLOPT_PRIVATE, this);
+    curl().easySetopt(easy, CURLOPT_URL, m_request.url.c_str());
+    curl().easySetopt(easy, CURLOPT_PROTOCOLS_STR, "https");
+    curl().easySetopt(easy, CURLOPT_DISALLOW_USERNAME_IN_URL, 1L);
+    curl().easySetopt(easy, CURLOPT_PROXY, "");
+    curl().easySetopt(easy, CURLOPT_NOSIGNAL, 1L);
     // Without it a name that the resolver ponders would hold the driving thread when its transfer is given up.
-    curl_easy_setopt(easy, CURLOPT_QUICK_EXIT, 1L);
-    curl_easy_setopt(easy, CURLOPT_HTTP_VERSION, CURL_HTTP_VERSION_1_1);
-    curl_easy_setopt(easy, CURLOPT_HTTPHEADER, m_headers.get());
+    curl().easySetopt(easy, CURLOPT_QUICK_EXIT, 1L);
+    curl().easySetopt(easy, CURLOPT_HTTP_VERSION, CURL_HTTP_VERSION_1_1);
+    curl().easySetopt(easy, CURLOPT_HTTPHEADER, m_headers.get());
     if (m_request.method != "GET" || !m_request.body.empty()) {
-        curl_easy_setopt(easy, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(m_request.body.size()));
-        curl_easy_setopt(easy, CURLOPT_POSTFIELDS, m_request.body.data());
-        curl_easy_setopt(easy, CURLOPT_CUSTOMREQUEST, m_request.method.c_str());
+        curl().easySetopt(easy, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(m_request.body.size()));
+        curl().easySetopt(easy, CURLOPT_POSTFIELDS, m_request.body.data());
+        curl().easySetopt(easy, CURLOPT_CUSTOMREQUEST, m_request.method.c_str());
     }
     // Trust is ours to decide, in `connectionReady`, for every connection alike: so libcurl may lend a connection that
     // one kind of request opened to the other kind.
-    curl_easy_setopt(easy, CURLOPT_SSL_VERIFYPEER, 0L);
-    curl_easy_setopt(easy, CURLOPT_SSL_VERIFYHOST, 0L);
-    curl_easy_setopt(easy, CURLOPT_CAINFO, nullptr);
-    curl_easy_setopt(easy, CURLOPT_CAPATH, nullptr);
+    curl().easySetopt(easy, CURLOPT_SSL_VERIFYPEER, 0L);
+    curl().easySetopt(easy, CURLOPT_SSL_VERIFYHOST, 0L);
+    curl().easySetopt(easy, CURLOPT_CAINFO, nullptr);
+    curl().easySetopt(easy, CURLOPT_CAPATH, nullptr);
     // Each hop has a handle of its own, so that kept sessions would never be used.
-    curl_easy_setopt(easy, CURLOPT_SSL_SESSIONID_CACHE, 0L);
-    curl_easy_setopt(easy, CURLOPT_PREREQFUNCTION, &Transfer::prerequest);
-    curl_easy_setopt(easy, CURLOPT_PREREQDATA, this);
-    curl_easy_setopt(easy, CURLOPT_HEADERFUNCTION, &Transfer::header);
-    curl_easy_setopt(easy, CURLOPT_HEADERDATA, this);
-    curl_easy_setopt(easy, CURLOPT_WRITEFUNCTION, &Transfer::body);
-    curl_easy_setopt(easy, CURLOPT_WRITEDATA, this);
+    curl().easySetopt(easy, CURLOPT_SSL_SESSIONID_CACHE, 0L);
+    curl().easySetopt(easy, CURLOPT_PREREQFUNCTION, &Transfer::prerequest);
+    curl().easySetopt(easy, CURLOPT_PREREQDATA, this);
+    curl().easySetopt(easy, CURLOPT_HEADERFUNCTION, &Transfer::header);
+    curl().easySetopt(easy, CURLOPT_HEADERDATA, this);
+    curl().easySetopt(easy, CURLOPT_WRITEFUNCTION, &Transfer::body);
+    curl().easySetopt(easy, CURLOPT_WRITEDATA, this);
     // Ours are the deadlines; libcurl's own for connecting must not come first.
-    curl_easy_setopt(easy, CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(m_request.timeout.count()) + 60'000L);
+    curl().easySetopt(easy, CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(m_request.timeout.count()) + 60'000L);
     const bool fresh = std::exchange(m_needsFreshConnection, false) || m_client->wantsFreshHandshake(*m_origin);
-    curl_easy_setopt(easy, CURLOPT_FRESH_CONNECT, fresh ? 1L : 0L);
+    curl().easySetopt(easy, CURLOPT_FRESH_CONNECT, fresh ? 1L : 0L);
     return true;
 }
 
@@ -168,7 +168,7 @@ Error Transfer::errorOf(CURLcode result) const
     if (m_refusal) {
         return *m_refusal;
     }
-    return urlError(urlErrorCodeOfTransfer(result), curl_easy_strerror(result));
+    return urlError(urlErrorCodeOfTransfer(result), curl().easyStrerror(result));
 }
 
 void Transfer::refuse(URLErrorCode code, std::string reason)
@@ -196,16 +196,16 @@ bool Transfer::connectionReady()
 {
     m_lastProgress = Clock::now();
     curl_tlssessioninfo* session = nullptr;
-    curl_easy_getinfo(m_easy.get(), CURLINFO_TLS_SSL_PTR, &session);
+    curl().easyGetinfo(m_easy.get(), CURLINFO_TLS_SSL_PTR, &session);
     long connections = 0;
-    curl_easy_getinfo(m_easy.get(), CURLINFO_NUM_CONNECTS, &connections);
+    curl().easyGetinfo(m_easy.get(), CURLINFO_NUM_CONNECTS, &connections);
     auto* const connection = session != nullptr ? static_cast<ssl_st*>(session->internals) : nullptr;
-    const auto certificate = ServerCertificate::ofConnection(connection, m_origin->host, m_origin->port);
+    const auto certificate = curl().certificateOfConnection(connection, m_origin->host, m_origin->port);
     if (!certificate) {
         refuse(URLErrorCode::SecureConnectionFailed, "the server presented no certificate");
         return false;
     }
-    m_closeNotice = CloseNotice::ofConnection(connection);
+    m_closeNotice = curl().noticeOfConnection(connection);
     const Handshake handshake = connections > 0 ? Handshake::Fresh : Handshake::Reused;
     if (m_client->acceptsServer(*certificate, handshake)) {
         return true;

@@ -1,0 +1,50 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/URLLoading/CurlModule.h"
+
+#include <openssl/crypto.h>
+
+namespace
+{
+
+bool prepare()
+{
+    // The network thread may be in the middle of a handshake when the process ends, so that OpenSSL must not tidy up
+    // before that thread is joined.
+    return OPENSSL_init_crypto(OPENSSL_INIT_NO_ATEXIT, nullptr) == 1 &&
+           curl_global_init(CURL_GLOBAL_DEFAULT) == CURLE_OK;
+}
+
+} // namespace
+
+const lodestar::CurlModule* lodestar_curl_module()
+{
+    using lodestar::CloseNotice;
+    using lodestar::ServerCertificate;
+    static constexpr lodestar::CurlModule module{
+        .easyCleanup = &curl_easy_cleanup,
+        .easyGetinfo = &curl_easy_getinfo,
+        .easyInit = &curl_easy_init,
+        .easySetopt = &curl_easy_setopt,
+        .easyStrerror = &curl_easy_strerror,
+        .free = &curl_free,
+        .multiAddHandle = &curl_multi_add_handle,
+        .multiCleanup = &curl_multi_cleanup,
+        .multiInfoRead = &curl_multi_info_read,
+        .multiInit = &curl_multi_init,
+        .multiPerform = &curl_multi_perform,
+        .multiPoll = &curl_multi_poll,
+        .multiRemoveHandle = &curl_multi_remove_handle,
+        .multiSetopt = &curl_multi_setopt,
+        .multiWakeup = &curl_multi_wakeup,
+        .slistAppend = &curl_slist_append,
+        .slistFreeAll = &curl_slist_free_all,
+        .url = &curl_url,
+        .urlCleanup = &curl_url_cleanup,
+        .urlGet = &curl_url_get,
+        .urlSet = &curl_url_set,
+        .prepare = &prepare,
+        .certificateOfConnection = &ServerCertificate::ofConnection,
+        .noticeOfConnection = &CloseNotice::ofConnection,
+    };
+    return &module;
+}
