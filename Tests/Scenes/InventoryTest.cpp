@@ -128,10 +128,15 @@ TEST_F(InventoryTest, AHundredThousandRowsMakeDelegatesForTheVisibleOnes)
     }
     MSListViewController* const list = openSystems({{"ManagedSystem", feed + "</feed>"}});
     ASSERT_EQ(list->tableView()->count(), 100000);
-    EXPECT_LT(stage.items("StateRow").size(), 40U);
+    const std::size_t rows = stage.items("StateRow").size();
+    EXPECT_LT(rows, 25U);
     press(Qt::Key_End);
     ASSERT_TRUE(stage.waitFor([&] { return text("node-99999") != nullptr; }));
-    EXPECT_LT(stage.items("StateRow").size(), 40U);
+    // Those that were left wait for their next use and cost a frame nothing, nor does any text ask for each frame.
+    EXPECT_LE(stage.items("StateRow").size(), rows);
+    for (const QQuickItem* const item : stage.items("QQuickText")) {
+        EXPECT_FALSE(item->flags().testFlag(QQuickItem::ItemObservesViewport)) << item->objectName().toStdString();
+    }
     list->showSearchBar();
     list->searchBar()->setText("NODE-9999");
     EXPECT_EQ(list->searchResultsTableView()->count(), 11);

@@ -142,8 +142,15 @@ FocusScope {
             width: list.width
             content: host.item as TableCell
             swipe: swipeCell as SwipeCell
-            ListView.onReused: configure()
-            ListView.onPooled: swipeCell.reset()
+            // A row that waits for its next use would still be moved and looked through in every scrolled frame.
+            ListView.onReused: {
+                visible = true;
+                configure();
+            }
+            ListView.onPooled: {
+                swipeCell.reset();
+                visible = false;
+            }
 
             readonly property bool focused: tableState.currentIndex === index && tableState.listHasKeyboard
             /// Sections without a header stand apart by a gap.

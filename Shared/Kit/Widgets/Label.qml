@@ -21,6 +21,9 @@ Text {
         return fontInfo.pixelSize;
     }
 
+    // A text watches where the viewport is until it is changed for the first time, and one that watches has every
+    // scrolled frame tell all items of the list: so that even an empty text has to be a change.
+    text: " "
     color: Theme.ink
     font.family: Theme.family
     font.pixelSize: Math.round(size * scaleFactor)
