@@ -31,16 +31,12 @@ SheetContent {
         }
     }
 
-    /// A press beside the fields ends editing.
-    MouseArea {
-        anchors.fill: parent
-        onClicked: scene.sheet.hideKeyboardOnTouch()
-    }
     Form {
         id: form
 
         anchors.fill: parent
         restingHeight: scene.restingHeight
+        onTapped: scene.sheet.hideKeyboardOnTouch()
 
         PasscodeRow {
             id: oldField

@@ -5,6 +5,8 @@
 #include "Application/SettingsViewController.h"
 #include "Platform/NotificationCenter.h"
 
+#include <utility>
+
 namespace lodestar
 {
 namespace
@@ -85,7 +87,10 @@ void PasswordCreationViewController::cancel()
 
 void PasswordCreationViewController::close()
 {
-    m_closed = true;
+    // The sheet can still be pressed while it slides away.
+    if (std::exchange(m_closed, true)) {
+        return;
+    }
     // The settings drop their sheet, and with it perhaps the last reference to this.
     const auto keep = shared_from_this();
     m_parentSettings.reset();

@@ -110,4 +110,14 @@ void Corvel::setRestData(std::shared_ptr<const FeedDictionary> feeds)
     // The former feeds, many megabytes at times, go here, with the lock released.
 }
 
+void Corvel::changeRestData(const RestDataChange& change)
+{
+    std::shared_ptr<const FeedDictionary> former;
+    {
+        const std::lock_guard lock(m_restDataMutex);
+        former = m_restData;
+        m_restData = change(former);
+    }
+}
+
 } // namespace lodestar

@@ -4,6 +4,7 @@
 #include "Platform/Store/ObjectContext.h"
 
 #include <atomic>
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -50,6 +51,10 @@ public:
     /// The feeds of the last fetch as one immutable snapshot; null until fetched and after a reset.
     std::shared_ptr<const FeedDictionary> restData() const;
     void setRestData(std::shared_ptr<const FeedDictionary> feeds);
+    /// Replaces the snapshot by what the function makes of it, in one step. The function must not touch this record.
+    using RestDataChange =
+        std::function<std::shared_ptr<const FeedDictionary>(const std::shared_ptr<const FeedDictionary>&)>;
+    void changeRestData(const RestDataChange& change);
 
 private:
     std::optional<std::string> text(std::size_t index) const;

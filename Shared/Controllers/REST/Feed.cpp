@@ -20,11 +20,12 @@ Feed feedOfType(const Corvel& corvel, std::string_view type)
 
 void setFeedOfType(Corvel& corvel, std::string_view type, Feed feed)
 {
-    // Others may be reading the snapshot that is there.
-    const auto feeds = corvel.restData();
-    auto changed = feeds != nullptr ? std::make_shared<FeedDictionary>(*feeds) : std::make_shared<FeedDictionary>();
-    changed->setFeed(type, std::move(feed));
-    corvel.setRestData(std::move(changed));
+    // Others may be reading the snapshot that is there, and a whole fetch may come at any time.
+    corvel.changeRestData([type, &feed](const std::shared_ptr<const FeedDictionary>& feeds) {
+        auto changed = feeds != nullptr ? std::make_shared<FeedDictionary>(*feeds) : std::make_shared<FeedDictionary>();
+        changed->setFeed(type, std::move(feed));
+        return changed;
+    });
 }
 
 } // namespace lodestar

@@ -18,6 +18,7 @@ class CellHost : public QQuickItem
     QML_ELEMENT
     Q_PROPERTY(lodestar::TableOutlet* table READ table WRITE setTable NOTIFY tableChanged)
     Q_PROPERTY(int index MEMBER m_index NOTIFY indexChanged)
+    Q_PROPERTY(bool pooled MEMBER m_pooled NOTIFY pooledChanged)
     Q_PROPERTY(QQmlComponent* delegate MEMBER m_delegate NOTIFY delegateChanged)
     Q_PROPERTY(QQuickItem* item READ item NOTIFY itemChanged)
 
@@ -35,6 +36,7 @@ public:
 Q_SIGNALS:
     void tableChanged();
     void indexChanged();
+    void pooledChanged();
     void delegateChanged();
     void itemChanged();
 
@@ -52,6 +54,7 @@ private:
     QPointer<QQmlComponent> m_delegate;
     QPointer<QQuickItem> m_item;
     int m_index = -1;
+    bool m_pooled = false; ///< waits for its next use: a reload is no business of it, since asking may cost a request
 };
 
 } // namespace lodestar

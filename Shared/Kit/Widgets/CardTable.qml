@@ -145,10 +145,12 @@ FocusScope {
             // A row that waits for its next use would still be moved and looked through in every scrolled frame.
             ListView.onReused: {
                 visible = true;
+                host.pooled = false;
                 configure();
             }
             ListView.onPooled: {
                 swipeCell.reset();
+                host.pooled = true;
                 visible = false;
             }
 

@@ -7,6 +7,9 @@ import Lodestar.Kit
 Flickable {
     id: form
 
+    /// A tap beside the rows.
+    signal tapped()
+
     default property alias rows: column.data
     /// How much of the form is to be seen once what holds it has come to rest.
     property real restingHeight: height
@@ -69,6 +72,12 @@ Flickable {
         revealed = null;
     }
 
+    // Inside: an interactive form takes every press that nothing in it wants.
+    MouseArea {
+        width: form.width
+        height: Math.max(form.height, form.contentHeight + form.bottomMargin)
+        onClicked: form.tapped()
+    }
     Column {
         id: column
 

@@ -53,11 +53,11 @@ void GroupedListViewController::seperatePartitionsBySystemFromXML(const XMLEleme
     for (const XMLElement& entry : feedRoot.children("entry")) {
         log().write(m_grouping.partitionLine, seperate, className + ": Fetching partition");
         XMLElement partition = entry.path({"content", type()});
-        // An entry of another type is no partition.
+        log().write(m_grouping.linkLine, seperate, className + ": Fetching stored link");
+        // An entry of another type is no partition, and has no link.
         if (!partition) {
             continue;
         }
-        log().write(m_grouping.linkLine, seperate, className + ": Fetching stored link");
         const std::optional<std::string> system = systemOf(partition);
         if (system) {
             partitions.append(*system, std::move(partition));
@@ -75,8 +75,8 @@ std::optional<std::string> GroupedListViewController::systemOf(const XMLElement&
 {
     const auto link = partition.child("AssociatedManagedSystem").attribute("href");
     std::optional<std::string> name = fetchLinkedText(shownText(link) + "/quick/SystemName", corvel());
-    if (!name && m_grouping.nameless == Nameless::LeftOut) {
-        return std::nullopt;
+    if (m_grouping.nameless == Nameless::LeftOut) {
+        return name;
     }
     // A section needs words above it.
     return name.value_or("").empty() ? tr("Unknown system").toStdString() : std::move(name);

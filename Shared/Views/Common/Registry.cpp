@@ -43,7 +43,8 @@ bool isRegistered(const CorvelRef& corvel)
 void forgetSessionKeyOfUnregistered(const Corvel& corvel)
 {
     const auto address = corvel.address();
-    const std::vector<CorvelRef>& corvels = RESTHandler::sharedInstance().corvelList();
+    // Of all records, not of the list alone: one that is being added has its key before it is listed.
+    const std::vector<CorvelRef> corvels = RESTHandler::sharedInstance().fetchCorvels();
     const bool shared =
         std::ranges::any_of(corvels, [&address](const CorvelRef& other) { return other->address() == address; });
     if (address && !shared) {

@@ -104,6 +104,7 @@ void CorvelListViewController::observeNotifications()
 {
     NotificationCenter& center = NotificationCenter::defaultCenter();
     m_observations.push_back(center.addObserver("CloseDeltaCorvel", [this] { hideModalView(); }));
+    m_observations.push_back(center.addObserver("CorvelAdded", [this] { showCorvels(); }));
     m_observations.push_back(center.addObserver("StatusWillShow", [this] { statusWillShow(); }));
     m_observations.push_back(center.addObserver("StatusShouldHide", [this] { statusShouldHide(); }));
 }
@@ -143,6 +144,9 @@ void CorvelListViewController::didRefreshCorvel(const CorvelRef& corvel)
     if (!isRegistered(corvel)) {
         forgetSessionKeyOfUnregistered(*corvel);
         return;
+    }
+    if (corvel->restData() == nullptr) {
+        return; // A pull has reset it since, and its own refresh is on the way.
     }
     LODESTAR_LOG(fileName, "-[CorvelListViewController dataRefresh]", "CorvelListViewController: Parsing mcvi");
     const Feed console = feedOfType(*corvel, ObjectType::ManagementConsole);
@@ -298,6 +302,11 @@ void CorvelListViewController::resizeModal(double keyboardHeight, Up up)
 void CorvelListViewController::hideModalView()
 {
     dismissSemiModalView();
+    showCorvels();
+}
+
+void CorvelListViewController::showCorvels()
+{
     if (RESTHandler::sharedInstance().corvelList().size() == 1) {
         m_tableView.setHidden(false);
     }

@@ -73,6 +73,8 @@ public:
     /// Heights in points: the sheet stands on the keyboard.
     void resizeModal(double keyboardHeight, Up up);
     void hideModalView();
+    /// The rows, whether or not there were any before.
+    void showCorvels();
     Q_INVOKABLE void keyboardWillShow(double keyboardHeight);
     Q_INVOKABLE void keyboardWillHide();
     void statusWillShow();

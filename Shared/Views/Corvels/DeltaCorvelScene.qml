@@ -27,17 +27,12 @@ SheetContent {
         }
     }
 
-    /// A press beside the fields ends editing.
-    MouseArea {
-        anchors.fill: parent
-        onClicked: scene.editor.hideKeyboardOnTouch()
-    }
-
     Form {
         id: form
 
         anchors.fill: parent
         restingHeight: scene.restingHeight
+        onTapped: scene.editor.hideKeyboardOnTouch()
 
         EditorField {
             id: nameField

@@ -132,6 +132,14 @@ void DeltaCorvelViewController::didFetch(const CorvelRef& corvel)
     if (m_closed) {
         return;
     }
+    // The lock takes the sheet away but not the work, and the same console may have been added anew meanwhile.
+    if (isAddressRegistered()) {
+        deleteCorvel(corvel);
+        m_corvel = nullptr;
+        m_hasCreated = false;
+        showStatusWithError(tr("Corvel has already been added"));
+        return;
+    }
     showStatusWithMessage(tr("gathering data..."));
     corvel->setVersion(RESTHandler::versionString(feedOfType(*corvel, ObjectType::ManagementConsole)));
     corvel->completedFetch = true;
@@ -149,6 +157,10 @@ void DeltaCorvelViewController::didFail(const Error& error)
 
 void DeltaCorvelViewController::cancel()
 {
+    // The sheet can still be pressed while it slides away, when its record may be a registered console.
+    if (m_closed) {
+        return;
+    }
     if (m_hasCreated && m_creatingInstance && m_corvel) {
         deleteCorvel(m_corvel);
     }
@@ -160,14 +172,23 @@ void DeltaCorvelViewController::close()
     m_closed = true;
     // The list drops its sheet, and with it perhaps the last reference to this.
     const auto screen = shared_from_this();
+    NotificationCenter::defaultCenter().postNotification(hasSheet() ? "CloseDeltaCorvel" : "CorvelAdded");
     m_parentList.reset();
-    NotificationCenter::defaultCenter().postNotification("CloseDeltaCorvel");
+}
+
+bool DeltaCorvelViewController::hasSheet() const
+{
+    if (m_parentList == nullptr) {
+        return true;
+    }
+    const SemiModalPresentation* const sheet = m_parentList->semiModal();
+    return sheet != nullptr && sheet->controller() == this;
 }
 
 void DeltaCorvelViewController::showStatusWithMessage(const QString& message)
 {
     showStatus(message, StatusKind::Message);
-    if (!m_closed) {
+    if (!m_closed && hasSheet()) {
         NotificationCenter::defaultCenter().postNotification("StatusWillShow");
     }
 }
@@ -201,7 +222,7 @@ void DeltaCorvelViewController::hideStatusLater(Reenable fields)
     const std::weak_ptr<ViewController> weak = weak_from_this();
     MainQueue::shared().asyncAfter(statusTime, [this, weak, fields, serial = m_statusSerial] {
         const auto screen = weak.lock();
-        if (!screen || m_closed || serial != m_statusSerial) {
+        if (!screen || m_closed || !hasSheet() || serial != m_statusSerial) {
             return;
         }
         NotificationCenter::defaultCenter().postNotification("StatusShouldHide");

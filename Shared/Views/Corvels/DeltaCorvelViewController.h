@@ -15,7 +15,8 @@ class CorvelListViewController;
 /// fetches everything once and only then adds the console. Main thread.
 ///
 /// It is told nothing by the list and finds it through notifications: "StatusWillShow" and "StatusShouldHide" move the
-/// sheet, "CloseDeltaCorvel" closes it. A closed editor posts and shows nothing any more.
+/// sheet, "CloseDeltaCorvel" closes it, and "CorvelAdded" comes in its place when there is no sheet any more. A closed
+/// editor posts and shows nothing any more.
 class DeltaCorvelViewController : public lodestar::ViewController
 {
     Q_OBJECT
@@ -95,6 +96,9 @@ private:
     void didFetch(const CorvelRef& corvel);
     void didFail(const Error& error);
     void close();
+    /// False once the lock has taken the sheet away, which does not end the work: the list may show another one since,
+    /// and what is posted would be taken for that one's.
+    bool hasSheet() const;
 
     CorvelRef m_corvel;
     std::shared_ptr<CorvelListViewController> m_parentList;
