@@ -14,7 +14,6 @@ struct ShakeSensor::State {
     QAccelerometer sensor;
     ShakeDetector detector;
     std::function<void()> shaken;
-    bool available = false;
 
     void read()
     {
@@ -37,14 +36,9 @@ ShakeSensor::ShakeSensor(std::function<void()> shaken) : m_state(std::make_uniqu
     constexpr int samplesASecond = 50;
     sensor.setDataRate(samplesASecond);
     QObject::connect(&sensor, &QSensor::readingChanged, &sensor, [state = m_state.get()] { state->read(); });
-    m_state->available = sensor.start();
+    sensor.start();
 }
 
 ShakeSensor::~ShakeSensor() = default;
-
-bool ShakeSensor::isAvailable() const
-{
-    return m_state->available;
-}
 
 } // namespace lodestar

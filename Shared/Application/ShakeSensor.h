@@ -16,9 +16,6 @@ public:
     ShakeSensor(const ShakeSensor&) = delete;
     ShakeSensor& operator=(const ShakeSensor&) = delete;
 
-    /// There is a real accelerometer, and it runs.
-    bool isAvailable() const;
-
 private:
     struct State;
     std::unique_ptr<State> m_state;

@@ -12,6 +12,7 @@
 #include "Feedback/VireoLogger.h"
 #include "Kit/Core/MainLoop.h"
 #include "Kit/Core/UIFont+System.h"
+#include "Platform/FolderLock.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -100,6 +101,10 @@ int main(int argc, char** argv)
     const MainLoop mainLoop;
     const TerminationSignals terminationSignals([] { QGuiApplication::quit(); });
     const QString dataFolder = makeDataFolder(options.dataFolder);
+    if (!claimFolder(dataFolder.toStdString())) {
+        std::fputs("Lodestar is running already.\n", stderr);
+        return 1;
+    }
     installPlatform(dataFolder);
 
     AppDelegate delegate;

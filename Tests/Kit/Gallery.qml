@@ -284,7 +284,7 @@ Rectangle {
 
                     Switch { checked: true; text: "On" }
                     Switch { text: "Off" }
-                    SegmentedControl { titles: ["Processors", "Memory"]; width: parent.width - 132 }
+                    SegmentedControl { titles: ["Processors", "Memory"]; label: "Metrics"; width: parent.width - 132 }
                 }
             }
             Box {

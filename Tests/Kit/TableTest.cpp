@@ -207,7 +207,7 @@ TEST(TableTest, AReloadFromAWorkerAsksTheSourceOnTheMainThread)
     EXPECT_FALSE(control.isRefreshing());
 }
 
-TEST(CellHost, LetsGoOfItsContentWhenItsRowBecomesAHeader)
+TEST(CellHost, AsksOnlyWhileItIsDrawnAndLetsGoOfItsContentWhenItsRowBecomesAHeader)
 {
     Source source;
     source.rows = {1};
@@ -225,6 +225,16 @@ TEST(CellHost, LetsGoOfItsContentWhenItsRowBecomesAHeader)
     ASSERT_NE(host.item(), nullptr);
     EXPECT_EQ(host.implicitHeight(), 10);
     const QPointer<QQuickItem> content = host.item();
+    // In a list's pool it is not drawn, and what it would show may cost a request.
+    host.setProperty("pooled", true);
+    const int configured = source.configured;
+    table.reloadData();
+    announce();
+    EXPECT_EQ(source.configured, configured);
+    host.setProperty("pooled", false);
+    table.reloadData();
+    announce();
+    EXPECT_EQ(source.configured, configured + 1);
     source.titles = {"A"};
     table.reloadData();
     host.configure();

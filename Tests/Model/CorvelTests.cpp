@@ -166,6 +166,22 @@ TEST_F(CorvelTests, TheLastFetchIsASnapshotOnEveryThread)
     EXPECT_EQ(FeedDictionary::destroyed, rounds - rounds / 10 - 1) << "all but the one that is held";
 }
 
+TEST_F(CorvelTests, ChangesOfASnapshotAreNotLost)
+{
+    const auto corvel = std::make_shared<Corvel>();
+    const auto increase = [&corvel] {
+        for (int i = 0; i < 2000; ++i) {
+            corvel->changeRestData([](const std::shared_ptr<const FeedDictionary>& feeds) {
+                return std::make_shared<const FeedDictionary>(feeds != nullptr ? feeds->number + 1 : 1);
+            });
+        }
+    };
+    std::thread other(increase);
+    increase();
+    other.join();
+    EXPECT_EQ(corvel->restData()->number, 4000);
+}
+
 } // namespace
 
 } // namespace lodestar

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Platform/FolderLock.h"
 #include "Platform/Keychain.h"
 #include "Platform/NotificationCenter.h"
 #include "Platform/Resources.h"
@@ -11,7 +12,9 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <sys/wait.h>
 #include <thread>
+#include <unistd.h>
 
 namespace lodestar
 {
@@ -62,6 +65,20 @@ TEST(Services, DefaultsMayBeUsedFromManyThreads)
     }
     EXPECT_EQ(UserDefaults::standard().allKeys().size(), 200U);
     UserDefaults::install(nullptr);
+}
+
+TEST(Services, AFolderIsClaimedOnceAndGivenBackWhenItsProcessEnds)
+{
+    const ScratchFolder folder;
+    const pid_t other = ::fork();
+    if (other == 0) {
+        ::_exit(claimFolder(folder.path()) && !claimFolder(folder.path()) ? 0 : 1);
+    }
+    int status = 0;
+    ASSERT_EQ(::waitpid(other, &status, 0), other);
+    EXPECT_EQ(status, 0) << "the first to come, and no second";
+    EXPECT_TRUE(claimFolder(folder.path()));
+    EXPECT_TRUE(claimFolder(folder.file("no such folder")));
 }
 
 TEST(Services, KeychainTellsItemsApartByServiceAndAccount)

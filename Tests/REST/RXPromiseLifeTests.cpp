@@ -141,7 +141,7 @@ TEST(RXPromiseLifeTests, AHandlerMayDestroyWhatHoldsThePromise)
             gone.set_value();
         });
         operation->promise.fulfillWithValue(1);
-        gone.get_future().wait();
+        ASSERT_EQ(gone.get_future().wait_for(10s), std::future_status::ready);
     }
     // As soon as the state can be seen, too.
     for (int i = 0; i < 500; ++i) {
@@ -155,6 +155,7 @@ TEST(RXPromiseLifeTests, AHandlerMayDestroyWhatHoldsThePromise)
         while (operation->promise.isPending()) {
             std::this_thread::yield();
         }
+        EXPECT_TRUE(operation->promise.isRejected());
         operation.reset();
         settler.join();
     }

@@ -169,6 +169,20 @@ TEST_F(DrivingTest, TheSheetStandsOnTheKeyboard)
     EXPECT_TRUE(stage.waitFor([&] { return button("Cancel")->mapToScene({}).y() == before; }));
 }
 
+TEST_F(DrivingTest, ATapBesideTheFieldsEndsEditing)
+{
+    stage.show({390, 844}, fleet());
+    DeltaCorvelViewController* const form = stage.openEditor();
+    ASSERT_TRUE(waitForSheet());
+    int ended = 0;
+    QObject::connect(form, &ViewController::endEditingRequested, [&ended] { ++ended; });
+    QQuickItem* const fields = stage.items("Form").front();
+    fields->setProperty("contentY", fields->property("contentHeight").toDouble() - fields->height());
+    const QPointF foot(fields->width() / 2, fields->height() - 8);
+    QTest::mouseClick(&stage.window(), Qt::LeftButton, {}, fields->mapToScene(foot).toPoint());
+    EXPECT_EQ(ended, 1);
+}
+
 TEST_F(DrivingTest, ARowIsOneSentenceForScreenReaders)
 {
     QAccessible::setActive(true);

@@ -170,7 +170,7 @@ int main(int argc, char** argv)
     const QStringList arguments = QGuiApplication::arguments();
     const bool tour = arguments.size() > 2 && arguments[1] == QLatin1String("--tour");
     if (arguments.size() < 2 || (arguments[1].startsWith('-') && !tour)) {
-        std::fprintf(stderr, "lodestar-screenshots FOLDER [TEXT]\n");
+        std::fprintf(stderr, "lodestar-screenshots FOLDER [TEXT]\nlodestar-screenshots --tour FOLDER\n");
         return 2;
     }
     const QDir folder(arguments[tour ? 2 : 1]);

@@ -49,6 +49,13 @@ protected:
         corvel->setPassword(fleet.password());
         return corvel;
     }
+    void fill(DeltaCorvelViewController& editor, int console)
+    {
+        editor.nameField()->setText("Harbour A");
+        editor.addressField()->setText(QString::fromStdString(fleet.address(console)));
+        editor.usernameField()->setText(QString::fromStdString(fleet.user()));
+        editor.passwordField()->setText(QString::fromStdString(fleet.password()));
+    }
     void loadAndWait()
     {
         list = makeController<CorvelListViewController>();
@@ -122,15 +129,12 @@ TEST_F(FleetTest, TheEditorAddsAConsoleOnceItHasEverything)
     list->loadViewIfNeeded();
     EXPECT_TRUE(list->tableView()->isHidden());
     list->addCorvel();
-    auto* editor = qobject_cast<DeltaCorvelViewController*>(list->semiModal()->controller());
+    const auto editor = std::dynamic_pointer_cast<DeltaCorvelViewController>(list->semiModal()->sharedController());
     ASSERT_NE(editor, nullptr);
     std::vector<QString> statuses;
     QObject::connect(editor->statusLabel(), &LabelOutlet::textChanged,
                      [&] { statuses.push_back(editor->statusLabel()->text()); });
-    editor->nameField()->setText("Harbour A");
-    editor->addressField()->setText(QString::fromStdString(fleet.address(0)));
-    editor->usernameField()->setText(QString::fromStdString(fleet.user()));
-    editor->passwordField()->setText(QString::fromStdString(fleet.password()));
+    fill(*editor, 0);
     editor->saveCorvel();
     ASSERT_TRUE(runUntil([&] { return list->semiModal() == nullptr; }, std::chrono::seconds(30)));
 
@@ -142,6 +146,61 @@ TEST_F(FleetTest, TheEditorAddsAConsoleOnceItHasEverything)
     EXPECT_FALSE(cell(0).selectionArrow().hidden);
     EXPECT_TRUE(UserDefaults::standard().stringForKey(fleet.address(0)).has_value());
     EXPECT_THAT(storedNames(), ElementsAre("Harbour A"));
+
+    // The sheet can be pressed until it has slid away.
+    editor->cancel();
+    EXPECT_THAT(takeNotifications(), ElementsAre());
+    EXPECT_TRUE(RESTHandler::sharedInstance().corvelList().front()->isInserted());
+}
+
+TEST_F(FleetTest, AnEditorWhoseSheetIsGoneAddsItsConsoleBesideTheNextOne)
+{
+    start(1);
+    fleet.setLatency(200);
+    list = makeController<CorvelListViewController>();
+    list->loadViewIfNeeded();
+    const auto openEditor = [&] {
+        list->addCorvel();
+        return std::dynamic_pointer_cast<DeltaCorvelViewController>(list->semiModal()->sharedController());
+    };
+    const auto first = openEditor();
+    fill(*first, 0);
+    first->saveCorvel();
+    list->dismissSemiModalView(); // as the lock does
+    const auto second = openEditor();
+    fill(*second, 0);
+    second->saveCorvel();
+    takeNotifications();
+    const auto& added = RESTHandler::sharedInstance().corvelList();
+    ASSERT_TRUE(runUntil([&] { return !added.empty(); }, std::chrono::seconds(30)));
+    const auto secondEnded = [&] { return !second->isBusy() || list->semiModal() == nullptr; };
+    ASSERT_TRUE(runUntil(secondEnded, std::chrono::seconds(30)));
+    const bool firstCame = second->statusLabel()->text() == "Corvel has already been added";
+    EXPECT_EQ(added.size(), 1U);
+    EXPECT_EQ(list->tableView()->count(), 1);
+    EXPECT_EQ(list->semiModal() != nullptr, firstCame) << "nobody closes another's sheet";
+    EXPECT_TRUE(UserDefaults::standard().stringForKey(fleet.address(0)).has_value());
+}
+
+TEST_F(FleetTest, AConsoleAddedAnewWhileItsFormerFetchEndsKeepsItsKey)
+{
+    start(1);
+    fleet.setLatency(200);
+    const auto former = makeController<DeltaCorvelViewController>();
+    former->loadViewIfNeeded();
+    fill(*former, 0);
+    former->saveCorvel();
+    const CorvelRef record = former->corvel();
+    ASSERT_TRUE(runUntil([&] { return record->isOnline.load(); }, std::chrono::seconds(30)));
+    former->cancel();
+    const auto editor = makeController<DeltaCorvelViewController>();
+    editor->loadViewIfNeeded();
+    fill(*editor, 0);
+    editor->saveCorvel();
+    const auto& added = RESTHandler::sharedInstance().corvelList();
+    ASSERT_TRUE(runUntil([&] { return !added.empty(); }, std::chrono::seconds(30)));
+    EXPECT_NE(record->restData(), nullptr) << "the former fetch has ended";
+    EXPECT_TRUE(UserDefaults::standard().stringForKey(fleet.address(0)).has_value());
 }
 
 TEST_F(FleetTest, CancellingWhileItGathersLeavesNoTrace)
@@ -150,10 +209,7 @@ TEST_F(FleetTest, CancellingWhileItGathersLeavesNoTrace)
     fleet.setLatency(200);
     const auto editor = makeController<DeltaCorvelViewController>();
     editor->loadViewIfNeeded();
-    editor->nameField()->setText("Harbour A");
-    editor->addressField()->setText(QString::fromStdString(fleet.address(0)));
-    editor->usernameField()->setText(QString::fromStdString(fleet.user()));
-    editor->passwordField()->setText(QString::fromStdString(fleet.password()));
+    fill(*editor, 0);
     editor->saveCorvel();
     const CorvelRef record = editor->corvel();
     ASSERT_TRUE(runUntil([&] { return record->isOnline.load(); }, std::chrono::seconds(30)));

@@ -114,9 +114,9 @@ TEST_F(GroupedListsTest, ServersUncoverButtonsByTheirState)
             entry("VirtualIOServer", named("b", "Not activated") + "<ReferenceCode>x</ReferenceCode>"));
     EXPECT_EQ(list->header()->titleLabel()->text(), "Virtual IO Servers");
     EXPECT_EQ(titles(*list), QStringList("demo placeholder"));
-    EXPECT_THAT(cell(*list, 0, 0).leftButtons(), ElementsAre(SwipeButton{"", QColor(123, 190, 49), "check"}));
-    EXPECT_THAT(cell(*list, 0, 1).leftButtons(),
-                ElementsAre(SwipeButton{"", QColor(19, 60, 91), "check"}, SwipeButton{"", QColor(139, 10, 0), "fav"}));
+    EXPECT_THAT(cell(*list, 0, 0).leftButtons(), ElementsAre(SwipeButton{"", QColor(123, 190, 49), "check", "Check"}));
+    EXPECT_THAT(cell(*list, 0, 1).leftButtons(), ElementsAre(SwipeButton{"", QColor(19, 60, 91), "check", "Check"},
+                                                             SwipeButton{"", QColor(139, 10, 0), "fav", "Favourite"}));
     EXPECT_EQ(cell(*list, 0, 0).leftExpansion(), 0);
     EXPECT_EQ(cell(*list, 0, 1).leftExpansion(), 0);
     EXPECT_EQ(cell(*list, 0, 1).referenceCodeLabel().text, "");
@@ -140,7 +140,7 @@ TEST_F(GroupedListsTest, ADemonstrationConsoleShowsAllItsPartitionsInOneGroup)
     EXPECT_THAT(names(*list), ElementsAre(QStringList({"b", "a"})));
     EXPECT_EQ(list->header()->subtitleLabel()->text(), "3 Jul 2026, 10:25");
     const std::vector<LoggedLine> log = lines(partitionsFile);
-    EXPECT_THAT(lineNumbers(log), ElementsAre(36, 191, 194, 197, 194, 194, 194, 197));
+    EXPECT_THAT(lineNumbers(log), ElementsAre(36, 191, 194, 197, 194, 197, 194, 197, 194, 197));
     EXPECT_EQ(log[0].message, "LPListViewController instantiation");
     EXPECT_EQ(log[1].method, "-[LPListViewController seperatePartitionsBySystemFromXML:]");
     EXPECT_EQ(log[1].message, "LPListViewController: Seperating partitions");

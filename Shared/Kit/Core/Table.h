@@ -168,18 +168,20 @@ private:
     bool m_refreshing = false;
 };
 
-/// A button that a swiped cell uncovers: its title, or a picture by its resource name, which the title then describes.
+/// A button that a swiped cell uncovers: its title, or a picture by its resource name.
 struct SwipeButton {
     Q_GADGET
     QML_VALUE_TYPE(swipeButton)
     Q_PROPERTY(QString title MEMBER title)
     Q_PROPERTY(QColor backgroundColor MEMBER backgroundColor)
     Q_PROPERTY(QString imageName MEMBER imageName)
+    Q_PROPERTY(QString spoken MEMBER spoken)
 
 public:
     QString title;
     QColor backgroundColor;
     QString imageName{};
+    QString spoken{}; ///< what is said of a picture without a title
     friend bool operator==(const SwipeButton&, const SwipeButton&) = default;
 };
 

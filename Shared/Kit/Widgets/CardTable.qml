@@ -119,8 +119,6 @@ FocusScope {
     ListView {
         id: list
 
-        property bool reachedPull: false
-
         anchors.fill: parent
         model: view.table
         reuseItems: true

@@ -10,6 +10,8 @@ Rectangle {
     id: control
 
     required property var titles
+    /// What is chosen, for those who do not see it.
+    required property string label
     property int currentIndex: 0
     signal activated(int index)
 
@@ -17,6 +19,7 @@ Rectangle {
     radius: Theme.fieldRadius
     color: Theme.well
     Accessible.role: Accessible.PageTabList
+    Accessible.name: label
 
     function choose(index: int) {
         if (index !== currentIndex && index >= 0 && index < titles.length) {

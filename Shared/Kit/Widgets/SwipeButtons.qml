@@ -49,7 +49,7 @@ FocusScope {
             z: fill > 0 ? 1 : -index
             text: modelData.title
             Accessible.role: Accessible.Button
-            Accessible.name: text !== "" ? text : picture
+            Accessible.name: text !== "" ? text : modelData.spoken ?? ""
             onClicked: view.tapped(index)
             Keys.onReturnPressed: button.clicked()
             Keys.onEnterPressed: button.clicked()

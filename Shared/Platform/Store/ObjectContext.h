@@ -27,8 +27,9 @@ struct AttributeDescription {
     AttributeType type;
 };
 
-/// An entity's attributes in storage order, and how to make an empty object of it.
 class ManagedObject;
+
+/// An entity's attributes in storage order, and how to make an empty object of it.
 struct EntityDescription {
     std::string name;
     std::vector<AttributeDescription> attributes;

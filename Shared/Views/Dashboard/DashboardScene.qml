@@ -180,8 +180,8 @@ PageScaffold {
                 columns: figures.stacked ? 1 : 3
                 rowSpacing: 24
                 leftPadding: 6
+                rightPadding: 6
                 columnSpacing: 12
-                layoutDirection: Theme.mirrored ? Qt.RightToLeft : Qt.LeftToRight
 
                 Figure {
                     count: scene.dashboard.corvelOnlineCount
@@ -218,7 +218,7 @@ PageScaffold {
 
                 visible: !scene.dashboard.corvelOnlineCount.hidden
                 color: Theme.hairline
-                x: figures.stacked ? 10 : Math.round(place * figures.column)
+                x: !figures.stacked ? Math.round(place * figures.column) : Theme.mirrored ? 15 : 10
                 y: figures.stacked ? Math.round(figureGrid.y + place * step - figureGrid.rowSpacing / 2)
                                    : figureGrid.y + 4
                 width: figures.stacked ? figures.width - 25 : thickness
@@ -234,7 +234,6 @@ PageScaffold {
             width: parent.width
             columns: paired ? 2 : 1
             columnSpacing: 12
-            layoutDirection: Theme.mirrored ? Qt.RightToLeft : Qt.LeftToRight
 
             Column {
                 width: charts.cell

@@ -33,9 +33,9 @@ constexpr GroupedListTraits traits = {
 
 constexpr int expandingButton = 0;
 
-SwipeButton pictureButton(const char* image, const QColor& color)
+SwipeButton checkButton(const QColor& color)
 {
-    return {QString(), color, QString::fromLatin1(image)};
+    return {QString(), color, QStringLiteral("check"), VIOSViewController::tr("Check")};
 }
 
 } // namespace
@@ -45,10 +45,10 @@ VIOSViewController::VIOSViewController() : GroupedListViewController(traits) {}
 void VIOSViewController::completeCell(PartitionCell& cell, const XMLElement& partition) const
 {
     if (partition.child("PartitionState").text() == "not activated") {
-        cell.setLeftButtons({pictureButton("check", UIColor::tesselLightGreen())}, expandingButton);
+        cell.setLeftButtons({checkButton(UIColor::tesselLightGreen())}, expandingButton);
     } else {
-        cell.setLeftButtons({pictureButton("check", UIColor::tesselBlue()), pictureButton("fav", UIColor::errorRed())},
-                            expandingButton);
+        const SwipeButton favourite{QString(), UIColor::errorRed(), QStringLiteral("fav"), tr("Favourite")};
+        cell.setLeftButtons({checkButton(UIColor::tesselBlue()), favourite}, expandingButton);
     }
 }
 

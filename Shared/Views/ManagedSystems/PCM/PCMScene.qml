@@ -99,6 +99,7 @@ PageScaffold {
             width: page.width < 600 ? parent.width : Math.min(parent.width, 360)
             anchors.horizontalCenter: parent.horizontalCenter
             titles: [qsTr("Processors"), qsTr("Memory")]
+            label: qsTr("Metrics")
             currentIndex: scene.performance.typeSegmentedControl.selectedSegmentIndex
             onActivated: index => scene.performance.selectedSegmentedIndex(index)
         }
