@@ -4,10 +4,10 @@
 #include "Application/IntroView.h"
 #include "Application/Passcode.h"
 #include "Application/PasswordCreationViewController.h"
-#include "Kit/Core/NavigationController.h"
 #include "Kit/Core/Storyboard.h"
 #include "Kit/Core/TabBarController.h"
 #include "Platform/UserDefaults.h"
+#include "Views/Common/SceneInputs.h"
 
 #include <QCoreApplication>
 
@@ -125,10 +125,10 @@ void SettingsViewController::showIntroTour()
 
 void SettingsViewController::pushWithoutTitle(std::string_view identifier)
 {
-    const auto screen = Storyboard::main().instantiateViewController(identifier);
-    if (screen && navigationController() != nullptr) {
+    // Emptied before the push: the pushed screen's bar reads its back button's text once, as it is made.
+    if (Storyboard::main().hasScene(identifier) && navigationController() != nullptr) {
         setTitle(QStringLiteral(""));
-        navigationController()->pushViewController(screen, Animated::Yes);
+        openScene(*this, identifier, {});
     }
 }
 

@@ -4,13 +4,12 @@
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
-#include "Kit/Core/NavigationController.h"
 #include "Kit/Core/Storyboard.h"
 #include "Kit/Core/TabBarController.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/UserDefaults.h"
-#include "Views/Common/CorvelReceiving.h"
 #include "Views/Common/Registry.h"
+#include "Views/Common/SceneInputs.h"
 #include "Views/Corvels/CorvelListCell.h"
 #include "Views/Corvels/DeltaCorvelViewController.h"
 
@@ -215,14 +214,7 @@ void CorvelListViewController::didSelectRowAtIndexPath(TableKind /*tableView*/, 
     if (!corvel || !corvel->completedFetch || !corvel->isOnline) {
         return;
     }
-    if (const auto tasks = Storyboard::main().instantiateViewController("corvelTasksViewController")) {
-        if (auto* receiver = dynamic_cast<CorvelReceiving*>(tasks.get())) {
-            receiver->setCorvel(corvel);
-        }
-        if (navigationController() != nullptr) {
-            navigationController()->pushViewController(tasks, Animated::Yes);
-        }
-    }
+    openScene(*this, "corvelTasksViewController", {.corvel = corvel});
     m_tableView.deselectRow(indexPath);
 }
 
@@ -288,10 +280,7 @@ void CorvelListViewController::openFeedback()
 
 void CorvelListViewController::openSettings()
 {
-    const auto settings = Storyboard::main().instantiateViewController("settingsViewController");
-    if (settings && navigationController() != nullptr) {
-        navigationController()->pushViewController(settings, Animated::Yes);
-    }
+    openScene(*this, "settingsViewController", {});
 }
 
 void CorvelListViewController::resizeModal(double keyboardHeight, Up up)
