@@ -28,11 +28,6 @@ constexpr IndexPath licenceRow{1, 3};
 constexpr double sheetHeightWithOldPasscode = 164;
 constexpr double sheetHeight = 119;
 
-double restingSheetHeight()
-{
-    return Passcode::exists() ? sheetHeightWithOldPasscode : sheetHeight;
-}
-
 } // namespace
 
 QString SettingsViewController::version() const
@@ -132,29 +127,15 @@ void SettingsViewController::pushWithoutTitle(std::string_view identifier)
     }
 }
 
-void SettingsViewController::resizeModal(double keyboardHeight, Up up)
+double SettingsViewController::restingSheetHeight() const
 {
-    resizeSemiView(restingSheetHeight() + (up == Up::Yes ? keyboardHeight : 0));
+    return Passcode::exists() ? sheetHeightWithOldPasscode : sheetHeight;
 }
 
 void SettingsViewController::hideModalView()
 {
     dismissSemiModalView();
     turnOffWithoutPasscode();
-}
-
-void SettingsViewController::keyboardWillShow(double keyboardHeight)
-{
-    if (isInWindow()) {
-        resizeModal(keyboardHeight, Up::Yes);
-    }
-}
-
-void SettingsViewController::keyboardWillHide()
-{
-    if (isInWindow()) {
-        resizeModal(0, Up::No);
-    }
 }
 
 } // namespace lodestar

@@ -4,8 +4,8 @@
 #include "Application/ControlOutlets.h"
 #include "Kit/Core/Menu.h"
 #include "Kit/Core/PagedIntro.h"
+#include "Kit/Core/SheetHostController.h"
 #include "Kit/Core/Table.h"
-#include "Kit/Core/ViewController.h"
 #include "Platform/NotificationCenter.h"
 
 #include <string_view>
@@ -15,7 +15,7 @@ namespace lodestar
 
 /// The settings: whether a passcode is required, which is the application's only preference, and the ways to the intro
 /// tour and the about screens. Main thread.
-class SettingsViewController : public lodestar::ViewController, public PagedIntroDelegate
+class SettingsViewController : public lodestar::SheetHostController, public PagedIntroDelegate
 {
     Q_OBJECT
     QML_ELEMENT
@@ -30,8 +30,6 @@ class SettingsViewController : public lodestar::ViewController, public PagedIntr
     Q_PROPERTY(QString version READ version CONSTANT)
 
 public:
-    enum class Up { No, Yes };
-
     SwitchOutlet* passwordSwitch() { return &m_passwordSwitch; }
     /// The row that changes the passcode: disabled it takes no touches.
     ControlOutlet* passwordCell() { return &m_passwordCell; }
@@ -51,11 +49,7 @@ public:
     void didSelectRowAtIndexPath(IndexPath indexPath);
     Q_INVOKABLE void selectRow(int section, int row) { didSelectRowAtIndexPath({section, row}); }
 
-    /// Heights in points: the sheet stands on the keyboard.
-    void resizeModal(double keyboardHeight, Up up);
     void hideModalView();
-    Q_INVOKABLE void keyboardWillShow(double keyboardHeight);
-    Q_INVOKABLE void keyboardWillHide();
     /// Nothing: the settings are as they were.
     void introDidFinish() override {}
 
@@ -63,6 +57,7 @@ protected:
     void viewDidLoad() override;
     void viewDidAppear() override;
     void viewDidDisappear() override { viewWillDisappear(); }
+    double restingSheetHeight() const override;
 
 private:
     void viewWillDisappear();

@@ -270,7 +270,7 @@ void CorvelListViewController::addCorvel()
 
 void CorvelListViewController::presentEditor(const std::shared_ptr<DeltaCorvelViewController>& editor)
 {
-    presentSemiViewController(editor, {.pushParentBack = false, .height = sheetHeight});
+    presentSemiViewController(editor, {.pushParentBack = false, .height = restingSheetHeight()});
 }
 
 void CorvelListViewController::openFeedback()
@@ -283,9 +283,9 @@ void CorvelListViewController::openSettings()
     openScene(*this, "settingsViewController", {});
 }
 
-void CorvelListViewController::resizeModal(double keyboardHeight, Up up)
+double CorvelListViewController::restingSheetHeight() const
 {
-    resizeSemiView(up == Up::Yes ? keyboardHeight + sheetHeight : sheetHeight);
+    return sheetHeight;
 }
 
 void CorvelListViewController::hideModalView()
@@ -300,20 +300,6 @@ void CorvelListViewController::showCorvels()
         m_tableView.setHidden(false);
     }
     m_tableView.reloadData();
-}
-
-void CorvelListViewController::keyboardWillShow(double keyboardHeight)
-{
-    if (isInWindow()) {
-        resizeModal(keyboardHeight, Up::Yes);
-    }
-}
-
-void CorvelListViewController::keyboardWillHide()
-{
-    if (isInWindow()) {
-        resizeModal(0, Up::No);
-    }
 }
 
 void CorvelListViewController::statusWillShow()

@@ -3,8 +3,8 @@
 
 #include "Application/Model/Corvel.h"
 #include "Kit/Core/PagedIntro.h"
+#include "Kit/Core/SheetHostController.h"
 #include "Kit/Core/Table.h"
-#include "Kit/Core/ViewController.h"
 #include "Platform/Error.h"
 #include "Platform/NotificationCenter.h"
 
@@ -18,7 +18,7 @@ class DeltaCorvelViewController;
 
 /// The console list: every registered console with its version, address and health, refreshed from the consoles on
 /// load and on pull. Its rows are the working list's records in list order, one section. Main thread.
-class CorvelListViewController : public lodestar::ViewController, public TableDataSource, public PagedIntroDelegate
+class CorvelListViewController : public lodestar::SheetHostController, public TableDataSource, public PagedIntroDelegate
 {
     Q_OBJECT
     QML_ELEMENT
@@ -29,8 +29,6 @@ class CorvelListViewController : public lodestar::ViewController, public TableDa
     Q_PROPERTY(bool feedbackHidden READ isFeedbackHidden CONSTANT)
 
 public:
-    /// Where the keyboard stands when the sheet is to make room.
-    enum class Up { No, Yes };
     enum class FromExpansion { No, Yes };
     enum class SwipeDirection { LeftToRight, RightToLeft };
 
@@ -70,18 +68,15 @@ public:
     /// The same for a button on the right that was tapped or reached by key.
     Q_INVOKABLE bool swipeTableCell(int row, int tappedButtonAtIndex);
 
-    /// Heights in points: the sheet stands on the keyboard.
-    void resizeModal(double keyboardHeight, Up up);
     void hideModalView();
     /// The rows, whether or not there were any before.
     void showCorvels();
-    Q_INVOKABLE void keyboardWillShow(double keyboardHeight);
-    Q_INVOKABLE void keyboardWillHide();
     void statusWillShow();
     void statusShouldHide();
 
 protected:
     void viewDidLoad() override;
+    double restingSheetHeight() const override;
 
 private:
     void observeNotifications();
