@@ -79,8 +79,9 @@ SheetContent {
                 anchors.verticalCenter: parent.verticalCenter
                 wrapMode: Text.Wrap
             }
-            Rule {
-                sheet: scene.sheet
+            InsetHairline {
+                separatorLeft: scene.sheet.separatorLeft
+                separatorRight: scene.sheet.separatorRight
             }
         }
     }
@@ -88,12 +89,6 @@ SheetContent {
         outlet: scene.sheet.alert
     }
 
-    component Rule: Hairline {
-        required property PasswordCreationViewController sheet
-
-        x: Theme.mirrored ? sheet.separatorRight : sheet.separatorLeft
-        width: parent.width - sheet.separatorLeft - sheet.separatorRight
-    }
     component PasscodeRow: FormField {
         id: field
 
@@ -106,8 +101,9 @@ SheetContent {
         rowHeight: sheet.heightForRowAtIndexPath(row)
         onReturnPressed: sheet.textFieldShouldReturn(outlet)
 
-        Rule {
-            sheet: field.sheet
+        InsetHairline {
+            separatorLeft: field.sheet.separatorLeft
+            separatorRight: field.sheet.separatorRight
             visible: field.ruled
         }
     }

@@ -10,9 +10,9 @@ PageScaffold {
     id: scene
 
     readonly property SettingsViewController settings: controller as SettingsViewController
-    readonly property var inputMethod: Qt.inputMethod
-    /// Points of the window that the keyboard covers.
-    readonly property real keyboardHeight: inputMethod.visible ? inputMethod.keyboardRectangle.height : 0
+    readonly property SheetKeyboard keyboard: SheetKeyboard {
+        host: scene.settings
+    }
 
     Keys.onUpPressed: moveKeyboard(false)
     Keys.onDownPressed: moveKeyboard(true)
@@ -21,13 +21,6 @@ PageScaffold {
         const next = Window.activeFocusItem?.nextItemInFocusChain(forward) ?? null;
         if (next !== null) {
             next.forceActiveFocus(forward ? Qt.TabFocusReason : Qt.BacktabFocusReason);
-        }
-    }
-    onKeyboardHeightChanged: {
-        if (keyboardHeight > 0) {
-            settings.keyboardWillShow(keyboardHeight);
-        } else {
-            settings.keyboardWillHide();
         }
     }
 

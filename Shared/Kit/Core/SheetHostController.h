@@ -6,7 +6,8 @@
 namespace lodestar
 {
 
-/// A screen whose semi-modal sheet is a form: while the keyboard is up the sheet stands on it. Main thread.
+/// A screen whose semi-modal sheet is a form: while the keyboard is up the sheet stands on it. Its scene tells it of
+/// the keyboard through SheetKeyboard. Main thread.
 class SheetHostController : public lodestar::ViewController
 {
     Q_OBJECT

@@ -11,16 +11,8 @@ PageScaffold {
 
     readonly property CorvelListViewController corvels: controller as CorvelListViewController
     readonly property bool sheetUp: corvels.semiModal !== null
-    readonly property var inputMethod: Qt.inputMethod
-    /// Points of the window that the keyboard covers.
-    readonly property real keyboardHeight: inputMethod.visible ? inputMethod.keyboardRectangle.height : 0
-
-    onKeyboardHeightChanged: {
-        if (keyboardHeight > 0) {
-            corvels.keyboardWillShow(keyboardHeight);
-        } else {
-            corvels.keyboardWillHide();
-        }
+    readonly property SheetKeyboard keyboard: SheetKeyboard {
+        host: scene.corvels
     }
 
     bar: RootBar {

@@ -69,8 +69,9 @@ SheetContent {
             busy: scene.editor.busy
             width: form.width
 
-            Rule {
-                editor: scene.editor
+            InsetHairline {
+                separatorLeft: scene.editor.separatorLeft
+                separatorRight: scene.editor.separatorRight
             }
         }
     }
@@ -83,14 +84,6 @@ SheetContent {
         }
     }
 
-    component Rule: Hairline {
-        id: rule
-
-        required property DeltaCorvelViewController editor
-
-        x: Theme.mirrored ? rule.editor.separatorRight : rule.editor.separatorLeft
-        width: parent.width - rule.editor.separatorLeft - rule.editor.separatorRight
-    }
     component EditorField: FormField {
         id: field
 
@@ -101,8 +94,9 @@ SheetContent {
         opacity: field.editor.busy ? 0.5 : 1
         onReturnPressed: field.editor.textFieldShouldReturn(outlet)
 
-        Rule {
-            editor: field.editor
+        InsetHairline {
+            separatorLeft: field.editor.separatorLeft
+            separatorRight: field.editor.separatorRight
             visible: field.ruled
         }
     }

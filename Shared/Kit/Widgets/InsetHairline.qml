@@ -1,0 +1,12 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+
+/// The hairline on top of a form's row, which keeps off the row's two ends; they change sides in a mirrored layout.
+Hairline {
+    required property real separatorLeft
+    required property real separatorRight
+
+    x: Theme.mirrored ? separatorRight : separatorLeft
+    width: parent.width - separatorLeft - separatorRight
+}
