@@ -7,6 +7,7 @@
 #include "Feedback/LogListeners.h"
 #include "Feedback/LogText.h"
 #include "Feedback/LogWriter.h"
+#include "Platform/Queues/OwnThread.h"
 
 #include <fmt/format.h>
 
@@ -75,7 +76,7 @@ std::string formatted(const VireoLogger::Entry& entry)
     std::string line;
     line.reserve(160 + entry.message.size() + entry.stacktrace.size() * 15);
     appendTime(line);
-    fmt::format_to(std::back_inserter(line), " {} {} [{}] {}:{} {} ", entry.level, entry.tag, ::gettid(),
+    fmt::format_to(std::back_inserter(line), " {} {} [{}] {}:{} {} ", entry.level, entry.tag, OwnThread::number(),
                    entry.fileName, entry.line, entry.method);
     appendLogText(line, entry.message);
     return line;

@@ -2,8 +2,17 @@
 #include "Platform/Queues/OwnThread.h"
 
 #include <csignal>
+#include <cstddef>
 #include <pthread.h>
+#include <sched.h>
 #include <sys/mman.h>
+
+#if defined(__linux__)
+#include <unistd.h>
+#elif !defined(__APPLE__)
+#include <functional>
+#include <thread>
+#endif
 
 namespace lodestar
 {
@@ -55,6 +64,27 @@ OwnThread::~OwnThread()
         ::sigaltstack(&none, nullptr);
         ::munmap(m_stack, stackBytes);
     }
+}
+
+void OwnThread::takeIdlePriority()
+{
+#ifdef SCHED_IDLE
+    const sched_param parameters{};
+    ::pthread_setschedparam(::pthread_self(), SCHED_IDLE, &parameters);
+#endif
+}
+
+std::uint64_t OwnThread::number()
+{
+#if defined(__linux__)
+    return static_cast<std::uint64_t>(::gettid());
+#elif defined(__APPLE__)
+    std::uint64_t number = 0;
+    ::pthread_threadid_np(nullptr, &number);
+    return number;
+#else
+    return std::hash<std::thread::id>()(std::this_thread::get_id());
+#endif
 }
 
 } // namespace lodestar

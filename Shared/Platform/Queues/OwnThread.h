@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <cstddef>
+#include <cstdint>
 
 namespace lodestar
 {
@@ -16,6 +16,13 @@ public:
     ~OwnThread();
     OwnThread(const OwnThread&) = delete;
     OwnThread& operator=(const OwnThread&) = delete;
+
+    /// Lets the calling thread run only when nothing else wants the processor, for good. Where the system has no such
+    /// priority the thread keeps the one it has.
+    static void takeIdlePriority();
+    /// What the system's own tools call the calling thread; where it has no numbers for threads, one that tells the
+    /// threads of this process apart while they live.
+    static std::uint64_t number();
 
 private:
     void* m_stack = nullptr;

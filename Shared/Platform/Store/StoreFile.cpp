@@ -201,7 +201,7 @@ class ScratchFile
 public:
     explicit ScratchFile(const std::string& base) : m_path(base + "-XXXXXX")
     {
-        if (const int descriptor = ::mkostemp(m_path.data(), O_CLOEXEC); descriptor >= 0) {
+        if (const int descriptor = makeFile(m_path.data()); descriptor >= 0) {
             ::close(descriptor);
         } else {
             m_error = errno;
@@ -220,17 +220,38 @@ public:
     int error() const { return m_error; }
     const std::string& path() const { return m_path; }
 
-    /// Never replaces a file: a store that came into being meanwhile stays.
+    /// Never replaces a file, where the disk has any means of that: a store that came into being meanwhile stays.
     int moveTo(const std::string& target)
     {
+#ifdef RENAME_NOREPLACE
         if (::renameat2(AT_FDCWD, m_path.c_str(), AT_FDCWD, target.c_str(), RENAME_NOREPLACE) == 0 || errno == EEXIST) {
             return 0;
         }
-        const bool unsupported = errno == EINVAL || errno == ENOSYS;
+        if (errno != EINVAL && errno != ENOSYS) {
+            return errno;
+        }
+#endif
+        if (::link(m_path.c_str(), target.c_str()) == 0) {
+            ::unlink(m_path.c_str());
+            return 0;
+        }
+        if (errno == EEXIST) {
+            return 0;
+        }
+        const bool unsupported = errno == EPERM || errno == EOPNOTSUPP || errno == ENOSYS || errno == EMLINK;
         return unsupported && std::rename(m_path.c_str(), target.c_str()) == 0 ? 0 : errno;
     }
 
 private:
+    static int makeFile(char* pattern)
+    {
+#if defined(__linux__)
+        return ::mkostemp(pattern, O_CLOEXEC);
+#else
+        return ::mkstemp(pattern); // closed at once: a child of that instant inherits an empty file at worst
+#endif
+    }
+
     std::string m_path;
     int m_error = 0;
 };

@@ -11,8 +11,6 @@
 #include <algorithm>
 #include <array>
 #include <cstdint>
-#include <pthread.h>
-#include <sched.h>
 #include <thread>
 
 namespace lodestar
@@ -129,15 +127,6 @@ PieChartData pieData(const StateCounts& counts, const QList<QColor>& colors, dou
     return data;
 }
 
-/// Lets the calling thread run only when nothing else wants the processor.
-void takeIdlePriority()
-{
-#ifdef SCHED_IDLE
-    const sched_param parameters{};
-    pthread_setschedparam(pthread_self(), SCHED_IDLE, &parameters);
-#endif
-}
-
 } // namespace
 
 DashboardTableViewController::DashboardTableViewController()
@@ -163,7 +152,7 @@ void DashboardTableViewController::viewDidAppear()
     // One wait an appearance: shown twice while a wait runs, the dashboard is drawn twice.
     std::thread([dashboard = weak_from_this(), stop = m_stopWaiting.get_token()] {
         const OwnThread thread("lodestar-wait");
-        takeIdlePriority();
+        OwnThread::takeIdlePriority();
         waitForRequestToEnd(dashboard, stop);
     }).detach();
 }
