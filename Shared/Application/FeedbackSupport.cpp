@@ -12,12 +12,14 @@
 #include "Feedback/VireoLogger.h"
 #include "Platform/Queues/DispatchQueue.h"
 #include "Platform/UserDefaults.h"
+#include "Platform/UtcStamp.h"
 
 #include <QInputDevice>
 #include <QPointer>
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <ctime>
 
 namespace lodestar
 {
@@ -68,7 +70,7 @@ FeedbackSetup setupFor(const QString& dataFolder, const QString& version)
             .facts =
                 [version = version.toStdString()] {
                     Report report;
-                    report.made = reportTimeNow();
+                    report.made = utcStamp(std::time(nullptr));
                     report.version = version;
                     report.system = systemDescription();
                     report.session = VireoLogger::sessionIdentifier();

@@ -4,7 +4,7 @@
 #include "Feedback/CrashModules.h"
 #include "Feedback/LogText.h"
 #include "Feedback/LogWriter.h"
-#include "Feedback/PrivateFile.h"
+#include "Platform/PrivateFile.h"
 
 #include <fmt/core.h>
 
@@ -55,19 +55,8 @@ class SafeWriter
 {
 public:
     explicit SafeWriter(int descriptor) : m_descriptor(descriptor) {}
-    void text(const char* bytes, std::size_t count)
-    {
-        while (count > 0) {
-            const ssize_t written = ::write(m_descriptor, bytes, count);
-            if (written <= 0 && !(written < 0 && errno == EINTR)) {
-                return; // nowhere to write to: the crash goes its way unrecorded
-            }
-            if (written > 0) {
-                bytes += written;
-                count -= static_cast<std::size_t>(written);
-            }
-        }
-    }
+    /// With nowhere to write to the crash goes its way unrecorded.
+    void text(const char* bytes, std::size_t count) { writeFully(m_descriptor, {bytes, count}); }
     void text(const char* words) { text(words, std::strlen(words)); }
     void number(std::uintptr_t value, unsigned base)
     {
@@ -189,14 +178,14 @@ void handleCrash(int signal, siginfo_t* info, void* context)
 
 Result<int> openFile(const std::string& folder)
 {
-    if (const Result<void> made = makePrivateFolder(folder); !made) {
+    if (const Result<void> made = makePrivateFolder(folder, FolderThere::Tightened); !made) {
         return made.error();
     }
     const std::string path = fmt::format("{}/crash-{}-{:08x}", folder, ::getpid(), std::random_device()());
     const int descriptor =
         ::open(path.c_str(), O_RDWR | O_APPEND | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
     if (descriptor < 0) {
-        return reportError("Crashes will go unrecorded", errno);
+        return fileError("Crashes will go unrecorded", errno);
     }
     // Locked for life: a start beside this one must not take the file for a dead run's.
     ::flock(descriptor, LOCK_EX | LOCK_NB);
@@ -232,9 +221,10 @@ Result<void> CrashCapture::install(const std::string& folder, const Run& run)
     header += "\nsession ";
     appendLogText(header, run.session);
     header += '\n';
-    if (Result<void> written = writeFully(opened.value(), header); !written) {
+    if (writeFully(opened.value(), header) < header.size()) {
+        const int code = errno;
         ::close(opened.value());
-        return written;
+        return fileError("Crashes will go unrecorded", code);
     }
     const bool isFirst = state.lastLines == nullptr;
     state.lastLines = &LogWriter::shared().lastLines();

@@ -4,9 +4,10 @@
 #include "Feedback/CrashRecord.h"
 #include "Feedback/CrashSymbols.h"
 #include "Feedback/LogTail.h"
-#include "Feedback/PrivateFile.h"
 #include "Feedback/Redaction.h"
 #include "Feedback/VireoLogger.h"
+#include "Platform/PrivateFile.h"
+#include "Platform/UtcStamp.h"
 
 #include <fmt/core.h>
 
@@ -40,14 +41,6 @@ bool isAbandoned(const std::string& path)
     return abandoned;
 }
 
-std::string timeText(std::time_t time)
-{
-    struct tm utc = {};
-    ::gmtime_r(&time, &utc);
-    char text[32];
-    return {text, std::strftime(text, sizeof text, "%Y-%m-%dT%H:%M:%SZ", &utc)};
-}
-
 /// The log of that run: what had been written, and what had not.
 std::string logOf(const CrashRecord& record, const std::string& logFolder)
 {
@@ -66,7 +59,7 @@ ReportBundle bundleOf(const CrashRecord& record, const CrashSources& sources, bo
 {
     ReportBundle bundle;
     bundle.kind = Report::Kind::Crash;
-    bundle.made = timeText(record.time);
+    bundle.made = utcStamp(record.time);
     bundle.version = record.version;
     bundle.system = systemDescription();
     bundle.session = record.session;

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/LogTail.h"
 
+#include "Platform/PrivateFile.h"
+
 #include <fmt/core.h>
 
-#include <cerrno>
-#include <fcntl.h>
-#include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace lodestar
 {
@@ -17,30 +17,8 @@ namespace
 /// The end of a file, at most so many bytes; empty when it cannot be read.
 std::string endOf(const std::string& path, std::size_t bytes)
 {
-    const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
-    struct stat status = {};
-    std::string text;
-    if (descriptor >= 0 && ::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode)) {
-        const auto size = static_cast<std::size_t>(status.st_size);
-        text.resize(size < bytes ? size : bytes);
-        std::size_t done = 0;
-        while (done < text.size()) {
-            const auto from = static_cast<off_t>(size - text.size() + done);
-            const ssize_t count = ::pread(descriptor, text.data() + done, text.size() - done, from);
-            if (count < 0 && errno == EINTR) {
-                continue;
-            }
-            if (count <= 0) {
-                break;
-            }
-            done += static_cast<std::size_t>(count);
-        }
-        text.resize(done);
-    }
-    if (descriptor >= 0) {
-        ::close(descriptor);
-    }
-    return text;
+    Result<std::string> end = readPrivateFile(path, bytes, FilePart::End);
+    return end ? std::move(end).value() : std::string();
 }
 
 /// The last so many bytes of the text, from the start of a line.

@@ -2,11 +2,11 @@
 #include "Feedback/ReportBundle.h"
 
 #include "Feedback/LogText.h"
+#include "Platform/PrivateFile.h"
 
 #include <fmt/core.h>
 
 #include <array>
-#include <ctime>
 #include <fstream>
 #include <sys/utsname.h>
 
@@ -132,13 +132,11 @@ std::string systemDescription()
     return text;
 }
 
-std::string reportTimeNow()
+Error reportError(std::string_view attempt, int code)
 {
-    const std::time_t now = std::time(nullptr);
-    struct tm utc = {};
-    ::gmtime_r(&now, &utc);
-    return fmt::format("{:04}-{:02}-{:02}T{:02}:{:02}:{:02}Z", utc.tm_year + 1900, utc.tm_mon + 1, utc.tm_mday,
-                       utc.tm_hour, utc.tm_min, utc.tm_sec);
+    Error error = fileError(attempt, code);
+    error.domain = reportErrorDomain;
+    return error;
 }
 
 } // namespace lodestar

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Platform/Error.h"
+
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -16,7 +18,7 @@ struct Report {
 
     std::string identifier; ///< the name of its folder: letters, digits, hyphens
     Kind kind = Kind::Feedback;
-    std::string made;    ///< as in "2024-05-30T09:12:44Z"
+    std::string made;    ///< as `utcStamp` has it
     std::string version; ///< of the application
     std::string system;  ///< operating system and processor; never the device's name
     std::string session; ///< of the run that it tells about
@@ -49,7 +51,10 @@ std::optional<Report> parseReportText(std::string_view text);
 
 /// The operating system's name, kernel and processor. The device's own name is left out: it often is a person's.
 std::string systemDescription();
-/// The present second, as `Report::made` has it.
-std::string reportTimeNow();
+
+/// Domain of the errors of reports. Those of the disk have the codes of `errno`.
+inline constexpr std::string_view reportErrorDomain = "Feedback";
+/// An error of that domain: what was tried, and the system's words for why it failed.
+Error reportError(std::string_view attempt, int code);
 
 } // namespace lodestar

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/ReportSender.h"
 
-#include "Feedback/PrivateFile.h"
 #include "Feedback/ReportArchive.h"
 #include "Platform/URLLoading/URLConnection.h"
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/ReportStore.h"
 
-#include "Feedback/PrivateFile.h"
 #include "Feedback/ReportArchive.h"
+#include "Platform/PrivateFile.h"
+#include "Platform/UtcStamp.h"
 
 #include <fmt/core.h>
 
@@ -11,7 +12,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
-#include <fcntl.h>
+#include <ctime>
 #include <filesystem>
 #include <functional>
 #include <random>
@@ -44,15 +45,6 @@ std::string newIdentifier(const std::string& made)
     std::string time = made;
     std::erase_if(time, [](char c) { return c < '0' || c > '9'; });
     return fmt::format("{}-{:08x}", time.substr(0, 14), std::random_device()());
-}
-
-void syncFolder(const std::string& folder)
-{
-    const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
-    if (descriptor >= 0) {
-        ::fsync(descriptor);
-        ::close(descriptor);
-    }
 }
 
 Result<void> writeFiles(const std::string& folder, const std::vector<ReportFile>& files)
@@ -124,11 +116,11 @@ Result<std::string> ReportStore::save(const ReportBundle& bundle) const
     if (bundle.kind == Report::Kind::Crash) {
         files.push_back({unansweredMark, {}});
     }
-    Result<void> done = makePrivateFolder(m_folder);
+    Result<void> done = makePrivateFolder(m_folder, FolderThere::Tightened);
     if (done) {
         done = makeRoom(bundle.kind);
     }
-    const std::string identifier = newIdentifier(bundle.made.empty() ? reportTimeNow() : bundle.made);
+    const std::string identifier = newIdentifier(bundle.made.empty() ? utcStamp(std::time(nullptr)) : bundle.made);
     const std::string temporary =
         m_folder + "/" + std::string(unfinished) + fmt::format("{}-", ::getpid()) + identifier;
     if (done) {

@@ -1,14 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/RotatingLogFile.h"
 
+#include "Platform/PrivateFile.h"
+
 #include <fmt/core.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <cstdio>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 #include <utility>
 
@@ -40,12 +42,11 @@ RotatingLogFile& RotatingLogFile::operator=(RotatingLogFile&& other) noexcept
 bool RotatingLogFile::open(const std::string& folder, const std::string& name, Limits limits)
 {
     close();
-    std::error_code failure;
-    std::filesystem::create_directories(folder, failure);
-    if (!std::filesystem::is_directory(folder, failure)) {
+    // A folder that is there but cannot be tightened still takes a log.
+    std::error_code ignored;
+    if (!makePrivateFolder(folder, FolderThere::Tightened) && !std::filesystem::is_directory(folder, ignored)) {
         return false;
     }
-    ::chmod(folder.c_str(), S_IRWXU);
     m_path = folder + "/" + name;
     m_limits = limits;
     m_midLine = false;
@@ -96,28 +97,18 @@ void RotatingLogFile::appendPiece(std::string_view lines)
         if (m_bytesLost > 0) {
             repaired += fmt::format("({} bytes of log could not be written)\n", m_bytesLost);
         }
-        if (writeFully(repaired) < repaired.size()) {
+        if (writeBytes(repaired) < repaired.size()) {
             m_bytesLost += lines.size();
             return;
         }
         m_bytesLost = 0;
     }
-    m_bytesLost += lines.size() - writeFully(lines);
+    m_bytesLost += lines.size() - writeBytes(lines);
 }
 
-std::size_t RotatingLogFile::writeFully(std::string_view bytes)
+std::size_t RotatingLogFile::writeBytes(std::string_view bytes)
 {
-    std::size_t written = 0;
-    while (written < bytes.size()) {
-        const ssize_t count = ::write(m_descriptor, bytes.data() + written, bytes.size() - written);
-        if (count < 0 && errno == EINTR) {
-            continue;
-        }
-        if (count <= 0) {
-            break;
-        }
-        written += static_cast<std::size_t>(count);
-    }
+    const std::size_t written = writeFully(m_descriptor, bytes);
     m_size += written;
     if (written > 0) {
         m_midLine = bytes[written - 1] != '\n';

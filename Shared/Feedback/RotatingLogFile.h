@@ -42,7 +42,7 @@ private:
     void rotate();
     std::size_t fittingLength(std::string_view lines) const;
     void appendPiece(std::string_view lines);
-    std::size_t writeFully(std::string_view bytes);
+    std::size_t writeBytes(std::string_view bytes);
 
     std::string m_path;
     std::string m_header;

@@ -8,6 +8,7 @@
 #include "Feedback/LogText.h"
 #include "Feedback/LogWriter.h"
 #include "Platform/Queues/OwnThread.h"
+#include "Platform/UtcStamp.h"
 
 #include <fmt/format.h>
 
@@ -15,7 +16,6 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
-#include <ctime>
 #include <exception>
 #include <iterator>
 #include <mutex>
@@ -59,23 +59,12 @@ SecretsProvider& secretsProvider()
     return provider;
 }
 
-void appendTime(std::string& line)
-{
-    const auto now = std::chrono::system_clock::now().time_since_epoch();
-    const auto milliseconds = std::chrono::duration_cast<std::chrono::milliseconds>(now).count();
-    const auto seconds = static_cast<std::time_t>(milliseconds / 1000);
-    struct tm utc = {};
-    ::gmtime_r(&seconds, &utc);
-    fmt::format_to(std::back_inserter(line), "{:04}-{:02}-{:02}T{:02}:{:02}:{:02}.{:03}Z", utc.tm_year + 1900,
-                   utc.tm_mon + 1, utc.tm_mday, utc.tm_hour, utc.tm_min, utc.tm_sec, milliseconds % 1000);
-}
-
 /// Time, level, tag, thread, place, method, message: the order in which a reader scans.
 std::string formatted(const VireoLogger::Entry& entry)
 {
     std::string line;
     line.reserve(160 + entry.message.size() + entry.stacktrace.size() * 15);
-    appendTime(line);
+    appendUtcStamp(line, std::chrono::system_clock::now());
     fmt::format_to(std::back_inserter(line), " {} {} [{}] {}:{} {} ", entry.level, entry.tag, OwnThread::number(),
                    entry.fileName, entry.line, entry.method);
     appendLogText(line, entry.message);
@@ -101,7 +90,7 @@ std::string fileHeader()
     const std::vector<LoadedModule> modules = loadedModules();
     const std::uintptr_t base = modules.empty() ? 0 : modules.front().base;
     std::string header;
-    appendTime(header);
+    appendUtcStamp(header, std::chrono::system_clock::now());
     fmt::format_to(std::back_inserter(header), " process {}, program loaded at {:x}\n", ::getpid(), base);
     return header;
 }

@@ -1,19 +1,17 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Adapters/FileUserDefaults.h"
 
+#include "Platform/PrivateFile.h"
 #include "Platform/Queues/DispatchQueue.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 
 #include <cstdint>
-#include <fcntl.h>
 #include <map>
 #include <mutex>
 #include <sys/stat.h>
-#include <unistd.h>
 #include <utility>
 #include <variant>
 
@@ -73,16 +71,11 @@ Values read(const QString& path)
 /// Session keys stand in the file: it is private before the first byte goes in.
 void makePrivate(const QString& path)
 {
-    const QString folder = QFileInfo(path).absolutePath();
-    if (!QFileInfo::exists(folder) && QDir().mkpath(folder)) {
-        ::chmod(QFile::encodeName(folder).constData(), S_IRWXU);
-    }
-    const QByteArray name = QFile::encodeName(path);
-    if (const int file = ::open(name.constData(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, S_IRUSR | S_IWUSR);
-        file >= 0) {
-        ::close(file);
-    } else if (QFileInfo(path).isFile()) {
-        ::chmod(name.constData(), S_IRUSR | S_IWUSR);
+    // What cannot be made shows when the values are written.
+    (void)makePrivateFolder(QFile::encodeName(QFileInfo(path).absolutePath()).toStdString());
+    const std::string name = QFile::encodeName(path).toStdString();
+    if (!writePrivateFile(name, {}) && QFileInfo(path).isFile()) {
+        ::chmod(name.c_str(), S_IRUSR | S_IWUSR);
     }
 }
 

@@ -17,7 +17,7 @@ namespace lodestar
 class FileUserDefaults final : public UserDefaults
 {
 public:
-    /// A missing folder is made, 0700, with the first write.
+    /// Missing folders are made, each 0700, with the first write.
     explicit FileUserDefaults(const std::string& path);
     ~FileUserDefaults() override;
     FileUserDefaults(const FileUserDefaults&) = delete;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/Store/StoreFile.h"
 
+#include "Platform/PrivateFile.h"
 #include "Platform/Store/StoreSchema.h"
 
 #include <SQLiteCpp/Statement.h>
@@ -172,29 +173,6 @@ Result<Presence> checkFile(const std::string& path, const ManagedObjectModel& mo
     return Presence::Present;
 }
 
-Result<void> makePrivateFolder(const fs::path& folder)
-{
-    std::error_code ignored;
-    if (folder.empty() || fs::is_directory(folder, ignored)) {
-        return {};
-    }
-    if (Result<void> parent = makePrivateFolder(folder.parent_path()); !parent) {
-        return parent;
-    }
-    if (::mkdir(folder.c_str(), S_IRWXU) != 0 && errno != EEXIST) {
-        return systemError("The store's folder cannot be made.", errno);
-    }
-    return {};
-}
-
-void synchronizeFolder(const fs::path& folder)
-{
-    if (const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); descriptor >= 0) {
-        ::fsync(descriptor);
-        ::close(descriptor);
-    }
-}
-
 /// A file under a name of its own until `moveTo`, gone with its journal otherwise.
 class ScratchFile
 {
@@ -260,9 +238,9 @@ private:
 /// either no store or a whole one.
 Result<void> createStore(const std::string& path, const ManagedObjectModel& model)
 {
-    const fs::path folder = fs::path(path).parent_path();
-    if (Result<void> made = makePrivateFolder(folder); !made) {
-        return made;
+    const std::string folder = fs::path(path).parent_path().string();
+    if (const Result<void> made = makePrivateFolder(folder); !made) {
+        return systemError("The store's folder cannot be made.", made.error().code);
     }
     ScratchFile scratch(path);
     if (scratch.error() != 0) {
@@ -282,7 +260,7 @@ Result<void> createStore(const std::string& path, const ManagedObjectModel& mode
     if (const int number = scratch.moveTo(path); number != 0) {
         return systemError("The store cannot be created.", number);
     }
-    synchronizeFolder(folder);
+    syncFolder(folder);
     return {};
 }
 
