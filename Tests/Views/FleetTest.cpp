@@ -150,7 +150,7 @@ TEST_F(FleetTest, TheEditorAddsAConsoleOnceItHasEverything)
     // The sheet can be pressed until it has slid away.
     editor->cancel();
     EXPECT_THAT(takeNotifications(), ElementsAre());
-    EXPECT_TRUE(RESTHandler::sharedInstance().corvelList().front()->isInserted());
+    EXPECT_FALSE(RESTHandler::sharedInstance().corvelList().front()->isDeleted());
 }
 
 TEST_F(FleetTest, AnEditorWhoseSheetIsGoneAddsItsConsoleBesideTheNextOne)
