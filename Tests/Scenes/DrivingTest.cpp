@@ -34,6 +34,12 @@ protected:
                    ? nullptr
                    : qobject_cast<DeltaCorvelViewController*>(stage.list().semiModal()->controller());
     }
+    static void finishFetches()
+    {
+        for (const CorvelRef& corvel : RESTHandler::sharedInstance().corvelList()) {
+            corvel->completedFetch = true;
+        }
+    }
     void drag(const QQuickItem* item, int by) const
     {
         const QPoint from = centerOf(item);
@@ -169,6 +175,22 @@ TEST_F(DrivingTest, TheSheetStandsOnTheKeyboard)
     EXPECT_TRUE(stage.waitFor([&] { return button("Cancel")->mapToScene({}).y() == before; }));
 }
 
+TEST_F(DrivingTest, TheDashboardReadsFromTheSideWhereReadingBegins)
+{
+    const auto left = [this](const char* words) { return text(words)->mapToScene({}).x(); };
+    for (const bool mirrored : {false, true}) {
+        Appearance::shared().overrideMirrored(mirrored);
+        stage.show({768, 1024}, fleet());
+        stage.showDashboard();
+        finishFetches();
+        ASSERT_TRUE(stage.waitFor([this] { return text("Corvels Online") != nullptr; }));
+        stage.settle();
+        EXPECT_EQ(left("Corvels Online") > left("Attention LEDs"), mirrored);
+        EXPECT_EQ(left("Attention LEDs") > left("Serviceable Events"), mirrored);
+        EXPECT_EQ(left("Managed Systems") > left("Logical Partitions"), mirrored);
+    }
+}
+
 TEST_F(DrivingTest, ATapBesideTheFieldsEndsEditing)
 {
     stage.show({390, 844}, fleet());
@@ -206,9 +228,7 @@ TEST_F(DrivingTest, TheDashboardLoadsAndDraws)
     stage.showDashboard();
     EXPECT_EQ(text("Corvels Online"), nullptr);
     EXPECT_EQ(stage.items("Spinner").size(), 2U);
-    for (const CorvelRef& corvel : RESTHandler::sharedInstance().corvelList()) {
-        corvel->completedFetch = true;
-    }
+    finishFetches();
     ASSERT_TRUE(stage.waitFor([&] { return text("4 / 6") != nullptr; }));
     EXPECT_NE(text("Corvels Online"), nullptr);
     EXPECT_TRUE(stage.items("Spinner").empty());
