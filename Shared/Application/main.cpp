@@ -128,10 +128,11 @@ int main(int argc, char** argv)
     delegate.showInitialViewController();
     window->loadInterface();
     if (options.fullScreen) {
-        // A bare X server has no window manager that would grant the full screen.
+        // A bare X server has no window manager that would grant the full screen, or give a window the keyboard.
         window->setFlag(Qt::FramelessWindowHint);
         window->setGeometry(window->screen()->geometry());
         window->show();
+        window->requestActivate();
     } else {
         window->resize(390, 844);
         window->show();
