@@ -24,7 +24,7 @@ constexpr int feedbackMode = 2;
 
 } // namespace
 
-bool AppDelegate::applicationDidFinishLaunching()
+bool AppDelegate::didFinishLaunchingWithOptions()
 {
     RESTHandler::sharedInstance();
     TabBarAppearance::appearance().selectedImageTintColor = UIColor::selectedBlue();

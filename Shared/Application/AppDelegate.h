@@ -16,7 +16,7 @@ class AppDelegate
 {
 public:
     /// The start-up sequence; a store that cannot be opened ends the process here.
-    bool applicationDidFinishLaunching();
+    bool didFinishLaunchingWithOptions();
     /// Puts a fresh passcode screen in front of whatever is shown, when a passcode is required.
     void applicationDidBecomeActive();
     /// Nothing is saved and nothing is locked at these three.

@@ -13,6 +13,7 @@
 #include "Kit/Core/MainLoop.h"
 #include "Kit/Core/UIFont+System.h"
 #include "Platform/FolderLock.h"
+#include "Platform/PrivateFile.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -22,6 +23,7 @@
 
 #include <cstdio>
 #include <memory>
+#include <tuple>
 
 using namespace lodestar;
 
@@ -59,8 +61,8 @@ QString makeDataFolder(const QString& asked)
 {
     QString folder = asked.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
                                      : QDir(asked).absolutePath();
-    QDir().mkpath(folder);
-    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    // What cannot be made shows when something is to be kept there.
+    std::ignore = makePrivateFolder(folder.toStdString(), FolderThere::Tightened);
     return folder;
 }
 
@@ -111,7 +113,7 @@ int main(int argc, char** argv)
     registerMainStoryboard([&delegate](std::shared_ptr<ViewController> root) {
         delegate.window()->setRootViewController(std::move(root));
     });
-    delegate.applicationDidFinishLaunching();
+    delegate.didFinishLaunchingWithOptions();
 
     FeedbackWindow* window = delegate.window();
     auto feedback = std::make_unique<FeedbackSupport>(*window, dataFolder, QStringLiteral(LODESTAR_VERSION));

@@ -51,7 +51,7 @@ protected:
 TEST_F(AppDelegateTest, StartsTheLibrariesAndTintsTheTabBar)
 {
     VireoLogger::settings() = {};
-    EXPECT_TRUE(m_delegate.applicationDidFinishLaunching());
+    EXPECT_TRUE(m_delegate.didFinishLaunchingWithOptions());
     EXPECT_EQ(TabBarAppearance::appearance().selectedImageTintColor, UIColor::selectedBlue());
     EXPECT_TRUE(VireoLogger::settings().reportOnShake);
     EXPECT_EQ(VireoLogger::settings().mode, 2);

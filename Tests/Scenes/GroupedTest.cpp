@@ -35,7 +35,11 @@ protected:
 
 TEST_F(GroupedTest, AServersButtonsAreShownAndDoNothing)
 {
+    QAccessible::setActive(true);
     VIOSViewController* const list = openList<VIOSViewController>("viosView", {.corvel = demoConsole()});
+    const auto spoken = [](QQuickItem* item) {
+        return QAccessible::queryAccessibleInterface(item)->text(QAccessible::Name);
+    };
     const QPoint from = centerOf(row(1));
     const auto letGo = [&](int by) { QTest::mouseRelease(&stage.window(), Qt::LeftButton, {}, from + QPoint(by, 0)); };
     const auto buttons = [&] {
@@ -52,6 +56,8 @@ TEST_F(GroupedTest, AServersButtonsAreShownAndDoNothing)
     ASSERT_TRUE(stage.waitFor([&] { return reveal(1) == -144; }));
     ASSERT_EQ(buttons().size(), 2U);
     EXPECT_EQ(buttons()[0]->property("picture"), "check");
+    EXPECT_EQ(spoken(buttons()[0]), "Check");
+    EXPECT_EQ(spoken(buttons()[1]), "Favourite");
     EXPECT_LT(buttons()[0]->mapToScene({}).x(), buttons()[1]->mapToScene({}).x());
     click(buttons()[1]);
     ASSERT_TRUE(stage.waitFor([&] { return reveal(1) == 0; }));

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Controllers/REST/RESTHandler.h"
+#include "Kit/Core/CellHost.h"
 #include "Tests/Scenes/SceneTest.h"
 #include "Views/Dashboard/MSOverViewController.h"
 #include "Views/ManagedSystems/MSDetailViewController.h"
@@ -19,6 +20,22 @@ protected:
     {
         stage.show({390, 844}, fleet());
         return &stage.openList<MSListViewController>("managedSystemsView", {.corvel = demoConsole(feeds)});
+    }
+    /// Of all rows that the table has items for, drawn or not.
+    std::vector<const CellHost*> hostsIn(const TableOutlet& table) const
+    {
+        std::vector<const CellHost*> hosts;
+        std::vector<const QQuickItem*> left = {stage.window().contentItem()};
+        while (!left.empty()) {
+            const QQuickItem* const item = left.back();
+            left.pop_back();
+            const QList<QQuickItem*> children = item->childItems();
+            left.insert(left.end(), children.begin(), children.end());
+            if (const auto* const host = qobject_cast<const CellHost*>(item); host && host->table() == &table) {
+                hosts.push_back(host);
+            }
+        }
+        return hosts;
     }
 };
 
@@ -134,6 +151,12 @@ TEST_F(InventoryTest, AHundredThousandRowsMakeDelegatesForTheVisibleOnes)
     ASSERT_TRUE(stage.waitFor([&] { return text("node-99999") != nullptr; }));
     // Those that were left wait for their next use and cost a frame nothing, nor does any text ask for each frame.
     EXPECT_LE(stage.items("StateRow").size(), rows);
+    std::size_t waiting = 0;
+    for (const CellHost* const host : hostsIn(*list->tableView())) {
+        EXPECT_EQ(host->property("pooled").toBool(), !host->isVisible());
+        waiting += host->isVisible() ? 0U : 1U;
+    }
+    EXPECT_GT(waiting, 0U);
     for (const QQuickItem* const item : stage.items("QQuickText")) {
         EXPECT_FALSE(item->flags().testFlag(QQuickItem::ItemObservesViewport)) << item->objectName().toStdString();
     }

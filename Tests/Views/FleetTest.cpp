@@ -10,6 +10,8 @@
 #include "Views/Corvels/DeltaCorvelViewController.h"
 #include "Views/Dashboard/DashboardTableViewController.h"
 
+#include <thread>
+
 namespace lodestar::testing
 {
 namespace
@@ -55,6 +57,15 @@ protected:
         editor.addressField()->setText(QString::fromStdString(fleet.address(console)));
         editor.usernameField()->setText(QString::fromStdString(fleet.user()));
         editor.passwordField()->setText(QString::fromStdString(fleet.password()));
+    }
+    /// An editor that is at work on adding the console.
+    std::shared_ptr<DeltaCorvelViewController> startAdding(int console)
+    {
+        const auto editor = makeController<DeltaCorvelViewController>();
+        editor->loadViewIfNeeded();
+        fill(*editor, console);
+        editor->saveCorvel();
+        return editor;
     }
     void loadAndWait()
     {
@@ -145,12 +156,30 @@ TEST_F(FleetTest, TheEditorAddsAConsoleOnceItHasEverything)
     EXPECT_EQ(list->tableView()->count(), 1);
     EXPECT_FALSE(cell(0).selectionArrow().hidden);
     EXPECT_TRUE(UserDefaults::standard().stringForKey(fleet.address(0)).has_value());
-    EXPECT_THAT(storedNames(), ElementsAre("Harbour A"));
 
     // The sheet can be pressed until it has slid away.
     editor->cancel();
     EXPECT_THAT(takeNotifications(), ElementsAre());
-    EXPECT_FALSE(RESTHandler::sharedInstance().corvelList().front()->isDeleted());
+    EXPECT_TRUE(RESTHandler::sharedInstance().corvelList().front()->isInserted());
+    EXPECT_THAT(storedNames(), ElementsAre("Harbour A"));
+}
+
+TEST_F(FleetTest, ARefreshWhoseFeedsAPullHasResetStoresNoVersion)
+{
+    start(1);
+    const CorvelRef corvel = addConsole(0, "Harbour A");
+    list = makeController<CorvelListViewController>();
+    list->loadViewIfNeeded();
+    // What the refresh does off the main thread comes, and what it does here has to wait.
+    for (int i = 0; i < 3000 && corvel->restData() == nullptr; ++i) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    ASSERT_NE(corvel->restData(), nullptr);
+    fleet.stopConsole(0);
+    list->refreshControl()->pull();
+    ASSERT_TRUE(allFetched());
+    EXPECT_FALSE(corvel->isOnline);
+    EXPECT_EQ(corvel->version(), std::nullopt);
 }
 
 TEST_F(FleetTest, AnEditorWhoseSheetIsGoneAddsItsConsoleBesideTheNextOne)
@@ -186,17 +215,11 @@ TEST_F(FleetTest, AConsoleAddedAnewWhileItsFormerFetchEndsKeepsItsKey)
 {
     start(1);
     fleet.setLatency(200);
-    const auto former = makeController<DeltaCorvelViewController>();
-    former->loadViewIfNeeded();
-    fill(*former, 0);
-    former->saveCorvel();
+    const auto former = startAdding(0);
     const CorvelRef record = former->corvel();
     ASSERT_TRUE(runUntil([&] { return record->isOnline.load(); }, std::chrono::seconds(30)));
     former->cancel();
-    const auto editor = makeController<DeltaCorvelViewController>();
-    editor->loadViewIfNeeded();
-    fill(*editor, 0);
-    editor->saveCorvel();
+    const auto editor = startAdding(0);
     const auto& added = RESTHandler::sharedInstance().corvelList();
     ASSERT_TRUE(runUntil([&] { return !added.empty(); }, std::chrono::seconds(30)));
     EXPECT_NE(record->restData(), nullptr) << "the former fetch has ended";
@@ -207,10 +230,7 @@ TEST_F(FleetTest, CancellingWhileItGathersLeavesNoTrace)
 {
     start(1);
     fleet.setLatency(200);
-    const auto editor = makeController<DeltaCorvelViewController>();
-    editor->loadViewIfNeeded();
-    fill(*editor, 0);
-    editor->saveCorvel();
+    const auto editor = startAdding(0);
     const CorvelRef record = editor->corvel();
     ASSERT_TRUE(runUntil([&] { return record->isOnline.load(); }, std::chrono::seconds(30)));
     editor->cancel();

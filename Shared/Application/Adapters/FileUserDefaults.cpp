@@ -12,6 +12,7 @@
 #include <map>
 #include <mutex>
 #include <sys/stat.h>
+#include <tuple>
 #include <utility>
 #include <variant>
 
@@ -72,7 +73,7 @@ Values read(const QString& path)
 void makePrivate(const QString& path)
 {
     // What cannot be made shows when the values are written.
-    (void)makePrivateFolder(QFile::encodeName(QFileInfo(path).absolutePath()).toStdString());
+    std::ignore = makePrivateFolder(QFile::encodeName(QFileInfo(path).absolutePath()).toStdString());
     const std::string name = QFile::encodeName(path).toStdString();
     if (!writePrivateFile(name, {}) && QFileInfo(path).isFile()) {
         ::chmod(name.c_str(), S_IRUSR | S_IWUSR);
