@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""The style checks that ./test runs: format, includes, licences, texts, tidy."""
+"""The style checks that ./test runs (format, includes, licences, texts), and the analyser of ./test --tidy."""
 
 import argparse
 import concurrent.futures
