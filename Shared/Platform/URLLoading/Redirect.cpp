@@ -40,6 +40,10 @@ std::optional<URLRequest> requestAfterResponse(const URLRequest& sent, const URL
     if (!from || !to || to->scheme != "https" || namesUser(*target)) {
         return std::nullopt;
     }
+    const bool leavesOrigin = !(*from == *to);
+    if (leavesOrigin && !sent.body.empty()) {
+        return std::nullopt;
+    }
     URLRequest next = sent;
     next.url = *target;
     if (!keepsMethod(response.statusCode) && next.method != "GET" && next.method != "HEAD") {
@@ -48,7 +52,7 @@ std::optional<URLRequest> requestAfterResponse(const URLRequest& sent, const URL
         next.headers.removeValue("Content-Type");
         next.headers.removeValue("Content-Length");
     }
-    if (!(*from == *to)) {
+    if (leavesOrigin) {
         next.headers.removeValue("X-API-Session");
     }
     return next;
