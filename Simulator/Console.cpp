@@ -160,7 +160,10 @@ Response Console::logon(const Request& request, const std::vector<Fault>& faults
     if (find(faults, FaultName::LogonWithoutKey, kind) == nullptr) {
         const auto high = m_settings.seed + static_cast<std::uint64_t>(m_index) * 104729U;
         ++m_logons;
-        const std::string key = makeIdentifier(high, m_logons) + "+/" + makeIdentifier(m_logons, ~high) + "=";
+        std::string key = makeIdentifier(high, m_logons) + "+/" + makeIdentifier(m_logons, ~high) + "=";
+        if (find(faults, FaultName::LongKey, kind) != nullptr) {
+            key.append(1U << 20U, 'k');
+        }
         m_sessions.insert(key);
         element = "<X-API-Session kxe=\"false\" kb=\"CUR\">" + key + "</X-API-Session>";
     }

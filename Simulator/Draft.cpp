@@ -94,7 +94,7 @@ void Draft::strike(const Fault& fault, const Request& request, const std::string
         cut(size / 2, Ending::Close);
         break;
     case FaultName::CutChunk:
-        response.chunked = true;
+        response.framing = Framing::Chunks;
         cut(insideChunk(size), Ending::Close);
         break;
     case FaultName::CutGzip: {
@@ -117,6 +117,13 @@ void Draft::strike(const Fault& fault, const Request& request, const std::string
         replaceBody(makeGzipBomb(hugeBody));
         response.headers.emplace_back("Content-Encoding", "gzip");
         break;
+    case FaultName::EndlessChunk:
+        replaceBody(makeRepeatingBody("1;", std::string(65536, 'x'), hugeBody, "\r\nx\r\n0\r\n\r\n"));
+        response.framing = Framing::OwnChunks;
+        break;
+    case FaultName::TwoLengths:
+        response.headers.emplace_back("Content-Length", "0");
+        break;
     case FaultName::HugeHeaders:
         response.headerFiller = hugeHeaders;
         break;
@@ -132,7 +139,7 @@ void Draft::strike(const Fault& fault, const Request& request, const std::string
         break;
     }
     case FaultName::Chunked:
-        response.chunked = true;
+        response.framing = Framing::Chunks;
         break;
     case FaultName::FailedStatus:
         response.status = 500;

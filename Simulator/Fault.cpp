@@ -13,10 +13,11 @@ namespace lodestar::simulator
 namespace
 {
 
-constexpr std::array<std::pair<std::string_view, FaultName>, 29> names = {{
+constexpr std::array<std::pair<std::string_view, FaultName>, 32> names = {{
     {"refuseLogon", FaultName::RefuseLogon},
     {"logonWithoutKey", FaultName::LogonWithoutKey},
     {"logonNotXML", FaultName::LogonNotXML},
+    {"longKey", FaultName::LongKey},
     {"expireSession", FaultName::ExpireSession},
     {"refuseFeed", FaultName::RefuseFeed},
     {"emptyFeed", FaultName::EmptyFeed},
@@ -31,6 +32,8 @@ constexpr std::array<std::pair<std::string_view, FaultName>, 29> names = {{
     {"hugeBody", FaultName::HugeBody},
     {"gzipBomb", FaultName::GzipBomb},
     {"hugeHeaders", FaultName::HugeHeaders},
+    {"endlessChunk", FaultName::EndlessChunk},
+    {"twoLengths", FaultName::TwoLengths},
     {"redirectLoop", FaultName::RedirectLoop},
     {"redirectOtherHost", FaultName::RedirectOtherHost},
     {"swapCertificate", FaultName::SwapCertificate},
@@ -131,6 +134,7 @@ bool strikes(const Fault& fault, const RequestKind& kind)
     case FaultName::RefuseLogon:
     case FaultName::LogonWithoutKey:
     case FaultName::LogonNotXML:
+    case FaultName::LongKey:
         return kind.area == Logon;
     case FaultName::NullMetrics:
     case FaultName::UnprocessedMetrics:

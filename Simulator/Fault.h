@@ -17,6 +17,8 @@ enum class FaultName {
     LogonWithoutKey,
     /// The logon answers 200 with a page, nothing, or JSON; argument "html" (when left out), "empty" or "json".
     LogonNotXML,
+    /// The logon answers 200 with a session key of a megabyte.
+    LongKey,
     /// Every session key is forgotten. At once and once.
     ExpireSession,
     /// Status 500.
@@ -45,6 +47,10 @@ enum class FaultName {
     GzipBomb,
     /// 16 MB of header lines before the body.
     HugeHeaders,
+    /// A chunk whose extension goes on for 1 GB before its first byte.
+    EndlessChunk,
+    /// A length of 0 beside the body's own.
+    TwoLengths,
     /// A redirect to the same place, ever again.
     RedirectLoop,
     /// A redirect to the same path on the next console.

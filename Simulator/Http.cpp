@@ -138,11 +138,10 @@ BodyPtr takeHead(Response& response)
     for (const auto& [name, value] : response.headers) {
         head.append(name).append(": ").append(value).append("\r\n");
     }
-    if (response.chunked) {
-        head += "Transfer-Encoding: chunked\r\n";
+    head += response.framing == Framing::Length ? "Content-Length: " + std::to_string(response.body->size()) + "\r\n"
+                                                : "Transfer-Encoding: chunked\r\n";
+    if (response.framing == Framing::Chunks) {
         response.body = makeChunkedBody(std::move(response.body));
-    } else {
-        head += "Content-Length: " + std::to_string(response.body->size()) + "\r\n";
     }
     if (response.ending == Ending::Close && response.stopAfter == std::numeric_limits<std::uint64_t>::max()) {
         head += "Connection: close\r\n";

@@ -58,6 +58,9 @@ private:
 /// What happens on the connection once an answer, or as much of it as is to be sent, has been sent.
 enum class Ending { KeepAlive, Close, Reset, Silence };
 
+/// How the client learns where a body ends. `OwnChunks` is a body that brings its chunks itself.
+enum class Framing { Length, Chunks, OwnChunks };
+
 struct Response {
     /// Before anything of it is sent.
     std::chrono::milliseconds delay{0};
@@ -65,7 +68,7 @@ struct Response {
     std::vector<std::pair<std::string, std::string>> headers;
     /// Never null.
     BodyPtr body = makeBody(std::string());
-    bool chunked = false;
+    Framing framing = Framing::Length;
     /// Body bytes, as they are on the wire, after which the sending stops.
     std::uint64_t stopAfter = std::numeric_limits<std::uint64_t>::max();
     Ending ending = Ending::KeepAlive;

@@ -148,7 +148,7 @@ std::string_view helpText()
 
 Faults. WHAT is a feed's type, or Logon, SessionCheck, Quick, Metrics, MetricsDocument, All; feeds when left out:
   refuseFeed emptyFeed stallFeed malformedFeed cutBody cutChunk cutGzip reset trickle hugeBody gzipBomb
-  hugeHeaders redirectLoop redirectOtherHost chunked failedStatus; basicAuth (everything when left out)
+  hugeHeaders endlessChunk twoLengths redirectLoop redirectOtherHost chunked failedStatus; basicAuth (everything when left out)
   nullMetrics unprocessedMetrics emptyMetrics (the metrics document)
   refuseLogon logonWithoutKey logonNotXML[:html|empty|json]
   silentAfterAccept closePort expiredCertificate misnamedCertificate; at once and once: expireSession swapCertificate

@@ -125,7 +125,10 @@ TEST_F(URLLoadingTest, OddAnswersAreUnderstoodOrRefused)
          URLErrorCode::BadServerResponse},
         {"HTTP/1.1 200 OK\r\nContent-Length: 3\r\nContent-Encoding: gzip\r\n\r\nabc", Notice,
          URLErrorCode::BadServerResponse},
-        {"HTTP/1.1 200 OK\r\nContent-Length: 99999999999\r\n\r\nabc", Silent, URLErrorCode::NetworkConnectionLost},
+        {"HTTP/1.1 200 OK\r\nContent-Length: 99999999999\r\n\r\nabc", Silent, URLErrorCode::DataLengthExceedsMaximum},
+        {"HTTP/1.1 200 OK\r\nContent-Length: 0\r\ncontent-length: 3\r\n\r\nabc", Notice,
+         URLErrorCode::BadServerResponse},
+        {"HTTP/1.1 200 OK\r\nContent-Length: 3, 0\r\n\r\nabc", Notice, URLErrorCode::BadServerResponse},
         {"220 mail ready\r\n", Notice, URLErrorCode::BadURL},
         {"", Notice, URLErrorCode::NetworkConnectionLost},
     };
@@ -151,7 +154,7 @@ TEST_F(URLLoadingTest, HostileSizesAreCutAtTheLimits)
     const std::string key = logOn(simulator);
     TransferLimits::shared().bodyBytes = 20'000'000;
     TransferLimits::shared().heldBytes = 50'000'000;
-    for (const std::string fault : {"hugeBody", "gzipBomb", "hugeHeaders"}) {
+    for (const std::string fault : {"hugeBody", "gzipBomb", "hugeHeaders", "endlessChunk"}) {
         simulator.setFault(fault + ":ManagedSystem");
         std::latch settled(8);
         std::atomic<int> refused{0};

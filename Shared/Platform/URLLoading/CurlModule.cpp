@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/URLLoading/CurlModule.h"
 
+#include <openssl/bio.h>
 #include <openssl/crypto.h>
+#include <openssl/ssl.h>
 
 namespace
 {
@@ -12,6 +14,11 @@ bool prepare()
     // before that thread is joined.
     return OPENSSL_init_crypto(OPENSSL_INIT_NO_ATEXIT, nullptr) == 1 &&
            curl_global_init(CURL_GLOBAL_DEFAULT) == CURLE_OK;
+}
+
+std::uint64_t wireBytes(ssl_st* connection)
+{
+    return BIO_number_read(SSL_get_rbio(connection));
 }
 
 } // namespace
@@ -45,6 +52,7 @@ const lodestar::CurlModule* lodestar_curl_module()
         .prepare = &prepare,
         .certificateOfConnection = &ServerCertificate::ofConnection,
         .noticeOfConnection = &CloseNotice::ofConnection,
+        .wireBytesOfConnection = &wireBytes,
     };
     return &module;
 }

@@ -6,6 +6,7 @@
 
 #include <curl/curl.h>
 
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
@@ -44,6 +45,8 @@ struct CurlModule {
     bool (*prepare)();
     decltype(&ServerCertificate::ofConnection) certificateOfConnection;
     decltype(&CloseNotice::ofConnection) noticeOfConnection;
+    /// Bytes that a secured connection has received since it was opened, the protocol's own included.
+    std::uint64_t (*wireBytesOfConnection)(ssl_st* connection);
 };
 
 /// The table, ready for use. Any thread; the first call loads it, which takes milliseconds and ends the process when an

@@ -69,6 +69,7 @@ bool Transfer::start()
 
 bool Transfer::prepareHop()
 {
+    m_response = {};
     m_origin = Origin::ofURL(m_request.url);
     m_easy.reset(m_origin ? curl().easyInit() : nullptr);
     if (m_easy == nullptr) {
@@ -106,6 +107,9 @@ bool Transfer::prepareHop()
     curl().easySetopt(easy, CURLOPT_HEADERDATA, this);
     curl().easySetopt(easy, CURLOPT_WRITEFUNCTION, &Transfer::body);
     curl().easySetopt(easy, CURLOPT_WRITEDATA, this);
+    curl().easySetopt(easy, CURLOPT_NOPROGRESS, 0L);
+    curl().easySetopt(easy, CURLOPT_XFERINFOFUNCTION, &Transfer::progress);
+    curl().easySetopt(easy, CURLOPT_XFERINFODATA, this);
     // Ours are the deadlines; libcurl's own for connecting must not come first.
     curl().easySetopt(easy, CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(m_request.timeout.count()) + 60'000L);
     const bool fresh = std::exchange(m_needsFreshConnection, false) || m_client->wantsFreshHandshake(*m_origin);
@@ -206,6 +210,7 @@ bool Transfer::connectionReady()
         return false;
     }
     m_closeNotice = curl().noticeOfConnection(connection);
+    m_unseenBefore = wireBytes() - static_cast<std::int64_t>(m_received);
     const Handshake handshake = connections > 0 ? Handshake::Fresh : Handshake::Reused;
     if (m_client->acceptsServer(*certificate, handshake)) {
         return true;
@@ -258,10 +263,21 @@ bool Transfer::headersComplete()
         refuse(URLErrorCode::BadServerResponse, "unknown content encoding");
         return false;
     }
-    if (const auto length = m_response.headers.value("Content-Length"); length && encoding.empty()) {
-        m_response.expectedContentLength = numberIn<std::int64_t>(*length).value_or(-1);
+    const auto length = m_response.headers.value("Content-Length");
+    const auto number = length ? numberIn<std::int64_t>(*length) : std::nullopt;
+    if (length && !number) {
+        // Two of them, which libcurl lets pass: where such a body ends is anybody's guess.
+        refuse(URLErrorCode::BadServerResponse, "the body's length is not one number");
+        return false;
     }
     m_next = m_redirects < m_limits.redirects ? requestAfterResponse(m_request, m_response) : std::nullopt;
+    if (number && encoding.empty()) {
+        m_response.expectedContentLength = *number;
+        if (!m_next && *number > static_cast<std::int64_t>(m_limits.bodyBytes)) {
+            refuse(URLErrorCode::DataLengthExceedsMaximum, "the body is too large");
+            return false;
+        }
+    }
     m_client->didReceiveResponse(m_response);
     return true;
 }
@@ -297,6 +313,30 @@ bool Transfer::deliver(std::span<const char> bytes)
     return true;
 }
 
+std::int64_t Transfer::wireBytes() const
+{
+    curl_tlssessioninfo* session = nullptr;
+    curl().easyGetinfo(m_easy.get(), CURLINFO_TLS_SSL_PTR, &session);
+    return session != nullptr && session->internals != nullptr
+               ? static_cast<std::int64_t>(curl().wireBytesOfConnection(static_cast<ssl_st*>(session->internals)))
+               : 0;
+}
+
+/// An extension of a chunk may be endless, and libcurl tells nobody of it.
+bool Transfer::framingIsBounded()
+{
+    if (!m_response.headers.value("Transfer-Encoding")) {
+        return true;
+    }
+    const auto received = static_cast<std::int64_t>(m_received);
+    const std::int64_t unseen = wireBytes() - received - m_unseenBefore;
+    if (unseen <= static_cast<std::int64_t>(m_limits.framingBytes) + received) {
+        return true;
+    }
+    refuse(URLErrorCode::DataLengthExceedsMaximum, "too many bytes around the body");
+    return false;
+}
+
 /// No exception may pass through libcurl; the only one that can come is a lack of memory for what a server sends.
 template <typename Work>
 bool Transfer::guarded(Work work)
@@ -325,6 +365,12 @@ std::size_t Transfer::body(char* bytes, std::size_t size, std::size_t count, voi
 {
     auto& transfer = *static_cast<Transfer*>(self);
     return transfer.guarded([&] { return transfer.bodyBytes({bytes, size * count}); }) ? size * count : 0;
+}
+
+int Transfer::progress(void* self, curl_off_t, curl_off_t, curl_off_t, curl_off_t)
+{
+    auto& transfer = *static_cast<Transfer*>(self);
+    return transfer.guarded([&] { return transfer.framingIsBounded(); }) ? 0 : 1;
 }
 
 } // namespace lodestar

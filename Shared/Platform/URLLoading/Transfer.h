@@ -75,12 +75,15 @@ private:
     bool headersComplete();
     bool bodyBytes(std::span<const char> bytes);
     bool deliver(std::span<const char> bytes);
+    std::int64_t wireBytes() const;
+    bool framingIsBounded();
     template <typename Work>
     bool guarded(Work work);
 
     static int prerequest(void* self, char*, char*, int, int);
     static std::size_t header(char* bytes, std::size_t size, std::size_t count, void* self);
     static std::size_t body(char* bytes, std::size_t size, std::size_t count, void* self);
+    static int progress(void* self, curl_off_t, curl_off_t, curl_off_t, curl_off_t);
 
     const TransferLimits m_limits;
     const std::string m_server;
@@ -92,7 +95,8 @@ private:
 
     Clock::time_point m_started;
     Clock::time_point m_lastProgress;
-    std::size_t m_received = 0; ///< body and header bytes of all hops, as they came
+    std::size_t m_received = 0;      ///< body and header bytes of all hops, as they came
+    std::int64_t m_unseenBefore = 0; ///< what the connection had received when the hop began, less `m_received`
 
     int m_redirects = 0;
     bool m_needsFreshConnection = false;

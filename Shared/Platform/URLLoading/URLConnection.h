@@ -99,7 +99,10 @@ struct TransferLimits {
     std::size_t headerBytes = 256UL * 1024;       ///< all header bytes of one transfer, redirects included
     std::size_t bodyBytes = 192UL * 1024 * 1024;  ///< one decoded body
     std::size_t heldBytes = 1024UL * 1024 * 1024; ///< all bodies being received at once
-    int redirects = 20;                           ///< hops followed; the last response is then the answer
+    /// What comes beside headers and body, over as many bytes as those are: the sizes and extensions of chunks, which
+    /// libcurl drops unseen, and what TLS adds.
+    std::size_t framingBytes = 4UL * 1024 * 1024;
+    int redirects = 20; ///< hops followed; the last response is then the answer
     /// A transfer's total time is its idle limit times this, so that a trickling server cannot hold it for ever.
     int totalTimeFactor = 1;
 
