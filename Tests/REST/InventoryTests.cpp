@@ -116,11 +116,19 @@ TEST_F(InventoryTest, FeedThatCannotBeHadIsNotAvailableAndTheOthersAreKept)
     simulator::SimulatorProcess simulator{{}};
     const CorvelRef corvel = corvelOf(simulator);
     const SessionKey sessionKey = key(corvel);
-    for (const std::string fault : {"refuseFeed", "cutBody", "cutChunk", "cutGzip", "reset", "hugeHeaders"}) {
+    const std::pair<std::string, std::string> faults[] = {
+        {"refuseFeed", "status 500"},     {"cutBody", "URLError -1005"},  {"cutChunk", "URLError -1005"},
+        {"cutGzip", "URLError -1005"},    {"reset", "URLError -1005"},    {"hugeHeaders", "URLError -1103"},
+        {"gzipBomb", "URLError -1103"},   {"hugeBody", "URLError -1103"}, {"endlessChunk", "URLError -1103"},
+        {"twoLengths", "URLError -1011"},
+    };
+    takeLines();
+    for (const auto& [fault, cause] : faults) {
         simulator.setFault(fault + ":ManagedSystem");
         const auto feeds = allFeeds(corvel, sessionKey);
         EXPECT_EQ(feeds->size(), 6U);
         EXPECT_THAT(unavailable(*feeds), ElementsAre("ManagedSystem")) << fault;
+        EXPECT_THAT(takeLines(), ElementsAre(HasSubstr("Feed failed: ManagedSystem of Console 0: " + cause))) << fault;
         corvel->numMSErrors = 7;
         corvel->numMSLEDs = 7;
         corvel->setRestData(feeds);

@@ -7,6 +7,7 @@
 #include <thread>
 
 using testing::AnyOf;
+using testing::Contains;
 using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
@@ -134,6 +135,7 @@ TEST_F(LogonTest, FailedLogonsRejectWithTheirErrorAndLeaveTheStoreAlone)
     EXPECT_EQ(refused.error().domain, "RXPromise");
     EXPECT_EQ(refused.error().code, -1000);
     EXPECT_EQ(refused.error().failureReason, "");
+    EXPECT_THAT(takeLines(), Contains("Logon failed for Corvel: Console 0: status 401").Times(1));
 
     defaults().setString("stale", simulator.address());
     EXPECT_EQ(settled(handler().login(corvel, CheckToken::Yes)).error().domain, "RXPromise");
@@ -142,20 +144,40 @@ TEST_F(LogonTest, FailedLogonsRejectWithTheirErrorAndLeaveTheStoreAlone)
     ASSERT_FALSE(unreachable.ok());
     EXPECT_EQ(unreachable.error().domain, urlErrorDomain);
     EXPECT_EQ(unreachable.error().code, static_cast<int>(URLErrorCode::CannotConnectToHost));
+    EXPECT_THAT(takeLines(), Contains(HasSubstr("Logon failed for Corvel: Console 0: URLError -1004")));
     EXPECT_EQ(defaults().stringForKey(simulator.address()), "stale");
+}
+
+TEST_F(LogonTest, NothingOfALogonGoesToAnotherHost)
+{
+    simulator::Settings settings;
+    settings.consoles = 2;
+    simulator::SimulatorProcess simulator(settings);
+    const CorvelRef corvel = corvelOf(simulator);
+    simulator.setFault("redirectOtherHost:Logon:0");
+    for (const bool renewed : {false, true}) {
+        EXPECT_EQ(settled(handler().login(corvel, CheckToken::Yes)).error().domain, "RXPromise");
+        EXPECT_THAT(takeLines(), Contains("Logon failed for Corvel: Console 0: status 307"));
+        defaults().setString("stale", simulator.address()); // then the plain request logs on
+        EXPECT_THAT(simulator.requests(), Each(testing::Field(&simulator::RecordedRequest::console, 0))) << renewed;
+    }
 }
 
 TEST_F(LogonTest, AnswerWithoutAKeyYieldsNoneAndRemovesTheStoredOne)
 {
     simulator::SimulatorProcess simulator{{}};
     const CorvelRef corvel = corvelOf(simulator);
-    for (const std::string fault : {"logonWithoutKey", "logonNotXML:html", "logonNotXML:empty", "logonNotXML:json"}) {
+    for (const std::string fault :
+         {"logonWithoutKey", "logonNotXML:html", "logonNotXML:empty", "logonNotXML:json", "longKey"}) {
         simulator.clearFaults();
         simulator.setFault(fault);
         defaults().setString("stale", simulator.address());
         EXPECT_EQ(key(corvel), std::nullopt) << fault;
         EXPECT_EQ(defaults().stringForKey(simulator.address()), std::nullopt) << fault;
+        EXPECT_THAT(takeLines(), Contains("Logon failed for Corvel: Console 0: status 200 without a session key"));
     }
+    defaults().setString(std::string(1'000'000, 'k'), simulator.address());
+    EXPECT_EQ(key(corvel, CheckToken::No), std::nullopt) << "no key either when an earlier version kept it";
     simulator.clearFaults();
     EXPECT_TRUE(key(corvel));
 }

@@ -104,6 +104,7 @@ TEST_F(MetricsTest, FirstAnswerDecidesWhetherThereIsASecondRequest)
     const auto cut = fetch(corvel, sessionKey, system);
     ASSERT_FALSE(cut.ok());
     EXPECT_EQ(cut.error().domain, urlErrorDomain);
+    EXPECT_THAT(takeLines(), Contains(HasSubstr("Metrics failed: Console 0: URLError -1005")));
     EXPECT_EQ(simulator.requests().size(), 5U);
     simulator.clearFaults();
 

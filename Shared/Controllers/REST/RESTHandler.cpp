@@ -62,12 +62,8 @@ public:
     {
         std::make_shared<CorvelRequest>()->sendRequest(
             m_logonRequest, m_queue,
-            [self = shared_from_this()](const URLResponse* response, const std::string* data, const Error* error) {
-                if (error != nullptr) {
-                    self->m_promise.rejectWithReason(*error);
-                } else {
-                    self->answered(response->statusCode, *data);
-                }
+            [self = shared_from_this()](const URLResponse* response, std::string* data, const Error* error) {
+                self->answered(error != nullptr ? Result<URLLoad>(*error) : URLLoad{*response, std::move(*data)});
             });
     }
 
@@ -76,28 +72,37 @@ private:
     /// first logon on purpose: the check just made has shown which certificate the console has.
     void logOnPlainly()
     {
-        sendAsynchronousRequest(m_logonRequest, m_queue, [self = shared_from_this()](const Result<URLLoad>& load) {
-            if (!load) {
-                self->m_promise.rejectWithReason(load.error());
-            } else {
-                self->answered(load.value().response.statusCode, load.value().body);
-            }
-        });
+        sendAsynchronousRequest(m_logonRequest, m_queue,
+                                [self = shared_from_this()](const Result<URLLoad>& load) { self->answered(load); });
     }
 
-    void answered(int statusCode, std::string_view body)
+    void answered(const Result<URLLoad>& load)
     {
-        if (statusCode != 200) {
-            m_promise.rejectWithReason();
+        if (!load || load.value().response.statusCode != 200) {
+            logFailure(causeOf(load));
+            if (load) {
+                m_promise.rejectWithReason();
+            } else {
+                m_promise.rejectWithReason(load.error());
+            }
             return;
         }
-        const Result<SessionKey> key = sessionKeyOfAnswer(body);
+        const Result<SessionKey> key = sessionKeyOfAnswer(load.value().body);
         if (!key) {
+            logFailure(description(key.error()));
             m_promise.rejectWithReason(key.error());
             return;
         }
+        if (!key.value()) {
+            logFailure("status 200 without a session key");
+        }
         keep(key.value());
         m_promise.fulfillWithValue(key.value());
+    }
+
+    void logFailure(const std::string& cause) const
+    {
+        LODESTAR_LOG(sourceFile, loginMethod, "Logon failed for Corvel: {}: {}", m_name, cause);
     }
 
     /// A console that was deleted meanwhile has no entry, and gets none. Its deletion may also fall between the look at

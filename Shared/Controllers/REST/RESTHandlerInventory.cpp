@@ -14,6 +14,7 @@ namespace lodestar
 namespace
 {
 
+constexpr std::string_view sourceFile = "Shared/Controllers/REST/RESTHandler";
 constexpr std::chrono::seconds feedTimeout{500};
 
 struct FeedAddress {
@@ -56,19 +57,26 @@ bool isErrorState(std::string_view state)
     return state.find("error") != std::string_view::npos || state.find("incomplete") != std::string_view::npos;
 }
 
-/// Settles with the root of a feed's answer.
-void settle(const RXPromise<XMLElement>& promise, const Result<URLLoad>& load)
+/// Settles with the root of a feed's answer. The label is the feed's for the log.
+void settle(const RXPromise<XMLElement>& promise, const Result<URLLoad>& load, const std::string& label)
 {
+    const auto logFailure = [&label](const std::string& cause) {
+        LODESTAR_LOG(sourceFile, "-[RESTHandler fetchDataOfType:corvel:schema:key:]", "Feed failed: {}: {}", label,
+                     cause);
+    };
     if (!load) {
+        logFailure(causeOf(load));
         promise.rejectWithReason(load.error());
         return;
     }
     if (load.value().response.statusCode != 200) {
+        logFailure(causeOf(load));
         promise.rejectWithReason();
         return;
     }
     Result<XMLElement> root = XMLElement::parse(load.value().body);
     if (!root) {
+        logFailure(description(root.error()));
         promise.rejectWithReason(root.error());
         return;
     }
@@ -93,7 +101,8 @@ RXPromise<XMLElement> RESTHandler::fetchDataOfType(std::string_view type, const 
     }
     request.headers.addValue("Accept", "application/atom+xml");
     sendAsynchronousRequest(std::move(request), m_queue,
-                            [promise](const Result<URLLoad>& load) { settle(promise, load); });
+                            [promise, label = fmt::format("{} of {}", type, shownText(corvel->name()))](
+                                const Result<URLLoad>& load) { settle(promise, load, label); });
     return promise;
 }
 
@@ -156,11 +165,14 @@ std::optional<std::string> RESTHandler::fetchDataFromAtomLink(const std::string&
         return std::nullopt;
     }
     URLRequest request;
+    // Wherever the console's own feed points: the key came from that console, which may name itself, or who speaks for
+    // it, by another address than the person typed. Only certificates that are known or vouched for are met here, and a
+    // redirect to elsewhere loses the key.
     request.url = link;
     request.headers.setValue("X-API-Session", *key);
     Result<URLLoad> load = sendSynchronousRequest(request);
     if (!load) {
-        LODESTAR_LOG("Shared/Controllers/REST/RESTHandler", "-[RESTHandler fetchDataFromAtomLink:corvel:]", "Error: {}",
+        LODESTAR_LOG(sourceFile, "-[RESTHandler fetchDataFromAtomLink:corvel:]", "Error: {}",
                      description(load.error()));
         return std::nullopt;
     }

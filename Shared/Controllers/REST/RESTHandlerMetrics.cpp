@@ -80,17 +80,19 @@ private:
 
     void receivedFeed(const Result<URLLoad>& load) const
     {
-        if (!load) {
-            m_promise.rejectWithReason(load.error());
-            return;
-        }
-        if (load.value().response.statusCode != 200) {
-            m_promise.rejectWithReason();
+        if (!load || load.value().response.statusCode != 200) {
+            log(__LINE__, "Metrics failed: {}: {}", m_name, causeOf(load));
+            if (load) {
+                m_promise.rejectWithReason();
+            } else {
+                m_promise.rejectWithReason(load.error());
+            }
             return;
         }
         const Result<XMLElement> feed = XMLElement::parse(load.value().body);
         log(272, "RESTHandler: fetching PCM data for {}", m_name);
-        // A feed without a link leads to an empty address, which fails like any that cannot be reached.
+        // The key goes to where the feed points, as with look-ups. A feed without a link leads to an empty address,
+        // which fails like any that cannot be reached.
         const auto href = feed ? feed.value().path({"entry", "link"}).attribute("href") : std::nullopt;
         sendAsynchronousRequest(
             requestFor(href.value_or("")), m_queue,
@@ -101,6 +103,9 @@ private:
     /// brought nothing reads as an empty body.
     void receivedDocument(const Result<URLLoad>& load) const
     {
+        if (!load || load.value().response.statusCode != 200) {
+            log(__LINE__, "Metrics document failed: {}: {}", m_name, causeOf(load));
+        }
         const Result<MetricsDocument> parsed = MetricsDocument::parse(load ? load.value().body : std::string());
         log(283, "RESTHandler: fetching PCM error message for {}", m_name);
         const MetricsDocument document = parsed ? parsed.value() : MetricsDocument();

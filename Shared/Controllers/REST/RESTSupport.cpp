@@ -6,6 +6,7 @@
 #include <fmt/core.h>
 
 #include <cstdint>
+#include <utility>
 
 namespace lodestar
 {
@@ -38,6 +39,11 @@ std::optional<Lead> leadOf(std::uint8_t byte)
     return std::nullopt;
 }
 
+SessionKey usable(SessionKey key)
+{
+    return key && key->size() <= longestSessionKey ? std::move(key) : std::nullopt;
+}
+
 } // namespace
 
 std::string shownText(const std::optional<std::string>& text)
@@ -53,7 +59,7 @@ std::string consoleURL(const Corvel& corvel, std::string_view schema, std::strin
 SessionKey storedSessionKey(const Corvel& corvel)
 {
     const auto address = corvel.address();
-    return address ? UserDefaults::standard().stringForKey(*address) : std::nullopt;
+    return address ? usable(UserDefaults::standard().stringForKey(*address)) : std::nullopt;
 }
 
 Result<SessionKey> sessionKeyOfAnswer(std::string_view body)
@@ -62,7 +68,12 @@ Result<SessionKey> sessionKeyOfAnswer(std::string_view body)
     if (!root) {
         return root.error();
     }
-    return root.value().child("X-API-Session").text();
+    return usable(root.value().child("X-API-Session").text());
+}
+
+std::string causeOf(const Result<URLLoad>& load)
+{
+    return load ? fmt::format("status {}", load.value().response.statusCode) : description(load.error());
 }
 
 bool isUTF8(std::string_view bytes)

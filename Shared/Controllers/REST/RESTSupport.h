@@ -16,11 +16,17 @@ std::string shownText(const std::optional<std::string>& text);
 /// Where a console serves the objects of a type.
 std::string consoleURL(const Corvel& corvel, std::string_view schema, std::string_view type);
 
+/// Longer than what servers take in a header field. What a console gives beyond it is no session key.
+inline constexpr std::size_t longestSessionKey = 8192;
+
 /// The session key that is stored for the record's address.
 SessionKey storedSessionKey(const Corvel& corvel);
 
 /// The session key of the body of a logon answer, or the error with which the logon is rejected.
 Result<SessionKey> sessionKeyOfAnswer(std::string_view body);
+
+/// What the log says of an answer that is not good: the transport's error, or the status.
+std::string causeOf(const Result<URLLoad>& load);
 
 /// Whether the bytes are well-formed UTF-8 (no overlong forms, no surrogates).
 bool isUTF8(std::string_view bytes);
