@@ -1,52 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
-// Every single allocation of a parse refused, the library's and our own. A program of its own, since it stands in for
-// the process's allocator.
+// Every single allocation of a parse refused, the library's and our own.
 #include "Controllers/REST/XMLDocument.h"
+#include "Tests/Injection.h"
 #include "Tests/REST/TreeReference.h"
 
 #include <gtest/gtest.h>
 #include <libxml/parser.h>
 
-#include <cstddef>
-
 extern "C" {
-void* __libc_malloc(std::size_t size);
-void* __libc_calloc(std::size_t count, std::size_t size);
-void* __libc_realloc(void* block, std::size_t size);
-}
-
-namespace
-{
-
-/// Allocations of this thread until the one that is refused; negative for none.
-thread_local int untilRefusal = -1;
-thread_local bool refusing = false;
-thread_local bool refused = false;
-
-bool refuse()
-{
-    if (!refusing || untilRefusal-- != 0) {
-        return false;
-    }
-    refused = true;
-    return true;
-}
-
-} // namespace
-
-extern "C" {
-void* malloc(std::size_t size) noexcept
-{
-    return refuse() ? nullptr : __libc_malloc(size);
-}
-void* calloc(std::size_t count, std::size_t size) noexcept
-{
-    return refuse() ? nullptr : __libc_calloc(count, size);
-}
-void* realloc(void* block, std::size_t size) noexcept
-{
-    return refuse() ? nullptr : __libc_realloc(block, size);
-}
 /// The library draws a seed for each of its tables, and what it allocates depends on them: without one seed for all,
 /// the allocations of a parse have other numbers in the next, and some would never be refused.
 int rand_r(unsigned* /*state*/) noexcept
@@ -65,12 +26,9 @@ using Parsed = Result<std::shared_ptr<const XMLDocument>>;
 /// Parses with the allocation of that number refused, and says whether there was one.
 bool parseRefusing(int number, const std::string& bytes, std::optional<Parsed>& result)
 {
-    refused = false;
-    untilRefusal = number;
-    refusing = true;
+    const injection::Failing failing(injection::Call::Allocation, number);
     result.emplace(XMLDocument::parse(bytes.c_str(), bytes.size()));
-    refusing = false;
-    return refused;
+    return injection::Failing::happened();
 }
 
 /// Everything that a document says.

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <cassert>
+#include <new>
 #include <sqlite3.h>
 #include <utility>
 
@@ -88,7 +89,7 @@ private:
 struct ObjectContext::State {
     /// An entity's objects in memory by row number, and its statements, prepared on first use.
     struct Entity {
-        std::map<std::int64_t, ObjectRef> saved;
+        SavedObjects saved;
         std::map<std::uint64_t, SQLite::Statement> updates; ///< by dirty mask
         std::unique_ptr<SQLite::Statement> insert;
         std::unique_ptr<SQLite::Statement> remove;
@@ -121,13 +122,14 @@ void ManagedObject::setAttribute(std::size_t index, AttributeValue value)
     if (m_values[index] == value) {
         return;
     }
-    m_values[index] = std::move(value);
+    // Noted first, which may fail: a change that no save knows of would be lost without a word.
     if (m_context != nullptr && m_rowId != 0) {
         if (m_dirty == 0) {
             m_context->m_state->changed.push_back(this);
         }
         m_dirty |= std::uint64_t{1} << index;
     }
+    m_values[index] = std::move(value);
 }
 
 Result<std::unique_ptr<ObjectContext>> ObjectContext::open(const std::string& path, ManagedObjectModel model)
@@ -142,6 +144,8 @@ Result<std::unique_ptr<ObjectContext>> ObjectContext::open(const std::string& pa
         auto state = std::make_unique<State>(std::move(model), std::move(database).value());
         return std::unique_ptr<ObjectContext>(new ObjectContext(std::move(state)));
     } catch (const SQLite::Exception& exception) {
+        return storeError(exception);
+    } catch (const std::bad_alloc& exception) {
         return storeError(exception);
     }
 }
@@ -208,7 +212,7 @@ Result<std::vector<std::shared_ptr<ManagedObject>>> ObjectContext::fetchAll(std:
     const std::size_t index = m_state->entityIndex(entity);
     assert(index < m_state->entities.size());
     const EntityDescription& description = m_state->model.entities[index];
-    std::map<std::int64_t, ObjectRef>& saved = m_state->entities[index].saved;
+    SavedObjects& saved = m_state->entities[index].saved;
     const auto isDeleted = [&](std::int64_t rowId) {
         return std::ranges::any_of(m_state->deleted, [&](const ObjectRef& object) {
             return object->m_entity == index && object->m_rowId == rowId;
@@ -233,11 +237,13 @@ Result<std::vector<std::shared_ptr<ManagedObject>>> ObjectContext::fetchAll(std:
             }
             objects.push_back(found->second);
         }
+        std::ranges::copy_if(m_state->inserted, std::back_inserter(objects),
+                             [&](const ObjectRef& object) { return object->m_entity == index; });
     } catch (const SQLite::Exception& exception) {
         return storeError(exception);
+    } catch (const std::bad_alloc& exception) {
+        return storeError(exception);
     }
-    std::ranges::copy_if(m_state->inserted, std::back_inserter(objects),
-                         [&](const ObjectRef& object) { return object->m_entity == index; });
     return objects;
 }
 
@@ -282,9 +288,8 @@ void ObjectContext::writeChanged()
     }
 }
 
-std::vector<std::int64_t> ObjectContext::writeInserted()
+void ObjectContext::writeInserted(std::vector<SavedObjects>& written)
 {
-    std::vector<std::int64_t> rowIds;
     for (const ObjectRef& object : m_state->inserted) {
         auto& statement = m_state->entities[object->m_entity].insert;
         if (statement == nullptr) {
@@ -295,9 +300,8 @@ std::vector<std::int64_t> ObjectContext::writeInserted()
             bindValue(*statement, static_cast<int>(i) + 1, object->m_values[i]);
         }
         run(*statement);
-        rowIds.push_back(m_state->database->getLastInsertRowid());
+        written[object->m_entity].insert_or_assign(m_state->database->getLastInsertRowid(), object);
     }
-    return rowIds;
 }
 
 Result<void> ObjectContext::save()
@@ -305,15 +309,19 @@ Result<void> ObjectContext::save()
     if (!hasChanges()) {
         return {};
     }
-    std::vector<std::int64_t> rowIds;
+    // What needs memory is done before the commit: from there on nothing may fail.
+    std::vector<SavedObjects> written;
     try {
+        written.resize(m_state->entities.size());
         m_state->transaction.perform([&] {
             // Deleted rows go first: the store may give their numbers to new ones.
             writeDeleted();
             writeChanged();
-            rowIds = writeInserted();
+            writeInserted(written);
         });
     } catch (const SQLite::Exception& exception) {
+        return storeError(exception);
+    } catch (const std::bad_alloc& exception) {
         return storeError(exception);
     }
     m_state->scrubPending |= !m_state->deleted.empty();
@@ -322,18 +330,30 @@ Result<void> ObjectContext::save()
         object->m_dirty = 0;
     }
     m_state->changed.clear();
-    for (std::size_t i = 0; i < rowIds.size(); ++i) {
-        ObjectRef& object = m_state->inserted[i];
-        object->m_rowId = rowIds[i];
-        m_state->entities[object->m_entity].saved.insert_or_assign(rowIds[i], std::move(object));
+    for (std::size_t entity = 0; entity < written.size(); ++entity) {
+        SavedObjects& saved = m_state->entities[entity].saved;
+        for (const auto& [rowId, object] : written[entity]) {
+            object->m_rowId = rowId;
+            saved.erase(rowId);
+        }
+        saved.merge(written[entity]);
     }
     m_state->inserted.clear();
-    if (m_state->scrubPending && m_state->scrubNeeded) {
-        m_state->scrubNeeded();
-    } else {
-        scrub();
-    }
+    scrubSoon();
     return {};
+}
+
+void ObjectContext::scrubSoon()
+{
+    try {
+        if (m_state->scrubPending && m_state->scrubNeeded) {
+            m_state->scrubNeeded();
+            return;
+        }
+    } catch (const std::bad_alloc&) {
+        // Nobody can be asked to do it later: it is done now.
+    }
+    scrub();
 }
 
 // The deletion itself stands by now: a failure here only leaves the work to the next save or to closing.

@@ -115,7 +115,10 @@ private:
     static void detach(ManagedObject& object);
     void writeDeleted();
     void writeChanged();
-    std::vector<std::int64_t> writeInserted();
+    using SavedObjects = std::map<std::int64_t, std::shared_ptr<ManagedObject>>; ///< by row number
+    /// Adds each object, with the number that it was given, to its entity's place.
+    void writeInserted(std::vector<SavedObjects>& written);
+    void scrubSoon();
 
     std::unique_ptr<State> m_state;
 };

@@ -58,8 +58,8 @@ class HeaderReader
 {
 public:
     explicit HeaderReader(const std::string& path)
-        : m_name(sqlite3_create_filename(path.c_str(), "", "", 0, nullptr)),
-          m_storage(std::make_unique<std::max_align_t[]>(storageUnits()))
+        : m_storage(std::make_unique<std::max_align_t[]>(storageUnits())),
+          m_name(sqlite3_create_filename(path.c_str(), "", "", 0, nullptr))
     {
         if (sqlite3_vfs* const vfs = sqlite3_vfs_find(nullptr); vfs != nullptr && m_name != nullptr) {
             m_result = vfs->xOpen(vfs, m_name, file(), SQLITE_OPEN_READONLY | SQLITE_OPEN_MAIN_DB, nullptr);
@@ -92,8 +92,8 @@ private:
     }
     sqlite3_file* file() { return reinterpret_cast<sqlite3_file*>(m_storage.get()); }
 
-    const char* m_name;
     std::unique_ptr<std::max_align_t[]> m_storage;
+    const char* m_name;
     int m_result = SQLITE_CANTOPEN;
 };
 
@@ -177,10 +177,11 @@ Result<Presence> checkFile(const std::string& path, const ManagedObjectModel& mo
 class ScratchFile
 {
 public:
-    explicit ScratchFile(const std::string& base) : m_path(base + "-XXXXXX")
+    explicit ScratchFile(const std::string& base) : m_path(base + "-XXXXXX"), m_journal(m_path + "-journal")
     {
         if (const int descriptor = makeFile(m_path.data()); descriptor >= 0) {
             ::close(descriptor);
+            m_journal.replace(0, m_path.size(), m_path);
         } else {
             m_error = errno;
         }
@@ -189,7 +190,7 @@ public:
     {
         if (m_error == 0) {
             ::unlink(m_path.c_str());
-            ::unlink((m_path + "-journal").c_str());
+            ::unlink(m_journal.c_str());
         }
     }
     ScratchFile(const ScratchFile&) = delete;
@@ -231,6 +232,7 @@ private:
     }
 
     std::string m_path;
+    std::string m_journal; ///< of the same length from the start: going away takes no memory
     int m_error = 0;
 };
 
@@ -362,15 +364,20 @@ Error storeError(const SQLite::Exception& exception)
     return makeError(code, exception.what(), code > 0 ? sqlite3_errstr(code) : "");
 }
 
+Error storeError(const std::bad_alloc& /*exception*/)
+{
+    return makeError(SQLITE_NOMEM, sqlite3_errstr(SQLITE_NOMEM));
+}
+
 Result<std::unique_ptr<SQLite::Database>> openStoreFile(const std::string& path, const ManagedObjectModel& model)
 {
-    std::error_code code;
-    const std::string absolute = fs::absolute(path, code).string();
-    if (code || path.empty()) {
-        return makeError(SQLITE_CANTOPEN, "The store has no place.");
-    }
     sqlite3_initialize();
     try {
+        std::error_code code;
+        const std::string absolute = fs::absolute(path, code).string();
+        if (code || path.empty()) {
+            return makeError(SQLITE_CANTOPEN, "The store has no place.");
+        }
         const Result<Presence> presence = checkFile(absolute, model);
         if (!presence) {
             return presence.error();
@@ -382,6 +389,8 @@ Result<std::unique_ptr<SQLite::Database>> openStoreFile(const std::string& path,
         }
         return connect(absolute, model);
     } catch (const SQLite::Exception& exception) {
+        return storeError(exception);
+    } catch (const std::bad_alloc& exception) {
         return storeError(exception);
     }
 }

@@ -6,6 +6,7 @@
 #include <SQLiteCpp/Database.h>
 
 #include <memory>
+#include <new>
 #include <string>
 
 namespace lodestar
@@ -24,5 +25,7 @@ bool emptyLog(const SQLite::Database& database);
 
 /// Domain `storeErrorDomain`, SQLite's extended code and text.
 Error storeError(const SQLite::Exception& exception);
+/// Likewise for memory that could not be had.
+Error storeError(const std::bad_alloc& exception);
 
 } // namespace lodestar
