@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""The style checks that ./test runs (format, includes, licences, texts), and the analyser of ./test --tidy."""
+"""The style checks that ./test runs (format, includes, licences, texts, claims), and the analyser of ./test --tidy."""
 
 import argparse
 import concurrent.futures
@@ -105,6 +105,21 @@ def check_texts(source, _build):
     return faults
 
 
+def check_claims(source, _build):
+    """Each test that a page names behind a claim exists."""
+    tests = set()
+    for path in tracked(source, ".cpp", ".h"):
+        if path.parts[0] == "Tests":
+            tests |= {".".join(name) for name in re.findall(r"^TEST(?:_[FP])?\((\w+),\s*(\w+)\)",
+                                                            (source / path).read_text(), re.MULTILINE)}
+    faults = []
+    for path in tracked(source, ".md"):
+        for number, row in enumerate((source / path).read_text().splitlines(), 1):
+            faults += [f"{path}:{number}: there is no test {name}" for name in re.findall(r"`([A-Z]\w+\.[A-Z]\w{7,})`", row)
+                       if name not in tests and not (source / name).exists()]
+    return faults
+
+
 def dependencies(build):
     """Object file -> the files that it was built from, as ninja recorded them."""
     done = subprocess.run(["ninja", "-C", build, "-t", "deps"], check=True, stdout=subprocess.PIPE, text=True)
@@ -153,7 +168,7 @@ def check_tidy(source, build):
 
 def main():
     checks = {"format": check_format, "includes": check_includes, "licences": check_licences, "texts": check_texts,
-              "tidy": check_tidy}
+              "claims": check_claims, "tidy": check_tidy}
     parser = argparse.ArgumentParser()
     parser.add_argument("--source", type=pathlib.Path, required=True)
     parser.add_argument("--build", type=pathlib.Path, required=True)
