@@ -13,6 +13,7 @@
 #include "Kit/Core/MainLoop.h"
 #include "Kit/Core/UIFont+System.h"
 #include "Platform/FolderLock.h"
+#include "Platform/MemoryReserve.h"
 #include "Platform/PrivateFile.h"
 
 #include <QCommandLineParser>
@@ -93,6 +94,7 @@ void followActivation(const QGuiApplication& application, AppDelegate& delegate,
 
 int main(int argc, char** argv)
 {
+    MemoryReserve::install();
     QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("Lodestar"));
     QGuiApplication::setApplicationVersion(QStringLiteral(LODESTAR_VERSION));

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/Queues/ThreadPool.h"
 
+#include "Platform/MemoryReserve.h"
 #include "Platform/Queues/OwnThread.h"
 #include "Platform/Queues/Ring.h"
 
@@ -260,6 +261,7 @@ void ThreadPool::State::look() const
 
 bool ThreadPool::State::sleep(std::unique_lock<std::mutex>& lock)
 {
+    MemoryReserve::topUp();
     Sleeper self;
     sleepers.push_back(&self);
     const auto deadline = Clock::now() + limits.idleLimit;
