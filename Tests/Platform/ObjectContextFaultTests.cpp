@@ -151,6 +151,7 @@ TEST_F(ObjectContextFaultTests, AFailedWriteLeavesTheStoreAndEveryChange)
         }
     }
     EXPECT_GT(failedSaves, 10);
+    RecordProperty("tries", failedSaves);
 }
 
 TEST_F(ObjectContextFaultTests, AFailedWriteWhileOpeningLeavesNoHalfStore)
@@ -211,7 +212,9 @@ TEST_F(ObjectContextFaultTests, AKilledProcessKeepsWhatWasAcknowledged)
         ASSERT_TRUE(context->save().ok());
     }
     std::mt19937 random(20);
-    for (int round = 0; round < rounds(25, 1000); ++round) {
+    const int tries = rounds(25, 1000);
+    RecordProperty("tries", tries);
+    for (int round = 0; round < tries; ++round) {
         std::array<int, 2> acknowledgements{};
         ASSERT_EQ(::pipe(acknowledgements.data()), 0);
         const pid_t child = ::fork();
@@ -276,7 +279,9 @@ TEST_F(ObjectContextFaultTests, DamageIsRefusedOrSurvived)
     std::mt19937 random(7);
     int refusals = 0;
     int survivals = 0;
-    for (int round = 0; round < rounds(600, 10'000); ++round) {
+    const int tries = rounds(600, 10'000);
+    RecordProperty("tries", tries);
+    for (int round = 0; round < tries; ++round) {
         SCOPED_TRACE(round);
         clear();
         auto files = whole;

@@ -1,10 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/Resources.h"
+#include "Tests/LongRun.h"
 #include "Tests/REST/RESTHandlerFixture.h"
+#include "Tests/REST/TreeReference.h"
 
 #include <gmock/gmock.h>
 
 #include <algorithm>
+#include <random>
 #include <thread>
 
 using testing::AllOf;
@@ -156,6 +159,62 @@ TEST_F(InventoryTest, DamagedFeedIsSalvagedAndAnEmptyOneHasNoEntries)
     EXPECT_GT(feeds->feed(ObjectType::ManagedSystem).entryCount(), 0U);
     EXPECT_FALSE(feeds->feed(ObjectType::Group).root().exists());
     EXPECT_EQ(feeds->feed(ObjectType::Group).entryCount(), 0U);
+}
+
+TEST_F(InventoryTest, RecordsOfDamagedFeedsSayWhatTheLibrarysOwnTreeSays)
+{
+    simulator::SimulatorProcess simulator{{}};
+    const CorvelRef corvel = corvelOf(simulator);
+    const SessionKey sessionKey = key(corvel);
+    Resources::install(makeFolderResources(LODESTAR_DEMO_FOLDER));
+    const std::string systems = Resources::main().contents("ManagedSystem", "xml").value_or("");
+    const std::string console = Resources::main().contents("ManagementConsole", "xml").value_or("");
+    std::mt19937 random(5); // NOLINT(cert-msc51-cpp): the same damage in every run
+    const auto damaged = [&random](std::string text) {
+        if (random() % 2 == 0) {
+            text.resize(random() % text.size());
+        }
+        for (std::size_t i = random() % 20; i > 0 && !text.empty(); --i) {
+            text[random() % text.size()] = "<>&;/'\" a\xff"[random() % 10];
+        }
+        return text;
+    };
+    const auto count = [](const std::vector<std::string>& texts, const auto& holds) {
+        return static_cast<int>(std::ranges::count_if(texts, holds));
+    };
+    const int tries = rounds(40, 2000);
+    for (int i = 0; i < tries; ++i) {
+        const std::string hurtSystems = damaged(systems);
+        const std::string hurtConsole = damaged(console);
+        simulator.setFeed(0, ObjectType::ManagedSystem, hurtSystems);
+        simulator.setFeed(0, ObjectType::ManagementConsole, hurtConsole);
+        corvel->setRestData(allFeeds(corvel, sessionKey));
+        ASSERT_EQ(settled(handler().processInformationForCorvel(corvel)).value(), "OK");
+
+        const auto below = [&](std::string_view name) {
+            return readTreeEntries(hurtSystems, {"content", ObjectType::ManagedSystem, name});
+        };
+        EXPECT_EQ(corvel->numMSErrors, count(below("State"),
+                                             [](const std::string& state) {
+                                                 return state.find("error") != std::string::npos ||
+                                                        state.find("incomplete") != std::string::npos;
+                                             }))
+            << i;
+        EXPECT_EQ(corvel->numMSLEDs, count(below("PhysicalSystemAttentionLEDState"),
+                                           [](const std::string& state) { return state == "true"; }))
+            << i;
+        EXPECT_EQ(feedOfType(*corvel, ObjectType::ManagedSystem).entryCount(), below("State").size()) << i;
+        const auto version = [&](std::string_view name) {
+            const auto texts =
+                readTreeEntries(hurtConsole, {"content", ObjectType::ManagementConsole, "VersionInfo", name});
+            return texts.empty() || texts[0] == "(none)" ? "(null)" : texts[0];
+        };
+        EXPECT_EQ(RESTHandler::versionString(feedOfType(*corvel, ObjectType::ManagementConsole)),
+                  "V" + version("Version") + "R" + version("Release") + "." + version("Maintenance") + "." +
+                      version("Minor") + "." + version("ServicePackName"))
+            << i;
+    }
+    RecordProperty("tries", tries);
 }
 
 TEST_F(InventoryTest, MissingKeyIsNotSentAndEveryFeedIsRefused)

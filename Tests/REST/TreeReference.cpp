@@ -118,6 +118,28 @@ void appendElement(const XMLDocument& document, XMLDocument::Index& index, const
     }
 }
 
+bool isElement(const xmlNode& node, std::string_view name)
+{
+    return node.type == XML_ELEMENT_NODE && localName(node.name, node.ns) == name;
+}
+
+const xmlNode* firstChild(const xmlNode* parent, std::string_view name)
+{
+    const xmlNode* node = parent != nullptr ? parent->children : nullptr;
+    while (node != nullptr && !isElement(*node, name)) {
+        node = node->next;
+    }
+    return node;
+}
+
+std::string textBelow(const xmlNode& element)
+{
+    std::vector<std::string> lines;
+    std::string text;
+    appendTree(element, lines, text);
+    return text;
+}
+
 /// What `read` makes of the root of the library's own tree.
 template <typename Read>
 std::string withTree(std::string_view bytes, const Read& read)
@@ -154,16 +176,27 @@ std::string readTree(std::string_view bytes)
 std::string readTreeChildText(std::string_view bytes, std::string_view name)
 {
     return withTree(bytes, [name](const xmlNode& root) -> std::string {
+        const xmlNode* const child = firstChild(&root, name);
+        return child != nullptr ? "=" + textBelow(*child) : "(none)";
+    });
+}
+
+std::vector<std::string> readTreeEntries(std::string_view bytes, const std::vector<std::string_view>& path)
+{
+    std::vector<std::string> texts;
+    withTree(bytes, [&](const xmlNode& root) {
         for (const xmlNode* node = root.children; node != nullptr; node = node->next) {
-            if (node->type == XML_ELEMENT_NODE && localName(node->name, node->ns) == name) {
-                std::vector<std::string> lines;
-                std::string text;
-                appendTree(*node, lines, text);
-                return "=" + text;
+            if (isElement(*node, "entry")) {
+                const xmlNode* at = node;
+                for (const std::string_view name : path) {
+                    at = firstChild(at, name);
+                }
+                texts.push_back(at != nullptr ? textBelow(*at) : "(none)");
             }
         }
-        return "(none)";
+        return std::string();
     });
+    return texts;
 }
 
 std::string readArena(std::string_view bytes)

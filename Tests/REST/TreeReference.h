@@ -3,6 +3,7 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace lodestar
 {
@@ -17,6 +18,10 @@ std::string readTree(std::string_view bytes);
 
 /// The text of the root's first child element of the name, after "="; "(none)" and "(error)" as above.
 std::string readTreeChildText(std::string_view bytes, std::string_view name);
+
+/// Of each child element "entry" of the root, the text that the path of first children below it leads to; "(none)"
+/// where it leads nowhere.
+std::vector<std::string> readTreeEntries(std::string_view bytes, const std::vector<std::string_view>& path);
 
 /// The same as `readTree` through `XMLElement` and the arena below it.
 std::string readArena(std::string_view bytes);

@@ -118,6 +118,7 @@ TEST(XMLElementTests, AFeedCutAtEveryByteReadsAsTheLibrarysOwnTree)
 {
     const std::string feed = demoFeed("ManagementConsole.xml");
     ASSERT_GT(feed.size(), 1000U);
+    RecordProperty("tries", static_cast<int>(feed.size()) + 1);
     for (std::size_t length = 0; length <= feed.size(); ++length) {
         ASSERT_EQ(firstDifference(std::string_view(feed).substr(0, length)), "") << "cut at " << length;
     }
@@ -128,7 +129,9 @@ TEST(XMLElementTests, MutatedFeedsReadAsTheLibrarysOwnTree)
     const std::string feed = demoFeed("ManagementConsole.xml");
     std::mt19937 random(20260312); // NOLINT(cert-msc51-cpp): the same feeds in every run
     const std::string_view alphabet = "<>/&;='\"! []ab0\xc3\xff";
-    for (int round = 0; round < 2000; ++round) {
+    constexpr int tries = 2000;
+    RecordProperty("tries", tries);
+    for (int round = 0; round < tries; ++round) {
         std::string damaged = feed;
         for (int change = 0; change < 1 + round % 6; ++change) {
             damaged[random() % damaged.size()] = alphabet[random() % alphabet.size()];
@@ -141,7 +144,9 @@ TEST(XMLElementTests, LongerFeedsCutAndMutatedReadAsTheLibrarysOwnTree)
 {
     const std::string feed = demoFeed("ServiceableEvent.xml");
     std::mt19937 random(20260313); // NOLINT(cert-msc51-cpp): the same feeds in every run
-    for (int round = 0; round < 150; ++round) {
+    constexpr int tries = 150;
+    RecordProperty("tries", tries);
+    for (int round = 0; round < tries; ++round) {
         std::string damaged = feed.substr(0, feed.size() - random() % (feed.size() / 2));
         for (int change = 0; change < 1 + round % 3; ++change) {
             damaged[random() % damaged.size()] = "<>/&;\"x\0"[random() % 8];
