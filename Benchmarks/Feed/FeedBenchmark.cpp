@@ -7,10 +7,12 @@
 #include "Controllers/REST/XMLElement.h"
 #include "Simulator/FeedWriter.h"
 
+#include <fmt/format.h>
 #include <libxml/parser.h>
 
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <malloc.h>
 
 namespace lodestar
@@ -126,8 +128,46 @@ BENCHMARK_CAPTURE(parse, tree, &tree, &large)
 BENCHMARK_CAPTURE(parse, ours200, &ours, &usual)->Name("feed parse, 200 KB")->UseManualTime();
 BENCHMARK_CAPTURE(parse, tree200, &tree, &usual)->Name("libxml2's tree, 200 KB")->UseManualTime();
 
+constexpr std::size_t floodBytes = 10'000'000;
+
+/// Processor time, whatever comes of it.
+double floodTime(const std::string& bytes)
+{
+    ::malloc_trim(0);
+    const double start = bench::processorTime();
+    benchmark::DoNotOptimize(XMLElement::parse(bytes).ok());
+    return bench::processorTime() - start;
+}
+
+void measureFloods(bench::Rows& rows)
+{
+    const auto plain = [bytes = makeFeed(floodBytes, 100)] { return floodTime(bytes); };
+    const auto add = [&](const char* name, const std::string& begin, const std::function<std::string(int)>& one) {
+        std::string bytes = begin;
+        for (int i = 0; bytes.size() < floodBytes; ++i) {
+            bytes += one(i);
+        }
+        const auto medians = bench::medianInterleaved([&] { return floodTime(bytes); }, plain);
+        rows.add(name, medians.ours, medians.reference, 2);
+    };
+    add("a feed of a million different names / a plain feed of 10 MB", "<feed>",
+        [](int i) { return fmt::format("<n{}/>", i); });
+    add("a feed of ten million errors / a plain feed of 10 MB", "<feed>", [](int) { return "&"; });
+    add("a feed of a million attributes in one tag / a plain feed of 10 MB", "<feed><a",
+        [](int i) { return fmt::format(" n{}=''", i); });
+    add("a feed of a million attributes in tags of 800 / a plain feed of 10 MB", "<feed>", [](int) {
+        std::string tag = "<a";
+        for (int i = 0; i < 800; ++i) {
+            tag += fmt::format(" n{}=''", i);
+        }
+        return tag + "/>";
+    });
+    add("a feed of three million levels / a plain feed of 10 MB", "<feed>", [](int) { return "<a>"; });
+}
+
 void measureRows(bench::Rows& rows)
 {
+    measureFloods(rows);
     const auto medians = [](const Load& load) {
         return bench::medianInterleaved([&] { return ours(load); }, [&] { return tree(load); }, 21);
     };

@@ -1,12 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
-// Any bytes as the body of a feed: what is read of them is what libxml2's own tree of them says, and what is not there
-// yields nothing.
+// Any bytes as the body of a feed: what is read of them is what libxml2's own tree of them says, what is not there
+// yields nothing, and the time that they take is in proportion to their number, however often they are repeated.
 #include "Controllers/REST/XMLElement.h"
 #include "Tests/Fuzz/Require.h"
 #include "Tests/REST/TreeReference.h"
 
 #include <cstddef>
 #include <cstdint>
+#include <ctime>
+#include <string>
 
 namespace
 {
@@ -38,6 +40,40 @@ void readAsScreensDo(const XMLElement& root)
     }
 }
 
+double threadMicroseconds()
+{
+    timespec now{};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &now);
+    return static_cast<double>(now.tv_sec) * 1e6 + static_cast<double>(now.tv_nsec) / 1e3;
+}
+
+/// A hundred times what a feed takes under the sanitizers would be missed in few bytes and found in many: the input
+/// once more, over and over, with each "0" a number of its own, so that names, values and declarations differ.
+void requireTimeInProportion(std::string_view bytes)
+{
+    constexpr std::size_t size = 50'000;
+    constexpr double start = 20'000; // microseconds, for what is bounded by itself and for a machine with other work
+    constexpr double each = 1;       // microsecond a byte
+    std::string repeated;
+    for (int i = 0; repeated.size() < size; ++i) {
+        for (const char c : bytes) {
+            repeated += c == '0' ? std::to_string(i) : std::string(1, c);
+        }
+    }
+    const double begin = threadMicroseconds();
+    const bool read = XMLElement::parse(repeated).ok();
+    const double took = threadMicroseconds() - begin;
+    require(took <= start + each * static_cast<double>(repeated.size()), "time in proportion to the bytes",
+            std::to_string(took) + " us for " + std::to_string(repeated.size()) +
+                (read ? " bytes" : " bytes, refused"));
+}
+
+/// Whether it is this input's turn for what would take too long for each.
+bool isDrawn(std::string_view bytes)
+{
+    return !bytes.empty() && std::hash<std::string_view>()(bytes) % 32 == 0;
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size)
@@ -47,6 +83,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     require(difference.empty(), "the arena reads as the tree", difference);
     if (const auto root = XMLElement::parse(bytes)) {
         readAsScreensDo(root.value());
+    }
+    if (isDrawn(bytes)) {
+        requireTimeInProportion(bytes);
     }
     return 0;
 }

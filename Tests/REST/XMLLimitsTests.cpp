@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 #include <libxml/parser.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <ctime>
 #include <filesystem>
@@ -155,6 +156,69 @@ TEST(XMLLimitsTests, BombsTakeLittleTimeAndMemory)
         if (bomb.readToTheEnd) {
             ASSERT_TRUE(root.ok()) << bomb.name;
             EXPECT_TRUE(root.value().child("last").exists()) << bomb.name;
+        }
+    }
+}
+
+struct Flood {
+    const char* name;
+    const char* before;
+    std::function<std::string(int)> one;
+    /// Otherwise what stood before the flood is read.
+    bool refused;
+};
+
+std::vector<Flood> floods()
+{
+    const auto n = [](int i) { return std::to_string(i); };
+    return {
+        {"names", "<a>", [n](int i) { return "<n" + n(i) + "/>"; }, true},
+        {"attribute names", "<a>", [n](int i) { return "<b n" + n(i) + "=''/>"; }, true},
+        {"name spaces", "<a>", [n](int i) { return "<b xmlns='u" + n(i) + "'/>"; }, true},
+        {"instructions", "<a>", [n](int i) { return "<?n" + n(i) + "?>"; }, true},
+        {"values of a declaration", "<!DOCTYPE a [<!ATTLIST a b (v", [n](int i) { return "|v" + n(i); }, true},
+        {"tags of many attributes", "<a>",
+         [n](int) { return "<b" + numbered(1, 800, [n](int k) { return " c" + n(k) + "=''"; }) + "/>"; }, true},
+        {"attributes twice", "<a><first/>", [](int) { return "<b" + repeated(" c=''", 800) + "/>"; }, false},
+        {"ampersands", "<a><first/>", [](int) { return "&"; }, false},
+        {"ampersands in a value", "<a><first/><b c='", [](int) { return "&"; }, false},
+        {"angle brackets", "<a><first/>", [](int) { return "<"; }, false},
+        {"ends of others", "<a><first/>", [](int) { return "<b></c>"; }, false},
+        {"comments", "<a><first/>", [](int) { return "<!-- -- -->"; }, false},
+        {"control characters", "<a><first/>", [](int) { return "\x01"; }, false},
+        {"depth", "<a><first/>", [](int) { return "<b>"; }, false},
+    };
+}
+
+TEST(XMLLimitsTests, FloodsTakeAtMostTwiceAPlainFeed)
+{
+    constexpr std::size_t size = 1'000'000;
+    const auto filled = [](std::string bytes, const std::function<std::string(int)>& one) {
+        for (int i = 0; bytes.size() < size; ++i) {
+            bytes += one(i);
+        }
+        return bytes;
+    };
+    const auto cost = [](const std::string& bytes) {
+        double least = 1e9;
+        for (int i = 0; i < 3; ++i) {
+            const double start = threadMilliseconds();
+            static_cast<void>(XMLElement::parse(bytes));
+            least = std::min(least, threadMilliseconds() - start);
+        }
+        return least;
+    };
+    const double plain = cost(filled("<a>", [](int i) {
+        return "<entry><id>" + std::to_string(i) + "</id><Name kb='CUD' kxe='false'>partition-" + std::to_string(i) +
+               "</Name><State kb='ROR'>running</State></entry>";
+    }));
+    for (const Flood& flood : floods()) {
+        const std::string bytes = filled(flood.before, flood.one);
+        EXPECT_LE(cost(bytes), 2 * plain) << flood.name;
+        const auto root = XMLElement::parse(bytes);
+        EXPECT_EQ(root.ok(), !flood.refused) << flood.name;
+        if (root) {
+            EXPECT_TRUE(root.value().child("first").exists()) << flood.name;
         }
     }
 }

@@ -13,6 +13,13 @@ namespace lodestar
 namespace
 {
 
+// What an error or a comparison costs the library is a hundred times or a tenth of what a byte of a feed does. These
+// let the worst input take about as long again as a plain feed of its size.
+constexpr std::size_t errorsAlways = 2500;
+constexpr std::size_t bytesAnError = 64;
+constexpr std::size_t comparisonsAlways = 1'000'000;
+constexpr std::size_t comparisonsAByte = 8;
+
 constexpr std::size_t arenaLimit = std::numeric_limits<std::uint32_t>::max() - 1;
 // Salvage what can be salvaged, print nothing, open nothing. Entities are never replaced, no DTD is ever loaded, and
 // the parser's own limits on depth and size stay on.
@@ -58,13 +65,15 @@ Result<std::shared_ptr<const XMLDocument>> XMLDocumentBuilder::run(std::string_v
         return outOfMemory();
     }
     m_parser = parser.get();
-    m_memory.limitAttributesOf(*parser);
+    m_memory.limit(*parser);
+    m_errorsLeft = errorsAlways + bytes.size() / bytesAnError;
+    m_comparisonsLeft = comparisonsAlways + bytes.size() * comparisonsAByte;
     parser->_private = this;
     xmlCtxtUseOptions(parser.get(), parseOptions);
     setEvents(*parser->sax);
     reserve(bytes.size());
     xmlParseDocument(parser.get());
-    if (m_memory.hadMonstrousTag()) {
+    if (m_memory.wasBeyondLimits()) {
         return tooLarge();
     }
     // A shorter document must never pass for a whole one.
@@ -106,13 +115,14 @@ void XMLDocumentBuilder::reserve(std::size_t inputSize)
 }
 
 void XMLDocumentBuilder::startElement(void* context, const xmlChar* localName, const xmlChar* prefix,
-                                      const xmlChar* /*uri*/, int /*namespaceCount*/, const xmlChar** /*namespaces*/,
+                                      const xmlChar* /*uri*/, int namespaceCount, const xmlChar** /*namespaces*/,
                                       int attributeCount, int defaultedCount, const xmlChar** attributes)
 {
     XMLDocumentBuilder* const self = of(context);
     if (self == nullptr) {
         return;
     }
+    self->countComparisons(static_cast<std::size_t>(attributeCount), static_cast<std::size_t>(namespaceCount));
     try {
         self->closeAbandoned();
         // Values that only a declaration gives stand last, and are not read.
@@ -157,11 +167,43 @@ void XMLDocumentBuilder::characters(void* context, const xmlChar* bytes, int len
 /// one that counts.
 void XMLDocumentBuilder::noteError(void* context, xmlErrorPtr error)
 {
-    if (context == nullptr || error == nullptr || error->code != XML_ERR_NO_MEMORY) {
+    if (context == nullptr || error == nullptr) {
         return;
     }
     auto* const parser = static_cast<xmlParserCtxtPtr>(context);
-    static_cast<XMLDocumentBuilder*>(parser->_private)->fail(outOfMemory());
+    auto* const self = static_cast<XMLDocumentBuilder*>(parser->_private);
+    if (error->code == XML_ERR_NO_MEMORY) {
+        self->fail(outOfMemory());
+    } else if (self->m_errorsLeft > 0) {
+        --self->m_errorsLeft;
+    } else {
+        self->end(*parser);
+        self->end(*self->m_parser);
+    }
+}
+
+/// As the library itself ends a parse where memory is refused: an error may be told in the middle of anything, where
+/// `xmlStopParser` would take away what is being read. After some constructs the library goes on all the same, as far
+/// as the next event.
+void XMLDocumentBuilder::end(xmlParserCtxt& parser)
+{
+    m_over = true;
+    parser.instate = XML_PARSER_EOF;
+    parser.disableSAX = 1;
+}
+
+/// The parser compares the attributes of a tag with each other, the name spaces too, and looks for the name space of
+/// each among all in force.
+void XMLDocumentBuilder::countComparisons(std::size_t attributeCount, std::size_t namespaceCount)
+{
+    const auto inForce = static_cast<std::size_t>(m_parser->nsNr) / 2;
+    const std::size_t made =
+        (attributeCount * attributeCount + namespaceCount * namespaceCount) / 2 + (attributeCount + 1) * inForce;
+    if (made > m_comparisonsLeft) {
+        fail(tooLarge());
+    } else {
+        m_comparisonsLeft -= made;
+    }
 }
 
 void XMLDocumentBuilder::open(const xmlChar* localName, const xmlChar* prefix, const xmlChar** attributes,
@@ -238,6 +280,7 @@ void XMLDocumentBuilder::fail(Error error)
 {
     if (!m_failed) {
         m_failed = true;
+        m_over = true;
         m_error = std::move(error);
         xmlStopParser(m_parser);
     }

@@ -44,7 +44,10 @@ private:
     {
         auto* const parser = static_cast<xmlParserCtxtPtr>(context);
         auto* const builder = static_cast<XMLDocumentBuilder*>(parser->_private);
-        return parser == builder->m_parser && !builder->m_failed ? builder : nullptr;
+        if (builder->m_over && parser == builder->m_parser) {
+            xmlStopParser(parser);
+        }
+        return parser == builder->m_parser && !builder->m_over ? builder : nullptr;
     }
     static void startElement(void* context, const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri,
                              int namespaceCount, const xmlChar** namespaces, int attributeCount, int defaultedCount,
@@ -52,8 +55,10 @@ private:
     static void endElement(void* context, const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri);
     static void characters(void* context, const xmlChar* bytes, int length);
     static void noteError(void* context, xmlErrorPtr error);
+    void end(xmlParserCtxt& parser);
 
     void setEvents(xmlSAXHandler& events) const;
+    void countComparisons(std::size_t attributeCount, std::size_t namespaceCount);
     void reserve(std::size_t inputSize);
     void open(const xmlChar* localName, const xmlChar* prefix, const xmlChar** attributes, int attributeCount);
     void addAttribute(const xmlChar* localName, const xmlChar* prefix, std::string_view raw);
@@ -87,6 +92,9 @@ private:
         m_known{}; ///< by address; a name that another has driven out is looked up by its text
     XMLExpansion m_expansion;
     xmlParserCtxtPtr m_parser = nullptr;
+    std::size_t m_errorsLeft = 0;
+    std::size_t m_comparisonsLeft = 0;
+    bool m_over = false; ///< nothing more is taken
     bool m_failed = false;
     Error m_error;
 };

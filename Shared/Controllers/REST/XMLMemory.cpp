@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Controllers/REST/XMLMemory.h"
 
+#include <libxml/dict.h>
+#include <libxml/xmlerror.h>
 #include <libxml/xmlmemory.h>
 
 #include <cstdlib>
@@ -13,7 +15,8 @@ namespace
 {
 
 thread_local bool refused = false;
-thread_local bool monstrous = false;
+thread_local bool beyondLimits = false;
+thread_local int declarationPieces = 0;
 thread_local const xmlParserCtxt* limited = nullptr;
 
 /// The parser keeps five pointers for each attribute of the tag that it is in, two for each name space in force.
@@ -27,6 +30,12 @@ bool isRoomForMonstrousTag(const void* block, std::size_t size)
            (block == static_cast<const void*>(limited->nsTab) && size > one * 2 * mostAttributes);
 }
 
+bool isRoomForTooManyNames()
+{
+    return limited != nullptr && (xmlDictSize(limited->dict) > mostNames ||
+                                  (limited->instate == XML_PARSER_DTD && ++declarationPieces > mostDeclarationPieces));
+}
+
 void* noted(void* block)
 {
     refused |= block == nullptr;
@@ -35,13 +44,17 @@ void* noted(void* block)
 
 void* allocate(std::size_t size)
 {
+    if (isRoomForTooManyNames()) {
+        beyondLimits = true;
+        return nullptr;
+    }
     return noted(std::malloc(size));
 }
 
 void* reallocate(void* block, std::size_t size)
 {
     if (isRoomForMonstrousTag(block, size)) {
-        monstrous = true;
+        beyondLimits = true;
         return nullptr;
     }
     // Nothing is what a size of nothing gives, and rightly.
@@ -64,23 +77,27 @@ XMLMemoryWatch::XMLMemoryWatch()
         xmlMemSetup(&std::free, &allocate, &reallocate, &duplicate);
         xmlInitParser();
     });
+    // What goes wrong outside of any parser would be printed.
+    xmlSetStructuredErrorFunc(nullptr, [](void*, xmlErrorPtr) {});
     refused = false;
-    monstrous = false;
+    beyondLimits = false;
+    declarationPieces = 0;
 }
 
 XMLMemoryWatch::~XMLMemoryWatch()
 {
     limited = nullptr;
+    xmlSetStructuredErrorFunc(nullptr, nullptr);
 }
 
-void XMLMemoryWatch::limitAttributesOf(const xmlParserCtxt& parser)
+void XMLMemoryWatch::limit(const xmlParserCtxt& parser)
 {
     limited = &parser;
 }
 
-bool XMLMemoryWatch::hadMonstrousTag() const
+bool XMLMemoryWatch::wasBeyondLimits() const
 {
-    return monstrous;
+    return beyondLimits;
 }
 
 bool XMLMemoryWatch::ranOut() const
