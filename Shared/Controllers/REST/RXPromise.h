@@ -26,9 +26,9 @@ namespace lodestar
 /// Both handlers must agree on `R`; returning nothing counts as `std::nullopt` where `R` is optional.
 ///
 /// Who runs where. Settling and registering are allowed on any thread. Handlers never run on the stack that settles or
-/// registers: they are handed to their context, in the order in which they were registered, when the promise settles,
-/// or at once if it has. Handlers of one promise on a concurrent context may overlap. A handler that throws ends the
-/// process.
+/// registers: they are handed to their context when the promise settles, or at once if it has. Handlers of one promise
+/// run in the order in which they were registered, whatever their contexts: the next is handed to its context when the
+/// one before has returned, and so may not be waited for by it. A handler that throws ends the process.
 ///
 /// Who keeps what alive. A promise keeps its handlers and so the promises derived from it; a derived promise does not
 /// keep its parent. Whoever is to settle a promise therefore holds it, and everything behind it may be let go: once it

@@ -61,26 +61,58 @@ void Core::registerDerived(Ref<Core> derived)
     addNode(*core, core);
 }
 
-/// Nodes that come while a thread still hands out the earlier ones wait their turn, so that the order of registration
-/// is the order of dispatch throughout.
+/// One handler's turn, on its way to the handler's context. It passes on when the handler has run, and also when the
+/// context lets it go unrun: the handlers of other contexts still wait.
+class Core::Turn
+{
+public:
+    Turn(Ref<Core> derived, Ref<Core> parent) : m_derived(std::move(derived)), m_parent(std::move(parent)) {}
+    Turn(Turn&&) noexcept = default;
+    Turn& operator=(Turn&&) = delete;
+    ~Turn()
+    {
+        m_derived = {};
+        if (m_parent.get() != nullptr) {
+            m_parent->passTurn();
+        }
+    }
+
+    void operator()() { m_derived->runHandler(*m_parent); }
+
+private:
+    Ref<Core> m_derived;
+    Ref<Core> m_parent;
+};
+
+/// A handler that comes while an earlier one is handed out or runs waits for its turn, so that the order of
+/// registration is the order of running throughout.
 void Core::addNode(Node& node, Core* derived)
 {
-    const bool settled = SharedSyncQueue::sync([&] {
+    enum class Place { Queue, AtOnce, First };
+    const Place place = SharedSyncQueue::sync([&] {
         if (m_queueNumber == 0) {
             m_queueNumber = ++s_lastQueueNumber;
         }
         if (derived != nullptr) {
             derived->m_parentNumber = m_queueNumber;
         }
+        if (m_state != State::Pending && derived == nullptr) {
+            return Place::AtOnce;
+        }
         if (m_state != State::Pending && !m_resuming) {
-            return true;
+            m_resuming = true;
+            m_known = true;
+            return Place::First;
         }
         (m_last == nullptr ? m_first : m_last->m_next) = &node;
         m_last = &node;
-        return false;
+        return Place::Queue;
     });
-    if (settled) {
+    if (place == Place::AtOnce) {
         node.parentSettled(*this);
+    } else if (place == Place::First) {
+        m_turns = &node;
+        passTurn();
     }
 }
 
@@ -106,33 +138,56 @@ void Core::resumeHandlerQueue(Node& registered)
     t_resume.active = false;
 }
 
+/// On the thread that settles, which has the turn.
 void Core::handOut(Node* node)
 {
-    // When nobody else held the promise while the nodes were taken, nothing can have been registered since. What is
-    // handed out refers to it, but registers nothing.
-    const bool known = m_known;
+    Node** last = &m_turns;
     while (node != nullptr) {
-        while (node != nullptr) {
-            Node* const next = std::exchange(node->m_next, nullptr);
+        Node* const next = std::exchange(node->m_next, nullptr);
+        if (node->takesTurn()) {
+            *last = node;
+            last = &node->m_next;
+        } else {
             node->parentSettled(*this);
-            node = next;
         }
-        if (known) {
-            node = SharedSyncQueue::sync([this] { return takeNodes(); });
+        node = next;
+    }
+    passTurn();
+}
+
+/// The next handler, for whoever has the turn. With none, the turn is anybody's.
+Core* Core::takeNext()
+{
+    // When nobody else held the promise while the nodes were taken, nothing can have been registered since. Who waits
+    // for a turn refers to it, but registers nothing.
+    if (m_turns == nullptr && m_known) {
+        if (Node* const taken = SharedSyncQueue::sync([this] { return takeNodes(); })) {
+            m_turns = taken;
+        } else {
+            return nullptr;
         }
+    }
+    Node* const next = m_turns;
+    if (next != nullptr) {
+        m_turns = std::exchange(next->m_next, nullptr);
+    }
+    return static_cast<Core*>(next);
+}
+
+void Core::passTurn()
+{
+    if (auto next = Ref<Core>::adopt(takeNext()); next.get() != nullptr) {
+        // Taken out: the block may have run, and let the derived promise go, before the call returns.
+        const ExecutionContext context = std::move(next->m_context);
+        context.dispatchBlock(Turn(std::move(next), Ref<Core>(*this)));
     }
 }
 
+/// The promise that the handler returned has settled.
 void Core::parentSettled(Core& parent)
 {
-    auto self = Ref<Core>::adopt(this);
-    if (m_bound) {
-        adopt(parent);
-        return;
-    }
-    // Taken out: the block may have run, and let this promise go, before the call returns.
-    const ExecutionContext context = std::move(m_context);
-    context.dispatchBlock([self = std::move(self), parent = Ref<Core>(parent)] { self->runHandler(*parent); });
+    const auto self = Ref<Core>::adopt(this);
+    adopt(parent);
 }
 
 void Core::parentGone()

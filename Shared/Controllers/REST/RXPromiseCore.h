@@ -129,7 +129,10 @@ public:
     Node& operator=(const Node&) = delete;
     virtual ~Node() = default;
 
-    /// On the thread that settles (or registers on a settled promise), outside the sync queue.
+    /// Whether it holds handlers, which run one after another; the others need not wait for any.
+    virtual bool takesTurn() const { return false; }
+    /// On the thread that settles (or registers on a settled promise), outside the sync queue. Not for those that take
+    /// a turn.
     virtual void parentSettled(Core& parent) = 0;
     /// The promise is gone without having been settled.
     virtual void parentGone() = 0;
@@ -206,7 +209,10 @@ protected:
     virtual void adoptValue(const Core& other) = 0;
 
 private:
+    class Turn;
+
     static void dispose(Core& core);
+    bool takesTurn() const final { return !m_bound; }
     void parentSettled(Core& parent) final;
     void parentGone() final;
     void addNode(Node& node, Core* derived);
@@ -220,15 +226,17 @@ private:
     }
     void resumeHandlerQueue(Node& registered);
     void handOut(Node* node);
+    Core* takeNext();
+    void passTurn();
     void abandonNodes();
     void adopt(const Core& other);
 
     std::atomic<std::uint32_t> m_references{1};
     // Behind the sync queue:
     State m_state = State::Pending;
-    bool m_resuming = false; ///< settled, and a thread is handing out what was registered
-    // Of the thread that resumes:
-    bool m_known = false; ///< others than this thread held the promise when its nodes were taken
+    bool m_resuming = false; ///< settled, and somebody has the turn
+    // Of whoever has the turn, that is hands out nodes or runs a handler:
+    bool m_known = false; ///< others held the promise when its nodes were taken
     // Of the derived promise:
     bool m_bound = false; ///< waits for the promise that its handler returned
     // Behind the sync queue:
@@ -240,6 +248,8 @@ private:
     // In the lists of the thread that resumes or disposes:
     Core* m_nextCore = nullptr;
     Node* m_registered = nullptr;
+    // Of whoever has the turn:
+    Node* m_turns = nullptr; ///< handlers that were taken and have not run
     ExecutionContext m_context;
 };
 
