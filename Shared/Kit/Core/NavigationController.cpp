@@ -55,6 +55,19 @@ void NavigationController::pop()
     popViewController(Animated::Yes);
 }
 
+void NavigationController::popToRoot()
+{
+    while (m_stack.size() > 2) {
+        const auto covered = m_stack.end() - 2;
+        const std::shared_ptr<ViewController> controller = *covered;
+        m_stack.erase(covered);
+        controller->m_navigationController = nullptr;
+        Q_EMIT removed(depth() - 1);
+        MainQueue::shared().async([keep = controller] {});
+    }
+    pop();
+}
+
 ViewController* NavigationController::topViewController() const
 {
     return m_stack.back().get();

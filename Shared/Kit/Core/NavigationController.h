@@ -28,6 +28,8 @@ public:
     /// Takes the last screen off; the root stays. Returns the popped one, or null.
     std::shared_ptr<ViewController> popViewController(Animated animated);
     Q_INVOKABLE void pop();
+    /// Slides the last screen off the root; those between go unseen.
+    void popToRoot();
 
     ViewController* topViewController() const;
     ViewController* rootViewController() const;
@@ -40,6 +42,8 @@ Q_SIGNALS:
     /// Emitted before the controller is released. A scene that is to outlive this, for as long as it slides away, keeps
     /// the controller alive (as SceneHost does).
     void popped(lodestar::ViewController* controller, bool animated);
+    /// A screen that others cover has gone. Likewise before its controller is released.
+    void removed(int index);
     void stackChanged();
 
 protected:

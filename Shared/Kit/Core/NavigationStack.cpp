@@ -24,6 +24,7 @@ void NavigationStack::setController(NavigationController* controller)
     m_controller = controller;
     connect(controller, &NavigationController::pushed, this, &NavigationStack::push);
     connect(controller, &NavigationController::popped, this, [this](ViewController*, bool animated) { pop(animated); });
+    connect(controller, &NavigationController::removed, this, &NavigationStack::remove);
     Q_EMIT controllerChanged();
 }
 
@@ -74,6 +75,15 @@ void NavigationStack::pop(bool animated)
         QQuickItem* const going = m_pages.back();
         m_pages.pop_back();
         slide(m_pages.back(), going, true, animated);
+    }
+}
+
+void NavigationStack::remove(int index)
+{
+    setProgress(1); // it may be one of the two that slide
+    if (index < std::ssize(m_pages)) {
+        m_pages[static_cast<std::size_t>(index)]->deleteLater();
+        m_pages.erase(m_pages.begin() + index);
     }
 }
 

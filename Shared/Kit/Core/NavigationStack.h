@@ -58,6 +58,7 @@ protected:
 private:
     void push(ViewController* shown, bool animated);
     void pop(bool animated);
+    void remove(int index);
     void slide(QQuickItem* coming, QQuickItem* going, bool isPop, bool animated);
     void place();
     void settle();

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Kit/Core/TabBarController.h"
 
+#include "Kit/Core/NavigationController.h"
+
 #include <utility>
 
 namespace lodestar
@@ -33,6 +35,15 @@ void TabBarController::setSelectedIndex(int index)
     Q_EMIT selectedIndexChanged();
     if (isInWindow() && m_selectedIndex == index) {
         controllerAt(index)->beginAppearance();
+    }
+}
+
+void TabBarController::tap(int index)
+{
+    if (index != m_selectedIndex) {
+        setSelectedIndex(index);
+    } else if (auto* const stack = qobject_cast<NavigationController*>(controllerAt(index))) {
+        stack->popToRoot();
     }
 }
 

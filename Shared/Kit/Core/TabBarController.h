@@ -34,6 +34,8 @@ public:
     int count() const { return static_cast<int>(m_items.size()); }
     int selectedIndex() const { return m_selectedIndex; }
     void setSelectedIndex(int index);
+    /// What a tap on a tab does: selects it, or takes the selected one back to its first screen.
+    Q_INVOKABLE void tap(int index);
     /// Invalid for the kit's own.
     QColor selectedImageTintColor() const;
     Q_INVOKABLE QString titleAt(int index) const;

@@ -4,8 +4,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Lodestar.Kit
 
-/// Mirrors a navigation controller: slides its screens in and out. Escape, the back key and a swipe from the edge where
-/// one started reading go back.
+/// Mirrors a navigation controller: slides its screens in and out. Escape, Alt and the left arrow, the back key and a
+/// swipe from the edge where one started reading go back.
 FocusScope {
     id: view
 
@@ -22,6 +22,11 @@ FocusScope {
         }
     }
 
+    Shortcut {
+        sequences: ["Alt+Left"]
+        enabled: view.visible && view.controller.depth > 1
+        onActivated: view.controller.pop()
+    }
     NavigationStack {
         id: stack
 

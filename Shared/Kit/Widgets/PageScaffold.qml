@@ -32,14 +32,6 @@ FocusScope {
         color: Theme.ground
     }
     Item {
-        id: body
-
-        anchors.top: top.bottom
-        anchors.bottom: parent.bottom
-        width: parent.width
-        clip: true
-    }
-    Item {
         id: top
 
         width: parent.width
@@ -56,5 +48,14 @@ FocusScope {
             value: page.scrolled
             when: page.scrollView !== null
         }
+    }
+    // After the bar: Tab and readers go through the bar first.
+    Item {
+        id: body
+
+        anchors.top: top.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+        clip: true
     }
 }

@@ -18,6 +18,7 @@ Rectangle {
     implicitHeight: rail ? 0 : Theme.tabBarHeight
     color: Theme.card
     Accessible.role: Accessible.PageTabList
+    Accessible.name: qsTr("Screens")
 
     function step(by: int) {
         const index = controller.selectedIndex + by;
@@ -74,12 +75,11 @@ Rectangle {
                 Accessible.name: text
                 Accessible.selected: selected
                 Accessible.selectable: true
-                onClicked: bar.controller.selectedIndex = index
+                onClicked: bar.controller.tap(index)
                 Keys.onLeftPressed: bar.step(bar.rail ? 0 : Theme.mirrored ? 1 : -1)
                 Keys.onRightPressed: bar.step(bar.rail ? 0 : Theme.mirrored ? -1 : 1)
                 Keys.onUpPressed: bar.step(bar.rail ? -1 : 0)
                 Keys.onDownPressed: bar.step(bar.rail ? 1 : 0)
-                Keys.onReturnPressed: tab.clicked()
 
                 FocusRing {
                     anchors.fill: parent
