@@ -87,6 +87,8 @@ SheetContent {
     }
     Alert {
         outlet: scene.sheet.alert
+        // Saving took the keyboard from the fields and emptied them: the next thing to do is to write again.
+        onClosed: scene.firstField.edit(Qt.OtherFocusReason)
     }
 
     component PasscodeRow: FormField {

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Application/PasswordCreationViewController.h"
 #include "Application/SettingsViewController.h"
 #include "Platform/Keychain.h"
 #include "Platform/UserDefaults.h"
@@ -80,6 +81,11 @@ TEST_F(SettingsTest, APasscodeIsSetAndChangedByHand)
     ASSERT_TRUE(stage.waitFor([this] { return button("OK") == nullptr; }));
     EXPECT_EQ(passcode(), "first ");
     EXPECT_NE(settings->semiModal(), nullptr);
+    // The next try is written at once.
+    stage.settle(200);
+    type("x");
+    EXPECT_EQ(dynamic_cast<PasswordCreationViewController&>(*settings->semiModal()->controller()).oldPassword()->text(),
+              "x");
     press(Qt::Key_Escape);
     EXPECT_EQ(settings->semiModal(), nullptr);
     EXPECT_TRUE(waitForNoSheet());
