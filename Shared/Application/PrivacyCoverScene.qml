@@ -3,10 +3,15 @@ import QtQuick
 import Lodestar.Kit
 
 /// The window without its content: the passcode screen as it opens.
-Rectangle {
+ModalLayer {
     anchors.fill: parent
-    color: Theme.ground
+    Accessible.role: Accessible.Pane
+    Accessible.name: qsTr("Lodestar")
 
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.ground
+    }
     Icon {
         anchors.centerIn: parent
         name: "app_icon"

@@ -44,6 +44,7 @@ PageScaffold {
                 iconName: "lock"
                 chevron: false
                 pressable: false
+                Accessible.ignored: true // its switch speaks for it
 
                 Switch {
                     objectName: "passwordSwitch"

@@ -57,14 +57,21 @@ Item {
         background: Rectangle {
             color: Theme.ground
         }
-        contentItem: SceneView {
-            id: screen
-
-            controller: layer.host.screen
-            reportsAppearance: true
+        contentItem: ModalLayer {
             focus: true
             LayoutMirroring.enabled: Theme.mirrored
             LayoutMirroring.childrenInherit: true
+            Accessible.role: Accessible.Dialog
+            Accessible.name: qsTr("Feedback")
+
+            SceneView {
+                id: screen
+
+                controller: layer.host.screen
+                reportsAppearance: true
+                focus: true
+                anchors.fill: parent
+            }
         }
     }
     Alert {

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Lodestar.Kit
 
 /// A button among the drawing tools: a drawing, or a disc of colour.
-T.AbstractButton {
+Pressable {
     id: tool
 
     property string iconName
@@ -12,52 +11,48 @@ T.AbstractButton {
     property bool chosen: false
 
     implicitHeight: Theme.target
-    focusPolicy: Qt.StrongFocus
     opacity: enabled ? 1 : 0.4
     Accessible.role: Accessible.Button
     Accessible.name: text
     Accessible.checkable: true
     Accessible.checked: chosen
-    Keys.onReturnPressed: tool.clicked()
-    Keys.onEnterPressed: tool.clicked()
 
-    contentItem: Item {
-        Icon {
-            visible: tool.iconName !== ""
-            name: tool.iconName
-            color: tool.chosen ? Theme.accentInk : Theme.ink2
-            anchors.centerIn: parent
-        }
-        Rectangle {
-            visible: tool.iconName === "" && tool.chosen
-            anchors.centerIn: parent
-            width: 30
-            height: 30
-            radius: 15
-            color: "transparent"
-            border.width: 2
-            border.color: Theme.ink2
-        }
-        Rectangle {
-            visible: tool.iconName === ""
-            anchors.centerIn: parent
-            width: 22
-            height: 22
-            radius: 11
-            color: tool.disc
-            border.width: 1
-            border.color: Theme.dark ? "#4DFFFFFF" : "#33000000"
-        }
-    }
-    background: Rectangle {
+    Rectangle {
+        anchors.fill: parent
         radius: Theme.segmentRadius
-        color: tool.chosen && tool.iconName !== "" ? Theme.well : tool.down ? Theme.pressed
-                                                                           : tool.hovered ? Theme.hovered : "transparent"
+        color: tool.chosen && tool.iconName !== "" ? Theme.well : tool.pressed ? Theme.pressed
+                                                                              : tool.hovered ? Theme.hovered : "transparent"
 
         FocusRing {
             anchors.fill: parent
             radius: Theme.segmentRadius
             shown: tool.visualFocus
         }
+    }
+    Icon {
+        visible: tool.iconName !== ""
+        name: tool.iconName
+        color: tool.chosen ? Theme.accentInk : Theme.ink2
+        anchors.centerIn: parent
+    }
+    Rectangle {
+        visible: tool.iconName === "" && tool.chosen
+        anchors.centerIn: parent
+        width: 30
+        height: 30
+        radius: 15
+        color: "transparent"
+        border.width: 2
+        border.color: Theme.ink2
+    }
+    Rectangle {
+        visible: tool.iconName === ""
+        anchors.centerIn: parent
+        width: 22
+        height: 22
+        radius: 11
+        color: tool.disc
+        border.width: 1
+        border.color: Theme.dark ? "#4DFFFFFF" : "#33000000"
     }
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Kit/Core/Kit.h"
 
+#include "Kit/Core/AccessibleTree.h"
 #include "Kit/Core/IconProvider.h"
 #include "Kit/Core/ShadowProvider.h"
 #include "Kit/Core/UIFont+System.h"
@@ -18,6 +19,7 @@ void installKit(QQmlEngine& engine)
     // The module is a static library: naming the generated function is what links its registration in.
     [[maybe_unused]] static volatile auto registration = &qml_register_types_Lodestar_Kit;
     UIFont::install();
+    installAccessibleTree();
     if (engine.imageProvider(QStringLiteral("icon")) != nullptr) {
         return; // by another module that stands on the kit
     }

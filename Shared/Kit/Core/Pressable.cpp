@@ -9,11 +9,21 @@
 namespace lodestar
 {
 
-Pressable::Pressable(QQuickItem* parent) : QQuickItem(parent)
+Pressable::Pressable(QQuickItem* parent) : AccessibleItem(parent)
 {
-    setAcceptedMouseButtons(Qt::LeftButton);
     setAcceptHoverEvents(QGuiApplication::styleHints()->useHoverEffects());
-    setActiveFocusOnTab(true);
+    setPressable(true);
+    connect(this, &AccessibleItem::accessiblePressed, this, &Pressable::clicked);
+}
+
+void Pressable::setPressable(bool pressable)
+{
+    setAcceptedMouseButtons(pressable ? Qt::LeftButton : Qt::NoButton);
+    setActiveFocusOnTab(pressable);
+    setPressAction(pressable);
+    if (std::exchange(m_pressable, pressable) != pressable) {
+        Q_EMIT pressableChanged();
+    }
 }
 
 void Pressable::setText(const QString& text)
@@ -21,13 +31,6 @@ void Pressable::setText(const QString& text)
     if (m_text != text) {
         m_text = text;
         Q_EMIT textChanged();
-    }
-}
-
-void Pressable::accessiblePressAction()
-{
-    if (isEnabled()) {
-        Q_EMIT clicked();
     }
 }
 
@@ -79,9 +82,14 @@ void Pressable::hoverLeaveEvent(QHoverEvent* event)
 
 void Pressable::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Space) {
+    if (m_pressable && event->key() == Qt::Key_Space) {
         setPressed(m_pressed || !event->isAutoRepeat());
         event->accept();
+    } else if (m_pressable && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+        event->accept();
+        if (!event->isAutoRepeat()) {
+            Q_EMIT clicked();
+        }
     } else {
         event->ignore();
     }
@@ -89,7 +97,7 @@ void Pressable::keyPressEvent(QKeyEvent* event)
 
 void Pressable::keyReleaseEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Space) {
+    if (m_pressable && event->key() == Qt::Key_Space) {
         if (!event->isAutoRepeat()) {
             release();
         }
@@ -99,19 +107,10 @@ void Pressable::keyReleaseEvent(QKeyEvent* event)
     }
 }
 
-void Pressable::focusInEvent(QFocusEvent* event)
-{
-    QQuickItem::focusInEvent(event); // tells a screen reader
-    const Qt::FocusReason reason = event->reason();
-    setVisualFocus(reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
-                   reason == Qt::ShortcutFocusReason);
-}
-
 void Pressable::focusOutEvent(QFocusEvent* event)
 {
-    QQuickItem::focusOutEvent(event);
+    AccessibleItem::focusOutEvent(event);
     setPressed(false);
-    setVisualFocus(false);
 }
 
 void Pressable::itemChange(ItemChange change, const ItemChangeData& data)
@@ -122,7 +121,7 @@ void Pressable::itemChange(ItemChange change, const ItemChangeData& data)
         setPressed(false);
         setHovered(false);
     }
-    QQuickItem::itemChange(change, data);
+    AccessibleItem::itemChange(change, data);
 }
 
 void Pressable::setPressed(bool pressed)
@@ -136,13 +135,6 @@ void Pressable::setHovered(bool hovered)
 {
     if (std::exchange(m_hovered, hovered) != hovered) {
         Q_EMIT hoveredChanged();
-    }
-}
-
-void Pressable::setVisualFocus(bool visualFocus)
-{
-    if (std::exchange(m_visualFocus, visualFocus) != visualFocus) {
-        Q_EMIT visualFocusChanged();
     }
 }
 

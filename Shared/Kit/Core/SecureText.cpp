@@ -11,7 +11,7 @@ namespace lodestar
 namespace
 {
 
-class SecureFieldAccessible final : public QAccessibleObject
+class SecureFieldAccessible final : public QAccessibleObject, public QAccessibleActionInterface
 {
 public:
     explicit SecureFieldAccessible(QQuickItem* field) : QAccessibleObject(field) {}
@@ -75,6 +75,19 @@ public:
             return {};
         }
     }
+
+    void* interface_cast(QAccessible::InterfaceType type) override
+    {
+        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
+    }
+    QStringList actionNames() const override { return {setFocusAction()}; }
+    void doAction(const QString& action) override
+    {
+        if (field() != nullptr && action == setFocusAction()) {
+            field()->forceActiveFocus(Qt::TabFocusReason);
+        }
+    }
+    QStringList keyBindingsForAction(const QString& /*action*/) const override { return {}; }
 
 private:
     QQuickItem* field() const { return static_cast<QQuickItem*>(object()); }

@@ -75,7 +75,7 @@ T.Popup {
     }
 
     background: Item {}
-    contentItem: FocusScope {
+    contentItem: ModalLayer {
         id: card
 
         focus: true
@@ -164,7 +164,7 @@ T.Popup {
             Rectangle {
                 anchors.fill: parent
                 radius: Theme.sheetRadius
-                color: cancelButton.down ? Theme.pressed : Theme.raised
+                color: cancelButton.pressed ? Theme.pressed : Theme.raised
             }
             PlainButton {
                 id: cancelButton

@@ -93,7 +93,7 @@ T.Popup {
             color: Theme.raised
         }
     }
-    contentItem: FocusScope {
+    contentItem: ModalLayer {
         id: body
 
         readonly property bool sideBySide: alert.outlet.choices.length === 2 && !Theme.stacked
@@ -148,6 +148,8 @@ T.Popup {
                 model: alert.outlet.choices
 
                 PlainButton {
+                    id: choice
+
                     required property int index
                     required property menuChoice modelData
 
@@ -158,8 +160,8 @@ T.Popup {
                     text: modelData.title
                     ink: modelData.destructive ? Theme.systemRedInk : Theme.accentInk
                     onClicked: alert.outlet.choose(index)
-                    Keys.onLeftPressed: nextItemInFocusChain(Theme.mirrored).forceActiveFocus(Qt.TabFocusReason)
-                    Keys.onRightPressed: nextItemInFocusChain(!Theme.mirrored).forceActiveFocus(Qt.TabFocusReason)
+                    Keys.onLeftPressed: choice.nextItemInFocusChain(Theme.mirrored).forceActiveFocus(Qt.TabFocusReason)
+                    Keys.onRightPressed: choice.nextItemInFocusChain(!Theme.mirrored).forceActiveFocus(Qt.TabFocusReason)
 
                     Hairline {
                         width: parent.width

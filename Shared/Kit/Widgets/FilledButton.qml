@@ -1,32 +1,21 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Lodestar.Kit
 
 /// The one action of a screen.
-T.AbstractButton {
+Pressable {
     id: button
+
+    /// Looks pressed.
+    property bool down: pressed
 
     implicitWidth: label.implicitWidth + 48
     implicitHeight: Math.max(48, label.implicitHeight + 20)
-    focusPolicy: Qt.StrongFocus
     Accessible.role: Accessible.Button
     Accessible.name: text
 
-    contentItem: Item {
-        Label {
-            id: label
-
-            text: button.text
-            // As the whole button at 40 % on a card.
-            color: button.enabled ? Theme.fillInk : Qt.tint(Theme.card, Qt.rgba(Theme.fillInk.r, Theme.fillInk.g, Theme.fillInk.b, 0.4))
-            anchors.centerIn: parent
-            width: Math.min(implicitWidth, parent.width)
-            elide: Text.ElideRight
-            Accessible.ignored: true
-        }
-    }
-    background: Rectangle {
+    Rectangle {
+        anchors.fill: parent
         radius: Theme.cardRadius
         opacity: button.enabled ? 1 : 0.4
         color: button.down ? Qt.darker(Theme.fill, 1.163) : button.hovered ? Qt.darker(Theme.fill, 1.075) : Theme.fill
@@ -42,6 +31,15 @@ T.AbstractButton {
             shown: button.visualFocus
         }
     }
-    Keys.onReturnPressed: button.clicked()
-    Keys.onEnterPressed: button.clicked()
+    Label {
+        id: label
+
+        text: button.text
+        // As the whole button at 40 % on a card.
+        color: button.enabled ? Theme.fillInk : Qt.tint(Theme.card, Qt.rgba(Theme.fillInk.r, Theme.fillInk.g, Theme.fillInk.b, 0.4))
+        anchors.centerIn: parent
+        width: Math.min(implicitWidth, parent.width)
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
 }

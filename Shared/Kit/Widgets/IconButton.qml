@@ -31,6 +31,4 @@ Pressable {
             NumberAnimation { duration: button.pressed ? Theme.pressIn : Theme.pressOut }
         }
     }
-    Keys.onReturnPressed: button.clicked()
-    Keys.onEnterPressed: button.clicked()
 }

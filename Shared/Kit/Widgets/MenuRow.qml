@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Lodestar.Kit
 
 /// A row of a fixed menu: a drawing, a title, optionally a count or note, a chevron where it leads on. What it holds
-/// stands at its end.
-T.AbstractButton {
+/// stands at its end. One that only rests, or whose own control is what one presses, is not pressable.
+Pressable {
     id: row
 
     property string iconName
@@ -13,16 +12,16 @@ T.AbstractButton {
     property color ink: Theme.ink
     property string detail
     property bool chevron: true
-    /// A row that only rests, or whose own control is what one presses.
-    property bool pressable: true
     /// Looks as if it cannot be chosen: by itself when disabled. A table's row draws this one disabled and takes the press.
     property bool greyed: !enabled
     property int rowHeight: 52
     /// A hairline on its upper edge, where no GroupCard draws it.
     property bool separator: false
+    /// Draws its own press, pointer and focus. A table's row does so for the one that it holds.
+    property bool surfaced: true
     default property alias accessory: accessories.data
 
-    readonly property bool pressedLook: pressable && down
+    readonly property bool pressedLook: pressable && pressed
     readonly property bool stacked: Theme.stacked && detail !== ""
     readonly property bool beside: !Theme.stacked && detail !== ""
     readonly property real textStart: iconName === "" ? Theme.rowStart : 60
@@ -30,14 +29,30 @@ T.AbstractButton {
     implicitHeight: Math.max(Math.round(rowHeight * Theme.textScale),
                              titleLabel.implicitHeight + (stacked ? detailLabel.implicitHeight : 0) + 16)
     width: parent !== null ? parent.width : implicitWidth
-    focusPolicy: pressable ? Qt.StrongFocus : Qt.NoFocus
-    hoverEnabled: pressable
     Accessible.role: pressable ? Accessible.Button : Accessible.StaticText
     Accessible.name: text + (detail === "" ? "" : ", " + detail)
-    Keys.onReturnPressed: row.clicked()
-    Keys.onEnterPressed: row.clicked()
 
-    contentItem: Item {
+    Rectangle {
+        anchors.fill: parent
+        visible: row.surfaced
+        color: row.pressedLook ? Theme.pressed : row.pressable && row.hovered && row.enabled ? Theme.hovered : "transparent"
+        radius: row.pressedLook ? 0 : Theme.cardRadius
+
+        Behavior on color {
+            ColorAnimation { duration: row.pressedLook ? Theme.pressIn : Theme.pressOut }
+        }
+        FocusRing {
+            anchors.fill: parent
+            shown: row.visualFocus
+        }
+        Hairline {
+            visible: row.separator && !row.pressedLook
+            x: Theme.mirrored ? 15 : 10
+            width: parent.width - 25
+        }
+    }
+    Item {
+        anchors.fill: parent
         opacity: row.greyed ? 0.6 : 1
 
         Icon {
@@ -109,23 +124,6 @@ T.AbstractButton {
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
             }
-        }
-    }
-    background: Rectangle {
-        color: row.pressedLook ? Theme.pressed : row.hovered && row.enabled ? Theme.hovered : "transparent"
-        radius: row.pressedLook ? 0 : Theme.cardRadius
-
-        Behavior on color {
-            ColorAnimation { duration: row.pressedLook ? Theme.pressIn : Theme.pressOut }
-        }
-        FocusRing {
-            anchors.fill: parent
-            shown: row.visualFocus
-        }
-        Hairline {
-            visible: row.separator && !row.pressedLook
-            x: Theme.mirrored ? 15 : 10
-            width: parent.width - 25
         }
     }
 }

@@ -50,7 +50,7 @@ Item {
         text: bar.backTitle
         leftPadding: Theme.mirrored ? 12 : 32
         rightPadding: Theme.mirrored ? 32 : 12
-        implicitWidth: text === "" ? Theme.target : Math.min(contentItem.implicitWidth + 44, 132)
+        implicitWidth: text === "" ? Theme.target : Math.min(wordWidth + 44, 132)
         scaleFactor: Theme.barScale
         anchors.left: parent.left
         anchors.leftMargin: bar.side

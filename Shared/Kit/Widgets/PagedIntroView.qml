@@ -99,7 +99,7 @@ T.Popup {
     background: Rectangle {
         color: Theme.night
     }
-    contentItem: FocusScope {
+    contentItem: ModalLayer {
         id: body
 
         readonly property var shown: view.intro !== null ? view.intro.pages[view.intro.pageControl.currentPage] : undefined

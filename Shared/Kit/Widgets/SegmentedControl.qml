@@ -2,7 +2,6 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Lodestar.Kit
 
 /// A few choices side by side, one of them chosen. `activated` tells of the user's choice only.
@@ -35,7 +34,7 @@ Rectangle {
         Repeater {
             model: control.titles
 
-            T.AbstractButton {
+            Pressable {
                 id: segment
 
                 required property int index
@@ -45,47 +44,43 @@ Rectangle {
                 width: (control.width - 4) / control.titles.length
                 height: control.height - 4
                 text: modelData
-                focusPolicy: Qt.StrongFocus
                 Accessible.role: Accessible.PageTab
                 Accessible.name: text
-                Accessible.checked: chosen
+                Accessible.selectable: true
+                Accessible.selected: chosen
                 onClicked: control.choose(index)
                 Keys.onLeftPressed: control.choose(control.currentIndex + (Theme.mirrored ? 1 : -1))
                 Keys.onRightPressed: control.choose(control.currentIndex + (Theme.mirrored ? -1 : 1))
 
-                contentItem: Item {
-                    Label {
-                        text: segment.text
-                        size: Theme.stateSize
-                        color: segment.chosen ? Theme.ink : Theme.ink2
-                        opacity: segment.pressed && !segment.chosen ? 0.55 : 1
-                        anchors.verticalCenter: parent.verticalCenter
-                        width: parent.width
-                        horizontalAlignment: Text.AlignHCenter
-                        elide: Text.ElideMiddle
-                        Accessible.ignored: true
-                    }
+                BoxShadow {
+                    visible: segment.chosen && !Theme.dark
+                    radius: Theme.segmentRadius
+                    blur: 3
+                    offsetY: 1
+                    strength: 0.14
+                    anchors.fill: parent
                 }
-                background: Item {
-                    BoxShadow {
-                        visible: segment.chosen && !Theme.dark
-                        radius: Theme.segmentRadius
-                        blur: 3
-                        offsetY: 1
-                        strength: 0.14
-                        anchors.fill: parent
-                    }
-                    Rectangle {
-                        anchors.fill: parent
-                        visible: segment.chosen
-                        radius: Theme.segmentRadius
-                        color: Theme.segment
-                    }
-                    FocusRing {
-                        anchors.fill: parent
-                        radius: Theme.segmentRadius
-                        shown: segment.visualFocus
-                    }
+                Rectangle {
+                    anchors.fill: parent
+                    visible: segment.chosen
+                    radius: Theme.segmentRadius
+                    color: Theme.segment
+                }
+                FocusRing {
+                    anchors.fill: parent
+                    radius: Theme.segmentRadius
+                    shown: segment.visualFocus
+                }
+                Label {
+                    text: segment.text
+                    size: Theme.stateSize
+                    color: segment.chosen ? Theme.ink : Theme.ink2
+                    opacity: segment.pressed && !segment.chosen ? 0.55 : 1
+                    anchors.verticalCenter: parent.verticalCenter
+                    width: parent.width
+                    horizontalAlignment: Text.AlignHCenter
+                    elide: Text.ElideMiddle
+                    Accessible.ignored: true
                 }
             }
         }

@@ -135,7 +135,7 @@ T.Popup {
             color: Theme.raised
         }
     }
-    contentItem: FocusScope {
+    contentItem: ModalLayer {
         focus: true
         LayoutMirroring.enabled: Theme.mirrored
         LayoutMirroring.childrenInherit: true

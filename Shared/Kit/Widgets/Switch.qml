@@ -1,34 +1,42 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Lodestar.Kit
 
 /// A switch, 50 by 30 in a target of 44. With an outlet it shows that and writes the user's flip into it.
-T.Switch {
+Pressable {
     id: control
 
     property SwitchOutlet outlet: null
+    property bool checked: outlet !== null && outlet.on
+    /// By the user.
+    signal toggled()
 
     implicitWidth: 50
     implicitHeight: Theme.target
-    focusPolicy: Qt.StrongFocus
     opacity: enabled ? 1 : 0.4
     Accessible.role: Accessible.CheckBox
     Accessible.name: text
     Accessible.checkable: true
     Accessible.checked: checked
 
-    onToggled: {
+    onClicked: {
         if (outlet !== null) {
-            outlet.on = checked;
+            outlet.on = !outlet.on;
+        } else {
+            checked = !checked;
         }
-    }
-    Binding {
-        control.checked: control.outlet !== null && control.outlet.on
-        when: control.outlet !== null
+        toggled();
     }
 
-    indicator: Rectangle {
+    FocusRing {
+        x: -4
+        y: (control.height - height) / 2
+        width: 58
+        height: 38
+        radius: 19
+        shown: control.visualFocus
+    }
+    Rectangle {
         width: 50
         height: 30
         y: (control.height - height) / 2
@@ -52,13 +60,5 @@ T.Switch {
                 NumberAnimation { duration: Theme.settle; easing.type: Easing.OutCubic }
             }
         }
-    }
-    background: FocusRing {
-        x: -4
-        y: (control.height - height) / 2
-        width: 58
-        height: 38
-        radius: 19
-        shown: control.visualFocus
     }
 }

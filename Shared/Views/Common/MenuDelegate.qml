@@ -25,7 +25,7 @@ TableCell {
         enabled: false
         greyed: !row.cell.enabled
         pressable: false
-        background: null
+        surfaced: false
         Accessible.ignored: true
     }
 }
