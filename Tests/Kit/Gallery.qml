@@ -214,6 +214,7 @@ Rectangle {
                     CardTable {
                         anchors.fill: parent
                         table: board.controller.tableView
+                        label: "Systems"
                         delegate: GalleryRow {}
                         focus: true
                         Component.onCompleted: {

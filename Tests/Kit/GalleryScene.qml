@@ -30,6 +30,7 @@ PageScaffold {
         anchors.fill: parent
         topSpace: 0
         table: scene.controller.tableView
+        label: "Systems"
         refreshControl: scene.controller.refreshControl
         delegate: GalleryRow {}
         onSwipeButtonTapped: (section, row, index, leading) => scene.controller.swipeTapped(section, row, index, leading)

@@ -41,6 +41,10 @@ protected:
     {
         return window.find("table")->property("flickable").value<QQuickItem*>();
     }
+    static bool hasRing(KitWindow& window, int index)
+    {
+        return row(window, index)->property("swipe").value<QQuickItem*>()->property("focusShown").toBool();
+    }
     static double reveal(KitWindow& window, int index)
     {
         return row(window, index)->property("swipe").value<QQuickItem*>()->property("reveal").toDouble();
@@ -75,6 +79,16 @@ TEST_F(WidgetsTest, ARowSwipesByMouseAndFingerOneAtATimeAndStaysOpenOverAReload)
     EXPECT_THAT(list->selected, IsEmpty());
     window.click(second);
     EXPECT_THAT(list->selected, ElementsAre(IndexPath{0, 1}));
+
+    // So does one on another row or below them all.
+    for (const QPoint beside : {first, QPoint(195, 740)}) {
+        list->selected.clear();
+        window.drag(second, {-130, 0});
+        EXPECT_TRUE(waitFor([&] { return reveal(window, 1) == 144; }));
+        window.click(beside);
+        EXPECT_TRUE(waitFor([&] { return reveal(window, 1) == 0; }));
+        EXPECT_THAT(list->selected, IsEmpty());
+    }
 
     // A short, slow swipe falls back; up and down is the list's.
     window.swipe(first, {-40, 0}, 40);
@@ -117,8 +131,10 @@ TEST_F(WidgetsTest, TheTableWorksByKeyboardAlone)
         window.key(Qt::Key_Tab);
     }
     ASSERT_TRUE(window.find("table")->hasActiveFocus());
-    window.key(Qt::Key_Home);
+    EXPECT_TRUE(hasRing(window, 0));
     window.key(Qt::Key_Down);
+    EXPECT_FALSE(hasRing(window, 0));
+    EXPECT_TRUE(hasRing(window, 1));
     window.key(Qt::Key_Return);
     EXPECT_THAT(list->selected, ElementsAre(IndexPath{0, 1}));
     // Over the header into the second section, to its end and back up.
@@ -138,9 +154,9 @@ TEST_F(WidgetsTest, TheTableWorksByKeyboardAlone)
     EXPECT_TRUE(window.find("table")->hasActiveFocus());
     window.key(Qt::Key_Menu);
     EXPECT_TRUE(waitFor([&] { return reveal(window, 3) == 144; }));
-    window.key(Qt::Key_Left);
     window.key(Qt::Key_Return);
-    EXPECT_THAT(list->swiped, ElementsAre(1));
+    EXPECT_THAT(list->swiped, ElementsAre(1)); // not the outermost, which deletes
+    EXPECT_TRUE(hasRing(window, 3));
 
     int pulls = 0;
     QObject::connect(list->refreshControl(), &RefreshControl::valueChanged, [&] { ++pulls; });
@@ -233,6 +249,7 @@ TEST_F(WidgetsTest, NavigationSlidesItsScreensAndEveryWayBackPops)
     const std::vector<std::function<void()>> ways = {
         [&] { window.key(Qt::Key_Escape); },
         [&] { window.key(Qt::Key_Back); },
+        [&] { window.key(Qt::Key_Left, Qt::AltModifier); },
         [&] {
             window.swipe({4, 400}, {200, 0});
         },
@@ -260,15 +277,28 @@ TEST_F(WidgetsTest, NavigationSlidesItsScreensAndEveryWayBackPops)
         EXPECT_TRUE(sceneWentFirst);
         EXPECT_TRUE(waitFor([&] { return window.find("GalleryScene")->isVisible(); }));
     }
-    EXPECT_EQ(list->appeared, 5);
+    EXPECT_EQ(list->appeared, 6);
     // A root has no way back.
     window.key(Qt::Key_Escape);
     EXPECT_EQ(navigation->depth(), 1);
 
+    // The tab that is shown leads to its first screen, past those between.
+    const std::weak_ptr<GalleryController> between = [&] {
+        const auto detail = gallery("GalleryDetail");
+        navigation->pushViewController(detail, Animated::No);
+        navigation->pushViewController(gallery("GalleryDetail"), Animated::Yes);
+        return detail;
+    }();
+    window.click({98, 816});
+    EXPECT_EQ(navigation->depth(), 1);
+    EXPECT_TRUE(waitFor([&] { return between.expired() && window.find("GalleryDetail") == nullptr; }));
+    EXPECT_EQ(window.find("GalleryScene")->mapToScene({0, 0}), QPointF(0, 0));
+    EXPECT_EQ(list->appeared, 7);
+
     window.click({292, 816});
     EXPECT_EQ(tabs->selectedIndex(), 1);
     EXPECT_EQ(second->appeared, 1);
-    EXPECT_EQ(list->disappeared, 5);
+    EXPECT_EQ(list->disappeared, 7);
 }
 
 TEST_F(WidgetsTest, AScreenThatSlidesTakesNoPressAndTheNextPushOrPopDoesNotWaitForIt)

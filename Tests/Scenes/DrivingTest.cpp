@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Kit/Core/NavigationController.h"
 #include "Kit/Core/Storyboard.h"
@@ -39,6 +40,16 @@ protected:
         for (const CorvelRef& corvel : RESTHandler::sharedInstance().corvelList()) {
             corvel->completedFetch = true;
         }
+    }
+    /// As the editor does when a console answered.
+    static void addRecord(const char* name)
+    {
+        const auto corvel = std::static_pointer_cast<Corvel>(
+            StoreStack::shared().managedObjectContext().insertNewObject(Corvel::entityName));
+        corvel->setName(name);
+        corvel->setAddress("c.example");
+        corvel->completedFetch = true;
+        RESTHandler::sharedInstance().addCorvel(corvel);
     }
     void drag(const QQuickItem* item, int by) const
     {
@@ -138,18 +149,47 @@ TEST_F(DrivingTest, ASwipeUncoversEditAndDelete)
     EXPECT_EQ(stage.list().tableView()->count(), 5);
 }
 
-TEST_F(DrivingTest, DeletingTheLastRowByKeyboardLeavesTheEmptyLook)
+TEST_F(DrivingTest, AListWhoseLastRowSlidAwayDrawsTheNextConsole)
 {
+    Appearance::shared().overrideReducedMotion(false);
     stage.show({390, 844}, {fleet().front()});
     press(Qt::Key_Home);
     press(Qt::Key_Menu);
     ASSERT_TRUE(stage.waitFor([&] { return button("Delete") != nullptr; }));
     stage.settle(300);
+    EXPECT_TRUE(button("Edit")->hasActiveFocus()); // what cannot be taken back comes second
+    press(Qt::Key_Right);
     press(Qt::Key_Return);
     EXPECT_TRUE(RESTHandler::sharedInstance().corvelList().empty());
     ASSERT_TRUE(stage.waitFor([&] { return text("No consoles yet.") != nullptr; }));
+    stage.settle();
+    const QImage empty = stage.grab();
+
     click(button("Add Corvel"));
-    EXPECT_NE(editor(), nullptr);
+    ASSERT_NE(editor(), nullptr);
+    ASSERT_TRUE(waitForSheet());
+    addRecord("Harbour C");
+    stage.list().hideModalView();
+    ASSERT_TRUE(stage.waitFor([&] { return button("Save") == nullptr; }));
+    stage.settle();
+    const QQuickItem* const name = text("Harbour C");
+    ASSERT_NE(name, nullptr);
+    const QRect place = name->mapRectToScene(name->boundingRect()).toRect();
+    EXPECT_NE(stage.grab().copy(place), empty.copy(place)) << "the row is not drawn";
+}
+
+TEST_F(DrivingTest, TabGoesFromTheBarToTheRowsAndOnToTheRail)
+{
+    stage.show({1280, 800}, fleet());
+    press(Qt::Key_Home);
+    QStringList met;
+    while (met.size() < 8 && (met.empty() || met.last() != "row")) {
+        press(Qt::Key_Tab);
+        const QQuickItem* const now = stage.window().activeFocusItem();
+        met << (row(0) == now ? QStringLiteral("row") : now->property("text").toString());
+    }
+    met.removeAll("Feedback"); // not where a shake asks for it
+    EXPECT_EQ(met.join(", ").toStdString(), "Corvels, Dashboard, Settings, Add console, row");
 }
 
 TEST_F(DrivingTest, RefreshKeyPulls)
@@ -210,7 +250,7 @@ TEST_F(DrivingTest, ARowIsOneSentenceForScreenReaders)
     QAccessible::setActive(true);
     stage.show({390, 844}, fleet());
     std::vector<QString> sentences;
-    for (QQuickItem* cell : stage.items("SwipeCell")) {
+    for (QQuickItem* cell : stage.items("TableRow")) {
         QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(cell);
         ASSERT_NE(spoken, nullptr);
         sentences.push_back(spoken->text(QAccessible::Name));

@@ -77,8 +77,7 @@ TEST_F(GroupedTest, PartitionsOpenFromTheListAndFromItsSearch)
     LPListViewController* const list =
         openList<LPListViewController>("logicalPartitionsView", {.corvel = demoConsole()});
     EXPECT_NE(text("demo placeholder"), nullptr);
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(swipe(1))->text(QAccessible::Name),
-              "scheduled-jobs, General purpose, shutting down, N210-0004");
+    EXPECT_EQ(spokenAs(row(1)), "scheduled-jobs, General purpose, shutting down, N210-0004");
     list->showSearchBar();
     type("ledger-db");
     ASSERT_TRUE(

@@ -338,9 +338,7 @@ std::vector<QQuickItem*> SceneStage::buttons() const
 {
     std::vector<QQuickItem*> found;
     collect(
-        m_window->contentItem(),
-        [](QQuickItem* item) { return hasType(item, "QQuickAbstractButton") || hasType(item, "lodestar::Pressable"); },
-        found);
+        m_window->contentItem(), [](QQuickItem* item) { return hasType(item, "lodestar::Pressable"); }, found);
     return found;
 }
 

@@ -77,10 +77,9 @@ protected:
     }
     ViewController* top() const { return stage.list().navigationController()->topViewController(); }
     /// What a screen reader says for a table's row, once it is active.
-    static QString spokenAs(const QQuickItem* tableRow)
+    static QString spokenAs(QQuickItem* tableRow)
     {
-        auto* const cell = tableRow->property("swipe").value<QQuickItem*>();
-        QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(cell);
+        QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(tableRow);
         return spoken != nullptr ? spoken->text(QAccessible::Name) : QString();
     }
     bool waitForSheet() const

@@ -7,11 +7,13 @@ import Lodestar.Kit
 /// A table drawn as cards: its rows, with hairlines between, in one rounded card a section, headers above. Give it the
 /// outlet and a delegate, a component whose root is a TableCell. Arrows, Home, End and the page keys move, Enter and Space
 /// choose, the menu key swipes, F5 refreshes.
-FocusScope {
+AccessibleScope {
     id: view
 
     required property TableOutlet table
     required property Component delegate
+    /// What it lists, for those who do not see the title above it.
+    required property string label
     property RefreshControl refreshControl: null
     property int measure: Theme.measure
     /// Above the first card: 8 below a bar of 52, 0 below a tab root's of 60.
@@ -26,7 +28,9 @@ FocusScope {
 
     visible: !table.hidden
     activeFocusOnTab: true
+    readsDownwards: true
     Accessible.role: Accessible.List
+    Accessible.name: label
 
     function closeSwipes() {
         tableState.closeSwipes();
@@ -41,6 +45,15 @@ FocusScope {
         tableState.keyboardUsed = true;
         if (target >= 0) {
             list.currentIndex = target;
+        }
+    }
+    /// An arrow that finds no ring shows where the keyboard is; the next one moves it.
+    function arrow(direction: int, rows: int) {
+        step(list.currentIndex, direction, tableState.keyboardUsed ? rows : 0);
+    }
+    function keepCurrent() {
+        if (list.currentIndex < 0) {
+            list.currentIndex = tableState.rowFrom(-1, 1, 1);
         }
     }
     function activateCurrent() {
@@ -65,16 +78,16 @@ FocusScope {
         const page = Math.max(1, Math.floor(list.height / Math.max(1, table.rowHeight)) - 1);
         switch (key) {
         case Qt.Key_Down:
-            step(list.currentIndex, 1, 1);
+            arrow(1, 1);
             return true;
         case Qt.Key_Up:
-            step(list.currentIndex, -1, 1);
+            arrow(-1, 1);
             return true;
         case Qt.Key_PageDown:
-            step(list.currentIndex, 1, page);
+            arrow(1, page);
             return true;
         case Qt.Key_PageUp:
-            step(list.currentIndex, -1, page);
+            arrow(-1, page);
             return true;
         case Qt.Key_Home:
             step(-1, 1, 1);
@@ -113,7 +126,7 @@ FocusScope {
         currentIndex: list.currentIndex
         listHasKeyboard: list.activeFocus && !swipeHasKeyboard
         onRowTapped: (index) => list.currentIndex = index
-        onKeyboardReturned: list.forceActiveFocus(Qt.OtherFocusReason)
+        onKeyboardReturned: (list.currentItem ?? list).forceActiveFocus(Qt.OtherFocusReason)
         onSwipeButtonTapped: (section, row, index, leading) => view.swipeButtonTapped(section, row, index, leading)
     }
     ListView {
@@ -140,9 +153,30 @@ FocusScope {
             width: list.width
             content: host.item as TableCell
             swipe: swipeCell as SwipeCell
+            focusable: !isHeader
+            pressAction: selectable
+            commands: swipeCell.commands
+            Accessible.role: isHeader ? Accessible.Heading : Accessible.ListItem
+            Accessible.name: isHeader ? headerTitle : content !== null ? content.accessibleText : ""
+            Accessible.selectable: selectable
+            Accessible.selected: swipeCell.highlighted
+            onAccessiblePressed: tableState.activate(index, selectable)
+            onAccessibleCommand: (command) => swipeCell.doCommand(command)
+            onActiveFocusChanged: {
+                // Given it by a reader: the list follows.
+                if (activeFocus) {
+                    list.currentIndex = index;
+                }
+            }
+            onVisualFocusChanged: {
+                if (visualFocus) {
+                    tableState.keyboardUsed = true;
+                }
+            }
             // A row that waits for its next use would still be moved and looked through in every scrolled frame.
             ListView.onReused: {
                 visible = true;
+                x = 0; // A list places its rows by y only, and one that slid away lies beside it.
                 host.pooled = false;
                 configure();
             }
@@ -173,6 +207,7 @@ FocusScope {
                 id: header
 
                 visible: place.isHeader
+                Accessible.ignored: true
                 text: place.headerTitle
                 space: place.index === 0 ? 12 - view.topSpace : Theme.sectionGap
                 x: tableState.sideMargin
@@ -192,15 +227,11 @@ FocusScope {
                 pressable: place.selectable
                 highlighted: tableState.selectedIndex === place.index && place.selectable
                 focusShown: place.focused && tableState.keyboardUsed
-                Accessible.role: Accessible.ListItem
-                Accessible.name: place.content !== null ? place.content.accessibleText : ""
-                Accessible.selectable: place.selectable
-                Accessible.onPressAction: tableState.activate(place.index, place.selectable)
                 onClicked: {
                     tableState.keyboardUsed = false;
                     tableState.rowTapped(place.index);
-                    if (isOpen) {
-                        close();
+                    if (tableState.hasOpenSwipe) {
+                        tableState.closeSwipes();
                     } else {
                         tableState.activate(place.index, place.selectable);
                     }
@@ -208,7 +239,10 @@ FocusScope {
                 onOpening: tableState.swipeOpens(swipeCell)
                 onPressedLookChanged: tableState.rowPressed(place.index, pressedLook)
                 onEscaped: tableState.closeSwipes()
-                onButtonTapped: (button, leading) => tableState.swipeButtonTapped(place.section, place.row, button, leading)
+                onButtonTapped: (button, leading) => {
+                    tableState.closeSwipes();
+                    tableState.swipeButtonTapped(place.section, place.row, button, leading);
+                }
 
                 CellHost {
                     id: host
@@ -240,10 +274,21 @@ FocusScope {
         }
 
         onMovementStarted: view.closeSwipes()
+
+        // Beside the rows, headers included.
+        MouseArea {
+            parent: list.contentItem
+            z: -1
+            enabled: tableState.hasOpenSwipe
+            y: list.originY - list.topMargin
+            width: list.width
+            height: Math.max(list.height, list.contentHeight + list.topMargin + list.bottomMargin)
+            onClicked: view.closeSwipes()
+        }
         onActiveFocusChanged: {
-            if (activeFocus && currentIndex < 0) {
-                list.currentIndex = tableState.rowFrom(-1, 1, 1);
-            } else if (!activeFocus && !tableState.swipeHasKeyboard) {
+            if (activeFocus) {
+                view.keepCurrent();
+            } else if (!tableState.swipeHasKeyboard) {
                 tableState.keyboardUsed = false;
             }
         }
@@ -252,6 +297,8 @@ FocusScope {
                 view.pull();
             }
         }
+        // Always one, so that the keyboard comes to a row and not to the list.
+        onCountChanged: view.keepCurrent()
         Keys.onPressed: (event) => event.accepted = view.handleKey(event.key, event.modifiers)
     }
     PullIndicator {

@@ -51,8 +51,6 @@ FocusScope {
             Accessible.role: Accessible.Button
             Accessible.name: text !== "" ? text : modelData.spoken ?? ""
             onClicked: view.tapped(index)
-            Keys.onReturnPressed: button.clicked()
-            Keys.onEnterPressed: button.clicked()
             Keys.onLeftPressed: view.step(index + (view.atRight ? 1 : -1))
             Keys.onRightPressed: view.step(index + (view.atRight ? -1 : 1))
 
@@ -104,7 +102,8 @@ FocusScope {
             next.forceActiveFocus(Qt.TabFocusReason);
         }
     }
+    /// At the button beside the row: what cannot be taken back stands at the outer edge.
     function takeKeyboard() {
-        step(0);
+        step(repeater.count - 1);
     }
 }

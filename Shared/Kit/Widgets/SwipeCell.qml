@@ -38,6 +38,14 @@ Item {
     readonly property real trailingWidth: buttons.length * buttonWidth
     readonly property real leadingWidth: leadingButtons.length * buttonWidth
     readonly property bool hasButtons: trailingWidth + leadingWidth > 0
+    /// The buttons' words, the leading ones after the trailing ones: what a reader does without uncovering them.
+    readonly property var commands: buttons.concat(leadingButtons).map((button) => button.title || button.spoken)
+
+    function doCommand(command: int) {
+        const leading = command >= buttons.length;
+        close();
+        buttonTapped(leading ? command - buttons.length : command, leading);
+    }
 
     function open(leading: bool) {
         const extent = leading ? -leadingWidth : trailingWidth;
@@ -62,7 +70,7 @@ Item {
             open(trailingWidth === 0);
         }
     }
-    /// To the first of the buttons that are uncovered, or about to be.
+    /// To the innermost of the buttons that are uncovered, or about to be.
     function takeKeyboard() {
         const first = uncovered.itemAt(0) as SwipeButtons;
         keyboardWanted = first === null;

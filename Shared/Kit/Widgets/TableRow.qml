@@ -3,7 +3,7 @@ import QtQuick
 import Lodestar.Kit
 
 /// One place of a CardTable: a header, or a row of the card. The table's own part; screens write a TableCell.
-Item {
+AccessibleItem {
     required property int index
     required property bool isHeader
     required property string headerTitle

@@ -18,6 +18,7 @@ QtObject {
     /// The last thing that happened in the table came from the keyboard: rings are drawn.
     property bool keyboardUsed: false
     property SwipeCell swiped: null
+    readonly property bool hasOpenSwipe: swiped !== null && swiped.isOpen
     property bool swipeHasKeyboard: false
     signal rowTapped(int index)
     signal keyboardReturned()

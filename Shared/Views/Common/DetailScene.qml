@@ -24,6 +24,7 @@ PageScaffold {
         id: table
 
         table: scene.details.tableView
+        label: scene.details.title
         delegate: DetailDelegate {}
         focus: true
         anchors.fill: parent

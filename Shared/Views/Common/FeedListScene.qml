@@ -111,6 +111,7 @@ PageScaffold {
         id: table
 
         table: scene.list.tableView
+        label: scene.list.header.titleLabel.text
         refreshControl: scene.list.refreshControl
         delegate: scene.delegate
         visible: scene.contentShown && !scene.resultsShown
@@ -122,6 +123,7 @@ PageScaffold {
         id: results
 
         table: scene.list.searchResultsTableView
+        label: qsTr("Search results")
         delegate: scene.delegate
         visible: scene.resultsShown
         anchors.fill: parent

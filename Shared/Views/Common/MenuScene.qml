@@ -24,6 +24,7 @@ PageScaffold {
         id: table
 
         table: scene.menu.tableView
+        label: scene.menu.title
         delegate: MenuDelegate {}
         focus: true
         anchors.fill: parent

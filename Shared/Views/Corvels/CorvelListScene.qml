@@ -57,6 +57,7 @@ PageScaffold {
         id: table
 
         table: scene.corvels.tableView
+        label: scene.corvels.title
         refreshControl: scene.corvels.refreshControl
         delegate: CorvelListDelegate {}
         topSpace: 0

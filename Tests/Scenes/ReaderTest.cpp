@@ -1,0 +1,281 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Application/IntroView.h"
+#include "Application/SettingsViewController.h"
+#include "Controllers/REST/RESTHandler.h"
+#include "Feedback/UI/ScreenGrabber.h"
+#include "Tests/Scenes/SceneTest.h"
+#include "Views/ManagedSystems/PCM/PCMViewController.h"
+
+#include <algorithm>
+
+namespace lodestar::scenes
+{
+namespace
+{
+
+using Node = QAccessibleInterface*;
+
+/// The scenes as an assistive program finds them, and all that it can do with them.
+class ReaderTest : public SceneTest
+{
+protected:
+    ReaderTest() { QAccessible::setActive(true); }
+    ~ReaderTest() override { QAccessible::setActive(false); }
+
+    /// All that is shown, in reading order.
+    std::vector<Node> tree() const
+    {
+        std::vector<Node> found;
+        collect(QAccessible::queryAccessibleInterface(&stage.window()), found);
+        return found;
+    }
+    static void collect(Node from, std::vector<Node>& found)
+    {
+        for (int index = 0; index < from->childCount(); ++index) {
+            Node const child = from->child(index);
+            EXPECT_EQ(from->indexOfChild(child), index);
+            if (!child->state().invisible) {
+                EXPECT_TRUE(child->parent() == from) << nameOf(child);
+                found.push_back(child);
+                collect(child, found);
+            }
+        }
+    }
+    static std::string nameOf(Node node) { return node->text(QAccessible::Name).toStdString(); }
+    Node find(const std::string& name) const
+    {
+        const std::vector<Node> all = tree();
+        const auto found = std::find_if(all.begin(), all.end(), [&name](Node node) { return nameOf(node) == name; });
+        return found == all.end() ? nullptr : *found;
+    }
+    bool waitFor(const std::string& name) const
+    {
+        return stage.waitFor([&] { return find(name) != nullptr; });
+    }
+    static QStringList actionsOf(Node node)
+    {
+        return node->actionInterface() == nullptr ? QStringList() : node->actionInterface()->actionNames();
+    }
+    void act(const std::string& name, const QString& action = QAccessibleActionInterface::pressAction()) const
+    {
+        Node const node = find(name);
+        ASSERT_NE(node, nullptr) << name;
+        ASSERT_EQ(actionsOf(node).count(action), 1) << name << ": " << actionsOf(node).join(' ').toStdString();
+        node->actionInterface()->doAction(action);
+        stage.settle(200); // what slides away
+    }
+    /// A list comes after its title and has a name, and reads downwards. All that the pointer presses a reader finds,
+    /// with a name; what is disabled or only rests has no Press.
+    void expectReadable(const char* scene) const
+    {
+        SCOPED_TRACE(scene);
+        const std::vector<Node> all = tree();
+        for (const QQuickItem* item : stage.buttons()) {
+            const auto isItem = [item](Node node) { return node->object() == item; };
+            EXPECT_TRUE(item->property("pressable") == false || std::any_of(all.begin(), all.end(), isItem))
+                << item->property("text").toString().toStdString();
+        }
+        bool hasTitle = false;
+        for (Node const node : all) {
+            const QAccessible::Role role = node->role();
+            hasTitle = hasTitle || role == QAccessible::Heading;
+            const bool isControl = role == QAccessible::Button || role == QAccessible::PageTab ||
+                                   role == QAccessible::MenuItem || role == QAccessible::CheckBox;
+            EXPECT_TRUE((!isControl && role != QAccessible::List && role != QAccessible::ListItem) ||
+                        !nameOf(node).empty())
+                << "without a name, in " << nameOf(node->parent());
+            if (isControl) {
+                EXPECT_NE(node->state().disabled, isPressed(node)) << nameOf(node);
+            }
+            if (role == QAccessible::ListItem) {
+                EXPECT_EQ(isPressed(node), bool(node->state().selectable)) << nameOf(node);
+            }
+            if (role == QAccessible::List) {
+                EXPECT_TRUE(hasTitle) << nameOf(node);
+                for (int index = 1; index < node->childCount(); ++index) {
+                    EXPECT_GE(node->child(index)->rect().top(), node->child(index - 1)->rect().bottom());
+                }
+            }
+        }
+    }
+    static bool isPressed(Node node) { return actionsOf(node).contains(QAccessibleActionInterface::pressAction()); }
+    int depth() const { return stage.list().navigationController()->depth(); }
+};
+
+TEST_F(ReaderTest, WhatIsUnderALayerIsNeitherReadNorPressed)
+{
+    stage.show({390, 844}, fleet());
+    MenuOutlet* alert = nullptr;
+    const struct {
+        const char* name;
+        std::function<void()> open;
+        std::string below;  ///< a button of the screen that is covered
+        std::string inside; ///< a control of the layer
+        std::string close;
+        QAccessible::Role role;
+    } layers[] = {
+        {"tour", [&] { IntroView::showIntroViewInView(stage.tabs(), {}); }, "Settings", "Page 1 of 6", "Skip",
+         QAccessible::Dialog},
+        {"sheet", [&] { act("Add console"); }, "Add console", "Password", "Cancel", QAccessible::Dialog},
+        {"feedback", [&] { stage.feedback().present(grabCovered(stage.window())); }, "Settings", "Pen", "Cancel",
+         QAccessible::Dialog},
+        {"alert",
+         [&] {
+             act("Settings");
+             alert = qobject_cast<SettingsViewController*>(top())->alert();
+             alert->present("Password Saved", {}, {{"Continue"}}, 0, {});
+         },
+         "Dashboard", "Continue", "Continue", QAccessible::AlertMessage},
+        {"passcode sheet", [&] { act("Require Passcode"); }, "Back", "New passcode", "Cancel", QAccessible::Dialog},
+        {"action sheet",
+         [&] {
+             stage.openList("managedSystemsView", {.corvel = demoConsole()});
+             act(nameOf(find("Managed Systems")->child(2)));
+         },
+         "Back", "System Information", "Cancel", QAccessible::PopupMenu},
+    };
+    for (const auto& layer : layers) {
+        SCOPED_TRACE(layer.name);
+        Node const held = find(layer.below);
+        ASSERT_NE(held, nullptr);
+        layer.open();
+        ASSERT_TRUE(waitFor(layer.inside));
+        Node const window = QAccessible::queryAccessibleInterface(&stage.window());
+        ASSERT_EQ(window->childCount(), 1);
+        EXPECT_TRUE(window->child(0)->state().modal);
+        EXPECT_EQ(window->child(0)->role(), layer.role);
+        EXPECT_FALSE(nameOf(window->child(0)).empty());
+        EXPECT_EQ(find(layer.below), nullptr);
+        // Whoever kept it from before.
+        const int before = depth();
+        held->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+        EXPECT_EQ(depth(), before);
+        EXPECT_EQ(stage.tabs().selectedIndex(), 0);
+        act(layer.close);
+        EXPECT_TRUE(waitFor(layer.below)) << "it did not close";
+    }
+}
+
+TEST_F(ReaderTest, EveryKindOfControlDoesWhatAPressDoes)
+{
+    stage.show({390, 844}, fleet());
+    act("Settings");
+    ASSERT_TRUE(waitFor("Require Passcode"));
+    EXPECT_TRUE(find("Change Passcode")->state().disabled);
+    act("Require Passcode");
+    ASSERT_TRUE(waitFor("Verify passcode"));
+    Node const field = find("Verify passcode");
+    EXPECT_TRUE(field->state().passwordEdit);
+    act("Verify passcode", QAccessibleActionInterface::setFocusAction());
+    EXPECT_TRUE(field->state().focused);
+    act("Cancel");
+    ASSERT_TRUE(waitFor("Require Passcode"));
+    EXPECT_FALSE(find("Require Passcode")->state().checked);
+    act("Ornis License");
+    ASSERT_EQ(depth(), 3);
+    act("Corvels"); // the tab that is shown
+    ASSERT_EQ(depth(), 1);
+    ASSERT_TRUE(waitFor("Settings"));
+    EXPECT_TRUE(find("Corvels")->state().selected);
+    act("Dashboard");
+    EXPECT_EQ(stage.tabs().selectedIndex(), 1);
+    act("Corvels");
+
+    // A row that cannot be opened can be edited and deleted.
+    const std::string offline = "Northfield Recovery Site, Offline, attention 0, events 0";
+    EXPECT_FALSE(isPressed(find(offline)));
+    act(offline, "Edit");
+    ASSERT_TRUE(waitFor("Save"));
+    act("Cancel");
+    ASSERT_TRUE(waitFor(offline));
+    act(offline, "Delete");
+    EXPECT_EQ(RESTHandler::sharedInstance().corvelList().size(), 5U);
+    act("Harbour B, Error, attention 2, events 14");
+    EXPECT_EQ(depth(), 2);
+    act("Back");
+    EXPECT_EQ(depth(), 1);
+
+    FeedListViewController& systems = stage.openList("managedSystemsView", {.corvel = demoConsole()});
+    act("Search");
+    ASSERT_TRUE(waitFor("Cancel"));
+    type("nothing at all");
+    act("Clear");
+    EXPECT_TRUE(systems.searchBar()->text().isEmpty());
+    act("Cancel");
+    act(nameOf(find("Managed Systems")->child(2)));
+    ASSERT_TRUE(waitFor("System Information"));
+    act("System Information");
+    EXPECT_EQ(depth(), 3);
+
+    auto& performance = *stage.open<PCMViewController>(
+        "pcmDataView", {.corvel = demoConsole(), .sysName = "helios-01", .systemID = "any"});
+    ASSERT_TRUE(waitFor("Memory"));
+    act("Memory");
+    EXPECT_EQ(performance.typeSegmentedControl()->selectedSegmentIndex(), 1);
+    EXPECT_TRUE(find("Memory")->state().selected);
+    EXPECT_FALSE(find("Processors")->state().selected);
+
+    stage.feedback().present(grabCovered(stage.window()));
+    ASSERT_TRUE(waitFor("Cover"));
+    act("Cover");
+    EXPECT_TRUE(find("Cover")->state().checked);
+
+    stage.show({390, 844}, {});
+    act("Add Corvel");
+    EXPECT_NE(stage.list().semiModal(), nullptr);
+}
+
+TEST_F(ReaderTest, EverySceneReadsFromItsTitleDown)
+{
+    std::vector<ConsoleLook> consoles = fleet();
+    consoles[2].state = ConsoleLook::State::Offline;
+    stage.show({390, 844}, consoles);
+    expectReadable("console list");
+    stage.showDashboard();
+    ASSERT_TRUE(waitFor("Managed Systems"));
+    expectReadable("dashboard");
+    stage.show({1280, 800}, fleet());
+    const CorvelRef corvel = demoConsole();
+    const auto rootOf = [&corvel](std::string_view type) {
+        return feedOfType(*corvel, type).entries().front().path({"content", type});
+    };
+    for (const char* scene :
+         {"corvelTasksViewController", "managedSystemsView", "managementConsoleView", "managedSystemInfo",
+          "managedSystemMenu", "logicalPartitionsView", "logicalPartitionsDetail", "viosView", "serviceableEventsView",
+          "serviceableEventsDetail", "resourceGroupsView", "settingsViewController"}) {
+        const bool isEvent = std::string_view(scene).starts_with("serviceable");
+        const XMLElement root = rootOf(isEvent ? ObjectType::ServiceableEvent : ObjectType::ManagedSystem);
+        ASSERT_NE(stage.open(scene, {.corvel = corvel, .rootXML = root}), nullptr);
+        ASSERT_TRUE(stage.waitFor([this] { return stage.items("Spinner").empty(); }));
+        stage.settle(200);
+        expectReadable(scene);
+        stage.list().navigationController()->pop();
+        stage.settle(200);
+    }
+}
+
+TEST_F(ReaderTest, AReaderThatGoesFromRowToRowComesToTheEndOfALongList)
+{
+    std::vector<ConsoleLook> consoles(60, fleet().front());
+    for (std::size_t index = 0; index < consoles.size(); ++index) {
+        consoles[index].name = "Harbour " + std::to_string(index);
+    }
+    stage.show({390, 844}, consoles);
+    const std::vector<Node> all = tree();
+    const auto isList = [](Node node) { return node->role() == QAccessible::List; };
+    Node const list = *std::find_if(all.begin(), all.end(), isList);
+    Node row = list->child(0);
+    std::size_t met = 0;
+    while (row != nullptr && met <= consoles.size()) {
+        EXPECT_EQ(nameOf(row).find(consoles[met].name + ","), 0U);
+        ++met;
+        row->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+        EXPECT_TRUE(row->state().focused);
+        stage.settle(30);
+        row = list->child(list->indexOfChild(row) + 1);
+    }
+    EXPECT_EQ(met, consoles.size());
+}
+
+} // namespace
+} // namespace lodestar::scenes
