@@ -3,8 +3,9 @@
 
 #include "Charts/PieChartRenderer.h"
 
+#include <QFontMetricsF>
 #include <QPainter>
-#include <QPainterPath>
+#include <QTransform>
 
 #include <algorithm>
 #include <cmath>
@@ -15,9 +16,11 @@ namespace lodestar
 namespace
 {
 
-constexpr double outlineWidth = 1.75;
-constexpr double outlineContrast = 3;
-constexpr double clearance = 1; // Between a value and the edges of its slice.
+constexpr double leastContrast = 3;    // Of a value on its bare slice.
+constexpr double groundContrast = 4.5; // And on the ground that it gets elsewhere.
+constexpr double clearance = 1;        // Between a value and the edges of its slice.
+constexpr int smallest = 8;            // Pixels of a value that has to shrink, or its own size if that is less.
+const QSizeF groundPadding(3.5, 2.5);
 constexpr double degree = std::numbers::pi / 180;
 
 double luminance(const QColor& color)
@@ -62,33 +65,56 @@ double contrastRatio(const QColor& first, const QColor& second)
     return std::max(one, two) / std::min(one, two);
 }
 
-PieValueText::PieValueText(const QFont& font, const QColor& color) : m_font(font), m_metrics(font), m_color(color) {}
+PieValueText::PieValueText(const QFont& font, const QColor& color) : m_font(font), m_color(color) {}
 
-QSizeF PieValueText::sizeOf(const QStringList& lines) const
+QColor PieValueText::groundOn(const QColor& sliceColor) const
 {
-    double width = 0;
-    for (const QString& line : lines) {
-        width = std::max(width, m_metrics.horizontalAdvance(line));
+    if (contrastRatio(m_color, sliceColor) >= leastContrast) {
+        return {};
     }
-    return {width, m_metrics.capHeight() + static_cast<double>(lines.size() - 1) * m_metrics.lineSpacing()};
+    // The slice's own hue, so that it stays one slice, away from the text until that reads.
+    const bool lightText = luminance(m_color) > 0.5;
+    QColor ground = sliceColor;
+    for (int step = 0; step < 100 && contrastRatio(m_color, ground) < groundContrast; ++step) {
+        const float lightness = ground.lightnessF() + (lightText ? -0.01F : 0.01F);
+        ground.setHslF(std::max(ground.hslHueF(), 0.0F), ground.hslSaturationF(), std::clamp(lightness, 0.0F, 1.0F));
+    }
+    return ground;
 }
 
-std::optional<QPointF> PieValueText::position(const QStringList& lines, const PieSlice& slice, double innerRadius,
-                                              double outerRadius) const
+std::optional<PieValueText::Place> PieValueText::place(const QStringList& lines, const PieSlice& slice,
+                                                       double innerRadius, double outerRadius,
+                                                       const QSizeF& padding) const
 {
-    const QSizeF size = sizeOf(lines) + QSizeF(2 * clearance, 2 * clearance);
     const double middle = (slice.start + slice.sweep / 2) * degree;
     const double half = (innerRadius + outerRadius) / 2;
     constexpr int steps = 6;
-    for (int step = 0; step < steps; ++step) {
-        const double radius = half + (outerRadius - half) * step / steps;
-        const QPointF offset = radius * QPointF(std::sin(middle), -std::cos(middle));
-        const QRectF box(offset.x() - size.width() / 2, offset.y() - size.height() / 2, size.width(), size.height());
-        if (fits(box, slice, innerRadius, outerRadius)) {
-            return slice.center + offset;
+    QFont font = m_font;
+    // A smaller value in the middle of its slice is found less easily than a full one at its rim.
+    for (int pixels = m_font.pixelSize(); pixels >= std::min(smallest, m_font.pixelSize()); --pixels) {
+        font.setPixelSize(pixels);
+        const QSizeF size = sizeOf(lines, font);
+        const QSizeF taken = size + 2 * padding + QSizeF(2 * clearance, 2 * clearance);
+        for (int step = 0; step < steps; ++step) {
+            const double radius = half + (outerRadius - half) * step / steps;
+            const QPointF offset = radius * QPointF(std::sin(middle), -std::cos(middle));
+            const QRectF box(offset - QPointF(taken.width() / 2, taken.height() / 2), taken);
+            if (fits(box, slice, innerRadius, outerRadius)) {
+                return Place{font, slice.center + offset, size};
+            }
         }
     }
     return std::nullopt;
+}
+
+QSizeF PieValueText::sizeOf(const QStringList& lines, const QFont& font)
+{
+    const QFontMetricsF metrics(font);
+    double width = 0;
+    for (const QString& line : lines) {
+        width = std::max(width, metrics.horizontalAdvance(line));
+    }
+    return {width, metrics.capHeight() + static_cast<double>(lines.size() - 1) * metrics.lineSpacing()};
 }
 
 void PieValueText::draw(QPainter& painter, const QStringList& lines, const PieSlice& slice, double innerRadius,
@@ -97,22 +123,31 @@ void PieValueText::draw(QPainter& painter, const QStringList& lines, const PieSl
     if (lines.isEmpty()) {
         return;
     }
-    const std::optional<QPointF> middle = position(lines, slice, innerRadius, outerRadius);
-    if (!middle) {
+    const QColor ground = groundOn(sliceColor);
+    const QSizeF padding = ground.isValid() ? groundPadding : QSizeF(0, 0);
+    const std::optional<Place> placed = place(lines, slice, innerRadius, outerRadius, padding);
+    if (!placed) {
         return;
     }
-    QPainterPath path;
-    double baseline = middle->y() - sizeOf(lines).height() / 2 + m_metrics.capHeight();
+    if (ground.isValid()) {
+        const QSizeF size = placed->size + 2 * padding;
+        const QRectF box(placed->middle - QPointF(size.width() / 2, size.height() / 2), size);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(ground);
+        painter.drawRoundedRect(box, 4, 4);
+    }
+    painter.setFont(placed->font);
+    painter.setPen(m_color);
+    const QFontMetricsF metrics(placed->font);
+    const QTransform toDevice = painter.deviceTransform();
+    const QTransform fromDevice = toDevice.inverted();
+    double baseline = placed->middle.y() - placed->size.height() / 2 + metrics.capHeight();
     for (const QString& line : lines) {
-        path.addText(middle->x() - m_metrics.horizontalAdvance(line) / 2, baseline, m_font, line);
-        baseline += m_metrics.lineSpacing();
+        // On whole device pixels: between them every stroke is smeared over two.
+        const QPointF start = toDevice.map(QPointF(placed->middle.x() - metrics.horizontalAdvance(line) / 2, baseline));
+        painter.drawText(fromDevice.map(QPointF(std::round(start.x()), std::round(start.y()))), line);
+        baseline += metrics.lineSpacing();
     }
-    if (contrastRatio(m_color, sliceColor) < outlineContrast) {
-        QColor outline(0x1A, 0x20, 0x27);
-        outline.setAlphaF(0.55F);
-        painter.strokePath(path, QPen(outline, outlineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
-    }
-    painter.fillPath(path, m_color);
 }
 
 } // namespace lodestar

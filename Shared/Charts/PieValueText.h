@@ -3,9 +3,8 @@
 
 #include <QColor>
 #include <QFont>
-#include <QFontMetricsF>
 #include <QPointF>
-#include <QRectF>
+#include <QSizeF>
 #include <QStringList>
 
 #include <optional>
@@ -20,24 +19,32 @@ struct PieSlice;
 /// Contrast of two opaque colours, 1 to 21.
 double contrastRatio(const QColor& first, const QColor& second);
 
-/// Writes values into slices: centred between the radii, moved outward where a slice is narrow, left off where it has
-/// no room at all, and outlined where the slice is too light for the text.
+/// Writes values into slices: centred between the radii, moved outward and then made smaller where a slice is narrow,
+/// left off where it has no room at all. Where the slice is too near to the text's colour, the value gets a ground.
 class PieValueText
 {
 public:
+    struct Place {
+        QFont font;
+        QPointF middle;
+        QSizeF size; ///< of the capitals, without the ground
+    };
+
+    /// The font has its size in pixels.
     PieValueText(const QFont& font, const QColor& color);
 
     void draw(QPainter& painter, const QStringList& lines, const PieSlice& slice, double innerRadius,
               double outerRadius, const QColor& sliceColor) const;
-    /// Where the middle of the lines goes; nothing when they do not fit.
-    std::optional<QPointF> position(const QStringList& lines, const PieSlice& slice, double innerRadius,
-                                    double outerRadius) const;
+    /// Where the lines go, with that much around them; nothing when they do not fit.
+    std::optional<Place> place(const QStringList& lines, const PieSlice& slice, double innerRadius, double outerRadius,
+                               const QSizeF& padding = {0, 0}) const;
+    /// What the text needs behind it on a slice of that colour; invalid for nothing.
+    QColor groundOn(const QColor& sliceColor) const;
 
 private:
-    QSizeF sizeOf(const QStringList& lines) const;
+    static QSizeF sizeOf(const QStringList& lines, const QFont& font);
 
     QFont m_font;
-    QFontMetricsF m_metrics;
     QColor m_color;
 };
 

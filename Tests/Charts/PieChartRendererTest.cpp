@@ -160,7 +160,7 @@ int inkAround(const Picture& pie, double angle, const QColor& slice)
     return qRound(area.width() * area.height() * pie.ratio * pie.ratio) - pie.count(slice, area);
 }
 
-TEST(PieChartRendererTest, ValuesStandInTheirSlicesAndAreOutlinedOnLightOnes)
+TEST(PieChartRendererTest, ValuesStandInTheirSlicesOnAGroundThatTheyReadOn)
 {
     const Picture pie(dashboardPie({3, 3, 3}));
     EXPECT_GT(inkAround(pie, 60, blue), 50);
@@ -169,17 +169,17 @@ TEST(PieChartRendererTest, ValuesStandInTheirSlicesAndAreOutlinedOnLightOnes)
     EXPECT_LT(contrastRatio(white, green), 3);
     EXPECT_GT(contrastRatio(white, grey), 3);
     EXPECT_NEAR(contrastRatio(white, Qt::black), 21, 0.01);
-    const auto darkest = [&](double angle) {
-        double found = 1;
-        for (double share = 0.73; share < 0.86; share += 0.002) {
-            for (double turn = angle - 4; turn <= angle + 4; turn += 0.2) {
-                found = std::min(found, static_cast<double>(pie.at(share, turn).lightnessF()));
-            }
-        }
-        return found;
+    // Beside the digit, still on its ground, and beyond that.
+    const auto beside = [&](double angle, double by) {
+        const double radians = angle * M_PI / 180;
+        const QPointF middle =
+            0.79 * QPointF(std::sin(radians), -std::cos(radians)) + QPointF(by, 0) / pie.layout.radius;
+        return pie.at(std::hypot(middle.x(), middle.y()), std::atan2(middle.x(), -middle.y()) * 180 / M_PI);
     };
-    EXPECT_LT(darkest(300), 0.3) << "outline around the value on green";
-    EXPECT_GT(darkest(60), 0.4) << "none on blue";
+    EXPECT_GE(contrastRatio(white, beside(300, 5)), 4.4);
+    EXPECT_NEAR(beside(300, 5).hslHueF(), green.hslHueF(), 0.02);
+    EXPECT_EQ(beside(300, 10), green);
+    EXPECT_EQ(beside(60, 5), blue) << "white reads on blue";
 }
 
 TEST(PieChartRendererTest, ValuesWithoutRoomAreLeftOff)
@@ -190,12 +190,16 @@ TEST(PieChartRendererTest, ValuesWithoutRoomAreLeftOff)
     EXPECT_GT(inkAround(pie, 180, blue), 50);
     const PieValueText text(chartFont("Nimbus Sans", 12), white);
     PieSlice slice{0, 350, 8, 1, {0, 0}};
-    const auto narrow = text.position({"3"}, slice, 69, 119);
+    const auto narrow = text.place({"3"}, slice, 69, 119);
     ASSERT_TRUE(narrow);
-    EXPECT_LT(std::hypot(narrow->x(), narrow->y()), 119);
-    EXPECT_FALSE(text.position({"333333333"}, slice, 69, 119));
+    EXPECT_LT(std::hypot(narrow->middle.x(), narrow->middle.y()), 119);
+    EXPECT_EQ(narrow->font.pixelSize(), 12);
+    const auto wide = text.place({"33"}, slice, 69, 119);
+    ASSERT_TRUE(wide);
+    EXPECT_LT(wide->font.pixelSize(), 12);
+    EXPECT_FALSE(text.place({"333333333"}, slice, 69, 119));
     slice.sweep = 3;
-    EXPECT_FALSE(text.position({"3"}, slice, 69, 119));
+    EXPECT_FALSE(text.place({"3"}, slice, 69, 119));
 }
 
 TEST(PieChartRendererTest, PercentModeShowsSharesAndRawModeCounts)
