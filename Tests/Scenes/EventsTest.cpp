@@ -47,6 +47,33 @@ TEST_F(EventsTest, GroupsAreReadOutWholeAndTakeNoPressAndNoSearch)
     EXPECT_EQ(top(), list);
 }
 
+TEST_F(EventsTest, RowsHaveTheirHeightsInANarrowWindowAndWhateverAConsoleAnswers)
+{
+    const char* const named = "<entry><content><%1><%2>Two\nlines\r\nand more</%2></%1></content></entry>";
+    const struct {
+        const char* scene;
+        const char* type;
+        const char* name;
+        double height;
+    } lists[] = {{"resourceGroupsView", "Group", "GroupName", 75},
+                 {"managedSystemsView", "ManagedSystem", "SystemName", 50},
+                 {"logicalPartitionsView", "LogicalPartition", "PartitionName", 50},
+                 {"viosView", "VirtualIOServer", "PartitionName", 50}};
+    for (const auto& each : lists) {
+        const QString feed = "<feed>" + QString::fromLatin1(named).arg(each.type, each.name) + "</feed>";
+        for (const std::map<std::string, std::string>& feeds :
+             {std::map<std::string, std::string>(), {{each.type, feed.toStdString()}}}) {
+            stage.show({320, 568}, fleet());
+            stage.openList(each.scene, {.corvel = demoConsole(feeds)});
+            for (const QQuickItem* const place : stage.items("TableRow")) {
+                if (!place->property("isHeader").toBool()) {
+                    EXPECT_EQ(place->height(), each.height) << each.scene;
+                }
+            }
+        }
+    }
+}
+
 TEST_F(EventsTest, AHundredThousandEventsOpenScrollAndAreSearched)
 {
     std::string feed = "<feed>";

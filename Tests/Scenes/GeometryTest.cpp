@@ -105,9 +105,20 @@ TEST_P(GeometryTest, Consoles)
     expectSound();
 }
 
-TEST_P(GeometryTest, RowsMirrorAndKeepTheirHeight)
+TEST_P(GeometryTest, RowsMirrorAndKeepTheirHeightAndTheirNames)
 {
     apply();
+    std::vector<ConsoleLook> alike = fleet();
+    alike[0].name = "Northfield Recovery Site, 1";
+    alike[1].name = "Northfield Recovery Site, 2";
+    alike[0].version = alike[1].version = "V10R2.1070.0.SP1045-with-fix";
+    stage.show(size(), alike);
+    for (const ConsoleLook& console : {alike[0], alike[1]}) {
+        ASSERT_NE(text(console.name.c_str()), nullptr);
+        EXPECT_FALSE(text(console.name.c_str())->property("truncated").toBool()) << "the version yields first";
+        EXPECT_NE(text(console.version.c_str()), nullptr);
+    }
+    expectSound();
     stage.show(size(), fleet());
     const double scale = std::get<2>(GetParam());
     for (const QQuickItem* place : stage.items("TableRow")) {

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QtQml/qqmlregistration.h>
 
+#include <algorithm>
+
 namespace lodestar
 {
 
@@ -17,7 +19,7 @@ namespace lodestar
 struct CellLabel {
     Q_GADGET
     QML_VALUE_TYPE(cellLabel)
-    Q_PROPERTY(QString text MEMBER text)
+    Q_PROPERTY(QString text READ line)
     Q_PROPERTY(QColor color MEMBER color)
     Q_PROPERTY(bool hidden MEMBER hidden)
     Q_PROPERTY(QString match MEMBER match)
@@ -27,6 +29,20 @@ public:
     QColor color;
     bool hidden = false;
     QString match{};
+
+    /// The text as a row draws it: a console's line ends would make the row grow.
+    QString line() const
+    {
+        static const auto endsLine = [](QChar each) {
+            return each == u'\n' || each == u'\r' || each == QChar::LineSeparator || each == QChar::ParagraphSeparator;
+        };
+        if (std::ranges::none_of(text, endsLine)) {
+            return text;
+        }
+        QString drawn = text;
+        std::ranges::replace_if(drawn, endsLine, u' ');
+        return drawn;
+    }
 
     friend bool operator==(const CellLabel&, const CellLabel&) = default;
 };

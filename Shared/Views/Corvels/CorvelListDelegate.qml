@@ -95,7 +95,7 @@ TableCell {
     Item {
         id: content
 
-        readonly property real identityHeight: name.height + address.height + (version.besideName ? 0 : version.height)
+        readonly property real identityHeight: name.height + address.height + (version.atEnd ? 0 : version.height)
         readonly property real metricsWidth: row.captioned ? 316 : width
 
         anchors {
@@ -108,14 +108,29 @@ TableCell {
                                                                               : 11 * row.scale100)
         height: row.captioned ? identityHeight : identityHeight + Math.round(7 * row.scale100) + metrics.height
 
+        // Their own implicit widths answer to their widths, which answer to these. A point more than measured: the
+        // layout may round its glyphs up.
+        TextMetrics {
+            id: nameMeasure
+
+            font: name.font
+            text: row.cell.nameLabel.text
+        }
+        TextMetrics {
+            id: versionMeasure
+
+            font: version.font
+            text: row.cell.versionLabel.text
+        }
         Label {
             id: name
 
             text: row.cell.nameLabel.text
-            elide: Text.ElideMiddle
+            elide: row.stacked ? Text.ElideNone : Text.ElideMiddle
+            wrapMode: row.stacked ? Text.Wrap : Text.NoWrap
             anchors.left: parent.left
-            width: Math.min(implicitWidth, Math.max(0, version.besideName
-                            ? parent.width - 24 - 12 - version.implicitWidth : content.identityWidth))
+            width: row.stacked ? content.identityWidth
+                               : Math.min(Math.ceil(nameMeasure.advanceWidth) + 1, content.identityWidth)
             Accessible.ignored: true
         }
         readonly property real identityWidth: row.captioned ? width - 24 - metricsWidth - 16 : width - (row.stacked ? 0 : 24)
@@ -123,16 +138,20 @@ TableCell {
         Label {
             id: version
 
-            readonly property bool besideName: !row.captioned && !row.stacked
+            readonly property bool atEnd: !row.captioned && !row.stacked
+            /// The name comes first: a version that would cut it goes down to the address.
+            readonly property bool besideName: atEnd && nameMeasure.advanceWidth + wanted + 14 < content.identityWidth
+            readonly property real wanted: Math.ceil(versionMeasure.advanceWidth) + 1
 
             text: row.cell.versionLabel.text
             size: Theme.captionSize
             color: Theme.ink2
             elide: Text.ElideMiddle
-            width: Math.min(implicitWidth, content.identityWidth)
+            width: Math.min(wanted, atEnd && !besideName ? Math.round(content.identityWidth / 2)
+                                                                : content.identityWidth)
             // By place, not by anchors: an item that changes from one side's anchor to the other's loses its width.
-            x: besideName === Theme.mirrored ? (besideName ? 24 : 0) : parent.width - width - (besideName ? 24 : 0)
-            y: besideName ? name.baselineOffset - baselineOffset : address.y + address.height
+            x: atEnd === Theme.mirrored ? (atEnd ? 24 : 0) : parent.width - width - (atEnd ? 24 : 0)
+            y: besideName ? name.baselineOffset - baselineOffset : atEnd ? address.y : address.y + address.height
             Accessible.ignored: true
         }
         Label {
@@ -143,7 +162,8 @@ TableCell {
             color: Theme.ink2
             elide: Text.ElideMiddle
             anchors.left: parent.left
-            width: Math.min(implicitWidth, content.identityWidth)
+            width: Math.min(implicitWidth, content.identityWidth
+                            - (version.atEnd && !version.besideName ? version.width + 12 : 0))
             y: name.height
             Privacy.covered: true
             Accessible.ignored: true

@@ -6,22 +6,19 @@ import Lodestar.Kit
 import Lodestar.Views
 
 /// A resource group's row: tag and name, how many resources at the end, and below four counts that stand in columns. With
-/// large text, and sooner where a row is narrow for its text, the number of resources stands below the name, and the
-/// columns break into lines where they do not fit.
+/// large text the number of resources stands below the name, and the columns break into lines where they do not fit;
+/// otherwise a row keeps its height however narrow it is, and what stands in it gives way.
 TableCell {
     id: row
 
     required property rgListCell cell
 
     readonly property real scale100: Theme.textScale
-    readonly property bool stacked: Theme.stacked || room < leastRoom
+    readonly property bool stacked: Theme.stacked
     readonly property real tagSize: Math.round(28 * Theme.badgeScale)
     /// The drawing's own margin hangs out, so that the tag's ink starts where other rows' text does.
     readonly property real tagStart: Theme.rowStart - 2
     readonly property real textStart: tagStart + tagSize + 14
-    readonly property real room: width - textStart - Theme.rowEnd
-    /// For a name and a number beside it: a line of less cuts most names.
-    readonly property real leastRoom: 14 * Theme.bodySize * scale100
 
     accessibleText: cell.accessibleText
     selectable: false
@@ -56,6 +53,9 @@ TableCell {
             color: counter.zero ? Theme.ink3 : Theme.ink
             anchors.left: shape.right
             anchors.leftMargin: counter.gap
+            width: Math.max(0, counter.width - shape.width - counter.gap)
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 8
             Accessible.ignored: true
         }
     }
@@ -94,7 +94,8 @@ TableCell {
             text: row.cell.resourceCountLabel.text
             size: Theme.captionSize
             color: Theme.ink2
-            width: Math.min(implicitWidth, parent.width)
+            width: Math.min(implicitWidth, Math.round(parent.width * (row.stacked ? 1 : 0.5)))
+            elide: row.stacked ? Text.ElideNone : Text.ElideMiddle
             // By place, not by anchors: an item that changes from one side's anchor to the other's loses its width.
             x: row.stacked !== Theme.mirrored ? 0 : parent.width - width
             y: row.stacked ? name.height : name.baselineOffset - baselineOffset
@@ -109,8 +110,9 @@ TableCell {
             /// Columns give way by a fifth before they break.
             readonly property real least: Math.max(widest, 0.8 * column)
 
-            columns: 4 * least <= parent.width ? 4 : 2 * least <= parent.width ? 2 : 1
-            readonly property real drawn: Math.max(widest, Math.min(column, Math.floor(parent.width / columns)))
+            columns: !row.stacked || 4 * least <= parent.width ? 4 : 2 * least <= parent.width ? 2 : 1
+            readonly property real share: Math.floor(parent.width / columns)
+            readonly property real drawn: Math.min(share, Math.max(widest, Math.min(column, share)))
 
             rowSpacing: Math.round(4 * row.scale100)
             anchors.left: parent.left
