@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Application/Adapters/DesktopSettings.h"
 #include "Application/Adapters/FileUserDefaults.h"
 #include "Application/Adapters/PackageResources.h"
 #include "Application/Adapters/SystemKeychain.h"
@@ -10,6 +11,7 @@
 #include "Application/PrivacyCover.h"
 #include "Application/TerminationSignals.h"
 #include "Feedback/VireoLogger.h"
+#include "Kit/Core/Appearance.h"
 #include "Kit/Core/MainLoop.h"
 #include "Kit/Core/UIFont+System.h"
 #include "Platform/FolderLock.h"
@@ -141,6 +143,10 @@ int main(int argc, char** argv)
         window->resize(390, 844);
         window->show();
     }
+    DesktopSettings desktop([](bool reduced) { Appearance::shared().setSystemReducedMotion(reduced); });
+    // The first frame waits for nobody.
+    QObject::connect(
+        window, &QQuickWindow::frameSwapped, &desktop, [&desktop] { desktop.follow(); }, Qt::SingleShotConnection);
     PrivacyCover cover(*window);
     followActivation(application, delegate, cover);
 

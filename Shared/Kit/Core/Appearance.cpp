@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace lodestar
 {
@@ -63,7 +64,7 @@ bool Appearance::isMirrored() const
 
 bool Appearance::isReducedMotion() const
 {
-    return m_reducedMotion.value_or(false);
+    return m_reducedMotion.value_or(m_systemReducedMotion);
 }
 
 double Appearance::textDrop(int pixelSize, double lineHeight, double devicePixelRatio) const
@@ -72,6 +73,13 @@ double Appearance::textDrop(int pixelSize, double lineHeight, double devicePixel
     const double baseline = (lineHeight + metrics.capHeight()) / 2;
     const double ratio = std::max(1.0, devicePixelRatio);
     return std::round(baseline * ratio) / ratio - metrics.ascent();
+}
+
+void Appearance::setSystemReducedMotion(bool reduced)
+{
+    if (std::exchange(m_systemReducedMotion, reduced) != reduced) {
+        Q_EMIT changed();
+    }
 }
 
 void Appearance::overrideDark(std::optional<bool> dark)

@@ -40,6 +40,9 @@ public:
     /// stand on a device pixel.
     Q_INVOKABLE double textDrop(int pixelSize, double lineHeight, double devicePixelRatio) const;
 
+    /// What the desktop's settings say, once they are heard.
+    void setSystemReducedMotion(bool reduced);
+
     void overrideDark(std::optional<bool> dark);
     void overrideTextScale(std::optional<double> scale);
     void overrideMirrored(std::optional<bool> mirrored);
@@ -57,6 +60,7 @@ private:
     std::optional<double> m_textScale;
     std::optional<bool> m_mirrored;
     std::optional<bool> m_reducedMotion;
+    bool m_systemReducedMotion = false;
 };
 
 } // namespace lodestar

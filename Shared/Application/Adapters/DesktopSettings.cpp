@@ -1,0 +1,123 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Application/Adapters/DesktopSettings.h"
+
+#include "Platform/Queues/DispatchQueue.h"
+#include "Platform/Queues/MainQueue.h"
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusVariant>
+#include <QFileInfo>
+#include <QMap>
+#include <QPointer>
+#include <QVariantMap>
+
+#include <array>
+#include <utility>
+
+namespace lodestar
+{
+namespace
+{
+
+const QString portal = QStringLiteral("org.freedesktop.portal.Desktop");
+const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
+const QString settings = QStringLiteral("org.freedesktop.portal.Settings");
+
+/// Every desktop has its own words for it.
+struct MotionSetting {
+    const char* group;
+    const char* key;
+    bool (*isReduced)(const QVariant&);
+};
+constexpr std::array<MotionSetting, 3> motionSettings = {{
+    {"org.freedesktop.appearance", "reduced-motion", [](const QVariant& value) { return value.toUInt() == 1; }},
+    {"org.gnome.desktop.interface", "enable-animations", [](const QVariant& value) { return !value.toBool(); }},
+    {"org.kde.kdeglobals.KDE", "AnimationDurationFactor",
+     [](const QVariant& value) {
+         bool isNumber = false;
+         const double factor = value.toDouble(&isNumber);
+         return isNumber && factor <= 0;
+     }},
+}};
+
+/// Asking for a bus that is not there may start one.
+bool hasSessionBus()
+{
+    return !qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS") ||
+           (!qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR") &&
+            QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus")));
+}
+
+} // namespace
+
+DesktopSettings::DesktopSettings(MotionHandler motionReduced, QObject* parent)
+    : QObject(parent), m_motionReduced(std::move(motionReduced))
+{
+}
+
+void DesktopSettings::follow()
+{
+    if (!hasSessionBus()) {
+        return;
+    }
+    DispatchQueue::globalBackground().async([self = QPointer<DesktopSettings>(this)] {
+        const QDBusConnection bus = QDBusConnection::sessionBus();
+        MainQueue::shared().async([self, bus] {
+            if (self) {
+                self->follow(bus);
+            }
+        });
+    });
+}
+
+void DesktopSettings::follow(const QDBusConnection& bus)
+{
+    QDBusConnection connection = bus;
+    if (!connection.isConnected()) {
+        return;
+    }
+    // Of whoever sends it: naming the portal here would wait for the bus to say who that is.
+    connection.connect({}, path, settings, QStringLiteral("SettingChanged"), this,
+                       SLOT(settingChanged(QString, QString, QDBusVariant)));
+    QStringList groups;
+    for (const MotionSetting& each : motionSettings) {
+        groups << QString::fromLatin1(each.group);
+    }
+    QDBusMessage ask = QDBusMessage::createMethodCall(portal, path, settings, QStringLiteral("ReadAll"));
+    ask.setArguments({groups});
+    auto* const answer = new QDBusPendingCallWatcher(connection.asyncCall(ask), this);
+    connect(answer, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* watcher) {
+        watcher->deleteLater();
+        const QList<QVariant> values = watcher->isError() ? QList<QVariant>() : watcher->reply().arguments();
+        if (values.isEmpty() || watcher->reply().signature() != QLatin1String("a{sa{sv}}")) {
+            return;
+        }
+        const auto all = qdbus_cast<QMap<QString, QVariantMap>>(values.front());
+        for (const MotionSetting& each : motionSettings) {
+            const QVariantMap group = all.value(QString::fromLatin1(each.group));
+            if (group.contains(QString::fromLatin1(each.key))) {
+                take(QString::fromLatin1(each.group), QString::fromLatin1(each.key),
+                     group.value(QString::fromLatin1(each.key)));
+            }
+        }
+    });
+}
+
+void DesktopSettings::settingChanged(const QString& group, const QString& key, const QDBusVariant& value)
+{
+    take(group, key, value.variant());
+}
+
+void DesktopSettings::take(const QString& group, const QString& key, const QVariant& value)
+{
+    for (const MotionSetting& each : motionSettings) {
+        if (group == QLatin1String(each.group) && key == QLatin1String(each.key)) {
+            m_motionReduced(each.isReduced(value));
+        }
+    }
+}
+
+} // namespace lodestar
