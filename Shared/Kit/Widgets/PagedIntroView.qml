@@ -30,9 +30,18 @@ T.Popup {
 
     function follow() {
         if (wanted) {
+            begin();
             open();
         } else {
             close();
+        }
+    }
+    /// The pages are where the last visit left them.
+    function begin() {
+        if (pageControl !== null) {
+            pages.cancelFlick();
+            pages.currentIndex = pageControl.currentPage;
+            pages.positionViewAtIndex(pageControl.currentPage, ListView.Beginning);
         }
     }
     function end() {
