@@ -5,12 +5,17 @@ import QtQuick
 import QtQuick.Templates as T
 import Lodestar.Kit
 
-/// Choices for one thing, at the window's lower edge, Cancel set apart. Follows its outlet.
+/// Choices for one thing, at the window's lower edge or by the pointer, Cancel set apart. Follows its outlet.
 T.Popup {
     id: sheet
 
     required property MenuOutlet outlet
     property real slide: 0
+    /// On wide windows the choices come up where the pointer is, not an arm's length below it.
+    property bool nearPress: false
+    /// It hears of presses from its making on.
+    readonly property QtObject presses: LastPress
+    property point press
 
     readonly property var cancelChoice: outlet.cancelIndex >= 0 ? outlet.choices[outlet.cancelIndex] : undefined
 
@@ -22,11 +27,16 @@ T.Popup {
     padding: 0
     width: parent !== null ? Math.min(parent.width - 24, Theme.actionSheetMaxWidth) : 0
     height: card.implicitHeight
-    x: parent !== null ? Math.round((parent.width - width) / 2) : 0
-    y: parent !== null ? parent.height - (height + 8) * slide : 0
+    x: parent === null ? 0 : !nearPress ? Math.round((parent.width - width) / 2)
+                                        : Math.max(12, Math.min(Math.round(press.x - width / 2), parent.width - width - 12))
+    y: parent === null ? 0 : !nearPress ? parent.height - (height + 8) * slide
+                                        : Math.max(12, Math.min(press.y + 12, parent.height - height - 12)) + 12 * (1 - slide)
+    opacity: nearPress ? slide : 1
 
     function follow() {
         if (outlet.presented) {
+            nearPress = LastPress.isRecent() && parent.width >= 600;
+            press = LastPress.position();
             keyboard.remember();
             open();
         } else {
