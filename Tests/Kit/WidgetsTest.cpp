@@ -182,6 +182,40 @@ TEST_F(WidgetsTest, APullBeyondThePointRefreshesOnceLetGo)
     EXPECT_FALSE(list->refreshControl()->isRefreshing());
 }
 
+TEST_F(WidgetsTest, APullUncoversTheSearchFieldAndAFurtherOneRefreshes)
+{
+    KitWindow window(list);
+    QQuickItem* const table = window.find("table");
+    table->setProperty("searchOffered", true);
+    int pulls = 0;
+    QObject::connect(list->refreshControl(), &RefreshControl::valueChanged, [&] {
+        ++pulls;
+        list->refreshControl()->endRefreshing();
+    });
+    int searches = 0;
+    QObject::connect(table, SIGNAL(searchTapped()), list.get(), SIGNAL(titleChanged()));
+    QObject::connect(list.get(), &ViewController::titleChanged, [&] { ++searches; });
+    QQuickItem* const field = window.find("PullSearch");
+    const double hidden = flickable(window)->property("contentY").toDouble();
+    const auto at = [&] { return flickable(window)->property("contentY").toDouble(); };
+    EXPECT_FALSE(field->isVisible());
+    const QPoint from = KitWindow::centre(row(window, 1));
+    // Less than half of it falls back.
+    window.swipe(from, {0, 18}, 40);
+    EXPECT_TRUE(waitFor([&] { return at() == hidden && !field->isVisible(); }));
+    window.swipe(from, {0, 60}, 40);
+    EXPECT_TRUE(waitFor([&] { return at() == hidden - 48; }));
+    EXPECT_TRUE(field->isVisible());
+    EXPECT_EQ(pulls, 0);
+    window.click(KitWindow::centre(field));
+    EXPECT_EQ(searches, 1);
+    window.swipe(from, {0, 320});
+    EXPECT_EQ(pulls, 1);
+    EXPECT_TRUE(waitFor([&] { return at() == hidden - 48; }));
+    window.swipe(from, {0, -120}, 40);
+    EXPECT_TRUE(waitFor([&] { return at() == hidden && !field->isVisible(); }));
+}
+
 TEST_F(WidgetsTest, ASheetDocksItsBarFollowsItsHeightAndKeepsItsContentUntilItHasSlidOut)
 {
     KitWindow window(list, {800, 700});

@@ -158,6 +158,8 @@ TEST_F(InventoryTest, AHundredThousandRowsMakeDelegatesForTheVisibleOnes)
         waiting += host->isVisible() ? 0U : 1U;
     }
     EXPECT_GT(waiting, 0U);
+    click(stage.items("TitleView").front());
+    ASSERT_TRUE(stage.waitFor([&] { return text("node-0") != nullptr; }));
     for (const QQuickItem* const item : stage.items("QQuickText")) {
         EXPECT_FALSE(item->flags().testFlag(QQuickItem::ItemObservesViewport)) << item->objectName().toStdString();
     }

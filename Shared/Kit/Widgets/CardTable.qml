@@ -20,11 +20,14 @@ AccessibleScope {
     property real topSpace: 8
     property alias header: list.header
     property alias footer: list.footer
+    /// A pull uncovers a search field.
+    property alias searchOffered: search.offered
     property alias currentIndex: list.currentIndex
     readonly property alias flickable: list
     /// What is pressed, chosen and swiped open.
     readonly property alias rows: tableState
     signal swipeButtonTapped(int section, int row, int index, bool leading)
+    signal searchTapped()
 
     visible: !table.hidden
     activeFocusOnTab: true
@@ -141,7 +144,7 @@ AccessibleScope {
         highlightMoveDuration: Theme.settle
         highlightResizeDuration: 0
         cacheBuffer: 120
-        topMargin: header === null ? view.topSpace : 0
+        topMargin: (header === null ? view.topSpace : 0) + search.space
         bottomMargin: Theme.groupGap
         currentIndex: -1
         boundsBehavior: Flickable.DragAndOvershootBounds
@@ -300,6 +303,18 @@ AccessibleScope {
         // Always one, so that the keyboard comes to a row and not to the list.
         onCountChanged: view.keepCurrent()
         Keys.onPressed: (event) => event.accepted = view.handleKey(event.key, event.modifiers)
+    }
+    PullSearch {
+        id: search
+
+        list: list
+        topSpace: view.topSpace
+        x: tableState.sideMargin
+        width: list.width - 2 * x
+        onTapped: view.searchTapped()
+    }
+    ScrollMark {
+        flickable: list
     }
     PullIndicator {
         id: indicator

@@ -31,11 +31,43 @@ FocusScope {
         anchors.fill: parent
         color: Theme.ground
     }
+    /// To where the content begins, from afar without passing everything between.
+    function scrollUp() {
+        if (scrolled) {
+            const begin = scrollView.originY - scrollView.topMargin;
+            scrollView.cancelFlick();
+            scrolling.from = Math.min(scrollView.contentY, begin + 2 * scrollView.height);
+            scrolling.to = begin;
+            scrolling.restart();
+        }
+    }
+
+    NumberAnimation {
+        id: scrolling
+
+        target: page.scrollView
+        property: "contentY"
+        duration: Theme.reducedMotion ? 0 : Theme.push
+        easing.type: Easing.OutCubic
+        onFinished: page.scrollView.returnToBounds()
+    }
+    Connections {
+        target: page.scrollView
+        function onMovementStarted() {
+            scrolling.stop();
+        }
+    }
     Item {
         id: top
 
         width: parent.width
         height: page.bar.implicitHeight
+
+        // Beneath the bar: its buttons take their own presses.
+        MouseArea {
+            anchors.fill: parent
+            onClicked: page.scrollUp()
+        }
 
         Binding {
             target: page.bar

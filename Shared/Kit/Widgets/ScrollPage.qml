@@ -52,6 +52,10 @@ Flickable {
         }
     }
 
+    ScrollMark {
+        parent: page
+        flickable: page
+    }
     Column {
         id: column
 

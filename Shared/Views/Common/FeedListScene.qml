@@ -115,9 +115,11 @@ PageScaffold {
         refreshControl: scene.list.refreshControl
         delegate: scene.delegate
         visible: scene.contentShown && !scene.resultsShown
+        searchOffered: scene.list.rightBarButton.imageName === "search" && !scene.searching
         focus: true
         anchors.fill: parent
         onSwipeButtonTapped: (section, row, index, leading) => scene.swipeButtonTapped(false, section, row, index, leading)
+        onSearchTapped: scene.list.rightBarButton.tap()
     }
     CardTable {
         id: results
