@@ -101,6 +101,40 @@ TEST_F(PerformanceSceneTest, ChartIsReachedAndWorkedByKeys)
     EXPECT_TRUE(stage.waitFor([&] { return top() == &stage.list(); }));
 }
 
+TEST_F(PerformanceSceneTest, FromASystemsMenuTheTitleStandsClearOfTheWayBack)
+{
+    for (const int width : {320, 360, 390, 768}) {
+        stage.show({width, 640}, fleet());
+        const CorvelRef corvel = demoConsole();
+        stage.open("managedSystemMenu", {.corvel = corvel,
+                                         .rootXML = feedOfType(*corvel, ObjectType::ManagedSystem)
+                                                        .entries()
+                                                        .at(2)
+                                                        .path({"content", ObjectType::ManagedSystem})});
+        top()->setTitle(QStringLiteral("A managed system with a long name"));
+        ASSERT_TRUE(stage.waitFor([this] { return row(0) != nullptr; }));
+        stage.settle(200);
+        click(row(0));
+        ASSERT_TRUE(stage.waitFor([this] { return qobject_cast<PCMViewController*>(top()) != nullptr; }));
+        stage.settle(200);
+        const std::vector<QQuickItem*> titles = stage.items("TitleView");
+        ASSERT_EQ(titles.size(), 1U);
+        EXPECT_NE(text("Performance Monitoring"), nullptr) << "a chart of no named system";
+        auto& performance = *qobject_cast<PCMViewController*>(top());
+        performance.header()->titleLabel()->setText(QStringLiteral("helios").repeated(20));
+        stage.settle(50);
+        const QQuickItem* const title = text(qPrintable(QStringLiteral("helios").repeated(20)));
+        EXPECT_LE(title->property("contentWidth").toDouble(), title->width());
+        for (const QQuickItem* const each : stage.buttons()) {
+            if (each->mapToScene({}).y() < 52) {
+                EXPECT_FALSE(each->mapRectToScene(each->boundingRect())
+                                 .intersects(titles.front()->mapRectToScene(titles.front()->boundingRect())))
+                    << width;
+            }
+        }
+    }
+}
+
 TEST_F(PerformanceSceneTest, LooksFollowTheOutletsAndTheWidth)
 {
     for (const QSize size : {QSize(360, 640), QSize(768, 1024)}) {

@@ -21,7 +21,11 @@ Item {
     readonly property int edge: width < 600 ? 4 : 12
     readonly property real content: Math.min(width, Theme.measure + 48)
     readonly property real side: (width - content) / 2 + (width > content ? 24 : edge)
-    readonly property real room: width - 2 * (side + Math.max(backButton.visible ? backButton.width : 0, ends.width, 44))
+    /// Beside the middle, on either side.
+    readonly property real beside: side + Math.max(backButton.visible ? backButton.width : 0, ends.width, Theme.target)
+    readonly property real room: Math.max(0, width - 2 * beside)
+    /// The title comes first: where it and the name of the screen before do not both fit, the chevron is enough.
+    readonly property bool backTitleFits: width - 2 * (side + Math.min(backButton.wantedWidth, 132)) >= 200
 
     implicitHeight: Theme.barHeight
 
@@ -43,14 +47,23 @@ Item {
         }
     }
 
+    TextMetrics {
+        id: backMeasure
+
+        font.family: Theme.family
+        font.pixelSize: Math.round(backButton.size * backButton.scaleFactor)
+        text: bar.backTitle
+    }
     PlainButton {
         id: backButton
 
         visible: bar.canGoBack
-        text: bar.backTitle
+        readonly property real wantedWidth: backMeasure.advanceWidth + 44
+
+        text: bar.backTitleFits ? bar.backTitle : ""
         leftPadding: Theme.mirrored ? 12 : 32
         rightPadding: Theme.mirrored ? 32 : 12
-        implicitWidth: text === "" ? Theme.target : Math.min(wordWidth + 44, 132)
+        implicitWidth: text === "" ? Theme.target : Math.min(wantedWidth, 132)
         scaleFactor: Theme.barScale
         anchors.left: parent.left
         anchors.leftMargin: bar.side
@@ -71,8 +84,15 @@ Item {
         id: middle
 
         anchors.centerIn: parent
-        width: bar.titleView !== null ? bar.titleView.width : Math.max(0, bar.room)
+        width: bar.titleView !== null ? Math.min(bar.titleView.implicitWidth, bar.room) : bar.room
         height: bar.titleView !== null ? bar.titleView.height : parent.height
+
+        Binding {
+            target: bar.titleView
+            property: "width"
+            value: middle.width
+            when: bar.titleView !== null
+        }
 
         Label {
             visible: bar.titleView === null
@@ -85,6 +105,7 @@ Item {
             horizontalAlignment: Text.AlignHCenter
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: 8
+            elide: Text.ElideMiddle
             Accessible.role: Accessible.Heading
             Accessible.name: text
         }

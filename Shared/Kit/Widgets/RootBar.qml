@@ -29,6 +29,7 @@ Item {
         scaleFactor: Theme.barScale
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 8
+        elide: Text.ElideMiddle
         Accessible.role: Accessible.Heading
         Accessible.name: text
     }

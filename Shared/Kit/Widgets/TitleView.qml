@@ -8,6 +8,8 @@ Item {
 
     property string title
     property string subtitle
+    /// In the place of a title that is empty.
+    property string fallback
     property LabelOutlet titleOutlet: null
     property LabelOutlet subtitleOutlet: null
 
@@ -19,7 +21,7 @@ Item {
     Label {
         id: titleLabel
 
-        text: view.titleOutlet !== null ? view.titleOutlet.text : view.title
+        text: (view.titleOutlet !== null ? view.titleOutlet.text : view.title) || view.fallback
         y: 2
         width: parent.width
         line: 24 / scaleFactor
@@ -28,6 +30,7 @@ Item {
         horizontalAlignment: Text.AlignHCenter
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 8
+        elide: Text.ElideMiddle
         Accessible.ignored: true
     }
     Label {
@@ -43,6 +46,7 @@ Item {
         horizontalAlignment: Text.AlignHCenter
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 8
+        elide: Text.ElideMiddle
         Accessible.ignored: true
     }
 }

@@ -12,12 +12,14 @@ PageScaffold {
     id: scene
 
     readonly property PCMViewController performance: controller as PCMViewController
+    readonly property string unit: performance.typeSegmentedControl.selectedSegmentIndex === 0 ? qsTr("units") : qsTr("GB")
 
     bar: NavigationBar {
         controller: scene.controller
         titleView: TitleView {
             titleOutlet: scene.performance.header.titleLabel
             subtitleOutlet: scene.performance.header.subtitleLabel
+            fallback: qsTr("Performance Monitoring")
         }
     }
     scrollView: page
@@ -29,12 +31,13 @@ PageScaffold {
         required property LabelOutlet value
         required property IndicatorOutlet indicator
         required property string caption
+        required property string unit
         required property color strokeColor
         readonly property real startPadding: scene.width < 375 ? 14 : Theme.rowStart
 
         implicitHeight: words.height + number.height
         Accessible.role: Accessible.StaticText
-        Accessible.name: caption + (value.hidden || value.text === "" ? "" : ", " + value.text)
+        Accessible.name: caption + (value.hidden || value.text === "" ? "" : ", " + value.text + (unitLabel.visible ? " " + unit : ""))
 
         Row {
             id: key
@@ -72,11 +75,30 @@ PageScaffold {
             height: lineHeight
             anchors.left: parent.left
             anchors.leftMargin: figure.startPadding
-            anchors.right: parent.right
-            anchors.rightMargin: 8
+            width: Math.min(measure.advanceWidth + 1, figure.width - figure.startPadding - 4
+                                                      - (unitLabel.visible ? unitLabel.implicitWidth + 3 : 0))
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: 12
             elide: Text.ElideRight
+            Accessible.ignored: true
+        }
+        TextMetrics {
+            id: measure
+
+            font.family: Theme.family
+            font.pixelSize: Math.round(Theme.valueSize * Theme.textScale)
+            text: figure.value.text
+        }
+        Label {
+            id: unitLabel
+
+            visible: !figure.value.hidden && /[0-9]/.test(figure.value.text)
+            text: figure.unit
+            size: Theme.noteSize
+            color: Theme.ink2
+            anchors.left: number.right
+            anchors.leftMargin: 2
+            y: number.y + number.baselineOffset - baselineOffset
             Accessible.ignored: true
         }
         Spinner {
@@ -129,6 +151,7 @@ PageScaffold {
                     value: scene.performance.totalLabel
                     indicator: scene.performance.totalIndicator
                     caption: qsTr("Total")
+                    unit: scene.unit
                     strokeColor: Theme.chartOrange
                     width: values.column
                 }
@@ -136,6 +159,7 @@ PageScaffold {
                     value: scene.performance.allocatedLabel
                     indicator: scene.performance.allocatedIndicator
                     caption: qsTr("Allocated")
+                    unit: scene.unit
                     strokeColor: Theme.chartGreen
                     width: values.column
                 }
@@ -143,6 +167,7 @@ PageScaffold {
                     value: scene.performance.usedLabel
                     indicator: scene.performance.usedIndicator
                     caption: qsTr("Used")
+                    unit: scene.unit
                     strokeColor: Theme.chartBlue
                     width: values.column
                 }
