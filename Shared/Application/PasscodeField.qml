@@ -3,8 +3,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Lodestar.Kit
 
-/// A field of its own, 48 high, for a text that nobody is to read: it is drawn as dots from the first letter on, is not
-/// copied, and no keyboard learns it.
+/// A field of its own, 48 high, for a text that nobody else is to read: it is drawn as dots from the first letter on
+/// unless its owner looks, is not copied, and no keyboard learns it.
 T.TextField {
     id: input
 
@@ -20,7 +20,7 @@ T.TextField {
     visible: !outlet.hidden
     enabled: outlet.enabled
     leftPadding: 16
-    rightPadding: 16
+    rightPadding: eye.visible ? eye.width + 4 : 16
     verticalAlignment: TextInput.AlignVCenter
     horizontalAlignment: TextInput.AlignLeft
     font.family: Theme.family
@@ -30,7 +30,8 @@ T.TextField {
     selectionColor: Theme.match
     selectedTextColor: Theme.ink
     clip: contentWidth > width - leftPadding - rightPadding
-    echoMode: TextInput.Password
+    echoMode: eye.revealed ? TextInput.Normal : TextInput.Password
+    Privacy.covered: true
     passwordCharacter: "\u2022"
     passwordMaskDelay: 0
     inputMethodHints: Qt.ImhHiddenText | Qt.ImhSensitiveData | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
@@ -43,6 +44,13 @@ T.TextField {
         SecureText.hideFromAccessibility(input);
     }
     onTextChanged: outlet.text = text
+    onPressed: (event) => {
+        if (event.button === Qt.RightButton) {
+            editMenu.show(event.x, event.y);
+        }
+    }
+    onPressAndHold: (event) => editMenu.show(event.x, event.y)
+    Keys.onMenuPressed: editMenu.show(cursorRectangle.x, cursorRectangle.y)
 
     Connections {
         target: input.outlet
@@ -54,6 +62,21 @@ T.TextField {
         function onResignRequested() {
             input.focus = false;
         }
+    }
+    EditMenu {
+        id: editMenu
+
+        field: input
+        secret: true
+    }
+    SecretSwitch {
+        id: eye
+
+        field: input
+        visible: input.text !== ""
+        anchors.right: parent.right
+        anchors.rightMargin: 4
+        anchors.verticalCenter: parent.verticalCenter
     }
     background: Rectangle {
         radius: Theme.cardRadius

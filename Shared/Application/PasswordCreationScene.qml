@@ -11,23 +11,20 @@ SheetContent {
 
     readonly property PasswordCreationViewController sheet: controller as PasswordCreationViewController
 
-    readonly property int statedHeight: sheet.heightForRowAtIndexPath(0) + sheet.heightForRowAtIndexPath(1)
-                                        + sheet.heightForRowAtIndexPath(2) + sheet.heightForRowAtIndexPath(3)
+    readonly property int rowsHeight: sheet.heightForRowAtIndexPath(0) + sheet.heightForRowAtIndexPath(1)
+                                      + sheet.heightForRowAtIndexPath(2) + sheet.heightForRowAtIndexPath(3)
 
     title: sheet.navigationBar.text
     firstField: oldField.visible ? oldField : updateField
     // The rows grow with the text.
-    extraHeight: Math.max(0, trailingRow.y + trailingRow.height - statedHeight)
+    extraHeight: Math.max(0, trailingRow.y + trailingRow.height - rowsHeight)
     onSaved: sheet.savePW()
     onCancelled: sheet.cancel()
 
     Connections {
         target: scene.controller
         function onEndEditingRequested() {
-            const edited = scene.Window.activeFocusItem;
-            if (edited !== null) {
-                edited.focus = false;
-            }
+            form.endEditing();
         }
     }
 

@@ -12,6 +12,7 @@ PageScaffold {
     readonly property SettingsViewController settings: controller as SettingsViewController
     readonly property SheetKeyboard keyboard: SheetKeyboard {
         host: scene.settings
+        inside: scene
     }
 
     Keys.onUpPressed: moveKeyboard(false)

@@ -101,6 +101,15 @@ TEST_F(ThemeTest, TextsKeepTheirContrastInBothAppearances)
             EXPECT_GE(contrast(color(pair.text), color(pair.on)) + 0.05, dark ? pair.inDark : pair.inLight)
                 << pair.text << " on " << pair.on << (dark ? ", dark" : ", light");
         }
+        // What the pointer is over is neither the card nor the ground beside it.
+        for (const char* beside : {"card", "ground"}) {
+            const QColor hovered = color("hovered");
+            const QColor other = color(beside);
+            EXPECT_GE(std::abs(hovered.red() - other.red()) + std::abs(hovered.green() - other.green()) +
+                          std::abs(hovered.blue() - other.blue()),
+                      20)
+                << beside;
+        }
     }
 }
 

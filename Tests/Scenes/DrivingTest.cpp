@@ -7,6 +7,12 @@
 #include "Views/Common/CorvelReceiving.h"
 
 #include <QAccessible>
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QQmlPropertyMap>
+
+#include <cmath>
 
 namespace lodestar::scenes
 {
@@ -236,13 +242,112 @@ TEST_F(DrivingTest, ATapBesideTheFieldsEndsEditing)
     stage.show({390, 844}, fleet());
     DeltaCorvelViewController* const form = stage.openEditor();
     ASSERT_TRUE(waitForSheet());
-    int ended = 0;
-    QObject::connect(form, &ViewController::endEditingRequested, [&ended] { ++ended; });
+    type("Harbour");
     QQuickItem* const fields = stage.items("Form").front();
     fields->setProperty("contentY", fields->property("contentHeight").toDouble() - fields->height());
     const QPointF foot(fields->width() / 2, fields->height() - 8);
     QTest::mouseClick(&stage.window(), Qt::LeftButton, {}, fields->mapToScene(foot).toPoint());
-    EXPECT_EQ(ended, 1);
+    type("xyz");
+    EXPECT_EQ(form->nameField()->text(), "Harbour");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(stage.list().semiModal(), nullptr) << "the sheet still has the keyboard";
+}
+
+TEST_F(DrivingTest, ReturnGoesFromFieldToFieldAndSavesAndItsMessageIsSeenThoughTheKeyboardIsSlow)
+{
+    stage.show({390, 844}, fleet());
+    DeltaCorvelViewController* const form = stage.openEditor();
+    ASSERT_TRUE(waitForSheet());
+    // It stays in sight for a moment after it was told to go.
+    QQmlPropertyMap slow;
+    const auto cover = [&](double height) {
+        slow.insert(QStringLiteral("keyboardRectangle"), QRectF(0, 844 - height, 390, height));
+        slow.insert(QStringLiteral("visible"), height > 0);
+    };
+    cover(0);
+    auto* const keyboard = stage.items("CorvelListScene").front()->property("keyboard").value<QObject*>();
+    keyboard->setProperty("inputMethod", QVariant::fromValue<QObject*>(&slow));
+    cover(260);
+    const SemiModalPresentation* const sheet = stage.list().semiModal();
+    EXPECT_EQ(sheet->height(), 224 + 260);
+    for (const char* words : {"Harbour C", "https://harbour-c", "oversight"}) {
+        type(words);
+        press(Qt::Key_Return);
+        EXPECT_EQ(sheet->height(), 224 + 260);
+    }
+    EXPECT_EQ(form->usernameField()->text(), "oversight");
+    EXPECT_NE(text("Leave out \"https://\"."), nullptr);
+    press(Qt::Key_Return);
+    ASSERT_TRUE(stage.waitFor([&] { return text("Please enter all fields") != nullptr; }));
+    EXPECT_EQ(sheet->height(), 266);
+    cover(120);
+    EXPECT_EQ(sheet->height(), 266);
+    cover(0);
+    EXPECT_EQ(sheet->height(), 266);
+    EXPECT_TRUE(stage.waitFor([&] { return sheet->height() == 223; }));
+    keyboard->setProperty("inputMethod", QVariant::fromValue<QObject*>(QGuiApplication::inputMethod()));
+
+    // Two lines take their room above the form.
+    form->showStatusWithMessage("verifying...");
+    form->showStatusWithError(QStringLiteral("The console gave an answer that was not expected at all. ").repeated(2));
+    stage.settle(300);
+    const QQuickItem* const fields = stage.items("Form").front();
+    EXPECT_EQ(fields->property("contentY").toDouble(), 0);
+    EXPECT_LE(stage.items("StatusLine")
+                  .front()
+                  ->mapRectToItem(fields, stage.items("StatusLine").front()->boundingRect())
+                  .bottom(),
+              fields->height());
+}
+
+TEST_F(DrivingTest, AFieldsMenuPastesAndASecretIsShownOnDemandAloneAndNeverCopied)
+{
+    stage.show({390, 844}, fleet());
+    DeltaCorvelViewController* const form = stage.openEditor();
+    ASSERT_TRUE(waitForSheet());
+    const std::vector<QQuickItem*> fields = stage.items("QQuickTextField");
+    ASSERT_EQ(fields.size(), 4U);
+    QGuiApplication::clipboard()->setText(QStringLiteral("harbour-c.example"));
+    QTest::mouseClick(&stage.window(), Qt::RightButton, {}, centerOf(fields[1]));
+    ASSERT_TRUE(stage.waitFor([&] { return button("Paste") != nullptr; }));
+    EXPECT_EQ(button("Copy"), nullptr) << "nothing is selected";
+    stage.settle(100);
+    click(button("Paste"));
+    EXPECT_EQ(form->addressField()->text(), "harbour-c.example");
+
+    form->passwordField()->setText("twelve-chars");
+    fields[3]->forceActiveFocus();
+    QMetaObject::invokeMethod(fields[3], "selectAll");
+    QTest::mousePress(&stage.window(), Qt::LeftButton, {}, centerOf(fields[3]));
+    ASSERT_TRUE(stage.waitFor([&] { return button("Select All") != nullptr; }));
+    QTest::mouseRelease(&stage.window(), Qt::LeftButton, {}, centerOf(fields[3]));
+    EXPECT_EQ(button("Cut"), nullptr);
+    EXPECT_EQ(button("Copy"), nullptr);
+    press(Qt::Key_Escape);
+    ASSERT_TRUE(stage.waitFor([&] { return button("Select All") == nullptr; }));
+
+    QAccessible::setActive(true);
+    const auto shown = [&] { return fields[3]->property("displayText").toString() == QLatin1String("twelve-chars"); };
+    EXPECT_FALSE(shown());
+    click(button("Show password"));
+    stage.settle(50);
+    EXPECT_TRUE(shown());
+    EXPECT_FALSE(QAccessible::queryAccessibleInterface(fields[3])->text(QAccessible::Value).contains(u"twelve"));
+    fields[0]->forceActiveFocus();
+    EXPECT_TRUE(stage.waitFor([&] { return !shown(); }));
+}
+
+TEST_F(DrivingTest, AWideWindowsChoicesComeUpByThePress)
+{
+    stage.show({1280, 800}, fleet());
+    stage.openList("managedSystemsView", {.corvel = demoConsole()});
+    const QPoint at = centerOf(row(1));
+    click(row(1));
+    ASSERT_TRUE(stage.waitFor([&] { return button("System Information") != nullptr; }));
+    stage.settle(300);
+    const QRectF first = button("System Information")->mapRectToScene(button("System Information")->boundingRect());
+    EXPECT_LT(std::abs(first.top() - at.y()), 80);
+    EXPECT_TRUE(first.left() < at.x() && at.x() < first.right());
 }
 
 TEST_F(DrivingTest, ARowIsOneSentenceForScreenReaders)

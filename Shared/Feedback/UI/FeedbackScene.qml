@@ -202,14 +202,26 @@ PageScaffold {
                 Keys.onTabPressed: nextItemInFocusChain(true).forceActiveFocus(Qt.TabFocusReason)
                 Keys.onBacktabPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
                 Keys.onEscapePressed: scene.feedback.cancel()
+                Keys.onMenuPressed: editMenu.show(cursorRectangle.x, cursorRectangle.y)
+                onPressed: (event) => {
+                    if (event.button === Qt.RightButton) {
+                        editMenu.show(event.x, event.y);
+                    }
+                }
+                onPressAndHold: (event) => editMenu.show(event.x, event.y)
 
+                EditMenu {
+                    id: editMenu
+
+                    field: note
+                }
                 Label {
                     visible: note.text === "" && note.preeditText === ""
                     text: qsTr("What happened?")
                     color: Theme.ink3
-                    x: 16
+                    x: 16 + (Theme.mirrored ? 0 : Theme.caretRoom)
                     y: 12
-                    width: parent.width - 32
+                    width: parent.width - 32 - Theme.caretRoom
                     Accessible.ignored: true
                 }
             }

@@ -70,7 +70,8 @@ public:
         case QAccessible::Name:
             return field()->property("accessibleName").toString();
         case QAccessible::Value:
-            return field()->property("displayText").toString();
+            // Dots also while the field shows what it hides: that is for whoever sits before it.
+            return field()->property("passwordCharacter").toString().repeated(field()->property("length").toInt());
         default:
             return {};
         }

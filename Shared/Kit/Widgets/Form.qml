@@ -29,6 +29,12 @@ Flickable {
         }
         return row;
     }
+    /// Takes the keyboard from the field that has it.
+    function endEditing() {
+        if (edited !== null) {
+            form.Window.activeFocusItem.focus = false;
+        }
+    }
     function follow() {
         if (revealed === null) {
             return;
@@ -77,6 +83,10 @@ Flickable {
         width: form.width
         height: Math.max(form.height, form.contentHeight + form.bottomMargin)
         onClicked: form.tapped()
+    }
+    ScrollMark {
+        parent: form
+        flickable: form
     }
     Column {
         id: column

@@ -16,6 +16,8 @@ Item {
     property int inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
     property int rowHeight: 56
     property real labelWidth: 112
+    /// Below what was written, while there is something to say about it.
+    property string hint
     /// Where Return leads; without one it ends editing.
     property FormField next: null
     signal returnPressed()
@@ -69,10 +71,10 @@ Item {
 
         anchors.left: parent.left
         anchors.leftMargin: Theme.rowStart + (field.stacked ? 0 : field.labelWidth)
-        anchors.right: parent.right
-        anchors.rightMargin: Theme.rowEnd
+        anchors.right: eye.visible ? eye.left : parent.right
+        anchors.rightMargin: eye.visible ? 0 : Theme.rowEnd
         y: field.stacked ? name.y + name.height : 0
-        height: parent.height - y
+        height: parent.height - y - (hintLabel.visible ? hintLabel.height : 0)
         topPadding: Appearance.textDrop(font.pixelSize, height, Screen.devicePixelRatio)
         verticalAlignment: TextInput.AlignTop
         horizontalAlignment: TextInput.AlignLeft
@@ -83,7 +85,7 @@ Item {
         selectedTextColor: Theme.ink
         selectByMouse: true
         clip: contentWidth > width
-        echoMode: field.secure ? TextInput.Password : TextInput.Normal
+        echoMode: field.secure && !eye.revealed ? TextInput.Password : TextInput.Normal
         passwordCharacter: "\u2022"
         passwordMaskDelay: 0
         inputMethodHints: field.inputMethodHints | (field.secure ? Qt.ImhHiddenText | Qt.ImhSensitiveData : 0)
@@ -91,7 +93,7 @@ Item {
         Accessible.role: Accessible.EditableText
         Accessible.name: field.label
         Accessible.passwordEdit: field.secure
-        Privacy.covered: field.confidential
+        Privacy.covered: field.confidential || field.secure
         Component.onCompleted: {
             text = field.outlet.text;
             if (field.secure) {
@@ -99,24 +101,64 @@ Item {
             }
         }
         onTextChanged: field.outlet.text = text
+        EnterKey.type: field.next !== null ? Qt.EnterKeyNext : Qt.EnterKeyDone
         onAccepted: {
+            // Whoever is told takes the keyboard away first.
+            focus = false;
+            field.returnPressed();
             if (field.next !== null) {
                 field.next.edit(Qt.TabFocusReason);
-            } else {
-                focus = false;
             }
-            field.returnPressed();
         }
+        onPressed: (event) => {
+            if (event.button === Qt.RightButton) {
+                editMenu.show(event.x, event.y);
+            }
+        }
+        onPressAndHold: (event) => editMenu.show(event.x, event.y)
+        Keys.onMenuPressed: editMenu.show(cursorRectangle.x, cursorRectangle.y)
 
         Label {
             visible: input.text === "" && input.preeditText === ""
             text: field.placeholder
             color: Theme.ink3
             anchors.verticalCenter: parent.verticalCenter
-            width: parent.width
+            anchors.left: parent.left
+            anchors.leftMargin: Theme.caretRoom
+            anchors.right: parent.right
             elide: Text.ElideRight
             Accessible.ignored: true
         }
+    }
+    Label {
+        id: hintLabel
+
+        visible: text !== ""
+        text: field.hint
+        size: Theme.captionSize
+        color: Theme.systemOrange
+        anchors.left: input.left
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.rowEnd
+        y: parent.height - height - (field.stacked ? 0 : 6)
+        elide: Text.ElideRight
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: text
+    }
+    SecretSwitch {
+        id: eye
+
+        field: input
+        visible: field.secure && input.text !== ""
+        anchors.right: parent.right
+        anchors.rightMargin: Theme.rowEnd - 10
+        anchors.verticalCenter: input.verticalCenter
+    }
+    EditMenu {
+        id: editMenu
+
+        field: input
+        secret: field.secure
     }
     FocusRing {
         anchors.fill: parent

@@ -57,7 +57,19 @@ Item {
             Accessible.role: Accessible.EditableText
             Accessible.name: qsTr("Search")
             Keys.onEscapePressed: bar.cancelled()
+            Keys.onMenuPressed: editMenu.show(cursorRectangle.x, cursorRectangle.y)
+            onPressed: (event) => {
+                if (event.button === Qt.RightButton) {
+                    editMenu.show(event.x, event.y);
+                }
+            }
+            onPressAndHold: (event) => editMenu.show(event.x, event.y)
 
+            EditMenu {
+                id: editMenu
+
+                field: field
+            }
             Label {
                 id: placeholderLabel
 
@@ -66,7 +78,9 @@ Item {
                 scaleFactor: Theme.barScale
                 color: Theme.ink2
                 anchors.verticalCenter: parent.verticalCenter
-                width: parent.width
+                anchors.left: parent.left
+                anchors.leftMargin: Theme.caretRoom
+                anchors.right: parent.right
                 elide: Text.ElideRight
                 Accessible.ignored: true
             }

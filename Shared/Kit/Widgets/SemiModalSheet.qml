@@ -90,6 +90,12 @@ T.Popup {
         when: sheet.sheetContent !== null
     }
     Binding {
+        target: sheet.sheetContent
+        property: "statedHeight"
+        value: sheet.statedHeight - sheet.coveredHeight
+        when: sheet.sheetContent !== null
+    }
+    Binding {
         target: sheet.underlay
         property: "scale"
         value: 1 - 0.06 * sheet.slide
@@ -168,6 +174,7 @@ T.Popup {
             horizontalAlignment: Text.AlignHCenter
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: 8
+            elide: Text.ElideMiddle
             x: side
             width: parent.width - 2 * side
             y: (sheet.barHeight - height) / 2

@@ -19,6 +19,8 @@ FocusScope {
     property FormField firstField: null
     /// What the scene needs above the heights that its controller states, which are those of text at 100 %.
     property real extraHeight: 0
+    /// What the controller states, without what a keyboard covers; set by the sheet.
+    property real statedHeight: 0
     /// How much of the scene is to be seen once the sheet has come to rest, without what a keyboard covers; set by the
     /// sheet.
     property real restingHeight: 0

@@ -11,7 +11,10 @@ Item {
 
     readonly property bool failed: Qt.colorEqual(outlet.color, Theme.errorRed)
 
-    implicitHeight: Math.max(42, word.implicitHeight + 18)
+    /// Of one line.
+    readonly property int leastHeight: 42
+
+    implicitHeight: Math.max(leastHeight, word.implicitHeight + 18)
     visible: !outlet.hidden
     Accessible.role: Accessible.AlertMessage
     Accessible.name: outlet.text

@@ -17,7 +17,7 @@ QtObject {
     readonly property color card: dark ? "#0F1317" : "#FFFFFF"
     readonly property color raised: dark ? "#191F26" : "#FFFFFF"
     readonly property color pressed: dark ? "#1C232B" : "#E6EBF0"
-    readonly property color hovered: dark ? "#161B21" : "#F2F5F8"
+    readonly property color hovered: dark ? "#161B21" : "#E2EEF8"
     readonly property color well: dark ? "#1B2128" : "#E4E8ED"
     readonly property color hairline: dark ? "#262D36" : "#D9DEE5"
     readonly property color scrim: dark ? "#9E000000" : "#6B101821"
@@ -126,6 +126,8 @@ QtObject {
     readonly property int cardRadius: 12
     readonly property int sheetRadius: 16
     readonly property int target: 44
+    /// Before a placeholder, for the text cursor.
+    readonly property int caretRoom: 3
     /// Inside a card, from its edge to a row's text; root titles and section headers share the edge.
     readonly property int rowStart: 20
     readonly property int rowEnd: 15

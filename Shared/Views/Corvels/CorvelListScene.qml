@@ -13,6 +13,7 @@ PageScaffold {
     readonly property bool sheetUp: corvels.semiModal !== null
     readonly property SheetKeyboard keyboard: SheetKeyboard {
         host: scene.corvels
+        inside: scene
     }
 
     bar: RootBar {

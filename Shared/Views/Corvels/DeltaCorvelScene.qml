@@ -15,15 +15,27 @@ SheetContent {
     title: editor.navigationBar.text
     saveEnabled: !editor.busy
     firstField: nameField
-    // The fields grow with the text.
+    // The fields grow with the text, and the line with what it says while there is room for it.
     extraHeight: Math.max(0, status.y - 4 * nameField.rowHeight)
+                 + (statedHeight > 4 * nameField.rowHeight ? Math.max(0, status.height - status.leastHeight) : 0)
     onSaved: editor.saveCorvel()
     onCancelled: editor.cancel()
+
+    /// What is probably wrong with an address. It is taken as it stands all the same.
+    function addressHint(address: string): string {
+        if (address.includes("://")) {
+            return qsTr("Leave out \"%1\".").arg(address.substring(0, address.indexOf("://") + 3));
+        }
+        if (address.includes("/")) {
+            return qsTr("Leave out \"/\" and what follows it.");
+        }
+        return /\s/.test(address) ? qsTr("The address contains a blank.") : "";
+    }
 
     Connections {
         target: scene.controller
         function onEndEditingRequested() {
-            scene.forceActiveFocus(Qt.OtherFocusReason);
+            form.endEditing();
         }
     }
 
@@ -41,26 +53,37 @@ SheetContent {
             label: qsTr("Name")
             outlet: scene.editor.nameField
             ruled: false
+            next: addressField
         }
         EditorField {
+            id: addressField
+
             editor: scene.editor
             label: qsTr("Address")
             placeholder: qsTr("Host name or address")
+            hint: scene.addressHint(outlet.text)
+            next: usernameField
             outlet: scene.editor.addressField
             confidential: true
             inputMethodHints: Qt.ImhUrlCharactersOnly | Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
         }
         EditorField {
+            id: usernameField
+
             editor: scene.editor
             label: qsTr("User ID")
+            next: passwordField
             outlet: scene.editor.usernameField
             confidential: true
         }
         EditorField {
+            id: passwordField
+
             editor: scene.editor
             label: qsTr("Password")
             outlet: scene.editor.passwordField
             secure: true
+            onReturnPressed: scene.editor.saveCorvel()
         }
         StatusLine {
             id: status
