@@ -81,7 +81,7 @@ private:
         if (!load || load.value().response.statusCode != 200) {
             logFailure(causeOf(load));
             if (load) {
-                m_promise.rejectWithReason();
+                m_promise.rejectWithReason(logonRefusal(load.value().response.statusCode));
             } else {
                 m_promise.rejectWithReason(load.error());
             }

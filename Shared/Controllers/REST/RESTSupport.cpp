@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Controllers/REST/RESTSupport.h"
 
+#include "Platform/URLLoading/ErrorWords.h"
 #include "Platform/UserDefaults.h"
 
 #include <fmt/core.h>
@@ -74,6 +75,13 @@ Result<SessionKey> sessionKeyOfAnswer(std::string_view body)
 std::string causeOf(const Result<URLLoad>& load)
 {
     return load ? fmt::format("status {}", load.value().response.statusCode) : description(load.error());
+}
+
+Error logonRefusal(int statusCode)
+{
+    Error error = promise::errorWithReason("");
+    error.localizedDescription = wordsForLogonStatus(statusCode);
+    return error;
 }
 
 bool isUTF8(std::string_view bytes)

@@ -28,6 +28,10 @@ Result<SessionKey> sessionKeyOfAnswer(std::string_view body);
 /// What the log says of an answer that is not good: the transport's error, or the status.
 std::string causeOf(const Result<URLLoad>& load);
 
+/// The error of a logon whose answer's status is not 200: the promise type's own, without a reason, so that no caller
+/// can tell one status from another. Its description says to a person what the status means.
+Error logonRefusal(int statusCode);
+
 /// Whether the bytes are well-formed UTF-8 (no overlong forms, no surrogates).
 bool isUTF8(std::string_view bytes);
 

@@ -7,6 +7,7 @@
 #include "Feedback/UI/ReportListViewController.h"
 #include "Feedback/UI/ReportViewController.h"
 #include "Feedback/VireoLogger.h"
+#include "Kit/Core/ErrorText.h"
 #include "Kit/Core/NavigationController.h"
 #include "Platform/Queues/DispatchQueue.h"
 #include "Platform/Queues/MainQueue.h"
@@ -151,8 +152,7 @@ void FeedbackViewController::send(const ReportBundle& bundle)
             screen->setBusy(false);
             screen->finish(sent ? tr("Report Sent") : tr("The report could not be sent"),
                            sent ? tr("Thank you. A copy is in the list of reports.")
-                                : tr("%1\nIt is kept in the list of reports.")
-                                      .arg(QString::fromStdString(shownDescription(sent.error()))));
+                                : tr("%1\nIt is kept in the list of reports.").arg(errorText(sent.error())));
         });
     });
 }
@@ -165,7 +165,7 @@ void FeedbackViewController::finish(const QString& title, const QString& message
 /// The screen stays, with everything in it.
 void FeedbackViewController::tell(const QString& title, const Error& error)
 {
-    m_alert->present(title, QString::fromStdString(shownDescription(error)), {{tr("OK")}}, 0, {});
+    m_alert->present(title, errorText(error), {{tr("OK")}}, 0, {});
 }
 
 void FeedbackViewController::showReports()

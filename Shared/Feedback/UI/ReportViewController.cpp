@@ -2,6 +2,7 @@
 #include "Feedback/UI/ReportViewController.h"
 
 #include "Feedback/UI/ReportListViewController.h"
+#include "Kit/Core/ErrorText.h"
 #include "Kit/Core/NavigationController.h"
 
 #include <utility>
@@ -59,8 +60,7 @@ void ReportViewController::exportReport()
     if (path) {
         m_alert->present(tr("Report Exported"), QString::fromStdString(path.value()), {{tr("OK")}}, 0, {});
     } else {
-        m_alert->present(tr("The report could not be exported"), QString::fromStdString(shownDescription(path.error())),
-                         {{tr("OK")}}, 0, {});
+        m_alert->present(tr("The report could not be exported"), errorText(path.error()), {{tr("OK")}}, 0, {});
     }
 }
 
@@ -74,8 +74,7 @@ void ReportViewController::deleteReport()
         if (removed) {
             goBack();
         } else {
-            m_alert->present(tr("The report could not be deleted"),
-                             QString::fromStdString(shownDescription(removed.error())), {{tr("OK")}}, 0, {});
+            m_alert->present(tr("The report could not be deleted"), errorText(removed.error()), {{tr("OK")}}, 0, {});
         }
     });
 }

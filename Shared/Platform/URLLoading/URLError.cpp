@@ -1,50 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/URLLoading/URLError.h"
 
+#include "Platform/URLLoading/ErrorWords.h"
+
 #include <curl/curl.h>
 
 namespace lodestar
 {
 
-namespace
-{
-
-const char* sentence(URLErrorCode code)
-{
-    switch (code) {
-    case URLErrorCode::Cancelled:
-        return "The request was cancelled.";
-    case URLErrorCode::BadURL:
-        return "The address is not valid.";
-    case URLErrorCode::TimedOut:
-        return "The request timed out.";
-    case URLErrorCode::CannotFindHost:
-        return "The server could not be found.";
-    case URLErrorCode::CannotConnectToHost:
-        return "Could not connect to the server.";
-    case URLErrorCode::NetworkConnectionLost:
-        return "The connection to the server was lost.";
-    case URLErrorCode::TooManyRedirects:
-        return "The server redirected too often.";
-    case URLErrorCode::BadServerResponse:
-        return "The server gave an answer that could not be understood.";
-    case URLErrorCode::DataLengthExceedsMaximum:
-        return "The server's answer was too large.";
-    case URLErrorCode::SecureConnectionFailed:
-        return "A secure connection to the server could not be made.";
-    case URLErrorCode::ServerCertificateUntrusted:
-        return "The server's certificate is not trusted.";
-    case URLErrorCode::Unknown:
-        break;
-    }
-    return "The request failed.";
-}
-
-} // namespace
-
 Error urlError(URLErrorCode code, std::string reason)
 {
-    return {std::string(urlErrorDomain), static_cast<int>(code), sentence(code), std::move(reason), nullptr};
+    return {std::string(urlErrorDomain), static_cast<int>(code), wordsFor(code), std::move(reason), nullptr};
 }
 
 URLErrorCode urlErrorCodeOfTransfer(int curlCode)

@@ -3,6 +3,7 @@
 
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
+#include "Kit/Core/ErrorText.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/NotificationCenter.h"
 #include "Platform/Queues/MainQueue.h"
@@ -152,7 +153,7 @@ void DeltaCorvelViewController::didFail(const Error& error)
 {
     LODESTAR_LOG(fileName, "-[DeltaCorvelViewController saveCorvel:]", "Error: {} - > {}", description(error),
                  "saveCorvel:");
-    showStatusWithError(QString::fromStdString(shownDescription(error)));
+    showStatusWithError(errorText(error));
 }
 
 void DeltaCorvelViewController::cancel()

@@ -1,0 +1,14 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <QString>
+
+namespace lodestar
+{
+
+struct Error;
+
+/// What a person is told of the error, in the language of the interface.
+QString errorText(const Error& error);
+
+} // namespace lodestar

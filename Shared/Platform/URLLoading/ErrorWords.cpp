@@ -1,0 +1,60 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/URLLoading/ErrorWords.h"
+
+#include <algorithm>
+#include <array>
+
+/// Marks a sentence for the translators' tool, which goes by this name.
+#define QT_TRANSLATE_NOOP(context, text) text
+
+namespace lodestar
+{
+
+namespace
+{
+
+struct Words {
+    URLErrorCode code;
+    const char* sentence;
+};
+
+constexpr std::array<Words, 11> words = {{
+    {URLErrorCode::Cancelled, QT_TRANSLATE_NOOP("ErrorWords", "The request was cancelled.")},
+    {URLErrorCode::BadURL, QT_TRANSLATE_NOOP("ErrorWords", "The address is not valid.")},
+    {URLErrorCode::TimedOut, QT_TRANSLATE_NOOP("ErrorWords", "No answer came in time. Check the network.")},
+    {URLErrorCode::CannotFindHost, QT_TRANSLATE_NOOP("ErrorWords", "The name has no address. Check the spelling.")},
+    {URLErrorCode::CannotConnectToHost,
+     QT_TRANSLATE_NOOP("ErrorWords", "The address refuses the connection. Check the address.")},
+    {URLErrorCode::NetworkConnectionLost, QT_TRANSLATE_NOOP("ErrorWords", "The connection broke off. Try again.")},
+    {URLErrorCode::TooManyRedirects,
+     QT_TRANSLATE_NOOP("ErrorWords", "The address leads on to others without end. Check the address.")},
+    {URLErrorCode::BadServerResponse,
+     QT_TRANSLATE_NOOP("ErrorWords", "The answer cannot be understood. Check the address.")},
+    {URLErrorCode::DataLengthExceedsMaximum,
+     QT_TRANSLATE_NOOP("ErrorWords", "The answer is larger than Lodestar takes.")},
+    {URLErrorCode::SecureConnectionFailed,
+     QT_TRANSLATE_NOOP("ErrorWords", "No secure connection can be made. The other side may be too old.")},
+    {URLErrorCode::ServerCertificateUntrusted,
+     QT_TRANSLATE_NOOP("ErrorWords", "The certificate is not trusted. Nothing was sent.")},
+}};
+
+} // namespace
+
+std::string wordsFor(URLErrorCode code)
+{
+    const auto* const found = std::ranges::find(words, code, &Words::code);
+    return found != words.end() ? found->sentence : QT_TRANSLATE_NOOP("ErrorWords", "The request failed.");
+}
+
+std::string wordsForLogonStatus(int statusCode)
+{
+    if (statusCode == 401 || statusCode == 403) {
+        return QT_TRANSLATE_NOOP("ErrorWords", "The console did not accept the user or the password.");
+    }
+    if (statusCode >= 500) {
+        return QT_TRANSLATE_NOOP("ErrorWords", "The console answered with an error of its own. Try again.");
+    }
+    return QT_TRANSLATE_NOOP("ErrorWords", "The answer was not expected. Check the address.");
+}
+
+} // namespace lodestar
