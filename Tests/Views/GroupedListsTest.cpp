@@ -9,7 +9,10 @@
 #include "Views/VIOS/VIOSDetailViewController.h"
 #include "Views/VIOS/VIOSViewController.h"
 
+#include <algorithm>
 #include <atomic>
+#include <chrono>
+#include <utility>
 
 namespace lodestar::testing
 {
@@ -258,10 +261,36 @@ TEST_F(GroupingTest, EveryPartitionAsksForItsSystemInTheThreadThatGroups)
     ASSERT_TRUE(runUntil([&] { return list->numberOfSections(Main) == 3; }));
     EXPECT_EQ(onMain, 4);
 
-    // What two fetches at once bring stands behind each other.
+    // Of two fetches at once the last is shown. The main thread lives between two look-ups.
+    fleet.setLatency(60);
+    fleet.clearRequests();
+    auto before = std::chrono::steady_clock::now();
+    std::chrono::steady_clock::duration longest{};
     list->fetchNewRESTData();
-    list->fetchNewRESTData();
-    EXPECT_TRUE(runUntil([&] { return list->numberOfRowsInSection(Main, 0) == 4; }));
+    const auto last = list->fetchNewRESTData();
+    ASSERT_TRUE(runUntil([&] {
+        const auto now = std::chrono::steady_clock::now();
+        longest = std::max(longest, now - std::exchange(before, now));
+        return last.isFulfilled();
+    }));
+    EXPECT_THAT(names(*list), ElementsAre(QStringList({"LPAR01", "MyLpar2"}), QStringList("web"), QStringList("mail")));
+    EXPECT_LT(longest, std::chrono::milliseconds(2 * 60));
+
+    // Who closes the list ends its look-ups, on either thread.
+    for (const bool fetched : {true, false}) {
+        corvel->completedFetch = fetched;
+        const auto closed = open<LPListViewController>(corvel);
+        fleet.clearRequests();
+        const auto lookUps = [&] {
+            const auto requests = fleet.requests(0);
+            return std::ranges::count_if(requests, [](const auto& each) { return each.path.ends_with("SystemName"); });
+        };
+        ASSERT_TRUE(runUntil([&] { return lookUps() > 0; }));
+        goBack();
+        runUntil([] { return false; }, std::chrono::milliseconds(300));
+        EXPECT_LE(lookUps(), 2);
+        EXPECT_TRUE(closed->tableView()->isHidden() || closed->partitions().groupCount() < 3);
+    }
 }
 
 TEST_F(GroupingTest, AListLooksAllItsSystemsUpOverOneConnection)
@@ -376,18 +405,19 @@ TEST_F(GroupingTest, ARefusedFetchShowsBothTextsAndIsLogged)
     EXPECT_FALSE(servers->ohCrabLabel()->isHidden());
     EXPECT_EQ(lines(serversFile).back().line, 158);
     EXPECT_THAT(lines(serversFile).back().message, AllOf(StartsWith("Error: "), HasSubstr(" - > fetchNewRESTData")));
-    const auto partitions = open<LPListViewController>(corvel);
-    ASSERT_TRUE(hasNoContent(*partitions));
-    EXPECT_EQ(partitions->noDataHeadline()->text(), "");
-    EXPECT_EQ(lines(partitionsFile).back().line, 159);
-    EXPECT_THAT(messages(partitionsFile), Contains("LPListViewController instantiation"));
-
     fleet.clearFaults();
     servers->rightBarButton()->tap();
     ASSERT_TRUE(runUntil([&] { return servers->ohCrabLabel()->isHidden(); }));
     ASSERT_TRUE(hasContent(*servers));
     EXPECT_TRUE(servers->ohCrabLabel()->isHidden());
     EXPECT_GT(servers->tableView()->count(), 0);
+
+    fleet.setFault("refuseFeed:All:0");
+    const auto partitions = open<LPListViewController>(corvel);
+    ASSERT_TRUE(hasNoContent(*partitions));
+    EXPECT_EQ(partitions->noDataHeadline()->text(), "");
+    EXPECT_EQ(lines(partitionsFile).back().line, 159);
+    EXPECT_THAT(messages(partitionsFile), Contains("LPListViewController instantiation"));
 }
 
 } // namespace

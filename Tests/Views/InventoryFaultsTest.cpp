@@ -84,10 +84,16 @@ TEST_F(InventoryFaultsTest, EveryListEndsInTheLookThatItsAnswerDeserves)
         EXPECT_EQ(drawAll(*list), 0);
         fleet.clearFaults();
 
+        // An impatient person's taps: every answer is stored, the last one is shown, and no row stands twice.
+        list->refreshControl()->pull();
         list->refreshFromButton();
+        const auto overtaken = list->fetchNewRESTData();
+        const auto last = list->fetchNewRESTData();
+        ASSERT_TRUE(runUntil([&] { return overtaken.isFulfilled() && last.isFulfilled(); }));
         ASSERT_TRUE(runUntil([&] { return list->tableView()->rows() > 0; }));
         const int rows = list->tableView()->rows();
         EXPECT_EQ(static_cast<std::size_t>(rows), feedOfType(*corvel, kind.type).entryCount());
+        EXPECT_EQ(drawAll(*list), rows);
 
         // What cannot be looked up takes no row that is there.
         fleet.setFault("cutBody:Quick");

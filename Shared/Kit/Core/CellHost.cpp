@@ -6,6 +6,8 @@
 #include <QQmlEngine>
 #include <QQmlProperty>
 
+#include <utility>
+
 namespace lodestar
 {
 
@@ -59,7 +61,28 @@ void CellHost::configure()
         drop();
         return;
     }
-    const QVariant cell = m_table->configureCell(m_index);
+    if (!m_table->makesCellsInSteps()) {
+        show(m_table->configureCell(m_index));
+        return;
+    }
+    CellInSteps making = m_table->configureCellInSteps(m_index);
+    show(making.cell);
+    if (making.step) {
+        m_table->cellSteps().complete(*this, m_index, std::move(making.step),
+                                      [this](const QVariant& cell) { show(cell); });
+    }
+}
+
+void CellHost::itemChange(ItemChange change, const ItemChangeData& value)
+{
+    QQuickItem::itemChange(change, value);
+    if (change == ItemVisibleHasChanged && value.boolValue && m_table) {
+        m_table->cellSteps().wake();
+    }
+}
+
+void CellHost::show(const QVariant& cell)
+{
     if (m_item) {
         QQmlProperty::write(m_item, cellProperty, cell);
     } else if (m_delegate) {

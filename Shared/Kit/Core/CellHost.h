@@ -11,7 +11,8 @@ namespace lodestar
 {
 
 /// One drawn row's content: an item of the table's delegate, whose property `cell` is asked for once when the row comes
-/// into view (`configure`) and once when the table is reloaded, not once a role or a binding.
+/// into view (`configure`) and once when the table is reloaded, not once a role or a binding. Where the table makes its
+/// cells in steps, the item is there at once and its cell is completed later.
 class CellHost : public QQuickItem
 {
     Q_OBJECT
@@ -42,9 +43,11 @@ Q_SIGNALS:
 
 protected:
     void componentComplete() override;
+    void itemChange(ItemChange change, const ItemChangeData& value) override;
     void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
 
 private:
+    void show(const QVariant& cell);
     void make(const QVariant& cell);
     void drop();
     void fill();

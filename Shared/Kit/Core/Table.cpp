@@ -164,6 +164,12 @@ QVariant TableOutlet::configureCell(int index) const
     return path && path->row >= 0 ? m_source.cellForRowAtIndexPath(m_kind, *path) : QVariant();
 }
 
+CellInSteps TableOutlet::configureCellInSteps(int index) const
+{
+    const std::optional<IndexPath> path = pathAt(index);
+    return path && path->row >= 0 ? m_source.cellInStepsForRowAtIndexPath(m_kind, *path) : CellInSteps();
+}
+
 int TableOutlet::rowCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : m_count;

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Kit/Core/CellSteps.h"
+
 #include <QAbstractListModel>
 #include <QColor>
 #include <QString>
@@ -23,6 +25,12 @@ struct IndexPath {
 /// Which table asks: a screen's own, or the one that lists its search results.
 enum class TableKind { Main, SearchResults };
 
+/// A cell that costs more than one blocking call: what is known of it at once, and the steps that complete it.
+struct CellInSteps {
+    QVariant cell;
+    CellSteps::Step step;
+};
+
 /// What a table shows. A cell is a value (a Q_GADGET in a QVariant), made once each time a row is configured.
 class TableDataSource
 {
@@ -34,6 +42,8 @@ public:
     virtual std::optional<QString> titleForHeaderInSection(TableKind, int /*section*/) const { return {}; }
     /// May block; asked once for each configuration of a row.
     virtual QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) = 0;
+    /// Likewise for the rows of a table that makes its cells in steps.
+    virtual CellInSteps cellInStepsForRowAtIndexPath(TableKind, IndexPath) { return {}; }
     virtual void didSelectRowAtIndexPath(TableKind, IndexPath) {}
 };
 
@@ -52,6 +62,7 @@ class TableOutlet : public QAbstractListModel
     Q_PROPERTY(double rowHeight READ rowHeight NOTIFY rowHeightChanged)
     Q_PROPERTY(int count READ count NOTIFY countChanged)
     Q_PROPERTY(int rows READ rows NOTIFY countChanged)
+    Q_PROPERTY(bool makesCellsInSteps READ makesCellsInSteps CONSTANT)
     Q_PROPERTY(bool removalAnimated READ isRemovalAnimated NOTIFY removalAnimatedChanged)
 
 public:
@@ -81,6 +92,11 @@ public:
     /// How the rows that went last are to go.
     bool isRemovalAnimated() const { return m_removalAnimated; }
 
+    /// Drawn rows show at once what is known of them and are completed one after the other, with input and frames in
+    /// between. For a source whose cells ask the network; to be set before the table is drawn.
+    void setMakesCellsInSteps(bool inSteps) { m_makesCellsInSteps = inSteps; }
+    bool makesCellsInSteps() const { return m_makesCellsInSteps; }
+
     /// Asks the source for its shape anew, at once, and for its cells when they are next drawn: several reloads in a
     /// row configure the visible rows once. Rows whose place stays keep their delegates, so that an open swipe stays
     /// open. Costs by sections, not by rows. From any thread.
@@ -92,6 +108,8 @@ public:
     /// and once when it is told that its cell changed; the role `Cell` answers from what was made since the last
     /// reload.
     QVariant configureCell(int index) const;
+    CellInSteps configureCellInSteps(int index) const;
+    CellSteps& cellSteps() { return m_cellSteps; }
 
     int rowCount(const QModelIndex& parent = {}) const override;
     QVariant data(const QModelIndex& index, int role) const override;
@@ -140,6 +158,8 @@ private:
     bool m_announcePending = false;
     bool m_removalAnimated = false;
     bool m_hidden = false;
+    bool m_makesCellsInSteps = false;
+    CellSteps m_cellSteps;
     double m_separatorLeft = 0;
     double m_separatorRight = 0;
     double m_rowHeight = 44;

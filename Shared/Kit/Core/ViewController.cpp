@@ -62,7 +62,7 @@ void ViewController::endAppearance()
 
 bool ViewController::canGoBack() const
 {
-    return m_navigationController != nullptr && m_navigationController->rootViewController() != this;
+    return m_navigationController != nullptr && navigationController()->rootViewController() != this;
 }
 
 QString ViewController::backButtonTitle() const
@@ -70,7 +70,7 @@ QString ViewController::backButtonTitle() const
     if (!canGoBack()) {
         return {};
     }
-    const auto& stack = m_navigationController->viewControllers();
+    const auto& stack = navigationController()->viewControllers();
     const auto self = std::find_if(stack.begin(), stack.end(), [this](const auto& each) { return each.get() == this; });
     if (self == stack.begin() || self == stack.end()) {
         return {};
@@ -81,8 +81,8 @@ QString ViewController::backButtonTitle() const
 
 void ViewController::goBack()
 {
-    if (canGoBack() && m_navigationController->topViewController() == this) {
-        m_navigationController->pop();
+    if (canGoBack() && navigationController()->topViewController() == this) {
+        navigationController()->pop();
     }
 }
 
@@ -91,7 +91,7 @@ TabBarController* ViewController::tabBarController() const
     if (m_tabBarController != nullptr || m_navigationController == nullptr) {
         return m_tabBarController;
     }
-    return m_navigationController->tabBarController();
+    return navigationController()->tabBarController();
 }
 
 void ViewController::presentSemiViewController(std::shared_ptr<ViewController> controller, SemiModalOptions options)

@@ -8,6 +8,7 @@
 #include <QUrl>
 #include <QtQml/qqmlregistration.h>
 
+#include <atomic>
 #include <memory>
 
 namespace lodestar
@@ -54,6 +55,7 @@ public:
     /// Loaded, and on screen as far as its containers know.
     bool isInWindow() const { return m_appeared; }
 
+    /// Null for a screen that is in no stack. Other threads may only look whether there is one.
     NavigationController* navigationController() const { return m_navigationController; }
     /// Whether a screen lies below this one, and the text of the button that leads back to it, empty for none.
     Q_INVOKABLE bool canGoBack() const;
@@ -106,7 +108,7 @@ private:
     QUrl m_scene;
     bool m_viewLoaded = false;
     bool m_appeared = false;
-    NavigationController* m_navigationController = nullptr;
+    std::atomic<NavigationController*> m_navigationController = nullptr;
     TabBarController* m_tabBarController = nullptr;
     std::unique_ptr<SemiModalPresentation> m_semiModal;
     std::shared_ptr<PagedIntro> m_intro;

@@ -143,7 +143,8 @@ AccessibleScope {
         highlightFollowsCurrentItem: true
         highlightMoveDuration: Theme.settle
         highlightResizeDuration: 0
-        cacheBuffer: 120
+        // Where a cell costs requests, a row that is not seen is none.
+        cacheBuffer: view.table.makesCellsInSteps ? 0 : 120
         topMargin: (header === null ? view.topSpace : 0) + search.space
         bottomMargin: Theme.groupGap
         currentIndex: -1

@@ -56,7 +56,8 @@ void FeedListViewController::viewDidLoad()
     setHeaderTitle(translated(m_traits.title), tr("updating..."));
     setBackTitle(QStringLiteral(""));
     emptyLists();
-    DispatchQueue::globalBackground().async([screen = self<FeedListViewController>()] { screen->fetchFeed(); });
+    DispatchQueue::globalBackground().async(
+        [screen = self<FeedListViewController>(), turn = turn()] { screen->fetchFeed(turn); });
 }
 
 Feed FeedListViewController::feed() const
@@ -64,7 +65,7 @@ Feed FeedListViewController::feed() const
     return corvel() ? feedOfType(*corvel(), m_traits.type) : Feed::notAvailable();
 }
 
-void FeedListViewController::fetchFeed()
+void FeedListViewController::fetchFeed(Turn turn)
 {
     if (corvel() && !corvel()->completedFetch) {
         fetchNewRESTData();
@@ -75,7 +76,7 @@ void FeedListViewController::fetchFeed()
         UINoContent();
         return;
     }
-    showFeed(stored.root());
+    showFeed(stored.root(), turn);
 }
 
 RXPromise<std::string> FeedListViewController::fetchNewRESTData()
@@ -88,18 +89,33 @@ RXPromise<std::string> FeedListViewController::fetchAfresh(const FeedFetch& fetc
     onMainThread<FeedListViewController>([](FeedListViewController& screen) { screen.emptyLists(); });
     // The screen is kept until the feed is stored, also when it is closed meanwhile.
     const auto screen = self<FeedListViewController>();
+    const Turn turn = ++m_turn;
     return fetchFeedWithStoredKey(corvel(), type(), m_traits.schema)
-        .thenOnMain(
-            [screen](const XMLElement& feedRoot) {
-                setFeedOfType(*screen->corvel(), screen->type(), Feed(feedRoot));
-                screen->showFeed(feedRoot);
-                return std::string("OK");
-            },
-            [screen, fetch](const Error& error) {
-                screen->m_log.writeError(fetch.line, fetch.selector, error);
-                screen->UINoContent();
-                return error;
-            });
+        .thenOnMain([screen, turn](const XMLElement& feedRoot) { return screen->adopt(feedRoot, turn); },
+                    [screen, turn, fetch](const Error& error) {
+                        screen->m_log.writeError(fetch.line, fetch.selector, error);
+                        if (screen->isLast(turn)) {
+                            screen->UINoContent();
+                        }
+                        return error;
+                    });
+}
+
+RXPromise<std::string> FeedListViewController::adopt(const XMLElement& feedRoot, Turn turn)
+{
+    // An older answer that comes late does not replace a newer one.
+    if (turn > m_storedTurn) {
+        m_storedTurn = turn;
+        setFeedOfType(*corvel(), type(), Feed(feedRoot));
+    }
+    return isLast(turn) ? showFeed(feedRoot, turn) : done();
+}
+
+RXPromise<std::string> FeedListViewController::done()
+{
+    RXPromise<std::string> promise;
+    promise.fulfillWithValue("OK");
+    return promise;
 }
 
 void FeedListViewController::parseTimeStampFromXML(const XMLElement& feedRoot)
@@ -140,6 +156,15 @@ void FeedListViewController::UILoadingData()
 void FeedListViewController::UIShowContent()
 {
     MainQueue::shared().async([screen = self<FeedListViewController>()] { screen->showContentNow(); });
+}
+
+void FeedListViewController::showContentOf(Turn turn)
+{
+    MainQueue::shared().async([screen = self<FeedListViewController>(), turn] {
+        if (screen->isLast(turn)) {
+            screen->showContentNow();
+        }
+    });
 }
 
 void FeedListViewController::UINoContent()

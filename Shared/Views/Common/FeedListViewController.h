@@ -12,6 +12,7 @@
 #include "Views/Common/ScreenLog.h"
 #include "Views/Common/TitleHeader.h"
 
+#include <atomic>
 #include <string>
 #include <string_view>
 
@@ -23,7 +24,7 @@ namespace lodestar
 /// own otherwise; a fetch of its own is stored in the record, so that other screens see it.
 ///
 /// A screen of this kind gives its traits and overrides
-///  - `showFeed`: makes the rows of a feed and ends in `UIShowContent`;
+///  - `showFeed`: makes the rows of a feed and ends in the content's look;
 ///  - `emptyLists`: before each fresh fetch;
 ///  - `filterContentForSearchText`, and what a TableDataSource answers.
 /// Its scene is a FeedListScene with the delegate of a row.
@@ -31,6 +32,9 @@ namespace lodestar
 /// Threads. `showFeed` runs on a background queue for a stored feed and on the main thread after a fetch, and may block
 /// there. What it makes it hands to the main thread as one finished value (`onMainThread`); lists that rows are read
 /// from are touched on the main thread only. Calls are marked "any thread" where they may come from `showFeed`.
+///
+/// Turns. Each fetch is a turn, and what is shown is the last turn's: a fetch that was overtaken by another stores its
+/// feed and shows nothing, so that impatience makes no row twice. The first load has the turn of the list's opening.
 class FeedListViewController : public lodestar::ViewController, public TableDataSource, public CorvelReceiving
 {
     Q_OBJECT
@@ -69,8 +73,8 @@ public:
     /// Any thread; after `setCustomNavigationBar`, or the process ends.
     void setHeaderTitle(const QString& title, const QString& subtitle) { m_header.setHeaderTitle(title, subtitle); }
 
-    /// Logs on with the stored key, fetches the feed, stores and shows it. Fulfilled with "OK" once it is shown,
-    /// rejected once the failure is. Any thread.
+    /// Logs on with the stored key, fetches the feed, stores and shows it. Fulfilled with "OK" once it is shown or was
+    /// overtaken, rejected once the failure is. Any thread.
     RXPromise<std::string> fetchNewRESTData();
     /// The header becomes the screen's title and the feed's time stamp. Any thread.
     void parseTimeStampFromXML(const XMLElement& feedRoot);
@@ -90,13 +94,26 @@ public:
     void showSearchBar();
 
 protected:
+    using Turn = int;
+
     void viewDidLoad() override;
     /// The first load, on a background queue: the stored feed, or a fetch if the console has not been fetched.
-    virtual void fetchFeed();
-    /// Shows a feed that is there: its rows, its time stamp, `UIShowContent`, in the screen's own order.
-    virtual void showFeed(const XMLElement& feedRoot) = 0;
+    void fetchFeed(Turn turn);
+    /// Shows a feed that is there: its rows, its time stamp, the content's look, in the screen's own order. Fulfilled
+    /// with "OK" when it is done.
+    virtual RXPromise<std::string> showFeed(const XMLElement& feedRoot, Turn turn) = 0;
     /// Main thread.
     virtual void emptyLists() = 0;
+
+    /// The last fetch's. Any thread.
+    Turn turn() const { return m_turn; }
+    /// Whether what belongs to the turn is still wanted. Any thread.
+    bool isLast(Turn turn) const { return m_turn == turn; }
+    /// Whether the screen was closed: nobody sees what it would still find out. Any thread.
+    bool isClosed() const { return navigationController() == nullptr; }
+    /// `UIShowContent`, unless the turn is over by then. Any thread.
+    void showContentOf(Turn turn);
+    static RXPromise<std::string> done();
 
     /// `fetchNewRESTData` under another name in the log. Any thread.
     RXPromise<std::string> fetchAfresh(const FeedFetch& fetch);
@@ -130,12 +147,15 @@ protected:
     }
 
 private:
+    RXPromise<std::string> adopt(const XMLElement& feedRoot, Turn turn);
     QString translated(const char* text) const;
     void showContentNow();
     void showNoContentNow();
 
     const FeedListTraits& m_traits;
     ScreenLog m_log;
+    std::atomic<Turn> m_turn = 0;
+    Turn m_storedTurn = 0; ///< of the newest fetch that brought a feed; main thread
     TitleHeader m_header;
     TableOutlet m_tableView;
     TableOutlet m_searchResultsTableView;

@@ -12,7 +12,7 @@ void FlatListViewController::emptyLists()
     m_filteredList.clear();
 }
 
-void FlatListViewController::appendStoredFeed()
+void FlatListViewController::appendStoredFeed(Turn turn)
 {
     ElementList list(m_searchText);
     const Feed stored = feed();
@@ -24,8 +24,11 @@ void FlatListViewController::appendStoredFeed()
         }
     }
     prepareSearchOffMain(list);
-    onMainThread<FlatListViewController>(
-        [list = std::move(list)](FlatListViewController& screen) mutable { screen.m_list.append(std::move(list)); });
+    onMainThread<FlatListViewController>([list = std::move(list), turn](FlatListViewController& screen) mutable {
+        if (screen.isLast(turn)) {
+            screen.m_list.append(std::move(list));
+        }
+    });
 }
 
 void FlatListViewController::filterContentForSearchText(const QString& searchText, const QString& /*scope*/)

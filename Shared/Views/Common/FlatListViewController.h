@@ -30,9 +30,9 @@ public:
 
 protected:
     void emptyLists() override;
-    /// Puts the elements of the stored feed behind those that are listed. It does not clear: a fetch that ends while
-    /// another is under way lists its elements behind the other's. Any thread.
-    void appendStoredFeed();
+    /// Puts the elements of the stored feed behind those that are listed, unless the turn is over. It does not clear:
+    /// lists are emptied before each fetch. Any thread.
+    void appendStoredFeed(Turn turn);
 
     const std::vector<XMLElement>& elements() const { return m_list.elements(); }
     /// What the search found, as places in `elements`.

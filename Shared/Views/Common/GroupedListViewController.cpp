@@ -2,10 +2,12 @@
 #include "Views/Common/GroupedListViewController.h"
 
 #include "Controllers/REST/RESTSupport.h"
+#include "Platform/Queues/MainSteps.h"
 #include "Views/Common/Registry.h"
 #include "Views/Common/SceneInputs.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace lodestar
@@ -39,36 +41,70 @@ void GroupedListViewController::emptyLists()
     m_filteredPartitions.clear();
 }
 
-void GroupedListViewController::showFeed(const XMLElement& feedRoot)
+/// A feed on its way into groups.
+struct GroupedListViewController::Grouping {
+    std::vector<XMLElement> entries;
+    Turn turn;
+    std::size_t next = 0;
+    GroupedFeed partitions{nameOf};
+};
+
+RXPromise<std::string> GroupedListViewController::showFeed(const XMLElement& feedRoot, Turn turn)
 {
     parseTimeStampFromXML(feedRoot);
-    seperatePartitionsBySystemFromXML(feedRoot);
+    return seperatePartitionsBySystemFromXML(feedRoot, turn);
 }
 
-void GroupedListViewController::seperatePartitionsBySystemFromXML(const XMLElement& feedRoot)
+RXPromise<std::string> GroupedListViewController::seperatePartitionsBySystemFromXML(const XMLElement& feedRoot,
+                                                                                    Turn turn)
 {
-    const std::string className(log().className());
-    log().write(m_grouping.seperatingLine, seperate, className + ": Seperating partitions");
-    GroupedFeed partitions(nameOf);
-    for (const XMLElement& entry : feedRoot.children("entry")) {
-        log().write(m_grouping.partitionLine, seperate, className + ": Fetching partition");
-        XMLElement partition = entry.path({"content", type()});
-        log().write(m_grouping.linkLine, seperate, className + ": Fetching stored link");
-        // An entry of another type is no partition, and has no link.
-        if (!partition) {
-            continue;
+    log().write(m_grouping.seperatingLine, seperate, std::string(log().className()) + ": Seperating partitions");
+    const auto grouping = std::make_shared<Grouping>(Grouping{feedRoot.children("entry"), turn});
+    if (!MainQueue::shared().isCurrent()) {
+        while (groupNext(*grouping)) {
         }
-        const std::optional<std::string> system = systemOf(partition);
-        if (system) {
-            partitions.append(*system, std::move(partition));
-        }
+        adopt(*grouping);
+        return done();
     }
-    prepareSearchOffMain(partitions);
+    RXPromise<std::string> grouped;
+    doInStepsOnMain([screen = self<GroupedListViewController>(), grouping, grouped] {
+        if (screen->groupNext(*grouping)) {
+            return NextStep::AtOnce;
+        }
+        screen->adopt(*grouping);
+        grouped.fulfillWithValue("OK");
+        return NextStep::None;
+    });
+    return grouped;
+}
+
+bool GroupedListViewController::groupNext(Grouping& grouping) const
+{
+    if (grouping.next == grouping.entries.size() || !isLast(grouping.turn) || isClosed()) {
+        return false;
+    }
+    const std::string className(log().className());
+    log().write(m_grouping.partitionLine, seperate, className + ": Fetching partition");
+    XMLElement partition = grouping.entries[grouping.next++].path({"content", type()});
+    log().write(m_grouping.linkLine, seperate, className + ": Fetching stored link");
+    // An entry of another type is no partition, and has no link.
+    const std::optional<std::string> system = partition ? systemOf(partition) : std::nullopt;
+    if (system) {
+        grouping.partitions.append(*system, std::move(partition));
+    }
+    return true;
+}
+
+void GroupedListViewController::adopt(Grouping& grouping)
+{
+    prepareSearchOffMain(grouping.partitions);
     onMainThread<GroupedListViewController>(
-        [partitions = std::move(partitions)](GroupedListViewController& screen) mutable {
-            screen.m_partitions.append(std::move(partitions));
+        [partitions = std::move(grouping.partitions), turn = grouping.turn](GroupedListViewController& screen) mutable {
+            if (screen.isLast(turn)) {
+                screen.m_partitions.append(std::move(partitions));
+            }
         });
-    UIShowContent();
+    showContentOf(grouping.turn);
 }
 
 std::optional<std::string> GroupedListViewController::systemOf(const XMLElement& partition) const

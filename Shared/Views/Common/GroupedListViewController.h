@@ -50,9 +50,13 @@ public:
     const std::vector<ElementGroup>& filteredPartitions() const { return m_filteredPartitions; }
 
     /// Appends the feed's elements to their systems and shows the content. Blocks its thread for one look-up per
-    /// element: a background queue for the stored feed, the main thread after a fetch. Both are meant; no event is
-    /// handled meanwhile.
-    void seperatePartitionsBySystemFromXML(const XMLElement& feedRoot);
+    /// element: a background queue for the stored feed, the main thread after a fetch. Both are meant; on the main
+    /// thread events are handled between look-ups. It ends early, and shows nothing, when the screen is closed or the
+    /// list is fetched anew.
+    void seperatePartitionsBySystemFromXML(const XMLElement& feedRoot)
+    {
+        seperatePartitionsBySystemFromXML(feedRoot, turn());
+    }
     void filterContentForSearchText(const QString& searchText, const QString& scope) override;
 
     int numberOfSections(TableKind tableView) const override;
@@ -62,7 +66,7 @@ public:
     void didSelectRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
 
 protected:
-    void showFeed(const XMLElement& feedRoot) override;
+    RXPromise<std::string> showFeed(const XMLElement& feedRoot, Turn turn) override;
     void emptyLists() override;
     /// Adds to a row what only this screen shows.
     virtual void completeCell(PartitionCell& cell, const XMLElement& partition) const = 0;
@@ -75,6 +79,11 @@ protected:
     const std::vector<XMLElement>& groupNamed(TableKind tableView, const std::string& system) const;
 
 private:
+    struct Grouping;
+    RXPromise<std::string> seperatePartitionsBySystemFromXML(const XMLElement& feedRoot, Turn turn);
+    /// Looks one element's system up; false when there was none left or nobody wants the rest.
+    bool groupNext(Grouping& grouping) const;
+    void adopt(Grouping& grouping);
     std::optional<std::string> systemOf(const XMLElement& partition) const;
 
     const GroupedListTraits& m_grouping;

@@ -58,17 +58,18 @@ QList<SwipeButton> makeRightButtons()
 
 MSListViewController::MSListViewController() : FlatListViewController(traits, nameOf) {}
 
-void MSListViewController::showFeed(const XMLElement& feedRoot)
+RXPromise<std::string> MSListViewController::showFeed(const XMLElement& feedRoot, Turn turn)
 {
-    createMSList();
+    createMSList(turn);
     parseTimeStampFromXML(feedRoot);
-    UIShowContent();
+    showContentOf(turn);
+    return done();
 }
 
-void MSListViewController::createMSList()
+void MSListViewController::createMSList(Turn turn)
 {
     log().write(197, "createMSList", "MSListViewController: Creating Managed System List");
-    appendStoredFeed();
+    appendStoredFeed(turn);
     tableView()->reloadData();
 }
 

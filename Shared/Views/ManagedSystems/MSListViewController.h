@@ -28,7 +28,7 @@ public:
     const std::vector<std::uint32_t>& filteredMSList() const { return filteredElements(); }
 
     /// Appends the systems of the stored feed. Any thread.
-    void createMSList();
+    void createMSList() { createMSList(turn()); }
 
     QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
     void didSelectRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
@@ -37,9 +37,10 @@ public:
     Q_INVOKABLE bool swipeTableCell(bool inSearchResults, int row, int tappedButtonAtIndex);
 
 protected:
-    void showFeed(const XMLElement& feedRoot) override;
+    RXPromise<std::string> showFeed(const XMLElement& feedRoot, Turn turn) override;
 
 private:
+    void createMSList(Turn turn);
     void openItem(int index, const XMLElement& system);
 
     MenuOutlet m_actionSheet;

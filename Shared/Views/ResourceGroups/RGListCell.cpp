@@ -74,9 +74,13 @@ QString RGListCell::accessibleText() const
     if (tag != tags.end()) {
         parts << tr(tag->spoken);
     }
+    parts << m_resourceCountLabel.text;
+    if (m_updating) {
+        parts << tr("updating...");
+        return spoken(std::move(parts));
+    }
     //: A resource group's states, read aloud: counts
-    parts << m_resourceCountLabel.text
-          << tr("%1 good, %2 off, %3 alert, %4 error")
+    parts << tr("%1 good, %2 off, %3 alert, %4 error")
                  .arg(m_goodCountLabel.text, m_offCountLabel.text, m_alertCountLabel.text, m_errorCountLabel.text);
     return spoken(std::move(parts));
 }

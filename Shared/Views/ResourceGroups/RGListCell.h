@@ -36,6 +36,7 @@ class RGListCell
     Q_PROPERTY(lodestar::CellLabel errorCountLabel READ errorCountLabel)
     Q_PROPERTY(lodestar::CellLabel resourceCountLabel READ resourceCountLabel)
     Q_PROPERTY(lodestar::CellImage groupTag READ groupTag)
+    Q_PROPERTY(bool updating READ isUpdating)
     Q_PROPERTY(QString accessibleText READ accessibleText)
 
 public:
@@ -44,6 +45,8 @@ public:
     void setGroupColor(std::string_view name);
     void setStateCounts(const RGStateCounts& counts);
     void setResourceCount(int count);
+    /// The states are still being asked for: there are no counts yet.
+    void setUpdating(bool updating) { m_updating = updating; }
 
     const CellLabel& groupNameLabel() const { return m_groupNameLabel; }
     const CellLabel& goodCountLabel() const { return m_goodCountLabel; }
@@ -52,6 +55,7 @@ public:
     const CellLabel& errorCountLabel() const { return m_errorCountLabel; }
     const CellLabel& resourceCountLabel() const { return m_resourceCountLabel; }
     const CellImage& groupTag() const { return m_groupTag; }
+    bool isUpdating() const { return m_updating; }
     /// Name, colour and counts as one sentence.
     QString accessibleText() const;
 
@@ -63,6 +67,7 @@ private:
     CellLabel m_errorCountLabel;
     CellLabel m_resourceCountLabel;
     CellImage m_groupTag;
+    bool m_updating = false;
 };
 
 } // namespace lodestar

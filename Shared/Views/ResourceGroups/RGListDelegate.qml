@@ -7,7 +7,8 @@ import Lodestar.Views
 
 /// A resource group's row: tag and name, how many resources at the end, and below four counts that stand in columns. With
 /// large text the number of resources stands below the name, and the columns break into lines where they do not fit;
-/// otherwise a row keeps its height however narrow it is, and what stands in it gives way.
+/// otherwise a row keeps its height however narrow it is, and what stands in it gives way. Until the counts are known, the
+/// row says that they are asked for.
 TableCell {
     id: row
 
@@ -110,6 +111,8 @@ TableCell {
             /// Columns give way by a fifth before they break.
             readonly property real least: Math.max(widest, 0.8 * column)
 
+            // Kept as high as it will be.
+            opacity: row.cell.updating ? 0 : 1
             columns: !row.stacked || 4 * least <= parent.width ? 4 : 2 * least <= parent.width ? 2 : 1
             readonly property real share: Math.floor(parent.width / columns)
             readonly property real drawn: Math.min(share, Math.max(widest, Math.min(column, share)))
@@ -150,6 +153,27 @@ TableCell {
                 markColor: Theme.systemRed
                 width: counters.drawn
             }
+        }
+        Spinner {
+            id: spinner
+
+            running: row.cell.updating
+            size: Math.round(16 * Theme.badgeScale)
+            anchors.left: parent.left
+            y: counters.y + Math.round((asking.lineHeight - height) / 2)
+            Accessible.ignored: true
+        }
+        Label {
+            id: asking
+
+            visible: row.cell.updating
+            text: qsTr("updating...")
+            size: Theme.captionSize
+            color: Theme.ink2
+            anchors.left: spinner.right
+            anchors.leftMargin: 8
+            y: counters.y
+            Accessible.ignored: true
         }
     }
 }

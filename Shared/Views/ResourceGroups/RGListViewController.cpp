@@ -7,6 +7,10 @@
 
 #include <QCoreApplication>
 
+#include <cstddef>
+#include <optional>
+#include <utility>
+
 namespace lodestar
 {
 namespace
@@ -28,12 +32,16 @@ constexpr FeedListTraits traits = {
 
 } // namespace
 
-RGListViewController::RGListViewController() : FeedListViewController(traits) {}
+RGListViewController::RGListViewController() : FeedListViewController(traits)
+{
+    tableView()->setMakesCellsInSteps(true);
+}
 
-void RGListViewController::showFeed(const XMLElement& feedRoot)
+RXPromise<std::string> RGListViewController::showFeed(const XMLElement& feedRoot, Turn turn)
 {
     parseTimeStampFromXML(feedRoot);
-    UIShowContent();
+    showContentOf(turn);
+    return done();
 }
 
 void RGListViewController::filterContentForSearchText(const QString& /*searchText*/, const QString& /*scope*/) {}
@@ -53,24 +61,47 @@ int RGListViewController::numberOfRowsInSection(TableKind /*tableView*/, int /*s
     return static_cast<int>(entries().size());
 }
 
-QVariant RGListViewController::cellForRowAtIndexPath(TableKind /*tableView*/, IndexPath indexPath)
+QVariant RGListViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)
+{
+    const CellInSteps making = cellInStepsForRowAtIndexPath(tableView, indexPath);
+    std::optional<QVariant> whole;
+    while (!whole) {
+        whole = making.step();
+    }
+    return *whole;
+}
+
+CellInSteps RGListViewController::cellInStepsForRowAtIndexPath(TableKind /*tableView*/, IndexPath indexPath)
 {
     const XMLElement group = elementAt(entries(), indexPath.row).path({"content", ObjectType::Group});
-    const auto links = [&group](std::string_view list) { return group.child(list).children("link"); };
-    const std::vector<XMLElement> partitions = links("AssociatedLogicalPartitions");
-    const std::vector<XMLElement> servers = links("AssociatedVirtualIOServers");
-    const std::vector<XMLElement> systems = links("AssociatedManagedSystems");
+    std::vector<std::pair<XMLElement, LinkKind>> links;
+    for (const auto& [list, kind] : {std::pair("AssociatedLogicalPartitions", LinkKind::Partition),
+                                     std::pair("AssociatedVirtualIOServers", LinkKind::Partition),
+                                     std::pair("AssociatedManagedSystems", LinkKind::ManagedSystem)}) {
+        for (XMLElement& link : group.child(list).children("link")) {
+            links.emplace_back(std::move(link), kind);
+        }
+    }
 
     RGListCell cell;
     cell.setGroupName(textOf(group.child("GroupName")));
     cell.setGroupColor(group.child("GroupColor").text().value_or(""));
-    RGStateCounts counters;
-    processStates(partitions, counters, LinkKind::Partition);
-    processStates(servers, counters, LinkKind::Partition);
-    processStates(systems, counters, LinkKind::ManagedSystem);
-    cell.setStateCounts(counters);
-    cell.setResourceCount(static_cast<int>(partitions.size() + servers.size() + systems.size()));
-    return QVariant::fromValue(cell);
+    cell.setResourceCount(static_cast<int>(links.size()));
+    cell.setUpdating(true);
+    auto step = [this, cell, links = std::move(links), counters = RGStateCounts(),
+                 next = std::size_t(0)]() mutable -> std::optional<QVariant> {
+        if (next < links.size()) {
+            const auto& [link, kind] = links[next++];
+            processStates({link}, counters, kind);
+        }
+        if (next < links.size()) {
+            return std::nullopt;
+        }
+        cell.setStateCounts(counters);
+        cell.setUpdating(false);
+        return QVariant::fromValue(cell);
+    };
+    return {QVariant::fromValue(cell), std::move(step)};
 }
 
 void RGListViewController::processStates(const std::vector<XMLElement>& links, RGStateCounts& counters,

@@ -35,11 +35,13 @@ public:
     int numberOfRowsInSection(TableKind tableView, int section) const override;
     /// Blocks for as long as the group's resources take to tell their states, one after another.
     QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
+    /// What is known without asking, and one step a resource.
+    CellInSteps cellInStepsForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
     /// Asks each link for its state and counts it. Blocks.
     void processStates(const std::vector<XMLElement>& links, RGStateCounts& counters, LinkKind kind) const;
 
 protected:
-    void showFeed(const XMLElement& feedRoot) override;
+    RXPromise<std::string> showFeed(const XMLElement& feedRoot, Turn turn) override;
     void emptyLists() override { m_resources.clear(); }
 
 private:

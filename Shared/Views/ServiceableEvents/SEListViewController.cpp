@@ -37,17 +37,18 @@ constexpr FeedListTraits traits = {
 
 SEListViewController::SEListViewController() : FlatListViewController(traits, SEListCell::title) {}
 
-void SEListViewController::showFeed(const XMLElement& feedRoot)
+RXPromise<std::string> SEListViewController::showFeed(const XMLElement& feedRoot, Turn turn)
 {
-    createSEList();
+    createSEList(turn);
     parseTimeStampFromXML(feedRoot);
+    return done();
 }
 
-void SEListViewController::createSEList()
+void SEListViewController::createSEList(Turn turn)
 {
     log().write(185, "createSEList", "SEListViewController: Creating SE list");
-    appendStoredFeed();
-    UIShowContent();
+    appendStoredFeed(turn);
+    showContentOf(turn);
 }
 
 QVariant SEListViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)

@@ -24,14 +24,17 @@ public:
     const std::vector<std::uint32_t>& filteredSEList() const { return filteredElements(); }
 
     /// Appends the events of the stored feed and shows the content. Any thread.
-    void createSEList();
+    void createSEList() { createSEList(turn()); }
 
     QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
     /// Opens the event that the stored feed has at the row's index, whichever table was tapped.
     void didSelectRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
 
 protected:
-    void showFeed(const XMLElement& feedRoot) override;
+    RXPromise<std::string> showFeed(const XMLElement& feedRoot, Turn turn) override;
+
+private:
+    void createSEList(Turn turn);
 };
 
 } // namespace lodestar
