@@ -195,7 +195,7 @@ FocusScope {
             objectName: "resetPasswordButton"
             visible: !scene.controller.resetPasswordButton.hidden
             enabled: scene.controller.resetPasswordButton.enabled
-            text: qsTr("Reset Passcode")
+            text: qsTr("Reset Passcode and Erase All Data")
             size: Theme.stateSize
             opacity: scene.opening
             x: (page.width - width) / 2

@@ -28,9 +28,10 @@ public:
 class SystemDetailTest : public ListTest
 {
 protected:
-    std::shared_ptr<MSDetailViewController> show(const std::string& xml)
+    std::shared_ptr<MSDetailViewController> show(const std::string& xml,
+                                                 const char* base = "https://docs.example/reference-codes?code=")
     {
-        const auto detail = makeController<MSDetailViewController>();
+        const auto detail = makeController<MSDetailViewController>(QString::fromLatin1(base));
         detail->setRootXML(parse(xml));
         return push(detail);
     }
@@ -82,6 +83,11 @@ TEST_F(SystemDetailTest, OnlyAReferenceCodeLeadsOnToItsDocumentation)
     EXPECT_EQ(browser.opened[0].toString(QUrl::FullyEncoded),
               "https://docs.example/reference-codes?code=X4%2017%26a%2F%C3%BC");
     EXPECT_EQ(deselected.size(), 9U);
+    // A program that was built without the documentation's address has no link.
+    const auto unlinked = show("<s><ReferenceCode>X417</ReferenceCode></s>", "");
+    EXPECT_FALSE(cell(*unlinked, 0, 2).disclosure);
+    unlinked->didSelectRowAtIndexPath(TableKind::Main, {0, 2});
+    EXPECT_EQ(browser.opened.size(), 1U);
 
     const auto none = show("<s><SystemName>alpha</SystemName></s>");
     EXPECT_FALSE(cell(*none, 0, 2).disclosure);
@@ -121,8 +127,17 @@ TEST_F(ConsoleScreensTest, ConsoleInformationComesFromTheFeedOrSaysThatThereIsNo
     const auto alone = open<MCViewController>(nullptr);
     alone->fetchSystemInformation();
     EXPECT_EQ(alone->header()->subtitleLabel()->text(), "N/A");
+    alone->rightBarButton()->tap();
+    EXPECT_TRUE(alone->fetchingActivityIndicator()->isAnimating());
+    EXPECT_FALSE(alone->rightBarButton()->isEnabled());
+    ASSERT_TRUE(runUntil([&] { return !alone->contentLabel()->isHidden(); }));
+    EXPECT_TRUE(alone->rightBarButton()->isEnabled());
 
     demoFeeds()["ManagementConsole"] = xml;
+    failed->rightBarButton()->tap();
+    EXPECT_EQ(failed->header()->subtitleLabel()->text(), "updating...");
+    ASSERT_TRUE(runUntil([&] { return !failed->tableView()->isHidden(); }));
+    EXPECT_EQ(failed->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::None);
     const auto fetched = open<MCViewController>(addCorvel("Demo", "127.0.0.1", true));
     EXPECT_EQ(fetched->header()->subtitleLabel()->text(), "updating...");
     EXPECT_TRUE(fetched->fetchingActivityIndicator()->isAnimating());

@@ -215,12 +215,23 @@ TEST_F(DashboardTest, WaitsOnAThreadAtIdlePriorityUntilEveryConsoleIsFetched)
     EXPECT_FALSE(isLoading());
     EXPECT_EQ(dashboard->corvelOnlineCount()->text(), "3 / 3");
 
-    // Back to the loading look at each appearance.
+    // Back to the loading look at each appearance. A wait that takes long says whom it waits for.
     third->completedFetch = false;
+    third->setName("Ridgeway");
     dashboard->endAppearance();
     dashboard->beginAppearance();
     EXPECT_TRUE(isLoading());
     EXPECT_FALSE(isShowingContent());
+    LabelOutlet& waiting = *dashboard->waitingLabel();
+    EXPECT_TRUE(waiting.isHidden());
+    ASSERT_TRUE(runUntil([&] { return !waiting.isHidden(); }));
+    EXPECT_EQ(waiting.text(), "Waiting for Ridgeway");
+    first->completedFetch = false;
+    ASSERT_TRUE(runUntil([&] { return waiting.text() == "Waiting for 2 of 3 consoles"; }));
+    first->completedFetch = true;
+    third->completedFetch = true;
+    ASSERT_TRUE(runUntil([&] { return isShowingContent(); }));
+    EXPECT_TRUE(waiting.isHidden());
 }
 
 TEST_F(DashboardTest, EmptyListStopsTheIndicatorsAndShowsNothing)

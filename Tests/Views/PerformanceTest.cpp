@@ -174,6 +174,11 @@ TEST_F(PerformanceTest, FailureShowsAnEmptyChartAndDashes)
         EXPECT_EQ(screen->header()->titleLabel()->text(), "helios-01");
         EXPECT_EQ(screen->header()->subtitleLabel()->text(), "");
         fleet.clearFaults();
+        screen->rightBarButton()->tap();
+        expectLoading(*screen);
+        EXPECT_EQ(screen->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::None);
+        ASSERT_TRUE(hasEnded(*screen));
+        EXPECT_EQ(screen->chartView()->data().dataSets.size(), 3);
     }
     EXPECT_EQ(lineNumbers(lines(source)), (std::vector<int>{39, 163, 163}));
     EXPECT_THAT(messages(source),

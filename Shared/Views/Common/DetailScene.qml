@@ -11,12 +11,16 @@ PageScaffold {
 
     /// Stands in for the controller's title.
     property Item titleView: null
+    property BarButtonOutlet rightBarButton: null
 
     readonly property DetailViewController details: controller as DetailViewController
 
     bar: NavigationBar {
         controller: scene.controller
         titleView: scene.titleView
+        trailing: OutletButton {
+            outlet: scene.rightBarButton
+        }
     }
     scrollView: table.flickable
 

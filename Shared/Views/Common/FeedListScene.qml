@@ -47,11 +47,6 @@ PageScaffold {
         enabled: scene.visible && !scene.searching && scene.contentShown
         onActivated: scene.list.refreshControl.pull()
     }
-    Shortcut {
-        sequences: ["F5", "Ctrl+R"]
-        enabled: scene.visible && !scene.contentShown && scene.list.rightBarButton.imageName === "refresh"
-        onActivated: scene.list.rightBarButton.tap()
-    }
 
     bar: Item {
         id: bars
@@ -69,13 +64,8 @@ PageScaffold {
                 titleOutlet: scene.list.header.titleLabel
                 subtitleOutlet: scene.list.header.subtitleLabel
             }
-            trailing: IconButton {
-                objectName: "rightBarButton"
-                visible: iconName !== ""
-                enabled: scene.list.rightBarButton.enabled
-                iconName: scene.list.rightBarButton.imageName
-                text: scene.list.rightBarButton.title
-                onClicked: scene.list.rightBarButton.tap()
+            trailing: OutletButton {
+                outlet: scene.list.rightBarButton
             }
         }
         SearchBar {

@@ -122,6 +122,8 @@ PageScaffold {
 
         required property PieChartView chart
         required property IndicatorOutlet indicator
+        /// Said where there is nothing to chart.
+        required property string emptyText
 
         implicitHeight: Theme.textScale > 1 ? Math.max(scene.dashboard.chartRowHeight, pie.implicitHeight)
                                             : scene.dashboard.chartRowHeight
@@ -142,6 +144,16 @@ PageScaffold {
             reducedMotion: Theme.reducedMotion
             mirrored: Theme.mirrored
             focusColor: Theme.accentInk
+        }
+        Label {
+            visible: pie.visible && card.chart.accessibleText === ""
+            text: card.emptyText
+            size: Theme.stateSize
+            color: Theme.ink2
+            anchors.centerIn: parent
+            width: Math.min(280 * Theme.textScale, parent.width - 40)
+            horizontalAlignment: Text.AlignHCenter
+            wrapMode: Text.Wrap
         }
         Spinner {
             outlet: card.indicator
@@ -202,6 +214,15 @@ PageScaffold {
                     width: figures.column - 12
                 }
             }
+            OutletLabel {
+                outlet: scene.dashboard.waitingLabel
+                size: Theme.stateSize
+                baseColor: Theme.ink2
+                anchors.centerIn: parent
+                width: parent.width - 40
+                horizontalAlignment: Text.AlignHCenter
+                wrapMode: Text.Wrap
+            }
             FigureRule {
                 place: 1
             }
@@ -245,6 +266,7 @@ PageScaffold {
                 ChartCard {
                     chart: scene.dashboard.manSysPieChartView
                     indicator: scene.dashboard.manSysLoadingIndicator
+                    emptyText: qsTr("No managed systems are known.")
                     width: parent.width
                 }
             }
@@ -258,6 +280,7 @@ PageScaffold {
                 ChartCard {
                     chart: scene.dashboard.lparPieChartView
                     indicator: scene.dashboard.lParLoadingIndicator
+                    emptyText: qsTr("No logical partitions are known.")
                     width: parent.width
                 }
             }
@@ -268,5 +291,7 @@ PageScaffold {
         visible: !scene.dashboard.noDataView.hidden
         picture: "no_data_consoles"
         text: qsTr("No consoles yet.")
+        actionText: qsTr("Add Corvel")
+        onAction: scene.dashboard.addConsole()
     }
 }

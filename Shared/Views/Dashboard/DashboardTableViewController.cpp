@@ -3,13 +3,17 @@
 
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
+#include "Kit/Core/NavigationController.h"
+#include "Kit/Core/TabBarController.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/Queues/OwnThread.h"
+#include "Views/Corvels/CorvelListViewController.h"
 #include "Views/Dashboard/StateCounts.h"
 
 #include <algorithm>
 #include <array>
+#include <chrono>
 #include <cstdint>
 #include <thread>
 
@@ -27,6 +31,9 @@ constexpr double tabletRatio = 2.2;
 constexpr double phoneRatio = 1.2;
 
 constexpr double animationTime = 1.5;
+
+/// A wait that is over sooner needs no words.
+constexpr std::chrono::milliseconds waitingInterval{1500};
 
 /// What one draw finds.
 struct Totals {
@@ -133,6 +140,7 @@ DashboardTableViewController::DashboardTableViewController()
 {
     setContentHidden(true);
     m_noDataView.setHidden(true);
+    m_waitingLabel.setHidden(true);
 }
 
 DashboardTableViewController::~DashboardTableViewController()
@@ -238,6 +246,37 @@ void DashboardTableViewController::UILoadingContent()
         indicator->setHidden(false);
         indicator->startAnimating();
     }
+    m_wait += m_wait % 2 == 0 ? 1 : 2;
+    tellWhatIsWaitedForLater(m_wait);
+}
+
+void DashboardTableViewController::tellWhatIsWaitedForLater(int wait)
+{
+    MainQueue::shared().asyncAfter(waitingInterval, [weak = weak_from_this(), wait] {
+        const auto dashboard = std::static_pointer_cast<DashboardTableViewController>(weak.lock());
+        if (!dashboard || dashboard->m_wait != wait) {
+            return;
+        }
+        const QString text = waitingText();
+        dashboard->m_waitingLabel.setText(text);
+        dashboard->m_waitingLabel.setHidden(text.isEmpty());
+        dashboard->tellWhatIsWaitedForLater(wait);
+    });
+}
+
+QString DashboardTableViewController::waitingText()
+{
+    const std::vector<CorvelRef>& corvels = RESTHandler::sharedInstance().corvelList();
+    const auto isWaitedFor = [](const CorvelRef& corvel) { return !corvel->completedFetch; };
+    const auto count = std::ranges::count_if(corvels, isWaitedFor);
+    if (count == 0) {
+        return {};
+    }
+    if (count == 1) {
+        return tr("Waiting for %1")
+            .arg(QString::fromStdString((*std::ranges::find_if(corvels, isWaitedFor))->name().value_or("")));
+    }
+    return tr("Waiting for %1 of %2 consoles").arg(count).arg(corvels.size());
 }
 
 void DashboardTableViewController::UIShowContent()
@@ -255,8 +294,25 @@ void DashboardTableViewController::showNothing()
     m_noDataView.setHidden(false);
 }
 
+void DashboardTableViewController::addConsole()
+{
+    const TabBarController* const tabs = tabBarController();
+    for (int index = 0; tabs != nullptr && index < tabs->count(); ++index) {
+        const auto* const navigation = qobject_cast<NavigationController*>(tabs->controllerAt(index));
+        auto* const list =
+            navigation != nullptr ? qobject_cast<CorvelListViewController*>(navigation->rootViewController()) : nullptr;
+        if (list != nullptr) {
+            tabBarController()->setSelectedIndex(index);
+            list->addCorvel();
+            return;
+        }
+    }
+}
+
 void DashboardTableViewController::stopLoading()
 {
+    m_wait += m_wait % 2;
+    m_waitingLabel.setHidden(true);
     for (IndicatorOutlet* indicator : {&m_manSysLoadingIndicator, &m_lParLoadingIndicator}) {
         indicator->stopAnimating();
         indicator->setHidden(true);

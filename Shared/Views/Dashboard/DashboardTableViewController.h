@@ -33,6 +33,7 @@ class DashboardTableViewController : public lodestar::ViewController, public Cha
     Q_PROPERTY(lodestar::ViewOutlet* managedSystemLabel READ managedSystemLabel CONSTANT)
     Q_PROPERTY(lodestar::ViewOutlet* lparLabel READ lparLabel CONSTANT)
     Q_PROPERTY(lodestar::ViewOutlet* noDataView READ noDataView CONSTANT)
+    Q_PROPERTY(lodestar::LabelOutlet* waitingLabel READ waitingLabel CONSTANT)
     Q_PROPERTY(lodestar::PieChartView* manSysPieChartView READ manSysPieChartView CONSTANT)
     Q_PROPERTY(lodestar::PieChartView* lparPieChartView READ lparPieChartView CONSTANT)
     Q_PROPERTY(double chartRowHeight READ chartRowHeight NOTIFY viewSizeChanged)
@@ -55,6 +56,8 @@ public:
     ViewOutlet* lparLabel() { return &m_lparLabel; }
     /// Shown when there is nothing to sum up.
     ViewOutlet* noDataView() { return &m_noDataView; }
+    /// Says which consoles are waited for, once that has taken a while.
+    LabelOutlet* waitingLabel() { return &m_waitingLabel; }
     PieChartView* manSysPieChartView() { return &m_manSysPieChartView; }
     PieChartView* lparPieChartView() { return &m_lparPieChartView; }
 
@@ -67,6 +70,8 @@ public:
 
     /// The size of the controller's view, and the shorter side of the screen, which tells a tablet. Points.
     Q_INVOKABLE void setViewSize(double width, double shortestSide);
+    /// Opens the console list's editor, for whoever has no console yet.
+    Q_INVOKABLE void addConsole();
     /// None for a row whose height is the scene's own.
     std::optional<double> heightForRowAtIndexPath(IndexPath indexPath) const;
     double chartRowHeight() const;
@@ -86,10 +91,13 @@ protected:
 private:
     void showNothing();
     void stopLoading();
+    void tellWhatIsWaitedForLater(int wait);
+    static QString waitingText();
     void applySettings(PieChartView& pie);
     void setContentHidden(bool hidden);
 
     std::stop_source m_stopWaiting;
+    int m_wait = 0; ///< counts the loading looks and their ends: odd while one is shown
     double m_viewWidth = 0;
     bool m_tabletIdiom = false;
 
@@ -105,6 +113,7 @@ private:
     ViewOutlet m_managedSystemLabel;
     ViewOutlet m_lparLabel;
     ViewOutlet m_noDataView;
+    LabelOutlet m_waitingLabel;
     PieChartView m_manSysPieChartView;
     PieChartView m_lparPieChartView;
 };

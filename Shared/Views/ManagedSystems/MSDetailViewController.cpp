@@ -21,7 +21,8 @@ constexpr IndexPath referenceCodeRow = {0, 2};
 
 } // namespace
 
-MSDetailViewController::MSDetailViewController()
+MSDetailViewController::MSDetailViewController(QString documentationBase)
+    : m_documentationBase(std::move(documentationBase))
 {
     setSectionTitles({tr("Main Information"), tr("Model & Serial Information"), tr("Processor Information"),
                       tr("Memory Information")});
@@ -61,7 +62,8 @@ void MSDetailViewController::populateSystemDetails()
 
 bool MSDetailViewController::leadsOn(IndexPath indexPath) const
 {
-    return indexPath == referenceCodeRow && valueAt(indexPath) != QLatin1String("(null)");
+    return !m_documentationBase.isEmpty() && indexPath == referenceCodeRow &&
+           valueAt(indexPath) != QLatin1String("(null)");
 }
 
 void MSDetailViewController::openRow(IndexPath indexPath)
@@ -69,10 +71,14 @@ void MSDetailViewController::openRow(IndexPath indexPath)
     QDesktopServices::openUrl(documentationURL(valueAt(indexPath)));
 }
 
-QUrl MSDetailViewController::documentationURL(const QString& referenceCode)
+QString MSDetailViewController::builtDocumentationBase()
 {
-    return QUrl(QStringLiteral(LODESTAR_REFERENCE_CODE_URL) +
-                QString::fromLatin1(QUrl::toPercentEncoding(referenceCode)));
+    return QStringLiteral(LODESTAR_REFERENCE_CODE_URL);
+}
+
+QUrl MSDetailViewController::documentationURL(const QString& referenceCode) const
+{
+    return QUrl(m_documentationBase + QString::fromLatin1(QUrl::toPercentEncoding(referenceCode)));
 }
 
 } // namespace lodestar

@@ -7,7 +7,8 @@
 namespace lodestar
 {
 
-/// The facts of one managed system. Its reference code leads to the code's documentation in the system browser.
+/// The facts of one managed system. Its reference code leads to the code's documentation in the system browser, where
+/// the documentation's address was given to the build (LODESTAR_REFERENCE_CODE_URL).
 class MSDetailViewController : public lodestar::DetailViewController, public RootXMLReceiving
 {
     Q_OBJECT
@@ -15,18 +16,23 @@ class MSDetailViewController : public lodestar::DetailViewController, public Roo
     QML_UNCREATABLE("made by the storyboard")
 
 public:
-    MSDetailViewController();
+    /// The documentation's address without the code, empty for none.
+    explicit MSDetailViewController(QString documentationBase = builtDocumentationBase());
 
     void populateSystemDetails();
 
-    /// Where a reference code is documented. Its base address is chosen when the program is built
-    /// (LODESTAR_REFERENCE_CODE_URL).
-    static QUrl documentationURL(const QString& referenceCode);
+    /// Where a reference code is documented.
+    QUrl documentationURL(const QString& referenceCode) const;
 
 protected:
     void viewDidLoad() override;
     bool leadsOn(IndexPath indexPath) const override;
     void openRow(IndexPath indexPath) override;
+
+private:
+    static QString builtDocumentationBase();
+
+    QString m_documentationBase;
 };
 
 } // namespace lodestar

@@ -37,20 +37,35 @@ void MCViewController::viewDidLoad()
 void MCViewController::fetchSystemInformation()
 {
     if (corvel() && !corvel()->completedFetch) {
-        m_fetchingActivityIndicator.startAnimating();
         fetchAfresh();
         return;
     }
     const Feed stored = corvel() ? feedOfType(*corvel(), ObjectType::ManagementConsole) : Feed::notAvailable();
     if (stored.isNA()) {
         m_header.setHeaderTitle(tr("Console Data"), tr("N/A"));
+        offerRefresh();
         return;
     }
     populateTableViewFromXML(stored.root());
 }
 
+void MCViewController::offerRefresh()
+{
+    m_rightBarButton.setItem(BarButtonOutlet::SystemItem::Refresh, [this] { refreshFromButton(); });
+}
+
+void MCViewController::refreshFromButton()
+{
+    // One fetch at a time: it ends in facts, or in a new offer.
+    m_rightBarButton.setItem(BarButtonOutlet::SystemItem::None, {});
+    m_contentLabel.setHidden(true);
+    m_header.setHeaderTitle(tr("Management Console"), tr("updating..."));
+    fetchAfresh();
+}
+
 void MCViewController::fetchAfresh()
 {
+    m_fetchingActivityIndicator.startAnimating();
     const auto screen = self<MCViewController>();
     fetchFeedWithStoredKey(corvel(), ObjectType::ManagementConsole, "uom")
         .thenOnMain(
@@ -65,6 +80,7 @@ void MCViewController::fetchAfresh()
                 // Nothing is being updated any more.
                 screen->m_header.setHeaderTitle(tr("Management Console"), QString());
                 screen->m_contentLabel.setHidden(false);
+                screen->offerRefresh();
                 return error;
             });
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Controllers/REST/XMLElement.h"
+#include "Kit/Core/Bars.h"
 #include "Kit/Core/Outlets.h"
 #include "Views/Common/CorvelReceiving.h"
 #include "Views/Common/DetailViewController.h"
@@ -20,6 +21,7 @@ class MCViewController : public lodestar::DetailViewController, public CorvelRec
     Q_PROPERTY(lodestar::TitleHeader* header READ header CONSTANT)
     Q_PROPERTY(lodestar::LabelOutlet* contentLabel READ contentLabel CONSTANT)
     Q_PROPERTY(lodestar::IndicatorOutlet* fetchingActivityIndicator READ fetchingActivityIndicator CONSTANT)
+    Q_PROPERTY(lodestar::BarButtonOutlet* rightBarButton READ rightBarButton CONSTANT)
 
 public:
     MCViewController();
@@ -28,6 +30,8 @@ public:
     /// Shown when the fetch failed.
     LabelOutlet* contentLabel() { return &m_contentLabel; }
     IndicatorOutlet* fetchingActivityIndicator() { return &m_fetchingActivityIndicator; }
+    /// Refreshes where there is nothing to show; none otherwise.
+    BarButtonOutlet* rightBarButton() { return &m_rightBarButton; }
 
     void fetchSystemInformation();
     void populateTableViewFromXML(const XMLElement& feedRoot);
@@ -38,10 +42,13 @@ protected:
 
 private:
     void fetchAfresh();
+    void offerRefresh();
+    void refreshFromButton();
 
     TitleHeader m_header;
     LabelOutlet m_contentLabel;
     IndicatorOutlet m_fetchingActivityIndicator;
+    BarButtonOutlet m_rightBarButton;
 };
 
 } // namespace lodestar

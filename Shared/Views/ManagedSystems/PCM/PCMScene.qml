@@ -21,6 +21,9 @@ PageScaffold {
             subtitleOutlet: scene.performance.header.subtitleLabel
             fallback: qsTr("Performance Monitoring")
         }
+        trailing: OutletButton {
+            outlet: scene.performance.rightBarButton
+        }
     }
     scrollView: page
 

@@ -146,6 +146,7 @@ void PCMViewController::fetchPCMData()
     }
     const auto screen = self<PCMViewController>();
     const std::uint64_t fetch = ++m_fetch;
+    m_rightBarButton.setItem(BarButtonOutlet::SystemItem::None, {});
     RESTHandler::sharedInstance()
         .login(corvel(), CheckToken::No)
         .then([corvel = corvel(), systemID = m_systemID](const SessionKey& key) {
@@ -187,6 +188,11 @@ void PCMViewController::showFailure()
     m_chartView.clear();
     stopLoadingIndicators();
     m_header.setHeaderTitle(name(), {});
+    m_rightBarButton.setItem(BarButtonOutlet::SystemItem::Refresh, [this] {
+        m_header.setHeaderTitle(name(), tr("updating..."));
+        startLoadingIndicators();
+        fetchPCMData();
+    });
 }
 
 void PCMViewController::calculateGraphValuesFromJSON(const MetricsValue& samples)

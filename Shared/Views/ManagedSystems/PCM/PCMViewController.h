@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Charts/LineChartView.h"
+#include "Kit/Core/Bars.h"
 #include "Kit/Core/Outlets.h"
 #include "Kit/Core/ViewController.h"
 #include "Views/Common/CorvelReceiving.h"
@@ -29,6 +30,7 @@ class PCMViewController : public lodestar::ViewController,
     Q_PROPERTY(lodestar::TitleHeader* header READ header CONSTANT)
     Q_PROPERTY(lodestar::LineChartView* chartView READ chartView CONSTANT)
     Q_PROPERTY(lodestar::SegmentedControlOutlet* typeSegmentedControl READ typeSegmentedControl CONSTANT)
+    Q_PROPERTY(lodestar::BarButtonOutlet* rightBarButton READ rightBarButton CONSTANT)
     Q_PROPERTY(lodestar::LabelOutlet* fetchingLabel READ fetchingLabel CONSTANT)
     Q_PROPERTY(lodestar::IndicatorOutlet* fetchingActivityView READ fetchingActivityView CONSTANT)
     Q_PROPERTY(lodestar::LabelOutlet* totalLabel READ totalLabel CONSTANT)
@@ -54,6 +56,8 @@ public:
     LineChartView* chartView() { return &m_chartView; }
     /// Segment 0 is processors, segment 1 memory.
     SegmentedControlOutlet* typeSegmentedControl() { return &m_typeSegmentedControl; }
+    /// Fetches anew after a failure; none otherwise.
+    BarButtonOutlet* rightBarButton() { return &m_rightBarButton; }
     LabelOutlet* fetchingLabel() { return &m_fetchingLabel; }
     IndicatorOutlet* fetchingActivityView() { return &m_fetchingActivityView; }
     /// The latest values with two decimals, "-" after a failure; a spinner stands in for each while it is fetched.
@@ -98,6 +102,7 @@ private:
     TitleHeader m_header;
     LineChartView m_chartView;
     SegmentedControlOutlet m_typeSegmentedControl;
+    BarButtonOutlet m_rightBarButton;
     LabelOutlet m_fetchingLabel;
     IndicatorOutlet m_fetchingActivityView;
     LabelOutlet m_totalLabel;

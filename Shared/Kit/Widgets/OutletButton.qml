@@ -1,0 +1,24 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+
+/// The button at the end of a screen's bar, as its outlet has it. F5 is its key while it refreshes.
+IconButton {
+    id: button
+
+    /// Null for a screen without one.
+    required property BarButtonOutlet outlet
+
+    objectName: "rightBarButton"
+    visible: iconName !== ""
+    enabled: outlet !== null && outlet.enabled
+    iconName: outlet !== null ? outlet.imageName : ""
+    text: outlet !== null ? outlet.title : ""
+    onClicked: outlet.tap()
+
+    Shortcut {
+        sequences: ["F5", "Ctrl+R"]
+        enabled: button.visible && button.iconName === "refresh"
+        onActivated: button.outlet.tap()
+    }
+}
