@@ -80,18 +80,6 @@ void installPlatform(const QString& folder)
     StoreStack::shared().setApplicationDocumentsDirectory((folder + QStringLiteral("/Documents")).toStdString());
 }
 
-/// Becoming active locks; the first activation comes with the first frame, so the initial screen is not made twice.
-void followActivation(const QGuiApplication& application, AppDelegate& delegate, PrivacyCover& cover)
-{
-    QObject::connect(&application, &QGuiApplication::applicationStateChanged, &application,
-                     [&delegate, &cover](Qt::ApplicationState state) {
-                         if (state == Qt::ApplicationActive) {
-                             delegate.applicationDidBecomeActive();
-                         }
-                         cover.applicationStateDidChange(state);
-                     });
-}
-
 } // namespace
 
 int main(int argc, char** argv)
@@ -147,8 +135,10 @@ int main(int argc, char** argv)
     // The first frame waits for nobody.
     QObject::connect(
         window, &QQuickWindow::frameSwapped, &desktop, [&desktop] { desktop.follow(); }, Qt::SingleShotConnection);
-    PrivacyCover cover(*window);
-    followActivation(application, delegate, cover);
+    PrivacyCover cover(*window, PrivacyCover::deviceOf(*window->screen()),
+                       [&delegate] { delegate.applicationDidBecomeActive(); });
+    QObject::connect(&application, &QGuiApplication::applicationStateChanged, &cover,
+                     &PrivacyCover::applicationStateDidChange);
 
     const int status = QGuiApplication::exec();
     delegate.applicationWillTerminate();

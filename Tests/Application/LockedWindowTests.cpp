@@ -131,26 +131,54 @@ TEST_F(LockedWindowTest, TheTextIsNotGivenAway)
     EXPECT_THAT(logged(), ::testing::Not(::testing::HasSubstr("wr0")));
 }
 
-TEST_F(LockedWindowTest, TheSystemsPictureOfTheWindowShowsNothing)
+TEST_F(LockedWindowTest, WhatIsOutOfSightIsCoveredAndWhatIsInSightIsLeftAlone)
 {
+    using Device = PrivacyCover::Device;
+    const auto lock = [this] { delegate.applicationDidBecomeActive(); };
     open(false);
-    PrivacyCover cover(window());
+    PrivacyCover desk(window(), Device::Desk, lock);
     openSettings().alert()->present("Password Saved", {}, {{"Continue"}}, 0, {});
     settle(300);
     const QImage shown = window().grabWindow();
-    cover.applicationStateDidChange(Qt::ApplicationInactive);
-    EXPECT_EQ(window().grabWindow(), shown) << "nothing is required";
-
-    cover.applicationStateDidChange(Qt::ApplicationActive);
-    require();
-    for (const Qt::ApplicationState state :
-         {Qt::ApplicationInactive, Qt::ApplicationHidden, Qt::ApplicationSuspended}) {
-        cover.applicationStateDidChange(state);
-        EXPECT_TRUE(showsOnlyTheMark(window().grabWindow(), 422));
+    const std::set<QString> shownTexts = spoken();
+    const auto isCovered = [this] {
+        std::set<QString> texts = spoken();
+        texts.erase(window().title());
+        return showsOnlyTheMark(window().grabWindow(), 422) && texts.empty();
+    };
+    {
+        PrivacyCover phone(window(), Device::Phone, lock);
+        phone.applicationStateDidChange(Qt::ApplicationInactive);
+        EXPECT_EQ(window().grabWindow(), shown) << "nothing is required";
     }
-    // It locks nothing by itself.
-    cover.applicationStateDidChange(Qt::ApplicationActive);
-    EXPECT_EQ(window().grabWindow(), shown);
+    require();
+    desk.applicationStateDidChange(Qt::ApplicationInactive);
+    EXPECT_EQ(window().grabWindow(), shown) << "somebody else has the keyboard, that is all";
+    EXPECT_EQ(spoken(), shownTexts);
+    desk.applicationStateDidChange(Qt::ApplicationSuspended);
+    EXPECT_TRUE(isCovered());
+    desk.applicationStateDidChange(Qt::ApplicationActive);
+    ASSERT_NE(login(), nullptr);
+    EXPECT_TRUE(showsOnlyTheMark(window().grabWindow(), 844 / 3)) << "before any event has run";
+
+    type(secret);
+    press(Qt::Key_Return);
+    settle(300);
+    window().hide();
+    desk.applicationStateDidChange(Qt::ApplicationInactive);
+    window().show();
+    ASSERT_TRUE(waitFor([this] { return window().isExposed(); }));
+    EXPECT_TRUE(isCovered()) << "in sight again, but nobody has come back to it";
+    desk.applicationStateDidChange(Qt::ApplicationActive);
+    ASSERT_NE(login(), nullptr);
+    settle(300);
+    type(secret);
+    press(Qt::Key_Return);
+    EXPECT_EQ(login(), nullptr) << "the field has the keyboard";
+
+    PrivacyCover phone(window(), Device::Phone, lock);
+    phone.applicationStateDidChange(Qt::ApplicationInactive);
+    EXPECT_TRUE(isCovered()) << "switched away from";
 }
 
 TEST_F(LockedWindowTest, FeedbackNeitherPassesTheLockNorTellsWhatIsBehindIt)
