@@ -2,6 +2,7 @@
 #include "Application/LoginViewController.h"
 
 #include "Application/FeedbackSupport.h"
+#include "Application/KeptState.h"
 #include "Application/Passcode.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Kit/Core/Storyboard.h"
@@ -9,7 +10,7 @@
 #include "Views/Common/Registry.h"
 
 #include <cmath>
-#include <tuple>
+#include <utility>
 
 namespace lodestar
 {
@@ -56,26 +57,62 @@ void LoginViewController::viewDidLoad()
 
 void LoginViewController::viewDidAppear()
 {
+    m_hasPassedOn = false;
     UserDefaults& defaults = UserDefaults::standard();
     if (defaults.boolForKey(resetUnderWay)) {
         resetApplicationData();
         return;
     }
-    // The keychain outlives the application's removal.
+    // The keychain outlives the application's removal. What an earlier installation left in it counts as none at once;
+    // to empty it nobody is kept waiting, or asked for the keychain's own password.
     if (!defaults.boolForKey("initialLoad")) {
-        std::ignore = Passcode::store({});
-    }
-    // Asked only when it matters: a slow keychain must not delay every start.
-    if (defaults.boolForKey(requirePassword) && Passcode::stored().empty()) {
+        Passcode::discard();
         defaults.setBool(false, requirePassword);
     }
+    // Asked only when it matters, and the screen does not wait for the answer.
+    if (defaults.boolForKey(requirePassword)) {
+        askWhetherThereIsAPasscode();
+    }
     if (!defaults.boolForKey(requirePassword)) {
-        performShowMainView();
+        if (!m_hasPassedOn) {
+            performShowMainView();
+        }
         return;
     }
     if (m_isFirstLaunch) {
         firstAnimation();
     }
+}
+
+void LoginViewController::askWhetherThereIsAPasscode()
+{
+    readPasscode([](LoginViewController& self, const std::string& passcode, const std::optional<Error>& failure) {
+        if (!passcode.empty()) {
+            return;
+        }
+        UserDefaults::standard().setBool(false, requirePassword);
+        if (failure) {
+            Passcode::rememberLockOff(*failure);
+        }
+        self.performShowMainView();
+    });
+}
+
+void LoginViewController::readPasscode(const PasscodeUse& use)
+{
+    m_keychainWait.begin();
+    Passcode::read(Passcode::Prompt::Allowed,
+                   [weak = weak_from_this(), use](const std::string& passcode, const std::optional<Error>& failure) {
+                       const auto self = std::static_pointer_cast<LoginViewController>(weak.lock());
+                       if (!self) {
+                           return;
+                       }
+                       self->m_keychainWait.end();
+                       // It may have been replaced meanwhile, by another one or by what it guards.
+                       if (self->isInWindow() && !self->m_hasPassedOn) {
+                           use(*self, passcode, failure);
+                       }
+                   });
 }
 
 void LoginViewController::aestheticModifications()
@@ -146,12 +183,20 @@ void LoginViewController::hideKeyboardOnTouch()
 
 void LoginViewController::performLogin()
 {
-    if (Passcode::stored() == m_passwordTextField.text().toStdString()) {
-        performShowMainView();
+    // The same question, while the keychain takes its time.
+    if (std::exchange(m_isComparing, true)) {
         return;
     }
-    m_passwordTextField.setText({});
-    m_alert.present(tr("Login Failed"), tr("Incorrect Credentials"), {{tr("OK")}}, 0, {});
+    readPasscode([text = m_passwordTextField.text().toStdString()](
+                     LoginViewController& self, const std::string& passcode, const std::optional<Error>& /*failure*/) {
+        self.m_isComparing = false;
+        if (passcode == text) {
+            self.performShowMainView();
+            return;
+        }
+        self.m_passwordTextField.setText({});
+        self.m_alert.present(tr("Login Failed"), tr("Incorrect Credentials"), {{tr("OK")}}, 0, {});
+    });
 }
 
 void LoginViewController::resetPassword()
@@ -170,8 +215,9 @@ void LoginViewController::resetApplicationData()
     defaults.setBool(true, resetUnderWay);
     defaults.synchronize();
 
+    KeptState::shared().clear();
     // A keychain that refuses does not stop the rest: "requirePassword" goes below, and with it the lock.
-    std::ignore = Passcode::store({});
+    Passcode::discard();
     deleteEveryRecord();
     FeedbackSupport::forgetReports();
     for (const std::string& key : defaults.allKeys()) {
@@ -183,6 +229,7 @@ void LoginViewController::resetApplicationData()
 
 void LoginViewController::performShowMainView()
 {
+    m_hasPassedOn = true;
     // The switch lets go of this screen.
     const auto keep = shared_from_this();
     m_showRoot(Storyboard::main().instantiateViewController("mainView"));

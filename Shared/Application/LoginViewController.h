@@ -2,12 +2,16 @@
 #pragma once
 
 #include "Application/ControlOutlets.h"
+#include "Application/KeychainWait.h"
 #include "Kit/Core/Menu.h"
 #include "Kit/Core/ViewController.h"
+#include "Platform/Error.h"
 
 #include <QRectF>
 
 #include <functional>
+#include <optional>
+#include <string>
 
 namespace lodestar
 {
@@ -26,6 +30,7 @@ class LoginViewController : public lodestar::ViewController
     Q_PROPERTY(lodestar::ControlOutlet* resetPasswordButton READ resetPasswordButton CONSTANT)
     Q_PROPERTY(lodestar::LayoutConstraint* logoYAlignment READ logoYAlignment CONSTANT)
     Q_PROPERTY(lodestar::LayoutConstraint* spaceToPassword READ spaceToPassword CONSTANT)
+    Q_PROPERTY(lodestar::LabelOutlet* keychainNote READ keychainNote CONSTANT)
     Q_PROPERTY(lodestar::MenuOutlet* alert READ alert CONSTANT)
     Q_PROPERTY(bool isFirstLaunch READ isFirstLaunch NOTIFY isFirstLaunchChanged)
     Q_PROPERTY(int openingDelay READ openingDelay CONSTANT)
@@ -48,6 +53,8 @@ public:
     LayoutConstraint* logoYAlignment() { return &m_logoYAlignment; }
     /// Between the logo and the field, where the screen is tall enough.
     LayoutConstraint* spaceToPassword() { return &m_spaceToPassword; }
+    /// That the keychain is being waited for; hidden while it is not, or not for long.
+    LabelOutlet* keychainNote() { return &m_keychainNote; }
     MenuOutlet* alert() { return &m_alert; }
     /// Until the opening animation is under way.
     bool isFirstLaunch() const { return m_isFirstLaunch; }
@@ -59,7 +66,8 @@ public:
     /// The scene's height and the main screen's, which is the window's, in points; whenever either changes.
     Q_INVOKABLE void viewDidLayoutSubviews(double viewHeight, double mainScreenHeight);
 
-    /// Compares the field with the stored passcode, character by character. As often as one likes.
+    /// Compares the field, as it is now, with the stored passcode, character by character. As often as one likes, but
+    /// not before the keychain has answered.
     Q_INVOKABLE void performLogin();
     /// Asks before it wipes.
     Q_INVOKABLE void resetPassword();
@@ -89,11 +97,19 @@ protected:
     void viewDidAppear() override;
 
 private:
+    using PasscodeUse =
+        std::function<void(LoginViewController&, const std::string& passcode, const std::optional<Error>& failure)>;
+
     double openedLogoPosition() const;
+    void askWhetherThereIsAPasscode();
+    /// The function is not called when the screen has gone before the answer comes.
+    void readPasscode(const PasscodeUse& use);
 
     RootSwitch m_showRoot;
     bool m_isFirstLaunch = true;
     bool m_keyboardUp = false;
+    bool m_hasPassedOn = false;
+    bool m_isComparing = false;
     int m_shiftDuration = 0;
     double m_viewHeight = 0;
     double m_mainScreenHeight = 0;
@@ -105,6 +121,8 @@ private:
     ControlOutlet m_resetPasswordButton;
     LayoutConstraint m_logoYAlignment;
     LayoutConstraint m_spaceToPassword;
+    LabelOutlet m_keychainNote;
+    KeychainWait m_keychainWait{m_keychainNote};
     MenuOutlet m_alert;
 };
 

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Passcode.h"
 
+#include "Application/KeptState.h"
 #include "Feedback/VireoLogger.h"
 #include "Platform/Error.h"
-#include "Platform/Keychain.h"
+
+#include <utility>
+#include <vector>
 
 namespace lodestar
 {
@@ -14,42 +17,182 @@ constexpr auto fileName = "Shared/Application/Passcode";
 constexpr auto service = "Login";
 constexpr auto account = "Admin";
 
-bool& existsFlag()
+/// Kept while the keychain holds a passcode that is none any more.
+QString discardKey()
 {
-    static bool exists = false;
-    return exists;
+    return QStringLiteral("discardPasscode");
+}
+/// The code of the failure that switched the lock off.
+QString lockOffKey()
+{
+    return QStringLiteral("lockOff");
+}
+
+/// Of the process.
+struct Readings {
+    bool exists = false;
+    std::optional<Error> existsFailure;
+    int recomputations = 0; ///< under way
+    std::vector<std::function<void()>> whenKnown;
+    /// Those who wait for a reading under way, of each kind; a write ends what may be shared.
+    std::shared_ptr<std::vector<Passcode::Read>> waiting[2];
+};
+
+Readings& readings()
+{
+    static auto& state = *new Readings;
+    return state;
+}
+
+bool isToBeDiscarded()
+{
+    return KeptState::shared().value(discardKey()).toBool();
+}
+
+void write(const std::string& passcode, Passcode::Prompt prompt, Keychain::Written answer)
+{
+    for (auto& shared : readings().waiting) {
+        shared.reset();
+    }
+    Keychain::standard().writePassword(
+        passcode, service, account, prompt, [answer = std::move(answer)](const Result<void>& written) {
+            if (written) {
+                KeptState::shared().setValue(discardKey(), QJsonValue::Undefined);
+            } else {
+                LODESTAR_LOG(fileName, "+[Passcode store:]", "The passcode cannot be written: {}",
+                             description(written.error()));
+            }
+            answer(written);
+        });
+}
+
+void deliver(const std::vector<Passcode::Read>& readers, const Result<std::string>& result)
+{
+    std::optional<Error> failure;
+    std::string passcode;
+    if (!result) {
+        failure = result.error();
+        LODESTAR_LOG(fileName, "+[Passcode stored]", "The passcode cannot be read: {}", description(*failure));
+    } else if (!isToBeDiscarded()) { // it may have been forgotten meanwhile
+        passcode = result.value();
+    }
+    for (const Passcode::Read& reader : readers) {
+        reader(passcode, failure);
+    }
 }
 
 } // namespace
 
-std::string Passcode::stored()
+void Passcode::read(Prompt prompt, Read answer)
 {
-    Result<std::string> passcode = Keychain::standard().password(service, account);
-    if (!passcode) {
-        LODESTAR_LOG(fileName, "+[Passcode stored]", "The passcode cannot be read: {}", description(passcode.error()));
-        return {};
+    if (isToBeDiscarded()) {
+        write({}, prompt, [answer = std::move(answer)](const Result<void>& emptied) {
+            answer({}, emptied ? std::nullopt : std::optional<Error>(emptied.error()));
+        });
+        return;
     }
-    return std::move(passcode).value();
+    auto& shared = readings().waiting[prompt == Prompt::Allowed ? 1 : 0];
+    if (shared) {
+        shared->push_back(std::move(answer));
+        return;
+    }
+    const auto readers = std::make_shared<std::vector<Read>>();
+    readers->push_back(std::move(answer));
+    shared = readers;
+    Keychain::standard().readPassword(service, account, prompt, [&shared, readers](const Result<std::string>& result) {
+        if (shared == readers) {
+            shared.reset();
+        }
+        deliver(*readers, result);
+    });
 }
 
-Result<void> Passcode::store(const std::string& passcode)
+void Passcode::store(const std::string& passcode, Keychain::Written answer)
 {
-    Result<void> written = Keychain::standard().setPassword(passcode, service, account);
-    if (!written) {
-        LODESTAR_LOG(fileName, "+[Passcode store:]", "The passcode cannot be written: {}",
-                     description(written.error()));
-    }
-    return written;
+    write(passcode, Prompt::Allowed, std::move(answer));
+}
+
+void Passcode::discard()
+{
+    KeptState::shared().setValue(discardKey(), true);
+    write({}, Prompt::No, [](const Result<void>&) {});
 }
 
 bool Passcode::exists()
 {
-    return existsFlag();
+    return readings().exists;
 }
 
-void Passcode::recomputeExists()
+void Passcode::recomputeExists(Prompt prompt)
 {
-    existsFlag() = !stored().empty();
+    ++readings().recomputations;
+    read(prompt, [](const std::string& passcode, const std::optional<Error>& failure) {
+        Readings& state = readings();
+        state.exists = !passcode.empty();
+        state.existsFailure = failure;
+        if (--state.recomputations == 0) {
+            for (const auto& function : std::exchange(state.whenKnown, {})) {
+                function();
+            }
+        }
+    });
+}
+
+const std::optional<Error>& Passcode::existsFailure()
+{
+    return readings().existsFailure;
+}
+
+void Passcode::whenExistsIsKnown(std::function<void()> function)
+{
+    if (readings().recomputations == 0) {
+        function();
+    } else {
+        readings().whenKnown.push_back(std::move(function));
+    }
+}
+
+QString Passcode::words(const Error& failure)
+{
+    switch (failure.code) {
+    case Keychain::locked:
+        return tr("The system's keychain is locked");
+    case Keychain::absent:
+        return tr("No keychain is running on this system");
+    case Keychain::timedOut:
+        return tr("The system's keychain does not answer");
+    case Keychain::notAText:
+        return tr("The system's keychain cannot keep this text");
+    default:
+        return tr("The system's keychain reported an error");
+    }
+}
+
+void Passcode::rememberLockOff(const Error& failure)
+{
+    KeptState::shared().setValue(lockOffKey(), failure.code);
+}
+
+void Passcode::forgetLockOff()
+{
+    KeptState::shared().setValue(lockOffKey(), QJsonValue::Undefined);
+}
+
+QString Passcode::lockOffWords()
+{
+    const QJsonValue code = KeptState::shared().value(lockOffKey());
+    switch (code.toInt()) {
+    case 0:
+        return {};
+    case Keychain::locked:
+        return tr("The passcode is not asked for any more: the system's keychain was locked.");
+    case Keychain::absent:
+        return tr("The passcode is not asked for any more: no keychain was running.");
+    case Keychain::timedOut:
+        return tr("The passcode is not asked for any more: the system's keychain did not answer.");
+    default:
+        return tr("The passcode is not asked for any more: the system's keychain could not be read.");
+    }
 }
 
 } // namespace lodestar

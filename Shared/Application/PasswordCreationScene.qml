@@ -68,7 +68,7 @@ SheetContent {
             Label {
                 id: note
 
-                text: qsTr("Any characters, any length.")
+                text: scene.sheet.note.text
                 size: Theme.noteSize
                 color: Theme.ink2
                 x: Theme.rowStart

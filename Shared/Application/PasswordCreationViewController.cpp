@@ -26,10 +26,15 @@ void PasswordCreationViewController::setParentSettings(std::shared_ptr<SettingsV
 
 void PasswordCreationViewController::viewDidLoad()
 {
-    Passcode::recomputeExists();
+    Passcode::recomputeExists(Passcode::Prompt::Allowed);
     setTitle(tr("Set Password"));
     m_navigationBar.setText(title());
-    m_oldPassword.setHidden(!Passcode::exists());
+    m_keychainWait.setText(tr("Any characters, any length."));
+    Passcode::whenExistsIsKnown([weak = weak_from_this()] {
+        if (const auto self = std::static_pointer_cast<PasswordCreationViewController>(weak.lock())) {
+            self->m_oldPassword.setHidden(!Passcode::exists());
+        }
+    });
 }
 
 int PasswordCreationViewController::heightForRowAtIndexPath(int row) const
@@ -40,49 +45,96 @@ int PasswordCreationViewController::heightForRowAtIndexPath(int row) const
     return row == trailingRow ? trailingRowHeight : rowHeight;
 }
 
-bool PasswordCreationViewController::fieldsValidate() const
+bool PasswordCreationViewController::fieldsValidate(const std::string& stored) const
 {
-    if (Passcode::exists() && m_oldPassword.text().toStdString() != Passcode::stored()) {
+    if (Passcode::exists() && m_oldPassword.text().toStdString() != stored) {
         return false;
     }
     return !m_updatePassword.text().isEmpty() && !m_verifyPassword.text().isEmpty();
 }
 
-bool PasswordCreationViewController::saveIfValid()
-{
-    // A write that failed counts as nothing saved. Timed out, it may yet be carried out: then the next attempt finds
-    // the new passcode in the place of the old one.
-    return fieldsValidate() && m_updatePassword.text() == m_verifyPassword.text() &&
-           Passcode::store(m_verifyPassword.text().toStdString());
-}
-
 void PasswordCreationViewController::savePW()
 {
     // The sheet takes a moment to slide away.
-    if (m_closed) {
+    if (m_closed || std::exchange(m_isSaving, true)) {
         return;
     }
     endEditing();
     setFieldsEnabled(false);
-    if (saveIfValid()) {
-        const auto keep = shared_from_this();
-        const auto settings = m_parentSettings;
-        close();
-        // The sheet's own alert would go with it.
-        MenuOutlet* const shown = settings ? settings->alert() : &m_alert;
-        shown->present(tr("Password Saved"), {}, {{tr("Continue")}}, 0, {});
+    m_keychainWait.begin();
+    if (!Passcode::exists()) {
+        saveOver({}, {});
         return;
     }
-    for (FieldOutlet* field : {&m_oldPassword, &m_updatePassword, &m_verifyPassword}) {
-        field->setText({});
+    Passcode::read(Passcode::Prompt::Allowed,
+                   [keep = kept()](const std::string& stored, const std::optional<Error>& failure) {
+                       if (!keep->m_closed) {
+                           keep->saveOver(stored, failure);
+                       }
+                   });
+}
+
+void PasswordCreationViewController::saveOver(const std::string& stored, const std::optional<Error>& failure)
+{
+    if (failure) {
+        refuse(tr("%1. The passcode was not changed.").arg(Passcode::words(*failure)));
+        return;
     }
+    if (!fieldsValidate(stored) || m_updatePassword.text() != m_verifyPassword.text()) {
+        for (FieldOutlet* field : {&m_oldPassword, &m_updatePassword, &m_verifyPassword}) {
+            field->setText({});
+        }
+        refuse(tr("Please reenter password"));
+        return;
+    }
+    Passcode::store(m_verifyPassword.text().toStdString(),
+                    [keep = kept(), stored](const Result<void>& written) { keep->saveEnded(stored, written); });
+}
+
+void PasswordCreationViewController::saveEnded(const std::string& stored, const Result<void>& written)
+{
+    if (m_closed) {
+        // Cancelled while the keychain took its time.
+        if (written) {
+            Passcode::store(stored, [](const Result<void>&) {});
+        }
+        return;
+    }
+    if (!written) {
+        // Nothing counts as saved. Timed out, it may yet be carried out: then the next attempt finds the new passcode
+        // in the place of the old one.
+        refuse(tr("%1. The passcode was not saved.").arg(Passcode::words(written.error())));
+        return;
+    }
+    const auto settings = m_parentSettings;
+    close();
+    // The sheet's own alert would go with it.
+    MenuOutlet* const shown = settings ? settings->alert() : &m_alert;
+    shown->present(tr("Password Saved"), {}, {{tr("Continue")}}, 0, {});
+}
+
+void PasswordCreationViewController::refuse(const QString& message)
+{
+    m_isSaving = false;
+    m_keychainWait.end();
     setFieldsEnabled(true);
-    m_alert.present(tr("Failed"), tr("Please reenter password"), {{tr("OK")}}, 0, {});
+    m_alert.present(tr("Failed"), message, {{tr("OK")}}, 0, {});
 }
 
 void PasswordCreationViewController::cancel()
 {
     close();
+}
+
+void PasswordCreationViewController::viewDidDisappear()
+{
+    // The lock may take the settings away while the keychain still works for this.
+    m_parentSettings.reset();
+}
+
+std::shared_ptr<PasswordCreationViewController> PasswordCreationViewController::kept()
+{
+    return self<PasswordCreationViewController>();
 }
 
 void PasswordCreationViewController::close()

@@ -65,6 +65,19 @@ PageScaffold {
                 onClicked: scene.settings.selectRow(0, 1)
             }
         }
+        Label {
+            objectName: "keychainNote"
+            visible: !scene.settings.keychainNote.hidden
+            text: scene.settings.keychainNote.text
+            size: Theme.captionSize
+            color: Theme.ink2
+            x: Theme.rowStart
+            width: parent.width - Theme.rowStart - Theme.rowEnd
+            topPadding: 8
+            wrapMode: Text.Wrap
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
         Item {
             width: parent.width
             height: Theme.groupGap

@@ -11,6 +11,8 @@
 
 #include <QCoreApplication>
 
+#include <utility>
+
 namespace lodestar
 {
 namespace
@@ -37,8 +39,10 @@ QString SettingsViewController::version() const
 
 void SettingsViewController::viewDidLoad()
 {
-    Passcode::recomputeExists();
+    Passcode::recomputeExists(Passcode::Prompt::No);
     setTitle(tr("Settings"));
+    updateKeychainNote();
+    whenPasscodeIsKnown([](SettingsViewController& self) { self.updateKeychainNote(); });
     m_passwordCellArrow.setImageName(QStringLiteral("chevron"));
     const bool required = UserDefaults::standard().boolForKey(requirePassword);
     m_passwordSwitch.setOn(required);
@@ -58,13 +62,45 @@ void SettingsViewController::viewWillDisappear()
     turnOffWithoutPasscode();
 }
 
+void SettingsViewController::whenPasscodeIsKnown(const std::function<void(SettingsViewController&)>& function)
+{
+    Passcode::whenExistsIsKnown([weak = weak_from_this(), function] {
+        if (const auto self = std::static_pointer_cast<SettingsViewController>(weak.lock())) {
+            function(*self);
+        }
+    });
+}
+
+void SettingsViewController::updateKeychainNote()
+{
+    QString text = Passcode::lockOffWords();
+    if (text.isEmpty() && Passcode::existsFailure()) {
+        text = tr("%1.").arg(Passcode::words(*Passcode::existsFailure()));
+    }
+    m_keychainWait.setText(text);
+}
+
 void SettingsViewController::turnOffWithoutPasscode()
 {
-    if (Passcode::stored().empty()) {
-        UserDefaults::standard().setBool(false, requirePassword);
-        m_passwordSwitch.setOn(false);
-        setPasswordCellEnabled(false);
+    if (!UserDefaults::standard().boolForKey(requirePassword)) {
+        return;
     }
+    Passcode::read(Passcode::Prompt::No,
+                   [weak = weak_from_this()](const std::string& passcode, const std::optional<Error>& failure) {
+                       // What is locked up is there: the passcode screen asks for it, and decides.
+                       if (!passcode.empty() || (failure && failure->code == Keychain::locked)) {
+                           return;
+                       }
+                       UserDefaults::standard().setBool(false, requirePassword);
+                       if (failure) {
+                           Passcode::rememberLockOff(*failure);
+                       }
+                       if (const auto self = std::static_pointer_cast<SettingsViewController>(weak.lock())) {
+                           self->m_passwordSwitch.setOn(false);
+                           self->setPasswordCellEnabled(false);
+                           self->updateKeychainNote();
+                       }
+                   });
 }
 
 void SettingsViewController::setPasswordCellEnabled(bool enabled)
@@ -80,9 +116,16 @@ void SettingsViewController::togglePassword()
     defaults.setBool(m_passwordSwitch.isOn(), requirePassword);
     const bool required = defaults.boolForKey(requirePassword);
     setPasswordCellEnabled(required);
-    if (required && !Passcode::exists()) {
-        presentPasscodeSheet();
+    if (!required) {
+        return;
     }
+    Passcode::forgetLockOff();
+    updateKeychainNote();
+    whenPasscodeIsKnown([](SettingsViewController& self) {
+        if (self.m_passwordSwitch.isOn() && !Passcode::exists()) {
+            self.presentPasscodeSheet();
+        }
+    });
 }
 
 void SettingsViewController::didSelectRowAtIndexPath(IndexPath indexPath)
@@ -103,13 +146,22 @@ void SettingsViewController::didSelectRowAtIndexPath(IndexPath indexPath)
 void SettingsViewController::presentPasscodeSheet()
 {
     const auto sheet = Storyboard::main().instantiate<PasswordCreationViewController>("passwordCreation");
-    if (!sheet) {
+    if (!sheet || std::exchange(m_isOpeningSheet, true)) {
         return;
     }
-    sheet->setParentSettings(self<SettingsViewController>());
-    // Loading computes anew whether there is a passcode, which the height tells by.
+    // Loading computes anew whether there is a passcode, which rows and height tell by. That may wait for a person who
+    // unlocks the keychain.
     sheet->loadViewIfNeeded();
-    presentSemiViewController(sheet, {.pushParentBack = false, .height = restingSheetHeight()});
+    m_keychainWait.begin();
+    whenPasscodeIsKnown([sheet](SettingsViewController& self) {
+        self.m_isOpeningSheet = false;
+        self.m_keychainWait.end();
+        self.updateKeychainNote();
+        if (self.isInWindow() && self.semiModal() == nullptr && self.m_passwordSwitch.isOn()) {
+            sheet->setParentSettings(self.self<SettingsViewController>());
+            self.presentSemiViewController(sheet, {.pushParentBack = false, .height = self.restingSheetHeight()});
+        }
+    });
 }
 
 void SettingsViewController::showIntroTour()

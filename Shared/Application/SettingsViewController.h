@@ -2,12 +2,14 @@
 #pragma once
 
 #include "Application/ControlOutlets.h"
+#include "Application/KeychainWait.h"
 #include "Kit/Core/Menu.h"
 #include "Kit/Core/PagedIntro.h"
 #include "Kit/Core/SheetHostController.h"
 #include "Kit/Core/Table.h"
 #include "Platform/NotificationCenter.h"
 
+#include <functional>
 #include <string_view>
 
 namespace lodestar
@@ -24,6 +26,7 @@ class SettingsViewController : public lodestar::SheetHostController, public Page
     Q_PROPERTY(lodestar::ControlOutlet* passwordCell READ passwordCell CONSTANT)
     Q_PROPERTY(lodestar::ControlOutlet* passwordCellLabel READ passwordCellLabel CONSTANT)
     Q_PROPERTY(lodestar::ImageOutlet* passwordCellArrow READ passwordCellArrow CONSTANT)
+    Q_PROPERTY(lodestar::LabelOutlet* keychainNote READ keychainNote CONSTANT)
     Q_PROPERTY(lodestar::MenuOutlet* alert READ alert CONSTANT)
     Q_PROPERTY(double separatorLeft READ separatorLeft CONSTANT)
     Q_PROPERTY(double separatorRight READ separatorRight CONSTANT)
@@ -35,6 +38,9 @@ public:
     ControlOutlet* passwordCell() { return &m_passwordCell; }
     ControlOutlet* passwordCellLabel() { return &m_passwordCellLabel; }
     ImageOutlet* passwordCellArrow() { return &m_passwordCellArrow; }
+    /// Why there is no lock, or none can be told of, below the rows that it is about; hidden while there is nothing to
+    /// say.
+    LabelOutlet* keychainNote() { return &m_keychainNote; }
     /// What the passcode sheet says after it has gone.
     MenuOutlet* alert() { return &m_alert; }
     double separatorLeft() const { return 10; }
@@ -63,6 +69,9 @@ private:
     void viewWillDisappear();
     void setPasswordCellEnabled(bool enabled);
     void turnOffWithoutPasscode();
+    void updateKeychainNote();
+    /// The function is not called when these settings are gone by then.
+    void whenPasscodeIsKnown(const std::function<void(SettingsViewController&)>& function);
     void presentPasscodeSheet();
     void showIntroTour();
     void pushWithoutTitle(std::string_view identifier);
@@ -72,6 +81,9 @@ private:
     ControlOutlet m_passwordCell;
     ControlOutlet m_passwordCellLabel;
     ImageOutlet m_passwordCellArrow;
+    LabelOutlet m_keychainNote;
+    KeychainWait m_keychainWait{m_keychainNote};
+    bool m_isOpeningSheet = false;
     MenuOutlet m_alert;
 };
 

@@ -6,6 +6,7 @@
 #include "Application/AppDelegate.h"
 #include "Application/FeedbackSupport.h"
 #include "Application/FeedbackWindow.h"
+#include "Application/KeptState.h"
 #include "Application/MainStoryboard.h"
 #include "Application/Model/StoreStack.h"
 #include "Application/PrivacyCover.h"
@@ -24,6 +25,7 @@
 #include <QScreen>
 #include <QStandardPaths>
 
+#include <chrono>
 #include <cstdio>
 #include <memory>
 #include <tuple>
@@ -69,15 +71,19 @@ QString makeDataFolder(const QString& asked)
     return folder;
 }
 
-void installPlatform(const QString& folder)
+SystemKeychain& installPlatform(const QString& folder)
 {
     VireoLogger::openLogFolder((folder + QStringLiteral("/Logs")).toStdString());
     FeedbackSupport::captureCrashes(folder, QStringLiteral(LODESTAR_VERSION));
     UserDefaults::install(
         std::make_unique<FileUserDefaults>((folder + QStringLiteral("/Lodestar.defaults")).toStdString()));
-    Keychain::install(std::make_unique<SystemKeychain>());
+    KeptState::shared().openFolder(folder);
+    auto keychain = std::make_unique<SystemKeychain>(std::chrono::seconds(3), SystemKeychain::Begin::WhenTold);
+    SystemKeychain& installed = *keychain;
+    Keychain::install(std::move(keychain));
     Resources::install(std::make_unique<PackageResources>());
     StoreStack::shared().setApplicationDocumentsDirectory((folder + QStringLiteral("/Documents")).toStdString());
+    return installed;
 }
 
 } // namespace
@@ -99,7 +105,7 @@ int main(int argc, char** argv)
         std::fputs("Lodestar is running already.\n", stderr);
         return 1;
     }
-    installPlatform(dataFolder);
+    SystemKeychain& keychain = installPlatform(dataFolder);
 
     AppDelegate delegate;
     registerMainStoryboard([&delegate](std::shared_ptr<ViewController> root) {
@@ -119,6 +125,10 @@ int main(int argc, char** argv)
             },
             Qt::DirectConnection);
     }
+    // Neither the service nor the bus is to hold up the first frame.
+    QObject::connect(
+        window, &QQuickWindow::frameSwapped, window, [&keychain] { keychain.begin(); },
+        static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     delegate.showInitialViewController();
     window->loadInterface();
     if (options.fullScreen) {
@@ -145,6 +155,7 @@ int main(int argc, char** argv)
     feedback.reset();
     FeedbackWindow::tearDown();
     UserDefaults::standard().synchronize();
+    KeptState::shared().synchronize();
     VireoLogger::flush();
     return status;
 }

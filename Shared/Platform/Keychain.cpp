@@ -13,17 +13,17 @@ namespace
 class MemoryKeychain final : public Keychain
 {
 public:
-    Result<std::string> password(const std::string& service, const std::string& account) override
+    void readPassword(const std::string& service, const std::string& account, Prompt /*prompt*/, Read answer) override
     {
         const auto found = m_items.find({service, account});
-        return found == m_items.end() ? std::string() : found->second;
+        answer(found == m_items.end() ? std::string() : found->second);
     }
 
-    Result<void> setPassword(const std::string& password, const std::string& service,
-                             const std::string& account) override
+    void writePassword(const std::string& password, const std::string& service, const std::string& account,
+                       Prompt /*prompt*/, Written answer) override
     {
         m_items.insert_or_assign({service, account}, password);
-        return {};
+        answer({});
     }
 
 private:

@@ -11,6 +11,7 @@
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/Keychain.h"
 #include "Platform/UserDefaults.h"
+#include "Tests/StoredPassword.h"
 #include "Views/Corvels/CorvelListViewController.h"
 
 #include <QTemporaryDir>
@@ -84,7 +85,7 @@ TEST_F(AppDelegateTest, ARequiredPasscodeStandsInFrontAtEveryActivation)
 {
     m_delegate.showInitialViewController();
     UserDefaults::standard().setBool(true, "requirePassword");
-    ASSERT_TRUE(Keychain::standard().setPassword("passcode", "Login", "Admin"));
+    ASSERT_TRUE(test::writePassword("passcode"));
     m_delegate.applicationDidBecomeActive();
     ViewController* const first = root();
     EXPECT_NE(dynamic_cast<LoginViewController*>(first), nullptr);

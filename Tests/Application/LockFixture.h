@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Application/KeptState.h"
 #include "Application/LoginViewController.h"
 #include "Application/MainStoryboard.h"
 #include "Application/Model/StoreStack.h"
@@ -25,34 +26,65 @@
 namespace lodestar::lock
 {
 
-/// A keychain in memory that fails when it is told to.
+/// A keychain in memory that fails when it is told to, or answers later.
 class FaultyKeychain final : public Keychain
 {
 public:
-    Result<std::string> password(const std::string& service, const std::string& account) override
+    void readPassword(const std::string& service, const std::string& account, Prompt prompt, Read answer) override
     {
-        if (readsFail) {
-            return Error{"Keychain", -1, "no answer", {}, nullptr};
-        }
-        return items[{service, account}];
+        carryOut([=, this] {
+            const auto failure = readFailure ? readFailure : failureFor(prompt);
+            answer(failure ? Result<std::string>(error(failure)) : Result<std::string>(items[{service, account}]));
+        });
     }
-    Result<void> setPassword(const std::string& password, const std::string& service,
-                             const std::string& account) override
+    void writePassword(const std::string& password, const std::string& service, const std::string& account,
+                       Prompt prompt, Written answer) override
     {
-        if (onWrite) {
-            onWrite();
+        carryOut([=, this] {
+            if (onWrite) {
+                onWrite();
+            }
+            if (const auto failure = writeFailure ? writeFailure : failureFor(prompt)) {
+                answer(error(failure));
+                return;
+            }
+            items[{service, account}] = password;
+            answer({});
+        });
+    }
+    /// Answers what was asked while it was holding.
+    void release()
+    {
+        isHolding = false;
+        for (const auto& request : std::exchange(held, {})) {
+            request();
         }
-        if (writesFail) {
-            return Error{"Keychain", -1, "no answer", {}, nullptr};
-        }
-        items[{service, account}] = password;
-        return {};
     }
 
-    bool readsFail = false;
-    bool writesFail = false;
+    int readFailure = 0; ///< one of `Failure`; 0 for none
+    int writeFailure = 0;
+    bool isLocked = false; ///< until somebody may be asked
+    bool isHolding = false;
     std::function<void()> onWrite;
     std::map<std::pair<std::string, std::string>, std::string> items;
+
+private:
+    static Error error(int code) { return {"Keychain", code, "no answer", {}, nullptr}; }
+    int failureFor(Prompt prompt)
+    {
+        isLocked = isLocked && prompt == Prompt::No;
+        return isLocked ? locked : 0;
+    }
+    void carryOut(std::function<void()> request)
+    {
+        if (isHolding) {
+            held.push_back(std::move(request));
+        } else {
+            request();
+        }
+    }
+
+    std::vector<std::function<void()>> held;
 };
 
 /// The application's screens over an empty store, empty defaults and that keychain. What would come into the window is
@@ -65,6 +97,7 @@ protected:
         StoreStack::shared().close();
         StoreStack::shared().setApplicationDocumentsDirectory(folder.path());
         UserDefaults::install(nullptr);
+        KeptState::shared().openFolder(QString::fromStdString(folder.path()));
         auto made = std::make_unique<FaultyKeychain>();
         keychain = made.get();
         Keychain::install(std::move(made));
@@ -85,6 +118,8 @@ protected:
         StoreStack::shared().close();
         UserDefaults::install(nullptr);
         Keychain::install(nullptr);
+        KeptState::shared().synchronize();
+        KeptState::shared().openFolder({});
     }
 
     std::string& passcode() const { return keychain->items[{"Login", "Admin"}]; }
@@ -95,6 +130,12 @@ protected:
         UserDefaults::standard().setBool(required, "requirePassword");
     }
     static bool isRequired() { return UserDefaults::standard().boolForKey("requirePassword"); }
+    /// What is kept as the next run finds it.
+    void reopenKeptState() const
+    {
+        KeptState::shared().synchronize();
+        KeptState::shared().openFolder(QString::fromStdString(folder.path()));
+    }
     std::string logged()
     {
         const std::lock_guard lock(mutex);

@@ -8,7 +8,11 @@
 #include "Kit/Core/NavigationController.h"
 #include "Kit/Core/TabBarController.h"
 #include "Tests/Application/LockFixture.h"
+#include "Tests/StoredPassword.h"
 
+#include <QDBusConnection>
+#include <QDBusVirtualObject>
+#include <QDeadlineTimer>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QGuiApplication>
@@ -17,6 +21,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <cstdio>
 #include <string_view>
 
 namespace lodestar::lock
@@ -24,6 +29,7 @@ namespace lodestar::lock
 namespace
 {
 
+constexpr auto prompterOption = "--prompter";
 constexpr auto keyringProcess = "LODESTAR_TEST_KEYRING";
 constexpr std::chrono::milliseconds deadline{1500};
 constexpr auto busConfiguration = R"(<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
@@ -43,14 +49,14 @@ constexpr auto busConfiguration = R"(<!DOCTYPE busconfig PUBLIC "-//freedesktop/
 class SharedSystemKeychain final : public Keychain
 {
 public:
-    Result<std::string> password(const std::string& service, const std::string& account) override
+    void readPassword(const std::string& service, const std::string& account, Prompt prompt, Read answer) override
     {
-        return system().password(service, account);
+        system().readPassword(service, account, prompt, std::move(answer));
     }
-    Result<void> setPassword(const std::string& password, const std::string& service,
-                             const std::string& account) override
+    void writePassword(const std::string& password, const std::string& service, const std::string& account,
+                       Prompt prompt, Written answer) override
     {
-        return system().setPassword(password, service, account);
+        system().writePassword(password, service, account, prompt, std::move(answer));
     }
 
 private:
@@ -67,7 +73,7 @@ protected:
     PasscodeServiceTest()
     {
         Keychain::install(std::make_unique<SharedSystemKeychain>());
-        EXPECT_TRUE(Passcode::store({}));
+        EXPECT_TRUE(test::writePassword({}));
         require(false);
     }
 
@@ -81,15 +87,43 @@ protected:
         EXPECT_TRUE(tool.waitForFinished(20'000));
         return QString::fromUtf8(tool.readAllStandardOutput());
     }
+    static void lockKeyring()
+    {
+        EXPECT_EQ(QProcess::execute(QStringLiteral("secret-tool"),
+                                    {QStringLiteral("lock"), QStringLiteral("--collection=login")}),
+                  0);
+    }
+    static void unlockKeyring()
+    {
+        QProcess daemon;
+        daemon.start(QStringLiteral("gnome-keyring-daemon"), {QStringLiteral("--unlock")});
+        daemon.write("\n");
+        daemon.closeWriteChannel();
+        EXPECT_TRUE(daemon.waitForFinished(20'000));
+    }
+    static bool waitFor(const std::function<bool()>& predicate,
+                        std::chrono::milliseconds limit = std::chrono::seconds(20))
+    {
+        const QDeadlineTimer end(limit);
+        while (!predicate() && !end.hasExpired()) {
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+        }
+        return predicate();
+    }
+    /// Until the service has answered what it was asked so far.
+    static void settle() { std::ignore = test::readPassword("Login", "Nobody", Keychain::Prompt::No); }
+
     std::shared_ptr<PasswordCreationViewController> openSheet()
     {
         settings = Storyboard::main().instantiate<SettingsViewController>("settingsViewController");
         settings->beginAppearance();
         settings->passwordSwitch()->setOn(true);
         settings->togglePassword();
+        settle();
         if (settings->semiModal() == nullptr) {
             settings->didSelectRowAtIndexPath({0, 1});
         }
+        EXPECT_TRUE(waitFor([this] { return settings->semiModal() != nullptr; }));
         return std::dynamic_pointer_cast<PasswordCreationViewController>(settings->semiModal()->sharedController());
     }
     /// Whether it was told as saved.
@@ -100,6 +134,8 @@ protected:
         sheet->updatePassword()->setText(newText);
         sheet->verifyPassword()->setText(newText);
         sheet->savePW();
+        EXPECT_TRUE(waitFor([&] { return settings->alert()->isPresented() || sheet->alert()->isPresented(); }));
+        said = sheet->alert()->message();
         const bool saved = settings->alert()->isPresented();
         EXPECT_NE(saved, sheet->alert()->isPresented());
         sheet->cancel();
@@ -111,13 +147,16 @@ protected:
         root = login;
         login->beginAppearance();
         login->passwordTextField()->setText(text);
+        settle();
         if (root == login) {
             login->performLogin();
+            settle();
         }
         return std::dynamic_pointer_cast<TabBarController>(root) != nullptr;
     }
 
     std::shared_ptr<SettingsViewController> settings;
+    QString said; ///< by the sheet, last
 };
 
 TEST_F(PasscodeServiceTest, IsSetChangedAndResetInTheSightOfOthers)
@@ -139,8 +178,60 @@ TEST_F(PasscodeServiceTest, IsSetChangedAndResetInTheSightOfOthers)
 
     EXPECT_FALSE(opens(QStringLiteral("forgotten")));
     std::dynamic_pointer_cast<LoginViewController>(root)->resetApplicationData();
+    settle();
     EXPECT_EQ(seenFromOutside(), QString());
     EXPECT_FALSE(isRequired());
+}
+
+TEST_F(PasscodeServiceTest, AsLongAsThePersonIsAskedThePasscodeScreenWaits)
+{
+    ASSERT_TRUE(save({}, QStringLiteral("kept")));
+    require();
+    lockKeyring();
+    QProcess prompter;
+    prompter.start(QCoreApplication::applicationFilePath(), {QLatin1String(prompterOption)});
+    ASSERT_TRUE(prompter.waitForReadyRead(20'000));
+
+    const auto login = Storyboard::main().instantiate<LoginViewController>("loginViewController");
+    root = login;
+    login->beginAppearance();
+    EXPECT_FALSE(waitFor([&] { return root != login; }, 2 * deadline));
+    EXPECT_TRUE(isRequired());
+    EXPECT_FALSE(login->keychainNote()->isHidden());
+    EXPECT_FALSE(login->resetPasswordButton()->isHidden()) << "the way out";
+
+    prompter.kill(); // as if the person had sent it away
+    EXPECT_TRUE(waitFor([&] { return root != login; }));
+    EXPECT_FALSE(isRequired());
+    EXPECT_THAT(Passcode::lockOffWords().toStdString(), ::testing::HasSubstr("keychain was locked"));
+    prompter.waitForFinished();
+    unlockKeyring();
+}
+
+TEST_F(PasscodeServiceTest, ALockedKeyringIsToldFromAnEmptyOne)
+{
+    EXPECT_TRUE(opens({}));
+    EXPECT_EQ(Passcode::lockOffWords(), QString());
+    ASSERT_TRUE(save({}, QStringLiteral("kept")));
+    require();
+    lockKeyring();
+
+    // There is nobody here who could be asked.
+    EXPECT_EQ(test::readPassword("Login", "Admin", Keychain::Prompt::No).error().code, Keychain::locked);
+    EXPECT_EQ(test::readPassword("Login", "Nobody", Keychain::Prompt::No).value(), "");
+    EXPECT_EQ(test::writePassword("x", "Login", "Nobody", Keychain::Prompt::No).error().code, Keychain::locked);
+    EXPECT_TRUE(test::writePassword("", "Login", "Nobody", Keychain::Prompt::No)) << "nothing has to be written";
+    EXPECT_FALSE(save(QStringLiteral("kept"), QStringLiteral("lost")));
+    EXPECT_EQ(said, "The system's keychain is locked. The passcode was not saved.");
+    require();
+    EXPECT_TRUE(opens(QStringLiteral("anything"))) << "what cannot be read is no passcode";
+    EXPECT_FALSE(isRequired());
+    EXPECT_THAT(Passcode::lockOffWords().toStdString(), ::testing::HasSubstr("keychain was locked"));
+    EXPECT_THAT(logged(), ::testing::HasSubstr("The passcode cannot be read: Keychain -3"));
+    EXPECT_THAT(logged(), ::testing::HasSubstr("The keychain is locked."));
+
+    unlockKeyring();
+    EXPECT_EQ(seenFromOutside(), QStringLiteral("kept"));
 }
 
 TEST_F(PasscodeServiceTest, WithTheServiceGoneNothingIsToldAsSavedAndNobodyWaitsForLong)
@@ -159,6 +250,26 @@ TEST_F(PasscodeServiceTest, WithTheServiceGoneNothingIsToldAsSavedAndNobodyWaits
     EXPECT_THAT(logged(), ::testing::AllOf(::testing::HasSubstr("The passcode cannot be read: "),
                                            ::testing::HasSubstr("The passcode cannot be written: ")));
     EXPECT_THAT(logged(), ::testing::Not(::testing::AnyOf(::testing::HasSubstr("kept"), ::testing::HasSubstr("lost"))));
+}
+
+/// Stands in for the desktop's prompt: takes every question and never answers.
+class SilentPrompter final : public QDBusVirtualObject
+{
+public:
+    QString introspect(const QString& /*path*/) const override { return {}; }
+    bool handleMessage(const QDBusMessage& /*message*/, const QDBusConnection& /*connection*/) override { return true; }
+};
+
+int runPrompter(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    SilentPrompter prompter;
+    QDBusConnection bus = QDBusConnection::sessionBus();
+    bus.registerVirtualObject(QStringLiteral("/org/gnome/keyring/Prompter"), &prompter);
+    bus.registerService(QStringLiteral("org.gnome.keyring.SystemPrompter"));
+    std::puts("there");
+    std::fflush(stdout);
+    return QCoreApplication::exec();
 }
 
 int runInSession(int argc, char** argv)
@@ -204,6 +315,9 @@ int main(int argc, char** argv)
         argv, argv + argc, [](std::string_view argument) { return argument.substr(0, 18) == "--gtest_list_tests"; });
     if (!lists && !qEnvironmentVariableIsSet(lodestar::lock::keyringProcess)) {
         return lodestar::lock::runInSession(argc, argv);
+    }
+    if (argc == 2 && std::string_view(argv[1]) == lodestar::lock::prompterOption) {
+        return lodestar::lock::runPrompter(argc, argv);
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
     testing::InitGoogleMock(&argc, argv);

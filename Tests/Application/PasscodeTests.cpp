@@ -139,15 +139,97 @@ TEST_F(PasscodeTest, AnyTextButNoneIsAPasscode)
     EXPECT_EQ(settings->alert()->title(), "Password Saved");
 }
 
-TEST_F(PasscodeTest, AKeychainThatCannotBeReadSwitchesTheLockOffAndIsLogged)
+TEST_F(PasscodeTest, AKeychainThatCannotBeReadSwitchesTheLockOffAndSettingsSayWhy)
 {
-    require();
+    const std::pair<int, const char*> reasons[] = {{Keychain::locked, "keychain was locked"},
+                                                   {Keychain::absent, "no keychain was running"},
+                                                   {Keychain::timedOut, "did not answer"},
+                                                   {7, "could not be read"}};
     passcode() = "secret";
-    keychain->readsFail = true;
+    for (const auto& [failure, words] : reasons) {
+        SCOPED_TRACE(words);
+        require();
+        keychain->readFailure = failure;
+        showLogin();
+        EXPECT_TRUE(isUnlocked());
+        EXPECT_FALSE(isRequired());
+        EXPECT_THAT(logged(), HasSubstr("The passcode cannot be read: Keychain " + std::to_string(failure)));
+        keychain->readFailure = 0;
+        reopenKeptState();
+        EXPECT_THAT(showSettings().keychainNote()->text().toStdString(), HasSubstr(words));
+        flip(true);
+        EXPECT_EQ(sheet(), nullptr) << "the passcode is still there";
+        EXPECT_TRUE(settings->keychainNote()->isHidden());
+        EXPECT_TRUE(isRequired());
+    }
+}
+
+TEST_F(PasscodeTest, NobodyIsAskedAndNothingWaitsBeforeThePasscodeMatters)
+{
+    // The first start, over a locked keychain in which somebody else's passcode is left.
+    passcode() = "left over";
+    keychain->isLocked = true;
+    keychain->isHolding = true;
     showLogin();
+    EXPECT_TRUE(isUnlocked()) << "before the keychain has answered";
+    keychain->release();
+    EXPECT_TRUE(keychain->isLocked) << "nobody was asked to unlock it";
+
+    UserDefaults::standard().setBool(true, "initialLoad");
+    reopenKeptState();
+    showSettings();
+    EXPECT_TRUE(keychain->isLocked);
+    EXPECT_EQ(settings->keychainNote()->text(), "The system's keychain is locked.");
+    flip(true);
+    EXPECT_FALSE(keychain->isLocked) << "now it matters";
+    ASSERT_NE(sheet(), nullptr);
+    EXPECT_TRUE(sheet()->oldPassword()->isHidden()) << "what was left over is no passcode of this installation";
+    EXPECT_EQ(passcode(), "");
+}
+
+TEST_F(PasscodeTest, WhileThePersonIsAskedTheScreensWait)
+{
+    passcode() = "p";
+    require();
+    keychain->isHolding = true;
+    LoginViewController& screen = showLogin();
+    EXPECT_FALSE(isUnlocked());
+    EXPECT_FALSE(screen.passwordTextField()->isHidden());
+    screen.passwordTextField()->setText("p");
+    screen.performLogin();
+    screen.performLogin();
+    EXPECT_FALSE(isUnlocked()) << "pending is not unreadable";
+    keychain->release();
+    EXPECT_TRUE(isUnlocked());
+    EXPECT_TRUE(isRequired());
+
+    // The prompt takes the keyboard: the screen is made anew, and shares the answer, which is none.
+    keychain->isHolding = true;
+    showLogin();
+    const auto replaced = login;
+    showLogin();
+    replaced->endAppearance();
+    keychain->readFailure = Keychain::locked;
+    keychain->release();
     EXPECT_TRUE(isUnlocked());
     EXPECT_FALSE(isRequired());
-    EXPECT_THAT(logged(), HasSubstr("The passcode cannot be read: "));
+
+    keychain->readFailure = 0;
+    showSettings();
+    passcode().clear();
+    Passcode::recomputeExists(Passcode::Prompt::No);
+    keychain->isHolding = true;
+    flip(true);
+    EXPECT_EQ(sheet(), nullptr) << "its rows are not known yet";
+    keychain->release();
+    ASSERT_NE(sheet(), nullptr);
+    keychain->isHolding = true;
+    save({}, "late", "late");
+    EXPECT_FALSE(sheet()->updatePassword()->isEnabled());
+    sheet()->cancel();
+    keychain->release();
+    EXPECT_EQ(passcode(), "") << "cancelled";
+    EXPECT_FALSE(isRequired());
 }
 
 TEST_F(PasscodeTest, TheSheetRefusesInOneWay)
@@ -179,20 +261,30 @@ TEST_F(PasscodeTest, TheSheetRefusesInOneWay)
     EXPECT_EQ(settings->alert()->message(), "");
 }
 
-TEST_F(PasscodeTest, AWriteThatFailedIsNotToldAsSaved)
+TEST_F(PasscodeTest, AWriteThatFailedIsNotToldAsSavedAndNotBlamedOnThePasscode)
 {
     require(false);
     showSettings();
     flip(true);
-    keychain->writesFail = true;
+    keychain->writeFailure = Keychain::locked;
     save({}, "new", "new");
     ASSERT_NE(sheet(), nullptr);
     EXPECT_EQ(sheet()->alert()->title(), "Failed");
+    EXPECT_EQ(sheet()->alert()->message(), "The system's keychain is locked. The passcode was not saved.");
     EXPECT_TRUE(sheet()->updatePassword()->isEnabled());
+    EXPECT_EQ(sheet()->verifyPassword()->text(), "new") << "to be saved again";
     EXPECT_FALSE(settings->alert()->isPresented());
     EXPECT_THAT(logged(), HasSubstr("The passcode cannot be written: "));
+    keychain->writeFailure = 0;
+    sheet()->savePW();
+    EXPECT_EQ(passcode(), "new");
+    settings->didSelectRowAtIndexPath({0, 1});
+    keychain->readFailure = Keychain::absent;
+    save("new", "newer", "newer");
+    EXPECT_EQ(sheet()->alert()->message(), "No keychain is running on this system. The passcode was not changed.");
+    keychain->readFailure = 0;
     sheet()->cancel();
-    EXPECT_FALSE(isRequired());
+    EXPECT_EQ(passcode(), "new");
 }
 
 TEST_F(PasscodeTest, TheSwitchCannotStayOnWithoutAPasscode)

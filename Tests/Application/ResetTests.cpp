@@ -47,6 +47,7 @@ protected:
         }
         saveIgnoringErrors();
         passcode() = "secret-passcode";
+        KeptState::shared().setValue(QStringLiteral("window"), 1);
         require();
         ASSERT_TRUE(UserDefaults::standard().synchronize());
     }
@@ -62,6 +63,7 @@ protected:
     {
         MainQueue::shared().runUntil([] { return false; }, std::chrono::milliseconds(50));
         UserDefaults::standard().synchronize();
+        KeptState::shared().synchronize();
         VireoLogger::flush();
     }
     std::map<std::string, std::string> files() const
@@ -135,7 +137,7 @@ TEST_F(ResetTest, AKeychainThatRefusesDoesNotKeepTheRest)
 {
     fill(2);
     const auto login = lockedScreen();
-    keychain->writesFail = true;
+    keychain->writeFailure = Keychain::timedOut;
     login->resetApplicationData();
     settle();
     EXPECT_FALSE(isRequired());

@@ -2,6 +2,7 @@
 #include "Tests/Application/SystemKeychainTests.h"
 
 #include "Application/Adapters/SystemKeychain.h"
+#include "Tests/StoredPassword.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -10,8 +11,10 @@
 #include <gmock/gmock.h>
 
 #include <iostream>
+#include <string>
 #include <sys/socket.h>
 #include <sys/un.h>
+#include <type_traits>
 #include <unistd.h>
 
 namespace lodestar::test
@@ -22,9 +25,21 @@ namespace
 
 constexpr std::chrono::milliseconds deadline{1500};
 
-void print(const char* call, const Result<std::string>& result, qint64 elapsed)
+/// Runs the call, waits for its answer and prints it.
+template <typename Function>
+void tell(const char* call, const Function& ask)
 {
-    std::cout << call << ' ' << (result ? "[" + result.value() + "]" : "error " + std::to_string(result.error().code))
+    QElapsedTimer timer;
+    timer.start();
+    const auto result = ask();
+    const qint64 elapsed = timer.elapsed();
+    std::string text = result ? std::string() : "error " + std::to_string(result.error().code);
+    if constexpr (std::is_same_v<decltype(result), const Result<std::string>>) {
+        if (result) {
+            text = "[" + result.value() + "]";
+        }
+    }
+    std::cout << call << ' ' << text
               << (elapsed < deadline.count()       ? " in time"
                   : elapsed < 2 * deadline.count() ? " at deadline"
                                                    : " late")
@@ -35,19 +50,12 @@ void print(const char* call, const Result<std::string>& result, qint64 elapsed)
 
 int runKeychainCalls()
 {
-    SystemKeychain keychain(deadline);
+    Keychain::install(std::make_unique<SystemKeychain>(deadline));
     const auto read = [&](const char* account) {
-        QElapsedTimer timer;
-        timer.start();
-        const auto result = keychain.password("Lodestar test", account);
-        print("read", result, timer.elapsed());
+        tell("read", [&] { return readPassword("Lodestar test", account); });
     };
     const auto write = [&](const std::string& password) {
-        QElapsedTimer timer;
-        timer.start();
-        const auto result = keychain.setPassword(password, "Lodestar test", "Admin");
-        print("write", result ? Result<std::string>(std::string()) : Result<std::string>(result.error()),
-              timer.elapsed());
+        tell("write", [&] { return writePassword(password, "Lodestar test", "Admin"); });
     };
     read("Admin");
     write("p\u00E4ss 'w\u014Drd' ");
@@ -57,6 +65,7 @@ int runKeychainCalls()
     read("Admin");
     write("");
     read("Admin");
+    Keychain::install(nullptr);
     return 0;
 }
 

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/FolderLock.h"
-#include "Platform/Keychain.h"
 #include "Platform/NotificationCenter.h"
 #include "Platform/Resources.h"
 #include "Platform/UserDefaults.h"
 #include "Tests/ScratchFolder.h"
+#include "Tests/StoredPassword.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -84,14 +84,15 @@ TEST(Services, AFolderIsClaimedOnceAndGivenBackWhenItsProcessEnds)
 TEST(Services, KeychainTellsItemsApartByServiceAndAccount)
 {
     Keychain::install(nullptr);
-    Keychain& keychain = Keychain::standard();
-    EXPECT_EQ(keychain.password("Login", "Admin").value(), "");
-    EXPECT_TRUE(keychain.setPassword("1234", "Login", "Admin"));
-    EXPECT_TRUE(keychain.setPassword("other", "LoginA", "dmin"));
-    EXPECT_EQ(keychain.password("Login", "Admin").value(), "1234");
-    EXPECT_TRUE(keychain.setPassword("", "Login", "Admin"));
-    EXPECT_EQ(keychain.password("Login", "Admin").value(), "");
-    EXPECT_EQ(keychain.password("LoginA", "dmin").value(), "other");
+    using test::readPassword;
+    using test::writePassword;
+    EXPECT_EQ(readPassword("Login", "Admin").value(), "");
+    EXPECT_TRUE(writePassword("1234", "Login", "Admin"));
+    EXPECT_TRUE(writePassword("other", "LoginA", "dmin"));
+    EXPECT_EQ(readPassword("Login", "Admin").value(), "1234");
+    EXPECT_TRUE(writePassword("", "Login", "Admin"));
+    EXPECT_EQ(readPassword("Login", "Admin").value(), "");
+    EXPECT_EQ(readPassword("LoginA", "dmin").value(), "other");
     Keychain::install(nullptr);
 }
 

@@ -1,12 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/LoginViewController.h"
+#include "Application/Passcode.h"
 #include "Application/PasswordCreationViewController.h"
 #include "Application/SettingsViewController.h"
 #include "Kit/Core/NavigationController.h"
 #include "Kit/Core/Storyboard.h"
-#include "Platform/Keychain.h"
 #include "Platform/UserDefaults.h"
 #include "Tests/Scenes/Looks.h"
+#include "Tests/StoredPassword.h"
 
 #include <tuple>
 
@@ -19,7 +20,7 @@ const QString passcode = QStringLiteral("evening star");
 
 void setLock(const QString& stored, bool required)
 {
-    std::ignore = Keychain::standard().setPassword(stored.toStdString(), "Login", "Admin");
+    std::ignore = test::writePassword(stored.toStdString());
     UserDefaults::standard().setBool(required, "requirePassword");
 }
 
@@ -86,6 +87,12 @@ std::vector<Look> lockLooks()
                  {
                      {"settings-on", fleet(), [](SceneStage& stage) { showSettings(stage, passcode, true); }, true},
                      {"settings-off", fleet(), [](SceneStage& stage) { showSettings(stage, {}, false); }},
+                     {"settings-keychain", fleet(),
+                      [](SceneStage& stage) {
+                          Passcode::rememberLockOff({"Keychain", Keychain::locked, {}, {}, nullptr});
+                          showSettings(stage, {}, false);
+                          Passcode::forgetLockOff();
+                      }},
                      {"settings-passcode-new", fleet(), [](SceneStage& stage) { showSheet(stage, false); }},
                      {"settings-passcode", fleet(), [](SceneStage& stage) { showSheet(stage, true); }, true},
                      {"settings-passcode-failed", fleet(),

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/PasswordCreationViewController.h"
 #include "Application/SettingsViewController.h"
-#include "Platform/Keychain.h"
 #include "Platform/UserDefaults.h"
 #include "Tests/Scenes/SceneTest.h"
+#include "Tests/StoredPassword.h"
 
 #include <tuple>
 
@@ -17,7 +17,7 @@ class SettingsTest : public SceneTest
 protected:
     SettingsTest()
     {
-        std::ignore = Keychain::standard().setPassword({}, "Login", "Admin");
+        std::ignore = test::writePassword({});
         UserDefaults::standard().setBool(false, "requirePassword");
     }
     void open()
@@ -29,7 +29,7 @@ protected:
         ASSERT_TRUE(stage.waitFor([this] { return stage.item("passwordSwitch") != nullptr; }));
         stage.settle(200);
     }
-    static std::string passcode() { return Keychain::standard().password("Login", "Admin").value(); }
+    static std::string passcode() { return test::readPassword().value(); }
     /// Up, with its bar on top of that many points.
     bool waitForSheetOf(double height) const
     {
@@ -108,7 +108,7 @@ TEST_F(SettingsTest, CancellingTheFirstPasscodeTurnsTheSwitchBack)
 
 TEST_F(SettingsTest, TheSheetIsAsTallAsItsRows)
 {
-    std::ignore = Keychain::standard().setPassword("p", "Login", "Admin");
+    std::ignore = test::writePassword("p");
     UserDefaults::standard().setBool(true, "requirePassword");
     open();
     click(stage.item("passwordCell"));

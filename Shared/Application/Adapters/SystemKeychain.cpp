@@ -1,17 +1,19 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Adapters/SystemKeychain.h"
 
+#include "Application/Adapters/SecretService.h"
+#include "Platform/Queues/MainQueue.h"
 #include "Platform/Queues/OwnThread.h"
 
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QEvent>
 #include <QObject>
 #include <QString>
 #include <QThread>
 #include <qt6keychain/keychain.h>
 
-#include <condition_variable>
-#include <functional>
+#include <deque>
 #include <mutex>
 #include <optional>
 #include <utility>
@@ -22,39 +24,102 @@ namespace lodestar
 namespace
 {
 
-Error makeError(int code, std::string text)
+Error makeError(int code, std::string text, std::string reason = {})
 {
-    return {"Keychain", code, std::move(text), {}, nullptr};
+    return {"Keychain", code, std::move(text), std::move(reason), nullptr};
 }
 
-/// What a job left behind when it ended.
-struct Answer {
-    QKeychain::Error code;
-    std::string text; ///< the password, or why there is none
-};
+Error lockedError(std::string reason = {})
+{
+    return makeError(Keychain::locked, "The keychain is locked.", std::move(reason));
+}
 
-/// One question to the service, shared by the caller, who may give up, and the job, which may end later or never.
+/// One request, shared by the main thread, which may give it up, and the keychain's, where it may end later or never.
 struct Call {
+    Call(SecretQuestion theQuestion, std::function<QKeychain::Job*()> theMaker,
+         std::function<void(Result<std::string>)> theAnswer)
+        : question(std::move(theQuestion)), makeJob(std::move(theMaker)), answer(std::move(theAnswer))
+    {
+    }
+
+    const SecretQuestion question;
+    const std::function<QKeychain::Job*()> makeJob;
+    const std::function<void(Result<std::string>)> answer; ///< main thread
+
     std::mutex mutex;
-    std::condition_variable answered;
-    std::optional<Answer> answer;
+    std::optional<Result<std::string>> result;
+    bool asksThePerson = false;
 };
 
-Answer answerOf(QKeychain::Job* job)
+/// Null when the service has to be asked, which may bring up a prompt.
+std::optional<Result<std::string>> answerWithoutJob(const SecretQuestion& question, bool reads, SecretAccess access)
 {
-    if (job->error() != QKeychain::NoError) {
-        return {job->error(), job->errorString().toStdString()};
+    switch (access) {
+    case SecretAccess::NoService:
+        return makeError(Keychain::absent, "No keychain is running.");
+    case SecretAccess::NoItem:
+        return question.writes ? std::nullopt : std::optional<Result<std::string>>(std::string());
+    case SecretAccess::Locked:
+        return question.mayPrompt ? std::nullopt : std::optional<Result<std::string>>(lockedError());
+    case SecretAccess::Unknown:
+        return reads || question.mayPrompt ? std::nullopt : std::optional<Result<std::string>>(lockedError());
+    case SecretAccess::Free:
+        break;
     }
-    const auto* const read = qobject_cast<QKeychain::ReadPasswordJob*>(job);
-    return {QKeychain::NoError, read != nullptr ? read->textData().toStdString() : std::string()};
+    return std::nullopt;
 }
 
-/// A question on its way to the thread that asks it.
-class AskEvent final : public QEvent
+Result<std::string> resultOf(QKeychain::Job* job, SecretAccess access)
+{
+    const auto* const read = qobject_cast<QKeychain::ReadPasswordJob*>(job);
+    if (job->error() == QKeychain::NoError) {
+        return read != nullptr ? read->textData().toStdString() : std::string();
+    }
+    if (access == SecretAccess::Locked) {
+        // Nobody unlocked it. The library calls that an item that is not there.
+        return lockedError(job->errorString().toStdString());
+    }
+    if (read != nullptr && job->error() == QKeychain::EntryNotFound) {
+        return std::string();
+    }
+    return makeError(job->error(), job->errorString().toStdString());
+}
+
+} // namespace
+
+/// Main thread, but for `settle`.
+struct SystemKeychain::State : std::enable_shared_from_this<State> {
+    class Starter;
+    class AskEvent;
+
+    State(std::chrono::milliseconds theDeadline, Begin begin);
+    ~State();
+    State(const State&) = delete;
+    State& operator=(const State&) = delete;
+
+    void ask(SecretQuestion question, std::function<QKeychain::Job*()> makeJob,
+             std::function<void(Result<std::string>)> answer);
+    void startNext();
+    void timeIsUp(const std::shared_ptr<Call>& call);
+    void ended();
+    /// Any thread. The state may be gone.
+    static void settle(const std::weak_ptr<State>& state, Call& call, Result<std::string> result);
+
+    const std::chrono::milliseconds deadline;
+    bool hasBegun;
+    std::deque<std::shared_ptr<Call>> waiting;
+    std::shared_ptr<Call> current; ///< with the service; the library runs one job at a time
+    bool givenUp = false;          ///< the current one: it has been answered, but has not ended
+    std::unique_ptr<QThread> thread = std::make_unique<QThread>();
+    std::unique_ptr<Starter> starter;
+};
+
+/// A request on its way to the keychain's thread.
+class SystemKeychain::State::AskEvent final : public QEvent
 {
 public:
-    AskEvent(std::shared_ptr<Call> theCall, std::function<QKeychain::Job*()> theMaker)
-        : QEvent(eventType()), call(std::move(theCall)), makeJob(std::move(theMaker))
+    AskEvent(std::weak_ptr<State> theState, std::shared_ptr<Call> theCall, std::chrono::milliseconds theLimit)
+        : QEvent(eventType()), state(std::move(theState)), call(std::move(theCall)), limit(theLimit)
     {
     }
     static Type eventType()
@@ -63,12 +128,13 @@ public:
         return static_cast<Type>(type);
     }
 
+    const std::weak_ptr<State> state;
     const std::shared_ptr<Call> call;
-    const std::function<QKeychain::Job*()> makeJob;
+    const std::chrono::milliseconds limit;
 };
 
 /// Starts the jobs, on the thread on which it lives.
-class Starter final : public QObject
+class SystemKeychain::State::Starter final : public QObject
 {
 public:
     bool event(QEvent* event) override
@@ -77,108 +143,174 @@ public:
             return QObject::event(event);
         }
         const auto& ask = static_cast<const AskEvent&>(*event);
-        QKeychain::Job* const job = ask.makeJob();
-        connect(job, &QKeychain::Job::finished, job, [call = ask.call](QKeychain::Job* finished) {
+        start(ask.state, ask.call, ask.limit);
+        return true;
+    }
+
+private:
+    static void start(const std::weak_ptr<State>& state, const std::shared_ptr<Call>& call,
+                      std::chrono::milliseconds limit)
+    {
+        const SecretAccess access = secretAccess(call->question, limit);
+        auto* const job = call->makeJob();
+        const bool reads = qobject_cast<QKeychain::ReadPasswordJob*>(job) != nullptr;
+        if (auto answer = answerWithoutJob(call->question, reads, access)) {
+            delete job;
+            settle(state, *call, std::move(*answer));
+            return;
+        }
+        {
             const std::lock_guard lock(call->mutex);
-            call->answer = answerOf(finished);
-            call->answered.notify_all();
-        });
+            call->asksThePerson = access == SecretAccess::Locked;
+        }
+        connect(job, &QKeychain::Job::finished, job,
+                [state, call, access](QKeychain::Job* finished) { settle(state, *call, resultOf(finished, access)); });
         job->setAutoDelete(true);
         // Never a plain file in place of the service.
         job->setInsecureFallback(false);
         job->start();
-        return true;
     }
 };
 
-} // namespace
-
-/// The thread on which every job lives. The library runs one job at a time, so one that never ends blocks all others.
-class SystemKeychain::Worker
+SystemKeychain::State::State(std::chrono::milliseconds theDeadline, Begin begin)
+    : deadline(theDeadline), hasBegun(begin == Begin::AtOnce), starter(std::make_unique<Starter>())
 {
-public:
-    explicit Worker(std::chrono::milliseconds deadline) : m_deadline(deadline)
-    {
-        m_thread->setObjectName(QStringLiteral("lodestar-keychain"));
-        m_starter->moveToThread(m_thread.get());
-        QObject::connect(
-            m_thread.get(), &QThread::started, m_thread.get(),
-            [] { static thread_local const OwnThread thread("lodestar-keych"); }, Qt::DirectConnection);
-        m_thread->start();
+    thread->setObjectName(QStringLiteral("lodestar-keychain"));
+    starter->moveToThread(thread.get());
+    QObject::connect(
+        thread.get(), &QThread::started, thread.get(),
+        [] { static thread_local const OwnThread own("lodestar-keych"); }, Qt::DirectConnection);
+}
+
+SystemKeychain::State::~State()
+{
+    thread->quit();
+    if (thread->wait(QDeadlineTimer(deadline))) {
+        return;
     }
-    ~Worker()
+    // Stuck inside the library, for good perhaps: Qt ends a process that destroys a running thread.
+    static_cast<void>(thread.release());
+    static_cast<void>(starter.release());
+}
+
+void SystemKeychain::State::ask(SecretQuestion question, std::function<QKeychain::Job*()> makeJob,
+                                std::function<void(Result<std::string>)> answer)
+{
+    if (givenUp) {
+        answer(makeError(timedOut, "The keychain service has not answered an earlier request."));
+        return;
+    }
+    waiting.push_back(std::make_shared<Call>(std::move(question), std::move(makeJob), std::move(answer)));
+    startNext();
+}
+
+void SystemKeychain::State::startNext()
+{
+    if (!hasBegun || current || waiting.empty()) {
+        return;
+    }
+    if (!thread->isRunning()) {
+        thread->start();
+    }
+    current = std::move(waiting.front());
+    waiting.pop_front();
+    MainQueue::shared().asyncAfter(deadline, [state = weak_from_this(), call = current] {
+        if (const auto self = state.lock()) {
+            self->timeIsUp(call);
+        }
+    });
+    QCoreApplication::postEvent(starter.get(), new AskEvent(weak_from_this(), current, deadline));
+}
+
+void SystemKeychain::State::timeIsUp(const std::shared_ptr<Call>& call)
+{
+    if (call != current || givenUp) {
+        return;
+    }
     {
-        m_thread->quit();
-        if (m_thread->wait(QDeadlineTimer(m_deadline))) {
+        const std::lock_guard lock(call->mutex);
+        if (call->result || call->asksThePerson) {
             return;
         }
-        // Stuck inside the library, for good perhaps: Qt ends a process that destroys a running thread.
-        static_cast<void>(m_thread.release());
-        static_cast<void>(m_starter.release());
     }
-    Worker(const Worker&) = delete;
-    Worker& operator=(const Worker&) = delete;
+    givenUp = true;
+    const auto unanswered = std::exchange(waiting, {});
+    call->answer(makeError(timedOut, "The keychain service does not answer."));
+    for (const auto& later : unanswered) {
+        later->answer(makeError(timedOut, "The keychain service has not answered an earlier request."));
+    }
+}
 
-    Result<std::string> ask(std::function<QKeychain::Job*()> makeJob)
+void SystemKeychain::State::ended()
+{
+    const auto call = std::exchange(current, nullptr);
+    if (!std::exchange(givenUp, false)) {
+        call->answer(std::move(*call->result));
+    }
+    startNext();
+}
+
+void SystemKeychain::State::settle(const std::weak_ptr<State>& state, Call& call, Result<std::string> result)
+{
     {
-        if (m_owed != nullptr) {
-            const std::lock_guard lock(m_owed->mutex);
-            if (!m_owed->answer) {
-                return makeError(timedOut, "The keychain service has not answered an earlier request.");
-            }
-        }
-        m_owed.reset();
-        const auto call = std::make_shared<Call>();
-        QCoreApplication::postEvent(m_starter.get(), new AskEvent(call, std::move(makeJob)));
-        std::unique_lock lock(call->mutex);
-        if (!call->answered.wait_for(lock, m_deadline, [&] { return call->answer.has_value(); })) {
-            m_owed = call;
-            return makeError(timedOut, "The keychain service does not answer.");
-        }
-        if (call->answer->code != QKeychain::NoError) {
-            return makeError(call->answer->code, std::move(call->answer->text));
-        }
-        return std::move(call->answer->text);
+        const std::lock_guard lock(call.mutex);
+        call.result = std::move(result);
     }
+    MainQueue::shared().async([state] {
+        if (const auto self = state.lock()) {
+            self->ended();
+        }
+    });
+}
 
-private:
-    const std::chrono::milliseconds m_deadline;
-    std::unique_ptr<QThread> m_thread = std::make_unique<QThread>();
-    std::unique_ptr<Starter> m_starter = std::make_unique<Starter>();
-    std::shared_ptr<Call> m_owed; ///< the call that was given up, until it is known to have ended
-};
-
-SystemKeychain::SystemKeychain(std::chrono::milliseconds deadline) : m_worker(std::make_unique<Worker>(deadline)) {}
+SystemKeychain::SystemKeychain(std::chrono::milliseconds deadline, Begin begin)
+    : m_state(std::make_shared<State>(deadline, begin))
+{
+}
 
 SystemKeychain::~SystemKeychain() = default;
 
-Result<std::string> SystemKeychain::password(const std::string& service, const std::string& account)
+void SystemKeychain::begin()
 {
-    auto answer = m_worker->ask([service, account] {
-        auto* const job = new QKeychain::ReadPasswordJob(QString::fromStdString(service));
-        job->setKey(QString::fromStdString(account));
-        return job;
-    });
-    if (!answer && answer.error().code == QKeychain::EntryNotFound) {
-        return std::string();
-    }
-    return answer;
+    m_state->hasBegun = true;
+    m_state->startNext();
 }
 
-Result<void> SystemKeychain::setPassword(const std::string& password, const std::string& service,
-                                         const std::string& account)
+void SystemKeychain::readPassword(const std::string& service, const std::string& account, Prompt prompt, Read answer)
+{
+    const QString name = QString::fromStdString(account);
+    const QString place = QString::fromStdString(service);
+    m_state->ask(
+        {.service = place, .account = name, .writes = false, .mayPrompt = prompt == Prompt::Allowed},
+        [place, name] {
+            auto* const job = new QKeychain::ReadPasswordJob(place);
+            job->setKey(name);
+            return job;
+        },
+        std::move(answer));
+}
+
+void SystemKeychain::writePassword(const std::string& password, const std::string& service, const std::string& account,
+                                   Prompt prompt, Written answer)
 {
     // The service would keep what stands before it, and call that a success.
     if (password.find('\0') != std::string::npos) {
-        return makeError(notAText, "The keychain service keeps no text with a null character.");
+        answer(makeError(notAText, "The keychain service keeps no text with a null character."));
+        return;
     }
-    const Result<std::string> answer = m_worker->ask([password, service, account] {
-        auto* const job = new QKeychain::WritePasswordJob(QString::fromStdString(service));
-        job->setKey(QString::fromStdString(account));
-        job->setTextData(QString::fromStdString(password));
-        return job;
-    });
-    return answer ? Result<void>() : Result<void>(answer.error());
+    const QString name = QString::fromStdString(account);
+    const QString place = QString::fromStdString(service);
+    m_state->ask(
+        {.service = place, .account = name, .writes = !password.empty(), .mayPrompt = prompt == Prompt::Allowed},
+        [place, name, text = QString::fromStdString(password)] {
+            auto* const job = new QKeychain::WritePasswordJob(place);
+            job->setKey(name);
+            job->setTextData(text);
+            return job;
+        },
+        [answer = std::move(answer)](const Result<std::string>& result) {
+            answer(result ? Result<void>() : Result<void>(result.error()));
+        });
 }
 
 } // namespace lodestar

@@ -9,33 +9,37 @@
 namespace lodestar
 {
 
-/// The desktop's secret service. The service is asked from a thread of its own, and the caller waits without running
-/// events, so that nothing else happens on the main thread meanwhile.
+/// The desktop's secret service. Everything that may wait for it is done on a thread of its own, one request after the
+/// other.
 ///
-/// A call that the service does not answer by the deadline fails; while it still owes that answer, further calls fail
-/// at once rather than each wait the deadline out. A write that failed so may yet be carried out when the service wakes
-/// up.
+/// A request that the service does not answer by the deadline fails, unless the service is asking the person meanwhile:
+/// that takes as long as it takes, and later requests wait. While the service still owes an answer that was given up,
+/// further requests fail at once rather than each wait the deadline out. A write that was given up may yet be carried
+/// out when the service wakes up.
 ///
-/// Errors are of the domain "Keychain", with the codes of the service's library, `timedOut` and `notAText`.
+/// Before anything is asked that could bring up a prompt the service is asked whether the item exists and is unlocked,
+/// which brings up none.
 class SystemKeychain final : public Keychain
 {
 public:
-    static constexpr int timedOut = -1;
-    /// A password with a null character in it, which the service cannot keep.
-    static constexpr int notAText = -2;
+    enum class Begin { AtOnce, WhenTold };
 
-    explicit SystemKeychain(std::chrono::milliseconds deadline = std::chrono::seconds(3));
+    explicit SystemKeychain(std::chrono::milliseconds deadline = std::chrono::seconds(3), Begin begin = Begin::AtOnce);
+    /// Requests that are under way are not answered.
     ~SystemKeychain() override;
     SystemKeychain(const SystemKeychain&) = delete;
     SystemKeychain& operator=(const SystemKeychain&) = delete;
 
-    Result<std::string> password(const std::string& service, const std::string& account) override;
-    Result<void> setPassword(const std::string& password, const std::string& service,
-                             const std::string& account) override;
+    /// What was asked before waits for this: a program asks once its first frame is drawn.
+    void begin();
+
+    void readPassword(const std::string& service, const std::string& account, Prompt prompt, Read answer) override;
+    void writePassword(const std::string& password, const std::string& service, const std::string& account,
+                       Prompt prompt, Written answer) override;
 
 private:
-    class Worker;
-    std::unique_ptr<Worker> m_worker;
+    struct State;
+    std::shared_ptr<State> m_state;
 };
 
 } // namespace lodestar
