@@ -2,6 +2,7 @@
 #include "Application/FeedbackSupport.h"
 
 #include "Application/FeedbackWindow.h"
+#include "Application/KeptState.h"
 #include "Application/Model/Corvel.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/CrashCapture.h"
@@ -10,15 +11,14 @@
 #include "Feedback/UI/FeedbackHost.h"
 #include "Feedback/UI/ScreenGrabber.h"
 #include "Feedback/VireoLogger.h"
+#include "Platform/NotificationCenter.h"
 #include "Platform/Queues/DispatchQueue.h"
 #include "Platform/UserDefaults.h"
 #include "Platform/UtcStamp.h"
 
-#include <QInputDevice>
 #include <QPointer>
 #include <QStandardPaths>
 
-#include <algorithm>
 #include <ctime>
 
 namespace lodestar
@@ -52,12 +52,10 @@ ReportStore reportStore(const QString& dataFolder)
     return ReportStore((dataFolder + QStringLiteral("/Reports")).toStdString());
 }
 
-bool hasTouchScreen()
+/// That the device has a sensor, which is not looked for before the first screen is drawn.
+QString shakenKey()
 {
-    const QList<const QInputDevice*> devices = QInputDevice::devices();
-    return std::any_of(devices.begin(), devices.end(), [](const QInputDevice* device) {
-        return device->type() == QInputDevice::DeviceType::TouchScreen;
-    });
+    return QStringLiteral("shaken");
 }
 
 FeedbackSetup setupFor(const QString& dataFolder, const QString& version)
@@ -141,8 +139,8 @@ FeedbackSupport::FeedbackSupport(FeedbackWindow& window, const QString& dataFold
             window.feedbackHost()->present(grabCovered(window));
         }
     });
-    // What stands on a desk is not shaken: there the console list has a button.
-    VireoLogger::settings().offersEntry = !hasTouchScreen();
+    // What cannot tell a shake, with a touch screen or without, has a button in the console list.
+    VireoLogger::settings().offersEntry = !KeptState::shared().value(shakenKey()).toBool();
     QObject::connect(
         &window, &QQuickWindow::frameSwapped, &window, [this, &window] { startAfterFirstFrame(window); },
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
@@ -158,11 +156,16 @@ void FeedbackSupport::startAfterFirstFrame(FeedbackWindow& window)
 {
     DispatchQueue::globalBackground().async([] { CrashCapture::recordModules(); });
     window.feedbackHost()->offerCrashes();
+    bool isShaken = false;
     if (VireoLogger::settings().reportOnShake) {
         m_sensor = std::make_unique<ShakeSensor>([&window] {
             window.motionBegan(FeedbackWindow::EventType::Motion, FeedbackWindow::EventSubtype::MotionShake);
         });
+        isShaken = m_sensor->isThere();
     }
+    KeptState::shared().setValue(shakenKey(), isShaken ? QJsonValue(true) : QJsonValue(QJsonValue::Undefined));
+    VireoLogger::settings().offersEntry = !isShaken;
+    NotificationCenter::defaultCenter().postNotification("FeedbackEntryDidChange");
 }
 
 } // namespace lodestar

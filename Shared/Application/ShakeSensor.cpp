@@ -41,4 +41,9 @@ ShakeSensor::ShakeSensor(std::function<void()> shaken) : m_state(std::make_uniqu
 
 ShakeSensor::~ShakeSensor() = default;
 
+bool ShakeSensor::isThere() const
+{
+    return m_state->sensor.isActive();
+}
+
 } // namespace lodestar

@@ -16,6 +16,9 @@ public:
     ShakeSensor(const ShakeSensor&) = delete;
     ShakeSensor& operator=(const ShakeSensor&) = delete;
 
+    /// Whether the device can be shaken at all.
+    bool isThere() const;
+
 private:
     struct State;
     std::unique_ptr<State> m_state;

@@ -11,6 +11,7 @@
 #include "Application/Model/StoreStack.h"
 #include "Application/PrivacyCover.h"
 #include "Application/TerminationSignals.h"
+#include "Application/WindowPlace.h"
 #include "Feedback/VireoLogger.h"
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/MainLoop.h"
@@ -131,6 +132,7 @@ int main(int argc, char** argv)
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
     delegate.showInitialViewController();
     window->loadInterface();
+    std::unique_ptr<WindowPlace> place;
     if (options.fullScreen) {
         // A bare X server has no window manager that would grant the full screen, or give a window the keyboard.
         window->setFlag(Qt::FramelessWindowHint);
@@ -139,6 +141,7 @@ int main(int argc, char** argv)
         window->requestActivate();
     } else {
         window->resize(390, 844);
+        place = std::make_unique<WindowPlace>(*window);
         window->show();
     }
     DesktopSettings desktop([](bool reduced) { Appearance::shared().setSystemReducedMotion(reduced); });
@@ -153,6 +156,7 @@ int main(int argc, char** argv)
     const int status = QGuiApplication::exec();
     delegate.applicationWillTerminate();
     feedback.reset();
+    place.reset();
     FeedbackWindow::tearDown();
     UserDefaults::standard().synchronize();
     KeptState::shared().synchronize();

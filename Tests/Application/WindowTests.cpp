@@ -1,12 +1,28 @@
 // SPDX-License-Identifier: Apache-2.0
 // The real window as a person meets it: on the first day, and with a keyboard on a small screen.
 #include "Application/FeedbackSupport.h"
+#include "Application/WindowPlace.h"
 #include "Tests/Application/LockedWindowFixture.h"
+
+#include <QSensorBackend>
+#include <QSensorManager>
+
+#include <fstream>
 
 namespace lodestar::lock
 {
 namespace
 {
+
+/// An accelerometer that is there, and at rest.
+class Accelerometer final : public QSensorBackend, public QSensorBackendFactory
+{
+public:
+    explicit Accelerometer(QSensor* sensor) : QSensorBackend(sensor) {}
+    void start() override {}
+    void stop() override {}
+    QSensorBackend* createBackend(QSensor* sensor) override { return new Accelerometer(sensor); }
+};
 
 TEST_F(LockedWindowTest, TheTourIsShownOnTheFirstDayAndAfterAReset)
 {
@@ -72,6 +88,53 @@ TEST_F(LockedWindowTest, FieldsAreSeenOverAKeyboardOnAPhoneThatIsHeldAcross)
         const double noteTop = window().activeFocusItem()->mapToScene({0, 0}).y();
         return noteTop >= 40 && noteTop <= top - 60;
     }));
+}
+
+TEST_F(LockedWindowTest, ComesBackWhereItStoodAndWithTheButtonThatItsDeviceNeeds)
+{
+    const auto start = [this] {
+        FeedbackWindow::tearDown();
+        reopenKeptState();
+        window().resize(390, 844);
+        return std::make_unique<WindowPlace>(window());
+    };
+    std::ofstream(folder.file("Lodestar.state")) << "{\"window\": [";
+    auto place = start();
+    EXPECT_EQ(window().size(), QSize(390, 844)) << "nothing is known";
+    open(false);
+    window().setGeometry(60, 40, 500, 600);
+    settle();
+    window().setWindowStates(Qt::WindowMaximized);
+    settle(600);
+    ASSERT_NE(window().size(), QSize(500, 600));
+    place.reset();
+    place = start();
+    EXPECT_TRUE(window().windowStates().testFlag(Qt::WindowMaximized));
+    window().setWindowStates(Qt::WindowNoState);
+    EXPECT_EQ(window().geometry(), QRect(60, 40, 500, 600)) << "where it goes back to";
+
+    // A screen that is not there any more, and was larger.
+    KeptState::shared().setValue(QStringLiteral("window"),
+                                 QJsonObject{{"x", 5000}, {"y", 40}, {"width", 3000}, {"height", 600}});
+    place = start();
+    EXPECT_TRUE(window().screen()->availableGeometry().contains(window().geometry()));
+    EXPECT_EQ(window().height(), 600);
+
+    const auto isButtonHidden = [&] {
+        place = start();
+        const FeedbackSupport support(window(), QString::fromStdString(folder.path()), QStringLiteral("1.0.0"));
+        open(false);
+        settle(200);
+        return list().isFeedbackHidden();
+    };
+    EXPECT_FALSE(isButtonHidden());
+    Accelerometer factory(nullptr);
+    QSensorManager::registerBackend("QAccelerometer", "test.accelerometer", &factory);
+    QSensorManager::setDefaultBackend("QAccelerometer", "test.accelerometer");
+    EXPECT_TRUE(isButtonHidden());
+    QSensorManager::unregisterBackend("QAccelerometer", "test.accelerometer");
+    EXPECT_FALSE(isButtonHidden());
+    place.reset();
 }
 
 } // namespace

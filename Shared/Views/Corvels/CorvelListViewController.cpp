@@ -106,6 +106,7 @@ void CorvelListViewController::observeNotifications()
     m_observations.push_back(center.addObserver("CorvelAdded", [this] { showCorvels(); }));
     m_observations.push_back(center.addObserver("StatusWillShow", [this] { statusWillShow(); }));
     m_observations.push_back(center.addObserver("StatusShouldHide", [this] { statusShouldHide(); }));
+    m_observations.push_back(center.addObserver("FeedbackEntryDidChange", [this] { Q_EMIT feedbackHiddenChanged(); }));
 }
 
 void CorvelListViewController::addTestCorvel()

@@ -26,7 +26,7 @@ class CorvelListViewController : public lodestar::SheetHostController, public Ta
     Q_PROPERTY(lodestar::TableOutlet* tableView READ tableView CONSTANT)
     Q_PROPERTY(lodestar::RefreshControl* refreshControl READ refreshControl CONSTANT)
     Q_PROPERTY(bool settingsHidden READ isSettingsHidden CONSTANT)
-    Q_PROPERTY(bool feedbackHidden READ isFeedbackHidden CONSTANT)
+    Q_PROPERTY(bool feedbackHidden READ isFeedbackHidden NOTIFY feedbackHiddenChanged)
 
 public:
     enum class FromExpansion { No, Yes };
@@ -45,7 +45,7 @@ public:
     /// The settings button is not there while the storyboard has no settings.
     bool isSettingsHidden() const;
 
-    /// The feedback button is there on devices that are not shaken.
+    /// The feedback button is there on devices that are not shaken. Whether this one is shows after the first frame.
     bool isFeedbackHidden() const;
 
     Q_INVOKABLE void addCorvel();
@@ -73,6 +73,9 @@ public:
     void showCorvels();
     void statusWillShow();
     void statusShouldHide();
+
+Q_SIGNALS:
+    void feedbackHiddenChanged();
 
 protected:
     void viewDidLoad() override;
