@@ -73,7 +73,7 @@ void MSDetailViewController::openRow(IndexPath indexPath)
 
 QString MSDetailViewController::builtDocumentationBase()
 {
-    return QStringLiteral(LODESTAR_REFERENCE_CODE_URL);
+    return QStringLiteral(LODESTAR_REFERENCE_CODE_ADDRESS);
 }
 
 QUrl MSDetailViewController::documentationURL(const QString& referenceCode) const

@@ -8,7 +8,7 @@ namespace lodestar
 {
 
 /// The facts of one managed system. Its reference code leads to the code's documentation in the system browser, where
-/// the documentation's address was given to the build (LODESTAR_REFERENCE_CODE_URL).
+/// the documentation's address was given to the build (LODESTAR_REFERENCE_CODE_ADDRESS).
 class MSDetailViewController : public lodestar::DetailViewController, public RootXMLReceiving
 {
     Q_OBJECT
