@@ -4,6 +4,7 @@
 #include "Tests/Injection.h"
 #include "Tests/LongRun.h"
 
+#include <algorithm>
 #include <array>
 #include <malloc.h>
 #include <random>
@@ -23,16 +24,18 @@ simulator::Settings forgetfulFleet(int consoles)
     return settings;
 }
 
-/// Peak memory of a first refresh of so many, a console.
+/// Peak memory of the first refreshes of so many, a console.
 double memoryOfFleet(Outcome& outcome, int consoles)
 {
     Drive drive(outcome, forgetfulFleet(consoles));
     malloc_trim(0);
     const double before = startPeak();
-    drive.refresh(seconds(900));
+    // On a busy machine some of so many logons run into their limit; a pull brings those back.
     int online = 0;
-    for (const CorvelRef& console : drive.consoles()) {
-        online += console->isOnline ? 1 : 0;
+    for (int pull = 0; pull < 3 && online < consoles; ++pull) {
+        drive.refresh(seconds(900));
+        online = static_cast<int>(
+            std::ranges::count_if(drive.consoles(), [](const CorvelRef& console) { return console->isOnline.load(); }));
     }
     outcome.expect(online == consoles, std::to_string(online) + " are online");
     return (memory("VmHWM") - before) / consoles;
