@@ -113,7 +113,7 @@ class Run:
         self.output.seek(0)
         text = self.output.read().decode(errors="replace")
         found = self.read_drive(text) if self.drive else self.read_tests()
-        found.peak = self.peak / 1024
+        found.peak = max(found.peak, self.peak / 1024)
         if hung:
             found.troubles.append("did not end in time")
         elif self.process.returncode != 0:
@@ -141,7 +141,7 @@ class Run:
             told = json.loads(last[0])
         except json.JSONDecodeError:
             return Found(tries=1, troubles=["told nothing"])
-        return Found(told["tries"], told["survived"], ratio=told["ratio"], lost=told["lost"] > 0)
+        return Found(told["tries"], told["survived"], told["peak"], told["ratio"], told["lost"] > 0)
 
     def read_tests(self):
         """A test counts as often as it says that it provoked its fault, or once."""
@@ -189,17 +189,17 @@ def page(results):
 Made by `./test --faults -- --page docs/reliability.md`, and to be made anew whenever a row changes. Each row ran in a
 process of its own against the real client: simulated consoles that misbehave, files that cannot be written, processes
 that are killed. A row counts as survived when nothing crashed or hung, each request settled just once, the consoles
-beside it showed what they show without the fault, and what had been stored was read back afterwards. Peak memory is that
-of the whole process, its window and its test included. The last column is the time of the latest of the other consoles,
-divided by their time without the fault.
+beside it had what they have without the fault, and what had been stored was read back afterwards. Peak memory is that
+of the whole process, its test included. The last column is the time of the latest of the other consoles, divided by
+their time without the fault.
 
 | fault | what must happen | survived | peak memory | nothing lost | others |
 |---|---|---|---|---|---|
 {rows}
 
 Not in the table: the fuzzers (`./test --fuzz SECONDS`) and the sanitizers (`./test --asan`, `./test --tsan`), which run
-the same tests. Where memory for a few bytes cannot be had at all, the process ends: see what the row of the i-th
-allocation tries, which is the reading of feeds and the store.
+the same tests. One allocation that fails is bridged by a reserve; where no memory at all is left, the process ends, and
+what was saved stays.
 """
 
 

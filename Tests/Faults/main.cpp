@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // One row of the fault table: its name is the only argument. What it found is the last line of its output.
 #include "Platform/MemoryReserve.h"
-#include "Tests/Faults/Rows.h"
+#include "Tests/Faults/Drive.h"
 
 #include <fmt/format.h>
 
@@ -36,8 +36,8 @@ void Outcome::print() const
     for (const std::string& trouble : m_troubles) {
         fmt::print("\ntrouble: {}", trouble);
     }
-    fmt::print("\n{{\"tries\": {}, \"survived\": {}, \"ratio\": {:.3f}, \"lost\": {}}}\n", m_tries, m_survived, m_ratio,
-               m_lost);
+    fmt::print("\n{{\"tries\": {}, \"survived\": {}, \"ratio\": {:.3f}, \"peak\": {:.1f}, \"lost\": {}}}\n", m_tries,
+               m_survived, m_ratio, memory("VmHWM") / 1024 / 1024, m_lost);
 }
 
 } // namespace lodestar::faults
