@@ -136,7 +136,7 @@ TEST_F(LogonTest, FailedLogonsRejectWithTheirErrorAndLeaveTheStoreAlone)
     EXPECT_EQ(refused.error().code, -1000);
     EXPECT_EQ(refused.error().failureReason, "");
     EXPECT_THAT(takeLines(), Contains("Logon failed for Corvel: Console 0: status 401").Times(1));
-    EXPECT_EQ(shownDescription(refused.error()), "The console did not accept the user or the password.");
+    EXPECT_EQ(shownDescription(refused.error()), "The console did not accept user or password.");
 
     defaults().setString("stale", simulator.address());
     EXPECT_EQ(settled(handler().login(corvel, CheckToken::Yes)).error().domain, "RXPromise");

@@ -138,7 +138,7 @@ TEST_F(DeltaCorvelTest, AFailedLogonLeavesARecordThatTheNextSaveReusesAndCancelD
     editor->saveCorvel(); // does nothing while the first is under way
     ASSERT_TRUE(runUntil([&] { return hasFailed(); }));
     EXPECT_THAT(takeNotifications(), ElementsAre("StatusWillShow"));
-    EXPECT_EQ(editor->statusLabel()->text(), "The address refuses the connection. Check the address.");
+    EXPECT_EQ(editor->statusLabel()->text(), "This address cannot be reached.");
     const LoggedLine failure = lines(editorFile).back();
     EXPECT_EQ(failure.method, "-[DeltaCorvelViewController saveCorvel:]");
     EXPECT_THAT(failure.message, ::testing::MatchesRegex("Error: .+ - > saveCorvel:"));

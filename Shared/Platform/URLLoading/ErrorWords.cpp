@@ -23,19 +23,14 @@ constexpr std::array<Words, 11> words = {{
     {URLErrorCode::BadURL, QT_TRANSLATE_NOOP("ErrorWords", "The address is not valid.")},
     {URLErrorCode::TimedOut, QT_TRANSLATE_NOOP("ErrorWords", "No answer came in time. Check the network.")},
     {URLErrorCode::CannotFindHost, QT_TRANSLATE_NOOP("ErrorWords", "The name has no address. Check the spelling.")},
-    {URLErrorCode::CannotConnectToHost,
-     QT_TRANSLATE_NOOP("ErrorWords", "The address refuses the connection. Check the address.")},
+    {URLErrorCode::CannotConnectToHost, QT_TRANSLATE_NOOP("ErrorWords", "This address cannot be reached.")},
     {URLErrorCode::NetworkConnectionLost, QT_TRANSLATE_NOOP("ErrorWords", "The connection broke off. Try again.")},
-    {URLErrorCode::TooManyRedirects,
-     QT_TRANSLATE_NOOP("ErrorWords", "The address leads on to others without end. Check the address.")},
-    {URLErrorCode::BadServerResponse,
-     QT_TRANSLATE_NOOP("ErrorWords", "The answer cannot be understood. Check the address.")},
+    {URLErrorCode::TooManyRedirects, QT_TRANSLATE_NOOP("ErrorWords", "The address redirects without end.")},
+    {URLErrorCode::BadServerResponse, QT_TRANSLATE_NOOP("ErrorWords", "The answer was not understood.")},
     {URLErrorCode::DataLengthExceedsMaximum,
      QT_TRANSLATE_NOOP("ErrorWords", "The answer is larger than Lodestar takes.")},
-    {URLErrorCode::SecureConnectionFailed,
-     QT_TRANSLATE_NOOP("ErrorWords", "No secure connection can be made. The other side may be too old.")},
-    {URLErrorCode::ServerCertificateUntrusted,
-     QT_TRANSLATE_NOOP("ErrorWords", "The certificate is not trusted. Nothing was sent.")},
+    {URLErrorCode::SecureConnectionFailed, QT_TRANSLATE_NOOP("ErrorWords", "No secure connection can be made.")},
+    {URLErrorCode::ServerCertificateUntrusted, QT_TRANSLATE_NOOP("ErrorWords", "The certificate is not trusted.")},
 }};
 
 } // namespace
@@ -49,12 +44,12 @@ std::string wordsFor(URLErrorCode code)
 std::string wordsForLogonStatus(int statusCode)
 {
     if (statusCode == 401 || statusCode == 403) {
-        return QT_TRANSLATE_NOOP("ErrorWords", "The console did not accept the user or the password.");
+        return QT_TRANSLATE_NOOP("ErrorWords", "The console did not accept user or password.");
     }
     if (statusCode >= 500) {
-        return QT_TRANSLATE_NOOP("ErrorWords", "The console answered with an error of its own. Try again.");
+        return QT_TRANSLATE_NOOP("ErrorWords", "The console has an error. Try again.");
     }
-    return QT_TRANSLATE_NOOP("ErrorWords", "The answer was not expected. Check the address.");
+    return QT_TRANSLATE_NOOP("ErrorWords", "The address does not answer as a console.");
 }
 
 } // namespace lodestar
