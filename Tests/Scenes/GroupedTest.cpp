@@ -83,6 +83,7 @@ TEST_F(GroupedTest, PartitionsOpenFromTheListAndFromItsSearch)
     ASSERT_TRUE(
         stage.waitFor([&] { return text("scheduled-jobs") == nullptr && text("ledger-db-standby") != nullptr; }));
     press(Qt::Key_Down);
+    EXPECT_TRUE(swipe(1)->property("focusShown").toBool());
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     ASSERT_TRUE(stage.waitFor([&] { return qobject_cast<LPDetailViewController*>(top()) != nullptr; }));

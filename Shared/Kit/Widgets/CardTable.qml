@@ -167,9 +167,12 @@ AccessibleScope {
             onAccessiblePressed: tableState.activate(index, selectable)
             onAccessibleCommand: (command) => swipeCell.doCommand(command)
             onActiveFocusChanged: {
-                // Given it by a reader: the list follows.
+                // Given it by a reader: the list follows, and makes the row that comes next.
                 if (activeFocus) {
                     list.currentIndex = index;
+                    if (list.cacheBuffer === 0 && index + 1 < list.count) {
+                        list.positionViewAtIndex(index + 1, ListView.Contain);
+                    }
                 }
             }
             onVisualFocusChanged: {

@@ -75,7 +75,7 @@ Loader {
                 color: Theme.raised
             }
         }
-        contentItem: FocusScope {
+        contentItem: ModalLayer {
             id: choices
 
             implicitWidth: row.implicitWidth
