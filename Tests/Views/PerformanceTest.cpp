@@ -228,6 +228,11 @@ TEST_F(PerformanceTest, NullsAreLoggedAndTheLastValuesStayWhenTheLastSampleIsSki
     EXPECT_EQ(screen->endDate(), lastDate);
     EXPECT_EQ(screen->startDate(), std::nullopt) << "the first sample's stamp cannot be read";
     EXPECT_EQ(screen->chartView()->data().xVals, QStringList("0"));
+
+    const auto ties = MetricsDocument::parse(
+        R"([{"serverUtil":{"processor":{"totalProcUnits":[0.125],"availableProcUnits":[0.25],"utilizedProcUnits":[2.375]}}}])");
+    screen->calculateGraphValuesFromJSON(ties.value().root());
+    EXPECT_EQ(values(*screen), QStringList({"0.12", "-0.12", "2.38"})) << "ties go to the even digit";
     EXPECT_THAT(messages(source), ElementsAre("PCMViewController instantiation",
                                               "Processor PCM Information has a null value for key: availableProcUnits",
                                               "Processor PCM Information has no number for key: totalProcUnits"));

@@ -6,6 +6,7 @@
 #include "Views/Common/ScreenLog.h"
 
 #include <QDateTime>
+#include <fmt/format.h>
 
 #include <algorithm>
 #include <array>
@@ -31,10 +32,11 @@ const std::array<QColor, 3> seriesColors = {QColor(0xD9, 0x7A, 0x00), QColor(0x0
 constexpr std::array<double MetricsFigures::*, 3> seriesFigures = {&MetricsFigures::total, &MetricsFigures::allocated,
                                                                    &MetricsFigures::used};
 
-/// Digits and a point in every language: the figures are the console's.
+/// Digits and a point in every language: the figures are the console's. Ties go to the even digit, as in C: Qt's own
+/// functions round them up.
 QString twoDecimals(double value)
 {
-    return QString::number(value, 'f', 2);
+    return QString::fromStdString(fmt::format("{:.2f}", value));
 }
 
 QString shown(const std::optional<MetricsDate>& date)
