@@ -94,12 +94,16 @@ TEST_F(FileUserDefaultsTests, TheFileIsPrivateAndAlone)
     EXPECT_EQ(QFile::permissions(file), owner);
     EXPECT_EQ(QFile::permissions(QFileInfo(file).path()), owner | QFile::ExeOwner | QFile::ExeUser);
 
+    // What a killed process left: half of a file, and a lock of another machine.
+    std::ofstream(path + ".new") << "[Strings]\nfirst-";
+    std::ofstream(path + ".lock") << "1\nLodestar\nanother-machine\nid\nboot\n";
     QFile::setPermissions(file, owner | QFile::ReadOther);
     defaults.setString("second-key", "console");
     ASSERT_TRUE(defaults.synchronize());
     EXPECT_EQ(QFile::permissions(file), owner);
     EXPECT_THAT(contents(), ::testing::AllOf(::testing::HasSubstr("second-key"),
                                              ::testing::Not(::testing::HasSubstr("first-key"))));
+    QFile::remove(file + QStringLiteral(".lock"));
     EXPECT_EQ(QDir(QFileInfo(file).path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
 }
 

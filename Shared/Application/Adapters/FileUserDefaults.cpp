@@ -9,10 +9,9 @@
 #include <QSettings>
 
 #include <cstdint>
+#include <cstdio>
 #include <map>
 #include <mutex>
-#include <sys/stat.h>
-#include <tuple>
 #include <utility>
 #include <variant>
 
@@ -69,32 +68,47 @@ Values read(const QString& path)
     return values;
 }
 
-/// Session keys stand in the file: it is private before the first byte goes in.
-void makePrivate(const QString& path)
+/// One line of the format. It encodes keys itself, with the same sign.
+std::string line(const std::string& key, const Value& value)
 {
-    // What cannot be made shows when the values are written.
-    std::ignore = makePrivateFolder(QFile::encodeName(QFileInfo(path).absolutePath()).toStdString());
-    const std::string name = QFile::encodeName(path).toStdString();
-    if (!writePrivateFile(name, {}) && QFileInfo(path).isFile()) {
-        ::chmod(name.c_str(), S_IRUSR | S_IWUSR);
-    }
+    const bool* const flag = std::get_if<bool>(&value);
+    const std::string text =
+        flag != nullptr ? (*flag ? "true" : "false") : encoded(std::get<std::string>(value)).toStdString();
+    return encoded(key).replace(QLatin1Char('%'), QLatin1String("%25")).toStdString() + "=" + text + "\n";
 }
 
-/// Replaces the file's contents as a whole, never in place.
+/// As `QSettings` writes them and `read` reads them.
+std::string fileText(const Values& values)
+{
+    std::string flags;
+    std::string texts;
+    for (const auto& [key, value] : values) {
+        (std::holds_alternative<bool>(value) ? flags : texts) += line(key, value);
+    }
+    const auto group = [](QLatin1String name, const std::string& lines) {
+        return lines.empty() ? std::string() : "[" + std::string(name.data()) + "]\n" + lines;
+    };
+    return group(booleans, flags) + group(strings, texts);
+}
+
+/// Replaces the file as a whole, never in place: session keys stand in it, so that the new one is private from its
+/// first byte. Not with `QSettings`, whose lock outlives a process that is killed while it writes, and then holds up
+/// every other: the folder belongs to this process.
 bool write(const QString& path, const Values& values)
 {
-    makePrivate(path);
-    QSettings settings(path, QSettings::IniFormat);
-    settings.setAtomicSyncRequired(true);
-    settings.clear();
-    for (const auto& [key, value] : values) {
-        const bool* const flag = std::get_if<bool>(&value);
-        settings.setValue((flag != nullptr ? booleans : strings) + QLatin1Char('/') + encoded(key),
-                          flag != nullptr ? QVariant(*flag) : QVariant(encoded(std::get<std::string>(value))));
+    const std::string folder = QFile::encodeName(QFileInfo(path).absolutePath()).toStdString();
+    const std::string file = QFile::encodeName(path).toStdString();
+    const std::string fresh = file + ".new";
+    std::remove(fresh.c_str()); // of a process that was killed
+    if (!makePrivateFolder(folder) || !writePrivateFile(fresh, fileText(values))) {
+        return false;
     }
-    settings.sync();
-    // A format error only tells that the file was damaged before; it has been replaced.
-    return settings.status() != QSettings::AccessError;
+    if (std::rename(fresh.c_str(), file.c_str()) != 0) {
+        std::remove(fresh.c_str());
+        return false;
+    }
+    syncFolder(folder);
+    return true;
 }
 
 } // namespace
