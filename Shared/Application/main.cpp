@@ -9,6 +9,7 @@
 #include "Application/KeptState.h"
 #include "Application/MainStoryboard.h"
 #include "Application/Model/StoreStack.h"
+#include "Application/OneInstance.h"
 #include "Application/PrivacyCover.h"
 #include "Application/TerminationSignals.h"
 #include "Application/WindowPlace.h"
@@ -16,7 +17,6 @@
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/MainLoop.h"
 #include "Kit/Core/UIFont+System.h"
-#include "Platform/FolderLock.h"
 #include "Platform/MemoryReserve.h"
 #include "Platform/PrivateFile.h"
 
@@ -102,8 +102,7 @@ int main(int argc, char** argv)
     const MainLoop mainLoop;
     const TerminationSignals terminationSignals([] { QGuiApplication::quit(); });
     const QString dataFolder = makeDataFolder(options.dataFolder);
-    if (!claimFolder(dataFolder.toStdString())) {
-        std::fputs("Lodestar is running already.\n", stderr);
+    if (!claimDataFolder(dataFolder)) {
         return 1;
     }
     SystemKeychain& keychain = installPlatform(dataFolder);
@@ -115,6 +114,7 @@ int main(int argc, char** argv)
     delegate.didFinishLaunchingWithOptions();
 
     FeedbackWindow* window = delegate.window();
+    const OneInstance oneInstance(*window, dataFolder);
     auto feedback = std::make_unique<FeedbackSupport>(*window, dataFolder, QStringLiteral(LODESTAR_VERSION));
     if (options.quitAfterFirstFrame) {
         QObject::connect(

@@ -5,28 +5,37 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #endif
 
 namespace lodestar
 {
 
-bool claimFolder([[maybe_unused]] const std::string& folder)
+FolderClaim claimFolder([[maybe_unused]] const std::string& folder)
 {
 #if defined(__unix__) || defined(__APPLE__)
+    struct stat status = {};
+    if (::stat(folder.c_str(), &status) == 0 && status.st_uid != ::geteuid()) {
+        return FolderClaim::Foreign;
+    }
     const int file = ::open((folder + "/Lodestar.lock").c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
     if (file < 0) {
-        return true;
+        return errno == ELOOP ? FolderClaim::NoLock : FolderClaim::Ours;
+    }
+    if (::fstat(file, &status) != 0 || !S_ISREG(status.st_mode) || status.st_uid != ::geteuid()) {
+        ::close(file);
+        return FolderClaim::NoLock;
     }
     // The system's own lock rather than a file that says who has it: it goes with the process, also when that is
     // killed.
     if (::flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
         ::close(file);
-        return false;
+        return FolderClaim::Taken;
     }
     // Open for the rest of the process, since closing it gives the folder back.
 #endif
-    return true;
+    return FolderClaim::Ours;
 }
 
 } // namespace lodestar

@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 // The real window as a person meets it: on the first day, and with a keyboard on a small screen.
 #include "Application/FeedbackSupport.h"
+#include "Application/OneInstance.h"
 #include "Application/WindowPlace.h"
 #include "Tests/Application/LockedWindowFixture.h"
 
+#include <QFileInfo>
 #include <QJsonObject>
 #include <QScreen>
 #include <QSensorBackend>
 #include <QSensorManager>
+#include <QTemporaryDir>
 
 #include <fstream>
 
@@ -141,6 +144,19 @@ TEST_F(LockedWindowTest, ComesBackWhereItStoodAndWithTheButtonThatItsDeviceNeeds
     QSensorManager::unregisterBackend("QAccelerometer", "test.accelerometer");
     EXPECT_FALSE(isButtonHidden());
     place.reset();
+}
+
+TEST_F(LockedWindowTest, AFurtherStartOnTheSameFolderShowsTheWindow)
+{
+    const QTemporaryDir data;
+    open(false);
+    const OneInstance instance(window(), data.path());
+    ASSERT_TRUE(claimDataFolder(data.path()));
+    window().requestUpdate();
+    ASSERT_TRUE(waitFor([&] { return QFileInfo::exists(data.filePath(QStringLiteral("Lodestar.window"))); }));
+    window().hide();
+    EXPECT_FALSE(claimDataFolder(data.path()));
+    EXPECT_TRUE(waitFor([&] { return window().isVisible(); }));
 }
 
 } // namespace

@@ -70,7 +70,8 @@ TEST_F(StoreStackTests, AStoreThatCannotBeOpenedEndsTheProcessWithOneLine)
     EXPECT_THAT(contents("Logs/lodestar.log"), HasSubstr("Unresolved error YOUR_ERROR_DOMAIN 9999"));
 
     StoreStack::shared().setApplicationDocumentsDirectory("");
-    EXPECT_EXIT(StoreStack::shared().managedObjectContext(), ::testing::KilledBySignal(SIGABRT), "");
+    EXPECT_EXIT(StoreStack::shared().managedObjectContext(), ::testing::KilledBySignal(SIGABRT),
+                HasSubstr("Lodestar cannot keep its consoles and ends: YOUR_ERROR_DOMAIN 9999"));
 }
 
 TEST_F(StoreStackTests, ASaveThatFailsEndsTheProcessWithOneLine)

@@ -12,6 +12,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <thread>
 #include <unistd.h>
@@ -72,13 +73,29 @@ TEST(Services, AFolderIsClaimedOnceAndGivenBackWhenItsProcessEnds)
     const ScratchFolder folder;
     const pid_t other = ::fork();
     if (other == 0) {
-        ::_exit(claimFolder(folder.path()) && !claimFolder(folder.path()) ? 0 : 1);
+        const bool ours = claimFolder(folder.path()) == FolderClaim::Ours;
+        ::_exit(ours && claimFolder(folder.path()) == FolderClaim::Taken ? 0 : 1);
     }
     int status = 0;
     ASSERT_EQ(::waitpid(other, &status, 0), other);
     EXPECT_EQ(status, 0) << "the first to come, and no second";
-    EXPECT_TRUE(claimFolder(folder.path()));
-    EXPECT_TRUE(claimFolder(folder.file("no such folder")));
+    EXPECT_EQ(claimFolder(folder.path()), FolderClaim::Ours);
+    EXPECT_EQ(claimFolder(folder.file("no such folder")), FolderClaim::Ours);
+}
+
+TEST(Services, ALinkIsNoLockAndAFolderOfSomebodyElseIsNotClaimed)
+{
+    const ScratchFolder folder;
+    std::ofstream(folder.file("elsewhere")) << "of another program";
+    ASSERT_EQ(::symlink(folder.file("elsewhere").c_str(), folder.file("Lodestar.lock").c_str()), 0);
+    EXPECT_EQ(claimFolder(folder.path()), FolderClaim::NoLock);
+    ASSERT_EQ(::unlink(folder.file("Lodestar.lock").c_str()), 0);
+    ASSERT_EQ(::mkfifo(folder.file("Lodestar.lock").c_str(), S_IRUSR | S_IWUSR), 0);
+    EXPECT_EQ(claimFolder(folder.path()), FolderClaim::NoLock);
+    if (::geteuid() == 0) {
+        ASSERT_EQ(::chown(folder.path().c_str(), 1, 1), 0);
+    }
+    EXPECT_EQ(claimFolder(::geteuid() == 0 ? folder.path() : "/"), FolderClaim::Foreign);
 }
 
 TEST(Services, KeychainTellsItemsApartByServiceAndAccount)

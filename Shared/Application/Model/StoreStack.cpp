@@ -3,9 +3,11 @@
 
 #include "Application/Model/Corvel.h"
 #include "Application/Model/Group.h"
+#include "Feedback/CrashCapture.h"
 #include "Feedback/VireoLogger.h"
 #include "Platform/Queues/MainQueue.h"
 
+#include <cstdio>
 #include <cstdlib>
 #include <utility>
 
@@ -21,8 +23,12 @@ constexpr std::string_view fileName = "Shared/Application/AppDelegate";
 // and the file stays for a later start.
 [[noreturn]] void endProcess(std::string_view method, const Error& error)
 {
-    LODESTAR_LOG(fileName, method, "Unresolved error {}, {}", description(error), userInfoDescription(error));
+    const std::string text = description(error);
+    LODESTAR_LOG(fileName, method, "Unresolved error {}, {}", text, userInfoDescription(error));
     VireoLogger::flush();
+    // Who starts it on a desk has no other word of it, and the next start's report says no more than this.
+    std::fprintf(stderr, "Lodestar cannot keep its consoles and ends: %s\n", text.c_str());
+    CrashCapture::noteException(text);
     std::abort();
 }
 
