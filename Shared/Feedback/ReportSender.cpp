@@ -30,29 +30,30 @@ const std::string& feedbackAddress()
     return address;
 }
 
-void sendReport(const ReportBundle& bundle, const std::string& address, const OperationQueue& queue,
-                std::function<void(Result<void>)> completion)
+std::function<void()> sendReport(const ReportBundle& bundle, const std::string& address, const OperationQueue& queue,
+                                 std::function<void(Result<void>)> completion)
 {
     if (!address.starts_with("https://")) {
         queue.addOperation([completion = std::move(completion)] {
             completion(senderError(badAddress, "There is no safe address to send reports to."));
         });
-        return;
+        return [] {};
     }
     URLRequest request;
     request.url = address;
     request.method = "POST";
     request.headers.setValue("Content-Type", "application/zip");
     request.body = zipArchive("lodestar-report-" + bundle.identifier, reportFiles(bundle));
-    sendAsynchronousRequest(std::move(request), queue, [completion = std::move(completion)](Result<URLLoad> load) {
-        if (!load) {
-            completion(load.error());
-        } else if (const int status = load.value().response.statusCode; status < 200 || status > 299) {
-            completion(senderError(refused, fmt::format("The server answered with status {}.", status)));
-        } else {
-            completion({});
-        }
-    });
+    return sendAsynchronousRequest(
+        std::move(request), queue, [completion = std::move(completion)](Result<URLLoad> load) {
+            if (!load) {
+                completion(load.error());
+            } else if (const int status = load.value().response.statusCode; status < 200 || status > 299) {
+                completion(senderError(refused, fmt::format("The server answered with status {}.", status)));
+            } else {
+                completion({});
+            }
+        });
 }
 
 } // namespace lodestar

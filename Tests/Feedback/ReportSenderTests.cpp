@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/ReportSender.h"
+#include "Platform/URLLoading/URLConnection.h"
 #include "Tests/Platform/ScriptedServer.h"
 
 #include <gmock/gmock.h>
@@ -75,6 +76,21 @@ TEST(ReportSenderTest, OnlyAVouchedServersGoodAnswerOverTlsCountsAsSent)
         EXPECT_FALSE(send(address).ok()) << address;
     }
     EXPECT_EQ(feedbackAddress(), "") << "no build sends anything unless it is told where to";
+}
+
+TEST(ReportSenderTest, WhatIsUnderWayCanBeCancelled)
+{
+    const test::ScriptedServer server("", test::ScriptedServer::Ending::Silent, "127.0.0.1", vouched().leaf);
+    const OperationQueue queue;
+    std::promise<Result<void>> outcome;
+    const std::function<void()> cancel =
+        sendReport({}, server.url(), queue, [&outcome](Result<void> sent) { outcome.set_value(std::move(sent)); });
+    auto ended = outcome.get_future();
+    cancel();
+    const Result<void> sent = ended.get();
+    ASSERT_FALSE(sent.ok());
+    EXPECT_EQ(sent.error().code, static_cast<int>(URLErrorCode::Cancelled));
+    cancel();
 }
 
 } // namespace lodestar

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/UI/FeedbackViewController.h"
+#include "Feedback/UI/ReportViewController.h"
 #include "Feedback/UI/ScreenGrabber.h"
 #include "Tests/Scenes/SceneTest.h"
 
@@ -152,6 +153,31 @@ TEST_F(FeedbackTest, ReportsAreReadExportedAndDeletedWithTheKeyboardAlone)
     press(Qt::Key_Return);
     EXPECT_TRUE(stage.waitFor([this] { return stage.reports().list().empty(); }));
     EXPECT_TRUE(stage.waitFor([this] { return text("No reports on this device.") != nullptr; }));
+}
+
+TEST_F(FeedbackTest, AKeptReportIsSentAsOftenAsItFails)
+{
+    // Nobody listens there.
+    const auto setup = std::make_shared<FeedbackSetup>();
+    setup->store = stage.reports();
+    setup->address = "https://127.0.0.1:9/reports";
+    ReportBundle bundle;
+    bundle.kind = Report::Kind::Crash;
+    bundle.identifier = stage.reports().save(bundle).value();
+    const auto report = makeController<ReportViewController>(setup, bundle);
+    const auto failed = [&] { return report->alert()->title() == "The report could not be sent"; };
+    ASSERT_EQ(report->actionTitle(), "Send");
+    for (int attempt = 0; attempt < 2; ++attempt) {
+        report->act();
+        EXPECT_EQ(report->alert()->title(), "Sending the report...");
+        ASSERT_TRUE(stage.waitFor(failed));
+        report->alert()->choose(1);
+        EXPECT_EQ(report->alert()->title(), "Sending the report...") << "tried again";
+        ASSERT_TRUE(stage.waitFor(failed));
+        report->alert()->choose(0);
+        EXPECT_FALSE(report->alert()->isPresented());
+    }
+    EXPECT_EQ(stage.reports().list().size(), 1U) << "still kept";
 }
 
 TEST_F(FeedbackTest, WhatCannotBeKeptStaysOnScreenAndNothingIsLeftUnasked)

@@ -3,8 +3,8 @@
 
 #include "Feedback/LogTail.h"
 #include "Feedback/Redaction.h"
-#include "Feedback/ReportSender.h"
 #include "Feedback/UI/ReportListViewController.h"
+#include "Feedback/UI/ReportSending.h"
 #include "Feedback/UI/ReportViewController.h"
 #include "Feedback/VireoLogger.h"
 #include "Kit/Core/ErrorText.h"
@@ -145,16 +145,7 @@ void FeedbackViewController::keep(ReportBundle bundle, std::function<void(Report
 
 void FeedbackViewController::send(const ReportBundle& bundle)
 {
-    setBusy(true);
-    static const OperationQueue queue;
-    sendReport(bundle, m_setup->address, queue, [screen = self<FeedbackViewController>()](const Result<void>& sent) {
-        MainQueue::shared().async([screen, sent] {
-            screen->setBusy(false);
-            screen->finish(sent ? tr("Report Sent") : tr("The report could not be sent"),
-                           sent ? tr("Thank you. A copy is in the list of reports.")
-                                : tr("%1\nIt is kept in the list of reports.").arg(errorText(sent.error())));
-        });
-    });
+    sendKeptReport(self<FeedbackViewController>(), *m_alert, bundle, m_setup->address, m_close);
 }
 
 void FeedbackViewController::finish(const QString& title, const QString& message)

@@ -2,6 +2,7 @@
 #include "Feedback/UI/ReportViewController.h"
 
 #include "Feedback/UI/ReportListViewController.h"
+#include "Feedback/UI/ReportSending.h"
 #include "Kit/Core/ErrorText.h"
 #include "Kit/Core/NavigationController.h"
 
@@ -36,6 +37,18 @@ ReportViewController::ReportViewController(std::shared_ptr<const FeedbackSetup> 
     if (!image.isNull()) {
         m_picture = new Sketch(image, this);
     }
+    if (!m_setup->address.empty()) {
+        offerSending(bundle);
+    }
+}
+
+/// As often as the person likes, one time after another.
+void ReportViewController::offerSending(const ReportBundle& bundle)
+{
+    setAction(tr("Send"), [this, bundle] {
+        sendKeptReport(self<ReportViewController>(), *m_alert, bundle, m_setup->address,
+                       [this, bundle] { offerSending(bundle); });
+    });
 }
 
 void ReportViewController::setAction(const QString& title, std::function<void()> action)

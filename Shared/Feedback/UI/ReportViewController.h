@@ -12,7 +12,7 @@ namespace lodestar
 {
 
 /// A report's texts and picture, to be read: before it is sent, with the button that sends it; or one that was kept,
-/// with the ways to hand it on and to delete it.
+/// with the ways to hand it on, to delete it and, in a build that has an address, to send it.
 class ReportViewController : public lodestar::ViewController
 {
     Q_OBJECT
@@ -45,6 +45,8 @@ public:
     Q_INVOKABLE void deleteReport();
 
 private:
+    void offerSending(const ReportBundle& bundle);
+
     std::shared_ptr<const FeedbackSetup> m_setup;
     std::string m_identifier;
     QStringList m_lines;

@@ -88,8 +88,11 @@ struct URLLoad {
 /// Sends the request with the system's trust rules (see ServerTrust.h) and calls the completion exactly once, on the
 /// queue. Returns at once. The request's clocks start when the network thread gets to it, which is at once unless very
 /// many are under way. A redirect is followed within TLS only; one that cannot be followed is the answer.
-void sendAsynchronousRequest(URLRequest request, const OperationQueue& queue,
-                             std::function<void(Result<URLLoad>)> completion);
+///
+/// The returned function ends the transfer, from any thread: the completion gets `Cancelled`, unless it has been
+/// called.
+std::function<void()> sendAsynchronousRequest(URLRequest request, const OperationQueue& queue,
+                                              std::function<void(Result<URLLoad>)> completion);
 
 /// As above, blocking the calling thread, which runs the transfer itself on a kept-alive connection of its own.
 Result<URLLoad> sendSynchronousRequest(const URLRequest& request);

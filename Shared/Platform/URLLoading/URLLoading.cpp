@@ -13,8 +13,8 @@ TransferLimits& TransferLimits::shared()
     return limits;
 }
 
-void sendAsynchronousRequest(URLRequest request, const OperationQueue& queue,
-                             std::function<void(Result<URLLoad>)> completion)
+std::function<void()> sendAsynchronousRequest(URLRequest request, const OperationQueue& queue,
+                                              std::function<void(Result<URLLoad>)> completion)
 {
     struct Delivery {
         std::function<void(Result<URLLoad>)> completion;
@@ -30,7 +30,13 @@ void sendAsynchronousRequest(URLRequest request, const OperationQueue& queue,
             call(std::move(delivery->load));
         });
     });
-    NetworkThread::shared().start(std::make_shared<Transfer>(std::move(request), std::move(client)));
+    const auto transfer = std::make_shared<Transfer>(std::move(request), std::move(client));
+    NetworkThread::shared().start(transfer);
+    return [ended = std::weak_ptr<Transfer>(transfer)] {
+        if (auto running = ended.lock()) {
+            NetworkThread::shared().cancel(std::move(running));
+        }
+    };
 }
 
 Result<URLLoad> sendSynchronousRequest(const URLRequest& request)
