@@ -90,7 +90,8 @@ TEST_F(ResourceGroupsTest, TheScreenLivesWhileItsRowsAskForTheirStates)
     }
     EXPECT_EQ(updatingRows(), 0);
     EXPECT_EQ(asked(), resources(0, seen - 1));
-    EXPECT_LT(longest, 3 * latency);
+    // Less than a row asks for, more than a busy machine takes for a frame.
+    EXPECT_LT(longest, 8 * latency);
 
     // A row that comes into view asks, and whoever leaves is not kept: what is left is not asked.
     press(Qt::Key_End);
