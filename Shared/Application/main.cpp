@@ -28,6 +28,7 @@
 
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 #include <tuple>
 
@@ -161,5 +162,8 @@ int main(int argc, char** argv)
     UserDefaults::standard().synchronize();
     KeptState::shared().synchronize();
     VireoLogger::flush();
+    if (keychain.owesAnswer()) {
+        std::_Exit(status);
+    }
     return status;
 }

@@ -10,6 +10,7 @@
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
 
+#include <cstdlib>
 #include <iostream>
 #include <string>
 #include <sys/socket.h>
@@ -50,7 +51,9 @@ void tell(const char* call, const Function& ask)
 
 int runKeychainCalls()
 {
-    Keychain::install(std::make_unique<SystemKeychain>(deadline));
+    auto made = std::make_unique<SystemKeychain>(deadline);
+    const SystemKeychain& keychain = *made;
+    Keychain::install(std::move(made));
     const auto read = [&](const char* account) {
         tell("read", [&] { return readPassword("Lodestar test", account); });
     };
@@ -65,6 +68,10 @@ int runKeychainCalls()
     read("Admin");
     write("");
     read("Admin");
+    if (keychain.owesAnswer()) {
+        std::cout.flush();
+        std::_Exit(0);
+    }
     Keychain::install(nullptr);
     return 0;
 }

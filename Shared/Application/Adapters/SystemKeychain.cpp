@@ -276,6 +276,11 @@ void SystemKeychain::begin()
     m_state->startNext();
 }
 
+bool SystemKeychain::owesAnswer() const
+{
+    return m_state->givenUp;
+}
+
 void SystemKeychain::readPassword(const std::string& service, const std::string& account, Prompt prompt, Read answer)
 {
     const QString name = QString::fromStdString(account);

@@ -32,6 +32,9 @@ public:
 
     /// What was asked before waits for this: a program asks once its first frame is drawn.
     void begin();
+    /// Whether the service still owes an answer that was given up. The bus's library then holds up a process that ends
+    /// in the ordinary way, for up to half a minute.
+    bool owesAnswer() const;
 
     void readPassword(const std::string& service, const std::string& account, Prompt prompt, Read answer) override;
     void writePassword(const std::string& password, const std::string& service, const std::string& account,
