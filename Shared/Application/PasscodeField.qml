@@ -50,6 +50,8 @@ T.TextField {
         }
     }
     onPressAndHold: (event) => editMenu.show(event.x, event.y)
+    selectByMouse: !eye.revealed
+    Keys.onPressed: (event) => event.accepted = eye.isCopying(event)
     Keys.onMenuPressed: editMenu.show(cursorRectangle.x, cursorRectangle.y)
 
     Connections {

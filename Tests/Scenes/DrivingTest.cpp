@@ -332,6 +332,12 @@ TEST_F(DrivingTest, AFieldsMenuPastesAndASecretIsShownOnDemandAloneAndNeverCopie
     click(button("Show password"));
     stage.settle(50);
     EXPECT_TRUE(shown());
+    fields[3]->forceActiveFocus();
+    press(Qt::Key_A, Qt::ControlModifier);
+    press(Qt::Key_C, Qt::ControlModifier);
+    press(Qt::Key_X, Qt::ControlModifier);
+    EXPECT_EQ(QGuiApplication::clipboard()->text(), "harbour-c.example");
+    EXPECT_TRUE(shown());
     EXPECT_FALSE(QAccessible::queryAccessibleInterface(fields[3])->text(QAccessible::Value).contains(u"twelve"));
     fields[0]->forceActiveFocus();
     EXPECT_TRUE(stage.waitFor([&] { return !shown(); }));

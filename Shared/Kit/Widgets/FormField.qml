@@ -83,7 +83,8 @@ Item {
         color: Theme.ink
         selectionColor: Theme.match
         selectedTextColor: Theme.ink
-        selectByMouse: true
+        // Of a text that is shown, what the mouse selects goes to the clipboard by itself.
+        selectByMouse: !eye.revealed
         clip: contentWidth > width
         echoMode: field.secure && !eye.revealed ? TextInput.Password : TextInput.Normal
         passwordCharacter: "\u2022"
@@ -116,6 +117,7 @@ Item {
             }
         }
         onPressAndHold: (event) => editMenu.show(event.x, event.y)
+        Keys.onPressed: (event) => event.accepted = field.secure && eye.isCopying(event)
         Keys.onMenuPressed: editMenu.show(cursorRectangle.x, cursorRectangle.y)
 
         Label {

@@ -12,6 +12,11 @@ IconButton {
 
     readonly property bool held: (field.activeFocus || activeFocus) && field.enabled && field.visible && Window.active
 
+    /// Whether the key would take what the field shows to the clipboard.
+    function isCopying(event: var): bool {
+        return event.matches(StandardKey.Copy) || event.matches(StandardKey.Cut);
+    }
+
     iconName: revealed ? "hide" : "show"
     text: revealed ? qsTr("Hide password") : qsTr("Show password")
     ink: Theme.ink2
