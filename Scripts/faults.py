@@ -52,7 +52,7 @@ ROWS = [
     Row("certificate self-signed, expired, misnamed, swapped", "logon accepted; feeds from the same leaf alone",
         [(DRIVE, "certificates"), ("URLLoadingTests", "URLTrustTest.*")]),
     Row("i-th allocation, write, sync or rename fails; disk read-only", "the old state as it was, or the new one whole",
-        [("XMLMemoryTests", "*"), ("FaultInjectionTests", "*"),
+        [("XMLMemoryTests", "*"), ("FaultInjectionTests", "*"), ("ResetFaultTests", "*-*Meanwhile*"),
          ("PlatformTests", "ObjectContextFaultTests.AFailed*:ObjectContextFaultTests.AStore*")], 1200),
     Row("i-th allocation of a refresh fails, on any thread", "feeds whole or \"NA\"; the next refresh is whole",
         [(DRIVE, "refused-memory")], 1800),
@@ -68,7 +68,7 @@ ROWS = [
         [("RESTHandlerTests", "*DeletedMeanwhile*"),
          ("views_tests", "*DeletedDuringItsRefresh*:*MayBeDeleted*:FleetTest.*Anew*:FleetTest.*Gathers*")]),
     Row("application reset while it refreshes", "no key back, no secret in any file",
-        [("ApplicationTests", "ResetTest.*")]),
+        [("ResetFaultTests", "*Meanwhile*"), ("ApplicationTests", "ResetTest.*")]),
     Row("ten hours of pulls while consoles fail and come back", "resident memory flat after the warm-up",
         [(DRIVE, "pulls")], 1800),
 ]
