@@ -7,6 +7,7 @@
 #include "Feedback/LogListeners.h"
 #include "Feedback/LogText.h"
 #include "Feedback/LogWriter.h"
+#include "Feedback/ReportSender.h"
 #include "Platform/Queues/OwnThread.h"
 #include "Platform/UtcStamp.h"
 
@@ -142,6 +143,18 @@ void VireoLogger::startSession(std::string_view applicationKey)
                  "session started {} an application key, mode {}, {} on shake, named {}",
                  applicationKey.empty() ? "without" : "with", settings().mode,
                  settings().reportOnShake ? "reports" : "no report", sessionIdentifier());
+    if (feedbackAddress().empty()) {
+        return;
+    }
+    static const OperationQueue queue;
+    startFeedbackSession({std::string(applicationKey), sessionIdentifier(), settings().mode}, feedbackAddress(), queue,
+                         [](const Result<void>& started) {
+                             if (!started) {
+                                 LODESTAR_LOG(ownFile, "+[VireoLogger startSession:]",
+                                              "the feedback service knows nothing of the session: {}",
+                                              description(started.error()));
+                             }
+                         });
 }
 
 void VireoLogger::uncaughtExceptionHandler()

@@ -44,7 +44,8 @@ public:
 
     /// The settings, changed in place on the main thread before a session starts.
     static Settings& settings();
-    /// Starts a new feedback session under the application's key. Main thread.
+    /// Starts a new feedback session under the application's key, in the mode of the settings. A build that has an
+    /// address announces it to the service there, and waits for nothing. Main thread.
     static void startSession(std::string_view applicationKey);
     /// Names this run of the program in the log and in reports. Any thread.
     static const std::string& sessionIdentifier();

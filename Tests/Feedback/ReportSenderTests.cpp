@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/ReportSender.h"
+#include "Feedback/VireoLogger.h"
 #include "Platform/URLLoading/URLConnection.h"
 #include "Tests/Platform/ScriptedServer.h"
 
@@ -76,6 +77,27 @@ TEST(ReportSenderTest, OnlyAVouchedServersGoodAnswerOverTlsCountsAsSent)
         EXPECT_FALSE(send(address).ok()) << address;
     }
     EXPECT_EQ(feedbackAddress(), "") << "no build sends anything unless it is told where to";
+}
+
+TEST(ReportSenderTest, ASessionIsAnnouncedUnderTheKeyAndReportsNameIt)
+{
+    const std::string good = "HTTP/1.1 201 Created\r\nContent-Length: 0\r\n\r\n";
+    const OperationQueue queue;
+    std::promise<bool> started;
+    test::ScriptedServer sessions(good, test::ScriptedServer::Ending::Notice, "127.0.0.1", vouched().leaf);
+    startFeedbackSession({"k\"ey", "5e55", 2}, sessions.url() + "reports", queue,
+                         [&](const Result<void>& outcome) { started.set_value(outcome.ok()); });
+    const std::string announced = sessions.request();
+    EXPECT_TRUE(announced.starts_with("POST /reports/sessions ")) << announced;
+    EXPECT_THAT(announced, testing::EndsWith(R"({"key":"k\u0022ey","session":"5e55","mode":2})"));
+    EXPECT_TRUE(started.get_future().get());
+
+    std::promise<bool> sent;
+    test::ScriptedServer reports(good, test::ScriptedServer::Ending::Notice, "127.0.0.1", vouched().leaf);
+    sendReport({}, reports.url() + "reports", queue,
+               [&](const Result<void>& outcome) { sent.set_value(outcome.ok()); });
+    EXPECT_THAT(reports.request(), testing::HasSubstr("X-Feedback-Session: " + VireoLogger::sessionIdentifier()));
+    EXPECT_TRUE(sent.get_future().get());
 }
 
 TEST(ReportSenderTest, WhatIsUnderWayCanBeCancelled)

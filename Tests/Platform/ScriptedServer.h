@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <arpa/inet.h>
+#include <future>
 #include <netinet/in.h>
 #include <string>
 #include <sys/socket.h>
@@ -56,6 +57,8 @@ public:
     ScriptedServer(const ScriptedServer&) = delete;
     ScriptedServer& operator=(const ScriptedServer&) = delete;
 
+    /// The first piece of what the client said. Once, and it waits for it.
+    std::string request() { return m_request.get_future().get(); }
     std::string url() const { return urlFor(m_address); }
     std::string urlFor(const std::string& host) const { return "https://" + host + ":" + std::to_string(m_port) + "/"; }
 
@@ -73,7 +76,10 @@ private:
         const simulator::SslPtr ssl(SSL_new(context.get()));
         SSL_set_fd(ssl.get(), connection);
         std::string request(4096, '\0');
-        if (SSL_accept(ssl.get()) == 1 && SSL_read(ssl.get(), request.data(), static_cast<int>(request.size())) > 0) {
+        int count = 0;
+        if (SSL_accept(ssl.get()) == 1 &&
+            (count = SSL_read(ssl.get(), request.data(), static_cast<int>(request.size()))) > 0) {
+            m_request.set_value(request.substr(0, static_cast<std::size_t>(count)));
             SSL_write(ssl.get(), m_answer.data(), static_cast<int>(m_answer.size()));
             if (m_ending == Ending::Notice) {
                 SSL_shutdown(ssl.get());
@@ -92,6 +98,7 @@ private:
     int m_listener = -1;
     int m_port = 0;
     std::atomic<int> m_connection = -1;
+    std::promise<std::string> m_request;
     std::thread m_thread;
 };
 
