@@ -77,6 +77,11 @@ const std::map<std::string, Command, std::less<>>& commands()
              simulator.setLatency(numberAt(words, 1));
              return std::string();
          }},
+        {"round-trip",
+         [](Simulator& simulator, const Words& words) {
+             simulator.setRoundTrip(numberAt(words, 1));
+             return std::string();
+         }},
         {"feed",
          [](Simulator& simulator, const Words& words) {
              simulator.setFeed(numberAt(words, 1), words.at(2),

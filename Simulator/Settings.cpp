@@ -53,6 +53,7 @@ const std::map<std::string, Setter, std::less<>>& setters()
         {"--samples", numberSetter(&Settings::samples)},
         {"--feed-bytes", numberSetter(&Settings::feedBytes)},
         {"--latency", numberSetter(&Settings::latency)},
+        {"--round-trip", numberSetter(&Settings::roundTrip)},
         {"--seed", numberSetter(&Settings::seed)},
         {"--record-cap", numberSetter(&Settings::recordCap)},
         {"--user", textSetter(&Settings::user)},
@@ -83,6 +84,7 @@ std::vector<std::string> argumentsOf(const Settings& settings)
         "--samples",    std::to_string(settings.samples),
         "--feed-bytes", std::to_string(settings.feedBytes),
         "--latency",    std::to_string(settings.latency),
+        "--round-trip", std::to_string(settings.roundTrip),
         "--seed",       std::to_string(settings.seed),
         "--record-cap", std::to_string(settings.recordCap),
         "--user",       settings.user,
@@ -135,6 +137,7 @@ std::string_view helpText()
   --samples N       metrics samples a system (240); each grows with the partitions
   --feed-bytes N    pad every feed to about N bytes (0: not padded)
   --latency MS      wait before every answer (0)
+  --round-trip MS   the network's way to a console and back (0)
   --seed N          another seed gives another inventory (1)
   --user U --password P
                     the credentials that every console accepts; they are the simulator's own
@@ -155,6 +158,7 @@ Faults. WHAT is a feed's type, or Logon, SessionCheck, Quick, Metrics, MetricsDo
 
 Commands on standard input, each answered with lines that end in "ok" or "error TEXT"; arguments percent-encoded:
   fault NAME[:WHAT][:CONSOLE]     clear [NAME[:WHAT][:CONSOLE]]     latency MS
+  round-trip MS
   requests    clear-requests      statistics [CONSOLE]              summary CONSOLE
   stop CONSOLE    start CONSOLE   certificate CONSOLE               feed CONSOLE TYPE [BODY]
   quit

@@ -32,6 +32,9 @@ struct Settings {
     std::size_t feedBytes = 0;
     /// Milliseconds between a request and its answer.
     int latency = 0;
+    /// Milliseconds that the network takes to a console and back: every connection, handshake, request and answer has
+    /// its share of them.
+    int roundTrip = 0;
     std::uint64_t seed = 1;
     /// Made-up credentials that every console accepts.
     std::string user = "operator";

@@ -3,6 +3,7 @@
 
 #include <algorithm>
 #include <arpa/inet.h>
+#include <array>
 #include <cerrno>
 #include <netinet/tcp.h>
 #include <stdexcept>
@@ -174,6 +175,7 @@ void Simulator::startConsole(int console)
 void Simulator::accept(Station& station)
 {
     m_buried.clear();
+    m_buriedLinks.clear();
     while (station.listener >= 0) {
         const int descriptor = ::accept4(station.listener, nullptr, nullptr, SOCK_NONBLOCK | SOCK_CLOEXEC);
         if (descriptor < 0) {
@@ -181,8 +183,27 @@ void Simulator::accept(Station& station)
         }
         const int on = 1;
         setsockopt(descriptor, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
-        adopt(station, descriptor);
+        adopt(station, m_settings.roundTrip > 0 ? farEnd(descriptor) : descriptor);
     }
+}
+
+/// Where the bytes of an accepted connection come out of the network, if it is given a length.
+int Simulator::farEnd(int descriptor)
+{
+    std::array<int, 2> ends{};
+    if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0, ends.data()) != 0) {
+        ::close(descriptor);
+        throw std::system_error(errno, std::generic_category(), "socketpair");
+    }
+    const std::uint64_t number = ++m_lastLink;
+    auto link = std::make_unique<DelayedLink>(m_loop, descriptor, ends[0],
+                                              std::chrono::milliseconds(m_settings.roundTrip), [this, number] {
+                                                  if (auto node = m_links.extract(number)) {
+                                                      m_buriedLinks.push_back(std::move(node.mapped()));
+                                                  }
+                                              });
+    m_links.emplace(number, std::move(link));
+    return ends[1];
 }
 
 void Simulator::adopt(Station& station, int descriptor)

@@ -3,6 +3,7 @@
 
 #include "Simulator/Connection.h"
 #include "Simulator/Console.h"
+#include "Simulator/DelayedLink.h"
 #include "Simulator/EventLoop.h"
 #include "Simulator/Protocol.h"
 
@@ -38,6 +39,8 @@ public:
     void clearFaults();
     /// Of every request from now on, whatever connection it comes on.
     void setLatency(int milliseconds) { m_settings.latency = milliseconds; }
+    /// Of connections that are made from now on.
+    void setRoundTrip(int milliseconds) { m_settings.roundTrip = milliseconds; }
     /// That text in the place of the console's own feed; nothing gives it its own feed back.
     void setFeed(int console, const std::string& type, std::optional<std::string> text);
 
@@ -72,6 +75,7 @@ private:
     void stopListening(Station& station);
     void closeConnections(Station& station);
     void accept(Station& station);
+    int farEnd(int descriptor);
     void adopt(Station& station, int descriptor);
     void bury(Station& station, std::uint64_t number);
     Response answer(Station& station, std::uint64_t connection, const Request& request);
@@ -89,9 +93,12 @@ private:
     std::vector<std::unique_ptr<Station>> m_stations;
     std::vector<Fault> m_faults;
     std::uint64_t m_lastConnection = 0;
+    std::uint64_t m_lastLink = 0;
+    std::unordered_map<std::uint64_t, std::unique_ptr<DelayedLink>> m_links;
     std::deque<RecordedRequest> m_requests;
     /// Closed connections, kept until the call that closed them has returned.
     std::vector<std::unique_ptr<Connection>> m_buried;
+    std::vector<std::unique_ptr<DelayedLink>> m_buriedLinks;
 };
 
 } // namespace lodestar::simulator

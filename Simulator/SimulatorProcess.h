@@ -46,8 +46,9 @@ public:
     /// A fault as it was set.
     void clearFault(std::string_view fault) { command("clear " + std::string(fault)); }
     void clearFaults() { command("clear"); }
-    /// For connections made from now on.
+    /// Before every answer from now on; and the network's, on connections made from now on.
     void setLatency(int milliseconds) { command("latency " + std::to_string(milliseconds)); }
+    void setRoundTrip(int milliseconds) { command("round-trip " + std::to_string(milliseconds)); }
     /// That text, with status 200, in the place of the console's own feed of a type, or of its "Metrics" or
     /// "MetricsDocument".
     void setFeed(int console, std::string_view type, std::string_view text);

@@ -136,6 +136,25 @@ TEST(SimulatorServer, ConnectionsArePersistentAndCounted)
     EXPECT_EQ(simulator.statistics().requests, 6U);
 }
 
+TEST(SimulatorServer, NetworkTakesItsTimeForConnectionHandshakeAndRequest)
+{
+    using namespace std::chrono_literals;
+    constexpr auto roundTrip = 200ms;
+    SimulatorProcess simulator(twoConsoles());
+    const std::string key = logon(simulator);
+    const auto start = std::chrono::steady_clock::now();
+    const auto roundTripsSince = [&] { return (std::chrono::steady_clock::now() - start) / roundTrip; };
+    simulator.setRoundTrip(roundTrip.count());
+    TlsClient client(simulator.address());
+    EXPECT_EQ(roundTripsSince(), 2) << "connection and handshake";
+    for (const int expected : {3, 4}) {
+        client.send(getRequest("/rest/api/uom/Group", key, expected == 4 ? "Connection: close\r\n" : ""));
+        EXPECT_THAT(client.receive().body, HasSubstr("</feed>"));
+        EXPECT_EQ(roundTripsSince(), expected);
+    }
+    EXPECT_EQ(client.receive().end, End::Closed);
+}
+
 TEST(SimulatorServer, CompressesOnlyForThoseWhoAskAndOnlyIfItMay)
 {
     Settings settings;
