@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Model/StoreStack.h"
 #include "Benchmarks/Program.h"
+#include "Benchmarks/Refresh/ProgramRun.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/URLLoading/ServerTrust.h"
@@ -8,19 +9,14 @@
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/ScratchFolder.h"
 
-#include <array>
 #include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <spawn.h>
 #include <stdexcept>
 #include <string>
 #include <sys/resource.h>
-#include <sys/wait.h>
 #include <unistd.h>
-
-extern char** environ;
 
 // Ours and the reference run as whole processes in turn, each with its own start and its own handshakes. The addresses,
 // session keys and certificates are laid out in a file by this program, which also runs the simulator.
@@ -33,10 +29,8 @@ namespace
 
 namespace fs = std::filesystem;
 
-constexpr std::array<std::string_view, 6> feedPaths = {
-    "uom/ManagementConsole", "uom/ManagedSystem",    "uom/VirtualIOServer",
-    "uom/LogicalPartition",  "sem/ServiceableEvent", "uom/Group",
-};
+using bench::feedPaths;
+using bench::runProgram;
 constexpr int lookUps = 200;
 
 struct Console {
@@ -82,7 +76,7 @@ int refreshAll(const std::string& path)
         corvel->setName(console.address);
         corvel->setAddress(console.address);
         corvels.push_back(corvel);
-        refreshes.push_back(handler.fetchAllDataForCorvel(corvel, console.key)
+        refreshes.push_back(handler.fetchAllDataForCorvel(corvel, console.key, Urgency::Fleet)
                                 .then([corvel, &handler](const std::shared_ptr<const FeedDictionary>& feeds) {
                                     corvel->setRestData(feeds);
                                     return handler.processInformationForCorvel(corvel);
@@ -126,24 +120,6 @@ int lookUpAll(const std::string& path, const std::string& link)
 
 // ---- The measuring process.
 
-/// Runs a program to its end; nanoseconds.
-double run(const std::vector<std::string>& command)
-{
-    std::vector<char*> arguments;
-    for (const std::string& word : command) {
-        arguments.push_back(const_cast<char*>(word.c_str()));
-    }
-    arguments.push_back(nullptr);
-    const auto start = std::chrono::steady_clock::now();
-    pid_t pid = 0;
-    int status = 0;
-    if (posix_spawnp(&pid, arguments[0], nullptr, nullptr, arguments.data(), environ) != 0 ||
-        waitpid(pid, &status, 0) != pid || status != 0) {
-        throw std::runtime_error(command[0] + " failed");
-    }
-    return std::chrono::duration<double, std::nano>(std::chrono::steady_clock::now() - start).count();
-}
-
 /// A fleet whose consoles are logged on to, with the files that the measured processes read.
 class Fleet
 {
@@ -171,11 +147,11 @@ public:
 
     double ours(const std::string& mode) const
     {
-        return run({fs::read_symlink("/proc/self/exe").string(), mode, m_scratch.file("consoles"), m_link});
+        return runProgram({fs::read_symlink("/proc/self/exe").string(), mode, m_scratch.file("consoles"), m_link});
     }
     double curl(const std::string& configuration) const
     {
-        return run({"curl", "-q", "-K", m_scratch.file(configuration)});
+        return runProgram({"curl", "-q", "-K", m_scratch.file(configuration)});
     }
     /// Peak resident memory and retained feeds of the last refresh, in bytes.
     std::pair<double, double> memory() const

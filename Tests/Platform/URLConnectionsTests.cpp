@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Many transfers at once, and the connections that they share.
+#include "Platform/URLLoading/HandshakeHold.h"
 #include "Tests/Platform/URLLoadingFixture.h"
 
 #include <atomic>
@@ -142,6 +143,59 @@ TEST_F(URLLoadingTest, AFleetSharesFewConnectionsAConsole)
     rlimit files{};
     ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &files), 0);
     EXPECT_EQ(files.rlim_cur, files.rlim_max) << "and descriptors suffice for all";
+}
+
+TEST_F(URLLoadingTest, SixRequestsLeaveTogetherThroughANetworkWithALength)
+{
+    constexpr auto roundTrip = 400ms;
+    simulator::Settings settings;
+    settings.consoles = 5;
+    settings.roundTrip = roundTrip.count();
+    simulator::SimulatorProcess simulator{settings};
+    using Clock = std::chrono::steady_clock;
+    const auto refresh = [&](const std::vector<std::string>& keys) {
+        std::latch settled(6 * settings.consoles);
+        const auto start = Clock::now();
+        for (int i = 0; i < settings.consoles; ++i) {
+            for (int k = 0; k < 6; ++k) {
+                URLRequest request = feedRequest(simulator, keys[static_cast<std::size_t>(i)], i);
+                request.urgency = Urgency::Fleet;
+                sendAsynchronousRequest(request, m_queue, [&](const Result<URLLoad>& load) {
+                    EXPECT_TRUE(load.ok() && load.value().response.statusCode == 200);
+                    settled.count_down();
+                });
+            }
+        }
+        settled.wait();
+        return Clock::now() - start;
+    };
+    std::vector<std::string> keys;
+    for (int i = 0; i < settings.consoles; ++i) {
+        const auto expected = expectRequests("https://" + simulator.address(i) + ":12443/", 5);
+        keys.push_back(logOn(simulator, i));
+    }
+    const auto first = HandshakeHold::isPossible ? 1.5 * roundTrip : 4.0 * roundTrip;
+    EXPECT_LT(refresh(keys), first) << "connections were made while the logons were under way";
+    EXPECT_EQ(simulator.requests().size(), 7U * 5U) << "and nothing was asked on them but what was to be asked";
+    const auto handshakes = simulator.handshakes();
+    EXPECT_EQ(handshakes, 6U * 5U);
+    EXPECT_LT(refresh(keys), 1.5 * roundTrip) << "kept connections serve all six at once";
+    EXPECT_EQ(simulator.handshakes(), handshakes);
+
+    // A person's request meets a console whose connections are all in use, and takes the first that comes free.
+    std::thread others([&] { refresh(keys); });
+    std::this_thread::sleep_for(roundTrip / 2);
+    const auto start = Clock::now();
+    EXPECT_TRUE(loadAsynchronously(feedRequest(simulator, keys[0], 0)).ok());
+    EXPECT_LT(Clock::now() - start, HandshakeHold::isPossible ? 2.2 * roundTrip : 3.5 * roundTrip);
+    others.join();
+
+    // Kept connections that their servers have closed are made anew, and no request is the worse for it.
+    for (int i = 0; i < settings.consoles; ++i) {
+        simulator.stopConsole(i);
+        simulator.startConsole(i);
+    }
+    EXPECT_LT(refresh(keys), 4.5 * roundTrip);
 }
 
 using URLLoadingDeathTest = URLLoadingTest;

@@ -176,39 +176,57 @@ TEST(OriginTests, ServersAreToldApartByWhatTheirAddressesMean)
     EXPECT_EQ(Origin::ofURL("no address"), std::nullopt);
 }
 
-TEST(TransferQueueTests, BusyServersLetTheOthersGoFirst)
+TEST(TransferQueueTests, ServersTakeTurnsAndPersonsGoFirst)
 {
-    using Busy = TransferQueue::Busy;
+    using Connections = TransferQueue::Connections;
+    using Whose = TransferQueue::Whose;
     TransferQueue queue;
     std::vector<std::shared_ptr<Transfer>> transfers;
-    for (const char* url :
-         {"https://a:1/0", "https://a:1/1", "https://a:1/2", "https://a:1/3", "https://b:1", "https://a:2/"}) {
+    const auto push = [&](const char* url, Urgency urgency) {
         URLRequest request;
         request.url = url;
+        request.urgency = urgency;
         transfers.push_back(std::make_shared<Transfer>(request, nullptr));
         queue.push(transfers.back());
+    };
+    for (const char* url : {"https://a:1/0", "https://a:1/1", "https://a:1/2", "https://b:1", "https://a:2/"}) {
+        push(url, Urgency::Fleet);
     }
-    const auto take = [&](Busy busy) {
-        const auto taken = queue.take(busy);
+    std::size_t readyAhead = 0;
+    auto now = TransferQueue::Clock::now();
+    const auto take = [&](Connections connections, Whose whose = Whose::Everybodys) {
+        const auto taken = queue.take(
+            connections, whose, [&](const std::string&) { return readyAhead; }, now);
         if (taken != nullptr) {
             queue.didStart(*taken);
         }
         return taken;
     };
-    for (const std::size_t expected : {0U, 4U, 5U}) {
-        EXPECT_EQ(take(Busy::Skip), transfers[expected]);
+    for (const std::size_t expected : {0U, 3U, 4U}) {
+        EXPECT_EQ(take(Connections::Have), transfers[expected]);
     }
-    EXPECT_EQ(take(Busy::Skip), nullptr);
-    EXPECT_FALSE(queue.empty());
-    EXPECT_EQ(take(Busy::Take), transfers[1]);
-    queue.didEnd(*transfers[0]);
-    EXPECT_EQ(take(Busy::Skip), nullptr) << "one is left";
-    queue.didEnd(*transfers[1]);
+    EXPECT_EQ(take(Connections::Have), nullptr) << "every server is busy";
+    push("https://a:1/person", Urgency::Person);
+    EXPECT_EQ(take(Connections::Make, Whose::Persons), nullptr) << "a connection may come free";
+    std::size_t wanted = 0;
+    queue.forEachPersonsWant([](const std::string&) { return 0U; },
+                             [&](const std::string& server, std::size_t connections) {
+                                 EXPECT_EQ(server, "https://a:1");
+                                 wanted += connections;
+                             });
+    EXPECT_EQ(wanted, 1U) << "another is made meanwhile";
+    EXPECT_EQ(take(Connections::Make), nullptr) << "nobody goes before a person at the same server";
+    now += std::chrono::seconds(3);
+    EXPECT_EQ(take(Connections::Have, Whose::Persons), transfers[5]) << "patience ends";
+    EXPECT_EQ(take(Connections::Have), nullptr);
+    EXPECT_EQ(take(Connections::Make), transfers[1]);
     EXPECT_FALSE(queue.erase(transfers[1]));
-    EXPECT_TRUE(queue.erase(transfers[2]));
-    EXPECT_EQ(take(Busy::Skip), transfers[3]);
+    readyAhead = 1;
+    EXPECT_EQ(take(Connections::Have), transfers[2]);
     EXPECT_TRUE(queue.empty());
-    EXPECT_EQ(take(Busy::Take), nullptr);
+    push("https://a:1/last", Urgency::Fleet);
+    EXPECT_TRUE(queue.erase(transfers[6]));
+    EXPECT_EQ(take(Connections::Make), nullptr);
 }
 
 TEST(StrandTests, BlocksRunOneAtATimeAndInOrderAlsoWithoutAHolder)

@@ -25,19 +25,28 @@ constexpr std::string_view logonNamespace = "http://www.ornis.example/xmlns/syst
 constexpr std::string_view k2Namespace = "http://www.w3.org/XML/1998/namespace/k2";
 constexpr std::string_view webContent = "application/vnd.ornis.varnex.web+xml";
 constexpr std::chrono::seconds logonTimeout{10};
+/// Six follow a logon; one of them has the logon's own connection.
+constexpr int feedsBesideTheFirst = 5;
+
+URLRequest withUrgency(URLRequest request, Urgency urgency)
+{
+    request.urgency = urgency;
+    return request;
+}
 
 /// Logon and session check of one record. Everything that is read of the record is read when it is made, on the thread
 /// that asked for the key: the record may be edited while the requests run.
 class Logon : public std::enable_shared_from_this<Logon>
 {
 public:
-    Logon(const RESTHandler& handler, CorvelRef corvel, RXPromise<SessionKey> promise)
+    Logon(const RESTHandler& handler, CorvelRef corvel, RXPromise<SessionKey> promise, Urgency urgency)
         : m_queue(handler.queue()),
           m_corvel(std::move(corvel)),
           m_name(shownText(m_corvel->name())),
           m_address(m_corvel->address()),
-          m_logonRequest(handler.loginRequestForCorvel(*m_corvel)),
-          m_promise(std::move(promise))
+          m_logonRequest(withUrgency(handler.loginRequestForCorvel(*m_corvel), urgency)),
+          m_promise(std::move(promise)),
+          m_feedsToCome(expectRequests(m_logonRequest.url, feedsBesideTheFirst))
     {
     }
 
@@ -45,7 +54,7 @@ public:
     void checkSession(URLRequest checkRequest, std::string key)
     {
         std::make_shared<CorvelRequest>()->sendRequest(
-            std::move(checkRequest), m_queue,
+            withUrgency(std::move(checkRequest), m_logonRequest.urgency), m_queue,
             [self = shared_from_this(), key = std::move(key)](const URLResponse* response, const std::string*,
                                                               const Error* error) {
                 if (error == nullptr && response->statusCode == 200) {
@@ -133,6 +142,7 @@ private:
     const std::optional<std::string> m_address;
     const URLRequest m_logonRequest;
     const RXPromise<SessionKey> m_promise;
+    const std::shared_ptr<void> m_feedsToCome;
 };
 
 } // namespace
@@ -224,7 +234,7 @@ URLRequest RESTHandler::sessionValidRequestWithToken(const std::string& token, c
     return request;
 }
 
-RXPromise<SessionKey> RESTHandler::login(const CorvelRef& corvel, CheckToken checkToken)
+RXPromise<SessionKey> RESTHandler::login(const CorvelRef& corvel, CheckToken checkToken, Urgency urgency)
 {
     RXPromise<SessionKey> promise;
     if (corvel->demo() == 1) {
@@ -239,7 +249,7 @@ RXPromise<SessionKey> RESTHandler::login(const CorvelRef& corvel, CheckToken che
         return promise;
     }
     LODESTAR_LOG(sourceFile, loginMethod, "Corvel: {}, just used firstOpen case", name);
-    const auto logon = std::make_shared<Logon>(*this, corvel, promise);
+    const auto logon = std::make_shared<Logon>(*this, corvel, promise, urgency);
     if (stored) {
         LODESTAR_LOG(sourceFile, loginMethod, "{}'s Corvel's saved token is not nil", name);
         logon->checkSession(sessionValidRequestWithToken(*stored, *corvel), *stored);

@@ -49,15 +49,16 @@ public:
 
     URLRequest loginRequestForCorvel(const Corvel& corvel) const;
     URLRequest sessionValidRequestWithToken(const std::string& token, const Corvel& corvel) const;
-    /// The key with which the console's requests are to be made. Rejected when the logon fails.
-    RXPromise<SessionKey> login(const CorvelRef& corvel, CheckToken checkToken);
+    /// The key with which the console's requests are to be made. Rejected when the logon fails. While a key is tried or
+    /// got, connections for the console's feeds are made ready.
+    RXPromise<SessionKey> login(const CorvelRef& corvel, CheckToken checkToken, Urgency urgency = Urgency::Person);
 
     /// One feed's root. Rejected when the request fails or ends with a status other than 200.
     RXPromise<XMLElement> fetchDataOfType(std::string_view type, const CorvelRef& corvel, std::string_view schema,
-                                          const SessionKey& key);
+                                          const SessionKey& key, Urgency urgency = Urgency::Person);
     /// All six feeds in parallel; never rejected: a feed that failed is "NA".
-    RXPromise<std::shared_ptr<const FeedDictionary>> fetchAllDataForCorvel(const CorvelRef& corvel,
-                                                                           const SessionKey& key);
+    RXPromise<std::shared_ptr<const FeedDictionary>>
+    fetchAllDataForCorvel(const CorvelRef& corvel, const SessionKey& key, Urgency urgency = Urgency::Person);
     /// Counts managed systems in error and with a lit attention LED into the record; always fulfilled with "OK".
     RXPromise<std::string> processInformationForCorvel(const CorvelRef& corvel);
     /// The text behind a link, without its quotes. Blocks the calling thread until the answer or the time-out.

@@ -86,7 +86,7 @@ void settle(const RXPromise<XMLElement>& promise, const Result<URLLoad>& load, c
 } // namespace
 
 RXPromise<XMLElement> RESTHandler::fetchDataOfType(std::string_view type, const CorvelRef& corvel,
-                                                   std::string_view schema, const SessionKey& key)
+                                                   std::string_view schema, const SessionKey& key, Urgency urgency)
 {
     RXPromise<XMLElement> promise;
     if (corvel->demo() == 1) {
@@ -96,6 +96,7 @@ RXPromise<XMLElement> RESTHandler::fetchDataOfType(std::string_view type, const 
     URLRequest request;
     request.url = consoleURL(*corvel, schema, type);
     request.timeout = feedTimeout;
+    request.urgency = urgency;
     if (key) {
         request.headers.setValue("X-API-Session", *key);
     }
@@ -106,8 +107,8 @@ RXPromise<XMLElement> RESTHandler::fetchDataOfType(std::string_view type, const 
     return promise;
 }
 
-RXPromise<std::shared_ptr<const FeedDictionary>> RESTHandler::fetchAllDataForCorvel(const CorvelRef& corvel,
-                                                                                    const SessionKey& key)
+RXPromise<std::shared_ptr<const FeedDictionary>>
+RESTHandler::fetchAllDataForCorvel(const CorvelRef& corvel, const SessionKey& key, Urgency urgency)
 {
     RXPromise<std::shared_ptr<const FeedDictionary>> promise;
     const auto collector = std::make_shared<FeedCollector>();
@@ -115,7 +116,7 @@ RXPromise<std::shared_ptr<const FeedDictionary>> RESTHandler::fetchAllDataForCor
     continuations.reserve(allFeeds.size());
     for (const auto& [type, schema] : allFeeds) {
         // Both handlers return a text, so that one unreachable feed does not fail the whole.
-        continuations.push_back(fetchDataOfType(type, corvel, schema, key)
+        continuations.push_back(fetchDataOfType(type, corvel, schema, key, urgency)
                                     .then(
                                         [collector, type = type](XMLElement root) {
                                             collector->set(type, Feed(std::move(root)));

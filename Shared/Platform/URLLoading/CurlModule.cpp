@@ -26,6 +26,7 @@ std::uint64_t wireBytes(ssl_st* connection)
 const lodestar::CurlModule* lodestar_curl_module()
 {
     using lodestar::CloseNotice;
+    using lodestar::HandshakeHold;
     using lodestar::ServerCertificate;
     static constexpr lodestar::CurlModule module{
         .easyCleanup = &curl_easy_cleanup,
@@ -53,6 +54,7 @@ const lodestar::CurlModule* lodestar_curl_module()
         .certificateOfConnection = &ServerCertificate::ofConnection,
         .noticeOfConnection = &CloseNotice::ofConnection,
         .wireBytesOfConnection = &wireBytes,
+        .secureConnection = &HandshakeHold::secureConnection,
     };
     return &module;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Platform/URLLoading/CloseNotice.h"
+#include "Platform/URLLoading/HandshakeHold.h"
 #include "Platform/URLLoading/ServerCertificate.h"
 
 #include <curl/curl.h>
@@ -47,6 +48,7 @@ struct CurlModule {
     decltype(&CloseNotice::ofConnection) noticeOfConnection;
     /// Bytes that a secured connection has received since it was opened, the protocol's own included.
     std::uint64_t (*wireBytesOfConnection)(ssl_st* connection);
+    decltype(&HandshakeHold::secureConnection) secureConnection;
 };
 
 /// The table, ready for use. Any thread; the first call loads it, which takes milliseconds and ends the process when an

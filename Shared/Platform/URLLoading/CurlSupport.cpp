@@ -135,6 +135,14 @@ std::optional<std::string> resolvedURL(const std::string& base, const std::strin
     return urlPart(handle, CURLUPART_URL);
 }
 
+std::string requestTarget(const std::string& url)
+{
+    const CurlURL handle = parsedURL(url);
+    const auto path = handle != nullptr ? urlPart(handle, CURLUPART_PATH) : std::nullopt;
+    const auto query = handle != nullptr ? urlPart(handle, CURLUPART_QUERY) : std::nullopt;
+    return path.value_or("/") + (query ? "?" + *query : "");
+}
+
 CurlList curlHeaders(const URLRequest& request)
 {
     CurlList list;

@@ -37,6 +37,9 @@ struct Origin {
 /// The address that a reference found at `base` means, without its fragment; none when there is no sense in it.
 std::optional<std::string> resolvedURL(const std::string& base, const std::string& reference);
 
+/// What a request for the address asks its server for: the path and the query. "/" for what is no address.
+std::string requestTarget(const std::string& url);
+
 /// The request's fields as libcurl wants them, with the fields that libcurl would add of its own taken out.
 CurlList curlHeaders(const URLRequest& request);
 

@@ -15,27 +15,23 @@ namespace lodestar
 namespace
 {
 
-// Enough to keep both ends busy on a fast network; each costs about 100 KB while it runs.
-constexpr std::size_t briskTransfers = 128;
-// As many as one or two consoles ask for at once: these need not share connections.
-constexpr std::size_t briskTransfersOfFew = 12;
 constexpr std::size_t waitingBytesLimit = 48UL * 1024 * 1024;
-constexpr long keptConnections = 512;
+// Each is asked after at every turn of the loop, so that thousands would cost more than they save.
+constexpr std::size_t mostConnectionsAhead = 600;
 constexpr std::size_t descriptorsForOthers = 256;
-constexpr std::chrono::milliseconds slowCountInterval{50};
 constexpr int longestWait = 60'000; ///< milliseconds
 
 std::atomic<NetworkThread*> theThread{nullptr};
 std::atomic<bool> readersAwaited{false};
 
-/// Slow transfers do not count against `briskTransfers`, but every one has a descriptor.
+/// Half of the descriptors is for connections in use, half for those that are kept.
 std::size_t descriptorLimit()
 {
     static const std::size_t limit = [] {
         rlimit files{};
         getrlimit(RLIMIT_NOFILE, &files);
         const std::size_t all = std::min<std::size_t>(files.rlim_cur, 16'384);
-        return all > 2 * descriptorsForOthers ? all - descriptorsForOthers : all / 2;
+        return (all > 2 * descriptorsForOthers ? all - descriptorsForOthers : all / 2) / 2;
     }();
     return limit;
 }
@@ -80,6 +76,15 @@ void NetworkThread::start(std::shared_ptr<Transfer> transfer)
     wake();
 }
 
+void NetworkThread::expect(const std::string& url, int transfers)
+{
+    {
+        const std::lock_guard lock(m_inboxMutex);
+        m_expected.emplace_back(Transfer::serverOf(url), transfers);
+    }
+    wake();
+}
+
 void NetworkThread::cancel(std::shared_ptr<Transfer> transfer)
 {
     {
@@ -112,7 +117,7 @@ void NetworkThread::run()
         std::fputs("The network thread could not be made\n", stderr);
         std::abort();
     }
-    curl().multiSetopt(multi, CURLMOPT_MAXCONNECTS, keptConnections);
+    curl().multiSetopt(multi, CURLMOPT_MAXCONNECTS, static_cast<long>(descriptorLimit()));
     m_multi = multi;
     for (;;) {
         {
@@ -123,7 +128,10 @@ void NetworkThread::run()
         }
         takeInbox();
         startWaiting();
+        const Clock::time_point before = Clock::now();
+        openAhead(before);
         curl().multiPoll(multi, nullptr, 0, waitTime(), nullptr);
+        m_idleness.waited(before, Clock::now());
         int running = 0;
         curl().multiPerform(multi, &running);
         finishDone();
@@ -132,11 +140,16 @@ void NetworkThread::run()
 }
 
 /// libcurl's own timers cut the wait short by themselves.
-int NetworkThread::waitTime() const
+int NetworkThread::waitTime()
 {
+    if (std::exchange(m_hasReleased, false)) {
+        return 0;
+    }
     const Clock::time_point now = Clock::now();
-    const Clock::time_point until =
-        m_waiting.empty() ? m_nextDeadline : std::min(m_nextDeadline, now + slowCountInterval);
+    Clock::time_point until = std::min(m_nextDeadline, m_ahead.nextClose());
+    if (!m_waiting.empty() || (m_waiting.expectsAny() && !m_idleness.isIdle())) {
+        until = std::min(until, now + Idleness::period);
+    }
     if (until == Clock::time_point::max()) {
         return longestWait;
     }
@@ -148,10 +161,18 @@ void NetworkThread::takeInbox()
 {
     std::vector<std::shared_ptr<Transfer>> started;
     std::vector<std::shared_ptr<Transfer>> cancelled;
+    std::vector<std::pair<std::string, int>> expected;
     {
         const std::lock_guard lock(m_inboxMutex);
         started.swap(m_started);
         cancelled.swap(m_cancelled);
+        expected.swap(m_expected);
+    }
+    if (!started.empty()) {
+        m_idleness.reset(Clock::now());
+    }
+    for (const auto& [server, transfers] : expected) {
+        m_waiting.expect(server, transfers);
     }
     for (auto& transfer : started) {
         m_waiting.push(std::move(transfer));
@@ -169,34 +190,58 @@ void NetworkThread::takeInbox()
 void NetworkThread::startWaiting()
 {
     readersAwaited = false;
-    while (const std::shared_ptr<Transfer> transfer = nextToStart(Clock::now())) {
-        if (transfer->start()) {
-            m_waiting.didStart(*transfer);
-            m_running.emplace(transfer.get(), transfer);
-            add(transfer);
-        }
+    const Clock::time_point now = Clock::now();
+    while (const std::shared_ptr<Transfer> transfer = nextToStart(now)) {
+        begin(transfer);
+    }
+}
+
+void NetworkThread::begin(const std::shared_ptr<Transfer>& transfer)
+{
+    std::optional<ConnectionHandle> ahead;
+    if (!m_waiting.hasFreeConnection(transfer->server()) && transfer->mayTakeConnectionAhead()) {
+        ahead = m_ahead.take(transfer->server());
+        m_hasReleased = m_hasReleased || ahead;
+    }
+    m_waiting.didStart(*transfer);
+    if (transfer->start(std::move(ahead))) {
+        m_running.emplace(transfer.get(), transfer);
+        add(transfer);
+    } else {
+        m_waiting.didEnd(*transfer);
     }
 }
 
 /// Null when nothing waits or all that does has to wait on.
 std::shared_ptr<Transfer> NetworkThread::nextToStart(Clock::time_point now)
 {
-    if (m_waiting.empty()) {
+    using Connections = TransferQueue::Connections;
+    using Whose = TransferQueue::Whose;
+    if (m_waiting.empty() || m_running.size() >= descriptorLimit()) {
         return nullptr;
     }
-    if (m_running.empty()) {
-        return m_waiting.take(TransferQueue::Busy::Take);
+    const bool alone = m_running.empty();
+    return m_waiting.take(
+        alone || m_idleness.isIdle() ? Connections::Make : Connections::Have,
+        alone || readersKeepUp() ? Whose::Everybodys : Whose::Persons,
+        [this](const std::string& server) { return m_ahead.hasReady(server) ? 1 : 0; }, now);
+}
+
+/// For persons at once; for what is expected when there is nothing better to do.
+void NetworkThread::openAhead(Clock::time_point now)
+{
+    m_hasReleased = m_ahead.closeOld(m_multi, now) || m_hasReleased;
+    const auto ahead = [this](const std::string& server) { return m_ahead.count(server); };
+    const auto open = [this, now](const std::string& server, std::size_t connections) {
+        while (connections-- > 0 && m_ahead.count() < mostConnectionsAhead &&
+               m_running.size() + m_ahead.count() < descriptorLimit()) {
+            m_ahead.open(m_multi, server, now);
+        }
+    };
+    m_waiting.forEachPersonsWant(ahead, open);
+    if (m_idleness.isIdle()) {
+        m_waiting.forEachExpectedWant(ahead, open);
     }
-    if (m_running.size() >= descriptorLimit() || !readersKeepUp()) {
-        return nullptr;
-    }
-    if (m_running.size() >= briskTransfersOfFew) {
-        countSlow(now);
-    }
-    if (briskCount() >= briskTransfers) {
-        return nullptr;
-    }
-    return m_waiting.take(briskCount() < briskTransfersOfFew ? TransferQueue::Busy::Take : TransferQueue::Busy::Skip);
 }
 
 bool NetworkThread::readersKeepUp()
@@ -209,24 +254,10 @@ bool NetworkThread::readersKeepUp()
     return HeldBytes::waitingForReaders() < waitingBytesLimit;
 }
 
-std::size_t NetworkThread::briskCount() const
-{
-    return m_running.size() - std::min(m_slow, m_running.size());
-}
-
-void NetworkThread::countSlow(Clock::time_point now)
-{
-    if (now - m_slowCounted < slowCountInterval) {
-        return;
-    }
-    m_slowCounted = now;
-    m_slow = static_cast<std::size_t>(
-        std::ranges::count_if(m_running, [now](const auto& entry) { return entry.second->isSlow(now); }));
-}
-
 void NetworkThread::add(const std::shared_ptr<Transfer>& transfer)
 {
     m_nextDeadline = std::min(m_nextDeadline, transfer->deadline());
+    // One that took a connection that was made ahead is there already.
     curl().multiAddHandle(m_multi, transfer->handle());
 }
 
@@ -239,8 +270,13 @@ void NetworkThread::finishDone()
         }
         const CURLcode result = message->data.result;
         Transfer* done = nullptr;
-        curl().easyGetinfo(message->easy_handle, CURLINFO_PRIVATE, &done);
-        curl().multiRemoveHandle(m_multi, message->easy_handle);
+        CURL* const easy = message->easy_handle;
+        curl().easyGetinfo(easy, CURLINFO_PRIVATE, &done);
+        curl().multiRemoveHandle(m_multi, easy);
+        if (done == nullptr) {
+            m_ahead.failed(easy, Clock::now());
+            continue;
+        }
         const std::shared_ptr<Transfer> transfer = m_running.at(done);
         if (transfer->hopEnded(result)) {
             add(transfer);

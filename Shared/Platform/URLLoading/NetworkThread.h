@@ -1,22 +1,29 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Platform/URLLoading/ConnectionsAhead.h"
+#include "Platform/URLLoading/Idleness.h"
 #include "Platform/URLLoading/Transfer.h"
 #include "Platform/URLLoading/TransferQueue.h"
 
 #include <atomic>
 #include <memory>
 #include <mutex>
+#include <string>
 #include <thread>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace lodestar
 {
 
-/// The one thread on which asynchronous transfers run: an event loop over libcurl's multi interface. Transfers start
-/// in the order in which they came; so many run at once that memory stays bounded, where one whose server dawdles does
-/// not count, so that a few bad servers cannot hold up the rest. A transfer's clocks start when it does.
+/// The one thread on which asynchronous transfers run: an event loop over libcurl's multi interface. No count of
+/// transfers holds any back. One starts at once when its server has a connection for it: a kept one, one that was made
+/// ahead, or none so far. Where all are in use, another is made as soon as this thread has next to nothing to do:
+/// through a network with a length that is at once, while a machine that is busy with what comes in already is spared
+/// five handshakes of six. Memory and descriptors are the limits: bytes that wait for their readers, and sockets. A
+/// transfer's clocks start when it does.
 ///
 /// At the process's exit the thread ends between two events; transfers in flight are then left as they are, their
 /// clients untouched, since nobody is there to be told.
@@ -30,6 +37,10 @@ public:
     /// Any thread. Does nothing to a transfer that has ended.
     void cancel(std::shared_ptr<Transfer> transfer);
 
+    /// So many transfers to the address's server are soon to be started, if all goes well: connections are made ready
+    /// for them. Negative to take that back, which the same caller does in any case. Any thread.
+    void expect(const std::string& url, int transfers);
+
     /// To be called when a body has been handed to its reader: starts what waited for that. Any thread.
     static void readerCaughtUp();
 
@@ -41,13 +52,13 @@ private:
 
     void run();
     void wake() const;
-    int waitTime() const;
+    int waitTime();
     void takeInbox();
     void startWaiting();
+    void begin(const std::shared_ptr<Transfer>& transfer);
     std::shared_ptr<Transfer> nextToStart(Clock::time_point now);
     bool readersKeepUp();
-    void countSlow(Clock::time_point now);
-    std::size_t briskCount() const;
+    void openAhead(Clock::time_point now);
     void add(const std::shared_ptr<Transfer>& transfer);
     void finishDone();
     void failOverdue();
@@ -59,13 +70,15 @@ private:
     std::mutex m_inboxMutex;
     std::vector<std::shared_ptr<Transfer>> m_started;
     std::vector<std::shared_ptr<Transfer>> m_cancelled;
+    std::vector<std::pair<std::string, int>> m_expected;
     bool m_stopping = false;
 
     // The loop's own.
     TransferQueue m_waiting;
     std::unordered_map<Transfer*, std::shared_ptr<Transfer>> m_running;
-    std::size_t m_slow = 0; ///< of the running ones, as last counted
-    Clock::time_point m_slowCounted;
+    ConnectionsAhead m_ahead;
+    Idleness m_idleness;
+    bool m_hasReleased = false; ///< a handshake may go on: no socket tells libcurl of that
     Clock::time_point m_nextDeadline = Clock::time_point::max();
 };
 

@@ -13,10 +13,6 @@ namespace lodestar
 namespace
 {
 
-constexpr std::chrono::milliseconds silenceOfSlow{500};
-constexpr std::chrono::milliseconds patience{1000};
-constexpr std::size_t bytesPerSecondOfSlow = 4096;
-
 std::string_view trimmed(std::string_view text)
 {
     constexpr std::string_view blanks = " \t\r\n";
@@ -33,12 +29,6 @@ std::optional<Number> numberIn(std::string_view text)
     Number number{};
     const auto [end, problem] = std::from_chars(text.data(), text.data() + text.size(), number);
     return problem == std::errc() && end == text.data() + text.size() ? std::optional(number) : std::nullopt;
-}
-
-std::string serverOf(const std::string& url)
-{
-    constexpr std::string_view beforeHost = "https://";
-    return url.substr(0, url.find('/', beforeHost.size()));
 }
 
 int statusOfLine(std::string_view line)
@@ -60,47 +50,50 @@ Transfer::Transfer(URLRequest request, std::shared_ptr<TransferClient> client)
     }
 }
 
-bool Transfer::start()
+std::string Transfer::serverOf(const std::string& url)
+{
+    constexpr std::string_view beforeHost = "https://";
+    return url.substr(0, url.find_first_of("/?#", beforeHost.size()));
+}
+
+bool Transfer::start(std::optional<ConnectionHandle> ahead)
 {
     m_started = Clock::now();
     m_lastProgress = m_started;
-    return prepareHop();
+    return prepareHop(std::move(ahead));
 }
 
-bool Transfer::prepareHop()
+/// What changes something may not be sent twice, which a lost connection would bring about.
+bool Transfer::mayTakeConnectionAhead() const
+{
+    const auto origin = Origin::ofURL(m_request.url);
+    return origin && m_request.method == "GET" && !m_client->wantsFreshHandshake(*origin);
+}
+
+bool Transfer::prepareHop(std::optional<ConnectionHandle> ahead)
 {
     m_response = {};
     m_origin = Origin::ofURL(m_request.url);
-    m_easy.reset(m_origin ? curl().easyInit() : nullptr);
-    if (m_easy == nullptr) {
+    if (m_origin && ahead) {
+        m_connection = std::move(*ahead);
+        curl().easySetopt(m_connection.easy.get(), CURLOPT_REQUEST_TARGET, requestTarget(m_request.url).c_str());
+    } else {
+        m_connection =
+            m_origin ? ConnectionHandle::make(m_request.url, ConnectionHandle::Handshake::Whole) : ConnectionHandle();
+    }
+    if (m_connection.easy == nullptr) {
         end(urlError(m_origin ? URLErrorCode::Unknown : URLErrorCode::BadURL));
         return false;
     }
-    CURL* const easy = m_easy.get();
+    CURL* const easy = m_connection.easy.get();
     m_headers = curlHeaders(m_request);
     curl().easySetopt(easy, CURLOPT_PRIVATE, this);
-    curl().easySetopt(easy, CURLOPT_URL, m_request.url.c_str());
-    curl().easySetopt(easy, CURLOPT_PROTOCOLS_STR, "https");
-    curl().easySetopt(easy, CURLOPT_DISALLOW_USERNAME_IN_URL, 1L);
-    curl().easySetopt(easy, CURLOPT_PROXY, "");
-    curl().easySetopt(easy, CURLOPT_NOSIGNAL, 1L);
-    // Without it a name that the resolver ponders would hold the driving thread when its transfer is given up.
-    curl().easySetopt(easy, CURLOPT_QUICK_EXIT, 1L);
-    curl().easySetopt(easy, CURLOPT_HTTP_VERSION, CURL_HTTP_VERSION_1_1);
     curl().easySetopt(easy, CURLOPT_HTTPHEADER, m_headers.get());
     if (m_request.method != "GET" || !m_request.body.empty()) {
         curl().easySetopt(easy, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(m_request.body.size()));
         curl().easySetopt(easy, CURLOPT_POSTFIELDS, m_request.body.data());
         curl().easySetopt(easy, CURLOPT_CUSTOMREQUEST, m_request.method.c_str());
     }
-    // Trust is ours to decide, in `connectionReady`, for every connection alike: so libcurl may lend a connection that
-    // one kind of request opened to the other kind.
-    curl().easySetopt(easy, CURLOPT_SSL_VERIFYPEER, 0L);
-    curl().easySetopt(easy, CURLOPT_SSL_VERIFYHOST, 0L);
-    curl().easySetopt(easy, CURLOPT_CAINFO, nullptr);
-    curl().easySetopt(easy, CURLOPT_CAPATH, nullptr);
-    // Each hop has a handle of its own, so that kept sessions would never be used.
-    curl().easySetopt(easy, CURLOPT_SSL_SESSIONID_CACHE, 0L);
     curl().easySetopt(easy, CURLOPT_PREREQFUNCTION, &Transfer::prerequest);
     curl().easySetopt(easy, CURLOPT_PREREQDATA, this);
     curl().easySetopt(easy, CURLOPT_HEADERFUNCTION, &Transfer::header);
@@ -110,17 +103,22 @@ bool Transfer::prepareHop()
     curl().easySetopt(easy, CURLOPT_NOPROGRESS, 0L);
     curl().easySetopt(easy, CURLOPT_XFERINFOFUNCTION, &Transfer::progress);
     curl().easySetopt(easy, CURLOPT_XFERINFODATA, this);
-    // Ours are the deadlines; libcurl's own for connecting must not come first.
-    curl().easySetopt(easy, CURLOPT_CONNECTTIMEOUT_MS, static_cast<long>(m_request.timeout.count()) + 60'000L);
     const bool fresh = std::exchange(m_needsFreshConnection, false) || m_client->wantsFreshHandshake(*m_origin);
     curl().easySetopt(easy, CURLOPT_FRESH_CONNECT, fresh ? 1L : 0L);
     return true;
 }
 
+/// A server may leave a connection that was made ahead while nothing goes on there; libcurl itself makes up for that
+/// with kept connections only.
+bool Transfer::lostConnectionAhead() const
+{
+    return m_connection.hold != nullptr && m_received == 0 && !m_refusal;
+}
+
 bool Transfer::hopEnded(CURLcode result)
 {
     if (result != CURLE_OK) {
-        if (m_needsFreshConnection) {
+        if (m_needsFreshConnection || lostConnectionAhead()) {
             return prepareHop();
         }
         end(errorOf(result));
@@ -162,6 +160,7 @@ void Transfer::fail(URLErrorCode code)
 
 void Transfer::end(std::optional<Error> error)
 {
+    m_leavesConnection = !error && m_response.headers.value("Connection").value_or("") != "close";
     if (const auto client = std::exchange(m_client, nullptr); client != nullptr) {
         client->didEnd(std::move(error), std::move(m_held));
     }
@@ -186,23 +185,14 @@ Transfer::Clock::time_point Transfer::deadline() const
     return std::min(m_lastProgress + m_request.timeout, m_started + total);
 }
 
-bool Transfer::isSlow(Clock::time_point now) const
-{
-    if (now - m_lastProgress > silenceOfSlow) {
-        return true;
-    }
-    const auto elapsed = std::chrono::duration_cast<std::chrono::milliseconds>(now - m_started);
-    return elapsed > patience && m_received < static_cast<std::size_t>(elapsed.count()) * bytesPerSecondOfSlow / 1000;
-}
-
 /// Every connection passes here before a byte of the request is sent, fresh and kept ones alike.
 bool Transfer::connectionReady()
 {
     m_lastProgress = Clock::now();
     curl_tlssessioninfo* session = nullptr;
-    curl().easyGetinfo(m_easy.get(), CURLINFO_TLS_SSL_PTR, &session);
+    curl().easyGetinfo(m_connection.easy.get(), CURLINFO_TLS_SSL_PTR, &session);
     long connections = 0;
-    curl().easyGetinfo(m_easy.get(), CURLINFO_NUM_CONNECTS, &connections);
+    curl().easyGetinfo(m_connection.easy.get(), CURLINFO_NUM_CONNECTS, &connections);
     auto* const connection = session != nullptr ? static_cast<ssl_st*>(session->internals) : nullptr;
     const auto certificate = curl().certificateOfConnection(connection, m_origin->host, m_origin->port);
     if (!certificate) {
@@ -211,6 +201,7 @@ bool Transfer::connectionReady()
     }
     m_closeNotice = curl().noticeOfConnection(connection);
     m_unseenBefore = wireBytes() - static_cast<std::int64_t>(m_received);
+    m_madeConnection = m_madeConnection || connections > 0;
     const Handshake handshake = connections > 0 ? Handshake::Fresh : Handshake::Reused;
     if (m_client->acceptsServer(*certificate, handshake)) {
         return true;
@@ -316,7 +307,7 @@ bool Transfer::deliver(std::span<const char> bytes)
 std::int64_t Transfer::wireBytes() const
 {
     curl_tlssessioninfo* session = nullptr;
-    curl().easyGetinfo(m_easy.get(), CURLINFO_TLS_SSL_PTR, &session);
+    curl().easyGetinfo(m_connection.easy.get(), CURLINFO_TLS_SSL_PTR, &session);
     return session != nullptr && session->internals != nullptr
                ? static_cast<std::int64_t>(curl().wireBytesOfConnection(static_cast<ssl_st*>(session->internals)))
                : 0;

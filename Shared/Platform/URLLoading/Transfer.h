@@ -3,7 +3,7 @@
 
 #include "Platform/URLLoading/BodyDecoder.h"
 #include "Platform/URLLoading/CloseNotice.h"
-#include "Platform/URLLoading/CurlSupport.h"
+#include "Platform/URLLoading/ConnectionHandle.h"
 #include "Platform/URLLoading/HeldBytes.h"
 #include "Platform/URLLoading/ServerCertificate.h"
 #include "Platform/URLLoading/URLConnection.h"
@@ -49,22 +49,30 @@ public:
     Transfer& operator=(const Transfer&) = delete;
     ~Transfer() = default;
 
-    /// Starts the clocks. False when there is nothing to drive, because the transfer has failed already.
-    bool start();
-    CURL* handle() const { return m_easy.get(); }
+    /// Starts the clocks. False when there is nothing to drive, because the transfer has failed already. With a
+    /// connection that was made ahead, to the same server, its handle goes on as this transfer's.
+    bool start(std::optional<ConnectionHandle> ahead = std::nullopt);
+    CURL* handle() const { return m_connection.easy.get(); }
     /// Scheme, host and port of the first hop, as they stood in the address.
     const std::string& server() const { return m_server; }
+    static std::string serverOf(const std::string& url);
+    Urgency urgency() const { return m_request.urgency; }
+    /// Whether `start` may be given a connection that was made ahead.
+    bool mayTakeConnectionAhead() const;
+    /// When it was made.
+    Clock::time_point waitsSince() const { return m_made; }
+    /// Once it has ended: whether it had a connection made, and whether its connection may serve the next one.
+    bool madeConnection() const { return m_madeConnection; }
+    bool leavesConnection() const { return m_leavesConnection; }
     bool hopEnded(CURLcode result);
     void fail(URLErrorCode code);
 
     /// When the transfer is overdue if nothing more arrives: the idle limit or the total one. Monotonic clock.
     Clock::time_point deadline() const;
-    /// True when the transfer has had its chance and the server makes little of it, so that it should not keep
-    /// others waiting for their turn.
-    bool isSlow(Clock::time_point now) const;
 
 private:
-    bool prepareHop();
+    bool prepareHop(std::optional<ConnectionHandle> ahead = std::nullopt);
+    bool lostConnectionAhead() const;
     void end(std::optional<Error> error);
     void refuse(URLErrorCode code, std::string reason = {});
     bool bodyIsWhole() const;
@@ -89,10 +97,11 @@ private:
     const std::string m_server;
     URLRequest m_request; ///< of the current hop
     std::shared_ptr<TransferClient> m_client;
-    CurlEasy m_easy;
+    ConnectionHandle m_connection;
     CurlList m_headers;
     std::optional<Origin> m_origin;
 
+    const Clock::time_point m_made = Clock::now();
     Clock::time_point m_started;
     Clock::time_point m_lastProgress;
     std::size_t m_received = 0;      ///< body and header bytes of all hops, as they came
@@ -101,6 +110,8 @@ private:
     int m_redirects = 0;
     bool m_needsFreshConnection = false;
     bool m_retriedFresh = false;
+    bool m_madeConnection = false;
+    bool m_leavesConnection = false;
     std::size_t m_headerBytes = 0;
     std::size_t m_bodyBytes = 0; ///< decoded, of the current response
     HeldBytes m_held;

@@ -4,7 +4,6 @@
 #include "Platform/URLLoading/Transfer.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 namespace lodestar
@@ -13,48 +12,170 @@ namespace lodestar
 namespace
 {
 
-// How far ahead one whose turn it is not yet is passed over: keeps a long queue of silent servers from being walked
-// through again and again.
-constexpr std::ptrdiff_t sight = 256;
+// Where no connection can be made meanwhile, there is nothing to wait for.
+constexpr std::chrono::seconds patienceOfPersons{HandshakeHold::isPossible ? 2 : 0};
+
+bool isPersons(const Transfer& transfer)
+{
+    return transfer.urgency() == Urgency::Person;
+}
 
 } // namespace
 
-bool TransferQueue::erase(const std::shared_ptr<Transfer>& transfer)
+void TransferQueue::push(std::shared_ptr<Transfer> transfer)
 {
-    return std::erase(m_waiting, transfer) != 0;
+    const auto turn = m_servers.try_emplace(transfer->server()).first;
+    Server& server = turn->second;
+    if (server.waiting.empty()) {
+        m_turns.push_back(&*turn);
+    }
+    ++m_count;
+    if (isPersons(*transfer)) {
+        server.waiting.insert(server.waiting.begin() + static_cast<std::ptrdiff_t>(server.persons++),
+                              std::move(transfer));
+        ++m_persons;
+    } else {
+        server.waiting.push_back(std::move(transfer));
+    }
 }
 
-std::shared_ptr<Transfer> TransferQueue::take(Busy servers)
+bool TransferQueue::erase(const std::shared_ptr<Transfer>& transfer)
 {
-    const auto end = m_waiting.begin() + std::min<std::ptrdiff_t>(sight, std::ssize(m_waiting));
-    auto next = std::find_if(m_waiting.begin(), end, [this](const auto& transfer) { return !isBusy(*transfer); });
-    if (next == end) {
-        if (servers == Busy::Skip || m_waiting.empty()) {
-            return nullptr;
-        }
-        next = m_waiting.begin();
+    const auto found = m_servers.find(transfer->server());
+    if (found == m_servers.end() || std::erase(found->second.waiting, transfer) == 0) {
+        return false;
     }
-    std::shared_ptr<Transfer> taken = std::move(*next);
-    m_waiting.erase(next);
-    return taken;
+    --m_count;
+    if (isPersons(*transfer)) {
+        --m_persons;
+        --found->second.persons;
+    }
+    if (found->second.waiting.empty()) {
+        std::erase(m_turns, &*found);
+        forgetIfUnused(transfer->server());
+    }
+    return true;
+}
+
+std::shared_ptr<Transfer> TransferQueue::take(Connections connections, Whose whose, const Ahead& ready,
+                                              Clock::time_point now)
+{
+    const auto hasConnection = [&ready](Turn turn) {
+        const Server& server = turn->second;
+        return server.running == 0 || server.free > 0 || ready(turn->first) > 0;
+    };
+    if (m_persons > 0) {
+        const auto turn = std::ranges::find_if(m_turns, [&](Turn one) {
+            const Server& server = one->second;
+            return server.persons > 0 &&
+                   (hasConnection(one) || now - server.waiting.front()->waitsSince() > patienceOfPersons);
+        });
+        if (turn != m_turns.end()) {
+            return takeFrom(turn);
+        }
+    }
+    if (whose == Whose::Persons) {
+        return nullptr;
+    }
+    const auto turn = std::ranges::find_if(m_turns, [&](Turn one) {
+        return one->second.persons == 0 && (connections == Connections::Make || hasConnection(one));
+    });
+    return turn != m_turns.end() ? takeFrom(turn) : nullptr;
+}
+
+std::shared_ptr<Transfer> TransferQueue::takeFrom(std::deque<Turn>::iterator turn)
+{
+    const Turn taken = *turn;
+    Server& server = taken->second;
+    std::shared_ptr<Transfer> transfer = std::move(server.waiting.front());
+    server.waiting.pop_front();
+    m_turns.erase(turn);
+    if (!server.waiting.empty()) {
+        m_turns.push_back(taken);
+    }
+    --m_count;
+    if (isPersons(*transfer)) {
+        --m_persons;
+        --server.persons;
+    }
+    return transfer;
 }
 
 void TransferQueue::didStart(const Transfer& transfer)
 {
-    ++m_running[transfer.server()];
+    Server& server = m_servers[transfer.server()];
+    ++server.running;
+    if (server.free > 0) {
+        --server.free;
+        m_onFreeConnections.insert(&transfer);
+    }
 }
 
 void TransferQueue::didEnd(const Transfer& transfer)
 {
-    const auto entry = m_running.find(transfer.server());
-    if (entry != m_running.end() && --entry->second == 0) {
-        m_running.erase(entry);
+    const auto found = m_servers.find(transfer.server());
+    if (found == m_servers.end()) {
+        return;
+    }
+    Server& server = found->second;
+    --server.running;
+    const bool tookFree = m_onFreeConnections.erase(&transfer) != 0;
+    if (tookFree && transfer.madeConnection()) {
+        server.free = 0; // the free one was not there: its server had closed it, and so it will have the others
+    }
+    if (transfer.leavesConnection()) {
+        ++server.free;
+    }
+    forgetIfUnused(transfer.server());
+}
+
+bool TransferQueue::hasFreeConnection(const std::string& server) const
+{
+    const auto found = m_servers.find(server);
+    return found != m_servers.end() && found->second.free > 0;
+}
+
+void TransferQueue::expect(const std::string& server, int transfers)
+{
+    m_servers[server].expected += static_cast<std::size_t>(transfers);
+    m_expected += static_cast<std::size_t>(transfers);
+    forgetIfUnused(server);
+}
+
+void TransferQueue::forEachExpectedWant(const Ahead& ahead, const Want& want) const
+{
+    if (m_expected == 0) {
+        return;
+    }
+    for (const auto& [name, server] : m_servers) {
+        const std::size_t there = server.expected > 0 ? server.free + ahead(name) : 0;
+        if (server.expected > there) {
+            want(name, server.expected - there);
+        }
     }
 }
 
-bool TransferQueue::isBusy(const Transfer& transfer) const
+void TransferQueue::forEachPersonsWant(const Ahead& ahead, const Want& want) const
 {
-    return m_running.contains(transfer.server());
+    if (m_persons == 0) {
+        return;
+    }
+    for (const Turn turn : m_turns) {
+        const auto& [name, server] = *turn;
+        const std::size_t there = server.persons > 0 ? server.free + ahead(name) : 0;
+        if (server.persons > there) {
+            want(name, server.persons - there);
+        }
+    }
+}
+
+void TransferQueue::forgetIfUnused(const std::string& server)
+{
+    const auto found = m_servers.find(server);
+    if (found != m_servers.end() && found->second.waiting.empty() && found->second.running == 0 &&
+        found->second.free == 0 && found->second.expected == 0) {
+        m_servers.erase(found);
+    }
 }
 
 } // namespace lodestar

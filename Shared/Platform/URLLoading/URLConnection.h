@@ -86,13 +86,18 @@ struct URLLoad {
 };
 
 /// Sends the request with the system's trust rules (see ServerTrust.h) and calls the completion exactly once, on the
-/// queue. Returns at once. The request's clocks start when the network thread gets to it, which is at once unless very
-/// many are under way. A redirect is followed within TLS only; one that cannot be followed is the answer.
+/// queue. Returns at once. The request's clocks start when it has a connection, see NetworkThread.h. A redirect is
+/// followed within TLS only; one that cannot be followed is the answer.
 ///
 /// The returned function ends the transfer, from any thread: the completion gets `Cancelled`, unless it has been
 /// called.
 std::function<void()> sendAsynchronousRequest(URLRequest request, const OperationQueue& queue,
                                               std::function<void(Result<URLLoad>)> completion);
+
+/// Says that so many requests to the address's server will follow, if all goes well: as long as the answer is kept,
+/// connections are made ready for them where the network is slow enough to be worth it. Nothing but the greeting of a
+/// handshake is sent on one before a request takes it, under the usual rules of trust. Any thread.
+std::shared_ptr<void> expectRequests(const std::string& url, int requests);
 
 /// As above, blocking the calling thread, which runs the transfer itself on a kept-alive connection of its own.
 Result<URLLoad> sendSynchronousRequest(const URLRequest& request);

@@ -39,6 +39,12 @@ std::function<void()> sendAsynchronousRequest(URLRequest request, const Operatio
     };
 }
 
+std::shared_ptr<void> expectRequests(const std::string& url, int requests)
+{
+    NetworkThread::shared().expect(url, requests);
+    return {nullptr, [url, requests](void*) { NetworkThread::shared().expect(url, -requests); }};
+}
+
 Result<URLLoad> sendSynchronousRequest(const URLRequest& request)
 {
     return SynchronousLoader::load(request);

@@ -30,6 +30,9 @@ private:
     std::vector<Field> m_fields;
 };
 
+/// Who waits for a request's answer: a person in front of a screen goes before the refresh of a fleet.
+enum class Urgency { Fleet, Person };
+
 /// A prepared request. A value; the transport takes a copy.
 struct URLRequest {
     /// The platform's default time-out.
@@ -41,6 +44,7 @@ struct URLRequest {
     std::string body;
     /// Idle limit: the longest wait for the next byte. The whole transfer has the limits of `TransferLimits` besides.
     std::chrono::milliseconds timeout = defaultTimeout;
+    Urgency urgency = Urgency::Person;
 };
 
 /// What a server answered, without the body. Status 0 is "no response yet".

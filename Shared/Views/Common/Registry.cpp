@@ -52,13 +52,13 @@ void forgetSessionKeyOfUnregistered(const Corvel& corvel)
     }
 }
 
-RXPromise<std::string> fetchInventory(const CorvelRef& corvel)
+RXPromise<std::string> fetchInventory(const CorvelRef& corvel, Urgency urgency)
 {
     return RESTHandler::sharedInstance()
-        .login(corvel, CheckToken::Yes)
-        .then([corvel](const SessionKey& key) {
+        .login(corvel, CheckToken::Yes, urgency)
+        .then([corvel, urgency](const SessionKey& key) {
             corvel->isOnline = true;
-            return RESTHandler::sharedInstance().fetchAllDataForCorvel(corvel, key);
+            return RESTHandler::sharedInstance().fetchAllDataForCorvel(corvel, key, urgency);
         })
         .then([corvel](const std::shared_ptr<const FeedDictionary>& feeds) {
             corvel->setRestData(feeds);

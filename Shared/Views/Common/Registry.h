@@ -4,6 +4,7 @@
 #include "Application/Model/Corvel.h"
 #include "Controllers/REST/RXPromise.h"
 #include "Controllers/REST/XMLElement.h"
+#include "Platform/URLLoading/URLRequest.h"
 
 #include <optional>
 #include <string>
@@ -31,7 +32,7 @@ void forgetSessionKeyOfUnregistered(const Corvel& corvel);
 
 /// Logs on to the console, marks its record online, gives it its six feeds and counts them. Rejected when the logon
 /// fails; a feed that fails is "NA".
-RXPromise<std::string> fetchInventory(const CorvelRef& corvel);
+RXPromise<std::string> fetchInventory(const CorvelRef& corvel, Urgency urgency = Urgency::Person);
 
 /// One feed of the console, asked for with the session key that is stored for it: a key that the console no longer
 /// takes is a refusal, until the console list logs on anew. Rejected for no console. Type and schema outlive the fetch.

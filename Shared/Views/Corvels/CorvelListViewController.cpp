@@ -134,9 +134,9 @@ void CorvelListViewController::refreshCorvel(const CorvelRef& corvel)
 {
     // The screen is kept until the result is stored, also when it is closed meanwhile.
     const auto screen = self<CorvelListViewController>();
-    fetchInventory(corvel).thenOnMain(
-        [screen, corvel](const std::string&) { screen->didRefreshCorvel(corvel); },
-        [screen, corvel](const Error& error) { screen->didFailToRefreshCorvel(corvel, error); });
+    fetchInventory(corvel, Urgency::Fleet)
+        .thenOnMain([screen, corvel](const std::string&) { screen->didRefreshCorvel(corvel); },
+                    [screen, corvel](const Error& error) { screen->didFailToRefreshCorvel(corvel, error); });
 }
 
 void CorvelListViewController::didRefreshCorvel(const CorvelRef& corvel)

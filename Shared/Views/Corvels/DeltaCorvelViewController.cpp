@@ -119,8 +119,9 @@ void DeltaCorvelViewController::logOnAndFetch()
 {
     const auto screen = self<DeltaCorvelViewController>();
     const CorvelRef corvel = m_corvel;
-    fetchInventory(corvel).thenOnMain([screen, corvel](const std::string&) { screen->didFetch(corvel); },
-                                      [screen](const Error& error) { screen->didFail(error); });
+    fetchInventory(corvel, Urgency::Person)
+        .thenOnMain([screen, corvel](const std::string&) { screen->didFetch(corvel); },
+                    [screen](const Error& error) { screen->didFail(error); });
 }
 
 void DeltaCorvelViewController::didFetch(const CorvelRef& corvel)

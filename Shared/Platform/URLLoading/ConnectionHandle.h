@@ -1,0 +1,23 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Platform/URLLoading/CurlSupport.h"
+#include "Platform/URLLoading/HandshakeHold.h"
+
+#include <memory>
+#include <string>
+
+namespace lodestar
+{
+
+/// A libcurl handle with everything set that concerns the connection to a server and nothing that concerns a request.
+struct ConnectionHandle {
+    enum class Handshake { Whole, Held };
+
+    std::shared_ptr<HandshakeHold> hold; ///< null when the handshake is not held
+    CurlEasy easy;                       ///< null when memory is out
+
+    static ConnectionHandle make(const std::string& url, Handshake handshake);
+};
+
+} // namespace lodestar

@@ -1,0 +1,61 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/URLLoading/HandshakeHold.h"
+
+#include <openssl/async.h>
+#include <openssl/ssl.h>
+
+namespace lodestar
+{
+
+namespace
+{
+
+using Holder = std::shared_ptr<HandshakeHold>;
+
+void freeHolder(void*, void* holder, CRYPTO_EX_DATA*, int, long, void*)
+{
+    delete static_cast<Holder*>(holder);
+}
+
+int holderIndex()
+{
+    static const int index = SSL_CTX_get_ex_new_index(0, nullptr, nullptr, nullptr, &freeHolder);
+    return index;
+}
+
+/// Finds no fault with any certificate: trust is decided before a request is sent, not here.
+int certificateShown(X509_STORE_CTX* store, void*)
+{
+    auto* const connection = static_cast<SSL*>(X509_STORE_CTX_get_ex_data(store, SSL_get_ex_data_X509_STORE_CTX_idx()));
+    auto* const holder = static_cast<Holder*>(SSL_CTX_get_ex_data(SSL_get_SSL_CTX(connection), holderIndex()));
+    if (holder != nullptr) {
+        const Holder hold = *holder;
+        hold->reached = true;
+        while (!hold->released && ASYNC_get_current_job() != nullptr) {
+            ASYNC_pause_job();
+        }
+        SSL_clear_mode(connection, SSL_MODE_ASYNC);
+    }
+    return 1;
+}
+
+} // namespace
+
+CURLcode HandshakeHold::secureConnection(CURL*, void* context, void* hold)
+{
+    auto* const settings = static_cast<SSL_CTX*>(context);
+    // A kept connection does nothing most of the time, and there may be thousands.
+    SSL_CTX_set_mode(settings, SSL_MODE_RELEASE_BUFFERS);
+    SSL_CTX_set_cert_verify_callback(settings, &certificateShown, nullptr);
+    if (hold != nullptr && isPossible) {
+        SSL_CTX_set_mode(settings, SSL_MODE_ASYNC);
+        auto holder = std::make_unique<Holder>(static_cast<HandshakeHold*>(hold)->shared_from_this());
+        if (SSL_CTX_set_ex_data(settings, holderIndex(), holder.get()) != 1) {
+            return CURLE_OUT_OF_MEMORY;
+        }
+        static_cast<void>(holder.release()); // the connection's from here
+    }
+    return CURLE_OK;
+}
+
+} // namespace lodestar

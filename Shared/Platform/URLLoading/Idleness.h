@@ -1,0 +1,29 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include <chrono>
+
+namespace lodestar
+{
+
+/// Tells whether a thread that turns between waiting and working has had next to nothing to do of late. One thread.
+class Idleness
+{
+public:
+    using Clock = std::chrono::steady_clock;
+
+    /// There is new work: what was before does not count.
+    void reset(Clock::time_point now);
+    void waited(Clock::time_point from, Clock::time_point until);
+    bool isIdle() const { return m_isIdle; }
+
+    /// So long a thread is watched before it is called idle.
+    static constexpr std::chrono::milliseconds period{20};
+
+private:
+    Clock::time_point m_start{};
+    Clock::duration m_waited{};
+    bool m_isIdle = false;
+};
+
+} // namespace lodestar
