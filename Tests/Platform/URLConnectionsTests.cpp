@@ -2,9 +2,11 @@
 // Many transfers at once, and the connections that they share.
 #include "Platform/URLLoading/HandshakeHold.h"
 #include "Tests/Platform/URLLoadingFixture.h"
+#include "Tests/ScratchFolder.h"
 
 #include <atomic>
 #include <cstdlib>
+#include <filesystem>
 #include <latch>
 #include <sys/resource.h>
 #include <thread>
@@ -213,6 +215,19 @@ TEST_F(URLLoadingDeathTest, ProcessEndsWithTransfersInFlight)
         std::exit(7);
     };
     EXPECT_EXIT(leave(), testing::ExitedWithCode(7), "");
+}
+
+TEST_F(URLLoadingDeathTest, NobodyHasTheSecretsOfConnectionsWritten)
+{
+    testing::GTEST_FLAG(death_test_style) = "threadsafe";
+    const ScratchFolder folder;
+    const std::string path = folder.file("secrets");
+    const auto load = [&] {
+        ::setenv("SSLKEYLOGFILE", path.c_str(), 1);
+        simulator::SimulatorProcess simulator{{}};
+        std::exit(logOn(simulator).empty() || std::filesystem::exists(path) ? 1 : 7);
+    };
+    EXPECT_EXIT(load(), testing::ExitedWithCode(7), "");
 }
 
 } // namespace lodestar::test

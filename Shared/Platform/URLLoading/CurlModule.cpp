@@ -5,11 +5,15 @@
 #include <openssl/crypto.h>
 #include <openssl/ssl.h>
 
+#include <cstdlib>
+
 namespace
 {
 
 bool prepare()
 {
+    // libcurl would write every connection's secrets to the file that it names.
+    unsetenv("SSLKEYLOGFILE");
     // The network thread may be in the middle of a handshake when the process ends, so that OpenSSL must not tidy up
     // before that thread is joined.
     return OPENSSL_init_crypto(OPENSSL_INIT_NO_ATEXIT, nullptr) == 1 &&
