@@ -1,0 +1,363 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Application/Model/StoreStack.h"
+#include "Benchmarks/Program.h"
+#include "Benchmarks/Refresh/ProgramRun.h"
+#include "Controllers/REST/RESTHandler.h"
+#include "Platform/Queues/MainQueue.h"
+#include "Simulator/SimulatorProcess.h"
+#include "Tests/ScratchFolder.h"
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <string>
+
+// A refresh through a network with a length: logon or session check, then six feeds of 200 KB, of every console of a
+// fleet. Ours and curl's run as whole processes in turn. Ours refreshes twice: the second time, keys and connections
+// are known.
+
+namespace lodestar
+{
+
+namespace
+{
+
+namespace fs = std::filesystem;
+using bench::median;
+using bench::runProgram;
+using namespace std::chrono_literals;
+
+constexpr auto longestRun = std::chrono::minutes(10);
+/// Consoles at the front of a fleet that misbehave, and are not waited for.
+constexpr std::size_t badConsoles = 2;
+
+double nanoseconds(std::chrono::steady_clock::duration duration)
+{
+    return std::chrono::duration<double, std::nano>(duration).count();
+}
+
+// ---- What a measured process of ours does.
+
+using Clock = std::chrono::steady_clock;
+
+std::vector<CorvelRef> readConsoles(const std::string& path)
+{
+    StoreStack::shared().setApplicationDocumentsDirectory(fs::path(path).parent_path().string() + "/measured");
+    std::vector<CorvelRef> corvels;
+    std::ifstream file(path);
+    std::string address;
+    std::string user;
+    std::string password;
+    while (file >> address >> user >> password) {
+        corvels.push_back(std::make_shared<Corvel>());
+        corvels.back()->setName(address);
+        corvels.back()->setAddress(address);
+        corvels.back()->setUsername(user);
+        corvels.back()->setPassword(password);
+    }
+    return corvels;
+}
+
+template <typename Value>
+void await(const RXPromise<Value>& promise)
+{
+    bench::require(MainQueue::shared().runUntil([&promise] { return !promise.isPending(); }, longestRun) &&
+                       promise.isFulfilled(),
+                   "a refresh failed");
+}
+
+/// As the console list refreshes one.
+RXPromise<std::string> fetchInventory(const CorvelRef& corvel)
+{
+    auto& handler = RESTHandler::sharedInstance();
+    return handler.login(corvel, CheckToken::Yes, Urgency::Fleet)
+        .then([corvel, &handler](const SessionKey& key) {
+            return handler.fetchAllDataForCorvel(corvel, key, Urgency::Fleet);
+        })
+        .then([corvel, &handler](const std::shared_ptr<const FeedDictionary>& feeds) {
+            corvel->setRestData(feeds);
+            return handler.processInformationForCorvel(corvel);
+        });
+}
+
+RXPromise<std::vector<std::string>> refresh(const std::vector<CorvelRef>& corvels, std::size_t ignored)
+{
+    std::vector<RXPromise<std::string>> all;
+    for (const CorvelRef& corvel : corvels) {
+        all.push_back(fetchInventory(corvel));
+    }
+    all.erase(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(ignored));
+    return RXPromise<std::string>::all(all);
+}
+
+void requireFeeds(const std::vector<CorvelRef>& corvels, std::size_t ignored)
+{
+    for (std::size_t i = ignored; i < corvels.size(); ++i) {
+        for (const std::string_view path : bench::feedPaths) {
+            bench::require(feedOfType(*corvels[i], path.substr(4)).entryCount() > 0, "a feed is missing");
+        }
+    }
+}
+
+double ownFeed(const CorvelRef& corvel)
+{
+    const auto start = Clock::now();
+    auto& handler = RESTHandler::sharedInstance();
+    await(handler.login(corvel, CheckToken::No).then([corvel, &handler](const SessionKey& key) {
+        return handler.fetchDataOfType("ManagedSystem", corvel, "uom", key);
+    }));
+    return nanoseconds(Clock::now() - start);
+}
+
+/// The slowest of three, asked for at different moments of a refresh: while the checks are under way, while the feeds
+/// are asked for, and while they come.
+double ownFeedDuringRefresh(const std::vector<CorvelRef>& corvels, std::chrono::milliseconds roundTrip)
+{
+    double slowest = 0;
+    for (const int tenths : {5, 12, 17}) {
+        const auto all = refresh(corvels, 0);
+        const auto until = Clock::now() + roundTrip * tenths / 10;
+        MainQueue::shared().runUntil([until] { return Clock::now() >= until; }, longestRun);
+        slowest = std::max(slowest, ownFeed(corvels.back()));
+        await(all);
+    }
+    return slowest;
+}
+
+/// Writes when the first refresh had ended (the clock's own nanoseconds), how long the second took, and, when asked
+/// for, how long a feed takes by itself and during a refresh.
+int refreshTwice(const std::string& path, std::size_t ignored, int ownFeedAtRoundTrip)
+{
+    // The transport says on standard output what it does.
+    bench::require(std::freopen("/dev/null", "w", stdout) != nullptr, "no /dev/null");
+    const std::vector<CorvelRef> corvels = readConsoles(path);
+    await(refresh(corvels, ignored));
+    const auto firstEnd = Clock::now();
+    requireFeeds(corvels, ignored);
+    // The bad ones' first requests are under way still: a second refresh of them would be another thing.
+    const std::vector<CorvelRef> good(corvels.begin() + static_cast<std::ptrdiff_t>(ignored), corvels.end());
+    const auto secondStart = Clock::now();
+    await(refresh(good, 0));
+    const auto secondEnd = Clock::now();
+    requireFeeds(good, 0);
+    std::ofstream times(path + ".times");
+    times.precision(20);
+    times << nanoseconds(firstEnd.time_since_epoch()) << ' ' << nanoseconds(secondEnd - secondStart);
+    if (ownFeedAtRoundTrip > 0) {
+        const double alone = ownFeed(good.back());
+        times << ' ' << alone << ' ' << ownFeedDuringRefresh(good, std::chrono::milliseconds(ownFeedAtRoundTrip));
+    }
+    times << '\n';
+    return times.flush() ? 0 : 1;
+}
+
+// ---- The measuring process.
+
+struct Times {
+    double first = 0;
+    double second = 0;
+    double feedAlone = 0;
+    double feedDuringRefresh = 0;
+};
+
+class Fleet
+{
+public:
+    Fleet(int consoles, int roundTrip, bool bad = false) : m_roundTrip(roundTrip), m_ignored(bad ? badConsoles : 0)
+    {
+        fs::create_directory(m_scratch.file("measured"));
+        StoreStack::shared().setApplicationDocumentsDirectory(m_scratch.path());
+        simulator::Settings settings;
+        settings.consoles = consoles;
+        settings.systems = 40;
+        settings.vios = 80;
+        settings.events = 120;
+        settings.groups = 120;
+        settings.feedBytes = 200'000;
+        settings.gzip = false; // curl would be sent ten times as much
+        settings.recordCap = 0;
+        if (bad) {
+            settings.faults = {"silentAfterAccept:0", "trickle:All:1"};
+        }
+        m_simulator.start(settings);
+        logOn();
+        m_simulator.setRoundTrip(roundTrip);
+        writeFiles();
+    }
+    ~Fleet() { StoreStack::shared().close(); }
+    Fleet(const Fleet&) = delete;
+    Fleet& operator=(const Fleet&) = delete;
+
+    Times ours(bool ownFeedToo = false) const
+    {
+        const auto start = Clock::now();
+        runProgram({fs::read_symlink("/proc/self/exe").string(), "--refresh", m_scratch.file("consoles"),
+                    std::to_string(m_ignored), std::to_string(ownFeedToo ? m_roundTrip : 0)});
+        Times times;
+        std::ifstream(m_scratch.file("consoles.times")) >> times.first >> times.second >> times.feedAlone >>
+            times.feedDuringRefresh;
+        times.first -= nanoseconds(start.time_since_epoch());
+        return times;
+    }
+    double curl() const
+    {
+        return runProgram({"curl", "-q", "-K", m_scratch.file("logons")}) +
+               runProgram({"curl", "-q", "-K", m_scratch.file("feeds")});
+    }
+
+private:
+    void logOn()
+    {
+        std::vector<RXPromise<SessionKey>> logons;
+        for (int i = static_cast<int>(m_ignored); i < m_simulator.consoleCount(); ++i) {
+            const auto corvel = std::make_shared<Corvel>();
+            corvel->setAddress(m_simulator.address(i));
+            corvel->setUsername(m_simulator.user());
+            corvel->setPassword(m_simulator.password());
+            logons.push_back(RESTHandler::sharedInstance().login(corvel, CheckToken::Yes));
+        }
+        const auto all = RXPromise<SessionKey>::all(logons);
+        await(all);
+        const auto result = all.result();
+        for (const SessionKey& key : result->value()) {
+            m_keys.push_back(key.value());
+        }
+    }
+
+    static void begin(std::ofstream& file)
+    {
+        file << "parallel\nparallel-immediate\nparallel-max = 300\nno-progress-meter\nsilent\n";
+    }
+    static void addTransfer(std::ofstream& file, const std::string& url)
+    {
+        file << "fail\nurl = \"" << url << "\"\noutput = \"/dev/null\"\ninsecure\nhttp1.1\n";
+    }
+
+    void writeFiles()
+    {
+        std::ofstream list(m_scratch.file("consoles"));
+        std::ofstream logons(m_scratch.file("logons"));
+        std::ofstream feeds(m_scratch.file("feeds"));
+        begin(logons);
+        begin(feeds);
+        for (int i = 0; i < m_simulator.consoleCount(); ++i) {
+            const std::string& address = m_simulator.address(i);
+            list << address << ' ' << m_simulator.user() << ' ' << m_simulator.password() << '\n';
+            const auto good = static_cast<std::size_t>(i) - m_ignored;
+            if (static_cast<std::size_t>(i) < m_ignored) {
+                continue;
+            }
+            const std::string base = "https://" + address + ":12443/rest/api/";
+            logons << (good > 0 ? "next\n" : "");
+            addTransfer(logons, base + "web/Logon");
+            logons << "request = PUT\ndata = \"<LogonRequest><UserID>" << m_simulator.user() << "</UserID><Password>"
+                   << m_simulator.password() << "</Password></LogonRequest>\"\n";
+            for (const std::string_view path : bench::feedPaths) {
+                feeds << (good > 0 || path != bench::feedPaths.front() ? "next\n" : "");
+                addTransfer(feeds, base + std::string(path));
+                feeds << "header = \"X-API-Session: " << m_keys[good] << "\"\n";
+            }
+        }
+    }
+
+    const int m_roundTrip;
+    const std::size_t m_ignored;
+    const ScratchFolder m_scratch;
+    simulator::SimulatorProcess m_simulator;
+    std::vector<std::string> m_keys; ///< of the good consoles
+};
+
+struct Medians {
+    Times ours;
+    double curl;
+};
+
+Medians measure(const Fleet& fleet, int repetitions, bool ownFeedToo)
+{
+    std::vector<double> first;
+    std::vector<double> second;
+    std::vector<double> alone;
+    std::vector<double> during;
+    std::vector<double> curl;
+    for (int i = 0; i < repetitions; ++i) {
+        if (i % 2 == 0) {
+            curl.push_back(fleet.curl());
+        }
+        const Times times = fleet.ours(ownFeedToo);
+        first.push_back(times.first);
+        second.push_back(times.second);
+        alone.push_back(times.feedAlone);
+        during.push_back(times.feedDuringRefresh);
+        if (i % 2 != 0) {
+            curl.push_back(fleet.curl());
+        }
+    }
+    return {{median(first), median(second), median(alone), median(during)}, median(curl)};
+}
+
+/// A network's waiting is the same every time: where it outweighs the work, few repetitions tell as much as many.
+int repetitionsFor(int consoles, int roundTrip)
+{
+    if (roundTrip == 0) {
+        return consoles < 500 ? 11 : 5;
+    }
+    return consoles < 500 && roundTrip < 1000 ? 5 : 3;
+}
+
+void measureRows(bench::Rows& rows)
+{
+    for (const int consoles : {1, 10, 50, 500}) {
+        double work = 0;
+        for (const int roundTrip : {0, 100, 300, 1000}) {
+            const Fleet fleet(consoles, roundTrip);
+            const bool ownFeedToo = consoles == 50 && roundTrip == 300;
+            const Medians medians = measure(fleet, repetitionsFor(consoles, roundTrip), ownFeedToo);
+            const std::string what = std::to_string(consoles) + " consoles, " + std::to_string(roundTrip) + " ms";
+            rows.add(what + ": first refresh / curl --parallel", medians.ours.first, medians.curl, 1.1);
+            if (roundTrip == 0) {
+                work = medians.ours.second;
+                continue;
+            }
+            rows.add(what + ": second refresh / two round trips and the work", medians.ours.second,
+                     2e6 * roundTrip + work, 1.15);
+            if (ownFeedToo) {
+                rows.add(what + ": a screen's own feed in a refresh / alone and a round trip",
+                         medians.ours.feedDuringRefresh, medians.ours.feedAlone + 1e6 * roundTrip, 1);
+            }
+        }
+    }
+    const Fleet fleet(50, 100, true);
+    const Medians medians = measure(fleet, 5, false);
+    rows.add("50 consoles, 100 ms, one silent, one dripping: the rest / curl of the rest", medians.ours.first,
+             medians.curl, 1.1);
+}
+
+void refreshThroughNetwork(benchmark::State& state)
+{
+    const Fleet fleet(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)));
+    for ([[maybe_unused]] auto iteration : state) {
+        const Times times = fleet.ours(true);
+        state.counters["first"] = times.first / 1e6;
+        state.counters["second"] = times.second / 1e6;
+        state.counters["feedAlone"] = times.feedAlone / 1e6;
+        state.counters["feedDuring"] = times.feedDuringRefresh / 1e6;
+        state.counters["curl"] = fleet.curl() / 1e6;
+    }
+}
+BENCHMARK(refreshThroughNetwork)
+    ->ArgsProduct({{1, 10, 50, 500}, {0, 100, 300, 1000}})
+    ->Unit(benchmark::kMillisecond)
+    ->Iterations(1)
+    ->UseRealTime();
+
+} // namespace
+} // namespace lodestar
+
+int main(int argc, char** argv)
+{
+    using namespace lodestar;
+    if (argc == 5 && std::string_view(argv[1]) == "--refresh") {
+        return refreshTwice(argv[2], std::stoul(argv[3]), std::stoi(argv[4]));
+    }
+    return bench::run(argc, argv, measureRows);
+}
