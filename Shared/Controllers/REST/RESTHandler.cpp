@@ -25,8 +25,9 @@ constexpr std::string_view logonNamespace = "http://www.ornis.example/xmlns/syst
 constexpr std::string_view k2Namespace = "http://www.w3.org/XML/1998/namespace/k2";
 constexpr std::string_view webContent = "application/vnd.ornis.varnex.web+xml";
 constexpr std::chrono::seconds logonTimeout{10};
-/// Six follow a logon; one of them has the logon's own connection.
-constexpr int feedsBesideTheFirst = 5;
+/// Six feeds follow a logon. One of them has the logon's own connection, which leaves one to spare for what a person
+/// asks of the console meanwhile.
+constexpr int connectionsToCome = 6;
 
 URLRequest withUrgency(URLRequest request, Urgency urgency)
 {
@@ -46,7 +47,7 @@ public:
           m_address(m_corvel->address()),
           m_logonRequest(withUrgency(handler.loginRequestForCorvel(*m_corvel), urgency)),
           m_promise(std::move(promise)),
-          m_feedsToCome(expectRequests(m_logonRequest.url, feedsBesideTheFirst))
+          m_feedsToCome(expectRequests(m_logonRequest.url, connectionsToCome))
     {
     }
 
