@@ -4,6 +4,7 @@
 #include "Tests/Platform/URLLoadingFixture.h"
 #include "Tests/ScratchFolder.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cstdlib>
 #include <filesystem>
@@ -130,6 +131,7 @@ TEST_F(URLLoadingTest, AFleetSharesFewConnectionsAConsole)
     std::vector<URLRequest> requests;
     for (int i = 0; i < settings.consoles; ++i) {
         requests.insert(requests.end(), 6, feedRequest(simulator, logOn(simulator, i), i));
+        std::for_each(requests.end() - 6, requests.end(), [](URLRequest& one) { one.urgency = Urgency::Fleet; });
     }
     std::latch settled(std::ssize(requests));
     std::atomic<int> answered{0};
