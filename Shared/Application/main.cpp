@@ -63,13 +63,13 @@ Options parseOptions(const QGuiApplication& application)
     return {parser.value(data), parser.isSet(fullScreen), parser.isSet(firstFrame)};
 }
 
-/// Makes the folder, for this user alone. Everything that is kept lies below it.
+/// Makes the folder. Everything that is kept lies below it.
 QString makeDataFolder(const QString& asked)
 {
     QString folder = asked.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
                                      : QDir(asked).absolutePath();
     // What cannot be made shows when something is to be kept there.
-    std::ignore = makePrivateFolder(folder.toStdString(), FolderThere::Tightened);
+    std::ignore = makePrivateFolder(folder.toStdString());
     return folder;
 }
 
@@ -106,6 +106,8 @@ int main(int argc, char** argv)
     if (!claimDataFolder(dataFolder)) {
         return 1;
     }
+    // Not before: somebody else's folder is left as it is.
+    std::ignore = makePrivateFolder(dataFolder.toStdString(), FolderThere::Tightened);
     SystemKeychain& keychain = installPlatform(dataFolder);
 
     AppDelegate delegate;
