@@ -21,7 +21,10 @@ Pressable {
     property bool surfaced: true
     default property alias accessory: accessories.data
 
-    readonly property bool pressedLook: pressable && pressed
+    /// Looks pressed.
+    property bool down: pressed
+
+    readonly property bool pressedLook: pressable && down
     readonly property bool stacked: Theme.stacked && detail !== ""
     readonly property bool beside: !Theme.stacked && detail !== ""
     readonly property real textStart: iconName === "" ? Theme.rowStart : 60
