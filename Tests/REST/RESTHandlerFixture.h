@@ -86,13 +86,14 @@ protected:
     /// The session key of a logon that must not fail.
     static SessionKey key(const CorvelRef& corvel, CheckToken checkToken = CheckToken::Yes)
     {
-        const Result<SessionKey> result = settled(handler().login(corvel, checkToken));
+        const Result<SessionKey> result = settled(handler().login(corvel, checkToken, Urgency::Fleet));
         EXPECT_TRUE(result.ok()) << description(result.error());
         return result.ok() ? result.value() : std::nullopt;
     }
+    /// As the refresh of a fleet asks for them.
     static std::shared_ptr<const FeedDictionary> allFeeds(const CorvelRef& corvel, const SessionKey& sessionKey)
     {
-        const auto result = settled(handler().fetchAllDataForCorvel(corvel, sessionKey));
+        const auto result = settled(handler().fetchAllDataForCorvel(corvel, sessionKey, Urgency::Fleet));
         EXPECT_TRUE(result.ok());
         return result.ok() ? result.value() : std::make_shared<const FeedDictionary>();
     }
