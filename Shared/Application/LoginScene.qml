@@ -26,7 +26,7 @@ FocusScope {
     readonly property real logoEnd: controller.logoYAlignment.constant + logo.height / 2
     property real wishedSpace: controller.spaceToPassword.constant
     readonly property real space: Math.max(12 + label.height + 8, Math.min(wishedSpace, shownHeight - logoEnd - below))
-    readonly property real below: field.height + 12 + loginButton.height + 12 + resetButton.height + resetNote.height + 16
+    readonly property real below: field.height + 12 + loginButton.height + 12 + resetButton.height + 16
 
     focus: true
 
@@ -107,7 +107,7 @@ FocusScope {
         width: parent.width
         height: scene.shownHeight
         contentWidth: width
-        contentHeight: Math.max(height, resetNote.y + resetNote.height + 16)
+        contentHeight: Math.max(height, resetButton.y + resetButton.height + 16)
         interactive: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
         // Here and not with the scene, which hears of a keyboard before the page does.
@@ -206,23 +206,7 @@ FocusScope {
             x: (page.width - width) / 2
             y: loginButton.y + loginButton.height + 8
             width: Math.min(implicitWidth, page.columnWidth)
-            Accessible.description: resetNote.text
             onClicked: scene.controller.resetPassword()
-        }
-        Label {
-            id: resetNote
-
-            visible: resetButton.visible
-            text: qsTr("Erases all consoles and settings.")
-            size: Theme.captionSize
-            color: Theme.ink2
-            opacity: scene.opening
-            x: page.columnX
-            y: resetButton.y + resetButton.height
-            width: page.columnWidth
-            horizontalAlignment: Text.AlignHCenter
-            wrapMode: Text.Wrap
-            Accessible.ignored: true // the button says it
         }
     }
     Alert {
