@@ -11,6 +11,8 @@ namespace
 {
 
 constexpr std::uint64_t hugeBody = 1ULL << 30U;
+constexpr std::uint64_t largeBody = 40ULL << 20U;
+constexpr std::uint64_t vastBody = 180ULL << 20U;
 constexpr std::uint64_t hugeHeaders = 16ULL << 20U;
 
 // A stray ampersand, an unknown entity, a missing end tag, and nothing of the last tenth.
@@ -110,11 +112,17 @@ void Draft::strike(const Fault& fault, const Request& request, const std::string
         replaceBody(makeBody(damaged(readAll(*response.body))));
         break;
     case FaultName::HugeBody:
+    case FaultName::LargeFeed:
+    case FaultName::VastFeed:
         replaceBody(makeRepeatingBody("<feed>", "<entry><content>" + std::string(65536, ' ') + "</content></entry>",
-                                      hugeBody, "</feed>"));
+                                      fault.name == FaultName::HugeBody   ? hugeBody
+                                      : fault.name == FaultName::VastFeed ? vastBody
+                                                                          : largeBody,
+                                      "</feed>"));
         break;
     case FaultName::GzipBomb:
-        replaceBody(makeGzipBomb(hugeBody));
+    case FaultName::LargeGzip:
+        replaceBody(makeGzipBomb(fault.name == FaultName::GzipBomb ? hugeBody : largeBody));
         response.headers.emplace_back("Content-Encoding", "gzip");
         break;
     case FaultName::EndlessChunk:

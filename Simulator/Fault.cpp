@@ -13,7 +13,7 @@ namespace lodestar::simulator
 namespace
 {
 
-constexpr std::array<std::pair<std::string_view, FaultName>, 32> names = {{
+constexpr std::array<std::pair<std::string_view, FaultName>, 35> names = {{
     {"refuseLogon", FaultName::RefuseLogon},
     {"logonWithoutKey", FaultName::LogonWithoutKey},
     {"logonNotXML", FaultName::LogonNotXML},
@@ -31,6 +31,9 @@ constexpr std::array<std::pair<std::string_view, FaultName>, 32> names = {{
     {"malformedFeed", FaultName::MalformedFeed},
     {"hugeBody", FaultName::HugeBody},
     {"gzipBomb", FaultName::GzipBomb},
+    {"largeFeed", FaultName::LargeFeed},
+    {"largeGzip", FaultName::LargeGzip},
+    {"vastFeed", FaultName::VastFeed},
     {"hugeHeaders", FaultName::HugeHeaders},
     {"endlessChunk", FaultName::EndlessChunk},
     {"twoLengths", FaultName::TwoLengths},

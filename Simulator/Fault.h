@@ -45,6 +45,10 @@ enum class FaultName {
     HugeBody,
     /// A small compressed body that unpacks to 1 GB.
     GzipBomb,
+    /// No faults: bodies of 40 MB, plain and compressed, and of 180 MB.
+    LargeFeed,
+    LargeGzip,
+    VastFeed,
     /// 16 MB of header lines before the body.
     HugeHeaders,
     /// A chunk whose extension goes on for 1 GB before its first byte.

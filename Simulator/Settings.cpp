@@ -151,9 +151,10 @@ std::string_view helpText()
 
 Faults. WHAT is a feed's type, or Logon, SessionCheck, Quick, Metrics, MetricsDocument, All; feeds when left out:
   refuseFeed emptyFeed stallFeed malformedFeed cutBody cutChunk cutGzip reset trickle hugeBody gzipBomb
+  largeFeed largeGzip vastFeed
   hugeHeaders endlessChunk twoLengths redirectLoop redirectOtherHost chunked failedStatus; basicAuth (everything when left out)
   nullMetrics unprocessedMetrics emptyMetrics (the metrics document)
-  refuseLogon logonWithoutKey logonNotXML[:html|empty|json]
+  refuseLogon logonWithoutKey longKey logonNotXML[:html|empty|json]
   silentAfterAccept closePort expiredCertificate misnamedCertificate; at once and once: expireSession swapCertificate
 
 Commands on standard input, each answered with lines that end in "ok" or "error TEXT"; arguments percent-encoded:

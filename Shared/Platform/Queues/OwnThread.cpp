@@ -8,6 +8,7 @@
 #include <sys/mman.h>
 
 #if defined(__linux__)
+#include <sys/resource.h>
 #include <unistd.h>
 #elif !defined(__APPLE__)
 #include <functional>
@@ -71,6 +72,15 @@ void OwnThread::takeIdlePriority()
 #ifdef SCHED_IDLE
     const sched_param parameters{};
     ::pthread_setschedparam(::pthread_self(), SCHED_IDLE, &parameters);
+#endif
+}
+
+void OwnThread::takeLowPriority()
+{
+#if defined(__linux__)
+    constexpr int niceness = 10;
+    // Of this thread alone, as Linux takes it.
+    ::setpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()), niceness);
 #endif
 }
 

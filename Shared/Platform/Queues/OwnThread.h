@@ -20,6 +20,9 @@ public:
     /// Lets the calling thread run only when nothing else wants the processor, for good. Where the system has no such
     /// priority the thread keeps the one it has.
     static void takeIdlePriority();
+    /// Lets others go first where they want the processor, for good; what is left is enough to come to an end on a busy
+    /// device.
+    static void takeLowPriority();
     /// What the system's own tools call the calling thread; where it has no numbers for threads, one that tells the
     /// threads of this process apart while they live.
     static std::uint64_t number();

@@ -14,6 +14,17 @@ constexpr int anyHeader = 15 + 32; // largest window, zlib and gzip headers told
 constexpr int noHeader = -15;
 constexpr std::size_t pieceSize = 32UL * 1024;
 
+std::string plainName(std::string_view contentEncoding)
+{
+    std::string name;
+    for (const char c : contentEncoding) {
+        if (c != ' ' && c != '\t') {
+            name.push_back(c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c);
+        }
+    }
+    return name;
+}
+
 } // namespace
 
 struct BodyDecoder::Inflater {
@@ -90,21 +101,27 @@ BodyDecoder::~BodyDecoder() = default;
 
 std::optional<BodyDecoder> BodyDecoder::make(std::string_view contentEncoding)
 {
-    std::string name;
-    for (const char c : contentEncoding) {
-        if (c != ' ' && c != '\t') {
-            name.push_back(c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c);
-        }
-    }
-    BodyDecoder decoder;
-    if (name.empty() || name == "identity") {
-        return decoder;
-    }
-    if (name != "gzip" && name != "x-gzip" && name != "deflate") {
+    if (!knows(contentEncoding)) {
         return std::nullopt;
     }
-    decoder.m_inflater = std::make_unique<Inflater>(name == "deflate");
+    BodyDecoder decoder;
+    if (!isPacked(contentEncoding)) {
+        return decoder;
+    }
+    decoder.m_inflater = std::make_unique<Inflater>(plainName(contentEncoding) == "deflate");
     return decoder.m_inflater->usable ? std::optional(std::move(decoder)) : std::nullopt;
+}
+
+bool BodyDecoder::knows(std::string_view contentEncoding)
+{
+    const std::string name = plainName(contentEncoding);
+    return name == "gzip" || name == "x-gzip" || name == "deflate" || !isPacked(contentEncoding);
+}
+
+bool BodyDecoder::isPacked(std::string_view contentEncoding)
+{
+    const std::string name = plainName(contentEncoding);
+    return !name.empty() && name != "identity";
 }
 
 bool BodyDecoder::decode(std::span<const char> bytes, const Sink& sink)

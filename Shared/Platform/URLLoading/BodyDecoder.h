@@ -18,6 +18,9 @@ class BodyDecoder
 public:
     using Sink = std::function<bool(std::span<const char>)>; ///< false stops the decoding
 
+    static bool knows(std::string_view contentEncoding);
+    /// Whether there is anything to undo.
+    static bool isPacked(std::string_view contentEncoding);
     /// None for an encoding that was not asked for. Empty and "identity" pass the bytes through.
     static std::optional<BodyDecoder> make(std::string_view contentEncoding);
 

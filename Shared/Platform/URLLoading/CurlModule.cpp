@@ -36,6 +36,7 @@ const lodestar::CurlModule* lodestar_curl_module()
         .easyCleanup = &curl_easy_cleanup,
         .easyGetinfo = &curl_easy_getinfo,
         .easyInit = &curl_easy_init,
+        .easyPause = &curl_easy_pause,
         .easySetopt = &curl_easy_setopt,
         .easyStrerror = &curl_easy_strerror,
         .free = &curl_free,

@@ -23,6 +23,7 @@ struct CurlModule {
     decltype(&curl_easy_cleanup) easyCleanup;
     decltype(&curl_easy_getinfo) easyGetinfo;
     decltype(&curl_easy_init) easyInit;
+    decltype(&curl_easy_pause) easyPause;
     decltype(&curl_easy_setopt) easySetopt;
     decltype(&curl_easy_strerror) easyStrerror;
     decltype(&curl_free) free;

@@ -3,7 +3,12 @@
 
 #include "Platform/URLLoading/NetworkThread.h"
 
-#include <atomic>
+#include <algorithm>
+#include <chrono>
+#include <condition_variable>
+#include <mutex>
+#include <unordered_map>
+#include <utility>
 
 namespace lodestar
 {
@@ -11,48 +16,178 @@ namespace lodestar
 namespace
 {
 
-std::atomic<std::size_t> heldBytes{0};
-std::atomic<std::size_t> waitingBytes{0};
+constexpr std::chrono::milliseconds moment{50};
+constexpr std::size_t partOfFair = 3;
+constexpr std::size_t partOfSmall = 24;
+constexpr std::size_t littleBody = 64UL * 1024;
+constexpr std::size_t leastPart = 64; ///< of the fair third: what any server gets while there is anything
+
+struct Books {
+    std::mutex mutex;
+    std::condition_variable changed; ///< less is held, or the turn is free
+    std::size_t total = 0;
+    std::size_t fair = 0;
+    std::unordered_map<std::string, std::size_t> fairOfServers;
+    std::size_t waiting = 0;
+    bool turnIsTaken = false;
+
+    void subtractFair(const std::string& server, std::size_t bytes)
+    {
+        const auto entry = fairOfServers.find(server);
+        if (entry != fairOfServers.end() && (entry->second -= bytes) == 0) {
+            fairOfServers.erase(entry);
+        }
+        fair -= bytes;
+    }
+};
+
+Books& books()
+{
+    // Never destroyed: bodies may still be held when the process ends.
+    static Books* const shared = new Books;
+    return *shared;
+}
 
 } // namespace
 
-bool HeldBytes::add(std::size_t bytes, std::size_t limit)
+bool HeldBytes::Turn::tryTake()
 {
-    std::size_t before = heldBytes.load(std::memory_order_relaxed);
-    do {
-        if (bytes > limit || before > limit - bytes) {
+    const std::lock_guard lock(books().mutex);
+    if (!m_has && !books().turnIsTaken) {
+        m_has = books().turnIsTaken = true;
+    }
+    return m_has;
+}
+
+void HeldBytes::Turn::take()
+{
+    std::unique_lock lock(books().mutex);
+    books().changed.wait(lock, [this] { return m_has || !books().turnIsTaken; });
+    m_has = books().turnIsTaken = true;
+}
+
+void HeldBytes::Turn::giveBack()
+{
+    if (std::exchange(m_has, false)) {
+        {
+            const std::lock_guard lock(books().mutex);
+            books().turnIsTaken = false;
+        }
+        books().changed.notify_all();
+    }
+}
+
+HeldBytes::HeldBytes(HeldBytes&& other) noexcept
+    : m_server(std::move(other.m_server)),
+      m_count(std::exchange(other.m_count, 0)),
+      m_fair(std::exchange(other.m_fair, true)),
+      m_delivering(std::exchange(other.m_delivering, false))
+{
+}
+
+HeldBytes& HeldBytes::operator=(HeldBytes&& other) noexcept
+{
+    if (this != &other) {
+        reset();
+        m_server = std::move(other.m_server);
+        m_count = std::exchange(other.m_count, 0);
+        m_fair = std::exchange(other.m_fair, true);
+        m_delivering = std::exchange(other.m_delivering, false);
+    }
+    return *this;
+}
+
+bool HeldBytes::add(std::size_t bytes, std::size_t heldLimit, Claim claim)
+{
+    const std::lock_guard lock(books().mutex);
+    const bool little = claim == Claim::Small || m_count + bytes <= littleBody;
+    if (claim == Claim::Fair && !m_fair) {
+        return false;
+    }
+    if (claim != Claim::Fair && m_fair) {
+        leaveFair();
+    }
+    const std::size_t forFair = heldLimit / partOfFair;
+    const std::size_t unusedFair = forFair - std::min(books().fair, forFair);
+    const std::size_t left = little                 ? 0
+                             : claim == Claim::Turn ? heldLimit / partOfSmall + unusedFair
+                                                    : heldLimit / partOfSmall;
+    if (books().total + bytes + left > heldLimit) {
+        return false;
+    }
+    if (m_fair) {
+        const auto entry = books().fairOfServers.find(m_server);
+        const std::size_t ofServer = (entry != books().fairOfServers.end() ? entry->second : 0) + bytes;
+        if (!little && (bytes > unusedFair || ofServer > std::max(unusedFair - bytes, forFair / leastPart))) {
             return false;
         }
-    } while (!heldBytes.compare_exchange_weak(before, before + bytes, std::memory_order_relaxed));
+        books().fairOfServers[m_server] = ofServer; // first: it may find no memory
+        books().fair += bytes;
+    }
+    books().total += bytes;
     m_count += bytes;
+    if (m_delivering) {
+        books().waiting += bytes;
+    }
     return true;
+}
+
+/// With the lock held.
+void HeldBytes::leaveFair()
+{
+    books().subtractFair(m_server, m_count);
+    m_fair = false;
 }
 
 void HeldBytes::reset()
 {
     const std::size_t count = std::exchange(m_count, 0);
-    heldBytes.fetch_sub(count, std::memory_order_relaxed);
-    if (std::exchange(m_delivering, false)) {
-        waitingBytes.fetch_sub(count);
-        NetworkThread::readerCaughtUp();
+    const bool fair = std::exchange(m_fair, true);
+    const bool delivering = std::exchange(m_delivering, false);
+    if (count == 0) {
+        return;
     }
+    {
+        const std::lock_guard lock(books().mutex);
+        books().total -= count;
+        if (fair) {
+            books().subtractFair(m_server, count);
+        }
+        books().waiting -= delivering ? count : 0;
+    }
+    books().changed.notify_all();
+    NetworkThread::readerCaughtUp();
 }
 
 void HeldBytes::setDelivering()
 {
     if (!std::exchange(m_delivering, true)) {
-        waitingBytes.fetch_add(m_count);
+        const std::lock_guard lock(books().mutex);
+        books().waiting += m_count;
     }
 }
 
 std::size_t HeldBytes::total()
 {
-    return heldBytes.load(std::memory_order_relaxed);
+    const std::lock_guard lock(books().mutex);
+    return books().total;
+}
+
+std::size_t HeldBytes::mostOfOne(std::size_t heldLimit)
+{
+    return heldLimit - heldLimit / partOfSmall;
 }
 
 std::size_t HeldBytes::waitingForReaders()
 {
-    return waitingBytes.load();
+    const std::lock_guard lock(books().mutex);
+    return books().waiting;
+}
+
+void HeldBytes::waitForLess()
+{
+    std::unique_lock lock(books().mutex);
+    books().changed.wait_for(lock, moment);
 }
 
 } // namespace lodestar

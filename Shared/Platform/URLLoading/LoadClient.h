@@ -9,7 +9,7 @@
 namespace lodestar
 {
 
-/// Collects a plain request's answer under the system's trust rules.
+/// Collects a plain request's answer under the system's trust rules. The body is as it came: packed, if it was.
 class LoadClient : public TransferClient
 {
 public:

@@ -23,6 +23,7 @@ constexpr int longestWait = 60'000; ///< milliseconds
 
 std::atomic<NetworkThread*> theThread{nullptr};
 std::atomic<bool> readersAwaited{false};
+std::atomic<std::size_t> underWay{0};
 
 /// Half of the descriptors is for connections in use, half for those that are kept.
 std::size_t descriptorLimit()
@@ -101,6 +102,11 @@ void NetworkThread::readerCaughtUp()
     }
 }
 
+bool NetworkThread::isQuiet()
+{
+    return underWay.load() == 0;
+}
+
 void NetworkThread::wake() const
 {
     // Until the thread has one, it has not looked at the inbox either.
@@ -135,7 +141,12 @@ void NetworkThread::run()
         int running = 0;
         curl().multiPerform(multi, &running);
         finishDone();
+        m_paused.turn(Clock::now(), m_running.size(), [this](Transfer& ended) {
+            curl().multiRemoveHandle(m_multi, ended.handle());
+            finishHop(m_running.at(&ended), Transfer::refusedResult);
+        });
         failOverdue();
+        underWay = m_running.size();
     }
 }
 
@@ -149,6 +160,9 @@ int NetworkThread::waitTime()
     Clock::time_point until = std::min(m_nextDeadline, m_ahead.nextClose());
     if (!m_waiting.empty() || (m_waiting.expectsAny() && !m_idleness.isIdle())) {
         until = std::min(until, now + Idleness::period);
+    }
+    if (!m_paused.empty()) {
+        until = std::min(until, now + PausedTransfers::period);
     }
     if (until == Clock::time_point::max()) {
         return longestWait;
@@ -203,6 +217,7 @@ void NetworkThread::begin(const std::shared_ptr<Transfer>& transfer)
         ahead = m_ahead.take(transfer->server());
         m_hasReleased = m_hasReleased || ahead;
     }
+    transfer->setPausedTransfers(m_paused);
     m_waiting.didStart(*transfer);
     if (transfer->start(std::move(ahead))) {
         m_running.emplace(transfer.get(), transfer);
@@ -277,13 +292,19 @@ void NetworkThread::finishDone()
             m_ahead.failed(easy, Clock::now());
             continue;
         }
-        const std::shared_ptr<Transfer> transfer = m_running.at(done);
-        if (transfer->hopEnded(result)) {
-            add(transfer);
-        } else {
-            m_waiting.didEnd(*transfer);
-            m_running.erase(done);
-        }
+        finishHop(m_running.at(done), result);
+    }
+}
+
+/// With the handle out of libcurl's hands. The share is the caller's own, since the entry goes.
+void NetworkThread::finishHop(std::shared_ptr<Transfer> transfer, CURLcode result)
+{
+    m_paused.forget(*transfer);
+    if (transfer->hopEnded(result)) {
+        add(transfer);
+    } else {
+        m_waiting.didEnd(*transfer);
+        m_running.erase(transfer.get());
     }
 }
 
@@ -312,6 +333,7 @@ void NetworkThread::failOverdue()
 void NetworkThread::remove(const std::shared_ptr<Transfer>& transfer)
 {
     curl().multiRemoveHandle(m_multi, transfer->handle());
+    m_paused.forget(*transfer);
     m_waiting.didEnd(*transfer);
     m_running.erase(transfer.get());
 }

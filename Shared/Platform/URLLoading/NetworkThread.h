@@ -3,6 +3,7 @@
 
 #include "Platform/URLLoading/ConnectionsAhead.h"
 #include "Platform/URLLoading/Idleness.h"
+#include "Platform/URLLoading/PausedTransfers.h"
 #include "Platform/URLLoading/Transfer.h"
 #include "Platform/URLLoading/TransferQueue.h"
 
@@ -43,6 +44,8 @@ public:
 
     /// To be called when a body has been handed to its reader: starts what waited for that. Any thread.
     static void readerCaughtUp();
+    /// Whether no transfer was under way when the thread last looked. Any thread.
+    static bool isQuiet();
 
 private:
     using Clock = Transfer::Clock;
@@ -61,6 +64,7 @@ private:
     void openAhead(Clock::time_point now);
     void add(const std::shared_ptr<Transfer>& transfer);
     void finishDone();
+    void finishHop(std::shared_ptr<Transfer> transfer, CURLcode result);
     void failOverdue();
     void remove(const std::shared_ptr<Transfer>& transfer);
 
@@ -79,6 +83,7 @@ private:
     ConnectionsAhead m_ahead;
     Idleness m_idleness;
     bool m_hasReleased = false; ///< a handshake may go on: no socket tells libcurl of that
+    PausedTransfers m_paused;
     Clock::time_point m_nextDeadline = Clock::time_point::max();
 };
 

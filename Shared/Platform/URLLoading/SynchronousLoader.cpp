@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/URLLoading/SynchronousLoader.h"
 
+#include "Platform/URLLoading/Delivery.h"
 #include "Platform/URLLoading/LoadClient.h"
 #include "Platform/URLLoading/Transfer.h"
 #include "Platform/URLLoading/URLError.h"
@@ -52,7 +53,7 @@ Result<URLLoad> SynchronousLoader::load(const URLRequest& request)
     auto loader = borrow(Origin::ofURL(request.url));
     loader->drive(transfer);
     giveBack(std::move(loader));
-    return std::move(*answer);
+    return *answer ? Delivery::unpacked(std::move(answer->value())) : std::move(*answer);
 }
 
 std::unique_ptr<SynchronousLoader> SynchronousLoader::borrow(const std::optional<Origin>& origin)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/URLLoading/Transfer.h"
 
+#include "Platform/URLLoading/BodyDecoder.h"
+#include "Platform/URLLoading/PausedTransfers.h"
 #include "Platform/URLLoading/Redirect.h"
 #include "Platform/URLLoading/URLError.h"
 
@@ -43,7 +45,8 @@ Transfer::Transfer(URLRequest request, std::shared_ptr<TransferClient> client)
     : m_limits(TransferLimits::shared()),
       m_server(serverOf(request.url)),
       m_request(std::move(request)),
-      m_client(std::move(client))
+      m_client(std::move(client)),
+      m_held(m_server)
 {
     if (m_request.timeout.count() <= 0) {
         m_request.timeout = URLRequest::defaultTimeout;
@@ -145,9 +148,6 @@ bool Transfer::hopEnded(CURLcode result)
 /// What libcurl does not see: it finds a body short of its length or of its last chunk itself.
 bool Transfer::bodyIsWhole() const
 {
-    if (m_decoder && !m_decoder->isComplete()) {
-        return false;
-    }
     const bool delimited = m_response.headers.value("Content-Length") || m_response.headers.value("Transfer-Encoding");
     const bool bodiless = m_response.statusCode == 204 || m_response.statusCode == 304;
     return delimited || bodiless || m_closeNotice == nullptr || m_closeNotice->received;
@@ -162,6 +162,7 @@ void Transfer::end(std::optional<Error> error)
 {
     m_leavesConnection = !error && m_response.headers.value("Connection").value_or("") != "close";
     if (const auto client = std::exchange(m_client, nullptr); client != nullptr) {
+        m_paused = false;
         client->didEnd(std::move(error), std::move(m_held));
     }
 }
@@ -181,8 +182,8 @@ void Transfer::refuse(URLErrorCode code, std::string reason)
 
 Transfer::Clock::time_point Transfer::deadline() const
 {
-    const auto total = m_request.timeout * std::max(m_limits.totalTimeFactor, 1);
-    return std::min(m_lastProgress + m_request.timeout, m_started + total);
+    const Clock::time_point total = m_started + m_request.timeout * std::max(m_limits.totalTimeFactor, 1);
+    return m_paused ? total : std::min(m_lastProgress + m_request.timeout, total);
 }
 
 /// Every connection passes here before a byte of the request is sent, fresh and kept ones alike.
@@ -249,8 +250,7 @@ bool Transfer::headersComplete()
     m_bodyBytes = 0;
     m_held.reset();
     const std::string encoding = m_response.headers.value("Content-Encoding").value_or("");
-    m_decoder = BodyDecoder::make(encoding);
-    if (!m_decoder) {
+    if (!BodyDecoder::knows(encoding)) {
         refuse(URLErrorCode::BadServerResponse, "unknown content encoding");
         return false;
     }
@@ -264,10 +264,10 @@ bool Transfer::headersComplete()
     m_next = m_redirects < m_limits.redirects ? requestAfterResponse(m_request, m_response) : std::nullopt;
     if (number && encoding.empty()) {
         m_response.expectedContentLength = *number;
-        if (!m_next && *number > static_cast<std::int64_t>(m_limits.bodyBytes)) {
-            refuse(URLErrorCode::DataLengthExceedsMaximum, "the body is too large");
-            return false;
-        }
+    }
+    if (number && !m_next && *number > static_cast<std::int64_t>(m_limits.bodyBytes)) {
+        refuse(URLErrorCode::DataLengthExceedsMaximum, "the body is too large");
+        return false;
     }
     m_client->didReceiveResponse(m_response);
     return true;
@@ -276,32 +276,52 @@ bool Transfer::headersComplete()
 bool Transfer::bodyBytes(std::span<const char> bytes)
 {
     m_lastProgress = Clock::now();
-    m_received += bytes.size();
-    if (m_decoder && m_decoder->decode(bytes, [this](std::span<const char> piece) { return deliver(piece); })) {
-        return true;
-    }
-    if (!m_refusal) {
-        refuse(URLErrorCode::BadServerResponse, "the compressed body is damaged");
-    }
-    return false;
-}
-
-bool Transfer::deliver(std::span<const char> bytes)
-{
-    m_bodyBytes += bytes.size();
-    if (m_bodyBytes > m_limits.bodyBytes) {
+    if (m_bodyBytes + bytes.size() > m_limits.bodyBytes) {
         refuse(URLErrorCode::DataLengthExceedsMaximum, "the body is too large");
         return false;
     }
-    if (m_next) {
-        return true; // the text that comes with a redirect is nobody's answer
+    // The text that comes with a redirect is nobody's answer.
+    if (!m_next) {
+        if (!hasRoom(bytes.size())) {
+            return false;
+        }
+        m_client->didReceiveData(bytes);
     }
-    if (!m_held.add(bytes.size(), m_limits.heldBytes)) {
-        refuse(URLErrorCode::DataLengthExceedsMaximum, "too many bytes are held");
+    m_bodyBytes += bytes.size();
+    m_received += bytes.size();
+    return true;
+}
+
+/// False when the body has to wait, and then the same bytes come once more, or is refused.
+bool Transfer::hasRoom(std::size_t bytes)
+{
+    const bool mayPause = m_pausedTransfers != nullptr;
+    if (m_held.add(bytes, m_limits.heldBytes, mayPause ? m_claim : HeldBytes::Claim::Whole)) {
+        m_hasPaused = false;
+        return true;
+    }
+    if (!mayPause) {
+        refuseForRoom();
         return false;
     }
-    m_client->didReceiveData(bytes);
-    return true;
+    m_paused = true;
+    if (!std::exchange(m_hasPaused, true)) {
+        m_pausedSince = m_lastProgress;
+    }
+    m_pausedTransfers->add(*this);
+    return false;
+}
+
+bool Transfer::goOn()
+{
+    m_paused = false;
+    m_lastProgress = Clock::now();
+    return curl().easyPause(m_connection.easy.get(), CURLPAUSE_CONT) == CURLE_OK;
+}
+
+void Transfer::refuseForRoom()
+{
+    refuse(URLErrorCode::DataLengthExceedsMaximum, "too many bytes are held");
 }
 
 std::int64_t Transfer::wireBytes() const
@@ -355,7 +375,10 @@ std::size_t Transfer::header(char* bytes, std::size_t size, std::size_t count, v
 std::size_t Transfer::body(char* bytes, std::size_t size, std::size_t count, void* self)
 {
     auto& transfer = *static_cast<Transfer*>(self);
-    return transfer.guarded([&] { return transfer.bodyBytes({bytes, size * count}); }) ? size * count : 0;
+    if (transfer.guarded([&] { return transfer.bodyBytes({bytes, size * count}); })) {
+        return size * count;
+    }
+    return transfer.m_paused ? CURL_WRITEFUNC_PAUSE : 0;
 }
 
 int Transfer::progress(void* self, curl_off_t, curl_off_t, curl_off_t, curl_off_t)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Platform/URLLoading/BodyDecoder.h"
 #include "Platform/URLLoading/CloseNotice.h"
 #include "Platform/URLLoading/ConnectionHandle.h"
 #include "Platform/URLLoading/HeldBytes.h"
@@ -16,6 +15,8 @@
 namespace lodestar
 {
 
+class PausedTransfers;
+
 enum class Handshake { Fresh, Reused };
 
 /// Who a transfer works for. Called on the thread that drives the transfer; must not block.
@@ -28,6 +29,7 @@ public:
     /// True when a server that was refused before should be met with a fresh handshake.
     virtual bool wantsFreshHandshake(const Origin& origin) const = 0;
     virtual void didReceiveResponse(const URLResponse& response) = 0;
+    /// Of the body as it comes: where the response says so, packed.
     virtual void didReceiveData(std::span<const char> data) = 0;
     /// Last and exactly once. The held bytes are the body's share of the process's limit, to be kept as long as the
     /// body waits for its reader.
@@ -67,6 +69,19 @@ public:
     bool hopEnded(CURLcode result);
     void fail(URLErrorCode code);
 
+    /// Before `start`: a body that finds no room is to wait, and to be put into the list. Without one it is refused.
+    void setPausedTransfers(PausedTransfers& list) { m_pausedTransfers = &list; }
+    bool isPaused() const { return m_paused; }
+    Clock::time_point pausedSince() const { return m_pausedSince; }
+    std::size_t heldBytes() const { return m_held.count(); }
+    void setPausedSince(Clock::time_point since) { m_pausedSince = since; }
+    void setClaim(HeldBytes::Claim claim) { m_claim = claim; }
+    /// Lets a paused one try again. False when its hop has ended, with `refusedResult` as libcurl's word.
+    bool goOn();
+    /// Gives a paused one up.
+    void refuseForRoom();
+    static constexpr CURLcode refusedResult = CURLE_WRITE_ERROR;
+
     /// When the transfer is overdue if nothing more arrives: the idle limit or the total one. Monotonic clock.
     Clock::time_point deadline() const;
 
@@ -82,7 +97,7 @@ private:
     bool headerLine(std::string_view line);
     bool headersComplete();
     bool bodyBytes(std::span<const char> bytes);
-    bool deliver(std::span<const char> bytes);
+    bool hasRoom(std::size_t bytes);
     std::int64_t wireBytes() const;
     bool framingIsBounded();
     template <typename Work>
@@ -113,13 +128,17 @@ private:
     bool m_madeConnection = false;
     bool m_leavesConnection = false;
     std::size_t m_headerBytes = 0;
-    std::size_t m_bodyBytes = 0; ///< decoded, of the current response
+    std::size_t m_bodyBytes = 0; ///< of the current response, as they came
     HeldBytes m_held;
+    PausedTransfers* m_pausedTransfers = nullptr;
+    bool m_paused = false;
+    bool m_hasPaused = false; ///< of this body, since it last went on
+    Clock::time_point m_pausedSince;
+    HeldBytes::Claim m_claim = HeldBytes::Claim::Fair;
 
     URLResponse m_response;
     bool m_inHeaders = false;
     std::optional<URLRequest> m_next; ///< the current response is a redirect to follow
-    std::optional<BodyDecoder> m_decoder;
     std::shared_ptr<const CloseNotice> m_closeNotice;
     std::optional<Error> m_refusal; ///< why a callback of ours stopped libcurl
 };

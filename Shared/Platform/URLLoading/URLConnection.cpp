@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/URLLoading/URLConnection.h"
 
+#include "Platform/URLLoading/BodyUnpacker.h"
 #include "Platform/URLLoading/NetworkThread.h"
 #include "Platform/URLLoading/Strand.h"
 #include "Platform/URLLoading/Transfer.h"
@@ -78,31 +79,33 @@ public:
     void didReceiveResponse(const URLResponse& response) override
     {
         m_strand->post([self = self(), response] {
-            if (!self->m_left) {
+            if (!self->m_failure) {
+                self->m_unpacker.emplace(response, HeldBytes::Claim::Whole);
+                self->m_isPacked = BodyUnpacker::isNeeded(response);
                 self->m_delegate->didReceiveResponse(response);
             }
         });
     }
     void didReceiveData(std::span<const char> data) override
     {
-        m_strand->post([self = self(), bytes = std::string(data.data(), data.size())] {
-            if (!self->m_left) {
-                self->m_delegate->didReceiveData(bytes);
-            }
-        });
+        m_strand->post([self = self(), bytes = std::string(data.data(), data.size())] { self->tellData(bytes); });
     }
     void didEnd(std::optional<Error> error, HeldBytes held) override
     {
         held.setDelivering();
         m_strand->post([self = self(), error = std::move(error), held = std::move(held)] {
-            if (self->m_left) {
-                self->m_delegate->didFailWithError(urlError(URLErrorCode::ServerCertificateUntrusted));
-            } else if (error) {
-                self->m_delegate->didFailWithError(*error);
+            if (!self->m_failure && error) {
+                self->m_failure = error;
+            } else if (!self->m_failure && self->m_isPacked) {
+                self->m_failure = self->m_unpacker->error();
+            }
+            if (self->m_failure) {
+                self->m_delegate->didFailWithError(*self->m_failure);
             } else {
                 self->m_delegate->connectionDidFinishLoading();
             }
             self->m_delegate.reset();
+            self->m_unpacker.reset();
         });
     }
 
@@ -111,15 +114,31 @@ private:
 
     void challengeDelegate(const ServerCertificate& certificate)
     {
-        if (m_left) {
+        if (m_failure) {
             return;
         }
         ServerTrustChallenge challenge(certificate);
         m_delegate->willSendRequestForAuthenticationChallenge(challenge);
         if (!challenge.mayGoOn()) {
-            m_left = true;
-            cancel();
+            leave(urlError(URLErrorCode::ServerCertificateUntrusted));
         }
+    }
+    void tellData(std::span<const char> bytes)
+    {
+        if (m_failure) {
+            return;
+        }
+        if (!m_isPacked) {
+            m_delegate->didReceiveData(bytes);
+        } else if (!m_unpacker->unpack(bytes,
+                                       [this](std::span<const char> piece) { m_delegate->didReceiveData(piece); })) {
+            leave(*m_unpacker->error());
+        }
+    }
+    void leave(Error failure)
+    {
+        m_failure = std::move(failure);
+        cancel();
     }
 
     URLRequest m_request;
@@ -127,7 +146,10 @@ private:
     OperationQueue m_queue;
     std::shared_ptr<Strand> m_strand;
     std::shared_ptr<Transfer> m_transfer;
-    bool m_left = false; ///< the strand's: the delegate would not have the server, nothing more is told but the end
+    // The strand's.
+    std::optional<BodyUnpacker> m_unpacker; ///< of the last response
+    bool m_isPacked = false;
+    std::optional<Error> m_failure; ///< nothing more is told but the end
 };
 
 } // namespace

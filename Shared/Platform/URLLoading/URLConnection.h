@@ -3,6 +3,7 @@
 
 #include "Platform/Queues/OperationQueue.h"
 #include "Platform/Result.h"
+#include "Platform/URLLoading/TransferLimits.h"
 #include "Platform/URLLoading/URLRequest.h"
 
 #include <functional>
@@ -101,20 +102,5 @@ std::shared_ptr<void> expectRequests(const std::string& url, int requests);
 
 /// As above, blocking the calling thread, which runs the transfer itself on a kept-alive connection of its own.
 Result<URLLoad> sendSynchronousRequest(const URLRequest& request);
-
-/// What protects the device from a hostile server. Process-wide; set before the first transfer, tests excepted.
-struct TransferLimits {
-    std::size_t headerBytes = 256UL * 1024;       ///< all header bytes of one transfer, redirects included
-    std::size_t bodyBytes = 192UL * 1024 * 1024;  ///< one decoded body
-    std::size_t heldBytes = 1024UL * 1024 * 1024; ///< all bodies being received at once
-    /// What comes beside headers and body, over as many bytes as those are: the sizes and extensions of chunks, which
-    /// libcurl drops unseen, and what TLS adds.
-    std::size_t framingBytes = 4UL * 1024 * 1024;
-    int redirects = 20; ///< hops followed; the last response is then the answer
-    /// A transfer's total time is its idle limit times this, so that a trickling server cannot hold it for ever.
-    int totalTimeFactor = 1;
-
-    static TransferLimits& shared();
-};
 
 } // namespace lodestar

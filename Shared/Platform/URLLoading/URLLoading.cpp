@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Platform/URLLoading/Delivery.h"
 #include "Platform/URLLoading/LoadClient.h"
 #include "Platform/URLLoading/NetworkThread.h"
 #include "Platform/URLLoading/SynchronousLoader.h"
@@ -7,29 +8,13 @@
 namespace lodestar
 {
 
-TransferLimits& TransferLimits::shared()
-{
-    static TransferLimits limits;
-    return limits;
-}
-
 std::function<void()> sendAsynchronousRequest(URLRequest request, const OperationQueue& queue,
                                               std::function<void(Result<URLLoad>)> completion)
 {
-    struct Delivery {
-        std::function<void(Result<URLLoad>)> completion;
-        Result<URLLoad> load;
-        HeldBytes held;
-    };
-    auto client = std::make_shared<LoadClient>([queue, completion = std::move(completion)](Result<URLLoad> load,
-                                                                                           HeldBytes held) mutable {
-        held.setDelivering();
-        auto delivery = std::make_unique<Delivery>(Delivery{std::move(completion), std::move(load), std::move(held)});
-        queue.addOperation([delivery = std::move(delivery)] {
-            const auto call = std::move(delivery->completion);
-            call(std::move(delivery->load));
+    auto client = std::make_shared<LoadClient>(
+        [queue, completion = std::move(completion)](Result<URLLoad> load, HeldBytes held) mutable {
+            Delivery::start(queue, std::move(completion), std::move(load), std::move(held));
         });
-    });
     const auto transfer = std::make_shared<Transfer>(std::move(request), std::move(client));
     NetworkThread::shared().start(transfer);
     return [ended = std::weak_ptr<Transfer>(transfer)] {

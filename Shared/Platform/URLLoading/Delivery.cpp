@@ -1,0 +1,161 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/URLLoading/Delivery.h"
+
+#include "Platform/Queues/OwnThread.h"
+
+#include <algorithm>
+#include <condition_variable>
+#include <deque>
+#include <limits>
+#include <mutex>
+#include <new>
+#include <thread>
+#include <utility>
+
+namespace lodestar
+{
+
+namespace
+{
+
+// Feeds of most consoles stay below it.
+constexpr std::size_t smallBody = 4UL * 1024 * 1024;
+// Unpacks to a megabyte at most.
+constexpr std::size_t sliceSize = 1024;
+constexpr std::size_t anySize = std::numeric_limits<std::size_t>::max();
+
+} // namespace
+
+/// The thread of large bodies. Each keeps the turn until it has been read, so that there is one at a time.
+class Delivery::LargeBodies
+{
+public:
+    static LargeBodies& shared()
+    {
+        // Never destroyed: the thread waits here when the process ends.
+        static LargeBodies* const bodies = new LargeBodies;
+        return *bodies;
+    }
+    void add(std::unique_ptr<Delivery> delivery)
+    {
+        {
+            const std::lock_guard lock(m_mutex);
+            m_waiting.push_back(std::move(delivery));
+        }
+        m_added.notify_one();
+    }
+
+private:
+    LargeBodies()
+    {
+        std::thread([this] { run(); }).detach();
+    }
+    void run()
+    {
+        const OwnThread thread("lodestar-unpack");
+        OwnThread::takeLowPriority();
+        for (;;) {
+            std::unique_lock lock(m_mutex);
+            m_added.wait(lock, [this] { return !m_waiting.empty(); });
+            std::unique_ptr<Delivery> delivery = std::move(m_waiting.front());
+            m_waiting.pop_front();
+            lock.unlock();
+            delivery->m_turn.take();
+            delivery->unpackLarge();
+            complete(std::move(delivery));
+        }
+    }
+
+    std::mutex m_mutex;
+    std::condition_variable m_added;
+    std::deque<std::unique_ptr<Delivery>> m_waiting;
+};
+
+void Delivery::start(OperationQueue queue, Completion completion, Result<URLLoad> load, HeldBytes held)
+{
+    held.setDelivering();
+    std::unique_ptr<Delivery> delivery(
+        new Delivery(std::move(queue), std::move(completion), std::move(load), std::move(held)));
+    if (!delivery->m_load || !BodyUnpacker::isNeeded(delivery->m_load.value().response)) {
+        complete(std::move(delivery));
+        return;
+    }
+    const OperationQueue readers = delivery->m_queue;
+    readers.addOperation([delivery = std::move(delivery)]() mutable { run(std::move(delivery)); });
+}
+
+void Delivery::run(std::unique_ptr<Delivery> delivery)
+{
+    URLLoad& load = delivery->m_load.value();
+    delivery->m_unpacker = std::make_unique<BodyUnpacker>(load.response, HeldBytes::Claim::Small);
+    delivery->m_packed = std::exchange(load.body, {});
+    if (delivery->unpack(smallBody) == Progress::TooLarge) {
+        LargeBodies::shared().add(std::move(delivery));
+        return;
+    }
+    const auto completion = std::move(delivery->m_completion);
+    completion(std::move(delivery->m_load));
+}
+
+void Delivery::complete(std::unique_ptr<Delivery> delivery)
+{
+    const OperationQueue readers = delivery->m_queue;
+    readers.addOperation([delivery = std::move(delivery)] {
+        const auto completion = std::move(delivery->m_completion);
+        completion(std::move(delivery->m_load));
+    });
+}
+
+Delivery::Progress Delivery::unpack(std::size_t most)
+{
+    std::string& body = m_load.value().body;
+    for (std::size_t at = 0; at < m_packed.size(); at += sliceSize) {
+        const auto slice = std::span<const char>(m_packed).subspan(at, std::min(sliceSize, m_packed.size() - at));
+        const bool goesOn = m_unpacker->unpack(
+            slice, [&body](std::span<const char> piece) { body.append(piece.data(), piece.size()); });
+        if (most != anySize && (body.size() > most || m_unpacker->foundNoRoom())) {
+            return Progress::TooLarge;
+        }
+        if (!goesOn) {
+            break;
+        }
+    }
+    m_packed = {};
+    m_held.reset();
+    if (auto error = m_unpacker->error()) {
+        m_load = std::move(*error);
+    }
+    return Progress::Done;
+}
+
+/// From the first byte again: a small body is little work.
+void Delivery::unpackLarge()
+{
+    URLLoad& load = m_load.value();
+    load.body.clear();
+    m_unpacker = nullptr;
+    m_unpacker = std::make_unique<BodyUnpacker>(load.response, HeldBytes::Claim::Turn, BodyUnpacker::WithoutRoom::Wait);
+    // What is never touched costs addresses only, and growing by copies would need half as much again.
+    try {
+        load.body.reserve(TransferLimits::shared().bodyBytes);
+    } catch (const std::bad_alloc&) {
+        // Then it grows, or fails, as it comes.
+    }
+    unpack(anySize);
+}
+
+Result<URLLoad> Delivery::unpacked(URLLoad load)
+{
+    if (!BodyUnpacker::isNeeded(load.response)) {
+        return load;
+    }
+    BodyUnpacker unpacker(load.response, HeldBytes::Claim::Whole);
+    const std::string packed = std::exchange(load.body, {});
+    unpacker.unpack(packed, [&load](std::span<const char> piece) { load.body.append(piece.data(), piece.size()); });
+    if (auto error = unpacker.error()) {
+        return std::move(*error);
+    }
+    return load;
+}
+
+} // namespace lodestar

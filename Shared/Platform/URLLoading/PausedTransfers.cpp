@@ -1,0 +1,96 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Platform/URLLoading/PausedTransfers.h"
+
+#include "Platform/URLLoading/Transfer.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace lodestar
+{
+
+namespace
+{
+
+constexpr std::chrono::milliseconds patience{100};
+constexpr std::chrono::seconds look{2};
+constexpr std::size_t fastEnough = 8UL * 1024 * 1024; ///< bytes from look to look
+constexpr std::chrono::milliseconds standstill{500};
+
+} // namespace
+
+void PausedTransfers::forget(const Transfer& transfer)
+{
+    std::erase(m_paused, &transfer);
+    if (m_favoured == &transfer) {
+        m_favoured = nullptr;
+        m_turn.giveBack();
+    }
+}
+
+void PausedTransfers::turn(Clock::time_point now, std::size_t running, const std::function<void(Transfer&)>& ended)
+{
+    if (m_paused.empty()) {
+        m_lastMove = now;
+        return;
+    }
+    if (now - m_lastTurn < period) {
+        return;
+    }
+    m_lastTurn = now;
+    choose(now);
+    const bool allWait = running == m_paused.size() + (m_favoured != nullptr && !m_favoured->isPaused() ? 1 : 0);
+    if (m_favoured != nullptr) {
+        m_favoured->setClaim(allWait ? HeldBytes::Claim::Whole : HeldBytes::Claim::Turn);
+    } else {
+        m_lastMove = now; // A body that is being unpacked has the turn, and comes to its end.
+    }
+    for (Transfer* const transfer : std::exchange(m_paused, {})) {
+        // One that finds no room again has put itself back.
+        if (!transfer->goOn()) {
+            ended(*transfer);
+        } else if (!transfer->isPaused()) {
+            m_lastMove = now;
+        }
+    }
+    if (allWait && !m_paused.empty() && now - m_lastMove > standstill && HeldBytes::waitingForReaders() == 0) {
+        Transfer* const one = largest();
+        one->refuseForRoom();
+        m_lastMove = now;
+        ended(*one);
+    }
+}
+
+void PausedTransfers::choose(Clock::time_point now)
+{
+    if (m_favoured != nullptr && now - m_lookedAt > look) {
+        if (m_favoured->heldBytes() < m_heldThen + fastEnough) {
+            drop();
+        } else {
+            m_lookedAt = now;
+            m_heldThen = m_favoured->heldBytes();
+        }
+    }
+    Transfer* const longest = *std::ranges::min_element(m_paused, {}, &Transfer::pausedSince);
+    if (m_favoured == nullptr && now - longest->pausedSince() > patience && m_turn.tryTake()) {
+        m_favoured = longest;
+        m_lookedAt = now;
+        m_heldThen = longest->heldBytes();
+    }
+}
+
+/// Others first; then it is its turn again.
+void PausedTransfers::drop()
+{
+    m_favoured->setClaim(HeldBytes::Claim::Fair);
+    m_favoured->setPausedSince(m_lookedAt + look);
+    m_favoured = nullptr;
+    m_turn.giveBack();
+}
+
+Transfer* PausedTransfers::largest() const
+{
+    return *std::ranges::max_element(m_paused, {}, &Transfer::heldBytes);
+}
+
+} // namespace lodestar
