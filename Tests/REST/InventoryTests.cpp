@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Controllers/REST/KeptBytes.h"
 #include "Platform/Resources.h"
 #include "Tests/LongRun.h"
 #include "Tests/REST/RESTHandlerFixture.h"
@@ -145,6 +146,45 @@ TEST_F(InventoryTest, FeedThatCannotBeHadIsNotAvailableAndTheOthersAreKept)
     ASSERT_FALSE(refused.ok());
     EXPECT_EQ(refused.error().domain, "RXPromise");
     EXPECT_EQ(refused.error().code, -1000);
+}
+
+TEST_F(InventoryTest, FeedsBeyondWhatTheDeviceCanKeepAreNotAvailable)
+{
+    EXPECT_LE(KeptBytes::limit(), 512UL * 1024 * 1024);
+    {
+        simulator::Settings settings;
+        settings.feedBytes = 200'000;
+        simulator::SimulatorProcess simulator(settings);
+        const CorvelRef corvel = corvelOf(simulator);
+        const std::size_t none = KeptBytes::total();
+        const auto feeds = allFeeds(corvel, key(corvel));
+        const std::size_t ofFleet = 500 * (KeptBytes::total() - none);
+        RecordProperty("bytesOf500Consoles", std::to_string(ofFleet));
+        EXPECT_LT(ofFleet, 507UL * 1024 * 1024) << "500 consoles are kept whole, with room for one's refresh";
+    }
+    simulator::SimulatorProcess simulator{{}};
+    const CorvelRef corvel = corvelOf(simulator);
+    const SessionKey sessionKey = key(corvel);
+    const std::size_t before = KeptBytes::total();
+    // Five times its own size, once parsed.
+    std::string feed = "<feed>";
+    while (feed.size() < 1'000'000) {
+        feed += "<a/>";
+    }
+    simulator.setFeed(0, "ManagedSystem", feed);
+    {
+        const auto feeds = allFeeds(corvel, sessionKey);
+        EXPECT_THAT(unavailable(*feeds), IsEmpty());
+        EXPECT_GE(KeptBytes::total() - before, feeds->feed(ObjectType::ManagedSystem).root().documentMemory());
+    }
+    EXPECT_EQ(KeptBytes::total(), before);
+    KeptBytes others;
+    ASSERT_TRUE(others.resize(KeptBytes::limit() - before - 7'000'000));
+    takeLines();
+    EXPECT_THAT(unavailable(*allFeeds(corvel, sessionKey)), ElementsAre("ManagedSystem"));
+    EXPECT_THAT(takeLines(), ElementsAre(HasSubstr("Feed failed: ManagedSystem of Console 0: URLError -1103")));
+    EXPECT_FALSE(others.resize(KeptBytes::limit())) << "a feed leaves room for logons";
+    EXPECT_TRUE(key(corvel));
 }
 
 TEST_F(InventoryTest, DamagedFeedIsSalvagedAndAnEmptyOneHasNoEntries)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Controllers/REST/KeptBytes.h"
 #include "Controllers/REST/XMLArray.h"
 #include "Controllers/REST/XMLNames.h"
 #include "Platform/Result.h"
@@ -61,6 +62,7 @@ private:
     XMLArray<char> m_text;
     XMLArray<char> m_values;
     XMLNames m_names;
+    KeptBytes m_kept;
 };
 
 } // namespace lodestar

@@ -2,6 +2,7 @@
 #include "Controllers/REST/XMLDocumentBuilder.h"
 
 #include "Controllers/REST/XMLInput.h"
+#include "Platform/URLLoading/URLError.h"
 
 #include <libxml/parserInternals.h>
 
@@ -20,6 +21,8 @@ constexpr std::size_t bytesAnError = 64;
 constexpr std::size_t comparisonsAlways = 1'000'000;
 constexpr std::size_t comparisonsAByte = 8;
 
+// Elements between two looks at the memory that is left: less than a megabyte, if each is as small as can be.
+constexpr XMLDocument::Index elementsUnseen = 32768;
 constexpr std::size_t arenaLimit = std::numeric_limits<std::uint32_t>::max() - 1;
 // Salvage what can be salvaged, print nothing, open nothing. Entities are never replaced, no DTD is ever loaded, and
 // the parser's own limits on depth and size stay on.
@@ -28,6 +31,11 @@ constexpr int parseOptions = XML_PARSE_RECOVER | XML_PARSE_NONET | XML_PARSE_NOE
 Error tooLarge()
 {
     return {"XML", XML_ERR_INTERNAL_ERROR, "The answer is too large to be read.", {}, nullptr};
+}
+
+Error noRoom()
+{
+    return urlError(URLErrorCode::DataLengthExceedsMaximum, "what is kept already leaves no room for it");
 }
 
 const char* chars(const xmlChar* text)
@@ -60,6 +68,10 @@ Result<std::shared_ptr<const XMLDocument>> XMLDocumentBuilder::run(std::string_v
     if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
         return tooLarge();
     }
+    // About what a feed takes.
+    if (!m_document->m_kept.resize(bytes.size())) {
+        return noRoom();
+    }
     const std::unique_ptr<xmlParserCtxt, ParserDeleter> parser(makeXMLParser(bytes));
     if (parser == nullptr) {
         return outOfMemory();
@@ -87,6 +99,9 @@ Result<std::shared_ptr<const XMLDocument>> XMLDocumentBuilder::run(std::string_v
         return std::shared_ptr<const XMLDocument>();
     }
     finish();
+    if (!m_document->m_kept.resize(m_document->memory())) {
+        return noRoom();
+    }
     return std::shared_ptr<const XMLDocument>(std::move(m_document));
 }
 
@@ -215,6 +230,9 @@ void XMLDocumentBuilder::open(const xmlChar* localName, const xmlChar* prefix, c
         return;
     }
     const auto index = static_cast<XMLDocument::Index>(document.m_nodes.size());
+    if (index % elementsUnseen == elementsUnseen - 1 && !keep()) {
+        return;
+    }
     const auto text = static_cast<std::uint32_t>(document.m_text.size());
     document.m_nodes.push_back({nameOf(localName, prefix), index + 1, text, text,
                                 static_cast<XMLDocument::Index>(document.m_attributes.size())});
@@ -224,6 +242,19 @@ void XMLDocumentBuilder::open(const xmlChar* localName, const xmlChar* prefix, c
         const xmlChar** const one = attributes + std::ptrdiff_t{5} * i;
         addAttribute(one[0], one[1], {chars(one[3]), static_cast<std::size_t>(one[4] - one[3])});
     }
+}
+
+bool XMLDocumentBuilder::keep()
+{
+    const XMLDocument& document = *m_document;
+    const std::size_t used = document.m_nodes.size() * sizeof(XMLDocument::Node) +
+                             document.m_attributes.size() * sizeof(XMLDocument::Attribute) + document.m_text.size() +
+                             document.m_values.size();
+    if (used > document.m_kept.size() && !m_document->m_kept.resize(used)) {
+        fail(noRoom());
+        return false;
+    }
+    return true;
 }
 
 /// The parser leaves references in a value as they stand, "&" itself among them as "&#38;".

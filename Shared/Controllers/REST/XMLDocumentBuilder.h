@@ -82,6 +82,8 @@ private:
         return known.name;
     }
     XMLDocument::Name internLocalPart(const xmlChar* name, const xmlChar* prefix);
+    /// False, with the parse ended, when the device has no room for the document as it is by now.
+    bool keep();
     void fail(Error error);
     void finish();
 
