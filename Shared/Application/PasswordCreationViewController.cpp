@@ -4,6 +4,7 @@
 #include "Application/Passcode.h"
 #include "Application/SettingsViewController.h"
 #include "Platform/NotificationCenter.h"
+#include "Platform/Queues/MainQueue.h"
 
 #include <utility>
 
@@ -128,8 +129,9 @@ void PasswordCreationViewController::cancel()
 
 void PasswordCreationViewController::viewDidDisappear()
 {
-    // The lock may take the settings away while the keychain still works for this.
-    m_parentSettings.reset();
+    // The lock may take the settings away while the keychain still works for this. They may be the ones who dismiss it:
+    // let that return first.
+    MainQueue::shared().async([settings = std::exchange(m_parentSettings, nullptr)] {});
 }
 
 std::shared_ptr<PasswordCreationViewController> PasswordCreationViewController::kept()

@@ -34,7 +34,7 @@ void tell(const char* call, const Function& ask)
     timer.start();
     const auto result = ask();
     const qint64 elapsed = timer.elapsed();
-    std::string text = result ? std::string() : "error " + std::to_string(result.error().code);
+    std::string text = result ? "[]" : "error " + std::to_string(result.error().code);
     if constexpr (std::is_same_v<decltype(result), const Result<std::string>>) {
         if (result) {
             text = "[" + result.value() + "]";
