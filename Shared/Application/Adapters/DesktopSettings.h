@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <QDBusVariant> // Whole: a slot of a type that is only named is never found.
 #include <QObject>
 
 #include <functional>
 
 class QDBusConnection;
-class QDBusVariant;
 
 namespace lodestar
 {
