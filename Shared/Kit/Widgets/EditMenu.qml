@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: Apache-2.0
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import QtQuick.Templates as T
 import Lodestar.Kit
@@ -17,20 +15,21 @@ Loader {
     /// At a point of the field.
     function show(x: real, y: real) {
         active = true;
-        (item as Choices).show(x, y);
+        const menu = item as Choices;
+        menu.field = field;
+        menu.secret = secret;
+        menu.show(x, y);
     }
 
     active: false
-    sourceComponent: Choices {
-        field: loader.field
-        secret: loader.secret
-    }
+    // What it is for is told when it is shown: a loader of Qt 6.4 makes no component that is bound to its file.
+    sourceComponent: Choices {}
 
     component Choices: T.Popup {
         id: menu
 
-        required property var field
-        required property bool secret
+        property var field: null
+        property bool secret: true
 
         property bool hasSelection: false
         property bool hasText: false
