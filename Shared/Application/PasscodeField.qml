@@ -70,6 +70,7 @@ T.TextField {
 
         field: input
         secret: true
+        secretSwitch: eye
     }
     SecretSwitch {
         id: eye

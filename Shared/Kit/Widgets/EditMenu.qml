@@ -11,6 +11,8 @@ Loader {
     /// Has the text, its selection and the clipboard's calls.
     required property var field
     property bool secret: false
+    /// Of a field that has one: its choice is among those of the menu.
+    property SecretSwitch secretSwitch: null
 
     /// At a point of the field.
     function show(x: real, y: real) {
@@ -18,6 +20,7 @@ Loader {
         const menu = item as Choices;
         menu.field = field;
         menu.secret = secret;
+        menu.secretSwitch = secretSwitch;
         menu.show(x, y);
     }
 
@@ -30,6 +33,7 @@ Loader {
 
         property var field: null
         property bool secret: true
+        property SecretSwitch secretSwitch: null
 
         property bool hasSelection: false
         property bool hasText: false
@@ -109,6 +113,15 @@ Loader {
                     enabled: menu.canPaste
                     focus: true
                     onClicked: menu.run("paste")
+                }
+                Choice {
+                    text: menu.secretSwitch !== null ? menu.secretSwitch.text : ""
+                    visible: menu.hasText && menu.secretSwitch !== null
+                    onClicked: {
+                        menu.close();
+                        menu.field.forceActiveFocus(Qt.OtherFocusReason);
+                        menu.secretSwitch.revealed = !menu.secretSwitch.revealed;
+                    }
                 }
                 Choice {
                     text: qsTr("Select All")

@@ -128,6 +128,8 @@ Item {
             anchors.left: parent.left
             anchors.leftMargin: Theme.caretRoom
             anchors.right: parent.right
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 12
             elide: Text.ElideRight
             Accessible.ignored: true
         }
@@ -161,6 +163,7 @@ Item {
 
         field: input
         secret: field.secure
+        secretSwitch: field.secure ? eye : null
     }
     FocusRing {
         anchors.fill: parent

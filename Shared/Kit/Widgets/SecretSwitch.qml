@@ -17,6 +17,8 @@ IconButton {
         return event.matches(StandardKey.Copy) || event.matches(StandardKey.Cut);
     }
 
+    // Tab leads from field to field; the keyboard comes here by the field's menu.
+    activeFocusOnTab: false
     iconName: revealed ? "hide" : "show"
     text: revealed ? qsTr("Hide password") : qsTr("Show password")
     ink: Theme.ink2
