@@ -12,6 +12,8 @@ PageScaffold {
     /// Stands in for the controller's title.
     property Item titleView: null
     property BarButtonOutlet rightBarButton: null
+    /// Names the table for those who do not see the title above it.
+    property string label: details.title
 
     readonly property DetailViewController details: controller as DetailViewController
 
@@ -28,7 +30,7 @@ PageScaffold {
         id: table
 
         table: scene.details.tableView
-        label: scene.details.title
+        label: scene.label
         delegate: DetailDelegate {}
         focus: true
         anchors.fill: parent

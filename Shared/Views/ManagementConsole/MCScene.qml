@@ -10,6 +10,7 @@ DetailScene {
     readonly property MCViewController information: controller as MCViewController
     readonly property bool hasNothing: information.tableView.hidden && !information.fetchingActivityIndicator.animating
 
+    label: scene.information.header.titleLabel.text
     rightBarButton: scene.information.rightBarButton
     titleView: TitleView {
         titleOutlet: scene.information.header.titleLabel
