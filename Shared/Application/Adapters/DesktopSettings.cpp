@@ -79,6 +79,8 @@ void DesktopSettings::follow(const QDBusConnection& bus)
     if (!connection.isConnected()) {
         return;
     }
+    // A slot is found by its types' names, and Qt knows this one's only once it is registered.
+    qRegisterMetaType<QDBusVariant>();
     // Of whoever sends it: naming the portal here would wait for the bus to say who that is.
     connection.connect({}, path, settings, QStringLiteral("SettingChanged"), this,
                        SLOT(settingChanged(QString, QString, QDBusVariant)));

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QDBusVariant> // Whole: a slot of a type that is only named is never found.
+#include <QDBusVariant>
 #include <QObject>
 
 #include <functional>
