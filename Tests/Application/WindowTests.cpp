@@ -3,10 +3,13 @@
 #include "Application/FeedbackSupport.h"
 #include "Application/OneInstance.h"
 #include "Application/WindowPlace.h"
+#include "Feedback/VireoLogger.h"
+#include "Platform/NotificationCenter.h"
 #include "Tests/Application/LockedWindowFixture.h"
 
 #include <QFileInfo>
 #include <QJsonObject>
+#include <QScopedValueRollback>
 #include <QScreen>
 #include <QSensorBackend>
 #include <QSensorManager>
@@ -129,11 +132,16 @@ TEST_F(LockedWindowTest, ComesBackWhereItStoodAndWithTheButtonThatItsDeviceNeeds
     EXPECT_TRUE(window().screen()->availableGeometry().contains(window().geometry()));
     EXPECT_EQ(window().height(), 600);
 
+    // As the program's start sets it.
+    const QScopedValueRollback shaking(VireoLogger::settings().reportOnShake, true);
     const auto isButtonHidden = [&] {
         start();
+        bool isDecided = false;
+        const auto decided = NotificationCenter::defaultCenter().addObserver("FeedbackEntryDidChange",
+                                                                             [&isDecided] { isDecided = true; });
         const FeedbackSupport support(window(), QString::fromStdString(folder.path()), QStringLiteral("1.0.0"));
         open(false);
-        settle(200);
+        EXPECT_TRUE(waitFor([&] { return isDecided; }));
         return list().isFeedbackHidden();
     };
     EXPECT_FALSE(isButtonHidden());
@@ -152,7 +160,7 @@ TEST_F(LockedWindowTest, AFurtherStartOnTheSameFolderShowsTheWindow)
     open(false);
     const OneInstance instance(window(), data.path());
     ASSERT_TRUE(claimDataFolder(data.path()));
-    window().requestUpdate();
+    window().update(); // It may have drawn all it had to, and a mere requestUpdate() swaps no frame then.
     ASSERT_TRUE(waitFor([&] { return QFileInfo::exists(data.filePath(QStringLiteral("Lodestar.window"))); }));
     window().hide();
     EXPECT_FALSE(claimDataFolder(data.path()));
