@@ -10,6 +10,10 @@
 #include <unordered_map>
 #include <utility>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 namespace lodestar
 {
 
@@ -21,11 +25,21 @@ constexpr std::size_t partOfFair = 3;
 constexpr std::size_t partOfSmall = 24;
 constexpr std::size_t littleBody = 64UL * 1024;
 constexpr std::size_t leastPart = 64; ///< of the fair third: what any server gets while there is anything
+constexpr std::size_t largeLoad = 64UL * 1024 * 1024;
+
+/// What many pieces of large bodies leave behind stays with the allocator of the GNU library until it is told.
+void giveMemoryBack()
+{
+#ifdef __GLIBC__
+    malloc_trim(0);
+#endif
+}
 
 struct Books {
     std::mutex mutex;
     std::condition_variable changed; ///< less is held, or the turn is free
     std::size_t total = 0;
+    std::size_t most = 0; ///< that was held since last nothing was
     std::size_t fair = 0;
     std::unordered_map<std::string, std::size_t> fairOfServers;
     std::size_t waiting = 0;
@@ -125,6 +139,7 @@ bool HeldBytes::add(std::size_t bytes, std::size_t heldLimit, Claim claim)
         books().fair += bytes;
     }
     books().total += bytes;
+    books().most = std::max(books().most, books().total);
     m_count += bytes;
     if (m_delivering) {
         books().waiting += bytes;
@@ -147,6 +162,7 @@ void HeldBytes::reset()
     if (count == 0) {
         return;
     }
+    bool endsLargeLoad = false;
     {
         const std::lock_guard lock(books().mutex);
         books().total -= count;
@@ -154,8 +170,12 @@ void HeldBytes::reset()
             books().subtractFair(m_server, count);
         }
         books().waiting -= delivering ? count : 0;
+        endsLargeLoad = books().total == 0 && std::exchange(books().most, 0) > largeLoad;
     }
     books().changed.notify_all();
+    if (endsLargeLoad) {
+        giveMemoryBack();
+    }
     NetworkThread::readerCaughtUp();
 }
 
