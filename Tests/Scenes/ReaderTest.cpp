@@ -264,17 +264,27 @@ TEST_F(ReaderTest, AReaderThatGoesFromRowToRowComesToTheEndOfALongList)
     const std::vector<Node> all = tree();
     const auto isList = [](Node node) { return node->role() == QAccessible::List; };
     Node const list = *std::find_if(all.begin(), all.end(), isList);
-    Node row = list->child(0);
-    std::size_t met = 0;
-    while (row != nullptr && met <= consoles.size()) {
-        EXPECT_EQ(nameOf(row).find(consoles[met].name + ","), 0U);
-        ++met;
-        row->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
-        EXPECT_TRUE(row->state().focused);
-        stage.settle(30);
-        row = list->child(list->indexOfChild(row) + 1);
+    const struct {
+        int direction;
+        int pause; ///< ms; at 0 the next row is asked for before any event is handled
+    } walks[] = {{1, 0}, {-1, 0}, {1, 20}, {-1, 20}};
+    for (const auto& [direction, pause] : walks) {
+        Node row = direction > 0 ? list->child(0) : list->child(list->childCount() - 1);
+        std::size_t met = 0;
+        while (row != nullptr && met < consoles.size()) {
+            const ConsoleLook& expected = consoles[direction > 0 ? met : consoles.size() - 1 - met];
+            EXPECT_EQ(nameOf(row).find(expected.name + ","), 0U) << nameOf(row);
+            ++met;
+            row->actionInterface()->doAction(QAccessibleActionInterface::setFocusAction());
+            EXPECT_TRUE(row->state().focused);
+            if (pause > 0) {
+                stage.settle(pause);
+            }
+            row = list->child(list->indexOfChild(row) + direction);
+        }
+        EXPECT_EQ(met, consoles.size());
+        EXPECT_EQ(row, nullptr);
     }
-    EXPECT_EQ(met, consoles.size());
 }
 
 } // namespace

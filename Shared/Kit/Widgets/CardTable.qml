@@ -135,6 +135,13 @@ AccessibleScope {
     ListView {
         id: list
 
+        /// Makes the row before it returns, by scrolling to it. A row that is made already moves nothing.
+        function bringIn(index: int) {
+            if (index >= 0 && index < count && itemAtIndex(index) === null) {
+                positionViewAtIndex(index, ListView.Contain);
+            }
+        }
+
         anchors.fill: parent
         model: view.table
         reuseItems: true
@@ -167,11 +174,14 @@ AccessibleScope {
             onAccessiblePressed: tableState.activate(index, selectable)
             onAccessibleCommand: (command) => swipeCell.doCommand(command)
             onActiveFocusChanged: {
-                // Given it by a reader: the list follows, and makes the row that comes next.
+                // Given it by a reader, which asks for the neighbours at once: the list makes them now, not when idle.
                 if (activeFocus) {
                     list.currentIndex = index;
-                    if (list.cacheBuffer === 0 && index + 1 < list.count) {
-                        list.positionViewAtIndex(index + 1, ListView.Contain);
+                    if (visualFocus) {
+                        list.bringIn(index - 1);
+                    }
+                    if (visualFocus || list.cacheBuffer === 0) {
+                        list.bringIn(index + 1);
                     }
                 }
             }
