@@ -143,7 +143,7 @@ void NetworkThread::run()
         finishDone();
         m_paused.turn(Clock::now(), m_running.size(), [this](Transfer& ended) {
             curl().multiRemoveHandle(m_multi, ended.handle());
-            finishHop(m_running.at(&ended), Transfer::refusedResult);
+            finishHop(&ended, Transfer::refusedResult);
         });
         failOverdue();
         underWay = m_running.size();
@@ -292,13 +292,14 @@ void NetworkThread::finishDone()
             m_ahead.failed(easy, Clock::now());
             continue;
         }
-        finishHop(m_running.at(done), result);
+        finishHop(done, result);
     }
 }
 
-/// With the handle out of libcurl's hands. The share is the caller's own, since the entry goes.
-void NetworkThread::finishHop(std::shared_ptr<Transfer> transfer, CURLcode result)
+/// With the handle out of libcurl's hands.
+void NetworkThread::finishHop(Transfer* done, CURLcode result)
 {
+    const std::shared_ptr<Transfer> transfer = m_running.at(done); // the entry may go
     m_paused.forget(*transfer);
     if (transfer->hopEnded(result)) {
         add(transfer);

@@ -64,7 +64,7 @@ private:
     void openAhead(Clock::time_point now);
     void add(const std::shared_ptr<Transfer>& transfer);
     void finishDone();
-    void finishHop(std::shared_ptr<Transfer> transfer, CURLcode result);
+    void finishHop(Transfer* done, CURLcode result);
     void failOverdue();
     void remove(const std::shared_ptr<Transfer>& transfer);
 

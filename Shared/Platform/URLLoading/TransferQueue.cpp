@@ -83,7 +83,7 @@ std::shared_ptr<Transfer> TransferQueue::take(Connections connections, Whose who
     return turn != m_turns.end() ? takeFrom(turn) : nullptr;
 }
 
-std::shared_ptr<Transfer> TransferQueue::takeFrom(std::deque<Turn>::iterator turn)
+std::shared_ptr<Transfer> TransferQueue::takeFrom(const std::deque<Turn>::iterator& turn)
 {
     const Turn taken = *turn;
     Server& server = taken->second;

@@ -66,7 +66,7 @@ private:
     using Servers = std::unordered_map<std::string, Server>;
     using Turn = Servers::value_type*;
 
-    std::shared_ptr<Transfer> takeFrom(std::deque<Turn>::iterator turn);
+    std::shared_ptr<Transfer> takeFrom(const std::deque<Turn>::iterator& turn);
     void forgetIfUnused(const std::string& server);
 
     Servers m_servers;
