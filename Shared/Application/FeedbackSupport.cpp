@@ -142,7 +142,7 @@ FeedbackSupport::FeedbackSupport(FeedbackWindow& window, const QString& dataFold
     // What cannot tell a shake, with a touch screen or without, has a button in the console list.
     VireoLogger::settings().offersEntry = !KeptState::shared().value(shakenKey()).toBool();
     QObject::connect(
-        &window, &QQuickWindow::frameSwapped, &window, [this, &window] { startAfterFirstFrame(window); },
+        &window, &QQuickWindow::frameSwapped, &m_untilGone, [this, &window] { startAfterFirstFrame(window); },
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
 }
 

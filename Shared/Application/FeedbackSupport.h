@@ -3,6 +3,7 @@
 
 #include "Application/ShakeSensor.h"
 
+#include <QObject>
 #include <QString>
 
 #include <memory>
@@ -41,6 +42,7 @@ private:
     void startAfterFirstFrame(FeedbackWindow& window);
 
     std::unique_ptr<ShakeSensor> m_sensor;
+    QObject m_untilGone; ///< the first frame may come later
 };
 
 } // namespace lodestar
