@@ -82,8 +82,10 @@ void DesktopSettings::follow(const QDBusConnection& bus)
     // A slot is found by its types' names, and Qt knows this one's only once it is registered.
     qRegisterMetaType<QDBusVariant>();
     // Of whoever sends it: naming the portal here would wait for the bus to say who that is.
-    connection.connect({}, path, settings, QStringLiteral("SettingChanged"), this,
-                       SLOT(settingChanged(QString, QString, QDBusVariant)));
+    if (!connection.connect({}, path, settings, QStringLiteral("SettingChanged"), this,
+                            SLOT(settingChanged(QString, QString, QDBusVariant)))) {
+        qWarning("Changes of the desktop's settings will not be heard");
+    }
     QStringList groups;
     for (const MotionSetting& each : motionSettings) {
         groups << QString::fromLatin1(each.group);
