@@ -13,6 +13,7 @@
 #include <latch>
 #include <memory>
 #include <mutex>
+#include <string>
 #include <thread>
 #include <vector>
 
@@ -86,6 +87,28 @@ TEST(ThreadPoolTests, DestructionRunsWhatWaits)
         }
     }
     EXPECT_EQ(ran, 1000);
+}
+
+TEST(ThreadPoolTests, UrgentJobsAndWhatComesOfThemGoFirst)
+{
+    std::string order;
+    {
+        ThreadPool pool({1, 1, 5ms, 100ms});
+        std::latch held(1);
+        pool.submit([&held] { held.wait(); });
+        pool.submit([&order] { order += 'c'; });
+        {
+            const ThreadPool::UrgentScope urgent(true);
+            const ThreadPool::UrgentScope changesNothing(false);
+            pool.submit([&] {
+                order += 'a';
+                pool.submit([&order] { order += 'b'; });
+            });
+        }
+        pool.submit([&order] { order += 'd'; });
+        held.count_down();
+    }
+    EXPECT_EQ(order, "abcd");
 }
 
 TEST(ThreadPoolTests, TheProcessEndsWithBlocksInFlight)

@@ -27,6 +27,7 @@ using Clock = std::chrono::steady_clock;
 struct Job {
     Task block;
     std::shared_ptr<ThreadPool::Owner> owner;
+    bool isUrgent = false;
 
     void run() noexcept
     {
@@ -79,6 +80,7 @@ struct ThreadPool::State : std::enable_shared_from_this<ThreadPool::State> {
     void submit(Job job);
     void stop(std::chrono::milliseconds limit);
     void finish();
+    bool hasJobs() const { return !jobs.empty() || !urgentJobs.empty(); }
 
     void work();
     bool nextJob(Job& job, std::unique_lock<std::mutex>& lock);
@@ -94,8 +96,9 @@ struct ThreadPool::State : std::enable_shared_from_this<ThreadPool::State> {
 
     const Limits limits;
     mutable std::mutex mutex;
+    Ring<Job> urgentJobs;
     Ring<Job> jobs;
-    std::atomic<bool> jobsWait{false}; ///< mirror of `!jobs.empty()` for the thread that looks without the lock
+    std::atomic<bool> jobsWait{false}; ///< mirror of `hasJobs()` for the thread that looks without the lock
     std::vector<Sleeper*> sleepers;
     std::size_t searching = 0;
     std::size_t threads = 0;
@@ -119,12 +122,13 @@ namespace
 {
 /// The pool whose job the thread is running, so that a job which ends the process does not wait for itself.
 thread_local const void* t_runningPool = nullptr;
+thread_local bool t_jobsAreUrgent = false;
 } // namespace
 
 void ThreadPool::State::submit(Job job)
 {
     const std::lock_guard lock(mutex);
-    jobs.push(std::move(job));
+    (job.isUrgent ? urgentJobs : jobs).push(std::move(job));
     ++submitted;
     jobsWait.store(true, std::memory_order_relaxed);
     if (searching == 0) {
@@ -199,6 +203,7 @@ void ThreadPool::State::work()
         ++running;
         lock.unlock();
         t_runningPool = this;
+        t_jobsAreUrgent = job.isUrgent;
         job.run();
         job = Job();
         t_runningPool = nullptr;
@@ -217,15 +222,15 @@ void ThreadPool::State::work()
 /// With the lock held, the caller counted as searching; it no longer is on return. False when the thread is to end.
 bool ThreadPool::State::nextJob(Job& job, std::unique_lock<std::mutex>& lock)
 {
-    while (jobs.empty() || stopped) {
+    while (!hasJobs() || stopped) {
         if (!waitForJobs(lock)) {
             return false;
         }
     }
-    job = jobs.pop();
+    job = (urgentJobs.empty() ? jobs : urgentJobs).pop();
     ++started;
     --searching;
-    if (jobs.empty()) {
+    if (!hasJobs()) {
         jobsWait.store(false, std::memory_order_relaxed);
     } else if (searching == 0) {
         callForHelp();
@@ -240,7 +245,7 @@ bool ThreadPool::State::waitForJobs(std::unique_lock<std::mutex>& lock)
         lock.unlock();
         look();
         lock.lock();
-        if (!jobs.empty() && !stopped) {
+        if (hasJobs() && !stopped) {
             return true;
         }
     }
@@ -306,12 +311,12 @@ void ThreadPool::State::growWhenStuck()
     const bool noneStarted = started == startedAtTick;
     const bool processorIdle = (used - processTimeAtTick) * 4 < capacity * 3;
     beginTick(now, used);
-    if (jobs.empty() || threads >= limits.maximumThreads) {
+    if (!hasJobs() || threads >= limits.maximumThreads) {
         watching = false;
         return;
     }
     if (someWait && (noneStarted || processorIdle)) {
-        const std::size_t wanted = noneStarted ? std::min(jobs.size(), threads / 2 + 1) : 1;
+        const std::size_t wanted = noneStarted ? std::min(jobs.size() + urgentJobs.size(), threads / 2 + 1) : 1;
         for (std::size_t i = 0; i < wanted && threads < limits.maximumThreads; ++i) {
             startThread();
         }
@@ -338,7 +343,7 @@ void ThreadPool::State::finish()
         sleeper->condition.notify_one();
     }
     sleepers.clear();
-    quiet.wait(lock, [&] { return threads == 0 && (jobs.empty() || stopped); });
+    quiet.wait(lock, [&] { return threads == 0 && (!hasJobs() || stopped); });
 }
 
 ThreadPool& ThreadPool::shared()
@@ -362,7 +367,17 @@ ThreadPool::~ThreadPool()
 
 void ThreadPool::submit(Task block, std::shared_ptr<Owner> owner)
 {
-    m_state->submit({std::move(block), std::move(owner)});
+    m_state->submit({std::move(block), std::move(owner), t_jobsAreUrgent});
+}
+
+ThreadPool::UrgentScope::UrgentScope(bool isUrgent) : m_before(t_jobsAreUrgent)
+{
+    t_jobsAreUrgent = isUrgent || m_before;
+}
+
+ThreadPool::UrgentScope::~UrgentScope()
+{
+    t_jobsAreUrgent = m_before;
 }
 
 void ThreadPool::stop(std::chrono::milliseconds limit)

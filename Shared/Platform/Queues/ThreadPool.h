@@ -10,7 +10,7 @@
 namespace lodestar
 {
 
-/// The threads behind every queue. Jobs start in the order of `submit`. Thread-safe.
+/// The threads behind every queue. Jobs start in the order of `submit`, urgent ones before all others. Thread-safe.
 ///
 /// Up to `threads` jobs run at once as a matter of course. When jobs wait and the running ones do not move on (they
 /// block), more threads are made, a few each tick, up to `maximumThreads`; a thread that finds nothing to do for
@@ -34,6 +34,20 @@ public:
         Owner& operator=(const Owner&) = delete;
         virtual ~Owner() = default;
         virtual void run(Task& block) = 0;
+    };
+
+    /// While one lives on a thread, the jobs that the thread submits are urgent. Jobs of an urgent job are so in any
+    /// case: what a person waits for stays ahead through all its steps. Made with false it changes nothing.
+    class UrgentScope
+    {
+    public:
+        explicit UrgentScope(bool isUrgent);
+        ~UrgentScope();
+        UrgentScope(const UrgentScope&) = delete;
+        UrgentScope& operator=(const UrgentScope&) = delete;
+
+    private:
+        const bool m_before;
     };
 
     /// The process's pool. At the process's exit it starts no more jobs and waits a moment for the running ones; what
