@@ -202,6 +202,38 @@ TEST_F(URLLoadingTest, SixRequestsLeaveTogetherThroughANetworkWithALength)
     EXPECT_LT(refresh(keys), 4.5 * roundTrip);
 }
 
+TEST_F(URLLoadingTest, ConnectionsMadeAheadMayBeOlderThanTheCertificateAndThanTheirServersPatience)
+{
+    simulator::Settings settings;
+    settings.consoles = 2;
+    settings.roundTrip = 200;
+    simulator::SimulatorProcess simulator{settings};
+    const auto loadSix = [&](const std::string& key, int console) {
+        std::latch settled(6);
+        std::atomic<int> good{0};
+        for (int i = 0; i < 6; ++i) {
+            sendAsynchronousRequest(feedRequest(simulator, key, console), m_queue, [&](const Result<URLLoad>& load) {
+                good += load.ok() && load.value().response.statusCode == 200 ? 1 : 0;
+                settled.count_down();
+            });
+        }
+        settled.wait();
+        return good.load();
+    };
+    const auto logOnWithConnectionsAhead = [&](int console) {
+        const auto expected = expectRequests("https://" + simulator.address(console) + ":12443/", 5);
+        return logOn(simulator, console);
+    };
+    logOnWithConnectionsAhead(0);
+    simulator.setFault("swapCertificate:0");
+    EXPECT_EQ(loadSix(logOn(simulator), 0), 6) << "the old certificate is no reason to refuse the server";
+
+    const std::string key = logOnWithConnectionsAhead(1);
+    simulator.stopConsole(1);
+    simulator.startConsole(1);
+    EXPECT_EQ(loadSix(key, 1), 6) << "what is lost before its answer began is made anew";
+}
+
 using URLLoadingDeathTest = URLLoadingTest;
 
 TEST_F(URLLoadingDeathTest, ProcessEndsWithTransfersInFlight)

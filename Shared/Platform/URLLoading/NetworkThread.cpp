@@ -19,6 +19,8 @@ constexpr std::size_t waitingBytesLimit = 48UL * 1024 * 1024;
 // Each is asked after at every turn of the loop, so that thousands would cost more than they save.
 constexpr std::size_t mostConnectionsAhead = 600;
 constexpr std::size_t descriptorsForOthers = 256;
+// So few, all of one console's, keep no machine busy: each may have a connection made.
+constexpr std::size_t fewTransfers = 6;
 constexpr int longestWait = 60'000; ///< milliseconds
 
 std::atomic<NetworkThread*> theThread{nullptr};
@@ -136,6 +138,7 @@ void NetworkThread::run()
         startWaiting();
         const Clock::time_point before = Clock::now();
         openAhead(before);
+        letFleetRest(before);
         curl().multiPoll(multi, nullptr, 0, waitTime(), nullptr);
         m_idleness.waited(before, Clock::now());
         int running = 0;
@@ -161,7 +164,7 @@ int NetworkThread::waitTime()
     if (!m_waiting.empty() || (m_waiting.expectsAny() && !m_idleness.isIdle())) {
         until = std::min(until, now + Idleness::period);
     }
-    if (!m_paused.empty()) {
+    if (!m_paused.empty() || m_fleetRests) {
         until = std::min(until, now + PausedTransfers::period);
     }
     if (until == Clock::time_point::max()) {
@@ -221,6 +224,7 @@ void NetworkThread::begin(const std::shared_ptr<Transfer>& transfer)
     m_waiting.didStart(*transfer);
     if (transfer->start(std::move(ahead))) {
         m_running.emplace(transfer.get(), transfer);
+        m_persons += transfer->urgency() == Urgency::Person ? 1U : 0U;
         add(transfer);
     } else {
         m_waiting.didEnd(*transfer);
@@ -237,7 +241,7 @@ std::shared_ptr<Transfer> NetworkThread::nextToStart(Clock::time_point now)
     }
     const bool alone = m_running.empty();
     return m_waiting.take(
-        alone || m_idleness.isIdle() ? Connections::Make : Connections::Have,
+        m_running.size() < fewTransfers || m_idleness.isIdle() ? Connections::Make : Connections::Have,
         alone || readersKeepUp() ? Whose::Everybodys : Whose::Persons,
         [this](const std::string& server) { return m_ahead.hasReady(server) ? 1 : 0; }, now);
 }
@@ -256,6 +260,23 @@ void NetworkThread::openAhead(Clock::time_point now)
     m_waiting.forEachPersonsWant(ahead, open);
     if (m_idleness.isIdle()) {
         m_waiting.forEachExpectedWant(ahead, open);
+    }
+}
+
+/// Leaves the processor, and the network's width, to what a person waits for.
+void NetworkThread::letFleetRest(Clock::time_point now)
+{
+    const bool rests = m_persons > 0 && std::ranges::any_of(m_running, [now](const auto& one) {
+                           return one.second->goesBeforeOthers(now);
+                       });
+    if (!rests && !m_fleetRests) {
+        return;
+    }
+    m_fleetRests = rests;
+    for (const auto& [key, transfer] : m_running) {
+        if (transfer->urgency() == Urgency::Fleet) {
+            transfer->rest(rests);
+        }
     }
 }
 
@@ -304,8 +325,7 @@ void NetworkThread::finishHop(Transfer* done, CURLcode result)
     if (transfer->hopEnded(result)) {
         add(transfer);
     } else {
-        m_waiting.didEnd(*transfer);
-        m_running.erase(transfer.get());
+        forget(transfer);
     }
 }
 
@@ -335,8 +355,14 @@ void NetworkThread::remove(const std::shared_ptr<Transfer>& transfer)
 {
     curl().multiRemoveHandle(m_multi, transfer->handle());
     m_paused.forget(*transfer);
+    forget(transfer);
+}
+
+void NetworkThread::forget(const std::shared_ptr<Transfer>& transfer)
+{
     m_waiting.didEnd(*transfer);
     m_running.erase(transfer.get());
+    m_persons -= transfer->urgency() == Urgency::Person ? 1U : 0U;
 }
 
 } // namespace lodestar

@@ -66,7 +66,9 @@ private:
     void finishDone();
     void finishHop(Transfer* done, CURLcode result);
     void failOverdue();
+    void letFleetRest(Clock::time_point now);
     void remove(const std::shared_ptr<Transfer>& transfer);
+    void forget(const std::shared_ptr<Transfer>& transfer);
 
     std::atomic<CURLM*> m_multi = nullptr; ///< the thread's own doing: libcurl is loaded there
     std::thread m_thread;
@@ -84,6 +86,8 @@ private:
     Idleness m_idleness;
     bool m_hasReleased = false; ///< a handshake may go on: no socket tells libcurl of that
     PausedTransfers m_paused;
+    std::size_t m_persons = 0; ///< of those that run
+    bool m_fleetRests = false; ///< while a person's answer comes in
     Clock::time_point m_nextDeadline = Clock::time_point::max();
 };
 

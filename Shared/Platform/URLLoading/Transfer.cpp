@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/URLLoading/Transfer.h"
 
+#include "Platform/Queues/ThreadPool.h"
 #include "Platform/URLLoading/BodyDecoder.h"
 #include "Platform/URLLoading/PausedTransfers.h"
 #include "Platform/URLLoading/Redirect.h"
@@ -14,6 +15,9 @@ namespace lodestar
 
 namespace
 {
+
+/// What a console needs for an answer that a screen shows, and no more: whoever waits behind it has a person, too.
+constexpr std::chrono::milliseconds longestPrecedence{250};
 
 std::string_view trimmed(std::string_view text)
 {
@@ -76,6 +80,7 @@ bool Transfer::mayTakeConnectionAhead() const
 bool Transfer::prepareHop(std::optional<ConnectionHandle> ahead)
 {
     m_response = {};
+    m_inBody = false;
     m_origin = Origin::ofURL(m_request.url);
     if (m_origin && ahead) {
         m_connection = std::move(*ahead);
@@ -163,6 +168,7 @@ void Transfer::end(std::optional<Error> error)
     m_leavesConnection = !error && m_response.headers.value("Connection").value_or("") != "close";
     if (const auto client = std::exchange(m_client, nullptr); client != nullptr) {
         m_paused = false;
+        const ThreadPool::UrgentScope forPerson(urgency() == Urgency::Person);
         client->didEnd(std::move(error), std::move(m_held));
     }
 }
@@ -207,7 +213,9 @@ bool Transfer::connectionReady()
     if (m_client->acceptsServer(*certificate, handshake)) {
         return true;
     }
-    if (handshake == Handshake::Reused && !std::exchange(m_retriedFresh, true)) {
+    // A connection that was made ahead may be older than the certificate, too.
+    const bool isOld = handshake == Handshake::Reused || m_connection.hold != nullptr;
+    if (isOld && !std::exchange(m_retriedFresh, true)) {
         m_needsFreshConnection = true;
         return false;
     }
@@ -227,6 +235,7 @@ bool Transfer::headerLine(std::string_view line)
     }
     if (line.starts_with("HTTP/")) {
         m_response = URLResponse{m_request.url, statusOfLine(line), {}, -1};
+        m_answered = m_lastProgress;
         m_inHeaders = true;
         return true;
     }
@@ -247,6 +256,7 @@ bool Transfer::headerLine(std::string_view line)
 
 bool Transfer::headersComplete()
 {
+    m_inBody = true;
     m_bodyBytes = 0;
     m_held.reset();
     const std::string encoding = m_response.headers.value("Content-Encoding").value_or("");
@@ -317,6 +327,18 @@ bool Transfer::goOn()
     m_paused = false;
     m_lastProgress = Clock::now();
     return curl().easyPause(m_connection.easy.get(), CURLPAUSE_CONT) == CURLE_OK;
+}
+
+void Transfer::rest(bool rests)
+{
+    if (m_inBody && !m_paused) {
+        curl().easyPause(m_connection.easy.get(), rests ? CURLPAUSE_RECV : CURLPAUSE_CONT);
+    }
+}
+
+bool Transfer::goesBeforeOthers(Clock::time_point now) const
+{
+    return urgency() == Urgency::Person && now - std::max(m_started, m_answered) < longestPrecedence;
 }
 
 void Transfer::refuseForRoom()

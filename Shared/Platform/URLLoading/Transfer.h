@@ -82,6 +82,12 @@ public:
     void refuseForRoom();
     static constexpr CURLcode refusedResult = CURLE_WRITE_ERROR;
 
+    /// Makes the transfer leave what comes of its body where it is, or take it again. Does nothing before: libcurl
+    /// would tell the lines of a header that it holds back as one. Nor does it to a transfer that is paused.
+    void rest(bool rests);
+    /// Whether the answer is just being awaited or is just coming in, for a person.
+    bool goesBeforeOthers(Clock::time_point now) const;
+
     /// When the transfer is overdue if nothing more arrives: the idle limit or the total one. Monotonic clock.
     Clock::time_point deadline() const;
 
@@ -119,6 +125,7 @@ private:
     const Clock::time_point m_made = Clock::now();
     Clock::time_point m_started;
     Clock::time_point m_lastProgress;
+    Clock::time_point m_answered;    ///< when the current answer's first line came
     std::size_t m_received = 0;      ///< body and header bytes of all hops, as they came
     std::int64_t m_unseenBefore = 0; ///< what the connection had received when the hop began, less `m_received`
 
@@ -138,6 +145,7 @@ private:
 
     URLResponse m_response;
     bool m_inHeaders = false;
+    bool m_inBody = false; ///< of the hop's last response
     std::optional<URLRequest> m_next; ///< the current response is a redirect to follow
     std::shared_ptr<const CloseNotice> m_closeNotice;
     std::optional<Error> m_refusal; ///< why a callback of ours stopped libcurl
