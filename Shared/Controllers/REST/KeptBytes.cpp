@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Controllers/REST/KeptBytes.h"
 
+#include "Controllers/REST/KeptRoom.h"
 #include "Platform/URLLoading/TransferLimits.h"
 
 #include <algorithm>
@@ -25,7 +26,10 @@ std::atomic<std::size_t> keptBytes{0};
 
 KeptBytes::~KeptBytes()
 {
-    keptBytes.fetch_sub(m_bytes, std::memory_order_relaxed);
+    if (m_bytes > 0) {
+        keptBytes.fetch_sub(m_bytes, std::memory_order_relaxed);
+        KeptRoom::moreIsFree();
+    }
 }
 
 bool KeptBytes::resize(std::size_t bytes)

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Controllers/REST/KeptRoom.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Controllers/REST/RESTSupport.h"
 #include "Feedback/VireoLogger.h"
@@ -35,9 +36,11 @@ constexpr std::array<FeedAddress, 6> allFeeds = {{
 class FeedCollector
 {
 public:
+    explicit FeedCollector(std::shared_ptr<KeptRoom::Share> room) : m_room(std::move(room)) {}
     void set(std::string_view type, Feed feed)
     {
         const std::lock_guard lock(m_mutex);
+        m_room->didKeep(feed.root().documentMemory());
         m_feeds->setFeed(type, std::move(feed));
     }
     /// To be called once every feed is in.
@@ -49,8 +52,19 @@ public:
 
 private:
     std::mutex m_mutex;
+    const std::shared_ptr<KeptRoom::Share> m_room;
     std::shared_ptr<FeedDictionary> m_feeds = std::make_shared<FeedDictionary>();
 };
+
+/// What the record's feeds take: about what those that replace them will take.
+std::size_t keptFor(const Corvel& corvel)
+{
+    std::size_t bytes = 0;
+    for (const FeedAddress& feed : allFeeds) {
+        bytes += feedOfType(corvel, feed.type).root().documentMemory();
+    }
+    return bytes;
+}
 
 bool isErrorState(std::string_view state)
 {
@@ -111,25 +125,28 @@ RXPromise<std::shared_ptr<const FeedDictionary>>
 RESTHandler::fetchAllDataForCorvel(const CorvelRef& corvel, const SessionKey& key, Urgency urgency)
 {
     RXPromise<std::shared_ptr<const FeedDictionary>> promise;
-    const auto collector = std::make_shared<FeedCollector>();
-    std::vector<RXPromise<std::string>> continuations;
-    continuations.reserve(allFeeds.size());
-    for (const auto& [type, schema] : allFeeds) {
-        // Both handlers return a text, so that one unreachable feed does not fail the whole.
-        continuations.push_back(fetchDataOfType(type, corvel, schema, key, urgency)
-                                    .then(
-                                        [collector, type = type](XMLElement root) {
-                                            collector->set(type, Feed(std::move(root)));
-                                            return std::string("OK");
-                                        },
-                                        [collector, type = type](const Error&) {
-                                            collector->set(type, Feed::notAvailable());
-                                            return std::string("not reachable");
-                                        }));
-    }
-    RXPromise<std::string>::all(continuations).then([promise, collector](const std::vector<std::string>&) {
-        promise.fulfillWithValue(collector->take());
-    });
+    const auto fetch = [this, promise, corvel, key, urgency](std::shared_ptr<KeptRoom::Share> room) {
+        const auto collector = std::make_shared<FeedCollector>(std::move(room));
+        std::vector<RXPromise<std::string>> continuations;
+        continuations.reserve(allFeeds.size());
+        for (const auto& [type, schema] : allFeeds) {
+            // Both handlers return a text, so that one unreachable feed does not fail the whole.
+            continuations.push_back(fetchDataOfType(type, corvel, schema, key, urgency)
+                                        .then(
+                                            [collector, type = type](XMLElement root) {
+                                                collector->set(type, Feed(std::move(root)));
+                                                return std::string("OK");
+                                            },
+                                            [collector, type = type](const Error&) {
+                                                collector->set(type, Feed::notAvailable());
+                                                return std::string("not reachable");
+                                            }));
+        }
+        RXPromise<std::string>::all(continuations).then([promise, collector](const std::vector<std::string>&) {
+            promise.fulfillWithValue(collector->take());
+        });
+    };
+    KeptRoom::whenThereIs(keptFor(*corvel), urgency, fetch);
     return promise;
 }
 

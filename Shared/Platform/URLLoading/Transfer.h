@@ -145,7 +145,7 @@ private:
 
     URLResponse m_response;
     bool m_inHeaders = false;
-    bool m_inBody = false; ///< of the hop's last response
+    bool m_inBody = false;            ///< of the hop's last response
     std::optional<URLRequest> m_next; ///< the current response is a redirect to follow
     std::shared_ptr<const CloseNotice> m_closeNotice;
     std::optional<Error> m_refusal; ///< why a callback of ours stopped libcurl
