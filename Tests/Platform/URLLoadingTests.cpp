@@ -188,8 +188,10 @@ long residentKilobytes()
     return usage.ru_maxrss;
 }
 
-#if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
-constexpr long residentSlack = 1'000'000; // they keep books, and one what was freed
+#if defined(__SANITIZE_THREAD__)
+constexpr long residentSlack = 4'000'000; // it keeps books of every byte
+#elif defined(__SANITIZE_ADDRESS__)
+constexpr long residentSlack = 1'000'000; // it keeps what was freed
 #else
 constexpr long residentSlack = 150'000;
 #endif

@@ -14,7 +14,7 @@ namespace
 
 constexpr std::chrono::milliseconds patience{100};
 constexpr std::chrono::seconds look{2};
-constexpr std::size_t fastEnough = 8UL * 1024 * 1024; ///< bytes from look to look
+constexpr std::size_t fastEnough = 1024UL * 1024; ///< bytes from look to look: a slow network is nobody's fault
 constexpr std::chrono::milliseconds standstill{500};
 
 } // namespace
@@ -53,7 +53,10 @@ void PausedTransfers::turn(Clock::time_point now, std::size_t running, const std
             m_lastMove = now;
         }
     }
-    if (allWait && !m_paused.empty() && now - m_lastMove > standstill && HeldBytes::waitingForReaders() == 0) {
+    if (m_paused.size() < running) {
+        m_lastMove = now; // The one that has the turn receives, however slowly.
+    }
+    if (now - m_lastMove > standstill && HeldBytes::waitingForReaders() == 0) {
         Transfer* const one = largest();
         one->refuseForRoom();
         m_lastMove = now;
