@@ -81,7 +81,7 @@ std::size_t appendTree(const xmlNode& element, std::vector<std::string>& lines, 
 void appendElement(const XMLDocument& document, XMLDocument::Index& index, const XMLElement& element, std::string& out)
 {
     const XMLDocument::Index own = index++;
-    const XMLDocument::Index end = document.node(own).end;
+    const XMLDocument::Index end = document.end(own);
     std::string attributes;
     std::set<std::string_view> seen;
     for (const XMLDocument::Attribute& attribute : document.attributes(own)) {
@@ -95,8 +95,8 @@ void appendElement(const XMLDocument& document, XMLDocument::Index& index, const
 
     std::set<std::string_view> names;
     std::vector<std::pair<std::string_view, std::size_t>> order;
-    for (XMLDocument::Index child = own + 1; child < end; child = document.node(child).end) {
-        const std::string_view name = document.nameText(document.node(child).name);
+    for (XMLDocument::Index child = own + 1; child < end; child = document.end(child)) {
+        const std::string_view name = document.nameText(document.name(child));
         const auto same = [&](const auto& entry) { return entry.first == name; };
         order.emplace_back(name, static_cast<std::size_t>(std::count_if(order.begin(), order.end(), same)));
         names.insert(name);

@@ -3,10 +3,12 @@
 #include "Controllers/REST/XMLElement.h"
 #include "Tests/REST/TreeReference.h"
 
+#include <fmt/format.h>
 #include <gtest/gtest.h>
 
 #include <cstring>
 #include <fstream>
+#include <functional>
 #include <iterator>
 #include <random>
 #include <sys/mman.h>
@@ -78,6 +80,49 @@ TEST(XMLElementTests, HandMadeDamageReadsAsTheLibrarysOwnTree)
           "<?xml version='1.0' encoding='nonsense'?><a>\xe4</a>",
           " <?xml version='1.0' encoding='ISO-8859-1'?><a>\xe4</a>"}) {
         EXPECT_EQ(firstDifference(bytes), "") << bytes;
+    }
+}
+
+std::string numbered(int count, const std::function<std::string(int)>& one)
+{
+    std::string all;
+    for (int i = 0; i < count; ++i) {
+        all += one(i);
+    }
+    return all;
+}
+
+std::string repeated(int count, const std::string& one)
+{
+    return numbered(count, [&](int) { return one; });
+}
+
+/// The arena keeps sizes, places and numbers in 16 bits where they fit.
+TEST(XMLElementTests, WhatTakesMoreThan16BitsReadsAsTheLibrarysOwnTree)
+{
+    const auto list = [](int i) { return fmt::format("<c d='{}' e=''>1</c>", i); };
+    const auto attributes = [](int i) { return fmt::format(" c{}='{}'", i, i % 7); };
+    const auto textAndElement = [](int i) { return fmt::format("{:05000}<b>{}</b>", i, i); };
+    std::vector<std::string> documents = {
+        // Little text in each of a block's elements, much in all of them.
+        fmt::format("<a>{}</a>", numbered(40, textAndElement)),
+        // Lists of attributes that differ, then some of them again.
+        fmt::format(
+            "<a>{0}{1}</a>",
+            numbered(300,
+                     [&](int i) { return "<b>" + numbered(250, [&](int k) { return list(250 * i + k); }) + "</b>"; }),
+            numbered(100, [&](int i) { return list(747 * i) + list(32'717 + i); })),
+        fmt::format("<a>{}</a>", repeated(5, fmt::format("<b{}/>", numbered(600, attributes)))),
+    };
+    for (const std::size_t size : {65'534U, 65'535U, 65'536U, 70'000U}) {
+        const std::string text(size, 'x');
+        const std::string below = repeated(254, fmt::format("<c>{}</c>", repeated(256, "<d/>"))) +
+                                  repeated(static_cast<int>(size) - 254 * 257, "<d/>");
+        documents.push_back(
+            fmt::format("<a><b>{0}</b><e f='{1}' g='1'/><h>{1}</h><i j='{1}'>1<k/>2</i></a>", below, text));
+    }
+    for (const std::string& bytes : documents) {
+        EXPECT_EQ(firstDifference(bytes), "") << bytes.substr(0, 20) << " of " << bytes.size() << " bytes";
     }
 }
 

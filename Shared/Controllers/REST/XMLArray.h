@@ -25,6 +25,7 @@ public:
 
     std::size_t size() const { return m_size; }
     bool empty() const { return m_size == 0; }
+    T* data() { return m_values; }
     const T* data() const { return m_values; }
     T& operator[](std::size_t index) { return m_values[index]; }
     const T& operator[](std::size_t index) const { return m_values[index]; }
@@ -58,6 +59,8 @@ public:
 
     T& back() { return m_values[m_size - 1]; }
     void pop_back() { --m_size; }
+    /// Drops all but so many.
+    void cut(std::size_t count) { m_size = count; }
 
     /// Gives back what is not in use; leaves it when the allocator cannot.
     void shrinkToFit()

@@ -6,6 +6,8 @@
 
 #include <libxml/parserInternals.h>
 
+#include <algorithm>
+#include <functional>
 #include <limits>
 #include <new>
 
@@ -21,8 +23,8 @@ constexpr std::size_t bytesAnError = 64;
 constexpr std::size_t comparisonsAlways = 1'000'000;
 constexpr std::size_t comparisonsAByte = 8;
 
-// Elements between two looks at the memory that is left: less than a megabyte, if each is as small as can be.
-constexpr XMLDocument::Index elementsUnseen = 32768;
+// Elements and attributes between two looks at the memory that is left: less than half a megabyte of them.
+constexpr std::size_t piecesUnseen = 32768;
 constexpr std::size_t arenaLimit = std::numeric_limits<std::uint32_t>::max() - 1;
 // Salvage what can be salvaged, print nothing, open nothing. Entities are never replaced, no DTD is ever loaded, and
 // the parser's own limits on depth and size stay on.
@@ -124,9 +126,7 @@ void XMLDocumentBuilder::setEvents(xmlSAXHandler& events) const
 void XMLDocumentBuilder::reserve(std::size_t inputSize)
 {
     m_document->m_nodes.reserve(inputSize / 32);
-    m_document->m_attributes.reserve(inputSize / 64);
     m_document->m_text.reserve(inputSize / 2);
-    m_document->m_values.reserve(inputSize / 4);
 }
 
 void XMLDocumentBuilder::startElement(void* context, const xmlChar* localName, const xmlChar* prefix,
@@ -150,8 +150,14 @@ void XMLDocumentBuilder::startElement(void* context, const xmlChar* localName, c
 void XMLDocumentBuilder::endElement(void* context, const xmlChar* /*localName*/, const xmlChar* /*prefix*/,
                                     const xmlChar* /*uri*/)
 {
-    if (XMLDocumentBuilder* const self = of(context)) {
+    XMLDocumentBuilder* const self = of(context);
+    if (self == nullptr) {
+        return;
+    }
+    try {
         self->close();
+    } catch (const std::bad_alloc&) {
+        self->fail(outOfMemory());
     }
 }
 
@@ -161,10 +167,6 @@ void XMLDocumentBuilder::characters(void* context, const xmlChar* bytes, int len
     if (self == nullptr) {
         return;
     }
-    self->closeAbandoned();
-    if (self->m_open.empty()) {
-        return;
-    }
     XMLArray<char>& text = self->m_document->m_text;
     const auto count = static_cast<std::size_t>(length);
     if (text.size() + count >= arenaLimit) {
@@ -172,7 +174,10 @@ void XMLDocumentBuilder::characters(void* context, const xmlChar* bytes, int len
         return;
     }
     try {
-        text.append(chars(bytes), count);
+        self->closeAbandoned();
+        if (!self->m_open.empty()) {
+            text.append(chars(bytes), count);
+        }
     } catch (const std::bad_alloc&) {
         self->fail(outOfMemory());
     }
@@ -229,31 +234,41 @@ void XMLDocumentBuilder::open(const xmlChar* localName, const xmlChar* prefix, c
         fail(tooLarge());
         return;
     }
-    const auto index = static_cast<XMLDocument::Index>(document.m_nodes.size());
-    if (index % elementsUnseen == elementsUnseen - 1 && !keep()) {
+    if (document.m_nodes.size() + document.m_attributes.size() >= m_nextLook && !keep()) {
         return;
     }
+    const auto index = static_cast<XMLDocument::Index>(document.m_nodes.size());
     const auto text = static_cast<std::uint32_t>(document.m_text.size());
-    document.m_nodes.push_back({nameOf(localName, prefix), index + 1, text, text,
-                                static_cast<XMLDocument::Index>(document.m_attributes.size())});
-    m_open.push_back(index);
+    if (index % XMLDocument::blockSize == 0) {
+        document.m_blocks.push_back({text, static_cast<std::uint32_t>(document.m_lists.size())});
+    }
+    document.m_nodes.push_back({nameOf(localName, prefix), 0, 0, 0, 0});
+    m_open.push_back({index, text});
+    if (attributeCount == 0) {
+        return;
+    }
+    const std::size_t begin = document.m_attributes.size();
     for (int i = 0; i < attributeCount; ++i) {
         // Five pointers an attribute: name, prefix, address of the name space, begin and end of the value.
         const xmlChar** const one = attributes + std::ptrdiff_t{5} * i;
         addAttribute(one[0], one[1], {chars(one[3]), static_cast<std::size_t>(one[4] - one[3])});
     }
+    document.m_nodes.back().list = m_over ? 0 : listFrom(begin);
 }
 
 bool XMLDocumentBuilder::keep()
 {
     const XMLDocument& document = *m_document;
-    const std::size_t used = document.m_nodes.size() * sizeof(XMLDocument::Node) +
-                             document.m_attributes.size() * sizeof(XMLDocument::Attribute) + document.m_text.size() +
-                             document.m_values.size();
+    const std::size_t used =
+        document.m_nodes.size() * sizeof(XMLDocument::Node) + document.m_blocks.size() * sizeof(XMLDocument::Block) +
+        document.m_large.size() * sizeof(XMLDocument::Large) + document.m_lists.size() * sizeof(std::uint32_t) +
+        document.m_attributes.size() * sizeof(XMLDocument::Attribute) + document.m_text.size() +
+        document.m_values.size();
     if (used > document.m_kept.size() && !m_document->m_kept.resize(used)) {
         fail(noRoom());
         return false;
     }
+    m_nextLook = document.m_nodes.size() + document.m_attributes.size() + piecesUnseen;
     return true;
 }
 
@@ -276,8 +291,37 @@ void XMLDocumentBuilder::addAttribute(const xmlChar* localName, const xmlChar* p
         reference = raw.find('&');
     }
     values.append(raw.data(), raw.size());
-    m_document->m_attributes.push_back({nameOf(localName, prefix), static_cast<std::uint32_t>(begin),
-                                        static_cast<std::uint32_t>(values.size() - begin)});
+    m_document->m_attributes.push_back({nameOf(localName, prefix), static_cast<std::uint32_t>(begin)});
+}
+
+std::uint16_t XMLDocumentBuilder::listFrom(std::size_t begin)
+{
+    XMLDocument& document = *m_document;
+    const XMLDocument::Attribute first = document.m_attributes[begin];
+    const std::string_view values(document.m_values.data() + first.value, document.m_values.size() - first.value);
+    std::uint16_t& known = m_knownLists[(std::hash<std::string_view>()(values) + first.name) % m_knownLists.size()];
+    const std::size_t number = document.m_lists.size();
+    document.m_lists.push_back(static_cast<std::uint32_t>(begin));
+    if (known != 0 && isSame(document.list(known - 1U), document.list(number))) {
+        document.m_lists.pop_back();
+        document.m_attributes.cut(begin);
+        document.m_values.cut(first.value);
+        return known;
+    }
+    if (number + 1 < XMLDocument::blocksLists) {
+        known = static_cast<std::uint16_t>(number + 1);
+        return known;
+    }
+    return static_cast<std::uint16_t>(XMLDocument::blocksLists + number - document.m_blocks.back().list);
+}
+
+bool XMLDocumentBuilder::isSame(std::span<const XMLDocument::Attribute> a,
+                                std::span<const XMLDocument::Attribute> b) const
+{
+    const auto isSameAttribute = [this](const XMLDocument::Attribute& one, const XMLDocument::Attribute& other) {
+        return one.name == other.name && m_document->value(one) == m_document->value(other);
+    };
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), isSameAttribute);
 }
 
 void XMLDocumentBuilder::close()
@@ -285,10 +329,23 @@ void XMLDocumentBuilder::close()
     if (m_open.empty()) {
         return;
     }
-    XMLDocument::Node& node = m_document->m_nodes[m_open.back()];
+    XMLDocument& document = *m_document;
+    const OpenElement closed = m_open.back();
+    XMLDocument::Node& node = document.m_nodes[closed.index];
+    const auto end = static_cast<XMLDocument::Index>(document.m_nodes.size());
+    const auto textEnd = static_cast<std::uint32_t>(document.m_text.size());
+    const std::uint32_t descendants = end - closed.index - 1;
+    const std::uint32_t text = closed.text - document.m_blocks[closed.index / XMLDocument::blockSize].text;
+    const std::uint32_t textLength = textEnd - closed.text;
+    if (std::max({descendants, text, textLength}) < XMLDocument::isLarge) {
+        node.descendants = static_cast<std::uint16_t>(descendants);
+        node.text = static_cast<std::uint16_t>(text);
+        node.textLength = static_cast<std::uint16_t>(textLength);
+    } else {
+        node.descendants = XMLDocument::isLarge;
+        document.m_large.push_back({closed.index, end, closed.text, textEnd});
+    }
     m_open.pop_back();
-    node.end = static_cast<XMLDocument::Index>(m_document->m_nodes.size());
-    node.textEnd = static_cast<std::uint32_t>(m_document->m_text.size());
 }
 
 /// A name that is no proper qualified name comes whole; what stands before its colon is a prefix all the same.
@@ -299,7 +356,11 @@ XMLDocument::Name XMLDocumentBuilder::internLocalPart(const xmlChar* name, const
     if (colon != 0 && colon != std::string_view::npos && colon + 1 != text.size()) {
         text.remove_prefix(colon + 1);
     }
-    return m_document->m_names.intern(text);
+    const XMLDocument::Name number = m_document->m_names.intern(text);
+    if (number == XMLDocument::noName) {
+        refuse();
+    }
+    return number;
 }
 
 void XMLDocumentBuilder::refuse()
@@ -323,11 +384,18 @@ void XMLDocumentBuilder::finish()
     while (!m_open.empty()) {
         close();
     }
-    m_document->m_nodes.shrinkToFit();
-    m_document->m_attributes.shrinkToFit();
-    m_document->m_text.shrinkToFit();
-    m_document->m_values.shrinkToFit();
-    m_document->m_names.shrinkToFit();
+    XMLDocument& document = *m_document;
+    // Elements are closed from the inside out.
+    std::sort(document.m_large.data(), document.m_large.data() + document.m_large.size(),
+              [](const XMLDocument::Large& a, const XMLDocument::Large& b) { return a.node < b.node; });
+    document.m_nodes.shrinkToFit();
+    document.m_blocks.shrinkToFit();
+    document.m_large.shrinkToFit();
+    document.m_lists.shrinkToFit();
+    document.m_attributes.shrinkToFit();
+    document.m_text.shrinkToFit();
+    document.m_values.shrinkToFit();
+    document.m_names.shrinkToFit();
 }
 
 } // namespace lodestar

@@ -31,6 +31,7 @@ public:
 
 private:
     static constexpr unsigned knownBits = 10;
+    static constexpr unsigned knownListBits = 12;
     /// Where the parser keeps a name, and whether a prefix stood before it. It keeps one copy of each name.
     struct KnownName {
         const xmlChar* at;
@@ -57,11 +58,22 @@ private:
     static void noteError(void* context, xmlErrorPtr error);
     void end(xmlParserCtxt& parser);
 
+    /// An element that is not closed yet, and where the text below it begins.
+    struct OpenElement {
+        XMLDocument::Index index;
+        std::uint32_t text;
+    };
+
     void setEvents(xmlSAXHandler& events) const;
     void countComparisons(std::size_t attributeCount, std::size_t namespaceCount);
     void reserve(std::size_t inputSize);
     void open(const xmlChar* localName, const xmlChar* prefix, const xmlChar** attributes, int attributeCount);
     void addAttribute(const xmlChar* localName, const xmlChar* prefix, std::string_view raw);
+    /// The number, in a node of the last block, of a list that holds the attributes from `begin` on. They are dropped
+    /// again where an earlier list holds the same.
+    std::uint16_t listFrom(std::size_t begin);
+    bool isSame(std::span<const XMLDocument::Attribute> a, std::span<const XMLDocument::Attribute> b) const;
+    /// Throws `std::bad_alloc`.
     void close();
     /// An element whose start tag breaks off is given up by the parser without an event: what follows belongs to its
     /// parent.
@@ -89,14 +101,17 @@ private:
 
     XMLMemoryWatch m_memory;
     std::shared_ptr<XMLDocument> m_document = std::make_shared<XMLDocument>();
-    XMLArray<XMLDocument::Index> m_open;
+    XMLArray<OpenElement> m_open;
     std::array<KnownName, std::size_t{1} << knownBits>
         m_known{}; ///< by address; a name that another has driven out is looked up by its text
+    /// By what a list holds, one more than its number; 0 for none.
+    std::array<std::uint16_t, std::size_t{1} << knownListBits> m_knownLists{};
     XMLExpansion m_expansion;
     xmlParserCtxtPtr m_parser = nullptr;
     std::size_t m_errorsLeft = 0;
     std::size_t m_comparisonsLeft = 0;
-    bool m_over = false; ///< nothing more is taken
+    std::size_t m_nextLook = 0; ///< how many nodes and attributes there are when `keep` is due
+    bool m_over = false;        ///< nothing more is taken
     bool m_failed = false;
     Error m_error;
 };

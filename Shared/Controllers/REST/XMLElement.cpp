@@ -16,9 +16,9 @@ void forEachChild(const XMLDocument& document, XMLDocument::Index parent, std::s
     if (wanted == XMLDocument::noName) {
         return;
     }
-    const XMLDocument::Index end = document.node(parent).end;
-    for (auto i = document.childrenBegin(parent); i < end; i = document.node(i).end) {
-        if (document.node(i).name == wanted && !visit(i)) {
+    const XMLDocument::Index end = document.end(parent);
+    for (auto i = document.childrenBegin(parent); i < end; i = document.end(i)) {
+        if (document.name(i) == wanted && !visit(i)) {
             return;
         }
     }
@@ -37,7 +37,7 @@ Result<XMLElement> XMLElement::parse(const std::string& bytes)
 
 std::string_view XMLElement::name() const
 {
-    return exists() ? m_document->nameText(m_document->node(m_index).name) : std::string_view();
+    return exists() ? m_document->nameText(m_document->name(m_index)) : std::string_view();
 }
 
 XMLElement XMLElement::child(std::string_view name) const

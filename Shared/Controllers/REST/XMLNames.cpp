@@ -26,6 +26,9 @@ XMLNames::Name XMLNames::intern(std::string_view name)
     if (const Name known = find(name); known != none) {
         return known;
     }
+    if (m_places.size() >= none) {
+        return none;
+    }
     if ((m_places.size() + 1) * 2 > m_slots.size()) {
         constexpr std::size_t first = 64;
         rehash(m_slots.empty() ? first : m_slots.size() * 2);

@@ -10,16 +10,17 @@ namespace lodestar
 {
 
 /// The distinct names of a document, numbered from 0 in the order of their first use: one text, where each name lies in
-/// it, and a hash table of numbers. A hostile document may have as many names as elements.
+/// it, and a hash table of numbers.
 class XMLNames
 {
 public:
-    using Name = std::uint32_t;
-    static constexpr Name none = UINT32_MAX;
+    using Name = std::uint16_t;
+    static constexpr Name none = UINT16_MAX;
 
     /// `none` for a name that is not there.
     Name find(std::string_view name) const;
-    /// The name's number, a new one if need be. Throws `std::bad_alloc`; the names are of no use then.
+    /// The name's number, a new one if need be; `none` when there are too many. Throws `std::bad_alloc`; the names are
+    /// of no use then.
     Name intern(std::string_view name);
     std::string_view text(Name name) const
     {
