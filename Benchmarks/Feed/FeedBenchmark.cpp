@@ -182,6 +182,7 @@ void measureFloods(bench::Rows& rows)
         }
         return tag + "/>";
     });
+    add("a feed of two million elements / a plain feed of 10 MB", "<feed>", [](int) { return "<b/>"; });
     add("a feed of three million levels / a plain feed of 10 MB", "<feed>", [](int) { return "<a>"; });
 }
 

@@ -177,6 +177,7 @@ std::vector<Flood> floods()
         {"name spaces", "<a>", [n](int i) { return "<b xmlns='u" + n(i) + "'/>"; }, true},
         {"instructions", "<a>", [n](int i) { return "<?n" + n(i) + "?>"; }, true},
         {"values of a declaration", "<!DOCTYPE a [<!ATTLIST a b (v", [n](int i) { return "|v" + n(i); }, true},
+        {"elements", "<a>", [](int) { return "<b/>"; }, true},
         {"tags of many attributes", "<a>",
          [n](int) { return "<b" + numbered(1, 800, [n](int k) { return " c" + n(k) + "=''"; }) + "/>"; }, true},
         {"attributes twice", "<a><first/>", [](int) { return "<b" + repeated(" c=''", 800) + "/>"; }, false},
@@ -192,7 +193,7 @@ std::vector<Flood> floods()
 
 TEST(XMLLimitsTests, FloodsTakeAtMostTwiceAPlainFeed)
 {
-    constexpr std::size_t size = 1'000'000;
+    constexpr std::size_t size = 2'000'000;
     const auto filled = [](std::string bytes, const std::function<std::string(int)>& one) {
         for (int i = 0; bytes.size() < size; ++i) {
             bytes += one(i);

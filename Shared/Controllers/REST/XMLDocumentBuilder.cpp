@@ -22,6 +22,12 @@ constexpr std::size_t errorsAlways = 2500;
 constexpr std::size_t bytesAnError = 64;
 constexpr std::size_t comparisonsAlways = 1'000'000;
 constexpr std::size_t comparisonsAByte = 8;
+// An element of a few bytes costs the library five times what as many bytes of a feed do. A feed has 20 bytes for each
+// part, one with attributes at every short element 10.
+constexpr std::size_t partsAlways = 100'000;
+constexpr std::size_t bytesAPart = 6;
+constexpr std::size_t partsOfAnElement = 2;
+constexpr std::size_t partsOfANameSpace = 4;
 
 // Elements and attributes between two looks at the memory that is left: less than half a megabyte of them.
 constexpr std::size_t piecesUnseen = 32768;
@@ -82,6 +88,7 @@ Result<std::shared_ptr<const XMLDocument>> XMLDocumentBuilder::run(std::string_v
     m_memory.limit(*parser);
     m_errorsLeft = errorsAlways + bytes.size() / bytesAnError;
     m_comparisonsLeft = comparisonsAlways + bytes.size() * comparisonsAByte;
+    m_partsLeft = partsAlways + bytes.size() / bytesAPart;
     parser->_private = this;
     xmlCtxtUseOptions(parser.get(), parseOptions);
     setEvents(*parser->sax);
@@ -137,7 +144,7 @@ void XMLDocumentBuilder::startElement(void* context, const xmlChar* localName, c
     if (self == nullptr) {
         return;
     }
-    self->countComparisons(static_cast<std::size_t>(attributeCount), static_cast<std::size_t>(namespaceCount));
+    self->countWork(static_cast<std::size_t>(attributeCount), static_cast<std::size_t>(namespaceCount));
     try {
         self->closeAbandoned();
         // Values that only a declaration gives stand last, and are not read.
@@ -214,16 +221,18 @@ void XMLDocumentBuilder::end(xmlParserCtxt& parser)
 
 /// The parser compares the attributes of a tag with each other, the name spaces too, and looks for the name space of
 /// each among all in force.
-void XMLDocumentBuilder::countComparisons(std::size_t attributeCount, std::size_t namespaceCount)
+void XMLDocumentBuilder::countWork(std::size_t attributeCount, std::size_t namespaceCount)
 {
     const auto inForce = static_cast<std::size_t>(m_parser->nsNr) / 2;
     const std::size_t made =
         (attributeCount * attributeCount + namespaceCount * namespaceCount) / 2 + (attributeCount + 1) * inForce;
-    if (made > m_comparisonsLeft) {
+    const std::size_t parts = partsOfAnElement + attributeCount + namespaceCount * partsOfANameSpace;
+    if (made > m_comparisonsLeft || parts > m_partsLeft) {
         fail(tooLarge());
-    } else {
-        m_comparisonsLeft -= made;
+        return;
     }
+    m_comparisonsLeft -= made;
+    m_partsLeft -= parts;
 }
 
 void XMLDocumentBuilder::open(const xmlChar* localName, const xmlChar* prefix, const xmlChar** attributes,

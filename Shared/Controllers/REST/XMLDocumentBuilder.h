@@ -65,7 +65,7 @@ private:
     };
 
     void setEvents(xmlSAXHandler& events) const;
-    void countComparisons(std::size_t attributeCount, std::size_t namespaceCount);
+    void countWork(std::size_t attributeCount, std::size_t namespaceCount);
     void reserve(std::size_t inputSize);
     void open(const xmlChar* localName, const xmlChar* prefix, const xmlChar** attributes, int attributeCount);
     void addAttribute(const xmlChar* localName, const xmlChar* prefix, std::string_view raw);
@@ -110,6 +110,7 @@ private:
     xmlParserCtxtPtr m_parser = nullptr;
     std::size_t m_errorsLeft = 0;
     std::size_t m_comparisonsLeft = 0;
+    std::size_t m_partsLeft = 0;
     std::size_t m_nextLook = 0; ///< how many nodes and attributes there are when `keep` is due
     bool m_over = false;        ///< nothing more is taken
     bool m_failed = false;
