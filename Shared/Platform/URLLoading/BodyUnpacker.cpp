@@ -22,7 +22,7 @@ std::string encodingOf(const URLResponse& response)
 
 } // namespace
 
-BodyUnpacker::BodyUnpacker(const URLResponse& response, HeldBytes::Claim claim, WithoutRoom without)
+BodyUnpacker::BodyUnpacker(const URLResponse& response, std::optional<HeldBytes::Claim> claim, WithoutRoom without)
     : m_limits(TransferLimits::shared()),
       m_decoder(BodyDecoder::make(encodingOf(response))),
       m_claim(claim),
@@ -80,7 +80,7 @@ std::optional<Error> BodyUnpacker::error() const
 bool BodyUnpacker::hold(std::size_t bytes)
 {
     const auto end = std::chrono::steady_clock::now() + patience;
-    while (!m_held.add(bytes, m_limits.heldBytes, m_claim)) {
+    while (m_claim && !m_held.add(bytes, m_limits.heldBytes, *m_claim)) {
         if (m_without == WithoutRoom::Refuse) {
             return false;
         }

@@ -24,8 +24,9 @@ public:
     /// What is done when what is unpacked finds no room. Patient ones block for a while, and have the turn.
     enum class WithoutRoom { Refuse, Wait };
 
-    /// The response's encoding is a known one.
-    BodyUnpacker(const URLResponse& response, HeldBytes::Claim claim, WithoutRoom without = WithoutRoom::Refuse);
+    /// The response's encoding is a known one. Without a claim nothing is held: for a sink that keeps nothing.
+    BodyUnpacker(const URLResponse& response, std::optional<HeldBytes::Claim> claim,
+                 WithoutRoom without = WithoutRoom::Refuse);
 
     static bool isNeeded(const URLResponse& response);
 
@@ -43,7 +44,7 @@ private:
 
     const TransferLimits m_limits;
     std::optional<BodyDecoder> m_decoder;
-    const HeldBytes::Claim m_claim;
+    const std::optional<HeldBytes::Claim> m_claim;
     const WithoutRoom m_without;
     HeldBytes m_held;
     bool m_foundNoRoom = false;

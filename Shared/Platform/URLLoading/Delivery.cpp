@@ -26,7 +26,7 @@ constexpr std::size_t anySize = std::numeric_limits<std::size_t>::max();
 
 } // namespace
 
-/// The thread of large bodies. Each keeps the turn until it has been read, so that there is one at a time.
+/// The thread of large bodies. Each that is kept has the turn until it has been read, so that there is one at a time.
 class Delivery::LargeBodies
 {
 public:
@@ -60,7 +60,6 @@ private:
             std::unique_ptr<Delivery> delivery = std::move(m_waiting.front());
             m_waiting.pop_front();
             lock.unlock();
-            delivery->m_turn.take();
             delivery->unpackLarge();
             complete(std::move(delivery));
         }
@@ -128,20 +127,38 @@ Delivery::Progress Delivery::unpack(std::size_t most)
     return Progress::Done;
 }
 
-/// From the first byte again: a small body is little work.
+/// From the first byte again: a small body is little work. And measured before anything is kept: hundreds of megabytes
+/// of memory, taken for a bomb and given back, would be felt by every other thread of the process.
 void Delivery::unpackLarge()
 {
     URLLoad& load = m_load.value();
-    load.body.clear();
+    load.body = {};
     m_unpacker = nullptr;
+    const auto size = measure();
+    if (!size) {
+        return;
+    }
+    m_turn.take();
     m_unpacker = std::make_unique<BodyUnpacker>(load.response, HeldBytes::Claim::Turn, BodyUnpacker::WithoutRoom::Wait);
-    // What is never touched costs addresses only, and growing by copies would need half as much again.
     try {
-        load.body.reserve(TransferLimits::shared().bodyBytes);
+        load.body.reserve(*size);
     } catch (const std::bad_alloc&) {
         // Then it grows, or fails, as it comes.
     }
     unpack(anySize);
+}
+
+std::optional<std::size_t> Delivery::measure()
+{
+    BodyUnpacker unpacker(m_load.value().response, std::nullopt);
+    unpacker.unpack(m_packed, [](std::span<const char>) {});
+    if (auto error = unpacker.error()) {
+        m_packed = {};
+        m_held.reset();
+        m_load = std::move(*error);
+        return std::nullopt;
+    }
+    return unpacker.size();
 }
 
 Result<URLLoad> Delivery::unpacked(URLLoad load)

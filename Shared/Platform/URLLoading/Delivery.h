@@ -8,6 +8,7 @@
 
 #include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 
 namespace lodestar
@@ -44,6 +45,8 @@ private:
     /// All of it, unless that is more than so many bytes or finds no room as a small one.
     Progress unpack(std::size_t most);
     void unpackLarge();
+    /// How many bytes the body unpacks to. None when it is damaged or too large, and the load then says so.
+    std::optional<std::size_t> measure();
 
     HeldBytes::Turn m_turn; ///< of a large one; first, since it is given back when nothing is held any more
     OperationQueue m_queue;
