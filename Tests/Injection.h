@@ -3,6 +3,7 @@
 // allocator and for the system's calls.
 #pragma once
 
+#include <array>
 #include <atomic>
 #include <cerrno>
 #include <cstddef>
@@ -19,18 +20,25 @@ enum class Call { None, Allocation, Write, Sync, Rename };
 
 enum class Threads { This, All };
 
+/// That call alone, or each from that one on, as on a full disk.
+enum class Extent { One, Lasting };
+
 namespace detail
 {
 inline thread_local bool counted = false; ///< this thread's calls are
 inline std::atomic<bool> everyThread = false;
 inline std::atomic<Call> failing = Call::None;
+inline std::atomic<bool> lasting = false;
 inline std::atomic<int> left = 0;
 inline std::atomic<bool> happened = false;
 
 /// Whether this call is the one that fails.
 inline bool fails(Call call, int error)
 {
-    if (failing != call || !(counted || everyThread) || left-- != 0) {
+    if (failing != call || !(counted || everyThread)) {
+        return false;
+    }
+    if (const int number = left--; number > 0 || (number < 0 && !lasting)) {
         return false;
     }
     happened = true;
@@ -39,17 +47,26 @@ inline bool fails(Call call, int error)
 }
 } // namespace detail
 
-/// While it lives, the call of that kind and number fails, and no other. Numbers begin at 0.
+struct Kind {
+    Call call;
+    Extent extent = Extent::One;
+};
+
+inline constexpr std::array everyKind = {Kind{Call::Allocation}, Kind{Call::Write}, Kind{Call::Write, Extent::Lasting},
+                                         Kind{Call::Sync}, Kind{Call::Rename}};
+
+/// While it lives, the call of that kind and number fails. Numbers begin at 0.
 class Failing
 {
 public:
-    Failing(Call call, int number, Threads threads = Threads::This)
+    Failing(Kind kind, int number, Threads threads = Threads::This)
     {
         detail::happened = false;
+        detail::lasting = kind.extent == Extent::Lasting;
         detail::left = number;
         detail::counted = true;
         detail::everyThread = threads == Threads::All;
-        detail::failing = call;
+        detail::failing = kind.call;
     }
     ~Failing()
     {
@@ -62,6 +79,20 @@ public:
     /// Whether there was such a call, until the next one is to fail.
     static bool happened() { return detail::happened; }
 };
+
+/// Calls the work with number after number, until it had such a call no more: how many calls have failed.
+template <typename Work>
+int forEachFailure(int step, const Work& work)
+{
+    constexpr int far = 100'000;
+    int number = 0;
+    do {
+        detail::happened = false;
+        work(number);
+        number += step;
+    } while (Failing::happened() && number < far);
+    return number / step - 1;
+}
 
 } // namespace lodestar::injection
 

@@ -94,14 +94,11 @@ void refusedMemory(Outcome& outcome)
     Drive drive(outcome, forgetfulFleet(2));
     drive.refresh();
     const auto good = drive.feedTexts(0);
-    const int step = rounds(97, 11);
-    bool happened = true;
-    for (int number = 0; happened; number += step) {
+    injection::forEachFailure(rounds(97, 11), [&](int number) {
         outcome.attempt("allocation " + std::to_string(number), [&] {
             {
-                const injection::Failing failing(injection::Call::Allocation, number, injection::Threads::All);
+                const injection::Failing failing({injection::Call::Allocation}, number, injection::Threads::All);
                 drive.refresh(seconds(30));
-                happened = injection::Failing::happened();
             }
             for (const auto& [type, text] : drive.feedTexts(0)) {
                 outcome.expect(text == good.at(type) || text == "NA" || !drive.consoles()[0]->isOnline,
@@ -112,7 +109,7 @@ void refusedMemory(Outcome& outcome)
             drive.refresh();
             outcome.expect(drive.feedTexts(0) == good, "the next refresh is not whole");
         });
-    }
+    });
 }
 
 } // namespace

@@ -12,47 +12,28 @@ namespace
 {
 
 using injection::Call;
+using injection::everyKind;
 using injection::Failing;
+using injection::forEachFailure;
+using injection::Kind;
 using test::StoreFixture;
 using ::testing::AnyOf;
 using ::testing::ElementsAre;
 
-class FaultInjectionTests : public StoreFixture
+using FaultInjectionTests = StoreFixture;
+
+/// Allocations are by far the most: a few of them, and all in the long run.
+int stepOf(Call call)
 {
-protected:
-    void clear() const
-    {
-        for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-            std::filesystem::remove_all(entry);
-        }
-    }
-    /// Runs the work with call after call of the kind failing, until none is left; how many have.
-    template <typename Work>
-    static int forEachFailure(Call call, const Work& work)
-    {
-        // Allocations are by far the most: a few of them, and all in the long run.
-        const int step = call == Call::Allocation ? rounds(7, 1) : 1;
-        int number = 0;
-        for (bool happened = true; happened; number += step) {
-            SCOPED_TRACE(::testing::Message() << "call " << number << " of kind " << static_cast<int>(call));
-            work(number, happened);
-            if (HasFatalFailure() || number > 100'000) {
-                ADD_FAILURE() << "given up";
-                break;
-            }
-        }
-        return number / step - 1;
-    }
-
-    int tries = 0;
-};
-
-constexpr auto everyCall = {Call::Allocation, Call::Write, Call::Sync, Call::Rename};
+    return call == Call::Allocation ? rounds(7, 1) : 1;
+}
 
 TEST_F(FaultInjectionTests, ASaveKeepsTheOldStateOrMakesTheNewOne)
 {
-    for (const Call call : everyCall) {
-        const int count = forEachFailure(call, [&](int number, bool& happened) {
+    int tries = 0;
+    for (const Kind kind : everyKind) {
+        const int count = forEachFailure(stepOf(kind.call), [&](int number) {
+            SCOPED_TRACE(::testing::Message() << "call " << number << " of kind " << static_cast<int>(kind.call));
             clear();
             auto context = open();
             const ObjectRef changed = insert(*context, "changed");
@@ -64,17 +45,18 @@ TEST_F(FaultInjectionTests, ASaveKeepsTheOldStateOrMakesTheNewOne)
             const ObjectRef inserted = insert(*context, "inserted");
             std::optional<Result<void>> saved;
             {
-                const Failing failing(call, number);
+                const Failing failing(kind, number);
                 saved.emplace(context->save());
             }
-            happened = Failing::happened();
             if (!saved->ok()) {
                 EXPECT_EQ(saved->error().domain, storeErrorDomain);
                 EXPECT_FALSE(saved->error().localizedDescription.empty());
                 EXPECT_TRUE(context->hasChanges());
                 // A commit whose sync failed may be whole on the disk, though nobody may count on it.
-                EXPECT_THAT(storedTitles(),
-                            AnyOf(ElementsAre("changed", "deleted"), ElementsAre("changed 2", "inserted")));
+                const auto titles = storedTitles();
+                if (kind.call == Call::Write || titles != std::vector<std::string>{"changed 2", "inserted"}) {
+                    EXPECT_THAT(titles, ElementsAre("changed", "deleted"));
+                }
                 EXPECT_THAT(fetch(*context), ElementsAre(changed, inserted));
                 ASSERT_TRUE(context->save().ok());
             }
@@ -82,7 +64,7 @@ TEST_F(FaultInjectionTests, ASaveKeepsTheOldStateOrMakesTheNewOne)
             EXPECT_THAT(storedTitles(), ElementsAre("changed 2", "inserted"));
             EXPECT_THAT(fetch(*context), ElementsAre(changed, inserted));
         });
-        EXPECT_GT(count, call == Call::Allocation ? 10 : call == Call::Rename ? -1 : 0);
+        EXPECT_GT(count, kind.call == Call::Allocation ? 10 : kind.call == Call::Rename ? -1 : 0);
         tries += count;
     }
     RecordProperty("tries", tries);
@@ -90,9 +72,11 @@ TEST_F(FaultInjectionTests, ASaveKeepsTheOldStateOrMakesTheNewOne)
 
 TEST_F(FaultInjectionTests, AStoreIsMadeWholeOrNotAtAllAndReadWholeOrNotAtAll)
 {
+    int tries = 0;
     for (const bool exists : {false, true}) {
-        for (const Call call : everyCall) {
-            tries += forEachFailure(call, [&](int number, bool& happened) {
+        for (const Kind kind : everyKind) {
+            tries += forEachFailure(stepOf(kind.call), [&](int number) {
+                SCOPED_TRACE(::testing::Message() << "call " << number << " of kind " << static_cast<int>(kind.call));
                 clear();
                 if (exists) {
                     const auto context = open();
@@ -103,18 +87,17 @@ TEST_F(FaultInjectionTests, AStoreIsMadeWholeOrNotAtAllAndReadWholeOrNotAtAll)
                 {
                     auto description = model();
                     const std::string where = path.string();
-                    const Failing failing(call, number);
+                    const Failing failing(kind, number);
                     const auto opened = ObjectContext::open(where, std::move(description));
                     const auto objects = opened ? opened.value()->fetchAll("Item") : opened.error();
-                    happened = Failing::happened();
                     if (opened && objects) {
                         EXPECT_EQ(objects.value().size(), exists ? 2U : 0U);
                     }
-                    EXPECT_TRUE(happened || (opened && objects));
+                    EXPECT_TRUE(Failing::happened() || (opened && objects));
                 }
                 for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-                    EXPECT_EQ(entry.path().string().rfind(path.string(), 0), 0U);
-                    EXPECT_NE(entry.path().extension(), ".sqlite-XXXXXX");
+                    EXPECT_THAT(entry.path().extension(),
+                                AnyOf(".sqlite", ".sqlite-journal", ".sqlite-wal", ".sqlite-shm"));
                 }
                 EXPECT_EQ(fetch(*open()).size(), exists ? 2U : 0U);
             });

@@ -23,166 +23,28 @@ using test::StoreFixture;
 using ::testing::AnyOf;
 using ::testing::ElementsAre;
 
-/// Makes SQLite's writes to the disk fail from within the process: the n-th one only, or that and all later ones, as on
-/// a full disk. Or has no file opened for writing, as on a disk that is mounted to be read only.
-class WriteFault
+/// Has SQLite open no file for writing, as on a disk that is mounted to be read only.
+class ReadOnlyDisk
 {
 public:
-    enum class Kind { Once, FromThenOn };
-
-    WriteFault()
-    {
-        replace("write", reinterpret_cast<sqlite3_syscall_ptr>(&failingWrite));
-        replace("pwrite", reinterpret_cast<sqlite3_syscall_ptr>(&failingPwrite));
-        replace("pwrite64", reinterpret_cast<sqlite3_syscall_ptr>(&failingPwrite));
-        replace("ftruncate", reinterpret_cast<sqlite3_syscall_ptr>(&failingTruncate));
-        replace("open", reinterpret_cast<sqlite3_syscall_ptr>(&failingOpen));
-    }
-    ~WriteFault()
-    {
-        disarm();
-        setReadOnly(false);
-        sqlite3_vfs* const vfs = sqlite3_vfs_find("unix");
-        vfs->xSetSystemCall(vfs, nullptr, nullptr);
-    }
-    WriteFault(const WriteFault&) = delete;
-    WriteFault& operator=(const WriteFault&) = delete;
-
-    static void arm(int n, Kind kind)
-    {
-        s_left = n;
-        s_kind = kind;
-        s_failures = 0;
-    }
-    static void disarm() { s_left = -1; }
-    static int failures() { return s_failures; }
-    static void setReadOnly(bool readOnly) { s_readOnly = readOnly; }
+    ReadOnlyDisk() { vfs().xSetSystemCall(&vfs(), "open", reinterpret_cast<sqlite3_syscall_ptr>(&open)); }
+    ~ReadOnlyDisk() { vfs().xSetSystemCall(&vfs(), nullptr, nullptr); }
+    ReadOnlyDisk(const ReadOnlyDisk&) = delete;
+    ReadOnlyDisk& operator=(const ReadOnlyDisk&) = delete;
 
 private:
-    static void replace(const char* name, sqlite3_syscall_ptr function)
+    static sqlite3_vfs& vfs() { return *sqlite3_vfs_find("unix"); }
+    static int open(const char* file, int flags, int mode)
     {
-        sqlite3_vfs* const vfs = sqlite3_vfs_find("unix");
-        vfs->xSetSystemCall(vfs, name, function);
-    }
-    static bool fails()
-    {
-        if (s_left < 0) {
-            return false;
-        }
-        if (s_left > 0) {
-            --s_left;
-            return false;
-        }
-        if (s_kind == Kind::Once) {
-            s_left = -1;
-        }
-        ++s_failures;
-        errno = ENOSPC;
-        return true;
-    }
-    static ssize_t failingWrite(int file, const void* bytes, std::size_t size)
-    {
-        return fails() ? -1 : ::write(file, bytes, size);
-    }
-    static ssize_t failingPwrite(int file, const void* bytes, std::size_t size, off_t offset)
-    {
-        return fails() ? -1 : ::pwrite(file, bytes, size, offset);
-    }
-    static int failingTruncate(int file, off_t size) { return fails() ? -1 : ::ftruncate(file, size); }
-
-    static int failingOpen(const char* file, int flags, int mode)
-    {
-        if (s_readOnly && (flags & O_ACCMODE) != O_RDONLY) {
+        if ((flags & O_ACCMODE) != O_RDONLY) {
             errno = EROFS;
             return -1;
         }
         return ::open(file, flags, mode);
     }
-
-    static inline bool s_readOnly = false;
-    static inline int s_left = -1;
-    static inline Kind s_kind = Kind::Once;
-    static inline int s_failures = 0;
 };
 
-class ObjectContextFaultTests : public StoreFixture
-{
-protected:
-    void clear() const
-    {
-        for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-            std::filesystem::remove_all(entry);
-        }
-    }
-};
-
-TEST_F(ObjectContextFaultTests, AFailedWriteLeavesTheStoreAndEveryChange)
-{
-    const WriteFault fault;
-    int failedSaves = 0;
-    for (const auto kind : {WriteFault::Kind::Once, WriteFault::Kind::FromThenOn}) {
-        for (int n = 0, failures = 1; failures > 0; ++n) {
-            SCOPED_TRACE(n);
-            clear();
-            auto context = open();
-            const ObjectRef changed = insert(*context, "changed");
-            const ObjectRef deleted = insert(*context, "deleted");
-            ASSERT_TRUE(context->save().ok());
-
-            changed->setAttribute(Title, std::string("changed 2"));
-            changed->setAttribute(Note, std::string(20'000, 'n'));
-            context->deleteObject(deleted);
-            const ObjectRef inserted = insert(*context, "inserted");
-            WriteFault::arm(n, kind);
-            const Result<void> saved = context->save();
-            failures = WriteFault::failures();
-            WriteFault::disarm();
-            if (!saved) {
-                ++failedSaves;
-                EXPECT_EQ(saved.error().domain, storeErrorDomain);
-                EXPECT_TRUE(context->hasChanges());
-                EXPECT_THAT(storedTitles(), ElementsAre("changed", "deleted"));
-                EXPECT_THAT(fetch(*context), ElementsAre(changed, inserted));
-                ASSERT_TRUE(context->save().ok());
-            }
-            EXPECT_FALSE(context->hasChanges());
-            EXPECT_THAT(storedTitles(), ElementsAre("changed 2", "inserted"));
-            EXPECT_THAT(fetch(*context), ElementsAre(changed, inserted));
-        }
-    }
-    EXPECT_GT(failedSaves, 10);
-    RecordProperty("tries", failedSaves);
-}
-
-TEST_F(ObjectContextFaultTests, AFailedWriteWhileOpeningLeavesNoHalfStore)
-{
-    const WriteFault fault;
-    for (const bool exists : {false, true}) {
-        for (int n = 0, failures = 1; failures > 0; ++n) {
-            SCOPED_TRACE(n);
-            clear();
-            if (exists) {
-                const auto context = open();
-                insert(*context, "a");
-                ASSERT_TRUE(context->save().ok());
-            }
-            WriteFault::arm(n, WriteFault::Kind::FromThenOn);
-            const bool opened = ObjectContext::open(path, model()).ok();
-            failures = WriteFault::failures();
-            WriteFault::disarm();
-            EXPECT_TRUE(opened || failures > 0);
-            std::size_t files = 0;
-            for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-                EXPECT_EQ(entry.path().filename().string().substr(0, path.filename().string().size() + 1).back(),
-                          entry.path() == path ? 'e' : '-');
-                ++files;
-            }
-            EXPECT_LE(files, 3U) << "a scratch file was left";
-            const auto context = open();
-            EXPECT_EQ(fetch(*context).size(), exists ? 1U : 0U);
-        }
-    }
-}
+using ObjectContextFaultTests = StoreFixture;
 
 TEST_F(ObjectContextFaultTests, AStoreThatCannotBeWrittenIsRefusedAndLeftAsItWas)
 {
@@ -191,11 +53,11 @@ TEST_F(ObjectContextFaultTests, AStoreThatCannotBeWrittenIsRefusedAndLeftAsItWas
         insert(*context, "a");
         ASSERT_TRUE(context->save().ok());
     }
-    const WriteFault fault;
     const auto before = snapshot();
-    WriteFault::setReadOnly(true);
-    const auto opened = ObjectContext::open(path, model());
-    WriteFault::setReadOnly(false);
+    const auto opened = [this] {
+        const ReadOnlyDisk disk;
+        return ObjectContext::open(path, model());
+    }();
     ASSERT_FALSE(opened.ok());
     EXPECT_EQ(opened.error().domain, storeErrorDomain);
     EXPECT_THAT(opened.error().code, AnyOf(SQLITE_READONLY, SQLITE_CANTOPEN));

@@ -42,6 +42,13 @@ protected:
         return {{entity("Item"), entity("Order")}, {{"Item", "orders", "Order", "items"}}, version};
     }
 
+    void clear() const
+    {
+        for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+            std::filesystem::remove_all(entry);
+        }
+    }
+
     std::unique_ptr<ObjectContext> open() const
     {
         auto opened = ObjectContext::open(path, model());

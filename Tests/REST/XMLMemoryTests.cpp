@@ -26,7 +26,7 @@ using Parsed = Result<std::shared_ptr<const XMLDocument>>;
 /// Parses with the allocation of that number refused, and says whether there was one.
 bool parseRefusing(int number, const std::string& bytes, std::optional<Parsed>& result)
 {
-    const injection::Failing failing(injection::Call::Allocation, number);
+    const injection::Failing failing({injection::Call::Allocation}, number);
     result.emplace(XMLDocument::parse(bytes.c_str(), bytes.size()));
     return injection::Failing::happened();
 }

@@ -12,6 +12,7 @@
 #include <cstdio>
 #include <map>
 #include <mutex>
+#include <new>
 #include <utility>
 #include <variant>
 
@@ -133,11 +134,19 @@ struct FileUserDefaults::State : std::enable_shared_from_this<State> {
         if (generation == writtenGeneration) {
             return true;
         }
-        const Values copy = values;
         const std::uint64_t copied = generation;
-        lock.unlock();
-        const bool written = write(path, copy);
-        lock.lock();
+        bool written = false;
+        try {
+            const Values copy = values;
+            lock.unlock();
+            written = write(path, copy);
+        } catch (const std::bad_alloc&) {
+            // Qt's texts take no part in the reserve. As with a disk that is full, the next change or the end tries
+            // anew.
+        }
+        if (!lock.owns_lock()) {
+            lock.lock();
+        }
         if (written) {
             writtenGeneration = copied;
         }
