@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Benchmarks/List/FleetOnScreen.h"
 #include "Benchmarks/List/ScreenProgram.h"
+#include "Tests/ProcessMemory.h"
 
 #include <QProcess>
 
 #include <array>
 #include <cstdio>
-#include <fstream>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -23,20 +23,6 @@ namespace
 constexpr int warmUp = 600;
 constexpr int pulls = 10 * 3600 / 5; ///< ten hours of one every five seconds, without the seconds between
 constexpr int pullsBetweenSamples = 20;
-
-/// A figure of this process's memory in bytes.
-double memory(const std::string& key)
-{
-    std::ifstream status("/proc/self/status");
-    for (std::string word; status >> word;) {
-        if (word == key + ":") {
-            double kilobytes = 0;
-            status >> kilobytes;
-            return kilobytes * 1024;
-        }
-    }
-    return 0;
-}
 
 /// Two numbers that a measured process tells.
 struct Figures {

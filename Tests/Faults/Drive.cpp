@@ -9,7 +9,6 @@
 #include "Views/Common/Registry.h"
 
 #include <algorithm>
-#include <fstream>
 
 namespace lodestar::faults
 {
@@ -31,25 +30,6 @@ std::string identityOf(const Corvel& corvel)
 }
 
 } // namespace
-
-double memory(const std::string& key)
-{
-    std::ifstream status("/proc/self/status");
-    for (std::string word; status >> word;) {
-        if (word == key + ":") {
-            double kilobytes = 0;
-            status >> kilobytes;
-            return kilobytes * 1024;
-        }
-    }
-    return 0;
-}
-
-double startPeak()
-{
-    std::ofstream("/proc/self/clear_refs") << "5";
-    return memory("VmRSS");
-}
 
 double median(std::vector<double> values)
 {
@@ -130,13 +110,14 @@ std::vector<double> Drive::refresh(std::chrono::milliseconds limit)
             settled->times[i] = since(start);
             ++settled->counts[i];
         };
-        fetchInventory(corvel).thenOnMain(
-            [note, corvel](const std::string&) {
-                corvel->setVersion(RESTHandler::versionString(feedOfType(*corvel, ObjectType::ManagementConsole)));
-                saveIgnoringErrors();
-                note(true);
-            },
-            [note](const Error&) { note(false); });
+        fetchInventory(corvel, Urgency::Fleet)
+            .thenOnMain(
+                [note, corvel](const std::string&) {
+                    corvel->setVersion(RESTHandler::versionString(feedOfType(*corvel, ObjectType::ManagementConsole)));
+                    saveIgnoringErrors();
+                    note(true);
+                },
+                [note](const Error&) { note(false); });
     }
     const auto all = [&settled] { return std::ranges::count(settled->counts, 0) == 0; };
     m_outcome.expect(runUntil(all, limit), "a console has not settled");

@@ -5,6 +5,7 @@
 #include "Controllers/REST/Feed.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Faults/Rows.h"
+#include "Tests/ProcessMemory.h"
 #include "Tests/ScratchFolder.h"
 
 #include <array>
@@ -18,10 +19,6 @@ inline constexpr std::array feedTypes = {ObjectType::ManagementConsole, ObjectTy
                                          ObjectType::VirtualIOServer,   ObjectType::LogicalPartition,
                                          ObjectType::ServiceableEvent,  ObjectType::Group};
 
-/// A figure of this process's memory in bytes, by its name in the system's list.
-double memory(const std::string& key);
-/// The peak begins anew; returns what is resident now.
-double startPeak();
 double median(std::vector<double> values);
 /// A fleet with feeds of a usual size.
 simulator::Settings settingsFor(int consoles);
