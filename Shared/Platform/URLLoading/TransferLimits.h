@@ -20,7 +20,7 @@ struct TransferLimits {
     std::size_t bodyBytes;                  ///< one body, as it comes or unpacked: all but a 24th of `heldBytes`
     /// What comes beside headers and body, over as many bytes as those are: the sizes and extensions of chunks, which
     /// libcurl drops unseen, and what TLS adds.
-    std::size_t framingBytes = 4UL * 1024 * 1024;
+    std::size_t framingBytes = 1024UL * 1024;
     int redirects = 20; ///< hops followed; the last response is then the answer
     /// A transfer's total time is its idle limit times this, so that a trickling server cannot hold it for ever.
     int totalTimeFactor = 1;
