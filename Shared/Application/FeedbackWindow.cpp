@@ -74,7 +74,9 @@ void loadFirstFaces()
 
 std::unique_ptr<FeedbackWindow>& theWindow()
 {
-    static std::unique_ptr<FeedbackWindow> window;
+    // Never destroyed by itself: where its display goes, the platform calls exit(), and by then what windows are made
+    // of is gone.
+    static auto& window = *new std::unique_ptr<FeedbackWindow>;
     return window;
 }
 

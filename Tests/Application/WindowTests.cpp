@@ -17,6 +17,7 @@
 #include <QSensorManager>
 #include <QTemporaryDir>
 
+#include <cstdlib>
 #include <fstream>
 
 namespace lodestar::lock
@@ -53,6 +54,15 @@ TEST_F(LockedWindowTest, TheTourIsShownOnTheFirstDayAndAfterAReset)
     window().resize(390, 844);
     window().show();
     EXPECT_TRUE(waitFor(isTourShown));
+}
+
+/// As the platform does it when its display goes.
+TEST_F(LockedWindowTest, AnExitInTheMiddleOfItAllEndsTheProcessAndCrashesNothing)
+{
+    GTEST_FLAG_SET(death_test_style, "threadsafe");
+    open(false);
+    settle(300);
+    EXPECT_EXIT(std::exit(7), ::testing::ExitedWithCode(7), "");
 }
 
 TEST_F(LockedWindowTest, FieldsAreSeenOverAKeyboardOnAPhoneThatIsHeldAcross)
