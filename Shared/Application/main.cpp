@@ -2,6 +2,7 @@
 #include "Application/Adapters/DesktopSettings.h"
 #include "Application/Adapters/FileUserDefaults.h"
 #include "Application/Adapters/PackageResources.h"
+#include "Application/Adapters/SessionBus.h"
 #include "Application/Adapters/SystemKeychain.h"
 #include "Application/AppDelegate.h"
 #include "Application/FeedbackSupport.h"
@@ -93,6 +94,7 @@ SystemKeychain& installPlatform(const QString& folder)
 int main(int argc, char** argv)
 {
     MemoryReserve::install();
+    leaveAbsentSessionBus();
     QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(QStringLiteral("Lodestar"));
     QGuiApplication::setApplicationVersion(QStringLiteral(LODESTAR_VERSION));
@@ -147,7 +149,8 @@ int main(int argc, char** argv)
         place = std::make_unique<WindowPlace>(*window);
         window->show();
     }
-    DesktopSettings desktop([](bool reduced) { Appearance::shared().setSystemReducedMotion(reduced); });
+    DesktopSettings desktop([](bool reduced) { Appearance::shared().setSystemReducedMotion(reduced); },
+                            [](double scale) { Appearance::shared().setSystemTextScale(scale); });
     // The first frame waits for nobody.
     QObject::connect(
         window, &QQuickWindow::frameSwapped, &desktop, [&desktop] { desktop.follow(); }, Qt::SingleShotConnection);

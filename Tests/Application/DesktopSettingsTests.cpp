@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Adapters/DesktopSettings.h"
+#include "Application/Adapters/SessionBus.h"
 
 #include <QDBusArgument>
 #include <QDBusConnection>
@@ -7,7 +8,9 @@
 #include <QDBusMetaType>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
+#include <QFile>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -31,7 +34,7 @@ public:
     Groups groups;
 };
 
-TEST(DesktopSettingsTests, MotionFollowsWhatTheDesktopSays)
+TEST(DesktopSettingsTests, MotionAndTextSizeFollowWhatTheDesktopSays)
 {
     qDBusRegisterMetaType<Groups>();
     QProcess daemon;
@@ -43,12 +46,15 @@ TEST(DesktopSettingsTests, MotionFollowsWhatTheDesktopSays)
     QDBusConnection desktop = QDBusConnection::connectToBus(address, QStringLiteral("desktop"));
     Portal portal;
     portal.groups[QStringLiteral("org.gnome.desktop.interface")][QStringLiteral("enable-animations")] = false;
+    portal.groups[QStringLiteral("org.gnome.desktop.interface")][QStringLiteral("text-scaling-factor")] = 1.5;
     const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
     ASSERT_TRUE(desktop.registerVirtualObject(path, &portal));
     ASSERT_TRUE(desktop.registerService(QStringLiteral("org.freedesktop.portal.Desktop")));
 
     std::vector<bool> told;
-    DesktopSettings settings([&](bool reduced) { told.push_back(reduced); });
+    std::vector<double> scales;
+    DesktopSettings settings([&](bool reduced) { told.push_back(reduced); },
+                             [&](double scale) { scales.push_back(scale); });
     settings.follow(QDBusConnection::connectToBus(address, QStringLiteral("program")));
     ASSERT_TRUE(QTest::qWaitFor([&] { return told.size() == 1; }));
 
@@ -60,12 +66,45 @@ TEST(DesktopSettingsTests, MotionFollowsWhatTheDesktopSays)
     };
     change("org.gnome.desktop.interface", "enable-animations", true);
     change("org.gnome.desktop.interface", "cursor-size", 24);
+    change("org.gnome.desktop.interface", "text-scaling-factor", 2.0);
     change("org.kde.kdeglobals.KDE", "AnimationDurationFactor", QStringLiteral("0"));
     change("org.freedesktop.appearance", "reduced-motion", 0U);
     ASSERT_TRUE(QTest::qWaitFor([&] { return told.size() == 4; }));
     EXPECT_THAT(told, testing::ElementsAre(true, false, true, false));
+    EXPECT_THAT(scales, testing::ElementsAre(1.5, 2.0));
     daemon.terminate();
     daemon.waitForFinished();
+}
+
+TEST(SessionBusTests, NobodyStartsABusWhereThereIsNone)
+{
+    const QTemporaryDir folder;
+    const QString launched = folder.filePath(QStringLiteral("launched"));
+    QFile launcher(folder.filePath(QStringLiteral("dbus-launch")));
+    ASSERT_TRUE(launcher.open(QIODevice::WriteOnly));
+    launcher.write(("#!/bin/sh\ntouch " + launched + "\nexit 1\n").toUtf8());
+    launcher.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    launcher.close();
+    const std::pair<const char*, QByteArray> environment[] = {
+        {"DBUS_SESSION_BUS_ADDRESS", {}},
+        {"XDG_RUNTIME_DIR", folder.path().toUtf8()},
+        {"DISPLAY", ":0"},
+        {"PATH", folder.path().toUtf8() + ":" + qgetenv("PATH")},
+    };
+    std::vector<std::pair<const char*, QByteArray>> before;
+    for (const auto& [name, value] : environment) {
+        before.emplace_back(name, qgetenv(name));
+        value.isEmpty() ? qunsetenv(name) : qputenv(name, value);
+    }
+    leaveAbsentSessionBus();
+    EXPECT_FALSE(hasSessionBus());
+    const QString name = QStringLiteral("absent");
+    EXPECT_FALSE(QDBusConnection::connectToBus(QDBusConnection::SessionBus, name).isConnected());
+    EXPECT_FALSE(QFile::exists(launched));
+    QDBusConnection::disconnectFromBus(name);
+    for (const auto& [variable, value] : before) {
+        value.isNull() ? qunsetenv(variable) : qputenv(variable, value);
+    }
 }
 
 } // namespace

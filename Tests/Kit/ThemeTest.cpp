@@ -2,6 +2,7 @@
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/IconProvider.h"
 #include "Kit/Core/Kit.h"
+#include "KitWindow.h"
 
 #include <QColor>
 #include <QDirIterator>
@@ -123,8 +124,46 @@ TEST_F(ThemeTest, ScaleStopsWhereItShouldAndDirectionFollows)
     EXPECT_EQ(with(0.5), (std::vector<double>{1, 1, 1, 0}));
     EXPECT_EQ(with(1.4), (std::vector<double>{1.4, 1.3, 1.4, 0}));
     EXPECT_EQ(with(9), (std::vector<double>{2, 1.3, 1.5, 1}));
+    // The desktop's own, where the platform has not made everything larger by it.
+    Appearance::shared().overrideTextScale({});
+    Appearance::shared().setSystemTextScale(2);
+    EXPECT_TRUE(theme("stacked").toBool());
+    Appearance::shared().setSystemTextScale(1);
+    EXPECT_FALSE(theme("stacked").toBool());
     Appearance::shared().overrideMirrored(true);
     EXPECT_TRUE(theme("mirrored").toBool());
+}
+
+TEST_F(ThemeTest, CapitalsAreCentredInTheirLineByPixels)
+{
+    for (const int size : {13, 17, 34}) {
+        QQuickView view;
+        installKit(*view.engine());
+        QQmlComponent component(view.engine());
+        component.setData(
+            QStringLiteral("import QtQuick; import Lodestar.Kit; Rectangle { color: \"white\"; width: 60; "
+                           "height: label.height; Label { id: label; text: \"H\"; size: %1; "
+                           "color: \"black\" } }")
+                .arg(size)
+                .toUtf8(),
+            QUrl());
+        view.setContent({}, &component, component.create());
+        view.show();
+        ASSERT_TRUE(waitFor([&] { return view.isExposed(); }));
+        const QImage image = view.grabWindow();
+        int top = -1;
+        int bottom = -1;
+        for (int y = 0; y < image.height(); ++y) {
+            for (int x = 0; x < image.width(); ++x) {
+                if (qGray(image.pixel(x, y)) < 128) {
+                    top = top < 0 ? y : top;
+                    bottom = y;
+                }
+            }
+        }
+        ASSERT_GE(top, 0) << size;
+        EXPECT_NEAR(top, image.height() - 1 - bottom, 1) << size;
+    }
 }
 
 TEST_F(ThemeTest, EveryDrawingIsReadAndTinted)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Adapters/DesktopSettings.h"
 
+#include "Application/Adapters/SessionBus.h"
 #include "Platform/Queues/DispatchQueue.h"
 #include "Platform/Queues/MainQueue.h"
 
@@ -9,7 +10,6 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusVariant>
-#include <QFileInfo>
 #include <QMap>
 #include <QPointer>
 #include <QVariantMap>
@@ -43,18 +43,14 @@ constexpr std::array<MotionSetting, 3> motionSettings = {{
      }},
 }};
 
-/// Asking for a bus that is not there may start one.
-bool hasSessionBus()
-{
-    return !qEnvironmentVariableIsEmpty("DBUS_SESSION_BUS_ADDRESS") ||
-           (!qEnvironmentVariableIsEmpty("XDG_RUNTIME_DIR") &&
-            QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus")));
-}
+/// Of those desktops whose portal tells: it is no factor of what else is drawn.
+constexpr QLatin1String textGroup("org.gnome.desktop.interface");
+constexpr QLatin1String textKey("text-scaling-factor");
 
 } // namespace
 
-DesktopSettings::DesktopSettings(MotionHandler motionReduced, QObject* parent)
-    : QObject(parent), m_motionReduced(std::move(motionReduced))
+DesktopSettings::DesktopSettings(MotionHandler motionReduced, TextHandler textScaled, QObject* parent)
+    : QObject(parent), m_motionReduced(std::move(motionReduced)), m_textScaled(std::move(textScaled))
 {
 }
 
@@ -100,11 +96,9 @@ void DesktopSettings::follow(const QDBusConnection& bus)
             return;
         }
         const auto all = qdbus_cast<QMap<QString, QVariantMap>>(values.front());
-        for (const MotionSetting& each : motionSettings) {
-            const QVariantMap group = all.value(QString::fromLatin1(each.group));
-            if (group.contains(QString::fromLatin1(each.key))) {
-                take(QString::fromLatin1(each.group), QString::fromLatin1(each.key),
-                     group.value(QString::fromLatin1(each.key)));
+        for (auto group = all.begin(); group != all.end(); ++group) {
+            for (auto value = group->begin(); value != group->end(); ++value) {
+                take(group.key(), value.key(), *value);
             }
         }
     });
@@ -121,6 +115,11 @@ void DesktopSettings::take(const QString& group, const QString& key, const QVari
         if (group == QLatin1String(each.group) && key == QLatin1String(each.key)) {
             m_motionReduced(each.isReduced(value));
         }
+    }
+    bool isNumber = false;
+    const double scale = group == textGroup && key == textKey ? value.toDouble(&isNumber) : 0;
+    if (isNumber) {
+        m_textScaled(scale);
     }
 }
 

@@ -1,13 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Adapters/SecretService.h"
 
+#include "Application/Adapters/SessionBus.h"
+
 #include <QDBusArgument>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
-#include <QFileInfo>
 #include <QMap>
 
 namespace lodestar
@@ -19,12 +20,6 @@ using Attributes = QMap<QString, QString>;
 
 constexpr auto serviceName = "org.freedesktop.secrets";
 constexpr auto rootPath = "/org/freedesktop/secrets";
-
-bool isBusRunning()
-{
-    return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
-           QFileInfo::exists(qEnvironmentVariable("XDG_RUNTIME_DIR") + QStringLiteral("/bus"));
-}
 
 /// There the keychain's library keeps items in a wallet of another kind.
 bool isWalletDesktop()
@@ -119,7 +114,7 @@ SecretAccess secretAccess(const SecretQuestion& question, std::chrono::milliseco
     if (isWalletDesktop()) {
         return SecretAccess::Unknown;
     }
-    if (!question.mayPrompt && !isBusRunning()) {
+    if (!question.mayPrompt && !hasSessionBus()) {
         return SecretAccess::NoService;
     }
     const Bus bus(limit);

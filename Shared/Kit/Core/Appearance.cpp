@@ -20,11 +20,24 @@ namespace lodestar
 namespace
 {
 
-/// Desktops tell their text size as a resolution. Screens that merely measure a little over 96 do not mean larger text.
-double systemTextScale()
+/// Screens that merely measure a little over 96 do not mean larger text.
+double inQuarters(double scale)
+{
+    return std::round(scale * 4) / 4;
+}
+
+/// Where everything is drawn in the screen's own points, desktops tell their text size as a resolution.
+double textScaleOfScreen()
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return screen != nullptr ? std::round(screen->logicalDotsPerInch() / 96 * 4) / 4 : 1;
+    return screen != nullptr ? inQuarters(screen->logicalDotsPerInch() / 96) : 1;
+}
+
+/// An X server has one number for the text's size and the screen's density, Xft.dpi, their product; the platform draws
+/// everything larger by it, text among it, before anything can be asked. There the desktop's own factor comes too late.
+bool isTextScaledByPlatform()
+{
+    return QGuiApplication::platformName() == QLatin1String("xcb");
 }
 
 } // namespace
@@ -54,7 +67,8 @@ bool Appearance::isDark() const
 
 double Appearance::textScale() const
 {
-    return std::clamp(m_textScale ? *m_textScale : systemTextScale(), 1.0, 2.0);
+    const double ofDesktop = isTextScaledByPlatform() ? 1 : inQuarters(m_systemTextScale);
+    return std::clamp(m_textScale.value_or(std::max(textScaleOfScreen(), ofDesktop)), 1.0, 2.0);
 }
 
 bool Appearance::isMirrored() const
@@ -78,6 +92,13 @@ double Appearance::textDrop(int pixelSize, double lineHeight, double devicePixel
 void Appearance::setSystemReducedMotion(bool reduced)
 {
     if (std::exchange(m_systemReducedMotion, reduced) != reduced) {
+        Q_EMIT changed();
+    }
+}
+
+void Appearance::setSystemTextScale(double scale)
+{
+    if (std::exchange(m_systemTextScale, scale) != scale) {
         Q_EMIT changed();
     }
 }

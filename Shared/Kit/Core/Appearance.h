@@ -42,6 +42,7 @@ public:
 
     /// What the desktop's settings say, once they are heard.
     void setSystemReducedMotion(bool reduced);
+    void setSystemTextScale(double scale);
 
     void overrideDark(std::optional<bool> dark);
     void overrideTextScale(std::optional<double> scale);
@@ -61,6 +62,7 @@ private:
     std::optional<bool> m_mirrored;
     std::optional<bool> m_reducedMotion;
     bool m_systemReducedMotion = false;
+    double m_systemTextScale = 1;
 };
 
 } // namespace lodestar
