@@ -36,6 +36,14 @@ std::string allRequests(Simulator& simulator, const Words& /*words*/)
     return lines;
 }
 
+std::string reports(Simulator& simulator, const Words& /*words*/)
+{
+    if (simulator.receiver() == nullptr) {
+        throw std::invalid_argument("there is no receiver of reports; --receiver makes one");
+    }
+    return simulator.receiver()->list();
+}
+
 std::string statistics(Simulator& simulator, const Words& words)
 {
     const Statistics of =
@@ -107,6 +115,7 @@ const std::map<std::string, Command, std::less<>>& commands()
          [](Simulator& simulator, const Words& words) {
              return "certificate " + simulator.certificateFingerprint(numberAt(words, 1)) + "\n";
          }},
+        {"reports", reports},
         {"requests", allRequests},
         {"statistics", statistics},
         {"summary", summary},
@@ -124,6 +133,9 @@ std::string Control::greeting() const
     for (int i = 0; i < m_simulator.consoleCount(); ++i) {
         lines.append("console ").append(std::to_string(i)).append(1, ' ').append(m_simulator.address(i));
         lines.append(1, ' ').append(user).append(1, ' ').append(password).append(1, '\n');
+    }
+    if (m_simulator.receiver() != nullptr) {
+        lines.append("receiver ").append(m_simulator.receiver()->url()).append(1, '\n');
     }
     return lines + "ready\n";
 }

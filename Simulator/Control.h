@@ -16,7 +16,7 @@ class Control
 public:
     Control(EventLoop& loop, Simulator& simulator) : m_loop(loop), m_simulator(simulator) {}
 
-    /// The addresses with their credentials, and "ready".
+    /// The addresses with their credentials, the receiver's address if there is one, and "ready".
     std::string greeting() const;
     /// Takes input as it comes and answers every line that has become whole.
     std::string feed(std::string_view bytes);

@@ -19,6 +19,8 @@ std::string_view reasonOf(int status)
     switch (status) {
     case 200:
         return "OK";
+    case 201:
+        return "Created";
     case 307:
         return "Temporary Redirect";
     case 400:

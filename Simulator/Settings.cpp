@@ -56,6 +56,7 @@ const std::map<std::string, Setter, std::less<>>& setters()
         {"--round-trip", numberSetter(&Settings::roundTrip)},
         {"--seed", numberSetter(&Settings::seed)},
         {"--record-cap", numberSetter(&Settings::recordCap)},
+        {"--receiver", textSetter(&Settings::receiver)},
         {"--user", textSetter(&Settings::user)},
         {"--password", textSetter(&Settings::password)},
         {"--address",
@@ -93,6 +94,10 @@ std::vector<std::string> argumentsOf(const Settings& settings)
     };
     if (!settings.gzip) {
         arguments.emplace_back("--no-gzip");
+    }
+    if (!settings.receiver.empty()) {
+        arguments.emplace_back("--receiver");
+        arguments.push_back(settings.receiver);
     }
     for (const std::string& fault : settings.faults) {
         arguments.emplace_back("--fault");
@@ -146,6 +151,8 @@ std::string_view helpText()
   --record-cap N    how many requests are remembered (100000)
   --fault NAME[:WHAT][:CONSOLE]
                     a fault from the start, for one console or all; may be repeated
+  --receiver FILE   take feedback reports in as well, on port 12444 of the first address; the certificate that
+                    vouches for it is written into the file, for SSL_CERT_FILE
   --control         end when standard input ends
   --write-demo DIR  write the demonstration feeds and end
 
@@ -162,12 +169,14 @@ Commands on standard input, each answered with lines that end in "ok" or "error 
   round-trip MS
   requests    clear-requests      statistics [CONSOLE]              summary CONSOLE
   stop CONSOLE    start CONSOLE   certificate CONSOLE               feed CONSOLE TYPE [BODY]
+  reports
   quit
 
 Trying it by hand:
   BODY='<LogonRequest><UserID>operator</UserID><Password>lantern-7-quay</Password></LogonRequest>'
   curl -sk -X PUT --data "$BODY" https://127.0.0.2:12443/rest/api/web/Logon
   curl -sk -H "X-API-Session: KEY" https://127.0.0.2:12443/rest/api/uom/ManagedSystem
+  curl -sk https://127.0.0.2:12444/reports      the reports that came; the first one's archive is at .../reports/1
 )";
 }
 

@@ -45,6 +45,8 @@ struct Settings {
     bool gzip = true;
     /// How many requests are kept, the oldest dropped first; 0 keeps none.
     std::size_t recordCap = 100000;
+    /// Where the receiver of reports leaves its certificate; empty for no receiver.
+    std::string receiver;
     /// Faults present from the start, as `Fault` parses them.
     std::vector<std::string> faults;
 };

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Simulator/Simulator.h"
 
+#include "Simulator/Listening.h"
+
 #include <algorithm>
-#include <arpa/inet.h>
 #include <array>
 #include <cerrno>
-#include <netinet/tcp.h>
 #include <stdexcept>
 #include <sys/epoll.h>
 #include <sys/resource.h>
@@ -30,28 +30,6 @@ void raiseDescriptorLimit()
         limit.rlim_cur = limit.rlim_max;
         setrlimit(RLIMIT_NOFILE, &limit);
     }
-}
-
-int listeningSocket(const std::string& address)
-{
-    const int descriptor = ::socket(AF_INET, SOCK_STREAM | SOCK_NONBLOCK | SOCK_CLOEXEC, 0);
-    if (descriptor < 0) {
-        throw std::system_error(errno, std::generic_category(), "socket");
-    }
-    // Lets a stopped console come back while old connections still linger; it does not let two listen at once.
-    const int on = 1;
-    setsockopt(descriptor, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
-    sockaddr_in name{};
-    name.sin_family = AF_INET;
-    name.sin_port = htons(consolePort);
-    inet_pton(AF_INET, address.c_str(), &name.sin_addr);
-    if (::bind(descriptor, reinterpret_cast<const sockaddr*>(&name), sizeof name) != 0 ||
-        ::listen(descriptor, SOMAXCONN) != 0) {
-        const int error = errno;
-        ::close(descriptor);
-        throw std::system_error(error, std::generic_category(), address);
-    }
-    return descriptor;
 }
 
 // Blocks of 256 addresses from 127.16.0.2 on, scattered by the process, so that processes seldom meet; one that finds
@@ -88,6 +66,9 @@ Simulator::Simulator(EventLoop& loop, Settings settings)
     }
     for (const std::string& fault : m_settings.faults) {
         setFault(Fault::parse(fault));
+    }
+    if (!m_settings.receiver.empty()) {
+        m_receiver = std::make_unique<Receiver>(m_loop, address(0), m_settings.receiver);
     }
 }
 
@@ -140,7 +121,7 @@ void Simulator::listenEverywhere()
 void Simulator::listenOn(Station& station)
 {
     if (station.listener < 0) {
-        station.listener = listeningSocket(station.console.address());
+        station.listener = listeningSocket(station.console.address(), consolePort);
         station.watch = m_loop.watch(station.listener, EPOLLIN, [this, &station](std::uint32_t) { accept(station); });
     }
 }
@@ -177,12 +158,10 @@ void Simulator::accept(Station& station)
     m_buried.clear();
     m_buriedLinks.clear();
     while (station.listener >= 0) {
-        const int descriptor = ::accept4(station.listener, nullptr, nullptr, SOCK_NONBLOCK | SOCK_CLOEXEC);
+        const int descriptor = acceptedSocket(station.listener);
         if (descriptor < 0) {
             return;
         }
-        const int on = 1;
-        setsockopt(descriptor, IPPROTO_TCP, TCP_NODELAY, &on, sizeof on);
         adopt(station, m_settings.roundTrip > 0 ? farEnd(descriptor) : descriptor);
     }
 }

@@ -6,6 +6,7 @@
 #include "Simulator/DelayedLink.h"
 #include "Simulator/EventLoop.h"
 #include "Simulator/Protocol.h"
+#include "Simulator/Receiver.h"
 
 #include <deque>
 #include <memory>
@@ -55,6 +56,8 @@ public:
     Statistics statistics(std::optional<int> console) const;
     InventorySummary summary(int console) const;
     std::string certificateFingerprint(int console);
+    /// Null where the settings ask for none.
+    const Receiver* receiver() const { return m_receiver.get(); }
 
 private:
     /// A console with its sockets.
@@ -99,6 +102,7 @@ private:
     /// Closed connections, kept until the call that closed them has returned.
     std::vector<std::unique_ptr<Connection>> m_buried;
     std::vector<std::unique_ptr<DelayedLink>> m_buriedLinks;
+    std::unique_ptr<Receiver> m_receiver;
 };
 
 } // namespace lodestar::simulator

@@ -41,7 +41,11 @@ void SimulatorProcess::start(const Settings& settings)
     arguments.insert(arguments.begin(), {LODESTAR_SIMULATOR_PROGRAM, "--control"});
     spawn(arguments);
     for (const std::string& line : linesUntil("ready")) {
-        m_addresses.push_back(splitWords(line).at(2));
+        if (const auto words = splitWords(line); words.at(0) == "receiver") {
+            m_receiver = words.at(1);
+        } else {
+            m_addresses.push_back(words.at(2));
+        }
     }
 }
 

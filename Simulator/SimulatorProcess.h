@@ -64,6 +64,9 @@ public:
     Statistics statistics(std::optional<int> console = std::nullopt);
     std::uint64_t handshakes(std::optional<int> console = std::nullopt) { return statistics(console).handshakes; }
     InventorySummary summary(int console = 0);
+    /// Where reports are sent; empty where the settings ask for no receiver. What it has received, a line each.
+    const std::string& receiver() const { return m_receiver; }
+    std::vector<std::string> reports() { return command("reports"); }
     /// SHA-256 of the certificate that the console presents now, in lower-case hexadecimal.
     std::string certificateFingerprint(int console = 0);
 
@@ -78,6 +81,7 @@ private:
     std::mutex m_mutex;
     Settings m_settings;
     std::vector<std::string> m_addresses;
+    std::string m_receiver;
     pid_t m_pid = -1;
     int m_channel = -1;
     std::string m_received;

@@ -14,6 +14,7 @@
 #include "Application/PrivacyCover.h"
 #include "Application/TerminationSignals.h"
 #include "Application/WindowPlace.h"
+#include "Feedback/ReportSender.h"
 #include "Feedback/VireoLogger.h"
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/MainLoop.h"
@@ -40,6 +41,7 @@ namespace
 
 struct Options {
     QString dataFolder;
+    QString reportsTo;
     bool fullScreen = false;
     bool quitAfterFirstFrame = false;
 };
@@ -54,14 +56,18 @@ Options parseOptions(const QGuiApplication& application)
     const QCommandLineOption data(QStringLiteral("data"),
                                   QCoreApplication::translate("main", "Keep everything in this folder."),
                                   QStringLiteral("folder"));
+    const QCommandLineOption reportsTo(
+        QStringLiteral("reports-to"),
+        QCoreApplication::translate("main", "Offer to send feedback and crash reports to this https address."),
+        QStringLiteral("address"));
     const QCommandLineOption fullScreen(QStringLiteral("full-screen"),
                                         QCoreApplication::translate("main", "Fill the screen."));
     const QCommandLineOption firstFrame(
         QStringLiteral("quit-after-first-frame"),
         QCoreApplication::translate("main", "Leave once the first screen is drawn, for measuring."));
-    parser.addOptions({data, fullScreen, firstFrame});
+    parser.addOptions({data, reportsTo, fullScreen, firstFrame});
     parser.process(application);
-    return {parser.value(data), parser.isSet(fullScreen), parser.isSet(firstFrame)};
+    return {parser.value(data), parser.value(reportsTo), parser.isSet(fullScreen), parser.isSet(firstFrame)};
 }
 
 /// Makes the folder. Everything that is kept lies below it.
@@ -101,6 +107,10 @@ int main(int argc, char** argv)
     QGuiApplication::setDesktopFileName(QStringLiteral("org.ornis.Lodestar"));
     const Options options = parseOptions(application);
     UIFont::install();
+
+    if (!options.reportsTo.isEmpty()) {
+        setFeedbackAddress(options.reportsTo.toStdString());
+    }
 
     const MainLoop mainLoop;
     const TerminationSignals terminationSignals([] { QGuiApplication::quit(); });

@@ -7,6 +7,7 @@
 
 #include <fmt/core.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace lodestar
@@ -23,9 +24,21 @@ Error senderError(int code, std::string text)
     return {std::string(reportErrorDomain), code, std::move(text), {}, nullptr};
 }
 
+/// Tells the progress once a percent: a large body goes in thousands of pieces.
+std::function<void(std::size_t)> percentOf(std::size_t whole, std::function<void(int)> progress)
+{
+    return [whole, progress = std::move(progress), told = 0](std::size_t sent) mutable {
+        const int percent = static_cast<int>(std::min(sent, whole) * 100 / whole);
+        if (percent > told) {
+            told = percent;
+            progress(percent);
+        }
+    };
+}
+
 /// Sends the body over TLS or not at all.
 std::function<void()> post(const std::string& address, const char* type, std::string body, const OperationQueue& queue,
-                           std::function<void(Result<void>)> completion)
+                           std::function<void(Result<void>)> completion, std::function<void(int)> progress = {})
 {
     if (!address.starts_with("https://")) {
         queue.addOperation([completion = std::move(completion)] {
@@ -39,6 +52,9 @@ std::function<void()> post(const std::string& address, const char* type, std::st
     request.headers.setValue("Content-Type", type);
     request.headers.setValue("X-Feedback-Session", VireoLogger::sessionIdentifier());
     request.body = std::move(body);
+    if (progress) {
+        request.bodySent = percentOf(request.body.size(), std::move(progress));
+    }
     return sendAsynchronousRequest(
         std::move(request), queue, [completion = std::move(completion)](Result<URLLoad> load) {
             if (!load) {
@@ -49,6 +65,12 @@ std::function<void()> post(const std::string& address, const char* type, std::st
                 completion({});
             }
         });
+}
+
+std::string& address()
+{
+    static std::string address = LODESTAR_FEEDBACK_URL;
+    return address;
 }
 
 /// As a JSON string.
@@ -66,8 +88,12 @@ std::string quoted(const std::string& text)
 
 const std::string& feedbackAddress()
 {
-    static const std::string address = LODESTAR_FEEDBACK_URL;
-    return address;
+    return address();
+}
+
+void setFeedbackAddress(std::string address_)
+{
+    address() = std::move(address_);
 }
 
 void startFeedbackSession(const FeedbackSession& session, const std::string& address, const OperationQueue& queue,
@@ -81,10 +107,11 @@ void startFeedbackSession(const FeedbackSession& session, const std::string& add
 }
 
 std::function<void()> sendReport(const ReportBundle& bundle, const std::string& address, const OperationQueue& queue,
-                                 std::function<void(Result<void>)> completion)
+                                 std::function<void(Result<void>)> completion,
+                                 std::function<void(int percent)> progress)
 {
     return post(address, "application/zip", zipArchive("lodestar-report-" + bundle.identifier, reportFiles(bundle)),
-                queue, std::move(completion));
+                queue, std::move(completion), std::move(progress));
 }
 
 } // namespace lodestar

@@ -11,8 +11,10 @@
 namespace lodestar
 {
 
-/// Where this build sends reports, "https://…"; empty, as by default, when it sends none.
+/// Where reports are sent, "https://…"; empty, as by default, when they are sent nowhere. The build says it, unless the
+/// run was told another: on the main thread, before anything else asks.
 const std::string& feedbackAddress();
+void setFeedbackAddress(std::string address);
 
 /// A run of the program as the feedback service knows it.
 struct FeedbackSession {
@@ -31,8 +33,12 @@ void startFeedbackSession(const FeedbackSession& session, const std::string& add
 /// queue, with success when the server answered with a status of 2xx. A header names the session it is sent in, which
 /// may be a later one than the report tells about.
 ///
+/// `progress` is told how much of it has gone, in percent, each time that has grown, on the network thread; it must not
+/// block. All may have gone long before the server answers.
+///
 /// The returned function cancels, from any thread, and does nothing once it has ended; the completion still runs.
 std::function<void()> sendReport(const ReportBundle& bundle, const std::string& address, const OperationQueue& queue,
-                                 std::function<void(Result<void>)> completion);
+                                 std::function<void(Result<void>)> completion,
+                                 std::function<void(int percent)> progress = {});
 
 } // namespace lodestar

@@ -2,14 +2,18 @@
 #include "Feedback/ReportSender.h"
 #include "Feedback/VireoLogger.h"
 #include "Platform/URLLoading/URLConnection.h"
+#include "Simulator/SimulatorProcess.h"
 #include "Tests/Platform/ScriptedServer.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 #include <openssl/pem.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <fstream>
+#include <functional>
 #include <future>
 
 namespace lodestar
@@ -24,16 +28,27 @@ class VouchedLeaf : public testing::Environment
 public:
     void SetUp() override
     {
+        simulator::Settings settings;
+        settings.receiver = testing::TempDir() + "lodestar-report-receiver-" + std::to_string(getpid()) + ".pem";
+        service.start(settings);
         m_path = testing::TempDir() + "lodestar-report-authority-" + std::to_string(getpid()) + ".pem";
         std::FILE* file = std::fopen(m_path.c_str(), "w");
         ASSERT_NE(file, nullptr);
         EXPECT_EQ(PEM_write_X509(file, leaf->certificate.get()), 1);
+        std::ifstream receiver(settings.receiver);
+        std::fputs(std::string(std::istreambuf_iterator(receiver), {}).c_str(), file);
         std::fclose(file);
+        std::remove(settings.receiver.c_str());
         setenv("SSL_CERT_FILE", m_path.c_str(), 1);
     }
-    void TearDown() override { std::remove(m_path.c_str()); }
+    void TearDown() override
+    {
+        service.stop();
+        std::remove(m_path.c_str());
+    }
 
     const test::ScriptedServer::LeafRef leaf = simulator::makeLeaf("127.0.0.1", simulator::Leaf::Kind::Valid);
+    simulator::SimulatorProcess service;
 
 private:
     std::string m_path;
@@ -79,25 +94,27 @@ TEST(ReportSenderTest, OnlyAVouchedServersGoodAnswerOverTlsCountsAsSent)
     EXPECT_EQ(feedbackAddress(), "") << "no build sends anything unless it is told where to";
 }
 
-TEST(ReportSenderTest, ASessionIsAnnouncedUnderTheKeyAndReportsNameIt)
+TEST(ReportSenderTest, TheServiceKnowsTheSessionAndHowMuchHasGoneIsTold)
 {
-    const std::string good = "HTTP/1.1 201 Created\r\nContent-Length: 0\r\n\r\n";
     const OperationQueue queue;
+    const std::string& address = vouched().service.receiver();
     std::promise<bool> started;
-    test::ScriptedServer sessions(good, test::ScriptedServer::Ending::Notice, "127.0.0.1", vouched().leaf);
-    startFeedbackSession({"k\"ey", "5e55", 2}, sessions.url() + "reports", queue,
+    startFeedbackSession({"k\"ey", "5e55", 2}, address, queue,
                          [&](const Result<void>& outcome) { started.set_value(outcome.ok()); });
-    const std::string announced = sessions.request();
-    EXPECT_TRUE(announced.starts_with("POST /reports/sessions ")) << announced;
-    EXPECT_THAT(announced, testing::EndsWith(R"({"key":"k\u0022ey","session":"5e55","mode":2})"));
     EXPECT_TRUE(started.get_future().get());
 
+    ReportBundle bundle;
+    bundle.picture = std::string(std::size_t{3} << 20, '\x55');
     std::promise<bool> sent;
-    test::ScriptedServer reports(good, test::ScriptedServer::Ending::Notice, "127.0.0.1", vouched().leaf);
-    sendReport({}, reports.url() + "reports", queue,
-               [&](const Result<void>& outcome) { sent.set_value(outcome.ok()); });
-    EXPECT_THAT(reports.request(), testing::HasSubstr("X-Feedback-Session: " + VireoLogger::sessionIdentifier()));
+    std::vector<int> told;
+    sendReport(
+        bundle, address, queue, [&](const Result<void>& outcome) { sent.set_value(outcome.ok()); },
+        [&](int percent) { told.push_back(percent); });
     EXPECT_TRUE(sent.get_future().get());
+    const std::string inSession = " bytes, sent in session " + VireoLogger::sessionIdentifier();
+    EXPECT_THAT(vouched().service.reports(),
+                testing::ElementsAre(R"(session {"key":"k\u0022ey","session":"5e55","mode":2})",
+                                     testing::AllOf(testing::StartsWith("report 1, 3"), testing::EndsWith(inSession))));
 }
 
 TEST(ReportSenderTest, WhatIsUnderWayCanBeCancelled)

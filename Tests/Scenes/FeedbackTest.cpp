@@ -180,6 +180,39 @@ TEST_F(FeedbackTest, AKeptReportIsSentAsOftenAsItFails)
     EXPECT_EQ(stage.reports().list().size(), 1U) << "still kept";
 }
 
+TEST_F(FeedbackTest, ACrashReportIsReadBeforeItIsSentAndThenTheNextIsAskedAbout)
+{
+    stage.show({390, 844}, fleet());
+    FeedbackSetup setup;
+    setup.store = stage.reports();
+    setup.crashFolder = stage.reports().folder() + "/../Crashes";
+    setup.address = "https://127.0.0.1:9/reports";
+    stage.feedback().setUp(setup);
+    for (const char* what : {"the first crash", "the second crash"}) {
+        ReportBundle crash;
+        crash.kind = Report::Kind::Crash;
+        crash.note = what;
+        ASSERT_TRUE(stage.reports().save(crash).ok());
+    }
+    stage.feedback().offerCrashes();
+    for (std::size_t left = 2; left > 0; --left) {
+        ASSERT_TRUE(stage.waitFor([this] { return button("Keep") != nullptr && button("Send") != nullptr; })) << left;
+        stage.settle(200); // its buttons find their places with the first frame
+        EXPECT_TRUE(button("Keep")->hasActiveFocus()) << "what costs nothing";
+        ASSERT_EQ(stage.reports().unanswered().size(), left);
+        const QString what = QString::fromStdString(stage.reports().unanswered().front().note);
+        stage.feedback().alert()->choose(0);
+        ASSERT_NE(stage.feedback().screen(), nullptr);
+        ASSERT_TRUE(stage.waitFor([&] { return text(what) != nullptr; })) << left << what.toStdString();
+        click(stage.item("actionButton"));
+        ASSERT_TRUE(stage.waitFor([this] { return button("Try Again") != nullptr; }));
+        click(button("OK"));
+        EXPECT_TRUE(stage.waitFor([this] { return stage.feedback().screen() == nullptr; }));
+    }
+    EXPECT_FALSE(stage.feedback().alert()->isPresented());
+    EXPECT_EQ(stage.reports().list().size(), 2U) << "kept, since they were not sent";
+}
+
 TEST_F(FeedbackTest, WhatCannotBeKeptStaysOnScreenAndNothingIsLeftUnasked)
 {
     stage.show({390, 844}, fleet());

@@ -3,6 +3,7 @@
 
 #include "Feedback/CrashCollector.h"
 #include "Feedback/UI/FeedbackViewController.h"
+#include "Feedback/UI/ReportViewController.h"
 #include "Kit/Core/NavigationController.h"
 #include "Platform/Queues/DispatchQueue.h"
 #include "Platform/Queues/MainQueue.h"
@@ -115,19 +116,56 @@ void FeedbackHost::askAboutCrashes()
     }
     need();
     const auto count = static_cast<int>(m_crashes.size());
+    // What a person has begun is not laid aside for it; the list of reports sends as well.
+    const bool sends = !m_setup->address.empty() && m_screen == nullptr;
+    std::vector<MenuChoice> choices = {{tr("Keep")}, {tr("Delete"), true}};
+    if (sends) {
+        choices.insert(choices.begin(), {tr("Send")});
+    }
+    const int keep = sends ? 1 : 0;
     m_alert->present(
         tr("Lodestar ended unexpectedly"),
         count == 1
             ? tr("A report was made on this device. It holds no passwords and is sent nowhere by itself.")
             : tr("%1 reports were made on this device. They hold no passwords and are sent nowhere by themselves.")
                   .arg(count),
-        {{tr("Keep")}, {tr("Delete"), true}}, 0, [this](int index) {
-            for (const Report& crash : std::exchange(m_crashes, {})) {
-                if (index == 0 || !m_setup->store.remove(crash.identifier)) {
-                    m_setup->store.keep(crash.identifier);
-                }
+        std::move(choices), keep, [this, keep](int index) {
+            if (index < keep && m_screen == nullptr) {
+                reviewFirstCrash();
+            } else {
+                answerAboutCrashes(index <= keep);
             }
         });
+}
+
+void FeedbackHost::answerAboutCrashes(bool kept)
+{
+    for (const Report& crash : std::exchange(m_crashes, {})) {
+        if (kept || !m_setup->store.remove(crash.identifier)) {
+            m_setup->store.keep(crash.identifier);
+        }
+    }
+}
+
+/// Nothing is sent before its texts have been on the screen. Then the next one is asked about.
+void FeedbackHost::reviewFirstCrash()
+{
+    const std::string identifier = m_crashes.front().identifier;
+    m_crashes.erase(m_crashes.begin());
+    m_setup->store.keep(identifier);
+    const Result<ReportBundle> bundle = m_setup->store.read(identifier);
+    if (!bundle) {
+        askAboutCrashes(); // somebody took it away meanwhile
+        return;
+    }
+    auto review = makeController<ReportViewController>(m_setup, bundle.value());
+    review->setClose([host = QPointer<FeedbackHost>(this)] {
+        if (host) {
+            host->setScreen(nullptr);
+            host->askAboutCrashes();
+        }
+    });
+    setScreen(makeController<NavigationController>(std::move(review)));
 }
 
 } // namespace lodestar

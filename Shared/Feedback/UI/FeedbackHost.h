@@ -57,6 +57,8 @@ private:
     std::shared_ptr<ViewController> takeFromAside();
     void need();
     void askAboutCrashes();
+    void answerAboutCrashes(bool kept);
+    void reviewFirstCrash();
 
     std::shared_ptr<const FeedbackSetup> m_setup;
     std::shared_ptr<ViewController> m_screen;

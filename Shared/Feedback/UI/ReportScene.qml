@@ -13,7 +13,19 @@ PageScaffold {
 
     readonly property size drawn: report.picture !== null ? report.picture.pictureSize : Qt.size(0, 0)
 
+    Keys.onEscapePressed: (event) => scene.close(event)
+    Keys.onBackPressed: (event) => scene.close(event)
+
+    function close(event: var) {
+        event.accepted = report.closes;
+        if (report.closes) {
+            report.leave();
+        }
+    }
+
     bar: NavigationBar {
+        id: navigationBar
+
         controller: scene.controller
         scrolled: list.contentY - list.start > 0.5
         trailing: [
@@ -39,6 +51,17 @@ PageScaffold {
                 onClicked: scene.report.act()
             }
         ]
+
+        IconButton {
+            objectName: "closeButton"
+            iconName: "close"
+            text: qsTr("Close")
+            visible: scene.report.closes
+            anchors.left: parent.left
+            anchors.leftMargin: navigationBar.side
+            anchors.verticalCenter: parent.verticalCenter
+            onClicked: scene.report.leave()
+        }
     }
 
     ListView {

@@ -46,8 +46,12 @@ ReportViewController::ReportViewController(std::shared_ptr<const FeedbackSetup> 
 void ReportViewController::offerSending(const ReportBundle& bundle)
 {
     setAction(tr("Send"), [this, bundle] {
-        sendKeptReport(self<ReportViewController>(), *m_alert, bundle, m_setup->address,
-                       [this, bundle] { offerSending(bundle); });
+        sendKeptReport(self<ReportViewController>(), *m_alert, bundle, m_setup->address, [this, bundle] {
+            offerSending(bundle);
+            if (m_close) {
+                m_close();
+            }
+        });
     });
 }
 
@@ -55,6 +59,16 @@ void ReportViewController::setAction(const QString& title, std::function<void()>
 {
     m_actionTitle = title;
     m_action = std::move(action);
+}
+
+void ReportViewController::leave()
+{
+    const auto keep = shared_from_this();
+    if (m_close) {
+        m_close();
+    } else {
+        goBack();
+    }
 }
 
 void ReportViewController::act()
@@ -85,7 +99,7 @@ void ReportViewController::deleteReport()
         }
         const Result<void> removed = m_setup->store.remove(m_identifier);
         if (removed) {
-            goBack();
+            leave();
         } else {
             m_alert->present(tr("The report could not be deleted"), errorText(removed.error()), {{tr("OK")}}, 0, {});
         }

@@ -22,6 +22,7 @@ class ReportViewController : public lodestar::ViewController
     Q_PROPERTY(lodestar::Sketch* picture READ picture CONSTANT)
     Q_PROPERTY(QString actionTitle READ actionTitle CONSTANT)
     Q_PROPERTY(bool kept READ isKept CONSTANT)
+    Q_PROPERTY(bool closes READ closes CONSTANT)
     Q_PROPERTY(lodestar::MenuOutlet* alert READ alert CONSTANT)
 
 public:
@@ -38,7 +39,13 @@ public:
     MenuOutlet* alert() const { return m_alert; }
     /// The button at the end of the bar; before the screen is shown.
     void setAction(const QString& title, std::function<void()> action);
+    /// For a screen that nothing lies beneath: what takes it away, also once the report was sent or deleted. Before the
+    /// screen is shown.
+    void setClose(std::function<void()> close) { m_close = std::move(close); }
+    bool closes() const { return m_close != nullptr; }
 
+    /// Leaves, wherever that leads.
+    Q_INVOKABLE void leave();
     Q_INVOKABLE void act();
     /// Writes the report as an archive where the person finds it, and says where.
     Q_INVOKABLE void exportReport();
@@ -53,6 +60,7 @@ private:
     Sketch* m_picture = nullptr;
     QString m_actionTitle;
     std::function<void()> m_action;
+    std::function<void()> m_close;
     MenuOutlet* m_alert = new MenuOutlet(this);
 };
 

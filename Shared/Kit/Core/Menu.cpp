@@ -25,7 +25,16 @@ void MenuOutlet::present(QString title, QString message, std::vector<MenuChoice>
     m_cancelIndex = cancelIndex;
     m_handler = std::move(handler);
     m_presented = true;
+    Q_EMIT messageChanged();
     Q_EMIT presentedChanged();
+}
+
+void MenuOutlet::setMessage(QString message)
+{
+    if (m_presented) {
+        m_message = std::move(message);
+        Q_EMIT messageChanged();
+    }
 }
 
 void MenuOutlet::dismiss()

@@ -37,7 +37,7 @@ class MenuOutlet : public QObject
     QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(bool presented READ isPresented NOTIFY presentedChanged)
     Q_PROPERTY(QString title READ title NOTIFY presentedChanged)
-    Q_PROPERTY(QString message READ message NOTIFY presentedChanged)
+    Q_PROPERTY(QString message READ message NOTIFY messageChanged)
     Q_PROPERTY(QVariantList choices READ choices NOTIFY presentedChanged)
     Q_PROPERTY(int cancelIndex READ cancelIndex NOTIFY presentedChanged)
 
@@ -55,12 +55,15 @@ public:
     /// Shows it, in the place of one that is up. The handler is called once with the choice, after the outlet has been
     /// taken down, so that it may show the next.
     void present(QString title, QString message, std::vector<MenuChoice> choices, int cancelIndex, Handler handler);
+    /// Another message in the same alert, whose buttons stay as they are. Nothing while none is up.
+    void setMessage(QString message);
     /// Takes it down without a choice.
     void dismiss();
     Q_INVOKABLE void choose(int index);
 
 Q_SIGNALS:
     void presentedChanged();
+    void messageChanged();
 
 private:
     bool m_presented = false;

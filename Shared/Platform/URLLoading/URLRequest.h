@@ -2,7 +2,9 @@
 #pragma once
 
 #include <chrono>
+#include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -42,9 +44,13 @@ struct URLRequest {
     std::string method = "GET";
     HTTPHeaders headers;
     std::string body;
-    /// Idle limit: the longest wait for the next byte. The whole transfer has the limits of `TransferLimits` besides.
+    /// Idle limit: the longest wait for the next byte. The whole transfer has the limits of `TransferLimits`
+    /// besides.
     std::chrono::milliseconds timeout = defaultTimeout;
     Urgency urgency = Urgency::Person;
+    /// Told how many of the body's bytes have gone, time and again, on the thread that drives the transfer; must not
+    /// block.
+    std::function<void(std::size_t sent)> bodySent;
 };
 
 /// What a server answered, without the body. Status 0 is "no response yet".
