@@ -181,6 +181,14 @@ TEST_F(ReaderTest, EveryKindOfControlDoesWhatAPressDoes)
     EXPECT_EQ(stage.tabs().selectedIndex(), 1);
     act("Corvels");
 
+    IntroView::showIntroViewInView(stage.tabs(), {});
+    ASSERT_TRUE(waitFor("Page 1 of 6"));
+    act("Page 1 of 6", QAccessibleActionInterface::decreaseAction());
+    act("Page 1 of 6", QAccessibleActionInterface::increaseAction());
+    act("Page 2 of 6", QAccessibleActionInterface::increaseAction());
+    EXPECT_TRUE(waitFor("Page 3 of 6"));
+    act("Skip");
+
     // A row that cannot be opened can be edited and deleted.
     const std::string offline = "Northfield Recovery Site, Offline, attention 0, events 0";
     EXPECT_FALSE(isPressed(find(offline)));

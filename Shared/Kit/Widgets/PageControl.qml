@@ -10,8 +10,9 @@ Item {
 
     property PageControlOutlet outlet: null
 
-    // What a screen reader turns pages by.
-    property int value: outlet !== null ? outlet.currentPage + 1 : 0
+    // What a screen reader turns pages by: the role brings the actions along, and they write it.
+    property int value: 0
+    readonly property int current: outlet !== null ? outlet.currentPage + 1 : 0
     readonly property int minimumValue: 1
     readonly property int maximumValue: outlet !== null ? outlet.numberOfPages : 1
     readonly property int stepSize: 1
@@ -20,8 +21,13 @@ Item {
     implicitHeight: Theme.target
     Accessible.role: Accessible.Slider
     Accessible.name: qsTr("Page %1 of %2").arg(value).arg(maximumValue)
-    Accessible.onIncreaseAction: control.turnTo(control.value)
-    Accessible.onDecreaseAction: control.turnTo(control.value - 2)
+    onCurrentChanged: value = current
+    onValueChanged: {
+        if (value !== current) {
+            turnTo(Math.max(minimumValue, Math.min(value, maximumValue)) - 1);
+            value = current;
+        }
+    }
 
     function turnTo(page: int) {
         if (outlet !== null) {
@@ -55,7 +61,7 @@ Item {
 
             Rectangle {
                 required property int index
-                readonly property bool current: index === control.value - 1
+                readonly property bool current: index === control.current - 1
 
                 width: current ? 20 : 8
                 height: 8

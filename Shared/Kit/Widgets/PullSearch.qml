@@ -4,7 +4,7 @@ import Lodestar.Kit
 
 /// The search field above a list's first row. It starts out of sight; a pull uncovers it, it rests there, and it goes as
 /// soon as the list is moved past it again.
-Rectangle {
+AccessibleItem {
     id: bar
 
     required property ListView list
@@ -23,11 +23,10 @@ Rectangle {
     y: list.originY - height - 8
     height: Math.max(40, Math.round(40 * Theme.barScale))
     visible: room && uncovered > 0
-    radius: Theme.fieldRadius
-    color: Theme.well
+    pressAction: true
     Accessible.role: Accessible.Button
     Accessible.name: qsTr("Search")
-    Accessible.onPressAction: bar.tapped()
+    onAccessiblePressed: bar.tapped()
 
     function settle() {
         if (room && uncovered > 0 && list.visible) {
@@ -84,6 +83,11 @@ Rectangle {
                 snap.restart();
             }
         }
+    }
+    Rectangle {
+        anchors.fill: parent
+        radius: Theme.fieldRadius
+        color: Theme.well
     }
     Icon {
         id: glass

@@ -41,6 +41,9 @@ T.Popup {
 
     function follow() {
         if (presentation !== null) {
+            if (!visible) {
+                keyboard.remember();
+            }
             statedHeight = presentation.height;
             bodyHeight = statedHeight;
             host.controller = presentation.controller;
@@ -64,7 +67,14 @@ T.Popup {
             sheetContent.firstField.edit(Qt.OtherFocusReason);
         }
     }
-    onClosed: host.controller = null
+    onClosed: {
+        host.controller = null;
+        keyboard.giveBack();
+    }
+
+    readonly property KeyboardReturn keyboard: KeyboardReturn {
+        inside: sheet.parent
+    }
 
     Connections {
         target: sheet.presentation
