@@ -202,6 +202,7 @@ FocusScope {
             enabled: scene.controller.resetPasswordButton.enabled
             text: qsTr("Reset Passcode and Erase All Data")
             size: Theme.stateSize
+            wraps: true
             opacity: scene.opening
             x: (page.width - width) / 2
             y: loginButton.y + loginButton.height + 8

@@ -77,6 +77,18 @@ TEST_F(InventoryTest, SearchByKeyboardMarksWhatItFinds)
     QQuickItem* const name = text("atlas-ledger-01");
     ASSERT_NE(name, nullptr);
     EXPECT_EQ(name->property("matchStart").toInt(), 6);
+    // The mark stays behind its letters, mirrored as well, at the name's other end.
+    for (const bool mirrored : {false, true}) {
+        Appearance::shared().overrideMirrored(mirrored);
+        stage.settle(50);
+        const QQuickItem* const drawn = text("atlas-ledger-01");
+        const QQuickItem* const mark = drawn->childItems().front();
+        ASSERT_TRUE(mark->isVisible());
+        const double fromStart = mirrored ? drawn->width() - mark->x() - mark->width() : mark->x();
+        EXPECT_GT(fromStart, 0);
+        EXPECT_LT(fromStart, drawn->property("implicitWidth").toDouble());
+    }
+    Appearance::shared().overrideMirrored(false);
     press(Qt::Key_Down);
     press(Qt::Key_Down);
     press(Qt::Key_Return);

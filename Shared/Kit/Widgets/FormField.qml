@@ -34,6 +34,13 @@ Item {
         input.forceActiveFocus(reason);
     }
 
+    /// Who only reads begins at the beginning; the caret stays where it is.
+    function showStart() {
+        if (!input.activeFocus) {
+            input.ensureVisible(0);
+        }
+    }
+
     Connections {
         target: field.outlet
         function onTextChanged() {
@@ -102,6 +109,9 @@ Item {
             }
         }
         onTextChanged: field.outlet.text = text
+        onActiveFocusChanged: field.showStart()
+        onContentSizeChanged: field.showStart()
+        onWidthChanged: field.showStart()
         EnterKey.type: field.next !== null ? Qt.EnterKeyNext : Qt.EnterKeyDone
         onAccepted: {
             // Whoever is told takes the keyboard away first.

@@ -25,6 +25,12 @@ Label {
         elideWidth: label.width
     }
     TextMetrics {
+        id: whole
+
+        font: label.font
+        text: label.shown
+    }
+    TextMetrics {
         id: before
 
         font: label.font
@@ -37,8 +43,9 @@ Label {
         text: label.matchStart >= 0 ? label.shown.substring(label.matchStart, label.matchStart + label.match.length) : ""
     }
     Rectangle {
+        // The contentWidth of a label that aligns its text to the right is all its width.
         readonly property real textStart: label.effectiveHorizontalAlignment === Text.AlignRight
-                                          ? label.width - label.contentWidth : 0
+                                          ? label.width - whole.advanceWidth : 0
 
         z: -1
         visible: label.matchStart >= 0

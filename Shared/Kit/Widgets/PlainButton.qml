@@ -11,6 +11,8 @@ Pressable {
     property real scaleFactor: Theme.textScale
     property real leftPadding: 12
     property real rightPadding: 12
+    /// A word that is a sentence stands on several lines where it must.
+    property bool wraps: false
     readonly property real wordWidth: label.implicitWidth
 
     implicitWidth: Math.max(Theme.target, wordWidth + leftPadding + rightPadding)
@@ -35,7 +37,8 @@ Pressable {
         x: button.leftPadding
         width: parent.width - button.leftPadding - button.rightPadding
         horizontalAlignment: Text.AlignHCenter
-        elide: Text.ElideRight
+        elide: button.wraps ? Text.ElideNone : Text.ElideRight
+        wrapMode: button.wraps ? Text.Wrap : Text.NoWrap
         Accessible.ignored: true
 
         Behavior on opacity {

@@ -46,6 +46,7 @@ Item {
             height: parent.height
             topPadding: Appearance.textDrop(font.pixelSize, height, Screen.devicePixelRatio)
             verticalAlignment: TextInput.AlignTop
+            horizontalAlignment: TextInput.AlignLeft
             font.family: Theme.family
             font.pixelSize: Math.round(Theme.bodySize * Theme.barScale)
             color: Theme.ink
