@@ -23,6 +23,7 @@ namespace
 constexpr std::chrono::milliseconds moment{50};
 constexpr std::size_t partOfFair = 3;
 constexpr std::size_t partOfSmall = 24;
+constexpr std::size_t partOfLittle = 2;
 constexpr std::size_t littleBody = 64UL * 1024;
 constexpr std::size_t leastPart = 64; ///< of the fair third: what any server gets while there is anything
 constexpr std::size_t largeLoad = 64UL * 1024 * 1024;
@@ -114,7 +115,8 @@ HeldBytes& HeldBytes::operator=(HeldBytes&& other) noexcept
 bool HeldBytes::add(std::size_t bytes, std::size_t heldLimit, Claim claim)
 {
     const std::lock_guard lock(books().mutex);
-    const bool little = claim == Claim::Small || m_count + bytes <= littleBody;
+    const bool isBeginning = m_count + bytes <= littleBody && books().total + bytes <= heldLimit / partOfLittle;
+    const bool little = claim == Claim::Small || isBeginning;
     if (claim == Claim::Fair && !m_fair) {
         return false;
     }
@@ -154,6 +156,19 @@ void HeldBytes::leaveFair()
     m_fair = false;
 }
 
+void HeldBytes::shrinkTo(std::size_t bytes)
+{
+    if (bytes < m_count) {
+        const std::size_t surplus = m_count - bytes;
+        m_count = bytes;
+        const std::lock_guard lock(books().mutex);
+        books().total -= surplus;
+        if (m_fair) {
+            books().subtractFair(m_server, surplus);
+        }
+    }
+}
+
 void HeldBytes::reset()
 {
     const std::size_t count = std::exchange(m_count, 0);
@@ -191,6 +206,13 @@ std::size_t HeldBytes::total()
 {
     const std::lock_guard lock(books().mutex);
     return books().total;
+}
+
+std::size_t HeldBytes::unusedFair(std::size_t heldLimit)
+{
+    const std::lock_guard lock(books().mutex);
+    const std::size_t forFair = heldLimit / partOfFair;
+    return forFair - std::min(books().fair, forFair);
 }
 
 std::size_t HeldBytes::mostOfOne(std::size_t heldLimit)

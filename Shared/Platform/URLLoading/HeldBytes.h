@@ -13,8 +13,8 @@ namespace lodestar
 /// Of the limit, bodies that come side by side have a third, shared fairly between their servers, until one finds no
 /// room. From then on one body at a time has the turn: it may have everything else, and the rest of the third when
 /// nobody could use it. So what others hold can never keep it from two thirds less what small bodies need, and each
-/// comes to its end. A 24th of the limit is left to what small bodies unpack to and to the first 64 KB of each, so that
-/// large ones do not hold up a logon.
+/// comes to its end. A 24th of the limit is left to what small bodies unpack to. The first 64 KB of each body may go
+/// beyond the third, up to half of the limit, so that large ones do not hold up a logon.
 class HeldBytes
 {
 public:
@@ -50,10 +50,14 @@ public:
     /// by a fair one no more: it has had its turn and waits for the next.
     bool add(std::size_t bytes, std::size_t heldLimit, Claim claim);
     std::size_t count() const { return m_count; }
+    /// Gives back what goes beyond so many bytes. Not once the body waits for its reader.
+    void shrinkTo(std::size_t bytes);
     void reset();
     void setDelivering();
 
     static std::size_t total();
+    /// How much of the third is left.
+    static std::size_t unusedFair(std::size_t heldLimit);
     /// The most that one body may hold when nothing else is held.
     static std::size_t mostOfOne(std::size_t heldLimit);
     /// Bytes of whole bodies whose readers have not come to them yet.

@@ -45,7 +45,14 @@ void PausedTransfers::turn(Clock::time_point now, std::size_t running, const std
     } else {
         m_lastMove = now; // A body that is being unpacked has the turn, and comes to its end.
     }
+    std::size_t room = HeldBytes::unusedFair(TransferLimits::shared().heldBytes);
     for (Transfer* const transfer : std::exchange(m_paused, {})) {
+        // There may be thousands, and it takes libcurl some time to try one.
+        if (transfer != m_favoured && transfer->nextHeldBytes() > room) {
+            m_paused.push_back(transfer);
+            continue;
+        }
+        room -= std::min(room, transfer->nextHeldBytes());
         // One that finds no room again has put itself back.
         if (!transfer->goOn()) {
             ended(*transfer);

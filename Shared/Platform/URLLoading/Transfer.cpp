@@ -16,6 +16,9 @@ namespace lodestar
 namespace
 {
 
+constexpr std::size_t ordinaryBody = 1024UL * 1024;
+constexpr std::size_t stepOfBody = 256UL * 1024;
+
 /// What a console needs for an answer that a screen shows, and no more: whoever waits behind it has a person, too.
 constexpr std::chrono::milliseconds longestPrecedence{250};
 
@@ -168,6 +171,7 @@ void Transfer::end(std::optional<Error> error)
     m_leavesConnection = !error && m_response.headers.value("Connection").value_or("") != "close";
     if (const auto client = std::exchange(m_client, nullptr); client != nullptr) {
         m_paused = false;
+        m_held.shrinkTo(m_bodyBytes);
         const ThreadPool::UrgentScope forPerson(urgency() == Urgency::Person);
         client->didEnd(std::move(error), std::move(m_held));
     }
@@ -302,11 +306,20 @@ bool Transfer::bodyBytes(std::span<const char> bytes)
     return true;
 }
 
-/// False when the body has to wait, and then the same bytes come once more, or is refused.
+/// False when the body has to wait, and then the same bytes come once more, or is refused. Room is taken in steps, for
+/// a body of a known and ordinary size at once: thousands that all wait for the rest of theirs would fill the room for
+/// good.
 bool Transfer::hasRoom(std::size_t bytes)
 {
+    const std::size_t needed = m_bodyBytes + bytes;
+    if (needed <= m_held.count()) {
+        return true;
+    }
     const bool mayPause = m_pausedTransfers != nullptr;
-    if (m_held.add(bytes, m_limits.heldBytes, mayPause ? m_claim : HeldBytes::Claim::Whole)) {
+    const HeldBytes::Claim claim = mayPause ? m_claim : HeldBytes::Claim::Whole;
+    const std::size_t missing = needed - m_held.count();
+    m_nextHeld = std::max(missing, nextStep());
+    if (m_held.add(m_nextHeld, m_limits.heldBytes, claim) || m_held.add(missing, m_limits.heldBytes, claim)) {
         m_hasPaused = false;
         return true;
     }
@@ -320,6 +333,13 @@ bool Transfer::hasRoom(std::size_t bytes)
     }
     m_pausedTransfers->add(*this);
     return false;
+}
+
+std::size_t Transfer::nextStep() const
+{
+    const auto length = m_response.headers.value("Content-Length");
+    const auto whole = length ? numberIn<std::size_t>(*length) : std::nullopt;
+    return whole && *whole <= ordinaryBody ? *whole - std::min(*whole, m_held.count()) : stepOfBody;
 }
 
 bool Transfer::goOn()

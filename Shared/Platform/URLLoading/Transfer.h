@@ -74,6 +74,8 @@ public:
     bool isPaused() const { return m_paused; }
     Clock::time_point pausedSince() const { return m_pausedSince; }
     std::size_t heldBytes() const { return m_held.count(); }
+    /// What a paused one would take at once if it went on.
+    std::size_t nextHeldBytes() const { return m_nextHeld; }
     void setPausedSince(Clock::time_point since) { m_pausedSince = since; }
     void setClaim(HeldBytes::Claim claim) { m_claim = claim; }
     /// Lets a paused one try again. False when its hop has ended, with `refusedResult` as libcurl's word.
@@ -104,6 +106,7 @@ private:
     bool headersComplete();
     bool bodyBytes(std::span<const char> bytes);
     bool hasRoom(std::size_t bytes);
+    std::size_t nextStep() const;
     std::int64_t wireBytes() const;
     bool framingIsBounded();
     template <typename Work>
@@ -137,6 +140,7 @@ private:
     std::size_t m_headerBytes = 0;
     std::size_t m_bodyBytes = 0; ///< of the current response, as they came
     HeldBytes m_held;
+    std::size_t m_nextHeld = 0;
     PausedTransfers* m_pausedTransfers = nullptr;
     bool m_paused = false;
     bool m_hasPaused = false; ///< of this body, since it last went on
