@@ -69,7 +69,8 @@ std::string Transfer::serverOf(const std::string& url)
 bool Transfer::start(std::optional<ConnectionHandle> ahead)
 {
     m_started = Clock::now();
-    m_lastProgress = m_started;
+    m_clocksStart = urgency() == Urgency::Person ? m_made : m_started;
+    m_lastProgress = m_clocksStart;
     return prepareHop(std::move(ahead));
 }
 
@@ -190,9 +191,16 @@ void Transfer::refuse(URLErrorCode code, std::string reason)
     m_refusal = urlError(code, std::move(reason));
 }
 
+/// A fifth of the limit leaves the rest to a connection that is made.
+Transfer::Clock::time_point Transfer::patienceEnd() const
+{
+    constexpr std::chrono::milliseconds longestPatience{HandshakeHold::isPossible ? 2000 : 0};
+    return m_made + std::min(longestPatience, m_request.timeout / 5);
+}
+
 Transfer::Clock::time_point Transfer::deadline() const
 {
-    const Clock::time_point total = m_started + m_request.timeout * std::max(m_limits.totalTimeFactor, 1);
+    const Clock::time_point total = m_clocksStart + m_request.timeout * std::max(m_limits.totalTimeFactor, 1);
     return m_paused ? total : std::min(m_lastProgress + m_request.timeout, total);
 }
 

@@ -51,8 +51,9 @@ public:
     Transfer& operator=(const Transfer&) = delete;
     ~Transfer() = default;
 
-    /// Starts the clocks. False when there is nothing to drive, because the transfer has failed already. With a
-    /// connection that was made ahead, to the same server, its handle goes on as this transfer's.
+    /// Starts the clocks; a person's run since it was made, since a person waits from then on. False when there is
+    /// nothing to drive, because the transfer has failed already. With a connection that was made ahead, to the same
+    /// server, its handle goes on as this transfer's.
     bool start(std::optional<ConnectionHandle> ahead = std::nullopt);
     CURL* handle() const { return m_connection.easy.get(); }
     /// Scheme, host and port of the first hop, as they stood in the address.
@@ -61,8 +62,9 @@ public:
     Urgency urgency() const { return m_request.urgency; }
     /// Whether `start` may be given a connection that was made ahead.
     bool mayTakeConnectionAhead() const;
-    /// When it was made.
-    Clock::time_point waitsSince() const { return m_made; }
+    /// Until when a person's transfer waits for one of its server's connections to come free. Where none can be made
+    /// meanwhile, there is nothing to wait for.
+    Clock::time_point patienceEnd() const;
     /// Once it has ended: whether it had a connection made, and whether its connection may serve the next one.
     bool madeConnection() const { return m_madeConnection; }
     bool leavesConnection() const { return m_leavesConnection; }
@@ -127,6 +129,7 @@ private:
 
     const Clock::time_point m_made = Clock::now();
     Clock::time_point m_started;
+    Clock::time_point m_clocksStart;
     Clock::time_point m_lastProgress;
     Clock::time_point m_answered;    ///< when the current answer's first line came
     std::size_t m_received = 0;      ///< body and header bytes of all hops, as they came

@@ -12,9 +12,6 @@ namespace lodestar
 namespace
 {
 
-// Where no connection can be made meanwhile, there is nothing to wait for.
-constexpr std::chrono::seconds patienceOfPersons{HandshakeHold::isPossible ? 2 : 0};
-
 bool isPersons(const Transfer& transfer)
 {
     return transfer.urgency() == Urgency::Person;
@@ -67,8 +64,7 @@ std::shared_ptr<Transfer> TransferQueue::take(Connections connections, Whose who
     if (m_persons > 0) {
         const auto turn = std::ranges::find_if(m_turns, [&](Turn one) {
             const Server& server = one->second;
-            return server.persons > 0 &&
-                   (hasConnection(one) || now - server.waiting.front()->waitsSince() > patienceOfPersons);
+            return server.persons > 0 && (hasConnection(one) || now > server.waiting.front()->patienceEnd());
         });
         if (turn != m_turns.end()) {
             return takeFrom(turn);
