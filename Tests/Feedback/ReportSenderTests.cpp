@@ -111,6 +111,9 @@ TEST(ReportSenderTest, TheServiceKnowsTheSessionAndHowMuchHasGoneIsTold)
         bundle, address, queue, [&](const Result<void>& outcome) { sent.set_value(outcome.ok()); },
         [&](int percent) { told.push_back(percent); });
     EXPECT_TRUE(sent.get_future().get());
+    EXPECT_GT(told.size(), 5U);
+    EXPECT_EQ(std::adjacent_find(told.begin(), told.end(), std::greater_equal()), told.end()) << "once a percent";
+    EXPECT_EQ(told.back(), 100);
     const std::string inSession = " bytes, sent in session " + VireoLogger::sessionIdentifier();
     EXPECT_THAT(vouched().service.reports(),
                 testing::ElementsAre(R"(session {"key":"k\u0022ey","session":"5e55","mode":2})",

@@ -170,6 +170,7 @@ TEST_F(FeedbackTest, AKeptReportIsSentAsOftenAsItFails)
     for (int attempt = 0; attempt < 2; ++attempt) {
         report->act();
         EXPECT_EQ(report->alert()->title(), "Sending the report...");
+        EXPECT_EQ(report->alert()->message(), "0 %");
         ASSERT_TRUE(stage.waitFor(failed));
         report->alert()->choose(1);
         EXPECT_EQ(report->alert()->title(), "Sending the report...") << "tried again";

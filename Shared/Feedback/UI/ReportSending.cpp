@@ -32,18 +32,39 @@ public:
     {
         static const OperationQueue queue;
         const auto self = shared_from_this();
-        const std::function<void()> cancel =
-            sendReport(m_bundle, m_address, queue, [self](const Result<void>& outcome) {
+        m_isUnderWay = true;
+        const std::function<void()> cancel = sendReport(
+            m_bundle, m_address, queue,
+            [self](const Result<void>& outcome) {
                 MainQueue::shared().async([self, outcome] { self->ended(outcome); });
-            });
+            },
+            [self](int percent) { MainQueue::shared().async([self, percent] { self->sent(percent); }); });
         // A cancelled transfer still says how it ended: it may have been too late.
-        m_alert.present(QCoreApplication::translate("Reports", "Sending the report..."), {},
-                        {{QCoreApplication::translate("Reports", "Cancel")}}, 0, [cancel](int) { cancel(); });
+        m_alert.present(QCoreApplication::translate("Reports", "Sending the report..."), percentText(0),
+                        {{QCoreApplication::translate("Reports", "Cancel")}}, 0, [self, cancel](int) {
+                            self->m_isUnderWay = false;
+                            cancel();
+                        });
     }
 
 private:
+    static QString percentText(int percent)
+    {
+        // The system takes a small report at once, however slowly it goes on from there.
+        return percent == 100 ? QCoreApplication::translate("Reports", "Waiting for the answer...")
+                              : QCoreApplication::translate("Reports", "%1 %").arg(percent);
+    }
+
+    void sent(int percent)
+    {
+        if (m_isUnderWay) {
+            m_alert.setMessage(percentText(percent));
+        }
+    }
+
     void ended(const Result<void>& outcome)
     {
+        m_isUnderWay = false;
         if (outcome) {
             m_alert.present(QCoreApplication::translate("Reports", "Report Sent"),
                             QCoreApplication::translate("Reports", "Thank you. A copy is in the list of reports."),
@@ -64,6 +85,7 @@ private:
     const ReportBundle m_bundle;
     const std::string m_address;
     const std::function<void()> m_done;
+    bool m_isUnderWay = false; ///< and the alert says so
 };
 
 } // namespace

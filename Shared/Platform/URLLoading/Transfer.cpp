@@ -431,10 +431,16 @@ std::size_t Transfer::body(char* bytes, std::size_t size, std::size_t count, voi
     return transfer.m_paused ? CURL_WRITEFUNC_PAUSE : 0;
 }
 
-int Transfer::progress(void* self, curl_off_t, curl_off_t, curl_off_t, curl_off_t)
+int Transfer::progress(void* self, curl_off_t, curl_off_t, curl_off_t, curl_off_t sent)
 {
     auto& transfer = *static_cast<Transfer*>(self);
-    return transfer.guarded([&] { return transfer.framingIsBounded(); }) ? 0 : 1;
+    const auto goesOn = [&] {
+        if (transfer.m_request.bodySent) {
+            transfer.m_request.bodySent(static_cast<std::size_t>(sent));
+        }
+        return transfer.framingIsBounded();
+    };
+    return transfer.guarded(goesOn) ? 0 : 1;
 }
 
 } // namespace lodestar
