@@ -91,6 +91,8 @@ void prepareProcessForTransfers()
 #ifdef M_ARENA_MAX
         // Bodies are filled on one thread and freed on others: with an arena a thread each would keep what others need.
         mallopt(M_ARENA_MAX, 2);
+        // What a feed's body took goes back to the system with the body, wherever the parsed feed lies.
+        mallopt(M_MMAP_THRESHOLD, 128 * 1024);
 #endif
         rlimit files{};
         if (getrlimit(RLIMIT_NOFILE, &files) == 0 && files.rlim_cur < files.rlim_max) {

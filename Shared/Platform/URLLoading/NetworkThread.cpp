@@ -15,10 +15,12 @@ namespace lodestar
 namespace
 {
 
-constexpr std::size_t waitingBytesLimit = 48UL * 1024 * 1024;
+constexpr std::size_t waitingBytesLimit = 24UL * 1024 * 1024;
 // Each is asked after at every turn of the loop, so that thousands would cost more than they save.
 constexpr std::size_t mostConnectionsAhead = 600;
 constexpr std::size_t descriptorsForOthers = 256;
+// Some 130 KB of memory each, with its handle and its buffers. Each server may have one beyond it.
+constexpr std::size_t manyConnections = 600;
 // So few, all of one console's, keep no machine busy: each may have a connection made.
 constexpr std::size_t fewTransfers = 6;
 constexpr int longestWait = 60'000; ///< milliseconds
@@ -241,9 +243,15 @@ std::shared_ptr<Transfer> NetworkThread::nextToStart(Clock::time_point now)
     }
     const bool alone = m_running.empty();
     return m_waiting.take(
-        m_running.size() < fewTransfers || m_idleness.isIdle() ? Connections::Make : Connections::Have,
+        m_running.size() < fewTransfers || mayConnectMore() ? Connections::Make : Connections::Have,
         alone || readersKeepUp() ? Whose::Everybodys : Whose::Persons,
         [this](const std::string& server) { return m_ahead.hasReady(server) ? 1 : 0; }, now);
+}
+
+/// For the fleet: when there is nothing better to do, and as far as memory goes.
+bool NetworkThread::mayConnectMore() const
+{
+    return m_idleness.isIdle() && m_running.size() + m_waiting.freeConnections() + m_ahead.count() < manyConnections;
 }
 
 /// For persons at once; for what is expected when there is nothing better to do.
@@ -251,15 +259,17 @@ void NetworkThread::openAhead(Clock::time_point now)
 {
     m_hasReleased = m_ahead.closeOld(m_multi, now) || m_hasReleased;
     const auto ahead = [this](const std::string& server) { return m_ahead.count(server); };
-    const auto open = [this, now](const std::string& server, std::size_t connections) {
-        while (connections-- > 0 && m_ahead.count() < mostConnectionsAhead &&
-               m_running.size() + m_ahead.count() < descriptorLimit()) {
-            m_ahead.open(m_multi, server, now);
-        }
+    const auto openWhile = [this, now](auto mayOpen) {
+        return [this, now, mayOpen](const std::string& server, std::size_t connections) {
+            while (connections-- > 0 && m_ahead.count() < mostConnectionsAhead && mayOpen()) {
+                m_ahead.open(m_multi, server, now);
+            }
+        };
     };
-    m_waiting.forEachPersonsWant(ahead, open);
-    if (m_idleness.isIdle()) {
-        m_waiting.forEachExpectedWant(ahead, open);
+    m_waiting.forEachPersonsWant(ahead,
+                                 openWhile([this] { return m_running.size() + m_ahead.count() < descriptorLimit(); }));
+    if (mayConnectMore()) {
+        m_waiting.forEachExpectedWant(ahead, openWhile([this] { return mayConnectMore(); }));
     }
 }
 

@@ -103,6 +103,7 @@ void TransferQueue::didStart(const Transfer& transfer)
     ++server.running;
     if (server.free > 0) {
         --server.free;
+        --m_free;
         m_onFreeConnections.insert(&transfer);
     }
 }
@@ -117,10 +118,12 @@ void TransferQueue::didEnd(const Transfer& transfer)
     --server.running;
     const bool tookFree = m_onFreeConnections.erase(&transfer) != 0;
     if (tookFree && transfer.madeConnection()) {
-        server.free = 0; // the free one was not there: its server had closed it, and so it will have the others
+        m_free -= std::exchange(
+            server.free, 0); // the free one was not there: its server had closed it, and so it will have the others
     }
     if (transfer.leavesConnection()) {
         ++server.free;
+        ++m_free;
     }
     forgetIfUnused(transfer.server());
 }

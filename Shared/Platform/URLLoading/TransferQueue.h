@@ -46,6 +46,8 @@ public:
     void didEnd(const Transfer& transfer);
     /// Whether a connection to the server is free, as far as is known: a server may have closed it.
     bool hasFreeConnection(const std::string& server) const;
+    /// How many are free at all servers together.
+    std::size_t freeConnections() const { return m_free; }
 
     /// So many transfers to the server are soon to be pushed; negative to take that back.
     void expect(const std::string& server, int transfers);
@@ -75,6 +77,7 @@ private:
     std::size_t m_count = 0;
     std::size_t m_persons = 0;
     std::size_t m_expected = 0;
+    std::size_t m_free = 0;
 };
 
 } // namespace lodestar
