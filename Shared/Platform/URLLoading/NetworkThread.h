@@ -23,8 +23,8 @@ namespace lodestar
 /// transfers holds any back. One starts at once when its server has a connection for it: a kept one, one that was made
 /// ahead, or none so far. Where all are in use, another is made as soon as this thread has next to nothing to do:
 /// through a network with a length that is at once, while a machine that is busy with what comes in already is spared
-/// five handshakes of six. Memory and descriptors are the limits: bytes that wait for their readers, and sockets. A
-/// transfer's clocks start when it does, a person's when it is asked for.
+/// five handshakes of six. Memory and descriptors are the limits: bytes that wait for their readers, connections with
+/// their buffers, and sockets. A transfer's clocks start when it does, a person's when it is asked for.
 ///
 /// At the process's exit the thread ends between two events; transfers in flight are then left as they are, their
 /// clients untouched, since nobody is there to be told.
