@@ -18,9 +18,13 @@ constexpr std::size_t pieceSize = 64UL * 1024;
 
 } // namespace
 
-DelayedLink::DelayedLink(EventLoop& loop, int client, int console, std::chrono::milliseconds roundTrip,
+DelayedLink::DelayedLink(EventLoop& loop, int client, int console, Distance distance, std::uint64_t number,
                          std::function<void()> ended)
-    : m_loop(loop), m_oneWay(roundTrip / 2), m_made(EventLoop::Clock::now() + roundTrip), m_ended(std::move(ended))
+    : m_loop(loop),
+      m_distance(distance),
+      m_made(EventLoop::Clock::now() + distance.roundTrip),
+      m_ended(std::move(ended)),
+      m_chance(static_cast<std::mt19937::result_type>(number))
 {
     m_sides[0].descriptor = client;
     m_sides[1].descriptor = console;
@@ -73,7 +77,7 @@ void DelayedLink::read(std::size_t from)
     Side& side = m_sides.at(from);
     const std::size_t to = 1 - from;
     const auto sent = from == 0 ? std::max(EventLoop::Clock::now(), m_made) : EventLoop::Clock::now();
-    Piece piece{sent + m_oneWay, std::string(pieceSize, '\0')};
+    Piece piece{sent + wayOfOne(), std::string(pieceSize, '\0')};
     const ssize_t count = ::recv(side.descriptor, piece.bytes.data(), piece.bytes.size(), 0);
     if (count < 0 && (errno == EAGAIN || errno == EINTR)) {
         return;
@@ -84,6 +88,12 @@ void DelayedLink::read(std::size_t from)
     m_sides.at(to).incoming.push_back(std::move(piece));
     watchFor(side);
     await(to);
+}
+
+std::chrono::milliseconds DelayedLink::wayOfOne()
+{
+    const bool stalls = std::uniform_int_distribution(1, 100)(m_chance) <= m_distance.stalls;
+    return m_distance.roundTrip / 2 + (stalls ? m_distance.roundTrip * 2 : std::chrono::milliseconds(0));
 }
 
 void DelayedLink::await(std::size_t to)

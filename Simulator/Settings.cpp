@@ -54,6 +54,7 @@ const std::map<std::string, Setter, std::less<>>& setters()
         {"--feed-bytes", numberSetter(&Settings::feedBytes)},
         {"--latency", numberSetter(&Settings::latency)},
         {"--round-trip", numberSetter(&Settings::roundTrip)},
+        {"--stalls", numberSetter(&Settings::stalls)},
         {"--seed", numberSetter(&Settings::seed)},
         {"--record-cap", numberSetter(&Settings::recordCap)},
         {"--receiver", textSetter(&Settings::receiver)},
@@ -86,6 +87,7 @@ std::vector<std::string> argumentsOf(const Settings& settings)
         "--feed-bytes", std::to_string(settings.feedBytes),
         "--latency",    std::to_string(settings.latency),
         "--round-trip", std::to_string(settings.roundTrip),
+        "--stalls",     std::to_string(settings.stalls),
         "--seed",       std::to_string(settings.seed),
         "--record-cap", std::to_string(settings.recordCap),
         "--user",       settings.user,
@@ -143,6 +145,7 @@ std::string_view helpText()
   --feed-bytes N    pad every feed to about N bytes (0: not padded)
   --latency MS      wait before every answer (0)
   --round-trip MS   the network's way to a console and back (0)
+  --stalls N        with a round trip: of a hundred pieces, how many come two round trips late (0)
   --seed N          another seed gives another inventory (1)
   --user U --password P
                     the credentials that every console accepts; they are the simulator's own

@@ -35,6 +35,8 @@ struct Settings {
     /// Milliseconds that the network takes to a console and back: every connection, handshake, request and answer has
     /// its share of them.
     int roundTrip = 0;
+    /// Of a hundred pieces on a network with a length, how many come two round trips late.
+    int stalls = 0;
     std::uint64_t seed = 1;
     /// Made-up credentials that every console accepts.
     std::string user = "operator";

@@ -175,12 +175,12 @@ int Simulator::farEnd(int descriptor)
         throw std::system_error(errno, std::generic_category(), "socketpair");
     }
     const std::uint64_t number = ++m_lastLink;
-    auto link = std::make_unique<DelayedLink>(m_loop, descriptor, ends[0],
-                                              std::chrono::milliseconds(m_settings.roundTrip), [this, number] {
-                                                  if (auto node = m_links.extract(number)) {
-                                                      m_buriedLinks.push_back(std::move(node.mapped()));
-                                                  }
-                                              });
+    const DelayedLink::Distance distance{std::chrono::milliseconds(m_settings.roundTrip), m_settings.stalls};
+    auto link = std::make_unique<DelayedLink>(m_loop, descriptor, ends[0], distance, number, [this, number] {
+        if (auto node = m_links.extract(number)) {
+            m_buriedLinks.push_back(std::move(node.mapped()));
+        }
+    });
     m_links.emplace(number, std::move(link));
     return ends[1];
 }
