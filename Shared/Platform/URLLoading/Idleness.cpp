@@ -15,16 +15,16 @@ void Idleness::reset(Clock::time_point now)
 {
     m_start = now;
     m_waited = {};
-    m_isIdle = false;
+    m_idlePeriods = 0;
 }
 
 void Idleness::waited(Clock::time_point from, Clock::time_point until)
 {
     m_waited += until - from;
     if (const auto watched = until - m_start; watched >= period) {
-        const bool isIdle = m_waited * 100 >= watched * idlePercent;
+        const int idlePeriods = m_waited * 100 >= watched * idlePercent ? m_idlePeriods + 1 : 0;
         reset(until);
-        m_isIdle = isIdle;
+        m_idlePeriods = idlePeriods;
     }
 }
 

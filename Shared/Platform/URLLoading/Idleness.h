@@ -15,7 +15,9 @@ public:
     /// There is new work: what was before does not count.
     void reset(Clock::time_point now);
     void waited(Clock::time_point from, Clock::time_point until);
-    bool isIdle() const { return m_isIdle; }
+    bool isIdle() const { return m_idlePeriods > 0; }
+    /// Longer than a processor with other work, too, keeps a server from answering: the network itself takes its time.
+    bool isIdleForLong() const { return m_idlePeriods >= 3; }
 
     /// So long a thread is watched before it is called idle.
     static constexpr std::chrono::milliseconds period{20};
@@ -23,7 +25,7 @@ public:
 private:
     Clock::time_point m_start{};
     Clock::duration m_waited{};
-    bool m_isIdle = false;
+    int m_idlePeriods = 0; ///< one after the other, up to now
 };
 
 } // namespace lodestar

@@ -19,8 +19,11 @@ constexpr std::size_t waitingBytesLimit = 24UL * 1024 * 1024;
 // Each is asked after at every turn of the loop, so that thousands would cost more than they save.
 constexpr std::size_t mostConnectionsAhead = 600;
 constexpr std::size_t descriptorsForOthers = 256;
-// Some 130 KB of memory each, with its handle and its buffers. Each server may have one beyond it.
+constexpr std::size_t bytesOfConnection = 130UL * 1024; // with its handle and its buffers
+// Each server may have one beyond it.
 constexpr std::size_t manyConnections = 600;
+constexpr std::size_t mostConnections = 3000;
+constexpr std::size_t shareOfDevice = 32;
 // So few, all of one console's, keep no machine busy: each may have a connection made.
 constexpr std::size_t fewTransfers = 6;
 constexpr int longestWait = 60'000; ///< milliseconds
@@ -38,6 +41,14 @@ std::size_t descriptorLimit()
         const std::size_t all = std::min<std::size_t>(files.rlim_cur, 16'384);
         return (all > 2 * descriptorsForOthers ? all - descriptorsForOthers : all / 2) / 2;
     }();
+    return limit;
+}
+
+/// Where a long network makes them worth their memory.
+std::size_t connectionLimit()
+{
+    static const std::size_t limit =
+        std::clamp(deviceMemory() / shareOfDevice / bytesOfConnection, manyConnections, mostConnections);
     return limit;
 }
 
@@ -251,7 +262,8 @@ std::shared_ptr<Transfer> NetworkThread::nextToStart(Clock::time_point now)
 /// For the fleet: when there is nothing better to do, and as far as memory goes.
 bool NetworkThread::mayConnectMore() const
 {
-    return m_idleness.isIdle() && m_running.size() + m_waiting.freeConnections() + m_ahead.count() < manyConnections;
+    const std::size_t most = m_idleness.isIdleForLong() ? connectionLimit() : manyConnections;
+    return m_idleness.isIdle() && m_running.size() + m_waiting.freeConnections() + m_ahead.count() < most;
 }
 
 /// For persons at once; for what is expected when there is nothing better to do.
