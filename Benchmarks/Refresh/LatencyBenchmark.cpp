@@ -160,6 +160,7 @@ struct Times {
     double feedDuringRefresh = 0;
 };
 
+/// The last console has a process of its own: it answers a person no later than its own work lets it.
 class Fleet
 {
 public:
@@ -169,7 +170,7 @@ public:
         fs::create_directory(m_scratch.file("measured"));
         StoreStack::shared().setApplicationDocumentsDirectory(m_scratch.path());
         simulator::Settings settings;
-        settings.consoles = consoles;
+        settings.consoles = std::max(consoles - 1, 1);
         settings.systems = 40;
         settings.vios = 80;
         settings.events = 120;
@@ -181,9 +182,17 @@ public:
         if (bad) {
             settings.faults = {"silentAfterAccept:0", "trickle:All:1"};
         }
-        m_simulator.start(settings);
+        add(m_simulator, settings);
+        if (consoles > 1) {
+            settings.consoles = 1;
+            settings.faults.clear();
+            add(m_last, settings);
+        }
         logOn();
         m_simulator.setRoundTrip(roundTrip);
+        if (consoles > 1) {
+            m_last.setRoundTrip(roundTrip);
+        }
         writeFiles();
     }
     ~Fleet() { StoreStack::shared().close(); }
@@ -208,12 +217,20 @@ public:
     }
 
 private:
+    void add(simulator::SimulatorProcess& simulator, const simulator::Settings& settings)
+    {
+        simulator.start(settings);
+        for (int i = 0; i < simulator.consoleCount(); ++i) {
+            m_addresses.push_back(simulator.address(i));
+        }
+    }
+
     void logOn()
     {
         std::vector<RXPromise<SessionKey>> logons;
-        for (int i = static_cast<int>(m_ignored); i < m_simulator.consoleCount(); ++i) {
+        for (std::size_t i = m_ignored; i < m_addresses.size(); ++i) {
             const auto corvel = std::make_shared<Corvel>();
-            corvel->setAddress(m_simulator.address(i));
+            corvel->setAddress(m_addresses[i]);
             corvel->setUsername(m_simulator.user());
             corvel->setPassword(m_simulator.password());
             logons.push_back(RESTHandler::sharedInstance().login(corvel, CheckToken::Yes));
@@ -242,13 +259,13 @@ private:
         std::ofstream feeds(m_scratch.file("feeds"));
         begin(logons);
         begin(feeds);
-        for (int i = 0; i < m_simulator.consoleCount(); ++i) {
-            const std::string& address = m_simulator.address(i);
+        for (std::size_t i = 0; i < m_addresses.size(); ++i) {
+            const std::string& address = m_addresses[i];
             list << address << ' ' << m_simulator.user() << ' ' << m_simulator.password() << '\n';
-            const auto good = static_cast<std::size_t>(i) - m_ignored;
-            if (static_cast<std::size_t>(i) < m_ignored) {
+            if (i < m_ignored) {
                 continue;
             }
+            const std::size_t good = i - m_ignored;
             const std::string base = "https://" + address + ":12443/rest/api/";
             logons << (good > 0 ? "next\n" : "");
             addTransfer(logons, base + "web/Logon");
@@ -266,6 +283,8 @@ private:
     const std::size_t m_ignored;
     const ScratchFolder m_scratch;
     simulator::SimulatorProcess m_simulator;
+    simulator::SimulatorProcess m_last;
+    std::vector<std::string> m_addresses;
     std::vector<std::string> m_keys; ///< of the good consoles
 };
 
