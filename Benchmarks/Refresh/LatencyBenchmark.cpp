@@ -83,6 +83,7 @@ RXPromise<std::string> fetchInventory(const CorvelRef& corvel)
 RXPromise<std::vector<std::string>> refresh(const std::vector<CorvelRef>& corvels, std::size_t ignored)
 {
     std::vector<RXPromise<std::string>> all;
+    all.reserve(corvels.size());
     for (const CorvelRef& corvel : corvels) {
         all.push_back(fetchInventory(corvel));
     }

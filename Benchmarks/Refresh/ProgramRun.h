@@ -26,6 +26,7 @@ constexpr std::array<std::string_view, 6> feedPaths = {
 inline double runProgram(const std::vector<std::string>& command)
 {
     std::vector<char*> arguments;
+    arguments.reserve(command.size() + 1);
     for (const std::string& word : command) {
         arguments.push_back(const_cast<char*>(word.c_str()));
     }
