@@ -181,6 +181,11 @@ std::vector<Flood> floods()
 TEST(XMLLimitsTests, FloodsTakeAtMostTwiceAPlainFeed)
 {
     constexpr std::size_t size = 2'000'000;
+#ifdef __SANITIZE_ADDRESS__
+    constexpr int mostTimes = 4; // Our functions are slowed down and the library's are not.
+#else
+    constexpr int mostTimes = 2;
+#endif
     const auto filled = [](std::string bytes, const std::function<std::string(int)>& one) {
         for (int i = 0; bytes.size() < size; ++i) {
             bytes += one(i);
@@ -202,7 +207,7 @@ TEST(XMLLimitsTests, FloodsTakeAtMostTwiceAPlainFeed)
     }));
     for (const Flood& flood : floods()) {
         const std::string bytes = filled(flood.before, flood.one);
-        EXPECT_LE(cost(bytes), 2 * plain) << flood.name;
+        EXPECT_LE(cost(bytes), mostTimes * plain) << flood.name;
         const auto root = XMLElement::parse(bytes);
         EXPECT_EQ(root.ok(), !flood.refused) << flood.name;
         if (root) {
