@@ -365,8 +365,8 @@ void measureRows(bench::Rows& rows)
 
 void refreshThroughNetwork(benchmark::State& state)
 {
-    const Fleet fleet(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)), false,
-                      static_cast<int>(state.range(2)));
+    const Fleet fleet(static_cast<int>(state.range(0)), static_cast<int>(state.range(1)), state.range(2) != 0,
+                      static_cast<int>(state.range(3)));
     for ([[maybe_unused]] auto iteration : state) {
         const Times times = fleet.ours(true);
         state.counters["first"] = times.first / 1e6;
@@ -377,8 +377,10 @@ void refreshThroughNetwork(benchmark::State& state)
     }
 }
 BENCHMARK(refreshThroughNetwork)
-    ->ArgsProduct({{1, 10, 50, 500}, {0, 100, 300, 1000}, {0}})
-    ->Args({50, 1000, 1})
+    ->ArgNames({"consoles", "milliseconds", "bad", "stalls"})
+    ->ArgsProduct({{1, 10, 50, 500}, {0, 100, 300, 1000}, {0}, {0}})
+    ->Args({50, 100, 1, 0})
+    ->Args({50, 1000, 0, 1})
     ->Unit(benchmark::kMillisecond)
     ->Iterations(1)
     ->UseRealTime();
