@@ -4,8 +4,8 @@
 // The feed is one of a console with thousands of partitions, as the simulator sends it. Memory that earlier runs left
 // with the allocator is given back before each run: what the heap went through before can double a time.
 #include "Benchmarks/Program.h"
-#include "Controllers/REST/XMLElement.h"
 #include "Simulator/FeedWriter.h"
+#include "XML/XMLElement.h"
 
 #include <fmt/format.h>
 #include <libxml/parser.h>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/KeptBytes.h"
 #include "Platform/Resources.h"
 #include "Tests/LongRun.h"
 #include "Tests/REST/RESTHandlerFixture.h"
-#include "Tests/REST/TreeReference.h"
+#include "Tests/XML/TreeReference.h"
+#include "XML/KeptBytes.h"
 
 #include <gmock/gmock.h>
 

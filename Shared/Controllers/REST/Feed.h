@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Controllers/REST/XMLElement.h"
+#include "XML/XMLElement.h"
 
 #include <map>
 #include <string>

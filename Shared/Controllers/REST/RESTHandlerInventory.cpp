@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/KeptRoom.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Controllers/REST/RESTSupport.h"
 #include "Feedback/VireoLogger.h"
 #include "Platform/Resources.h"
+#include "XML/KeptRoom.h"
 
 #include <array>
 #include <mutex>

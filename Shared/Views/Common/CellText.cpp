@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Common/CellText.h"
 
-#include "Controllers/REST/XMLElement.h"
+#include "XML/XMLElement.h"
 
 namespace lodestar
 {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Controllers/REST/XMLElement.h"
 #include "Kit/Core/Table.h"
 #include "Kit/Core/ViewController.h"
 #include "Views/Common/DetailCell.h"
+#include "XML/XMLElement.h"
 
 #include <QStringList>
 

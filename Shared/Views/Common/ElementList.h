@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Controllers/REST/XMLElement.h"
 #include "Views/Common/SearchIndex.h"
+#include "XML/XMLElement.h"
 
 #include <cstdint>
 #include <string>

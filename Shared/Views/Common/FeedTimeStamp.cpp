@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Common/FeedTimeStamp.h"
 
-#include "Controllers/REST/XMLElement.h"
+#include "XML/XMLElement.h"
 
 #include <algorithm>
 #include <array>

@@ -3,8 +3,8 @@
 
 #include "Application/Model/Corvel.h"
 #include "Controllers/REST/RXPromise.h"
-#include "Controllers/REST/XMLElement.h"
 #include "Platform/URLLoading/URLRequest.h"
+#include "XML/XMLElement.h"
 
 #include <optional>
 #include <string>

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Application/Model/Corvel.h"
-#include "Controllers/REST/XMLElement.h"
+#include "XML/XMLElement.h"
 
 #include <optional>
 #include <string>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/ManagedSystems/MSListCell.h"
 
-#include "Controllers/REST/XMLElement.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Views/Common/CellText.h"
+#include "XML/XMLElement.h"
 
 #include <string>
 #include <utility>

@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Controllers/REST/XMLElement.h"
 #include "Kit/Core/Bars.h"
 #include "Kit/Core/Outlets.h"
 #include "Views/Common/CorvelReceiving.h"
 #include "Views/Common/DetailViewController.h"
 #include "Views/Common/TitleHeader.h"
+#include "XML/XMLElement.h"
 
 namespace lodestar
 {

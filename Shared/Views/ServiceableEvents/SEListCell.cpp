@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/ServiceableEvents/SEListCell.h"
 
-#include "Controllers/REST/XMLElement.h"
 #include "Views/Common/CellText.h"
+#include "XML/XMLElement.h"
 
 namespace lodestar
 {

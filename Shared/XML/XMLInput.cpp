@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/XMLInput.h"
+#include "XML/XMLInput.h"
 
-#include "Controllers/REST/XMLMemory.h"
+#include "XML/XMLMemory.h"
 
 #include <libxml/parserInternals.h>
 #include <libxml/xmlIO.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Tests/REST/TreeReference.h"
+#include "Tests/XML/TreeReference.h"
 
-#include "Controllers/REST/XMLDocument.h"
-#include "Controllers/REST/XMLElement.h"
+#include "XML/XMLDocument.h"
+#include "XML/XMLElement.h"
 
 #include <libxml/parser.h>
 #include <libxml/tree.h>

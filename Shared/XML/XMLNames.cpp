@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/XMLNames.h"
+#include "XML/XMLNames.h"
 
 #include <functional>
 

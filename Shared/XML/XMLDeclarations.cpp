@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/XMLDeclarations.h"
+#include "XML/XMLDeclarations.h"
 
-#include "Controllers/REST/XMLDocumentBuilder.h"
-#include "Controllers/REST/XMLInput.h"
+#include "XML/XMLDocumentBuilder.h"
+#include "XML/XMLInput.h"
 
 #include <libxml/SAX2.h>
 #include <libxml/entities.h>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/XMLDocument.h"
-#include "Controllers/REST/XMLElement.h"
-#include "Tests/REST/TreeReference.h"
+#include "Tests/XML/TreeReference.h"
+#include "XML/XMLDocument.h"
+#include "XML/XMLElement.h"
 
 #include <fmt/format.h>
 #include <gtest/gtest.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/KeptRoom.h"
+#include "XML/KeptRoom.h"
 
-#include "Controllers/REST/KeptBytes.h"
 #include "Platform/Queues/ThreadPool.h"
+#include "XML/KeptBytes.h"
 
 #include <algorithm>
 #include <atomic>

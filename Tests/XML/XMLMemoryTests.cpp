@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // Every single allocation of a parse refused, the library's and our own.
-#include "Controllers/REST/XMLDocument.h"
 #include "Tests/Injection.h"
-#include "Tests/REST/TreeReference.h"
+#include "Tests/XML/TreeReference.h"
+#include "XML/XMLDocument.h"
 
 #include <gtest/gtest.h>
 #include <libxml/parser.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/KeptBytes.h"
-#include "Controllers/REST/KeptRoom.h"
+#include "XML/KeptBytes.h"
+#include "XML/KeptRoom.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/XMLDocumentBuilder.h"
+#include "XML/XMLDocumentBuilder.h"
 
-#include "Controllers/REST/XMLInput.h"
 #include "Platform/URLLoading/URLError.h"
+#include "XML/XMLInput.h"
 
 #include <libxml/parserInternals.h>
 

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // Documents made to cost much: each must be read in little time and memory, and open nothing.
-#include "Controllers/REST/XMLElement.h"
 #include "Tests/ProcessMemory.h"
 #include "Tests/ScratchFolder.h"
+#include "XML/XMLElement.h"
 
 #include <gtest/gtest.h>
 #include <libxml/parser.h>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/KeptBytes.h"
+#include "XML/KeptBytes.h"
 
-#include "Controllers/REST/KeptRoom.h"
 #include "Platform/URLLoading/TransferLimits.h"
+#include "XML/KeptRoom.h"
 
 #include <algorithm>
 #include <atomic>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/XMLMemory.h"
+#include "XML/XMLMemory.h"
 
 #include <libxml/dict.h>
 #include <libxml/xmlerror.h>

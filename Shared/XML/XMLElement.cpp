@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/XMLElement.h"
+#include "XML/XMLElement.h"
 
-#include "Controllers/REST/XMLDocument.h"
+#include "XML/XMLDocument.h"
 
 namespace lodestar
 {

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Controllers/REST/KeptBytes.h"
-#include "Controllers/REST/XMLArray.h"
-#include "Controllers/REST/XMLNames.h"
 #include "Platform/Result.h"
+#include "XML/KeptBytes.h"
+#include "XML/XMLArray.h"
+#include "XML/XMLNames.h"
 
 #include <cstddef>
 #include <cstdint>

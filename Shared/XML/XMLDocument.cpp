@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/XMLDocument.h"
+#include "XML/XMLDocument.h"
 
-#include "Controllers/REST/XMLDocumentBuilder.h"
+#include "XML/XMLDocumentBuilder.h"
 
 #include <algorithm>
 #include <new>

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Controllers/REST/XMLDeclarations.h"
-#include "Controllers/REST/XMLDocument.h"
-#include "Controllers/REST/XMLMemory.h"
+#include "XML/XMLDeclarations.h"
+#include "XML/XMLDocument.h"
+#include "XML/XMLMemory.h"
 
 #include <libxml/parser.h>
 

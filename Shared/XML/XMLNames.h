@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Controllers/REST/XMLArray.h"
+#include "XML/XMLArray.h"
 
 #include <cstdint>
 #include <string_view>
