@@ -21,6 +21,7 @@ function(lodestar_gather_notices variable folder)
     "zlib=zlib1g-dev"
     "simdjson=libsimdjson-dev"
     "libfmt=libfmt-dev"
+    "utf8proc=libutf8proc-dev"
     "QtKeychain=qtkeychain-qt6-dev"
     "libsecret=libsecret-1-0"
     "backward-cpp=libbackward-cpp-dev"

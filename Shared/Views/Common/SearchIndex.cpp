@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Common/SearchIndex.h"
 
-#include <QString>
-
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <numeric>
+#include <utf8proc.h>
 
 namespace lodestar
 {
@@ -22,12 +22,38 @@ bool isASCII(std::string_view text)
     return std::ranges::all_of(text, [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
 }
 
+/// One letter for one: "ß" is found by "ß" and not by "ss", of which no part could be marked.
+utf8proc_int32_t foldedLetter(utf8proc_int32_t letter)
+{
+    utf8proc_int32_t folded = letter;
+    int boundary = 0;
+    const auto count = utf8proc_decompose_char(letter, &folded, 1, UTF8PROC_CASEFOLD, &boundary);
+    return count == 1 ? folded : utf8proc_tolower(letter);
+}
+
+/// Bytes that are no UTF-8 stand for the replacement character.
+std::string foldedUnicode(std::string_view text)
+{
+    constexpr utf8proc_int32_t replacement = 0xFFFD;
+    std::string result;
+    while (!text.empty()) {
+        utf8proc_int32_t letter = replacement;
+        const auto length = utf8proc_iterate(reinterpret_cast<const utf8proc_uint8_t*>(text.data()),
+                                             static_cast<utf8proc_ssize_t>(text.size()), &letter);
+        text.remove_prefix(length > 0 ? static_cast<std::size_t>(length) : 1);
+        std::array<utf8proc_uint8_t, 4> bytes{};
+        const auto count = utf8proc_encode_char(foldedLetter(length > 0 ? letter : replacement), bytes.data());
+        result.append(reinterpret_cast<const char*>(bytes.data()), static_cast<std::size_t>(count));
+    }
+    return result;
+}
+
 } // namespace
 
 std::string SearchIndex::folded(std::string_view text)
 {
     if (!isASCII(text)) {
-        return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())).toCaseFolded().toStdString();
+        return foldedUnicode(text);
     }
     std::string result(text);
     std::ranges::transform(result, result.begin(), lower);
