@@ -19,16 +19,17 @@ BELOW = {
     "Feedback": PLATFORM,
     "Application/Model": PLATFORM | {"Feedback"},
     "XML": PLATFORM | {"Feedback"},
-    "Controllers/REST": PLATFORM | {"Feedback", "Application/Model", "XML"},
+    "Inventory": PLATFORM | {"Feedback", "Application/Model", "XML"},
+    "Controllers/REST": PLATFORM | {"Feedback", "Application/Model", "XML", "Inventory"},
     "Views/About/RichText": set(),
     "Kit": PLATFORM | {"Feedback"},
     "Feedback/UI": PLATFORM | {"Feedback", "Kit"},
     "Charts": PLATFORM | {"Feedback"},
-    "Views": PLATFORM | {"Feedback", "Application/Model", "XML", "Controllers/REST", "Kit", "Charts", "Views/About/RichText"},
-    "Application": PLATFORM | {"Feedback", "Application/Model", "XML", "Controllers/REST", "Kit", "Feedback/UI", "Charts", "Views"},
+    "Views": PLATFORM | {"Feedback", "Application/Model", "XML", "Inventory", "Controllers/REST", "Kit", "Charts", "Views/About/RichText"},
+    "Application": PLATFORM | {"Feedback", "Application/Model", "XML", "Inventory", "Controllers/REST", "Kit", "Feedback/UI", "Charts", "Views"},
 }
 # Every module whose files must compile without Qt.
-QT_FREE = {"Platform", "Feedback", "Application/Model", "XML", "Controllers/REST", "Views/About/RichText"}
+QT_FREE = {"Platform", "Feedback", "Application/Model", "XML", "Inventory", "Controllers/REST", "Views/About/RichText"}
 
 TEXT_ENDINGS = {".h", ".cpp", ".qml", ".cmake", ".txt", ".py", ".sh", ".md", ".json", ""}
 LICENSED_ENDINGS = {".h", ".cpp", ".qml", ".cmake", ".py", ".sh"}

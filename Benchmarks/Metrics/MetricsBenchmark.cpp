@@ -2,8 +2,8 @@
 // What it costs to make a chart's series of the metrics of a system with many partitions, beside the parser alone on
 // the same bytes: a fresh parser each time, as a client that fetches one document has it.
 #include "Benchmarks/Program.h"
+#include "Inventory/Metrics/MetricsReduction.h"
 #include "Simulator/Metrics.h"
-#include "Views/ManagedSystems/PCM/MetricsReduction.h"
 
 #include <simdjson.h>
 

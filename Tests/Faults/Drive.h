@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Application/Model/Corvel.h"
-#include "Controllers/REST/Feed.h"
+#include "Inventory/Feed.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Faults/Rows.h"
 #include "Tests/ProcessMemory.h"

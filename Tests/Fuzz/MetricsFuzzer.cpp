@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Any bytes as a metrics document: what is charted is finite, in order and accounted for, whatever the bytes.
+#include "Inventory/Metrics/MetricsReduction.h"
 #include "Tests/Fuzz/Require.h"
-#include "Views/ManagedSystems/PCM/MetricsReduction.h"
 
 #include <algorithm>
 #include <cmath>

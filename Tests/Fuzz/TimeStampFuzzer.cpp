@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 // Any text as a stamp: what is read of a feed's says just what stands there, and what is read of the metrics' is where
 // its date, its clock and its zone put it.
+#include "Inventory/FeedDate.h"
+#include "Inventory/Metrics/MetricsDate.h"
 #include "Tests/Fuzz/Require.h"
-#include "Views/Common/FeedDate.h"
-#include "Views/ManagedSystems/PCM/MetricsDate.h"
 
 #include <fmt/format.h>
 

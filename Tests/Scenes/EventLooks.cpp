@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/Feed.h"
+#include "Inventory/Feed.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Scenes/Looks.h"
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/Feed.h"
+#include "Inventory/Feed.h"
 #include "Kit/Core/NavigationController.h"
 #include "Tests/Scenes/SceneTest.h"
 

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Application/Model/Corvel.h"
-#include "Controllers/REST/Feed.h"
+#include "Inventory/Feed.h"
 #include "Kit/Core/NavigationController.h"
 #include "Platform/NotificationCenter.h"
 #include "Tests/ScratchFolder.h"

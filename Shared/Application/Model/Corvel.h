@@ -19,7 +19,7 @@ class FeedDictionary;
 /// The transient members hold the last fetch, are never stored, and may be touched from any thread.
 ///
 /// The feed dictionary is opaque here, because feeds stand above the model: read it with `feedOfType` of
-/// Controllers/REST/Feed.h.
+/// Inventory/Feed.h.
 class Corvel : public ManagedObject
 {
 public:

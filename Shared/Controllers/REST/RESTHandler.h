@@ -2,9 +2,9 @@
 #pragma once
 
 #include "Application/Model/Corvel.h"
-#include "Controllers/REST/Feed.h"
-#include "Controllers/REST/MetricsDocument.h"
 #include "Controllers/REST/RXPromise.h"
+#include "Inventory/Feed.h"
+#include "Inventory/Metrics/MetricsDocument.h"
 #include "Platform/Queues/OperationQueue.h"
 #include "Platform/URLLoading/URLConnection.h"
 

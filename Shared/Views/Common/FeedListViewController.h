@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Controllers/REST/Feed.h"
 #include "Controllers/REST/RXPromise.h"
+#include "Inventory/Feed.h"
 #include "Kit/Core/Bars.h"
 #include "Kit/Core/Table.h"
 #include "Kit/Core/ViewController.h"

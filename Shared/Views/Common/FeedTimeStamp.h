@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Views/Common/FeedDate.h"
+#include "Inventory/FeedDate.h"
 
 #include <QDateTime>
 #include <QLocale>

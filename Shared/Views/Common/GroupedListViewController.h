@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Inventory/GroupedFeed.h"
 #include "Views/Common/FeedListViewController.h"
-#include "Views/Common/GroupedFeed.h"
 #include "Views/Common/PartitionCell.h"
 
 #include <optional>

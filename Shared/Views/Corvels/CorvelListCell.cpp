@@ -2,7 +2,7 @@
 #include "Views/Corvels/CorvelListCell.h"
 
 #include "Application/Model/Corvel.h"
-#include "Controllers/REST/Feed.h"
+#include "Inventory/Feed.h"
 #include "Kit/Core/UIColor+Tessel.h"
 
 #include <optional>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Dashboard/CorvelOverviewTableViewController.h"
 
-#include "Controllers/REST/Feed.h"
+#include "Inventory/Feed.h"
 #include "Views/Common/SceneInputs.h"
 
 namespace lodestar

@@ -3,13 +3,13 @@
 
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
+#include "Inventory/StateCounts.h"
 #include "Kit/Core/NavigationController.h"
 #include "Kit/Core/TabBarController.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/Queues/OwnThread.h"
 #include "Views/Corvels/CorvelListViewController.h"
-#include "Views/Dashboard/StateCounts.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Dashboard/MSOverViewController.h"
 
-#include "Controllers/REST/Feed.h"
+#include "Inventory/Feed.h"
 #include "Views/Common/CellText.h"
 
 namespace lodestar

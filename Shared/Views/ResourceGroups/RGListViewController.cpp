@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/ResourceGroups/RGListViewController.h"
 
+#include "Inventory/ElementList.h"
 #include "Views/Common/CellText.h"
-#include "Views/Common/ElementList.h"
 #include "Views/Common/Registry.h"
 
 #include <QCoreApplication>

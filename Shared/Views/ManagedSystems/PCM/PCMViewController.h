@@ -2,13 +2,13 @@
 #pragma once
 
 #include "Charts/LineChartView.h"
+#include "Inventory/Metrics/MetricsReduction.h"
 #include "Kit/Core/Bars.h"
 #include "Kit/Core/Outlets.h"
 #include "Kit/Core/ViewController.h"
 #include "Views/Common/CorvelReceiving.h"
 #include "Views/Common/SceneInputs.h"
 #include "Views/Common/TitleHeader.h"
-#include "Views/ManagedSystems/PCM/MetricsReduction.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Controllers/REST/MetricsDocument.h"
-#include "Views/ManagedSystems/PCM/MetricsDate.h"
+#include "Inventory/Metrics/MetricsDate.h"
+#include "Inventory/Metrics/MetricsDocument.h"
 
 #include <cstddef>
 #include <optional>

@@ -1,7 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Views/ManagedSystems/PCM/MetricsReduction.h"
-
-#include "Views/ManagedSystems/PCM/GraphPoint.h"
+#include "Inventory/Metrics/MetricsReduction.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -197,18 +195,6 @@ TEST(MetricsDateTest, ReadsAMomentWithItsZone)
                              "2015-03-01T10:00:00.+00:00:00"}) {
         EXPECT_EQ(seconds(text), std::nullopt) << text;
     }
-}
-
-TEST(GraphPointTest, StartsAtZeroNow)
-{
-    const auto before = std::chrono::system_clock::now();
-    const GraphPoint now;
-    EXPECT_GE(now.time(), before);
-    EXPECT_LE(now.time(), std::chrono::system_clock::now());
-    EXPECT_EQ(now.value(), 0);
-    const GraphPoint given(before, 6.5);
-    EXPECT_EQ(given.time(), before);
-    EXPECT_EQ(given.value(), 6.5);
 }
 
 } // namespace

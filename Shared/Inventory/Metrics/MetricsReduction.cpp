@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Views/ManagedSystems/PCM/MetricsReduction.h"
+#include "Inventory/Metrics/MetricsReduction.h"
 
 #include <fmt/format.h>
 

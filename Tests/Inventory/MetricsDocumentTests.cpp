@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/MetricsDocument.h"
+#include "Inventory/Metrics/MetricsDocument.h"
 
 #include <gmock/gmock.h>
 

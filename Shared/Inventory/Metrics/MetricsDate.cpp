@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Views/ManagedSystems/PCM/MetricsDate.h"
+#include "Inventory/Metrics/MetricsDate.h"
 
 #include <algorithm>
 #include <array>

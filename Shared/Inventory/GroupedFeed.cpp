@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Views/Common/GroupedFeed.h"
+#include "Inventory/GroupedFeed.h"
 
 #include <utility>
 

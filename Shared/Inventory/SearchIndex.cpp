@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Views/Common/SearchIndex.h"
+#include "Inventory/SearchIndex.h"
 
 #include <algorithm>
 #include <array>

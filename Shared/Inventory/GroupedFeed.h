@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Views/Common/ElementList.h"
+#include "Inventory/ElementList.h"
 
 #include <cstddef>
 #include <optional>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Views/Common/FeedDate.h"
+#include "Inventory/FeedDate.h"
 
 #include <algorithm>
 

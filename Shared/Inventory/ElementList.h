@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Views/Common/SearchIndex.h"
+#include "Inventory/SearchIndex.h"
 #include "XML/XMLElement.h"
 
 #include <cstdint>

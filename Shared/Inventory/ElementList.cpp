@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Views/Common/ElementList.h"
+#include "Inventory/ElementList.h"
 
 #include <algorithm>
 #include <iterator>
