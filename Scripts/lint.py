@@ -21,15 +21,16 @@ BELOW = {
     "XML": PLATFORM | {"Feedback"},
     "Inventory": PLATFORM | {"Feedback", "Application/Model", "XML"},
     "Controllers/REST": PLATFORM | {"Feedback", "Application/Model", "XML", "Inventory"},
+    "Fleet": PLATFORM | {"Feedback", "Application/Model", "XML", "Inventory", "Controllers/REST"},
     "Views/About/RichText": set(),
     "Kit": PLATFORM | {"Feedback"},
     "Feedback/UI": PLATFORM | {"Feedback", "Kit"},
     "Charts": PLATFORM | {"Feedback"},
-    "Views": PLATFORM | {"Feedback", "Application/Model", "XML", "Inventory", "Controllers/REST", "Kit", "Charts", "Views/About/RichText"},
-    "Application": PLATFORM | {"Feedback", "Application/Model", "XML", "Inventory", "Controllers/REST", "Kit", "Feedback/UI", "Charts", "Views"},
+    "Views": PLATFORM | {"Feedback", "Application/Model", "XML", "Inventory", "Controllers/REST", "Fleet", "Kit", "Charts", "Views/About/RichText"},
+    "Application": PLATFORM | {"Feedback", "Application/Model", "XML", "Inventory", "Controllers/REST", "Fleet", "Kit", "Feedback/UI", "Charts", "Views"},
 }
 # Every module whose files must compile without Qt.
-QT_FREE = {"Platform", "Feedback", "Application/Model", "XML", "Inventory", "Controllers/REST", "Views/About/RichText"}
+QT_FREE = {"Platform", "Feedback", "Application/Model", "XML", "Inventory", "Controllers/REST", "Fleet", "Views/About/RichText"}
 
 TEXT_ENDINGS = {".h", ".cpp", ".qml", ".cmake", ".txt", ".py", ".sh", ".md", ".json", ""}
 LICENSED_ENDINGS = {".h", ".cpp", ".qml", ".cmake", ".py", ".sh"}

@@ -3,7 +3,7 @@
 
 #include "Benchmarks/Program.h"
 #include "Controllers/REST/RESTHandler.h"
-#include "Views/Common/Registry.h"
+#include "Fleet/Registry.h"
 
 #include <QElapsedTimer>
 #include <QEventLoop>

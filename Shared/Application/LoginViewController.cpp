@@ -5,9 +5,9 @@
 #include "Application/KeptState.h"
 #include "Application/Passcode.h"
 #include "Controllers/REST/RESTHandler.h"
+#include "Fleet/Registry.h"
 #include "Kit/Core/Storyboard.h"
 #include "Platform/UserDefaults.h"
-#include "Views/Common/Registry.h"
 
 #include <cmath>
 #include <utility>

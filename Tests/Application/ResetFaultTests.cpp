@@ -1,12 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 // Every single allocation, write, sync and rename of the defaults and of a reset refused, one after the other.
 #include "Application/Adapters/FileUserDefaults.h"
+#include "Fleet/Registry.h"
 #include "Platform/MemoryReserve.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Application/LockFixture.h"
 #include "Tests/Injection.h"
 #include "Tests/LongRun.h"
-#include "Views/Common/Registry.h"
 #include "Views/Corvels/CorvelListViewController.h"
 
 #include <filesystem>

@@ -2,9 +2,9 @@
 #include "Application/Adapters/FileUserDefaults.h"
 #include "Application/FeedbackSupport.h"
 #include "Feedback/CrashCollector.h"
+#include "Fleet/Registry.h"
 #include "Kit/Core/TabBarController.h"
 #include "Tests/Application/LockFixture.h"
-#include "Views/Common/Registry.h"
 
 #include <filesystem>
 

@@ -4,10 +4,10 @@
 #include "Application/OneInstance.h"
 #include "Application/WindowPlace.h"
 #include "Feedback/VireoLogger.h"
+#include "Fleet/Registry.h"
 #include "Platform/NotificationCenter.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Application/LockedWindowFixture.h"
-#include "Views/Common/Registry.h"
 
 #include <QFileInfo>
 #include <QJsonObject>

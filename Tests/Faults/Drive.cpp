@@ -4,9 +4,9 @@
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
+#include "Fleet/Registry.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/UserDefaults.h"
-#include "Views/Common/Registry.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Controllers/REST/RESTHandler.h"
+#include "Fleet/Registry.h"
 #include "Platform/URLLoading/ServerTrust.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Scenes/SceneTest.h"
-#include "Views/Common/Registry.h"
 #include "Views/ResourceGroups/RGListViewController.h"
 
 #include <QElapsedTimer>

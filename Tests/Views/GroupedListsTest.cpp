@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/VireoLogger.h"
+#include "Fleet/Registry.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Tests/Views/ListFixture.h"
-#include "Views/Common/Registry.h"
 #include "Views/LogicalPartitions/LPDetailViewController.h"
 #include "Views/LogicalPartitions/LPListViewController.h"
 #include "Views/VIOS/VIOSDetailViewController.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // What every list of a console's inventory has to bear alike.
+#include "Fleet/Registry.h"
 #include "Tests/Views/ListFixture.h"
-#include "Views/Common/Registry.h"
 #include "Views/LogicalPartitions/LPListViewController.h"
 #include "Views/ManagedSystems/MSListViewController.h"
 #include "Views/ResourceGroups/RGListViewController.h"

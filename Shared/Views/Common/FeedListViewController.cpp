@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Common/FeedListViewController.h"
 
+#include "Fleet/Registry.h"
 #include "Platform/Queues/DispatchQueue.h"
 #include "Views/Common/FeedTimeStamp.h"
-#include "Views/Common/Registry.h"
 
 #include <QCoreApplication>
 

@@ -2,8 +2,8 @@
 #include "Views/Common/GroupedListViewController.h"
 
 #include "Controllers/REST/RESTSupport.h"
+#include "Fleet/Registry.h"
 #include "Platform/Queues/MainSteps.h"
-#include "Views/Common/Registry.h"
 #include "Views/Common/SceneInputs.h"
 
 #include <algorithm>

@@ -3,11 +3,11 @@
 
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
+#include "Fleet/Registry.h"
 #include "Kit/Core/ErrorText.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/NotificationCenter.h"
 #include "Platform/Queues/MainQueue.h"
-#include "Views/Common/Registry.h"
 #include "Views/Corvels/CorvelListViewController.h"
 
 #include <algorithm>

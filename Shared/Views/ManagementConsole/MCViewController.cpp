@@ -2,8 +2,8 @@
 #include "Views/ManagementConsole/MCViewController.h"
 
 #include "Controllers/REST/RESTHandler.h"
+#include "Fleet/Registry.h"
 #include "Views/Common/FeedTimeStamp.h"
-#include "Views/Common/Registry.h"
 #include "Views/Common/ScreenLog.h"
 
 #include <utility>

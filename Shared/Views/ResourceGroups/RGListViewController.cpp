@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/ResourceGroups/RGListViewController.h"
 
+#include "Fleet/Registry.h"
 #include "Inventory/ElementList.h"
 #include "Views/Common/CellText.h"
-#include "Views/Common/Registry.h"
 
 #include <QCoreApplication>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Views/Common/Registry.h"
+#include "Fleet/Registry.h"
 
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
