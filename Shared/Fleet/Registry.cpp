@@ -66,18 +66,16 @@ RXPromise<std::string> fetchInventory(const CorvelRef& corvel, Urgency urgency)
         });
 }
 
-RXPromise<XMLElement> fetchFeedWithStoredKey(const CorvelRef& corvel, std::string_view type, std::string_view schema)
+RXPromise<XMLElement> fetchFeedWithStoredKey(const CorvelRef& corvel, std::string_view type)
 {
     if (!corvel) {
         RXPromise<XMLElement> promise;
         promise.rejectWithReason("no console");
         return promise;
     }
-    return RESTHandler::sharedInstance()
-        .login(corvel, CheckToken::No)
-        .then([corvel, type, schema](const SessionKey& key) {
-            return RESTHandler::sharedInstance().fetchDataOfType(type, corvel, schema, key);
-        });
+    return RESTHandler::sharedInstance().login(corvel, CheckToken::No).then([corvel, type](const SessionKey& key) {
+        return RESTHandler::sharedInstance().fetchDataOfType(type, corvel, schemaOf(type), key);
+    });
 }
 
 std::optional<std::string> fetchLinkedText(const std::string& link, const CorvelRef& corvel)

@@ -35,9 +35,9 @@ void forgetSessionKeyOfUnregistered(const Corvel& corvel);
 RXPromise<std::string> fetchInventory(const CorvelRef& corvel, Urgency urgency = Urgency::Person);
 
 /// One feed of the console, asked for with the session key that is stored for it: a key that the console no longer
-/// takes is a refusal, until the console list logs on anew. Rejected for no console. Type and schema outlive the fetch.
+/// takes is a refusal, until the console list logs on anew. Rejected for no console. The type is one of the feed table.
 /// Any thread.
-RXPromise<XMLElement> fetchFeedWithStoredKey(const CorvelRef& corvel, std::string_view type, std::string_view schema);
+RXPromise<XMLElement> fetchFeedWithStoredKey(const CorvelRef& corvel, std::string_view type);
 
 /// What the console answers at the link, quotes removed; nothing when it cannot be had and for no console. Blocks its
 /// caller. Any thread.

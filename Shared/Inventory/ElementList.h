@@ -13,7 +13,7 @@
 namespace lodestar
 {
 
-/// What a search of an element looks into, as its row shows it. The same for the same element, always.
+/// What a search of an element looks into, as its row shows it. The same for the same element, always. Any thread.
 using SearchText = std::string (*)(const XMLElement& element);
 
 /// The elements behind a list's rows, in order, and what each is searched by. A value: a worker makes it whole and

@@ -3,8 +3,25 @@
 
 #include "Application/Model/Corvel.h"
 
+#include <algorithm>
+
 namespace lodestar
 {
+
+std::string_view schemaOf(std::string_view type)
+{
+    const auto* const row = std::ranges::find(feedTable, type, &FeedKind::type);
+    return row != feedTable.end() ? row->schema : std::string_view();
+}
+
+std::size_t FeedDictionary::memory() const
+{
+    std::size_t bytes = 0;
+    for (const auto& [type, feed] : m_feeds) {
+        bytes += feed.memory();
+    }
+    return bytes;
+}
 
 Feed FeedDictionary::feed(std::string_view type) const
 {

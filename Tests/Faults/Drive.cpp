@@ -5,6 +5,7 @@
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
 #include "Fleet/Registry.h"
+#include "Inventory/ConsoleInformation.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/UserDefaults.h"
 
@@ -113,7 +114,8 @@ std::vector<double> Drive::refresh(std::chrono::milliseconds limit)
         fetchInventory(corvel, Urgency::Fleet)
             .thenOnMain(
                 [note, corvel](const std::string&) {
-                    corvel->setVersion(RESTHandler::versionString(feedOfType(*corvel, ObjectType::ManagementConsole)));
+                    corvel->setVersion(
+                        ConsoleInformation::of(feedOfType(*corvel, ObjectType::ManagementConsole)).version());
                     saveIgnoringErrors();
                     note(true);
                 },

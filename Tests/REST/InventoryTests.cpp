@@ -1,14 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Fleet/Registry.h"
 #include "Platform/Resources.h"
-#include "Tests/LongRun.h"
 #include "Tests/REST/RESTHandlerFixture.h"
-#include "Tests/XML/TreeReference.h"
 #include "XML/KeptBytes.h"
 
 #include <gmock/gmock.h>
 
-#include <algorithm>
-#include <random>
 #include <thread>
 
 using testing::AllOf;
@@ -25,15 +22,10 @@ namespace lodestar::test
 namespace
 {
 
-constexpr std::array<std::string_view, 6> types = {
-    ObjectType::ManagementConsole, ObjectType::ManagedSystem,    ObjectType::VirtualIOServer,
-    ObjectType::LogicalPartition,  ObjectType::ServiceableEvent, ObjectType::Group,
-};
-
 std::vector<std::string> unavailable(const FeedDictionary& feeds)
 {
     std::vector<std::string> names;
-    for (const std::string_view type : types) {
+    for (const auto& [type, schema] : feedTable) {
         if (feeds.feed(type).isNA()) {
             names.emplace_back(type);
         }
@@ -41,48 +33,9 @@ std::vector<std::string> unavailable(const FeedDictionary& feeds)
     return names;
 }
 
-std::shared_ptr<const FeedDictionary> systemsFeed(std::string_view xml)
-{
-    auto feeds = std::make_shared<FeedDictionary>();
-    feeds->setFeed(ObjectType::ManagedSystem, Feed(XMLElement::parse(xml).value()));
-    return feeds;
-}
-
-std::string systemEntry(const std::string& properties)
-{
-    return "<entry><content><ManagedSystem>" + properties + "</ManagedSystem></content></entry>";
-}
-
 } // namespace
 
-class InventoryTest : public RESTHandlerTest
-{
-protected:
-    /// What a refresh does to a record, without a screen.
-    static RXPromise<std::string> refresh(const CorvelRef& corvel)
-    {
-        return handler()
-            .login(corvel, CheckToken::Yes)
-            .then([corvel](const SessionKey& sessionKey) {
-                corvel->isOnline = true;
-                return handler().fetchAllDataForCorvel(corvel, sessionKey);
-            })
-            .then([corvel](const std::shared_ptr<const FeedDictionary>& feeds) {
-                corvel->setRestData(feeds);
-                return handler().processInformationForCorvel(corvel);
-            })
-            .thenOnMain(
-                [corvel](const std::string&) {
-                    corvel->completedFetch = true;
-                    return std::string("fetched");
-                },
-                [corvel](const Error&) {
-                    corvel->completedFetch = true;
-                    corvel->isOnline = false;
-                    return std::string("offline");
-                });
-    }
-};
+using InventoryTest = RESTHandlerTest;
 
 TEST_F(InventoryTest, SixFeedsAreAskedForAndCounted)
 {
@@ -205,62 +158,6 @@ TEST_F(InventoryTest, DamagedFeedIsSalvagedAndAnEmptyOneHasNoEntries)
     EXPECT_EQ(feeds->feed(ObjectType::Group).entryCount(), 0U);
 }
 
-TEST_F(InventoryTest, RecordsOfDamagedFeedsSayWhatTheLibrarysOwnTreeSays)
-{
-    simulator::SimulatorProcess simulator{{}};
-    const CorvelRef corvel = corvelOf(simulator);
-    const SessionKey sessionKey = key(corvel);
-    Resources::install(makeFolderResources(LODESTAR_DEMO_FOLDER));
-    const std::string systems = Resources::main().contents("ManagedSystem", "xml").value_or("");
-    const std::string console = Resources::main().contents("ManagementConsole", "xml").value_or("");
-    std::mt19937 random(5); // NOLINT(cert-msc51-cpp): the same damage in every run
-    const auto damaged = [&random](std::string text) {
-        if (random() % 2 == 0) {
-            text.resize(random() % text.size());
-        }
-        for (std::size_t i = random() % 20; i > 0 && !text.empty(); --i) {
-            text[random() % text.size()] = "<>&;/'\" a\xff"[random() % 10];
-        }
-        return text;
-    };
-    const auto count = [](const std::vector<std::string>& texts, const auto& holds) {
-        return static_cast<int>(std::ranges::count_if(texts, holds));
-    };
-    const int tries = rounds(40, 2000);
-    for (int i = 0; i < tries; ++i) {
-        const std::string hurtSystems = damaged(systems);
-        const std::string hurtConsole = damaged(console);
-        simulator.setFeed(0, ObjectType::ManagedSystem, hurtSystems);
-        simulator.setFeed(0, ObjectType::ManagementConsole, hurtConsole);
-        corvel->setRestData(allFeeds(corvel, sessionKey));
-        ASSERT_EQ(settled(handler().processInformationForCorvel(corvel)).value(), "OK");
-
-        const auto below = [&](std::string_view name) {
-            return readTreeEntries(hurtSystems, {"content", ObjectType::ManagedSystem, name});
-        };
-        EXPECT_EQ(corvel->numMSErrors, count(below("State"),
-                                             [](const std::string& state) {
-                                                 return state.find("error") != std::string::npos ||
-                                                        state.find("incomplete") != std::string::npos;
-                                             }))
-            << i;
-        EXPECT_EQ(corvel->numMSLEDs, count(below("PhysicalSystemAttentionLEDState"),
-                                           [](const std::string& state) { return state == "true"; }))
-            << i;
-        EXPECT_EQ(feedOfType(*corvel, ObjectType::ManagedSystem).entryCount(), below("State").size()) << i;
-        const auto version = [&](std::string_view name) {
-            const auto texts =
-                readTreeEntries(hurtConsole, {"content", ObjectType::ManagementConsole, "VersionInfo", name});
-            return texts.empty() || texts[0] == "(none)" ? "(null)" : texts[0];
-        };
-        EXPECT_EQ(RESTHandler::versionString(feedOfType(*corvel, ObjectType::ManagementConsole)),
-                  "V" + version("Version") + "R" + version("Release") + "." + version("Maintenance") + "." +
-                      version("Minor") + "." + version("ServicePackName"))
-            << i;
-    }
-    RecordProperty("tries", tries);
-}
-
 TEST_F(InventoryTest, MissingKeyIsNotSentAndEveryFeedIsRefused)
 {
     simulator::SimulatorProcess simulator{{}};
@@ -285,48 +182,14 @@ TEST_F(InventoryTest, SwappedCertificateCostsTheFeedsUntilTheNextLogon)
     EXPECT_THAT(unavailable(*allFeeds(corvel, key(corvel))), IsEmpty());
 }
 
-TEST_F(InventoryTest, SystemsInErrorAndLitLightsAreCounted)
-{
-    const std::string lit = "<PhysicalSystemAttentionLEDState>true</PhysicalSystemAttentionLEDState>";
-    struct Case {
-        std::string xml;
-        int errors;
-        int lights;
-    };
-    const Case cases[] = {
-        {"<feed/>", 0, 0},
-        {"", 0, 0},
-        {"<feed>" + systemEntry("<State>incomplete</State>" + lit) + "</feed>", 1, 1},
-        {"<feed>" +
-             systemEntry(
-                 "<State>error</State><PhysicalSystemAttentionLEDState>TRUE</PhysicalSystemAttentionLEDState>") +
-             "</feed>",
-         1, 0},
-        {"<feed>" + systemEntry("<State>error - incomplete, recovery</State>") + "</feed>", 1, 0},
-        {"<feed>" + systemEntry("<State>Error</State>" + lit) + systemEntry("<State>operating</State>") +
-             systemEntry("") + "<entry/>" + systemEntry("<State>in error</State>" + lit) + "</feed>",
-         1, 2},
-    };
-    const CorvelRef corvel = makeCorvel("A", "a");
-    for (const Case& one : cases) {
-        corvel->setRestData(systemsFeed(one.xml));
-        EXPECT_EQ(settled(handler().processInformationForCorvel(corvel)).value(), "OK");
-        EXPECT_EQ(corvel->numMSErrors, one.errors) << one.xml;
-        EXPECT_EQ(corvel->numMSLEDs, one.lights) << one.xml;
-    }
-    corvel->setRestData(nullptr);
-    EXPECT_EQ(settled(handler().processInformationForCorvel(corvel)).value(), "OK");
-    EXPECT_EQ(corvel->numMSErrors, 0);
-}
-
 TEST_F(InventoryTest, DemoConsoleReadsThePackageAndNeverTheNetwork)
 {
     Resources::install(makeFolderResources(LODESTAR_DEMO_FOLDER));
     const CorvelRef corvel = makeCorvel("Demo Corvel", "127.0.0.1");
     corvel->setDemo(true);
-    EXPECT_EQ(settled(refresh(corvel)).value(), "fetched");
+    EXPECT_EQ(settled(fetchInventory(corvel)).value(), "OK");
     EXPECT_TRUE(corvel->isOnline);
-    for (const std::string_view type : types) {
+    for (const auto& [type, schema] : feedTable) {
         EXPECT_GT(feedOfType(*corvel, type).entryCount(), 0U) << type;
     }
     EXPECT_EQ(handler().fetchDataFromAtomLink("https://nowhere.invalid/", *corvel), "demo placeholder");
@@ -364,21 +227,6 @@ TEST_F(InventoryTest, LinkedValueIsFetchedOnTheCallersThread)
     EXPECT_THAT(lineSources(),
                 ElementsAre("2 0 Shared/Controllers/REST/RESTHandler -[RESTHandler fetchDataFromAtomLink:corvel:]"));
     EXPECT_THAT(takeLines(), ElementsAre(testing::StartsWith("Error: URLError")));
-}
-
-TEST_F(InventoryTest, VersionNamesWhatIsMissing)
-{
-    const auto feed = [](const std::string& info) {
-        return Feed(XMLElement::parse("<feed><entry><content><ManagementConsole><VersionInfo>" + info +
-                                      "</VersionInfo></ManagementConsole></content></entry></feed>")
-                        .value());
-    };
-    EXPECT_EQ(RESTHandler::versionString(
-                  feed("<Minor>4</Minor><Maintenance>3</Maintenance><Release>2</Release><Version>1</Version>"
-                       "<ServicePackName>5.6</ServicePackName>")),
-              "V1R2.3.4.5.6");
-    EXPECT_EQ(RESTHandler::versionString(feed("<Version>8</Version>")), "V8R(null).(null).(null).(null)");
-    EXPECT_EQ(RESTHandler::versionString(Feed::notAvailable()), "V(null)R(null).(null).(null).(null)");
 }
 
 TEST_F(InventoryTest, WorkingListKeepsTheStoresOrderAndIsReadFromAnyThread)
@@ -432,7 +280,11 @@ TEST_F(InventoryTest, FleetWithBadConsolesRefreshesEachForItself)
     }
     std::vector<RXPromise<std::string>> refreshes;
     testing::internal::CaptureStdout();
-    std::ranges::transform(corvels, std::back_inserter(refreshes), refresh);
+    for (const CorvelRef& corvel : corvels) {
+        refreshes.push_back(
+            fetchInventory(corvel, Urgency::Fleet)
+                .then([](const std::string& done) { return done; }, [](const Error&) { return std::string(); }));
+    }
     const bool allSettled = settled(RXPromise<std::string>::all(refreshes)).ok();
     std::string told = testing::internal::GetCapturedStdout();
     ASSERT_TRUE(allSettled);
@@ -447,7 +299,6 @@ TEST_F(InventoryTest, FleetWithBadConsolesRefreshesEachForItself)
     for (int i = 0; i < settings.consoles; ++i) {
         SCOPED_TRACE(i);
         const CorvelRef& corvel = corvels[static_cast<std::size_t>(i)];
-        EXPECT_TRUE(corvel->completedFetch);
         EXPECT_EQ(corvel->isOnline, i > 1);
         if (i < 2) {
             EXPECT_EQ(corvel->restData(), nullptr);

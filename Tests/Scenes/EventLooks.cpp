@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Inventory/Feed.h"
+#include "Inventory/ServiceableEvent.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Scenes/Looks.h"
 
@@ -29,10 +29,7 @@ std::string longEvents()
 
 XMLElement demoEvent(std::size_t index)
 {
-    return feedOfType(*demoConsole(), ObjectType::ServiceableEvent)
-        .entries()
-        .at(index)
-        .path({"content", "ServiceableEvent"});
+    return recordsOf<ServiceableEvent>(feedOfType(*demoConsole(), ObjectType::ServiceableEvent)).at(index).element();
 }
 
 void scrollToEnd(const SceneStage& stage)

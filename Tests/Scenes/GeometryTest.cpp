@@ -179,7 +179,7 @@ TEST_P(GeometryTest, Inventory)
     stage.show(size(), fleet());
     const CorvelRef corvel = demoConsole();
     const XMLElement system =
-        feedOfType(*corvel, ObjectType::ManagedSystem).entries().at(2).path({"content", ObjectType::ManagedSystem});
+        contentOf(feedOfType(*corvel, ObjectType::ManagedSystem).entries().at(2), ObjectType::ManagedSystem);
     for (const char* scene :
          {"corvelTasksViewController", "managedSystemsView", "managementConsoleView", "managedSystemInfo",
           "managedSystemMenu", "logicalPartitionsView", "logicalPartitionsDetail", "viosView"}) {
@@ -197,10 +197,8 @@ TEST_P(GeometryTest, EventsAndGroups)
     apply();
     stage.show(size(), fleet());
     const CorvelRef corvel = demoConsole();
-    const XMLElement event = feedOfType(*corvel, ObjectType::ServiceableEvent)
-                                 .entries()
-                                 .front()
-                                 .path({"content", ObjectType::ServiceableEvent});
+    const Feed events = feedOfType(*corvel, ObjectType::ServiceableEvent);
+    const XMLElement event = contentOf(events.entries().front(), ObjectType::ServiceableEvent);
     for (const char* scene : {"serviceableEventsView", "serviceableEventsDetail", "resourceGroupsView"}) {
         ASSERT_NE(stage.open(scene, {.corvel = corvel, .rootXML = event}), nullptr);
         ASSERT_TRUE(stage.waitFor([this] { return row(0) != nullptr && stage.items("Spinner").empty(); }));

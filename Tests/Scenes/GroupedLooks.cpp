@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // The lists by managed system ask a console for the systems' names: a simulated one answers.
-#include "Controllers/REST/RESTHandler.h"
+#include "Fleet/Registry.h"
+#include "Inventory/Partition.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Scenes/Looks.h"
 
@@ -56,16 +57,8 @@ std::string longNamedPartitions(const CorvelRef& corvel)
 
 std::string systemNameOf(const CorvelRef& corvel, std::size_t index)
 {
-    const auto name = RESTHandler::sharedInstance().fetchDataFromAtomLink(
-        feedOfType(*corvel, ObjectType::LogicalPartition)
-                .entries()
-                .at(index)
-                .path({"content", "LogicalPartition", "AssociatedManagedSystem"})
-                .attribute("href")
-                .value() +
-            "/quick/SystemName",
-        *corvel);
-    return name.value_or("");
+    const auto partitions = recordsOf<LogicalPartition>(feedOfType(*corvel, ObjectType::LogicalPartition));
+    return fetchLinkedText(partitions.at(index).systemNameLink(), corvel).value_or("");
 }
 
 std::vector<Look> partitionLooks()

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/RESTHandler.h"
+#include "Fleet/Registry.h"
+#include "Inventory/ManagedSystem.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Scenes/Looks.h"
 #include "Views/ManagedSystems/PCM/PCMViewController.h"
@@ -14,10 +15,7 @@ constexpr int grown = 3300;
 
 PCMViewController& openPerformance(SceneStage& stage, CorvelRef corvel, const char* name = "helios-01")
 {
-    const auto id = feedOfType(*corvel, ObjectType::ManagedSystem)
-                        .root()
-                        .path({"entry", "content", "ManagedSystem", "Metadata", "Atom", "AtomID"})
-                        .text();
+    const auto id = ManagedSystem::identifierAt(feedOfType(*corvel, ObjectType::ManagedSystem), 0);
     return *stage.open<PCMViewController>("pcmDataView",
                                           {.corvel = std::move(corvel), .sysName = std::string(name), .systemID = id});
 }
@@ -42,13 +40,10 @@ void showSimulated(SceneStage& stage, const char* fault)
     simulator::SimulatorProcess simulated{{}};
     simulated.setFault(fault);
     const CorvelRef corvel = simulatedConsole(stage, simulated);
-    const auto feed = RESTHandler::sharedInstance().fetchDataOfType(
-        ObjectType::ManagedSystem, corvel, "uom",
-        RESTHandler::sharedInstance().login(corvel, CheckToken::No).result()->value());
+    const auto feed = fetchFeedWithStoredKey(corvel, ObjectType::ManagedSystem);
     stage.waitFor([&] { return !feed.isPending(); });
-    auto feeds = std::make_shared<FeedDictionary>();
-    feeds->setFeed(ObjectType::ManagedSystem, Feed(feed.result()->value()));
-    corvel->setRestData(feeds);
+    corvel->setRestData(nullptr);
+    setFeedOfType(*corvel, ObjectType::ManagedSystem, Feed(feed.result()->value()));
     waitForChart(stage, openPerformance(stage, corvel));
 }
 

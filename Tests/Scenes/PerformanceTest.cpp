@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/RESTHandler.h"
+#include "Inventory/ManagedSystem.h"
 #include "Tests/Scenes/SceneTest.h"
 #include "Views/ManagedSystems/PCM/PCMViewController.h"
 
@@ -106,11 +106,8 @@ TEST_F(PerformanceSceneTest, FromASystemsMenuTheTitleStandsClearOfTheWayBack)
     for (const int width : {320, 360, 390, 768}) {
         stage.show({width, 640}, fleet());
         const CorvelRef corvel = demoConsole();
-        stage.open("managedSystemMenu", {.corvel = corvel,
-                                         .rootXML = feedOfType(*corvel, ObjectType::ManagedSystem)
-                                                        .entries()
-                                                        .at(2)
-                                                        .path({"content", ObjectType::ManagedSystem})});
+        const auto systems = recordsOf<ManagedSystem>(feedOfType(*corvel, ObjectType::ManagedSystem));
+        stage.open("managedSystemMenu", {.corvel = corvel, .rootXML = systems.at(2).element()});
         top()->setTitle(QStringLiteral("A managed system with a long name"));
         ASSERT_TRUE(stage.waitFor([this] { return row(0) != nullptr; }));
         stage.settle(200);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/RESTHandler.h"
 #include "Fleet/Registry.h"
+#include "Inventory/ResourceGroup.h"
 #include "Platform/URLLoading/ServerTrust.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Scenes/SceneTest.h"
@@ -42,14 +42,10 @@ protected:
     /// How many resources the groups from the first to the last have.
     int resources(int first, int last) const
     {
-        const std::vector<XMLElement> groups = feedOfType(*corvel, ObjectType::Group).entries();
+        const auto groups = recordsOf<ResourceGroup>(feedOfType(*corvel, ObjectType::Group));
         int count = 0;
         for (int place = first; place <= last; ++place) {
-            const XMLElement group = groups.at(static_cast<std::size_t>(place)).path({"content", "Group"});
-            for (const char* list :
-                 {"AssociatedLogicalPartitions", "AssociatedVirtualIOServers", "AssociatedManagedSystems"}) {
-                count += static_cast<int>(group.child(list).children("link").size());
-            }
+            count += static_cast<int>(groups.at(static_cast<std::size_t>(place)).members().size());
         }
         return count;
     }

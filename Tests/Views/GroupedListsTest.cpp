@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/VireoLogger.h"
 #include "Fleet/Registry.h"
+#include "Inventory/ManagedSystem.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Tests/Views/ListFixture.h"
@@ -178,13 +179,12 @@ protected:
         corvel = addLoggedOn(fleet);
         std::optional<XMLElement> feed;
         const auto keep = [&feed](const XMLElement& root) { feed = root; };
-        fetchFeedWithStoredKey(corvel, "ManagedSystem", "uom").thenOnMain(keep);
+        fetchFeedWithStoredKey(corvel, "ManagedSystem").thenOnMain(keep);
         ASSERT_TRUE(runUntil([&] { return feed.has_value(); }));
-        for (const XMLElement& entry : feed->children("entry")) {
-            const XMLElement system = entry.path({"content", "ManagedSystem"});
+        for (const ManagedSystem& system : recordsOf<ManagedSystem>(Feed(*feed))) {
             links.push_back("https://" + fleet.address(0) + ":12443/rest/api/uom/ManagedSystem/" +
-                            system.path({"Metadata", "Atom", "AtomID"}).text().value());
-            systems.push_back(QString::fromStdString(system.child("SystemName").text().value()));
+                            system.identifier().value());
+            systems.push_back(QString::fromStdString(system.name().value()));
         }
         fleet.clearRequests();
     }

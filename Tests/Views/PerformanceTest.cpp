@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Fleet/Registry.h"
+#include "Inventory/ManagedSystem.h"
 #include "Simulator/Metrics.h"
 #include "Tests/Views/ListFixture.h"
 #include "Views/Common/FeedTimeStamp.h"
@@ -60,15 +62,9 @@ protected:
     }
     static std::string firstSystem(const CorvelRef& corvel)
     {
-        const auto key = RESTHandler::sharedInstance().login(corvel, CheckToken::No);
-        const auto feed =
-            RESTHandler::sharedInstance().fetchDataOfType("ManagedSystem", corvel, "uom", key.result()->value());
+        const auto feed = fetchFeedWithStoredKey(corvel, ObjectType::ManagedSystem);
         EXPECT_TRUE(runUntil([&] { return feed.isFulfilled(); }));
-        return feed.result()
-            ->value()
-            .path({"entry", "content", "ManagedSystem", "Metadata", "Atom", "AtomID"})
-            .text()
-            .value();
+        return ManagedSystem::identifierAt(Feed(feed.result()->value()), 0).value();
     }
     static QString local(const char* utc)
     {

@@ -1,4 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Fleet/Registry.h"
+#include "Inventory/ResourceGroup.h"
 #include "Tests/Views/ListFixture.h"
 #include "Views/ResourceGroups/RGListCell.h"
 #include "Views/ResourceGroups/RGListViewController.h"
@@ -91,14 +93,13 @@ TEST_F(ResourceGroupsTest, ThePullForgetsTheResourcesAndEndsAtOnce)
 TEST_F(ResourceGroupsTest, StatesAndColoursAreTakenByTheirExactWording)
 {
     RGStateCounts counters;
-    for (const char* state : {"running", "operating", "not available", "not activated", "not activated", "alert",
-                              "error", "error", "Running", "running ", "Operating", "ERROR", "starting", ""}) {
+    for (const char* state : {"running", "operating", "not activated", "alert", "error", "error", "error", "Error"}) {
         counters.add(state);
     }
-    EXPECT_EQ(counters, (RGStateCounts{2, 3, 1, 2}));
+    EXPECT_EQ(counters, (RGStateCounts{2, 1, 1, 3}));
     RGListCell cell;
     cell.setStateCounts(counters);
-    EXPECT_EQ(counts(cell), QStringList({"2", "3", "1", "2"}));
+    EXPECT_EQ(counts(cell), QStringList({"2", "1", "1", "3"}));
     cell.setGroupColor("Purple");
     for (const char* unknown : {"purple", "Teal", ""}) {
         cell.setGroupColor(unknown);
@@ -125,28 +126,20 @@ TEST_F(ResourceGroupsTest, EachConfigurationOfARowAsksForEveryStateAnew)
 {
     simulator::SimulatorProcess fleet{simulator::Settings{}};
     const CorvelRef corvel = addLoggedOn(fleet);
-    const auto fetched =
-        RESTHandler::sharedInstance().login(corvel, CheckToken::Yes).then([corvel](const SessionKey& key) {
-            return RESTHandler::sharedInstance().fetchAllDataForCorvel(corvel, key);
-        });
-    ASSERT_TRUE(runUntil([&] { return !fetched.isPending(); }));
-    corvel->setRestData(fetched.result()->value());
+    const auto fetched = fetchInventory(corvel);
+    ASSERT_TRUE(runUntil([&] { return fetched.isFulfilled(); }));
     const auto list = open<RGListViewController>(corvel);
     ASSERT_TRUE(hasContent(*list));
 
     const std::map<std::string, std::string> states = statesOf(*corvel);
-    const XMLElement first = feedOfType(*corvel, ObjectType::Group).entries().front().path({"content", "Group"});
+    const auto groups = recordsOf<ResourceGroup>(feedOfType(*corvel, ObjectType::Group));
     std::vector<std::string> expected;
     std::map<std::string, int> tally;
-    for (const auto& [kind, property] :
-         std::vector<std::pair<const char*, const char*>>{{"AssociatedLogicalPartitions", "/quick/PartitionState"},
-                                                          {"AssociatedVirtualIOServers", "/quick/PartitionState"},
-                                                          {"AssociatedManagedSystems", "/quick/State"}}) {
-        for (const XMLElement& link : first.child(kind).children("link")) {
-            const std::string href = link.attribute("href").value();
-            expected.push_back(href.substr(href.find("/rest/")) + property);
-            ++tally[states.at(href.substr(href.rfind('/') + 1))];
-        }
+    for (const ResourceGroup::Member& member : groups.at(0).members()) {
+        const std::string link = ResourceGroup::stateLinkOf(member).value();
+        expected.push_back(link.substr(link.find("/rest/")));
+        const std::string object = link.substr(0, link.find("/quick/"));
+        ++tally[states.at(object.substr(object.rfind('/') + 1))];
     }
     ASSERT_GT(expected.size(), 8U);
     const QStringList expectedCounts = {QString::number(tally["running"] + tally["operating"]),

@@ -5,6 +5,7 @@
 #include "Controllers/REST/CorvelRequest.h"
 #include "Controllers/REST/RESTSupport.h"
 #include "Feedback/VireoLogger.h"
+#include "Inventory/Record.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/URLLoading/ServerTrust.h"
 #include "Platform/UserDefaults.h"

@@ -71,9 +71,6 @@ public:
     RXPromise<MetricsDocument> fetchPCMDataForManagedSystem(const std::optional<std::string>& systemID,
                                                             const CorvelRef& corvel, const SessionKey& key);
 
-    /// "V…R…" from the five elements of the record's console feed, "(null)" for each missing one.
-    static std::string versionString(const Feed& managementConsole);
-
 private:
     RESTHandler();
     ~RESTHandler() = default;

@@ -2,10 +2,10 @@
 #include "Controllers/REST/RESTHandler.h"
 #include "Controllers/REST/RESTSupport.h"
 #include "Feedback/VireoLogger.h"
+#include "Inventory/ManagedSystem.h"
 #include "Platform/Resources.h"
 #include "XML/KeptRoom.h"
 
-#include <array>
 #include <mutex>
 #include <utility>
 
@@ -18,20 +18,6 @@ namespace
 constexpr std::string_view sourceFile = "Shared/Controllers/REST/RESTHandler";
 constexpr std::chrono::seconds feedTimeout{500};
 
-struct FeedAddress {
-    std::string_view type;
-    std::string_view schema;
-};
-
-constexpr std::array<FeedAddress, 6> allFeeds = {{
-    {ObjectType::ManagementConsole, "uom"},
-    {ObjectType::ManagedSystem, "uom"},
-    {ObjectType::VirtualIOServer, "uom"},
-    {ObjectType::LogicalPartition, "uom"},
-    {ObjectType::ServiceableEvent, "sem"},
-    {ObjectType::Group, "uom"},
-}};
-
 /// One console's feeds as they come in, from several threads.
 class FeedCollector
 {
@@ -40,7 +26,7 @@ public:
     void set(std::string_view type, Feed feed)
     {
         const std::lock_guard lock(m_mutex);
-        m_room->didKeep(feed.root().documentMemory());
+        m_room->didKeep(feed.memory());
         m_feeds->setFeed(type, std::move(feed));
     }
     /// To be called once every feed is in.
@@ -59,16 +45,8 @@ private:
 /// What the record's feeds take: about what those that replace them will take.
 std::size_t keptFor(const Corvel& corvel)
 {
-    std::size_t bytes = 0;
-    for (const FeedAddress& feed : allFeeds) {
-        bytes += feedOfType(corvel, feed.type).root().documentMemory();
-    }
-    return bytes;
-}
-
-bool isErrorState(std::string_view state)
-{
-    return state.find("error") != std::string_view::npos || state.find("incomplete") != std::string_view::npos;
+    const auto feeds = corvel.restData();
+    return feeds != nullptr ? feeds->memory() : 0;
 }
 
 /// Settles with the root of a feed's answer. The label is the feed's for the log.
@@ -128,8 +106,8 @@ RESTHandler::fetchAllDataForCorvel(const CorvelRef& corvel, const SessionKey& ke
     const auto fetch = [this, promise, corvel, key, urgency](std::shared_ptr<KeptRoom::Share> room) {
         const auto collector = std::make_shared<FeedCollector>(std::move(room));
         std::vector<RXPromise<std::string>> continuations;
-        continuations.reserve(allFeeds.size());
-        for (const auto& [type, schema] : allFeeds) {
+        continuations.reserve(feedTable.size());
+        for (const auto& [type, schema] : feedTable) {
             // Both handlers return a text, so that one unreachable feed does not fail the whole.
             continuations.push_back(fetchDataOfType(type, corvel, schema, key, urgency)
                                         .then(
@@ -162,10 +140,9 @@ RXPromise<std::string> RESTHandler::processInformationForCorvel(const CorvelRef&
     }
     int errors = 0;
     int lights = 0;
-    for (const XMLElement& entry : feed.entries()) {
-        const XMLElement system = entry.path({"content", ObjectType::ManagedSystem});
-        errors += isErrorState(system.child("State").text().value_or("")) ? 1 : 0;
-        lights += system.child("PhysicalSystemAttentionLEDState").text() == "true" ? 1 : 0;
+    for (const ManagedSystem& system : recordsOf<ManagedSystem>(feed)) {
+        errors += system.health() == Health::Error ? 1 : 0;
+        lights += system.isAttentionLEDLit() ? 1 : 0;
     }
     corvel->numMSErrors = errors;
     corvel->numMSLEDs = lights;
@@ -207,15 +184,6 @@ XMLElement RESTHandler::getDemoDataForContentType(std::string_view type) const
     const auto contents = Resources::main().contents(std::string(type), "xml");
     auto root = XMLElement::parse(contents.value_or(""));
     return root ? std::move(root).value() : XMLElement();
-}
-
-std::string RESTHandler::versionString(const Feed& managementConsole)
-{
-    const XMLElement version =
-        managementConsole.root().path({"entry", "content", ObjectType::ManagementConsole, "VersionInfo"});
-    const auto text = [&version](std::string_view name) { return shownText(version.child(name).text()); };
-    return fmt::format("V{}R{}.{}.{}.{}", text("Version"), text("Release"), text("Maintenance"), text("Minor"),
-                       text("ServicePackName"));
 }
 
 } // namespace lodestar

@@ -2,6 +2,8 @@
 #include "Controllers/REST/RESTHandler.h"
 #include "Controllers/REST/RESTSupport.h"
 #include "Feedback/VireoLogger.h"
+#include "Inventory/Metrics/MetricsReduction.h"
+#include "Inventory/Record.h"
 #include "Platform/Resources.h"
 
 #include <utility>
@@ -12,8 +14,6 @@ namespace lodestar
 namespace
 {
 
-constexpr std::string_view notProcessed = "Processing did not happen";
-
 /// Line numbers are part of a message's identity in a log: they stay what they are.
 template <typename... Args>
 void log(int line, fmt::format_string<Args...> format, Args&&... args)
@@ -21,22 +21,6 @@ void log(int line, fmt::format_string<Args...> format, Args&&... args)
     VireoLogger::log(2, 0, line, "Shared/Controllers/REST/RESTHandler",
                      "-[RESTHandler fetchPCMDataForManagedSystem:corvel:key:]", callStackReturnAddresses(), format,
                      std::forward<Args>(args)...);
-}
-
-/// The first message of the first sample's errors. No sample at all means that nothing was processed; a sample that
-/// says nothing, or nothing readable, was.
-std::string_view processingMessage(const MetricsDocument& document)
-{
-    const MetricsValue sample = document.root().path({"systemUtil", "utilSamples"}).first();
-    if (!sample.exists()) {
-        return notProcessed;
-    }
-    for (const MetricsValue& record : sample.path({"sampleInfo", "errorInfo"}).elements()) {
-        if (const MetricsValue message = record.member("errMsg"); message.exists()) {
-            return message.text().value_or("");
-        }
-    }
-    return {};
 }
 
 Result<MetricsDocument> demoMetrics()
@@ -93,9 +77,9 @@ private:
         log(272, "RESTHandler: fetching PCM data for {}", m_name);
         // The key goes to where the feed points, as with look-ups. A feed without a link leads to an empty address,
         // which fails like any that cannot be reached.
-        const auto href = feed ? feed.value().path({"entry", "link"}).attribute("href") : std::nullopt;
+        const auto link = feed ? Feed(feed.value()).firstLink() : std::nullopt;
         sendAsynchronousRequest(
-            requestFor(href.value_or("")), m_queue,
+            requestFor(link.value_or("")), m_queue,
             [self = shared_from_this()](const Result<URLLoad>& second) { self->receivedDocument(second); });
     }
 
@@ -109,7 +93,7 @@ private:
         const Result<MetricsDocument> parsed = MetricsDocument::parse(load ? load.value().body : std::string());
         log(283, "RESTHandler: fetching PCM error message for {}", m_name);
         const MetricsDocument document = parsed ? parsed.value() : MetricsDocument();
-        if (processingMessage(document).find(notProcessed) != std::string_view::npos) {
+        if (!wasProcessed(document)) {
             m_promise.rejectWithReason(std::string(notProcessed));
             return;
         }

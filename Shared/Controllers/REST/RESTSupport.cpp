@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Controllers/REST/RESTSupport.h"
 
+#include "Inventory/Record.h"
 #include "Platform/URLLoading/ErrorWords.h"
 #include "Platform/UserDefaults.h"
 
@@ -46,11 +47,6 @@ SessionKey usable(SessionKey key)
 }
 
 } // namespace
-
-std::string shownText(const std::optional<std::string>& text)
-{
-    return text.value_or("(null)");
-}
 
 std::string consoleURL(const Corvel& corvel, std::string_view schema, std::string_view type)
 {

@@ -10,9 +10,6 @@
 namespace lodestar
 {
 
-/// The text, or "(null)" for none, as every line and address of the client shows it.
-std::string shownText(const std::optional<std::string>& text);
-
 /// Where a console serves the objects of a type.
 std::string consoleURL(const Corvel& corvel, std::string_view schema, std::string_view type);
 

@@ -97,6 +97,35 @@ MetricsReduction::EndSample endSample(const MetricsValue& sample, const MetricsF
 
 } // namespace
 
+MetricsPeriod periodOf(const MetricsDocument& document)
+{
+    const MetricsValue information = document.root().path({"systemUtil", "utilInfo"});
+    const auto date = [&information](std::string_view key) {
+        const auto stamp = information.member(key).text();
+        return stamp ? dateFromString(*stamp) : std::nullopt;
+    };
+    return {date("startTimeStamp"), date("endTimeStamp")};
+}
+
+MetricsValue samplesOf(const MetricsDocument& document)
+{
+    return document.root().path({"systemUtil", "utilSamples"});
+}
+
+bool wasProcessed(const MetricsDocument& document)
+{
+    const MetricsValue sample = samplesOf(document).first();
+    if (!sample.exists()) {
+        return false;
+    }
+    for (const MetricsValue& record : sample.path({"sampleInfo", "errorInfo"}).elements()) {
+        if (const MetricsValue message = record.member("errMsg"); message.exists()) {
+            return message.text().value_or("").find(notProcessed) == std::string_view::npos;
+        }
+    }
+    return true;
+}
+
 MetricsReduction reduceMetrics(const MetricsValue& samples, MetricsSegment segment)
 {
     const std::vector<MetricsValue> all = samples.elements();

@@ -60,6 +60,20 @@ struct MetricsReduction {
     std::optional<EndSample> last;
 };
 
+/// The time of the first sample and of the last, as the document says; none where its time stamp cannot be read.
+struct MetricsPeriod {
+    std::optional<MetricsDate> start;
+    std::optional<MetricsDate> end;
+};
+MetricsPeriod periodOf(const MetricsDocument& document);
+/// The document's array of samples, oldest first; none when it has none. The document must outlive the samples.
+MetricsValue samplesOf(const MetricsDocument& document);
+/// What a console writes where it has not processed the metrics.
+inline constexpr std::string_view notProcessed = "Processing did not happen";
+/// Whether the console has processed the metrics. It has not when the document has no samples, or when the first
+/// message among the first sample's errors holds `notProcessed`. A message that is no text counts as empty.
+bool wasProcessed(const MetricsDocument& document);
+
 /// Reduces the array of samples; what is no array has none. For processors `allocated` is what is not available, by a
 /// subtraction in single precision of which seven digits are kept; for memory it is what is available, and all three
 /// are divided by 1000 in single precision. That the two differ is meant. Any thread.

@@ -1,14 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Common/CellText.h"
 
-#include "XML/XMLElement.h"
-
 namespace lodestar
 {
 
-QString textOf(const XMLElement& element)
+QString textOf(const std::optional<std::string>& field)
 {
-    return QString::fromStdString(element.text().value_or(""));
+    return QString::fromStdString(field.value_or(""));
 }
 
 QString spoken(QStringList words)

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Common/DetailViewController.h"
 
-#include "Controllers/REST/RESTSupport.h"
-
 #include <utility>
 
 namespace lodestar
@@ -33,12 +31,10 @@ QString DetailViewController::row(const QString& label, const std::optional<std:
     return row(label, QString::fromStdString(shownText(value)));
 }
 
-DetailSection DetailViewController::modelAndSerial(const XMLElement& owner) const
+DetailSection DetailViewController::modelAndSerial(const MachineIdentity& machine) const
 {
-    const XMLElement model = owner.child("MachineTypeModelAndSerialNumber");
-    return {{row(tr("Serial Number"), model.child("SerialNumber").text()),
-             row(tr("Machine Type"), model.child("MachineType").text()),
-             row(tr("Model"), model.child("Model").text())}};
+    return {{row(tr("Serial Number"), machine.serialNumber()), row(tr("Machine Type"), machine.machineType()),
+             row(tr("Model"), machine.model())}};
 }
 
 void DetailViewController::setTableData(std::vector<DetailSection> sections)

@@ -1,10 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Inventory/Record.h"
 #include "Kit/Core/Table.h"
 #include "Kit/Core/ViewController.h"
 #include "Views/Common/DetailCell.h"
-#include "XML/XMLElement.h"
 
 #include <QStringList>
 
@@ -57,7 +57,7 @@ protected:
     virtual void openRow(IndexPath /*indexPath*/) {}
 
     /// Serial number, machine type and model of a system or a console.
-    DetailSection modelAndSerial(const XMLElement& owner) const;
+    DetailSection modelAndSerial(const MachineIdentity& machine) const;
     QString row(const QString& label, const QString& value) const;
     /// An absent text reads "(null)".
     QString row(const QString& label, const std::optional<std::string>& value) const;

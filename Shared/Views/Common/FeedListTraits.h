@@ -30,7 +30,6 @@ struct FeedListTraits {
     std::string_view fileName; ///< for the log: path and class
     int instantiationLine;     ///< of the log line of `viewDidLoad`
     std::string_view type;     ///< of the feed
-    std::string_view schema = "uom";
     const char* title;
     /// What `fetchNewRESTData`, the pull and the refresh button are called in the log; most lists have one method.
     FeedFetch newDataFetch;

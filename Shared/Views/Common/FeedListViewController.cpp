@@ -90,7 +90,7 @@ RXPromise<std::string> FeedListViewController::fetchAfresh(const FeedFetch& fetc
     // The screen is kept until the feed is stored, also when it is closed meanwhile.
     const auto screen = self<FeedListViewController>();
     const Turn turn = ++m_turn;
-    return fetchFeedWithStoredKey(corvel(), type(), m_traits.schema)
+    return fetchFeedWithStoredKey(corvel(), type())
         .thenOnMain([screen, turn](const XMLElement& feedRoot) { return screen->adopt(feedRoot, turn); },
                     [screen, turn, fetch](const Error& error) {
                         screen->m_log.writeError(fetch.line, fetch.selector, error);
@@ -120,7 +120,7 @@ RXPromise<std::string> FeedListViewController::done()
 
 void FeedListViewController::parseTimeStampFromXML(const XMLElement& feedRoot)
 {
-    setHeaderTitle(translated(m_traits.title), feedTimeStamp(feedRoot));
+    setHeaderTitle(translated(m_traits.title), feedTimeStamp(Feed(feedRoot)));
 }
 
 void FeedListViewController::refreshTable()

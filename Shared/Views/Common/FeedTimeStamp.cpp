@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Common/FeedTimeStamp.h"
 
-#include "XML/XMLElement.h"
+#include "Inventory/Feed.h"
 
 #include <algorithm>
 #include <array>
@@ -59,9 +59,9 @@ QString mediumDateShortTime(const FeedDate& date, const QLocale& locale)
                                locale);
 }
 
-QString feedTimeStamp(const XMLElement& feedRoot)
+QString feedTimeStamp(const Feed& feed)
 {
-    const auto published = feedRoot.path({"entry", "published"}).text();
+    const auto published = feed.published();
     const auto date = published ? parseFeedDate(*published) : std::nullopt;
     return date ? mediumDateShortTime(*date) : QString();
 }

@@ -10,7 +10,7 @@
 namespace lodestar
 {
 
-class XMLElement;
+class Feed;
 
 /// A date and time as a clock on the wall has them.
 struct WallClock {
@@ -24,6 +24,6 @@ QString mediumDateShortTime(const FeedDate& date, const QLocale& locale = QLocal
 
 /// When the feed was published, as its first entry says and as the current locale writes it; empty when the feed does
 /// not say, or not readably. Any thread.
-QString feedTimeStamp(const XMLElement& feedRoot);
+QString feedTimeStamp(const Feed& feed);
 
 } // namespace lodestar

@@ -17,7 +17,7 @@ void FlatListViewController::appendStoredFeed(Turn turn)
     ElementList list(m_searchText);
     const Feed stored = feed();
     for (const XMLElement& entry : stored.entries()) {
-        XMLElement element = entry.path({"content", type()});
+        XMLElement element = contentOf(entry, type());
         // An entry of another type has no row.
         if (element) {
             list.append(std::move(element));

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Common/GroupedListViewController.h"
 
-#include "Controllers/REST/RESTSupport.h"
 #include "Fleet/Registry.h"
+#include "Inventory/Partition.h"
 #include "Platform/Queues/MainSteps.h"
 #include "Views/Common/SceneInputs.h"
 
@@ -25,7 +25,7 @@ const std::vector<XMLElement>& noGroup()
 
 std::string nameOf(const XMLElement& partition)
 {
-    return partition.child("PartitionName").text().value_or("");
+    return Partition(partition).name().value_or("");
 }
 
 } // namespace
@@ -59,7 +59,7 @@ RXPromise<std::string> GroupedListViewController::seperatePartitionsBySystemFrom
                                                                                     Turn turn)
 {
     log().write(m_grouping.seperatingLine, seperate, std::string(log().className()) + ": Seperating partitions");
-    const auto grouping = std::make_shared<Grouping>(Grouping{feedRoot.children("entry"), turn});
+    const auto grouping = std::make_shared<Grouping>(Grouping{Feed(feedRoot).entries(), turn});
     if (!MainQueue::shared().isCurrent()) {
         while (groupNext(*grouping)) {
         }
@@ -85,7 +85,7 @@ bool GroupedListViewController::groupNext(Grouping& grouping) const
     }
     const std::string className(log().className());
     log().write(m_grouping.partitionLine, seperate, className + ": Fetching partition");
-    XMLElement partition = grouping.entries[grouping.next++].path({"content", type()});
+    XMLElement partition = contentOf(grouping.entries[grouping.next++], type());
     log().write(m_grouping.linkLine, seperate, className + ": Fetching stored link");
     // An entry of another type is no partition, and has no link.
     const std::optional<std::string> system = partition ? systemOf(partition) : std::nullopt;
@@ -109,8 +109,7 @@ void GroupedListViewController::adopt(Grouping& grouping)
 
 std::optional<std::string> GroupedListViewController::systemOf(const XMLElement& partition) const
 {
-    const auto link = partition.child("AssociatedManagedSystem").attribute("href");
-    std::optional<std::string> name = fetchLinkedText(shownText(link) + "/quick/SystemName", corvel());
+    std::optional<std::string> name = fetchLinkedText(Partition(partition).systemNameLink(), corvel());
     if (m_grouping.nameless == Nameless::LeftOut) {
         return name;
     }
@@ -169,7 +168,7 @@ XMLElement GroupedListViewController::partitionAt(TableKind tableView, IndexPath
 
 QVariant GroupedListViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)
 {
-    const XMLElement partition = partitionAt(tableView, indexPath);
+    const Partition partition(partitionAt(tableView, indexPath));
     PartitionCell cell(partition, matchFor(tableView));
     completeCell(cell, partition);
     return QVariant::fromValue(cell);

@@ -69,7 +69,7 @@ protected:
     RXPromise<std::string> showFeed(const XMLElement& feedRoot, Turn turn) override;
     void emptyLists() override;
     /// Adds to a row what only this screen shows.
-    virtual void completeCell(PartitionCell& cell, const XMLElement& partition) const = 0;
+    virtual void completeCell(PartitionCell& cell, const Partition& partition) const = 0;
     /// What stands in a row and is opened by it; no element for a row that is not there.
     virtual XMLElement partitionAt(TableKind tableView, IndexPath indexPath) const;
 

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Common/PartitionCell.h"
 
+#include "Inventory/Partition.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Views/Common/CellText.h"
-#include "XML/XMLElement.h"
 
 namespace lodestar
 {
@@ -15,29 +15,28 @@ struct StateLook {
     const char* mark;
 };
 
-// States are judged by their exact wording, case included: whatever is not known calls for attention.
-StateLook lookOf(const QString& state)
+StateLook lookOf(Health health)
 {
-    if (state == QLatin1String("running")) {
+    switch (health) {
+    case Health::Good:
         return {UIColor::successGreen(), "good"};
-    }
-    if (state == QLatin1String("not activated")) {
+    case Health::Idle:
         return {UIColor::failedRed(), "off"};
-    }
-    if (state == QLatin1String("error")) {
+    case Health::Error:
         return {UIColor::errorRed(), "error"};
+    default:
+        return {UIColor::orangeColor(), "alert"};
     }
-    return {UIColor::orangeColor(), "alert"};
 }
 
 } // namespace
 
-PartitionCell::PartitionCell(const XMLElement& partition, const QString& match)
+PartitionCell::PartitionCell(const Partition& partition, const QString& match)
 {
-    m_nameLabel.text = textOf(partition.child("PartitionName"));
+    m_nameLabel.text = textOf(partition.name());
     m_nameLabel.match = match;
-    m_stateLabel.text = textOf(partition.child("PartitionState"));
-    const StateLook look = lookOf(m_stateLabel.text);
+    m_stateLabel.text = textOf(partition.state());
+    const StateLook look = lookOf(partition.health());
     m_stateLabel.color = look.color;
     m_stateMark = QString::fromLatin1(look.mark);
 }

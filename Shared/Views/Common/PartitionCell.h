@@ -9,7 +9,7 @@
 namespace lodestar
 {
 
-class XMLElement;
+class Partition;
 
 /// One row of a list grouped by managed system, as a value: a partition's name and state, and what the screen adds.
 class PartitionCell
@@ -28,7 +28,7 @@ class PartitionCell
 public:
     PartitionCell() = default;
     /// `match` is what was searched for; empty for none.
-    PartitionCell(const XMLElement& partition, const QString& match);
+    PartitionCell(const Partition& partition, const QString& match);
 
     const CellLabel& nameLabel() const { return m_nameLabel; }
     const CellLabel& typeLabel() const { return m_typeLabel; }

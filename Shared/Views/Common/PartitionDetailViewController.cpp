@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Common/PartitionDetailViewController.h"
 
+#include "Inventory/Partition.h"
+
 #include <string>
 #include <string_view>
 
@@ -23,9 +25,9 @@ void PartitionDetailViewController::viewDidLoad()
 
 void PartitionDetailViewController::populatePartitionDetails()
 {
-    const auto text = [this](std::string_view name) { return rootXML().child(name).text(); };
-    setTableData({{{row(tr("Name"), text("PartitionName")), row(tr("ID"), text("PartitionID")),
-                    row(tr("Type"), text("PartitionType"))}}});
+    const Partition partition(rootXML());
+    setTableData({{{row(tr("Name"), partition.name()), row(tr("ID"), partition.identifier()),
+                    row(tr("Type"), partition.kind())}}});
 }
 
 } // namespace lodestar

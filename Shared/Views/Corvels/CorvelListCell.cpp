@@ -2,7 +2,7 @@
 #include "Views/Corvels/CorvelListCell.h"
 
 #include "Application/Model/Corvel.h"
-#include "Inventory/Feed.h"
+#include "Inventory/ConsoleInformation.h"
 #include "Kit/Core/UIColor+Tessel.h"
 
 #include <optional>
@@ -73,16 +73,17 @@ void CorvelListCell::configure(const Corvel& corvel)
         stopAnimating();
         m_highlights = true;
     }
-    if (corvel.numMSErrors != 0) {
-        setStatus(tr("Error"), UIColor::errorRed(), QStringLiteral("error"));
-    } else {
-        setStatus(tr("Good"), UIColor::successGreen(), QStringLiteral("good"));
-    }
-    // An unreachable console says so whatever was last known of its systems, and leads nowhere.
-    if (!corvel.isOnline) {
+    switch (healthOf(corvel)) {
+    case Health::Offline:
         setStatus(tr("Offline"), UIColor::grayColor(), QStringLiteral("offline"));
         m_highlights = false;
         m_selectionArrow.hidden = true;
+        break;
+    case Health::Error:
+        setStatus(tr("Error"), UIColor::errorRed(), QStringLiteral("error"));
+        break;
+    default:
+        setStatus(tr("Good"), UIColor::successGreen(), QStringLiteral("good"));
     }
     m_attentionLabel.text = QString::number(corvel.numMSLEDs);
     m_eventsLabel.text = eventsText(corvel);

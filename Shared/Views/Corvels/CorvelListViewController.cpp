@@ -5,6 +5,7 @@
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
 #include "Fleet/Registry.h"
+#include "Inventory/ConsoleInformation.h"
 #include "Kit/Core/Storyboard.h"
 #include "Kit/Core/TabBarController.h"
 #include "Kit/Core/UIColor+Tessel.h"
@@ -151,7 +152,7 @@ void CorvelListViewController::didRefreshCorvel(const CorvelRef& corvel)
     LODESTAR_LOG(fileName, "-[CorvelListViewController dataRefresh]", "CorvelListViewController: Parsing mcvi");
     const Feed console = feedOfType(*corvel, ObjectType::ManagementConsole);
     LODESTAR_LOG(fileName, "-[CorvelListViewController dataRefresh]", "CorvelListViewController: Parsing version");
-    corvel->setVersion(RESTHandler::versionString(console));
+    corvel->setVersion(ConsoleInformation::of(console).version());
     saveIgnoringErrors();
     corvel->completedFetch = true;
     m_tableView.reloadData();

@@ -4,6 +4,7 @@
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
 #include "Fleet/Registry.h"
+#include "Inventory/ConsoleInformation.h"
 #include "Kit/Core/ErrorText.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/NotificationCenter.h"
@@ -143,7 +144,7 @@ void DeltaCorvelViewController::didFetch(const CorvelRef& corvel)
         return;
     }
     showStatusWithMessage(tr("gathering data..."));
-    corvel->setVersion(RESTHandler::versionString(feedOfType(*corvel, ObjectType::ManagementConsole)));
+    corvel->setVersion(ConsoleInformation::of(feedOfType(*corvel, ObjectType::ManagementConsole)).version());
     corvel->completedFetch = true;
     RESTHandler::sharedInstance().addCorvel(corvel);
     saveIgnoringErrors();

@@ -3,7 +3,8 @@
 
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
-#include "Inventory/StateCounts.h"
+#include "Inventory/Feed.h"
+#include "Inventory/Totals.h"
 #include "Kit/Core/NavigationController.h"
 #include "Kit/Core/TabBarController.h"
 #include "Kit/Core/UIColor+Tessel.h"
@@ -14,7 +15,6 @@
 #include <algorithm>
 #include <array>
 #include <chrono>
-#include <cstdint>
 #include <thread>
 
 namespace lodestar
@@ -35,21 +35,6 @@ constexpr double animationTime = 1.5;
 /// A wait that is over sooner needs no words.
 constexpr std::chrono::milliseconds waitingInterval{1500};
 
-/// What one draw finds.
-struct Totals {
-    std::int32_t online = 0;
-    std::int32_t attentionLEDs = 0;
-    std::int32_t events = 0;
-    StateCounts managedSystems;
-    StateCounts partitions;
-};
-
-/// A 32-bit sum that wraps instead of being undefined.
-void add(std::int32_t& sum, std::size_t value)
-{
-    sum = static_cast<std::int32_t>(static_cast<std::uint32_t>(sum) + static_cast<std::uint32_t>(value));
-}
-
 // The line number is part of the message: it names the missing feed in a log, whatever becomes of this file's lines.
 void logMissing(int line, std::string_view message)
 {
@@ -57,40 +42,23 @@ void logMissing(int line, std::string_view message)
                      callStackReturnAddresses(), "{}", message);
 }
 
-/// Counts the feed's entries by the text below content/`type`/`element`, as the console sends it. An entry that has no
-/// such element has no state and is left out.
-void countStates(StateCounts& counts, const Feed& feed, std::string_view type, std::string_view element)
-{
-    for (const XMLElement& entry : feed.entries()) {
-        if (auto state = entry.path({"content", type, element}).text()) {
-            counts.add(std::move(*state));
-        }
-    }
-}
-
 /// The three feeds of one console are judged apart: one that is missing takes nothing from the others.
 void addCorvel(Totals& totals, const Corvel& corvel)
 {
-    add(totals.online, corvel.isOnline ? 1 : 0);
-    add(totals.attentionLEDs, static_cast<std::size_t>(corvel.numMSLEDs.load()));
-    const Feed systems = feedOfType(corvel, ObjectType::ManagedSystem);
-    if (systems.isNA()) {
-        logMissing(131, "Managed Systems data isn't available for this Corvel, was it loaded?");
-    } else {
-        countStates(totals.managedSystems, systems, ObjectType::ManagedSystem, "State");
-    }
-    const Feed partitions = feedOfType(corvel, ObjectType::LogicalPartition);
-    if (partitions.isNA()) {
-        logMissing(147, "Logical partitions data isn't available for this Corvel, was it loaded?");
-    } else {
-        countStates(totals.partitions, partitions, ObjectType::LogicalPartition, "PartitionState");
-    }
-    const Feed events = feedOfType(corvel, ObjectType::ServiceableEvent);
-    if (events.isNA()) {
-        logMissing(154, "Serviceable data isn't available for this Corvel, was it loaded?");
-    } else {
-        add(totals.events, events.entryCount());
-    }
+    const auto feed = [&corvel](std::string_view type, int line, std::string_view missing) {
+        Feed found = feedOfType(corvel, type);
+        if (found.isNA()) {
+            logMissing(line, missing);
+        }
+        return found;
+    };
+    totals.addConsole(corvel);
+    totals.addManagedSystems(
+        feed(ObjectType::ManagedSystem, 131, "Managed Systems data isn't available for this Corvel, was it loaded?"));
+    totals.addPartitions(feed(ObjectType::LogicalPartition, 147,
+                              "Logical partitions data isn't available for this Corvel, was it loaded?"));
+    totals.addEvents(
+        feed(ObjectType::ServiceableEvent, 154, "Serviceable data isn't available for this Corvel, was it loaded?"));
 }
 
 const QList<QColor>& managedSystemColors()

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Dashboard/MSOverViewController.h"
 
-#include "Inventory/Feed.h"
+#include "Inventory/ManagedSystem.h"
 #include "Views/Common/CellText.h"
 
 namespace lodestar
@@ -30,8 +30,9 @@ QList<GaugeFigure> MSOverViewController::gauges() const
 MenuTableViewController::Sections MSOverViewController::makeSections() const
 {
     // The resting row says which system the menu is for.
+    const ManagedSystem shown(system());
     return {{{tr("Performance Monitoring"), "performance", performanceScene}},
-            {{textOf(system().child("SystemName")), "managed_systems", "", textOf(system().child("State"))},
+            {{textOf(shown.name()), "managed_systems", "", textOf(shown.state())},
              {tr("Logical Partitions"), "logical_partitions", partitionsScene}},
             {{tr("System Information"), "info", informationScene}}};
 }
@@ -41,7 +42,7 @@ void MSOverViewController::openRow(IndexPath indexPath)
     if (indexPath == IndexPath{0, 0}) {
         openScene(*this, performanceScene, {.corvel = corvel(), .systemID = systemIDAtRow(indexPath.row)});
     } else if (indexPath == IndexPath{1, 1}) {
-        openScene(*this, partitionsScene, {.corvel = corvel(), .partitionName = system().child("SystemName").text()});
+        openScene(*this, partitionsScene, {.corvel = corvel(), .partitionName = ManagedSystem(system()).name()});
     } else if (indexPath == IndexPath{2, 0}) {
         openScene(*this, informationScene, {.rootXML = system()});
     }
@@ -52,14 +53,7 @@ std::optional<std::string> MSOverViewController::systemIDAtRow(int row) const
     // By the selected row, which here is always the first: the feed's first system is charted, whichever system the
     // menu is for. That is meant.
     const Feed feed = corvel() ? feedOfType(*corvel(), ObjectType::ManagedSystem) : Feed::notAvailable();
-    const std::vector<XMLElement> entries = feed.entries();
-    if (static_cast<std::size_t>(row) >= entries.size()) {
-        return {};
-    }
-    const XMLElement content = entries[static_cast<std::size_t>(row)].child("content");
-    // Some consoles put the metadata beside the system, most into it.
-    auto beside = content.path({"Metadata", "Atom", "AtomID"}).text();
-    return beside ? beside : content.path({ObjectType::ManagedSystem, "Metadata", "Atom", "AtomID"}).text();
+    return ManagedSystem::identifierAt(feed, static_cast<std::size_t>(row));
 }
 
 } // namespace lodestar

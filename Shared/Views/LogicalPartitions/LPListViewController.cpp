@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/LogicalPartitions/LPListViewController.h"
 
+#include "Inventory/Partition.h"
 #include "Views/Common/CellText.h"
 
 #include <QCoreApplication>
@@ -70,10 +71,10 @@ XMLElement LPListViewController::partitionAt(TableKind tableView, IndexPath inde
     return partition;
 }
 
-void LPListViewController::completeCell(PartitionCell& cell, const XMLElement& partition) const
+void LPListViewController::completeCell(PartitionCell& cell, const Partition& partition) const
 {
-    cell.setType(textOf(partition.child("PartitionType")));
-    cell.setReferenceCode(textOf(partition.child("ReferenceCode")));
+    cell.setType(textOf(partition.kind()));
+    cell.setReferenceCode(textOf(partition.referenceCode()));
 }
 
 } // namespace lodestar

@@ -34,7 +34,7 @@ public:
 
 protected:
     void viewDidLoad() override;
-    void completeCell(PartitionCell& cell, const XMLElement& partition) const override;
+    void completeCell(PartitionCell& cell, const Partition& partition) const override;
     XMLElement partitionAt(TableKind tableView, IndexPath indexPath) const override;
 
 private:

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/ManagedSystems/MSDetailViewController.h"
 
-#include "Controllers/REST/RESTSupport.h"
+#include "Inventory/ManagedSystem.h"
 #include "Views/Common/CellText.h"
 #include "Views/Common/ScreenLog.h"
 
@@ -31,31 +31,28 @@ MSDetailViewController::MSDetailViewController(QString documentationBase)
 void MSDetailViewController::viewDidLoad()
 {
     screenLog.write(23, "viewDidLoad", "MSDetailViewController instantiation");
-    setTitle(textOf(rootXML().child("SystemName")));
+    setTitle(textOf(ManagedSystem(rootXML()).name()));
     setBackTitle(QStringLiteral(""));
     populateSystemDetails();
 }
 
 void MSDetailViewController::populateSystemDetails()
 {
-    const auto text = [this](std::string_view name) { return rootXML().child(name).text(); };
+    const ManagedSystem system(rootXML());
     // The prefix is another screen's, and stays: logs are searched for these lines.
     screenLog.write(47, populate, "DeltaCorvelViewController: Fetching Main Items");
-    DetailSection main{{row(tr("IP Address"), text("PrimaryIPAddress")), row(tr("Status"), text("State")),
-                        row(tr("Reference Code"), text("ReferenceCode")),
-                        row(tr("Attention LED On"), text("PhysicalSystemAttentionLEDState"))}};
+    DetailSection main{{row(tr("IP Address"), system.primaryIPAddress()), row(tr("Status"), system.state()),
+                        row(tr("Reference Code"), system.referenceCode()),
+                        row(tr("Attention LED On"), system.attentionLEDState())}};
 
     screenLog.write(58, populate, "DeltaCorvelViewController: Fetching MTSM");
-    DetailSection serial = modelAndSerial(rootXML());
+    DetailSection serial = modelAndSerial(system.identity());
 
     screenLog.write(69, populate, "DeltaCorvelViewController: Fetching Processor Information");
-    const auto units =
-        rootXML().path({"AssociatedSystemProcessorConfiguration", "ConfigurableSystemProcessorUnits"}).text();
-    DetailSection processor{{row(tr("Available Processing Units"), units)}};
+    DetailSection processor{{row(tr("Available Processing Units"), system.availableProcessingUnits())}};
 
     screenLog.write(78, populate, "DeltaCorvelViewController: Fetching Memory Information");
-    const auto memory = rootXML().path({"AssociatedSystemMemoryConfiguration", "ConfigurableSystemMemory"}).text();
-    DetailSection memorySection{{row(tr("Available Memory"), shownText(memory) + " MB")}};
+    DetailSection memorySection{{row(tr("Available Memory"), shownText(system.availableMemory()) + " MB")}};
 
     setTableData({std::move(main), std::move(serial), std::move(processor), std::move(memorySection)});
 }

@@ -1,11 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/ManagedSystems/MSListCell.h"
 
+#include "Inventory/ManagedSystem.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Views/Common/CellText.h"
-#include "XML/XMLElement.h"
 
-#include <string>
 #include <utility>
 
 namespace lodestar
@@ -17,23 +16,22 @@ constexpr double nameLeftBesideBadge = 45;
 
 } // namespace
 
-MSListCell::MSListCell(const XMLElement& system, const QString& match)
+MSListCell::MSListCell(const ManagedSystem& system, const QString& match)
 {
-    const std::string state = system.child("State").text().value_or("");
-    // States are judged by their exact wording, case included.
-    m_isError = state.find("error") != std::string::npos || state.find("incomplete") != std::string::npos;
-    m_isLEDLit = system.child("PhysicalSystemAttentionLEDState").text() == "true";
+    const Health health = system.health();
+    m_isError = health == Health::Error;
+    m_isLEDLit = system.isAttentionLEDLit();
     if (m_isError || m_isLEDLit) {
         const char* const badge = !m_isLEDLit ? "ms_stateerror" : !m_isError ? "ms_lederror" : "ms_botherror";
         m_statusImage = {QString::fromLatin1(badge), false};
         m_nameLeftConstraint = nameLeftBesideBadge;
     }
-    m_nameLabel.text = textOf(system.child("SystemName"));
+    m_nameLabel.text = textOf(system.name());
     m_nameLabel.match = match;
-    m_statusLabel.text = QString::fromStdString(state);
-    const bool isOperating = state == "operating";
-    m_statusLabel.color = isOperating ? UIColor::successGreen() : UIColor::grayColor();
-    m_statusMark = isOperating ? QStringLiteral("good") : m_isError ? QStringLiteral("error") : QStringLiteral("off");
+    m_statusLabel.text = textOf(system.state());
+    const bool isGood = health == Health::Good;
+    m_statusLabel.color = isGood ? UIColor::successGreen() : UIColor::grayColor();
+    m_statusMark = isGood ? QStringLiteral("good") : m_isError ? QStringLiteral("error") : QStringLiteral("off");
 }
 
 QString MSListCell::accessibleText() const

@@ -10,7 +10,7 @@
 namespace lodestar
 {
 
-class XMLElement;
+class ManagedSystem;
 
 /// One row of the managed-system list, as a value: name, state and, for a system in error or with its attention LED
 /// lit, a badge that the name makes room for.
@@ -30,7 +30,7 @@ class MSListCell
 public:
     MSListCell() = default;
     /// `match` is what was searched for; empty for none.
-    MSListCell(const XMLElement& system, const QString& match);
+    MSListCell(const ManagedSystem& system, const QString& match);
 
     const CellImage& statusImage() const { return m_statusImage; }
     const CellLabel& nameLabel() const { return m_nameLabel; }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/ManagedSystems/MSListViewController.h"
 
+#include "Inventory/ManagedSystem.h"
 #include "Kit/Core/Storyboard.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Views/Common/SceneInputs.h"
@@ -38,7 +39,7 @@ constexpr int menuButton = 0;
 
 std::string nameOf(const XMLElement& system)
 {
-    return system.child("SystemName").text().value_or("");
+    return ManagedSystem(system).name().value_or("");
 }
 
 MenuChoice choice(const QString& title, const char* image, const char* scene)
@@ -75,7 +76,7 @@ void MSListViewController::createMSList(Turn turn)
 
 QVariant MSListViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)
 {
-    MSListCell cell(elementAtRow(tableView, indexPath.row), matchFor(tableView));
+    MSListCell cell(ManagedSystem(elementAtRow(tableView, indexPath.row)), matchFor(tableView));
     cell.setRightButtons(makeRightButtons());
     return QVariant::fromValue(cell);
 }
@@ -89,28 +90,26 @@ void MSListViewController::didSelectRowAtIndexPath(TableKind tableView, IndexPat
                            {tr("Cancel")}},
                           cancelItem, [this, tableView, indexPath](int index) {
                               // Taken again: the list may have come anew while the sheet was up.
-                              openItem(index, elementAtRow(tableView, indexPath.row));
+                              openItem(index, ManagedSystem(elementAtRow(tableView, indexPath.row)));
                           });
     table(tableView).deselectRow(indexPath);
 }
 
-void MSListViewController::openItem(int index, const XMLElement& system)
+void MSListViewController::openItem(int index, const ManagedSystem& system)
 {
     if (!system) {
         return;
     }
-    const auto name = system.child("SystemName").text();
     switch (index) {
     case 0:
-        openScene(*this, informationScene, {.rootXML = system});
+        openScene(*this, informationScene, {.rootXML = system.element()});
         break;
     case 1:
-        openScene(
-            *this, performanceScene,
-            {.corvel = corvel(), .sysName = name, .systemID = system.path({"Metadata", "Atom", "AtomID"}).text()});
+        openScene(*this, performanceScene,
+                  {.corvel = corvel(), .sysName = system.name(), .systemID = system.identifier()});
         break;
     case 2:
-        openScene(*this, partitionsScene, {.corvel = corvel(), .partitionName = name});
+        openScene(*this, partitionsScene, {.corvel = corvel(), .partitionName = system.name()});
         break;
     default:
         break;

@@ -10,6 +10,8 @@
 namespace lodestar
 {
 
+class ManagedSystem;
+
 /// The managed systems of a console, in the order of the feed, with a state text and badges. A row opens an action
 /// sheet with what can be seen of the system; swiping it, a long press or the menu key offer its menu screen.
 class MSListViewController : public lodestar::FlatListViewController
@@ -41,7 +43,7 @@ protected:
 
 private:
     void createMSList(Turn turn);
-    void openItem(int index, const XMLElement& system);
+    void openItem(int index, const ManagedSystem& system);
 
     MenuOutlet m_actionSheet;
 };

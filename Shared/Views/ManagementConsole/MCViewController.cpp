@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/ManagementConsole/MCViewController.h"
 
-#include "Controllers/REST/RESTHandler.h"
 #include "Fleet/Registry.h"
+#include "Inventory/ConsoleInformation.h"
 #include "Views/Common/FeedTimeStamp.h"
 #include "Views/Common/ScreenLog.h"
 
@@ -67,7 +67,7 @@ void MCViewController::fetchAfresh()
 {
     m_fetchingActivityIndicator.startAnimating();
     const auto screen = self<MCViewController>();
-    fetchFeedWithStoredKey(corvel(), ObjectType::ManagementConsole, "uom")
+    fetchFeedWithStoredKey(corvel(), ObjectType::ManagementConsole)
         .thenOnMain(
             [screen](const XMLElement& feedRoot) {
                 setFeedOfType(*screen->corvel(), ObjectType::ManagementConsole, Feed(feedRoot));
@@ -87,25 +87,25 @@ void MCViewController::fetchAfresh()
 
 void MCViewController::parseTimeStampFromXML(const XMLElement& feedRoot)
 {
-    m_header.setHeaderTitle(tr("Management Console"), feedTimeStamp(feedRoot));
+    m_header.setHeaderTitle(tr("Management Console"), feedTimeStamp(Feed(feedRoot)));
 }
 
 void MCViewController::populateTableViewFromXML(const XMLElement& feedRoot)
 {
     parseTimeStampFromXML(feedRoot);
     screenLog.write(135, populate, "MCViewController: Fetching data");
-    const XMLElement console = feedRoot.path({"entry", "content", ObjectType::ManagementConsole});
+    const ConsoleInformation console = ConsoleInformation::of(Feed(feedRoot));
 
     screenLog.write(138, populate, "MCViewController: Fetching Main items");
-    DetailSection main{{row(tr("Console Name"), console.child("ManagementConsoleName").text())}};
+    DetailSection main{{row(tr("Console Name"), console.name())}};
 
     screenLog.write(144, populate, "MCViewController: Fetching MTSM");
-    DetailSection serial = modelAndSerial(console);
+    DetailSection serial = modelAndSerial(console.identity());
 
     // The line says processors and introduces the version.
     screenLog.write(156, populate, "MCViewController: Fetching processor information");
-    DetailSection version{{row(tr("Version"), QString::fromStdString(RESTHandler::versionString(Feed(feedRoot)))),
-                           row(tr("Build Level"), console.path({"VersionInfo", "BuildLevel"}).text())}};
+    DetailSection version{
+        {row(tr("Version"), QString::fromStdString(console.version())), row(tr("Build Level"), console.buildLevel())}};
 
     m_fetchingActivityIndicator.stopAnimating();
     tableView()->setHidden(false);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/ResourceGroups/RGListCell.h"
 
+#include "Inventory/ResourceGroup.h"
 #include "Views/Common/CellText.h"
 
 #include <algorithm>
@@ -34,15 +35,11 @@ constexpr std::array<Tag, 9> tags = {{
 
 void RGStateCounts::add(std::string_view state)
 {
-    if (state == "operating" || state == "running") {
-        ++good;
-    } else if (state == "not available" || state == "not activated") {
-        ++off;
-    } else if (state == "alert") {
-        ++alert;
-    } else if (state == "error") {
-        ++error;
-    }
+    const auto health = ResourceGroup::healthOfMember(state);
+    good += health == Health::Good ? 1 : 0;
+    off += health == Health::Idle ? 1 : 0;
+    alert += health == Health::Alert ? 1 : 0;
+    error += health == Health::Error ? 1 : 0;
 }
 
 void RGListCell::setGroupColor(std::string_view name)

@@ -51,7 +51,7 @@ const std::vector<XMLElement>& RGListViewController::entries() const
     const XMLElement root = feed().root();
     if (root != m_entriesOf) {
         m_entriesOf = root;
-        m_entries = root.children("entry");
+        m_entries = feed().entries();
     }
     return m_entries;
 }
@@ -73,28 +73,21 @@ QVariant RGListViewController::cellForRowAtIndexPath(TableKind tableView, IndexP
 
 CellInSteps RGListViewController::cellInStepsForRowAtIndexPath(TableKind /*tableView*/, IndexPath indexPath)
 {
-    const XMLElement group = elementAt(entries(), indexPath.row).path({"content", ObjectType::Group});
-    std::vector<std::pair<XMLElement, LinkKind>> links;
-    for (const auto& [list, kind] : {std::pair("AssociatedLogicalPartitions", LinkKind::Partition),
-                                     std::pair("AssociatedVirtualIOServers", LinkKind::Partition),
-                                     std::pair("AssociatedManagedSystems", LinkKind::ManagedSystem)}) {
-        for (XMLElement& link : group.child(list).children("link")) {
-            links.emplace_back(std::move(link), kind);
-        }
-    }
+    const auto group = recordOfEntry<ResourceGroup>(elementAt(entries(), indexPath.row));
+    std::vector<ResourceGroup::Member> members = group.members();
 
     RGListCell cell;
-    cell.setGroupName(textOf(group.child("GroupName")));
-    cell.setGroupColor(group.child("GroupColor").text().value_or(""));
-    cell.setResourceCount(static_cast<int>(links.size()));
+    cell.setGroupName(textOf(group.name()));
+    cell.setGroupColor(group.color().value_or(""));
+    cell.setResourceCount(static_cast<int>(members.size()));
     cell.setUpdating(true);
-    auto step = [this, cell, links = std::move(links), counters = RGStateCounts(),
+    auto step = [this, cell, members = std::move(members), counters = RGStateCounts(),
                  next = std::size_t(0)]() mutable -> std::optional<QVariant> {
-        if (next < links.size()) {
-            const auto& [link, kind] = links[next++];
+        if (next < members.size()) {
+            const auto& [link, kind] = members[next++];
             processStates({link}, counters, kind);
         }
-        if (next < links.size()) {
+        if (next < members.size()) {
             return std::nullopt;
         }
         cell.setStateCounts(counters);
@@ -107,11 +100,10 @@ CellInSteps RGListViewController::cellInStepsForRowAtIndexPath(TableKind /*table
 void RGListViewController::processStates(const std::vector<XMLElement>& links, RGStateCounts& counters,
                                          LinkKind kind) const
 {
-    const char* const property = kind == LinkKind::ManagedSystem ? "/quick/State" : "/quick/PartitionState";
     // One request after another, nothing kept, on the thread that configures the row: states are as they are now.
     for (const XMLElement& link : links) {
-        const auto href = link.attribute("href");
-        const auto state = href ? fetchLinkedText(*href + property, corvel()) : std::nullopt;
+        const auto address = ResourceGroup::stateLinkOf({link, kind});
+        const auto state = address ? fetchLinkedText(*address, corvel()) : std::nullopt;
         counters.add(state.value_or(""));
     }
 }

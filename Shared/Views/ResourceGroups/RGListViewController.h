@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Inventory/ResourceGroup.h"
 #include "Views/Common/FeedListViewController.h"
 #include "Views/ResourceGroups/RGListCell.h"
 
@@ -21,7 +22,7 @@ class RGListViewController : public lodestar::FeedListViewController
 
 public:
     /// What a group's links lead to.
-    enum class LinkKind { Partition, ManagedSystem };
+    using LinkKind = ResourceGroup::MemberKind;
 
     RGListViewController();
 

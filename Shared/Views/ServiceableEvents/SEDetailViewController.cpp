@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/ServiceableEvents/SEDetailViewController.h"
 
+#include "Inventory/ServiceableEvent.h"
 #include "Views/Common/CellText.h"
 #include "Views/Common/ScreenLog.h"
 
@@ -38,10 +39,10 @@ double decimalNumber(std::string_view text)
 
 /// Seconds since 1970 as "hh:MM dd/MM": an hour of twelve, then the month where the minutes would stand, and the date.
 /// It is meant. Empty for what no calendar has.
-QString eventTime(const XMLElement& timestamp)
+QString eventTime(const std::optional<std::string>& timestamp)
 {
     constexpr double lastSecond = 9e15; // in milliseconds still a 64-bit number
-    const double seconds = std::floor(decimalNumber(timestamp.text().value_or("")));
+    const double seconds = std::floor(decimalNumber(timestamp.value_or("")));
     if (std::abs(seconds) > lastSecond) {
         return {};
     }
@@ -73,7 +74,7 @@ void SEDetailViewController::viewDidLoad()
 void SEDetailViewController::populateEventDetails()
 {
     std::vector<DetailSection> sections = {mainInformation()};
-    for (const XMLElement& unit : rootXML().child("fieldReplaceableUnits").children("FieldReplaceableUnit")) {
+    for (const FieldReplaceableUnit& unit : ServiceableEvent(rootXML()).units()) {
         sections.push_back(unitInformation(unit));
     }
     setTableData(std::move(sections));
@@ -82,47 +83,42 @@ void SEDetailViewController::populateEventDetails()
 DetailSection SEDetailViewController::mainInformation() const
 {
     // An absent text is an empty value here, not "(null)".
-    const auto text = [this](auto... names) { return textOf(rootXML().path({names...})); };
-    const auto time = [this](const char* name) { return eventTime(rootXML().child(name)); };
-    const auto model = [this](const char* node) {
-        return textOf(rootXML().path({node, "managedTypeModelSerial", "Model"}));
-    };
+    const ServiceableEvent event(rootXML());
     return {{
-        row(tr("Problem Number"), text("problemNumber")),
-        row(tr("Call Home Intended"), text("callHomeEnabled")),
-        row(tr("Prob Mgmt Hardware Record"), text("problemManagementHardwareRecord")),
-        row(tr("Approval State"), text("ApprovalState")),
-        row(tr("Reference Code"), text("referenceCode")),
-        row(tr("Reference Code Extension"), text("referenceCodeExtension")),
-        row(tr("System Reference Code"), text("systemReferenceCode")),
-        row(tr("Status"), text("problemState")),
-        row(tr("Firmware Fix"), text("firmwareFix")),
-        row(tr("First Reported Time"), time("firstReportedTimestamp")),
-        row(tr("Last Reported Time"), time("lastReportedTimestamp")),
-        row(tr("Data Event Time"), time("primaryTimestamp")),
-        row(tr("Reporting Console Name"), text("reportingConsoleNode", "hostName")),
-        row(tr("Reporting MTMS"), model("reportingConsoleNode")),
-        row(tr("Failing MTMS"), model("failingManagedSystemNode")),
-        row(tr("Event Text"), text("shortDescription")),
-        row(tr("Event Severity"), text("eventSeverity")),
-        row(tr("Notification Type"), text("notificationType")),
-        row(tr("Duplicate Count"), text("duplicateCount")),
-        row(tr("Mgmt Console Name"), text("analyzingConsoleNode", "hostName")),
-        row(tr("Mgmt Console MTMS"), model("analyzingConsoleNode")),
+        row(tr("Problem Number"), textOf(event.problemNumber())),
+        row(tr("Call Home Intended"), textOf(event.callHomeEnabled())),
+        row(tr("Prob Mgmt Hardware Record"), textOf(event.hardwareRecord())),
+        row(tr("Approval State"), textOf(event.approvalState())),
+        row(tr("Reference Code"), textOf(event.referenceCode())),
+        row(tr("Reference Code Extension"), textOf(event.referenceCodeExtension())),
+        row(tr("System Reference Code"), textOf(event.systemReferenceCode())),
+        row(tr("Status"), textOf(event.problemState())),
+        row(tr("Firmware Fix"), textOf(event.firmwareFix())),
+        row(tr("First Reported Time"), eventTime(event.firstReported())),
+        row(tr("Last Reported Time"), eventTime(event.lastReported())),
+        row(tr("Data Event Time"), eventTime(event.primaryTimestamp())),
+        row(tr("Reporting Console Name"), textOf(event.reportingConsole().hostName())),
+        row(tr("Reporting MTMS"), textOf(event.reportingConsole().model())),
+        row(tr("Failing MTMS"), textOf(event.failingSystem().model())),
+        row(tr("Event Text"), textOf(event.shortDescription())),
+        row(tr("Event Severity"), textOf(event.severity())),
+        row(tr("Notification Type"), textOf(event.notificationType())),
+        row(tr("Duplicate Count"), textOf(event.duplicateCount())),
+        row(tr("Mgmt Console Name"), textOf(event.analyzingConsole().hostName())),
+        row(tr("Mgmt Console MTMS"), textOf(event.analyzingConsole().model())),
     }};
 }
 
-DetailSection SEDetailViewController::unitInformation(const XMLElement& unit) const
+DetailSection SEDetailViewController::unitInformation(const FieldReplaceableUnit& unit) const
 {
-    const auto text = [&unit](std::string_view name) { return textOf(unit.child(name)); };
     return {{
-        row(tr("Part Number"), text("partNumber")),
-        row(tr("Class"), text("class")),
-        row(tr("Description"), text("fieldReplaceableUnitDescription")),
-        row(tr("Location Code"), text("locationCode")),
-        row(tr("Previously Replaced"), text("previouslyReplaced")),
-        row(tr("Replaced Timestamp"), text("replacedTimestamp")),
-        row(tr("Replacement Group"), text("replacementGroup")),
+        row(tr("Part Number"), textOf(unit.partNumber())),
+        row(tr("Class"), textOf(unit.unitClass())),
+        row(tr("Description"), textOf(unit.unitDescription())),
+        row(tr("Location Code"), textOf(unit.locationCode())),
+        row(tr("Previously Replaced"), textOf(unit.previouslyReplaced())),
+        row(tr("Replaced Timestamp"), textOf(unit.replacedTimestamp())),
+        row(tr("Replacement Group"), textOf(unit.replacementGroup())),
     }};
 }
 

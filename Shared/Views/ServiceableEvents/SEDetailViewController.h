@@ -7,6 +7,8 @@
 namespace lodestar
 {
 
+class FieldReplaceableUnit;
+
 /// Every recorded fact of one serviceable event, and a section for each field-replaceable unit associated with it. The
 /// separator of its rows is '~', since codes and times hold colons.
 class SEDetailViewController : public lodestar::DetailViewController, public RootXMLReceiving
@@ -25,7 +27,7 @@ protected:
 
 private:
     DetailSection mainInformation() const;
-    DetailSection unitInformation(const XMLElement& unit) const;
+    DetailSection unitInformation(const FieldReplaceableUnit& unit) const;
 };
 
 } // namespace lodestar

@@ -5,12 +5,10 @@
 
 #include <QObject>
 
-#include <string>
-
 namespace lodestar
 {
 
-class XMLElement;
+class ServiceableEvent;
 
 /// One row of the serviceable-event list, as a value: the state of its approval with its number, over the raw text of
 /// when it was last reported.
@@ -25,14 +23,11 @@ class SEListCell
 public:
     SEListCell() = default;
     /// `match` is what was searched for; empty for none.
-    SEListCell(const XMLElement& event, const QString& match);
+    SEListCell(const ServiceableEvent& event, const QString& match);
 
     const CellLabel& titleLabel() const { return m_titleLabel; }
     const CellLabel& timeLabel() const { return m_timeLabel; }
     QString accessibleText() const;
-
-    /// What the row is titled and searched by, as in "Approved (#1042)".
-    static std::string title(const XMLElement& event);
 
 private:
     CellLabel m_titleLabel;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/ServiceableEvents/SEListViewController.h"
 
+#include "Inventory/ServiceableEvent.h"
 #include "Views/Common/SceneInputs.h"
 #include "Views/ServiceableEvents/SEListCell.h"
 
@@ -18,7 +19,6 @@ constexpr FeedListTraits traits = {
     .fileName = "Shared/Views/ServiceableEvents/SEListViewController",
     .instantiationLine = 32,
     .type = ObjectType::ServiceableEvent,
-    .schema = "sem",
     .title = QT_TRANSLATE_NOOP("FeedListViewController", "Serviceable Events"),
     .newDataFetch = {"fetchServiceableEvents", 152},
     .pullFetch = {"refreshTable:", 216},
@@ -33,9 +33,14 @@ constexpr FeedListTraits traits = {
     .emptyText = QT_TRANSLATE_NOOP("FeedListViewController", "This console has no serviceable events."),
 };
 
+std::string titleOf(const XMLElement& event)
+{
+    return ServiceableEvent(event).title();
+}
+
 } // namespace
 
-SEListViewController::SEListViewController() : FlatListViewController(traits, SEListCell::title) {}
+SEListViewController::SEListViewController() : FlatListViewController(traits, titleOf) {}
 
 RXPromise<std::string> SEListViewController::showFeed(const XMLElement& feedRoot, Turn turn)
 {
@@ -58,14 +63,15 @@ QVariant SEListViewController::cellForRowAtIndexPath(TableKind tableView, IndexP
         setHeaderTitle(QCoreApplication::translate("FeedListViewController", traits.title), tr("N/A"));
         return QVariant::fromValue(SEListCell());
     }
-    return QVariant::fromValue(SEListCell(elementAtRow(tableView, indexPath.row), matchFor(tableView)));
+    return QVariant::fromValue(
+        SEListCell(ServiceableEvent(elementAtRow(tableView, indexPath.row)), matchFor(tableView)));
 }
 
 void SEListViewController::didSelectRowAtIndexPath(TableKind /*tableView*/, IndexPath indexPath)
 {
     // The row's index is taken in the whole feed, and the row deselected is the main table's, also when search results
     // were tapped. Both are meant.
-    const XMLElement event = elementAt(feed().entries(), indexPath.row).path({"content", ObjectType::ServiceableEvent});
+    const XMLElement event = contentOf(elementAt(feed().entries(), indexPath.row), ObjectType::ServiceableEvent);
     if (event) {
         openScene(*this, "serviceableEventsDetail", {.rootXML = event});
     }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/VIOS/VIOSViewController.h"
 
+#include "Inventory/Partition.h"
 #include "Kit/Core/UIColor+Tessel.h"
 
 #include <QCoreApplication>
@@ -42,9 +43,9 @@ SwipeButton checkButton(const QColor& color)
 
 VIOSViewController::VIOSViewController() : GroupedListViewController(traits) {}
 
-void VIOSViewController::completeCell(PartitionCell& cell, const XMLElement& partition) const
+void VIOSViewController::completeCell(PartitionCell& cell, const Partition& partition) const
 {
-    if (partition.child("PartitionState").text() == "not activated") {
+    if (partition.health() == Health::Idle) {
         cell.setLeftButtons({checkButton(UIColor::tesselLightGreen())}, expandingButton);
     } else {
         const SwipeButton favourite{QString(), UIColor::errorRed(), QStringLiteral("fav"), tr("Favourite")};

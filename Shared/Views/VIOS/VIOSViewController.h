@@ -22,7 +22,7 @@ public:
     LabelOutlet* ohCrabLabel() { return noDataHeadline(); }
 
 protected:
-    void completeCell(PartitionCell& cell, const XMLElement& partition) const override;
+    void completeCell(PartitionCell& cell, const Partition& partition) const override;
 };
 
 } // namespace lodestar

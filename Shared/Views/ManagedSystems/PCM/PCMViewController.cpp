@@ -172,13 +172,9 @@ void PCMViewController::fetchPCMData()
 
 void PCMViewController::showMetrics(const MetricsDocument& document)
 {
-    const MetricsValue util = document.root().member("systemUtil");
-    const auto date = [&util](std::string_view key) {
-        const auto stamp = util.path({"utilInfo", key}).text();
-        return stamp ? dateFromString(*stamp) : std::nullopt;
-    };
-    m_header.setHeaderTitle(name(), period(shown(date("startTimeStamp")), shown(date("endTimeStamp"))));
-    calculateGraphValuesFromJSON(util.member("utilSamples"));
+    const MetricsPeriod dates = periodOf(document);
+    m_header.setHeaderTitle(name(), period(shown(dates.start), shown(dates.end)));
+    calculateGraphValuesFromJSON(samplesOf(document));
 }
 
 void PCMViewController::showFailure()

@@ -1,0 +1,34 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Inventory/Health.h"
+#include "Inventory/Record.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace lodestar
+{
+
+/// What a console says of itself.
+class ConsoleInformation : public Record
+{
+public:
+    static constexpr std::string_view type = ObjectType::ManagementConsole;
+    using Record::Record;
+    /// The console that the feed's first entry tells of; none where the feed is "NA" or tells of none.
+    static ConsoleInformation of(const Feed& feed);
+
+    std::optional<std::string> name() const { return text("ManagementConsoleName"); }
+    MachineIdentity identity() const { return MachineIdentity(element().child("MachineTypeModelAndSerialNumber")); }
+    std::optional<std::string> buildLevel() const { return text({"VersionInfo", "BuildLevel"}); }
+    /// "V…R…" from the five parts of the version, "(null)" for each missing one.
+    std::string version() const;
+};
+
+/// How a registered console is, by what was last fetched of it: offline when its logon failed, whatever is known of its
+/// systems; an error when one of its systems is in error; good otherwise. Any thread.
+Health healthOf(const Corvel& corvel);
+
+} // namespace lodestar

@@ -1,0 +1,37 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Inventory/ManagedSystem.h"
+
+namespace lodestar
+{
+
+std::optional<std::string> ManagedSystem::availableProcessingUnits() const
+{
+    return text({"AssociatedSystemProcessorConfiguration", "ConfigurableSystemProcessorUnits"});
+}
+
+std::optional<std::string> ManagedSystem::availableMemory() const
+{
+    return text({"AssociatedSystemMemoryConfiguration", "ConfigurableSystemMemory"});
+}
+
+std::optional<std::string> ManagedSystem::identifierAt(const Feed& feed, std::size_t place)
+{
+    const std::vector<XMLElement> entries = feed.entries();
+    if (place >= entries.size()) {
+        return {};
+    }
+    // Some consoles put the metadata beside the system, most into it.
+    auto beside = entries[place].path({"content", "Metadata", "Atom", "AtomID"}).text();
+    return beside ? beside : recordOfEntry<ManagedSystem>(entries[place]).identifier();
+}
+
+Health ManagedSystem::health() const
+{
+    const std::string words = state().value_or("");
+    if (words.find("error") != std::string::npos || words.find("incomplete") != std::string::npos) {
+        return Health::Error;
+    }
+    return words == "operating" ? Health::Good : Health::Idle;
+}
+
+} // namespace lodestar

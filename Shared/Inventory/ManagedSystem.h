@@ -1,0 +1,44 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Inventory/Health.h"
+#include "Inventory/Record.h"
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace lodestar
+{
+
+/// A server that a console manages.
+class ManagedSystem : public Record
+{
+public:
+    static constexpr std::string_view type = ObjectType::ManagedSystem;
+    using Record::Record;
+
+    std::optional<std::string> name() const { return text("SystemName"); }
+    /// The name under which the console serves the system's performance metrics.
+    std::optional<std::string> identifier() const { return text({"Metadata", "Atom", "AtomID"}); }
+    std::optional<std::string> state() const { return text("State"); }
+    std::optional<std::string> primaryIPAddress() const { return text("PrimaryIPAddress"); }
+    std::optional<std::string> referenceCode() const { return text("ReferenceCode"); }
+    /// "true" or "false", as a rule.
+    std::optional<std::string> attentionLEDState() const { return text("PhysicalSystemAttentionLEDState"); }
+    /// In processors, with a fraction.
+    std::optional<std::string> availableProcessingUnits() const;
+    /// In megabytes.
+    std::optional<std::string> availableMemory() const;
+    MachineIdentity identity() const { return MachineIdentity(element().child("MachineTypeModelAndSerialNumber")); }
+
+    /// The identifier of the system in the feed's entry at the place, from 0; none beyond the last entry.
+    static std::optional<std::string> identifierAt(const Feed& feed, std::size_t place);
+
+    /// "operating" is good, anything with "error" or "incomplete" in it an error, all else idle. Case counts.
+    Health health() const;
+    bool isAttentionLEDLit() const { return attentionLEDState() == "true"; }
+};
+
+} // namespace lodestar
