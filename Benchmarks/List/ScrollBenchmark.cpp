@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Benchmarks/List/ScreenProgram.h"
-#include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
+#include "Fleet/Registry.h"
 #include "Kit/Core/NavigationController.h"
 #include "Platform/UserDefaults.h"
 #include "Simulator/SimulatorProcess.h"
@@ -202,12 +202,9 @@ void measureHandshakes(bench::Rows& rows, scenes::SceneStage& stage)
     corvel->setAddress(fleet.address());
     corvel->setUsername(fleet.user());
     corvel->setPassword(fleet.password());
-    const auto fetched = RESTHandler::sharedInstance().login(corvel, CheckToken::Yes).then([corvel](const auto& key) {
-        return RESTHandler::sharedInstance().fetchAllDataForCorvel(corvel, key);
-    });
+    const auto fetched = fetchInventory(corvel);
     const auto isDone = [&] { return fetched.isFulfilled(); };
     bench::require(stage.waitFor(isDone), "the console was not fetched");
-    corvel->setRestData(fetched.result()->value());
     corvel->completedFetch = true;
     const auto before = fleet.statistics();
     const auto* const list = stage.open<LPListViewController>("logicalPartitionsView", {.corvel = corvel});

@@ -3,6 +3,7 @@
 #include "Benchmarks/Program.h"
 #include "Benchmarks/Refresh/ProgramRun.h"
 #include "Controllers/REST/RESTHandler.h"
+#include "Fleet/Registry.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/ScratchFolder.h"
@@ -66,26 +67,12 @@ void await(const RXPromise<Value>& promise)
                    "a refresh failed");
 }
 
-/// As the console list refreshes one.
-RXPromise<std::string> fetchInventory(const CorvelRef& corvel)
-{
-    auto& handler = RESTHandler::sharedInstance();
-    return handler.login(corvel, CheckToken::Yes, Urgency::Fleet)
-        .then([corvel, &handler](const SessionKey& key) {
-            return handler.fetchAllDataForCorvel(corvel, key, Urgency::Fleet);
-        })
-        .then([corvel, &handler](const std::shared_ptr<const FeedDictionary>& feeds) {
-            corvel->setRestData(feeds);
-            return handler.processInformationForCorvel(corvel);
-        });
-}
-
 RXPromise<std::vector<std::string>> refresh(const std::vector<CorvelRef>& corvels, std::size_t ignored)
 {
     std::vector<RXPromise<std::string>> all;
     all.reserve(corvels.size());
     for (const CorvelRef& corvel : corvels) {
-        all.push_back(fetchInventory(corvel));
+        all.push_back(fetchInventory(corvel, Urgency::Fleet));
     }
     all.erase(all.begin(), all.begin() + static_cast<std::ptrdiff_t>(ignored));
     return RXPromise<std::string>::all(all);
@@ -103,10 +90,7 @@ void requireFeeds(const std::vector<CorvelRef>& corvels, std::size_t ignored)
 double ownFeed(const CorvelRef& corvel)
 {
     const auto start = Clock::now();
-    auto& handler = RESTHandler::sharedInstance();
-    await(handler.login(corvel, CheckToken::No).then([corvel, &handler](const SessionKey& key) {
-        return handler.fetchDataOfType("ManagedSystem", corvel, "uom", key);
-    }));
+    await(fetchFeedWithStoredKey(corvel, ObjectType::ManagedSystem));
     return nanoseconds(Clock::now() - start);
 }
 

@@ -4,7 +4,6 @@
 #include "Application/FeedbackSupport.h"
 #include "Application/KeptState.h"
 #include "Application/Passcode.h"
-#include "Controllers/REST/RESTHandler.h"
 #include "Fleet/Registry.h"
 #include "Kit/Core/Storyboard.h"
 #include "Platform/UserDefaults.h"
@@ -25,23 +24,6 @@ constexpr auto resetUnderWay = "resetUnderWay";
 constexpr double spaceAtRest = 200;
 constexpr double spaceOverKeyboard = 50;
 constexpr double shortScreenHeight = 568;
-
-void deleteEveryRecord()
-{
-    RESTHandler& rest = RESTHandler::sharedInstance();
-    // A console whose adding was cut short by the lock is in no list, but the next save would store it.
-    for (const CorvelRef& corvel : rest.fetchCorvels()) {
-        if (!isRegistered(corvel)) {
-            deleteCorvel(corvel);
-        }
-    }
-    for (std::size_t index = 0; index < rest.corvelList().size(); ++index) {
-        deleteCorvel(rest.corvelList()[index]);
-        saveIgnoringErrors();
-    }
-    rest.setCorvelList({});
-    saveIgnoringErrors();
-}
 
 } // namespace
 
@@ -218,12 +200,9 @@ void LoginViewController::resetApplicationData()
     KeptState::shared().clear();
     // A keychain that refuses does not stop the rest: "requirePassword" goes below, and with it the lock.
     Passcode::discard();
-    deleteEveryRecord();
     FeedbackSupport::forgetReports();
-    for (const std::string& key : defaults.allKeys()) {
-        defaults.removeObjectForKey(key);
-    }
-    defaults.synchronize();
+    // Last, since it takes away the note that a reset is under way.
+    resetEverything();
     performShowMainView();
 }
 

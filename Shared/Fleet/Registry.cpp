@@ -3,6 +3,7 @@
 
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
+#include "Inventory/ConsoleInformation.h"
 #include "Platform/UserDefaults.h"
 
 #include <algorithm>
@@ -10,6 +11,15 @@
 
 namespace lodestar
 {
+namespace
+{
+
+void adoptVersion(Corvel& corvel)
+{
+    corvel.setVersion(ConsoleInformation::of(feedOfType(corvel, ObjectType::ManagementConsole)).version());
+}
+
+} // namespace
 
 CorvelRef insertNewCorvel()
 {
@@ -40,6 +50,62 @@ bool isRegistered(const CorvelRef& corvel)
     return std::ranges::find(corvels, corvel) != corvels.end();
 }
 
+bool isAddressRegistered(const Corvel& corvel)
+{
+    const std::vector<CorvelRef>& corvels = RESTHandler::sharedInstance().corvelList();
+    return std::ranges::any_of(
+        corvels, [address = corvel.address()](const CorvelRef& other) { return other->address() == address; });
+}
+
+void addDemoCorvel()
+{
+    const CorvelRef demo = insertNewCorvel();
+    demo->setName("Demo Corvel");
+    demo->setAddress("127.0.0.1");
+    demo->setDemo(true);
+    RESTHandler::sharedInstance().addCorvel(demo);
+}
+
+void deleteCorvelAtIndex(std::size_t index)
+{
+    RESTHandler& rest = RESTHandler::sharedInstance();
+    const CorvelRef corvel = rest.corvelList()[index];
+    UserDefaults::standard().removeObjectForKey(corvel->address().value_or(std::string()));
+    deleteCorvel(corvel);
+    saveIgnoringErrors();
+    rest.removeCorvelAtIndex(index);
+}
+
+void resetEverything()
+{
+    RESTHandler& rest = RESTHandler::sharedInstance();
+    // A console whose adding was cut short is in no list, but the next save would store it.
+    for (const CorvelRef& corvel : rest.fetchCorvels()) {
+        if (!isRegistered(corvel)) {
+            deleteCorvel(corvel);
+        }
+    }
+    for (const CorvelRef& corvel : rest.corvelList()) {
+        deleteCorvel(corvel);
+        saveIgnoringErrors();
+    }
+    rest.setCorvelList({});
+    saveIgnoringErrors();
+    UserDefaults& defaults = UserDefaults::standard();
+    for (const std::string& key : defaults.allKeys()) {
+        defaults.removeObjectForKey(key);
+    }
+    defaults.synchronize();
+}
+
+void forgetFetchedData()
+{
+    for (const CorvelRef& corvel : RESTHandler::sharedInstance().corvelList()) {
+        corvel->setRestData(nullptr);
+        corvel->completedFetch = false;
+    }
+}
+
 void forgetSessionKeyOfUnregistered(const Corvel& corvel)
 {
     const auto address = corvel.address();
@@ -64,6 +130,27 @@ RXPromise<std::string> fetchInventory(const CorvelRef& corvel, Urgency urgency)
             corvel->setRestData(feeds);
             return RESTHandler::sharedInstance().processInformationForCorvel(corvel);
         });
+}
+
+void finishRefresh(Corvel& corvel)
+{
+    adoptVersion(corvel);
+    saveIgnoringErrors();
+    corvel.completedFetch = true;
+}
+
+void failRefresh(Corvel& corvel)
+{
+    corvel.completedFetch = true;
+    corvel.isOnline = false;
+}
+
+void finishAdding(const CorvelRef& corvel)
+{
+    adoptVersion(*corvel);
+    corvel->completedFetch = true;
+    RESTHandler::sharedInstance().addCorvel(corvel);
+    saveIgnoringErrors();
 }
 
 RXPromise<XMLElement> fetchFeedWithStoredKey(const CorvelRef& corvel, std::string_view type)

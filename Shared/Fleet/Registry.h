@@ -6,6 +6,7 @@
 #include "Platform/URLLoading/URLRequest.h"
 #include "XML/XMLElement.h"
 
+#include <cstddef>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -13,7 +14,8 @@
 namespace lodestar
 {
 
-/// The few things that screens do to the console registry. Main thread.
+/// The registry of consoles: what is done with records and what is fetched into them, for screens and for whoever else
+/// works with consoles. Main thread, where nothing else is said.
 
 /// A new record in the store's context; the next save stores it. It is not in the working list yet.
 CorvelRef insertNewCorvel();
@@ -26,13 +28,32 @@ void saveIgnoringErrors();
 CorvelRef corvelAtRow(int row);
 /// Whether the working list holds the record.
 bool isRegistered(const CorvelRef& corvel);
+/// Whether the working list holds a record of the address; the record itself is not left out.
+bool isAddressRegistered(const Corvel& corvel);
+
+/// Puts a demonstration console behind the working list; the next save stores it.
+void addDemoCorvel();
+/// Takes the working list's record at the place out of list and store, with its session key.
+void deleteCorvelAtIndex(std::size_t index);
+/// Resets the application's data: takes every record out of list and store, those among them that are only being added,
+/// and removes every user default, session keys and settings alike.
+void resetEverything();
+/// Forgets what was fetched of the working list's consoles, which are to be fetched anew.
+void forgetFetchedData();
 /// A logon that was under way when its record was deleted stores its session key afterwards: takes that key away again,
 /// unless a registered console has the same address.
 void forgetSessionKeyOfUnregistered(const Corvel& corvel);
 
 /// Logs on to the console, marks its record online, gives it its six feeds and counts them. Rejected when the logon
-/// fails; a feed that fails is "NA".
+/// fails; a feed that fails is "NA". The promise's handlers end what was begun, with one of the three functions below.
 RXPromise<std::string> fetchInventory(const CorvelRef& corvel, Urgency urgency = Urgency::Person);
+/// Ends the refresh of a record of the working list: the version that the console tells is stored in the record, and
+/// the record counts as fetched.
+void finishRefresh(Corvel& corvel);
+/// Ends a refresh that was rejected: the record counts as fetched, and as offline. What was fetched before stays.
+void failRefresh(Corvel& corvel);
+/// Ends the adding of a record as `finishRefresh` does, and puts the record behind the working list.
+void finishAdding(const CorvelRef& corvel);
 
 /// One feed of the console, asked for with the session key that is stored for it: a key that the console no longer
 /// takes is a refusal, until the console list logs on anew. Rejected for no console. The type is one of the feed table.

@@ -5,7 +5,6 @@
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
 #include "Fleet/Registry.h"
-#include "Inventory/ConsoleInformation.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/UserDefaults.h"
 
@@ -114,9 +113,7 @@ std::vector<double> Drive::refresh(std::chrono::milliseconds limit)
         fetchInventory(corvel, Urgency::Fleet)
             .thenOnMain(
                 [note, corvel](const std::string&) {
-                    corvel->setVersion(
-                        ConsoleInformation::of(feedOfType(*corvel, ObjectType::ManagementConsole)).version());
-                    saveIgnoringErrors();
+                    finishRefresh(*corvel);
                     note(true);
                 },
                 [note](const Error&) { note(false); });

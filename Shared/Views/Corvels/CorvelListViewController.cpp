@@ -5,7 +5,6 @@
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
 #include "Fleet/Registry.h"
-#include "Inventory/ConsoleInformation.h"
 #include "Kit/Core/Storyboard.h"
 #include "Kit/Core/TabBarController.h"
 #include "Kit/Core/UIColor+Tessel.h"
@@ -112,11 +111,7 @@ void CorvelListViewController::observeNotifications()
 
 void CorvelListViewController::addTestCorvel()
 {
-    const CorvelRef demo = insertNewCorvel();
-    demo->setName("Demo Corvel");
-    demo->setAddress("127.0.0.1");
-    demo->setDemo(true);
-    RESTHandler::sharedInstance().addCorvel(demo);
+    addDemoCorvel();
     UserDefaults::standard().setBool(true, "initialLoad");
 }
 
@@ -150,18 +145,14 @@ void CorvelListViewController::didRefreshCorvel(const CorvelRef& corvel)
         return; // A pull has reset it since, and its own refresh is on the way.
     }
     LODESTAR_LOG(fileName, "-[CorvelListViewController dataRefresh]", "CorvelListViewController: Parsing mcvi");
-    const Feed console = feedOfType(*corvel, ObjectType::ManagementConsole);
     LODESTAR_LOG(fileName, "-[CorvelListViewController dataRefresh]", "CorvelListViewController: Parsing version");
-    corvel->setVersion(ConsoleInformation::of(console).version());
-    saveIgnoringErrors();
-    corvel->completedFetch = true;
+    finishRefresh(*corvel);
     m_tableView.reloadData();
 }
 
 void CorvelListViewController::didFailToRefreshCorvel(const CorvelRef& corvel, const Error& error)
 {
-    corvel->completedFetch = true;
-    corvel->isOnline = false;
+    failRefresh(*corvel);
     m_tableView.reloadData();
     LODESTAR_LOG(fileName, "-[CorvelListViewController dataRefresh]", "Error: {} - > {}", description(error),
                  "dataRefresh");
@@ -179,10 +170,7 @@ void CorvelListViewController::refresh()
 
 void CorvelListViewController::resetFetchData()
 {
-    for (const CorvelRef& corvel : RESTHandler::sharedInstance().corvelList()) {
-        corvel->setRestData(nullptr);
-        corvel->completedFetch = false;
-    }
+    forgetFetchedData();
 }
 
 void CorvelListViewController::introDidFinish()
@@ -241,14 +229,9 @@ bool CorvelListViewController::swipeTableCell(int row, int tappedButtonAtIndex)
 
 void CorvelListViewController::deleteCorvelAtIndex(std::size_t index)
 {
-    RESTHandler& rest = RESTHandler::sharedInstance();
-    const CorvelRef corvel = rest.corvelList()[index];
-    UserDefaults::standard().removeObjectForKey(corvel->address().value_or(std::string()));
-    deleteCorvel(corvel);
-    saveIgnoringErrors();
-    rest.removeCorvelAtIndex(index);
+    lodestar::deleteCorvelAtIndex(index);
     m_tableView.deleteRow({0, static_cast<int>(index)}, RowAnimation::Left);
-    if (rest.corvelList().empty()) {
+    if (RESTHandler::sharedInstance().corvelList().empty()) {
         m_tableView.setHidden(true);
     }
 }

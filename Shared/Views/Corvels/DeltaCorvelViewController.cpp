@@ -1,17 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Corvels/DeltaCorvelViewController.h"
 
-#include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
 #include "Fleet/Registry.h"
-#include "Inventory/ConsoleInformation.h"
 #include "Kit/Core/ErrorText.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/NotificationCenter.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Views/Corvels/CorvelListViewController.h"
 
-#include <algorithm>
 #include <chrono>
 
 namespace lodestar
@@ -82,7 +79,8 @@ void DeltaCorvelViewController::saveCorvel()
     }
     insertRecordIfNeeded();
     copyFieldsToRecord();
-    if (isAddressRegistered()) {
+    // A registered console's own record matches, so that it cannot be saved from here. That is meant.
+    if (isAddressRegistered(*m_corvel)) {
         showStatusWithError(tr("Corvel has already been added"));
         return;
     }
@@ -107,15 +105,6 @@ void DeltaCorvelViewController::copyFieldsToRecord()
     m_corvel->setPassword(m_passwordField.text().toStdString());
 }
 
-bool DeltaCorvelViewController::isAddressRegistered() const
-{
-    // The record itself is not left out: one that is in the list always matches, so a registered console cannot be
-    // saved from here. That is meant.
-    const std::vector<CorvelRef>& corvels = RESTHandler::sharedInstance().corvelList();
-    return std::ranges::any_of(
-        corvels, [address = m_corvel->address()](const CorvelRef& other) { return other->address() == address; });
-}
-
 void DeltaCorvelViewController::logOnAndFetch()
 {
     const auto screen = self<DeltaCorvelViewController>();
@@ -136,7 +125,7 @@ void DeltaCorvelViewController::didFetch(const CorvelRef& corvel)
         return;
     }
     // The lock takes the sheet away but not the work, and the same console may have been added anew meanwhile.
-    if (isAddressRegistered()) {
+    if (isAddressRegistered(*m_corvel)) {
         deleteCorvel(corvel);
         m_corvel = nullptr;
         m_hasCreated = false;
@@ -144,10 +133,7 @@ void DeltaCorvelViewController::didFetch(const CorvelRef& corvel)
         return;
     }
     showStatusWithMessage(tr("gathering data..."));
-    corvel->setVersion(ConsoleInformation::of(feedOfType(*corvel, ObjectType::ManagementConsole)).version());
-    corvel->completedFetch = true;
-    RESTHandler::sharedInstance().addCorvel(corvel);
-    saveIgnoringErrors();
+    finishAdding(corvel);
     close();
 }
 

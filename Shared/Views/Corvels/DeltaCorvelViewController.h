@@ -91,7 +91,6 @@ private:
     void hideStatusLater(Reenable fields);
     void insertRecordIfNeeded();
     void copyFieldsToRecord();
-    bool isAddressRegistered() const;
     void logOnAndFetch();
     void didFetch(const CorvelRef& corvel);
     void didFail(const Error& error);
