@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""The style checks that ./test runs (format, includes, licences, texts, claims), and the analyser of ./test --tidy."""
+"""The style checks of ./test (format, elements, includes, licences, texts, claims), and the analyser of ./test --tidy."""
 
 import argparse
 import concurrent.futures
@@ -78,6 +78,16 @@ def check_includes(source, _build):
             if target not in BELOW[module]:
                 faults.append(f"{path}:{number}: {module} must not include upwards: {name}")
     return faults
+
+
+def check_elements(source, _build):
+    """Only the inventory knows what consoles call things. The answer to a logon is the client's own."""
+    reads = re.compile(r"\.(child|childCount|children|attribute|member)\([^)]|\.path\(\{")
+    readers = ("Shared/XML/", "Shared/Inventory/", "Shared/Controllers/REST/RESTSupport.cpp")
+    return [f"{path}:{number}: reads an element above the inventory: {row.strip()}"
+            for path in tracked(source, ".h", ".cpp")
+            if path.parts[0] == "Shared" and not str(path).startswith(readers)
+            for number, row in enumerate((source / path).read_text().splitlines(), 1) if reads.search(row)]
 
 
 def check_licences(source, _build):
@@ -170,7 +180,8 @@ def check_tidy(source, build):
 
 
 def main():
-    checks = {"format": check_format, "includes": check_includes, "licences": check_licences, "texts": check_texts,
+    checks = {"format": check_format, "elements": check_elements, "includes": check_includes,
+              "licences": check_licences, "texts": check_texts,
               "claims": check_claims, "tidy": check_tidy}
     parser = argparse.ArgumentParser()
     parser.add_argument("--source", type=pathlib.Path, required=True)
