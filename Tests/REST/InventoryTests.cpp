@@ -134,7 +134,11 @@ TEST_F(InventoryTest, FeedsBeyondWhatTheDeviceCanKeepAreNotAvailable)
         EXPECT_THAT(unavailable(*feeds), IsEmpty());
         EXPECT_GE(KeptBytes::total() - before, feeds->feed(ObjectType::ManagedSystem).root().documentMemory());
     }
-    EXPECT_EQ(KeptBytes::total(), before);
+    // The last handler may still be about to let go of its feed.
+    for (int i = 0; KeptBytes::total() != before && i < 500; ++i) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(10));
+    }
+    ASSERT_EQ(KeptBytes::total(), before);
     KeptBytes others;
     ASSERT_TRUE(others.resize(KeptBytes::limit() - before - 5'300'000));
     takeLines();
