@@ -12,12 +12,7 @@ function(lodestar_qml_module target)
     get_filename_component(name "${file}" NAME)
     set_source_files_properties("${file}" PROPERTIES QT_RESOURCE_ALIAS "${name}")
   endforeach()
-  # Compiled, the QML takes a sixth of all the time that a build from nothing takes. The debug build has its text alone.
-  set(compiled "")
-  if(CMAKE_BUILD_TYPE STREQUAL "Debug" AND LODESTAR_SANITIZE STREQUAL "")
-    set(compiled NO_CACHEGEN)
-  endif()
-  qt_add_qml_module(${target} URI ${ARG_URI} VERSION 1.0 NO_PLUGIN RESOURCE_PREFIX / ${compiled}
+  qt_add_qml_module(${target} URI ${ARG_URI} VERSION 1.0 NO_PLUGIN RESOURCE_PREFIX /
     OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml/${path}" IMPORT_PATH "${CMAKE_BINARY_DIR}/qml"
     DEPENDENCIES QtQuick ${ARG_USES} IMPORTS ${ARG_IMPORTS}
     QML_FILES ${ARG_SINGLETONS} ${ARG_QML_FILES})
