@@ -43,9 +43,9 @@ Label {
         text: label.matchStart >= 0 ? label.shown.substring(label.matchStart, label.matchStart + label.match.length) : ""
     }
     Rectangle {
-        // The contentWidth of a label that aligns its text to the right is all its width.
-        readonly property real textStart: label.effectiveHorizontalAlignment === Text.AlignRight
-                                          ? label.width - whole.advanceWidth : 0
+        // The contentWidth of a label that aligns its text to the right is all its width. Whether the label does so is not
+        // told of when that changes before the label is complete.
+        readonly property real textStart: Theme.mirrored ? label.width - whole.advanceWidth : 0
 
         z: -1
         visible: label.matchStart >= 0
