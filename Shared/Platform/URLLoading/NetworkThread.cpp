@@ -253,16 +253,16 @@ std::shared_ptr<Transfer> NetworkThread::nextToStart(Clock::time_point now)
         return nullptr;
     }
     const bool alone = m_running.empty();
+    const std::size_t most = m_idleness.isIdleForLong() ? connectionLimit() : manyConnections;
     return m_waiting.take(
-        m_running.size() < fewTransfers || mayConnectMore() ? Connections::Make : Connections::Have,
+        m_running.size() < fewTransfers || mayConnectMore(most) ? Connections::Make : Connections::Have,
         alone || readersKeepUp() ? Whose::Everybodys : Whose::Persons,
         [this](const std::string& server) { return m_ahead.hasReady(server) ? 1 : 0; }, now);
 }
 
 /// For the fleet: when there is nothing better to do, and as far as memory goes.
-bool NetworkThread::mayConnectMore() const
+bool NetworkThread::mayConnectMore(std::size_t most) const
 {
-    const std::size_t most = m_idleness.isIdleForLong() ? connectionLimit() : manyConnections;
     return m_idleness.isIdle() && m_running.size() + m_waiting.freeConnections() + m_ahead.count() < most;
 }
 
@@ -280,8 +280,8 @@ void NetworkThread::openAhead(Clock::time_point now)
     };
     m_waiting.forEachPersonsWant(ahead,
                                  openWhile([this] { return m_running.size() + m_ahead.count() < descriptorLimit(); }));
-    if (mayConnectMore()) {
-        m_waiting.forEachExpectedWant(ahead, openWhile([this] { return mayConnectMore(); }));
+    if (mayConnectMore(manyConnections)) {
+        m_waiting.forEachExpectedWant(ahead, openWhile([this] { return mayConnectMore(manyConnections); }));
     }
 }
 

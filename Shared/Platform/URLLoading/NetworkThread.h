@@ -60,7 +60,7 @@ private:
     void startWaiting();
     void begin(const std::shared_ptr<Transfer>& transfer);
     std::shared_ptr<Transfer> nextToStart(Clock::time_point now);
-    bool mayConnectMore() const;
+    bool mayConnectMore(std::size_t most) const;
     bool readersKeepUp();
     void openAhead(Clock::time_point now);
     void add(const std::shared_ptr<Transfer>& transfer);
