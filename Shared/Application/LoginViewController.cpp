@@ -200,9 +200,10 @@ void LoginViewController::resetApplicationData()
     KeptState::shared().clear();
     // A keychain that refuses does not stop the rest: "requirePassword" goes below, and with it the lock.
     Passcode::discard();
+    deleteEveryCorvel();
     FeedbackSupport::forgetReports();
-    // Last, since it takes away the note that a reset is under way.
-    resetEverything();
+    // The note that a reset is under way goes with them, so nothing may be left to do afterwards.
+    removeEveryDefault();
     performShowMainView();
 }
 

@@ -76,7 +76,7 @@ void deleteCorvelAtIndex(std::size_t index)
     rest.removeCorvelAtIndex(index);
 }
 
-void resetEverything()
+void deleteEveryCorvel()
 {
     RESTHandler& rest = RESTHandler::sharedInstance();
     // A console whose adding was cut short is in no list, but the next save would store it.
@@ -91,6 +91,10 @@ void resetEverything()
     }
     rest.setCorvelList({});
     saveIgnoringErrors();
+}
+
+void removeEveryDefault()
+{
     UserDefaults& defaults = UserDefaults::standard();
     for (const std::string& key : defaults.allKeys()) {
         defaults.removeObjectForKey(key);

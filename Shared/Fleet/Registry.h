@@ -35,9 +35,10 @@ bool isAddressRegistered(const Corvel& corvel);
 void addDemoCorvel();
 /// Takes the working list's record at the place out of list and store, with its session key.
 void deleteCorvelAtIndex(std::size_t index);
-/// Resets the application's data: takes every record out of list and store, those among them that are only being added,
-/// and removes every user default, session keys and settings alike.
-void resetEverything();
+/// Takes every record out of list and store, those among them that are only being added.
+void deleteEveryCorvel();
+/// Removes every user default, session keys and settings alike.
+void removeEveryDefault();
 /// Forgets what was fetched of the working list's consoles, which are to be fetched anew.
 void forgetFetchedData();
 /// A logon that was under way when its record was deleted stores its session key afterwards: takes that key away again,
