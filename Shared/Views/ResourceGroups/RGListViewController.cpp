@@ -48,10 +48,10 @@ void RGListViewController::filterContentForSearchText(const QString& /*searchTex
 
 const std::vector<XMLElement>& RGListViewController::entries() const
 {
-    const XMLElement root = feed().root();
-    if (root != m_entriesOf) {
-        m_entriesOf = root;
-        m_entries = feed().entries();
+    const Feed shown = feed();
+    if (shown.root() != m_entriesOf) {
+        m_entriesOf = shown.root();
+        m_entries = shown.entries();
     }
     return m_entries;
 }
