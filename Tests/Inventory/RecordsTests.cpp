@@ -140,18 +140,26 @@ void expectFields(const Kind& record, const Fields<Kind>& fields, const std::vec
     }
 }
 
-/// How many records of the demonstration feed there are; each must hold every field.
+template <typename Kind>
+void expectWhole(const Kind& record, const Fields<Kind>& fields)
+{
+    for (const auto field : fields) {
+        EXPECT_TRUE((record.*field)());
+    }
+}
+
+/// The records of the demonstration feed; each holds every field.
 template <typename Kind, typename Base>
-std::size_t expectWholeDemoFeed(const Fields<Base>& fields)
+std::vector<Kind> wholeDemoRecords(const Fields<Base>& fields)
 {
     const Feed feed(XMLElement::parse(demoFeed(Kind::type)).value());
     for (const XMLElement& each : feed.entries()) {
         EXPECT_TRUE(parseFeedDate(each.child("published").text().value_or("")));
-        for (const auto field : fields) {
-            EXPECT_TRUE((recordOfEntry<Kind>(each).*field)());
-        }
+        expectWhole<Base>(recordOfEntry<Kind>(each), fields);
     }
-    return feed.entryCount();
+    EXPECT_EQ(recordsOf<Kind>(feed).size(), feed.entryCount());
+    EXPECT_GT(feed.entryCount(), 0U);
+    return recordsOf<Kind>(feed);
 }
 
 TEST(RecordsTests, ReadEveryFieldAndNoneWhereTheConsoleSaysNothing)
@@ -207,12 +215,27 @@ TEST(RecordsTests, ReadEveryFieldAndNoneWhereTheConsoleSaysNothing)
 
 TEST(RecordsTests, DemonstrationFeedsHoldEveryField)
 {
-    EXPECT_EQ(expectWholeDemoFeed<ConsoleInformation>(consoleFields), 1U);
-    EXPECT_GT(expectWholeDemoFeed<ManagedSystem>(systemFields), 0U);
-    EXPECT_GT(expectWholeDemoFeed<LogicalPartition>(partitionFields), 0U);
-    EXPECT_GT(expectWholeDemoFeed<VirtualIOServer>(partitionFields), 0U);
-    EXPECT_GT(expectWholeDemoFeed<ServiceableEvent>(eventFields), 0U);
-    EXPECT_GT(expectWholeDemoFeed<ResourceGroup>(groupFields), 0U);
+    const auto consoles = wholeDemoRecords<ConsoleInformation>(consoleFields);
+    ASSERT_EQ(consoles.size(), 1U);
+    expectWhole(consoles[0].identity(), machineFields);
+    EXPECT_EQ(consoles[0].version().find("(null)"), std::string::npos);
+    for (const ManagedSystem& each : wholeDemoRecords<ManagedSystem>(systemFields)) {
+        expectWhole(each.identity(), machineFields);
+    }
+    for (const Partition& each : wholeDemoRecords<LogicalPartition>(partitionFields)) {
+        EXPECT_TRUE(each.systemNameLink().starts_with("https://"));
+    }
+    for (const Partition& each : wholeDemoRecords<VirtualIOServer>(partitionFields)) {
+        EXPECT_TRUE(each.systemNameLink().starts_with("https://"));
+    }
+    for (const ServiceableEvent& each : wholeDemoRecords<ServiceableEvent>(eventFields)) {
+        expectWhole(each.reportingConsole(), nodeFields);
+        expectWhole(each.analyzingConsole(), nodeFields);
+        for (const FieldReplaceableUnit& unit : each.units()) {
+            expectWhole(unit, unitFields);
+        }
+    }
+    EXPECT_FALSE(wholeDemoRecords<ResourceGroup>(groupFields).front().members().empty());
 }
 
 TEST(RecordsTests, EachKindJudgesByItsOwnWords)
