@@ -8,6 +8,7 @@
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/ScratchFolder.h"
 
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -145,7 +146,8 @@ struct Times {
     double feedDuringRefresh = 0;
 };
 
-/// The last console has a process of its own: it answers a person no later than its own work lets it.
+/// The last console, which a person asks, has a process of its own, as a real one is a machine of its own. In the
+/// process of all the others the person's request would wait for the answers to theirs.
 class Fleet
 {
 public:

@@ -43,8 +43,8 @@ Label {
         text: label.matchStart >= 0 ? label.shown.substring(label.matchStart, label.matchStart + label.match.length) : ""
     }
     Rectangle {
-        // The contentWidth of a label that aligns its text to the right is all its width. Whether the label does so is not
-        // told of when that changes before the label is complete.
+        // The label's effectiveHorizontalAlignment does not do here: it may change before the label is complete, and then
+        // no signal says so. Nor does contentWidth: in a label that is aligned to the right it is the whole width.
         readonly property real textStart: Theme.mirrored ? label.width - whole.advanceWidth : 0
 
         z: -1

@@ -16,11 +16,13 @@ public:
     void reset(Clock::time_point now);
     void waited(Clock::time_point from, Clock::time_point until);
     bool isIdle() const { return m_idlePeriods > 0; }
-    /// Longer than a processor with other work, too, keeps a server from answering: the network itself takes its time.
-    bool isIdleForLong() const { return m_idlePeriods >= 3; }
+    /// Whether the thread has been idle for so long that the network must be slow: a server on a busy processor answers
+    /// sooner.
+    bool isIdleForLong() const { return m_idlePeriods >= longPeriods; }
 
     /// So long a thread is watched before it is called idle.
     static constexpr std::chrono::milliseconds period{20};
+    static constexpr int longPeriods = 3;
 
 private:
     Clock::time_point m_start{};

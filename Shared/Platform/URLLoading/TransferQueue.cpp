@@ -118,8 +118,8 @@ void TransferQueue::didEnd(const Transfer& transfer)
     --server.running;
     const bool tookFree = m_onFreeConnections.erase(&transfer) != 0;
     if (tookFree && transfer.madeConnection()) {
-        m_free -= std::exchange(
-            server.free, 0); // the free one was not there: its server had closed it, and so it will have the others
+        // The free one was not there: its server had closed it, and so it will have the others.
+        m_free -= std::exchange(server.free, 0);
     }
     if (transfer.leavesConnection()) {
         ++server.free;
