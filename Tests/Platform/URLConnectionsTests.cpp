@@ -202,6 +202,31 @@ TEST_F(URLLoadingTest, SixRequestsLeaveTogetherThroughANetworkWithALength)
     EXPECT_LT(refresh(keys), (HandshakeHold::isPossible ? 4.5 : 6.0) * roundTrip);
 }
 
+TEST_F(URLLoadingTest, NoMoreConnectionsAreMadeThanTheirLimitThroughASlowNetworkEither)
+{
+    TransferLimits::shared().connections = 6;
+    TransferLimits::shared().connectionsOfSlowNetwork = 8;
+    simulator::Settings settings;
+    settings.consoles = 4;
+    settings.roundTrip = 100;
+    simulator::SimulatorProcess simulator{settings};
+    std::vector<URLRequest> requests;
+    for (int console = 0; console < settings.consoles; ++console) {
+        URLRequest request = feedRequest(simulator, logOn(simulator, console), console);
+        request.urgency = Urgency::Fleet;
+        requests.insert(requests.end(), 6, request);
+    }
+    std::latch settled(static_cast<std::ptrdiff_t>(requests.size()));
+    for (const URLRequest& request : requests) {
+        sendAsynchronousRequest(request, m_queue, [&](const Result<URLLoad>& load) {
+            EXPECT_TRUE(load.ok() && load.value().response.statusCode == 200);
+            settled.count_down();
+        });
+    }
+    settled.wait();
+    EXPECT_LE(simulator.handshakes(), 8);
+}
+
 TEST_F(URLLoadingTest, ConnectionsMadeAheadMayBeOlderThanTheCertificateAndThanTheirServersPatience)
 {
     simulator::Settings settings;

@@ -19,11 +19,6 @@ constexpr std::size_t waitingBytesLimit = 24UL * 1024 * 1024;
 // Each is asked after at every turn of the loop, so that thousands would cost more than they save.
 constexpr std::size_t mostConnectionsAhead = 600;
 constexpr std::size_t descriptorsForOthers = 256;
-constexpr std::size_t bytesOfConnection = 130UL * 1024; // with its handle and its buffers
-// Each server may have one beyond it.
-constexpr std::size_t manyConnections = 600;
-constexpr std::size_t mostConnections = 3000;
-constexpr std::size_t shareOfDevice = 32;
 // So few, all of one console's, keep no machine busy: each may have a connection made.
 constexpr std::size_t fewTransfers = 6;
 constexpr int longestWait = 60'000; ///< milliseconds
@@ -41,14 +36,6 @@ std::size_t descriptorLimit()
         const std::size_t all = std::min<std::size_t>(files.rlim_cur, 16'384);
         return (all > 2 * descriptorsForOthers ? all - descriptorsForOthers : all / 2) / 2;
     }();
-    return limit;
-}
-
-/// Where a long network makes them worth their memory.
-std::size_t connectionLimit()
-{
-    static const std::size_t limit =
-        std::clamp(deviceMemory() / shareOfDevice / bytesOfConnection, manyConnections, mostConnections);
     return limit;
 }
 
@@ -253,9 +240,10 @@ std::shared_ptr<Transfer> NetworkThread::nextToStart(Clock::time_point now)
         return nullptr;
     }
     const bool alone = m_running.empty();
-    const std::size_t most = m_idleness.isIdleForLong() ? connectionLimit() : manyConnections;
+    const TransferLimits& limits = TransferLimits::shared();
+    const std::size_t most = m_idleness.isIdleForLong() ? limits.connectionsOfSlowNetwork : limits.connections;
     return m_waiting.take(
-        m_running.size() < fewTransfers || mayConnectMore(most) ? Connections::Make : Connections::Have,
+        mayConnectMore(most) ? Connections::Make : Connections::Have,
         alone || readersKeepUp() ? Whose::Everybodys : Whose::Persons,
         [this](const std::string& server) { return m_ahead.hasReady(server) ? 1 : 0; }, now);
 }
@@ -263,7 +251,8 @@ std::shared_ptr<Transfer> NetworkThread::nextToStart(Clock::time_point now)
 /// For the fleet: when there is nothing better to do, and as far as memory goes.
 bool NetworkThread::mayConnectMore(std::size_t most) const
 {
-    return m_idleness.isIdle() && m_running.size() + m_waiting.freeConnections() + m_ahead.count() < most;
+    const bool isIdle = m_idleness.isIdle() || m_running.size() < fewTransfers;
+    return isIdle && m_running.size() + m_waiting.freeConnections() + m_ahead.count() < most;
 }
 
 /// For persons at once; for what is expected when there is nothing better to do.
@@ -280,8 +269,9 @@ void NetworkThread::openAhead(Clock::time_point now)
     };
     m_waiting.forEachPersonsWant(ahead,
                                  openWhile([this] { return m_running.size() + m_ahead.count() < descriptorLimit(); }));
-    if (mayConnectMore(manyConnections)) {
-        m_waiting.forEachExpectedWant(ahead, openWhile([this] { return mayConnectMore(manyConnections); }));
+    if (m_waiting.expectsAny()) {
+        m_waiting.forEachExpectedWant(
+            ahead, openWhile([this] { return mayConnectMore(TransferLimits::shared().connections); }));
     }
 }
 

@@ -16,6 +16,10 @@ constexpr std::size_t megabyte = 1024UL * 1024;
 constexpr std::size_t mostHeld = 192 * megabyte;
 constexpr std::size_t leastHeld = 48 * megabyte; // below it an ordinary feed would not fit
 constexpr std::size_t shareOfDevice = 16;
+constexpr std::size_t connectionsShareOfDevice = 32;
+constexpr std::size_t bytesOfConnection = 130UL * 1024;
+constexpr std::size_t leastConnections = 600;
+constexpr std::size_t mostConnections = 3000;
 
 } // namespace
 
@@ -30,7 +34,11 @@ std::size_t deviceMemory()
 TransferLimits TransferLimits::ofDevice(std::size_t memory)
 {
     const std::size_t held = std::clamp(memory / shareOfDevice, leastHeld, mostHeld);
-    return {.heldBytes = held, .bodyBytes = HeldBytes::mostOfOne(held)};
+    return {.heldBytes = held,
+            .bodyBytes = HeldBytes::mostOfOne(held),
+            .connections = leastConnections,
+            .connectionsOfSlowNetwork =
+                std::clamp(memory / connectionsShareOfDevice / bytesOfConnection, leastConnections, mostConnections)};
 }
 
 TransferLimits& TransferLimits::shared()

@@ -21,6 +21,11 @@ struct TransferLimits {
     /// What comes beside headers and body, over as many bytes as those are: the sizes and extensions of chunks, which
     /// libcurl drops unseen, and what TLS adds.
     std::size_t framingBytes = 1024UL * 1024;
+    /// All connections together, 600: in use, free and being made. Each takes some 130 KB with its handle and its
+    /// buffers. A server that has none may always have one.
+    std::size_t connections;
+    /// The same where the network is slow, and more of them save time: a 32nd of the device's memory, 3,000 at most.
+    std::size_t connectionsOfSlowNetwork;
     int redirects = 20; ///< hops followed; the last response is then the answer
     /// A transfer's total time is its idle limit times this, so that a trickling server cannot hold it for ever.
     int totalTimeFactor = 1;
