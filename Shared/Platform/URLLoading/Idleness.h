@@ -22,7 +22,7 @@ public:
 
     /// So long a thread is watched before it is called idle.
     static constexpr std::chrono::milliseconds period{20};
-    static constexpr int longPeriods = 3;
+    static constexpr int longPeriods = 6;
 
 private:
     Clock::time_point m_start{};
