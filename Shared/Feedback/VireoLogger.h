@@ -36,8 +36,8 @@ public:
     };
 
     template <typename... Args>
-    static void log(int level, int tag, int line, std::string_view fileName, std::string_view method,
-                    std::span<void* const> stacktrace, fmt::format_string<Args...> format, Args&&... args)
+    static void logWithLevel(int level, int tag, int line, std::string_view fileName, std::string_view method,
+                             std::span<void* const> stacktrace, fmt::format_string<Args...> format, Args&&... args)
     {
         write({level, tag, line, fileName, method, stacktrace, fmt::format(format, std::forward<Args>(args)...)});
     }
@@ -93,4 +93,5 @@ std::vector<void*> callStackReturnAddresses();
 
 /// The call in the form that every caller wants: level 2, tag 0, with this line and this stack.
 #define LODESTAR_LOG(fileName, method, ...)                                                                            \
-    ::lodestar::VireoLogger::log(2, 0, __LINE__, fileName, method, ::lodestar::callStackReturnAddresses(), __VA_ARGS__)
+    ::lodestar::VireoLogger::logWithLevel(2, 0, __LINE__, fileName, method, ::lodestar::callStackReturnAddresses(),    \
+                                          __VA_ARGS__)

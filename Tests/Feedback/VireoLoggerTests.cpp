@@ -92,8 +92,8 @@ TEST(VireoLogger, WritesEveryPartOfACallToTheLogFile)
     ASSERT_TRUE(VireoLogger::openLogFolder(scratch.path().string()));
     EXPECT_FALSE(VireoLogger::openLogFolder("/dev/null/logs"));
     void* const stack[] = {reinterpret_cast<void*>(0xbeef), reinterpret_cast<void*>(0xf00d)};
-    VireoLogger::log(3, 7, 42, "Shared/Controllers/REST/RESTHandler", "-[RESTHandler login:checkToken:]", stack,
-                     "Corvel: {}\n{}", "first", 2);
+    VireoLogger::logWithLevel(3, 7, 42, "Shared/Controllers/REST/RESTHandler", "-[RESTHandler login:checkToken:]",
+                              stack, "Corvel: {}\n{}", "first", 2);
     VireoLogger::flush();
     const std::string log = scratch.read("lodestar.log");
     EXPECT_THAT(log, HasSubstr("program loaded at "));
@@ -112,7 +112,7 @@ TEST(VireoLogger, KeepsAllLinesOfManyThreadsWholeAndInTheirOrder)
     for (int thread = 0; thread < 4; ++thread) {
         threads.emplace_back([thread] {
             for (int line = 0; line < 250; ++line) {
-                VireoLogger::log(2, 0, 1, here, "method", {}, "thread {} line {}.", thread, line);
+                VireoLogger::logWithLevel(2, 0, 1, here, "method", {}, "thread {} line {}.", thread, line);
             }
         });
     }

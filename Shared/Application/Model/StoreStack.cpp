@@ -47,20 +47,24 @@ ManagedObjectModel StoreStack::managedObjectModel()
             1};
 }
 
+std::unique_ptr<ObjectContext> StoreStack::persistentStoreCoordinator() const
+{
+    // Without a folder the path is empty and refused, rather than one at the root of the file system.
+    const std::string path = m_documentsDirectory.empty() ? std::string() : m_documentsDirectory + "/Lodestar.sqlite";
+    auto opened = ObjectContext::open(path, managedObjectModel());
+    if (!opened) {
+        endProcess("-[AppDelegate persistentStoreCoordinator]",
+                   {"YOUR_ERROR_DOMAIN", 9999, "Failed to initialize the application's saved data",
+                    "There was an error creating or loading the application's saved data.",
+                    std::make_shared<Error>(opened.error())});
+    }
+    return std::move(opened).value();
+}
+
 ObjectContext& StoreStack::managedObjectContext()
 {
     if (m_context == nullptr) {
-        // Without a folder the path is empty and refused, rather than one at the root of the file system.
-        const std::string path =
-            m_documentsDirectory.empty() ? std::string() : m_documentsDirectory + "/Lodestar.sqlite";
-        auto opened = ObjectContext::open(path, managedObjectModel());
-        if (!opened) {
-            endProcess("-[AppDelegate persistentStoreCoordinator]",
-                       {"YOUR_ERROR_DOMAIN", 9999, "Failed to initialize the application's saved data",
-                        "There was an error creating or loading the application's saved data.",
-                        std::make_shared<Error>(opened.error())});
-        }
-        m_context = std::move(opened).value();
+        m_context = persistentStoreCoordinator();
         // The reset deletes and saves console by console, on the main thread: one wiping at its end is enough.
         m_context->setScrubNeeded([] {
             MainQueue::shared().async([] {

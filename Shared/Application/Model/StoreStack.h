@@ -28,6 +28,9 @@ public:
     void close();
 
 private:
+    /// Opens or creates "Lodestar.sqlite", or ends the process.
+    std::unique_ptr<ObjectContext> persistentStoreCoordinator() const;
+
     std::string m_documentsDirectory;
     std::unique_ptr<ObjectContext> m_context;
 };

@@ -18,9 +18,9 @@ namespace
 template <typename... Args>
 void log(int line, fmt::format_string<Args...> format, Args&&... args)
 {
-    VireoLogger::log(2, 0, line, "Shared/Controllers/REST/RESTHandler",
-                     "-[RESTHandler fetchPCMDataForManagedSystem:corvel:key:]", callStackReturnAddresses(), format,
-                     std::forward<Args>(args)...);
+    VireoLogger::logWithLevel(2, 0, line, "Shared/Controllers/REST/RESTHandler",
+                              "-[RESTHandler fetchPCMDataForManagedSystem:corvel:key:]", callStackReturnAddresses(),
+                              format, std::forward<Args>(args)...);
 }
 
 Result<MetricsDocument> demoMetrics()

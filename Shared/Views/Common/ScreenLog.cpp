@@ -10,8 +10,8 @@ namespace lodestar
 
 void ScreenLog::write(int line, std::string_view selector, std::string_view message) const
 {
-    VireoLogger::log(2, 0, line, m_fileName, fmt::format("-[{} {}]", className(), selector), callStackReturnAddresses(),
-                     "{}", message);
+    VireoLogger::logWithLevel(2, 0, line, m_fileName, fmt::format("-[{} {}]", className(), selector),
+                              callStackReturnAddresses(), "{}", message);
 }
 
 void ScreenLog::writeError(int line, std::string_view selector, const Error& error) const

@@ -38,8 +38,8 @@ constexpr std::chrono::milliseconds waitingInterval{1500};
 // The line number is part of the message: it names the missing feed in a log, whatever becomes of this file's lines.
 void logMissing(int line, std::string_view message)
 {
-    VireoLogger::log(2, 0, line, fileName, "-[DashboardTableViewController createDashboard]",
-                     callStackReturnAddresses(), "{}", message);
+    VireoLogger::logWithLevel(2, 0, line, fileName, "-[DashboardTableViewController createDashboard]",
+                              callStackReturnAddresses(), "{}", message);
 }
 
 /// The three feeds of one console are judged apart: one that is missing takes nothing from the others.
