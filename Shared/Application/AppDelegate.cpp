@@ -2,6 +2,7 @@
 #include "Application/AppDelegate.h"
 
 #include "Application/FeedbackWindow.h"
+#include "Application/Model/Setting.h"
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
@@ -37,7 +38,7 @@ bool AppDelegate::didFinishLaunchingWithOptions()
 
 void AppDelegate::applicationDidBecomeActive()
 {
-    if (UserDefaults::standard().boolForKey("requirePassword")) {
+    if (UserDefaults::standard().boolForKey(Setting::requirePassword)) {
         showInitialViewController();
     }
 }

@@ -4,6 +4,7 @@
 #include "Application/FeedbackWindow.h"
 #include "Application/KeptState.h"
 #include "Application/Model/Corvel.h"
+#include "Application/Model/Setting.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/CrashCapture.h"
 #include "Feedback/CrashCollector.h"
@@ -117,10 +118,14 @@ std::vector<std::string> FeedbackSupport::secretsInUse()
         if (const auto password = corvel->password()) {
             secrets.push_back(*password);
         }
+        if (const auto key = UserDefaults::standard().stringForKey(corvel->address().value_or(""))) {
+            secrets.push_back(*key);
+        }
     }
-    // All texts among the defaults are session keys; one may outlive its console.
+    // A session key may outlive its console.
     for (const std::string& name : UserDefaults::standard().allKeys()) {
-        if (const auto key = UserDefaults::standard().stringForKey(name)) {
+        const auto key = UserDefaults::standard().stringForKey(name);
+        if (key && !Setting::isOne(name)) {
             secrets.push_back(*key);
         }
     }

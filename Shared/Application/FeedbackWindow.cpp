@@ -3,6 +3,7 @@
 
 #include "Application/DiscardedInterface.h"
 #include "Application/LoginViewController.h"
+#include "Application/Model/Setting.h"
 #include "Feedback/UI/FeedbackUI.h"
 #include "Feedback/VireoLogger.h"
 #include "Kit/Core/Kit.h"
@@ -35,7 +36,7 @@ void installApplicationScenes(QQmlEngine& engine)
 bool isLock(const ViewController* controller)
 {
     return qobject_cast<const LoginViewController*>(controller) != nullptr &&
-           UserDefaults::standard().boolForKey("requirePassword");
+           UserDefaults::standard().boolForKey(Setting::requirePassword);
 }
 
 QUrl mainScene()

@@ -3,6 +3,7 @@
 
 #include "Application/FeedbackSupport.h"
 #include "Application/KeptState.h"
+#include "Application/Model/Setting.h"
 #include "Application/Passcode.h"
 #include "Fleet/Registry.h"
 #include "Kit/Core/Storyboard.h"
@@ -15,11 +16,6 @@ namespace lodestar
 {
 namespace
 {
-
-constexpr auto requirePassword = "requirePassword";
-/// Set from the first step of a reset to its last, which takes it away with all the rest: a reset that the process did
-/// not survive is finished before anything is shown.
-constexpr auto resetUnderWay = "resetUnderWay";
 
 constexpr double spaceAtRest = 200;
 constexpr double spaceOverKeyboard = 50;
@@ -41,21 +37,21 @@ void LoginViewController::viewDidAppear()
 {
     m_hasPassedOn = false;
     UserDefaults& defaults = UserDefaults::standard();
-    if (defaults.boolForKey(resetUnderWay)) {
+    if (defaults.boolForKey(Setting::resetUnderWay)) {
         resetApplicationData();
         return;
     }
     // The keychain outlives the application's removal. What an earlier installation left in it counts as none at once;
     // to empty it nobody is kept waiting, or asked for the keychain's own password.
-    if (!defaults.boolForKey("initialLoad")) {
+    if (!defaults.boolForKey(Setting::initialLoad)) {
         Passcode::discard();
-        defaults.setBool(false, requirePassword);
+        defaults.setBool(false, Setting::requirePassword);
     }
     // Asked only when it matters, and the screen does not wait for the answer.
-    if (defaults.boolForKey(requirePassword)) {
+    if (defaults.boolForKey(Setting::requirePassword)) {
         askWhetherThereIsAPasscode();
     }
-    if (!defaults.boolForKey(requirePassword)) {
+    if (!defaults.boolForKey(Setting::requirePassword)) {
         if (!m_hasPassedOn) {
             performShowMainView();
         }
@@ -72,7 +68,7 @@ void LoginViewController::askWhetherThereIsAPasscode()
         if (!passcode.empty()) {
             return;
         }
-        UserDefaults::standard().setBool(false, requirePassword);
+        UserDefaults::standard().setBool(false, Setting::requirePassword);
         if (failure) {
             Passcode::rememberLockOff(*failure);
         }
@@ -194,7 +190,7 @@ void LoginViewController::resetPassword()
 void LoginViewController::resetApplicationData()
 {
     UserDefaults& defaults = UserDefaults::standard();
-    defaults.setBool(true, resetUnderWay);
+    defaults.setBool(true, Setting::resetUnderWay);
     defaults.synchronize();
 
     KeptState::shared().clear();

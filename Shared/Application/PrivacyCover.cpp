@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/PrivacyCover.h"
 
+#include "Application/Model/Setting.h"
 #include "Platform/UserDefaults.h"
 
 #include <QEvent>
@@ -102,7 +103,7 @@ void PrivacyCover::becomeActive()
 
 void PrivacyCover::cover()
 {
-    if (m_cover || !UserDefaults::standard().boolForKey("requirePassword")) {
+    if (m_cover || !UserDefaults::standard().boolForKey(Setting::requirePassword)) {
         return;
     }
     m_owesLock = true;

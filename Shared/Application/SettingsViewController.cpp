@@ -2,6 +2,7 @@
 #include "Application/SettingsViewController.h"
 
 #include "Application/IntroView.h"
+#include "Application/Model/Setting.h"
 #include "Application/Passcode.h"
 #include "Application/PasswordCreationViewController.h"
 #include "Kit/Core/Storyboard.h"
@@ -17,8 +18,6 @@ namespace lodestar
 {
 namespace
 {
-
-constexpr auto requirePassword = "requirePassword";
 
 constexpr IndexPath changePasscodeRow{0, 1};
 constexpr IndexPath introTourRow{1, 0};
@@ -44,7 +43,7 @@ void SettingsViewController::viewDidLoad()
     updateKeychainNote();
     whenPasscodeIsKnown([](SettingsViewController& self) { self.updateKeychainNote(); });
     m_passwordCellArrow.setImageName(QStringLiteral("chevron"));
-    const bool required = UserDefaults::standard().boolForKey(requirePassword);
+    const bool required = UserDefaults::standard().boolForKey(Setting::requirePassword);
     m_passwordSwitch.setOn(required);
     setPasswordCellEnabled(required);
     m_closeObservation =
@@ -82,7 +81,7 @@ void SettingsViewController::updateKeychainNote()
 
 void SettingsViewController::turnOffWithoutPasscode()
 {
-    if (!UserDefaults::standard().boolForKey(requirePassword)) {
+    if (!UserDefaults::standard().boolForKey(Setting::requirePassword)) {
         return;
     }
     Passcode::read(Passcode::Prompt::No,
@@ -91,7 +90,7 @@ void SettingsViewController::turnOffWithoutPasscode()
                        if (!passcode.empty() || (failure && failure->code == Keychain::locked)) {
                            return;
                        }
-                       UserDefaults::standard().setBool(false, requirePassword);
+                       UserDefaults::standard().setBool(false, Setting::requirePassword);
                        if (failure) {
                            Passcode::rememberLockOff(*failure);
                        }
@@ -113,8 +112,8 @@ void SettingsViewController::setPasswordCellEnabled(bool enabled)
 void SettingsViewController::togglePassword()
 {
     UserDefaults& defaults = UserDefaults::standard();
-    defaults.setBool(m_passwordSwitch.isOn(), requirePassword);
-    const bool required = defaults.boolForKey(requirePassword);
+    defaults.setBool(m_passwordSwitch.isOn(), Setting::requirePassword);
+    const bool required = defaults.boolForKey(Setting::requirePassword);
     setPasswordCellEnabled(required);
     if (!required) {
         return;

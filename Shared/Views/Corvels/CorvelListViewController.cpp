@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Corvels/CorvelListViewController.h"
 
+#include "Application/Model/Setting.h"
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
@@ -82,10 +83,10 @@ void CorvelListViewController::viewDidLoad()
     setBackTitle(QStringLiteral(""));
 
     const UserDefaults& defaults = UserDefaults::standard();
-    if (!defaults.boolForKey("initialLoad")) {
+    if (!defaults.boolForKey(Setting::initialLoad)) {
         addTestCorvel();
     }
-    if (!defaults.boolForKey("showedPreview") && introPresenter()) {
+    if (!defaults.boolForKey(Setting::showedPreview) && introPresenter()) {
         ViewController* over = tabBarController();
         introPresenter()(over != nullptr ? *over : *this, self<CorvelListViewController>());
     }
@@ -112,7 +113,7 @@ void CorvelListViewController::observeNotifications()
 void CorvelListViewController::addTestCorvel()
 {
     addDemoCorvel();
-    UserDefaults::standard().setBool(true, "initialLoad");
+    UserDefaults::standard().setBool(true, Setting::initialLoad);
 }
 
 void CorvelListViewController::dataRefresh()
@@ -176,7 +177,7 @@ void CorvelListViewController::resetFetchData()
 void CorvelListViewController::introDidFinish()
 {
     UserDefaults& defaults = UserDefaults::standard();
-    defaults.setBool(true, "showedPreview");
+    defaults.setBool(true, Setting::showedPreview);
     defaults.synchronize();
     dataRefresh();
 }
