@@ -119,7 +119,7 @@ def check_texts(source, _build):
 
 
 def check_claims(source, _build):
-    """Each test that a page names behind a claim exists."""
+    """Each test, folder and file that a page names exists."""
     tests = set()
     for path in tracked(source, ".cpp", ".h"):
         if path.parts[0] == "Tests":
@@ -130,6 +130,8 @@ def check_claims(source, _build):
         for number, row in enumerate((source / path).read_text().splitlines(), 1):
             faults += [f"{path}:{number}: there is no test {name}" for name in re.findall(r"`([A-Z]\w+\.[A-Z]\w{7,})`", row)
                        if name not in tests and not (source / name).exists()]
+            faults += [f"{path}:{number}: there is no {name}" for name in re.findall(r"`((?:[A-Z]\w+|docs)/[^`\s]+)`", row)
+                       if not (source / name).exists()]
     return faults
 
 
