@@ -2,12 +2,12 @@
 // Any bytes as a rich text: what comes of them is text in UTF-8 within every limit that the reader promises.
 #include "Tests/Fuzz/Require.h"
 #include "Views/About/RichText/RichText.h"
-#include "Views/About/RichText/RichTextCharacters.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
+#include <utf8proc.h>
 
 namespace
 {
@@ -19,12 +19,19 @@ bool isLength(int length)
     return std::abs(length) <= 31680;
 }
 
-/// Without control characters but tabs and breaks, and equal to itself made clean.
+/// UTF-8 without control characters but tabs and breaks.
 bool isText(const std::string& text)
 {
-    std::string unbroken = text;
-    std::replace(unbroken.begin(), unbroken.end(), '\n', '\t');
-    return lodestar::sanitizedUtf8(unbroken) == unbroken;
+    utf8proc_int32_t character = 0;
+    for (std::size_t at = 0; at < text.size();) {
+        const auto length = utf8proc_iterate(reinterpret_cast<const utf8proc_uint8_t*>(text.data() + at),
+                                             static_cast<utf8proc_ssize_t>(text.size() - at), &character);
+        if (length < 1 || (character < 0x20 && character != '\t' && character != '\n') || character == 0x7F) {
+            return false;
+        }
+        at += static_cast<std::size_t>(length);
+    }
+    return true;
 }
 
 void requireSound(const lodestar::RichTextDocument& document, std::size_t size)

@@ -24,7 +24,7 @@ struct RichTextStyle {
     bool bold = false;
     bool italic = false;
     bool underline = false;
-    std::optional<RichTextColor> color{}; ///< none for the reader's own
+    std::optional<RichTextColor> color{}; ///< none for the screen's own
     friend bool operator==(const RichTextStyle&, const RichTextStyle&) = default;
 };
 
@@ -50,28 +50,24 @@ struct RichTextParagraph {
     std::vector<RichTextRun> runs{}; ///< none for an empty line
 };
 
-/// A text as a word processor wrote it, flattened.
 struct RichTextDocument {
-    /// Family names. The first is empty: the reader's own.
+    /// Family names. The first is empty: the screen's own.
     std::vector<std::string> fonts{std::string()};
     std::vector<RichTextParagraph> paragraphs{};
-    /// A limit was reached: what lies behind it is missing.
-    bool truncated = false;
+    bool truncated = false; ///< a limit was reached: what lies behind it is missing
 };
 
-/// What a document may take. More is left out.
 struct RichTextLimits {
     static constexpr std::size_t bytes = std::size_t(4) * 1024 * 1024;
-    static constexpr std::size_t depth = 256;         ///< groups inside each other; text deeper than that is left out
+    static constexpr std::size_t depth = 256;         ///< groups inside each other
     static constexpr std::size_t pieces = 100000;     ///< paragraphs and runs
     static constexpr std::size_t tableEntries = 1024; ///< fonts, and colours
-    static constexpr std::size_t fontName = 128;
 };
 
-/// Reads rich text: fonts, sizes, bold, italic, underlines, colours, alignment, indents, list markers, tabs and breaks.
-/// Pictures, notes, headers and whatever it does not know are passed over. Any bytes may be given: damaged rich text
-/// yields what can be read of it, bytes that are no rich text are read as plain text in UTF-8, a paragraph a line, and
-/// no bytes are no paragraphs. Time and memory are linear in the size. Any thread.
+/// Reads what the legal text and the release notes use of rich text: fonts, sizes, bold, italic, underlines, colours,
+/// alignment, indents, list markers, tabs and breaks, in the code page 1252 and in Unicode. Everything else is passed
+/// over. Any bytes may be given: damaged rich text yields what can be read of it, bytes that are no rich text are no
+/// paragraphs. Time and memory are linear in the size. Any thread.
 RichTextDocument readRichText(std::string_view bytes);
 
 } // namespace lodestar

@@ -2,130 +2,80 @@
 #include "Views/About/RichText/RichTextTokens.h"
 
 #include <algorithm>
-#include <cstdint>
+#include <charconv>
 
 namespace lodestar
 {
 namespace
 {
 
-// Longer words and numbers are cut off: none that is known comes near.
-constexpr std::size_t longestWord = 32;
-constexpr int largestParameter = 1000000000;
-
-bool isLetter(char character)
-{
-    return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z');
-}
-
-bool isDigit(char character)
-{
-    return character >= '0' && character <= '9';
-}
-
-int hexadecimalDigit(char character)
-{
-    if (isDigit(character)) {
-        return character - '0';
-    }
-    if (character >= 'a' && character <= 'f') {
-        return character - 'a' + 10;
-    }
-    return character >= 'A' && character <= 'F' ? character - 'A' + 10 : -1;
-}
+constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ";
+constexpr int largestParameter = 1'000'000'000;
 
 } // namespace
 
+std::string_view RichTextTokens::take(std::size_t count)
+{
+    const std::string_view taken = m_rest.substr(0, count);
+    m_rest.remove_prefix(taken.size());
+    return taken;
+}
+
 RichTextToken RichTextTokens::next()
 {
-    while (!atEnd() && (m_bytes[m_at] == '\r' || m_bytes[m_at] == '\n')) {
-        ++m_at;
-    }
-    if (atEnd()) {
+    take(std::min(m_rest.find_first_not_of("\r\n"), m_rest.size()));
+    if (m_rest.empty()) {
         return {};
     }
-    switch (m_bytes[m_at]) {
+    switch (m_rest.front()) {
     case '{':
-        ++m_at;
+        take(1);
         return {.kind = RichTextToken::Kind::GroupOpen};
     case '}':
-        ++m_at;
+        take(1);
         return {.kind = RichTextToken::Kind::GroupClose};
     case '\\':
-        ++m_at;
-        return control();
-    default:
-        break;
-    }
-    const std::size_t start = m_at;
-    m_at = std::min(m_bytes.find_first_of("{}\\\r\n", start), m_bytes.size());
-    return {.kind = RichTextToken::Kind::Text, .text = m_bytes.substr(start, m_at - start)};
-}
-
-RichTextToken RichTextTokens::control()
-{
-    if (atEnd()) {
-        return {};
-    }
-    if (isLetter(m_bytes[m_at])) {
+        take(1);
         return word();
+    default:
+        return {.kind = RichTextToken::Kind::Text, .text = take(m_rest.find_first_of("{}\\\r\n"))};
     }
-    const char symbol = m_bytes[m_at++];
-    if (symbol == '\'') {
-        return hexadecimalByte();
-    }
-    return {.kind = RichTextToken::Kind::Symbol, .value = static_cast<std::uint8_t>(symbol)};
-}
-
-RichTextToken RichTextTokens::hexadecimalByte()
-{
-    const int high = m_at < m_bytes.size() ? hexadecimalDigit(m_bytes[m_at]) : -1;
-    const int low = m_at + 1 < m_bytes.size() ? hexadecimalDigit(m_bytes[m_at + 1]) : -1;
-    if (high < 0 || low < 0) {
-        // Damaged: nothing is taken for its digits.
-        return {.kind = RichTextToken::Kind::Byte, .value = 0};
-    }
-    m_at += 2;
-    return {.kind = RichTextToken::Kind::Byte, .value = high * 16 + low};
 }
 
 RichTextToken RichTextTokens::word()
 {
-    const std::size_t start = m_at;
-    while (!atEnd() && isLetter(m_bytes[m_at])) {
-        ++m_at;
+    const std::string_view name = take(std::min(m_rest.find_first_not_of(letters), m_rest.size()));
+    if (name.empty()) {
+        const std::string_view symbol = take(1);
+        if (symbol == "'") {
+            return hexadecimalByte();
+        }
+        return symbol.empty() ? RichTextToken{}
+                              : RichTextToken{.kind = RichTextToken::Kind::Symbol, .value = symbol.front()};
     }
-    RichTextToken token{.kind = RichTextToken::Kind::Word,
-                        .text = m_bytes.substr(start, std::min(m_at - start, longestWord))};
-    const std::optional<int> value = parameter();
-    token.value = value.value_or(0);
-    token.hasValue = value.has_value();
+    RichTextToken token{.kind = RichTextToken::Kind::Word, .text = name};
+    const auto [end, error] = std::from_chars(m_rest.data(), m_rest.data() + m_rest.size(), token.value);
+    if (error == std::errc::result_out_of_range) {
+        token.value = m_rest.front() == '-' ? -largestParameter : largestParameter;
+    }
+    take(static_cast<std::size_t>(end - m_rest.data()));
     // One blank belongs to the word.
-    if (!atEnd() && m_bytes[m_at] == ' ') {
-        ++m_at;
-    }
-    if (token.text == "bin") {
-        const std::size_t skipped = token.value > 0 ? static_cast<std::size_t>(token.value) : 0;
-        m_at += std::min(skipped, m_bytes.size() - m_at);
-        return {.kind = RichTextToken::Kind::Data};
+    take(m_rest.starts_with(' ') ? 1 : 0);
+    if (name == "bin") {
+        take(static_cast<std::size_t>(std::max(0, token.value)));
     }
     return token;
 }
 
-std::optional<int> RichTextTokens::parameter()
+RichTextToken RichTextTokens::hexadecimalByte()
 {
-    std::size_t at = m_at;
-    const bool negative = at < m_bytes.size() && m_bytes[at] == '-';
-    at += negative ? 1 : 0;
-    if (at >= m_bytes.size() || !isDigit(m_bytes[at])) {
-        return std::nullopt;
+    RichTextToken token{.kind = RichTextToken::Kind::Byte, .value = 0};
+    const std::string_view digits = m_rest.substr(0, 2);
+    if (digits.find_first_not_of("0123456789abcdefABCDEF") == std::string_view::npos && digits.size() == 2) {
+        std::from_chars(digits.data(), digits.data() + digits.size(), token.value, 16);
+        take(2);
     }
-    int value = 0;
-    for (; at < m_bytes.size() && isDigit(m_bytes[at]); ++at) {
-        value = value < largestParameter / 10 ? value * 10 + (m_bytes[at] - '0') : largestParameter;
-    }
-    m_at = at;
-    return negative ? -value : value;
+    return token;
 }
 
 } // namespace lodestar

@@ -2,7 +2,6 @@
 #pragma once
 
 #include <cstddef>
-#include <optional>
 #include <string_view>
 
 namespace lodestar
@@ -13,38 +12,29 @@ struct RichTextToken {
         End,
         GroupOpen,
         GroupClose,
-        Text,   ///< `text`: bytes without braces, backslashes and line ends
-        Byte,   ///< `value`: one byte of text, written in hexadecimal
-        Word,   ///< `text`: the control word; `value` its parameter, `hasValue` whether it has one
-        Symbol, ///< `value`: the character behind the backslash
-        Data    ///< bytes of a binary picture or the like, passed over
+        Text,  ///< `text`: bytes without braces, backslashes and line ends
+        Byte,  ///< `value`: one byte of text, written in hexadecimal; 0 for a damaged one
+        Word,  ///< `text`: the control word; `value` its parameter, 1 without one, so that a switch is on
+        Symbol ///< `value`: the character behind the backslash
     };
     Kind kind = Kind::End;
     std::string_view text{};
-    int value = 0;
-    bool hasValue = false;
-
-    /// What a switch says: on, unless its parameter is 0.
-    bool isOn() const { return !hasValue || value != 0; }
+    int value = 1;
 };
 
-/// Cuts rich text into its tokens. Any bytes may be given; each is read once.
+/// Cuts rich text into its tokens. Any bytes may be given; each is read once. The bytes outlive this.
 class RichTextTokens
 {
 public:
-    /// The bytes outlive this.
-    explicit RichTextTokens(std::string_view bytes) : m_bytes(bytes) {}
+    explicit RichTextTokens(std::string_view bytes) : m_rest(bytes) {}
     RichTextToken next();
 
 private:
-    RichTextToken control();
     RichTextToken word();
     RichTextToken hexadecimalByte();
-    std::optional<int> parameter();
-    bool atEnd() const { return m_at >= m_bytes.size(); }
+    std::string_view take(std::size_t count);
 
-    std::string_view m_bytes;
-    std::size_t m_at = 0;
+    std::string_view m_rest;
 };
 
 } // namespace lodestar
