@@ -42,7 +42,7 @@ const Fault* find(const std::vector<Fault>& faults, FaultName name, const Reques
 } // namespace
 
 ServedInventory::ServedInventory(const Settings& settings, std::uint64_t number)
-    : inventory(makeInventory(settings, number)), feeds(writeFeeds(inventory, Layout::Compact, settings.feedBytes))
+    : inventory(makeInventory(settings, number)), feeds(writeFeeds(inventory, settings.feedBytes))
 {
     for (const ManagedSystem& system : inventory.systems) {
         quickValues.emplace(system.id + "/SystemName", jsonText(system.name));

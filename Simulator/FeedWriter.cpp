@@ -1,12 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Simulator/FeedWriter.h"
 
-#include "Simulator/Metrics.h"
 #include "Simulator/XmlWriter.h"
 
 #include <algorithm>
-#include <fstream>
-#include <stdexcept>
 
 namespace lodestar::simulator
 {
@@ -33,10 +30,7 @@ std::string linkTo(std::string_view type, const std::string& id)
 class FeedWriter
 {
 public:
-    FeedWriter(const Inventory& inventory, Layout layout, std::size_t feedBytes)
-        : m_inventory(inventory), m_indented(layout == Layout::Indented), m_feedBytes(feedBytes)
-    {
-    }
+    FeedWriter(const Inventory& inventory, std::size_t feedBytes) : m_inventory(inventory), m_feedBytes(feedBytes) {}
 
     FeedTemplate feed(std::string_view type)
     {
@@ -64,11 +58,8 @@ private:
     template <typename WriteEntry>
     FeedTemplate write(std::string_view type, std::size_t entries, const WriteEntry& writeEntry)
     {
-        m_xml = XmlWriter(m_indented);
+        m_xml = {};
         m_xml.raw(R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)");
-        if (m_indented) {
-            m_xml.raw("<!-- SPDX-License-Identifier: Apache-2.0 -->");
-        }
         m_xml.open("feed", {{"xmlns", "http://www.w3.org/2005/Atom"}});
         m_xml.text("id", makeIdentifier(type.size(), m_inventory.published.size()));
         m_xml.text("updated", m_inventory.published);
@@ -271,10 +262,9 @@ private:
     }
 
     const Inventory& m_inventory;
-    bool m_indented;
     std::size_t m_feedBytes;
     std::size_t m_padTo = 0;
-    XmlWriter m_xml{false};
+    XmlWriter m_xml;
 };
 
 } // namespace
@@ -333,37 +323,14 @@ std::size_t FeedCursor::read(char* out, std::size_t count)
     return done;
 }
 
-std::map<std::string, FeedTemplate, std::less<>> writeFeeds(const Inventory& inventory, Layout layout,
-                                                            std::size_t feedBytes)
+std::map<std::string, FeedTemplate, std::less<>> writeFeeds(const Inventory& inventory, std::size_t feedBytes)
 {
     std::map<std::string, FeedTemplate, std::less<>> feeds;
-    FeedWriter writer(inventory, layout, feedBytes);
+    FeedWriter writer(inventory, feedBytes);
     for (const std::string_view type : feedTypes) {
         feeds.emplace(type, writer.feed(type));
     }
     return feeds;
-}
-
-void writeDemoFeeds(const std::string& folder)
-{
-    const Inventory inventory = makeDemoInventory();
-    const ConsoleIdentity& console = inventory.console;
-    const BlankValues values = {"127.0.0.1", console.name, console.machine.serialNumber, console.id};
-    for (const auto& [type, feed] : writeFeeds(inventory, Layout::Indented, 0)) {
-        std::string path = folder;
-        path.append("/").append(type).append(".xml");
-        std::ofstream file(path, std::ios::binary | std::ios::trunc);
-        file << feed.filled(values) << '\n';
-        if (!file.flush()) {
-            throw std::runtime_error("cannot write " + path);
-        }
-    }
-    // One document for every system: the demonstration asks by no identifier.
-    std::ofstream metrics(folder + "/ManagedSystem.json", std::ios::binary | std::ios::trunc);
-    metrics << writeMetricsDocument(inventory, inventory.systems.front(), {});
-    if (!metrics.flush()) {
-        throw std::runtime_error("cannot write " + folder + "/ManagedSystem.json");
-    }
 }
 
 } // namespace lodestar::simulator

@@ -62,18 +62,7 @@ private:
     std::size_t m_inValue = 0;
 };
 
-enum class Layout {
-    /// On one line, as a console sends it.
-    Compact,
-    /// Indented, for files that people read.
-    Indented,
-};
-
 /// Every feed of an inventory by type, each padded to about `feedBytes`.
-std::map<std::string, FeedTemplate, std::less<>> writeFeeds(const Inventory& inventory, Layout layout,
-                                                            std::size_t feedBytes);
-
-/// Writes the demonstration feeds into a folder, one file a type. Throws `std::runtime_error` when it cannot.
-void writeDemoFeeds(const std::string& folder);
+std::map<std::string, FeedTemplate, std::less<>> writeFeeds(const Inventory& inventory, std::size_t feedBytes);
 
 } // namespace lodestar::simulator

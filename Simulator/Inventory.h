@@ -117,9 +117,6 @@ Inventory makeInventory(const Settings& settings, std::uint64_t number);
 /// Who the console of that index is.
 ConsoleIdentity makeConsoleIdentity(std::uint64_t seed, int index);
 
-/// The demonstration console.
-Inventory makeDemoInventory();
-
 InventorySummary summaryOf(const Inventory& inventory);
 
 /// A random-looking identifier in the usual 8-4-4-4-12 form, the same for the same two numbers.

@@ -205,7 +205,7 @@ std::string writeMetricsDocument(const Inventory& inventory, const ManagedSystem
 
 std::string writeMetricsFeed(const Inventory& inventory, const ManagedSystem& system, const std::string& documentLink)
 {
-    XmlWriter xml(false);
+    XmlWriter xml;
     xml.raw(R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)");
     xml.open("feed", {{"xmlns", "http://www.w3.org/2005/Atom"}});
     xml.text("id", system.id);

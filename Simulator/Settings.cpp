@@ -66,8 +66,6 @@ const std::map<std::string, Setter, std::less<>>& setters()
          }},
         {"--fault", [](CommandLine& line, const std::string& /*option*/,
                        const std::string& value) { line.settings.faults.push_back(value); }},
-        {"--write-demo",
-         [](CommandLine& line, const std::string& /*option*/, const std::string& value) { line.demoFolder = value; }},
     };
     return table;
 }
@@ -157,7 +155,6 @@ std::string_view helpText()
   --receiver FILE   take feedback reports in as well, on port 12444 of the first address; the certificate that
                     vouches for it is written into the file, for SSL_CERT_FILE
   --control         end when standard input ends
-  --write-demo DIR  write the demonstration feeds and end
 
 Faults. WHAT is a feed's type, or Logon, SessionCheck, Quick, Metrics, MetricsDocument, All; feeds when left out:
   refuseFeed emptyFeed stallFeed malformedFeed cutBody cutChunk cutGzip reset trickle hugeBody gzipBomb

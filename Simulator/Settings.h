@@ -62,8 +62,6 @@ struct CommandLine {
     /// Steered by a parent: the process ends when its standard input does.
     bool control = false;
     bool help = false;
-    /// Folder into which the demonstration feeds are written, instead of serving anything; empty for none.
-    std::string demoFolder;
 };
 
 /// Throws `std::invalid_argument`, with a text for the user, for what it does not understand.

@@ -6,7 +6,6 @@ namespace lodestar::simulator
 
 void XmlWriter::open(std::string name, const Attributes& attributes)
 {
-    startLine();
     startTag(name, attributes);
     m_out += '>';
     m_names.push_back(std::move(name));
@@ -16,13 +15,11 @@ void XmlWriter::close()
 {
     const std::string name = std::move(m_names.back());
     m_names.pop_back();
-    startLine();
     m_out += "</" + name + ">";
 }
 
 void XmlWriter::text(std::string_view name, std::string_view value, const Attributes& attributes)
 {
-    startLine();
     startTag(name, attributes);
     m_out += '>';
     escaped(value);
@@ -38,25 +35,13 @@ void XmlWriter::textIfAny(std::string_view name, const std::optional<std::string
 
 void XmlWriter::empty(std::string_view name, const Attributes& attributes)
 {
-    startLine();
     startTag(name, attributes);
     m_out += "/>";
 }
 
 void XmlWriter::raw(std::string_view markup)
 {
-    startLine();
     m_out += markup;
-}
-
-void XmlWriter::startLine()
-{
-    if (m_indented) {
-        if (!m_out.empty()) {
-            m_out += '\n';
-        }
-        m_out.append(2 * m_names.size(), ' ');
-    }
 }
 
 void XmlWriter::startTag(std::string_view name, const Attributes& attributes)

@@ -16,8 +16,6 @@ class XmlWriter
 public:
     using Attributes = std::vector<std::pair<std::string_view, std::string>>;
 
-    explicit XmlWriter(bool indented) : m_indented(indented) {}
-
     void open(std::string name, const Attributes& attributes = {});
     void close();
     /// An element with a text, escaped.
@@ -34,11 +32,9 @@ public:
     std::string take() { return std::move(m_out); }
 
 private:
-    void startLine();
     void startTag(std::string_view name, const Attributes& attributes);
     void escaped(std::string_view value);
 
-    bool m_indented;
     std::string m_out;
     std::vector<std::string> m_names;
 };

@@ -63,10 +63,6 @@ int main(int argc, char** argv)
             std::cout << helpText();
             return 0;
         }
-        if (!line.demoFolder.empty()) {
-            writeDemoFeeds(line.demoFolder);
-            return 0;
-        }
         return serve(line);
     } catch (const std::exception& error) {
         std::cerr << "lodestar-simulator: " << error.what() << '\n';

@@ -19,7 +19,7 @@ constexpr std::size_t samples = 240;
 const std::string& large()
 {
     static const std::string document = [] {
-        const simulator::Inventory inventory = simulator::makeDemoInventory();
+        const simulator::Inventory inventory = simulator::makeInventory({}, 0);
         return simulator::writeMetricsDocument(inventory, inventory.systems.front(), {.partitions = 105});
     }();
     return document;

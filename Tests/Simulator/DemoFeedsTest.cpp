@@ -9,7 +9,6 @@
 #include <fstream>
 #include <iterator>
 #include <set>
-#include <unistd.h>
 
 namespace lodestar::simulator::test
 {
@@ -45,22 +44,6 @@ std::vector<std::string> values(const std::string& type, const Path& below)
 std::set<std::string> distinct(const std::vector<std::string>& texts)
 {
     return {texts.begin(), texts.end()};
-}
-
-TEST(DemoFeeds, AreWhatTheProgramWrites)
-{
-    const auto folder = std::filesystem::temp_directory_path() / ("lodestar-demo-" + std::to_string(getpid()));
-    std::filesystem::create_directory(folder);
-    writeDemoFeeds(folder.string());
-    for (const std::string_view type : feedTypes) {
-        const std::string name = std::string(type) + ".xml";
-        EXPECT_EQ(contents(std::filesystem::path(LODESTAR_DEMO_FOLDER) / name), contents(folder / name))
-            << "write them with: lodestar-simulator --write-demo Resources/Demo";
-    }
-    EXPECT_EQ(contents(std::filesystem::path(LODESTAR_DEMO_FOLDER) / "ManagedSystem.json"),
-              contents(folder / "ManagedSystem.json"));
-    std::filesystem::remove_all(folder);
-    EXPECT_THROW(writeDemoFeeds("/nowhere"), std::runtime_error);
 }
 
 TEST(DemoFeeds, ShowEveryLookInFewClearSlices)

@@ -36,7 +36,7 @@ TEST(SimulatorInventory, SameSeedSameConsole)
 {
     Settings settings;
     const auto feedOf = [&](std::uint64_t number) {
-        return writeFeeds(makeInventory(settings, number), Layout::Compact, 0)["LogicalPartition"].filled(values);
+        return writeFeeds(makeInventory(settings, number), 0)["LogicalPartition"].filled(values);
     };
     const std::string first = feedOf(0);
     EXPECT_EQ(first, feedOf(0));
@@ -54,7 +54,7 @@ TEST(SimulatorInventory, CountsFollowTheSettingsAndTheFeeds)
     settings.events = 7;
     settings.groups = 12;
     const Inventory inventory = makeInventory(settings, 4);
-    auto feeds = writeFeeds(inventory, Layout::Compact, 0);
+    auto feeds = writeFeeds(inventory, 0);
     const auto count = [&](const char* type) {
         return XmlTree(feeds[type].filled(values)).all({"entry", "content", type}).size();
     };
@@ -80,7 +80,7 @@ TEST(SimulatorInventory, CountsFollowTheSettingsAndTheFeeds)
     EXPECT_GT(summary.systemErrors, 0);
     EXPECT_GT(summary.attentionLEDs, 0);
     settings.systems = settings.events = settings.groups = 0;
-    for (const auto& [type, feed] : writeFeeds(makeInventory(settings, 0), Layout::Compact, 50000)) {
+    for (const auto& [type, feed] : writeFeeds(makeInventory(settings, 0), 50000)) {
         EXPECT_TRUE(XmlTree(feed.filled(values)).wellFormed()) << type;
     }
 }
@@ -111,7 +111,7 @@ TEST(SimulatorInventory, EveryStateIsSomewhere)
 
 TEST(SimulatorInventory, PaddedFeedsHaveTheirSizeAndStayWellFormed)
 {
-    auto feeds = writeFeeds(makeInventory(Settings(), 0), Layout::Compact, 200000);
+    auto feeds = writeFeeds(makeInventory(Settings(), 0), 200000);
     for (const std::string_view type : feedTypes) {
         const std::string text = feeds[std::string(type)].filled(values);
         EXPECT_GE(text.size(), 200000U) << type;
@@ -122,7 +122,7 @@ TEST(SimulatorInventory, PaddedFeedsHaveTheirSizeAndStayWellFormed)
 
 TEST(SimulatorInventory, BlanksAreFilledInHoweverTheFeedIsRead)
 {
-    const FeedTemplate feed = writeFeeds(makeInventory(Settings(), 0), Layout::Compact, 0)["ServiceableEvent"];
+    const FeedTemplate feed = writeFeeds(makeInventory(Settings(), 0), 0)["ServiceableEvent"];
     const std::string whole = feed.filled(values);
     EXPECT_EQ(whole.size(), feed.size(values));
     for (const std::size_t step : {1U, 7U, 4096U}) {

@@ -23,7 +23,7 @@ std::size_t count(const std::string& text, const std::string& part)
 
 std::string document(const MetricsShape& shape)
 {
-    const Inventory inventory = makeDemoInventory();
+    const Inventory inventory = makeInventory({}, 0);
     return writeMetricsDocument(inventory, inventory.systems.front(), shape);
 }
 
@@ -32,9 +32,9 @@ TEST(SimulatorMetrics, EndWithRoundFiguresWhenTheInventoryWasPublished)
     const std::string text = document({});
     EXPECT_EQ(count(text, "\"timeStamp\""), 240U);
     EXPECT_THAT(
-        text, HasSubstr(R"("startTimeStamp":"2026-03-11T21:44:00.+0000","endTimeStamp":"2026-03-12T09:41:00.+0000")"));
+        text, HasSubstr(R"("startTimeStamp":"2026-03-11T21:44:17.+0000","endTimeStamp":"2026-03-12T09:41:17.+0000")"));
     const std::string last = text.substr(text.rfind("{\"sampleInfo\""));
-    EXPECT_THAT(last, HasSubstr(R"("timeStamp":"2026-03-12T09:41:00.+0000")"));
+    EXPECT_THAT(last, HasSubstr(R"("timeStamp":"2026-03-12T09:41:17.+0000")"));
     EXPECT_THAT(last, HasSubstr(R"("totalProcUnits":[16],"availableProcUnits":[4],"utilizedProcUnits":[6.5])"));
     EXPECT_THAT(last, HasSubstr(R"("totalMem":[262144],"availableMem":[10240],"assignedMemToLpars":[250000])"));
     EXPECT_THAT(text, Not(HasSubstr("null")));

@@ -22,7 +22,7 @@ const std::string source = "Shared/Views/ManagedSystems/PCM/PCMViewController";
 
 std::string demoMetrics(const simulator::MetricsShape& shape)
 {
-    const simulator::Inventory inventory = simulator::makeDemoInventory();
+    const simulator::Inventory inventory = simulator::makeInventory({}, 0);
     return simulator::writeMetricsDocument(inventory, inventory.systems.front(), shape);
 }
 
