@@ -239,7 +239,6 @@ void CorvelListViewController::deleteCorvelAtIndex(std::size_t index)
 
 void CorvelListViewController::editCorvelAtIndex(std::size_t index)
 {
-    m_tableView.setEditing(false, true);
     if (const auto editor = Storyboard::main().instantiate<DeltaCorvelViewController>("deltaCorvel")) {
         editor->setCorvel(RESTHandler::sharedInstance().corvelList()[index]);
         presentEditor(editor);
@@ -256,6 +255,7 @@ void CorvelListViewController::addCorvel()
 
 void CorvelListViewController::presentEditor(const std::shared_ptr<DeltaCorvelViewController>& editor)
 {
+    m_tableView.setEditing(false, true);
     presentSemiViewController(editor, {.pushParentBack = false, .height = restingSheetHeight()});
 }
 
