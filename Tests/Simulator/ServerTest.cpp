@@ -153,6 +153,17 @@ TEST(SimulatorServer, NetworkTakesItsTimeForConnectionHandshakeAndRequest)
         EXPECT_EQ(roundTripsSince(), expected);
     }
     EXPECT_EQ(client.receive().end, End::Closed);
+
+    // Where each piece is late, request and answer take two and a half round trips each.
+    Settings late = twoConsoles();
+    late.roundTrip = 50;
+    late.stalls = 100;
+    SimulatorProcess slow(late);
+    TlsClient patient(slow.address());
+    const auto sent = std::chrono::steady_clock::now();
+    patient.send(getRequest("/rest/api/uom/Group", "none"));
+    EXPECT_EQ(patient.receive().status, 403);
+    EXPECT_EQ((std::chrono::steady_clock::now() - sent) / 50ms, 5);
 }
 
 TEST(SimulatorServer, CompressesOnlyForThoseWhoAskAndOnlyIfItMay)
