@@ -148,7 +148,7 @@ def dependencies(build):
 
 
 def check_tidy(source, build):
-    """clang-tidy over the program, the simulator and the benchmarks, skipping files unchanged, with all they include,
+    """clang-tidy over the program, the simulator, the tools and the benchmarks, skipping files unchanged, with all they include,
     since they last passed. The tests are left to the compiler: their macros would take most of the time."""
     commands = json.loads((build / "compile_commands.json").read_text())
     objects = dependencies(build)
@@ -158,7 +158,7 @@ def check_tidy(source, build):
     jobs = []
     for command in commands:
         file = pathlib.Path(command["file"])
-        if not any(file.is_relative_to(source / folder) for folder in ("Shared", "Simulator", "Benchmarks")):
+        if not any(file.is_relative_to(source / folder) for folder in ("Shared", "Simulator", "Tools", "Benchmarks")):
             continue
         digest = hashlib.sha256(config + command["command"].replace(str(source), "").encode())
         for dependency in sorted({str(file), *objects.get(command.get("output", ""), [])}):

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Simulator/SimulatorProcess.h"
-#include "Tests/Scenes/SceneStage.h"
+#include "Tools/Stage/SceneStage.h"
 
 namespace lodestar::bench
 {

@@ -5,7 +5,7 @@
 #include "Kit/Core/NavigationController.h"
 #include "Platform/UserDefaults.h"
 #include "Simulator/SimulatorProcess.h"
-#include "Tests/Scenes/SceneStage.h"
+#include "Tools/Stage/SceneStage.h"
 #include "Views/LogicalPartitions/LPListViewController.h"
 #include "Views/ManagedSystems/MSListViewController.h"
 

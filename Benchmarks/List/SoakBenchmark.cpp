@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Benchmarks/List/FleetOnScreen.h"
 #include "Benchmarks/List/ScreenProgram.h"
-#include "Tests/ProcessMemory.h"
+#include "Tests/Support/ProcessMemory.h"
 
 #include <QProcess>
 

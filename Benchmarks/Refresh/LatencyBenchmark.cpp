@@ -6,7 +6,7 @@
 #include "Fleet/Registry.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Simulator/SimulatorProcess.h"
-#include "Tests/ScratchFolder.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <algorithm>
 #include <filesystem>

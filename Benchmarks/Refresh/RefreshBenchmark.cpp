@@ -7,7 +7,7 @@
 #include "Platform/URLLoading/ServerTrust.h"
 #include "Platform/UserDefaults.h"
 #include "Simulator/SimulatorProcess.h"
-#include "Tests/ScratchFolder.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Adapters/FileUserDefaults.h"
 #include "Benchmarks/Rows.h"
-#include "Tests/ScratchFolder.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -7,7 +7,7 @@
 #include "Application/Model/Corvel.h"
 #include "Application/Model/StoreStack.h"
 #include "Benchmarks/Program.h"
-#include "Tests/ScratchFolder.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <cstdlib>
 #include <filesystem>

@@ -11,7 +11,7 @@
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/Keychain.h"
 #include "Platform/UserDefaults.h"
-#include "Tests/StoredPassword.h"
+#include "Tests/Support/StoredPassword.h"
 #include "Views/Corvels/CorvelListViewController.h"
 
 #include <QTemporaryDir>

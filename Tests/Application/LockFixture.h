@@ -12,7 +12,7 @@
 #include "Platform/Keychain.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/UserDefaults.h"
-#include "Tests/ScratchFolder.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <gmock/gmock.h>
 

@@ -8,7 +8,7 @@
 #include "Kit/Core/NavigationController.h"
 #include "Kit/Core/TabBarController.h"
 #include "Tests/Application/LockFixture.h"
-#include "Tests/StoredPassword.h"
+#include "Tests/Support/StoredPassword.h"
 
 #include <QDBusConnection>
 #include <QDBusVirtualObject>

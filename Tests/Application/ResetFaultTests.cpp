@@ -5,8 +5,8 @@
 #include "Platform/MemoryReserve.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Application/LockFixture.h"
-#include "Tests/Injection.h"
-#include "Tests/LongRun.h"
+#include "Tests/Support/Injection.h"
+#include "Tests/Support/LongRun.h"
 #include "Views/Corvels/CorvelListViewController.h"
 
 #include <filesystem>

@@ -2,7 +2,7 @@
 #include "Tests/Application/SystemKeychainTests.h"
 
 #include "Application/Adapters/SystemKeychain.h"
-#include "Tests/StoredPassword.h"
+#include "Tests/Support/StoredPassword.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

@@ -5,8 +5,8 @@
 #include "Inventory/Feed.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Faults/Rows.h"
-#include "Tests/ProcessMemory.h"
-#include "Tests/ScratchFolder.h"
+#include "Tests/Support/ProcessMemory.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <array>
 #include <chrono>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // Very many consoles, and a day of pulls.
 #include "Tests/Faults/Drive.h"
-#include "Tests/Injection.h"
-#include "Tests/LongRun.h"
+#include "Tests/Support/Injection.h"
+#include "Tests/Support/LongRun.h"
 
 #include <algorithm>
 #include <array>

@@ -3,7 +3,7 @@
 #include "Feedback/VireoLogger.h"
 #include "Platform/URLLoading/URLConnection.h"
 #include "Simulator/SimulatorProcess.h"
-#include "Tests/Platform/ScriptedServer.h"
+#include "Tests/Support/ScriptedServer.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/ReportStore.h"
-#include "Tests/ScratchFolder.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 #include "Feedback/LogTail.h"
 #include "Feedback/Redaction.h"
 #include "Feedback/ShakeDetector.h"
-#include "Tests/ScratchFolder.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <fmt/core.h>
 #include <gmock/gmock.h>

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/RotatingLogFile.h"
-#include "Tests/ScratchFolder.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/LogText.h"
 #include "Feedback/VireoLogger.h"
-#include "Tests/ScratchFolder.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -2,7 +2,7 @@
 // Any bytes as the body of a feed: what is read of them is what libxml2's own tree of them says, what is not there
 // yields nothing, and the time that they take is in proportion to their number, however often they are repeated.
 #include "Tests/Fuzz/Require.h"
-#include "Tests/XML/TreeReference.h"
+#include "Tests/Support/TreeReference.h"
 #include "XML/XMLElement.h"
 
 #include <cstddef>

@@ -3,7 +3,7 @@
 // less, and none where it gives none.
 #include "Controllers/REST/RESTSupport.h"
 #include "Tests/Fuzz/Require.h"
-#include "Tests/XML/TreeReference.h"
+#include "Tests/Support/TreeReference.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -8,7 +8,7 @@
 #include "Application/Model/Corvel.h"
 #include "Application/Model/StoreStack.h"
 #include "Tests/Fuzz/Require.h"
-#include "Tests/ScratchFolder.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -6,8 +6,8 @@
 #include "Inventory/Partition.h"
 #include "Inventory/ResourceGroup.h"
 #include "Inventory/ServiceableEvent.h"
-#include "Tests/LongRun.h"
-#include "Tests/XML/TreeReference.h"
+#include "Tests/Support/LongRun.h"
+#include "Tests/Support/TreeReference.h"
 
 #include <gmock/gmock.h>
 

@@ -3,7 +3,7 @@
 #include "Application/Model/Group.h"
 #include "Application/Model/StoreStack.h"
 #include "Platform/Queues/MainQueue.h"
-#include "Tests/ScratchFolder.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <gmock/gmock.h>
 

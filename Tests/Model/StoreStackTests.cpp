@@ -2,7 +2,7 @@
 #include "Application/Model/Corvel.h"
 #include "Application/Model/StoreStack.h"
 #include "Feedback/VireoLogger.h"
-#include "Tests/ScratchFolder.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <SQLiteCpp/Database.h>
 #include <gmock/gmock.h>

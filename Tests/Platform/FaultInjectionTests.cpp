@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // Every single allocation, write, sync and rename of a store at work refused, one after the other.
-#include "Tests/Injection.h"
-#include "Tests/LongRun.h"
-#include "Tests/Platform/StoreFixture.h"
+#include "Tests/Support/Injection.h"
+#include "Tests/Support/LongRun.h"
+#include "Tests/Support/StoreFixture.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Tests/LongRun.h"
-#include "Tests/Platform/StoreFixture.h"
+#include "Tests/Support/LongRun.h"
+#include "Tests/Support/StoreFixture.h"
 
 #include <gmock/gmock.h>
 

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Tests/Platform/StoreFixture.h"
+#include "Tests/Support/StoreFixture.h"
 
 #include <SQLiteCpp/Statement.h>
 #include <gmock/gmock.h>

@@ -3,8 +3,8 @@
 #include "Platform/NotificationCenter.h"
 #include "Platform/Resources.h"
 #include "Platform/UserDefaults.h"
-#include "Tests/ScratchFolder.h"
-#include "Tests/StoredPassword.h"
+#include "Tests/Support/ScratchFolder.h"
+#include "Tests/Support/StoredPassword.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

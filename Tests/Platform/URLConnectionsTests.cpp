@@ -2,7 +2,7 @@
 // Many transfers at once, and the connections that they share.
 #include "Platform/URLLoading/HandshakeHold.h"
 #include "Tests/Platform/URLLoadingFixture.h"
-#include "Tests/ScratchFolder.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <algorithm>
 #include <atomic>

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // What a single request sends, and what its answer may be.
 #include "Platform/URLLoading/HeldBytes.h"
-#include "Tests/Platform/ScriptedServer.h"
 #include "Tests/Platform/URLLoadingFixture.h"
+#include "Tests/Support/ScriptedServer.h"
 
 #include <gmock/gmock.h>
 

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Tests/Platform/ScriptedServer.h"
 #include "Tests/Platform/URLLoadingFixture.h"
+#include "Tests/Support/ScriptedServer.h"
 
 #include <gmock/gmock.h>
 #include <openssl/pem.h>

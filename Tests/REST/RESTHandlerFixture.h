@@ -8,7 +8,7 @@
 #include "Platform/URLLoading/ServerTrust.h"
 #include "Platform/UserDefaults.h"
 #include "Simulator/SimulatorProcess.h"
-#include "Tests/ScratchFolder.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -2,8 +2,8 @@
 // Settling, contexts, order.
 #include "Controllers/REST/RXPromise.h"
 #include "Platform/Queues/MainQueue.h"
-#include "Tests/Platform/StoreFixture.h"
 #include "Tests/REST/ManualThread.h"
+#include "Tests/Support/StoreFixture.h"
 
 #include <gtest/gtest.h>
 

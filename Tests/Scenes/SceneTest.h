@@ -3,7 +3,7 @@
 
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/NavigationController.h"
-#include "Tests/Scenes/SceneStage.h"
+#include "Tools/Stage/SceneStage.h"
 
 #include <QAccessible>
 #include <QTest>

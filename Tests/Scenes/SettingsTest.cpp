@@ -3,7 +3,7 @@
 #include "Application/SettingsViewController.h"
 #include "Platform/UserDefaults.h"
 #include "Tests/Scenes/SceneTest.h"
-#include "Tests/StoredPassword.h"
+#include "Tests/Support/StoredPassword.h"
 
 #include <tuple>
 

@@ -5,7 +5,7 @@
 #include "Inventory/Feed.h"
 #include "Kit/Core/NavigationController.h"
 #include "Platform/NotificationCenter.h"
-#include "Tests/ScratchFolder.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Tests/XML/TreeReference.h"
+#include "Tests/Support/TreeReference.h"
 #include "XML/XMLDocument.h"
 #include "XML/XMLElement.h"
 

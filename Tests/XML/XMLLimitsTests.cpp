@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Documents made to cost much: each must be read in little time and memory, and open nothing.
-#include "Tests/ProcessMemory.h"
-#include "Tests/ScratchFolder.h"
+#include "Tests/Support/ProcessMemory.h"
+#include "Tests/Support/ScratchFolder.h"
 #include "XML/XMLElement.h"
 
 #include <gtest/gtest.h>

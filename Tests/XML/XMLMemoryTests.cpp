@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // Every single allocation of a parse refused, the library's and our own.
-#include "Tests/Injection.h"
-#include "Tests/XML/TreeReference.h"
+#include "Tests/Support/Injection.h"
+#include "Tests/Support/TreeReference.h"
 #include "XML/XMLDocument.h"
 
 #include <gtest/gtest.h>

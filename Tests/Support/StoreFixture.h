@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Platform/Store/ObjectContext.h"
-#include "Tests/ScratchFolder.h"
+#include "Tests/Support/ScratchFolder.h"
 
 #include <SQLiteCpp/Database.h>
 #include <gtest/gtest.h>

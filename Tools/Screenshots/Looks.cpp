@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Tests/Scenes/Looks.h"
+#include "Tools/Screenshots/Looks.h"
 
 #include "Controllers/REST/RESTHandler.h"
 #include "Simulator/SimulatorProcess.h"

@@ -6,8 +6,8 @@
 #include "Kit/Core/NavigationController.h"
 #include "Kit/Core/Storyboard.h"
 #include "Platform/UserDefaults.h"
-#include "Tests/Scenes/Looks.h"
-#include "Tests/StoredPassword.h"
+#include "Tests/Support/StoredPassword.h"
+#include "Tools/Screenshots/Looks.h"
 
 #include <tuple>
 

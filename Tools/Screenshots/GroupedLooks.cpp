@@ -3,7 +3,7 @@
 #include "Fleet/Registry.h"
 #include "Inventory/Partition.h"
 #include "Simulator/SimulatorProcess.h"
-#include "Tests/Scenes/Looks.h"
+#include "Tools/Screenshots/Looks.h"
 
 #include <array>
 

@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Tests/Scenes/TourPictures.h"
+#include "Tools/Screenshots/TourPictures.h"
 
 #include "Application/IntroView.h"
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Kit/Core/UIFont+System.h"
-#include "Tests/Scenes/Looks.h"
+#include "Tools/Screenshots/Looks.h"
 
 #include <QPainter>
 #include <QPainterPath>

@@ -2,7 +2,7 @@
 #include "Fleet/Registry.h"
 #include "Inventory/ManagedSystem.h"
 #include "Simulator/SimulatorProcess.h"
-#include "Tests/Scenes/Looks.h"
+#include "Tools/Screenshots/Looks.h"
 #include "Views/ManagedSystems/PCM/PCMViewController.h"
 
 namespace lodestar::scenes

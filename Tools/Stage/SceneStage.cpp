@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Tests/Scenes/SceneStage.h"
+#include "Tools/Stage/SceneStage.h"
 
 #include "Application/Adapters/PackageResources.h"
 #include "Application/MainStoryboard.h"

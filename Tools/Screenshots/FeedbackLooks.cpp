@@ -2,7 +2,7 @@
 #include "Feedback/UI/FeedbackViewController.h"
 #include "Feedback/UI/ScreenGrabber.h"
 #include "Kit/Core/NavigationController.h"
-#include "Tests/Scenes/Looks.h"
+#include "Tools/Screenshots/Looks.h"
 
 #include <QDir>
 #include <QFile>

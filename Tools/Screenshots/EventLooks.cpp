@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Inventory/ServiceableEvent.h"
 #include "Simulator/SimulatorProcess.h"
-#include "Tests/Scenes/Looks.h"
+#include "Tools/Screenshots/Looks.h"
 
 namespace lodestar::scenes
 {

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Tests/Scenes/SceneStage.h"
+#include "Tools/Stage/SceneStage.h"
 
 namespace lodestar::simulator
 {

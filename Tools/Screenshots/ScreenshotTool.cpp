@@ -4,8 +4,8 @@
 // lodestar-screenshots --tour FOLDER: the tour's pictures, as they stand in Resources/tour.
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/MainLoop.h"
-#include "Tests/Scenes/Looks.h"
-#include "Tests/Scenes/TourPictures.h"
+#include "Tools/Screenshots/Looks.h"
+#include "Tools/Screenshots/TourPictures.h"
 
 #include <QDir>
 #include <QGuiApplication>

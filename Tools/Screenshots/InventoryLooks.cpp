@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Inventory/Feed.h"
-#include "Tests/Scenes/Looks.h"
+#include "Tools/Screenshots/Looks.h"
 
 #include <array>
 
