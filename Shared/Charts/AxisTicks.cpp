@@ -13,17 +13,17 @@ namespace
 {
 
 constexpr qsizetype mostTicks = 200;
-constexpr double headroom = 0.02;  // Of the values' range, that is kept free beyond them.
-constexpr double mostEmpty = 0.15; // Of the same, below the values for the sake of a round beginning.
-constexpr int mostFixedDigits = 7; // Before or after the point; more are written with an exponent.
+constexpr double headroom = 0.02;  // Share of the values' range that stays free beyond them.
+constexpr double mostEmpty = 0.15; // Share that may stay empty below the values, so that the axis begins at a tick.
+constexpr int mostFixedDigits = 7; // Before or after the point; a number with more has an exponent.
 
 double powerOfTen(int exponent)
 {
-    // Exact for the exponents that screens show, unlike pow() of a negative one.
+    // The quotient is exact for the exponents that screens show; pow() with a negative exponent is not.
     return exponent >= 0 ? std::pow(10.0, exponent) : 1 / std::pow(10.0, -exponent);
 }
 
-/// What stands for the values when they are all the same.
+/// The interval that is shown when all values are the same.
 PlotInterval around(double value)
 {
     const double room = value == 0 ? 1 : std::abs(value) / 8;
@@ -62,7 +62,7 @@ TickStep tickStep(double length, double most)
         return {};
     }
     TickStep step{1, static_cast<int>(std::floor(std::log10(raw)))};
-    // A hair's breadth of tolerance, so that a length of exactly ten steps is not taken for more.
+    // A tiny tolerance, so that rounding does not make a length of exactly ten steps longer than ten.
     for (const int factor : {1, 2, 5}) {
         step.factor = factor;
         if (step.size() >= raw * (1 - 1e-9)) {
@@ -80,7 +80,7 @@ QList<double> ticksWithin(const PlotInterval& interval, const TickStep& step)
     const double first = std::ceil((interval.from - tolerance) / size);
     const double last = std::floor((interval.to + tolerance) / size);
     for (double number = first; number <= last && ticks.size() < mostTicks; ++number) {
-        // Divided rather than multiplied by a fraction, so that 3 × 0.1 is the number that people mean.
+        // Dividing gives 3 × 0.1 = 0.3; multiplying by 0.1 would give 0.30000000000000004.
         const double units = number * step.factor;
         ticks << (step.exponent >= 0 ? units * powerOfTen(step.exponent) : units / powerOfTen(-step.exponent));
         if (number + 1 == number) {
@@ -99,7 +99,7 @@ PlotInterval valueAxis(PlotInterval values, bool withZero, double most)
         values.include(0.0);
     }
     const double magnitude = std::max(std::abs(values.from), std::abs(values.to));
-    // Also when they differ by less than numbers of their size can tell apart.
+    // Also applies to values that differ by less than numbers of their size can tell apart.
     if (!(values.length() > magnitude * 1e-7)) {
         values = around((values.from + values.to) / 2);
     }
@@ -107,12 +107,12 @@ PlotInterval valueAxis(PlotInterval values, bool withZero, double most)
     const double half = tickStep(values.length() + 2 * room, most).size() / 2;
     PlotInterval axis{2 * half * std::floor((values.from - room) / (2 * half)),
                       half * std::ceil((values.to + room) / half)};
-    // Best begun at a tick, but not if much of the plot were empty for it.
+    // An axis best begins at a tick; but it begins half a step higher if too much of the plot would be empty.
     const double nearer = half * std::floor((values.from - room) / half);
     if (nearer - axis.from > mostEmpty * values.length()) {
         axis.from = nearer;
     }
-    // An axis of values that are never negative has no negative part, and the other way round.
+    // Without negative values the axis has no negative part, and without positive values no positive part.
     if (values.from >= 0) {
         axis.from = std::max(axis.from, 0.0);
     }

@@ -6,7 +6,7 @@
 namespace lodestar
 {
 
-/// A controller's side of a chart of bars.
+/// A chart of bars as its controller holds it.
 class BarChartView : public lodestar::PlotChartView
 {
     Q_OBJECT
@@ -17,7 +17,7 @@ public:
     using PlotChartView::PlotChartView;
 
     const BarChartData& data() const { return m_data; }
-    /// Shows the data whole, with nothing highlighted. Empty data show the no-data text.
+    /// Shows all of the data, with nothing highlighted. Empty data show the no-data text.
     void setData(const BarChartData& data);
     void clear() { setData({}); }
 

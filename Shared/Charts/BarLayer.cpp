@@ -10,7 +10,7 @@ namespace lodestar
 namespace
 {
 
-constexpr double groupShare = 0.8; // Of an x index's place that its bars take together.
+constexpr double groupShare = 0.8; // Share of an x index's place that its bars take together.
 
 /// The entries whose bars are in view.
 std::pair<qsizetype, qsizetype> rangeInView(const PlotSeries& series, const PlotInterval& x)

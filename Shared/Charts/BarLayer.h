@@ -8,7 +8,7 @@
 namespace lodestar
 {
 
-/// A plot's bars, which stand on 0 and grow out of it. Bars of several data sets share the place of an x index.
+/// The bars of a plot. Bars stand on 0 and grow out of it; bars of several data sets share the place of an x index.
 class BarLayer : public PlotLayer
 {
 public:
@@ -21,7 +21,7 @@ public:
     bool standsOnZero() const override { return !m_dataSets.isEmpty(); }
     void draw(QPainter& painter, const PlotCanvas& canvas) const override;
 
-    /// A bar of the complete chart.
+    /// A bar's box at its full size, in points of the chart.
     QRectF barOf(qsizetype position, const ChartEntry& entry, const PlotTransform& transform) const;
 
 private:

@@ -11,23 +11,23 @@ namespace lodestar
 /// A line across the plot at a value of a y axis, or at an index of the x axis.
 struct LimitLine {
     double limit = 0;
-    QString label; ///< Beside the line's end; empty for none.
+    QString label; ///< Stands beside the line's end; empty for no label.
     QColor lineColor{0xE3, 0x22, 0x26};
     double lineWidth = 1;
-    QList<double> lineDashLengths; ///< On and off in points, alternating; empty for a solid line.
+    QList<double> lineDashLengths; ///< Lengths of dashes and gaps in turn, in points; empty for a solid line.
 
     bool operator==(const LimitLine&) const = default;
 };
 
-/// Where the labels of the x axis stand. Screens name a position by its number.
+/// Where the labels of the x axis stand. Screens name a position by its number, so the order is fixed.
 enum class XAxisLabelPosition : int { Top, Bottom, BothSided, TopInside, BottomInside };
 static_assert(static_cast<int>(XAxisLabelPosition::Bottom) == 1);
 
-/// What the axes of both directions have.
+/// The settings that both kinds of axis have.
 struct ChartAxis {
     bool enabled = true;
     bool drawGridLinesEnabled = true;
-    QList<double> gridLineDashLengths; ///< On and off in points, alternating; empty for solid lines.
+    QList<double> gridLineDashLengths; ///< Lengths of dashes and gaps in turn, in points; empty for solid lines.
     bool drawLimitLinesBehindDataEnabled = false;
     QList<LimitLine> limitLines;
 
@@ -37,7 +37,7 @@ struct ChartAxis {
     bool operator==(const ChartAxis&) const = default;
 };
 
-/// The axis of the x labels. Label i stands at x index i; of labels that would come too close to each other only every
+/// The axis of the x labels. Label i stands at x index i. Where labels would come too close to each other, only every
 /// second, fourth, fifth, tenth … is shown.
 struct XAxis : ChartAxis {
     XAxisLabelPosition labelPosition = XAxisLabelPosition::Bottom;
@@ -46,10 +46,10 @@ struct XAxis : ChartAxis {
     bool operator==(const XAxis&) const = default;
 };
 
-/// The axis of the values. All data are measured by the left axis; the right one repeats it and only adds its own grid
-/// and limit lines.
+/// An axis of values. The left axis measures all data; the right axis repeats it and adds only its own grid and limit
+/// lines.
 struct YAxis : ChartAxis {
-    bool startAtZeroEnabled = true; ///< 0 is part of the axis, whatever the data.
+    bool startAtZeroEnabled = true; ///< The axis includes 0, whatever the data are.
 
     bool operator==(const YAxis&) const = default;
 };

@@ -10,7 +10,7 @@ QFont chartFont(const QString& family, double size)
 {
     QFont font(family);
     font.setPixelSize(qMax(1, qRound(size)));
-    // Outline and fill of a value are drawn apart and have to meet exactly.
+    // A value's outline and its fill are drawn separately and have to meet exactly, so glyphs are not hinted.
     font.setHintingPreference(QFont::PreferNoHinting);
     return font;
 }

@@ -12,7 +12,7 @@
 namespace lodestar
 {
 
-/// A font of a size in points of the interface (device-independent pixels, as all sizes of a chart are).
+/// A font whose size is in points of the interface (device-independent pixels, as all sizes of a chart are).
 QFont chartFont(const QString& family, double size);
 
 /// One value of a chart and the index of its label among the chart's x values.
@@ -23,10 +23,10 @@ struct ChartEntry {
     bool operator==(const ChartEntry&) const = default;
 };
 
-/// The entry type of bar charts, which every other data set accepts as well.
+/// The entry type of bar charts, which all other data sets accept as well.
 using BarChartEntry = ChartEntry;
 
-/// Names one entry: the x index it has and the data set it is in.
+/// Names one entry by its x index and its data set.
 struct Highlight {
     int xIndex = 0;
     int dataSetIndex = 0;
@@ -34,24 +34,24 @@ struct Highlight {
     bool operator==(const Highlight&) const = default;
 };
 
-/// What every kind of data set has.
+/// The settings that every kind of data set has.
 struct ChartDataSet {
     QString label;
     QList<ChartEntry> entries;
-    QList<QColor> colors; ///< By position; the list starts over when there are more entries than colours.
+    QList<QColor> colors; ///< Colours by position; the list starts over when there are more entries than colours.
     NumberFormatter valueFormatter;
     QFont valueFont = chartFont(QStringLiteral("HelveticaNeue"), 12);
     QColor valueTextColor = Qt::black;
 
-    /// The colour at a position; mid grey when there are no colours at all.
+    /// The colour at a position; mid grey when the list is empty.
     QColor colorAt(qsizetype position) const;
 
     bool operator==(const ChartDataSet&) const = default;
 };
 
-/// The one data set of a pie. A value that is negative or not finite counts as 0, and 0 has no slice.
+/// The one data set of a pie. A value that is negative or not finite counts as 0; a value of 0 has no slice.
 struct PieChartDataSet : ChartDataSet {
-    /// The value as it is charted.
+    /// The entry's value, or 0 where the value is negative or not finite.
     static double chartedValue(const ChartEntry& entry);
     /// Sum of the charted values.
     double total() const;
@@ -74,20 +74,20 @@ struct PieChartData {
     bool operator==(const PieChartData&) const = default;
 };
 
-/// One line. Entries whose value is not finite are left out; the line joins their neighbours. Entries may arrive in any
-/// order and are joined by rising x index, those of the same index in the order given.
+/// One line. Entries whose value is not finite are left out; the line joins their neighbours. Entries may be in any
+/// order: the line joins them by rising x index, and entries of the same index in the given order.
 struct LineChartDataSet : ChartDataSet {
     LineChartDataSet() { valueFormatter.maximumFractionDigits = 2; }
 
-    double lineWidth = 1;    ///< In points, as the circle's radius.
-    double circleRadius = 4; ///< Of the circle at every entry; 0 for none.
+    double lineWidth = 1;    ///< In points, as is the circle's radius.
+    double circleRadius = 4; ///< Radius of the circle at every entry; 0 for no circles.
     bool drawCircleHoleEnabled = true;
 
     bool operator==(const LineChartDataSet&) const = default;
 };
 
-/// The labels and the lines. The label of position i belongs to x index i; an entry whose index is beyond the labels
-/// is charted all the same, without a label.
+/// The labels and the lines. Label i belongs to x index i; an entry whose index is beyond the labels is charted without
+/// a label.
 struct LineChartData {
     QStringList xVals;
     QList<LineChartDataSet> dataSets;
@@ -95,7 +95,7 @@ struct LineChartData {
     bool operator==(const LineChartData&) const = default;
 };
 
-/// The bars of one colour. Values that are not finite have no bar.
+/// The bars of one colour. An entry whose value is not finite has no bar.
 struct BarChartDataSet : ChartDataSet {
     BarChartDataSet() { valueFormatter.maximumFractionDigits = 2; }
 
@@ -112,7 +112,7 @@ struct BarChartData {
     bool operator==(const BarChartData&) const = default;
 };
 
-/// Bars with lines in front of them, over the same labels.
+/// Bars with lines in front of them; both use the same labels.
 struct CombinedChartData {
     QStringList xVals;
     QList<BarChartDataSet> barDataSets;

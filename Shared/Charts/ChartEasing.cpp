@@ -11,7 +11,7 @@ namespace lodestar
 namespace
 {
 
-/// Qt's list holds the same families in the same order, but with a fourth form (out-in) each.
+/// Qt lists the same families in the same order, but with a fourth form (out-in) of each.
 QEasingCurve::Type curveType(ChartEasingOption option)
 {
     const int number = static_cast<int>(option);

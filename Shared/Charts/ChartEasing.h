@@ -4,8 +4,8 @@
 namespace lodestar
 {
 
-/// How a chart's animation moves between its ends. Screens name an easing by its number, so the order is fixed: linear,
-/// then for every family its in, out and in-out form.
+/// How a chart's animation moves from its start to its end. Screens name an easing by its number, so the order is
+/// fixed: linear first, then the in, out and in-out forms of every family.
 enum class ChartEasingOption : int {
     Linear,
     EaseInQuad,
@@ -43,24 +43,26 @@ enum class ChartEasingOption : int {
 static_assert(static_cast<int>(ChartEasingOption::EaseInOutQuart) == 9);
 static_assert(static_cast<int>(ChartEasingOption::EaseOutBack) == 26);
 
-/// The eased value of a progress from 0 to 1. Exactly 0 at (or before) 0 and exactly 1 at (or after) 1 or when not a
-/// number; between them the back and elastic families leave the range. A number outside the list eases linearly.
+/// The eased value of a progress from 0 to 1. The result is exactly 0 for a progress of 0 or less, and exactly 1 for a
+/// progress of 1 or more or one that is not a number. In between, the back and elastic families leave the range of 0 to
+/// 1. An option outside the list eases linearly.
 double ease(ChartEasingOption option, double progress);
 
-/// How far a chart has grown: `x` along its entries (a pie's sweep), `y` in size (a pie's radius). 0 is nothing, 1 is
-/// complete; either may leave the range on the way.
+/// How far a chart has grown: `x` along its entries (a pie's sweep), `y` in size (a pie's radius). 0 is nothing and 1
+/// is complete; both may leave that range during an animation.
 struct ChartPhases {
     double x = 1;
     double y = 1;
 };
 
-/// A grow-in: durations in seconds, a duration that is not above 0 is complete from the start.
+/// The animation with which a chart grows in. Durations are seconds; a direction whose duration is not above 0 is
+/// complete from the start.
 struct ChartAnimation {
     double xDuration = 0;
     double yDuration = 0;
     ChartEasingOption easing = ChartEasingOption::Linear;
 
-    /// The phases after so many seconds.
+    /// The phases when so many seconds have passed.
     ChartPhases phasesAt(double seconds) const;
     /// The longer of the two durations in seconds, never negative.
     double duration() const;

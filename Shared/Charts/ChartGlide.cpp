@@ -8,7 +8,7 @@ namespace lodestar
 namespace
 {
 
-constexpr int duration = 900; // Milliseconds.
+constexpr int duration = 900; // In milliseconds.
 
 } // namespace
 
@@ -17,7 +17,8 @@ ChartGlide::ChartGlide(std::function<void(double)> advance) : m_advance(std::mov
     m_animation.setEasingCurve(QEasingCurve::OutCubic);
     m_animation.setDuration(duration);
     m_animation.setStartValue(0.0);
-    // The curve sets out three times as fast as its mean, which is where the finger's speed goes on unbroken.
+    // The curve starts three times as fast as its mean speed, so the end value is a third of the duration: the glide
+    // then starts at exactly the finger's speed.
     m_animation.setEndValue(duration / 1000.0 / 3);
     QObject::connect(&m_animation, &QVariantAnimation::valueChanged, &m_animation, [this](const QVariant& value) {
         m_advance(value.toDouble() - m_gone);

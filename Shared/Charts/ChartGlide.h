@@ -8,12 +8,12 @@
 namespace lodestar
 {
 
-/// What a thrown chart does after the finger has left: it goes on at the finger's speed, ever slower, and comes to
-/// rest.
+/// Moves a thrown chart on after the finger has left: at the finger's speed first, then ever slower, until it rests.
 class ChartGlide
 {
 public:
-    /// `advance` is told how long the chart would have gone on at full speed since the last call, in seconds.
+    /// Every call of `advance` gets a time in seconds: at the finger's full speed, the chart would move in that time as
+    /// far as it has to move now.
     explicit ChartGlide(std::function<void(double seconds)> advance);
 
     void start();
@@ -22,7 +22,7 @@ public:
 
 private:
     std::function<void(double)> m_advance;
-    QVariantAnimation m_animation; ///< Of the seconds gone by at full speed.
+    QVariantAnimation m_animation; ///< Seconds at full speed that `advance` was told of.
     double m_gone = 0;
 };
 

@@ -14,7 +14,7 @@ namespace lodestar
 namespace
 {
 
-constexpr double focusWidth = 2; // Of the ring, within the chart's edge.
+constexpr double focusWidth = 2; // Width of the focus ring, within the chart's edge.
 constexpr double focusRadius = 12;
 
 } // namespace
@@ -42,7 +42,7 @@ void ChartItem::attach(ChartView* view, const ChartRenderer* renderer)
     m_growIn.stop();
     if (view != nullptr) {
         connect(view, &ChartView::changed, this, &ChartItem::refresh);
-        // What moved the old data must not move the new ones.
+        // A motion that began over the old data must not move the new data.
         connect(view, &ChartView::dataChanged, this, &ChartItem::rest);
         connect(view, &ChartView::hiddenChanged, this, [this] { setVisible(!m_view->isHidden()); });
         connect(view, &ChartView::animateRequested, this, &ChartItem::grow);

@@ -11,9 +11,9 @@
 namespace lodestar
 {
 
-/// What every chart item has: the surroundings it is drawn for, the grow-in, repainting when something changed and
-/// only then, and the way of fingers, mouse and keys to what a subclass does with them. Nothing runs while the chart
-/// rests. What a chart has no use for is left to the page.
+/// What all chart items share: the style they draw with, the grow-in animation, repainting when (and only when)
+/// something changed, and passing fingers, mouse and keys to the subclass. Nothing runs while the chart rests. Input
+/// that a chart does not use is left to the page.
 class ChartItem : public QQuickPaintedItem
 {
     Q_OBJECT
@@ -24,14 +24,14 @@ class ChartItem : public QQuickPaintedItem
     Q_PROPERTY(qreal textScale MEMBER m_textScale NOTIFY styleChanged)
     Q_PROPERTY(bool mirrored MEMBER m_mirrored NOTIFY styleChanged)
     Q_PROPERTY(bool reducedMotion MEMBER m_reducedMotion NOTIFY styleChanged)
-    /// Of the ring that shows the keyboard's focus.
+    /// Colour of the ring that shows the keyboard focus.
     Q_PROPERTY(QColor focusColor MEMBER m_focusColor NOTIFY styleChanged)
 
 public:
     explicit ChartItem(QQuickItem* parent = nullptr);
 
     void paint(QPainter* painter) override;
-    /// Whether the keyboard brought the focus here, so that it has to be shown.
+    /// Whether the focus came by keyboard, so that the ring has to be shown.
     bool hasVisualFocus() const { return m_visualFocus; }
     bool isAnimating() const { return m_growIn.state() == QAbstractAnimation::Running; }
 
@@ -40,24 +40,24 @@ Q_SIGNALS:
     void styleChanged();
 
 protected:
-    /// Connects the item to a view and what draws it, or takes it off for null. Neither is owned; the view may die
-    /// first, and the renderer, which reads the view's model, then falls silent.
+    /// Connects the item to a view and to the renderer that draws it; null disconnects. The item owns neither. If the
+    /// view dies first, the item stops using the renderer, which reads the view's model.
     void attach(ChartView* view, const ChartRenderer* renderer);
 
-    /// One finger or the mouse, in points of the item and milliseconds.
+    /// One finger, or the mouse, was pressed. The position is in points of the item, the time in milliseconds.
     virtual void press(QPointF position, quint64 time) = 0;
-    /// Whether the gesture is the chart's own from now on.
+    /// Returns whether the chart keeps the gesture from now on.
     virtual bool move(QPointF position, quint64 time) = 0;
     virtual void release(quint64 time) = 0;
-    /// A second finger came down, or one of the two moved; the same answer.
+    /// A second finger came down, or one of two fingers moved. Returns the same as `move`.
     virtual bool moveTwo(QPointF first, QPointF second) = 0;
-    /// One of two fingers has left.
+    /// One of two fingers has left; the other is at `remaining`.
     virtual void leaveOne(QPointF remaining, quint64 time) = 0;
-    /// The gesture ends, or is the page's.
+    /// The gesture was cancelled, or the page has taken it.
     virtual void forget() = 0;
-    /// Whether the chart has a use for the key; asked only with a view.
+    /// Returns whether the chart uses the key. Called only while there is a view.
     virtual bool pressKey(const QKeyEvent& event) = 0;
-    /// Ends whatever motion the user set off.
+    /// Stops any motion that the user set off.
     virtual void rest() = 0;
 
     void componentComplete() override;
@@ -74,7 +74,7 @@ protected:
 
     bool isMotionReduced() const { return m_reducedMotion; }
     virtual ChartStyle style() const;
-    /// The frame at the grow-in's present place, and the complete one.
+    /// The frame as the grow-in has it now, and the frame of the complete chart.
     ChartFrame currentFrame() const;
     ChartFrame completeFrame() const;
 

@@ -7,9 +7,9 @@
 namespace lodestar
 {
 
-/// What every chart is drawn from, of whatever kind.
+/// The settings that the model of every chart has.
 struct ChartModel {
-    QString descriptionText; ///< In the lower end corner; empty for none.
+    QString descriptionText; ///< Drawn in the lower end corner; empty for none.
     Legend legend;
     QList<Highlight> highlights;
 };

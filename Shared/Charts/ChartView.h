@@ -14,7 +14,7 @@ namespace lodestar
 
 class ChartView;
 
-/// Told of the user's selections, on the main thread.
+/// Receives the user's selections, on the main thread.
 class ChartViewDelegate
 {
 public:
@@ -24,8 +24,8 @@ public:
     virtual void chartValueNothingSelected(ChartView& chartView) = 0;
 };
 
-/// A controller's side of a chart: what it shows, how, and whether. A constant property of the controller under the
-/// outlet's own name; the chart item of the scene draws it. Main thread only.
+/// A chart as its controller holds it: what the chart shows, how, and whether it is hidden. A controller offers its
+/// view as a constant property named after the outlet; a chart item of the scene draws it. Main thread only.
 class ChartView : public QObject
 {
     Q_OBJECT
@@ -41,7 +41,7 @@ public:
     bool isHidden() const { return m_hidden; }
     void setHidden(bool hidden);
 
-    /// Not owned and may be null; must outlive this or be taken back.
+    /// The delegate is not owned and may be null. It must outlive this view or be set back to null.
     ChartViewDelegate* delegate() const { return m_delegate; }
     void setDelegate(ChartViewDelegate* delegate) { m_delegate = delegate; }
 
@@ -49,34 +49,35 @@ public:
     const Legend& legend() const { return common().legend; }
     void setLegend(const Legend& legend) { assign(common().legend, legend); }
 
-    /// Highlights exactly these, none for an empty list. The delegate is not told: it is the program speaking.
+    /// Highlights exactly these entries; an empty list highlights none. The delegate is not told, because it hears of
+    /// the user's selections only.
     void highlightValues(const QList<Highlight>& highlights);
 
-    /// Grows the chart in, durations in seconds. The chart is complete at once where no item shows it.
+    /// Grows the chart in; durations in seconds. Without an item that shows it, the chart is complete at once.
     void animate(double xAxisDuration, double yAxisDuration, ChartEasingOption easingOption);
 
-    /// The same along x alone, as lines grow.
+    /// Grows the chart in along x only, as lines grow.
     void animate(double xAxisDuration, ChartEasingOption easingOption = ChartEasingOption::EaseInOutQuart)
     {
         animate(xAxisDuration, 0, easingOption);
     }
 
-    /// What a screen reader says instead of the picture; empty when there is nothing to say.
+    /// The text that a screen reader says for the picture; empty when there is nothing to say.
     virtual QString accessibleText() const = 0;
-    /// The same of the entry that is highlighted first; empty without one.
+    /// The text that a screen reader says for the first highlighted entry; empty without one.
     virtual QString selectedText() const = 0;
 
 Q_SIGNALS:
     void hiddenChanged();
-    /// Anything that the picture depends on.
+    /// Anything changed that the picture depends on.
     void changed();
-    /// The data, beside `changed`.
+    /// The data changed; `changed` is sent as well.
     void dataChanged();
     void selectionChanged();
     void animateRequested(const lodestar::ChartAnimation& animation);
 
 protected:
-    /// The part of the subclass's model that all charts have.
+    /// The part of the subclass's model that all charts share.
     virtual const ChartModel& common() const = 0;
     virtual ChartModel& common() = 0;
 
@@ -89,7 +90,7 @@ protected:
         }
     }
     void announceData();
-    /// The user's selection of an entry, or of nothing: the delegate is told.
+    /// Applies the user's selection of an entry, or of nothing, and tells the delegate.
     void select(const std::optional<ChartEntry>& entry, const Highlight& highlight);
 
 private:

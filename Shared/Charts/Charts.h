@@ -6,7 +6,7 @@ class QQmlEngine;
 namespace lodestar
 {
 
-/// Makes `import Lodestar.Charts` work in the engine. Once an engine, before it loads anything.
+/// Makes `import Lodestar.Charts` work in the engine. Call it once per engine, before the engine loads anything.
 void installCharts(QQmlEngine& engine);
 
 } // namespace lodestar

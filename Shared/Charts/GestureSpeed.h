@@ -8,14 +8,14 @@
 namespace lodestar
 {
 
-/// Seconds from one time in milliseconds to another, at least one millisecond: clocks of pointing devices stand.
+/// Seconds between two times in milliseconds; at least one millisecond, because two events may carry the same time.
 inline double secondsBetween(quint64 from, quint64 to)
 {
     return static_cast<double>(to > from ? to - from : 1) / 1000;
 }
 
-/// How fast a finger goes, in units a second, from the steps that it takes: points for `QPointF`, degrees for `double`.
-/// Times in milliseconds.
+/// Measures how fast a finger goes, in units a second, from the steps that it takes. A step is in points for `QPointF`
+/// and in degrees for `double`. Times are in milliseconds.
 template <typename Way>
 class GestureSpeed
 {
@@ -29,12 +29,12 @@ public:
     void step(const Way& by, quint64 time)
     {
         const Way speed = by / secondsBetween(m_time, time);
-        // Smoothed: the last event before a finger leaves is often a stray one.
+        // The speed is smoothed because the last event before a finger leaves is often a stray one.
         m_speed = m_hasMoved ? 0.6 * speed + 0.4 * m_speed : speed;
         m_hasMoved = true;
         m_time = time;
     }
-    /// The speed with which a finger leaves; a finger that lay still before it left throws nothing.
+    /// The speed at which a finger leaves; 0 for a finger that lay still before it left.
     Way atRelease(quint64 time) const { return time <= m_time + restTime ? m_speed : Way{}; }
 
 private:

@@ -47,7 +47,7 @@ QFont legendFont(const ChartStyle& style)
     return font;
 }
 
-/// Lays entries out line by line from the top left; moved into place, aligned and mirrored afterwards.
+/// Lays entries out line by line from the top left. Callers then move, align and mirror the result.
 class Flow
 {
 public:
@@ -70,7 +70,7 @@ public:
             ++placed;
         }
         std::size_t missing = items.size() - placed;
-        // Make room for saying how many did not fit.
+        // Removes entries until the count of missing entries fits.
         while (missing > 0 && !appendMissing(missing) && !m_boxes.empty()) {
             m_boxes.pop_back();
             ++missing;
@@ -111,7 +111,7 @@ public:
     const QFontMetricsF& metrics() const { return m_metrics; }
 
 private:
-    /// Marks grow with the text, but only half as fast: they are told apart by colour, not read.
+    /// Marks grow only half as fast as the text: they are told apart by colour and need not be read.
     double formScale() const { return 1 + (m_scale - 1) / 2; }
 
     bool append(const LegendItem& item)
@@ -164,7 +164,7 @@ double shareBefore(Place place)
     return place == Place::Start ? 0.0 : place == Place::Center ? 0.5 : 1.0;
 }
 
-/// Where the flow's origin lies, and its bounds, in a left-to-right chart.
+/// The flow's origin and its bounds in a left-to-right chart.
 struct Frame {
     QPointF origin;
     QRectF bounds;
@@ -220,7 +220,7 @@ LegendLayout layoutLegend(const Legend& legend, std::span<const LegendItem> item
             form = mirrored(form, chart.width());
             text = mirrored(text, chart.width());
         }
-        // Capitals are centred on the mark, not the face's box, which has more room above than below.
+        // Capitals are centred on the mark. The face's box would not do: it has more room above than below.
         layout.boxes.push_back({form, {text.x(), center + flow.metrics().capHeight() / 2}, box.text, box.color});
     }
     return layout;

@@ -35,7 +35,7 @@ enum class LegendPosition : int {
 };
 static_assert(static_cast<int>(LegendPosition::AboveChartLeft) == 9);
 
-/// The mark before an entry's text.
+/// Shape of the mark before an entry's text.
 enum class LegendForm : int { Square, Circle, Line };
 
 /// A legend's settings. Sizes in points at 100 % text.
@@ -43,41 +43,42 @@ struct Legend {
     bool enabled = true;
     LegendPosition position = LegendPosition::BelowChartLeft;
     LegendForm form = LegendForm::Square;
-    double formSize = 9;    ///< Side of a square, diameter of a circle; a line is twice as long less 2.
-    double xEntrySpace = 1; ///< Between entries of a line, in steps of 20 points.
-    double yEntrySpace = 1; ///< Between lines, in steps of 5 points.
-    double yOffset = 0;     ///< From the chart's edge, not scaled with the text.
+    double formSize = 9;    ///< Side of a square or diameter of a circle; a line is 2 points shorter than twice this.
+    double xEntrySpace = 1; ///< Gap between the entries of a line, in steps of 20 points.
+    double yEntrySpace = 1; ///< Gap between lines, in steps of 5 points.
+    double yOffset = 0;     ///< Gap to the chart's edge; the text size does not scale it.
 
     bool operator==(const Legend&) const = default;
 };
 
-/// One entry to lay out.
+/// One entry of a legend, before layout.
 struct LegendItem {
     QString label;
     QColor color;
 };
 
-/// One entry in place.
+/// One entry of a legend, after layout.
 struct LegendBox {
-    QRectF form; ///< Empty for the last box of a legend that had to be cut, which says how many are missing ("+12").
+    /// Empty for the last box of a legend that had to be cut: that box counts the missing entries ("+12").
+    QRectF form;
     QPointF baseline;
     QString text;
     QColor color;
 };
 
-/// A legend in place. `bounds` spans the chart's whole width (above, below) or height (sides), from the chart's edge
-/// to the inner end of the legend, and is empty when there is nothing to show.
+/// A legend after layout. `bounds` runs from the chart's edge to the inner end of the legend and spans the chart's
+/// whole width (legend above or below) or height (at a side); it is empty when there is nothing to show.
 struct LegendLayout {
     std::vector<LegendBox> boxes;
     QRectF bounds;
 };
 
-/// Lays a legend out within a chart of that size. It takes at most 45 % of the chart; names too long for their line
-/// are elided in the middle. Right-to-left mirrors the whole layout, sides included.
+/// Lays a legend out within a chart of the given size. The legend takes at most 45 % of the chart; names too long for
+/// their line are elided in the middle. A right-to-left style mirrors the whole layout, sides included.
 LegendLayout layoutLegend(const Legend& legend, std::span<const LegendItem> items, QSizeF chart,
                           const ChartStyle& style);
 
-/// What a legend leaves of the chart.
+/// The part of the chart that the legend leaves free.
 QRectF contentBeside(const Legend& legend, const LegendLayout& layout, QSizeF chart, const ChartStyle& style);
 
 void drawLegend(QPainter& painter, const Legend& legend, const LegendLayout& layout, const ChartStyle& style);

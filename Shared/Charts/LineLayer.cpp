@@ -15,12 +15,13 @@ namespace lodestar
 namespace
 {
 
-constexpr double denseFrom = 1;   // Entries a pixel column.
-constexpr double roughFrom = 128; // The same.
-constexpr double thin = 2;        // Lines up to this width need no joins that anyone could see.
-constexpr double beyond = 16;     // How far outside the plot anything is drawn, before it is cut off there.
+constexpr double denseFrom = 1;   // Entries per pixel column above which a line is reduced.
+constexpr double roughFrom = 128; // Entries per pixel column above which columns take whole blocks.
+constexpr double thin = 2;        // Up to this width in points, nobody can see whether a line has joins.
+// Points outside the plot within which the line is still drawn, before it is cut off at the plot.
+constexpr double beyond = 16;
 
-/// The entries to be drawn: those in view and their neighbours on both sides, to which the line goes on.
+/// The entries to draw: those in view and one neighbour on each side, so that the line goes on to the edges.
 std::pair<qsizetype, qsizetype> rangeInView(const PlotSeries& series, const PlotTransform& transform)
 {
     const qsizetype first = std::max<qsizetype>(series.lowerBound(transform.visible.x.from) - 1, 0);
@@ -33,8 +34,8 @@ QPointF pointOf(const ChartEntry& entry, const PlotTransform& transform)
     return {transform.toX(entry.xIndex), transform.toY(entry.value)};
 }
 
-/// Reduces a line to one rectangle a pixel column, from the least to the greatest value in it and half a line's width
-/// beyond, and to straight pieces where columns have no entry.
+/// Reduces a line to one rectangle per pixel column: from the least to the greatest value in the column, and half a
+/// line's width beyond both. Straight pieces cross the columns that have no entry.
 class Reduction
 {
 public:
@@ -46,16 +47,17 @@ public:
     void run(std::vector<QRectF>& columns, QList<QLineF>& pieces)
     {
         const auto [start, end] = rangeInView(m_series, m_transform);
-        // Columns are pixels that lie within the plot by more than half.
+        // A column is a pixel that lies within the plot by more than half.
         const double stop = m_transform.plot.right() - m_step / 2;
         double x = std::round(m_transform.plot.left() / m_step) * m_step;
         qsizetype first = m_series.lowerBound(m_transform.visible.x.from);
-        // So many entries a column make no difference that can be seen between them and their whole blocks.
+        // With so many entries per column nobody can see the difference when a column ends at the end of a block.
         const bool isRough =
             m_series.isGapless() && static_cast<double>(end - start) > roughFrom * m_transform.plot.width() / m_step;
         bool joined = false; // Whether the column before had entries.
         for (; x < stop && first < end; x += m_step) {
-            // The last column has the entry on the plot's edge as well, which would begin another one beyond.
+            // The last column takes the entry on the plot's edge too; otherwise that entry would begin a column outside
+            // the plot.
             const bool isLast = x + m_step >= stop;
             qsizetype last = m_series.lowerBound(isLast ? std::floor(m_transform.visible.x.to) + 1
                                                         : m_transform.toIndex(x + m_step));
@@ -69,7 +71,7 @@ public:
             if (!joined && first > start) {
                 pieces << piece(first);
             }
-            // The last entry on the left belongs to the column too, so that steep lines stay whole.
+            // The column also takes the last entry of the column before, so that steep lines have no gaps.
             append(columns, x, m_series.values(joined ? first - 1 : first, last));
             joined = true;
             first = last;
@@ -95,7 +97,7 @@ private:
         const double bottom = std::clamp(m_transform.toY(values.from) + m_lineWidth / 2, upper, lower);
         const bool steep = bottom - top > 3 * m_lineWidth && m_lineWidth > m_step;
         if (steep) {
-            // As wide as an upright line is, but within the plot.
+            // The rectangle is as wide as an upright line, but stays within the plot.
             const double start = std::clamp(x + (m_step - m_lineWidth) / 2, left, std::max(right - m_lineWidth, left));
             columns.emplace_back(start, top, m_lineWidth, bottom - top);
         } else if (!m_lastSteep && !columns.empty() && columns.back().top() == top &&
@@ -114,7 +116,7 @@ private:
     bool m_lastSteep = false;
 };
 
-/// One line, drawn anew.
+/// Draws one line.
 class LineDrawing
 {
 public:
@@ -146,7 +148,7 @@ public:
         if (m_isSingle) {
             painter.setPen(Qt::NoPen);
             painter.setBrush(m_color);
-            // A single value is no line, but is not to be overlooked.
+            // A single value makes no line, so a dot shows it.
             const double radius = std::max(m_dataSet.lineWidth, 1.5);
             painter.drawEllipse(m_points.constFirst(), radius, radius);
         }
@@ -163,8 +165,8 @@ private:
         }
         painter.setBrush(Qt::NoBrush);
         if (m_points.isEmpty() || (width <= thin && m_color.alpha() == 255)) {
-            // Piece by piece takes a tenth of the time of a joined outline and looks the same, unless it is wide
-            // enough to show its corners or lets what lies doubly beneath them be seen.
+            // Separate pieces take a tenth of the time of a joined outline and look the same, unless the line is so
+            // wide that its corners show, or is translucent, so that overlaps show.
             painter.setPen(QPen(m_color, width, Qt::SolidLine, Qt::SquareCap));
             painter.drawLines(m_pieces);
         } else {
@@ -195,7 +197,7 @@ private:
     QColor m_color;
     bool m_isSingle;
     QPolygonF m_points;
-    QList<QLineF> m_pieces; // From point to point, or across what has no columns.
+    QList<QLineF> m_pieces; // From point to point, or across columns without entries.
     std::vector<QRectF> m_columns;
 };
 
@@ -255,7 +257,7 @@ void LineLayer::update(const PlotCanvas& canvas) const
 
 void LineLayer::draw(QPainter& painter, const PlotCanvas& canvas) const
 {
-    // The lines grow from the start of the axis, not of what is seen of it.
+    // The lines grow from the start of the whole axis, even when a later part of it is in view.
     const double grown = std::clamp(canvas.phases.x, 0.0, 1.0);
     if (grown <= 0) {
         return;
@@ -268,7 +270,7 @@ void LineLayer::draw(QPainter& painter, const PlotCanvas& canvas) const
         shown.setRight(std::max(end, shown.left()));
         painter.setClipRect(shown, Qt::IntersectClip);
     }
-    // In device pixels the picture is copied as it is; in points it would be scaled, which takes far longer.
+    // Scaled to device pixels, the painter copies the picture; in points it would resample it, which takes far longer.
     painter.scale(1 / canvas.pixelRatio, 1 / canvas.pixelRatio);
     painter.drawImage(m_picture.position, m_picture.image);
     painter.restore();

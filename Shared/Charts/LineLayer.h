@@ -10,10 +10,10 @@
 namespace lodestar
 {
 
-/// A plot's lines. A line with more entries in view than pixel columns is drawn as the span from the least to the
-/// greatest value of every column, which the eye cannot tell from the line itself and which takes the same time for any
-/// number of entries; any other line is drawn point by point. The lines are kept as a picture until they would look
-/// different, so that growing in, selecting and limit lines redraw none of them.
+/// The lines of a plot. A line with more entries in view than pixel columns is drawn as the span from the least to the
+/// greatest value of every column: the eye cannot tell that from the line itself, and the drawing takes the same time
+/// for any number of entries. Any other line is drawn point by point. The layer keeps a picture of the lines until they
+/// would look different, so that growing in, selecting and limit lines redraw none of them.
 class LineLayer : public PlotLayer
 {
 public:
@@ -30,13 +30,13 @@ private:
         PlotSeries series;
     };
 
-    /// The lines as they were drawn last, with everything that their look depends on.
+    /// The lines as last drawn, with everything that their look depends on.
     struct Picture {
         PlotTransform transform;
         double pixelRatio = 0;
         QList<QColor> colors;
         QColor cardColor;
-        QPoint position; ///< In device pixels of the chart.
+        QPoint position; ///< In device pixels, from the chart's top left.
         QImage image;
     };
 

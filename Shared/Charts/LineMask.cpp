@@ -43,7 +43,7 @@ public:
             const QRgb shade = m_shades[static_cast<std::size_t>(qRound(coverage * wholeShade))];
             QRgb* const row = m_bits + y * m_stride;
             for (int x = left; x < right; ++x) {
-                // What is covered twice stays as dark as its darker cover.
+                // A pixel that is covered twice keeps the darker shade.
                 if (qAlpha(row[x]) < qAlpha(shade)) {
                     row[x] = shade;
                 }
@@ -55,10 +55,10 @@ private:
     static constexpr int wholeShade = 255;
 
     QRgb* m_bits;
-    qsizetype m_stride; // In pixels.
+    qsizetype m_stride; // Pixels per row.
     int m_width;
     int m_height;
-    std::array<QRgb, wholeShade + 1> m_shades{}; // By the part of a pixel that is covered.
+    std::array<QRgb, wholeShade + 1> m_shades{}; // The line's colour, by how much of a pixel is covered.
 };
 
 } // namespace
@@ -87,7 +87,7 @@ void LineMask::draw(QPainter& painter) const
     if (m_image.isNull()) {
         return;
     }
-    // In device pixels the picture is copied as it is; in points it would be scaled, which takes far longer.
+    // Scaled to device pixels, the painter copies the picture; in points it would resample it, which takes far longer.
     painter.save();
     painter.scale(1 / m_pixelRatio, 1 / m_pixelRatio);
     painter.drawImage(m_position, m_image);

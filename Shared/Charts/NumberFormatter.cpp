@@ -18,7 +18,8 @@ QString NumberFormatter::stringFromNumber(double number) const
     if (!std::isfinite(product)) {
         return {};
     }
-    // Qt's own conversion rounds ties away from zero. The longest double has 309 digits before its point.
+    // Qt's own conversion is not used because it rounds ties away from zero. The longest double has 309 digits before
+    // its point.
     std::array<char, 352> buffer;
     const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), product, std::chars_format::fixed,
                                    std::clamp(maximumFractionDigits, 0, 17));

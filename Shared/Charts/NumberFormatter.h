@@ -6,17 +6,17 @@
 namespace lodestar
 {
 
-/// Turns a chart's numbers into text. Rounds to the nearest, ties to the even digit (2.25 with one digit is "2.2");
-/// fraction digits that are zero are left off; no grouping, so that a slice's value stays short.
+/// Turns a chart's numbers into text. Rounds to the nearest, ties to the even digit (2.25 with one digit is "2.2").
+/// Trailing zeros after the point are left off. Digits are not grouped, so that a slice's value stays short.
 struct NumberFormatter {
     enum class Style { Decimal, Percent };
 
     Style numberStyle = Style::Decimal;
-    int maximumFractionDigits = 0;               ///< Taken within 0 to 17.
-    double multiplier = 1;                       ///< Applied in both styles; the percent style adds none of its own.
+    int maximumFractionDigits = 0; ///< Values outside 0 to 17 count as the nearer of the two.
+    double multiplier = 1;         ///< Applies to both styles; the percent style itself multiplies by nothing.
     QString percentSymbol = QStringLiteral("%"); ///< Appended in the percent style; may be empty.
 
-    /// The text with the process's decimal point; empty when the product is not finite.
+    /// The text, with the process's decimal point; empty when number times multiplier is not finite.
     QString stringFromNumber(double number) const;
 
     bool operator==(const NumberFormatter&) const = default;

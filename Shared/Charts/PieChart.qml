@@ -2,7 +2,7 @@
 import QtQuick
 import Lodestar.Charts
 
-/// A pie chart as scenes use it: `outlet` is the controller's PieChartView, the colours are the surroundings'.
+/// A pie chart as scenes use it: `outlet` is the controller's PieChartView; the colours come from the theme.
 PieChartItem {
     mirrored: LayoutMirroring.enabled
 

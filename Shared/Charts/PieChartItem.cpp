@@ -11,7 +11,7 @@ namespace
 {
 
 constexpr double slowestSpin = 40;  // Degrees a second below which a pie rests at once.
-constexpr double keyboardTurn = 15; // Degrees a key press.
+constexpr double keyboardTurn = 15; // Degrees per key press.
 
 } // namespace
 
@@ -55,7 +55,7 @@ void PieChartItem::press(QPointF position, quint64 time)
             grip = {layout.center, layout.holeRadius, layout.radius};
         }
     }
-    // Without anything to turn the grip is empty and far away, and only taps remain.
+    // When there is nothing to turn, the ring is empty and far away, so that the gesture knows only taps.
     if (grip.outerRadius <= 0) {
         grip.center = QPointF(-1e6, -1e6);
     }
@@ -144,12 +144,12 @@ void PieChartItem::step(int by)
 
 bool PieChartItem::pressKey(const QKeyEvent& event)
 {
-    // Right is clockwise in every language: the pie itself is never mirrored.
+    // The right arrow turns clockwise in every language: the pie itself is never mirrored.
     const int way = event.key() == Qt::Key_Left ? -1 : 1;
     switch (event.key()) {
     case Qt::Key_Escape:
         if (!m_outlet->selectedEntry()) {
-            return false; // Leaves the screen, as elsewhere.
+            return false; // Escape then leaves the screen, as it does elsewhere.
         }
         m_outlet->select(std::nullopt);
         return true;

@@ -12,8 +12,8 @@
 namespace lodestar
 {
 
-/// Draws a pie chart view and takes its input: taps and clicks select, a finger or the mouse along the ring turns, two
-/// fingers turn, the arrow keys step through the slices (with Shift: turn), Escape selects nothing.
+/// Draws a PieChartView and takes its input: taps and clicks select; one finger or the mouse along the ring turns; two
+/// fingers turn; the arrow keys step through the slices and, with Shift, turn; Escape selects nothing.
 class PieChartItem : public lodestar::ChartItem
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ class PieChartItem : public lodestar::ChartItem
 public:
     explicit PieChartItem(QQuickItem* parent = nullptr);
 
-    /// Not owned, may be null.
+    /// The view is not owned and may be null.
     PieChartView* outlet() const { return m_outlet; }
     void setOutlet(PieChartView* outlet);
     qreal maximumDiameter() const { return m_maximumDiameter; }
@@ -52,8 +52,8 @@ private:
     std::optional<PieChartRenderer> m_renderer;
     qreal m_maximumDiameter = 240;
     PieGesture m_gesture;
-    std::optional<QPointF> m_twoFingers; ///< From the first finger to the second while both are down.
-    double m_spinSpeed = 0;              ///< Degrees a second.
+    std::optional<QPointF> m_twoFingers; ///< From the first finger to the second; nothing unless both are down.
+    double m_spinSpeed = 0;              ///< In degrees a second.
     ChartGlide m_spin;
 };
 

@@ -16,12 +16,12 @@ namespace
 {
 
 constexpr double degree = std::numbers::pi / 180;
-constexpr double margin = 12;        // Around the pie's box: room for a highlighted slice and the overshoot.
-constexpr double smallestBox = 140;  // Below this a pie cannot be read.
-constexpr double tallest = 480;      // That a chart ever asks to be, at 100 % text.
-constexpr double halfGap = 1;        // The gap is two points wide all along.
-constexpr double highlightShift = 6; // How far a highlighted slice stands out.
-constexpr double firstScale = 0.72;  // Of the radius that the grow-in starts from.
+constexpr double margin = 12;        // Points around the pie's box, for a highlighted slice and the easing's overshoot.
+constexpr double smallestBox = 140;  // Points; a smaller pie cannot be read.
+constexpr double tallest = 480;      // The greatest height in points that a chart asks for, at 100 % text.
+constexpr double halfGap = 1;        // In points; a gap between slices is two points wide all along.
+constexpr double highlightShift = 6; // Points by which a highlighted slice moves outward.
+constexpr double firstScale = 0.72;  // Share of the radius at which the grow-in starts.
 constexpr double bandOpacity = 0.42;
 
 QPointF direction(double angle)
@@ -74,7 +74,7 @@ std::vector<PieSlice> PieChartRenderer::slicesOf(const PieLayout& layout, const 
     std::vector<PieSlice> slices;
     const PieChartDataSet& dataSet = m_model.data.dataSet;
     const double total = dataSet.total();
-    // The easing's overshoot goes into the size: a sweep beyond the full turn would cover the first slice.
+    // The easing's overshoot goes into the size only: a sweep beyond the full turn would cover the first slice.
     const double turn = 360 * fraction(phases.x);
     if (!(total > 0) || turn <= 0) {
         return slices;
@@ -89,7 +89,7 @@ std::vector<PieSlice> PieChartRenderer::slicesOf(const PieLayout& layout, const 
         slice.entry = i;
         slice.start = normalized(m_model.rotationAngle) + before / total * turn;
         slice.sweep = value / total * turn;
-        // Crowded slices keep at least half of their width, at the hole too.
+        // Narrow slices keep at least half of their width, even at the hole.
         const double narrowest = std::max(layout.holeRadius, layout.radius / 4);
         slice.gap = value < total ? std::min(halfGap, slice.sweep * degree * narrowest / 4) : 0;
         slice.center = layout.center;
@@ -109,14 +109,14 @@ QPainterPath PieChartRenderer::slicePath(const PieSlice& slice, double innerRadi
     const auto painterAngle = [](double angle) { return 90 - angle; };
     if (slice.sweep >= 360) {
         path.addEllipse(circle(center, outerRadius));
-        path.addEllipse(circle(center, innerRadius)); // Odd-even filling leaves the hole.
+        path.addEllipse(circle(center, innerRadius)); // Odd-even filling leaves the hole free.
         return path;
     }
     const double outerInset = std::asin(std::min(1.0, slice.gap / outerRadius)) / degree;
     const double end = slice.start + slice.sweep;
     path.arcMoveTo(circle(center, outerRadius), painterAngle(slice.start + outerInset));
     path.arcTo(circle(center, outerRadius), painterAngle(slice.start + outerInset), -(slice.sweep - 2 * outerInset));
-    // Both sides keep their distance from the gap's middle; where they meet before the inner radius, the slice ends.
+    // Both sides keep their distance from the gap's middle; a slice ends where they meet outside the inner radius.
     const double halfSweep = slice.sweep / 2 * degree;
     const double apex = slice.gap / std::sin(halfSweep);
     const double innerInset = innerRadius > slice.gap ? std::asin(slice.gap / innerRadius) / degree : 90;
@@ -168,7 +168,7 @@ void PieChartRenderer::drawValues(QPainter& painter, const PieLayout& layout, co
     const double size = font.pixelSize() > 0 ? font.pixelSize() : font.pointSizeF();
     font.setPixelSize(qMax(1, qRound(size * frame.style.textScale)));
     const PieValueText text(font, data.dataSet.valueTextColor);
-    // Values come in during the second half of the sweep, when most slices have found their place.
+    // Values appear in the second half of the sweep, when most slices are in place.
     painter.setOpacity(std::clamp(2 * frame.phases.x - 1, 0.0, 1.0));
     for (const PieSlice& slice : layout.slices) {
         const ChartEntry& entry = data.dataSet.entries.at(slice.entry);
@@ -185,7 +185,8 @@ void PieChartRenderer::drawValues(QPainter& painter, const PieLayout& layout, co
 
 double PieChartRenderer::preferredHeight(double width, const ChartStyle& style) const
 {
-    // Tall enough for every legend of a sane length; a hostile one is cut, so that the pie stays on the screen.
+    // The height holds any legend of a sane length. A longer one from a hostile console is cut, so that the pie stays
+    // on the screen.
     const QSizeF tall(width, tallest * style.textScale);
     const LegendLayout legend = layoutLegend(m_model.legend, legendItems(), tall, style);
     const double beside = tall.height() - contentBeside(m_model.legend, legend, tall, style).height();
@@ -211,7 +212,7 @@ std::optional<qsizetype> PieChartRenderer::entryAt(const PieLayout& layout, QPoi
 
 std::vector<LegendItem> PieChartRenderer::legendItems() const
 {
-    // One entry a label, in the data's order; an entry without a slice is still a state that exists.
+    // Every entry has a label here, in the data's order: a state without a slice still exists.
     std::vector<LegendItem> items;
     const PieChartDataSet& dataSet = m_model.data.dataSet;
     items.reserve(static_cast<std::size_t>(dataSet.entries.size()));

@@ -13,41 +13,42 @@
 namespace lodestar
 {
 
-/// One slice in place. Angles in degrees clockwise from 12 o'clock.
+/// One slice after layout. Angles are in degrees clockwise from 12 o'clock.
 struct PieSlice {
     qsizetype entry = 0; ///< Position among the data set's entries.
     double start = 0;
     double sweep = 0;
-    double gap = 0; ///< Half the gap on either side, in points; 0 for the only slice.
-    QPointF center; ///< Of the pie, moved outward for a highlighted slice.
+    double gap = 0; ///< Half the gap at either side, in points; 0 for the only slice.
+    QPointF center; ///< Centre of the pie; moved outward for a highlighted slice.
 };
 
-/// A pie in place.
+/// A pie after layout. Lengths in points.
 struct PieLayout {
     LegendLayout legend;
-    QRectF content; ///< What the legend leaves.
+    QRectF content; ///< The part of the chart that the legend leaves free.
     QPointF center;
     double radius = 0;
-    double holeRadius = 0; ///< 0 without a hole.
-    double bandRadius = 0; ///< At least the hole's.
+    double holeRadius = 0; ///< 0 for no hole.
+    double bandRadius = 0; ///< Never below the hole's radius.
     std::vector<PieSlice> slices;
 };
 
-/// Draws a pie: a ring of slices from 12 o'clock clockwise with see-through gaps of two points, a pale band along the
-/// hole, values in the slices that have room for them, a legend. The model must outlive the renderer.
+/// Draws a pie: a ring of slices, clockwise from 12 o'clock, with see-through gaps of two points; a pale band along the
+/// hole; values in the slices that have room for them; a legend. The model must outlive the renderer.
 class PieChartRenderer : public ChartRenderer
 {
 public:
     explicit PieChartRenderer(const PieChartModel& model) : m_model(model) {}
 
-    /// Widest box of the pie in points; it shrinks to what the legend leaves.
+    /// The pie's greatest diameter in points. The pie shrinks to the room that the legend leaves.
     void setMaximumDiameter(double diameter) { m_maximumDiameter = diameter; }
 
     void draw(QPainter& painter, const ChartFrame& frame) const override;
     double preferredHeight(double width, const ChartStyle& style) const override;
 
     PieLayout layout(const ChartFrame& frame) const;
-    /// The entry whose slice lies at a point of the complete chart, in points from its top left.
+    /// The entry whose slice lies at a position of the complete chart. The position is in points from the chart's top
+    /// left.
     std::optional<qsizetype> entryAt(const PieLayout& layout, QPointF position) const;
     /// A slice's outline between two radii.
     static QPainterPath slicePath(const PieSlice& slice, double innerRadius, double outerRadius);

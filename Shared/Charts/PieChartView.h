@@ -9,7 +9,7 @@
 namespace lodestar
 {
 
-/// A controller's side of a pie chart.
+/// A pie chart as its controller holds it.
 class PieChartView : public lodestar::ChartView
 {
     Q_OBJECT
@@ -19,7 +19,7 @@ class PieChartView : public lodestar::ChartView
 public:
     using ChartView::ChartView;
 
-    /// The whole of what is drawn.
+    /// Everything that is drawn.
     const PieChartModel& model() const { return m_model; }
 
     void setUsePercentValues(bool on) { assign(m_model.usePercentValues, on); }
@@ -30,7 +30,7 @@ public:
     {
         assign(m_model.transparentCircleRadiusPercent, fraction);
     }
-    /// Degrees clockwise.
+    /// In degrees clockwise.
     void setRotationAngle(double angle) { assign(m_model.rotationAngle, angle); }
     void setRotationEnabled(bool on) { assign(m_model.rotationEnabled, on); }
     void setRotationWithTwoFingers(bool on) { assign(m_model.rotationWithTwoFingers, on); }
@@ -38,13 +38,13 @@ public:
     const PieChartData& data() const { return m_model.data; }
     void setData(const PieChartData& data);
 
-    /// The user's selection of an entry by its position, or of nothing; the delegate is told. Selecting the selected
-    /// entry again selects nothing.
+    /// Applies the user's selection of an entry by its position, or of nothing, and tells the delegate. Selecting the
+    /// selected entry again selects nothing.
     void select(std::optional<qsizetype> entry);
-    /// Position of the entry that is highlighted first; nothing when none is.
+    /// Position of the first highlighted entry; nothing when none is highlighted.
     std::optional<qsizetype> selectedEntry() const;
 
-    /// States and values in order, as in "operating 17, standby 3".
+    /// States and values in the data's order, as in "operating 17, standby 3".
     QString accessibleText() const override;
     QString selectedText() const override;
 

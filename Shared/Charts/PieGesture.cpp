@@ -10,11 +10,11 @@ namespace lodestar
 namespace
 {
 
-constexpr double slack = 10;         // Beside the ring, since a fingertip is wider than its point.
-constexpr double startDistance = 5;  // Half of what a flickable page waits for: the pie has to decide before it.
-constexpr double flickSpeed = 900;   // Points a second.
-constexpr double steepness = 2;      // Vertical to horizontal, from which a stroke counts as vertical.
-constexpr double fastestSpin = 1440; // Degrees a second: four turns.
+constexpr double slack = 10;         // Points beside the ring; a fingertip is wider than the point it presses.
+constexpr double startDistance = 5;  // Half of what a flickable page waits for, so that the pie decides first.
+constexpr double flickSpeed = 900;   // In points a second.
+constexpr double steepness = 2;      // Ratio of vertical to horizontal way from which a stroke counts as vertical.
+constexpr double fastestSpin = 1440; // In degrees a second: four turns.
 
 double lengthOf(QPointF vector)
 {

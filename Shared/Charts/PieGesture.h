@@ -10,30 +10,31 @@
 namespace lodestar
 {
 
-/// The ring that a finger can take hold of, in points.
+/// The ring by which a finger can turn the pie, in points.
 struct PieGrip {
     QPointF center;
     double innerRadius = 0;
     double outerRadius = 0;
 };
 
-/// Tells one finger's tap, turn and scroll apart. A turn starts on the ring (or a finger's slack beside it) and goes
-/// along it rather than across; a fast and mostly vertical stroke is left to the page even there, since that is how
-/// people leave a screen they are not looking at. Positions in points, times in milliseconds.
+/// Tells one finger's taps, turns and scrolls apart. A turn starts on the ring (or within a finger's slack beside it)
+/// and goes along it rather than across. A fast and mostly vertical stroke is left to the page even on the ring,
+/// because people leave a screen that way without looking. Positions in points, times in milliseconds.
 class PieGesture
 {
 public:
     enum class State { Idle, Pressed, Turning, Refused };
 
     void press(QPointF position, quint64 time, const PieGrip& grip);
-    /// Degrees to turn the pie by, clockwise; nothing unless turning.
+    /// Returns the degrees to turn the pie by, clockwise; nothing unless turning.
     std::optional<double> move(QPointF position, quint64 time);
-    /// Ends the gesture; the speed to go on with in degrees a second, 0 unless it was turning and still moving.
+    /// Ends the gesture. Returns the speed at which the pie goes on, in degrees a second; 0 unless the finger was
+    /// turning the pie and still moving.
     double release(quint64 time);
     void cancel() { m_state = State::Idle; }
 
     State state() const { return m_state; }
-    /// Released now, this is a tap on `pressPosition`.
+    /// Whether a release now would be a tap on `pressPosition`.
     bool isTap() const { return m_state == State::Pressed; }
     QPointF pressPosition() const { return m_press; }
 
@@ -48,7 +49,7 @@ private:
     GestureSpeed<double> m_speed;
 };
 
-/// Degrees from one direction to another by the shorter way, clockwise positive, -180 to 180.
+/// Degrees from one direction to another the shorter way, -180 to 180; clockwise is positive.
 double turnBetween(QPointF from, QPointF to);
 
 } // namespace lodestar

@@ -16,10 +16,10 @@ namespace lodestar
 namespace
 {
 
-constexpr double leastContrast = 3;    // Of a value on its bare slice.
-constexpr double groundContrast = 4.5; // And on the ground that it gets elsewhere.
-constexpr double clearance = 1;        // Between a value and the edges of its slice.
-constexpr int smallest = 8;            // Pixels of a value that has to shrink, or its own size if that is less.
+constexpr double leastContrast = 3;    // Between a value and the bare slice behind it.
+constexpr double groundContrast = 4.5; // Between a value and the plate behind it.
+constexpr double clearance = 1;        // Points between a value and the edges of its slice.
+constexpr int smallest = 8; // Least size in pixels of a shrunken value; a face that is smaller already is not shrunk.
 const QSizeF groundPadding(3.5, 2.5);
 constexpr double degree = std::numbers::pi / 180;
 
@@ -31,7 +31,7 @@ double luminance(const QColor& color)
     return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
 }
 
-/// Whether a box around the slice's own centre keeps within its sides and radii.
+/// Whether a box, relative to the slice's own centre, keeps within the slice's sides and radii.
 bool fits(const QRectF& box, const PieSlice& slice, double innerRadius, double outerRadius)
 {
     const QPointF nearest(std::clamp(0.0, box.left(), box.right()), std::clamp(0.0, box.top(), box.bottom()));
@@ -49,7 +49,7 @@ bool fits(const QRectF& box, const PieSlice& slice, double innerRadius, double o
             if (slice.sweep >= 360) {
                 return true;
             }
-            // Distances to the two sides, positive on the slice's side of them.
+            // The distance to either side must be at least the gap; it is positive on the slice's side.
             const bool afterStart = corner.x() * std::cos(start) + corner.y() * std::sin(start) >= slice.gap;
             const bool beforeEnd = -corner.x() * std::cos(end) - corner.y() * std::sin(end) >= slice.gap;
             return slice.sweep <= 180 ? afterStart && beforeEnd : afterStart || beforeEnd;
@@ -72,7 +72,8 @@ QColor PieValueText::groundOn(const QColor& sliceColor) const
     if (contrastRatio(m_color, sliceColor) >= leastContrast) {
         return {};
     }
-    // The slice's own hue, so that it stays one slice, away from the text until that reads.
+    // The plate keeps the slice's hue, so that both look like one slice; its lightness moves away from the text's until
+    // the text can be read.
     const bool lightText = luminance(m_color) > 0.5;
     QColor ground = sliceColor;
     for (int step = 0; step < 100 && contrastRatio(m_color, ground) < groundContrast; ++step) {
@@ -90,7 +91,7 @@ std::optional<PieValueText::Place> PieValueText::place(const QStringList& lines,
     const double half = (innerRadius + outerRadius) / 2;
     constexpr int steps = 6;
     QFont font = m_font;
-    // A smaller value in the middle of its slice is found less easily than a full one at its rim.
+    // The size is the outer loop: a full-size value at the rim is found more easily than a smaller one in the middle.
     for (int pixels = m_font.pixelSize(); pixels >= std::min(smallest, m_font.pixelSize()); --pixels) {
         font.setPixelSize(pixels);
         const QSizeF size = sizeOf(lines, font);
@@ -143,7 +144,7 @@ void PieValueText::draw(QPainter& painter, const QStringList& lines, const PieSl
     const QTransform fromDevice = toDevice.inverted();
     double baseline = placed->middle.y() - placed->size.height() / 2 + metrics.capHeight();
     for (const QString& line : lines) {
-        // On whole device pixels: between them every stroke is smeared over two.
+        // Text starts on whole device pixels; in between, every stroke would be smeared over two.
         const QPointF start = toDevice.map(QPointF(placed->middle.x() - metrics.horizontalAdvance(line) / 2, baseline));
         painter.drawText(fromDevice.map(QPointF(std::round(start.x()), std::round(start.y()))), line);
         baseline += metrics.lineSpacing();

@@ -16,29 +16,29 @@ namespace lodestar
 
 struct PieSlice;
 
-/// Contrast of two opaque colours, 1 to 21.
+/// Contrast ratio of two opaque colours, 1 to 21.
 double contrastRatio(const QColor& first, const QColor& second);
 
-/// Writes values into slices: centred between the radii, moved outward and then made smaller where a slice is narrow,
-/// left off where it has no room at all. Where the slice is too near to the text's colour, the value gets a ground.
+/// Writes values into slices. A value is centred between the radii; in a narrow slice it is moved outward and then made
+/// smaller; without room it is left off. Where the slice's colour is too near to the text's, the value gets a plate.
 class PieValueText
 {
 public:
     struct Place {
         QFont font;
         QPointF middle;
-        QSizeF size; ///< of the capitals, without the ground
+        QSizeF size; ///< of the capitals, without the plate
     };
 
-    /// The font has its size in pixels.
+    /// The font's size must be in pixels.
     PieValueText(const QFont& font, const QColor& color);
 
     void draw(QPainter& painter, const QStringList& lines, const PieSlice& slice, double innerRadius,
               double outerRadius, const QColor& sliceColor) const;
-    /// Where the lines go, with that much around them; nothing when they do not fit.
+    /// Where the lines go with this padding around them; nothing when they do not fit.
     std::optional<Place> place(const QStringList& lines, const PieSlice& slice, double innerRadius, double outerRadius,
                                const QSizeF& padding = {0, 0}) const;
-    /// What the text needs behind it on a slice of that colour; invalid for nothing.
+    /// Colour of the plate behind the text on a slice of this colour; invalid when no plate is needed.
     QColor groundOn(const QColor& sliceColor) const;
 
 private:

@@ -2,7 +2,7 @@
 import QtQuick
 import Lodestar.Charts
 
-/// A chart with axes as scenes use it: `outlet` is the controller's view, the colours are the surroundings'.
+/// A chart with axes as scenes use it: `outlet` is the controller's view; the colours come from the theme.
 PlotChartItem {
     mirrored: LayoutMirroring.enabled
 

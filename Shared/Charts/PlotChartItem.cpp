@@ -14,11 +14,11 @@ namespace lodestar
 namespace
 {
 
-constexpr int zoomTime = 240;         // Milliseconds of a zoom that no finger leads.
+constexpr int zoomTime = 240;         // Milliseconds of a zoom by double tap or key.
 constexpr double slowestThrow = 60;   // Points a second below which a plot rests at once.
-constexpr double stepFactor = 2;      // Of a double tap and of the keys.
-constexpr double wheelFactor = 1.2;   // Of a notch, which is 120.
-constexpr double keyboardShare = 0.2; // Of what is seen, that an arrow key moves by.
+constexpr double stepFactor = 2;      // Zoom factor of a double tap and of a key press.
+constexpr double wheelFactor = 1.2;   // Zoom factor of one wheel notch, which is 120.
+constexpr double keyboardShare = 0.2; // Share of the view by which an arrow key moves.
 
 } // namespace
 
@@ -222,13 +222,13 @@ void PlotChartItem::wheelEvent(QWheelEvent* event)
 {
     QPoint angle = event->angleDelta();
     QPoint points = event->pixelDelta();
-    if (event->modifiers().testFlag(Qt::ShiftModifier)) { // Most mice have no other wheel.
+    if (event->modifiers().testFlag(Qt::ShiftModifier)) { // Most mice have no horizontal wheel.
         angle = angle.transposed();
         points = points.transposed();
     }
     if (std::abs(angle.x()) <= std::abs(angle.y())) {
-        // Nearer comes the time alone, lest the lines leave the plot upwards and downwards; with Control the values
-        // too. At either end the wheel goes on to the page.
+        // Zooming in enlarges x only, lest the lines leave the plot at top and bottom; with Control, y too. Zooming out
+        // always shrinks both. When the zoom cannot go further, the page gets the wheel.
         const double factor = std::pow(wheelFactor, angle.y() / 120.0);
         const bool both = factor < 1 || event->modifiers().testFlag(Qt::ControlModifier);
         event->setAccepted(zoomAt(event->position(), factor, both ? factor : 1));
@@ -255,7 +255,7 @@ bool PlotChartItem::event(QEvent* event)
 
 bool PlotChartItem::pressKey(const QKeyEvent& event)
 {
-    // A key pressed again before the plot has arrived goes on from where it was to arrive.
+    // A key that is pressed during a zoom starts from where that zoom would end.
     if (m_zoom.state() == QAbstractAnimation::Running) {
         m_zoom.stop();
         m_outlet->setViewport(m_zoomTo);

@@ -14,10 +14,11 @@
 namespace lodestar
 {
 
-/// Draws a view of a chart with axes, whatever its marks, and takes its input: two fingers zoom about the point between
-/// them, a double tap zooms in there and, at the closest, shows all again, the wheel zooms along x at the pointer, with
-/// Control along both axes, and with Shift moves, a touchpad pinches, a finger or the mouse moves a zoomed plot and can
-/// throw it, a tap selects. Keys: arrows move, + and - zoom, Home and Escape show all.
+/// Draws a view of a chart with axes, whatever its marks, and takes its input. Two fingers zoom about the point between
+/// them. A double tap zooms in, or shows all again when the zoom is at its closest. The wheel zooms in along x at the
+/// pointer, with Control along both axes; with Shift the wheel moves the plot. A touchpad pinch zooms both axes. A
+/// finger or the mouse drags a zoomed plot and can throw it. A tap selects. Arrow keys move, + and - zoom, Home and
+/// Escape show all.
 class PlotChartItem : public lodestar::ChartItem
 {
     Q_OBJECT
@@ -25,16 +26,16 @@ class PlotChartItem : public lodestar::ChartItem
     Q_PROPERTY(lodestar::PlotChartView* outlet READ outlet WRITE setOutlet NOTIFY outletChanged)
     Q_PROPERTY(QColor gridColor MEMBER m_gridColor NOTIFY styleChanged)
     Q_PROPERTY(QColor axisColor MEMBER m_axisColor NOTIFY styleChanged)
-    /// Colours that stand in for those of the data sets, by position: the appearance's own. Empty for none.
+    /// Colours that replace those of the data sets, by position; empty replaces none.
     Q_PROPERTY(QVariantList seriesColors MEMBER m_seriesColors NOTIFY styleChanged)
 
 public:
     explicit PlotChartItem(QQuickItem* parent = nullptr);
 
-    /// Not owned, may be null.
+    /// The view is not owned and may be null.
     PlotChartView* outlet() const { return m_outlet; }
     void setOutlet(PlotChartView* outlet);
-    /// Whether the plot is on its way to another zoom or gliding after a throw.
+    /// Whether the plot is changing its zoom or gliding after a throw.
     bool isMoving() const;
 
 protected:
@@ -51,21 +52,21 @@ protected:
     void wheelEvent(QWheelEvent* event) override;
 
 private:
-    /// The plot's place; empty without one.
+    /// The plot's box within the item; empty without a plot.
     QRectF plot() const;
     PlotFreedom freedom() const;
-    /// The pointer is a hand over a plot that can be moved.
+    /// Shows a hand as the pointer over a plot that can be moved.
     void showHand();
-    /// A point of the chart as shares of the plot, counted from its lower left.
+    /// A point of the chart in shares of the plot, counted from the plot's lower left.
     QPointF shareOf(QPointF position) const;
 
     void moveBy(QPointF points);
-    /// Whether anything changed.
+    /// Returns whether anything changed.
     bool zoomAt(QPointF position, double factorX, double factorY);
     void tapTwice(QPointF position);
     void glideTo(const PlotViewport& viewport);
     void glideOn(QPointF pointsPerSecond);
-    /// Both tell whether the plot has a use for the key.
+    /// `moveByKey` and `zoomByKey` return whether the plot uses the key.
     bool moveByKey(bool free, double sharesX, double sharesY);
     bool zoomByKey(double factor);
 
@@ -75,10 +76,10 @@ private:
     QColor m_axisColor{0xA9, 0xB3, 0xBF};
     QVariantList m_seriesColors;
     PlotGesture m_gesture;
-    QVariantAnimation m_zoom; ///< From 0 to 1 on the way between the two viewports.
+    QVariantAnimation m_zoom; ///< Runs from 0 to 1 between `m_zoomFrom` and `m_zoomTo`.
     PlotViewport m_zoomFrom;
     PlotViewport m_zoomTo;
-    QPointF m_glideSpeed; ///< Points a second.
+    QPointF m_glideSpeed; ///< In points a second.
     ChartGlide m_glide;
 };
 

@@ -8,7 +8,7 @@ namespace lodestar
 namespace
 {
 
-constexpr double legendOffset = 14; // So that a legend below keeps off the card's edge.
+constexpr double legendOffset = 14; // Points that keep a legend below the plot off the card's edge.
 
 } // namespace
 

@@ -9,8 +9,8 @@
 namespace lodestar
 {
 
-/// A controller's side of a chart with axes. Which marks it has is the subclass's matter; settings, zoom, selection and
-/// text are the same for all of them.
+/// A chart with axes as its controller holds it. The subclass decides on the marks; settings, zoom, selection and texts
+/// are the same for all.
 class PlotChartView : public lodestar::ChartView
 {
     Q_OBJECT
@@ -20,7 +20,7 @@ class PlotChartView : public lodestar::ChartView
 public:
     explicit PlotChartView(QObject* parent = nullptr);
 
-    /// The whole of what is drawn.
+    /// Everything that is drawn.
     const PlotModel& model() const { return m_model; }
 
     void setNoDataText(const QString& text);
@@ -37,25 +37,25 @@ public:
     const YAxis& rightAxis() const { return m_model.rightAxis; }
     void setRightAxis(const YAxis& axis) { assign(m_model.rightAxis, axis); }
 
-    /// What is seen of the plot. New data show it whole again.
+    /// The part of the plot that is in view. New data reset it to the whole plot.
     const PlotViewport& viewport() const { return m_model.viewport; }
-    /// Kept within the whole and the smallest part.
+    /// The viewport is kept within the plot and no smaller than `smallestViewport`.
     void setViewport(const PlotViewport& viewport)
     {
         assign(m_model.viewport, viewport.zoomed(1, 1, {0, 0}, smallestViewport()));
     }
-    /// The smallest part that can be zoomed in on, as shares of the whole: two steps of the x axis, a fiftieth of the
+    /// The smallest part that a zoom can show, in shares of the whole: two steps of the x axis, a fiftieth of the
     /// values.
     QSizeF smallestViewport() const;
 
-    /// The user's selection of an entry, or of nothing; the delegate is told. Selecting the selected entry again
-    /// selects nothing.
+    /// Applies the user's selection of an entry, or of nothing, and tells the delegate. Selecting the selected entry
+    /// again selects nothing.
     void select(const std::optional<Highlight>& highlight);
 
     /// Names and latest values in order, as in "Total Processors 16, Processors Used 6.5"; the no-data text without
     /// data.
     QString accessibleText() const override;
-    /// Name, label and value.
+    /// Data set's name, label and value.
     QString selectedText() const override;
 
 protected:

@@ -9,12 +9,12 @@ namespace lodestar
 namespace
 {
 
-constexpr double startDistance = 5;   // Half of what a flickable page waits for: the plot has to decide before it.
-constexpr double tapDistance = 32;    // Between the taps of a double tap.
-constexpr quint64 tapTime = 300;      // From the end of one to the end of the other.
-constexpr quint64 longestTap = 500;   // A finger that lay longer meant something else.
-constexpr double fastestThrow = 4000; // Points a second.
-constexpr double closestFingers = 24; // Nearer than this the ratio of distances is noise.
+constexpr double startDistance = 5;   // Half of what a flickable page waits for, so that the plot decides first.
+constexpr double tapDistance = 32;    // Greatest distance in points between the taps of a double tap.
+constexpr quint64 tapTime = 300;      // Milliseconds from the end of the first tap to the end of the second.
+constexpr quint64 longestTap = 500;   // Milliseconds; a finger that lay longer did not mean a tap.
+constexpr double fastestThrow = 4000; // In points a second.
+constexpr double closestFingers = 24; // In points; between closer fingers, the ratio of distances is noise.
 
 double lengthOf(QPointF vector)
 {

@@ -10,17 +10,17 @@
 namespace lodestar
 {
 
-/// The directions in which a plot can be moved.
+/// The directions in which a plot can be moved now.
 struct PlotFreedom {
     bool x = false;
     bool y = false;
 };
 
-/// Two fingers' change from one event to the next.
+/// How two fingers changed from one event to the next.
 struct PlotPinch {
     double factorX = 1;
     double factorY = 1;
-    QPointF from; ///< The point between the fingers before and after.
+    QPointF from; ///< Points between the fingers, before and after.
     QPointF to;
 };
 
@@ -33,15 +33,15 @@ public:
     enum class Tap { None, Single, Double };
 
     void press(QPointF position, quint64 time, PlotFreedom freedom);
-    /// How far to move the plot; nothing unless dragging.
+    /// Returns how far to move the plot; nothing unless dragging.
     std::optional<QPointF> move(QPointF position, quint64 time);
-    /// Ends the gesture. A second tap soon after the first and near it makes the two a double one.
+    /// Ends the gesture. A second tap soon after the first and near it makes a double tap.
     Tap release(quint64 time);
-    /// After the release of a drag: the speed to go on with in points a second, 0 unless it was still moving.
+    /// The speed after a drag was released, in points a second; 0 unless the finger was still moving.
     QPointF throwSpeed() const { return m_throw; }
-    /// Two fingers down or moved. Without `bothAxes` only the axis along which they lay at first is enlarged.
+    /// Two fingers are down or moved. Without `bothAxes`, only the axis is zoomed along which the fingers lay at first.
     std::optional<PlotPinch> pinch(QPointF first, QPointF second, bool bothAxes);
-    /// One of two fingers has left; the other one goes on dragging.
+    /// One of two fingers has left; the other continues as a drag.
     void endPinch(QPointF remaining, quint64 time, PlotFreedom freedom);
     void cancel() { m_state = State::Idle; }
 
@@ -58,10 +58,10 @@ private:
     QPointF m_last;
     GestureSpeed<QPointF> m_speed;
     QPointF m_throw;
-    QPointF m_first; ///< The fingers of a pinch.
+    QPointF m_first; ///< The two fingers of a pinch.
     QPointF m_second;
     bool m_alongX = false;
-    std::optional<quint64> m_tapTime; ///< When and where the last tap was, unless it ended a double one.
+    std::optional<quint64> m_tapTime; ///< Time and place of the last tap; nothing after a double tap.
     QPointF m_tapPosition;
 };
 

@@ -9,16 +9,16 @@ class QPainter;
 namespace lodestar
 {
 
-/// What a layer is drawn with.
+/// Everything that a layer draws with, apart from its data.
 struct PlotCanvas {
     PlotTransform transform;
     ChartStyle style;
     ChartPhases phases;
-    double pixelRatio = 1;         ///< Device pixels a point.
-    qsizetype firstDataSet = 0;    ///< Number of the layer's first data set among all of the plot.
-    PlotInterval wholeX = {0, -1}; ///< All of the x axis, zoomed in or not.
+    double pixelRatio = 1;         ///< Device pixels per point.
+    qsizetype firstDataSet = 0;    ///< Number of the layer's first data set, counted through all layers.
+    PlotInterval wholeX = {0, -1}; ///< The whole x axis, zoomed in or not.
 
-    /// The colour of the layer's data set of that position.
+    /// The colour of a data set, given by its position within the layer.
     QColor colorOf(const ChartDataSet& dataSet, qsizetype position) const
     {
         const qsizetype number = firstDataSet + position;
@@ -26,8 +26,8 @@ struct PlotCanvas {
     }
 };
 
-/// One kind of mark over a plot's shared axes: lines, bars. Immutable once made; a plot draws its layers in order, the
-/// last in front. A new kind of chart is a new layer.
+/// One kind of mark over a plot's shared axes, such as lines or bars. Layers never change once made; a plot draws them
+/// in order, the last in front. A new kind of chart is a new layer.
 class PlotLayer
 {
 public:
@@ -38,16 +38,16 @@ public:
 
     virtual qsizetype dataSetCount() const = 0;
     virtual const ChartDataSet& dataSet(qsizetype position) const = 0;
-    /// The data set's entries made ready; of the same positions.
+    /// The entries of the data set at this position, prepared for drawing.
     virtual const PlotSeries& series(qsizetype position) const = 0;
-    /// How far the layer reaches beyond its outermost x indices.
+    /// How far the marks reach beyond the outermost x indices, in indices.
     virtual double sideRoom() const { return 0; }
-    /// Whether its marks stand on 0, which then has to be on the axis.
+    /// Whether the marks stand on 0, so that the axis has to include 0.
     virtual bool standsOnZero() const { return false; }
-    /// Draws within the painter's clip, which is the plot.
+    /// Draws the marks; the painter is clipped to the plot.
     virtual void draw(QPainter& painter, const PlotCanvas& canvas) const = 0;
 
-    /// The data of all its series.
+    /// The extent of all series of the layer.
     PlotExtent extent() const;
 };
 

@@ -14,17 +14,17 @@ namespace
 {
 
 constexpr double axisFontSize = 11;
-constexpr double edge = 12;      // Between the plot and the chart's edge where no label stands.
-constexpr double top = 18;       // The same at the top.
-constexpr double tickPitch = 44; // Least distance of value ticks.
-constexpr double mostSteps = 10; // From one value tick to the next, however tall the plot is.
-constexpr double labelGap = 8;   // Between an axis and its labels.
-constexpr double spaceStep = 20; // Of `spaceBetweenLabels`.
-constexpr double smallest = 24;  // A plot of less in either direction is left off.
+constexpr double edge = 12;      // Points between the plot and the chart's edge where no label stands.
+constexpr double top = 18;       // Points between the plot and the chart's upper edge.
+constexpr double tickPitch = 44; // Least distance between value ticks, in points.
+constexpr double mostSteps = 10; // Most steps between value ticks, however tall the plot is.
+constexpr double labelGap = 8;   // Points between an axis and its labels.
+constexpr double spaceStep = 20; // Points per unit of `spaceBetweenLabels`.
+constexpr double smallest = 24;  // In points; a plot that is narrower or lower is not drawn.
 
 enum class Place { Left, Right, Top, Bottom };
 
-/// Finds room for the labels and puts them there.
+/// Finds room for the axis labels and places them.
 class Placement
 {
 public:
@@ -142,7 +142,7 @@ private:
                 text = m_metrics.elidedText(text, Qt::ElideMiddle, most);
                 width = m_metrics.horizontalAdvance(text);
             }
-            // Centred below its index, but never beyond the chart's edge.
+            // A label is centred below its index, but stays within the chart.
             const double x =
                 std::clamp(m_layout.transform.toX(index) - width / 2, 1.0, std::max(most - width, 1.0) + 1);
             if (!labels.empty() && x < labels.back().box.right() + gap) {
@@ -160,7 +160,7 @@ private:
         }
         const PlotTransform& transform = m_layout.transform;
         const double pitch = transform.plot.width() / transform.visible.x.length();
-        // No label is narrower than this, and the tries stay few.
+        // Starting at the narrowest possible label keeps the number of tries small.
         int stride =
             labelStride((std::max(m_model.xAxis.spaceBetweenLabels, 0.0) * spaceStep * m_scale + 4 * m_scale) / pitch);
         std::optional<std::vector<AxisLabel>> labels = labelsEvery(stride);

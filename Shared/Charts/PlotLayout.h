@@ -10,31 +10,31 @@
 namespace lodestar
 {
 
-/// One label of an axis in place.
+/// One axis label after layout.
 struct AxisLabel {
     double at = 0; ///< Value or x index.
     QString text;
     QRectF box;
 };
 
-/// A chart with axes in place.
+/// A chart with axes after layout.
 struct PlotLayout {
     LegendLayout legend;
-    QRectF content; ///< What the legend leaves.
+    QRectF content; ///< The part of the chart that the legend leaves free.
     PlotTransform transform;
     PlotExtent whole;         ///< Both axes from end to end, zoomed in or not.
-    QList<double> valueTicks; ///< What is seen of them.
-    QList<double> indexTicks; ///< Those that have a label.
+    QList<double> valueTicks; ///< Value ticks within view.
+    QList<double> indexTicks; ///< X indices within view that have a label.
     std::vector<AxisLabel> leftLabels;
     std::vector<AxisLabel> rightLabels;
     std::vector<AxisLabel> topLabels;
     std::vector<AxisLabel> bottomLabels;
 
-    /// Whether there is a plot at all: data and room.
+    /// Whether there are data and room for a plot.
     bool hasPlot() const { return !transform.plot.isEmpty(); }
 };
 
-/// The face of axis labels, limit lines and the description.
+/// The font of axis labels, limit lines and the description.
 QFont axisFont(const ChartStyle& style);
 
 PlotLayout layoutPlot(const PlotModel& model, const ChartFrame& frame);

@@ -14,16 +14,16 @@
 namespace lodestar
 {
 
-/// Everything that a chart with axes is drawn from: its settings, layers, highlights, which count data sets through all
-/// layers, and what is seen of it.
+/// Everything that a chart with axes is drawn from: settings, layers, highlights and viewport. Highlights count data
+/// sets through all layers.
 struct PlotModel : ChartModel {
-    QString noDataText;                    ///< Instead of the plot while there is nothing to chart.
-    bool highlightEnabled = true;          ///< Taps select the nearest entry.
-    bool dragEnabled = true;               ///< A zoomed plot is moved by the finger.
-    bool scaleEnabled = true;              ///< The plot can be zoomed.
-    bool pinchZoomEnabled = false;         ///< Two fingers zoom both axes alike; otherwise the one they lie along.
-    bool highlightIndicatorEnabled = true; ///< Lines through the highlighted entry.
-    bool drawGridBackgroundEnabled = true; ///< The plot stands on a tint of its own.
+    QString noDataText;            ///< Shown in place of the plot while there is nothing to chart.
+    bool highlightEnabled = true;  ///< Taps select the nearest entry.
+    bool dragEnabled = true;       ///< A finger moves a zoomed plot.
+    bool scaleEnabled = true;      ///< The plot can be zoomed.
+    bool pinchZoomEnabled = false; ///< Two fingers zoom both axes alike; otherwise only the axis that they lie along.
+    bool highlightIndicatorEnabled = true; ///< Lines cross at the highlighted entry.
+    bool drawGridBackgroundEnabled = true; ///< The plot's ground has a tint.
     XAxis xAxis;
     YAxis leftAxis;
     YAxis rightAxis;
@@ -33,20 +33,20 @@ struct PlotModel : ChartModel {
 
     /// Whether no layer has an entry to chart.
     bool isEmpty() const;
-    /// The entries of all layers.
+    /// The extent of the entries of all layers.
     PlotExtent dataExtent() const;
-    /// All of the x axis: every label, every entry, and the room that bars take; never of length 0.
+    /// The whole x axis: every label, every entry, and the room that bars take. Its length is never 0.
     PlotInterval wholeX() const;
 
-    /// A data set by its number through all layers.
+    /// A data set, found by its number through all layers.
     struct Series {
         const ChartDataSet* dataSet;
         const PlotSeries* series;
         const PlotLayer* layer;
-        qsizetype position; ///< Within the layer.
+        qsizetype position; ///< Position within the layer.
     };
     std::vector<Series> allSeries() const;
-    /// The entry that a highlight names; nothing when there is none.
+    /// The entry that a highlight names; nothing when no such entry exists.
     std::optional<ChartEntry> entryOf(const Highlight& highlight) const;
 };
 

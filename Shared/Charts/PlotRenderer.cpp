@@ -16,11 +16,11 @@ namespace
 
 constexpr double noDataSize = 15;
 constexpr double noDataMeasure = 280;
-constexpr double lowest = 320; // That a chart asks to be, and the most.
+constexpr double lowest = 320; // Least and greatest height in points that a chart asks for.
 constexpr double highest = 640;
-constexpr double tint = 0.25; // Of the grid's colour behind a plot with a ground of its own.
+constexpr double tint = 0.25; // Opacity of the grid's colour as the plot's ground.
 
-/// A pen for lines in the given dashes. Lengths are points; a pen takes multiples of its width.
+/// A pen with the given dashes. Lengths are in points; Qt's pens take multiples of their width.
 QPen dashedPen(const QColor& color, double width, const QList<double>& lengths)
 {
     QPen pen(color, width, Qt::SolidLine, Qt::FlatCap);
@@ -28,7 +28,7 @@ QPen dashedPen(const QColor& color, double width, const QList<double>& lengths)
     const double sum = valid ? std::accumulate(lengths.begin(), lengths.end(), 0.0) : 0;
     if (sum > 0 && width > 0) {
         QList<qreal> pattern;
-        // An odd list goes on in turn, off where it was on.
+        // A list of odd length runs twice, with dashes and gaps exchanged the second time.
         for (const double length : lengths.size() % 2 == 0 ? lengths : lengths + lengths) {
             pattern << length / width;
         }
@@ -37,7 +37,7 @@ QPen dashedPen(const QColor& color, double width, const QList<double>& lengths)
     return pen;
 }
 
-/// A line's middle moved so that a line of one point covers whole pixels.
+/// Moves a line's middle so that a line of one point covers whole pixels.
 double crisp(double position, double pixelRatio)
 {
     const double width = std::max(1.0, std::round(pixelRatio));
@@ -142,7 +142,7 @@ void PlotRenderer::drawLayers(QPainter& painter, const PlotLayout& layout, const
     canvas.phases = frame.phases;
     canvas.pixelRatio = pixelRatioOf(painter);
     canvas.wholeX = layout.whole.x;
-    // Where the data end within the plot, their outermost marks are shown whole.
+    // At an edge where the data end, the outermost marks are shown whole.
     constexpr double markRoom = 8;
     const PlotViewport& seen = m_model.viewport;
     const QRectF clip =

@@ -18,7 +18,8 @@ public:
     double preferredHeight(double width, const ChartStyle& style) const override;
 
     PlotLayout layout(const ChartFrame& frame) const { return layoutPlot(m_model, frame); }
-    /// The entry nearest to a point of the plot: of the nearest x index, the one nearest in height. Nothing outside.
+    /// The entry nearest to a point of the plot: among the entries of the nearest x index, the one nearest in height.
+    /// Nothing for a point outside the plot.
     std::optional<Highlight> entryAt(const PlotLayout& layout, QPointF position) const;
 
 private:

@@ -9,7 +9,7 @@ namespace lodestar
 namespace
 {
 
-constexpr qsizetype fan = 4; // Blocks that one of the level above spans.
+constexpr qsizetype fan = 4; // Blocks of one level that a block of the level above spans.
 
 bool isFinite(const ChartEntry& entry)
 {
@@ -25,7 +25,7 @@ bool isBefore(const ChartEntry& first, const ChartEntry& second)
 
 PlotSeries::PlotSeries(const QList<ChartEntry>& entries) : m_entries(entries)
 {
-    // Entries mostly come in order; then they stay shared with the data set.
+    // Entries are mostly finite and in order already; then the list stays shared with the data set.
     if (!std::all_of(entries.cbegin(), entries.cend(), isFinite)) {
         m_entries.removeIf([](const ChartEntry& entry) { return !isFinite(entry); });
     }
@@ -71,7 +71,7 @@ void PlotSeries::buildPyramid()
 qsizetype PlotSeries::lowerBound(double index) const
 {
     if (m_isGapless) {
-        // Samples mostly are, and a search among a million of them costs more than drawing what it finds.
+        // Samples mostly have no gaps, and a search among a million of them would cost more than drawing the result.
         const double position = std::ceil(index - m_entries.constFirst().xIndex);
         return position > 0 ? static_cast<qsizetype>(std::min(position, static_cast<double>(size()))) : 0;
     }
@@ -87,7 +87,7 @@ PlotInterval PlotSeries::values(qsizetype first, qsizetype last) const
     }
     Extremes found = extremesOf(first);
     for (qsizetype i = first; i < last;) {
-        // The largest block that begins here and ends in time.
+        // The largest block that begins at `i` and does not go beyond `last`.
         const Level* largest = nullptr;
         for (const Level& level : m_levels) {
             if ((i & (level.size - 1)) != 0 || i + level.size > last) {

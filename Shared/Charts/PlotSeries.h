@@ -11,13 +11,13 @@
 namespace lodestar
 {
 
-/// A data set's entries made ready to be drawn and asked: finite, by rising x index, with a pyramid of the extremes of
-/// ever larger blocks of them, so that the extremes of a million are found in the time that a few hundred take. Copies
-/// share entries.
+/// The entries of a data set, prepared for drawing and queries: finite only and by rising x index. A pyramid holds the
+/// extremes of ever larger blocks of entries, so that the extremes of a million entries are found in the time that a
+/// few hundred would take. Copies share the entries.
 class PlotSeries
 {
 public:
-    /// Entries of the pyramid's smallest blocks.
+    /// Entries per block of the pyramid's lowest level.
     static constexpr qsizetype blockSize = 16;
 
     PlotSeries() = default;
@@ -28,14 +28,14 @@ public:
     const ChartEntry& at(qsizetype position) const { return m_entries.at(position); }
     const ChartEntry& latest() const { return m_entries.constLast(); }
     const PlotExtent& extent() const { return m_extent; }
-    /// Whether every x index follows the one before, as those of samples mostly do.
+    /// Whether every x index is one above the index before, as with most samples.
     bool isGapless() const { return m_isGapless; }
 
-    /// Position of the first entry whose x index is not below.
+    /// Position of the first entry whose x index is not below `index`.
     qsizetype lowerBound(double index) const;
-    /// The extremes of the entries of [first, last); empty for none.
+    /// The least and greatest value of the entries [first, last); empty when there are none.
     PlotInterval values(qsizetype first, qsizetype last) const;
-    /// The entry nearest to an x index, the first of equals; nothing without entries.
+    /// The entry nearest to an x index, the first among equals; nothing without entries.
     std::optional<ChartEntry> nearest(double index) const;
 
 private:
@@ -49,9 +49,9 @@ private:
             greatest = std::max(greatest, other.greatest);
         }
     };
-    /// A step of the pyramid; its last block may be shorter than the others.
+    /// A level of the pyramid; its last block may be shorter than the others.
     struct Level {
-        qsizetype size; ///< Entries of a block, a power of two.
+        qsizetype size; ///< Entries per block, a power of two.
         std::vector<Extremes> blocks;
     };
 

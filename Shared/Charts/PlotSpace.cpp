@@ -10,7 +10,7 @@ namespace lodestar
 namespace
 {
 
-/// One direction of a zoom: the point that lay at `around` stays there unless that would show beyond the whole.
+/// Zooms one direction: the point at `around` keeps its place unless the view would then leave the whole.
 void zoom(double& start, double& length, double factor, double around, double smallest)
 {
     if (!std::isfinite(factor) || factor <= 0 || !std::isfinite(around) || !std::isfinite(start)) {

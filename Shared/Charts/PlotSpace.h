@@ -34,7 +34,7 @@ struct PlotInterval {
     bool operator==(const PlotInterval&) const = default;
 };
 
-/// X indices and values, of data or of what of them is to be seen.
+/// A range of x indices and a range of values.
 struct PlotExtent {
     PlotInterval x;
     PlotInterval y;
@@ -61,7 +61,7 @@ struct PlotTransform {
     bool operator==(const PlotTransform&) const = default;
 };
 
-/// The part of the whole plot that is to be seen, as shares of it: (0, 0) is its lower left, 1 × 1 all of it.
+/// The part of the plot that is in view, in shares of the whole: (0, 0) is the plot's lower left, 1 × 1 is all of it.
 struct PlotViewport {
     double x = 0;
     double y = 0;
@@ -72,14 +72,14 @@ struct PlotViewport {
     bool isZoomedY() const { return height < 1; }
     bool isZoomed() const { return isZoomedX() || isZoomedY(); }
 
-    /// Enlarged by factors around a point, given as shares of this part; within the whole and no smaller than the
-    /// smallest width and height.
+    /// This part zoomed by factors around a point, which is in shares of this part. The result stays within the whole
+    /// and is at least as large as `smallest`.
     PlotViewport zoomed(double factorX, double factorY, QPointF around, QSizeF smallest) const;
-    /// Shifted by shares of this part, within the whole.
+    /// This part moved by shares of itself; the result stays within the whole.
     PlotViewport moved(double byX, double byY) const;
-    /// On the way to another, 0 to 1.
+    /// A part between this and another one, for a progress from 0 to 1.
     PlotViewport towards(const PlotViewport& other, double progress) const;
-    /// The visible part of an extent.
+    /// The part of an extent that is in view.
     PlotExtent of(const PlotExtent& whole) const;
 
     bool operator==(const PlotViewport&) const = default;
