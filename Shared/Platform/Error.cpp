@@ -9,7 +9,7 @@ namespace lodestar
 namespace
 {
 
-/// A log line stays one line, whatever a console put into its answer.
+/// Puts the text on one line: a log entry stays one line, whatever a console put into its answer.
 std::string singleLine(std::string text)
 {
     std::replace_if(

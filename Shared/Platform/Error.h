@@ -8,8 +8,8 @@
 namespace lodestar
 {
 
-/// What went wrong, in the shape that every layer passes on unchanged. A value type; copies are cheap enough for the
-/// failure path. An empty `failureReason` is a reason that nobody gave.
+/// What went wrong, in one shape that every layer passes on unchanged. A value type; copies are cheap enough for the
+/// failure path. An empty `failureReason` means that nobody gave a reason.
 struct Error {
     std::string domain;
     int code = 0;
@@ -29,11 +29,12 @@ inline constexpr std::string_view urlErrorDomain = "URLError";
 /// Domain of the object store's errors; the codes are SQLite's extended result codes.
 inline constexpr std::string_view storeErrorDomain = "ObjectStore";
 
-/// One line for a log: domain, code, description, reason and the underlying error, each left out when empty.
+/// One line for a log: domain, code, description, reason and the underlying error. Empty ones are left out.
 std::string description(const Error& error);
-/// The part of the error that is not domain and code, as `{key=value, …}`: what a log calls the user information.
+/// Everything but domain and code, as `{key=value, …}`. Logs call this the user information.
 std::string userInfoDescription(const Error& error);
-/// What a person is told: the error's own description, or a sentence made of its reason, or of its domain and code.
+/// The text for a person: the error's own description; failing that, a sentence made of the reason, or of domain and
+/// code.
 std::string shownDescription(const Error& error);
 
 } // namespace lodestar

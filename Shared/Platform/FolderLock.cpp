@@ -27,13 +27,13 @@ FolderClaim claimFolder([[maybe_unused]] const std::string& folder)
         ::close(file);
         return FolderClaim::NoLock;
     }
-    // The system's own lock rather than a file that says who has it: it goes with the process, also when that is
-    // killed.
+    // The lock is the system's own, not a file that names its owner: the system's lock ends with the process, even when
+    // the process is killed.
     if (::flock(file, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK) {
         ::close(file);
         return FolderClaim::Taken;
     }
-    // Open for the rest of the process, since closing it gives the folder back.
+    // The file stays open until the process ends: closing it would release the folder.
 #endif
     return FolderClaim::Ours;
 }

@@ -8,13 +8,14 @@ namespace lodestar
 
 enum class FolderClaim {
     Ours,
-    Taken,   ///< another process has it: two would overwrite each other's defaults
-    Foreign, ///< it belongs to another user, who could read and change what is kept there
-    NoLock   ///< what stands in the place of its lock is a link, or no file of this user: it would lock something else
+    Taken,   ///< another process has the folder; two processes would overwrite each other's defaults
+    Foreign, ///< the folder belongs to another user, who could read and change its files
+    /// a link, or a file that is not this user's, has the lock file's name; locking it would lock something else
+    NoLock
 };
 
-/// Claims a folder for this process, until the process ends in whichever way. A folder that is not there, or in which
-/// no lock can be made, is nobody's else and ours.
+/// Claims a folder for this process. The claim lasts until the process ends, however it ends. The answer is `Ours`,
+/// too, for a folder that does not exist and for one in which no lock file can be made.
 FolderClaim claimFolder(const std::string& folder);
 
 } // namespace lodestar

@@ -12,13 +12,14 @@ namespace lodestar::MemoryReserve
 namespace
 {
 
-/// Never touched, so that it is room in the address space and in what a limit counts, and costs no memory.
+/// The reserve's size. Nothing is ever written to the reserve, so it takes address space and counts towards a limit,
+/// but uses no memory.
 constexpr std::size_t bytes = 4UL * 1024 * 1024;
 
 std::atomic<void*> reserve = nullptr;
 std::atomic<bool> installed = false;
 
-/// On the thread whose allocation has failed, which tries again after a return.
+/// The new handler. Runs on the thread whose allocation failed; when it returns, that thread allocates again.
 void giveBack()
 {
     void* const kept = reserve.exchange(nullptr);

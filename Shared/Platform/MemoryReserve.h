@@ -4,15 +4,16 @@
 namespace lodestar
 {
 
-/// Memory that is kept aside for the moment when there is none: a few bytes that cannot be had, in the middle of a
-/// request, would end the process. When an allocation fails the reserve is given back and the allocation tried again;
-/// without a reserve it is `std::bad_alloc`, as ever. Whoever asks for a lot, for a feed or a store, takes that for an
-/// error of its own.
+/// Memory kept aside for the moment when memory runs out: without it, an allocation of a few bytes that fails in the
+/// middle of a request would end the process. When an allocation fails, the reserve is freed and the allocation is
+/// tried again. With no reserve left, the allocation throws `std::bad_alloc` as usual. Code that allocates a lot, for a
+/// feed or a store, turns `std::bad_alloc` into an error of its own.
 namespace MemoryReserve
 {
-/// From now on, for the whole process. Once, before other threads run.
+/// Installs the reserve for the whole process. Call it once, before other threads run.
 void install();
-/// Puts memory aside again if it was given back. Any thread, often: it costs a look while the reserve is there.
+/// Refills the reserve if it was freed. Any thread. Cheap enough to call often: with a full reserve it does almost
+/// nothing.
 void topUp() noexcept;
 } // namespace MemoryReserve
 

@@ -34,7 +34,7 @@ NotificationCenter::NotificationCenter() : m_state(std::make_shared<State>()) {}
 
 NotificationCenter& NotificationCenter::defaultCenter()
 {
-    // Never destroyed: screens that end with the process still end their observations.
+    // Never destroyed: screens that live until the process ends still end their observations then.
     static auto& center = *new NotificationCenter;
     return center;
 }
@@ -43,7 +43,7 @@ NotificationCenter::Observation NotificationCenter::addObserver(const std::strin
 {
     auto shared = std::make_shared<const std::function<void()>>(std::move(observer));
     m_state->observers[name].push_back(shared);
-    // The token owns no part of what it observes; its deleter alone does the work.
+    // The token keeps nothing alive; only its deleter matters.
     return {static_cast<void*>(m_state.get()),
             [state = std::weak_ptr(m_state), name, shared = std::move(shared)](void*) mutable {
                 if (const auto alive = state.lock()) {
@@ -59,7 +59,7 @@ void NotificationCenter::postNotification(const std::string& name)
     if (found == m_state->observers.end()) {
         return;
     }
-    // A copy: observers come and go while they are called.
+    // Iterates over a copy: observers add and remove observers while they are called.
     const std::vector<Observer> observers = found->second;
     for (const Observer& observer : observers) {
         (*observer)();

@@ -9,7 +9,7 @@ namespace lodestar
 {
 
 /// Plain named notifications without payload. Main thread only. Observers run at once, in the order in which they were
-/// added; one that is added or removed meanwhile takes effect with the next notification.
+/// added. An observer that is added or removed during a notification counts from the next notification on.
 class NotificationCenter
 {
 public:

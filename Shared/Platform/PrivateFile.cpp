@@ -38,12 +38,12 @@ Result<void> makeFolder(const fs::path& folder)
     }
     const int code = errno;
     if (code == EEXIST && fs::is_directory(folder, ignored)) {
-        return {}; // another process was faster, or the path ends with a slash
+        return {}; // another process made the folder first, or the path ends with a slash
     }
     return failure("folder", folder.string(), "cannot be made", code == EEXIST ? ENOTDIR : code);
 }
 
-/// Closes the descriptor with its owner.
+/// An open file; closed on destruction.
 class OpenFile
 {
 public:
@@ -88,7 +88,7 @@ Result<void> writePrivateFile(const std::string& path, std::string_view bytes)
     if (!file.isOpen()) {
         return failure("file", path, attempt, errno);
     }
-    // Some disks tell that they are full no earlier than when they are asked to have it all.
+    // Some disks report that they are full only at `fsync`.
     if (writeFully(file.descriptor(), bytes) < bytes.size() || (::fsync(file.descriptor()) != 0 && errno != EINVAL)) {
         const int code = errno;
         ::unlink(path.c_str());
@@ -122,7 +122,7 @@ Result<std::string> readPrivateFile(const std::string& path, std::size_t limit, 
             return failure("file", path, attempt, errno);
         }
         if (count == 0) {
-            break; // cut short meanwhile
+            break; // the file was cut short while it was read
         }
         done += static_cast<std::size_t>(count);
     }

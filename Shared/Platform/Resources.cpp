@@ -54,7 +54,7 @@ public:
     }
 
 private:
-    /// A name is never a way out of the folder or into one below.
+    /// A resource's name must not lead out of the folder or into a subfolder.
     static bool isPlain(const std::string& name)
     {
         return !name.empty() && name != "." && name != ".." && name.find('/') == std::string::npos &&

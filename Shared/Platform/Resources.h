@@ -14,20 +14,20 @@ class Resources
 {
 public:
     virtual ~Resources() = default;
-    /// The whole file `name.extension` at the package's top level; nothing when there is no such file.
+    /// The whole file `name.extension` at the package's top level; none when there is no such file.
     virtual std::optional<std::string> contents(const std::string& name, const std::string& extension) const = 0;
-    /// The names of the files in a folder at the package's top level, in the order in which it lists them, which is
-    /// none; nothing when there is no such folder or it cannot be read.
+    /// The names of the files in a folder at the package's top level, in no particular order; none when there is no
+    /// such folder or it cannot be read.
     virtual std::optional<std::vector<std::string>> filesInFolder(const std::string& folder) const;
-    /// The whole file of that name in such a folder; nothing when it cannot be read.
+    /// The whole file with that name in such a folder; none when it cannot be read.
     virtual std::optional<std::string> contentsInFolder(const std::string& folder, const std::string& file) const;
 
-    /// The process's resources: none until `install`.
+    /// The process's resources; there are none until `install`.
     static Resources& main();
     static void install(std::unique_ptr<Resources> resources);
 };
 
-/// Resources read from a folder, searched as given.
+/// Resources read from a folder, whose path is used as given.
 std::unique_ptr<Resources> makeFolderResources(std::string folder);
 
 } // namespace lodestar

@@ -21,7 +21,7 @@ public:
     bool ok() const { return m_state.index() == 0; }
     explicit operator bool() const { return ok(); }
 
-    /// Only when `ok()`.
+    /// Call it only when `ok()`.
     const T& value() const&
     {
         assert(ok());
@@ -37,7 +37,7 @@ public:
         assert(ok());
         return std::move(*std::get_if<0>(&m_state));
     }
-    /// Only when not `ok()`.
+    /// Call it only when not `ok()`.
     const Error& error() const
     {
         assert(!ok());

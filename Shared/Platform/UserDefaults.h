@@ -10,7 +10,7 @@ namespace lodestar
 {
 
 /// Small settings by key, kept from run to run. Implementations are thread-safe. A key is any text (console addresses
-/// among them) and comes back exactly. No key is "no value", which is not the empty string.
+/// among them) and is kept exactly. A missing key means "no value", which differs from the empty string.
 class UserDefaults
 {
 public:
@@ -22,11 +22,11 @@ public:
     virtual void setString(const std::string& value, const std::string& key) = 0;
     virtual void removeObjectForKey(const std::string& key) = 0;
     virtual std::vector<std::string> allKeys() const = 0;
-    /// Writes what is pending to the disk; false when that failed.
+    /// Writes pending changes to the disk; false when that failed.
     virtual bool synchronize() = 0;
 
-    /// The process's defaults: in memory until `install` puts the application's file-backed ones in their place.
-    /// Main thread, before other threads run; the process keeps the object to its end.
+    /// The process's defaults: in memory until `install` puts the application's file-backed ones in their place. Call
+    /// `install` on the main thread, before other threads run; the process then owns the object until it ends.
     static UserDefaults& standard();
     static void install(std::unique_ptr<UserDefaults> defaults);
 };

@@ -9,7 +9,7 @@ namespace lodestar
 namespace
 {
 
-/// By hand and in place: every line of the log begins with a stamp.
+/// Formatted by hand and in place, for speed: every line of the log begins with a stamp.
 void appendDigits(std::string& text, int value, std::size_t count, char end)
 {
     text.append(count, '0');
@@ -19,7 +19,7 @@ void appendDigits(std::string& text, int value, std::size_t count, char end)
     text += end;
 }
 
-/// Up to the seconds, and what follows them.
+/// A time split into whole seconds and the thousandths after them.
 void appendSecond(std::string& text, std::time_t second, char end)
 {
     struct tm utc = {};
@@ -50,7 +50,7 @@ std::string utcStamp(std::time_t second)
 void appendUtcStamp(std::string& text, std::chrono::system_clock::time_point time)
 {
     using namespace std::chrono;
-    // Downwards, so that the thousandths of a time before zero are none below it.
+    // Rounds down, so that the thousandths are never negative, even for times before 1970.
     const auto second = floor<seconds>(time);
     appendSecond(text, system_clock::to_time_t(second), '.');
     appendDigits(text, static_cast<int>(floor<milliseconds>(time - second).count()), 3, 'Z');

@@ -15,14 +15,14 @@ namespace lodestar
 namespace
 {
 
-/// The blocks that a thread is within, innermost first.
+/// One entry for each queue whose block the thread is running, innermost first.
 struct Frame {
     const void* queue;
     const Frame* outer;
 };
 thread_local const Frame* t_frame = nullptr;
 
-/// A thread in `sync` that waits for its turn.
+/// A thread that waits in `sync` for its turn.
 struct Turn {
     std::condition_variable condition;
     bool granted = false;
@@ -30,14 +30,14 @@ struct Turn {
 
 struct Item {
     Task block;
-    Turn* turn = nullptr; ///< the block is run by the thread that waits there, not by the pool
+    Turn* turn = nullptr; ///< set: the thread that waits there runs the block, not the pool
     bool alone = false;
 };
 
 } // namespace
 
-/// Blocks that run on the pool hold the state, so that a queue lives until its last running block has looked for the
-/// next one. Only a suspended queue can go with blocks in it.
+/// Blocks that run on the pool keep the state alive, so a queue lives until its last running block has looked for the
+/// next one. Only a suspended queue can be destroyed with blocks in it.
 struct DispatchQueue::State final : ThreadPool::Owner, std::enable_shared_from_this<DispatchQueue::State> {
     State(std::string queueLabel, Kind queueKind) : label(std::move(queueLabel)), kind(queueKind) {}
 
@@ -125,8 +125,8 @@ void DispatchQueue::State::execute(Task& block) const
     t_frame = frame.outer;
 }
 
-/// On a thread of the pool. Goes on with the queue's next block as long as it may, a number of times: a long queue
-/// then needs no hop a block, and still lets the others have the thread.
+/// Runs on a thread of the pool. Runs up to 64 of the queue's blocks in a row: a long queue then needs no trip through
+/// the pool for each block, and other queues still get the thread.
 void DispatchQueue::State::run(Task& block)
 {
     for (int i = 0; i < 64; ++i) {
@@ -140,8 +140,8 @@ void DispatchQueue::State::run(Task& block)
     ThreadPool::shared().submit(std::move(block), shared_from_this());
 }
 
-/// With the lock held: the next block for this thread, if one may start that the pool is to run. Whatever else may
-/// start beside it is started.
+/// Call with the lock held. Takes the next block for this thread, if that block may start and belongs on the pool.
+/// Starts every other block that may start as well.
 bool DispatchQueue::State::takeNext(Task& block)
 {
     if (!pendingMayStart() || pending.front().turn != nullptr) {
@@ -155,7 +155,7 @@ bool DispatchQueue::State::takeNext(Task& block)
     return true;
 }
 
-/// With the lock held: hands out every block that may start now, in order.
+/// Call with the lock held. Hands out every block that may start now, in order.
 void DispatchQueue::State::startAll()
 {
     while (pendingMayStart()) {

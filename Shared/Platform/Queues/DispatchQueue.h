@@ -10,8 +10,8 @@ namespace lodestar
 {
 
 /// A labelled queue of blocks over the process's one thread pool. Thread-safe. Cheap to copy: copies are the same
-/// queue. Blocks that are waiting when the last copy goes are still run; blocks that wait on a suspended queue go with
-/// it, unrun.
+/// queue. When the last copy is destroyed, waiting blocks still run; blocks that wait on a suspended queue are
+/// destroyed without running.
 ///
 /// The pool grows when blocks wait and every thread is blocked, up to a generous maximum; a block may therefore block.
 class DispatchQueue
@@ -27,10 +27,10 @@ public:
     const std::string& label() const;
     Kind kind() const;
 
-    /// Runs the block later, never on the calling stack.
+    /// Runs the block later, never inside this call.
     void async(Task block) const;
-    /// Runs the block on the calling thread once the queue's turn comes, and returns when it has run. On a serial
-    /// queue: the lock in queue form. Calling it from a block of the same serial queue is a programming error.
+    /// Runs the block on the calling thread when the queue's turn comes; returns when the block has run. On a serial
+    /// queue this works like a lock. Calling it from a block of the same serial queue is a programming error.
     void sync(Task block) const;
     /// Runs the block alone: after every block queued before it, before every block queued after it.
     void barrierAsync(Task block) const;

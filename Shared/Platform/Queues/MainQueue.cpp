@@ -25,7 +25,7 @@ using Wake = std::shared_ptr<const std::function<void()>>;
 
 struct Timer {
     Clock::time_point due;
-    std::uint64_t number; ///< equal times fire in the order in which they were asked for
+    std::uint64_t number; ///< timers with equal times fire in the order in which they were asked for
     Task block;
 };
 
@@ -34,7 +34,7 @@ bool later(const Timer& a, const Timer& b)
     return a.due != b.due ? a.due > b.due : a.number > b.number;
 }
 
-/// The host may be busy with what `runUntil`'s predicate looks at and never queue a block.
+/// A limit on one wait: the host's own work may change the predicate's answer without queueing a block.
 constexpr std::chrono::milliseconds pollInterval{2};
 
 thread_local int t_wakesRunning = 0;
@@ -51,21 +51,21 @@ struct MainQueue::State {
     Ring<Task> blocks;
     std::uint64_t pushed = 0;
     std::uint64_t popped = 0;
-    bool woken = false; ///< the host has been told of the blocks and has not begun to drain them
+    bool woken = false; ///< the host was woken for the waiting blocks and has not begun to drain
 
     Wake wake;
     std::size_t wakesRunning = 0;
     std::condition_variable wakesEnded;
-    std::size_t waiting = 0; ///< in `runUntil`
+    std::size_t waiting = 0; ///< callers in `runUntil`
     std::condition_variable blockCame;
 
-    std::vector<Timer> timers; ///< a heap, the next one in front
+    std::vector<Timer> timers; ///< a heap; the next timer is in front
     std::uint64_t timersMade = 0;
     bool timerThreadExists = false;
     std::condition_variable timersChanged;
 };
 
-/// With the lock held; released on return when a wake function had to be called.
+/// Call with the lock held. The lock is released for a while when a wake function is called.
 void MainQueue::State::push(Task block, std::unique_lock<std::mutex>& lock)
 {
     blocks.push(std::move(block));
@@ -166,7 +166,7 @@ void MainQueue::setWake(std::function<void()> wake)
 {
     std::unique_lock lock(m_state->mutex);
     m_state->wake = wake ? std::make_shared<const std::function<void()>>(std::move(wake)) : nullptr;
-    // On return nobody is in the old function any more: what it refers to may be destroyed then.
+    // After this call no thread is inside the old wake function, so the caller may destroy what it refers to.
     const auto own = static_cast<std::size_t>(t_wakesRunning);
     m_state->wakesEnded.wait(lock, [&] { return m_state->wakesRunning <= own; });
     m_state->woken = false;
@@ -179,7 +179,8 @@ bool MainQueue::drain()
 {
     std::unique_lock lock(m_state->mutex);
     m_state->woken = false;
-    // One at a time and by number, so that a block that drains in turn (a modal loop) runs those behind it in order.
+    // Takes blocks one at a time and counts them, so that a block that drains itself (a modal loop) runs the blocks
+    // behind it in order.
     const std::uint64_t end = m_state->pushed;
     bool ran = false;
     while (m_state->popped < end) {

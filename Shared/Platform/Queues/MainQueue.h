@@ -18,21 +18,22 @@ public:
 
     /// Runs the block on the main thread, later, in order. Thread-safe.
     void async(Task block);
-    /// As `async`, not before the delay has passed (monotonic clock). Thread-safe.
+    /// Like `async`, but runs the block no sooner than after the delay (monotonic clock). Thread-safe.
     void asyncAfter(std::chrono::milliseconds delay, Task block);
-    /// Runs the block at once when called on the main thread, otherwise as `async`. Thread-safe.
+    /// Runs the block at once when called on the main thread; otherwise like `async`. Thread-safe.
     void run(Task block);
-    /// True on the main thread: the one that last called `adoptCurrentThread`, at first the one that created the queue.
+    /// True on the main thread. The main thread is the one that last called `adoptCurrentThread`; at first, the one
+    /// that created the queue.
     bool isCurrent() const;
     void adoptCurrentThread();
 
-    /// The function is called, from any thread and without a lock held, when a drained queue gets a block. It must
-    /// only wake the main loop. Null removes it.
+    /// Sets the function that wakes the host. It is called when a drained queue gets a block, from any thread and
+    /// without a lock held. It must only wake the main loop. Null removes it.
     void setWake(std::function<void()> wake);
-    /// Main thread: runs what was queued when it was called, not what those blocks queue in turn (they wake again), so
-    /// that a loop stays responsive. Returns whether anything ran.
+    /// Main thread. Runs the blocks that were queued before the call. Blocks queued during the call wait for the next
+    /// wake, so that a loop stays responsive. Returns whether any block ran.
     bool drain();
-    /// Main thread, for hosts without an event loop: drains and waits until the predicate holds or the time is over;
+    /// Main thread, for hosts without an event loop. Drains and waits until the predicate holds or the time is over;
     /// returns the predicate's last answer.
     bool runUntil(const std::function<bool()>& predicate, std::chrono::milliseconds limit);
 

@@ -11,8 +11,8 @@
 namespace lodestar
 {
 
-/// Running operations hold the state, and what waits does so only behind running ones, so that none is lost when the
-/// last handle goes.
+/// Running operations keep the state alive, and operations wait only behind running ones; so none is lost when the last
+/// handle is destroyed.
 struct OperationQueue::State final : ThreadPool::Owner, std::enable_shared_from_this<OperationQueue::State> {
     explicit State(std::string queueName) : name(std::move(queueName)) {}
 
@@ -28,7 +28,7 @@ struct OperationQueue::State final : ThreadPool::Owner, std::enable_shared_from_
         }
     }
 
-    /// With the lock held.
+    /// Call with the lock held.
     void start(Task operation)
     {
         ++running;

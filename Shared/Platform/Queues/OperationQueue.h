@@ -10,8 +10,8 @@
 namespace lodestar
 {
 
-/// A concurrent background queue of operations on the process's thread pool, as network completions want it.
-/// Thread-safe; copies are the same queue. Operations that are waiting when the last copy goes are still run.
+/// A concurrent background queue of operations on the process's thread pool, for network completions. Thread-safe;
+/// copies are the same queue. Operations that wait when the last copy is destroyed still run.
 class OperationQueue
 {
 public:
@@ -19,9 +19,10 @@ public:
 
     const std::string& name() const;
     void addOperation(Task operation) const;
-    /// Blocks until the queue has nothing waiting and nothing running.
+    /// Blocks until no operation waits or runs.
     void waitUntilAllOperationsAreFinished() const;
-    /// At most so many operations at once; 0 (as made) is the pool's own limit. One makes the queue serial.
+    /// The most operations that run at once. 0, the initial value, leaves the limit to the pool; 1 makes the queue
+    /// serial.
     void setMaxConcurrentOperationCount(std::size_t count) const;
 
 private:

@@ -21,8 +21,8 @@ namespace lodestar
 namespace
 {
 
-/// For the handler and the unwinder, and the registers of the largest processors. Pages that are not touched cost no
-/// memory.
+/// The second stack's size: room for the handler, the unwinder and the registers of the largest processors. Untouched
+/// pages cost no memory.
 constexpr std::size_t stackBytes = std::size_t{64} << 10;
 
 void nameThisThread([[maybe_unused]] const char* name)
@@ -41,7 +41,7 @@ OwnThread::OwnThread(const char* name)
     nameThisThread(name);
     stack_t present = {};
     if (::sigaltstack(nullptr, &present) != 0 || (present.ss_flags & SS_DISABLE) == 0) {
-        return; // somebody, a sanitizer for one, has given the thread such a stack and will take it back
+        return; // something else, a sanitizer for instance, gave the thread its second stack and will free it
     }
     void* const memory = ::mmap(nullptr, stackBytes, PROT_READ | PROT_WRITE, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0);
     if (memory == MAP_FAILED) {
@@ -79,7 +79,7 @@ void OwnThread::takeLowPriority()
 {
 #if defined(__linux__)
     constexpr int niceness = 10;
-    // Of this thread alone, as Linux takes it.
+    // On Linux this sets the priority of the calling thread alone.
     ::setpriority(PRIO_PROCESS, static_cast<id_t>(::gettid()), niceness);
 #endif
 }

@@ -6,9 +6,10 @@
 namespace lodestar
 {
 
-/// What every thread of ours begins with, as a local of its function: a name for debuggers, at most 15 bytes, and a
-/// second stack, on which a crash that used up the first one can still be written down. Both where the system has them;
-/// the thread runs without what cannot be had. Made and destroyed on the thread itself, the last of its locals to go.
+/// Every thread of ours creates one as a local of its thread function. It gives the thread a name for debuggers, at
+/// most 15 bytes, and a second stack, so that a crash report can be written even after the first stack overflowed.
+/// Where the system refuses either, the thread runs without it. Create it on the thread itself, before all other
+/// locals, so that it is destroyed last.
 class OwnThread
 {
 public:
@@ -17,14 +18,14 @@ public:
     OwnThread(const OwnThread&) = delete;
     OwnThread& operator=(const OwnThread&) = delete;
 
-    /// Lets the calling thread run only when nothing else wants the processor, for good. Where the system has no such
-    /// priority the thread keeps the one it has.
+    /// Lowers the calling thread's priority for good: it runs only when nothing else wants the processor. Where the
+    /// system has no such priority, nothing changes.
     static void takeIdlePriority();
-    /// Lets others go first where they want the processor, for good; what is left is enough to come to an end on a busy
-    /// device.
+    /// Lowers the calling thread's priority a little, for good: others go first when they want the processor. The
+    /// thread still gets enough time to finish its work on a busy device.
     static void takeLowPriority();
-    /// What the system's own tools call the calling thread; where it has no numbers for threads, one that tells the
-    /// threads of this process apart while they live.
+    /// The calling thread's number in the system's own tools. Where the system numbers no threads, a number that is
+    /// unique among the threads of this process while they live.
     static std::uint64_t number();
 
 private:

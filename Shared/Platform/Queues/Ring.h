@@ -17,7 +17,7 @@ public:
     bool empty() const { return m_size == 0; }
     std::size_t size() const { return m_size; }
 
-    /// Only when not `empty()`.
+    /// Call it only when not `empty()`.
     const T& front() const { return m_items[m_head]; }
 
     void push(T&& item)
@@ -28,7 +28,7 @@ public:
         m_items[(m_head + m_size) & (m_capacity - 1)] = std::move(item);
         ++m_size;
     }
-    /// Only when not `empty()`.
+    /// Call it only when not `empty()`.
     T pop()
     {
         T item = std::move(m_items[m_head]);

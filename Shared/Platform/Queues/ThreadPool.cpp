@@ -39,8 +39,8 @@ struct Job {
     }
 };
 
-/// A thread with nothing to do waits on its own condition, so that the one that slept last, whose cache is warm, is
-/// woken and the others age until they end.
+/// An idle thread. Each has its own condition, so that the pool can wake the one that slept last: its cache is warm,
+/// and the others reach their idle limit and end.
 struct Sleeper {
     std::condition_variable condition;
     bool woken = false;
@@ -69,11 +69,11 @@ std::size_t coreCount()
 
 } // namespace
 
-/// Shared with the threads, which may outlive the pool object by a few instructions.
+/// The pool's state, shared with its threads: a thread may outlive the pool object by a few instructions.
 ///
-/// The rule that keeps wake-ups cheap: at most one thread at a time is `searching` (woken or looking, without a job).
-/// While there is one, `submit` wakes nobody; a searching thread that finds a job hands the search on before it runs
-/// the job, if more jobs wait. So a burst of jobs costs a wake-up a thread, not one a job, and no job is overlooked.
+/// How wake-ups stay cheap: at most one thread at a time is `searching` (woken or looking, without a job). While one
+/// searches, `submit` wakes nobody. A searching thread that finds a job first passes the search on if more jobs wait,
+/// then runs the job. So a burst of jobs costs one wake-up for each thread, not for each job, and no job is overlooked.
 struct ThreadPool::State : std::enable_shared_from_this<ThreadPool::State> {
     explicit State(Limits poolLimits) : limits(poolLimits) {}
 
@@ -98,17 +98,17 @@ struct ThreadPool::State : std::enable_shared_from_this<ThreadPool::State> {
     mutable std::mutex mutex;
     Ring<Job> urgentJobs;
     Ring<Job> jobs;
-    std::atomic<bool> jobsWait{false}; ///< mirror of `hasJobs()` for the thread that looks without the lock
+    std::atomic<bool> jobsWait{false}; ///< same as `hasJobs()`, for a thread that looks without the lock
     std::vector<Sleeper*> sleepers;
     std::size_t searching = 0;
     std::size_t threads = 0;
     std::size_t running = 0;
-    bool stopped = false;   ///< no job is started any more
-    bool finishing = false; ///< threads end once no job waits
+    bool stopped = false;   ///< no more jobs start
+    bool finishing = false; ///< threads end when no job waits
     std::condition_variable quiet;
 
     bool watcherExists = false;
-    bool watching = false; ///< jobs waited with every thread at work when last looked
+    bool watching = false; ///< at the last tick, jobs waited and every thread had one
     std::condition_variable watcherCondition;
     std::uint64_t submitted = 0;
     std::uint64_t started = 0;
@@ -120,7 +120,7 @@ struct ThreadPool::State : std::enable_shared_from_this<ThreadPool::State> {
 
 namespace
 {
-/// The pool whose job the thread is running, so that a job which ends the process does not wait for itself.
+/// The pool whose job this thread is running. A job that ends the process must not wait for itself.
 thread_local const void* t_runningPool = nullptr;
 thread_local bool t_jobsAreUrgent = false;
 } // namespace
@@ -136,7 +136,8 @@ void ThreadPool::State::submit(Job job)
     }
 }
 
-/// With the lock held, jobs waiting and nobody searching: gets a thread to search, or has the waiting watched.
+/// Call with the lock held, when jobs wait and nobody searches. Gets a thread to search; if none is to be had, starts
+/// watching the wait.
 void ThreadPool::State::callForHelp()
 {
     if (stopped) {
@@ -155,7 +156,7 @@ void ThreadPool::State::callForHelp()
     }
 }
 
-/// With the lock held. Without a thread for the watcher the pool works on, with the threads that it has.
+/// Call with the lock held. When no thread can be made for the watcher, the pool goes on with the threads that it has.
 void ThreadPool::State::startWatching()
 {
     if (!watcherExists) {
@@ -179,7 +180,7 @@ void ThreadPool::State::beginTick(Clock::time_point now, std::chrono::nanosecond
     tickTime = now;
 }
 
-/// With the lock held. The new thread counts as searching from now on, as a woken one does.
+/// Call with the lock held. The new thread counts as searching at once, like a woken one.
 void ThreadPool::State::startThread()
 {
     try {
@@ -187,7 +188,8 @@ void ThreadPool::State::startThread()
         ++threads;
         ++searching;
     } catch (const std::system_error&) {
-        // The system has no more threads to give. With none at all nothing would ever run; with some, these go on.
+        // The system gives no more threads. Without any thread no job would ever run, so that is an error; otherwise
+        // the existing threads do the work.
         if (threads == 0) {
             throw;
         }
@@ -219,7 +221,8 @@ void ThreadPool::State::work()
     watcherCondition.notify_all();
 }
 
-/// With the lock held, the caller counted as searching; it no longer is on return. False when the thread is to end.
+/// Call with the lock held, while the caller counts as searching; on return it no longer does. False when the thread
+/// must end.
 bool ThreadPool::State::nextJob(Job& job, std::unique_lock<std::mutex>& lock)
 {
     while (!hasJobs() || stopped) {
@@ -238,7 +241,8 @@ bool ThreadPool::State::nextJob(Job& job, std::unique_lock<std::mutex>& lock)
     return true;
 }
 
-/// Looks for a moment, then sleeps. As `nextJob`, but that the caller is searching on a return of true.
+/// Looks for a job for a moment, then sleeps. Call it as `nextJob`; when it returns true, the caller still counts as
+/// searching.
 bool ThreadPool::State::waitForJobs(std::unique_lock<std::mutex>& lock)
 {
     if (!stopped && !finishing && searching == 1) {
@@ -256,7 +260,7 @@ bool ThreadPool::State::waitForJobs(std::unique_lock<std::mutex>& lock)
     return sleep(lock);
 }
 
-/// A few microseconds: a chain of short blocks then runs without a system call a block.
+/// Spins for a few microseconds, so that a chain of short blocks needs no system call for each block.
 void ThreadPool::State::look() const
 {
     for (int i = 0; i < 200 && !jobsWait.load(std::memory_order_relaxed); ++i) {
@@ -299,9 +303,9 @@ void ThreadPool::State::watch()
     watcherExists = false;
 }
 
-/// With the lock held, once a tick while jobs wait. No job started during the tick: the running ones block, and threads
-/// are made by the half of those that there are. Some started, but one that waited at the last tick still waits while
-/// the processor has been idle: one more thread. A processor that was busy has no use for more threads.
+/// Called with the lock held, once a tick while jobs wait. When no job started during the tick, the running jobs block:
+/// the number of threads grows by half. When some started, but a job of the last tick still waits and the processor was
+/// idle: one more thread. When the processor was busy, more threads would not help.
 void ThreadPool::State::growWhenStuck()
 {
     const auto now = Clock::now();

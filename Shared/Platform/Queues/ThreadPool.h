@@ -12,9 +12,9 @@ namespace lodestar
 
 /// The threads behind every queue. Jobs start in the order of `submit`, urgent ones before all others. Thread-safe.
 ///
-/// Up to `threads` jobs run at once as a matter of course. When jobs wait and the running ones do not move on (they
-/// block), more threads are made, a few each tick, up to `maximumThreads`; a thread that finds nothing to do for
-/// `idleLimit` ends, as long as more than `threads` are left. A job that throws ends the process.
+/// Up to `threads` jobs run at once. When jobs wait and the running ones do not move on (they block), each tick makes a
+/// few more threads, up to `maximumThreads`. A thread that finds nothing to do for `idleLimit` ends, as long as more
+/// than `threads` are left. A job that throws ends the process.
 class ThreadPool
 {
 public:
@@ -25,7 +25,7 @@ public:
         std::chrono::milliseconds idleLimit;
     };
 
-    /// The queue that a block belongs to: it runs the block and then does its own book-keeping.
+    /// The queue that a block belongs to. The queue runs the block, then updates its own state.
     class Owner
     {
     public:
@@ -36,8 +36,9 @@ public:
         virtual void run(Task& block) = 0;
     };
 
-    /// While one lives on a thread, the jobs that the thread submits are urgent. Jobs of an urgent job are so in any
-    /// case: what a person waits for stays ahead through all its steps. Made with false it changes nothing.
+    /// While a scope lives on a thread, jobs that the thread submits are urgent. Jobs that an urgent job submits are
+    /// always urgent: work that a person waits for stays ahead through all its steps. A scope made with false changes
+    /// nothing.
     class UrgentScope
     {
     public:
@@ -50,22 +51,22 @@ public:
         const bool m_before;
     };
 
-    /// The process's pool. At the process's exit it starts no more jobs and waits a moment for the running ones; what
-    /// still waits is never run.
+    /// The process's pool. When the process exits, the pool starts no more jobs and waits a moment for the running
+    /// ones; waiting jobs never run.
     static ThreadPool& shared();
 
     explicit ThreadPool(Limits limits);
-    /// Runs what waits, then ends the threads. Not from one of its own jobs.
+    /// Runs all waiting jobs, then ends the threads. Never destroy a pool from one of its own jobs.
     ~ThreadPool();
     ThreadPool(const ThreadPool&) = delete;
     ThreadPool& operator=(const ThreadPool&) = delete;
 
-    /// Runs the block on one of the pool's threads. With an owner, `owner->run(block)` is called, and the owner is kept
-    /// alive until that returns.
+    /// Runs the block on one of the pool's threads. With an owner, the pool calls `owner->run(block)` and keeps the
+    /// owner alive until that returns.
     void submit(Task block, std::shared_ptr<Owner> owner = nullptr);
-    /// Starts no more jobs; returns once those that run (but the calling one) have ended or the time is over.
+    /// Starts no more jobs. Returns when all running jobs except the calling one have ended, or when the time is over.
     void stop(std::chrono::milliseconds limit);
-    /// The threads that there are at this moment, idle ones included.
+    /// The number of threads at this moment, idle ones included.
     std::size_t threadCount() const;
 
 private:
