@@ -18,9 +18,9 @@ namespace lodestar
 namespace
 {
 
-// Issued by the feedback service for this application. It names the application and is no secret.
+// The feedback service issued this key for the application. The key names the application and is no secret.
 constexpr std::string_view feedbackApplicationKey = "lodestar-mobile";
-// The feedback library's mode in which reports are composed on the device.
+// The feedback library's mode in which the device composes reports.
 constexpr int feedbackMode = 2;
 
 } // namespace

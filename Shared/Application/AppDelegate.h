@@ -11,26 +11,26 @@ namespace lodestar
 
 class FeedbackWindow;
 
-/// Start-up, the passcode gate and the end of the process. One a process, main thread.
+/// Start-up, the passcode gate and the end of the process. One per process, main thread.
 class AppDelegate
 {
 public:
-    /// The start-up sequence; a store that cannot be opened ends the process here.
+    /// Runs the start-up sequence. Ends the process when the store cannot be opened.
     bool didFinishLaunchingWithOptions();
     /// Puts a fresh passcode screen in front of whatever is shown, when a passcode is required.
     void applicationDidBecomeActive();
-    /// Nothing is saved and nothing is locked at these three.
+    /// These three neither save nor lock anything.
     void applicationWillResignActive() {}
     void applicationDidEnterBackground() {}
     void applicationWillEnterForeground() {}
     void applicationWillTerminate();
 
-    /// Always the one feedback window of the process, made on first use; never what `setWindow` stored.
+    /// Always the process's one feedback window, which the first call makes; never the window that `setWindow` stored.
     FeedbackWindow* window() const;
-    /// Stores into a member that nothing reads. Meant: the interface is always hosted in the feedback window.
+    /// Stores into a member that nothing reads. This is meant: the feedback window always hosts the interface.
     void setWindow(FeedbackWindow* window) { m_window = window; }
 
-    /// The store stack, which this class owns towards the rest of the application.
+    /// The rest of the application reaches the store stack through these four functions.
     const std::string& applicationDocumentsDirectory() const;
     ManagedObjectModel managedObjectModel() const;
     ObjectContext& managedObjectContext() const;

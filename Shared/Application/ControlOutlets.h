@@ -32,7 +32,7 @@ private:
     bool m_enabled = true;
 };
 
-/// A distance that the scene lays out by, in points. Main thread.
+/// A distance, in points, by which the scene lays itself out. Main thread.
 class LayoutConstraint : public QObject
 {
     Q_OBJECT

@@ -26,7 +26,8 @@ void dismissSheets(ViewController& controller)
     controller.dismissSemiModalView();
 }
 
-/// Popups go with their scene, but only when the running event is over, and a frame may be drawn before.
+/// Hides the window's popups. A popup is destroyed with its scene, but only after the running event, and a frame may be
+/// drawn before that.
 void hidePopups(const QQuickWindow& window)
 {
     for (const QQuickItem* layer : window.contentItem()->childItems()) {

@@ -8,9 +8,9 @@ namespace lodestar
 
 class ViewController;
 
-/// Takes down what a screen and those below it have put up: their sheets, which keep their screens alive, and whatever
-/// alert or action sheet is drawn in the window, at once and without motion. For an interface that is being replaced as
-/// a whole. Main thread.
+/// Takes down, at once and without motion, the sheets of a screen and of those below it, and any alert or action sheet
+/// that the window shows. Sheets keep their screens alive, so call this when an interface is replaced as a whole. Main
+/// thread.
 void discardInterface(ViewController& root, QQuickWindow& window);
 
 } // namespace lodestar

@@ -29,14 +29,14 @@ namespace
 
 constexpr std::string_view ownFile = "Shared/Application/FeedbackSupport";
 
-/// Of the process; nothing is kept before it is set.
+/// The process's data folder. Empty until it is set; nothing is kept before that.
 QString& keptIn()
 {
     static QString folder;
     return folder;
 }
 
-/// Null while there is no window for it.
+/// Null while no window for it exists.
 QPointer<FeedbackHost>& currentHost()
 {
     static QPointer<FeedbackHost> host;
@@ -53,7 +53,7 @@ ReportStore reportStore(const QString& dataFolder)
     return ReportStore((dataFolder + QStringLiteral("/Reports")).toStdString());
 }
 
-/// That the device has a sensor, which is not looked for before the first screen is drawn.
+/// True once a sensor was found: a new run looks for the sensor only after its first screen is drawn.
 QString shakenKey()
 {
     return QStringLiteral("shaken");
@@ -122,7 +122,7 @@ std::vector<std::string> FeedbackSupport::secretsInUse()
             secrets.push_back(*key);
         }
     }
-    // A session key may outlive its console.
+    // A session key may outlive its console, so take every kept key.
     for (const std::string& name : UserDefaults::standard().allKeys()) {
         const auto key = UserDefaults::standard().stringForKey(name);
         if (key && !Setting::isOne(name)) {
@@ -139,12 +139,12 @@ FeedbackSupport::FeedbackSupport(FeedbackWindow& window, const QString& dataFold
     window.feedbackHost()->setUp(setupFor(dataFolder, version));
     VireoLogger::setSecretsProvider(&secretsInUse);
     VireoLogger::setFeedbackPresenter([&window] {
-        // A picture of the feedback screen itself would be of no use.
+        // While the feedback screen is up, a picture would show only that screen.
         if (window.feedbackHost()->screen() == nullptr) {
             window.feedbackHost()->present(grabCovered(window));
         }
     });
-    // What cannot tell a shake, with a touch screen or without, has a button in the console list.
+    // As far as the last run found: a device that cannot be shaken has a button in the console list instead.
     VireoLogger::settings().offersEntry = !KeptState::shared().value(shakenKey()).toBool();
     QObject::connect(
         &window, &QQuickWindow::frameSwapped, &m_untilGone, [this, &window] { startAfterFirstFrame(window); },

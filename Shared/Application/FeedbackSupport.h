@@ -15,22 +15,22 @@ namespace lodestar
 
 class FeedbackWindow;
 
-/// Connects the feedback library to the application: where its files lie, who presents its screen, what shakes. One a
-/// process, main thread, to go before the window does.
+/// Connects the feedback library to the application: it says where the library's files lie, who presents its screen,
+/// and which sensor notices a shake. One per process, main thread; destroy it before the window.
 class FeedbackSupport
 {
 public:
-    /// The folder that everything is kept below; `captureCrashes` calls it.
+    /// Sets the folder below which everything is kept; `captureCrashes` calls this.
     static void keepIn(const QString& dataFolder);
-    /// Crashes are recorded from here on. As early as the data folder is known.
+    /// Records crashes from here on. Call it as soon as the data folder is known.
     static void captureCrashes(const QString& dataFolder, const QString& version);
 
-    /// Takes away all reports, what crashed runs left, the log, which names consoles, and the feedback that somebody
-    /// has begun: part of a reset. Files that were exported are the person's own.
+    /// Part of a reset: removes all reports, what crashed runs left, the log, which names consoles, and feedback that
+    /// somebody has begun. Exported files stay, since they belong to the person.
     static void forgetReports();
-    /// Every password and session key that the application holds, to be taken out of reports. The passcode is not among
-    /// them: it is in no text to begin with, reading it may have to wait for the keychain, and most are so short that
-    /// the gaps it left in times and numbers would tell it. Any thread.
+    /// Every password and session key that the application holds; reports must not contain them. The passcode is not
+    /// included: no text contains it, reading it may have to wait for the keychain, and most passcodes are so short
+    /// that the gaps left in times and numbers would reveal them. Any thread.
     static std::vector<std::string> secretsInUse();
 
     FeedbackSupport(FeedbackWindow& window, const QString& dataFolder, const QString& version);
@@ -42,7 +42,7 @@ private:
     void startAfterFirstFrame(FeedbackWindow& window);
 
     std::unique_ptr<ShakeSensor> m_sensor;
-    QObject m_untilGone; ///< the first frame may come later
+    QObject m_untilGone; ///< ends the connection to the window, whose first frame may come after this object is gone
 };
 
 } // namespace lodestar

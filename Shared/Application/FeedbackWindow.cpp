@@ -25,14 +25,15 @@ namespace
 
 void installApplicationScenes(QQmlEngine& engine)
 {
-    // A static library: naming the generated function is what links its registration in.
+    // Naming the generated function makes the linker keep the registration, which is in a static library.
     [[maybe_unused]] static volatile auto registration = &qml_register_types_Lodestar_Application;
     installKit(engine);
     installViews(engine);
     installFeedbackUI(engine);
 }
 
-/// The passcode screen passes on by itself where none is required: it locks nothing then.
+/// Whether the controller is a passcode screen that locks. While no passcode is required, that screen passes on by
+/// itself and locks nothing.
 bool isLock(const ViewController* controller)
 {
     return qobject_cast<const LoginViewController*>(controller) != nullptr &&
@@ -44,19 +45,19 @@ QUrl mainScene()
     return QUrl(QStringLiteral("qrc:/Lodestar/Application/MainScene.qml"));
 }
 
-/// An engine that has compiled the window's root. It does so while the typeface is read: a window that stood already
-/// would lay out all its text once more for the new face.
+/// Makes an engine that has compiled the window's root, and waits for the typeface, which is read meanwhile. The window
+/// is made only afterwards: with a new typeface, an existing window would lay out all its text once more.
 QQmlEngine* makeEngine()
 {
     auto* const engine = new QQmlEngine;
     installApplicationScenes(*engine);
-    // The engine keeps what it has compiled.
+    // Dropping the component loses nothing: the engine keeps what it has compiled.
     const QQmlComponent root(engine, mainScene());
     UIFont::awaitInstalled();
     return engine;
 }
 
-/// Has the first screen, as it is without a passcode, compiled in the background. The components are the owner's.
+/// Compiles, in the background, the first screen that comes up without a passcode. `owner` owns the components.
 void compileFirstScreen(QQmlEngine& engine, QObject& owner)
 {
     for (const char* scene : {"qrc:/Lodestar/Kit/TabBarView.qml", "qrc:/Lodestar/Kit/NavigationView.qml",
@@ -65,7 +66,7 @@ void compileFirstScreen(QQmlEngine& engine, QObject& owner)
     }
 }
 
-/// Loads the face at the sizes of the first screen.
+/// Loads the typeface at the sizes of the first screen.
 void loadFirstFaces()
 {
     for (const double size : {28, 17, 15, 13, 11}) {
@@ -75,8 +76,8 @@ void loadFirstFaces()
 
 std::unique_ptr<FeedbackWindow>& theWindow()
 {
-    // Never destroyed by itself: where its display goes, the platform calls exit(), and by then what windows are made
-    // of is gone.
+    // The pointer is never destroyed: when the display goes away, the platform calls exit(), and what a window needs
+    // for its destruction is gone by then.
     static auto& window = *new std::unique_ptr<FeedbackWindow>;
     return window;
 }
@@ -86,11 +87,11 @@ std::unique_ptr<FeedbackWindow>& theWindow()
 FeedbackWindow::FeedbackWindow() : QQuickView(makeEngine(), nullptr)
 {
     compileFirstScreen(*engine(), *this);
-    loadFirstFaces();          // Meanwhile: there is nothing else for this thread to do.
-    engine()->setParent(this); // after them: what was made with an engine goes before it
+    loadFirstFaces();          // while the scenes compile; this thread has nothing else to do
+    engine()->setParent(this); // after the components, which must be destroyed before their engine
     setTitle(QStringLiteral("Lodestar"));
     setResizeMode(QQuickView::SizeRootObjectToView);
-    setMinimumSize({320, 320}); // the short side of the smallest phones, in whichever way they are held
+    setMinimumSize({320, 320}); // the short side of the smallest phones, whichever way they are held
 }
 
 FeedbackWindow::~FeedbackWindow() = default;
@@ -106,7 +107,7 @@ FeedbackWindow* FeedbackWindow::shared()
 void FeedbackWindow::tearDown()
 {
     if (theWindow()) {
-        // The scenes bind to their controllers, so they go first.
+        // The scenes bind to their controllers, so the scenes are destroyed first.
         theWindow()->setSource({});
         theWindow()->setRootViewController(nullptr);
         theWindow().reset();
@@ -143,7 +144,7 @@ void FeedbackWindow::motionBegan(EventType type, EventSubtype subtype)
 
 void FeedbackWindow::keyPressEvent(QKeyEvent* event)
 {
-    // A desk cannot be shaken.
+    // Keyboard in place of a shake: nobody shakes a computer on a desk.
     constexpr auto shakeModifiers = Qt::ControlModifier | Qt::ShiftModifier;
     if (event->key() == Qt::Key_F && event->modifiers() == shakeModifiers && !event->isAutoRepeat()) {
         motionBegan(EventType::Motion, EventSubtype::MotionShake);

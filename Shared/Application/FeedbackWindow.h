@@ -28,20 +28,20 @@ public:
     FeedbackWindow();
     ~FeedbackWindow() override;
 
-    /// The one window of the process, made on first use and kept.
+    /// The one window of the process; the first call makes it.
     static FeedbackWindow* shared();
-    /// Ends the one window's drawing and forgets its screens; before the application object goes.
+    /// Ends the window's drawing and forgets its screens. Call it before the application object is destroyed.
     static void tearDown();
 
     ViewController* rootViewController() const { return m_rootViewController.get(); }
-    /// Shows the controller in place of what was shown, which is let go of.
+    /// Shows the controller and lets go of the one that was shown before.
     void setRootViewController(std::shared_ptr<ViewController> controller);
-    /// What feedback lays over the screens.
+    /// Presents the screens that feedback lays over the others.
     FeedbackHost* feedbackHost() { return &m_feedbackHost; }
-    /// Loads the interface's root item. Once, before the window is shown.
+    /// Loads the interface's root item. Call it once, before the window is shown.
     void loadInterface();
 
-    /// A shake opens the feedback screen; every other event is ignored.
+    /// A shake opens the feedback screen; other events do nothing.
     void motionBegan(EventType type, EventSubtype subtype);
 
 Q_SIGNALS:

@@ -15,7 +15,7 @@ namespace
 
 constexpr double animationDuration = 0.3;
 
-/// A picture that is not there leaves its page without one.
+/// Empty when there is no such picture.
 QUrl pictureNamed(const QString& name)
 {
     const QString file = QStringLiteral(":/") + name + QStringLiteral(".png");
@@ -26,7 +26,8 @@ QUrl pictureNamed(const QString& name)
 
 std::vector<IntroPage> IntroView::pages()
 {
-    // The pictures are made with these words: lodestar-screenshots --tour Resources/tour.
+    // The pictures are drawn with these words. After a change make them anew: lodestar-screenshots --tour
+    // Resources/tour.
     return {
         {pictureNamed(QStringLiteral("ts1")), tr("Every console, one list"),
          tr("Health, attention LEDs and events of your whole fleet, refreshed with one pull.")},

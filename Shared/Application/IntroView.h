@@ -24,10 +24,10 @@ class IntroView
 public:
     IntroView() = default;
 
-    /// The pages in order. A picture that is not there leaves its page without one.
+    /// The pages in order. A page whose picture is missing has none.
     static std::vector<IntroPage> pages();
 
-    /// Builds the tour and lays it over the whole of the screen, usually the tab bar controller. Main thread.
+    /// Builds the tour and lays it over the whole view, usually the tab bar controller's. Main thread.
     static void showIntroViewInView(ViewController& view, std::weak_ptr<IntroViewDelegate> delegate);
 };
 

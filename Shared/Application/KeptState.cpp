@@ -21,7 +21,7 @@ namespace
 constexpr auto fileName = "Shared/Application/KeptState";
 constexpr std::size_t sizeLimit = 65536;
 
-/// Replaces the file as a whole; takes it away when there is nothing to keep.
+/// Replaces the file as a whole. Removes it when there is nothing to keep.
 Result<void> replaceFile(const std::string& path, const QByteArray& content)
 {
     const std::string draft = path + ".new";
@@ -46,7 +46,7 @@ struct KeptState::State {
     const DispatchQueue queue{"lodestar.kept-state", DispatchQueue::Kind::Serial};
 };
 
-// Never destroyed: its queue may still be at work when the process ends.
+// The state is never destroyed: its queue may still be at work when the process ends.
 KeptState::KeptState() : m_state(*new State) {}
 
 KeptState& KeptState::shared()

@@ -7,23 +7,23 @@
 namespace lodestar
 {
 
-/// What the application remembers of itself from one start to the next and nobody sets: where its window stood, and
-/// what the keychain still owes. No preference is among it. One a process, in a small file of its own, 0600, in the
-/// data folder; in memory only until a folder is set. Main thread; the file is written on a background queue.
+/// What the application itself remembers from one start to the next, such as its window's place or what the keychain
+/// still has to do. Preferences, which a person sets, are not kept here. One per process, in a small file of its own in
+/// the data folder, mode 0600; only in memory until a folder is set. Main thread; a background queue writes the file.
 class KeptState
 {
 public:
     static KeptState& shared();
 
-    /// Reads what an earlier run kept there. A file that cannot be read is taken as empty.
+    /// Reads what an earlier run kept in the folder. A file that cannot be read counts as empty.
     void openFolder(const QString& folder);
-    /// Undefined when there is none.
+    /// Undefined when no value is kept under the key.
     QJsonValue value(const QString& key) const;
-    /// Undefined takes the value away.
+    /// Undefined removes the value.
     void setValue(const QString& key, const QJsonValue& value);
-    /// Takes all values away, and the file with them.
+    /// Removes all values and the file.
     void clear();
-    /// Waits until everything is written; before the process ends.
+    /// Waits until everything is written. Call it before the process ends.
     void synchronize();
 
 private:

@@ -11,14 +11,14 @@
 namespace lodestar
 {
 
-/// A label's text that gives way, while the keychain is being waited for, to one that says so. A keychain that answers
-/// at once is not mentioned. Main thread.
+/// Shows in a label that the keychain is being waited for, in place of the label's own text. Says nothing while the
+/// wait is too short to be noticed. Main thread.
 class KeychainWait
 {
     Q_DECLARE_TR_FUNCTIONS(KeychainWait)
 
 public:
-    /// The label outlives this.
+    /// The label must outlive this object.
     explicit KeychainWait(LabelOutlet& label) : m_label(label)
     {
         setText({});
@@ -27,7 +27,7 @@ public:
                          [this] { show(tr("Waiting for the system's keychain...")); });
     }
 
-    /// What the label says otherwise; hidden when that is nothing.
+    /// The label's own text; the label is hidden while the text is empty and nothing is waited for.
     void setText(const QString& text)
     {
         m_text = text;
@@ -35,7 +35,7 @@ public:
             show(m_text);
         }
     }
-    /// Each begin has its end.
+    /// Call `end` once for every `begin`.
     void begin()
     {
         constexpr std::chrono::milliseconds unnoticed{500};

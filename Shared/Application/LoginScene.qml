@@ -5,8 +5,8 @@ import QtQuick
 import Lodestar.Application
 import Lodestar.Kit
 
-/// The passcode screen: the application's mark, which moves up for the field and its two buttons. Where the window is too
-/// short the space above the field gives way, then everything scrolls.
+/// The passcode screen: the application's mark, which moves up to make room for the field and its two buttons. In a
+/// window that is too short the space above the field shrinks first; then everything scrolls.
 FocusScope {
     id: scene
 
@@ -14,12 +14,12 @@ FocusScope {
 
     readonly property var inputMethod: Qt.inputMethod
     readonly property real screenHeight: Window.height
-    /// In the scene's points; of no height, on the lower edge, while there is none.
+    /// In the scene's coordinates. Without a keyboard the frame has no height and lies on the window's lower edge.
     property rect keyboardFrame: inputMethod.visible && inputMethod.keyboardRectangle.height > 0
                                  ? inputMethod.keyboardRectangle : Qt.rect(0, screenHeight, width, 0)
     readonly property real shownHeight: height - keyboardFrame.height
 
-    /// 0 the mark alone, 1 all there.
+    /// From 0, where only the mark shows, to 1, where everything shows.
     property real opening: 0
     readonly property real logoStart: Theme.reducedMotion ? controller.logoYAlignment.constant : height / 2
     readonly property real logoCentre: logoStart + (controller.logoYAlignment.constant - logoStart) * opening
@@ -57,7 +57,7 @@ FocusScope {
             controller.viewDidLayoutSubviews(height, screenHeight);
         }
     }
-    /// With a keyboard up the button is to be seen, otherwise the mark.
+    /// Scrolls to the button while a keyboard is up, and to the mark otherwise.
     function settleScroll() {
         const wanted = keyboardFrame.height > 0 ? loginButton.y + loginButton.height + 12 - page.height : 0;
         page.contentY = Math.max(0, Math.min(wanted, page.contentHeight - page.height));
@@ -66,12 +66,13 @@ FocusScope {
     onHeightChanged: tellLayout()
     onScreenHeightChanged: tellLayout()
     function tellKeyboard() {
-        // The frame is read against the window's height.
+        // First the heights: the controller compares the keyboard's frame with the window's height.
         tellLayout();
         controller.keyboardDidChangeFrame(keyboardFrame, 0.25);
     }
 
-    /// What is told before all bindings have their first values would come round to them again.
+    /// False until all bindings have their first values: a call to the controller before that would cause binding
+    /// loops.
     property bool complete: false
     onKeyboardFrameChanged: {
         if (complete) {
@@ -110,7 +111,7 @@ FocusScope {
         contentHeight: Math.max(height, resetButton.y + resetButton.height + 16)
         interactive: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
-        // Here and not with the scene, which hears of a keyboard before the page does.
+        // The page handles this, because the scene notices a keyboard before the page has its new height.
         onHeightChanged: scene.settleScroll()
         onContentHeightChanged: scene.settleScroll()
 
@@ -160,7 +161,7 @@ FocusScope {
             y: field.y - height - 8
             width: page.columnWidth
             wrapMode: Text.Wrap
-            // Otherwise it is the field's name.
+            // Without a note this label names the field, and the field tells a screen reader its name itself.
             Accessible.ignored: !isNote
             Accessible.role: Accessible.StaticText
             Accessible.name: text
@@ -212,7 +213,7 @@ FocusScope {
     }
     Alert {
         outlet: scene.controller.alert
-        // Whatever had the keyboard: the next thing to do is to write.
+        // Whatever had the focus before, the person's next step is to type.
         onClosed: field.edit()
     }
 }

@@ -41,13 +41,13 @@ void LoginViewController::viewDidAppear()
         resetApplicationData();
         return;
     }
-    // The keychain outlives the application's removal. What an earlier installation left in it counts as none at once;
-    // to empty it nobody is kept waiting, or asked for the keychain's own password.
+    // The keychain outlives the application's removal: a passcode that an earlier installation left there counts as
+    // none at once. Emptying the keychain neither keeps the person waiting nor asks for the keychain's own password.
     if (!defaults.boolForKey(Setting::initialLoad)) {
         Passcode::discard();
         defaults.setBool(false, Setting::requirePassword);
     }
-    // Asked only when it matters, and the screen does not wait for the answer.
+    // The keychain is asked only while a passcode is required, and the screen does not wait for the answer.
     if (defaults.boolForKey(Setting::requirePassword)) {
         askWhetherThereIsAPasscode();
     }
@@ -86,7 +86,7 @@ void LoginViewController::readPasscode(const PasscodeUse& use)
                            return;
                        }
                        self->m_keychainWait.end();
-                       // It may have been replaced meanwhile, by another one or by what it guards.
+                       // Another passcode screen or the main interface may have replaced this screen meanwhile.
                        if (self->isInWindow() && !self->m_hasPassedOn) {
                            use(*self, passcode, failure);
                        }
@@ -161,7 +161,7 @@ void LoginViewController::hideKeyboardOnTouch()
 
 void LoginViewController::performLogin()
 {
-    // The same question, while the keychain takes its time.
+    // The keychain has not answered yet, and would be asked the same thing twice.
     if (std::exchange(m_isComparing, true)) {
         return;
     }
@@ -194,11 +194,11 @@ void LoginViewController::resetApplicationData()
     defaults.synchronize();
 
     KeptState::shared().clear();
-    // A keychain that refuses does not stop the rest: "requirePassword" goes below, and with it the lock.
+    // A keychain that refuses does not stop the reset: "requirePassword" is removed below, which ends the lock.
     Passcode::discard();
     deleteEveryCorvel();
     FeedbackSupport::forgetReports();
-    // The note that a reset is under way goes with them, so nothing may be left to do afterwards.
+    // This also removes the note that a reset is under way, so nothing may be left to wipe afterwards.
     removeEveryDefault();
     performShowMainView();
 }
@@ -206,7 +206,7 @@ void LoginViewController::resetApplicationData()
 void LoginViewController::performShowMainView()
 {
     m_hasPassedOn = true;
-    // The switch lets go of this screen.
+    // The switch drops the window's reference to this screen.
     const auto keep = shared_from_this();
     m_showRoot(Storyboard::main().instantiateViewController("mainView"));
 }

@@ -16,8 +16,9 @@
 namespace lodestar
 {
 
-/// The passcode screen, which stands in front of everything: it asks for the passcode, or passes straight on to the
-/// main interface when none is required. A forgotten passcode is answered by wiping everything. Main thread.
+/// The passcode screen, which stands in front of everything: it asks for the passcode, or passes on to the main
+/// interface at once when no passcode is required. A person who forgot the passcode can only wipe everything. Main
+/// thread.
 class LoginViewController : public lodestar::ViewController
 {
     Q_OBJECT
@@ -38,7 +39,7 @@ class LoginViewController : public lodestar::ViewController
     Q_PROPERTY(int shiftDuration READ shiftDuration NOTIFY shiftDurationChanged)
 
 public:
-    /// Replaces the window's screen by the one given; the storyboard's host sets it.
+    /// Puts the given controller in the place of the window's screen; the storyboard's host sets this.
     using RootSwitch = std::function<void(std::shared_ptr<ViewController>)>;
     enum class Up { No, Yes };
 
@@ -49,43 +50,45 @@ public:
     FieldOutlet* passwordTextField() { return &m_passwordTextField; }
     ControlOutlet* loginButton() { return &m_loginButton; }
     ControlOutlet* resetPasswordButton() { return &m_resetPasswordButton; }
-    /// Of the logo's centre, from the top.
+    /// The distance of the logo's centre from the top.
     LayoutConstraint* logoYAlignment() { return &m_logoYAlignment; }
-    /// Between the logo and the field, where the screen is tall enough.
+    /// The distance between the logo and the field, on a screen that is tall enough.
     LayoutConstraint* spaceToPassword() { return &m_spaceToPassword; }
-    /// That the keychain is being waited for; hidden while it is not, or not for long.
+    /// Says that the keychain is being waited for; hidden before the wait becomes noticeable, and while nothing is
+    /// waited for.
     LabelOutlet* keychainNote() { return &m_keychainNote; }
     MenuOutlet* alert() { return &m_alert; }
-    /// Until the opening animation is under way.
+    /// True until the opening animation begins.
     bool isFirstLaunch() const { return m_isFirstLaunch; }
-    /// Milliseconds of the opening animation, and of the last move that the keyboard asked for.
+    /// Milliseconds: the opening animation's delay and length, and the length of the last move for a keyboard.
     int openingDelay() const { return 100; }
     int openingDuration() const { return 1000; }
     int shiftDuration() const { return m_shiftDuration; }
 
-    /// The scene's height and the main screen's, which is the window's, in points; whenever either changes.
+    /// The heights, in points, of the scene and of the main screen, which is the window. Called whenever either
+    /// changes.
     Q_INVOKABLE void viewDidLayoutSubviews(double viewHeight, double mainScreenHeight);
 
-    /// Compares the field, as it is now, with the stored passcode, character by character. As often as one likes, but
-    /// not before the keychain has answered.
+    /// Compares the field's present text with the stored passcode, character by character. Attempts are not limited,
+    /// but none begins while the keychain still owes the answer to another.
     Q_INVOKABLE void performLogin();
-    /// Asks before it wipes.
+    /// Asks the person, then wipes.
     Q_INVOKABLE void resetPassword();
-    /// Passcode, consoles, session keys and settings go; the main interface comes up as on the first day.
+    /// Removes passcode, consoles, session keys and settings, and shows the main interface as on the first day.
     void resetApplicationData();
     void aestheticModifications();
     void firstAnimation();
-    /// The keyboard's frame when its motion, of that many seconds, ends, on the main screen.
+    /// `endFrame` is where the keyboard stops, on the main screen; `animationDuration` is how many seconds it moves.
     Q_INVOKABLE void keyboardDidChangeFrame(const QRectF& endFrame, double animationDuration);
-    /// The distance is not used. That is meant: the field moves to the same place over any keyboard.
+    /// The distance is not used. This is meant: the field moves to the same place for every keyboard.
     void shiftKeyboardDistance(int distance, Up up, double animationDuration);
-    /// Takes the keyboard from the field. Always true.
+    /// Takes the focus from the field. Always true.
     bool textFieldShouldReturn(FieldOutlet* textField);
-    /// The return key: takes an on-screen keyboard away; on a keyboard that lies on the desk it logs in.
+    /// The return key: dismisses an on-screen keyboard; on a physical keyboard it logs in.
     Q_INVOKABLE void returnPressed();
     Q_INVOKABLE void hideKeyboardOnTouch();
 
-    /// Follows the segue "showMainView": builds a new main interface in this screen's place.
+    /// Follows the segue "showMainView": replaces this screen by a new main interface.
     void performShowMainView();
 
 Q_SIGNALS:
@@ -102,7 +105,7 @@ private:
 
     double openedLogoPosition() const;
     void askWhetherThereIsAPasscode();
-    /// The function is not called when the screen has gone before the answer comes.
+    /// The function is not called if the screen is gone, or no longer shown, when the answer comes.
     void readPasscode(const PasscodeUse& use);
 
     RootSwitch m_showRoot;

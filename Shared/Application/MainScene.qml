@@ -3,8 +3,8 @@ import QtQuick
 import Lodestar.Application
 import Lodestar.Kit
 
-/// What fills the window: whichever controller is its root. The window itself tells controllers of their appearance, so
-/// that a screen is locked before it is drawn.
+/// The window's content, which is the scene of the window's root controller. The window itself tells controllers that
+/// they appear, so that a screen is locked before it is drawn.
 SceneView {
     id: scene
 
@@ -15,7 +15,7 @@ SceneView {
     LayoutMirroring.enabled: Theme.mirrored
     LayoutMirroring.childrenInherit: true
 
-    // Made when feedback is first asked for: it has no part in the start.
+    // Loaded when feedback is first needed, so that it does not slow the start.
     Loader {
         readonly property bool needed: scene.window.feedbackHost.needed
 

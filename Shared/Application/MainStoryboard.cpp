@@ -49,7 +49,7 @@ std::shared_ptr<ViewController> inNavigation(const char* identifier)
     return makeController<NavigationController>(Storyboard::main().instantiateViewController(identifier));
 }
 
-/// The main interface: the console list and the dashboard, each in a stack of its own, behind the tab bar.
+/// The main interface: a tab bar with the console list and the dashboard, each in a navigation stack of its own.
 std::shared_ptr<ViewController> makeMainInterface()
 {
     return makeController<TabBarController>(std::vector<TabBarItem>{

@@ -6,7 +6,7 @@
 namespace lodestar
 {
 
-/// Fills the storyboard "Main" with every scene there is. Once, before the first screen is made.
+/// Registers every scene of the storyboard "Main". Call it once, before the first screen is made.
 void registerMainStoryboard(LoginViewController::RootSwitch showRoot);
 
 } // namespace lodestar

@@ -65,7 +65,7 @@ OneInstance::OneInstance(QQuickWindow& window, const QString& folder) : m_window
 
 void OneInstance::listen()
 {
-    QLocalServer::removeServer(m_socket); // of a process that was killed; the folder is ours
+    QLocalServer::removeServer(m_socket); // left by a process that was killed: the folder is ours alone
     if (!m_server.listen(m_socket)) {
         LODESTAR_LOG(ownFile, "listen", "a further start cannot show this window: {}",
                      m_server.errorString().toStdString());

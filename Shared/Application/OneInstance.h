@@ -10,12 +10,12 @@ class QLocalSocket;
 namespace lodestar
 {
 
-/// Claims the data folder for this process. False when the process is to end: standard error then says why, in one
-/// line, and where another process has the folder, that one was asked to show its window.
+/// Claims the data folder for this process. When this is false, the process must end: one line on standard error says
+/// why. If another process has the folder, that process has been asked to show its window.
 bool claimDataFolder(const QString& folder);
 
-/// Shows the window when a further start on the same data folder asks for it, through a socket in that folder, which
-/// nobody else may enter. It listens from the first frame on, which is not to wait for it. Main thread.
+/// Shows the window when another start on the same data folder asks for it through a socket in that folder, which only
+/// this user may enter. Listens from the first frame on, so that the frame need not wait. Main thread.
 class OneInstance : public QObject
 {
     Q_OBJECT

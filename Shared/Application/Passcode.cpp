@@ -17,24 +17,25 @@ constexpr auto fileName = "Shared/Application/Passcode";
 constexpr auto service = "Login";
 constexpr auto account = "Admin";
 
-/// Kept while the keychain holds a passcode that is none any more.
+/// Set while the keychain still holds a passcode that was discarded.
 QString discardKey()
 {
     return QStringLiteral("discardPasscode");
 }
-/// The code of the failure that switched the lock off.
+/// Holds the code of the failure that switched the lock off.
 QString lockOffKey()
 {
     return QStringLiteral("lockOff");
 }
 
-/// Of the process.
+/// The state of the whole process.
 struct Readings {
     bool exists = false;
     std::optional<Error> existsFailure;
-    int recomputations = 0; ///< under way
+    int recomputations = 0; ///< how many are under way
     std::vector<std::function<void()>> whenKnown;
-    /// Those who wait for a reading under way, of each kind; a write ends what may be shared.
+    /// By kind of prompt, the readers that share a reading under way. A write resets both: later reads must see its
+    /// text.
     std::shared_ptr<std::vector<Passcode::Read>> waiting[2];
 };
 
@@ -73,7 +74,7 @@ void deliver(const std::vector<Passcode::Read>& readers, const Result<std::strin
     if (!result) {
         failure = result.error();
         LODESTAR_LOG(fileName, "+[Passcode stored]", "The passcode cannot be read: {}", description(*failure));
-    } else if (!isToBeDiscarded()) { // it may have been forgotten meanwhile
+    } else if (!isToBeDiscarded()) { // the passcode may have been discarded while it was read
         passcode = result.value();
     }
     for (const Passcode::Read& reader : readers) {

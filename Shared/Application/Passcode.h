@@ -13,43 +13,43 @@
 namespace lodestar
 {
 
-/// The application's passcode, which the keychain keeps as it was typed. The empty text stands for none. Main thread;
-/// nothing waits for the keychain: its answers come on the main thread, perhaps before the call returns, in the order
-/// of the calls.
+/// The application's passcode, which the keychain keeps as it was typed. The empty text means that there is none. Main
+/// thread, which never waits for the keychain: answers come on the main thread in the order of the calls, perhaps
+/// before the call returns.
 class Passcode
 {
     Q_DECLARE_TR_FUNCTIONS(Passcode)
 
 public:
     using Prompt = Keychain::Prompt;
-    /// A keychain that cannot be read counts as one without a passcode; `failure` then tells why, and so does the log.
+    /// When the keychain cannot be read, the passcode is empty and `failure` says why; the failure is logged, too.
     using Read = std::function<void(const std::string& passcode, const std::optional<Error>& failure)>;
 
-    /// What is asked again while the answer is still to come shares that answer: one prompt, not two.
+    /// Reads of one kind share an answer that is still to come, so that the person sees one prompt, not two.
     static void read(Prompt prompt, Read answer);
-    /// A failure is logged, too.
+    /// Stores the passcode; the empty text removes it. A failure is logged.
     static void store(const std::string& passcode, Keychain::Written answer);
-    /// Empties whatever the keychain holds, without asking anybody. Where that cannot be done now what is there counts
-    /// as none from now on, in later runs too, and is emptied as soon as the keychain allows it.
+    /// Removes the passcode without a prompt. If the keychain cannot be emptied now, its passcode counts as none from
+    /// now on, in later runs too, and is removed as soon as the keychain allows it.
     static void discard();
 
-    /// Whether there was a passcode when the settings or the passcode sheet last loaded; one for the process. Saving
-    /// does not change it: the next of these loads does. That is meant.
+    /// Whether a passcode existed when the settings or the passcode sheet last loaded; one value per process. Saving a
+    /// passcode does not change it, only the next of these loads does. This is meant.
     static bool exists();
     static void recomputeExists(Prompt prompt);
-    /// Why the last of these loads could not tell.
+    /// Why the last of these loads could not read the keychain; empty when it could.
     static const std::optional<Error>& existsFailure();
-    /// Runs the function at once, or when the load under way has its answer.
+    /// Calls the function at once, or when the load under way has its answer.
     static void whenExistsIsKnown(std::function<void()> function);
 
-    /// The failure in a person's words, a sentence without its stop.
+    /// The failure in words for a person: a sentence without its full stop.
     static QString words(const Error& failure);
 
-    /// The lock was switched off because the keychain could not be read. Kept until `forgetLockOff`, over the end of
-    /// the process.
+    /// Notes that the lock was switched off because the keychain could not be read. Kept, across restarts, until
+    /// `forgetLockOff`.
     static void rememberLockOff(const Error& failure);
     static void forgetLockOff();
-    /// What to tell a person about it: empty for nothing.
+    /// The note in words for a person; empty when there is none.
     static QString lockOffWords();
 };
 

@@ -3,8 +3,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Lodestar.Kit
 
-/// A field of its own, 48 high, for a text that nobody else is to read: it is drawn as dots from the first letter on
-/// unless its owner looks, is not copied, and no keyboard learns it.
+/// A field, 48 high, for a text that nobody else may read. The field draws dots from the first letter on unless its
+/// owner chooses to look; its text cannot be copied, and no keyboard learns it.
 T.TextField {
     id: input
 

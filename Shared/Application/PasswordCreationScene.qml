@@ -3,7 +3,7 @@ import QtQuick
 import Lodestar.Application
 import Lodestar.Kit
 
-/// The passcode sheet's form, below the bar of its sheet: the old passcode, if there is one, and the new one twice.
+/// The form of the passcode sheet, below the sheet's bar: the old passcode, if there is one, and the new one twice.
 SheetContent {
     id: scene
 
@@ -84,7 +84,7 @@ SheetContent {
     }
     Alert {
         outlet: scene.sheet.alert
-        // Saving took the keyboard from the fields and emptied them: the next thing to do is to write again.
+        // Saving took the focus from the fields and may have emptied them; the person's next step is to type again.
         onClosed: scene.firstField.edit(Qt.OtherFocusReason)
     }
 

@@ -56,7 +56,7 @@ bool PasswordCreationViewController::fieldsValidate(const std::string& stored) c
 
 void PasswordCreationViewController::savePW()
 {
-    // The sheet takes a moment to slide away.
+    // Closed: the sheet takes a moment to slide away and can be pressed meanwhile.
     if (m_closed || std::exchange(m_isSaving, true)) {
         return;
     }
@@ -95,21 +95,21 @@ void PasswordCreationViewController::saveOver(const std::string& stored, const s
 void PasswordCreationViewController::saveEnded(const std::string& stored, const Result<void>& written)
 {
     if (m_closed) {
-        // Cancelled while the keychain took its time.
+        // The person cancelled while the keychain was writing: put the old passcode back.
         if (written) {
             Passcode::store(stored, [](const Result<void>&) {});
         }
         return;
     }
     if (!written) {
-        // Nothing counts as saved. Timed out, it may yet be carried out: then the next attempt finds the new passcode
-        // in the place of the old one.
+        // Nothing counts as saved. A write that timed out may still be carried out: the next attempt then finds the new
+        // passcode as the stored one.
         refuse(tr("%1. The passcode was not saved.").arg(Passcode::words(written.error())));
         return;
     }
     const auto settings = m_parentSettings;
     close();
-    // The sheet's own alert would go with it.
+    // An alert of the sheet would vanish with the sheet, so the settings show it.
     MenuOutlet* const shown = settings ? settings->alert() : &m_alert;
     shown->present(tr("Password Saved"), {}, {{tr("Continue")}}, 0, {});
 }
@@ -129,8 +129,8 @@ void PasswordCreationViewController::cancel()
 
 void PasswordCreationViewController::viewDidDisappear()
 {
-    // The lock may take the settings away while the keychain still works for this. They may be the ones who dismiss it:
-    // let that return first.
+    // The passcode screen may replace the settings while the keychain still works for this sheet. The settings may be
+    // the caller, so let go of them only after the call has returned.
     MainQueue::shared().async([settings = std::exchange(m_parentSettings, nullptr)] {});
 }
 
@@ -145,7 +145,7 @@ void PasswordCreationViewController::close()
     if (std::exchange(m_closed, true)) {
         return;
     }
-    // The settings drop their sheet, and with it perhaps the last reference to this.
+    // The settings let go of their sheet, and may hold the last reference to this object.
     const auto keep = shared_from_this();
     m_parentSettings.reset();
     NotificationCenter::defaultCenter().postNotification("ClosePasswordCreationView");

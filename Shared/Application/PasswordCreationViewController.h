@@ -16,8 +16,8 @@ namespace lodestar
 
 class SettingsViewController;
 
-/// The passcode sheet: sets the passcode, or changes it for whoever knows the old one. It asks for its own closing with
-/// the notification "ClosePasswordCreationView". Main thread.
+/// The passcode sheet: sets a passcode, or changes it for a person who knows the old one. The sheet asks to be closed
+/// with the notification "ClosePasswordCreationView". Main thread.
 class PasswordCreationViewController : public lodestar::ViewController
 {
     Q_OBJECT
@@ -33,29 +33,29 @@ class PasswordCreationViewController : public lodestar::ViewController
     Q_PROPERTY(double separatorRight READ separatorRight CONSTANT)
 
 public:
-    /// Keeps the settings, which show that the passcode is saved once the sheet has gone.
+    /// Keeps the settings alive. They show that the passcode is saved after the sheet has gone.
     void setParentSettings(std::shared_ptr<SettingsViewController> settings);
 
     LabelOutlet* navigationBar() { return &m_navigationBar; }
     FieldOutlet* oldPassword() { return &m_oldPassword; }
     FieldOutlet* updatePassword() { return &m_updatePassword; }
     FieldOutlet* verifyPassword() { return &m_verifyPassword; }
-    /// Below the fields: what a passcode may be, or that the keychain is being waited for.
+    /// The text below the fields: the rule for passcodes, or a note that the keychain is being waited for.
     LabelOutlet* note() { return &m_note; }
     MenuOutlet* alert() { return &m_alert; }
     double separatorLeft() const { return 10; }
     double separatorRight() const { return 15; }
 
-    /// Points: row 0 is the old passcode, 1 and 2 the new one twice, 3 the note below them.
+    /// The row's height in points. Row 0 is the old passcode, rows 1 and 2 are the new one twice, row 3 is the note.
     Q_INVOKABLE int heightForRowAtIndexPath(int row) const;
-    /// Whether the old passcode is the stored one, if there is one, and the new one is not empty. Nothing else is asked
-    /// of it.
+    /// Whether the old passcode equals the stored one, if there is one, and the new one is not empty. The new passcode
+    /// need meet no other rule.
     bool fieldsValidate(const std::string& stored) const;
-    /// The keychain may take its time: the fields are disabled meanwhile. When it fails they keep their texts.
+    /// Saves the passcode. The fields are disabled while the keychain works, and keep their texts if it fails.
     Q_INVOKABLE void savePW();
-    /// Whatever a save under way has written is taken back.
+    /// Closes the sheet. A save that is under way is undone.
     Q_INVOKABLE void cancel();
-    /// Takes the keyboard from the field. Always true.
+    /// Takes the focus from the field. Always true.
     Q_INVOKABLE bool textFieldShouldReturn(lodestar::FieldOutlet* textField);
     Q_INVOKABLE void hideKeyboardOnTouch();
 

@@ -17,7 +17,7 @@ namespace lodestar
 namespace
 {
 
-/// Above the layer in which sheets and alerts stand.
+/// The cover's z; it lies above the layer that holds sheets and alerts.
 constexpr double aboveEverything = 1e7;
 
 bool isShown(const QQuickView& window)
@@ -53,8 +53,9 @@ void PrivacyCover::applicationStateDidChange(Qt::ApplicationState state)
 {
     m_state = state;
     if (state == Qt::ApplicationActive) {
-        // Each time the keyboard comes back, on a desk as well: that the window stayed in sight tells nothing about who
-        // returns to it. Meant, like the passcode after a dialog of the system.
+        // Locks each time the keyboard focus comes back, on a desk too: that the window stayed in sight does not tell
+        // who returns to it. A dialog of the system that took the focus thus leads to the passcode screen as well. Both
+        // are meant.
         m_owesLock = true;
         becomeActive();
     } else if (state != Qt::ApplicationInactive || m_device == Device::Phone) {
@@ -92,7 +93,7 @@ void PrivacyCover::windowDidChange()
 
 void PrivacyCover::becomeActive()
 {
-    // A window may get the keyboard first and come into sight then.
+    // The window may get the keyboard focus before it comes into sight, so the lock may be done already.
     if (std::exchange(m_owesLock, false)) {
         m_becomeActive();
     }
@@ -119,7 +120,7 @@ void PrivacyCover::cover()
         return;
     }
     m_cover->setParent(root);
-    // A reader reads what is visible, whatever lies above it.
+    // Screen readers read every visible item, even below the cover.
     for (QQuickItem* item : beneath) {
         if (item->isVisible()) {
             item->setVisible(false);

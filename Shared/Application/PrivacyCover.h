@@ -15,21 +15,21 @@ class QScreen;
 namespace lodestar
 {
 
-/// Tells when the application becomes active, and covers a window that is not to be seen meanwhile, while a passcode is
-/// required: what the system keeps as the application's picture shows nothing of the interface, nor does a reader, and
-/// neither does the first frame of a window that comes back. The cover stays until the application becomes active. It
-/// locks nothing; that happens then. Main thread.
+/// While a passcode is required, covers the window when it goes out of sight, until the application becomes active
+/// again. So neither the picture that the system keeps of the application, nor a screen reader, nor the first frame of
+/// a window that comes back shows anything of the interface. The cover itself locks nothing: when the application
+/// becomes active, the lock comes before the cover goes. Main thread.
 ///
-/// On a desk a window that others have the keyboard of is still in sight, for the one who left it there: it stays as
-/// it is. What is minimised, hidden or on another workspace is covered. On a phone the screen is the application's
-/// alone: who takes the keyboard takes the screen, and the system's picture is made then.
+/// On a desk, a window without the keyboard focus is still in sight, for the person who left it there, and is not
+/// covered. A window that is minimised, hidden or on another workspace is covered. On a phone, another program that
+/// takes the focus takes the whole screen, and the system takes its picture then; so losing the focus is enough.
 class PrivacyCover : public QObject
 {
 public:
     enum class Device { Phone, Desk };
     static Device deviceOf(const QScreen& screen);
 
-    /// The window outlives this. The function locks the interface if a passcode is required.
+    /// The window must outlive this object. `becomeActive` locks the interface if a passcode is required.
     PrivacyCover(QQuickView& window, Device device, std::function<void()> becomeActive);
 
     void applicationStateDidChange(Qt::ApplicationState state);
@@ -46,8 +46,8 @@ private:
     const std::function<void()> m_becomeActive;
     Qt::ApplicationState m_state;
     bool m_wasShown;
-    bool m_owesLock = false;      ///< before the cover goes
-    QPointer<QQuickItem> m_cover; ///< of the window
+    bool m_owesLock = false;      ///< whether `becomeActive` is to be called before the cover goes
+    QPointer<QQuickItem> m_cover; ///< owned by the window
     std::vector<QPointer<QQuickItem>> m_covered;
 };
 

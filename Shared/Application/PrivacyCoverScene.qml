@@ -2,7 +2,7 @@
 import QtQuick
 import Lodestar.Kit
 
-/// The window without its content: the passcode screen as it opens.
+/// Shown in place of the window's content; looks as the passcode screen does when it opens.
 ModalLayer {
     anchors.fill: parent
     Accessible.role: Accessible.Pane

@@ -45,7 +45,7 @@ PageScaffold {
                 iconName: "lock"
                 chevron: false
                 pressable: false
-                Accessible.ignored: true // its switch speaks for it
+                Accessible.ignored: true // the switch has the row's name
 
                 Switch {
                     objectName: "passwordSwitch"

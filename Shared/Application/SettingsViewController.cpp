@@ -25,7 +25,7 @@ constexpr IndexPath versionRow{1, 1};
 constexpr IndexPath openSourceRow{1, 2};
 constexpr IndexPath licenceRow{1, 3};
 
-// Points of the sheet below its bar: with the row for the old passcode, and without.
+// The sheet's height below its bar, in points: with the row for the old passcode, and without it.
 constexpr double sheetHeightWithOldPasscode = 164;
 constexpr double sheetHeight = 119;
 
@@ -52,7 +52,7 @@ void SettingsViewController::viewDidLoad()
 
 void SettingsViewController::viewDidAppear()
 {
-    // It was emptied for the back button of the screen that was pushed.
+    // `pushWithoutTitle` emptied the title for the pushed screen's back button.
     setTitle(tr("Settings"));
 }
 
@@ -86,7 +86,8 @@ void SettingsViewController::turnOffWithoutPasscode()
     }
     Passcode::read(Passcode::Prompt::No,
                    [weak = weak_from_this()](const std::string& passcode, const std::optional<Error>& failure) {
-                       // What is locked up is there: the passcode screen asks for it, and decides.
+                       // A locked keychain holds its passcode still: the passcode screen asks for it later and decides
+                       // then.
                        if (!passcode.empty() || (failure && failure->code == Keychain::locked)) {
                            return;
                        }
@@ -148,8 +149,8 @@ void SettingsViewController::presentPasscodeSheet()
     if (!sheet || std::exchange(m_isOpeningSheet, true)) {
         return;
     }
-    // Loading computes anew whether there is a passcode, which rows and height tell by. That may wait for a person who
-    // unlocks the keychain.
+    // Loading the sheet reads anew whether there is a passcode, which decides on the sheet's rows and height. The
+    // answer may wait for a person to unlock the keychain.
     sheet->loadViewIfNeeded();
     m_keychainWait.begin();
     whenPasscodeIsKnown([sheet](SettingsViewController& self) {
@@ -171,7 +172,8 @@ void SettingsViewController::showIntroTour()
 
 void SettingsViewController::pushWithoutTitle(std::string_view identifier)
 {
-    // Emptied before the push: the pushed screen's bar reads its back button's text once, as it is made.
+    // The title is emptied before the push: the pushed screen's bar reads the text of its back button only once, when
+    // it is made.
     if (Storyboard::main().hasScene(identifier) && navigationController() != nullptr) {
         setTitle(QStringLiteral(""));
         openScene(*this, identifier, {});

@@ -15,8 +15,8 @@
 namespace lodestar
 {
 
-/// The settings: whether a passcode is required, which is the application's only preference, and the ways to the intro
-/// tour and the about screens. Main thread.
+/// The settings: whether a passcode is required, which is the application's only preference, and ways to the tour and
+/// the about screens. Main thread.
 class SettingsViewController : public lodestar::SheetHostController, public PagedIntroDelegate
 {
     Q_OBJECT
@@ -34,29 +34,29 @@ class SettingsViewController : public lodestar::SheetHostController, public Page
 
 public:
     SwitchOutlet* passwordSwitch() { return &m_passwordSwitch; }
-    /// The row that changes the passcode: disabled it takes no touches.
+    /// The row that changes the passcode; while disabled it takes no touches.
     ControlOutlet* passwordCell() { return &m_passwordCell; }
     ControlOutlet* passwordCellLabel() { return &m_passwordCellLabel; }
     ImageOutlet* passwordCellArrow() { return &m_passwordCellArrow; }
-    /// Why there is no lock, or none can be told of, below the rows that it is about; hidden while there is nothing to
-    /// say.
+    /// Says, below the passcode's rows, why there is no lock or why none can be confirmed. Hidden while there is
+    /// nothing to say.
     LabelOutlet* keychainNote() { return &m_keychainNote; }
-    /// What the passcode sheet says after it has gone.
+    /// Shows the passcode sheet's last message, after the sheet has gone.
     MenuOutlet* alert() { return &m_alert; }
     double separatorLeft() const { return 10; }
     double separatorRight() const { return 15; }
-    /// The application's; beside the row that leads to the release notes.
+    /// The application's version, shown beside the row that leads to the release notes.
     QString version() const;
 
-    /// The switch was flipped by hand.
+    /// Called when the person flips the switch.
     Q_INVOKABLE void togglePassword();
-    /// Section 0: the switch, change passcode. Section 1: tour, release notes, notices, licence agreement. A scene that
-    /// the storyboard does not have is not opened. The row goes back to its unpressed look by itself.
+    /// Section 0: the switch, change passcode. Section 1: tour, release notes, notices, licence agreement. A row whose
+    /// scene the storyboard lacks opens nothing. The row itself goes back to its unpressed look.
     void didSelectRowAtIndexPath(IndexPath indexPath);
     Q_INVOKABLE void selectRow(int section, int row) { didSelectRowAtIndexPath({section, row}); }
 
     void hideModalView();
-    /// Nothing: the settings are as they were.
+    /// Does nothing: the tour leaves the settings as they were.
     void introDidFinish() override {}
 
 protected:
@@ -70,7 +70,7 @@ private:
     void setPasswordCellEnabled(bool enabled);
     void turnOffWithoutPasscode();
     void updateKeychainNote();
-    /// The function is not called when these settings are gone by then.
+    /// The function is not called if these settings are destroyed before the answer.
     void whenPasscodeIsKnown(const std::function<void(SettingsViewController&)>& function);
     void presentPasscodeSheet();
     void showIntroTour();

@@ -29,7 +29,7 @@ ShakeSensor::ShakeSensor(std::function<void()> shaken) : m_state(std::make_uniqu
 {
     m_state->shaken = std::move(shaken);
     QAccelerometer& sensor = m_state->sensor;
-    // Where there is none, a dummy connects and starts as if it were one.
+    // On a device without an accelerometer Qt connects and starts a dummy instead.
     if (!sensor.connectToBackend() || sensor.identifier().startsWith("dummy") || sensor.identifier().isEmpty()) {
         return;
     }

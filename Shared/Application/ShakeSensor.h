@@ -7,7 +7,8 @@
 namespace lodestar
 {
 
-/// Calls the function when the device is shaken, where it has an accelerometer. Main thread.
+/// Calls the function on the main thread when the device is shaken. Without an accelerometer it never does. Main
+/// thread.
 class ShakeSensor
 {
 public:
@@ -16,7 +17,7 @@ public:
     ShakeSensor(const ShakeSensor&) = delete;
     ShakeSensor& operator=(const ShakeSensor&) = delete;
 
-    /// Whether the device can be shaken at all.
+    /// Whether the device has an accelerometer.
     bool isThere() const;
 
 private:

@@ -20,7 +20,7 @@ namespace
 
 constexpr int endingSignals[] = {SIGTERM, SIGINT, SIGHUP};
 
-// The handler may only write; the main loop reads.
+// A signal handler may do little more than write; the main loop reads.
 int signalPipe[2] = {-1, -1};
 
 void noteSignal(int)

@@ -8,7 +8,7 @@ namespace lodestar
 {
 
 /// Turns the system's requests to end (SIGTERM, SIGINT, SIGHUP) into a call on the main thread, so that the process
-/// ends as if its window had been closed. Where there are no such signals it does nothing. Main thread, one at a time.
+/// ends as if its window had been closed. Does nothing on systems without these signals. Main thread, one at a time.
 class TerminationSignals
 {
 public:

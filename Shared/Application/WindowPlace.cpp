@@ -27,7 +27,7 @@ QRect rectOf(const QJsonObject& kept)
     return {number("x"), number("y"), number("width"), number("height")};
 }
 
-/// Where the window's upper edge, by which it can be moved, can still be got hold of; null when that is nowhere.
+/// The screen on which enough of the window's upper edge lies to move the window by it; null when there is none.
 const QScreen* screenOf(const QRect& place)
 {
     constexpr int holdable = 48;
@@ -44,7 +44,7 @@ const QScreen* screenOf(const QRect& place)
 WindowPlace::WindowPlace(QWindow& window) : m_window(window)
 {
     restore();
-    // A maximised window hears of its new size before it hears of its new state.
+    // A maximised window is told its new size before its new state; the timer lets both arrive.
     constexpr std::chrono::milliseconds settling{500};
     m_settled.setSingleShot(true);
     m_settled.setInterval(settling);

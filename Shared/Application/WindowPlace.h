@@ -9,15 +9,16 @@ class QWindow;
 namespace lodestar
 {
 
-/// Gives a window the size and place that it had when the application last ran, as far as they fit the screens of
-/// today, and remembers them from then on in `KeptState`. While the window is maximised the place that it goes back to
-/// is kept. Main thread.
+/// Gives a window the size and place that it had when the application last ran, as far as today's screens allow, and
+/// remembers later changes in `KeptState`. Of a maximised window it keeps the place to which the window returns. Main
+/// thread.
 class WindowPlace : public QObject
 {
 public:
-    /// Before the window is shown; it keeps its own size and place where none are known. The window outlives this.
+    /// Make it before the window is shown. The window must outlive this object, and keeps its own size and place when
+    /// none are remembered.
     explicit WindowPlace(QWindow& window);
-    /// Remembers what has changed last.
+    /// Remembers the last change, if the timer has not done so.
     ~WindowPlace() override;
 
 private:

@@ -70,12 +70,12 @@ Options parseOptions(const QGuiApplication& application)
     return {parser.value(data), parser.value(reportsTo), parser.isSet(fullScreen), parser.isSet(firstFrame)};
 }
 
-/// Makes the folder. Everything that is kept lies below it.
+/// Makes the folder below which everything is kept.
 QString makeDataFolder(const QString& asked)
 {
     QString folder = asked.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
                                      : QDir(asked).absolutePath();
-    // What cannot be made shows when something is to be kept there.
+    // A failure shows later, when something is to be kept in the folder.
     std::ignore = makePrivateFolder(folder.toStdString());
     return folder;
 }
@@ -118,7 +118,7 @@ int main(int argc, char** argv)
     if (!claimDataFolder(dataFolder)) {
         return 1;
     }
-    // Not before: somebody else's folder is left as it is.
+    // Only after the claim: a folder of another user must keep its permissions.
     std::ignore = makePrivateFolder(dataFolder.toStdString(), FolderThere::Tightened);
     SystemKeychain& keychain = installPlatform(dataFolder);
 
@@ -141,7 +141,7 @@ int main(int argc, char** argv)
             },
             Qt::DirectConnection);
     }
-    // Neither the service nor the bus is to hold up the first frame.
+    // The first frame must not wait for the keychain's service or the bus.
     QObject::connect(
         window, &QQuickWindow::frameSwapped, window, [&keychain] { keychain.begin(); },
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
@@ -149,7 +149,8 @@ int main(int argc, char** argv)
     window->loadInterface();
     std::unique_ptr<WindowPlace> place;
     if (options.fullScreen) {
-        // A bare X server has no window manager that would grant the full screen, or give a window the keyboard.
+        // A bare X server has no window manager that would make the window fill the screen or give it the keyboard
+        // focus.
         window->setFlag(Qt::FramelessWindowHint);
         window->setGeometry(window->screen()->geometry());
         window->show();
@@ -161,7 +162,7 @@ int main(int argc, char** argv)
     }
     DesktopSettings desktop([](bool reduced) { Appearance::shared().setSystemReducedMotion(reduced); },
                             [](double scale) { Appearance::shared().setSystemTextScale(scale); });
-    // The first frame waits for nobody.
+    // Asks the desktop only after the first frame, which must wait for nobody.
     QObject::connect(
         window, &QQuickWindow::frameSwapped, &desktop, [&desktop] { desktop.follow(); }, Qt::SingleShotConnection);
     PrivacyCover cover(*window, PrivacyCover::deviceOf(*window->screen()),

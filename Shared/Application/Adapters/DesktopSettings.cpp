@@ -26,7 +26,7 @@ const QString portal = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString settings = QStringLiteral("org.freedesktop.portal.Settings");
 
-/// Every desktop has its own words for it.
+/// Desktops name the setting for reduced motion differently; there is one row for each name.
 struct MotionSetting {
     const char* group;
     const char* key;
@@ -43,7 +43,7 @@ constexpr std::array<MotionSetting, 3> motionSettings = {{
      }},
 }};
 
-/// Of those desktops whose portal tells: it is no factor of what else is drawn.
+/// Only some desktops have this setting in their portal. It scales text alone, not what else is drawn.
 constexpr QLatin1String textGroup("org.gnome.desktop.interface");
 constexpr QLatin1String textKey("text-scaling-factor");
 
@@ -75,9 +75,9 @@ void DesktopSettings::follow(const QDBusConnection& bus)
     if (!connection.isConnected()) {
         return;
     }
-    // A slot is found by its types' names, and Qt knows this one's only once it is registered.
+    // Qt finds a slot by the names of its parameters' types, and knows QDBusVariant by name only once it is registered.
     qRegisterMetaType<QDBusVariant>();
-    // Of whoever sends it: naming the portal here would wait for the bus to say who that is.
+    // Matches any sender: to name the portal, Qt would have to wait for the bus.
     if (!connection.connect({}, path, settings, QStringLiteral("SettingChanged"), this,
                             SLOT(settingChanged(QString, QString, QDBusVariant)))) {
         qWarning("Changes of the desktop's settings will not be heard");

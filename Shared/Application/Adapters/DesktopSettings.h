@@ -11,21 +11,21 @@ class QDBusConnection;
 namespace lodestar
 {
 
-/// What the desktop's settings say about motion and the size of text, asked through its settings portal and followed. A
-/// system without a portal, or without a session bus, says nothing. Main thread, which never waits.
+/// Asks the desktop's settings portal about reduced motion and the size of text, and follows changes. Without a portal
+/// or a session bus, neither handler is called. Main thread, which never waits.
 class DesktopSettings : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Told each time that the answer changes, and at first if there is one.
+    /// Called at first if the desktop has the setting, and on each change.
     using MotionHandler = std::function<void(bool reduced)>;
-    /// 1 for text as large as everything is drawn for.
+    /// Likewise; 1 is the size of text that the screens are drawn for.
     using TextHandler = std::function<void(double scale)>;
 
     DesktopSettings(MotionHandler motionReduced, TextHandler textScaled, QObject* parent = nullptr);
 
-    /// Of the session's bus, if there is one. Connecting, which may take its time, is left to a background queue.
+    /// Follows the session's bus, if there is one. A background queue connects, since that may take its time.
     void follow();
     void follow(const QDBusConnection& bus);
 

@@ -25,15 +25,15 @@ namespace
 using Value = std::variant<bool, std::string>;
 using Values = std::map<std::string, Value>;
 
-// Two groups keep the two types apart in a format that knows texts only.
+// The file's format knows texts only, so booleans and texts stand in two groups.
 const QLatin1String booleans("Booleans");
 const QLatin1String strings("Strings");
 
-/// The empty text, which the format has no place for as a key. A lone percent sign is never the encoding of a text.
+/// Stands for the empty text, which cannot be a key in the format. No text's encoding is a lone percent sign.
 const QLatin1String emptyText("%");
 
-/// The format changes keys with slashes, takes commas and a leading "@" of a value for its own, and knows no bytes that
-/// are not Unicode. Percent-encoded, every text comes back as it was.
+/// Percent-encodes the text, so that it comes back as it was: the format changes keys with slashes, gives commas and a
+/// leading "@" of a value a meaning of its own, and cannot hold bytes that are not Unicode.
 QString encoded(const std::string& text)
 {
     return text.empty() ? QString(emptyText) : QString::fromLatin1(QByteArray::fromStdString(text).toPercentEncoding());
@@ -44,7 +44,7 @@ std::string decoded(const QString& text)
     return text == emptyText ? std::string() : QByteArray::fromPercentEncoding(text.toLatin1()).toStdString();
 }
 
-/// Calls the function with every key of the group. A damaged file may yield empty ones, which none of ours is.
+/// Calls the function with every key of the group. Skips empty keys: a damaged file may yield them, and we write none.
 template <typename Function>
 void forEachKey(QSettings& settings, QLatin1String group, const Function& function)
 {
@@ -69,7 +69,8 @@ Values read(const QString& path)
     return values;
 }
 
-/// One line of the format. It encodes keys itself, with the same sign.
+/// One line of the file. The format itself encodes keys with percent signs too, so a key's percent signs are encoded
+/// again.
 std::string line(const std::string& key, const Value& value)
 {
     const bool* const flag = std::get_if<bool>(&value);
@@ -78,7 +79,7 @@ std::string line(const std::string& key, const Value& value)
     return encoded(key).replace(QLatin1Char('%'), QLatin1String("%25")).toStdString() + "=" + text + "\n";
 }
 
-/// As `QSettings` writes them and `read` reads them.
+/// The text of a file that `QSettings`, and so `read`, understands.
 std::string fileText(const Values& values)
 {
     std::string flags;
@@ -92,15 +93,15 @@ std::string fileText(const Values& values)
     return group(booleans, flags) + group(strings, texts);
 }
 
-/// Replaces the file as a whole, never in place: session keys stand in it, so that the new one is private from its
-/// first byte. Not with `QSettings`, whose lock outlives a process that is killed while it writes, and then holds up
-/// every other: the folder belongs to this process.
+/// Replaces the file as a whole: it holds session keys, so the new file is private from its first byte. `QSettings`
+/// must not write it: a process that is killed while writing leaves its lock behind, and the lock would hold up every
+/// later process. The folder belongs to this process, so no lock is needed.
 bool write(const QString& path, const Values& values)
 {
     const std::string folder = QFile::encodeName(QFileInfo(path).absolutePath()).toStdString();
     const std::string file = QFile::encodeName(path).toStdString();
     const std::string fresh = file + ".new";
-    std::remove(fresh.c_str()); // of a process that was killed
+    std::remove(fresh.c_str()); // left by a process that was killed
     if (!makePrivateFolder(folder) || !writePrivateFile(fresh, fileText(values))) {
         return false;
     }
@@ -117,7 +118,7 @@ bool write(const QString& path, const Values& values)
 struct FileUserDefaults::State : std::enable_shared_from_this<State> {
     explicit State(const std::string& thePath) : path(QString::fromStdString(thePath)), values(read(path)) {}
 
-    /// With `mutex` held: the values differ from the file from now on.
+    /// The values differ from the file from now on. Call with `mutex` held.
     void noteChange()
     {
         ++generation;
@@ -141,8 +142,8 @@ struct FileUserDefaults::State : std::enable_shared_from_this<State> {
             lock.unlock();
             written = write(path, copy);
         } catch (const std::bad_alloc&) {
-            // Qt's texts take no part in the reserve. As with a disk that is full, the next change or the end tries
-            // anew.
+            // Qt allocates its texts outside the memory reserve. As with a full disk, the next change or the end tries
+            // again.
         }
         if (!lock.owns_lock()) {
             lock.lock();

@@ -10,14 +10,14 @@
 namespace lodestar
 {
 
-/// User defaults in one INI file, 0600. They are answered from memory; a change is written soon after on a background
-/// queue, `synchronize` and the destructor write what is pending on the calling thread. A file that cannot be read is
-/// taken as empty, what can be read of a damaged one is kept, and while the file cannot be written the values live on
-/// in memory.
+/// User defaults in one INI file, mode 0600. Reads are answered from memory. A background queue writes a change soon
+/// after it is made; `synchronize` and the destructor write pending changes on the calling thread. A file that cannot
+/// be read counts as empty; of a damaged file, whatever can be read is kept. While the file cannot be written, the
+/// values live on in memory.
 class FileUserDefaults final : public UserDefaults
 {
 public:
-    /// Missing folders are made, each 0700, with the first write.
+    /// The first write makes missing folders, each with mode 0700.
     explicit FileUserDefaults(const std::string& path);
     ~FileUserDefaults() override;
     FileUserDefaults(const FileUserDefaults&) = delete;
@@ -25,7 +25,7 @@ public:
 
     bool boolForKey(const std::string& key) const override;
     void setBool(bool value, const std::string& key) override;
-    /// Nothing when the key's value is a boolean.
+    /// Nothing when the key has no value, and when its value is a boolean.
     std::optional<std::string> stringForKey(const std::string& key) const override;
     void setString(const std::string& value, const std::string& key) override;
     void removeObjectForKey(const std::string& key) override;

@@ -13,7 +13,7 @@ namespace
 std::optional<std::string> read(const QString& path)
 {
     QFile file(path);
-    // A folder of the tree would open as well, and read as empty.
+    // `open` would succeed for a folder, too, and the folder would read as an empty file.
     if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly)) {
         return std::nullopt;
     }

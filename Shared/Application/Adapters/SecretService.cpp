@@ -21,13 +21,13 @@ using Attributes = QMap<QString, QString>;
 constexpr auto serviceName = "org.freedesktop.secrets";
 constexpr auto rootPath = "/org/freedesktop/secrets";
 
-/// There the keychain's library keeps items in a wallet of another kind.
+/// On this desktop the keychain's library keeps items in a wallet, not in the secret service.
 bool isWalletDesktop()
 {
     return qgetenv("XDG_CURRENT_DESKTOP").contains("KDE") || qEnvironmentVariableIsSet("KDE_FULL_SESSION");
 }
 
-/// A connection for one question.
+/// A connection to the session's bus, for one question.
 class Bus
 {
 public:
@@ -65,7 +65,7 @@ SecretAccess accessOf(const QDBusMessage& failure)
     return isNobodyThere ? SecretAccess::NoService : SecretAccess::Unknown;
 }
 
-/// Whether a new item can be kept without a prompt: in a collection that is there, and unlocked.
+/// Whether a new item can be kept without a prompt: the default collection must exist and be unlocked.
 SecretAccess accessOfDefaultCollection(const Bus& bus)
 {
     const QDBusMessage alias = bus.call(QLatin1String(rootPath), QStringLiteral("org.freedesktop.Secret.Service"),
@@ -90,7 +90,7 @@ SecretAccess accessOfDefaultCollection(const Bus& bus)
 SecretAccess accessOfItem(const Bus& bus, const SecretQuestion& question)
 {
     qDBusRegisterMetaType<Attributes>();
-    // The names under which the keychain's library keeps an item.
+    // The attributes under which the keychain's library keeps an item.
     const Attributes attributes{{QStringLiteral("user"), question.account},
                                 {QStringLiteral("server"), question.service}};
     const QDBusMessage found = bus.call(QLatin1String(rootPath), QStringLiteral("org.freedesktop.Secret.Service"),

@@ -13,19 +13,19 @@ enum class SecretAccess {
     Free,
     NoItem,    ///< nothing is kept under that name
     Locked,    ///< the service would ask the person first
-    NoService, ///< nothing answers to that name
-    Unknown,   ///< the service does not say, or is not the one that keeps our items
+    NoService, ///< there is no bus, or no secret service on it
+    Unknown,   ///< the service does not say, or does not keep our items
 };
 
 struct SecretQuestion {
     QString service;
     QString account;
-    bool writes = false;    ///< a text, which needs a place to write to; an empty one needs an item only
-    bool mayPrompt = false; ///< then a session bus may be started, too, where there is none
+    bool writes = false; ///< whether a text is written; emptying an item, which needs no collection, is no such write
+    bool mayPrompt = false; ///< whether the service may ask the person, and a session bus be started if absent
 };
 
-/// Asks the service without bringing up a prompt. Waits for the service, about as long as stated for each of at most
-/// three calls: never on the main thread.
+/// Asks the service how it would treat the request; this brings up no prompt. Makes at most three calls and waits up to
+/// `limit` or a little longer for each, so never call it on the main thread.
 SecretAccess secretAccess(const SecretQuestion& question, std::chrono::milliseconds limit);
 
 } // namespace lodestar

@@ -4,7 +4,7 @@
 namespace lodestar
 {
 
-// Other systems have keychains of their own, which the keychain's library knows.
+// Systems without a secret service have other keychains, which the keychain's library knows.
 SecretAccess secretAccess(const SecretQuestion& /*question*/, std::chrono::milliseconds /*limit*/)
 {
     return SecretAccess::Unknown;

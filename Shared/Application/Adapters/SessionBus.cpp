@@ -10,7 +10,7 @@ namespace
 {
 
 constexpr const char* addressVariable = "DBUS_SESSION_BUS_ADDRESS";
-/// An address that no library of the bus knows.
+/// No library of the bus can connect to this address.
 constexpr const char* nowhere = "disabled:";
 
 } // namespace

@@ -4,12 +4,12 @@
 namespace lodestar
 {
 
-/// Whether the person's session has a bus. Whoever asks for one that is not there may start one.
+/// Whether the person's session has a bus. Ask before connecting: connecting to an absent bus may start one.
 bool hasSessionBus();
 
-/// Where there is no bus, has nobody in the process look for one: the system's accessibility asks on the main thread,
-/// and would start a bus that outlives the process and hold up the first screen meanwhile. Before the application
-/// object is made.
+/// Where there is no bus, keeps everything in the process from looking for one: the system's accessibility would
+/// otherwise ask on the main thread, start a bus that outlives the process, and hold up the first screen meanwhile.
+/// Call it before the application object is made.
 void leaveAbsentSessionBus();
 
 } // namespace lodestar

@@ -34,7 +34,8 @@ Error lockedError(std::string reason = {})
     return makeError(Keychain::locked, "The keychain is locked.", std::move(reason));
 }
 
-/// One request, shared by the main thread, which may give it up, and the keychain's, where it may end later or never.
+/// One request. The main thread, which may give the request up, shares it with the keychain's thread, where the request
+/// may end later or never.
 struct Call {
     Call(SecretQuestion theQuestion, std::function<QKeychain::Job*()> theMaker,
          std::function<void(Result<std::string>)> theAnswer)
@@ -44,14 +45,14 @@ struct Call {
 
     const SecretQuestion question;
     const std::function<QKeychain::Job*()> makeJob;
-    const std::function<void(Result<std::string>)> answer; ///< main thread
+    const std::function<void(Result<std::string>)> answer; ///< called on the main thread
 
     std::mutex mutex;
     std::optional<Result<std::string>> result;
     bool asksThePerson = false;
 };
 
-/// Null when the service has to be asked, which may bring up a prompt.
+/// The answer, if the access already settles it. Null when the service must be asked, which may bring up a prompt.
 std::optional<Result<std::string>> answerWithoutJob(const SecretQuestion& question, bool reads, SecretAccess access)
 {
     switch (access) {
@@ -76,7 +77,7 @@ Result<std::string> resultOf(QKeychain::Job* job, SecretAccess access)
         return read != nullptr ? read->textData().toStdString() : std::string();
     }
     if (access == SecretAccess::Locked) {
-        // Nobody unlocked it. The library calls that an item that is not there.
+        // Nobody unlocked the keychain. The library reports such an item as missing.
         return lockedError(job->errorString().toStdString());
     }
     if (read != nullptr && job->error() == QKeychain::EntryNotFound) {
@@ -87,7 +88,7 @@ Result<std::string> resultOf(QKeychain::Job* job, SecretAccess access)
 
 } // namespace
 
-/// Main thread, but for `settle`.
+/// Lives on the main thread; only `settle` may be called on any thread.
 struct SystemKeychain::State : std::enable_shared_from_this<State> {
     class Starter;
     class AskEvent;
@@ -102,19 +103,19 @@ struct SystemKeychain::State : std::enable_shared_from_this<State> {
     void startNext();
     void timeIsUp(const std::shared_ptr<Call>& call);
     void ended();
-    /// Any thread. The state may be gone.
+    /// Any thread. The state may be destroyed already.
     static void settle(const std::weak_ptr<State>& state, Call& call, Result<std::string> result);
 
     const std::chrono::milliseconds deadline;
     bool hasBegun;
     std::deque<std::shared_ptr<Call>> waiting;
-    std::shared_ptr<Call> current; ///< with the service; the library runs one job at a time
-    bool givenUp = false;          ///< the current one: it has been answered, but has not ended
+    std::shared_ptr<Call> current; ///< the request that the service has; the library runs one job at a time
+    bool givenUp = false;          ///< whether `current` has been answered although its job has not ended
     std::unique_ptr<QThread> thread = std::make_unique<QThread>();
     std::unique_ptr<Starter> starter;
 };
 
-/// A request on its way to the keychain's thread.
+/// Carries a request to the keychain's thread.
 class SystemKeychain::State::AskEvent final : public QEvent
 {
 public:
@@ -133,7 +134,7 @@ public:
     const std::chrono::milliseconds limit;
 };
 
-/// Starts the jobs, on the thread on which it lives.
+/// Starts the jobs on the keychain's thread.
 class SystemKeychain::State::Starter final : public QObject
 {
 public:
@@ -166,7 +167,7 @@ private:
         connect(job, &QKeychain::Job::finished, job,
                 [state, call, access](QKeychain::Job* finished) { settle(state, *call, resultOf(finished, access)); });
         job->setAutoDelete(true);
-        // Never a plain file in place of the service.
+        // Without a service the library must not fall back to a plain file.
         job->setInsecureFallback(false);
         job->start();
     }
@@ -188,7 +189,8 @@ SystemKeychain::State::~State()
     if (thread->wait(QDeadlineTimer(deadline))) {
         return;
     }
-    // Stuck inside the library, for good perhaps: Qt ends a process that destroys a running thread.
+    // The thread is stuck inside the library, perhaps for good. Leak it: Qt ends a process that destroys a running
+    // thread.
     static_cast<void>(thread.release());
     static_cast<void>(starter.release());
 }
@@ -298,7 +300,7 @@ void SystemKeychain::readPassword(const std::string& service, const std::string&
 void SystemKeychain::writePassword(const std::string& password, const std::string& service, const std::string& account,
                                    Prompt prompt, Written answer)
 {
-    // The service would keep what stands before it, and call that a success.
+    // The service would keep only what precedes the null character, and report success.
     if (password.find('\0') != std::string::npos) {
         answer(makeError(notAText, "The keychain service keeps no text with a null character."));
         return;

@@ -9,7 +9,7 @@ namespace lodestar
 namespace
 {
 
-/// The attributes' indices, in the order of `Corvel::entity`.
+/// Indices of the attributes, in the order in which `Corvel::entity` lists them.
 enum Attribute : std::size_t { Name, Address, Username, Password, Demo, Version, AttributeCount };
 
 } // namespace
@@ -107,7 +107,7 @@ void Corvel::setRestData(std::shared_ptr<const FeedDictionary> feeds)
         const std::lock_guard lock(m_restDataMutex);
         m_restData.swap(feeds);
     }
-    // The former feeds, many megabytes at times, go here, with the lock released.
+    // The former feeds may take many megabytes: they are freed here, after the lock was released.
 }
 
 void Corvel::changeRestData(const RestDataChange& change)

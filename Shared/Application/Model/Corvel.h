@@ -15,10 +15,11 @@ namespace lodestar
 
 class FeedDictionary;
 
-/// A registered console. The persisted attributes are written on the main thread and read on any; none is "nil".
-/// The transient members hold the last fetch, are never stored, and may be touched from any thread.
+/// A registered console. The main thread writes the persisted attributes, and any thread may read them; an attribute
+/// without a value reads as `nullopt`. The transient members hold the last fetch, are never stored, and may be used
+/// from any thread.
 ///
-/// The feed dictionary is opaque here, because feeds stand above the model: read it with `feedOfType` of
+/// The feed dictionary is opaque here, because feeds belong to a higher module: read it with `feedOfType` of
 /// Inventory/Feed.h.
 class Corvel : public ManagedObject
 {
@@ -33,7 +34,7 @@ public:
     std::optional<std::string> username() const;
     std::optional<std::string> password() const;
     std::optional<std::string> version() const;
-    /// The integer value of `demo`, 0 when none: 1 marks the demonstration console.
+    /// The integer value of `demo`, 0 when it has none; 1 marks the demonstration console.
     int demo() const;
     void setName(std::optional<std::string> value);
     void setAddress(std::optional<std::string> value);
@@ -44,14 +45,14 @@ public:
 
     std::atomic<bool> isOnline = false;
     std::atomic<bool> completedFetch = false;
-    /// Counts over the managed systems; 0 until counted.
+    /// Numbers of managed systems with errors and with attention LEDs lit; 0 until counted.
     std::atomic<int> numMSErrors = 0;
     std::atomic<int> numMSLEDs = 0;
 
-    /// The feeds of the last fetch as one immutable snapshot; null until fetched and after a reset.
+    /// The feeds of the last fetch as one immutable snapshot. Null before the first fetch and after a reset.
     std::shared_ptr<const FeedDictionary> restData() const;
     void setRestData(std::shared_ptr<const FeedDictionary> feeds);
-    /// Replaces the snapshot by what the function makes of it, in one step. The function must not touch this record.
+    /// Replaces the snapshot in one step by what the function makes of it. The function must not use this record.
     using RestDataChange =
         std::function<std::shared_ptr<const FeedDictionary>(const std::shared_ptr<const FeedDictionary>&)>;
     void changeRestData(const RestDataChange& change);
@@ -60,7 +61,7 @@ private:
     std::optional<std::string> text(std::size_t index) const;
     void setText(std::size_t index, std::optional<std::string> value);
 
-    mutable std::mutex m_attributesMutex; ///< what workers read must not be half written by an edit
+    mutable std::mutex m_attributesMutex; ///< keeps other threads from reading a half-written attribute
     mutable std::mutex m_restDataMutex;
     std::shared_ptr<const FeedDictionary> m_restData;
 };

@@ -10,7 +10,7 @@
 namespace lodestar
 {
 
-/// A named set of consoles. The model declares it and its relation to `Corvel`; nothing creates or shows one.
+/// A named set of consoles. The model only declares it and its relation to `Corvel`; nothing creates or shows a group.
 class Group : public ManagedObject
 {
 public:

@@ -8,15 +8,15 @@
 namespace lodestar
 {
 
-/// The settings among the user defaults, by their keys. The other keys are the addresses of consoles, under which
-/// session keys are kept: a text under a key that is not listed here is kept out of logs and reports.
+/// The keys of the settings among the user defaults. Every other key is the address of a console, under which its
+/// session key is kept; texts under such keys are therefore kept out of logs and reports.
 namespace Setting
 {
 inline constexpr const char* initialLoad = "initialLoad";         ///< the demonstration console was added once
 inline constexpr const char* showedPreview = "showedPreview";     ///< the tour was seen to its end
 inline constexpr const char* requirePassword = "requirePassword"; ///< the passcode is asked for at the start
-/// Set from the first step of a reset to its last, which takes it away with all the rest: a reset that the process did
-/// not survive is finished before anything is shown.
+/// True from the first step of a reset to its last, which removes this key with all the others. If the process ends in
+/// between, the next start finishes the reset before it shows anything.
 inline constexpr const char* resetUnderWay = "resetUnderWay";
 
 inline constexpr std::array<std::string_view, 4> all = {initialLoad, showedPreview, requirePassword, resetUnderWay};

@@ -19,14 +19,14 @@ namespace
 
 constexpr std::string_view fileName = "Shared/Application/AppDelegate";
 
-// Running on without the registry would show an empty list, or lose what the user entered: the process ends instead,
-// and the file stays for a later start.
+// The process ends, and the store's file stays for a later start. To run on without the registry would show an empty
+// list or lose what the person entered.
 [[noreturn]] void endProcess(std::string_view method, const Error& error)
 {
     const std::string text = description(error);
     LODESTAR_LOG(fileName, method, "Unresolved error {}, {}", text, userInfoDescription(error));
     VireoLogger::flush();
-    // Who starts it on a desk has no other word of it, and the next start's report says no more than this.
+    // On a desktop nothing but this line tells the person why the program ended; the next start's report says the same.
     std::fprintf(stderr, "Lodestar cannot keep its consoles and ends: %s\n", text.c_str());
     CrashCapture::noteException(text);
     std::abort();
@@ -49,7 +49,8 @@ ManagedObjectModel StoreStack::managedObjectModel()
 
 std::unique_ptr<ObjectContext> StoreStack::persistentStoreCoordinator() const
 {
-    // Without a folder the path is empty and refused, rather than one at the root of the file system.
+    // Without a folder the path is left empty, which `open` refuses; a path made here would lie at the file system's
+    // root.
     const std::string path = m_documentsDirectory.empty() ? std::string() : m_documentsDirectory + "/Lodestar.sqlite";
     auto opened = ObjectContext::open(path, managedObjectModel());
     if (!opened) {
@@ -65,7 +66,8 @@ ObjectContext& StoreStack::managedObjectContext()
 {
     if (m_context == nullptr) {
         m_context = persistentStoreCoordinator();
-        // The reset deletes and saves console by console, on the main thread: one wiping at its end is enough.
+        // Scrubs after the running work: a reset deletes and saves console by console on the main thread, and one scrub
+        // at its end is enough.
         m_context->setScrubNeeded([] {
             MainQueue::shared().async([] {
                 if (const auto& context = shared().m_context; context != nullptr) {

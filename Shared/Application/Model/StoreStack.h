@@ -8,14 +8,14 @@
 namespace lodestar
 {
 
-/// The process's object store: model, file and one context, each made on first use and kept. Main thread. A store
-/// that cannot be opened, and a save that fails, end the process after one log line; the file is left as it was.
+/// The process's object store: model, file and one context, each made on first use and kept. Main thread. When the
+/// store cannot be opened or a save fails, the process ends after one log line, and the file is left as it was.
 class StoreStack
 {
 public:
     static StoreStack& shared();
 
-    /// The folder that holds the store. Set before first use by the host; tests point it at a scratch folder.
+    /// The folder that holds the store. The host sets it before first use; tests set a scratch folder.
     const std::string& applicationDocumentsDirectory() const { return m_documentsDirectory; }
     void setApplicationDocumentsDirectory(std::string folder) { m_documentsDirectory = std::move(folder); }
 
@@ -24,7 +24,7 @@ public:
     ObjectContext& managedObjectContext();
     /// Saves the context if it exists and has changes.
     void saveContext();
-    /// Closes the store and forgets the context, so that the next use opens it anew: tests and the reset.
+    /// Closes the store and forgets the context, so that the next use opens it anew. For tests and the reset.
     void close();
 
 private:
