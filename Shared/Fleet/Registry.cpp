@@ -79,7 +79,7 @@ void deleteCorvelAtIndex(std::size_t index)
 void deleteEveryCorvel()
 {
     RESTHandler& rest = RESTHandler::sharedInstance();
-    // A console whose adding was cut short is in no list, but the next save would store it.
+    // First the records that no list holds because their adding was cut short: the next save would store them.
     for (const CorvelRef& corvel : rest.fetchCorvels()) {
         if (!isRegistered(corvel)) {
             deleteCorvel(corvel);
@@ -113,7 +113,7 @@ void forgetFetchedData()
 void forgetSessionKeyOfUnregistered(const Corvel& corvel)
 {
     const auto address = corvel.address();
-    // Of all records, not of the list alone: one that is being added has its key before it is listed.
+    // Look at every record, not only at the listed ones: a console that is being added has its key before it is listed.
     const std::vector<CorvelRef> corvels = RESTHandler::sharedInstance().fetchCorvels();
     const bool shared =
         std::ranges::any_of(corvels, [&address](const CorvelRef& other) { return other->address() == address; });

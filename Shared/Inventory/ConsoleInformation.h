@@ -11,13 +11,13 @@
 namespace lodestar
 {
 
-/// What a console says of itself.
+/// What a console reports about itself.
 class ConsoleInformation : public Record
 {
 public:
     static constexpr std::string_view type = ObjectType::ManagementConsole;
     using Record::Record;
-    /// The console that the feed's first entry tells of; none where the feed is "NA" or tells of none.
+    /// The console that the feed's first entry describes; none when the feed is "NA" or describes none.
     static ConsoleInformation of(const Feed& feed);
 
     std::optional<std::string> name() const { return text("ManagementConsoleName"); }
@@ -27,8 +27,8 @@ public:
     std::string version() const;
 };
 
-/// How a registered console is, by what was last fetched of it: offline when its logon failed, whatever is known of its
-/// systems; an error when one of its systems is in error; good otherwise. Any thread.
+/// The health of a registered console after its last fetch: offline when its logon failed, whatever is known of its
+/// systems; an error when one of its systems has an error; good otherwise. Any thread.
 Health healthOf(const Corvel& corvel);
 
 } // namespace lodestar

@@ -37,7 +37,7 @@ Feed feedOfType(const Corvel& corvel, std::string_view type)
 
 void setFeedOfType(Corvel& corvel, std::string_view type, Feed feed)
 {
-    // Others may be reading the snapshot that is there, and a whole fetch may come at any time.
+    // Changes a copy, in one step: other threads may read the present snapshot, and a fetch may replace it at any time.
     corvel.changeRestData([type, &feed](const std::shared_ptr<const FeedDictionary>& feeds) {
         auto changed = feeds != nullptr ? std::make_shared<FeedDictionary>(*feeds) : std::make_shared<FeedDictionary>();
         changed->setFeed(type, std::move(feed));

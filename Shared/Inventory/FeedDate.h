@@ -8,16 +8,16 @@
 namespace lodestar
 {
 
-/// A wall-clock date and time as a feed states it. It belongs to no zone: the feed's closing Z is a letter, not a zone,
-/// and what was written is what is shown, on every device alike and through every clock change. That is meant.
+/// A wall-clock date and time as a feed states it, which belongs to no time zone: the feed's closing Z is only a
+/// letter. Every device shows what was written, also across clock changes. This is meant.
 struct FeedDate {
-    std::chrono::year_month_day date; ///< of the years 1 to 9999
-    std::chrono::milliseconds time{}; ///< on the clock, 00:00 to 23:59:59.999
+    std::chrono::year_month_day date; ///< years 1 to 9999
+    std::chrono::milliseconds time{}; ///< since midnight, 00:00 to 23:59:59.999
     friend bool operator==(const FeedDate&, const FeedDate&) = default;
 };
 
-/// Reads exactly "yyyy-MM-dd'T'HH:mm:ss.SSS'Z'" in ASCII digits. Nothing for any other text and for what no calendar or
-/// clock has. Any thread.
+/// Reads exactly "yyyy-MM-dd'T'HH:mm:ss.SSS'Z'" in ASCII digits. Nothing for any other text, or for a date or time that
+/// does not exist. Any thread.
 std::optional<FeedDate> parseFeedDate(std::string_view text);
 
 } // namespace lodestar

@@ -13,31 +13,32 @@
 namespace lodestar
 {
 
-/// Some of a feed's elements under the managed systems that they belong to: what a search found.
+/// One managed system's name and those of its elements that a search found.
 struct ElementGroup {
     std::string system;
     std::vector<XMLElement> elements;
 };
 
-/// A feed's elements under the managed systems that they belong to. Its keys are the systems' names in the order in
-/// which they first came, which is the order of the sections; elements keep the order of the feed. A value, to be
-/// handed over like an `ElementList`.
+/// A feed's elements, grouped by the managed systems that they belong to. The keys are the systems' names in the order
+/// in which they were first appended, which is the order of the sections; elements keep the feed's order. A value,
+/// handed over as an `ElementList` is.
 class GroupedFeed
 {
 public:
     explicit GroupedFeed(SearchText searchText) : m_searchText(searchText) {}
 
     void append(const std::string& system, XMLElement element);
-    /// Each system's elements behind those that it already has here.
+    /// Appends each system's elements behind those that the system already has here.
     void append(GroupedFeed&& others);
     void clear();
     void prepareSearch();
     std::size_t groupCount() const { return m_groups.size(); }
-    /// Empty for a group that is not there.
+    /// Empty when there is no such group.
     std::string keyAt(std::size_t group) const;
     const std::vector<XMLElement>& elementsAt(std::size_t group) const;
     std::optional<std::size_t> groupOf(const std::string& system) const;
-    /// Per key the elements whose search text contains the text, case ignored. A key without any is left out.
+    /// For each key the elements whose search text contains the text, case ignored. A key without such elements is left
+    /// out.
     std::vector<ElementGroup> containing(std::string_view text);
 
 private:

@@ -4,12 +4,12 @@
 namespace lodestar
 {
 
-/// How something is, as far as its console tells. Each kind of record judges by words of its own; the function stands
-/// beside the kind.
+/// The health of an object or console. Each kind of record has a function of its own that tells it from the words that
+/// the console uses.
 enum class Health {
     Good,
-    Idle,  ///< does nothing, and nothing is known to be wrong with it
-    Alert, ///< calls for attention
+    Idle,  ///< does nothing, and no error is known
+    Alert, ///< needs attention
     Error,
     Offline ///< does not answer
 };

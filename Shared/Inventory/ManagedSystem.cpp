@@ -20,7 +20,7 @@ std::optional<std::string> ManagedSystem::identifierAt(const Feed& feed, std::si
     if (place >= entries.size()) {
         return {};
     }
-    // Some consoles put the metadata beside the system, most into it.
+    // Some consoles put the metadata beside the system's element, but most put it inside.
     auto beside = entries[place].path({"content", "Metadata", "Atom", "AtomID"}).text();
     return beside ? beside : recordOfEntry<ManagedSystem>(entries[place]).identifier();
 }

@@ -25,18 +25,19 @@ public:
     std::optional<std::string> state() const { return text("State"); }
     std::optional<std::string> primaryIPAddress() const { return text("PrimaryIPAddress"); }
     std::optional<std::string> referenceCode() const { return text("ReferenceCode"); }
-    /// "true" or "false", as a rule.
+    /// Usually "true" or "false".
     std::optional<std::string> attentionLEDState() const { return text("PhysicalSystemAttentionLEDState"); }
-    /// In processors, with a fraction.
+    /// Processors, with a fraction.
     std::optional<std::string> availableProcessingUnits() const;
-    /// In megabytes.
+    /// Megabytes.
     std::optional<std::string> availableMemory() const;
     MachineIdentity identity() const { return MachineIdentity(element().child("MachineTypeModelAndSerialNumber")); }
 
-    /// The identifier of the system in the feed's entry at the place, from 0; none beyond the last entry.
+    /// The identifier of the system in the feed's entry at the index, from 0; none when there is no such entry.
     static std::optional<std::string> identifierAt(const Feed& feed, std::size_t place);
 
-    /// "operating" is good, anything with "error" or "incomplete" in it an error, all else idle. Case counts.
+    /// Good for "operating"; an error for any state that contains "error" or "incomplete"; idle for all others. Case
+    /// counts.
     Health health() const;
     bool isAttentionLEDLit() const { return attentionLEDState() == "true"; }
 };

@@ -11,8 +11,8 @@
 namespace lodestar
 {
 
-/// A part of a managed system that runs for itself. Consoles say the same of logical partitions and of virtual I/O
-/// servers.
+/// A part of a managed system that runs on its own. Consoles report the same fields for logical partitions and for
+/// virtual I/O servers.
 class Partition : public Record
 {
 public:
@@ -23,11 +23,12 @@ public:
     std::optional<std::string> kind() const { return text("PartitionType"); }
     std::optional<std::string> state() const { return text("PartitionState"); }
     std::optional<std::string> referenceCode() const { return text("ReferenceCode"); }
-    /// Where the console serves the name of the managed system that the partition belongs to. A partition that names
-    /// no system has an address all the same, which no console serves.
+    /// The link under which the console serves the name of the partition's managed system. A partition that names no
+    /// system has a link, too, but no console serves it.
     std::string systemNameLink() const;
 
-    /// "running" is good, "not activated" idle, "error" an error; any other state calls for attention. Case counts.
+    /// Good for "running", idle for "not activated", an error for "error"; any other state needs attention. Case
+    /// counts.
     Health health() const;
 };
 

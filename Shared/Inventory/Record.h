@@ -14,14 +14,14 @@
 namespace lodestar
 {
 
-/// The text, or "(null)" for none, as rows, log lines and addresses show it.
+/// The text as rows, log lines and addresses show it; "(null)" for none.
 inline std::string shownText(const std::optional<std::string>& text)
 {
     return text.value_or("(null)");
 }
 
-/// What a console says of one of its objects: a cheap value over an element of a feed. A field that the console leaves
-/// out is none; a record of no element has no fields. Any thread.
+/// What a console reports about one of its objects. A cheap value over an element of a feed. A field that the console
+/// leaves out is none; a record without an element has no fields. Any thread.
 class Record
 {
 public:
@@ -30,7 +30,7 @@ public:
 
     bool exists() const { return m_element.exists(); }
     explicit operator bool() const { return exists(); }
-    /// What the fields are read from.
+    /// The element from which the fields are read.
     const XMLElement& element() const { return m_element; }
 
     friend bool operator==(const Record&, const Record&) = default;
@@ -46,7 +46,7 @@ private:
     XMLElement m_element;
 };
 
-/// What identifies a machine to its maker.
+/// The numbers by which a maker identifies a machine.
 class MachineIdentity : public Record
 {
 public:
@@ -56,14 +56,14 @@ public:
     std::optional<std::string> model() const { return text("Model"); }
 };
 
-/// The record in an entry of a feed; none in an entry of another type.
+/// The record in a feed's entry; none when the entry holds another type.
 template <typename Kind>
 Kind recordOfEntry(const XMLElement& entry)
 {
     return Kind(contentOf(entry, Kind::type));
 }
 
-/// The records of a feed, in its order. Entries of other types are left out; "NA" has none.
+/// The feed's records in the feed's order, without entries of other types; none when the feed is "NA".
 template <typename Kind>
 std::vector<Kind> recordsOf(const Feed& feed)
 {

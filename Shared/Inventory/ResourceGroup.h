@@ -12,7 +12,7 @@
 namespace lodestar
 {
 
-/// Partitions, servers and systems that somebody has put together.
+/// A group of partitions, servers and systems that somebody put together.
 class ResourceGroup : public Record
 {
 public:
@@ -22,20 +22,20 @@ public:
     enum class MemberKind { Partition, ManagedSystem };
     /// A member as the group names it.
     struct Member {
-        XMLElement link; ///< what the group holds of it: where the console serves the member
+        XMLElement link; ///< the group's link to the member
         MemberKind kind;
     };
 
     std::optional<std::string> name() const { return text("GroupName"); }
-    /// A colour's English name.
+    /// The English name of a colour.
     std::optional<std::string> color() const { return text("GroupColor"); }
-    /// Partitions, then servers, then systems.
+    /// In this order: partitions, servers, systems.
     std::vector<Member> members() const;
-    /// Where the console serves a member's state; none when the member has no link.
+    /// The link under which the console serves the member's state; none when the member has no address.
     static std::optional<std::string> stateLinkOf(const Member& member);
 
-    /// Judges the state of a member of either kind by exact words, case included. None for a state that no group
-    /// counts.
+    /// The health for the state of a member of either kind. States must match exactly, case included; none for a state
+    /// that no group counts.
     static std::optional<Health> healthOfMember(std::string_view state);
 };
 

@@ -22,7 +22,7 @@ bool isASCII(std::string_view text)
     return std::ranges::all_of(text, [](char byte) { return static_cast<unsigned char>(byte) < 0x80; });
 }
 
-/// One letter for one: "ß" is found by "ß" and not by "ss", of which no part could be marked.
+/// Folds one letter to one letter. So "ß" is found by "ß" and not by "ss": half of a letter could not be marked.
 utf8proc_int32_t foldedLetter(utf8proc_int32_t letter)
 {
     utf8proc_int32_t folded = letter;
@@ -31,7 +31,7 @@ utf8proc_int32_t foldedLetter(utf8proc_int32_t letter)
     return count == 1 ? folded : utf8proc_tolower(letter);
 }
 
-/// Bytes that are no UTF-8 stand for the replacement character.
+/// Replaces bytes that are not UTF-8 by the replacement character.
 std::string foldedUnicode(std::string_view text)
 {
     constexpr utf8proc_int32_t replacement = 0xFFFD;
@@ -82,12 +82,12 @@ std::vector<std::uint32_t> SearchIndex::rowsContaining(std::string_view text) co
         std::iota(rows.begin(), rows.end(), std::uint32_t{0});
         return rows;
     }
-    // It could only match across the end of a name.
+    // A NUL could only match the end of a name.
     if (text.find('\0') != std::string_view::npos) {
         return rows;
     }
     const std::string wanted = folded(text);
-    // Several times as fast as the string's own search where the first letter is a common one.
+    // Where the first letter is a common one, this is several times as fast as the string's own search.
     const auto find = [&](std::size_t from) {
         return static_cast<const char*>(
             ::memmem(m_names.data() + from, m_names.size() - from, wanted.data(), wanted.size()));

@@ -11,7 +11,7 @@
 namespace lodestar
 {
 
-/// A console or a system that has to do with an event.
+/// A console or a system that an event concerns.
 class EventNode : public Record
 {
 public:
@@ -20,7 +20,7 @@ public:
     std::optional<std::string> model() const { return text({"managedTypeModelSerial", "Model"}); }
 };
 
-/// A part that may have to be replaced for an event.
+/// A part that may have to be replaced because of an event.
 class FieldReplaceableUnit : public Record
 {
 public:
@@ -34,7 +34,7 @@ public:
     std::optional<std::string> replacementGroup() const { return text("replacementGroup"); }
 };
 
-/// Something that a console has noticed and that somebody may have to see to. Times are seconds since 1970, as texts.
+/// Something that a console noticed and that a person may have to act on. Times are texts: seconds since 1970.
 class ServiceableEvent : public Record
 {
 public:
@@ -62,8 +62,8 @@ public:
     EventNode analyzingConsole() const { return EventNode(element().child("analyzingConsoleNode")); }
     std::vector<FieldReplaceableUnit> units() const;
 
-    /// The event's approval state and its number as in "Approved (#1042)": what lists show and search. An absent text
-    /// is empty.
+    /// The approval state and the number, as in "Approved (#1042)". Lists show and search this text. A missing field is
+    /// empty.
     std::string title() const;
 };
 

@@ -10,8 +10,8 @@
 namespace lodestar
 {
 
-/// How often each text was met, in the order in which the texts were first met: with colours given by position, the
-/// same feeds are drawn in the same colours each time.
+/// Counts how often each text occurs, and keeps the texts in the order of their first occurrence: charts give colours
+/// by position, so the same feeds always get the same colours.
 class StateCounts
 {
 public:

@@ -11,18 +11,18 @@ namespace lodestar
 class Corvel;
 class Feed;
 
-/// What all consoles come to. The sums have 32 bits and wrap.
+/// Sums over all consoles. The sums have 32 bits and wrap.
 struct Totals {
     std::int32_t online = 0;
     std::int32_t attentionLEDs = 0;
     std::int32_t events = 0;
-    /// By the states' own words. What has no state is left out.
+    /// Counts by the states' own words. Objects without a state are left out.
     StateCounts managedSystems;
     StateCounts partitions;
 
-    /// Adds what the record itself says: whether its console is online, and how many of its attention LEDs are lit.
+    /// Adds what the record itself tells: whether its console is online, and how many attention LEDs are lit.
     void addConsole(const Corvel& corvel);
-    /// Each adds one feed of a console, whatever becomes of the console's other feeds. "NA" adds nothing.
+    /// Each adds one feed of a console, independently of the console's other feeds. "NA" adds nothing.
     void addManagedSystems(const Feed& feed);
     void addPartitions(const Feed& feed);
     void addEvents(const Feed& feed);

@@ -17,7 +17,7 @@ bool isDigit(char c)
     return c >= '0' && c <= '9';
 }
 
-/// Of digits alone.
+/// The text must be digits alone.
 unsigned number(std::string_view digits)
 {
     unsigned value = 0;
@@ -27,7 +27,7 @@ unsigned number(std::string_view digits)
     return value;
 }
 
-/// "+1", "+01", "+0130", "+1:30" or "+01:30".
+/// Reads "+1", "+01", "+0130", "+1:30" or "+01:30", with either sign; nothing for any other text.
 std::optional<std::chrono::minutes> distance(std::string_view text)
 {
     const bool isWest = text.front() == '-';
@@ -52,7 +52,7 @@ std::optional<std::chrono::minutes> distance(std::string_view text)
     return isWest ? -length : length;
 }
 
-/// How far a zone is ahead of UTC.
+/// How far the zone is ahead of UTC; nothing when the zone is not known.
 std::optional<std::chrono::minutes> offsetOf(std::string_view zone)
 {
     if (zone == "Z") {

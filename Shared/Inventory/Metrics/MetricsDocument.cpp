@@ -17,7 +17,7 @@ namespace
 using simdjson::dom::element;
 
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-/// Integers of so many digits fit into 64 bits with their sign.
+/// Integers with up to this many digits fit into signed 64 bits.
 constexpr std::ptrdiff_t safeDigits = 18;
 
 template <typename Handle>
@@ -37,8 +37,8 @@ bool isPartOfNumber(char c)
     return (c >= '0' && c <= '9') || c == '-' || c == '+' || c == '.' || c == 'e' || c == 'E';
 }
 
-/// A number as the parser can take it: an integer beyond 64 bits gets a fraction, and what even double precision cannot
-/// hold becomes a text, which no reader takes for a number. What is no number at all stays as it is.
+/// Appends a number in a form that the parser accepts: an integer that may exceed 64 bits gets a fraction, and a number
+/// beyond double precision becomes a text, which no reader takes for a number. Any other token stays as it is.
 void appendNumber(std::string& out, std::string_view token)
 {
     double value = 0;
@@ -54,7 +54,7 @@ void appendNumber(std::string& out, std::string_view token)
     }
 }
 
-/// One number that is too large fails the parser's whole document; a console's chart must not hang on that.
+/// The parser rejects a whole document for one number that is too large; such a number must not cost the chart.
 std::string withTamedNumbers(std::string_view text)
 {
     std::string out;

@@ -13,7 +13,7 @@ namespace lodestar
 namespace
 {
 
-/// Where a segment finds its figures, in the order in which they are looked at.
+/// Where a sample keeps a segment's figures, in the order in which they are read.
 struct Source {
     std::string_view group;
     std::array<std::string_view, 3> keys;
@@ -27,7 +27,8 @@ bool fitsSinglePrecision(double value)
     return std::abs(value) <= double{std::numeric_limits<float>::max()};
 }
 
-/// The difference, carried through its text of seven digits, which takes the noise of the subtraction away.
+/// The difference in single precision, rounded to seven digits by way of a text, which removes the noise of the
+/// subtraction.
 double singlePrecisionDifference(double from, double what)
 {
     const std::string text = fmt::format("{:.7g}", static_cast<float>(from) - static_cast<float>(what));
@@ -54,7 +55,8 @@ class Reducer
 public:
     Reducer(const Source& source, MetricsSegment segment) : m_source(source), m_segment(segment) {}
 
-    /// Nothing for a sample that cannot be charted, of which `blamed` then tells key and reason.
+    /// The sample's figures; nothing when the sample cannot be charted, and then `blamed` receives the key and the
+    /// reason.
     std::optional<MetricsFigures> figures(const MetricsValue& sample, SkippedSample& blamed) const
     {
         const MetricsValue group = sample.member("serverUtil").member(m_source.group);

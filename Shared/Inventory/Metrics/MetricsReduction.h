@@ -13,7 +13,8 @@
 namespace lodestar
 {
 
-/// What is charted: the segments of the screen's control, by their index. Any other index charts nothing.
+/// What is charted. The numbers are the indices of the segments in the screen's control; any other index charts
+/// nothing.
 enum class MetricsSegment : int { Processors = 0, Memory = 1 };
 
 /// The three figures of one sample: units of processors, or gigabytes of 1000 MB.
@@ -28,55 +29,55 @@ struct MetricsFigures {
 /// A sample that was charted.
 struct MetricsPoint {
     MetricsFigures figures;
-    /// The sample's place among all, the skipped ones counted.
+    /// The sample's index among all samples, skipped ones included.
     int xIndex = 0;
 };
 
-/// A sample that was not charted, and the first key to blame.
+/// A sample that was not charted, and the first key that prevented it.
 struct SkippedSample {
     enum class Reason {
         Null,     ///< the figure is a JSON null
-        NoNumber, ///< it is missing, no number, or beyond single precision
+        NoNumber, ///< the figure is missing, is no number, or exceeds single precision
     };
     std::size_t sample = 0;
-    std::string_view key; ///< a literal
+    std::string_view key; ///< refers to a literal
     Reason reason = Reason::Null;
 };
 
-/// Samples reduced to what a chart shows. The x labels are those of the charted samples alone while their indices count
-/// all samples, so after a skipped sample labels stand before their points. That is meant.
+/// Samples reduced to what a chart shows. There are x labels for the charted samples only, while a point's `xIndex`
+/// counts all samples, so that after a skipped sample the labels stand before their points. This is meant.
 struct MetricsReduction {
     std::size_t sampleCount = 0;
     std::vector<std::string> xLabels;
     std::vector<MetricsPoint> points;
     std::vector<SkippedSample> skipped;
 
-    /// The document's first and last sample; none when that one was not charted.
+    /// The document's first or last sample; none when that sample was not charted.
     struct EndSample {
         MetricsFigures figures;
-        std::optional<MetricsDate> date; ///< none when its time stamp cannot be read
+        std::optional<MetricsDate> date; ///< none when the time stamp cannot be read
     };
     std::optional<EndSample> first;
     std::optional<EndSample> last;
 };
 
-/// The time of the first sample and of the last, as the document says; none where its time stamp cannot be read.
+/// When the first and the last sample were taken, as the document says; none when a time stamp cannot be read.
 struct MetricsPeriod {
     std::optional<MetricsDate> start;
     std::optional<MetricsDate> end;
 };
 MetricsPeriod periodOf(const MetricsDocument& document);
-/// The document's array of samples, oldest first; none when it has none. The document must outlive the samples.
+/// The document's array of samples, oldest first; none when there is no array. The document must outlive it.
 MetricsValue samplesOf(const MetricsDocument& document);
-/// What a console writes where it has not processed the metrics.
+/// What a console writes when it has not processed the metrics.
 inline constexpr std::string_view notProcessed = "Processing did not happen";
-/// Whether the console has processed the metrics. It has not when the document has no samples, or when the first
-/// message among the first sample's errors holds `notProcessed`. A message that is no text counts as empty.
+/// Whether the console has processed the metrics. It has not if the document has no samples, or if the first message
+/// among the first sample's errors contains `notProcessed`. A message that is no text counts as empty.
 bool wasProcessed(const MetricsDocument& document);
 
-/// Reduces the array of samples; what is no array has none. For processors `allocated` is what is not available, by a
-/// subtraction in single precision of which seven digits are kept; for memory it is what is available, and all three
-/// are divided by 1000 in single precision. That the two differ is meant. Any thread.
+/// Reduces the array of samples; anything but an array counts as an empty one. For processors, `allocated` is total
+/// less available, subtracted in single precision and rounded to seven digits. For memory, `allocated` is what is
+/// available, and all three figures are divided by 1000 in single precision. The difference is meant. Any thread.
 MetricsReduction reduceMetrics(const MetricsValue& samples, MetricsSegment segment);
 
 } // namespace lodestar
