@@ -5,15 +5,16 @@ import QtQuick
 import QtQuick.Templates as T
 import Lodestar.Kit
 
-/// Choices for one thing, at the window's lower edge or by the pointer, Cancel set apart. Follows its outlet.
+/// Choices for one thing, at the window's lower edge or beside the pointer, with Cancel set apart. Opens and closes
+/// with its outlet.
 T.Popup {
     id: sheet
 
     required property MenuOutlet outlet
     property real slide: 0
-    /// On wide windows the choices come up where the pointer is, not an arm's length below it.
+    /// On wide windows the choices come up beside the pointer, so that nobody has to reach down for them.
     property bool nearPress: false
-    /// It hears of presses from its making on.
+    /// LastPress knows only of presses after its making, so it is made together with the sheet.
     readonly property QtObject presses: LastPress
     property point press
 
@@ -56,7 +57,7 @@ T.Popup {
     Component.onCompleted: follow()
     onClosed: keyboard.giveBack()
     onAboutToHide: {
-        // By a press beside it.
+        // A press beside the sheet closed it.
         if (outlet.presented) {
             cancel();
         }

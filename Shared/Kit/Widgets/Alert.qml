@@ -5,8 +5,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Lodestar.Kit
 
-/// A question, or a fact to be taken note of, in the middle of the window: up to two buttons side by side, more below
-/// each other. Follows its outlet.
+/// A question or a piece of news, in the middle of the window, with up to two buttons side by side or more below each
+/// other. Opens and closes with its outlet.
 T.Popup {
     id: alert
 
@@ -153,7 +153,7 @@ T.Popup {
                     required property int index
                     required property menuChoice modelData
 
-                    // From the first moment on: who types ahead does not type past the question.
+                    // A button has the keyboard from the start, so that keys typed ahead do not go past the question.
                     focus: index === Math.max(0, alert.outlet.cancelIndex)
                     width: body.sideBySide ? grid.width / 2 : grid.width
                     implicitHeight: Math.max(48, Math.round(22 * Theme.textScale) + 26)

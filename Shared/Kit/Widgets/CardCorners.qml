@@ -4,8 +4,9 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Lodestar.Kit
 
-/// Rounds a square surface by covering its corners with what lies behind it. Rows of a card are pressed, swiped and
-/// removed one by one, and the software renderer clips to rectangles only.
+/// Makes a square surface look rounded by covering its corners in the colour behind it. The surface is not clipped,
+/// because rows of a card are pressed, swiped and removed one by one and the software renderer clips to rectangles
+/// only.
 Item {
     id: corners
 

@@ -4,19 +4,19 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Lodestar.Kit
 
-/// A table drawn as cards: its rows, with hairlines between, in one rounded card a section, headers above. Give it the
-/// outlet and a delegate, a component whose root is a TableCell. Arrows, Home, End and the page keys move, Enter and Space
-/// choose, the menu key swipes, F5 refreshes.
+/// A table drawn as cards: one rounded card per section holds its rows with hairlines between them, headers stand
+/// above. Give it the outlet and a delegate, a component whose root is a TableCell. Arrows, Home, End and the page keys
+/// move, Enter and Space choose, the menu key swipes, F5 refreshes.
 AccessibleScope {
     id: view
 
     required property TableOutlet table
     required property Component delegate
-    /// What it lists, for those who do not see the title above it.
+    /// The name that a screen reader says for the list.
     required property string label
     property RefreshControl refreshControl: null
     property int measure: Theme.measure
-    /// Above the first card: 8 below a bar of 52, 0 below a tab root's of 60.
+    /// Points above the first card: 8 below a bar of 52, 0 below a tab root's bar of 60.
     property real topSpace: 8
     property alias header: list.header
     property alias footer: list.footer
@@ -24,7 +24,7 @@ AccessibleScope {
     property alias searchOffered: search.offered
     property alias currentIndex: list.currentIndex
     readonly property alias flickable: list
-    /// What is pressed, chosen and swiped open.
+    /// The state of the rows: which are pressed, chosen or swiped open.
     readonly property alias rows: tableState
     signal swipeButtonTapped(int section, int row, int index, bool leading)
     signal searchTapped()
@@ -50,7 +50,7 @@ AccessibleScope {
             list.currentIndex = target;
         }
     }
-    /// An arrow that finds no ring shows where the keyboard is; the next one moves it.
+    /// While no ring shows, the first arrow only shows the ring; the next one moves it.
     function arrow(direction: int, rows: int) {
         step(list.currentIndex, direction, tableState.keyboardUsed ? rows : 0);
     }
@@ -76,7 +76,7 @@ AccessibleScope {
             }
         }
     }
-    /// Whether the key was one of the table's.
+    /// Returns whether the key was one of the table's.
     function handleKey(key: int, modifiers: int): bool {
         const page = Math.max(1, Math.floor(list.height / Math.max(1, table.rowHeight)) - 1);
         switch (key) {
@@ -135,7 +135,7 @@ AccessibleScope {
     ListView {
         id: list
 
-        /// Makes the row before it returns, by scrolling to it. A row that is made already moves nothing.
+        /// Makes the row at once by scrolling to it. Nothing moves when the row exists already.
         function bringIn(index: int) {
             if (index >= 0 && index < count && itemAtIndex(index) === null) {
                 positionViewAtIndex(index, ListView.Contain);
@@ -150,7 +150,7 @@ AccessibleScope {
         highlightFollowsCurrentItem: true
         highlightMoveDuration: Theme.settle
         highlightResizeDuration: 0
-        // Where a cell costs requests, a row that is not seen is none.
+        // Where cells cost requests, rows out of view must not be made.
         cacheBuffer: view.table.makesCellsInSteps ? 0 : 120
         topMargin: (header === null ? view.topSpace : 0) + search.space
         bottomMargin: Theme.groupGap
@@ -174,7 +174,8 @@ AccessibleScope {
             onAccessiblePressed: tableState.activate(index, selectable)
             onAccessibleCommand: (command) => swipeCell.doCommand(command)
             onActiveFocusChanged: {
-                // Given it by a reader, which asks for the neighbours at once: the list makes them now, not when idle.
+                // A screen reader that focuses a row asks for its neighbours at once, so the list makes them now, not
+                // when idle.
                 if (activeFocus) {
                     list.currentIndex = index;
                     if (visualFocus) {
@@ -190,10 +191,10 @@ AccessibleScope {
                     tableState.keyboardUsed = true;
                 }
             }
-            // A row that waits for its next use would still be moved and looked through in every scrolled frame.
+            // A pooled row is hidden; otherwise every scrolled frame would still move it and look through it.
             ListView.onReused: {
                 visible = true;
-                x = 0; // A list places its rows by y only, and one that slid away lies beside it.
+                x = 0; // A list sets only y of its rows, and a row that slid away still lies to the side.
                 host.pooled = false;
                 configure();
             }
@@ -204,11 +205,11 @@ AccessibleScope {
             }
 
             readonly property bool focused: tableState.currentIndex === index && tableState.listHasKeyboard
-            /// Sections without a header stand apart by a gap.
+            /// A gap separates sections without a header.
             readonly property real gap: firstInSection && section > 0 && !sectionHasHeader ? Theme.groupGap : 0
             readonly property bool besidePressed: index === tableState.pressedIndex || index - 1 === tableState.pressedIndex
 
-            // Asked once more while the table is taken down.
+            // While the table is torn down, this binding runs once more and finds no state.
             readonly property real rowHeight: tableState !== null ? tableState.table.rowHeight : 0
 
             implicitHeight: isHeader ? header.implicitHeight
@@ -280,7 +281,7 @@ AccessibleScope {
                 roundBottom: place.lastInSection
             }
             Hairline {
-                // From the row's two ends. It makes way for uncovered buttons.
+                // Distances from the row's ends; they grow so that the hairline makes way for uncovered buttons.
                 readonly property real start: tableState.table.separatorLeft + Math.max(0, -swipeCell.reveal)
                 readonly property real end: Math.max(tableState.table.separatorRight, swipeCell.reveal)
 
@@ -292,7 +293,7 @@ AccessibleScope {
 
         onMovementStarted: view.closeSwipes()
 
-        // Beside the rows, headers included.
+        // Takes clicks beside the rows and on headers.
         MouseArea {
             parent: list.contentItem
             z: -1
@@ -314,7 +315,7 @@ AccessibleScope {
                 view.pull();
             }
         }
-        // Always one, so that the keyboard comes to a row and not to the list.
+        // There is always a current row, so that the keyboard focus lands on a row and not on the list.
         onCountChanged: view.keepCurrent()
         Keys.onPressed: (event) => event.accepted = view.handleKey(event.key, event.modifiers)
     }

@@ -2,7 +2,8 @@
 import QtQuick
 import Lodestar.Kit
 
-/// Goes deeper. Its ink ends where its item ends: the drawing's own margin hangs out on both sides.
+/// The mark of a row that leads on. The mark's ink ends at the item's edge: the picture's own margins hang out on both
+/// sides.
 Item {
     implicitWidth: 10
     implicitHeight: 24

@@ -3,7 +3,8 @@ import QtQuick
 import QtQuick.Shapes
 import Lodestar.Kit
 
-/// A ring that is drawn as far round as `current` is of `total`, from the top, on a faint track. It strokes itself once.
+/// A ring on a faint track, drawn from the top as far round as `current` is of `total`. The ring draws itself once, when
+/// it is made.
 Item {
     id: gauge
 

@@ -2,18 +2,18 @@
 import QtQuick
 import Lodestar.Kit
 
-/// Cut, Copy, Paste and Select All for a text field, near where it was asked for: a long press, the second button, the
-/// menu key. Made when first asked for. A field that hides its text gives none away.
+/// Cut, Copy, Paste and Select All for a text field. The menu comes up where a long press, the second button or the
+/// menu key asked for it, and is made on first use. A field that hides its text offers neither Cut nor Copy.
 Loader {
     id: loader
 
-    /// Has the text, its selection and the clipboard's calls.
+    /// The text field: its text, its selection and its clipboard functions.
     required property var field
     property bool secret: false
-    /// Of a field that has one: its choice is among those of the menu.
+    /// The field's switch for showing a secret, which the menu then offers as a choice; null without one.
     property SecretSwitch secretSwitch: null
 
-    /// At a point of the field.
+    /// Shows the menu at a point of the field.
     function show(x: real, y: real) {
         active = true;
         const menu = item as EditMenuChoices;
@@ -24,6 +24,6 @@ Loader {
     }
 
     active: false
-    // A file of its own: in Qt 6.4 no cast leads to a component that is declared in the same file.
+    // The choices have a file of their own because Qt 6.4 cannot cast to a component declared in the same file.
     sourceComponent: EditMenuChoices {}
 }

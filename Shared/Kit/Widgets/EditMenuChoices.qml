@@ -3,7 +3,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Lodestar.Kit
 
-/// What an `EditMenu` shows: the choices that its field's text and the clipboard leave.
+/// The popup of an `EditMenu`: the choices that the field's text and the clipboard allow now.
 T.Popup {
     id: menu
 

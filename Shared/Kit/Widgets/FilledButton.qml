@@ -2,11 +2,11 @@
 import QtQuick
 import Lodestar.Kit
 
-/// The one action of a screen.
+/// The button for the one main action of a screen.
 Pressable {
     id: button
 
-    /// Looks pressed.
+    /// Whether the button looks pressed.
     property bool down: pressed
 
     implicitWidth: label.implicitWidth + 48
@@ -35,7 +35,7 @@ Pressable {
         id: label
 
         text: button.text
-        // As the whole button at 40 % on a card.
+        // The same colour as if the whole button were drawn at 40 % on a card.
         color: button.enabled ? Theme.fillInk : Qt.tint(Theme.card, Qt.rgba(Theme.fillInk.r, Theme.fillInk.g, Theme.fillInk.b, 0.4))
         anchors.centerIn: parent
         width: Math.min(implicitWidth, parent.width)

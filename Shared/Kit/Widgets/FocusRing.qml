@@ -2,7 +2,7 @@
 import QtQuick
 import Lodestar.Kit
 
-/// The inner ring that shows where the keyboard is.
+/// The inner ring that shows which control has the keyboard focus.
 Rectangle {
     id: ring
 

@@ -2,16 +2,15 @@
 import QtQuick
 import Lodestar.Kit
 
-/// A column of rows that scrolls where it has too little room: to the row that is being edited, and to the one that it
-/// is asked to reveal.
+/// A column of rows that scrolls when room is short: to the row that is being edited, or to a row given to `reveal`.
 Flickable {
     id: form
 
-    /// A tap beside the rows.
+    /// The user tapped beside the rows.
     signal tapped()
 
     default property alias rows: column.data
-    /// How much of the form is to be seen once what holds it has come to rest.
+    /// The form's visible height once the sheet or page around it has stopped moving.
     property real restingHeight: height
 
     readonly property Item edited: rowOf(form.Window.activeFocusItem)
@@ -63,7 +62,7 @@ Flickable {
     }
     onContentHeightChanged: follow()
     onRestingHeightChanged: {
-        // Less room takes away the end of the form again, unless somebody writes there.
+        // When room shrinks, the form scrolls back to its beginning unless somebody is editing.
         if (restingHeight < lastRestingHeight) {
             revealed = edited;
             if (edited === null) {
@@ -78,7 +77,7 @@ Flickable {
         revealed = null;
     }
 
-    // Inside: an interactive form takes every press that nothing in it wants.
+    // The area lies inside the form because an interactive form takes every press that nothing inside it wants.
     MouseArea {
         width: form.width
         height: Math.max(form.height, form.contentHeight + form.bottomMargin)

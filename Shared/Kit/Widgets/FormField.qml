@@ -3,7 +3,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Lodestar.Kit
 
-/// One field of a form: its name and the text that its outlet holds, both ways.
+/// One field of a form: its name and its text. The text and the outlet follow each other.
 Item {
     id: field
 
@@ -11,14 +11,14 @@ Item {
     required property FieldOutlet outlet
     property string placeholder
     property bool secure: false
-    /// Not for pictures of the screen, though it can be read; a secure field is covered in any case.
+    /// Hides the readable text in pictures of the screen; a secure field is always hidden there.
     property bool confidential: false
     property int inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
     property int rowHeight: 56
     property real labelWidth: 112
-    /// Below what was written, while there is something to say about it.
+    /// A remark below the field's text; empty for none.
     property string hint
-    /// Where Return leads; without one it ends editing.
+    /// The field to which Return leads; null makes Return end editing.
     property FormField next: null
     signal returnPressed()
 
@@ -34,7 +34,7 @@ Item {
         input.forceActiveFocus(reason);
     }
 
-    /// Who only reads begins at the beginning; the caret stays where it is.
+    /// Without the keyboard, the field shows the beginning of its text; the caret stays where it is.
     function showStart() {
         if (!input.activeFocus) {
             input.ensureVisible(0);
@@ -53,7 +53,7 @@ Item {
         }
     }
 
-    // The whole row takes a press.
+    // A press anywhere on the row edits the field.
     MouseArea {
         anchors.fill: parent
         onClicked: input.forceActiveFocus(Qt.MouseFocusReason)
@@ -90,7 +90,7 @@ Item {
         color: Theme.ink
         selectionColor: Theme.match
         selectedTextColor: Theme.ink
-        // Of a text that is shown, what the mouse selects goes to the clipboard by itself.
+        // Selecting with the mouse copies the selection by itself, so it is off while a secret is shown.
         selectByMouse: !eye.revealed
         clip: contentWidth > width
         echoMode: field.secure && !eye.revealed ? TextInput.Password : TextInput.Normal
@@ -114,7 +114,7 @@ Item {
         onWidthChanged: field.showStart()
         EnterKey.type: field.next !== null ? Qt.EnterKeyNext : Qt.EnterKeyDone
         onAccepted: {
-            // Whoever is told takes the keyboard away first.
+            // Handlers of `returnPressed` may rely on the field having given up the keyboard.
             focus = false;
             field.returnPressed();
             if (field.next !== null) {

@@ -4,8 +4,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Lodestar.Kit
 
-/// A card of fixed rows, one below the other, with hairlines between those that are shown. Rows may tell `pressedLook`;
-/// the hairlines beside such a row go.
+/// A card of fixed rows, one below the other, with hairlines between visible rows. A row may have a property
+/// `pressedLook`; while it is true, the hairlines beside that row are hidden.
 Item {
     id: card
 

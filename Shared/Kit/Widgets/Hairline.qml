@@ -2,12 +2,13 @@
 import QtQuick
 import Lodestar.Kit
 
-/// One device pixel, along x or y. A picture, because the software renderer rounds rectangles to whole points.
+/// A line of one device pixel along x or y. It is a picture because the software renderer rounds rectangles to whole
+/// points.
 Image {
     property color color: Theme.hairline
 
     property bool vertical: false
-    // Outside a window the ratio is not known yet.
+    // Before the item is in a window, the ratio may be 0.
     readonly property real thickness: 1 / Math.max(1, Screen.devicePixelRatio)
 
     width: vertical ? thickness : implicitWidth

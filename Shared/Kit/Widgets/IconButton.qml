@@ -2,7 +2,7 @@
 import QtQuick
 import Lodestar.Kit
 
-/// A button that is a drawing; `text` is its name for those who do not see it.
+/// A button that shows a picture; `text` is its name for screen readers.
 Pressable {
     id: button
 

@@ -2,7 +2,7 @@
 import QtQuick
 import Lodestar.Kit
 
-/// The hairline on top of a form's row, which keeps off the row's two ends; they change sides in a mirrored layout.
+/// The hairline on top of a form's row, inset from the row's two ends; a mirrored layout exchanges the insets.
 Hairline {
     required property real separatorLeft
     required property real separatorRight

@@ -4,16 +4,17 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Lodestar.Kit
 
-/// One page of an intro: its picture, whole, on the night. Where the picture's own words would be too small to read, or
-/// there is no picture, the upper part of it and the words as text, above or beside each other.
+/// One page of an intro: its whole picture on a night-coloured ground. Where the picture's own words would be too small
+/// to read, or there is no picture, the page shows the picture's upper part and the words as text, one above or beside
+/// the other.
 Item {
     id: view
 
     required property introPage page
-    /// Taken by what is laid over the lower edge.
+    /// Points at the lower edge that other items cover.
     property real footing: 64
 
-    // Pictures are drawn for a screen of this size, at twice its resolution; the words begin below the art.
+    // Pictures are drawn for a screen of this size, at twice its resolution; the words begin below the art's height.
     readonly property size drawnFor: Qt.size(390, 844)
     readonly property int artHeight: 644
     readonly property real fit: Math.min(width / drawnFor.width, height / drawnFor.height)

@@ -2,8 +2,8 @@
 import QtQuick
 import Lodestar.Kit
 
-/// Gives the keyboard back to whoever had it before a popup took it, unless it has gone elsewhere meanwhile. Left alone,
-/// a popup of the window's overlay leaves it with nobody.
+/// Gives the keyboard focus back to the item that had it before a popup, unless the focus has moved to another item.
+/// Without this, no item has the focus after a popup of the window's overlay has closed.
 QtObject {
     /// Any item of the window; null once the window goes.
     required property Item inside
@@ -12,7 +12,7 @@ QtObject {
 
     function remember() {
         before = inside.Window.activeFocusItem;
-        // Who came there by the keyboard finds the ring again; the pointer never had one.
+        // The ring returns only if the keyboard had brought the focus to the item; after a press it never showed.
         wasShown = (before as AccessibleItem)?.visualFocus ?? false;
     }
     function giveBack() {

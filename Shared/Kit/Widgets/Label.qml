@@ -2,27 +2,27 @@
 import QtQuick
 import Lodestar.Kit
 
-/// A text of the type scale. The line is as high as the scale says and capitals, not boxes, are centred in it: the face
-/// sits high in its box.
+/// A text in a size of the type scale. Each line has the scale's height, and capitals are centred in it; centring the
+/// face's box would put them too high.
 Text {
     id: label
 
     property int size: Theme.bodySize
     property real line: Theme.lineFor(size)
-    /// Bars stop growing earlier than the rest.
+    /// Bars use a smaller factor: they stop growing earlier than other text.
     property real scaleFactor: Theme.textScale
 
     readonly property bool shrinks: fontSizeMode !== Text.FixedSize
     readonly property int drawnSize: shrinks ? fittedSize() : font.pixelSize
     readonly property real drop: Appearance.textDrop(drawnSize, lineHeight, Screen.devicePixelRatio)
 
-    /// Apart from the binding, which would not be compiled with it.
+    /// A function of its own, so that the binding around it is still compiled.
     function fittedSize(): int {
         return fontInfo.pixelSize;
     }
 
-    // A text watches where the viewport is until it is changed for the first time, and one that watches has every
-    // scrolled frame tell all items of the list: so that even an empty text has to be a change.
+    // A Text watches the viewport until its text first changes, and a watching Text makes every scrolled frame notify
+    // all items of the list. Starting with a space makes even an empty text a change.
     text: " "
     color: Theme.ink
     font.family: Theme.family

@@ -2,12 +2,12 @@
 import QtQuick
 import Lodestar.Kit
 
-/// A name that marks where it holds what was searched for. It is cut in its middle where it does not fit, or wraps. What
-/// stands in the cut is not marked.
+/// A name with the searched-for part marked. A name that does not fit is elided in the middle, or wraps. A match in the
+/// elided part is not marked.
 Label {
     id: label
 
-    /// Case ignored; empty for none.
+    /// The text to mark, in any case; empty for none.
     property string match
 
     readonly property bool isCut: wrapMode === Text.NoWrap && truncated
@@ -43,8 +43,8 @@ Label {
         text: label.matchStart >= 0 ? label.shown.substring(label.matchStart, label.matchStart + label.match.length) : ""
     }
     Rectangle {
-        // The label's effectiveHorizontalAlignment does not do here: it may change before the label is complete, and then
-        // no signal says so. Nor does contentWidth: in a label that is aligned to the right it is the whole width.
+        // The label's effectiveHorizontalAlignment cannot be used: it may change before the label is complete, without
+        // a signal. contentWidth cannot either: for a right-aligned label it is the whole width.
         readonly property real textStart: Theme.mirrored ? label.width - whole.advanceWidth : 0
 
         z: -1

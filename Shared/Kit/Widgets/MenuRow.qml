@@ -2,8 +2,8 @@
 import QtQuick
 import Lodestar.Kit
 
-/// A row of a fixed menu: a drawing, a title, optionally a count or note, a chevron where it leads on. What it holds
-/// stands at its end. One that only rests, or whose own control is what one presses, is not pressable.
+/// A row of a fixed menu: a picture, a title, optionally a count or note, and a chevron where the row leads on. Child
+/// items stand at the row's end. A row that leads nowhere, or whose child is the control to press, is not pressable.
 Pressable {
     id: row
 
@@ -12,16 +12,17 @@ Pressable {
     property color ink: Theme.ink
     property string detail
     property bool chevron: true
-    /// Looks as if it cannot be chosen: by itself when disabled. A table's row draws this one disabled and takes the press.
+    /// Draws the row as one that cannot be chosen; by default while it is disabled. A table's row sets this and takes
+    /// the press itself.
     property bool greyed: !enabled
     property int rowHeight: 52
-    /// A hairline on its upper edge, where no GroupCard draws it.
+    /// Draws a hairline on the upper edge, for rows outside a GroupCard.
     property bool separator: false
-    /// Draws its own press, pointer and focus. A table's row does so for the one that it holds.
+    /// Draws the row's own press, hover and focus. A table's row does that itself and sets this to false.
     property bool surfaced: true
     default property alias accessory: accessories.data
 
-    /// Looks pressed.
+    /// Whether the row looks pressed.
     property bool down: pressed
 
     readonly property bool pressedLook: pressable && down
@@ -99,7 +100,7 @@ Pressable {
             text: row.detail
             size: Theme.stateSize
             color: Theme.ink2
-            // Not by its being visible, which changes with what the row is in.
+            // `visible` would not do in place of `row.beside`: it also changes with the items around the row.
             width: row.beside ? Math.min(implicitWidth, row.width * 0.45) : 0
             anchors.right: ends.left
             anchors.rightMargin: ends.width > 0 ? 12 : 0

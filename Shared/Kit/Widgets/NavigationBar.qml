@@ -2,17 +2,17 @@
 import QtQuick
 import Lodestar.Kit
 
-/// The bar of a pushed screen: the way back, a title or a title view in its middle, buttons at its end.
+/// The bar of a pushed screen: the back button, a title or a title view in the middle, buttons at the end.
 Item {
     id: bar
 
-    /// The screen's controller: its title, and the way back if there is one.
+    /// The screen's controller, which gives the title and says whether there is a way back.
     property ViewController controller: null
     property string title: controller !== null ? controller.title : ""
-    /// Stands in for the title.
+    /// Replaces the title; null shows the title.
     property Item titleView: null
     property alias trailing: ends.data
-    /// Content slides beneath.
+    /// Content has slid beneath the bar.
     property bool scrolled: false
     property bool canGoBack: false
     property string backTitle
@@ -21,16 +21,17 @@ Item {
     readonly property int edge: width < 600 ? 4 : 12
     readonly property real content: Math.min(width, Theme.measure + 48)
     readonly property real side: (width - content) / 2 + (width > content ? 24 : edge)
-    /// Beside the middle, on either side.
+    /// Points that the title leaves on either side.
     readonly property real beside: side + Math.max(backButton.visible ? backButton.width : 0, ends.width, Theme.target)
     readonly property real room: Math.max(0, width - 2 * beside)
-    /// The title comes first: where it and the name of the screen before do not both fit, the chevron is enough.
+    /// The title has precedence: where it and the previous screen's name do not both fit, only the chevron is shown.
     readonly property bool backTitleFits: width - 2 * (side + Math.min(backButton.wantedWidth, 132)) >= 200
 
     implicitHeight: Theme.barHeight
 
     Component.onCompleted: {
-        // Asked once: while it slides out, a screen that was taken off its stack still shows its way back.
+        // Asked only once, so that a screen that was taken off its stack still shows its back button while it slides
+        // out.
         if (controller !== null && controller.canGoBack()) {
             canGoBack = true;
             backTitle = controller.backButtonTitle();

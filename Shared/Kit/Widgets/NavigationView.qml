@@ -4,8 +4,8 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Lodestar.Kit
 
-/// Mirrors a navigation controller: slides its screens in and out. Escape, Alt and the left arrow, the back key and a
-/// swipe from the edge where one started reading go back.
+/// Shows a navigation controller and slides its screens in and out. Escape, Alt with the left arrow, the back key and a
+/// swipe from the edge where text starts go back.
 FocusScope {
     id: view
 

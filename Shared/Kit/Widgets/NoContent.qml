@@ -2,8 +2,8 @@
 import QtQuick
 import Lodestar.Kit
 
-/// A picture and one or two lines where there is nothing to show, a little above the middle, and the one thing to do
-/// about it. A headline, where there is one, stands above the lines.
+/// What a screen shows when it has no content: a picture and one or two lines, a little above the middle, and a button
+/// for the one thing to do. A headline, if there is one, stands above the lines.
 Item {
     id: view
 
@@ -31,7 +31,7 @@ Item {
         anchors.fill: parent
     }
 
-    // Most screens have something to show and never need it.
+    // The body is made on first use, because most screens have content and never need it.
     function make() {
         if (visible && body.status === Loader.Null) {
             body.setSource("NoContentBody.qml", {"view": view});

@@ -2,7 +2,7 @@
 import QtQuick
 import Lodestar.Kit
 
-/// What a NoContent draws.
+/// The visible part of a NoContent.
 Item {
     id: body
 

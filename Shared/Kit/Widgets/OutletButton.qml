@@ -2,11 +2,12 @@
 import QtQuick
 import Lodestar.Kit
 
-/// The button at the end of a screen's bar, as its outlet has it. F5 is its key while it refreshes.
+/// The button at the end of a screen's bar, which follows its outlet. F5 presses the button while the button means
+/// refresh.
 IconButton {
     id: button
 
-    /// Null for a screen without one.
+    /// Null for a screen without such a button.
     required property BarButtonOutlet outlet
 
     objectName: "rightBarButton"

@@ -2,7 +2,7 @@
 import QtQuick
 import Lodestar.Kit
 
-/// A label that shows what its outlet says. An outlet without a colour leaves `baseColor`.
+/// A label that shows its outlet's text and colour. `baseColor` applies while the outlet has no colour.
 Label {
     id: label
 

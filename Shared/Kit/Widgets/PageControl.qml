@@ -4,13 +4,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Lodestar.Kit
 
-/// A dot a page, the current one drawn out. A tap goes to the page of the nearest dot: dots are far smaller than a finger.
+/// One dot per page, the current one longer. A tap goes to the page of the nearest dot, because dots are far smaller
+/// than a finger.
 Item {
     id: control
 
     property PageControlOutlet outlet: null
 
-    // What a screen reader turns pages by: the role brings the actions along, and they write it.
+    // A screen reader turns pages by writing this property: the item's role offers the actions for that.
     property int value: 0
     readonly property int current: outlet !== null ? outlet.currentPage + 1 : 0
     readonly property int minimumValue: 1

@@ -2,14 +2,15 @@
 import QtQuick
 import Lodestar.Kit
 
-/// A screen: ground, a bar, and content below it. Name the flickable whose sliding draws the bar's hairline.
+/// The frame of a screen: ground, bar, and the content below. The bar's hairline shows while the given flickable is
+/// scrolled.
 FocusScope {
     id: page
 
     required property Item bar
     property Flickable scrollView: null
     default property alias content: body.data
-    /// Ends text editing wherever the screen has it.
+    /// When this controller asks for the end of text editing, the page takes the keyboard focus; null for none.
     property ViewController controller: null
 
     readonly property real sideMargin: Theme.sideMargin(width, Theme.measure)
@@ -31,7 +32,7 @@ FocusScope {
         anchors.fill: parent
         color: Theme.ground
     }
-    /// To where the content begins, from afar without passing everything between.
+    /// Scrolls to the beginning; from far away the first part of the way is skipped.
     function scrollUp() {
         if (scrolled) {
             const begin = scrollView.originY - scrollView.topMargin;
@@ -63,7 +64,7 @@ FocusScope {
         width: parent.width
         height: page.bar.implicitHeight
 
-        // Beneath the bar: its buttons take their own presses.
+        // The area lies beneath the bar, so that the bar's buttons still take their presses.
         MouseArea {
             anchors.fill: parent
             onClicked: page.scrollUp()
@@ -81,7 +82,7 @@ FocusScope {
             when: page.scrollView !== null
         }
     }
-    // After the bar: Tab and readers go through the bar first.
+    // Declared after the bar, so that Tab and screen readers go through the bar first.
     Item {
         id: body
 

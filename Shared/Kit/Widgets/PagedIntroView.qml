@@ -5,16 +5,16 @@ import QtQuick
 import QtQuick.Templates as T
 import Lodestar.Kit
 
-/// A paged intro over the whole of a view. Swipes, arrows, Home, End, the page keys, Space and Enter turn pages; a swipe
-/// or a key past the last page, the button and Escape end it. What lies behind takes no press and no key.
+/// A paged intro that covers a whole view. Swipes, arrows, Home, End, the page keys, Space and Enter turn pages. A
+/// swipe or key past the last page, the button and Escape end the intro. The view behind gets no press and no key.
 T.Popup {
     id: view
 
-    /// The screen that it lies over, which has the intro.
+    /// The screen that the intro covers and that has the intro.
     required property SceneView over
     readonly property PagedIntro intro: over.intro
 
-    // A popup opens in a window only, and the first screen is made before it is put into one.
+    // A popup opens only in a window, and the first screen is made before it has one.
     readonly property bool wanted: intro !== null && intro.presented && over.Window.window !== null
     readonly property PageControlOutlet pageControl: intro !== null ? intro.pageControl : null
     readonly property int fade: Theme.reducedMotion ? 120 : Math.round(1000 * (intro?.animationDuration ?? 0.3))
@@ -36,7 +36,7 @@ T.Popup {
             close();
         }
     }
-    /// The pages are where the last visit left them.
+    /// Without this, the pages would still be where the last visit left them.
     function begin() {
         if (pageControl !== null) {
             pages.cancelFlick();
@@ -54,7 +54,7 @@ T.Popup {
             pageControl.currentPage = Math.max(0, Math.min(pageControl.numberOfPages - 1, page));
         }
     }
-    /// Whether the key was one of the intro's.
+    /// Returns whether the key was one of the intro's.
     function handleKey(event: var): bool {
         const forward = Theme.mirrored ? Qt.Key_Left : Qt.Key_Right;
         const back = Theme.mirrored ? Qt.Key_Right : Qt.Key_Left;
@@ -64,7 +64,7 @@ T.Popup {
         case Qt.Key_Space:
         case Qt.Key_Return:
         case Qt.Key_Enter:
-            // A key that is held down turns pages and ends at the last.
+            // A key that is held down turns pages but does not end the intro.
             if (intro !== null && !(event.isAutoRepeat && pages.currentIndex === pages.count - 1)) {
                 intro.turnPage();
             }
@@ -87,7 +87,7 @@ T.Popup {
         return false;
     }
 
-    // The screen tells of its window before the popup itself has heard of it, and would not be opened.
+    // The screen learns of its window earlier than the popup does; a popup that is opened before that stays closed.
     readonly property Timer later: Timer {
         interval: 0
         onTriggered: view.follow()
@@ -156,7 +156,7 @@ T.Popup {
             readonly property real beyondLast: effectiveLayoutDirection === Qt.RightToLeft ? -horizontalOvershoot
                                                                                           : horizontalOvershoot
             onDraggingChanged: {
-                // A finger goes twice as far as what it drags out of bounds.
+                // The list follows at half the finger's way out of bounds, so this is twice as far for the finger.
                 if (!dragging && beyondLast > 20) {
                     view.end();
                 }

@@ -2,7 +2,7 @@
 import QtQuick
 import Lodestar.Kit
 
-/// A button that is a word, as in bars, sheets and alerts.
+/// A button that shows only a word, as in bars, sheets and alerts.
 Pressable {
     id: button
 
@@ -11,7 +11,7 @@ Pressable {
     property real scaleFactor: Theme.textScale
     property real leftPadding: 12
     property real rightPadding: 12
-    /// A word that is a sentence stands on several lines where it must.
+    /// Lets a long text wrap onto several lines.
     property bool wraps: false
     readonly property real wordWidth: label.implicitWidth
 

@@ -2,8 +2,8 @@
 import QtQuick
 import Lodestar.Kit
 
-/// What a pull uncovers: the refresh arrow turns and grows blue as the pull nears its point, then turns on by itself
-/// until the list has come back.
+/// The mark that a pull uncovers: the refresh arrow turns and becomes blue as the pull approaches the threshold, then
+/// goes on turning until the list is back.
 Item {
     id: indicator
 

@@ -2,19 +2,19 @@
 import QtQuick
 import Lodestar.Kit
 
-/// The search field above a list's first row. It starts out of sight; a pull uncovers it, it rests there, and it goes as
-/// soon as the list is moved past it again.
+/// The search field above a list's first row. It starts out of sight; a pull uncovers it and it stays. It goes as soon
+/// as the list is moved past it.
 AccessibleItem {
     id: bar
 
     required property ListView list
-    /// Above the first row, when the field is out of sight.
+    /// Points above the first row while the field is out of sight.
     required property real topSpace
     property bool offered: false
     signal tapped()
 
-    /// What the list adds above its first row. There from the first touch on, since only then does a finger uncover the
-    /// field as far as it goes.
+    /// Points that the list adds above its first row. They are added at the first touch: without them, a finger could
+    /// not uncover the whole field.
     readonly property real space: room ? height + 8 : 0
     property bool room: false
     readonly property real uncovered: list.originY - topSpace - list.contentY
@@ -60,7 +60,7 @@ AccessibleItem {
                 snap.stop();
                 bar.room = bar.offered;
             } else if (bar.room && bar.uncovered <= bar.space / 2) {
-                // Now, and not when all has come to rest: a short list always comes to rest at the field.
+                // This must not wait for the end of the movement: a short list always comes to rest at the field.
                 bar.room = false;
             }
         }

@@ -2,7 +2,7 @@
 import QtQuick
 import Lodestar.Kit
 
-/// The bar of a tab's first screen: a large title on the text edge of the cards below, buttons at its end.
+/// The bar of a tab's first screen: a large title, aligned with the text of the cards below, and buttons at the end.
 Item {
     id: bar
 
@@ -10,7 +10,7 @@ Item {
     property string title: controller !== null ? controller.title : ""
     property alias trailing: ends.data
     property bool scrolled: false
-    /// Of the content below.
+    /// Greatest width of the content below.
     property int measure: Theme.measure
 
     readonly property real margin: Theme.sideMargin(width, measure)
@@ -18,7 +18,7 @@ Item {
     implicitHeight: Theme.rootBarHeight
 
     Label {
-        // Large letters start a little inside their box: 2 less puts them on the edge.
+        // Large letters start a little inside their box; 2 points less put them on the edge.
         anchors.left: parent.left
         anchors.leftMargin: bar.margin + Theme.rowStart - 2
         anchors.right: ends.left

@@ -2,8 +2,8 @@
 import QtQuick
 import Lodestar.Kit
 
-/// What a window shows: any controller, which appears with this item and disappears with it or when another takes its
-/// place.
+/// Shows the controller of a window. The controller appears with this item; it disappears with this item or when
+/// another controller takes its place.
 SceneView {
     reportsAppearance: true
     focus: true

@@ -4,14 +4,14 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Lodestar.Kit
 
-/// Draws any controller, the sheet that it puts up and the intro that is laid over it.
+/// Draws any controller, together with the sheet that it presents and the intro that covers it.
 FocusScope {
     id: view
 
     property alias controller: host.controller
     property alias reportsAppearance: host.reportsAppearance
     readonly property alias scene: host.scene
-    /// What the scene stands in, for the sheet that is over it.
+    /// The item that holds the scene; a sheet moves it back while the sheet is up.
     readonly property alias body: host
 
     SceneHost {
@@ -24,10 +24,10 @@ FocusScope {
     property bool hasSheet: false
 
     function makeSheet() {
-        // Once made it stays: it slides out after the presentation has gone.
+        // The sheet is made once and kept: it still slides out after the presentation has ended.
         if (presentation !== null && !hasSheet) {
             hasSheet = true;
-            // By address: naming the type would have every screen wait for it to be compiled.
+            // The URL is used because naming the type would make every screen wait until the type is compiled.
             Qt.createComponent("SemiModalSheet.qml").createObject(view, {"view": view});
         }
     }
@@ -38,7 +38,7 @@ FocusScope {
     function makeIntro() {
         if (intro !== null && !hasIntro) {
             hasIntro = true;
-            // By address: most starts show none, and need not load it.
+            // The URL is used because most starts show no intro and need not load the type.
             Qt.createComponent("PagedIntroView.qml").createObject(view, {"over": view});
         }
     }

@@ -2,7 +2,8 @@
 import QtQuick
 import Lodestar.Kit
 
-/// Says where in a flickable one is, at its end side, while it moves. Laid over the flickable, not into its content.
+/// Shows how far a flickable is scrolled, at its end side, while it moves. Lay it over the flickable, not into its
+/// content.
 Rectangle {
     id: mark
 

@@ -2,13 +2,14 @@
 import QtQuick
 import Lodestar.Kit
 
-/// Fixed content that scrolls: cards and headers one below the other, at the readable measure.
+/// Fixed content that scrolls: cards and headers one below the other, at a readable width.
 Flickable {
     id: page
 
     default property alias content: column.data
     property int measure: Theme.measure
-    /// Above the first card: 8 below a bar of 52, 0 below a tab root's of 60. A header on top: `space: 12 - topSpace`.
+    /// Points above the first card: 8 below a bar of 52, 0 below a tab root's bar of 60. A page that begins with a
+    /// header sets the header's `space` to `12 - topSpace`.
     property real topSpace: 8
 
     readonly property var inputMethod: Qt.inputMethod
@@ -25,7 +26,7 @@ Flickable {
     boundsBehavior: Flickable.DragAndOvershootBounds
     flickableDirection: Flickable.VerticalFlick
 
-    /// Brings an item that took the keyboard into view, its top if it is too tall.
+    /// Scrolls to an item that got the keyboard focus; of an item that is too tall, to its top.
     function reveal(item: Item) {
         const spot = item.mapToItem(contentItem, 0, 0);
         if (spot.y < contentY) {

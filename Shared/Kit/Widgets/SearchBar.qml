@@ -3,7 +3,7 @@ import QtQuick
 import QtQuick.Templates as T
 import Lodestar.Kit
 
-/// Takes a bar's place while its list is searched.
+/// Replaces a screen's bar while the screen's list is searched.
 Item {
     id: bar
 

@@ -2,8 +2,8 @@
 import QtQuick
 import Lodestar.Kit
 
-/// Shows what a field hides for as long as somebody looks: until it is pressed again, the keyboard goes elsewhere, or the
-/// field is disabled, hidden or left with its window.
+/// The button that shows a field's secret. The secret is hidden again when the button is pressed again, when the
+/// keyboard focus goes elsewhere, or when the field is disabled, hidden or its window is left.
 IconButton {
     id: eye
 
@@ -12,13 +12,13 @@ IconButton {
 
     readonly property bool held: (field.activeFocus || eye.activeFocus) && field.enabled && field.visible && Window.active
 
-    /// Whether the key would take what the field shows to the clipboard.
+    /// Whether the key would copy the field's text to the clipboard.
     function isCopying(event: var): bool {
-        // The linter of Qt 6.4 does not know the keys.
+        // qmllint of Qt 6.4 does not know StandardKey.
         return event.matches(StandardKey.Copy) || event.matches(StandardKey.Cut); // qmllint disable unqualified
     }
 
-    // Tab leads from field to field; the keyboard comes here by the field's menu.
+    // Tab goes from field to field; the field's menu brings the keyboard focus here.
     activeFocusOnTab: false
     iconName: revealed ? "hide" : "show"
     text: revealed ? qsTr("Hide password") : qsTr("Show password")
@@ -29,7 +29,7 @@ IconButton {
         }
         revealed = !revealed;
     }
-    // The keyboard leaves one of the two before it comes to the other.
+    // Between the field and the button, the keyboard focus is for a moment on neither.
     onHeldChanged: settled.restart()
 
     Timer {

@@ -2,12 +2,12 @@
 import QtQuick
 import Lodestar.Kit
 
-/// The words above a card.
+/// The text above a card.
 Item {
     id: header
 
     property string text
-    /// Above the words; the first of a page stands 12 below the bar.
+    /// Points above the text; the first header of a page stands 12 below the bar.
     property real space: Theme.sectionGap
 
     implicitHeight: space + label.implicitHeight + 8
@@ -17,7 +17,8 @@ Item {
     Label {
         id: label
 
-        // One line whatever a console answers, and no longer than any line can show.
+        // A console may send line breaks or a very long name; the header shows one line and no more text than a line
+        // can hold.
         text: header.text.slice(0, 300).replace(/\s+/g, " ").trim()
         size: Theme.captionSize
         color: Theme.ink2

@@ -4,12 +4,12 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Lodestar.Kit
 
-/// A few choices side by side, one of them chosen. `activated` tells of the user's choice only.
+/// A few choices side by side, one of them chosen. `activated` is sent for the user's choice only.
 Rectangle {
     id: control
 
     required property var titles
-    /// What is chosen, for those who do not see it.
+    /// The name of the control for screen readers.
     required property string label
     property int currentIndex: 0
     signal activated(int index)

@@ -3,13 +3,13 @@ import QtQuick
 import QtQuick.Templates as T
 import Lodestar.Kit
 
-/// The sheet that slides up over a screen: a bar of 44 docked on the content, whose height the presentation says. Only
-/// Cancel, or Escape, leads out; what lies behind takes no press. The content's controller lives as long as the sheet is
-/// seen, however early the presentation goes.
+/// The sheet that slides up over a screen: a bar of 44 on top of the content, whose height the presentation gives. Only
+/// Cancel or Escape leads out; the screen behind takes no press. The content's controller lives as long as the sheet
+/// can be seen, even if the presentation ends earlier.
 T.Popup {
     id: sheet
 
-    /// The screen: what it puts up is shown, and it steps back meanwhile if the presentation wants it.
+    /// The screen that presents the sheet. The screen steps back while the sheet is up, if the presentation wants it.
     required property SceneView view
     readonly property SemiModalPresentation presentation: view.presentation
     readonly property Item underlay: view.body
@@ -22,10 +22,10 @@ T.Popup {
     /// Points of the sheet that the keyboard covers.
     property real coveredHeight: inputMethod.visible ? inputMethod.keyboardRectangle.height : 0
     property real bodyHeight: 0
-    /// What bodyHeight is on its way to.
+    /// The end value of the animation of `bodyHeight`.
     property real statedHeight: 0
     property bool complete: false
-    /// 1 up, 0 away.
+    /// 1 is up, 0 is away.
     property real slide: 0
 
     parent: T.Overlay.overlay

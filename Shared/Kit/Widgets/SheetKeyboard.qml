@@ -2,8 +2,9 @@
 import QtQuick
 import Lodestar.Kit
 
-/// Tells the host of a sheet of the keyboard's coming, going and change of height. The keyboard goes when editing ends,
-/// though it may be seen a moment longer: what the sheet does next, it does after that.
+/// Tells the host of a sheet that the keyboard comes, goes or changes its height. The host hears that the keyboard goes
+/// as soon as editing ends, though the keyboard may be visible a moment longer, so that what the sheet does next comes
+/// after that.
 QtObject {
     id: keyboard
 
@@ -16,7 +17,7 @@ QtObject {
     /// Points of the window that the keyboard covers.
     readonly property real height: inputMethod.visible ? inputMethod.keyboardRectangle.height : 0
     property bool announced: false
-    /// On its way out: what it still covers is no news.
+    /// The keyboard is on its way out; changes of its height are not reported.
     property bool leaving: false
 
     onHeightChanged: {
@@ -36,7 +37,7 @@ QtObject {
             host.keyboardWillHide();
         }
     }
-    /// Somebody writes again before the keyboard has gone.
+    /// Editing began again before the keyboard was gone.
     function willStay() {
         if (leaving) {
             leaving = false;

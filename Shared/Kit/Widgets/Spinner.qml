@@ -2,8 +2,8 @@
 import QtQuick
 import Lodestar.Kit
 
-/// An activity indicator, 28 points on an empty screen, 16 where a value will stand. Bound to an outlet it runs and hides
-/// with it. Where motion is reduced it pulses instead of turning.
+/// An activity indicator: 28 points on an empty screen, 16 in place of a value. With an outlet, the outlet starts,
+/// stops and hides it. Where motion is reduced, it pulses and does not turn.
 Icon {
     id: spinner
 

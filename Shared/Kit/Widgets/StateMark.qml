@@ -2,8 +2,8 @@
 import QtQuick
 import Lodestar.Kit
 
-/// A state's shape: "good" a disc, "off" a ring (idle states too), "alert" a triangle, "error" a diamond, "offline" a
-/// barred ring.
+/// The shape of a state: a disc for "good", a ring for "off" (idle states too), a triangle for "alert", a diamond for
+/// "error", a barred ring for "offline".
 Icon {
     property string mark: "good"
     property real scaleFactor: Theme.textScale

@@ -2,32 +2,32 @@
 import QtQuick
 import Lodestar.Kit
 
-/// A state as word, colour and shape. The mark leads at a row's start and follows at its end. The dark red of errors is
-/// hardly readable on cards, so it rides on a plate that hangs out by its padding: the word keeps its place, and what
-/// stands beside it sees the size without the plate.
+/// A state as word, colour and shape. The mark stands before the word at a row's start and after it at a row's end. The
+/// dark red of errors is hard to read on cards, so a plate lies behind it. The plate's padding is not part of the
+/// item's size, so that the word keeps its place.
 Item {
     id: state
 
     required property string word
-    /// Empty for none.
+    /// The shape of the mark; empty for no mark.
     property string mark: "good"
     property color color: Theme.successGreen
     property bool markLeads: false
     property int size: Theme.stateSize
     property bool plated: Qt.colorEqual(color, Theme.errorRed)
     property bool wraps: false
-    /// Above and below the plated word: less where another line is near.
+    /// Points of the plate above and below the word; smaller where another line is near.
     property int platePadding: 2
     property real scaleFactor: Theme.textScale
 
     readonly property color shownColor: Theme.inkFor(color)
     readonly property real gap: scaleFactor >= 1.5 ? 10 : 6
     readonly property real markSpace: mark === "" ? 0 : markItem.width + gap
-    // A point more than measured: the layout may round its glyphs up.
+    // One point more than measured, because the layout may round glyph widths up.
     readonly property real wish: Math.ceil(Math.max(measure.advanceWidth, measure.boundingRect.width)) + 1 + markSpace
     readonly property real used: Math.min(width, wish)
 
-    /// From the start of the item to where the system's direction puts it.
+    /// Maps a distance from the item's start to x, for either text direction.
     function place(start: real, extent: real): real {
         return Theme.mirrored ? width - start - extent : start;
     }
@@ -37,7 +37,7 @@ Item {
     Accessible.role: Accessible.StaticText
     Accessible.name: word
 
-    // The label's own implicit width would answer to its width, which answers to this.
+    // The word is measured separately: the label's implicit width depends on its width, which depends on this.
     TextMetrics {
         id: measure
 
@@ -69,7 +69,7 @@ Item {
         size: state.size
         scaleFactor: state.scaleFactor
         color: state.shownColor
-        // Close to its mark, whichever side that is on.
+        // The word is aligned towards its mark.
         horizontalAlignment: state.markLeads ? Text.AlignLeft : Text.AlignRight
         elide: state.wraps ? Text.ElideNone : Text.ElideMiddle
         wrapMode: state.wraps ? Text.Wrap : Text.NoWrap

@@ -2,7 +2,7 @@
 import QtQuick
 import Lodestar.Kit
 
-/// The line below a form that says what is going on, in the colour that its outlet gives; errors ride on their plate.
+/// The line below a form that tells the state of what is going on, in its outlet's colour; errors stand on a plate.
 Item {
     id: status
 
@@ -11,7 +11,7 @@ Item {
 
     readonly property bool failed: Qt.colorEqual(outlet.color, Theme.errorRed)
 
-    /// Of one line.
+    /// The height with a single line of text.
     readonly property int leastHeight: 42
 
     implicitHeight: Math.max(leastHeight, word.implicitHeight + 18)

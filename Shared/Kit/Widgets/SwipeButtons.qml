@@ -4,23 +4,23 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Lodestar.Kit
 
-/// The buttons that a swiped row uncovers. They take the keyboard when they come; the arrows move between them and
-/// Escape closes.
+/// The buttons that a swiped row uncovers. They get the keyboard focus when they appear; the arrows move between them
+/// and Escape closes them.
 FocusScope {
     id: view
 
     required property var buttons
     required property bool trailing
     required property int buttonWidth
-    /// How much of them is uncovered.
+    /// Width of the buttons that is uncovered.
     required property real extent
-    /// The button that fills all that is uncovered; -1 for none.
+    /// The button that fills the uncovered width; -1 for none.
     property int expanded: -1
     signal tapped(int index)
     signal escaped()
 
     readonly property bool atRight: trailing !== Theme.mirrored
-    /// What a drag uncovers beyond the last button. The outermost fills it, the others go with the row.
+    /// Width that a drag uncovers beyond the last button. The outermost button fills it; the others move with the row.
     readonly property real spread: Math.max(0, extent - buttons.length * buttonWidth)
 
     Accessible.role: Accessible.Grouping
@@ -102,7 +102,7 @@ FocusScope {
             next.forceActiveFocus(Qt.TabFocusReason);
         }
     }
-    /// At the button beside the row: what cannot be taken back stands at the outer edge.
+    /// Focuses the button next to the row, because an action that cannot be undone stands at the outer edge.
     function takeKeyboard() {
         step(repeater.count - 1);
     }

@@ -4,31 +4,31 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Lodestar.Kit
 
-/// A row that slides aside and uncovers buttons: trailing ones at its end, leading ones at its start. By finger or mouse,
-/// or at once by a long press, the secondary button or the menu key.
+/// A row that slides aside and uncovers buttons: trailing ones at its end, leading ones at its start. A finger or the
+/// mouse slides the row; a long press, the secondary button or the menu key opens it at once.
 Item {
     id: cell
 
     property var buttons: []
     property var leadingButtons: []
-    /// The leading button that a far drag lets fill the row, and chooses when the finger goes; -1 for none.
+    /// The leading button that fills the row after a far drag and is chosen when the finger leaves; -1 for none.
     property int leadingExpansion: -1
     property bool pressable: true
-    /// Shown pressed whatever the finger does.
+    /// Makes the row look pressed in any case.
     property bool highlighted: false
     property bool focusShown: false
     property color surface: Theme.card
     default property alias content: holder.data
     signal clicked()
     signal buttonTapped(int index, bool leading)
-    /// The cell is about to uncover buttons: close the others.
+    /// The cell is about to uncover buttons, so that others should close.
     signal opening()
-    /// Closed by Escape: the keyboard needs another place.
+    /// Escape closed the cell; the keyboard focus has to go elsewhere.
     signal escaped()
 
-    /// How far the row is aside: positive uncovers the trailing buttons.
+    /// Points by which the row is aside: positive uncovers the trailing buttons, negative the leading ones.
     property real reveal: 0
-    /// The drag has come so far that letting go chooses the expanding button.
+    /// The drag is far enough that letting go chooses the expanding button.
     property bool expanded: false
     property bool keyboardWanted: false
     readonly property bool isOpen: reveal !== 0
@@ -38,7 +38,7 @@ Item {
     readonly property real trailingWidth: buttons.length * buttonWidth
     readonly property real leadingWidth: leadingButtons.length * buttonWidth
     readonly property bool hasButtons: trailingWidth + leadingWidth > 0
-    /// The buttons' words, the leading ones after the trailing ones: what a reader does without uncovering them.
+    /// The buttons' names, trailing ones first. A screen reader offers them as actions without uncovering the buttons.
     readonly property var commands: buttons.concat(leadingButtons).map((button) => button.title || button.spoken)
 
     function doCommand(command: int) {
@@ -57,7 +57,7 @@ Item {
     function close() {
         settleTo(0);
     }
-    /// Without motion, as when the row is used for something else.
+    /// Closes the row without animation, as when the row is reused for other content.
     function reset() {
         settling.stop();
         reveal = 0;
@@ -70,7 +70,7 @@ Item {
             open(trailingWidth === 0);
         }
     }
-    /// To the innermost of the buttons that are uncovered, or about to be.
+    /// Gives the keyboard focus to the innermost button; at once, or as soon as the buttons exist.
     function takeKeyboard() {
         const first = uncovered.itemAt(0) as SwipeButtons;
         keyboardWanted = first === null;
@@ -105,24 +105,26 @@ Item {
             anchors.fill: parent
             color: cell.surface
         }
-        // Pointer handlers here would keep a finger from scrolling the list: Qt 6.4's flickable takes nothing from them.
+        // A MouseArea, because pointer handlers would keep a finger from scrolling the list: Qt 6.4's flickable cannot
+        // take the grab from them.
         MouseArea {
             id: area
 
             property bool held: false
             property real from: 0
-            // Speed is taken over a stretch of the way: single moves come in bunches when the program was busy, and two of
-            // a bunch tell nothing.
+            // Speed is measured over at least this many milliseconds: events arrive in bunches when the program was
+            // busy, and the events of one bunch say nothing about speed.
             readonly property int stretch: 40
             property real stretchX: 0
             property real stretchTime: 0
             property real nextX: 0
             property real nextTime: 0
             property real lastTime: 0
-            /// Points a second, towards the end of the row.
+            /// In points a second, towards the end of the row.
             property real speed: 0
 
-            // Joined with | it would be interpreted, and the first interpreted look at Qt has all its names read.
+            // A sum, because QML compiles + but interprets |, and the first interpreted use of Qt makes the engine read
+            // all of Qt's names.
             readonly property int leftOrRight: Qt.LeftButton + Qt.RightButton
 
             anchors.fill: parent
@@ -181,7 +183,7 @@ Item {
                 }
                 cell.expanded = false;
                 const over = Math.max(0, Math.abs(wish) - limit);
-                // Past the last button the row follows with a fifth of the finger.
+                // Beyond the last button, the row follows at a fifth of the finger's way.
                 cell.reveal = Math.sign(wish) * (limit === 0 ? 0 : Math.min(Math.abs(wish), limit) + over / 5);
             }
             function letGo() {
@@ -192,7 +194,7 @@ Item {
                     return;
                 }
                 const extent = cell.reveal > 0 ? cell.trailingWidth : -cell.leadingWidth;
-                // A finger that rested before it went was not flicking.
+                // A finger that rested before it left did not flick.
                 const flick = Date.now() - lastTime < 50 ? speed * Math.sign(extent) : 0;
                 const stays = Math.abs(cell.reveal) > Math.abs(extent) / 2 ? flick > -300 : flick > 300;
                 cell.settleTo(stays ? extent : 0);
@@ -212,7 +214,7 @@ Item {
 
             model: cell.isOpen ? 1 : 0
             onItemAdded: {
-                // Made when the first of them shows.
+                // The buttons exist only from now on, so a pending request for the keyboard focus is fulfilled here.
                 if (cell.keyboardWanted) {
                     cell.takeKeyboard();
                 }

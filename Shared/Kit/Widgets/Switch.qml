@@ -2,13 +2,14 @@
 import QtQuick
 import Lodestar.Kit
 
-/// A switch, 50 by 30 in a target of 44. With an outlet it shows that and writes the user's flip into it.
+/// A switch of 50 by 30 points in a target of 44. With an outlet, the switch shows the outlet's value and writes the
+/// user's change into it.
 Pressable {
     id: control
 
     property SwitchOutlet outlet: null
     property bool checked: outlet !== null && outlet.on
-    /// By the user.
+    /// The user changed the switch.
     signal toggled()
 
     implicitWidth: 50

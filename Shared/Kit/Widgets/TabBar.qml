@@ -4,7 +4,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Lodestar.Kit
 
-/// The tabs of a controller: along the lower edge, or as a rail at the start of wide windows, under the application's
+/// The tabs of a controller: along the lower edge or, in wide windows, as a rail at the start, below the application's
 /// mark.
 Rectangle {
     id: bar

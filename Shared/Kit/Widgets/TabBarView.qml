@@ -4,7 +4,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Lodestar.Kit
 
-/// Mirrors a tab bar controller. A tab's scene is made when it is first shown and stays.
+/// Shows a tab bar controller. A tab's scene is made when the tab is first shown, and is kept.
 FocusScope {
     id: view
 

@@ -2,7 +2,7 @@
 import QtQuick
 import Lodestar.Kit
 
-/// One place of a CardTable: a header, or a row of the card. The table's own part; screens write a TableCell.
+/// One place of a CardTable: a header or a row of a card. CardTable makes these itself; screens write a TableCell.
 AccessibleItem {
     required property int index
     required property bool isHeader

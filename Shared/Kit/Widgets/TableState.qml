@@ -2,20 +2,20 @@
 import QtQuick
 import Lodestar.Kit
 
-/// What a CardTable and its rows share: what is pressed, chosen, swiped open.
+/// The state that a CardTable and its rows share: which rows are pressed, chosen and swiped open.
 QtObject {
     id: state
 
     required property TableOutlet table
     required property Component delegate
     required property real sideMargin
-    /// The list's own, and whether the list has the keyboard.
+    /// The list's current row, and whether the list has the keyboard focus.
     required property int currentIndex
     required property bool listHasKeyboard
 
     property int selectedIndex: -1
     property int pressedIndex: -1
-    /// The last thing that happened in the table came from the keyboard: rings are drawn.
+    /// The user's last action in the table came from the keyboard, so that focus rings are drawn.
     property bool keyboardUsed: false
     property SwipeCell swiped: null
     readonly property bool hasOpenSwipe: swiped !== null && swiped.isOpen
@@ -54,7 +54,8 @@ QtObject {
             pressedIndex = selectedIndex;
         }
     }
-    /// The row so many rows away in the direction, headers not counted, or the last on the way; -1 for none.
+    /// The row that is `rows` rows away in a direction, not counting headers; at the table's end, the last row on the
+    /// way. -1 for none.
     function rowFrom(from: int, direction: int, rows: int): int {
         let target = -1;
         let index = from + direction;

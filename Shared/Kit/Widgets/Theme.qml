@@ -4,7 +4,7 @@ pragma Singleton
 import QtQuick
 import Lodestar.Kit
 
-/// Every colour role, size and duration of the interface. Measures are points, which are the scene's units.
+/// All colour roles, sizes and durations of the interface. Lengths are points, the unit of the scene.
 QtObject {
     id: theme
 
@@ -32,7 +32,7 @@ QtObject {
     readonly property color faint: dark ? "#5C6773" : "#A9B3BF"
     readonly property color match: dark ? "#0B3D58" : "#CDEBFB"
 
-    // Blue: the accent only fills, beside a change of shape; whatever is text or line is accentInk.
+    // Blue: accent is for fills only, and a fill never tells a state alone; text and lines use accentInk.
     readonly property color accent: "#009EEB"
     readonly property color accentInk: dark ? "#71C7F4" : "#0072AD"
     readonly property color fill: accentInk
@@ -60,8 +60,8 @@ QtObject {
     readonly property color chartBlue: dark ? "#A9DDF8" : "#00308B"
     readonly property color chartGrid: dark ? "#333C47" : "#C4CCD5"
 
-    /// The colour as text or mark. Controllers name the platform's colours as they are in the light; palette colours are
-    /// the same in both appearances and pass.
+    /// The colour for text or a mark in the present appearance. Controllers name system colours by their light values;
+    /// palette colours are the same in both appearances and are returned as they are.
     function inkFor(named: color): color {
         if (Qt.colorEqual(named, "#66707E")) {
             return systemGrey;
@@ -74,11 +74,11 @@ QtObject {
         }
         return Qt.colorEqual(named, "#B35900") ? systemOrange : named;
     }
-    /// The colour as a button's ground.
+    /// The colour for a button's ground in the present appearance.
     function surfaceFor(named: color): color {
         return Qt.colorEqual(named, "#C3CAD3") ? systemLightGrey : named;
     }
-    /// What reads on a button of that colour.
+    /// The text colour that can be read on a button of this colour.
     function inkOn(background: color): color {
         if (Qt.colorEqual(background, tesselLightGreen)) {
             return tesselBlue;
@@ -88,13 +88,13 @@ QtObject {
 
     // Type
     readonly property string family: "Avenir Book"
-    /// Of everything that grows with the text.
+    /// Scale of everything that grows with the text size.
     readonly property real textScale: Appearance.textScale
-    /// Bars and tab labels stop here.
+    /// Scale of bars and tab labels, which stop growing here.
     readonly property real barScale: Math.min(textScale, 1.3)
-    /// Badges stop here.
+    /// Scale of badges, which stop growing here.
     readonly property real badgeScale: Math.min(textScale, 1.5)
-    /// What stood at the end of a row stands under its name.
+    /// At large text, a row's value stands below its name and not at the row's end.
     readonly property bool stacked: textScale >= 1.5
     readonly property int figureSize: 34
     readonly property int rootTitleSize: 28
@@ -104,7 +104,7 @@ QtObject {
     readonly property int captionSize: 13
     readonly property int noteSize: 12
     readonly property int axisSize: 11
-    /// The line that belongs to a size of the scale.
+    /// The line height that belongs to a size of the type scale.
     function lineFor(size: real): real {
         switch (size) {
         case 34: return 40;
@@ -126,9 +126,9 @@ QtObject {
     readonly property int cardRadius: 12
     readonly property int sheetRadius: 16
     readonly property int target: 44
-    /// Before a placeholder, for the text cursor.
+    /// Points before a placeholder, for the text cursor.
     readonly property int caretRoom: 3
-    /// Inside a card, from its edge to a row's text; root titles and section headers share the edge.
+    /// Points from a card's edge to the text of its rows; root titles and section headers are aligned with that text.
     readonly property int rowStart: 20
     readonly property int rowEnd: 15
     readonly property int sectionGap: 20
@@ -142,7 +142,7 @@ QtObject {
     readonly property int sheetMaxWidth: 560
     readonly property int actionSheetMaxWidth: 420
 
-    // Width classes, of the window
+    // Width classes of the window
     readonly property int compactWidth: 0
     readonly property int mediumWidth: 1
     readonly property int wideWidth: 2
@@ -152,12 +152,12 @@ QtObject {
     function cardMargin(width: real): int {
         return width < 600 ? 12 : 24;
     }
-    /// Beside cards in a page of that width: the margin, or what keeps them at the readable measure.
+    /// Points on either side of a page's cards: the margin, or more where the cards have reached their greatest width.
     function sideMargin(width: real, maximum: real): real {
         return Math.max(cardMargin(width), Math.floor((width - maximum) / 2));
     }
 
-    // Motion, milliseconds
+    // Durations in milliseconds
     readonly property int pressIn: reducedMotion ? 0 : 80
     readonly property int pressOut: reducedMotion ? 0 : 160
     readonly property int push: reducedMotion ? 120 : 280

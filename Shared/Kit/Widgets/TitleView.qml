@@ -2,13 +2,13 @@
 import QtQuick
 import Lodestar.Kit
 
-/// The two-line title of pushed screens, 200 by 44: both lines shrink to fit.
+/// The two-line title of pushed screens, 200 by 44 points; both lines shrink to fit.
 Item {
     id: view
 
     property string title
     property string subtitle
-    /// In the place of a title that is empty.
+    /// Shown in place of an empty title.
     property string fallback
     property LabelOutlet titleOutlet: null
     property LabelOutlet subtitleOutlet: null
