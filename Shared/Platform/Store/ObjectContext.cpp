@@ -32,7 +32,7 @@ AttributeValue readColumn(const SQLite::Column& column)
     return std::string(text, static_cast<std::size_t>(column.getBytes()));
 }
 
-/// The value is not copied: it must live until the statement has run.
+/// Binds the value without a copy: it must live until the statement has run.
 void bindValue(SQLite::Statement& statement, int parameter, const AttributeValue& value)
 {
     if (const auto* number = std::get_if<std::int64_t>(&value)) {
@@ -44,7 +44,7 @@ void bindValue(SQLite::Statement& statement, int parameter, const AttributeValue
     }
 }
 
-/// Runs a prepared statement that yields no rows and leaves it ready for its next use, also when it throws.
+/// Runs a prepared statement that yields no rows, and resets it for its next use even when it throws.
 void run(SQLite::Statement& statement)
 {
     struct Reset {
@@ -55,7 +55,7 @@ void run(SQLite::Statement& statement)
     statement.executeStep();
 }
 
-/// A transaction around each save, its statements kept prepared: parsing them each time took a sixth of a save.
+/// The transaction around each save. Its statements stay prepared: parsing them each time took a sixth of a save.
 class SaveTransaction
 {
 public:
@@ -72,7 +72,7 @@ public:
             work();
             run(m_commit);
         } catch (...) {
-            // SQLite may have rolled back by itself; then this fails, and nothing is lost by it.
+            // When SQLite has rolled back already, this fails, and that does no harm.
             m_database.tryExec("ROLLBACK");
             throw;
         }
@@ -87,7 +87,7 @@ private:
 } // namespace
 
 struct ObjectContext::State {
-    /// An entity's objects in memory by row number, and its statements, prepared on first use.
+    /// An entity's objects in memory, by row number, and its statements, prepared on first use.
     struct Entity {
         SavedObjects saved;
         std::map<std::uint64_t, SQLite::Statement> updates; ///< by dirty mask
@@ -111,8 +111,8 @@ struct ObjectContext::State {
     SaveTransaction transaction{*database};
     std::vector<Entity> entities;
     std::vector<ObjectRef> inserted;     ///< not saved yet, in order
-    std::vector<ManagedObject*> changed; ///< saved ones with dirty bits; owned by `saved`
-    std::vector<ObjectRef> deleted;      ///< still in the store
+    std::vector<ManagedObject*> changed; ///< saved objects with dirty bits; owned by `saved`
+    std::vector<ObjectRef> deleted;      ///< deleted objects that are still in the store
     std::function<void()> scrubNeeded;
     bool scrubPending = false; ///< the log still holds deleted records
 };
@@ -122,7 +122,8 @@ void ManagedObject::setAttribute(std::size_t index, AttributeValue value)
     if (m_values[index] == value) {
         return;
     }
-    // Noted first, which may fail: a change that no save knows of would be lost without a word.
+    // Marks the change before the value is set, because marking may fail: a value set without a mark would never be
+    // saved.
     if (m_context != nullptr && m_rowId != 0) {
         if (m_dirty == 0) {
             m_context->m_state->changed.push_back(this);
@@ -134,7 +135,7 @@ void ManagedObject::setAttribute(std::size_t index, AttributeValue value)
 
 Result<std::unique_ptr<ObjectContext>> ObjectContext::open(const std::string& path, ManagedObjectModel model)
 {
-    // The dirty mask has one bit an attribute.
+    // The dirty mask has one bit for each attribute.
     assert(std::ranges::all_of(model.entities, [](const auto& entity) { return entity.attributes.size() <= 64; }));
     auto database = openStoreFile(path, model);
     if (!database) {
@@ -283,7 +284,8 @@ void ObjectContext::writeChanged()
             }
         }
         found->second.bind(++parameter, object->m_rowId);
-        // A row that another process took out stays out: an object's change does not bring its record back.
+        // When another process has deleted the row, the update changes nothing: an object's change must not bring the
+        // record back.
         run(found->second);
     }
 }
@@ -309,12 +311,12 @@ Result<void> ObjectContext::save()
     if (!hasChanges()) {
         return {};
     }
-    // What needs memory is done before the commit: from there on nothing may fail.
+    // Everything that needs memory happens before the commit: after it nothing may fail.
     std::vector<SavedObjects> written;
     try {
         written.resize(m_state->entities.size());
         m_state->transaction.perform([&] {
-            // Deleted rows go first: the store may give their numbers to new ones.
+            // Deleted rows go first: SQLite may give their numbers to new rows.
             writeDeleted();
             writeChanged();
             writeInserted(written);
@@ -351,12 +353,12 @@ void ObjectContext::scrubSoon()
             return;
         }
     } catch (const std::bad_alloc&) {
-        // Nobody can be asked to do it later: it is done now.
+        // The later scrub cannot be arranged, so it happens now.
     }
     scrub();
 }
 
-// The deletion itself stands by now: a failure here only leaves the work to the next save or to closing.
+// The deletion itself is already committed: a failure here only leaves the wiping to the next save or to closing.
 void ObjectContext::scrub()
 {
     if (m_state->scrubPending) {

@@ -17,7 +17,7 @@
 namespace lodestar
 {
 
-/// A stored attribute: none, a number or a text.
+/// A stored attribute's value: none, a number or a text.
 using AttributeValue = std::variant<std::monostate, std::int64_t, std::string>;
 
 enum class AttributeType { Number, String };
@@ -36,20 +36,20 @@ struct EntityDescription {
     std::function<std::shared_ptr<ManagedObject>()> make;
 };
 
-/// To-many relation between two entities, each named from its own side ("groups" of Corvel, "corvels" of Group).
+/// A to-many relation between two entities. Each side has its own name ("groups" of Corvel, "corvels" of Group).
 struct RelationshipDescription {
     std::string entity, name, inverseEntity, inverseName;
 };
 
-/// The compiled model: what a store must hold. Two models are the same when their `version` is.
+/// The compiled model: what a store must hold. Two models with the same `version` are the same.
 struct ManagedObjectModel {
     std::vector<EntityDescription> entities;
     std::vector<RelationshipDescription> relationships;
     int version = 1;
 };
 
-/// A record. Its attributes are read and written by index in the entity's order, on the context's thread. A write that
-/// changes nothing leaves the object clean.
+/// A record. Attributes are read and written by index in the entity's order, on the context's thread. Writing an equal
+/// value leaves the object clean.
 class ManagedObject
 {
 public:
@@ -61,10 +61,11 @@ public:
     const AttributeValue& attribute(std::size_t index) const { return m_values[index]; }
     void setAttribute(std::size_t index, AttributeValue value);
 
-    /// In the store or to be put there by the next save; false once deleted or when never inserted.
+    /// True when the object is in the store or the next save will put it there; false once deleted or when never
+    /// inserted.
     bool isInserted() const { return m_inserted; }
-    /// True once a context has been told to delete the object. Any thread: work that was under way for the object asks
-    /// before it leaves traces of it.
+    /// True once a context was told to delete the object. Any thread: background work for the object asks before it
+    /// stores a result.
     bool isDeleted() const { return m_deleted; }
 
 private:
@@ -78,32 +79,34 @@ private:
     class ObjectContext* m_context = nullptr;
 };
 
-/// One SQLite store and the objects read from it. One thread. Objects are shared: a deleted one stays readable to
-/// whoever holds it.
+/// One SQLite store and the objects read from it. One thread. Objects are shared: a deleted object stays readable for
+/// all who hold it.
 class ObjectContext
 {
 public:
-    /// Opens or creates the store. A file that is no store of this model is refused and left byte for byte as it was.
+    /// Opens or creates the store. Refuses a file that is no store of this model and leaves it byte for byte as it was.
     static Result<std::unique_ptr<ObjectContext>> open(const std::string& path, ManagedObjectModel model);
     ~ObjectContext();
     ObjectContext(const ObjectContext&) = delete;
     ObjectContext& operator=(const ObjectContext&) = delete;
 
-    /// A new object of the entity, to be stored by the next save. The entity must be in the model.
+    /// Makes a new object of the entity; the next save stores it. The entity must be in the model.
     std::shared_ptr<ManagedObject> insertNewObject(std::string_view entity);
-    /// Takes an object out, from the store with the next save. Objects of no context are left alone.
+    /// Deletes the object from the context at once and from the store with the next save. Leaves an object of no
+    /// context or of another context alone.
     void deleteObject(const std::shared_ptr<ManagedObject>& object);
-    /// All objects of the entity, saved ones in the store's order, then unsaved ones in the order of insertion. Objects
-    /// already in memory are the same objects.
+    /// All objects of the entity: saved ones in the store's order, then unsaved ones in the order of insertion. An
+    /// object that is already in memory is returned itself, not as a copy.
     Result<std::vector<std::shared_ptr<ManagedObject>>> fetchAll(std::string_view entity);
 
     bool hasChanges() const;
-    /// Writes what changed, in one transaction. On failure the store is as before and every change still pending.
+    /// Writes all changes in one transaction. On failure the store is as before and every change is still pending.
     Result<void> save();
 
-    /// Wipes what deleted objects left in the store's files, if anything; a few writes to the disk. `save` does so at
-    /// once, or, with a function set here, calls that, which is to see to it soon: many deletions in a row then share
-    /// it. What is not wiped by then is when the store is closed or opened again.
+    /// Wipes the remains of deleted objects from the store's files, if there are any; costs a few writes to the disk.
+    /// `save` does this at once. With a function set here, `save` calls that function instead; the function must see
+    /// that `scrub` runs soon, so that many deletions in a row share one scrub. Remains that are never scrubbed are
+    /// wiped when the store is closed or opened again.
     void scrub();
     void setScrubNeeded(std::function<void()> scrubNeeded);
 
@@ -116,7 +119,7 @@ private:
     void writeDeleted();
     void writeChanged();
     using SavedObjects = std::map<std::int64_t, std::shared_ptr<ManagedObject>>; ///< by row number
-    /// Adds each object, with the number that it was given, to its entity's place.
+    /// Writes each new object and notes it, with its row number, in `written` under its entity.
     void writeInserted(std::vector<SavedObjects>& written);
     void scrubSoon();
 

@@ -30,9 +30,9 @@ namespace
 
 namespace fs = std::filesystem;
 
-/// "LODS": stands in the header of every store of ours.
+/// "LODS": marks every Lodestar store in its header.
 constexpr std::int32_t applicationId = 0x4C4F4453;
-/// How long another process's lock on the store is waited for.
+/// The longest wait, in milliseconds, for another process's lock on the store.
 constexpr int busyTimeoutMs = 2000;
 
 Error makeError(int code, std::string description, const std::string& reason = {})
@@ -45,15 +45,15 @@ Error systemError(std::string description, int number)
     return makeError(SQLITE_CANTOPEN, std::move(description), std::generic_category().message(number));
 }
 
-/// The numbers by which a store says whose it is. They are written once, before the file gets its name, so that the
-/// main file tells them truly even while newer pages stand in the write-ahead log.
+/// The numbers that say which program and model a store belongs to. They are written once, before the file gets its
+/// name, so the main file's copy is right even while newer pages are in the write-ahead log.
 struct Identity {
     std::int32_t applicationId;
     std::int32_t userVersion;
 };
 
-/// An open file of SQLite's own layer. Closing a descriptor of our own would drop the locks that a connection of this
-/// process holds on the same file.
+/// A file opened through SQLite's own file layer. Closing a descriptor of our own would drop the locks that a
+/// connection of this process holds on the same file.
 class HeaderReader
 {
 public:
@@ -153,7 +153,7 @@ Result<Presence> checkFile(const std::string& path, const ManagedObjectModel& mo
         if (errno != ENOENT) {
             return systemError("The store cannot be reached.", errno);
         }
-        // SQLite would play these into the new, empty file.
+        // SQLite would replay such a log into the new, empty file.
         if (isFilled(path + "-wal") || isFilled(path + "-journal")) {
             return makeError(SQLITE_CORRUPT, "The store's main file is missing beside its log.");
         }
@@ -162,7 +162,7 @@ Result<Presence> checkFile(const std::string& path, const ManagedObjectModel& mo
     if (!S_ISREG(status.st_mode)) {
         return makeError(SQLITE_CANTOPEN, "The store is not a regular file.");
     }
-    // A store of ours is never empty, not even for an instant: an empty file is one that lost its contents.
+    // A Lodestar store is never empty, not even for an instant: an empty file is one that lost its contents.
     const Result<Identity> identity = readIdentity(path);
     if (!identity) {
         return identity.error();
@@ -173,7 +173,8 @@ Result<Presence> checkFile(const std::string& path, const ManagedObjectModel& mo
     return Presence::Present;
 }
 
-/// A file under a name of its own until `moveTo`, gone with its journal otherwise.
+/// A file with a temporary name until `moveTo` renames it. When it is not renamed, the destructor removes it with its
+/// journal.
 class ScratchFile
 {
 public:
@@ -199,7 +200,8 @@ public:
     int error() const { return m_error; }
     const std::string& path() const { return m_path; }
 
-    /// Never replaces a file, where the disk has any means of that: a store that came into being meanwhile stays.
+    /// Gives the file its name without replacing another file, where the disk can do that: a store that another process
+    /// made in the meantime stays.
     int moveTo(const std::string& target)
     {
 #ifdef RENAME_NOREPLACE
@@ -227,16 +229,17 @@ private:
 #if defined(__linux__)
         return ::mkostemp(pattern, O_CLOEXEC);
 #else
-        return ::mkstemp(pattern); // closed at once: a child of that instant inherits an empty file at worst
+        // the file is closed at once: a child process started in that instant inherits an empty file at worst
+        return ::mkstemp(pattern);
 #endif
     }
 
     std::string m_path;
-    std::string m_journal; ///< of the same length from the start: going away takes no memory
+    std::string m_journal; ///< has its full length from the start, so that the destructor needs no memory
     int m_error = 0;
 };
 
-/// Makes the store complete under another name and moves it into place, so that a process that dies meanwhile leaves
+/// Makes the complete store under another name and moves it into place, so that a process that dies in between leaves
 /// either no store or a whole one.
 Result<void> createStore(const std::string& path, const ManagedObjectModel& model)
 {
@@ -279,8 +282,8 @@ Result<void> checkSchema(const SQLite::Database& database, const ManagedObjectMo
     return {};
 }
 
-/// Everything that may refuse the store, by reading only. The check of the pages runs at each start because a failed
-/// fetch later would look like an empty registry.
+/// Makes every check that may refuse the store; only reads. The pages are checked at each start because a failed fetch
+/// later would look like an empty registry.
 Result<void> verify(SQLite::Database& database, const ManagedObjectModel& model)
 {
     database.exec("PRAGMA trusted_schema=OFF; PRAGMA cell_size_check=ON");
@@ -306,7 +309,7 @@ Result<void> configure(SQLite::Database& database)
     if (const std::string mode = database.execAndGet("PRAGMA journal_mode=WAL").getString(); mode != "wal") {
         return makeError(SQLITE_CANTOPEN, "The store cannot keep a write-ahead log.", "journal mode " + mode);
     }
-    // Deleted records hold passwords: nothing of them may stay in free pages or reach a temporary file.
+    // Deleted records hold passwords: no part of them may stay in free pages or reach a temporary file.
     database.exec("PRAGMA synchronous=FULL; PRAGMA secure_delete=ON; PRAGMA temp_store=MEMORY; PRAGMA foreign_keys=ON");
     return {};
 }
@@ -333,8 +336,9 @@ Result<std::unique_ptr<SQLite::Database>> connect(const std::string& path, const
     const bool hasLog = isFilled(path + "-wal");
     auto database =
         std::make_unique<SQLite::Database>(path, SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, busyTimeoutMs);
-    // The last connection to go moves the log into the main file: not into one that is about to be refused. Without a
-    // log the switch must stay off, since it would leave an empty log behind.
+    // The last connection that closes moves the log into the main file; a store that is about to be refused must not be
+    // changed that way. Without a log the switch must stay off, because with it closing would leave an empty log
+    // behind.
     setCheckpointOnClose(*database, !hasLog);
     if (const Result<void> verified = verify(*database, model); !verified) {
         return verified.error();
@@ -345,7 +349,7 @@ Result<std::unique_ptr<SQLite::Database>> connect(const std::string& path, const
     setCheckpointOnClose(*database, true);
     makePrivate(path);
     if (hasLog) {
-        emptyLog(*database); // a process that was killed could not
+        emptyLog(*database); // the process that left the log was killed before it could
     }
     return database;
 }

@@ -12,20 +12,21 @@
 namespace lodestar
 {
 
-/// Opens the model's store at the path, or makes an empty one when nothing is there: file 0600, a missing folder 0700.
-/// The connection has passed an integrity check and is set up for one thread.
+/// Opens the model's store at the path, or makes an empty store when nothing is there: the file 0600, a missing folder
+/// 0700. The connection has passed an integrity check and is set up for one thread.
 ///
-/// Refused, with the file, its write-ahead log and the folder as they were: what is no regular file, what is empty,
-/// what is no store of this model, a damaged store, a store that cannot be written, a log whose main file is missing.
+/// Refuses the following and leaves the file, its write-ahead log and the folder as they were: anything but a regular
+/// file, an empty file, a file that is no store of this model, a damaged store, a store that cannot be written, a log
+/// whose main file is missing.
 Result<std::unique_ptr<SQLite::Database>> openStoreFile(const std::string& path, const ManagedObjectModel& model);
 
-/// Moves the write-ahead log into the main file and cuts it to nothing. Until then it keeps every page as it once was,
-/// deleted passwords included. False when that failed, with the store as good as before.
+/// Moves the write-ahead log into the main file and cuts the log to nothing. Until then the log keeps earlier versions
+/// of pages, deleted passwords included. False when that failed; the store is then as good as before.
 bool emptyLog(const SQLite::Database& database);
 
-/// Domain `storeErrorDomain`, SQLite's extended code and text.
+/// An error in `storeErrorDomain` with SQLite's extended code and text.
 Error storeError(const SQLite::Exception& exception);
-/// Likewise for memory that could not be had.
+/// An error in `storeErrorDomain` for an allocation that failed.
 Error storeError(const std::bad_alloc& exception);
 
 } // namespace lodestar

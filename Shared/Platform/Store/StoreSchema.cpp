@@ -7,7 +7,7 @@ namespace lodestar
 namespace
 {
 
-// STRICT makes the integrity check report values of a wrong type, and keeps them from being stored at all.
+// STRICT makes the integrity check report values of a wrong type, and SQLite then refuses to store such values.
 std::string tableStatement(const EntityDescription& entity)
 {
     std::string sql =
@@ -41,8 +41,8 @@ std::vector<std::string> schemaStatements(const ManagedObjectModel& model)
     for (const EntityDescription& entity : model.entities) {
         statements.push_back(tableStatement(entity));
     }
-    // A relation is a table of pairs. A column is named after the side from which its objects are reached, so that an
-    // entity can be related to itself.
+    // A relation is a table of pairs. Each column is named after the side from which its objects are reached, so that
+    // an entity can have a relation to itself.
     for (const RelationshipDescription& relation : model.relationships) {
         const std::string table = quotedIdentifier(relation.entity + "_" + relation.name);
         statements.push_back("CREATE TABLE " + table + "(" + foreignKey(relation.inverseName, relation.entity) + ", " +

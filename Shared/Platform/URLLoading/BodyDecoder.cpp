@@ -10,7 +10,7 @@ namespace lodestar
 namespace
 {
 
-constexpr int anyHeader = 15 + 32; // largest window, zlib and gzip headers told apart by zlib
+constexpr int anyHeader = 15 + 32; // largest window; zlib tells zlib and gzip headers apart
 constexpr int noHeader = -15;
 constexpr std::size_t pieceSize = 32UL * 1024;
 
@@ -45,7 +45,7 @@ struct BodyDecoder::Inflater {
     bool usable = false;
     bool started = false;
     bool ended = false;
-    bool mayBeRaw; ///< "deflate" without its zlib header, which some servers send
+    bool mayBeRaw; ///< accepts "deflate" without its zlib header, as some servers send it
 };
 
 bool BodyDecoder::Inflater::run(std::span<const char> bytes, const Sink& sink)
@@ -61,7 +61,7 @@ bool BodyDecoder::Inflater::run(std::span<const char> bytes, const Sink& sink)
         stream.avail_out = pieceSize;
         const int result = inflate(&stream, Z_NO_FLUSH);
         if (result == Z_BUF_ERROR) {
-            return true; // nothing left to do with what is here
+            return true; // these bytes are used up
         }
         if (result == Z_DATA_ERROR && mayBeRaw && !started) {
             mayBeRaw = false;
@@ -84,7 +84,7 @@ bool BodyDecoder::Inflater::run(std::span<const char> bytes, const Sink& sink)
     }
 }
 
-/// gzip members may follow one another; anything else after the end is padding, which no reader misses.
+/// Starts the next gzip member: a body may have several. Any other bytes after the end are padding and are ignored.
 bool BodyDecoder::Inflater::nextMember()
 {
     if (stream.avail_in == 0 || *stream.next_in != 0x1f || inflateReset2(&stream, anyHeader) != Z_OK) {

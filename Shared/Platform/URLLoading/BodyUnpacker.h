@@ -14,28 +14,30 @@
 namespace lodestar
 {
 
-/// Unpacks one response's body within the limits, on its reader's side: on the network thread one body that unpacks to
-/// a gigabyte would hold up all the others. One thread at a time.
+/// Unpacks one response's body within the limits, on its reader's thread: on the network thread, one body that unpacks
+/// to a gigabyte would hold up all other transfers. One thread at a time.
 class BodyUnpacker
 {
 public:
     using Sink = std::function<void(std::span<const char>)>;
 
-    /// What is done when what is unpacked finds no room. Patient ones block for a while, and have the turn.
+    /// What to do when the unpacked bytes find no room. `Wait` blocks for a while; the caller must have the turn (see
+    /// HeldBytes).
     enum class WithoutRoom { Refuse, Wait };
 
-    /// The response's encoding is a known one. Without a claim nothing is held: for a sink that keeps nothing.
+    /// The response's encoding must be a known one. Without a claim no bytes are counted as held: for a sink that keeps
+    /// nothing.
     BodyUnpacker(const URLResponse& response, std::optional<HeldBytes::Claim> claim,
                  WithoutRoom without = WithoutRoom::Refuse);
 
     static bool isNeeded(const URLResponse& response);
 
-    /// False once the body is damaged or too large; `error` then says so.
+    /// False once the body is damaged or too large; `error` then tells which.
     bool unpack(std::span<const char> bytes, const Sink& sink);
-    /// After the last bytes: what was wrong with the body, if anything.
+    /// Call after the last bytes: the body's fault, if it has one.
     std::optional<Error> error() const;
     std::size_t size() const { return m_size; }
-    /// Whether `error` is a lack of room, so that another try may do.
+    /// True when `error` is a lack of room, so that another try may succeed.
     bool foundNoRoom() const { return m_foundNoRoom; }
 
 private:

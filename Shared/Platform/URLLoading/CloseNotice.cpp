@@ -45,7 +45,7 @@ std::shared_ptr<const CloseNotice> CloseNotice::ofConnection(ssl_st* connection)
     if (SSL_set_ex_data(connection, holderIndex(), holder.get()) != 1) {
         return nullptr;
     }
-    static_cast<void>(holder.release()); // the connection's from here
+    static_cast<void>(holder.release()); // the connection owns the holder from here on
     SSL_set_info_callback(connection, &alertSeen);
     return notice;
 }

@@ -16,7 +16,7 @@ int sendNothing(void*, char*, char*, int, int)
 
 ConnectionHandle ConnectionHandle::make(const std::string& url, Handshake handshake)
 {
-    // Deadlines are kept elsewhere; libcurl's own for connecting must not come first.
+    // `Transfer` keeps the deadlines; libcurl's own limit for connecting must not come first.
     constexpr long secondsToConnect = 24L * 60 * 60;
     ConnectionHandle handle;
     handle.easy.reset(curl().easyInit());
@@ -34,16 +34,17 @@ ConnectionHandle ConnectionHandle::make(const std::string& url, Handshake handsh
     curl().easySetopt(easy, CURLOPT_DISALLOW_USERNAME_IN_URL, 1L);
     curl().easySetopt(easy, CURLOPT_PROXY, "");
     curl().easySetopt(easy, CURLOPT_NOSIGNAL, 1L);
-    // Without it a name that the resolver ponders would hold the driving thread when its transfer is given up.
+    // Without this option, giving a transfer up would block the driving thread while its host name is still being
+    // resolved.
     curl().easySetopt(easy, CURLOPT_QUICK_EXIT, 1L);
     curl().easySetopt(easy, CURLOPT_HTTP_VERSION, CURL_HTTP_VERSION_1_1);
-    // Trust is ours to decide, before a request is sent, for every connection alike: so libcurl may lend a connection
-    // that one kind of request opened to the other kind.
+    // Lodestar decides about trust itself, for every connection, before a request is sent. So libcurl may reuse a
+    // connection for another kind of request than the one that opened it.
     curl().easySetopt(easy, CURLOPT_SSL_VERIFYPEER, 0L);
     curl().easySetopt(easy, CURLOPT_SSL_VERIFYHOST, 0L);
     curl().easySetopt(easy, CURLOPT_CAINFO, nullptr);
     curl().easySetopt(easy, CURLOPT_CAPATH, nullptr);
-    // Each hop has a handle of its own, so that kept sessions would never be used.
+    // Each hop has its own handle, so cached TLS sessions would never be used.
     curl().easySetopt(easy, CURLOPT_SSL_SESSIONID_CACHE, 0L);
     curl().easySetopt(easy, CURLOPT_SSL_CTX_FUNCTION, curl().secureConnection);
     curl().easySetopt(easy, CURLOPT_SSL_CTX_DATA, handle.hold.get());

@@ -10,7 +10,8 @@
 namespace lodestar
 {
 
-/// A libcurl handle with everything set that concerns the connection to a server and nothing that concerns a request.
+/// A libcurl handle with every option set that concerns the connection to a server, and no option that concerns a
+/// request.
 struct ConnectionHandle {
     enum class Handshake { Whole, Held };
 

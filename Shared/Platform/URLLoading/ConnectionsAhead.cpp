@@ -11,7 +11,7 @@ namespace lodestar
 namespace
 {
 
-// Longer than a logon may take, shorter than servers wait for a handshake's end.
+// Longer than a logon takes, shorter than servers wait for the end of a handshake.
 constexpr std::chrono::seconds lifetime{12};
 
 } // namespace

@@ -12,29 +12,31 @@
 namespace lodestar
 {
 
-/// Connections that are made before the requests that they will carry are known, so that those need not wait for them.
-/// Nothing but the greeting of the handshake is sent on them. One that is not taken in time is closed. One thread.
+/// Connections made before their requests are known, so that the requests need not wait for a handshake. Only the
+/// handshake's greeting is sent on them. A connection that no request takes in time is closed. One thread.
 class ConnectionsAhead
 {
 public:
     using Clock = std::chrono::steady_clock;
 
-    /// Servers are named as `Transfer::server` names them. Nothing is opened to a server to which it has failed of
-    /// late.
+    /// Servers have the names that `Transfer::server` gives them. Opens nothing to a server to which a connection
+    /// failed a short while ago.
     void open(CURLM* multi, const std::string& server, Clock::time_point now);
-    /// The one that is furthest, released; it stays with the multi handle. None when there is none.
+    /// Takes the connection that is furthest, its handshake released; the connection stays with the multi handle. None
+    /// when there is no connection to the server.
     std::optional<ConnectionHandle> take(const std::string& server);
 
     std::size_t count() const { return m_count; }
     std::size_t count(const std::string& server) const;
-    /// Whether one only waits to be taken.
+    /// Whether a connection's handshake has reached the hold, so that the connection can be taken without a wait.
     bool hasReady(const std::string& server) const;
 
-    /// libcurl's word that a handle has failed: whoever needs the server finds out why.
+    /// Call when libcurl reports that a handle failed. The failure is not reported further: the next transfer to the
+    /// server meets it itself.
     void failed(CURL* easy, Clock::time_point now);
-    /// Closes what nobody has taken. True when libcurl has something to do for that at once.
+    /// Closes connections that nobody took in time. True when libcurl must run at once to do so.
     bool closeOld(CURLM* multi, Clock::time_point now);
-    /// When `closeOld` may have work.
+    /// The earliest time at which `closeOld` may have work.
     Clock::time_point nextClose() const { return m_nextClose; }
 
 private:
@@ -42,10 +44,10 @@ private:
         Clock::time_point closes;
         ConnectionHandle handle;
     };
-    using OfServer = std::vector<One>; ///< in the order of their opening
+    using OfServer = std::vector<One>; ///< in the order of opening
 
     std::unordered_map<std::string, OfServer> m_servers;
-    std::vector<ConnectionHandle> m_closing; ///< released, to end without a request
+    std::vector<ConnectionHandle> m_closing; ///< released; they end without a request
     std::unordered_map<std::string, Clock::time_point> m_failedUntil;
     std::size_t m_count = 0;
     Clock::time_point m_nextClose = Clock::time_point::max();

@@ -12,10 +12,10 @@ namespace
 
 bool prepare()
 {
-    // libcurl would write every connection's secrets to the file that it names.
+    // libcurl would write every connection's secrets to the file that this variable names.
     unsetenv("SSLKEYLOGFILE");
-    // The network thread may be in the middle of a handshake when the process ends, so that OpenSSL must not tidy up
-    // before that thread is joined.
+    // The network thread may be in the middle of a handshake when the process ends, so OpenSSL must not clean up before
+    // that thread is joined.
     return OPENSSL_init_crypto(OPENSSL_INIT_NO_ATEXIT, nullptr) == 1 &&
            curl_global_init(CURL_GLOBAL_DEFAULT) == CURLE_OK;
 }

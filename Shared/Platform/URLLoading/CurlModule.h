@@ -15,10 +15,10 @@
 namespace lodestar
 {
 
-/// What transfers call of libcurl and OpenSSL, both of which only this table knows by their names. On Linux it comes
-/// out of a module of ours, lodestar-transfers.so, which the first transfer loads: linked with the program, the two
-/// bring twenty-odd other libraries, whose names all would be looked up before the program's first line, an eighth of a
-/// start.
+/// The functions of libcurl and OpenSSL that transfers call. Only this table knows them by name. On Linux the table
+/// comes from our own module, lodestar-transfers.so, which the first transfer loads. If the program were linked with
+/// both libraries, they would bring twenty-odd others, and looking up all their names before the program's first line
+/// would take an eighth of the start.
 struct CurlModule {
     decltype(&curl_easy_cleanup) easyCleanup;
     decltype(&curl_easy_getinfo) easyGetinfo;
@@ -43,20 +43,20 @@ struct CurlModule {
     decltype(&curl_url_get) urlGet;
     decltype(&curl_url_set) urlSet;
 
-    /// The state that both libraries keep for the whole process. Once, before any other call.
+    /// Sets up the state that both libraries keep for the whole process. Call it once, before any other function.
     bool (*prepare)();
     decltype(&ServerCertificate::ofConnection) certificateOfConnection;
     decltype(&CloseNotice::ofConnection) noticeOfConnection;
-    /// Bytes that a secured connection has received since it was opened, the protocol's own included.
+    /// Bytes that a TLS connection has received since it was opened, TLS's own bytes included.
     std::uint64_t (*wireBytesOfConnection)(ssl_st* connection);
     decltype(&HandshakeHold::secureConnection) secureConnection;
 };
 
-/// The table, ready for use. Any thread; the first call loads it, which takes milliseconds and ends the process when an
-/// installation lacks the module or the libraries.
+/// The table, ready for use. Any thread. The first call loads it, which takes milliseconds and ends the process when
+/// the installation lacks the module or the libraries.
 const CurlModule& curl();
 
 } // namespace lodestar
 
-/// The module's one function.
+/// The module's one exported function.
 extern "C" const lodestar::CurlModule* lodestar_curl_module();

@@ -46,7 +46,8 @@ std::optional<std::string> urlPart(const CurlURL& url, CURLUPart part, unsigned 
     return result;
 }
 
-/// A line break in a value would start a field of the server's choosing, since session keys come from servers.
+/// Replaces line breaks. Session keys come from servers; with a line break in its value, a server could add a header
+/// field of its choice.
 std::string onOneLine(std::string text)
 {
     std::ranges::replace_if(
@@ -89,9 +90,11 @@ void prepareProcessForTransfers()
     static std::once_flag once;
     std::call_once(once, [] {
 #ifdef M_ARENA_MAX
-        // Bodies are filled on one thread and freed on others: with an arena a thread each would keep what others need.
+        // Bodies are filled on one thread and freed on others: with an arena for each thread, one thread would keep
+        // memory that others need.
         mallopt(M_ARENA_MAX, 2);
-        // What a feed's body took goes back to the system with the body, wherever the parsed feed lies.
+        // Large blocks are mapped one by one, so a feed's body goes back to the system when it is freed, wherever the
+        // parsed feed lies.
         mallopt(M_MMAP_THRESHOLD, 128 * 1024);
 #endif
         rlimit files{};
@@ -155,7 +158,7 @@ CurlList curlHeaders(const URLRequest& request)
         }
     };
     for (const auto& [name, value] : request.headers.fields()) {
-        // A semicolon is libcurl's way to say "this field, with no value".
+        // libcurl sends a field without a value when a semicolon follows the name.
         append(onOneLine(name) + (value.empty() ? ";" : ": " + onOneLine(value)));
     }
     for (const char* const name : {"Accept", "Content-Type", "Expect", "User-Agent"}) {

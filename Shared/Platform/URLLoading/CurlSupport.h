@@ -20,11 +20,11 @@ struct CurlListDeleter {
 using CurlEasy = std::unique_ptr<CURL, CurlEasyDeleter>;
 using CurlList = std::unique_ptr<curl_slist, CurlListDeleter>;
 
-/// Makes the process ready for many transfers, once: as many descriptors as the system allows, memory that threads
-/// share, and no signal for a write to a closed socket.
+/// Prepares the process for many transfers, once: raises the descriptor limit to the system's maximum, makes threads
+/// share memory, and ignores the signal for a write to a closed socket.
 void prepareProcessForTransfers();
 
-/// Which server an address names. Lower case, the port always filled in; an IPv6 address without its brackets.
+/// The server that an address names. Lower case, the port always filled in; an IPv6 address without its brackets.
 struct Origin {
     std::string scheme;
     std::string host;
@@ -34,13 +34,13 @@ struct Origin {
     friend bool operator==(const Origin&, const Origin&) = default;
 };
 
-/// The address that a reference found at `base` means, without its fragment; none when there is no sense in it.
+/// Resolves a reference found at `base`; the result has no fragment. None when the reference makes no sense.
 std::optional<std::string> resolvedURL(const std::string& base, const std::string& reference);
 
-/// What a request for the address asks its server for: the path and the query. "/" for what is no address.
+/// The path and the query of the address, as a request names them. "/" for a text that is no address.
 std::string requestTarget(const std::string& url);
 
-/// The request's fields as libcurl wants them, with the fields that libcurl would add of its own taken out.
+/// The request's header fields in libcurl's form. Fields that libcurl would add by itself are taken out.
 CurlList curlHeaders(const URLRequest& request);
 
 } // namespace lodestar

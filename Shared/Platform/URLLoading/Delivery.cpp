@@ -18,15 +18,16 @@ namespace lodestar
 namespace
 {
 
-// Feeds of most consoles stay below it.
+// The feeds of most consoles are smaller.
 constexpr std::size_t smallBody = 4UL * 1024 * 1024;
-// Unpacks to a megabyte at most.
+// One slice unpacks to a megabyte at most.
 constexpr std::size_t sliceSize = 1024;
 constexpr std::size_t anySize = std::numeric_limits<std::size_t>::max();
 
 } // namespace
 
-/// The thread of large bodies. Each that is kept has the turn until it has been read, so that there is one at a time.
+/// The thread that unpacks large bodies. Each body that is kept has the turn (see HeldBytes) until it has been read, so
+/// there is one at a time.
 class Delivery::LargeBodies
 {
 public:
@@ -127,8 +128,9 @@ Delivery::Progress Delivery::unpack(std::size_t most)
     return Progress::Done;
 }
 
-/// From the first byte again: a small body is little work. And measured before anything is kept: hundreds of megabytes
-/// of memory, taken for a bomb and given back, would be felt by every other thread of the process.
+/// Starts again from the first byte: what was unpacked so far is small. Measures the body before it keeps any of it:
+/// otherwise hundreds of megabytes might be allocated for a hostile body and freed again, which would slow every other
+/// thread.
 void Delivery::unpackLarge()
 {
     URLLoad& load = m_load.value();
@@ -143,7 +145,7 @@ void Delivery::unpackLarge()
     try {
         load.body.reserve(*size);
     } catch (const std::bad_alloc&) {
-        // Then it grows, or fails, as it comes.
+        // Without the reservation the body grows as it comes, or fails then.
     }
     unpack(anySize);
 }

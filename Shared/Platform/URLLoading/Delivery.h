@@ -15,8 +15,8 @@ namespace lodestar
 {
 
 /// A plain request's answer on its way from the network to its completion. Packed bodies are unpacked on the reader's
-/// queue; large ones, one after another, on a thread of their own with a low priority, so that neither their size nor
-/// their number is felt by the others.
+/// queue. Large ones are unpacked one after another on a low-priority thread of their own, so that neither their size
+/// nor their number slows other work.
 class Delivery
 {
 public:
@@ -25,7 +25,7 @@ public:
     /// Calls the completion on the queue, exactly once.
     static void start(OperationQueue queue, Completion completion, Result<URLLoad> load, HeldBytes held);
 
-    /// The load with its body unpacked, for a reader that waits for it.
+    /// The load with its body unpacked, for a caller that blocks until it has the body.
     static Result<URLLoad> unpacked(URLLoad load);
 
 private:
@@ -42,13 +42,14 @@ private:
 
     static void run(std::unique_ptr<Delivery> delivery);
     static void complete(std::unique_ptr<Delivery> delivery);
-    /// All of it, unless that is more than so many bytes or finds no room as a small one.
+    /// Unpacks the whole body; stops when it exceeds `most` bytes or finds no room as a small body.
     Progress unpack(std::size_t most);
     void unpackLarge();
-    /// How many bytes the body unpacks to. None when it is damaged or too large, and the load then says so.
+    /// The number of bytes that the body unpacks to. None when the body is damaged or too large; `m_load` then holds
+    /// the error.
     std::optional<std::size_t> measure();
 
-    HeldBytes::Turn m_turn; ///< of a large one; first, since it is given back when nothing is held any more
+    HeldBytes::Turn m_turn; ///< a large body's turn; declared first, so that it is given back after everything held
     OperationQueue m_queue;
     Completion m_completion;
     Result<URLLoad> m_load;

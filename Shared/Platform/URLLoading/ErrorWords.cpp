@@ -4,7 +4,7 @@
 #include <algorithm>
 #include <array>
 
-/// Marks a sentence for the translators' tool, which goes by this name.
+/// Marks a sentence for the translators' tool, which looks for this name.
 #define QT_TRANSLATE_NOOP(context, text) text
 
 namespace lodestar

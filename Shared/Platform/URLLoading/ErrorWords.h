@@ -8,11 +8,11 @@
 namespace lodestar
 {
 
-/// What a person is told when a request fails: the one table of reasons and sentences. English, to be translated where
-/// it is shown, in the context "ErrorWords". Short enough for one line on a phone.
+/// The text that a person sees when a request fails. This is the one table of reasons and sentences. The sentences are
+/// English; the screen that shows one translates it, in the context "ErrorWords". Each fits on one line on a phone.
 std::string wordsFor(URLErrorCode code);
 
-/// Likewise when a console answers a logon with a status other than 200.
+/// The text for a logon that a console answers with a status other than 200.
 std::string wordsForLogonStatus(int statusCode);
 
 } // namespace lodestar

@@ -23,7 +23,7 @@ int holderIndex()
     return index;
 }
 
-/// Finds no fault with any certificate: trust is decided before a request is sent, not here.
+/// Accepts every certificate: trust is decided later, before a request is sent.
 int certificateShown(X509_STORE_CTX* store, void*)
 {
     auto* const connection = static_cast<SSL*>(X509_STORE_CTX_get_ex_data(store, SSL_get_ex_data_X509_STORE_CTX_idx()));
@@ -44,7 +44,7 @@ int certificateShown(X509_STORE_CTX* store, void*)
 CURLcode HandshakeHold::secureConnection(CURL*, void* context, void* hold)
 {
     auto* const settings = static_cast<SSL_CTX*>(context);
-    // A kept connection does nothing most of the time, and there may be thousands.
+    // Kept connections are mostly idle, and there may be thousands: OpenSSL must not keep buffers for them.
     SSL_CTX_set_mode(settings, SSL_MODE_RELEASE_BUFFERS);
     SSL_CTX_set_cert_verify_callback(settings, &certificateShown, nullptr);
     if (hold != nullptr && isPossible) {
@@ -53,7 +53,7 @@ CURLcode HandshakeHold::secureConnection(CURL*, void* context, void* hold)
         if (SSL_CTX_set_ex_data(settings, holderIndex(), holder.get()) != 1) {
             return CURLE_OUT_OF_MEMORY;
         }
-        static_cast<void>(holder.release()); // the connection's from here
+        static_cast<void>(holder.release()); // the connection owns the holder from here on
     }
     return CURLE_OK;
 }

@@ -8,13 +8,13 @@
 namespace lodestar
 {
 
-/// Holds one connection's handshake at the point where the server has shown its certificate and nothing of ours but the
-/// greeting has been sent. A connection can so be made ready before it is known what it will carry. One thread.
+/// Pauses one connection's handshake after the server has shown its certificate, when only the greeting has been sent.
+/// So a connection can be made ready before its request is known. One thread.
 ///
-/// A handshake that waits is a piece of OpenSSL's that is suspended with a stack of its own: it is to be released
-/// before its connection may go.
+/// A paused handshake is a suspended OpenSSL job with its own stack: release the hold before the connection is
+/// destroyed.
 struct HandshakeHold : std::enable_shared_from_this<HandshakeHold> {
-    /// The sanitizers know nothing of such stacks: with them no handshake waits.
+    /// The sanitizers cannot follow such stacks; under a sanitizer no handshake pauses.
 #if defined(__SANITIZE_ADDRESS__) || defined(__SANITIZE_THREAD__)
     static constexpr bool isPossible = false;
 #else
@@ -22,11 +22,11 @@ struct HandshakeHold : std::enable_shared_from_this<HandshakeHold> {
 #endif
 
     bool released = false;
-    bool reached = false; ///< the handshake waits for the release, or has passed it
+    bool reached = false; ///< the handshake is paused at the hold, or has passed it
 
-    /// Sets up the security of a connection that libcurl makes; `hold` is a `HandshakeHold` that is owned by a shared
-    /// pointer, or null for a handshake that goes through. To be given to libcurl as CURLOPT_SSL_CTX_FUNCTION. Part of
-    /// the module that knows OpenSSL: called through its table, see CurlModule.h.
+    /// Sets up TLS for a connection that libcurl makes. Pass it to libcurl as CURLOPT_SSL_CTX_FUNCTION. `hold` is a
+    /// `HandshakeHold` that a shared pointer owns, or null for a handshake without a pause. Lives in the module that
+    /// knows OpenSSL; call it through the module's table, see CurlModule.h.
     static CURLcode secureConnection(CURL* easy, void* context, void* hold);
 };
 

@@ -25,10 +25,10 @@ constexpr std::size_t partOfFair = 3;
 constexpr std::size_t partOfSmall = 24;
 constexpr std::size_t partOfLittle = 2;
 constexpr std::size_t littleBody = 64UL * 1024;
-constexpr std::size_t leastPart = 64; ///< of the fair third: what any server gets while there is anything
+constexpr std::size_t leastPart = 64; ///< of the fair third: every server may have so much while there is room
 constexpr std::size_t largeLoad = 64UL * 1024 * 1024;
 
-/// What many pieces of large bodies leave behind stays with the allocator of the GNU library until it is told.
+/// The GNU allocator keeps the many freed pieces of large bodies until this call.
 void giveMemoryBack()
 {
 #ifdef __GLIBC__
@@ -38,9 +38,9 @@ void giveMemoryBack()
 
 struct Books {
     std::mutex mutex;
-    std::condition_variable changed; ///< less is held, or the turn is free
+    std::condition_variable changed; ///< signalled when less is held or the turn is free
     std::size_t total = 0;
-    std::size_t most = 0; ///< that was held since last nothing was
+    std::size_t most = 0; ///< the highest `total` since `total` was last 0
     std::size_t fair = 0;
     std::unordered_map<std::string, std::size_t> fairOfServers;
     std::size_t waiting = 0;
@@ -137,7 +137,7 @@ bool HeldBytes::add(std::size_t bytes, std::size_t heldLimit, Claim claim)
         if (!little && (bytes > unusedFair || ofServer > std::max(unusedFair - bytes, forFair / leastPart))) {
             return false;
         }
-        books().fairOfServers[m_server] = ofServer; // first: it may find no memory
+        books().fairOfServers[m_server] = ofServer; // first, since it may throw for lack of memory
         books().fair += bytes;
     }
     books().total += bytes;
@@ -149,7 +149,7 @@ bool HeldBytes::add(std::size_t bytes, std::size_t heldLimit, Claim claim)
     return true;
 }
 
-/// With the lock held.
+/// Call with the lock held.
 void HeldBytes::leaveFair()
 {
     books().subtractFair(m_server, m_count);

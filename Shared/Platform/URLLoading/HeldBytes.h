@@ -7,21 +7,24 @@
 namespace lodestar
 {
 
-/// A share of the bytes that bodies hold in the whole process: grows with the body, is marked `delivering` once the
-/// body waits for its reader, and gives everything back when it is destroyed. Moves only. One thread at a time.
+/// One body's share of the bytes that all bodies in the process hold. The share grows with the body, is marked
+/// `delivering` once the body waits for its reader, and gives everything back on destruction. Movable only. One thread
+/// at a time.
 ///
-/// Of the limit, bodies that come side by side have a third, shared fairly between their servers, until one finds no
-/// room. From then on one body at a time has the turn: it may have everything else, and the rest of the third when
-/// nobody could use it. So what others hold can never keep it from two thirds less what small bodies need, and each
-/// comes to its end. A 24th of the limit is left to what small bodies unpack to. The first 64 KB of each body may go
-/// beyond the third, up to half of the limit, so that large ones do not hold up a logon.
+/// How the limit is shared: bodies that come side by side have a third of the limit, shared fairly between their
+/// servers, until one body finds no room. From then on one body at a time has the turn: it may take everything else,
+/// and also the unused rest of the third when nobody else could use that. So other bodies can never keep the body with
+/// the turn from two thirds of the limit less the part for small bodies, and every body comes to its end. A 24th of the
+/// limit is reserved for the unpacked bytes of small bodies. The first 64 KB of each body may exceed the third, up to
+/// half of the limit, so that large bodies do not hold up a logon.
 class HeldBytes
 {
 public:
-    /// How far a share may grow: a server's part of the third; all but the rest of the third; all but the 24th; all.
+    /// How far a share may grow. Fair: the server's part of the third. Turn: everything but the unused rest of the
+    /// third and the 24th. Whole: everything but the 24th. Small: everything.
     enum class Claim { Fair, Turn, Whole, Small };
 
-    /// The right to grow beyond fair shares, of one at a time in the process. Given back when it is destroyed.
+    /// The right to grow beyond fair shares. One owner at a time in the process. Given back on destruction.
     class Turn
     {
     public:
@@ -30,7 +33,7 @@ public:
         Turn(const Turn&) = delete;
         Turn& operator=(const Turn&) = delete;
         bool tryTake();
-        /// Blocks until it is had.
+        /// Blocks until this object has the turn.
         void take();
         void giveBack();
 
@@ -46,23 +49,23 @@ public:
     HeldBytes& operator=(const HeldBytes&) = delete;
     ~HeldBytes() { reset(); }
 
-    /// False, with nothing added, when the claim does not reach so far. Once one has grown by another claim, it grows
-    /// by a fair one no more: it has had its turn and waits for the next.
+    /// False, with nothing added, when the claim does not allow so much. Once a share has grown by another claim, it
+    /// cannot grow by a fair claim again: it has had its turn and waits for the next.
     bool add(std::size_t bytes, std::size_t heldLimit, Claim claim);
     std::size_t count() const { return m_count; }
-    /// Gives back what goes beyond so many bytes. Not once the body waits for its reader.
+    /// Gives back all but `bytes`. Do not call it once the body waits for its reader.
     void shrinkTo(std::size_t bytes);
     void reset();
     void setDelivering();
 
     static std::size_t total();
-    /// How much of the third is left.
+    /// How much of the fair third is free.
     static std::size_t unusedFair(std::size_t heldLimit);
-    /// The most that one body may hold when nothing else is held.
+    /// The most that one body may hold when no other body holds anything.
     static std::size_t mostOfOne(std::size_t heldLimit);
-    /// Bytes of whole bodies whose readers have not come to them yet.
+    /// Bytes of whole bodies that wait for their readers.
     static std::size_t waitingForReaders();
-    /// Blocks until something is given back, or for a moment.
+    /// Blocks until something is given back, 50 ms at most.
     static void waitForLess();
 
 private:

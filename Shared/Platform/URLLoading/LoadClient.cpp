@@ -9,7 +9,7 @@ namespace lodestar
 namespace
 {
 
-// A server's word for its body's length is good for so much memory and no more.
+// The most memory to reserve on the strength of a server's Content-Length.
 constexpr std::int64_t trustedLength = 32LL * 1024 * 1024;
 
 } // namespace

@@ -9,7 +9,7 @@
 namespace lodestar
 {
 
-/// Collects a plain request's answer under the system's trust rules. The body is as it came: packed, if it was.
+/// Collects a plain request's answer under the system's trust rules. The body stays packed if it came packed.
 class LoadClient : public TransferClient
 {
 public:

@@ -16,10 +16,10 @@ namespace
 {
 
 constexpr std::size_t waitingBytesLimit = 24UL * 1024 * 1024;
-// Each is asked after at every turn of the loop, so that thousands would cost more than they save.
+// libcurl checks each connection at every turn of the loop: thousands would cost more than they save.
 constexpr std::size_t mostConnectionsAhead = 600;
 constexpr std::size_t descriptorsForOthers = 256;
-// So few, all of one console's, keep no machine busy: each may have a connection made.
+// So few transfers, all to one console, keep no machine busy: each may have a new connection.
 constexpr std::size_t fewTransfers = 6;
 constexpr int longestWait = 60'000; ///< milliseconds
 
@@ -27,7 +27,7 @@ std::atomic<NetworkThread*> theThread{nullptr};
 std::atomic<bool> readersAwaited{false};
 std::atomic<std::size_t> underWay{0};
 
-/// Half of the descriptors is for connections in use, half for those that are kept.
+/// Half of the descriptors is for connections in use, half for kept ones.
 std::size_t descriptorLimit()
 {
     static const std::size_t limit = [] {
@@ -73,7 +73,7 @@ void NetworkThread::start(std::shared_ptr<Transfer> transfer)
         const std::lock_guard lock(m_inboxMutex);
         m_started.push_back(std::move(transfer));
         if (m_started.size() > 1) {
-            return; // woken already
+            return; // the thread was woken already
         }
     }
     wake();
@@ -111,7 +111,7 @@ bool NetworkThread::isQuiet()
 
 void NetworkThread::wake() const
 {
-    // Until the thread has one, it has not looked at the inbox either.
+    // Without a multi handle the thread has not looked at the inbox yet and needs no wake.
     if (CURLM* const multi = m_multi.load(); multi != nullptr) {
         curl().multiWakeup(multi);
     }
@@ -153,7 +153,7 @@ void NetworkThread::run()
     }
 }
 
-/// libcurl's own timers cut the wait short by themselves.
+/// In milliseconds. libcurl shortens the wait by itself for its own timers.
 int NetworkThread::waitTime()
 {
     if (std::exchange(m_hasReleased, false)) {
@@ -231,7 +231,7 @@ void NetworkThread::begin(const std::shared_ptr<Transfer>& transfer)
     }
 }
 
-/// Null when nothing waits or all that does has to wait on.
+/// Null when nothing waits, or when everything that waits must keep waiting.
 std::shared_ptr<Transfer> NetworkThread::nextToStart(Clock::time_point now)
 {
     using Connections = TransferQueue::Connections;
@@ -248,14 +248,14 @@ std::shared_ptr<Transfer> NetworkThread::nextToStart(Clock::time_point now)
         [this](const std::string& server) { return m_ahead.hasReady(server) ? 1 : 0; }, now);
 }
 
-/// For the fleet: when there is nothing better to do, and as far as memory goes.
+/// The rule for the fleet: more connections when the thread is idle and `most` allows.
 bool NetworkThread::mayConnectMore(std::size_t most) const
 {
     const bool isIdle = m_idleness.isIdle() || m_running.size() < fewTransfers;
     return isIdle && m_running.size() + m_waiting.freeConnections() + m_ahead.count() < most;
 }
 
-/// For persons at once; for what is expected when there is nothing better to do.
+/// Opens connections for persons at once, and for expected transfers when the thread is idle.
 void NetworkThread::openAhead(Clock::time_point now)
 {
     m_hasReleased = m_ahead.closeOld(m_multi, now) || m_hasReleased;
@@ -275,7 +275,7 @@ void NetworkThread::openAhead(Clock::time_point now)
     }
 }
 
-/// Leaves the processor, and the network's width, to what a person waits for.
+/// Pauses the fleet's bodies while a person's answer comes in, so that the answer has the processor and the network.
 void NetworkThread::letFleetRest(Clock::time_point now)
 {
     const bool rests = m_persons > 0 && std::ranges::any_of(m_running, [now](const auto& one) {
@@ -298,14 +298,14 @@ bool NetworkThread::readersKeepUp()
         return true;
     }
     readersAwaited = true;
-    // Again, for the reader that came in between.
+    // Asks again, because a reader may have finished before the flag was set.
     return HeldBytes::waitingForReaders() < waitingBytesLimit;
 }
 
 void NetworkThread::add(const std::shared_ptr<Transfer>& transfer)
 {
     m_nextDeadline = std::min(m_nextDeadline, transfer->deadline());
-    // One that took a connection that was made ahead is there already.
+    // A handle that was made ahead is in the multi handle already; libcurl then refuses to add it again.
     curl().multiAddHandle(m_multi, transfer->handle());
 }
 
@@ -329,10 +329,10 @@ void NetworkThread::finishDone()
     }
 }
 
-/// With the handle out of libcurl's hands.
+/// Call it after the handle was removed from the multi handle.
 void NetworkThread::finishHop(Transfer* done, CURLcode result)
 {
-    const std::shared_ptr<Transfer> transfer = m_running.at(done); // the entry may go
+    const std::shared_ptr<Transfer> transfer = m_running.at(done); // a copy, because the entry may be erased
     m_paused.forget(*transfer);
     if (transfer->hopEnded(result)) {
         add(transfer);

@@ -19,15 +19,16 @@
 namespace lodestar
 {
 
-/// The one thread on which asynchronous transfers run: an event loop over libcurl's multi interface. No count of
-/// transfers holds any back. One starts at once when its server has a connection for it: a kept one, one that was made
-/// ahead, or none so far. Where all are in use, another is made as soon as this thread has next to nothing to do:
-/// through a network with a length that is at once, while a machine that is busy with what comes in already is spared
-/// five handshakes of six. Memory and descriptors are the limits: bytes that wait for their readers, connections with
-/// their buffers, and sockets. A transfer's clocks start when it does, a person's when it is asked for.
+/// The one thread on which asynchronous transfers run: an event loop over libcurl's multi interface. The number of
+/// transfers is no limit. A transfer starts at once when a connection is free for it (a kept one or one made ahead), or
+/// when its server has none. When all the server's connections are in use, a new one is made as soon as this thread is
+/// idle: with a slow network that is at once, while a machine that is busy with incoming bytes is spared five
+/// handshakes of six. The limits are memory and descriptors: bytes that wait for their readers, connections with their
+/// buffers, and sockets. A transfer's clocks start when the transfer starts; a person's clocks start when the transfer
+/// is requested.
 ///
-/// At the process's exit the thread ends between two events; transfers in flight are then left as they are, their
-/// clients untouched, since nobody is there to be told.
+/// When the process exits, the thread ends between two events. Transfers in flight then stay as they are, and their
+/// clients are not called: nobody is left to be told.
 class NetworkThread
 {
 public:
@@ -38,13 +39,13 @@ public:
     /// Any thread. Does nothing to a transfer that has ended.
     void cancel(std::shared_ptr<Transfer> transfer);
 
-    /// So many transfers to the address's server are soon to be started, if all goes well: connections are made ready
-    /// for them. Negative to take that back, which the same caller does in any case. Any thread.
+    /// Says that so many transfers to the address's server will probably start soon: connections are made ready for
+    /// them. The same caller later takes this back, in any case, with a negative number. Any thread.
     void expect(const std::string& url, int transfers);
 
-    /// To be called when a body has been handed to its reader: starts what waited for that. Any thread.
+    /// Call when a body was handed to its reader: starts transfers that waited for that. Any thread.
     static void readerCaughtUp();
-    /// Whether no transfer was under way when the thread last looked. Any thread.
+    /// True when no transfer was under way at the thread's last look. Any thread.
     static bool isQuiet();
 
 private:
@@ -71,7 +72,7 @@ private:
     void remove(const std::shared_ptr<Transfer>& transfer);
     void forget(const std::shared_ptr<Transfer>& transfer);
 
-    std::atomic<CURLM*> m_multi = nullptr; ///< the thread's own doing: libcurl is loaded there
+    std::atomic<CURLM*> m_multi = nullptr; ///< made by the thread itself, because loading libcurl takes time
     std::thread m_thread;
 
     std::mutex m_inboxMutex;
@@ -80,15 +81,15 @@ private:
     std::vector<std::pair<std::string, int>> m_expected;
     bool m_stopping = false;
 
-    // The loop's own.
+    // Only the loop uses the members below.
     TransferQueue m_waiting;
     std::unordered_map<Transfer*, std::shared_ptr<Transfer>> m_running;
     ConnectionsAhead m_ahead;
     Idleness m_idleness;
-    bool m_hasReleased = false; ///< a handshake may go on: no socket tells libcurl of that
+    bool m_hasReleased = false; ///< a released handshake can go on, and no socket tells libcurl so
     PausedTransfers m_paused;
-    std::size_t m_persons = 0; ///< of those that run
-    bool m_fleetRests = false; ///< while a person's answer comes in
+    std::size_t m_persons = 0; ///< running transfers of persons
+    bool m_fleetRests = false; ///< true while a person's answer comes in
     Clock::time_point m_nextDeadline = Clock::time_point::max();
 };
 

@@ -14,7 +14,8 @@ namespace
 
 constexpr std::chrono::milliseconds patience{100};
 constexpr std::chrono::seconds look{2};
-constexpr std::size_t fastEnough = 1024UL * 1024; ///< bytes from look to look: a slow network is nobody's fault
+/// bytes between two looks; a low bar, since a slow network is nobody's fault
+constexpr std::size_t fastEnough = 1024UL * 1024;
 constexpr std::chrono::milliseconds standstill{500};
 
 } // namespace
@@ -43,17 +44,17 @@ void PausedTransfers::turn(Clock::time_point now, std::size_t running, const std
     if (m_favoured != nullptr) {
         m_favoured->setClaim(allWait ? HeldBytes::Claim::Whole : HeldBytes::Claim::Turn);
     } else {
-        m_lastMove = now; // A body that is being unpacked has the turn, and comes to its end.
+        m_lastMove = now; // The turn belongs to a body that is being unpacked, which will end.
     }
     std::size_t room = HeldBytes::unusedFair(TransferLimits::shared().heldBytes);
     for (Transfer* const transfer : std::exchange(m_paused, {})) {
-        // There may be thousands, and it takes libcurl some time to try one.
+        // Thousands may wait, and each try costs libcurl time.
         if (transfer != m_favoured && transfer->nextHeldBytes() > room) {
             m_paused.push_back(transfer);
             continue;
         }
         room -= std::min(room, transfer->nextHeldBytes());
-        // One that finds no room again has put itself back.
+        // A transfer that finds no room again has put itself back into the list.
         if (!transfer->goOn()) {
             ended(*transfer);
         } else if (!transfer->isPaused()) {
@@ -61,7 +62,7 @@ void PausedTransfers::turn(Clock::time_point now, std::size_t running, const std
         }
     }
     if (m_paused.size() < running) {
-        m_lastMove = now; // The one that has the turn receives, however slowly.
+        m_lastMove = now; // The transfer with the turn receives, however slowly.
     }
     if (now - m_lastMove > standstill && HeldBytes::waitingForReaders() == 0) {
         Transfer* const one = largest();
@@ -89,7 +90,7 @@ void PausedTransfers::choose(Clock::time_point now)
     }
 }
 
-/// Others first; then it is its turn again.
+/// Takes the turn away: others go first, then the transfer may have it again.
 void PausedTransfers::drop()
 {
     m_favoured->setClaim(HeldBytes::Claim::Fair);

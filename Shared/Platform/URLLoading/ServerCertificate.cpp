@@ -29,7 +29,7 @@ public:
 namespace
 {
 
-/// The authorities of the system, read once; kept to the end of the process.
+/// The system's certificate authorities, read once and kept until the process ends.
 X509_STORE* systemAuthorities()
 {
     static X509_STORE* const store = [] {

@@ -16,15 +16,15 @@ namespace lodestar
 class ServerCertificate
 {
 public:
-    /// None when the connection is not secured or the server presented nothing.
-    /// Part of the module that knows OpenSSL: called through its table, see CurlModule.h.
+    /// None when the connection has no TLS or the server presented no certificate. Lives in the module that knows
+    /// OpenSSL; call it through the module's table, see CurlModule.h.
     static std::optional<ServerCertificate> ofConnection(const ssl_st* connection, std::string host, int port);
 
     const std::string& host() const { return m_host; }
     int port() const { return m_port; }
     const ServerTrust::Fingerprint& leaf() const { return m_leaf; }
-    /// Asks the system's authorities about the chain, its dates and the host's name; an empty answer is "yes", any
-    /// other is why not. Costs a chain's verification.
+    /// Asks the system's authorities about the chain, its dates and the host's name. Empty means that they accept; any
+    /// other text is the reason against. Costs the verification of a chain.
     std::string systemObjection() const { return m_chain->systemObjection(m_host); }
 
 private:

@@ -25,12 +25,12 @@ public:
     std::optional<Fingerprint> remembered(const std::string& host, int port) const;
     void forgetAll();
 
-    /// Calls the function, on the refusing thread, for each server that a plain request left for its certificate. It
-    /// is how the refusals reach the log, which stands above this module. Null removes it.
+    /// The function is called, on the refusing thread, for each server that a plain request refused for its
+    /// certificate. The log, which this module cannot call, learns of refusals this way. Null removes the function.
     using RefusalHandler = std::function<void(const std::string& host, int port, const std::string& reason)>;
     void setRefusalHandler(RefusalHandler handler);
-    /// The transport's: reports a refusal, and has the next delegate-based connection to the server shake hands anew,
-    /// so that a changed certificate is seen although an older connection still stands.
+    /// For the transport only: reports a refusal, and makes the next delegate-based connection to the server shake
+    /// hands anew, so that a changed certificate is seen although an older connection is still open.
     void refuse(const std::string& host, int port, const std::string& reason);
     bool wantsFreshHandshake(const std::string& host, int port) const;
 

@@ -10,8 +10,8 @@
 namespace lodestar
 {
 
-/// Runs blocks on a concurrent queue one at a time and in order. What is posted is run even when nobody holds the
-/// strand any more. Thread-safe.
+/// Runs blocks on a concurrent queue one at a time and in order. Posted blocks run even when nobody holds the strand
+/// any more. Thread-safe.
 class Strand : public std::enable_shared_from_this<Strand>
 {
 public:

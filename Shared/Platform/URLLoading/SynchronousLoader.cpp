@@ -21,7 +21,7 @@ constexpr long connectionsOfLoader = 4;
 
 struct Pool {
     std::mutex mutex;
-    std::vector<std::unique_ptr<SynchronousLoader>> idle; ///< last used last
+    std::vector<std::unique_ptr<SynchronousLoader>> idle; ///< the last used one is last
 };
 
 Pool& pool()
@@ -106,7 +106,8 @@ void SynchronousLoader::drive(Transfer& transfer)
     }
 }
 
-/// Works as far as it can without waiting; then, unless the transfer is done, waits for the socket or the deadline.
+/// Lets libcurl work as far as it can without waiting; then, unless the transfer is done, waits for the socket or the
+/// deadline.
 std::optional<CURLcode> SynchronousLoader::turn(const Transfer& transfer)
 {
     int running = 0;

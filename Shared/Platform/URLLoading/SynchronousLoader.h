@@ -12,8 +12,8 @@ namespace lodestar
 
 class Transfer;
 
-/// Runs transfers on the calling thread. Loaders are kept for the next caller with their connections, so that a run of
-/// look-ups at one server shakes hands once, whichever threads they come from.
+/// Runs transfers on the calling thread. Loaders are kept with their connections for the next caller, so that a series
+/// of look-ups at one server shakes hands once, whichever threads they come from.
 class SynchronousLoader
 {
 public:

@@ -19,7 +19,7 @@ namespace
 constexpr std::size_t ordinaryBody = 1024UL * 1024;
 constexpr std::size_t stepOfBody = 256UL * 1024;
 
-/// What a console needs for an answer that a screen shows, and no more: whoever waits behind it has a person, too.
+/// A console needs so long for an answer that a screen shows. No longer: persons may wait behind this transfer, too.
 constexpr std::chrono::milliseconds longestPrecedence{250};
 
 std::string_view trimmed(std::string_view text)
@@ -74,7 +74,8 @@ bool Transfer::start(std::optional<ConnectionHandle> ahead)
     return prepareHop(std::move(ahead));
 }
 
-/// What changes something may not be sent twice, which a lost connection would bring about.
+/// Only GET: a connection made ahead may be lost, the request is then sent again, and a request that changes something
+/// must not be sent twice.
 bool Transfer::mayTakeConnectionAhead() const
 {
     const auto origin = Origin::ofURL(m_request.url);
@@ -120,8 +121,7 @@ bool Transfer::prepareHop(std::optional<ConnectionHandle> ahead)
     return true;
 }
 
-/// A server may leave a connection that was made ahead while nothing goes on there; libcurl itself makes up for that
-/// with kept connections only.
+/// A server may close a connection made ahead while it is idle. libcurl retries by itself for kept connections only.
 bool Transfer::lostConnectionAhead() const
 {
     return m_connection.hold != nullptr && m_received == 0 && !m_refusal;
@@ -154,7 +154,7 @@ bool Transfer::hopEnded(CURLcode result)
     return false;
 }
 
-/// What libcurl does not see: it finds a body short of its length or of its last chunk itself.
+/// Checks only what libcurl cannot: libcurl itself notices a body shorter than its length and a missing last chunk.
 bool Transfer::bodyIsWhole() const
 {
     const bool delimited = m_response.headers.value("Content-Length") || m_response.headers.value("Transfer-Encoding");
@@ -191,7 +191,7 @@ void Transfer::refuse(URLErrorCode code, std::string reason)
     m_refusal = urlError(code, std::move(reason));
 }
 
-/// A fifth of the limit leaves the rest to a connection that is made.
+/// Waits a fifth of the time-out at most, which leaves the rest for making a connection.
 Transfer::Clock::time_point Transfer::patienceEnd() const
 {
     constexpr std::chrono::milliseconds longestPatience{HandshakeHold::isPossible ? 2000 : 0};
@@ -204,7 +204,7 @@ Transfer::Clock::time_point Transfer::deadline() const
     return m_paused ? total : std::min(m_lastProgress + m_request.timeout, total);
 }
 
-/// Every connection passes here before a byte of the request is sent, fresh and kept ones alike.
+/// libcurl calls this for every connection, fresh or kept, before it sends a byte of the request.
 bool Transfer::connectionReady()
 {
     m_lastProgress = Clock::now();
@@ -225,7 +225,7 @@ bool Transfer::connectionReady()
     if (m_client->acceptsServer(*certificate, handshake)) {
         return true;
     }
-    // A connection that was made ahead may be older than the certificate, too.
+    // A connection made ahead may also be older than the server's current certificate.
     const bool isOld = handshake == Handshake::Reused || m_connection.hold != nullptr;
     if (isOld && !std::exchange(m_retriedFresh, true)) {
         m_needsFreshConnection = true;
@@ -252,7 +252,7 @@ bool Transfer::headerLine(std::string_view line)
         return true;
     }
     if (!m_inHeaders) {
-        return true; // trailers
+        return true; // a trailer, which is ignored
     }
     const std::string_view text = trimmed(line);
     if (text.empty()) {
@@ -279,7 +279,7 @@ bool Transfer::headersComplete()
     const auto length = m_response.headers.value("Content-Length");
     const auto number = length ? numberIn<std::int64_t>(*length) : std::nullopt;
     if (length && !number) {
-        // Two of them, which libcurl lets pass: where such a body ends is anybody's guess.
+        // libcurl accepts two lengths, and then nobody can tell where the body ends.
         refuse(URLErrorCode::BadServerResponse, "the body's length is not one number");
         return false;
     }
@@ -302,7 +302,7 @@ bool Transfer::bodyBytes(std::span<const char> bytes)
         refuse(URLErrorCode::DataLengthExceedsMaximum, "the body is too large");
         return false;
     }
-    // The text that comes with a redirect is nobody's answer.
+    // A redirect's body is dropped: it answers nobody.
     if (!m_next) {
         if (!hasRoom(bytes.size())) {
             return false;
@@ -314,9 +314,9 @@ bool Transfer::bodyBytes(std::span<const char> bytes)
     return true;
 }
 
-/// False when the body has to wait, and then the same bytes come once more, or is refused. Room is taken in steps, for
-/// a body of a known and ordinary size at once: thousands that all wait for the rest of theirs would fill the room for
-/// good.
+/// False when the body must wait or is refused; after a wait libcurl hands in the same bytes again. Room is taken in
+/// steps, but for a body of known, ordinary size all at once: thousands of half-received bodies that all wait for more
+/// room would fill the limit for ever.
 bool Transfer::hasRoom(std::size_t bytes)
 {
     const std::size_t needed = m_bodyBytes + bytes;
@@ -383,7 +383,7 @@ std::int64_t Transfer::wireBytes() const
                : 0;
 }
 
-/// An extension of a chunk may be endless, and libcurl tells nobody of it.
+/// A chunk's extension may be endless, and libcurl reports none of its bytes.
 bool Transfer::framingIsBounded()
 {
     if (!m_response.headers.value("Transfer-Encoding")) {
@@ -398,7 +398,7 @@ bool Transfer::framingIsBounded()
     return false;
 }
 
-/// No exception may pass through libcurl; the only one that can come is a lack of memory for what a server sends.
+/// No exception may pass through libcurl. The only one that can occur is a lack of memory for bytes from a server.
 template <typename Work>
 bool Transfer::guarded(Work work)
 {

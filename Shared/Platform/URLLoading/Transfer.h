@@ -19,28 +19,30 @@ class PausedTransfers;
 
 enum class Handshake { Fresh, Reused };
 
-/// Who a transfer works for. Called on the thread that drives the transfer; must not block.
+/// The receiver of a transfer's events. Called on the thread that drives the transfer; must not block.
 class TransferClient
 {
 public:
     virtual ~TransferClient() = default;
-    /// Before anything is sent. False leaves the server; a reused connection is first replaced by a fresh one.
+    /// Called before anything is sent. False refuses the server; a refused connection that was reused is replaced by a
+    /// fresh one first.
     virtual bool acceptsServer(const ServerCertificate& certificate, Handshake handshake) = 0;
-    /// True when a server that was refused before should be met with a fresh handshake.
+    /// True when a server that was refused before needs a fresh handshake.
     virtual bool wantsFreshHandshake(const Origin& origin) const = 0;
     virtual void didReceiveResponse(const URLResponse& response) = 0;
-    /// Of the body as it comes: where the response says so, packed.
+    /// The body's bytes as they come: still packed if the response says so.
     virtual void didReceiveData(std::span<const char> data) = 0;
-    /// Last and exactly once. The held bytes are the body's share of the process's limit, to be kept as long as the
-    /// body waits for its reader.
+    /// Called last and exactly once. The held bytes are the body's share of the process's limit; keep them as long as
+    /// the body waits for its reader.
     virtual void didEnd(std::optional<Error> error, HeldBytes held) = 0;
 };
 
-/// One request with its redirects, as a sequence of hops on one libcurl handle. It owns every rule about what is sent,
-/// what is accepted and how much of it; who drives the handle is none of its business. One thread at a time.
+/// One request with its redirects, as a sequence of hops on one libcurl handle. This class holds every rule about what
+/// is sent, what is accepted and how much; it does not care who drives the handle. One thread at a time.
 ///
-/// The driver adds `handle()` to its multi handle after `start`, takes it out when libcurl is done with it, and calls
-/// `hopEnded`: true asks for the handle to be added once more. It calls `fail` (with the handle out) to end early.
+/// The driver adds `handle()` to its multi handle after `start`, removes the handle when libcurl is done with it, and
+/// calls `hopEnded`; when that returns true, the driver adds the handle again. To end early, the driver removes the
+/// handle and calls `fail`.
 class Transfer
 {
 public:
@@ -51,48 +53,51 @@ public:
     Transfer& operator=(const Transfer&) = delete;
     ~Transfer() = default;
 
-    /// Starts the clocks; a person's run since it was made, since a person waits from then on. False when there is
-    /// nothing to drive, because the transfer has failed already. With a connection that was made ahead, to the same
-    /// server, its handle goes on as this transfer's.
+    /// Starts the clocks. A person's clocks run from the transfer's creation, since the person waits from then on.
+    /// False when the transfer has failed already and there is nothing to drive. `ahead` is a connection made ahead to
+    /// the same server; the transfer then uses its handle.
     bool start(std::optional<ConnectionHandle> ahead = std::nullopt);
     CURL* handle() const { return m_connection.easy.get(); }
-    /// Scheme, host and port of the first hop, as they stood in the address.
+    /// Scheme, host and port of the first hop, exactly as the address has them.
     const std::string& server() const { return m_server; }
     static std::string serverOf(const std::string& url);
     Urgency urgency() const { return m_request.urgency; }
     /// Whether `start` may be given a connection that was made ahead.
     bool mayTakeConnectionAhead() const;
-    /// Until when a person's transfer waits for one of its server's connections to come free. Where none can be made
-    /// meanwhile, there is nothing to wait for.
+    /// Until this time a person's transfer waits for one of its server's connections to come free. Where no connection
+    /// can be made in the meantime, there is no wait.
     Clock::time_point patienceEnd() const;
-    /// Once it has ended: whether it had a connection made, and whether its connection may serve the next one.
+    /// Valid once the transfer has ended: whether it made a connection, and whether its connection may serve the next
+    /// transfer.
     bool madeConnection() const { return m_madeConnection; }
     bool leavesConnection() const { return m_leavesConnection; }
     bool hopEnded(CURLcode result);
     void fail(URLErrorCode code);
 
-    /// Before `start`: a body that finds no room is to wait, and to be put into the list. Without one it is refused.
+    /// Call before `start`: a body that finds no room then waits, and the transfer enters the list. Without a list such
+    /// a body is refused.
     void setPausedTransfers(PausedTransfers& list) { m_pausedTransfers = &list; }
     bool isPaused() const { return m_paused; }
     Clock::time_point pausedSince() const { return m_pausedSince; }
     std::size_t heldBytes() const { return m_held.count(); }
-    /// What a paused one would take at once if it went on.
+    /// The bytes that a paused transfer would take at once if it went on.
     std::size_t nextHeldBytes() const { return m_nextHeld; }
     void setPausedSince(Clock::time_point since) { m_pausedSince = since; }
     void setClaim(HeldBytes::Claim claim) { m_claim = claim; }
-    /// Lets a paused one try again. False when its hop has ended, with `refusedResult` as libcurl's word.
+    /// Lets a paused transfer try again. False when its hop has ended, with `refusedResult` as libcurl's result.
     bool goOn();
-    /// Gives a paused one up.
+    /// Refuses a paused transfer for lack of room.
     void refuseForRoom();
     static constexpr CURLcode refusedResult = CURLE_WRITE_ERROR;
 
-    /// Makes the transfer leave what comes of its body where it is, or take it again. Does nothing before: libcurl
-    /// would tell the lines of a header that it holds back as one. Nor does it to a transfer that is paused.
+    /// True makes the transfer leave its body's bytes in the socket; false lets it read them again. Does nothing before
+    /// the body: libcurl would hand over header lines that it held back as one line. Does nothing to a paused transfer.
     void rest(bool rests);
-    /// Whether the answer is just being awaited or is just coming in, for a person.
+    /// Whether a person's answer is awaited or coming in right now.
     bool goesBeforeOthers(Clock::time_point now) const;
 
-    /// When the transfer is overdue if nothing more arrives: the idle limit or the total one. Monotonic clock.
+    /// When the transfer is overdue if nothing more arrives: the end of the idle limit or of the total limit, whichever
+    /// is sooner. Monotonic clock.
     Clock::time_point deadline() const;
 
 private:
@@ -121,7 +126,7 @@ private:
 
     const TransferLimits m_limits;
     const std::string m_server;
-    URLRequest m_request; ///< of the current hop
+    URLRequest m_request; ///< the current hop's request
     std::shared_ptr<TransferClient> m_client;
     ConnectionHandle m_connection;
     CurlList m_headers;
@@ -131,9 +136,9 @@ private:
     Clock::time_point m_started;
     Clock::time_point m_clocksStart;
     Clock::time_point m_lastProgress;
-    Clock::time_point m_answered;    ///< when the current answer's first line came
+    Clock::time_point m_answered;    ///< when the first line of the current answer came
     std::size_t m_received = 0;      ///< body and header bytes of all hops, as they came
-    std::int64_t m_unseenBefore = 0; ///< what the connection had received when the hop began, less `m_received`
+    std::int64_t m_unseenBefore = 0; ///< bytes that the connection had received when the hop began, less `m_received`
 
     int m_redirects = 0;
     bool m_needsFreshConnection = false;
@@ -141,21 +146,21 @@ private:
     bool m_madeConnection = false;
     bool m_leavesConnection = false;
     std::size_t m_headerBytes = 0;
-    std::size_t m_bodyBytes = 0; ///< of the current response, as they came
+    std::size_t m_bodyBytes = 0; ///< the current response's body bytes, as they came
     HeldBytes m_held;
     std::size_t m_nextHeld = 0;
     PausedTransfers* m_pausedTransfers = nullptr;
     bool m_paused = false;
-    bool m_hasPaused = false; ///< of this body, since it last went on
+    bool m_hasPaused = false; ///< this body has paused since it last went on
     Clock::time_point m_pausedSince;
     HeldBytes::Claim m_claim = HeldBytes::Claim::Fair;
 
     URLResponse m_response;
     bool m_inHeaders = false;
-    bool m_inBody = false;            ///< of the hop's last response
-    std::optional<URLRequest> m_next; ///< the current response is a redirect to follow
+    bool m_inBody = false;            ///< true while the hop's last response brings its body
+    std::optional<URLRequest> m_next; ///< set when the current response is a redirect to follow
     std::shared_ptr<const CloseNotice> m_closeNotice;
-    std::optional<Error> m_refusal; ///< why a callback of ours stopped libcurl
+    std::optional<Error> m_refusal; ///< the reason when one of our callbacks stopped libcurl
 };
 
 } // namespace lodestar

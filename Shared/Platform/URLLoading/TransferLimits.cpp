@@ -14,7 +14,7 @@ namespace
 
 constexpr std::size_t megabyte = 1024UL * 1024;
 constexpr std::size_t mostHeld = 192 * megabyte;
-constexpr std::size_t leastHeld = 48 * megabyte; // below it an ordinary feed would not fit
+constexpr std::size_t leastHeld = 48 * megabyte; // with less, an ordinary feed would not fit
 constexpr std::size_t shareOfDevice = 16;
 constexpr std::size_t connectionsShareOfDevice = 32;
 constexpr std::size_t bytesOfConnection = 130UL * 1024;

@@ -118,7 +118,7 @@ void TransferQueue::didEnd(const Transfer& transfer)
     --server.running;
     const bool tookFree = m_onFreeConnections.erase(&transfer) != 0;
     if (tookFree && transfer.madeConnection()) {
-        // The free one was not there: its server had closed it, and so it will have the others.
+        // The server had closed the connection that counted as free, so it has probably closed the others, too.
         m_free -= std::exchange(server.free, 0);
     }
     if (transfer.leavesConnection()) {

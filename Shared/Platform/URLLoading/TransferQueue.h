@@ -16,8 +16,8 @@ namespace lodestar
 
 class Transfer;
 
-/// Transfers that wait for their turn, and what is known of the connections to their servers. Servers take turns, so
-/// that none waits for another's many; what a person waits for goes before everything else. Not thread-safe.
+/// Transfers that wait to start, and what is known of the connections to their servers. Servers take turns, so that no
+/// server waits for another's many transfers. Persons' transfers go before all others. Not thread-safe.
 class TransferQueue
 {
 public:
@@ -25,44 +25,45 @@ public:
 
     bool empty() const { return m_count == 0; }
     void push(std::shared_ptr<Transfer> transfer);
-    /// False when it does not wait.
+    /// False when the transfer is not in the queue.
     bool erase(const std::shared_ptr<Transfer>& transfer);
 
-    /// Whether a transfer may have a connection made although its server has some, which are all in use. Otherwise it
-    /// waits for one of those, since a new one costs a handshake. What a person waits for does so in any case, but not
-    /// for long: one that comes free answers two round trips sooner than one that is made.
+    /// What a transfer does when all its server's connections are in use. `Make`: it may make another. `Have`: it waits
+    /// for one to come free, since a new one costs a handshake. A person's transfer waits in either case, but not for
+    /// long: a connection that comes free answers two round trips sooner than a new one.
     enum class Connections { Have, Make };
-    /// Who is to be taken: everybody or only what a person waits for.
+    /// Whose transfers to take: everybody's, or only those that a person waits for.
     enum class Whose { Everybodys, Persons };
-    /// Says how many connections to a server are about to be there besides those that the queue knows of.
+    /// Tells how many connections to a server were made ahead or are being made; the queue does not know these.
     using Ahead = std::function<std::size_t(const std::string& server)>;
     using Want = std::function<void(const std::string& server, std::size_t connections)>;
 
-    /// Takes the next one out; null when there is none that may go.
+    /// Takes the next transfer out; null when none may start.
     std::shared_ptr<Transfer> take(Connections connections, Whose whose, const Ahead& ready, Clock::time_point now);
 
-    /// Every transfer that runs is to be told, and told of again when it has ended.
+    /// Call `didStart` for every transfer that starts, and `didEnd` when it ends.
     void didStart(const Transfer& transfer);
     void didEnd(const Transfer& transfer);
-    /// Whether a connection to the server is free, as far as is known: a server may have closed it.
+    /// Whether a connection to the server counts as free; the server may have closed it unnoticed.
     bool hasFreeConnection(const std::string& server) const;
-    /// How many are free at all servers together.
+    /// The number of free connections to all servers together.
     std::size_t freeConnections() const { return m_free; }
 
-    /// So many transfers to the server are soon to be pushed; negative to take that back.
+    /// Says that so many transfers to the server will be pushed soon; a negative number takes that back.
     void expect(const std::string& server, int transfers);
     bool expectsAny() const { return m_expected > 0; }
-    /// Calls the function with every server that will want so many more connections than there are.
+    /// Calls `want` for each server whose expected transfers need more connections than there are, with the number that
+    /// is missing.
     void forEachExpectedWant(const Ahead& ahead, const Want& want) const;
-    /// The same for what persons wait for by now.
+    /// Does the same for persons' transfers that wait now.
     void forEachPersonsWant(const Ahead& ahead, const Want& want) const;
 
 private:
     struct Server {
-        std::deque<std::shared_ptr<Transfer>> waiting; ///< persons' first
-        std::size_t persons = 0;                       ///< of those that wait
+        std::deque<std::shared_ptr<Transfer>> waiting; ///< persons' transfers first
+        std::size_t persons = 0;                       ///< how many of `waiting` are persons'
         std::size_t running = 0;
-        std::size_t free = 0; ///< connections
+        std::size_t free = 0; ///< free connections
         std::size_t expected = 0;
     };
     using Servers = std::unordered_map<std::string, Server>;
@@ -72,7 +73,7 @@ private:
     void forgetIfUnused(const std::string& server);
 
     Servers m_servers;
-    std::deque<Turn> m_turns; ///< servers with transfers that wait
+    std::deque<Turn> m_turns; ///< servers with waiting transfers
     std::unordered_set<const Transfer*> m_onFreeConnections;
     std::size_t m_count = 0;
     std::size_t m_persons = 0;

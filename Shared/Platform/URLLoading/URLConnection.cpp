@@ -30,7 +30,7 @@ public:
         m_accepted = true;
     }
     void continueWithoutCredential() override { m_accepted = false; }
-    /// No answer is the answer "without a credential".
+    /// A delegate that does not answer counts as continuing without a credential.
     bool mayGoOn() const { return m_accepted || m_certificate.systemObjection().empty(); }
 
 private:
@@ -38,8 +38,8 @@ private:
     bool m_accepted = false;
 };
 
-/// The connection that users hold, and the transfer's client. The transfer keeps it while the network works for it; the
-/// blocks on the strand keep it until its delegate has heard the end.
+/// The connection that users hold; also the transfer's client. The transfer keeps it alive while the network works for
+/// it. The blocks on the strand keep it alive until its delegate has heard the end.
 class Connection final : public URLConnection, public TransferClient
 {
 public:
@@ -142,14 +142,14 @@ private:
     }
 
     URLRequest m_request;
-    std::shared_ptr<URLConnectionDelegate> m_delegate; ///< the strand's, once started
+    std::shared_ptr<URLConnectionDelegate> m_delegate; ///< only the strand uses it, once started
     OperationQueue m_queue;
     std::shared_ptr<Strand> m_strand;
     std::shared_ptr<Transfer> m_transfer;
-    // The strand's.
-    std::optional<BodyUnpacker> m_unpacker; ///< of the last response
+    // Only the strand uses the members below.
+    std::optional<BodyUnpacker> m_unpacker; ///< unpacks the last response's body
     bool m_isPacked = false;
-    std::optional<Error> m_failure; ///< nothing more is told but the end
+    std::optional<Error> m_failure; ///< once set, the delegate hears only of the end
 };
 
 } // namespace

@@ -15,7 +15,7 @@
 namespace lodestar
 {
 
-/// Codes of the transport's errors, domain `urlErrorDomain`.
+/// Codes of the transport's errors, in the domain `urlErrorDomain`.
 enum class URLErrorCode {
     Unknown = -1,
     Cancelled = -999,
@@ -43,19 +43,19 @@ public:
     virtual int port() const = 0;
     /// Accepts the presented certificate (server trust only) and has `ServerTrust` remember it.
     virtual void useCredential() = 0;
-    /// Goes on with what the system alone would do: a server whose certificate it does not vouch for is left.
+    /// Leaves the decision to the system: a server whose certificate the system does not accept is refused.
     virtual void continueWithoutCredential() = 0;
 };
 
 /// Receives a connection's progress on the connection's delegate queue, one call at a time, in order: a server-trust
-/// challenge for each new connection to a server, responses (one per redirect and the last), data of the last
+/// challenge for each new connection to a server, responses (one for each redirect and the last), data of the last
 /// response, then exactly one of finished and failed.
 ///
 /// The server-trust challenge comes before any response, but the request may be on its way by then: the handshake
-/// accepts the server provisionally and the delegate's word decides about what follows. That is sound for a delegate
-/// that accepts every server, which ours does, and keeps the network thread from waiting for a delegate. A delegate
-/// that means to refuse servers must not be given requests that carry secrets. A connection that is kept from an
-/// earlier request brings no new challenge, unless its server's certificate is not remembered.
+/// accepts the server provisionally, and the delegate's answer decides about what follows. That is safe for a delegate
+/// that accepts every server, as ours does, and the network thread need not wait for a delegate. A delegate that
+/// refuses servers must not be given requests with secrets. A connection kept from an earlier request brings no new
+/// challenge, unless its server's certificate is not remembered.
 class URLConnectionDelegate
 {
 public:
@@ -67,40 +67,41 @@ public:
     virtual void didFailWithError(const Error& error) = 0;
 };
 
-/// One transfer. It keeps its delegate, and itself, alive from `start` until the last callback has returned.
+/// One transfer. From `start` until the last callback has returned, the connection keeps itself and its delegate alive.
 class URLConnection : public std::enable_shared_from_this<URLConnection>
 {
 public:
     static std::shared_ptr<URLConnection> make(URLRequest request, std::shared_ptr<URLConnectionDelegate> delegate);
     virtual ~URLConnection() = default;
-    /// Before `start`.
+    /// Call before `start`.
     virtual void setDelegateQueue(const OperationQueue& queue) = 0;
     virtual void start() = 0;
     /// Any thread. The delegate gets `Cancelled` unless the transfer has already ended.
     virtual void cancel() = 0;
 };
 
-/// The outcome of a plain call: a response with its body, or an error.
+/// A plain call's outcome: a response with its body, or an error.
 struct URLLoad {
     URLResponse response;
     std::string body;
 };
 
-/// Sends the request with the system's trust rules (see ServerTrust.h) and calls the completion exactly once, on the
-/// queue. Returns at once. The request's clocks start when it has a connection, see NetworkThread.h. A redirect is
-/// followed within TLS only; one that cannot be followed is the answer.
+/// Sends the request under the system's trust rules (see ServerTrust.h) and calls the completion exactly once, on the
+/// queue. Returns at once. When the request's clocks start, see NetworkThread.h. A redirect is followed within TLS
+/// only; a redirect that cannot be followed is the answer.
 ///
-/// The returned function ends the transfer, from any thread: the completion gets `Cancelled`, unless it has been
-/// called.
+/// The returned function ends the transfer, from any thread: the completion then gets `Cancelled`, unless it was called
+/// before.
 std::function<void()> sendAsynchronousRequest(URLRequest request, const OperationQueue& queue,
                                               std::function<void(Result<URLLoad>)> completion);
 
-/// Says that so many requests to the address's server will follow, if all goes well: as long as the answer is kept,
-/// connections are made ready for them where the network is slow enough to be worth it. Nothing but the greeting of a
-/// handshake is sent on one before a request takes it, under the usual rules of trust. Any thread.
+/// Says that so many requests to the address's server will probably follow. While the caller keeps the returned object,
+/// connections are made ready for them where the network is slow enough for that to pay. On such a connection only the
+/// handshake's greeting is sent until a request takes it; the usual rules of trust then apply. Any thread.
 std::shared_ptr<void> expectRequests(const std::string& url, int requests);
 
-/// As above, blocking the calling thread, which runs the transfer itself on a kept-alive connection of its own.
+/// Like `sendAsynchronousRequest`, but blocks the calling thread, which runs the transfer itself on kept-alive
+/// connections of its own.
 Result<URLLoad> sendSynchronousRequest(const URLRequest& request);
 
 } // namespace lodestar

@@ -18,7 +18,7 @@ URLErrorCode urlErrorCodeOfTransfer(int curlCode)
     switch (curlCode) {
     case CURLE_URL_MALFORMAT:
     case CURLE_UNSUPPORTED_PROTOCOL:
-    case CURLE_LOGIN_DENIED: // a user name in the address, which requests may not carry
+    case CURLE_LOGIN_DENIED: // libcurl's result for a user name in the address, which requests must not have
         return URLErrorCode::BadURL;
     case CURLE_COULDNT_RESOLVE_HOST:
     case CURLE_COULDNT_RESOLVE_PROXY:

@@ -12,7 +12,7 @@ namespace lodestar
 /// An error of the transport. Its description is a sentence for the user; the reason is for the log.
 Error urlError(URLErrorCode code, std::string reason = {});
 
-/// What libcurl's result (a `CURLcode`) means to a caller.
+/// The error code that libcurl's result (a `CURLcode`) stands for.
 URLErrorCode urlErrorCodeOfTransfer(int curlCode);
 
 } // namespace lodestar

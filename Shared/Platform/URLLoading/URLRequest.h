@@ -32,7 +32,7 @@ private:
     std::vector<Field> m_fields;
 };
 
-/// Who waits for a request's answer: a person in front of a screen goes before the refresh of a fleet.
+/// Who waits for a request's answer. A person in front of a screen goes before a refresh of the fleet.
 enum class Urgency { Fleet, Person };
 
 /// A prepared request. A value; the transport takes a copy.
@@ -44,18 +44,18 @@ struct URLRequest {
     std::string method = "GET";
     HTTPHeaders headers;
     std::string body;
-    /// Idle limit: the longest wait for the next byte. The whole transfer has the limits of `TransferLimits`
+    /// The idle limit: the longest wait for the next byte. The limits of `TransferLimits` hold for the whole transfer
     /// besides.
     std::chrono::milliseconds timeout = defaultTimeout;
     Urgency urgency = Urgency::Person;
-    /// Told how many of the body's bytes have gone, time and again, on the thread that drives the transfer; must not
+    /// Called repeatedly with the number of body bytes sent so far, on the thread that drives the transfer; must not
     /// block.
     std::function<void(std::size_t sent)> bodySent;
 };
 
-/// What a server answered, without the body. Status 0 is "no response yet".
+/// A server's answer without the body. Status 0 means that there is no response yet.
 struct URLResponse {
-    std::string url; ///< of the last hop
+    std::string url; ///< the last hop's address
     int statusCode = 0;
     HTTPHeaders headers;
     std::int64_t expectedContentLength = -1; ///< -1 when unknown
