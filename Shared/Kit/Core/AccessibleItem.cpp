@@ -12,7 +12,7 @@ namespace lodestar
 namespace
 {
 
-/// The visible ones of all windows, in the order in which they became so.
+/// The visible layers of all windows, in the order in which they became visible.
 std::vector<ModalLayer*>& layers()
 {
     static std::vector<ModalLayer*> layers;
@@ -54,7 +54,7 @@ bool AccessibleItem::isAccessiblyFocusable() const
 
 void AccessibleItem::focusInEvent(QFocusEvent* event)
 {
-    QQuickItem::focusInEvent(event); // tells a screen reader
+    QQuickItem::focusInEvent(event); // Qt tells screen readers here.
     const Qt::FocusReason reason = event->reason();
     setVisualFocus(reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason ||
                    reason == Qt::ShortcutFocusReason);

@@ -7,31 +7,31 @@
 namespace lodestar
 {
 
-/// An item that assistive programs press, focus and command. Give it role, name and states by the attached `Accessible`
-/// as any item; what can be done with it, whether it is enabled and who has the keyboard it tells by itself, and of its
-/// children only those that are shown. Main thread.
+/// An item that assistive programs can press, focus and command. Give the item role, name and states by the attached
+/// `Accessible`, as any item. The item itself tells its actions, whether it is enabled and whether it has the keyboard
+/// focus; its visible children only are told of. Main thread.
 class AccessibleItem : public QQuickItem
 {
     Q_OBJECT
     QML_ELEMENT
-    /// Whether there is the action Press.
+    /// Whether the item offers the action Press.
     Q_PROPERTY(bool pressAction MEMBER m_pressAction NOTIFY actionsChanged FINAL)
-    /// Further actions, by their translated names.
+    /// Translated names of further actions.
     Q_PROPERTY(QStringList commands MEMBER m_commands NOTIFY actionsChanged FINAL)
-    /// Whether it can be given the keyboard although Tab passes it by.
+    /// Whether the item can have the keyboard focus although Tab skips it.
     Q_PROPERTY(bool focusable MEMBER m_focusable NOTIFY focusableChanged FINAL)
-    /// Reads its children from top to bottom, in whatever order they were made.
+    /// Whether the children are read from top to bottom, in whatever order they were made.
     Q_PROPERTY(bool readsDownwards MEMBER m_readsDownwards NOTIFY readsDownwardsChanged FINAL)
     Q_PROPERTY(bool visualFocus READ hasVisualFocus NOTIFY visualFocusChanged FINAL)
 
 public:
     explicit AccessibleItem(QQuickItem* parent = nullptr) : QQuickItem(parent) {}
 
-    /// Has the keyboard and came by it through the keyboard, so that a ring is due.
+    /// Whether the item has the keyboard focus and got it by the keyboard, so that a focus ring has to be shown.
     bool hasVisualFocus() const { return m_visualFocus; }
-    /// Press first, then the commands. Empty while it is disabled.
+    /// The action Press first, then the commands. Empty while the item is disabled.
     QStringList accessibleActions() const;
-    /// Nothing while the item is disabled, hidden or covered by a modal layer, or has no such action.
+    /// Does nothing while the item is disabled, hidden or covered by a modal layer, or when it has no such action.
     void doAccessibleAction(const QString& action);
     bool isAccessiblyFocusable() const;
     bool readsDownwards() const { return m_readsDownwards; }
@@ -69,8 +69,8 @@ public:
     explicit AccessibleScope(QQuickItem* parent = nullptr) : AccessibleItem(parent) { setFlag(ItemIsFocusScope); }
 };
 
-/// What a popup holds that takes the whole window to itself. While one is visible an assistive program finds in its
-/// window the layer that became visible last, and nothing else; nothing below can be pressed by it.
+/// The content of a popup that takes over its window. While one is visible, assistive programs find in the window only
+/// the layer that became visible last, and can press nothing below it.
 class ModalLayer : public lodestar::AccessibleScope
 {
     Q_OBJECT
@@ -80,7 +80,7 @@ public:
     explicit ModalLayer(QQuickItem* parent = nullptr) : AccessibleScope(parent) {}
     ~ModalLayer() override;
 
-    /// Null where there is none.
+    /// The layer of this window that became visible last; null where there is none.
     static ModalLayer* topmost(const QQuickWindow* window);
 
 protected:

@@ -18,7 +18,7 @@ namespace
 
 using Items = std::vector<QQuickItem*>;
 
-/// What QML attached to the item as `Accessible`; null for an item that is passed over.
+/// The item's attached `Accessible`; null for an item that the tree skips.
 const QObject* attachedTo(const QQuickItem& item)
 {
     for (const QObject* child : item.children()) {
@@ -29,7 +29,7 @@ const QObject* attachedTo(const QQuickItem& item)
     return nullptr;
 }
 
-/// The nearest described items below, those that are shown.
+/// Collects the nearest visible descendants that have an `Accessible`.
 void collect(const QQuickItem& from, Items& found)
 {
     for (QQuickItem* child : from.childItems()) {
@@ -50,7 +50,7 @@ QRect placeOf(const QQuickItem& item)
     return item.window() == nullptr ? inWindow : QRect(item.window()->mapToGlobal(inWindow.topLeft()), inWindow.size());
 }
 
-/// A node whose children are items.
+/// A node of the tree whose children are items.
 class Node : public QAccessibleObject
 {
 public:
@@ -70,7 +70,7 @@ public:
         const auto found = std::find(all.begin(), all.end(), child->object());
         return found == all.end() ? -1 : static_cast<int>(found - all.begin());
     }
-    /// The innermost one; of those that lie over each other the last.
+    /// The innermost child at a point; among overlapping children, the last.
     QAccessibleInterface* childAt(int x, int y) const override
     {
         const Items all = items();
@@ -250,7 +250,7 @@ QAccessibleInterface* describe(const QString& className, QObject* object)
 
 void installAccessibleTree()
 {
-    QAccessible::installFactory(&describe); // once, however often it is asked for
+    QAccessible::installFactory(&describe); // Qt installs the factory only once, however often this is called
 }
 
 } // namespace lodestar

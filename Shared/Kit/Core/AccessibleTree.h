@@ -4,9 +4,9 @@
 namespace lodestar
 {
 
-/// Has windows, and what is an AccessibleItem, describe themselves to assistive programs: the toolkit's own
-/// descriptions of them know no modality, no actions beyond a button's, and read lists in the order in which rows were
-/// made. Once a process is enough. Main thread.
+/// Gives windows and AccessibleItems their own descriptions for assistive programs. Qt's descriptions know no modality
+/// and no actions beyond a button's, and they read lists in the order in which the rows were made. Once per process is
+/// enough. Main thread.
 void installAccessibleTree();
 
 } // namespace lodestar

@@ -20,21 +20,21 @@ namespace lodestar
 namespace
 {
 
-/// Screens that merely measure a little over 96 do not mean larger text.
+/// Rounds to quarters: a screen that measures a little over 96 dots per inch does not mean larger text.
 double inQuarters(double scale)
 {
     return std::round(scale * 4) / 4;
 }
 
-/// Where everything is drawn in the screen's own points, desktops tell their text size as a resolution.
+/// On platforms that draw in the screen's own points, desktops tell their text size as a resolution.
 double textScaleOfScreen()
 {
     const QScreen* screen = QGuiApplication::primaryScreen();
     return screen != nullptr ? inQuarters(screen->logicalDotsPerInch() / 96) : 1;
 }
 
-/// An X server has one number for the text's size and the screen's density, Xft.dpi, their product; the platform draws
-/// everything larger by it, text among it, before anything can be asked. There the desktop's own factor comes too late.
+/// An X server has a single number for text size times screen density, Xft.dpi. The platform scales everything by it,
+/// text included, before the program can ask for the desktop's own factor; applying that factor too would scale twice.
 bool isTextScaledByPlatform()
 {
     return QGuiApplication::platformName() == QLatin1String("xcb");

@@ -12,8 +12,8 @@ class QQmlEngine;
 namespace lodestar
 {
 
-/// What the system says about how to draw: light or dark, text size, direction, motion. Each answer can be overridden,
-/// for tests, pictures and command lines; an empty override gives it back to the system. Main thread.
+/// The system's wishes for drawing: light or dark, text size, direction, motion. Tests, pictures and command lines can
+/// override each one; an empty override returns it to the system. Main thread.
 class Appearance : public QObject
 {
     Q_OBJECT
@@ -28,19 +28,19 @@ public:
     static Appearance& shared();
     static Appearance* create(QQmlEngine* qml, QJSEngine* js);
 
-    /// The system palette's window colour is dark.
+    /// Without an override: whether the system palette's window colour is dark.
     bool isDark() const;
-    /// 1 to 2, of the drawn sizes.
+    /// Factor by which text is drawn larger, 1 to 2.
     double textScale() const;
-    /// Right to left.
+    /// Whether text runs from right to left.
     bool isMirrored() const;
     bool isReducedMotion() const;
 
-    /// How far below the top of a line of that height a text of that size starts, so that its capitals are centred and
-    /// stand on a device pixel.
+    /// How far below the top of a line a text of this size starts, so that its capitals are centred in the line and
+    /// stand on a device pixel. In points.
     Q_INVOKABLE double textDrop(int pixelSize, double lineHeight, double devicePixelRatio) const;
 
-    /// What the desktop's settings say, once they are heard.
+    /// Takes a setting of the desktop, once the desktop has told it.
     void setSystemReducedMotion(bool reduced);
     void setSystemTextScale(double scale);
 

@@ -57,7 +57,7 @@ QString BarButtonOutlet::title() const
 void BarButtonOutlet::tap()
 {
     if (m_enabled && m_action) {
-        // A copy: the action may set another item.
+        // A copy is called, because the action may set another item.
         const auto action = m_action;
         action();
     }

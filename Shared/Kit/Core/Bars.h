@@ -10,8 +10,8 @@
 namespace lodestar
 {
 
-/// The button at the end of a screen's bar. Until an item is set there is none. Setters as for every outlet; what is
-/// tapped runs on the main thread.
+/// The button at the end of a screen's bar. Until an item is set, there is no button. Setters work as for every outlet;
+/// the action runs on the main thread.
 class BarButtonOutlet : public QObject
 {
     Q_OBJECT
@@ -29,12 +29,12 @@ public:
     SystemItem systemItem() const { return m_item; }
     bool isEnabled() const { return m_enabled; }
     void setEnabled(bool enabled);
-    /// Puts an enabled button in the place of the one that is there.
+    /// Replaces the button by an enabled one for this item.
     void setItem(SystemItem item, std::function<void()> action);
     /// Empty without an item.
     QString imageName() const;
     QString title() const;
-    /// Nothing while disabled.
+    /// Does nothing while the button is disabled.
     Q_INVOKABLE void tap();
 
 Q_SIGNALS:
@@ -46,9 +46,9 @@ private:
     std::function<void()> m_action;
 };
 
-/// A search bar and the display of its results: hidden until it becomes the first responder, and again when it is
-/// cancelled. QML writes the user's typing into `text`. The scope bar is never shown, yet one scope is always selected.
-/// Main thread.
+/// A search bar and the display of its results. Both are hidden until the bar becomes the first responder, and again
+/// once the search is cancelled. QML writes the user's typing into `text`. The scope bar is never shown, yet one scope
+/// is always selected. Main thread.
 class SearchBarOutlet : public QObject
 {
     Q_OBJECT
@@ -70,7 +70,7 @@ public:
 Q_SIGNALS:
     void textChanged();
     void activeChanged();
-    /// The field takes the keyboard, also when the bar is up already.
+    /// The field should take the keyboard focus, even when the bar is visible already.
     void focusRequested();
 
 private:

@@ -106,7 +106,7 @@ void CellHost::make(const QVariant& cell)
 void CellHost::drop()
 {
     if (m_item) {
-        // What it goes through until it is deleted is no business of the row any more.
+        // The row no longer follows the item, which lives until it is deleted later.
         disconnect(m_item, nullptr, this, nullptr);
         m_item->setVisible(false);
         m_item->deleteLater();

@@ -10,9 +10,9 @@
 namespace lodestar
 {
 
-/// One drawn row's content: an item of the table's delegate, whose property `cell` is asked for once when the row comes
-/// into view (`configure`) and once when the table is reloaded, not once a role or a binding. Where the table makes its
-/// cells in steps, the item is there at once and its cell is completed later.
+/// The content of one drawn row: an item of the table's delegate with a property `cell`. The table is asked for the
+/// cell once when the row comes into view (`configure`) and once per reload, not for each role or binding. Where the
+/// table makes its cells in steps, the item exists at once and its cell is completed later.
 class CellHost : public QQuickItem
 {
     Q_OBJECT
@@ -31,7 +31,7 @@ public:
     void setTable(TableOutlet* table);
     /// Null for a header.
     QQuickItem* item() const { return m_item.data(); }
-    /// Asks the table for the cell of the present index. A list calls it when it uses the row for another index.
+    /// Asks the table for the cell of the present index. A list calls this when it reuses the row for another index.
     Q_INVOKABLE void configure();
 
 Q_SIGNALS:
@@ -57,7 +57,8 @@ private:
     QPointer<QQmlComponent> m_delegate;
     QPointer<QQuickItem> m_item;
     int m_index = -1;
-    bool m_pooled = false; ///< waits for its next use: a reload is no business of it, since asking may cost a request
+    /// waits for its next use; a pooled row ignores reloads, since asking for a cell may cost a request
+    bool m_pooled = false;
 };
 
 } // namespace lodestar

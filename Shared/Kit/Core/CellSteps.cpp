@@ -12,9 +12,9 @@ namespace lodestar
 namespace
 {
 
-/// For the screen's first frame: rows are drawn with what is known before the first of them blocks.
+/// The first step waits for the screen's first frame, so that rows show what is known before a step blocks.
 constexpr std::chrono::milliseconds firstDelay{60};
-/// Likewise for the last frame of a slide: so many pauses after it.
+/// Pauses between steps that are waited for after a slide, so that its last frame is drawn before a step blocks.
 constexpr int restAfterSlide = 3;
 
 bool slides(const QQuickItem* item)

@@ -15,21 +15,22 @@
 namespace lodestar
 {
 
-/// Completes the cells of one table's drawn rows, a row at a time from the top, each in steps that may block. Rows that
-/// are not seen wait, and nothing is done while screens slide. Main thread.
+/// Completes the cells of one table's drawn rows: one row at a time from the top, each in steps that may block. Rows
+/// out of view wait, and no step runs while screens slide. Main thread.
 class CellSteps : public QObject
 {
     Q_OBJECT
 
 public:
-    /// Makes one step; the whole cell after the last.
+    /// Makes one step. Returns the complete cell after the last step, nothing before.
     using Step = std::function<std::optional<QVariant>()>;
 
     using QObject::QObject;
 
-    /// The row's cell goes to `show` when it is whole. What the row still waited for is dropped.
+    /// Runs the steps of a row and then passes the complete cell to `show`. Earlier steps that still waited for this
+    /// row are dropped.
     void complete(QQuickItem& row, int index, Step step, std::function<void(const QVariant&)> show);
-    /// A row that waits may have come into view.
+    /// To be called when a waiting row may have come into view.
     void wake();
 
 private:

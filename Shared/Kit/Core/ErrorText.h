@@ -8,7 +8,7 @@ namespace lodestar
 
 struct Error;
 
-/// What a person is told of the error, in the language of the interface.
+/// The text that tells a person of the error, in the language of the interface.
 QString errorText(const Error& error);
 
 } // namespace lodestar

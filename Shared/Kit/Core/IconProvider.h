@@ -6,13 +6,14 @@
 namespace lodestar
 {
 
-/// "image://icon/NAME/COLOUR": the drawing NAME.svg of the application's icons with `currentColor` replaced, COLOUR as
-/// rrggbb or aarrggbb. Drawings that carry their colours ignore it. Thread-safe, as image readers run anywhere.
+/// Gives "image://icon/NAME/COLOUR": the icon NAME.svg of the application with its `currentColor` replaced. COLOUR is
+/// rrggbb or aarrggbb; an icon with colours of its own ignores it. Thread-safe, because image readers run on any
+/// thread.
 class IconProvider : public QQuickImageProvider
 {
 public:
     IconProvider();
-    /// Null for an unknown name. The size asked for is in device pixels; without one the drawing's own holds.
+    /// Null for an unknown name. `requestedSize` is in device pixels; an empty one means the icon's own size.
     QImage requestImage(const QString& id, QSize* size, const QSize& requestedSize) override;
 };
 

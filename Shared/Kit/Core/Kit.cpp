@@ -16,12 +16,12 @@ namespace lodestar
 
 void installKit(QQmlEngine& engine)
 {
-    // The module is a static library: naming the generated function is what links its registration in.
+    // The module is a static library; naming the generated function makes the linker keep its registration.
     [[maybe_unused]] static volatile auto registration = &qml_register_types_Lodestar_Kit;
     UIFont::install();
     installAccessibleTree();
     if (engine.imageProvider(QStringLiteral("icon")) != nullptr) {
-        return; // by another module that stands on the kit
+        return; // another module that uses the kit has installed the rest
     }
     engine.addImportPath(QStringLiteral("qrc:/"));
     engine.addImageProvider(QStringLiteral("icon"), new IconProvider);

@@ -6,7 +6,8 @@ class QQmlEngine;
 namespace lodestar
 {
 
-/// Makes `import Lodestar.Kit` work in the engine: types, icons and fonts. Once an engine, before it loads anything.
+/// Makes `import Lodestar.Kit` work in the engine: types, icons and fonts. Call once per engine, before the engine
+/// loads anything.
 void installKit(QQmlEngine& engine);
 
 } // namespace lodestar

@@ -25,7 +25,7 @@ bool LastPress::isRecent() const
 
 bool LastPress::eventFilter(QObject* watched, QEvent* event)
 {
-    // Windows alone: what a window hands on to an item is the same press again.
+    // Only events of windows count: a window passes the same press on to its items.
     if (watched->isWindowType()) {
         switch (event->type()) {
         case QEvent::MouseButtonPress:

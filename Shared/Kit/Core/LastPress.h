@@ -9,7 +9,7 @@
 namespace lodestar
 {
 
-/// Where the pointer pressed last, for what comes up beside it. Main thread.
+/// Place and time of the last pointer press, for popups that open beside it. Main thread.
 class LastPress : public QObject
 {
     Q_OBJECT
@@ -19,9 +19,9 @@ class LastPress : public QObject
 public:
     explicit LastPress(QObject* parent = nullptr);
 
-    /// Whether a press just now, and no key since, is what the program answers to.
+    /// Whether the last input was a press, and that only a moment ago.
     Q_INVOKABLE bool isRecent() const;
-    /// In its window.
+    /// In points of the pressed window.
     Q_INVOKABLE QPointF position() const { return m_position; }
 
 protected:
@@ -29,7 +29,7 @@ protected:
 
 private:
     QPointF m_position;
-    QElapsedTimer m_since; ///< invalid without a press, and after a key
+    QElapsedTimer m_since; ///< invalid before the first press and after a key
 };
 
 } // namespace lodestar

@@ -19,7 +19,8 @@ QEvent::Type wakeType()
     return static_cast<QEvent::Type>(type);
 }
 
-/// Posted ahead of every drain: a nested loop that a block starts meets it and drains what is behind that block.
+/// An event posted before every drain: when a block runs a nested loop, that loop finds the event and drains the blocks
+/// behind the running one.
 QEvent::Type nestedType()
 {
     static const int type = QEvent::registerEventType();
@@ -46,7 +47,7 @@ public:
 MainLoop::MainLoop() : m_receiver(std::make_unique<Receiver>())
 {
     MainQueue::shared().adoptCurrentThread();
-    // The queue calls this from any thread, but never again once it has another or none.
+    // The queue may call this from any thread, but no longer once another function or none is set.
     MainQueue::shared().setWake(
         [receiver = m_receiver.get()] { QCoreApplication::postEvent(receiver, new QEvent(wakeType())); });
 }

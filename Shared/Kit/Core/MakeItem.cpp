@@ -10,7 +10,7 @@ namespace lodestar
 
 QQuickItem* makeItem(QQmlComponent& component, const QVariantMap& properties, QQuickItem& parent)
 {
-    // Creating from a broken file crashes in Qt 6.4.
+    // Qt 6.4 crashes when it creates an item from a broken file.
     if (!component.isReady()) {
         return nullptr;
     }

@@ -9,9 +9,10 @@ class QQuickItem;
 namespace lodestar
 {
 
-/// An item of the component with these first values, as large as its parent. It stands in the parent, and so in the
-/// window, before its bindings are evaluated: made outside they would be once more, for the window's width and screen.
-/// The parent owns it. Null when the component is no item or not ready; it says why.
+/// Makes an item of the component with these initial values, as large as its parent, which owns it. The item gets its
+/// parent, and so its window, before its bindings are evaluated; otherwise they would be evaluated again for the
+/// window's width and screen. Null when the component makes no item or is not ready; the component then tells the
+/// error.
 QQuickItem* makeItem(QQmlComponent& component, const QVariantMap& properties, QQuickItem& parent);
 
 } // namespace lodestar

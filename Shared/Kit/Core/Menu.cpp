@@ -39,7 +39,7 @@ void MenuOutlet::setMessage(QString message)
 
 void MenuOutlet::dismiss()
 {
-    // The texts stay: what fades out still shows them.
+    // The texts are kept because the popup still shows them while it fades out.
     m_handler = nullptr;
     if (std::exchange(m_presented, false)) {
         Q_EMIT presentedChanged();

@@ -25,11 +25,12 @@ public:
     QString title;
     bool destructive = false;
     QString imageName{}; ///< action sheets only
-    bool enabled = true; ///< action sheets only: a choice that is greyed cannot be made
+    bool enabled = true; ///< action sheets only: a disabled choice is greyed and cannot be chosen
     friend bool operator==(const MenuChoice&, const MenuChoice&) = default;
 };
 
-/// An alert or an action sheet as its controller sees it, a constant property like every outlet. Main thread.
+/// An alert or an action sheet as its controller holds it; a constant property of the controller, like every outlet.
+/// Main thread.
 class MenuOutlet : public QObject
 {
     Q_OBJECT
@@ -49,15 +50,15 @@ public:
     const QString& title() const { return m_title; }
     const QString& message() const { return m_message; }
     QVariantList choices() const;
-    /// The choice that Escape and a tap beside an action sheet stand for; -1 for none. An action sheet sets it apart.
+    /// The choice for Escape and for a tap beside an action sheet; -1 for none. An action sheet sets this choice apart.
     int cancelIndex() const { return m_cancelIndex; }
 
-    /// Shows it, in the place of one that is up. The handler is called once with the choice, after the outlet has been
-    /// taken down, so that it may show the next.
+    /// Shows the menu; a menu that is up is replaced. The handler is called once, with the choice, after the menu has
+    /// been taken down, so that the handler may show the next menu.
     void present(QString title, QString message, std::vector<MenuChoice> choices, int cancelIndex, Handler handler);
-    /// Another message in the same alert, whose buttons stay as they are. Nothing while none is up.
+    /// Changes the message of the alert that is up; its buttons stay. Does nothing while none is up.
     void setMessage(QString message);
-    /// Takes it down without a choice.
+    /// Takes the menu down without a choice.
     void dismiss();
     Q_INVOKABLE void choose(int index);
 

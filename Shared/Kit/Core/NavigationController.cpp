@@ -16,7 +16,7 @@ NavigationController::NavigationController(std::shared_ptr<ViewController> root)
 
 NavigationController::~NavigationController()
 {
-    // Others may hold on to a screen for longer than its stack lives.
+    // A screen may outlive its stack when others hold it.
     for (const auto& controller : m_stack) {
         controller->m_navigationController = nullptr;
     }
@@ -45,7 +45,7 @@ std::shared_ptr<ViewController> NavigationController::popViewController(Animated
     Q_EMIT popped(controller.get(), animated == Animated::Yes);
     Q_EMIT stackChanged();
     updateAppearance();
-    // The call may come out of one of the popped screen's own methods: let it return first.
+    // A method of the popped screen may be on the call stack, so the screen is kept until that method has returned.
     MainQueue::shared().async([keep = controller] {});
     return controller;
 }
@@ -105,7 +105,7 @@ void NavigationController::viewDidDisappear()
 
 void NavigationController::updateAppearance()
 {
-    // A screen may push or pop while it is told; its own call has then already brought the stack up to date.
+    // A screen may push or pop in its callbacks; the nested call has then already brought the stack up to date.
     const std::vector<std::shared_ptr<ViewController>> stack = m_stack;
     for (const auto& controller : stack) {
         if (!isInWindow() || controller != m_stack.back()) {

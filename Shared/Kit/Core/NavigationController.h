@@ -10,7 +10,8 @@ namespace lodestar
 
 enum class Animated { No, Yes };
 
-/// A stack of screens, the last one shown. One NavigationStack mirrors it, so that navigation needs no window.
+/// A stack of screens; the last one is shown. A NavigationStack draws the stack, so that navigation itself needs no
+/// window.
 class NavigationController : public lodestar::ViewController
 {
     Q_OBJECT
@@ -23,12 +24,12 @@ public:
     explicit NavigationController(std::shared_ptr<ViewController> root);
     ~NavigationController() override;
 
-    /// Loads and shows the controller, which this one keeps until it is popped.
+    /// Loads and shows the controller, and keeps it until it is popped.
     void pushViewController(std::shared_ptr<ViewController> controller, Animated animated);
-    /// Takes the last screen off; the root stays. Returns the popped one, or null.
+    /// Takes the last screen off, but never the root. Returns the popped screen, or null.
     std::shared_ptr<ViewController> popViewController(Animated animated);
     Q_INVOKABLE void pop();
-    /// Slides the last screen off the root; those between go unseen.
+    /// Slides the last screen away and shows the root; the screens between are removed unseen.
     void popToRoot();
 
     ViewController* topViewController() const;
@@ -39,10 +40,10 @@ public:
 
 Q_SIGNALS:
     void pushed(lodestar::ViewController* controller, bool animated);
-    /// Emitted before the controller is released. A scene that is to outlive this, for as long as it slides away, keeps
-    /// the controller alive (as SceneHost does).
+    /// Emitted before the controller is released. A scene that slides away outlives this; it keeps the controller alive
+    /// itself (as SceneHost does).
     void popped(lodestar::ViewController* controller, bool animated);
-    /// A screen that others cover has gone. Likewise before its controller is released.
+    /// A screen below others was removed. Emitted before its controller is released.
     void removed(int index);
     void stackChanged();
 

@@ -54,7 +54,7 @@ bool NavigationStack::childMouseEventFilter(QQuickItem* /*item*/, QEvent* event)
 
 void NavigationStack::push(ViewController* shown, bool animated)
 {
-    // Before that its depth will tell.
+    // Before the item is complete, nothing is drawn; completion then makes pages for the whole stack.
     if (!isComponentComplete() || !m_page) {
         return;
     }
@@ -80,7 +80,7 @@ void NavigationStack::pop(bool animated)
 
 void NavigationStack::remove(int index)
 {
-    setProgress(1); // it may be one of the two that slide
+    setProgress(1); // the page may be one of the two that slide
     if (index < std::ssize(m_pages)) {
         m_pages[static_cast<std::size_t>(index)]->deleteLater();
         m_pages.erase(m_pages.begin() + index);
@@ -89,12 +89,12 @@ void NavigationStack::remove(int index)
 
 void NavigationStack::slide(QQuickItem* coming, QQuickItem* going, bool isPop, bool animated)
 {
-    setProgress(1); // the one before is not waited for
+    setProgress(1); // ends a slide that still runs
     m_coming = coming;
     m_going = going;
     m_isPop = isPop;
     coming->setVisible(true);
-    coming->setFocus(true, Qt::OtherFocusReason); // keys are its own from now on
+    coming->setFocus(true, Qt::OtherFocusReason); // keys go to the coming page from now on
     if (animated && going != nullptr) {
         setProgress(0);
     } else {
@@ -118,7 +118,7 @@ void NavigationStack::setProgress(qreal progress)
     }
 }
 
-/// The upper screen comes and goes over the whole width, the lower one follows with a third.
+/// The upper screen moves over the whole width, the lower screen over a third of it.
 void NavigationStack::place()
 {
     QQuickItem* const upper = m_isPop ? m_going : m_coming;

@@ -12,30 +12,30 @@
 namespace lodestar
 {
 
-/// The drawn screens of a navigation controller, one over the other, all as large as this item; only the last is seen
-/// but while one slides. Whoever declares it animates `progress` from 0 to 1 while it is busy. Our own, because Qt's
-/// stack brings the templates of all controls with it, which the start would wait for.
+/// Draws the screens of a navigation controller one over the other, each as large as this item. Only the last is
+/// visible, except while screens slide. The user of this item animates `progress` from 0 to 1 while `busy`. Qt's own
+/// stack is not used because it loads the templates of all controls, which would delay the start.
 class NavigationStack : public QQuickItem
 {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(
         lodestar::NavigationController* controller READ controller WRITE setController NOTIFY controllerChanged FINAL)
-    /// Makes an item with a property `controller`, for each of its screens.
+    /// Makes the item for each screen; the item has a property `controller`.
     Q_PROPERTY(QQmlComponent* page MEMBER m_page NOTIFY pageChanged FINAL)
-    /// Of the slide, 1 when it is over: then a popped screen goes.
+    /// Progress of the slide. At 1 the slide is over, and a popped screen is deleted.
     Q_PROPERTY(qreal progress READ progress WRITE setProgress NOTIFY progressChanged FINAL)
     Q_PROPERTY(bool busy READ isBusy NOTIFY busyChanged FINAL)
-    /// Screens come from the left.
+    /// Whether screens come from the left.
     Q_PROPERTY(bool mirrored MEMBER m_mirrored NOTIFY mirroredChanged FINAL)
-    /// They fade in and out where they are, and do not slide.
+    /// Whether screens fade in place of sliding.
     Q_PROPERTY(bool fades MEMBER m_fades NOTIFY fadesChanged FINAL)
 
 public:
     explicit NavigationStack(QQuickItem* parent = nullptr);
 
     NavigationController* controller() const { return m_controller.data(); }
-    /// Once, before the item is complete.
+    /// To be set once, before the item is complete.
     void setController(NavigationController* controller);
     qreal progress() const { return m_progress; }
     void setProgress(qreal progress);
@@ -52,7 +52,7 @@ Q_SIGNALS:
 protected:
     void componentComplete() override;
     void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
-    /// Nothing is pressed on a screen that slides.
+    /// Blocks presses while screens slide.
     bool childMouseEventFilter(QQuickItem* item, QEvent* event) override;
 
 private:

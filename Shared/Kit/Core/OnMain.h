@@ -10,8 +10,8 @@
 namespace lodestar
 {
 
-/// Runs `change(object)` on the main thread: at once when called there, otherwise later, and not at all when the object
-/// has gone by then. The caller keeps the object alive for the time of the call itself.
+/// Runs `change(object)` on the main thread: at once when called there, otherwise later. Does nothing if the object is
+/// gone by then. The caller keeps the object alive during the call itself.
 template <typename Object, typename Change>
 void onMain(Object* object, Change change)
 {

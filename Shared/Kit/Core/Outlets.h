@@ -9,9 +9,9 @@
 namespace lodestar
 {
 
-/// Outlets are a controller's side of its views: small observable objects, constant properties of the controller under
-/// the outlet's own name. QML items bind to them; tests read them. Their setters may be called from any thread and take
-/// effect on the main thread: at once when called there, otherwise later.
+/// Outlets are the views of a screen as its controller sees them: small observable objects, which are constant
+/// properties of the controller under the outlet's own name. QML items bind to them; tests read them. Setters may be
+/// called from any thread and take effect on the main thread: at once when called there, otherwise later.
 
 /// A view that can be hidden.
 class ViewOutlet : public QObject
@@ -46,7 +46,7 @@ public:
     explicit LabelOutlet(QObject* parent = nullptr) : ViewOutlet(parent) {}
     const QString& text() const { return m_text; }
     void setText(const QString& text);
-    /// Invalid when the view's own colour stands.
+    /// Invalid leaves the view its own colour.
     const QColor& color() const { return m_color; }
     void setColor(const QColor& color);
 
@@ -59,7 +59,7 @@ private:
     QColor m_color;
 };
 
-/// An activity indicator, hidden while it stands still unless told otherwise.
+/// An activity indicator. It is hidden while it does not run, unless told otherwise.
 class IndicatorOutlet : public lodestar::ViewOutlet
 {
     Q_OBJECT
@@ -96,7 +96,7 @@ public:
     void setText(const QString& text);
     bool isEnabled() const { return m_enabled; }
     void setEnabled(bool enabled);
-    /// Takes the keyboard away from the field; harmless when it does not have it.
+    /// Takes the keyboard focus away from the field; does nothing when the field does not have it.
     void resignFirstResponder();
 
 Q_SIGNALS:
@@ -109,7 +109,7 @@ private:
     bool m_enabled = true;
 };
 
-/// A picture by the name of its resource, without extension.
+/// A picture, given by the name of its resource without extension.
 class ImageOutlet : public lodestar::ViewOutlet
 {
     Q_OBJECT
@@ -129,7 +129,7 @@ private:
     QString m_imageName;
 };
 
-/// A switch. QML writes the user's flip into `on`.
+/// A switch. QML writes the user's change into `on`.
 class SwitchOutlet : public lodestar::ViewOutlet
 {
     Q_OBJECT
@@ -149,7 +149,7 @@ private:
     bool m_on = false;
 };
 
-/// A few choices side by side, of which one is chosen. QML writes the user's choice into `selectedSegmentIndex`.
+/// A few choices side by side, one of them chosen. QML writes the user's choice into `selectedSegmentIndex`.
 class SegmentedControlOutlet : public lodestar::ViewOutlet
 {
     Q_OBJECT

@@ -84,7 +84,7 @@ void PagedIntro::finish()
     if (!std::exchange(m_presented, false)) {
         return;
     }
-    // The delegate may lay the next intro over the screen, which lets go of this one.
+    // The delegate may show the next intro; the screen then releases this one.
     const auto keep = shared_from_this();
     Q_EMIT presentedChanged();
     if (const auto delegate = m_delegate.lock()) {

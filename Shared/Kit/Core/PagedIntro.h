@@ -16,8 +16,8 @@ namespace lodestar
 
 class ViewController;
 
-/// One page: a picture that fills it, words and all. The words are told once more, for those whom a picture does not
-/// reach: screen readers, and screens or text sizes at which the picture's own cannot be read.
+/// One page: a picture that fills the page and includes its words. `heading` and `words` repeat the words as text, for
+/// screen readers and for screens or text sizes at which the picture's own cannot be read.
 struct IntroPage {
     Q_GADGET
     QML_VALUE_TYPE(introPage)
@@ -35,7 +35,7 @@ public:
     friend bool operator==(const IntroPage&, const IntroPage&) = default;
 };
 
-/// Told when an intro is over, however it ended.
+/// Hears when an intro is over, however it ended.
 class PagedIntroDelegate
 {
 public:
@@ -43,7 +43,7 @@ public:
     virtual void introDidFinish() = 0;
 };
 
-/// The row of dots that tells and turns pages.
+/// The row of dots that shows and turns pages.
 class PageControlOutlet : public QObject
 {
     Q_OBJECT
@@ -58,7 +58,7 @@ public:
     explicit PageControlOutlet(int numberOfPages, QObject* parent = nullptr);
     int numberOfPages() const { return m_numberOfPages; }
     int currentPage() const { return m_currentPage; }
-    /// Pages that are not there are passed over.
+    /// A page number outside the range changes nothing.
     void setCurrentPage(int page);
     const QColor& pageIndicatorTintColor() const { return m_pageIndicatorTintColor; }
     void setPageIndicatorTintColor(const QColor& color);
@@ -76,7 +76,7 @@ private:
     QColor m_currentPageIndicatorTintColor;
 };
 
-/// A button that is a word.
+/// A button that shows only a word.
 class ButtonOutlet : public QObject
 {
     Q_OBJECT
@@ -96,8 +96,8 @@ private:
     QColor m_titleColor;
 };
 
-/// Pages laid over the whole of a screen, turned by swipes and keys. It ends once: by the skip button, by a swipe past
-/// the last page, or by Escape. Main thread.
+/// Pages that cover a whole screen and are turned by swipes and keys. An intro ends once: by the skip button, a swipe
+/// past the last page, or Escape. Main thread.
 class PagedIntro : public QObject, public std::enable_shared_from_this<PagedIntro>
 {
     Q_OBJECT
@@ -118,17 +118,17 @@ public:
     ButtonOutlet* skipButton() { return &m_skipButton; }
     void setDelegate(std::weak_ptr<PagedIntroDelegate> delegate);
 
-    /// Lays it over the screen, in the place of one that is there. The screen keeps it. Once an intro, which is held by
-    /// `std::shared_ptr`.
+    /// Shows the intro over a screen, which keeps it; an intro that is there is replaced. Call once per intro; the
+    /// intro must be held by a `std::shared_ptr`.
     void showInView(ViewController& view, double animationDuration);
-    /// Whether it is to be seen. It stays with its screen after it has ended, so that it can be drawn on its way out.
+    /// Whether the intro is visible. After its end the screen still keeps it, so that it can be drawn as it goes.
     bool isPresented() const { return m_presented; }
-    /// Seconds, of coming and of going.
+    /// Duration of the coming and of the going, in seconds.
     double animationDuration() const { return m_animationDuration; }
 
-    /// The next page, or the end when there is none.
+    /// Shows the next page; on the last page, ends the intro.
     Q_INVOKABLE void turnPage();
-    /// Ends it and tells the delegate, which may be gone. Later calls do nothing.
+    /// Ends the intro and tells the delegate, which may be gone. Later calls do nothing.
     Q_INVOKABLE void finish();
 
 Q_SIGNALS:

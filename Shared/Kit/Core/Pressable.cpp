@@ -58,7 +58,7 @@ void Pressable::mouseReleaseEvent(QMouseEvent* /*event*/)
 
 void Pressable::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    // Two quick presses are two presses.
+    // Two quick presses count as two presses, not as a double click.
     setPressed(true);
     event->accept();
 }
@@ -71,7 +71,7 @@ void Pressable::mouseUngrabEvent()
 void Pressable::hoverEnterEvent(QHoverEvent* event)
 {
     setHovered(true);
-    event->ignore(); // what lies below is pointed at as well
+    event->ignore(); // items below have to notice the pointer too
 }
 
 void Pressable::hoverLeaveEvent(QHoverEvent* event)

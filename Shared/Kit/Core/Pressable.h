@@ -6,9 +6,9 @@
 namespace lodestar
 {
 
-/// What a button is without its looks: pressed by finger, mouse, the space bar, Return or a screen reader. Buttons are
-/// made of these and not of Qt's template of a button: that one tells readers of a press that it does not do, and
-/// importing one template registers every one of them, which takes longer than the first screen has.
+/// A button without looks: finger, mouse, space bar, Return and screen readers press it. Buttons derive from this and
+/// not from Qt's button template, for two reasons: the template tells screen readers of a press that does nothing, and
+/// importing one template registers all of them, which takes longer than the first screen may.
 class Pressable : public lodestar::AccessibleItem
 {
     Q_OBJECT
@@ -16,7 +16,7 @@ class Pressable : public lodestar::AccessibleItem
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged FINAL)
     Q_PROPERTY(bool pressed READ isPressed NOTIFY pressedChanged FINAL)
     Q_PROPERTY(bool hovered READ isHovered NOTIFY hoveredChanged FINAL)
-    /// Whether there is anything to press: what only rests takes no press and no keyboard.
+    /// Whether the item can be pressed. If not, it takes neither presses nor the keyboard focus.
     Q_PROPERTY(bool pressable READ isPressable WRITE setPressable NOTIFY pressableChanged FINAL)
 
 public:
@@ -24,7 +24,7 @@ public:
 
     QString text() const { return m_text; }
     void setText(const QString& text);
-    /// Held, and the finger still on it.
+    /// Whether a press is held and still on the item.
     bool isPressed() const { return m_pressed; }
     bool isHovered() const { return m_hovered; }
     bool isPressable() const { return m_pressable; }
@@ -53,7 +53,7 @@ protected:
 private:
     void setPressed(bool pressed);
     void setHovered(bool hovered);
-    /// Lets go, and clicks when the press still held.
+    /// Ends a press and emits the click if the press was still on the item.
     void release();
 
     QString m_text;

@@ -7,8 +7,8 @@
 namespace lodestar
 {
 
-/// Attached to an item that shows what a picture of the screen must not: `Privacy.covered: true`. The one who takes the
-/// picture covers it; the item itself draws as ever. Fields that hide their text need no mark.
+/// Attached to an item that must not be readable in a picture of the screen: `Privacy.covered: true`. The code that
+/// takes the picture covers the item; the item itself draws as usual. Fields that hide their text need no mark.
 class Privacy : public QObject
 {
     Q_OBJECT
@@ -23,7 +23,7 @@ public:
     void setCovered(bool covered);
 
     static Privacy* qmlAttachedProperties(QObject* object);
-    /// Whether the object is marked, without attaching anything to it.
+    /// Whether the object is marked. The query attaches nothing to the object.
     static bool covers(QObject* object);
 
 Q_SIGNALS:

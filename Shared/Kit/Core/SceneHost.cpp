@@ -30,7 +30,7 @@ QUrl sceneOf(const ViewController& controller)
     return {};
 }
 
-/// Takes a scene and then its controller away when the running event is over.
+/// Deletes a scene and then releases its controller, once the running event is over.
 class Retired : public QObject
 {
 public:
@@ -54,7 +54,7 @@ SceneHost::~SceneHost()
     if (m_reportsAppearance && m_controller) {
         m_controller->endAppearance();
     }
-    // The scene's bindings read the controller to their end.
+    // The scene is deleted first, because its bindings read the controller until then.
     delete m_scene.data();
 }
 

@@ -10,7 +10,7 @@ namespace lodestar
 {
 
 /// Draws a controller: loads its view, then its scene with the property `controller` set, and keeps the controller
-/// alive for as long as the scene lives. A tab bar or navigation controller without a scene of its own gets the kit's.
+/// alive as long as the scene. A tab bar or navigation controller without a scene of its own gets the kit's scene.
 class SceneHost : public QQuickItem
 {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     ~SceneHost() override;
 
     ViewController* controller() const { return m_controller.data(); }
-    /// A scene that is replaced goes when the event that asked for it is over: its own handler may be the one asking.
+    /// A replaced scene is deleted after the running event, because one of the scene's own handlers may be the caller.
     void setController(ViewController* controller);
     /// Null until loaded, and when the file cannot be loaded, which is logged.
     QQuickItem* scene() const { return m_scene.data(); }
@@ -45,7 +45,8 @@ private:
     QPointer<ViewController> m_controller;
     std::shared_ptr<ViewController> m_keep;
     QPointer<QQuickItem> m_scene;
-    bool m_reportsAppearance = false; ///< the window's own host: it is what shows and hides
+    /// true for the host of a window, which tells the controller that it appears and disappears
+    bool m_reportsAppearance = false;
 };
 
 } // namespace lodestar

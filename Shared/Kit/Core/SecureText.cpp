@@ -31,7 +31,7 @@ public:
         for (QQuickItem* item = field()->parentItem(); item != nullptr && item != shownIn->contentItem();
              item = item->parentItem()) {
             QAccessibleInterface* const candidate = QAccessible::queryAccessibleInterface(item);
-            // Items that the tree passes over have a description, too, but are nobody's children.
+            // An item that the tree skips has a description too, but its parent does not list it as a child.
             if (candidate != nullptr && candidate->parent() != nullptr &&
                 candidate->parent()->indexOfChild(candidate) >= 0) {
                 return candidate;
@@ -70,7 +70,7 @@ public:
         case QAccessible::Name:
             return field()->property("accessibleName").toString();
         case QAccessible::Value:
-            // Dots also while the field shows what it hides: that is for whoever sits before it.
+            // Dots are given even while the field shows its text: that is meant only for the person before the screen.
             return field()->property("passwordCharacter").toString().repeated(field()->property("length").toInt());
         default:
             return {};
@@ -98,11 +98,11 @@ private:
 
 void SecureText::hideFromAccessibility(QQuickItem* field) const
 {
-    // A description that was made meanwhile, by an event of the field's creation, would stay.
+    // Any description that an event made during the field's creation has to go, or it would stay in use.
     if (QAccessibleInterface* const given = QAccessible::queryAccessibleInterface(field)) {
         QAccessible::deleteAccessibleInterface(QAccessible::uniqueId(given));
     }
-    // The registry owns it from here on, and drops it with the field.
+    // The registry owns the description from here on and deletes it with the field.
     QAccessible::registerAccessibleInterface(new SecureFieldAccessible(field));
 } // NOLINT(clang-analyzer-cplusplus.NewDeleteLeaks)
 

@@ -8,7 +8,7 @@
 namespace lodestar
 {
 
-/// For text fields that echo dots. The toolkit gives their text to every program that asks the accessibility tree.
+/// Helps text fields that show dots: Qt gives their text to every program that asks the accessibility tree.
 class SecureText : public QObject
 {
     Q_OBJECT
@@ -18,8 +18,8 @@ class SecureText : public QObject
 public:
     using QObject::QObject;
 
-    /// Makes the tree tell what the screen shows, the dots, from now on. The field names itself by its property
-    /// `accessibleName`. Once a field, when it is complete. Main thread.
+    /// Makes the accessibility tree tell the dots that the screen shows. The field's property `accessibleName` is its
+    /// name. Call once per field, when the field is complete. Main thread.
     Q_INVOKABLE void hideFromAccessibility(QQuickItem* field) const;
 };
 

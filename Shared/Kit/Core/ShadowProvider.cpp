@@ -21,7 +21,8 @@ std::size_t placeOf(int line, int lineStep, int place, int step)
     return static_cast<std::size_t>(index);
 }
 
-/// One pass of a running mean over lines of `length` values that lie `step` apart. Three in a row come close to a bell.
+/// One pass of a running mean over lines of `length` values, which lie `step` apart. Three passes come close to a bell
+/// curve.
 void mean(std::vector<float>& values, int lines, int length, int lineStep, int step, int reach)
 {
     std::vector<float> line(static_cast<std::size_t>(length));
@@ -67,7 +68,7 @@ QImage ShadowProvider::requestImage(const QString& id, QSize* size, const QSize&
             alpha[placeOf(y, side, x, 1)] = static_cast<float>(qAlpha(box.pixel(x, y)));
         }
     }
-    // A blur of n reaches n outwards and inwards: three means of a third each.
+    // A blur of n reaches n outwards and inwards; three means of a third each add up to that.
     const int reach = std::max(1, blur / 3);
     for (int pass = 0; pass < 3; ++pass) {
         mean(alpha, side, side, side, 1, reach);

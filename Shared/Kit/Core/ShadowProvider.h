@@ -6,9 +6,9 @@
 namespace lodestar
 {
 
-/// "image://shadow/RADIUS/BLUR/AARRGGBB": the soft shadow of a rounded box as a nine-piece image whose borders are
-/// RADIUS + 2 × BLUR wide and whose middle is one pixel; the box starts BLUR inside. Painted, because the software
-/// renderer has no effects. Thread-safe.
+/// Gives "image://shadow/RADIUS/BLUR/AARRGGBB": the soft shadow of a rounded box as a nine-piece image. Its borders are
+/// RADIUS + 2 × BLUR wide, its middle is one pixel, and the box starts BLUR inside. The shadow is painted here because
+/// the software renderer has no effects. Thread-safe.
 class ShadowProvider : public QQuickImageProvider
 {
 public:

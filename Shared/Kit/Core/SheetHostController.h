@@ -6,8 +6,8 @@
 namespace lodestar
 {
 
-/// A screen whose semi-modal sheet is a form: while the keyboard is up the sheet stands on it. Its scene tells it of
-/// the keyboard through SheetKeyboard. Main thread.
+/// A screen whose semi-modal sheet is a form. While the keyboard is up, the sheet stands on top of it. The scene
+/// reports the keyboard through SheetKeyboard. Main thread.
 class SheetHostController : public lodestar::ViewController
 {
     Q_OBJECT
@@ -15,17 +15,17 @@ class SheetHostController : public lodestar::ViewController
     QML_UNCREATABLE("Made by controllers")
 
 public:
-    /// Where the keyboard stands when the sheet is to make room.
+    /// Whether the keyboard is up when the sheet is resized.
     enum class Up { No, Yes };
 
-    /// Heights in points. Nothing without a sheet.
+    /// Resizes the sheet; heights in points. Does nothing without a sheet.
     void resizeModal(double keyboardHeight, Up up);
-    /// Nothing while the screen is in no window.
+    /// Does nothing while the screen is in no window.
     Q_INVOKABLE void keyboardWillShow(double keyboardHeight);
     Q_INVOKABLE void keyboardWillHide();
 
 protected:
-    /// Points of the sheet below its bar, with no keyboard. Asked anew each time.
+    /// The sheet's height below its bar, in points, without a keyboard. Called anew each time.
     virtual double restingSheetHeight() const = 0;
 };
 

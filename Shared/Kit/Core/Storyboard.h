@@ -11,8 +11,8 @@
 namespace lodestar
 {
 
-/// The table of scenes: identifier, controller factory, QML file. Screens reach each other by identifier alone, so
-/// that nothing includes upwards. Main thread.
+/// The table of scenes: identifier, controller factory and QML file. Screens reach each other by identifier only, so
+/// that includes never go upwards. Main thread.
 class Storyboard
 {
 public:
@@ -22,10 +22,10 @@ public:
 
     void registerScene(std::string identifier, Factory factory, QUrl scene);
     bool hasScene(std::string_view identifier) const;
-    /// A fresh controller, its scene set; null for an unknown identifier.
+    /// A new controller with its scene set; null for an unknown identifier.
     std::shared_ptr<ViewController> instantiateViewController(std::string_view identifier) const;
 
-    /// The same as its own type; null as well when the scene's controller is of another type.
+    /// A new controller of the given type; null also when the scene's controller has another type.
     template <typename Controller>
     std::shared_ptr<Controller> instantiate(std::string_view identifier) const
     {

@@ -10,14 +10,14 @@
 namespace lodestar
 {
 
-/// One tab: its text, its picture's resource name (the selected one is `imageName` + "_selected") and its screen.
+/// One tab: its text, the resource name of its picture (`imageName` + "_selected" when selected) and its screen.
 struct TabBarItem {
     QString title;
     QString imageName;
     std::shared_ptr<ViewController> controller;
 };
 
-/// Screens side by side behind a bar of tabs. The first is selected at the start.
+/// Screens side by side behind a bar of tabs. The first tab is selected at the start.
 class TabBarController : public lodestar::ViewController
 {
     Q_OBJECT
@@ -34,9 +34,9 @@ public:
     int count() const { return static_cast<int>(m_items.size()); }
     int selectedIndex() const { return m_selectedIndex; }
     void setSelectedIndex(int index);
-    /// What a tap on a tab does: selects it, or takes the selected one back to its first screen.
+    /// Handles a tap on a tab: selects the tab, or returns the selected tab to its first screen.
     Q_INVOKABLE void tap(int index);
-    /// Invalid for the kit's own.
+    /// Invalid for the kit's own colour.
     QColor selectedImageTintColor() const;
     Q_INVOKABLE QString titleAt(int index) const;
     Q_INVOKABLE QString imageNameAt(int index) const;
@@ -55,7 +55,7 @@ private:
     int m_selectedIndex = 0;
 };
 
-/// What every tab bar looks like.
+/// The look of every tab bar.
 struct TabBarAppearance {
     QColor selectedImageTintColor;
     static TabBarAppearance& appearance();

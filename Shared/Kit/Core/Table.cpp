@@ -15,7 +15,7 @@ namespace lodestar
 TableOutlet::TableOutlet(TableDataSource& source, TableKind kind, QObject* parent)
     : QAbstractListModel(parent), m_source(source), m_kind(kind)
 {
-    // No question yet: the source is usually the controller that is being made.
+    // The source must not be called here: it is usually the controller that is being constructed.
     QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
 }
 
@@ -85,7 +85,7 @@ void TableOutlet::reloadOnMain()
         m_count = count;
         m_cells.clear();
     };
-    // The list changes at its end only: what a place shows is the business of its cell.
+    // Rows are inserted and removed at the list's end only; every remaining row gets its new content as a cell.
     if (count < before) {
         setRemovalAnimated(false);
         beginRemoveRows({}, count, before - 1);
@@ -150,7 +150,7 @@ void TableOutlet::deleteRow(IndexPath indexPath, RowAnimation animation)
     m_cells = std::move(cells);
     endRemoveRows();
     Q_EMIT countChanged();
-    // Row numbers moved within the section and its first or last row may be another now; no cell changed.
+    // Row numbers within the section have changed, and the section may have another first or last row; no cell changed.
     const int first = m_sections[section].start;
     const int last = std::min(m_count - 1, first + m_sections[section].rows);
     if (first <= last) {
@@ -260,7 +260,8 @@ std::optional<IndexPath> TableOutlet::pathAt(int index) const
     if (index < 0 || index >= m_count) {
         return {};
     }
-    // The last section that starts at or before the place; empty ones without a header share their start with the next.
+    // The last section that starts at or before the index. Empty sections without a header share their start with the
+    // next.
     const auto after = std::upper_bound(m_sections.begin(), m_sections.end(), index,
                                         [](int place, const SectionInfo& section) { return place < section.start; });
     const auto section = std::prev(after);

@@ -22,35 +22,35 @@ struct IndexPath {
     friend bool operator==(const IndexPath&, const IndexPath&) = default;
 };
 
-/// Which table asks: a screen's own, or the one that lists its search results.
+/// The table that asks: a screen's own table, or the table of its search results.
 enum class TableKind { Main, SearchResults };
 
-/// A cell that costs more than one blocking call: what is known of it at once, and the steps that complete it.
+/// A cell that costs more than one blocking call: what is known at once, and the steps that complete it.
 struct CellInSteps {
     QVariant cell;
     CellSteps::Step step;
 };
 
-/// What a table shows. A cell is a value (a Q_GADGET in a QVariant), made once each time a row is configured.
+/// Gives a table its content. A cell is a value (a Q_GADGET in a QVariant), made once each time a row is configured.
 class TableDataSource
 {
 public:
     virtual ~TableDataSource() = default;
     virtual int numberOfSections(TableKind) const { return 1; }
     virtual int numberOfRowsInSection(TableKind tableView, int section) const = 0;
-    /// No title, no header. An empty title draws an empty header.
+    /// Nothing means no header; an empty title means an empty header.
     virtual std::optional<QString> titleForHeaderInSection(TableKind, int /*section*/) const { return {}; }
-    /// May block; asked once for each configuration of a row.
+    /// May block. Called once each time a row is configured.
     virtual QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) = 0;
-    /// Likewise for the rows of a table that makes its cells in steps.
+    /// Replaces `cellForRowAtIndexPath` in a table that makes its cells in steps.
     virtual CellInSteps cellInStepsForRowAtIndexPath(TableKind, IndexPath) { return {}; }
     virtual void didSelectRowAtIndexPath(TableKind, IndexPath) {}
 };
 
 enum class RowAnimation { None, Left };
 
-/// A table as QML sees it: one flat list of header rows and rows. `kind` tells them apart, `cell` is the row's value.
-/// The outlet is hidden and shown like any other.
+/// A table as QML sees it: one flat list of headers and rows. `kind` tells them apart; `cell` is the row's value. The
+/// outlet is hidden and shown like any other.
 class TableOutlet : public QAbstractListModel
 {
     Q_OBJECT
@@ -86,27 +86,26 @@ public:
     void setSeparatorInset(double left, double right);
     double rowHeight() const { return m_rowHeight; }
     void setRowHeight(double height);
-    /// Headers and rows; rows alone.
+    /// `count` counts headers and rows, `rows` counts rows only.
     int count() const { return m_count; }
     int rows() const;
-    /// How the rows that went last are to go.
+    /// Whether the rows removed last disappear with an animation.
     bool isRemovalAnimated() const { return m_removalAnimated; }
 
-    /// Drawn rows show at once what is known of them and are completed one after the other, with input and frames in
-    /// between. For a source whose cells ask the network; to be set before the table is drawn.
+    /// With steps, drawn rows show at once what is known and are completed one after the other, with input and frames
+    /// in between. Meant for sources whose cells ask the network; to be set before the table is drawn.
     void setMakesCellsInSteps(bool inSteps) { m_makesCellsInSteps = inSteps; }
     bool makesCellsInSteps() const { return m_makesCellsInSteps; }
 
-    /// Asks the source for its shape anew, at once, and for its cells when they are next drawn: several reloads in a
-    /// row configure the visible rows once. Rows whose place stays keep their delegates, so that an open swipe stays
-    /// open. Costs by sections, not by rows. From any thread.
+    /// Asks the source for sections and row counts at once, and for cells when they are next drawn: several reloads in
+    /// a row configure the visible rows once. A row that keeps its place keeps its delegate, so that an open swipe
+    /// stays open. The cost depends on the number of sections, not of rows. May be called from any thread.
     void reloadData();
-    /// Tells that the source has already dropped the row. The rows below move up and are not configured again.
+    /// Removes a row that the source has dropped already. The rows below move up and are not configured again.
     void deleteRow(IndexPath indexPath, RowAnimation animation);
 
-    /// Configures the row: asks the source for a new cell, always. A drawn row calls this once when it comes into view
-    /// and once when it is told that its cell changed; the role `Cell` answers from what was made since the last
-    /// reload.
+    /// Configures the row: always asks the source for a new cell. A drawn row calls this once when it comes into view
+    /// and once when it is told that its cell changed. The role `Cell` returns cells made since the last reload.
     QVariant configureCell(int index) const;
     CellInSteps configureCellInSteps(int index) const;
     CellSteps& cellSteps() { return m_cellSteps; }
@@ -115,10 +114,10 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    /// QML's calls; indexes are of this flat list.
+    /// QML calls these functions; indexes are those of this flat list.
     Q_INVOKABLE bool isHeaderAt(int index) const;
     Q_INVOKABLE void select(int index);
-    /// Closes every open swipe: "leave editing mode".
+    /// `editing` false closes every open swipe; true does nothing. `animated` plays no part.
     void setEditing(bool editing, bool animated);
 
 Q_SIGNALS:
@@ -127,10 +126,10 @@ Q_SIGNALS:
     void rowHeightChanged();
     void countChanged();
     void closeSwipesRequested();
-    /// The row goes back to its unpressed look.
+    /// The row should return to its unpressed look.
     void deselected(int index);
     void removalAnimatedChanged();
-    /// The source was asked anew: nothing is selected any more.
+    /// The source was asked anew; no row is selected any more.
     void reloaded();
 
 public:
@@ -165,7 +164,7 @@ private:
     double m_rowHeight = 44;
 };
 
-/// A pull-to-refresh control: QML calls `pull`, the controller `endRefreshing`.
+/// A pull-to-refresh control. QML calls `pull`, the controller calls `endRefreshing`.
 class RefreshControl : public QObject
 {
     Q_OBJECT
@@ -188,7 +187,7 @@ private:
     bool m_refreshing = false;
 };
 
-/// A button that a swiped cell uncovers: its title, or a picture by its resource name.
+/// A button that a swiped cell uncovers: a title, or a picture by its resource name.
 struct SwipeButton {
     Q_GADGET
     QML_VALUE_TYPE(swipeButton)
@@ -201,7 +200,7 @@ public:
     QString title;
     QColor backgroundColor;
     QString imageName{};
-    QString spoken{}; ///< what is said of a picture without a title
+    QString spoken{}; ///< what a screen reader says for a picture without a title
     friend bool operator==(const SwipeButton&, const SwipeButton&) = default;
 };
 

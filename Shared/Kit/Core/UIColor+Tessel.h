@@ -15,7 +15,7 @@ struct UIColor {
     static QColor ornisBlue();
     static QColor successGreen();
     static QColor errorRed();
-    /// A neutral grey despite its name.
+    /// A neutral grey, despite its name.
     static QColor failedRed();
     static QColor dashboardBlue();
     static QColor dashboardRed();
@@ -24,8 +24,8 @@ struct UIColor {
     static QColor dashboardYellow();
     static QColor dashboardOrange();
 
-    /// The platform's own colours, as in the light appearance. A scene shows them by `Theme.inkFor` and
-    /// `Theme.surfaceFor`, which give each its dark counterpart.
+    /// The platform's own colours, as in the light appearance. Scenes use `Theme.inkFor` and `Theme.surfaceFor` to get
+    /// the present appearance's colours.
     static QColor grayColor();
     static QColor darkGrayColor();
     static QColor lightGrayColor();

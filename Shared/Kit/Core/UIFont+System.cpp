@@ -15,7 +15,7 @@ namespace lodestar
 namespace
 {
 
-/// Whether the face that is shipped could be read. Invalid until the installation starts and once it has been awaited.
+/// Whether the shipped face could be read. Invalid before the installation starts and after it has been awaited.
 std::future<bool>& reading()
 {
     static std::future<bool> future;
@@ -24,7 +24,7 @@ std::future<bool>& reading()
 
 bool readFaces()
 {
-    // The system's faces first: read after ours, they would have ours read once more.
+    // The system's faces are read first; otherwise Qt would read the shipped face twice.
     QFontDatabase::families();
     return QFontDatabase::addApplicationFont(QStringLiteral(":/fonts/Lato-Regular.ttf")) >= 0;
 }
@@ -62,16 +62,16 @@ void UIFont::install()
     if (std::exchange(installed, true)) {
         return;
     }
-    // Lato has no Arabic, Hebrew, Thai or East Asian letters; these take over where they are installed, and the
-    // system's own fallback where not.
+    // Lato has no Arabic, Hebrew, Thai or East Asian letters. These faces supply them where they are installed;
+    // elsewhere the system's fallback does.
     QFont::insertSubstitutions(systemFamily, {QStringLiteral("Lato"), QStringLiteral("Noto Sans Arabic"),
                                               QStringLiteral("Noto Sans Hebrew"), QStringLiteral("Noto Sans Thai"),
                                               QStringLiteral("Noto Sans CJK SC")});
     QFont::insertSubstitution(QStringLiteral("HelveticaNeue"), QStringLiteral("Nimbus Sans"));
     QGuiApplication::setFont(named(systemFamily, 17));
-    // An application that ends at once must not take the platform's faces from under the reader.
+    // An application that ends at once must wait for the reading thread before it destroys the platform's faces.
     qAddPostRoutine(&UIFont::awaitInstalled);
-    // The system's list of faces takes as long to read as half the first screen to compile.
+    // Reading the system's list of faces takes half as long as compiling the first screen, so a thread does it.
     reading() = std::async(std::launch::async, &readFaces);
 }
 

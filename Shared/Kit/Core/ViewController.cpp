@@ -15,7 +15,8 @@ namespace lodestar
 
 ViewController::ViewController()
 {
-    // Invokables hand controllers to QML, whose collector would otherwise take those without a parent.
+    // Invokable functions return controllers to QML, whose garbage collector would otherwise delete those without a
+    // parent.
     QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
 }
 
@@ -31,7 +32,7 @@ void ViewController::setTitle(const QString& title)
 
 void ViewController::setBackTitle(const QString& title)
 {
-    // Null and empty differ: null stands for the title, empty for no text.
+    // Null and empty differ: null shows this screen's title, empty shows no text.
     if (m_backTitle != title || m_backTitle.isNull() != title.isNull()) {
         m_backTitle = title;
         Q_EMIT backTitleChanged();
@@ -119,13 +120,14 @@ void ViewController::dismissSemiModalView()
     const std::unique_ptr<SemiModalPresentation> presentation = std::move(m_semiModal);
     presentation->controller()->endAppearance();
     Q_EMIT semiModalChanged();
-    // The call may come out of one of the sheet's own methods: let it return first.
+    // A method of the sheet's controller may be on the call stack, so the controller is kept until that method has
+    // returned.
     MainQueue::shared().async([keep = presentation->sharedController()] {});
 }
 
 void ViewController::setIntro(std::shared_ptr<PagedIntro> intro)
 {
-    // What draws the old one hears of the change before it goes.
+    // The item that draws the previous intro must hear of the change before that intro is deleted.
     const std::shared_ptr<PagedIntro> previous = std::exchange(m_intro, std::move(intro));
     Q_EMIT introChanged();
 }

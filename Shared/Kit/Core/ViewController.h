@@ -18,9 +18,9 @@ class NavigationController;
 class TabBarController;
 class SemiModalPresentation;
 
-/// The controller of one screen: what the screen shows and does, without the drawing. Main thread. Held by
-/// `std::shared_ptr` made with `makeController`, whose deleter posts to the main thread, because the last reference may
-/// go on a worker.
+/// The controller of one screen: the screen's content and actions, without its drawing. Main thread. A controller is
+/// held by a `std::shared_ptr` from `makeController`, whose deleter posts to the main thread because a worker may
+/// release the last reference.
 class ViewController : public QObject, public std::enable_shared_from_this<ViewController>
 {
     Q_OBJECT
@@ -38,7 +38,7 @@ public:
 
     const QString& title() const { return m_title; }
     void setTitle(const QString& title);
-    /// The back button's text on screens pushed from this one; null for this one's title.
+    /// The back button's text on screens pushed from this one; null shows this screen's title.
     const QString& backTitle() const { return m_backTitle; }
     void setBackTitle(const QString& title);
 
@@ -49,33 +49,33 @@ public:
     /// Runs `viewDidLoad` once, when the screen is first put into a container. Later calls do nothing.
     void loadViewIfNeeded();
     bool isViewLoaded() const { return m_viewLoaded; }
-    /// Appearance, as containers report it: each pair of calls alternates.
+    /// Containers report here that the screen appears or disappears; each pair of calls alternates.
     void beginAppearance();
     void endAppearance();
-    /// Loaded, and on screen as far as its containers know.
+    /// Whether the screen is loaded and, as far as its containers know, visible.
     bool isInWindow() const { return m_appeared; }
 
-    /// Null for a screen that is in no stack. Other threads may only look whether there is one.
+    /// Null for a screen that is in no stack. Other threads may only test for null.
     NavigationController* navigationController() const { return m_navigationController; }
-    /// Whether a screen lies below this one, and the text of the button that leads back to it, empty for none.
+    /// Whether a screen lies below this one; and the text of the button that leads back to it, empty for none.
     Q_INVOKABLE bool canGoBack() const;
     Q_INVOKABLE QString backButtonTitle() const;
     /// Pops this screen if it is the last of its stack.
     Q_INVOKABLE void goBack();
     TabBarController* tabBarController() const;
 
-    /// Puts a controller in a sheet that slides up over this one. A sheet that is up is dismissed first.
+    /// Shows a controller in a sheet that slides up over this screen. A sheet that is up is dismissed first.
     struct SemiModalOptions {
         bool pushParentBack = true;
         double height = 0; ///< points
     };
     void presentSemiViewController(std::shared_ptr<ViewController> controller, SemiModalOptions options);
-    /// Sets the height of the sheet that is up, its width kept. Nothing without a sheet.
+    /// Sets the height of the sheet that is up; its width stays. Does nothing without a sheet.
     void resizeSemiView(double height);
     void dismissSemiModalView();
     SemiModalPresentation* semiModal() const { return m_semiModal.get(); }
 
-    /// The pages laid over this screen; null for none.
+    /// The intro that covers this screen; null for none.
     PagedIntro* intro() const { return m_intro.get(); }
     void setIntro(std::shared_ptr<PagedIntro> intro);
 
@@ -84,7 +84,7 @@ Q_SIGNALS:
     void backTitleChanged();
     void semiModalChanged();
     void introChanged();
-    /// The scene ends text editing: takes the keyboard away.
+    /// The scene should end text editing and take the keyboard focus away.
     void endEditingRequested();
 
 protected:
@@ -93,7 +93,7 @@ protected:
     virtual void viewDidDisappear() {}
     void endEditing() { Q_EMIT endEditingRequested(); }
 
-    /// This object as its own type, for handlers that keep the controller alive.
+    /// A reference to this object as its own type, for handlers that keep the controller alive.
     template <typename Controller>
     std::shared_ptr<Controller> self()
     {
@@ -114,8 +114,8 @@ private:
     std::shared_ptr<PagedIntro> m_intro;
 };
 
-/// A sheet that is up: its content and its height, the bar that the sheet docks above it not counted. It goes with the
-/// sheet's dismissal; the scene, which keeps the content alive, slides down afterwards.
+/// A sheet that is up: its content and its height, which does not include the bar that the sheet adds on top. The
+/// object is deleted when the sheet is dismissed; the scene, which keeps the content alive, slides down after that.
 class SemiModalPresentation : public QObject
 {
     Q_OBJECT
@@ -142,7 +142,7 @@ private:
     bool m_pushParentBack;
 };
 
-/// Deletes a controller on the main thread, whichever thread lets go of it last.
+/// Deletes a controller on the main thread, whichever thread released it last.
 void deleteControllerOnMain(ViewController* controller);
 
 template <typename Controller, typename... Args>
