@@ -84,7 +84,7 @@ private:
     std::string m_repeated;
     std::string m_last;
     std::uint64_t m_rounds;
-    /// 0 in the first part, then the number of the repetition, then one more in the last part.
+    /// 0 in the first part; in the repeated part, the repetition's number from 1; in the last part, one more than that.
     std::uint64_t m_round = 0;
     std::size_t m_at = 0;
 };
@@ -190,8 +190,8 @@ std::string gzipped(const std::string& bytes)
     return deflated(bytes, Format::Gzip, Z_FINISH);
 }
 
-// A block that ends in a full flush needs nothing of what went before, so one packed megabyte can be repeated without
-// packing the whole.
+// The block ends in a full flush, so that it unpacks on its own: one packed megabyte can be repeated, and the whole
+// need not be packed.
 BodyPtr makeGzipBomb(std::uint64_t total)
 {
     const std::string megabyte(1U << 20U, ' ');

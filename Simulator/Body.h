@@ -11,13 +11,13 @@
 namespace lodestar::simulator
 {
 
-/// The bytes of an answer, made as they are sent.
+/// The bytes of an answer's body, made while they are sent.
 class Body
 {
 public:
     virtual ~Body() = default;
     virtual std::uint64_t size() const = 0;
-    /// Up to `count` more bytes; 0 at the end.
+    /// Writes up to `count` more bytes and returns how many; 0 at the end.
     virtual std::size_t read(char* out, std::size_t count) = 0;
 };
 
@@ -25,11 +25,11 @@ using BodyPtr = std::unique_ptr<Body>;
 
 BodyPtr makeBody(std::string text);
 BodyPtr makeBody(std::shared_ptr<const std::string> text);
-/// Both must outlive the body.
+/// The feed and the values must outlive the body.
 BodyPtr makeBody(const FeedTemplate& feed, const BlankValues& values);
-/// `first`, then `repeated` as often as it takes to come to at least `total` bytes, then `last`.
+/// `first`, then `repeated` until the body has at least `total` bytes, then `last`.
 BodyPtr makeRepeatingBody(std::string first, std::string repeated, std::uint64_t total, std::string last);
-/// The inner body in the chunked transfer coding. Its size is the inner one's.
+/// The inner body in the chunked transfer coding. `size` is the inner body's.
 BodyPtr makeChunkedBody(BodyPtr inner);
 
 std::string readAll(Body& body);

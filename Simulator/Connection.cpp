@@ -16,7 +16,7 @@ namespace
 {
 
 constexpr std::size_t recordSize = 16384;
-/// After so many bytes the other connections have their turn.
+/// After this many bytes the other connections have their turn.
 constexpr std::size_t turnSize = 16 * recordSize;
 constexpr std::chrono::milliseconds trickleInterval{1000};
 
@@ -172,7 +172,7 @@ void Connection::begin(const Request& request)
     }
 }
 
-// Answers whether there is anything to send. Moves from the head to the body and past the end.
+// Fills `m_out` with the next bytes of head or body; false when the answer has no more.
 bool Connection::refill()
 {
     m_outAt = 0;
@@ -240,7 +240,7 @@ void Connection::finishResponse()
     const Ending ending = m_response.ending;
     m_response = Response();
     m_head.reset();
-    // An idle connection keeps no buffers: there may be thousands.
+    // An idle connection keeps no buffers, since there may be thousands of connections.
     m_out = std::string();
     m_outAt = 0;
     if (ending == Ending::KeepAlive) {

@@ -12,14 +12,15 @@
 namespace lodestar::simulator
 {
 
-/// One accepted connection: the TLS side, requests one after another, answers as fast as the client takes them.
+/// One accepted connection. It does the TLS work, takes one request after another, and sends answers as fast as the
+/// client reads them.
 class Connection
 {
 public:
     struct Callbacks {
         std::function<Response(const Request&)> answer;
         std::function<void()> handshaken;
-        /// The connection is of no more use and may be destroyed, though not within the call.
+        /// Called when the connection has ended. It may be destroyed then, but not within this call.
         std::function<void()> closed;
     };
 
@@ -29,9 +30,9 @@ public:
     Connection(const Connection&) = delete;
     Connection& operator=(const Connection&) = delete;
 
-    /// Accepts nothing and sends nothing, not even a handshake.
+    /// From now on accepts nothing and sends nothing, not even a handshake.
     void fallSilent();
-    /// As a console that goes away: what is still to be sent is not.
+    /// Closes at once, as a console that goes away: drops whatever is still to be sent.
     void close();
 
 private:
@@ -47,7 +48,7 @@ private:
     bool refill();
     void finishResponse();
     void end(bool reset);
-    /// Waits for what the TLS layer wants after a call answered `result`; ends the connection when that is nothing.
+    /// Waits for what the TLS layer needs after a call returned `result`. Ends the connection when no wait would help.
     void await(int result);
 
     EventLoop& m_loop;

@@ -12,7 +12,8 @@ namespace lodestar::simulator
 namespace
 {
 
-// The credentials are looked for as they stand: clients send them without escaping, and that must be seen here.
+// Looks for the text as it stands. Clients send credentials without escaping them, and tests must notice a change of
+// that.
 bool holdsElement(const std::string& body, const std::string& name, const std::string& text)
 {
     const std::size_t start = body.find("<" + name);
@@ -21,7 +22,7 @@ bool holdsElement(const std::string& body, const std::string& name, const std::s
            body.compare(textStart + 1, text.size() + name.size() + 3, text + "</" + name + ">") == 0;
 }
 
-/// The number behind a name in a target's query; 0 for none.
+/// The number after the name in the target's query; 0 for none.
 int queryNumber(const std::string& target, const std::string& name)
 {
     const std::size_t at = target.find(name + "=", std::min(target.find('?'), target.size()));
@@ -111,7 +112,7 @@ void Console::changeLeaf(Leaf::Kind kind)
     m_leaf = makeLeaf(m_address, kind);
 }
 
-// Clients check a key with a request for the console's own feed that accepts one form more than their feed requests do.
+// To check a session key, clients request the console's own feed with one more accepted form than in a feed request.
 RequestKind Console::kindOf(const Request& request) const
 {
     using enum RequestKind::Area;
@@ -218,8 +219,8 @@ Response Console::quick(const std::string& path) const
                                                 : textResponse("application/json", value->second);
 }
 
-// The paths are ".../ManagedSystem/ID/ProcessedMetrics" and ".../ManagedSystem/ID/ProcessedMetrics/NUMBER.json", NUMBER
-// being how many samples were asked for.
+// The paths are ".../ManagedSystem/ID/ProcessedMetrics" and ".../ManagedSystem/ID/ProcessedMetrics/NUMBER.json", where
+// NUMBER is the number of samples asked for.
 Response Console::metrics(const Request& request, const RequestKind& kind, const std::vector<Fault>& faults) const
 {
     const bool isFeed = kind.area == RequestKind::Area::Metrics;

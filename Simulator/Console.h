@@ -18,17 +18,17 @@
 namespace lodestar::simulator
 {
 
-/// An inventory made ready to be served; consoles share it.
+/// An inventory in the form in which it is served. Consoles share it.
 struct ServedInventory {
     Inventory inventory;
     std::map<std::string, FeedTemplate, std::less<>> feeds;
-    /// JSON-quoted single values by "identifier/property".
+    /// Single values in JSON's quotes, under "identifier/property".
     std::unordered_map<std::string, std::string> quickValues;
 
     ServedInventory(const Settings& settings, std::uint64_t number);
 };
 
-/// What one console knows and answers. It has no sockets.
+/// One console: its state and its answers, but no sockets.
 class Console
 {
 public:
@@ -38,18 +38,20 @@ public:
     const std::string& address() const { return m_address; }
     const Inventory& inventory() const { return m_served->inventory; }
 
-    /// The answer, with the faults that strike the request. `nextAddress` is where a redirect to another host leads.
+    /// The answer to the request; `faults` are those that strike the request. A redirect to another host leads to
+    /// `nextAddress`.
     Response answer(const Request& request, const std::vector<Fault>& faults, const std::string& nextAddress);
 
-    /// Every session key becomes invalid.
+    /// Makes every session key invalid.
     void expireSessions() { m_sessions.clear(); }
-    /// From now on that text in the place of the console's own feed; also of "Metrics" and "MetricsDocument".
+    /// Serves the text in place of the console's own feed from now on. The type may also be "Metrics" or
+    /// "MetricsDocument".
     void setFeed(const std::string& type, std::string text);
     void resetFeed(const std::string& type) { m_ownFeeds.erase(type); }
 
-    /// The certificate that new connections get; made when first asked for.
+    /// The certificate for new connections; the first call makes it.
     std::shared_ptr<const Leaf> leaf();
-    /// A new certificate for new connections.
+    /// Makes another certificate for new connections.
     void changeLeaf(Leaf::Kind kind);
 
 private:

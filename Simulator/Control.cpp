@@ -13,7 +13,7 @@ namespace
 {
 
 using Words = std::vector<std::string>;
-/// Answers its lines, each with its line end.
+/// Returns the lines of its answer, each with its line end.
 using Command = std::function<std::string(Simulator&, const Words&)>;
 
 int numberAt(const Words& words, std::size_t i)

@@ -9,16 +9,17 @@
 namespace lodestar::simulator
 {
 
-/// Steers a simulator by lines of words: every command is answered with any number of lines and then "ok", or with
-/// "error" and one word of text.
+/// Controls a simulator by commands, one a line. Each command is answered by any number of lines and then "ok", or by
+/// "error" and a text encoded as one word.
 class Control
 {
 public:
     Control(EventLoop& loop, Simulator& simulator) : m_loop(loop), m_simulator(simulator) {}
 
-    /// The addresses with their credentials, the receiver's address if there is one, and "ready".
+    /// The lines that a started simulator prints: addresses and credentials, the receiver's address if there is one,
+    /// "ready".
     std::string greeting() const;
-    /// Takes input as it comes and answers every line that has become whole.
+    /// Takes input in any pieces and returns the answers to every line that is now complete.
     std::string feed(std::string_view bytes);
 
 private:

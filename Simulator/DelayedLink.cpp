@@ -59,7 +59,7 @@ void DelayedLink::onEvents(std::size_t from, std::uint32_t events)
     }
 }
 
-/// Nothing more can be said to that side, but what that side has said is still under way to the other.
+/// Stops delivering to the side, which is gone. What that side has sent before is still delivered to the other side.
 void DelayedLink::leave(std::size_t gone)
 {
     Side& side = m_sides.at(gone);
@@ -132,7 +132,7 @@ void DelayedLink::deliver(std::size_t to)
     }
 }
 
-/// Whether the first piece is through.
+/// Whether the first piece was written completely.
 bool DelayedLink::write(Side& side)
 {
     const std::string& bytes = side.incoming.front().bytes;
@@ -172,7 +172,7 @@ void DelayedLink::end()
         if (side.watch != 0) {
             m_loop.forget(std::exchange(side.watch, 0));
         }
-        // The other ends hear of it now: the link itself may be kept a little longer.
+        // The other ends learn of the end now, even if the link is destroyed a little later.
         ::shutdown(side.descriptor, SHUT_RDWR);
     }
     m_ended();

@@ -15,7 +15,7 @@ constexpr std::uint64_t largeBody = 40ULL << 20U;
 constexpr std::uint64_t vastBody = 180ULL << 20U;
 constexpr std::uint64_t hugeHeaders = 16ULL << 20U;
 
-// A stray ampersand, an unknown entity, a missing end tag, and nothing of the last tenth.
+// Puts a stray ampersand and an unknown entity in the place of an end tag, and drops the last tenth.
 std::string damaged(std::string text)
 {
     const std::size_t middle = text.find("</", text.size() / 2);
@@ -27,7 +27,7 @@ std::string damaged(std::string text)
     return text;
 }
 
-// Where to stop so that a chunk is left open.
+// After how many bytes to stop so that a chunk stays incomplete.
 std::uint64_t insideChunk(std::uint64_t size)
 {
     constexpr std::uint64_t chunk = 8192;

@@ -11,21 +11,21 @@
 namespace lodestar::simulator
 {
 
-/// A refusal as consoles write them.
+/// A refusal in the form that consoles use.
 Response errorResponse(int status, const std::string& message);
 Response textResponse(const std::string& contentType, std::string text);
 
-/// An answer while faults are still working on it.
+/// An answer that faults may still change.
 struct Draft {
     Response response;
-    /// The feed that the body is, as long as it is that and may be compressed; empty otherwise.
+    /// The type of the feed that the body holds, while that body may still be compressed; empty otherwise.
     std::string feedType;
 
     void replaceBody(BodyPtr body);
-    /// Sends so many bytes of the body as it stands, and then no more.
+    /// Sends this many bytes of the present body and no more.
     void cut(std::uint64_t after, Ending ending);
-    /// Has one fault do to the answer what it does. Redirects lead to one of the addresses: the console's own, or the
-    /// next console's.
+    /// Applies one fault to the answer. A redirect leads to `address`, the console's own, or to `nextAddress`, the next
+    /// console's.
     void strike(const Fault& fault, const Request& request, const std::string& address, const std::string& nextAddress);
 };
 

@@ -92,7 +92,7 @@ void EventLoop::run()
             const epoll_event& event = events.at(static_cast<std::size_t>(i));
             const auto entry = m_entries.find(event.data.u64);
             if (entry != m_entries.end()) {
-                // A copy, since the callback may forget its own watch.
+                // Call a copy, since the callback may forget its own watch.
                 const auto onEvents = entry->second.onEvents;
                 onEvents(event.events);
             }

@@ -15,7 +15,7 @@ class EventLoop
 {
 public:
     using Clock = std::chrono::steady_clock;
-    /// Names a watched descriptor; never used twice.
+    /// Identifies a watched descriptor; a value is never used twice.
     using Watch = std::uint64_t;
 
     EventLoop();
@@ -23,16 +23,16 @@ public:
     EventLoop(const EventLoop&) = delete;
     EventLoop& operator=(const EventLoop&) = delete;
 
-    /// Calls `onEvents` with the epoll events as long as they last. Throws `std::system_error`.
+    /// Calls `onEvents` with the epoll events for as long as they last. Throws `std::system_error`.
     Watch watch(int descriptor, std::uint32_t events, std::function<void(std::uint32_t)> onEvents);
     void change(Watch watch, std::uint32_t events);
-    /// To be called before the descriptor is closed, also from a callback. Events that have already been reported, and
-    /// timers of the watch, are dropped.
+    /// Call it before closing the descriptor; a callback may call it, too. Events that were already reported and the
+    /// watch's timers are dropped.
     void forget(Watch watch);
-    /// Calls `then` once, unless the watch is forgotten before.
+    /// Calls `then` once after the delay, unless the watch is forgotten before.
     void after(std::chrono::milliseconds delay, Watch watch, std::function<void()> then);
 
-    /// Runs until `stop`.
+    /// Runs until `stop` is called.
     void run();
     void stop() { m_running = false; }
 

@@ -9,70 +9,71 @@
 namespace lodestar::simulator
 {
 
-/// Ways in which a console misbehaves.
+/// The ways in which a console can misbehave.
 enum class FaultName {
     /// The logon answers 401.
     RefuseLogon,
     /// The logon answers 200 without a session key.
     LogonWithoutKey,
-    /// The logon answers 200 with a page, nothing, or JSON; argument "html" (when left out), "empty" or "json".
+    /// The logon answers 200 with a page, nothing, or JSON. The argument is "html" (also when left out), "empty" or
+    /// "json".
     LogonNotXML,
-    /// The logon answers 200 with a session key of a megabyte.
+    /// The logon answers 200 with a session key of 1 MB.
     LongKey,
-    /// Every session key is forgotten. At once and once.
+    /// Every session key becomes invalid. Acts at once, and only once.
     ExpireSession,
-    /// Status 500.
+    /// The answer is status 500.
     RefuseFeed,
-    /// Status 200 and no body.
+    /// The answer is status 200 without a body.
     EmptyFeed,
-    /// Nothing is ever answered.
+    /// No answer is sent.
     StallFeed,
     /// Connections are accepted, and nothing is ever sent on them.
     SilentAfterAccept,
-    /// One byte a second.
+    /// The answer is sent at one byte a second.
     Trickle,
     /// The connection ends in the middle of the body.
     CutBody,
     /// The connection ends in the middle of a chunk.
     CutChunk,
-    /// A whole answer whose compressed body is not.
+    /// The answer is complete, but its compressed body is cut in the middle.
     CutGzip,
     /// The connection is reset in the middle of the body.
     Reset,
-    /// Damaged XML.
+    /// The body is damaged XML.
     MalformedFeed,
-    /// A body of 1 GB.
+    /// The body is 1 GB long.
     HugeBody,
-    /// A small compressed body that unpacks to 1 GB.
+    /// The body is compressed and small, but unpacks to 1 GB.
     GzipBomb,
-    /// No faults: bodies of 40 MB, plain and compressed, and of 180 MB.
+    /// These are no faults: bodies of 40 MB, plain and compressed, and of 180 MB.
     LargeFeed,
     LargeGzip,
     VastFeed,
     /// 16 MB of header lines before the body.
     HugeHeaders,
-    /// A chunk whose extension goes on for 1 GB before its first byte.
+    /// The extension of the first chunk goes on for 1 GB before the chunk's first byte.
     EndlessChunk,
-    /// A length of 0 beside the body's own.
+    /// A second length, 0, is sent beside the body's own.
     TwoLengths,
-    /// A redirect to the same place, ever again.
+    /// The answer is a redirect to its own address.
     RedirectLoop,
-    /// A redirect to the same path on the next console.
+    /// The answer is a redirect to the same path on the next console.
     RedirectOtherHost,
-    /// A new certificate from now on; connections are closed. At once and once.
+    /// The console gets a new certificate and closes its connections. Acts at once, and only once.
     SwapCertificate,
-    /// 401, asking for HTTP basic authentication.
+    /// The answer is status 401 with a demand for HTTP basic authentication.
     BasicAuth,
-    /// Nobody listens, until the fault is cleared; connections are closed.
+    /// The console closes its connections and does not listen until the fault is cleared.
     ClosePort,
-    /// The certificate has expired, or names another host; connections are closed.
+    /// The certificate has expired, or names another host. Connections are closed.
     ExpiredCertificate,
     MisnamedCertificate,
-    /// No fault: bodies are sent in chunks, whole.
+    /// This is no fault: bodies are sent whole, in chunks.
     Chunked,
-    /// Status 500 over the answer that there is.
+    /// The usual answer is sent with status 500.
     FailedStatus,
-    /// Metrics whose samples have some nulls, say that nothing was processed, or are none at all.
+    /// The metrics have some nulls, say that nothing was processed, or have no samples.
     NullMetrics,
     UnprocessedMetrics,
     EmptyMetrics,
@@ -80,28 +81,30 @@ enum class FaultName {
 
 struct Fault {
     FaultName name = FaultName::RefuseLogon;
-    /// What is struck: a feed's type, "Logon", "SessionCheck", "Quick", "Metrics" (the feed of them), "MetricsDocument"
-    /// or "All"; empty for what the name says. For `LogonNotXML` the form.
+    /// The requests that are struck: a feed's type, "Logon", "SessionCheck", "Quick", "Metrics" (their feed),
+    /// "MetricsDocument" or "All". Empty for those that the fault's name implies. For `LogonNotXML` this is the
+    /// argument instead.
     std::string what;
-    /// None for every console.
+    /// None strikes every console.
     std::optional<int> console;
 
-    /// From "name", "name:what", "name:console" or "name:what:console". Throws `std::invalid_argument`.
+    /// Reads "name", "name:what", "name:console" or "name:what:console". Throws `std::invalid_argument` for anything
+    /// else.
     static Fault parse(std::string_view text);
 
     friend bool operator==(const Fault& a, const Fault& b) = default;
 };
 
-/// What a request is for.
+/// The purpose of a request.
 struct RequestKind {
     enum class Area { Logon, SessionCheck, Feed, Quick, Metrics, MetricsDocument, Other };
 
     Area area = Area::Other;
-    /// The object type of a feed; empty for the rest.
+    /// The object type of a requested feed; empty for other requests.
     std::string type;
 };
 
-/// Whether the fault strikes requests of that kind.
+/// Whether the fault applies to requests of the kind.
 bool strikes(const Fault& fault, const RequestKind& kind);
 
 } // namespace lodestar::simulator

@@ -65,7 +65,8 @@ private:
         m_xml.text("updated", m_inventory.published);
         m_xml.empty("link", {{"rel", "self"}, {"href", linkTo(type)}});
         for (std::size_t i = 0; i < entries; ++i) {
-            // The share of the padding is counted from the front, so that a large entry takes some of the next one's.
+            // Padding is measured from the feed's start, so that an entry that grew too large leaves less padding to
+            // the next.
             m_padTo = m_feedBytes * (i + 1) / entries;
             writeEntry(i);
         }
@@ -94,7 +95,7 @@ private:
         m_xml.close();
     }
 
-    // The padding is made of properties that no screen reads, as most of a console's are.
+    // Pads the entry with properties that no screen reads; most of a real console's are of this kind.
     void closeEntry()
     {
         for (std::size_t i = 0; m_xml.size() < m_padTo; ++i) {

@@ -13,32 +13,32 @@
 namespace lodestar::simulator
 {
 
-/// What differs between consoles that share an inventory.
+/// The values by which consoles with a shared inventory differ.
 enum class Blank { Address, ConsoleName, ConsoleSerial, ConsoleID };
 inline constexpr std::size_t blankCount = 4;
 using BlankValues = std::array<std::string, blankCount>;
 
-/// The object types that a console has feeds of, in the order in which clients ask for them.
+/// The object types for which a console has feeds, in the order in which clients request them.
 inline constexpr std::array<std::string_view, 6> feedTypes = {
     "ManagementConsole", "ManagedSystem", "VirtualIOServer", "LogicalPartition", "ServiceableEvent", "Group"};
 
-/// A feed with blanks that are filled in when it is sent, so that thousands of consoles can share one text.
+/// A feed with blanks, which are filled in when the feed is sent. So thousands of consoles can share one text.
 class FeedTemplate
 {
 public:
     FeedTemplate() = default;
-    /// `marked` holds each blank as one control character, `blankMark(blank)`.
+    /// In `marked` each blank is one control character, which `blankMark` tells.
     explicit FeedTemplate(const std::string& marked);
     static char blankMark(Blank blank) { return static_cast<char>(1 + static_cast<int>(blank)); }
 
-    /// Bytes of the filled-in text.
+    /// The length of the filled-in text in bytes.
     std::size_t size(const BlankValues& values) const;
     std::string filled(const BlankValues& values) const;
 
 private:
     friend class FeedCursor;
     struct Hole {
-        /// Where the value goes in `m_text`.
+        /// The place in `m_text` where the value is inserted.
         std::size_t at;
         std::size_t blank;
     };
@@ -46,12 +46,13 @@ private:
     std::vector<Hole> m_holes;
 };
 
-/// Reads a filled-in feed from front to back without ever holding it whole. Both must outlive it.
+/// Reads a filled-in feed from start to end without ever holding it whole. The feed and the values must outlive the
+/// cursor.
 class FeedCursor
 {
 public:
     FeedCursor(const FeedTemplate& feed, const BlankValues& values) : m_feed(feed), m_values(values) {}
-    /// Up to `count` bytes; fewer only at the end.
+    /// Writes up to `count` bytes and returns how many; fewer than `count` only at the end.
     std::size_t read(char* out, std::size_t count);
 
 private:
@@ -62,7 +63,7 @@ private:
     std::size_t m_inValue = 0;
 };
 
-/// Every feed of an inventory by type, each padded to about `feedBytes`.
+/// Writes every feed of the inventory, by type, each padded to about `feedBytes`.
 std::map<std::string, FeedTemplate, std::less<>> writeFeeds(const Inventory& inventory, std::size_t feedBytes);
 
 } // namespace lodestar::simulator

@@ -129,7 +129,7 @@ bool RequestParser::parseHead(std::string_view head)
         }
     }
     m_partial = std::move(request);
-    // No client of a console sends a body in chunks.
+    // Bodies in chunks are refused: no client of a console sends them.
     return !m_partial->header("Transfer-Encoding");
 }
 

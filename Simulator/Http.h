@@ -21,7 +21,7 @@ struct Request {
     std::string method;
     std::string target;
     std::string version;
-    /// Without their line ends.
+    /// The header lines without their line ends.
     std::vector<std::string> headers;
     std::string body;
 
@@ -33,17 +33,16 @@ struct Request {
     bool keepsConnection() const;
 };
 
-/// Finds requests in a stream of bytes, also several that came at once.
+/// Splits a stream of bytes into requests, even if several came at once.
 class RequestParser
 {
 public:
     enum class Outcome { Incomplete, Complete, Bad };
 
     void append(std::string_view bytes) { m_input.append(bytes); }
-    /// Takes the next request off the input. After `Bad` the stream is of no more use.
+    /// Takes the next request from the input. After `Bad`, the rest of the stream cannot be used.
     Outcome next(Request& request);
-    /// Whether the client waits to be told to send the body of the request that is not yet complete. Answers so once a
-    /// request.
+    /// Whether the client waits for permission to send the incomplete request's body. True at most once per request.
     bool wantsContinue();
 
 private:
@@ -55,31 +54,31 @@ private:
     bool m_continueAsked = false;
 };
 
-/// What happens on the connection once an answer, or as much of it as is to be sent, has been sent.
+/// What the connection does after an answer, or the part of an answer that is to be sent.
 enum class Ending { KeepAlive, Close, Reset, Silence };
 
-/// How the client learns where a body ends. `OwnChunks` is a body that brings its chunks itself.
+/// How the client learns where a body ends. With `OwnChunks`, the body's own bytes are chunks already.
 enum class Framing { Length, Chunks, OwnChunks };
 
 struct Response {
-    /// Before anything of it is sent.
+    /// The wait before the answer's first byte.
     std::chrono::milliseconds delay{0};
     int status = 200;
     std::vector<std::pair<std::string, std::string>> headers;
     /// Never null.
     BodyPtr body = makeBody(std::string());
     Framing framing = Framing::Length;
-    /// Body bytes, as they are on the wire, after which the sending stops.
+    /// How many bytes of the body to send, counted as they are on the wire.
     std::uint64_t stopAfter = std::numeric_limits<std::uint64_t>::max();
     Ending ending = Ending::KeepAlive;
-    /// One byte a second.
+    /// Whether the answer is sent at one byte a second.
     bool trickled = false;
-    /// Bytes of meaningless header lines.
+    /// How many bytes of meaningless header lines to send.
     std::uint64_t headerFiller = 0;
 };
 
-/// The status line and the headers with the empty line, as a body of its own; it frames `response.body`, and wraps it
-/// when it goes out in chunks.
+/// The status line, the headers and the empty line, as a body. Also prepares `response.body` for its framing: wraps it
+/// when it is sent in chunks.
 BodyPtr takeHead(Response& response);
 
 } // namespace lodestar::simulator

@@ -50,8 +50,8 @@ const Words& partitionRoles()
     return words;
 }
 
-// The states come round in these orders, so that a small inventory already shows each kind of row: the badges need
-// "error" and "incomplete" as part of longer words too, and a capital letter must not count as well.
+// Systems take these states in this order, so that a small inventory shows every kind of row already. "error" and
+// "incomplete" also occur inside longer words, which badges must count, and with a capital letter, which they must not.
 const Words& uneasySystemStates()
 {
     static const Words words = {"error",
@@ -80,7 +80,7 @@ const Words& colors()
     return words;
 }
 
-// Spreads a change of any bit over all of them.
+// Mixes the bits, so that a change of any bit may change all others.
 std::uint64_t scrambled(std::uint64_t bits)
 {
     bits = (bits ^ bits >> 30U) * 0xBF58476D1CE4E5B9U;
@@ -159,7 +159,7 @@ private:
         system.name = numbered(systemFamilies(), i);
         const Words& uneasy = uneasySystemStates();
         system.state = i % 2 == 0 ? "operating" : uneasy[(i / 2 + m_number) % uneasy.size()];
-        // The lamp falls on well and on failing systems; a lamp that says "True" is not lit.
+        // Lamps are lit on good and on failing systems. A lamp that says "True" does not count as lit.
         system.attentionLED = i % 5 == 1 || i % 7 == 4 ? "true" : i % 11 == 6 ? "True" : "false";
         system.ipAddress = i % 6 == 3 ? "fd00:24:8::" + std::to_string(60 + i)
                                       : "10.24." + std::to_string(m_number % 250) + "." + std::to_string(20 + i % 230);
@@ -244,7 +244,7 @@ private:
         m_inventory.events.push_back(std::move(event));
     }
 
-    // Of the groups one stays empty and one holds a single resource.
+    // One group stays empty, and one has a single resource.
     void addGroup(std::size_t i)
     {
         static const Words names = {"Ledger production",  "Ledger recovery",
@@ -266,7 +266,7 @@ private:
         m_inventory.groups.push_back(std::move(group));
     }
 
-    // At most eight, since a screen asks for each of them one after the other.
+    // Chooses eight at most, since a screen asks for each of them in turn.
     static std::vector<std::size_t> everyNth(std::size_t count, std::size_t offset)
     {
         std::vector<std::size_t> chosen;

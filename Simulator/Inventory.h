@@ -24,14 +24,14 @@ struct ManagedSystem {
     std::string state;
     std::string attentionLED;
     std::string ipAddress;
-    /// No element at all when there is none.
+    /// Without a value the element itself is left out.
     std::optional<std::string> referenceCode;
     MachineIdentity machine;
     std::string processorUnits;
     int memoryMB = 0;
 };
 
-/// A logical partition or a virtual I/O server: a console tells them apart by their feed only.
+/// A logical partition or a virtual I/O server. Only the feed that lists it tells which.
 struct Partition {
     std::string id;
     std::string name;
@@ -68,7 +68,7 @@ struct ServiceableEvent {
     std::int64_t firstReported = 0;
     std::int64_t lastReported = 0;
     std::int64_t primary = 0;
-    /// Index of the failing system; none for a fault of the console itself.
+    /// Index of the failing system; none when the console itself has the fault.
     std::optional<std::size_t> failingSystem;
     std::string text;
     int severity = 0;
@@ -100,7 +100,7 @@ struct ConsoleIdentity {
 };
 
 struct Inventory {
-    /// "yyyy-MM-dd'T'HH:mm:ss.SSS'Z'".
+    /// In the form "yyyy-MM-dd'T'HH:mm:ss.SSS'Z'".
     std::string published;
     ConsoleIdentity console;
     std::vector<ManagedSystem> systems;
@@ -110,16 +110,16 @@ struct Inventory {
     std::vector<Group> groups;
 };
 
-/// The inventory of one console, the same for the same settings and number. Half of the systems, and more of the
-/// partitions, are well; the others go through every state that a screen treats in a way of its own.
+/// Makes one console's inventory, always the same for the same settings and number. Half of the systems, and more than
+/// half of the partitions, are good; the others take every state that a screen treats specially.
 Inventory makeInventory(const Settings& settings, std::uint64_t number);
 
-/// Who the console of that index is.
+/// The identity of the console with that index.
 ConsoleIdentity makeConsoleIdentity(std::uint64_t seed, int index);
 
 InventorySummary summaryOf(const Inventory& inventory);
 
-/// A random-looking identifier in the usual 8-4-4-4-12 form, the same for the same two numbers.
+/// Makes an identifier that looks random, in the usual 8-4-4-4-12 form; always the same for the same two numbers.
 std::string makeIdentifier(std::uint64_t high, std::uint64_t low);
 
 } // namespace lodestar::simulator

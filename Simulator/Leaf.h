@@ -23,7 +23,8 @@ using SslPtr = std::unique_ptr<SSL, Deleter<SSL_free>>;
 using CertificatePtr = std::unique_ptr<X509, Deleter<X509_free>>;
 using KeyPtr = std::unique_ptr<EVP_PKEY, Deleter<EVP_PKEY_free>>;
 
-/// A server context without session resumption: every connection presents the console's present certificate.
+/// Makes a server context without session resumption, so that every connection presents the console's present
+/// certificate.
 ContextPtr makeServerContext();
 
 /// A self-signed certificate with its key.
@@ -37,7 +38,7 @@ struct Leaf {
     std::string fingerprint() const;
 };
 
-/// A new EC P-256 key and a certificate for the address over it. Throws `std::runtime_error`.
+/// Makes an EC P-256 key and a certificate with it for the address. Throws `std::runtime_error`.
 std::shared_ptr<const Leaf> makeLeaf(const std::string& address, Leaf::Kind kind);
 
 } // namespace lodestar::simulator

@@ -18,7 +18,8 @@ int listeningSocket(const std::string& address, int port)
     if (descriptor < 0) {
         throw std::system_error(errno, std::generic_category(), "socket");
     }
-    // Lets a stopped console come back while old connections still linger; it does not let two listen at once.
+    // Allows a stopped console to listen again while its old connections linger. Two consoles still cannot share an
+    // address.
     const int on = 1;
     setsockopt(descriptor, SOL_SOCKET, SO_REUSEADDR, &on, sizeof on);
     sockaddr_in name{};

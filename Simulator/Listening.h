@@ -6,9 +6,9 @@
 namespace lodestar::simulator
 {
 
-/// A non-blocking socket that listens there, to be closed by the caller. Throws `std::system_error`.
+/// A non-blocking socket that listens on the address. The caller closes it. Throws `std::system_error`.
 int listeningSocket(const std::string& address, int port);
-/// The next connection to it, non-blocking; -1 for none.
+/// Accepts the next connection as a non-blocking socket; -1 when there is none.
 int acceptedSocket(int listener);
 
 } // namespace lodestar::simulator

@@ -20,10 +20,10 @@ namespace
 
 constexpr std::chrono::seconds interval{180};
 
-/// Shares of a system's whole that are not given out, by quarter of the period but for the last step.
+/// The part of a system's resources that is free, during each of the period's four steps.
 constexpr std::array<double, 4> freeProcessors = {0.3125, 0.21875, 0.1875, 0.25};
 constexpr std::array<double, 4> freeMemory = {0.25, 0.15625, 0.09375, 0.0390625};
-/// What the system keeps for itself.
+/// The part of the memory that the system itself uses.
 constexpr double ownMemory = 1904.0 / 262144;
 constexpr double lastLoad = 0.40625;
 
@@ -49,7 +49,7 @@ std::string decimal(double value, int decimals = 2)
     return out;
 }
 
-/// "2026-03-12T09:41:00.000Z" as seconds since 1970.
+/// Turns "2026-03-12T09:41:00.000Z" into seconds since 1970.
 std::chrono::sys_seconds momentOf(const std::string& published)
 {
     const auto part = [&published](std::size_t from, std::size_t length) {
@@ -110,7 +110,7 @@ private:
     double partAt(int i) const { return m_shape.samples > 1 ? double(i) / (m_shape.samples - 1) : 1.0; }
     double noise() { return std::uniform_real_distribution<double>(-1, 1)(m_random); }
 
-    /// The share of the processors in use: busy by day, quiet by night, never still, and round at the end.
+    /// The part of the processors in use: high by day, low by night, never constant, and a round number at the end.
     double loadAt(int i)
     {
         const auto sinceMidnight = momentAt(i) - std::chrono::floor<std::chrono::days>(momentAt(i));

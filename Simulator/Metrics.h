@@ -9,27 +9,27 @@
 namespace lodestar::simulator
 {
 
-/// The text as JSON has it, with its quotation marks. It must hold no control characters.
+/// The text with JSON's quotation marks and escapes. The text must hold no control characters.
 std::string jsonText(std::string_view text);
 
-/// How a metrics document is to be.
+/// What a metrics document is to look like.
 struct MetricsShape {
     int samples = 240;
-    /// The console has not processed its metrics: every sample says so and has null for each figure.
+    /// As if the console had not processed its metrics: every sample says so and has null for each figure.
     bool unprocessed = false;
-    /// Some figures of some samples are null, never the first sample's nor the last's.
+    /// Makes some figures null, but none of the first or the last sample.
     bool nulls = false;
-    /// Each sample has the figures of this many made-up partitions besides.
+    /// Adds to each sample the figures of this many made-up partitions.
     int partitions = 0;
     std::uint64_t seed = 1;
 };
 
-/// The processed metrics of a system as JSON, one sample a line: every three minutes, the last when the inventory was
-/// published. Processors follow a daily load, memory is given out in steps. The last sample has round figures: a
-/// quarter of the processors available and 40.625 % of them used.
+/// Writes a system's processed metrics as JSON, one sample on each line. Samples are three minutes apart; the last one
+/// is from when the inventory was published. The use of processors follows a daily load, and memory is assigned in
+/// steps. The last sample has round figures: a quarter of the processors is available, and 40.625 % of them are used.
 std::string writeMetricsDocument(const Inventory& inventory, const ManagedSystem& system, const MetricsShape& shape);
 
-/// The feed whose first entry links to the document.
+/// Writes the feed whose first entry links to the document.
 std::string writeMetricsFeed(const Inventory& inventory, const ManagedSystem& system, const std::string& documentLink);
 
 } // namespace lodestar::simulator

@@ -13,27 +13,27 @@ namespace lodestar::simulator
 /// One request as a console received it.
 struct RecordedRequest {
     int console = 0;
-    /// Counted over all consoles from 1, so that two requests with one number shared a connection.
+    /// Counted from 1 over all consoles: two requests with the same number came on the same connection.
     std::uint64_t connection = 0;
-    /// Since the simulator started.
+    /// Milliseconds since the simulator started.
     std::int64_t milliseconds = 0;
     std::string method;
-    /// Path with its query, as sent.
+    /// The path with its query, as sent.
     std::string path;
     /// The header lines as received, in order, without their line ends.
     std::vector<std::string> headers;
     std::string body;
 
-    /// The value of the first header of that name, whatever its case; nothing when it was not sent.
+    /// The value of the first header of that name, in any case; nothing when there is none.
     std::optional<std::string> header(std::string_view name) const;
-    /// How many headers bear the name.
+    /// How many headers have that name, in any case.
     int headerCount(std::string_view name) const;
 };
 
-/// What a console holds.
+/// Numbers of objects in a console's inventory.
 struct InventorySummary {
     int systems = 0;
-    /// Systems whose state says "error" or "incomplete".
+    /// Systems whose state contains "error" or "incomplete".
     int systemErrors = 0;
     int attentionLEDs = 0;
     int partitions = 0;
@@ -42,22 +42,22 @@ struct InventorySummary {
     int groups = 0;
 };
 
-/// What a console, or all of them, have seen.
+/// What a console, or all consoles together, counted.
 struct Statistics {
     /// TCP connections accepted.
     std::uint64_t connections = 0;
-    /// TLS handshakes completed; none of them is ever abbreviated.
+    /// TLS handshakes completed; every one is a full handshake.
     std::uint64_t handshakes = 0;
     std::uint64_t requests = 0;
 };
 
-/// Any bytes as one word of printable characters, and back. The empty text is the word "%".
+/// Writes any bytes as one word of printable characters; the empty text becomes the word "%".
 std::string encodeWord(std::string_view bytes);
-/// Throws `std::invalid_argument` for what `encodeWord` does not make.
+/// Reverses `encodeWord`. Throws `std::invalid_argument` for a word that `encodeWord` cannot make.
 std::string decodeWord(std::string_view word);
 std::vector<std::string> splitWords(std::string_view line);
 
-/// A request as one line of words, and back.
+/// Writes a request as one line of words, and reads such a line.
 std::string encodeRequest(const RecordedRequest& request);
 RecordedRequest decodeRequest(const std::vector<std::string>& words);
 

@@ -40,7 +40,7 @@ void keep(std::deque<Kept>& list, Kept added)
     list.push_back(std::move(added));
 }
 
-/// What a stranger sent, on one line of printable characters.
+/// Makes one line of a stranger's text, without control characters.
 std::string onOneLine(std::string text)
 {
     std::ranges::replace_if(

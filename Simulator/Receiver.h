@@ -16,30 +16,30 @@
 namespace lodestar::simulator
 {
 
-/// Takes feedback reports in, as the service does that an application announces its sessions and sends its reports to.
-/// It keeps the last ones in memory and shows them to whoever asks: GET of its address lists them, GET of "/1" below it
-/// gives the first one's archive.
+/// Plays the service to which an application announces sessions and sends feedback reports. Keeps the last ones in
+/// memory and shows them to anybody: GET of the receiver's address lists them, GET of "/1" below it returns the first
+/// report's archive.
 class Receiver
 {
 public:
     static constexpr int port = 12444;
 
-    /// Listens on the address, with a certificate of its own, and writes that into the file as PEM: no application
-    /// sends a report to a server that nothing vouches for. Throws `std::system_error`.
+    /// Listens on the address with a certificate of its own and writes that certificate into the file as PEM, because
+    /// an application sends reports only to a server with a trusted certificate. Throws `std::system_error`.
     Receiver(EventLoop& loop, const std::string& address, const std::string& certificateFile);
     ~Receiver();
     Receiver(const Receiver&) = delete;
     Receiver& operator=(const Receiver&) = delete;
 
-    /// Where reports are sent, "https://…".
+    /// The address to which reports are sent, "https://…".
     const std::string& url() const { return m_url; }
-    /// A line for each session and each report that are kept, the oldest first.
+    /// One line for each session and each report that is kept, the oldest first.
     std::string list() const;
 
 private:
     struct Report {
         int number = 0;
-        std::string session; ///< in which it was sent
+        std::string session; ///< in which the report was sent
         std::string archive;
     };
 
@@ -57,8 +57,8 @@ private:
     EventLoop::Watch m_watch = 0;
     std::uint64_t m_lastConnection = 0;
     std::unordered_map<std::uint64_t, std::unique_ptr<Connection>> m_connections;
-    std::vector<std::unique_ptr<Connection>> m_buried; ///< until the call that closed them has returned
-    std::deque<std::string> m_sessions;                ///< as they were announced
+    std::vector<std::unique_ptr<Connection>> m_buried; ///< ended connections, until the ending call returns
+    std::deque<std::string> m_sessions;                ///< the texts that announced the sessions
     std::deque<Report> m_reports;
     int m_lastReport = 0;
 };

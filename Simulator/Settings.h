@@ -10,68 +10,67 @@
 namespace lodestar::simulator
 {
 
-/// The port on which every console listens; clients cannot be told another.
+/// The port on which every console listens. Clients have no setting for another port.
 inline constexpr int consolePort = 12443;
 
-/// What a fleet of simulated consoles looks like. The same settings always give the same inventory.
+/// What a fleet of simulated consoles looks like. Equal settings always give the same inventory.
 struct Settings {
-    /// Consoles, each on an address of its own.
+    /// How many consoles there are, each with its own address.
     int consoles = 1;
-    /// Managed systems a console.
+    /// Managed systems per console.
     int systems = 8;
-    /// Logical partitions a managed system.
+    /// Logical partitions per managed system.
     int partitions = 4;
-    /// Virtual I/O servers, serviceable events and resource groups a console.
+    /// Virtual I/O servers, serviceable events and resource groups per console.
     int vios = 6;
     int events = 8;
     int groups = 9;
-    /// Metrics samples that a console has of a system, at most as many as it is asked for. Each has the figures of the
-    /// system's partitions too: with 105 of those, 240 samples come to about 12 MB.
+    /// Metrics samples that a console has of a system; it sends at most as many as were asked for. Each sample also has
+    /// the figures of the system's partitions: with 105 partitions, 240 samples are about 12 MB.
     int samples = 240;
-    /// About how many bytes each feed is padded to; 0 for no padding.
+    /// The size in bytes to which each feed is padded, roughly; 0 for no padding.
     std::size_t feedBytes = 0;
     /// Milliseconds between a request and its answer.
     int latency = 0;
-    /// Milliseconds that the network takes to a console and back: every connection, handshake, request and answer has
-    /// its share of them.
+    /// Milliseconds of the network's round trip. Connections, handshakes, requests and answers all take longer by it.
     int roundTrip = 0;
-    /// Of a hundred pieces on a network with a length, how many come two round trips late.
+    /// How many of a hundred pieces come two round trips late. Without a round trip this has no effect.
     int stalls = 0;
     std::uint64_t seed = 1;
     /// Made-up credentials that every console accepts.
     std::string user = "operator";
     std::string password = "lantern-7-quay";
-    /// Address of the first console, 127.a.b.c; empty for a free block of addresses that the process chooses itself.
+    /// The first console's address, 127.a.b.c. Empty for a free block of addresses, which the process chooses.
     std::string address;
-    /// Whether feeds go out compressed to clients that accept it.
+    /// Whether feeds are compressed for clients that accept compression.
     bool gzip = true;
-    /// How many requests are kept, the oldest dropped first; 0 keeps none.
+    /// How many requests are kept, after which the oldest are dropped; 0 keeps none.
     std::size_t recordCap = 100000;
-    /// Where the receiver of reports leaves its certificate; empty for no receiver.
+    /// The file into which the receiver of reports writes its certificate; empty for no receiver.
     std::string receiver;
-    /// Faults present from the start, as `Fault` parses them.
+    /// Faults from the start on, in the form that `Fault::parse` reads.
     std::vector<std::string> faults;
 };
 
-/// The command line that gives these settings to the program.
+/// The program's command line for these settings.
 std::vector<std::string> argumentsOf(const Settings& settings);
 
-/// What the command line asks for.
+/// What a command line asks for.
 struct CommandLine {
     Settings settings;
-    /// Steered by a parent: the process ends when its standard input does.
+    /// A parent process controls this one, which ends when its standard input does.
     bool control = false;
     bool help = false;
 };
 
-/// Throws `std::invalid_argument`, with a text for the user, for what it does not understand.
+/// Throws `std::invalid_argument`, with a text for the user, when it does not understand the arguments.
 CommandLine parseArguments(const std::vector<std::string>& arguments);
 
 std::string_view helpText();
 
-/// The address of the i-th console from a base: 254 addresses in every block of 256, so 127.0.0.254 is followed by
-/// 127.0.1.1. Throws `std::invalid_argument` for a base that is no loopback address and `std::out_of_range` past
-/// 127.255.255.254.
+/// The address of the console with the index, counted from `base`. Each block of 256 has 254 addresses, so 127.0.0.254
+/// is followed by 127.0.1.1. Throws `std::invalid_argument` when `base` is no loopback address, and `std::out_of_range`
+/// past 127.255.255.254.
 std::string addressAt(std::string_view base, int index);
 
 } // namespace lodestar::simulator

@@ -20,7 +20,7 @@ namespace lodestar::simulator
 namespace
 {
 
-/// Consoles beyond these share the inventories of the first ones, which keeps thousands of them small.
+/// Consoles after these share the first ones' inventories, so that thousands of consoles need little memory.
 constexpr int distinctInventories = 16;
 
 void raiseDescriptorLimit()
@@ -32,8 +32,8 @@ void raiseDescriptorLimit()
     }
 }
 
-// Blocks of 256 addresses from 127.16.0.2 on, scattered by the process, so that processes seldom meet; one that finds
-// a block taken goes to another.
+// The first address of a block of 256, from 127.16.0.2 on. The block depends on the process's number, so that processes
+// seldom choose the same one; a process whose block is taken tries another.
 std::string blockOfProcess(int attempt)
 {
     const auto seed = static_cast<unsigned>(getpid()) * 2654435761U + static_cast<unsigned>(attempt) * 40503U;
@@ -166,7 +166,7 @@ void Simulator::accept(Station& station)
     }
 }
 
-/// Where the bytes of an accepted connection come out of the network, if it is given a length.
+/// Puts a link with the network's delay behind an accepted connection and returns the console's end of it.
 int Simulator::farEnd(int descriptor)
 {
     std::array<int, 2> ends{};
@@ -266,7 +266,7 @@ void Simulator::setFault(const Fault& fault)
     }
 }
 
-// What a fault does at once, beside what it does to later requests.
+// The immediate effect of a fault; later requests are struck elsewhere.
 void Simulator::strikeConsole(const Fault& fault, Station& station)
 {
     switch (fault.name) {

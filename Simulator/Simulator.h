@@ -18,12 +18,12 @@
 namespace lodestar::simulator
 {
 
-/// A fleet of consoles on one event loop. Everything happens on the thread that runs the loop. Consoles are named by
-/// their index; an index that does not exist throws `std::out_of_range`.
+/// A fleet of consoles on one event loop. Everything happens on the loop's thread. Consoles are named by their index;
+/// an index without a console throws `std::out_of_range`.
 class Simulator
 {
 public:
-    /// Starts to listen. Throws `std::system_error` when an address cannot be had, and what `Fault::parse` and
+    /// Starts to listen. Throws `std::system_error` when an address cannot be had, and whatever `Fault::parse` and
     /// `addressAt` throw.
     Simulator(EventLoop& loop, Settings settings);
     ~Simulator();
@@ -35,28 +35,28 @@ public:
     const std::string& address(int console) const;
 
     void setFault(const Fault& fault);
-    /// Takes that fault away, as it was set.
+    /// Removes the fault that `setFault` was given.
     void clearFault(const Fault& fault);
     void clearFaults();
-    /// Of every request from now on, whatever connection it comes on.
+    /// Applies to every request from now on, also on existing connections.
     void setLatency(int milliseconds) { m_settings.latency = milliseconds; }
-    /// Of connections that are made from now on.
+    /// Applies to connections that are made from now on.
     void setRoundTrip(int milliseconds) { m_settings.roundTrip = milliseconds; }
-    /// That text in the place of the console's own feed; nothing gives it its own feed back.
+    /// Serves the text in place of the console's own feed. Without a text, serves the console's own feed again.
     void setFeed(int console, const std::string& type, std::optional<std::string> text);
 
-    /// Stops listening and closes the connections; nothing happens to a stopped console.
+    /// Stops listening and closes the connections. Does nothing to a stopped console.
     void stopConsole(int console);
-    /// Listens on the old address again; nothing happens to a running console.
+    /// Listens on the same address again. Does nothing to a running console.
     void startConsole(int console);
 
     const std::deque<RecordedRequest>& requests() const { return m_requests; }
     void clearRequests() { m_requests.clear(); }
-    /// Of one console or of all together, since the start.
+    /// Counts since the start, of one console or of all together.
     Statistics statistics(std::optional<int> console) const;
     InventorySummary summary(int console) const;
     std::string certificateFingerprint(int console);
-    /// Null where the settings ask for none.
+    /// Null when the settings ask for no receiver.
     const Receiver* receiver() const { return m_receiver.get(); }
 
 private:
@@ -99,7 +99,7 @@ private:
     std::uint64_t m_lastLink = 0;
     std::unordered_map<std::uint64_t, std::unique_ptr<DelayedLink>> m_links;
     std::deque<RecordedRequest> m_requests;
-    /// Closed connections, kept until the call that closed them has returned.
+    /// Connections that have ended, kept until the calls that ended them return.
     std::vector<std::unique_ptr<Connection>> m_buried;
     std::vector<std::unique_ptr<DelayedLink>> m_buriedLinks;
     std::unique_ptr<Receiver> m_receiver;

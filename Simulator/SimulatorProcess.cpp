@@ -55,8 +55,8 @@ int SimulatorProcess::stop()
     return end();
 }
 
-// One socket serves as both standard input and output: writing to it when the process has died is an error here,
-// where writing to a pipe would be a signal.
+// One socket serves as standard input and output. A write to it after the process has died fails with an error; a write
+// to a pipe would raise a signal.
 void SimulatorProcess::spawn(const std::vector<std::string>& arguments)
 {
     std::array<int, 2> ends{};
@@ -84,7 +84,7 @@ void SimulatorProcess::spawn(const std::vector<std::string>& arguments)
     }
 }
 
-// Closing the channel ends the process.
+// Closing the channel makes the process end.
 int SimulatorProcess::end()
 {
     int status = 0;

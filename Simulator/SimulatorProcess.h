@@ -14,25 +14,26 @@
 namespace lodestar::simulator
 {
 
-/// A simulator in a process of its own, so that sanitizers and timings see the client alone. Every call has taken
-/// effect when it returns. Thread-safe. Calls throw `std::runtime_error` for what the simulator refuses, when it does
-/// not answer within 30 seconds, and when it is not running.
+/// A simulator in a process of its own, so that sanitizers and timings see only the client. When a call returns, it has
+/// taken effect. Thread-safe. Calls throw `std::runtime_error` when the simulator refuses, does not answer within 30
+/// seconds, or is not running.
 ///
-/// Unless an address is set, each process has a block of addresses of its own, so test processes can run side by side.
+/// Unless an address is set, each process has a block of addresses of its own, so that test processes can run side by
+/// side.
 class SimulatorProcess
 {
 public:
     SimulatorProcess() = default;
-    /// As `start`.
+    /// Does what `start` does.
     explicit SimulatorProcess(const Settings& settings) { start(settings); }
     ~SimulatorProcess();
     SimulatorProcess(const SimulatorProcess&) = delete;
     SimulatorProcess& operator=(const SimulatorProcess&) = delete;
 
-    /// Returns when every console listens. Stops a simulator that was running.
+    /// Returns when every console listens. Stops a simulator that ran before.
     void start(const Settings& settings);
-    /// Ends the process and waits for its end. Answers its exit status, negative for the signal that ended it; 0 when
-    /// it was not running.
+    /// Ends the process and waits for that. Returns its exit status, or the negated number of the signal that ended it;
+    /// 0 when it was not running.
     int stop();
     pid_t pid() const { return m_pid; }
 
@@ -43,35 +44,38 @@ public:
 
     /// "name", "name:what", "name:console" or "name:what:console"; see `Fault`.
     void setFault(std::string_view fault) { command("fault " + std::string(fault)); }
-    /// A fault as it was set.
+    /// Removes a fault, given as `setFault` was given it.
     void clearFault(std::string_view fault) { command("clear " + std::string(fault)); }
     void clearFaults() { command("clear"); }
-    /// Before every answer from now on; and the network's, on connections made from now on.
+    /// Milliseconds: the wait before every answer from now on, and the network's round trip on connections made from
+    /// now on.
     void setLatency(int milliseconds) { command("latency " + std::to_string(milliseconds)); }
     void setRoundTrip(int milliseconds) { command("round-trip " + std::to_string(milliseconds)); }
-    /// That text, with status 200, in the place of the console's own feed of a type, or of its "Metrics" or
-    /// "MetricsDocument".
+    /// Serves the text, with status 200, in place of the console's own feed of the type. The type may also be "Metrics"
+    /// or "MetricsDocument".
     void setFeed(int console, std::string_view type, std::string_view text);
     void resetFeed(int console, std::string_view type);
-    /// Nobody listens on the address, and connections are closed; then the same console on the same address again.
+    /// `stopConsole` closes the connections and stops listening; `startConsole` lets the same console listen on the
+    /// same address again.
     void stopConsole(int console) { command("stop " + std::to_string(console)); }
     void startConsole(int console) { command("start " + std::to_string(console)); }
 
-    /// In the order of their arrival, of one console or of all.
+    /// The requests of one console or of all, in the order in which they arrived.
     std::vector<RecordedRequest> requests(std::optional<int> console = std::nullopt);
     void clearRequests() { command("clear-requests"); }
-    /// Since the start.
+    /// Counts since the start.
     Statistics statistics(std::optional<int> console = std::nullopt);
     std::uint64_t handshakes(std::optional<int> console = std::nullopt) { return statistics(console).handshakes; }
     InventorySummary summary(int console = 0);
-    /// Where reports are sent; empty where the settings ask for no receiver. What it has received, a line each.
+    /// The address to which reports are sent, empty when the settings ask for no receiver; and what was received, one
+    /// line each.
     const std::string& receiver() const { return m_receiver; }
     std::vector<std::string> reports() { return command("reports"); }
-    /// SHA-256 of the certificate that the console presents now, in lower-case hexadecimal.
+    /// SHA-256 of the console's present certificate in lower-case hexadecimal.
     std::string certificateFingerprint(int console = 0);
 
 private:
-    /// The lines before the "ok".
+    /// Sends the line and returns the answer's lines before "ok".
     std::vector<std::string> command(const std::string& line);
     std::vector<std::string> linesUntil(std::string_view last);
     std::string readLine();

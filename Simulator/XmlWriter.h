@@ -10,7 +10,7 @@
 namespace lodestar::simulator
 {
 
-/// Writes elements one after another into a text.
+/// Writes XML elements into a text.
 class XmlWriter
 {
 public:
@@ -18,17 +18,17 @@ public:
 
     void open(std::string name, const Attributes& attributes = {});
     void close();
-    /// An element with a text, escaped.
+    /// Writes an element with a text, which is escaped.
     void text(std::string_view name, std::string_view value, const Attributes& attributes = {});
-    /// As `text`; nothing is written without a value.
+    /// Does what `text` does, or nothing without a value.
     void textIfAny(std::string_view name, const std::optional<std::string>& value);
     void number(std::string_view name, long long value) { text(name, std::to_string(value)); }
     void empty(std::string_view name, const Attributes& attributes = {});
-    /// As it stands.
+    /// Writes the markup as it stands.
     void raw(std::string_view markup);
 
     std::size_t size() const { return m_out.size(); }
-    /// Every element must be closed.
+    /// The text written so far. Every element must be closed.
     std::string take() { return std::move(m_out); }
 
 private:

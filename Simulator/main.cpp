@@ -15,7 +15,8 @@ namespace
 
 using namespace lodestar::simulator;
 
-// Standard output may be the very socket that standard input is, so neither is made non-blocking.
+// Stays in blocking mode: standard output may be the same socket as standard input, and would become non-blocking as
+// well.
 void watchInput(EventLoop& loop, Control& control, bool endsWithInput)
 {
     const auto watch = std::make_shared<EventLoop::Watch>(0);
@@ -34,7 +35,7 @@ void watchInput(EventLoop& loop, Control& control, bool endsWithInput)
     try {
         *watch = loop.watch(STDIN_FILENO, EPOLLIN, onInput);
     } catch (const std::system_error&) {
-        // A plain file or nothing at all, which cannot be waited for.
+        // Standard input is a plain file or missing, and cannot be watched.
         if (endsWithInput) {
             throw;
         }
