@@ -6,9 +6,9 @@
 namespace lodestar
 {
 
-/// A document's share of the memory that all documents of the process may take together: an eighth of the device's, at
-/// most 512 MB, first come, first served. What a console sends beyond it is refused as too large; a small answer, such
-/// as that of a logon, finds a last bit of room that feeds leave. Gives its share back when it is destroyed.
+/// One document's share of the memory that all documents of the process may take together: an eighth of the device's
+/// memory, at most 512 MB, first come, first served. An answer that exceeds the limit is refused as too large. Feeds
+/// leave a last bit of room for small answers, such as a logon's. Gives its share back on destruction.
 class KeptBytes
 {
 public:
@@ -17,7 +17,7 @@ public:
     KeptBytes(const KeptBytes&) = delete;
     KeptBytes& operator=(const KeptBytes&) = delete;
 
-    /// False, with the share as it was, when there is no room. Any thread, one at a time.
+    /// Changes the share. False, with the share unchanged, when there is no room. Any thread, one at a time.
     bool resize(std::size_t bytes);
     std::size_t size() const { return m_bytes; }
 

@@ -29,7 +29,7 @@ struct State {
     std::atomic<bool> someWait{false};
     std::atomic<bool> isScheduled{false};
 
-    /// With the lock held.
+    /// Call with the lock held.
     bool hasRoom(std::size_t bytes) const
     {
         return shares == 0 || KeptBytes::total() + promised + bytes <= KeptBytes::limit();

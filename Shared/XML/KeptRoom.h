@@ -10,13 +10,13 @@
 namespace lodestar
 {
 
-/// Room for feeds that are to take the place of a console's earlier ones. Until they do, old and new take twice the
-/// memory; where that is more than all documents may take together (see KeptBytes), consoles wait for each other
-/// instead of losing feeds: persons' first, otherwise as they come. Thread-safe.
+/// Room for feeds that will replace a console's earlier ones. Until then, old and new feeds together take twice the
+/// memory. When that is more than all documents may take together (see KeptBytes), consoles wait for each other instead
+/// of losing feeds: persons' requests first, the others in order. Thread-safe.
 class KeptRoom
 {
 public:
-    /// What has been promised to one console. Given back when it is destroyed.
+    /// The room promised to one console. Given back on destruction.
     class Share
     {
     public:
@@ -24,7 +24,7 @@ public:
         ~Share();
         Share(const Share&) = delete;
         Share& operator=(const Share&) = delete;
-        /// So many bytes are counted as kept from now on, and promised no more.
+        /// Moves so many bytes out of the promise: a document's KeptBytes counts them from now on.
         void didKeep(std::size_t bytes);
 
     private:
@@ -32,10 +32,10 @@ public:
     };
     using Start = std::function<void(std::shared_ptr<Share>)>;
 
-    /// Calls the function once there is room: at once, or later on a thread of the pool. Nobody waits while nobody else
-    /// has a share: what then does not fit will not fit later either.
+    /// Calls the function once there is room: at once, or later on a thread of the pool. While no other console has a
+    /// share, nobody waits: what does not fit then will not fit later either.
     static void whenThereIs(std::size_t bytes, Urgency urgency, Start start);
-    /// To be called when kept bytes have gone.
+    /// Call when kept bytes were freed.
     static void moreIsFree();
 };
 

@@ -10,8 +10,8 @@
 namespace lodestar
 {
 
-/// A growing array of plain values. At the sizes of a feed the system's allocator grows and shrinks a block by moving
-/// its pages, so that nothing is copied and no estimate is needed beforehand; a vector copies each time.
+/// A growing array of plain values. A feed's arrays are so large that the system's allocator resizes a block by moving
+/// its pages, so that nothing is copied and no estimate is needed beforehand. A vector would copy each time.
 template <typename T>
 class XMLArray
 {
@@ -31,14 +31,14 @@ public:
     const T& operator[](std::size_t index) const { return m_values[index]; }
     std::size_t memory() const { return m_capacity * sizeof(T); }
 
-    /// Room for so many in all. Room that is never used costs no memory, only addresses.
+    /// Makes room for `count` values in all. Unused room costs addresses but no memory.
     void reserve(std::size_t count)
     {
         if (count > m_capacity) {
             setCapacity(count);
         }
     }
-    /// Throws `std::bad_alloc`, with the array as it was.
+    /// Throws `std::bad_alloc` and then leaves the array as it was.
     void push_back(const T& value)
     {
         if (m_size == m_capacity) {
@@ -59,10 +59,10 @@ public:
 
     T& back() { return m_values[m_size - 1]; }
     void pop_back() { --m_size; }
-    /// Drops all but so many.
+    /// Keeps only the first `count` values.
     void cut(std::size_t count) { m_size = count; }
 
-    /// Gives back what is not in use; leaves it when the allocator cannot.
+    /// Gives unused room back; keeps it when the allocator cannot move the block.
     void shrinkToFit()
     {
         if (m_size == m_capacity) {

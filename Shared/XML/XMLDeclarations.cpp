@@ -14,19 +14,20 @@ namespace lodestar
 namespace
 {
 
-/// No console declares anything at all.
+/// The limit on what parameter entities expand to. Consoles declare nothing, so the limit can be small.
 constexpr std::size_t mostExpandedBytes = 1U << 20U;
 constexpr std::size_t costOfExpansion = 100;
 
-/// Whether the entity's text, which the parser is about to check with a context of its own, would keep it long.
+/// Whether the entity's text would keep the parser busy for long. The parser is about to check the text, with a context
+/// of its own.
 bool isMonstrous(const xmlEntity& entity)
 {
     return entity.etype == XML_INTERNAL_GENERAL_ENTITY && entity.checked == 0 && entity.content != nullptr &&
            hasMonstrousTag({reinterpret_cast<const char*>(entity.content), static_cast<std::size_t>(entity.length)});
 }
 
-/// An entity that has been checked and has no content of its own kept is read anew at every reference. With this for
-/// its content it is not. It does not own it, so that it is neither freed nor looked into.
+/// The content of checked entities that have none: without any content the parser would read the entity again at every
+/// reference. The entity does not own this node, so the parser neither frees it nor looks into it.
 xmlNode* anyContent()
 {
     static xmlNode content{};
@@ -61,8 +62,8 @@ xmlEntityPtr parameterEntityNamed(void* context, const xmlChar* name)
     return entity;
 }
 
-/// Comes when all declarations have been read. What they say attributes are by default would be looked through, and
-/// compared with every other attribute, at each start tag.
+/// Called when all declarations have been read. Drops the declared default attributes: at each start tag the parser
+/// would go through them and compare them with every other attribute.
 void declarationsEnd(void* context, const xmlChar* /*name*/, const xmlChar* /*publicId*/, const xmlChar* /*systemId*/)
 {
     auto* const parser = static_cast<xmlParserCtxtPtr>(context);

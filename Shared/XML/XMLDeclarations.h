@@ -8,16 +8,17 @@
 namespace lodestar
 {
 
-/// Has the parser take a document's declarations as libxml2's own tree would, as far as elements can tell, in time and
-/// memory that grow with the document's size only. Entities are known and checked, but their text is read once and not
-/// at each reference; values that only a declaration gives are dropped, since no element has them.
+/// Makes the parser handle a document's declarations. Elements come out as they would in libxml2's own tree, in time
+/// and memory that grow only with the document's size. Entities are known and checked, but their text is read once, not
+/// at each reference. Attribute values that only a declaration gives are dropped, since elements do not have them.
 void setDeclarationEvents(xmlSAXHandler& events);
 
-/// What parameter entities have brought into a document's declarations, which the library does not limit itself.
+/// The amount of text that parameter entities have added to a document's declarations. The library itself sets no
+/// limit.
 class XMLExpansion
 {
 public:
-    /// False once it is out of all proportion.
+    /// False once that amount is too large.
     bool add(const xmlEntity& entity);
 
 private:

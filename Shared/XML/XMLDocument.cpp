@@ -11,7 +11,7 @@ namespace lodestar
 
 Result<std::shared_ptr<const XMLDocument>> XMLDocument::parse(const char* bytes, std::size_t size)
 {
-    // Also what is made before the first event, and after the last, may find no memory.
+    // The builder also allocates before the first event and after the last, so memory may run out there, too.
     try {
         return XMLDocumentBuilder().run({bytes, size});
     } catch (const std::bad_alloc&) {

@@ -15,25 +15,25 @@
 namespace lodestar
 {
 
-/// A parsed document as a flat arena, never changed once built. It takes about half of the bytes of a feed.
+/// A parsed document as a flat arena, never changed once built. It takes about half of a feed's bytes.
 ///
-/// Elements stand in document order, so that an element's descendants are the range up to its `end` and no links are
-/// needed. All character data stands in one buffer in document order as well: the text below an element is one slice.
-/// Tags with equal attributes share one list of them.
+/// Elements are stored in document order: an element's descendants are the range up to its `end`, and no links are
+/// needed. All character data is stored in one buffer in document order as well: the text below an element is one
+/// slice. Tags with equal attributes share one list of attributes.
 class XMLDocument
 {
 public:
     using Index = std::uint32_t;
     using Name = XMLNames::Name;
 
-    /// The value ends where the next attribute's begins.
+    /// The value ends where the next attribute's value begins.
     struct Attribute {
         Name name;
         std::uint32_t value;
     };
     static constexpr Name noName = XMLNames::none;
 
-    /// Null when no document, or one without a root, can be made of the bytes. A zero must stand after them.
+    /// Null when the bytes make no document, or a document without a root. A zero byte must follow the bytes.
     static Result<std::shared_ptr<const XMLDocument>> parse(const char* bytes, std::size_t size);
 
     Name name(Index index) const { return m_nodes[index].name; }
@@ -57,26 +57,28 @@ public:
 private:
     friend class XMLDocumentBuilder;
 
-    /// Lists before this one have a number of their own in a node; the node of a later one is in the list's block.
+    /// A node holds the number of a list below this one directly; for a later list it holds the number relative to its
+    /// block's first list.
     static constexpr std::uint16_t blocksLists = 0x8000;
     static constexpr std::uint16_t isLarge = UINT16_MAX;
     static constexpr Index blockSize = 64;
 
-    /// What an element is, in 16 bits each.
+    /// One element; each member takes 16 bits.
     struct Node {
         Name name;
-        std::uint16_t list;        ///< one more than the list's number; from `blocksLists` on, counted in the block
-        std::uint16_t descendants; ///< `isLarge` where this, `text` or `textLength` takes more than 16 bits
-        std::uint16_t text;        ///< where the text below begins, counted from the block's
+        /// 0 for no attributes, else the list's number plus one; from `blocksLists` on, relative to the block's `list`
+        std::uint16_t list;
+        std::uint16_t descendants; ///< `isLarge` when this, `text` or `textLength` needs more than 16 bits
+        std::uint16_t text;        ///< where the text below the element begins, relative to the block's `text`
         std::uint16_t textLength;
     };
-    /// What the nodes of a block count from.
+    /// The positions from which a block's nodes count.
     struct Block {
         std::uint32_t text;
         std::uint32_t list;
     };
-    /// An element that is too large, or stands after too much text, for its node. There are few: each has 64 KB in it,
-    /// or in its block.
+    /// The positions of an element for which 16 bits are too few: the element is too large, or stands after too much
+    /// text. Such elements are few: each, or its block, has 64 KB in it.
     struct Large {
         Index node;
         Index end;
@@ -89,8 +91,8 @@ private:
 
     XMLArray<Node> m_nodes;
     XMLArray<Block> m_blocks;
-    XMLArray<Large> m_large;         ///< by `node`
-    XMLArray<std::uint32_t> m_lists; ///< the first attribute of each list; the next list's is one past the last
+    XMLArray<Large> m_large;         ///< sorted by `node`
+    XMLArray<std::uint32_t> m_lists; ///< each list's first attribute; a list ends where the next list begins
     XMLArray<Attribute> m_attributes;
     XMLArray<char> m_text;
     XMLArray<char> m_values;

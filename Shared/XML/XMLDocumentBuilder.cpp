@@ -16,24 +16,25 @@ namespace lodestar
 namespace
 {
 
-// What an error or a comparison costs the library is a hundred times or a tenth of what a byte of a feed does. These
-// let the worst input take about as long again as a plain feed of its size.
+// One error costs the library a hundred times as much as one byte of a feed, one comparison a tenth. With these limits
+// the worst input takes at most about twice the time of a plain feed of its size.
 constexpr std::size_t errorsAlways = 2500;
 constexpr std::size_t bytesAnError = 64;
 constexpr std::size_t comparisonsAlways = 1'000'000;
 constexpr std::size_t comparisonsAByte = 8;
-// An element of a few bytes costs the library five times what as many bytes of a feed do. A feed has 20 bytes for each
-// part, one with attributes at every short element 10.
+// A short element costs the library five times as much as the same number of feed bytes. Feeds have 20 bytes for each
+// part; a feed with attributes at every short element has 10.
 constexpr std::size_t partsAlways = 100'000;
 constexpr std::size_t bytesAPart = 6;
 constexpr std::size_t partsOfAnElement = 2;
 constexpr std::size_t partsOfANameSpace = 4;
 
-// Elements and attributes between two looks at the memory that is left: less than half a megabyte of them.
+// The number of elements and attributes between two checks of the memory that is left. They take less than half a
+// megabyte.
 constexpr std::size_t piecesUnseen = 32768;
 constexpr std::size_t arenaLimit = std::numeric_limits<std::uint32_t>::max() - 1;
-// Salvage what can be salvaged, print nothing, open nothing. Entities are never replaced, no DTD is ever loaded, and
-// the parser's own limits on depth and size stay on.
+// The parser salvages what it can, prints nothing and opens nothing. It never replaces entities and never loads a DTD;
+// its own limits on depth and size stay on.
 constexpr int parseOptions = XML_PARSE_RECOVER | XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING;
 
 Error tooLarge()
@@ -64,7 +65,7 @@ struct ParserDeleter {
 
 Error XMLDocumentBuilder::outOfMemory()
 {
-    // Short enough to need none.
+    // This text is short enough to need no allocation.
     return {"XML", XML_ERR_NO_MEMORY, "Out of memory.", {}, nullptr};
 }
 
@@ -76,7 +77,7 @@ Result<std::shared_ptr<const XMLDocument>> XMLDocumentBuilder::run(std::string_v
     if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
         return tooLarge();
     }
-    // About what a feed takes.
+    // A parsed feed takes about as many bytes as its text.
     if (!m_document->m_kept.resize(bytes.size())) {
         return noRoom();
     }
@@ -97,7 +98,7 @@ Result<std::shared_ptr<const XMLDocument>> XMLDocumentBuilder::run(std::string_v
     if (m_memory.wasBeyondLimits()) {
         return tooLarge();
     }
-    // A shorter document must never pass for a whole one.
+    // A document cut short by a lack of memory must never pass for a whole one.
     if (m_memory.ranOut() || parser->errNo == XML_ERR_NO_MEMORY) {
         return outOfMemory();
     }
@@ -120,7 +121,7 @@ void XMLDocumentBuilder::setEvents(xmlSAXHandler& events) const
     events.startElementNs = &startElement;
     events.endElementNs = &endElement;
     events.characters = &characters;
-    // One function for both spares the parser a look at what is blank.
+    // With one function for both, the parser need not look for blank text.
     events.ignorableWhitespace = &characters;
     events.cdataBlock = &characters;
     events.reference = nullptr;
@@ -129,7 +130,7 @@ void XMLDocumentBuilder::setEvents(xmlSAXHandler& events) const
     events.serror = &noteError;
 }
 
-/// Room for most feeds. Beyond it the arrays grow.
+/// Reserves room that is enough for most feeds. For larger ones the arrays grow.
 void XMLDocumentBuilder::reserve(std::size_t inputSize)
 {
     m_document->m_nodes.reserve(inputSize / 32);
@@ -147,7 +148,7 @@ void XMLDocumentBuilder::startElement(void* context, const xmlChar* localName, c
     self->countWork(static_cast<std::size_t>(attributeCount), static_cast<std::size_t>(namespaceCount));
     try {
         self->closeAbandoned();
-        // Values that only a declaration gives stand last, and are not read.
+        // Values that only a declaration gives come last and are left out.
         self->open(localName, prefix, attributes, attributeCount - defaultedCount);
     } catch (const std::bad_alloc&) {
         self->fail(outOfMemory());
@@ -190,8 +191,8 @@ void XMLDocumentBuilder::characters(void* context, const xmlChar* bytes, int len
     }
 }
 
-/// The parser also says that it is out of memory when one of its own limits is reached. Later errors may overwrite the
-/// one that counts.
+/// The parser also reports that it is out of memory when it reaches one of its own limits. That error is kept here
+/// because later ones may overwrite it.
 void XMLDocumentBuilder::noteError(void* context, xmlErrorPtr error)
 {
     if (context == nullptr || error == nullptr) {
@@ -209,9 +210,9 @@ void XMLDocumentBuilder::noteError(void* context, xmlErrorPtr error)
     }
 }
 
-/// As the library itself ends a parse where memory is refused: an error may be told in the middle of anything, where
-/// `xmlStopParser` would take away what is being read. After some constructs the library goes on all the same, as far
-/// as the next event.
+/// Ends the parse in the way in which the library itself does when memory is refused: an error may be reported in the
+/// middle of any construct, where `xmlStopParser` would free what is being read. After some constructs the library
+/// still goes on as far as the next event.
 void XMLDocumentBuilder::end(xmlParserCtxt& parser)
 {
     m_over = true;
@@ -219,8 +220,8 @@ void XMLDocumentBuilder::end(xmlParserCtxt& parser)
     parser.disableSAX = 1;
 }
 
-/// The parser compares the attributes of a tag with each other, the name spaces too, and looks for the name space of
-/// each among all in force.
+/// Counts the comparisons that the parser makes: each attribute of a tag with each other, the name spaces likewise, and
+/// each attribute's name space with all that are in force.
 void XMLDocumentBuilder::countWork(std::size_t attributeCount, std::size_t namespaceCount)
 {
     const auto inForce = static_cast<std::size_t>(m_parser->nsNr) / 2;
@@ -258,7 +259,8 @@ void XMLDocumentBuilder::open(const xmlChar* localName, const xmlChar* prefix, c
     }
     const std::size_t begin = document.m_attributes.size();
     for (int i = 0; i < attributeCount; ++i) {
-        // Five pointers an attribute: name, prefix, address of the name space, begin and end of the value.
+        // The parser passes five pointers for each attribute: name, prefix, address of the name space, begin and end of
+        // the value.
         const xmlChar** const one = attributes + std::ptrdiff_t{5} * i;
         addAttribute(one[0], one[1], {chars(one[3]), static_cast<std::size_t>(one[4] - one[3])});
     }
@@ -281,7 +283,8 @@ bool XMLDocumentBuilder::keep()
     return true;
 }
 
-/// The parser leaves references in a value as they stand, "&" itself among them as "&#38;".
+/// Copies the value without its references: the parser leaves them in the value unchanged. "&" itself comes as "&#38;"
+/// and is kept.
 void XMLDocumentBuilder::addAttribute(const xmlChar* localName, const xmlChar* prefix, std::string_view raw)
 {
     XMLArray<char>& values = m_document->m_values;
@@ -357,7 +360,8 @@ void XMLDocumentBuilder::close()
     m_open.pop_back();
 }
 
-/// A name that is no proper qualified name comes whole; what stands before its colon is a prefix all the same.
+/// The parser passes a name that is no valid qualified name as a whole. The part before its colon still counts as a
+/// prefix.
 XMLDocument::Name XMLDocumentBuilder::internLocalPart(const xmlChar* name, const xmlChar* prefix)
 {
     std::string_view text = chars(name);
@@ -387,14 +391,14 @@ void XMLDocumentBuilder::fail(Error error)
     }
 }
 
-/// Closes what a cut document left open, and gives back what was reserved too much.
+/// Closes the elements that a cut document left open, and frees reserved room that is unused.
 void XMLDocumentBuilder::finish()
 {
     while (!m_open.empty()) {
         close();
     }
     XMLDocument& document = *m_document;
-    // Elements are closed from the inside out.
+    // Inner elements are closed before outer ones, so the list must be sorted.
     std::sort(document.m_large.data(), document.m_large.data() + document.m_large.size(),
               [](const XMLDocument::Large& a, const XMLDocument::Large& b) { return a.node < b.node; });
     document.m_nodes.shrinkToFit();

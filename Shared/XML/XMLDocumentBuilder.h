@@ -13,34 +13,34 @@
 namespace lodestar
 {
 
-/// Fills a document from libxml2's events. One parse, one thread; the static functions are the parser's callbacks.
-/// Making one may throw `std::bad_alloc`.
+/// Builds a document from libxml2's events. One parse, one thread; the static functions are the parser's callbacks. The
+/// constructor may throw `std::bad_alloc`.
 class XMLDocumentBuilder
 {
 public:
-    /// Runs the parse. Null without a root; an error when memory or the arena's indexes ran out. A zero must
-    /// stand after the bytes. Throws `std::bad_alloc`.
+    /// Runs the parse. Null without a root; an error when memory or the arena's indexes ran out. A zero byte must
+    /// follow the bytes. Throws `std::bad_alloc`.
     Result<std::shared_ptr<const XMLDocument>> run(std::string_view bytes);
 
-    /// Making it takes no memory.
+    /// Creating this error allocates nothing.
     static Error outOfMemory();
 
     XMLExpansion& expansion() { return m_expansion; }
-    /// Ends the parse: the document is too large in some way.
+    /// Ends the parse because the document is too large in some way.
     void refuse();
 
 private:
     static constexpr unsigned knownBits = 10;
     static constexpr unsigned knownListBits = 12;
-    /// Where the parser keeps a name, and whether a prefix stood before it. It keeps one copy of each name.
+    /// The address of the parser's only copy of a name, and whether the name had a prefix.
     struct KnownName {
         const xmlChar* at;
         bool prefixed;
         XMLDocument::Name name;
     };
 
-    /// Null for events that come from inside an entity's text: the parser checks that text when the entity is first
-    /// named, with a context of its own, and references read as nothing.
+    /// The parse's builder. Null once the parse is over, and for events from inside an entity's text: the parser checks
+    /// that text with a context of its own when the entity is first named, and references read as nothing.
     static XMLDocumentBuilder* of(void* context)
     {
         auto* const parser = static_cast<xmlParserCtxtPtr>(context);
@@ -58,7 +58,7 @@ private:
     static void noteError(void* context, xmlErrorPtr error);
     void end(xmlParserCtxt& parser);
 
-    /// An element that is not closed yet, and where the text below it begins.
+    /// An element that is still open, and the position at which the text below it begins.
     struct OpenElement {
         XMLDocument::Index index;
         std::uint32_t text;
@@ -69,14 +69,14 @@ private:
     void reserve(std::size_t inputSize);
     void open(const xmlChar* localName, const xmlChar* prefix, const xmlChar** attributes, int attributeCount);
     void addAttribute(const xmlChar* localName, const xmlChar* prefix, std::string_view raw);
-    /// The number, in a node of the last block, of a list that holds the attributes from `begin` on. They are dropped
-    /// again where an earlier list holds the same.
+    /// Makes a list of the attributes from `begin` on and returns its number for a node of the last block. When an
+    /// earlier list is equal, the attributes are dropped and that list's number is returned.
     std::uint16_t listFrom(std::size_t begin);
     bool isSame(std::span<const XMLDocument::Attribute> a, std::span<const XMLDocument::Attribute> b) const;
     /// Throws `std::bad_alloc`.
     void close();
-    /// An element whose start tag breaks off is given up by the parser without an event: what follows belongs to its
-    /// parent.
+    /// Closes elements that the parser gave up without an event because their start tag breaks off: what follows
+    /// belongs to the parent.
     void closeAbandoned()
     {
         while (m_open.size() > static_cast<std::size_t>(m_parser->nameNr)) {
@@ -94,7 +94,8 @@ private:
         return known.name;
     }
     XMLDocument::Name internLocalPart(const xmlChar* name, const xmlChar* prefix);
-    /// False, with the parse ended, when the device has no room for the document as it is by now.
+    /// Takes a larger share of memory for the document as it is now. False, with the parse ended, when the device has
+    /// no room.
     bool keep();
     void fail(Error error);
     void finish();
@@ -103,16 +104,16 @@ private:
     std::shared_ptr<XMLDocument> m_document = std::make_shared<XMLDocument>();
     XMLArray<OpenElement> m_open;
     std::array<KnownName, std::size_t{1} << knownBits>
-        m_known{}; ///< by address; a name that another has driven out is looked up by its text
-    /// By what a list holds, one more than its number; 0 for none.
+        m_known{}; ///< a cache by address; a name that another has displaced is looked up by its text
+    /// A cache by a list's contents: the list's number plus one; 0 for none.
     std::array<std::uint16_t, std::size_t{1} << knownListBits> m_knownLists{};
     XMLExpansion m_expansion;
     xmlParserCtxtPtr m_parser = nullptr;
     std::size_t m_errorsLeft = 0;
     std::size_t m_comparisonsLeft = 0;
     std::size_t m_partsLeft = 0;
-    std::size_t m_nextLook = 0; ///< how many nodes and attributes there are when `keep` is due
-    bool m_over = false;        ///< nothing more is taken
+    std::size_t m_nextLook = 0; ///< the number of nodes and attributes at which `keep` is due
+    bool m_over = false;        ///< nothing more is read
     bool m_failed = false;
     Error m_error;
 };

@@ -8,7 +8,7 @@ namespace lodestar
 namespace
 {
 
-/// Calls `visit` with the index of each child element of the name, until it answers false.
+/// Calls `visit` with the index of each child element of that name until `visit` returns false.
 template <typename Visit>
 void forEachChild(const XMLDocument& document, XMLDocument::Index parent, std::string_view name, Visit visit)
 {
@@ -100,7 +100,7 @@ std::optional<std::string> XMLElement::attribute(std::string_view name) const
 
 XMLElement XMLElement::path(std::initializer_list<std::string_view> names) const
 {
-    // An index goes down; only what is found takes a share of the document.
+    // Walks down by index; only the found element takes a reference to the document.
     if (!exists()) {
         return {};
     }

@@ -11,7 +11,7 @@ namespace lodestar
 namespace
 {
 
-/// Whether the bytes say, or say nothing else, that they are UTF-8. Anything unusual may be anything.
+/// Whether the bytes declare UTF-8 in the usual form, or no encoding at all. False for any unusual start.
 bool isPlainUTF8(std::string_view bytes)
 {
     constexpr std::string_view mark = "\xEF\xBB\xBF";
@@ -37,7 +37,7 @@ bool isPlainUTF8(std::string_view bytes)
 /// Tags shorter than this cannot hold enough attributes to matter.
 constexpr std::size_t shortSpan = 4096;
 
-/// Values, that is quoted texts after an "=", between a "<" and the ">" that ends its tag.
+/// Counts the values (quoted texts after an "=") between a "<" and the ">" that ends the tag.
 bool isMonstrous(std::string_view tag)
 {
     if (tag.size() < 2 || tag[1] == '!' || tag[1] == '?') {
@@ -62,8 +62,8 @@ bool isMonstrous(std::string_view tag)
 
 bool hasMonstrousTag(std::string_view bytes)
 {
-    // No "<" may stand in a value, so a tag ends before the next one. Long stretches without one are found by looking
-    // back from where they would end, which touches little of the rest.
+    // A value cannot contain "<", so a tag ends before the next "<". The search jumps ahead and looks back for a "<";
+    // only a long stretch without one is read whole. So most of the bytes are never touched.
     std::size_t at = bytes.find('<');
     while (at < bytes.size() && bytes.size() - at > shortSpan) {
         const std::size_t last = bytes.substr(at + 1, shortSpan).rfind('<');
@@ -103,8 +103,9 @@ xmlParserCtxtPtr makeXMLParser(std::string_view bytes)
         xmlFreeParserCtxt(parser);
         return nullptr;
     }
-    // As if more came in pieces: all is there, so there is nothing to fetch, and making room by dropping what has been
-    // read moves such an input back in this library.
+    // Tells the library that more input may come. All bytes are there already, so it has nothing to fetch. Otherwise
+    // the library would drop bytes that it has read, to make room, and would move the reading position back: a fault
+    // for input that is read in place.
     parser->progressive = 1;
     return parser;
 }

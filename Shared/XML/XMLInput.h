@@ -8,12 +8,12 @@
 namespace lodestar
 {
 
-/// A parser of the bytes, which must outlive it. It reads them where they are unless they must be converted: the
-/// library's own way copies them first. Null without memory. There must be some bytes, not more than 2^31 - 1, and a
-/// zero after them.
+/// Makes a parser of the bytes, which must outlive it. The parser reads the bytes in place unless they must be
+/// converted; the library's own functions would copy them first. Null without memory. There must be at least one byte
+/// and at most 2^31 - 1, followed by a zero byte.
 xmlParserCtxtPtr makeXMLParser(std::string_view bytes);
 
-/// Whether a start tag has more than `mostAttributes`, in UTF-8.
+/// Whether a start tag in UTF-8 has more than `mostAttributes`.
 bool hasMonstrousTag(std::string_view bytes);
 
 } // namespace lodestar

@@ -19,7 +19,8 @@ thread_local bool beyondLimits = false;
 thread_local int declarationPieces = 0;
 thread_local const xmlParserCtxt* limited = nullptr;
 
-/// The parser keeps five pointers for each attribute of the tag that it is in, two for each name space in force.
+/// Tells by the block's size: the parser keeps five pointers for each attribute of the current tag, and two for each
+/// name space in force.
 bool isRoomForMonstrousTag(const void* block, std::size_t size)
 {
     if (limited == nullptr || block == nullptr) {
@@ -57,7 +58,7 @@ void* reallocate(void* block, std::size_t size)
         beyondLimits = true;
         return nullptr;
     }
-    // Nothing is what a size of nothing gives, and rightly.
+    // A size of 0 rightly gives null, which is no lack of memory.
     return size != 0 ? noted(std::realloc(block, size)) : std::realloc(block, size);
 }
 
@@ -77,7 +78,7 @@ XMLMemoryWatch::XMLMemoryWatch()
         xmlMemSetup(&std::free, &allocate, &reallocate, &duplicate);
         xmlInitParser();
     });
-    // What goes wrong outside of any parser would be printed.
+    // Without this handler the library would print errors that occur outside of any parser.
     xmlSetStructuredErrorFunc(nullptr, [](void*, xmlErrorPtr) {});
     refused = false;
     beyondLimits = false;

@@ -9,18 +9,18 @@
 namespace lodestar
 {
 
-/// The distinct names of a document, numbered from 0 in the order of their first use: one text, where each name lies in
-/// it, and a hash table of numbers.
+/// The distinct names of a document, numbered from 0 in the order of their first use. They are kept as one text, the
+/// place of each name in it, and a hash table of numbers.
 class XMLNames
 {
 public:
     using Name = std::uint16_t;
     static constexpr Name none = UINT16_MAX;
 
-    /// `none` for a name that is not there.
+    /// `none` when the name is not there.
     Name find(std::string_view name) const;
-    /// The name's number, a new one if need be; `none` when there are too many. Throws `std::bad_alloc`; the names are
-    /// of no use then.
+    /// The name's number; a new one for a new name. `none` when there are too many. After it throws `std::bad_alloc`
+    /// the object must not be used.
     Name intern(std::string_view name);
     std::string_view text(Name name) const
     {
@@ -35,13 +35,13 @@ private:
         std::uint32_t begin;
         std::uint32_t length;
     };
-    /// The slot that holds the name, or the free one where it would go. There must be a slot that is free.
+    /// The slot that holds the name, or the free slot for it. At least one slot must be free.
     std::size_t slotOf(std::string_view name) const;
     void rehash(std::size_t slots);
 
     XMLArray<char> m_text;
     XMLArray<Place> m_places;
-    XMLArray<Name> m_slots; ///< a power of two of them, at most half in use
+    XMLArray<Name> m_slots; ///< the number of slots is a power of two; at most half are in use
 };
 
 } // namespace lodestar
