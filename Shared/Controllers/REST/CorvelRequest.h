@@ -11,16 +11,17 @@
 namespace lodestar
 {
 
-/// Sends one request to a console and accepts whatever certificate the console presents: expired, self-signed, wrongly
-/// named. That is meant, since consoles come with certificates that nobody can verify; the accepted certificate is the
-/// one that plain requests then expect of that console. It never answers a challenge with a user name or a password.
+/// Sends one request to a console and accepts whatever certificate the console presents: expired, self-signed or
+/// wrongly named. That is meant: consoles come with certificates that nobody can verify. Plain requests to the console
+/// then expect the accepted certificate. This class never answers a challenge with a user name or a password.
 ///
-/// Made with `std::make_shared`, used for one request and let go: the connection keeps it until the closure has run.
+/// Make it with `std::make_shared` and use it for one request; then release it. The connection keeps it alive until the
+/// closure has run.
 class CorvelRequest : public URLConnectionDelegate, public std::enable_shared_from_this<CorvelRequest>
 {
 public:
-    /// The response and the body, or the error; what there is not is null. All are the request's own and live as long
-    /// as the call. A status other than 200 is no error.
+    /// Receives the response and the body, or the error; the others are null. All three belong to the request and live
+    /// as long as the call. A status other than 200 is no error.
     using Closure = std::function<void(const URLResponse* response, std::string* data, const Error* error)>;
 
     CorvelRequest();
@@ -40,8 +41,8 @@ public:
 
 private:
     Closure m_closure;
-    URLResponse m_response; ///< of the last response
-    std::string m_data;     ///< body of the last response
+    URLResponse m_response; ///< the last response
+    std::string m_data;     ///< the last response's body
 };
 
 } // namespace lodestar

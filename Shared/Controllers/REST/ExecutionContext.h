@@ -16,7 +16,7 @@ namespace lodestar
 
 class ObjectContext;
 
-/// A thread with a loop of its own that blocks can be given to.
+/// A thread with its own loop that runs the blocks given to it.
 class ThreadContext
 {
 public:
@@ -24,16 +24,16 @@ public:
     ThreadContext(const ThreadContext&) = delete;
     ThreadContext& operator=(const ThreadContext&) = delete;
     virtual ~ThreadContext() = default;
-    /// Runs the block on the thread, later and in the order of the calls, never within this call. From any thread.
+    /// Runs the block on the thread, later and in the order of the calls, never inside this call. Any thread may call.
     virtual void dispatchBlock(Task block) = 0;
 };
 
-/// Where a promise's handlers run. A small value; it keeps the queue or thread that it names.
+/// The place where a promise's handlers run. A small value; it keeps its queue or thread alive.
 class ExecutionContext
 {
 public:
     static constexpr std::string_view defaultConcurrentQueueLabel = "RXPromise.default_concurrent_queue";
-    /// The queue that handlers run on when nothing else is said.
+    /// The queue for handlers without a context of their own.
     static const DispatchQueue& defaultConcurrentQueue();
 
     static ExecutionContext defaultContext() { return ExecutionContext(Default{}); }
@@ -41,16 +41,16 @@ public:
 
     ExecutionContext(DispatchQueue queue) : m_target(std::move(queue)) {}
     ExecutionContext(OperationQueue queue) : m_target(std::move(queue)) {}
-    /// The thread may not be null.
+    /// The thread must not be null.
     template <typename Thread>
     requires std::is_convertible_v<std::shared_ptr<Thread>, std::shared_ptr<ThreadContext>>
     ExecutionContext(std::shared_ptr<Thread> thread) : m_target(std::shared_ptr<ThreadContext>(std::move(thread)))
     {
     }
-    /// The thread on which an object context is used, which is the main thread.
+    /// The thread of an object context: the main thread.
     ExecutionContext(const ObjectContext&) : m_target(Main{}) {}
 
-    /// Has the block run there later, never within this call.
+    /// Runs the block in this context later, never inside this call.
     void dispatchBlock(Task block) const;
 
 private:

@@ -26,8 +26,8 @@ constexpr std::string_view logonNamespace = "http://www.ornis.example/xmlns/syst
 constexpr std::string_view k2Namespace = "http://www.w3.org/XML/1998/namespace/k2";
 constexpr std::string_view webContent = "application/vnd.ornis.varnex.web+xml";
 constexpr std::chrono::seconds logonTimeout{10};
-/// Six feeds follow a logon. One of them has the logon's own connection, which leaves one to spare for what a person
-/// asks of the console meanwhile.
+/// Six feeds follow a logon. One of them reuses the logon's connection, so one of the six connections is spare, for
+/// what a person asks of the console in the meantime.
 constexpr int connectionsToCome = 6;
 
 URLRequest withUrgency(URLRequest request, Urgency urgency)
@@ -36,7 +36,7 @@ URLRequest withUrgency(URLRequest request, Urgency urgency)
     return request;
 }
 
-/// Logon and session check of one record. Everything that is read of the record is read when it is made, on the thread
+/// The logon or session check of one record. The constructor reads everything it needs of the record, on the thread
 /// that asked for the key: the record may be edited while the requests run.
 class Logon : public std::enable_shared_from_this<Logon>
 {
@@ -52,7 +52,7 @@ public:
     {
     }
 
-    /// Tries the key first; a console that no longer takes it is logged on to again.
+    /// Tries the key. When the console no longer accepts it, logs on again.
     void checkSession(URLRequest checkRequest, std::string key)
     {
         std::make_shared<CorvelRequest>()->sendRequest(
@@ -79,8 +79,8 @@ public:
     }
 
 private:
-    /// After a refused key the plain request is used, and with it the usual rules of trust. That differs from the
-    /// first logon on purpose: the check just made has shown which certificate the console has.
+    /// Logs on with a plain request, under the usual rules of trust. The first logon accepts any server; the difference
+    /// is meant: the session check just made has shown which certificate the console has.
     void logOnPlainly()
     {
         sendAsynchronousRequest(m_logonRequest, m_queue,
@@ -116,8 +116,8 @@ private:
         LODESTAR_LOG(sourceFile, loginMethod, "Logon failed for Corvel: {}: {}", m_name, cause);
     }
 
-    /// A console that was deleted meanwhile has no entry, and gets none. Its deletion may also fall between the look at
-    /// the record and the writing, so the main thread, where deletions happen, looks once more.
+    /// Stores the key, unless the console has been deleted: a deleted console's entry must not come back. The deletion
+    /// may also fall between the check and the write, so the main thread, where deletions happen, checks once more.
     void keep(const SessionKey& key) const
     {
         if (!m_address) {
@@ -151,7 +151,7 @@ private:
 
 RESTHandler& RESTHandler::sharedInstance()
 {
-    // Never destroyed: completions may still come while the process ends.
+    // Never destroyed: completions may still run while the process ends.
     static RESTHandler* const handler = new RESTHandler;
     return *handler;
 }
@@ -216,7 +216,7 @@ URLRequest RESTHandler::loginRequestForCorvel(const Corvel& corvel) const
     request.timeout = logonTimeout;
     request.headers.setValue("Accept", webContent);
     request.headers.setValue("Content-Type", webContent);
-    // Name and password go in as they are: consoles read them literally, and escaping would change them.
+    // Name and password are not escaped: consoles read them literally, and escaping would change them.
     request.body = fmt::format("<LogonRequest xmlns=\"{}\" xmlns:ns2=\"{}\" schemaVersion=\"V1_0\">"
                                "<Metadata><Atom/></Metadata>"
                                "<UserID kxe=\"false\" kb=\"CUR\">{}</UserID>"

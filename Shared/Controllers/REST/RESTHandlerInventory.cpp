@@ -18,7 +18,7 @@ namespace
 constexpr std::string_view sourceFile = "Shared/Controllers/REST/RESTHandler";
 constexpr std::chrono::seconds feedTimeout{500};
 
-/// One console's feeds as they come in, from several threads.
+/// Collects one console's feeds as they come in, from several threads.
 class FeedCollector
 {
 public:
@@ -29,7 +29,7 @@ public:
         m_room->didKeep(feed.memory());
         m_feeds->setFeed(type, std::move(feed));
     }
-    /// To be called once every feed is in.
+    /// Call once every feed is in.
     std::shared_ptr<const FeedDictionary> take()
     {
         const std::lock_guard lock(m_mutex);
@@ -42,14 +42,14 @@ private:
     std::shared_ptr<FeedDictionary> m_feeds = std::make_shared<FeedDictionary>();
 };
 
-/// What the record's feeds take: about what those that replace them will take.
+/// The memory of the record's present feeds; the new feeds will take about as much.
 std::size_t keptFor(const Corvel& corvel)
 {
     const auto feeds = corvel.restData();
     return feeds != nullptr ? feeds->memory() : 0;
 }
 
-/// Settles with the root of a feed's answer. The label is the feed's for the log.
+/// Settles the promise with the root of a feed's answer. `label` names the feed in the log.
 void settle(const RXPromise<XMLElement>& promise, const Result<URLLoad>& load, const std::string& label)
 {
     const auto logFailure = [&label](const std::string& cause) {
@@ -160,9 +160,9 @@ std::optional<std::string> RESTHandler::fetchDataFromAtomLink(const std::string&
         return std::nullopt;
     }
     URLRequest request;
-    // Wherever the console's own feed points: the key came from that console, which may name itself, or who speaks for
-    // it, by another address than the person typed. Only certificates that are known or vouched for are met here, and a
-    // redirect to elsewhere loses the key.
+    // The link may point anywhere, and the key still goes with it: the console that gave the key may name itself, or
+    // another server that speaks for it, by another address than the person typed. The request reaches only servers
+    // with a known or verified certificate, and a redirect to another origin loses the key.
     request.url = link;
     request.headers.setValue("X-API-Session", *key);
     Result<URLLoad> load = sendSynchronousRequest(request);

@@ -14,7 +14,7 @@ namespace lodestar
 namespace
 {
 
-/// Line numbers are part of a message's identity in a log: they stay what they are.
+/// `line` is part of a message's identity in the log: never change the given numbers.
 template <typename... Args>
 void log(int line, fmt::format_string<Args...> format, Args&&... args)
 {
@@ -28,8 +28,8 @@ Result<MetricsDocument> demoMetrics()
     return MetricsDocument::parse(Resources::main().contents("ManagedSystem", "json").value_or(""));
 }
 
-/// The two requests of one call: the feed, then the document that its first entry links to. What is read of the record
-/// is read when it is made, on the thread that asked.
+/// The two requests of one call: the feed, then the document that the feed's first entry links to. The constructor
+/// reads what it needs of the record, on the thread that asked.
 class MetricsFetch : public std::enable_shared_from_this<MetricsFetch>
 {
 public:
@@ -75,16 +75,16 @@ private:
         }
         const Result<XMLElement> feed = XMLElement::parse(load.value().body);
         log(272, "RESTHandler: fetching PCM data for {}", m_name);
-        // The key goes to where the feed points, as with look-ups. A feed without a link leads to an empty address,
-        // which fails like any that cannot be reached.
+        // The key goes wherever the feed points, as in `fetchDataFromAtomLink`. A feed without a link gives an empty
+        // address, which fails like any unreachable one.
         const auto link = feed ? Feed(feed.value()).firstLink() : std::nullopt;
         sendAsynchronousRequest(
             requestFor(link.value_or("")), m_queue,
             [self = shared_from_this()](const Result<URLLoad>& second) { self->receivedDocument(second); });
     }
 
-    /// Whatever body came is read: this answer's own status and error are not looked at. That is meant. A request that
-    /// brought nothing reads as an empty body.
+    /// Reads whatever body came and ignores the answer's status and error (they are only logged). That is meant. A
+    /// failed request reads as an empty body.
     void receivedDocument(const Result<URLLoad>& load) const
     {
         if (!load || load.value().response.statusCode != 200) {

@@ -18,7 +18,8 @@ namespace
 
 struct Lead {
     std::size_t followers;
-    std::uint8_t firstLow; ///< bounds of the first follower, which rule out overlong forms, surrogates and the beyond
+    /// bounds of the first follower; they exclude overlong forms, surrogates and values beyond Unicode
+    std::uint8_t firstLow;
     std::uint8_t firstHigh;
 };
 

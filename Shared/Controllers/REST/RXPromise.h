@@ -12,41 +12,42 @@
 namespace lodestar
 {
 
-/// The one-shot result of an operation: fulfilled with a value, rejected with an error, or cancelled; once, whoever
-/// comes first, and for good. A handle: copies are the same promise. A handle that was moved from may only be assigned
-/// or destroyed. `T` is copyable, or void; a result that may be no value is `std::optional`.
+/// The one-shot result of an operation. It is fulfilled with a value, rejected with an error, or cancelled; the first
+/// of these counts for good. A handle: copies are the same promise. A moved-from handle may only be assigned or
+/// destroyed. `T` is copyable, or void; for a result that may be missing use `std::optional`.
 ///
-/// Chains. `then` and its kin register a success handler (taking the value, nothing for void) and a failure handler
-/// (taking the error, also for a cancelled promise) and return a derived promise, which settles with the outcome:
-///  - what the matching handler returned: `R` or nothing fulfils, `Error` rejects, `Result<R>` does either, and with
-///    `RXPromise<R>` the derived promise settles later, as that one does;
-///  - with no matching handler (`nullptr`), this promise's own result, unchanged;
-///  - if this promise was cancelled, the derived one is cancelled with the outcome's error. An outcome that is no error
-///    becomes one whose reason is its text, if it is text.
+/// Chains. `then` and its kin register a success handler (it takes the value, or nothing for void) and a failure
+/// handler (it takes the error, also for a cancelled promise). They return a derived promise, which settles as follows:
+///  - With the matching handler's result: `R` or nothing fulfils, `Error` rejects, `Result<R>` does either. After an
+///    `RXPromise<R>` the derived promise settles later, with that promise's outcome.
+///  - Without a matching handler (`nullptr`): with this promise's own outcome, unchanged.
+///  - If this promise was cancelled, the derived promise is cancelled with the outcome's error. An outcome that is no
+///    error becomes an error; the error's reason is the outcome's text, if it is text.
 /// Both handlers must agree on `R`; returning nothing counts as `std::nullopt` where `R` is optional.
 ///
-/// Who runs where. Settling and registering are allowed on any thread. Handlers never run on the stack that settles or
-/// registers: they are handed to their context when the promise settles, or at once if it has. Handlers of one promise
-/// run in the order in which they were registered, whatever their contexts: the next is handed to its context when the
-/// one before has returned, and so may not be waited for by it. A handler that throws ends the process.
+/// Who runs where. Any thread may settle and register. Handlers never run on the stack that settles or registers: they
+/// are handed to their context when the promise settles, or at once if it has settled. Handlers of one promise run in
+/// the order of registration, whatever their contexts: a handler is handed to its context when the one before has
+/// returned. So a handler must not wait for a later one. A handler that throws ends the process.
 ///
-/// Who keeps what alive. A promise keeps its handlers and so the promises derived from it; a derived promise does not
-/// keep its parent. Whoever is to settle a promise therefore holds it, and everything behind it may be let go: once it
-/// settles, all handlers still run. A promise that is let go unsettled takes its handlers and their captures with it,
-/// and what was derived from it stays pending. Captures are destroyed as soon as the handler has run, or is known to
-/// never run. A handler that captures its own unsettled promise is a cycle, broken by settling only.
+/// Who keeps what alive. A promise keeps its handlers, and so the promises derived from it; a derived promise does not
+/// keep its parent. Code that will settle a promise must hold it, and may release everything derived from it: once the
+/// promise settles, all handlers still run. When a promise is released unsettled, its handlers and their captures are
+/// destroyed, and the promises derived from it stay pending. Captures are destroyed as soon as the handler has run or
+/// can no longer run. A handler that captures its own unsettled promise makes a cycle, which only settling breaks.
 template <typename T>
 class RXPromise
 {
 public:
     using Value = T;
 
-    /// Pending.
+    /// Makes a pending promise.
     RXPromise() : m_core(promise::Ref<Core>::adopt(new Core(ExecutionContext::defaultContext()))) {}
 
     void fulfillWithValue(promise::Stored<T> value) const requires(!std::is_void_v<T>)
     {
-        const auto core = m_core; // what owns this handle may go as soon as others see the state
+        // A copy of the handle: another thread may destroy this handle's owner as soon as it sees the new state.
+        const auto core = m_core;
         core->fulfil(std::move(value));
     }
     void fulfillWithValue() const requires std::is_void_v<T>
@@ -54,37 +55,37 @@ public:
         const auto core = m_core;
         core->fulfil({});
     }
-    /// Keeps the error as it is.
+    /// Rejects with the error, unchanged.
     void rejectWithReason(Error error) const
     {
         const auto core = m_core;
         core->settleWithError(promise::State::Rejected, std::move(error));
     }
-    /// With an error of domain "RXPromise", code -1000, whose failure reason is the text.
+    /// Rejects with an error of domain "RXPromise" and code -1000, with the text as its failure reason.
     void rejectWithReason(std::string_view reason) const { rejectWithReason(promise::errorWithReason(reason)); }
     void rejectWithReason(const char* reason) const { rejectWithReason(std::string_view(reason)); }
-    /// As with the text "".
+    /// Rejects as with the text "".
     void rejectWithReason() const { rejectWithReason(std::string_view()); }
-    /// Cancels this promise and, through the handlers, what is derived from it.
+    /// Cancels this promise and, through the handlers, the promises derived from it.
     void cancel() const
     {
         const auto core = m_core;
         core->settleWithError(promise::State::Cancelled, promise::errorWithReason("cancelled"));
     }
 
-    /// Handlers on the default concurrent queue.
+    /// The handlers run on the default concurrent queue.
     template <typename Success, typename Failure = std::nullptr_t>
     auto then(Success success, Failure failure = nullptr) const
     {
         return thenOn(ExecutionContext::defaultContext(), std::move(success), std::move(failure));
     }
-    /// Handlers on the main thread.
+    /// The handlers run on the main thread.
     template <typename Success, typename Failure = std::nullptr_t>
     auto thenOnMain(Success success, Failure failure = nullptr) const
     {
         return thenOn(ExecutionContext::mainThread(), std::move(success), std::move(failure));
     }
-    /// Handlers on a queue, a thread or where an object context is used.
+    /// The handlers run on the given queue or thread, or on the object context's thread.
     template <typename Success, typename Failure = std::nullptr_t>
     auto thenOn(ExecutionContext context, Success success, Failure failure = nullptr) const
     {
@@ -96,7 +97,7 @@ public:
         return result;
     }
 
-    /// Fulfilled with the values in the order of the inputs once all are fulfilled, at once when there are none.
+    /// Fulfilled with the values in the order of the inputs once all are fulfilled; at once when there are no inputs.
     /// Rejected with the error of the first input that is rejected or cancelled.
     static RXPromise<std::vector<T>> all(const std::vector<RXPromise>& inputs) requires(!std::is_void_v<T>)
     {
@@ -113,12 +114,12 @@ public:
     bool isFulfilled() const { return m_core->state() == promise::State::Fulfilled; }
     bool isRejected() const { return m_core->state() == promise::State::Rejected; }
     bool isCancelled() const { return m_core->state() == promise::State::Cancelled; }
-    /// None while pending; the error of a cancelled promise.
+    /// None while pending. A cancelled promise gives its error.
     std::optional<Result<T>> result() const { return m_core->result(); }
 
-    /// "RXPromise.handler_queue-%p" with the promise's identity; empty before anything was registered.
+    /// "RXPromise.handler_queue-%p" with the promise's identity; empty until a handler is registered.
     std::string handlerQueueLabel() const { return m_core->handlerQueueLabel(); }
-    /// Whether this promise was returned by `then` or its kin of the other.
+    /// Whether a call of `then` or its kin on `parent` returned this promise.
     template <typename U>
     bool isDerivedFrom(const RXPromise<U>& parent) const
     {

@@ -9,8 +9,8 @@ namespace lodestar::promise
 namespace
 {
 
-/// Settling a promise can settle those that are bound to it, and letting one go can let go those that only it held,
-/// each to any depth: a thread works through a list instead of recursing. The list is the cores' own link.
+/// A thread's list of promises to work through. Settling a promise can settle promises bound to it, and freeing one can
+/// free others that only it held, each to any depth; the list replaces recursion. Each core holds the link to the next.
 struct WorkList {
     Core* first = nullptr;
     Core* last = nullptr;
@@ -19,7 +19,7 @@ struct WorkList {
 constinit thread_local WorkList t_resume;
 constinit thread_local WorkList t_dispose;
 
-/// Behind the sync queue.
+/// Guarded by the sync queue.
 constinit std::uint64_t s_lastQueueNumber = 0;
 
 } // namespace
@@ -61,8 +61,8 @@ void Core::registerDerived(Ref<Core> derived)
     addNode(*core, core);
 }
 
-/// One handler's turn, on its way to the handler's context. It passes on when the handler has run, and also when the
-/// context lets it go unrun: the handlers of other contexts still wait.
+/// One handler's turn, on its way to the handler's context. The turn passes on when the handler has run, and also when
+/// the context drops the block without running it: handlers in other contexts still wait.
 class Core::Turn
 {
 public:
@@ -84,8 +84,8 @@ private:
     Ref<Core> m_parent;
 };
 
-/// A handler that comes while an earlier one is handed out or runs waits for its turn, so that the order of
-/// registration is the order of running throughout.
+/// When an earlier handler is handed out or running, the new one waits for its turn, so that handlers always run in the
+/// order of registration.
 void Core::addNode(Node& node, Core* derived)
 {
     enum class Place { Queue, AtOnce, First };
@@ -138,7 +138,7 @@ void Core::resumeHandlerQueue(Node& registered)
     t_resume.active = false;
 }
 
-/// On the thread that settles, which has the turn.
+/// Runs on the thread that settles, which has the turn.
 void Core::handOut(Node* node)
 {
     Node** last = &m_turns;
@@ -155,11 +155,11 @@ void Core::handOut(Node* node)
     passTurn();
 }
 
-/// The next handler, for whoever has the turn. With none, the turn is anybody's.
+/// The next handler, for the owner of the turn. Null frees the turn.
 Core* Core::takeNext()
 {
-    // When nobody else held the promise while the nodes were taken, nothing can have been registered since. Who waits
-    // for a turn refers to it, but registers nothing.
+    // When nobody else held the promise while the nodes were taken, no handler can have been registered since. Waiting
+    // turns hold references, too, but register nothing.
     if (m_turns == nullptr && m_known) {
         if (Node* const taken = SharedSyncQueue::sync([this] { return takeNodes(); })) {
             m_turns = taken;
@@ -177,13 +177,13 @@ Core* Core::takeNext()
 void Core::passTurn()
 {
     if (auto next = Ref<Core>::adopt(takeNext()); next.get() != nullptr) {
-        // Taken out: the block may have run, and let the derived promise go, before the call returns.
+        // Moved out first: the block may run, and free the derived promise, before the call returns.
         const ExecutionContext context = std::move(next->m_context);
         context.dispatchBlock(Turn(std::move(next), Ref<Core>(*this)));
     }
 }
 
-/// The promise that the handler returned has settled.
+/// Called when the promise that the handler returned has settled.
 void Core::parentSettled(Core& parent)
 {
     const auto self = Ref<Core>::adopt(this);
@@ -192,8 +192,8 @@ void Core::parentSettled(Core& parent)
 
 void Core::parentGone()
 {
-    // The handlers can never run any more. Their captures go now, even if somebody holds this promise, since they may
-    // well be what holds it.
+    // The handlers can never run any more. Their captures are freed now even if somebody holds this promise, since the
+    // captures may be what holds it.
     dropHandlers();
     release();
 }

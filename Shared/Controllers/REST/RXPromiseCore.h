@@ -12,7 +12,7 @@
 #include <string_view>
 #include <utility>
 
-/// The untyped half of `RXPromise`: state, handler queue, life. Nothing here is for users of promises.
+/// The untyped half of `RXPromise`: state, handler queue, lifetime. Users of promises need nothing from here.
 namespace lodestar::promise
 {
 
@@ -21,14 +21,14 @@ enum class State : std::uint8_t { Pending, Fulfilled, Rejected, Cancelled };
 /// The error that promises make themselves.
 Error errorWithReason(std::string_view reason);
 
-/// The one serial queue behind which the state of every promise lives: a lock in queue form, which runs its blocks one
-/// at a time on their callers. Its blocks are a few loads and stores, and the move of a value into its place; whatever
-/// is destroyed, copied or dispatched is so outside.
+/// The one serial queue that guards the state of every promise: a lock in the form of a queue, which runs one block at
+/// a time on its caller's thread. A block makes a few loads and stores and moves a value into its place; destroying,
+/// copying and dispatching happen outside.
 class SharedSyncQueue
 {
 public:
     static constexpr std::string_view label = "RXPromise.shared_sync_queue";
-    /// The queue is recognised by the value of this key, which is not null exactly within its blocks.
+    /// The key whose value identifies the queue. The value is null outside the queue's blocks.
     static constexpr std::string_view queueIdKey = "RXPromise.queue_id";
 
     static const void* getSpecific(std::string_view key)
@@ -36,7 +36,7 @@ public:
         return key == queueIdKey && t_inside ? static_cast<const void*>(&s_mutex) : nullptr;
     }
 
-    /// Within one of its blocks (a value's move may ask a promise something) a further block runs at once.
+    /// A call from inside a block runs at once: moving a value may ask a promise something.
     template <typename Block>
     static auto sync(Block&& block)
     {
@@ -73,7 +73,7 @@ private:
     static inline constinit thread_local bool t_inside = false;
 };
 
-/// A reference to something that counts its own references.
+/// A reference to an object that counts its own references.
 template <typename Counted>
 class Ref
 {
@@ -110,7 +110,7 @@ public:
     Counted& operator*() const { return *m_counted; }
     Counted* operator->() const { return m_counted; }
     Counted* get() const { return m_counted; }
-    /// Gives up its reference without releasing it.
+    /// Gives the reference to the caller without releasing it.
     Counted* detach() { return std::exchange(m_counted, nullptr); }
 
 private:
@@ -119,8 +119,8 @@ private:
 
 class Core;
 
-/// What waits in a promise's handler queue. The queue holds one reference to whatever the node belongs to; it passes
-/// with either call, and each node gets exactly one of the two.
+/// An entry of a promise's handler queue. The queue holds one reference to the node's owner. `parentSettled` and
+/// `parentGone` take over that reference; each node gets exactly one of the two calls.
 class Node
 {
 public:
@@ -129,12 +129,12 @@ public:
     Node& operator=(const Node&) = delete;
     virtual ~Node() = default;
 
-    /// Whether it holds handlers, which run one after another; the others need not wait for any.
+    /// True for a node with handlers: such nodes run one after another. Other nodes wait for none.
     virtual bool takesTurn() const { return false; }
-    /// On the thread that settles (or registers on a settled promise), outside the sync queue. Not for those that take
-    /// a turn.
+    /// Called on the thread that settles, or that registers on a settled promise, outside the sync queue. Not called
+    /// for nodes that take a turn.
     virtual void parentSettled(Core& parent) = 0;
-    /// The promise is gone without having been settled.
+    /// Called when the promise is destroyed unsettled.
     virtual void parentGone() = 0;
 
 private:
@@ -142,8 +142,8 @@ private:
     Node* m_next = nullptr;
 };
 
-/// One promise. A derived promise is itself the node that waits in its parent's handler queue, so that a promise and
-/// its handlers are one allocation.
+/// One promise. A derived promise is itself the node in its parent's handler queue, so that a promise and its handlers
+/// are one allocation.
 class Core : public Node
 {
 public:
@@ -161,27 +161,29 @@ public:
     {
         return SharedSyncQueue::sync([this] { return m_state; });
     }
-    /// Without the sync queue: only for those who know that it has settled.
+    /// Does not use the sync queue: call it only when the promise is known to have settled.
     State settledState() const { return m_state; }
-    /// Only when rejected or cancelled.
+    /// Valid only when rejected or cancelled.
     const std::shared_ptr<const Error>& error() const { return m_error; }
 
-    /// Rejects or cancels; nothing when settled.
+    /// Rejects or cancels; does nothing when already settled.
     void settleWithError(State state, std::shared_ptr<const Error> error);
     void settleWithError(State state, Error error);
-    /// Empty until something was registered.
+    /// Empty until a handler is registered.
     std::string handlerQueueLabel() const;
     bool isDerivedFrom(const Core& parent) const;
 
-    /// Puts the derived promise, whose handlers are not run yet, into the handler queue.
+    /// Puts the derived promise, whose handlers have not run yet, into the handler queue.
     void registerDerived(Ref<Core> derived);
-    /// Settles as the other does, when it does.
+    /// Settles this promise like `other` when `other` settles.
     void bind(Core& other);
-    /// Puts a node into the handler queue, or runs it when settled. One reference of the node's passes.
+    /// Puts a node into the handler queue, or runs it when the promise has settled. Takes over one reference to the
+    /// node's owner.
     void addNode(Node& node) { addNode(node, nullptr); }
 
 protected:
-    /// Settles with what `store` puts in place, within the sync queue. False, and `store` not called, when settled.
+    /// Settles with the value or error that `store` puts in place; `store` runs inside the sync queue. When already
+    /// settled, returns false without calling `store`.
     template <typename Store>
     bool settle(State state, Store&& store)
     {
@@ -201,11 +203,11 @@ protected:
         return settled;
     }
 
-    /// Calls the handler that the settled parent asks for, drops both, and settles with the outcome.
+    /// Calls the handler that matches the settled parent's state, drops both handlers, and settles with the outcome.
     virtual void runHandler(Core& parent);
-    /// Drops the handlers' captures.
+    /// Frees the handlers' captures.
     virtual void dropHandlers() noexcept {}
-    /// Copies the other's value; called when the other is fulfilled. Both hold the same type.
+    /// Copies the value of `other`, which is fulfilled and holds the same type.
     virtual void adoptValue(const Core& other) = 0;
 
 private:
@@ -216,7 +218,7 @@ private:
     void parentSettled(Core& parent) final;
     void parentGone() final;
     void addNode(Node& node, Core* derived);
-    /// Within the sync queue. While nodes that were taken are not handed out yet, the queue counts as resuming.
+    /// Call inside the sync queue. The queue counts as resuming until the taken nodes have been handed out.
     Node* takeNodes()
     {
         m_last = nullptr;
@@ -232,23 +234,23 @@ private:
     void adopt(const Core& other);
 
     std::atomic<std::uint32_t> m_references{1};
-    // Behind the sync queue:
+    // Guarded by the sync queue:
     State m_state = State::Pending;
-    bool m_resuming = false; ///< settled, and somebody has the turn
-    // Of whoever has the turn, that is hands out nodes or runs a handler:
+    bool m_resuming = false; ///< settled, and some thread has the turn
+    // Used only by the owner of the turn, who hands out nodes or runs a handler:
     bool m_known = false; ///< others held the promise when its nodes were taken
-    // Of the derived promise:
+    // Used only in a derived promise:
     bool m_bound = false; ///< waits for the promise that its handler returned
-    // Behind the sync queue:
-    Node* m_first = nullptr; ///< the handler queue
+    // Guarded by the sync queue:
+    Node* m_first = nullptr; ///< the handler queue's first node
     Node* m_last = nullptr;
-    std::uint64_t m_queueNumber = 0;  ///< 0 until the handler queue is made; never used twice
+    std::uint64_t m_queueNumber = 0;  ///< 0 until the handler queue exists; numbers are never reused
     std::uint64_t m_parentNumber = 0; ///< the parent's queue number
     std::shared_ptr<const Error> m_error;
-    // In the lists of the thread that resumes or disposes:
+    // Used by the work lists of the thread that resumes or disposes:
     Core* m_nextCore = nullptr;
     Node* m_registered = nullptr;
-    // Of whoever has the turn:
+    // Used only by the owner of the turn:
     Node* m_turns = nullptr; ///< handlers that were taken and have not run
     ExecutionContext m_context;
 };

@@ -19,11 +19,11 @@ namespace lodestar
 template <typename T>
 class RXPromise;
 
-/// The typed half of `RXPromise`: values and handlers. Nothing here is for users of promises.
+/// The typed half of `RXPromise`: values and handlers. Users of promises need nothing from here.
 namespace promise
 {
 
-/// What is kept of a `T`.
+/// The type in which a `T` is stored.
 template <typename T>
 using Stored = std::conditional_t<std::is_void_v<T>, std::monostate, T>;
 
@@ -40,7 +40,7 @@ inline constexpr bool isResult = false;
 template <typename T>
 inline constexpr bool isResult<Result<T>> = true;
 
-/// Marks for handlers that have no say in the derived promise's type.
+/// Marks for handlers that do not determine the derived promise's type.
 struct Absent {
 };
 struct ErrorOnly {
@@ -137,7 +137,7 @@ public:
     {
         settle(State::Fulfilled, [&] { std::construct_at(&m_value, std::move(value)); });
     }
-    /// Only for those who know that it is fulfilled.
+    /// Call it only when the promise is known to be fulfilled.
     const Stored<T>& value() const { return m_value; }
     std::optional<Result<T>> result() const
     {
@@ -156,7 +156,7 @@ public:
     }
 
 protected:
-    /// Settles with the outcome of a handler.
+    /// Settles with a handler's outcome.
     template <typename Outcome>
     void resolve(State parentState, Outcome outcome)
     {
@@ -195,11 +195,11 @@ private:
     }
 
     union {
-        Stored<T> m_value; ///< there once fulfilled
+        Stored<T> m_value; ///< exists once fulfilled
     };
 };
 
-/// A promise of what the handlers make of a promise of `T`.
+/// The promise of a handler's outcome, derived from a promise of `T`.
 template <typename T, typename Success, typename Failure>
 class DerivedCore final : public ValueCore<typename Derivation<T, Success, Failure>::Type>
 {
@@ -264,7 +264,7 @@ private:
     std::optional<Handlers> m_handlers;
 };
 
-/// A promise of the values of many.
+/// A promise of the values of many promises.
 template <typename T>
 class AllCore final : public ValueCore<std::vector<T>>
 {
@@ -280,7 +280,7 @@ public:
         }
     }
 
-    /// Once for each index.
+    /// Call once for each index.
     void addInput(std::size_t index, Core& input)
     {
         Input& node = m_inputs[index];
@@ -291,7 +291,8 @@ public:
     }
 
 private:
-    /// Takes the input's result on the thread that settles it: no code of the user's is run but the value's copy.
+    /// Takes the input's result on the thread that settles the input: the only user code that runs is the value's copy
+    /// constructor.
     struct Input final : Node {
         void parentSettled(Core& parent) override
         {
@@ -309,7 +310,7 @@ private:
     {
         if (input.settledState() != State::Fulfilled) {
             this->settleWithError(State::Rejected, input.error());
-            // An input that settles late, or never, need not keep the others' values.
+            // Frees the other inputs' values now: an input that settles late, or never, must not keep them in memory.
             Slots slots;
             SharedSyncQueue::sync([&] { slots.swap(m_slots); });
             return;
@@ -339,7 +340,7 @@ private:
     }
 
     std::unique_ptr<Input[]> m_inputs;
-    Slots m_slots; ///< behind the sync queue until none is missing; empty once rejected
+    Slots m_slots; ///< guarded by the sync queue until no value is missing; empty once rejected
     std::size_t m_missing;
 };
 
