@@ -67,7 +67,7 @@ public:
 
     std::vector<GalleryCell> rows[2];
     std::vector<IndexPath> selected;
-    std::vector<int> swiped; ///< leading buttons as negative numbers less one
+    std::vector<int> swiped; ///< indices of pressed row buttons; leading buttons count -1, -2 and so on
     std::vector<IndexPath> configured;
     int cancelled = 0;
     int appeared = 0;

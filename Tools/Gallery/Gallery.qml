@@ -4,7 +4,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Lodestar.Kit
 
-/// The parts list: every widget in every state.
+/// The board of parts: every widget in every state.
 Rectangle {
     id: board
 

@@ -2,7 +2,7 @@
 import QtQuick
 import Lodestar.Kit
 
-/// A list screen as the application's are.
+/// A list screen, built as the application's list screens are.
 PageScaffold {
     id: scene
 

@@ -41,7 +41,7 @@ class Studio
 public:
     explicit Studio(QString folder) : m_folder(std::move(folder)) {}
 
-    /// A fresh window on a fresh controller, in the look, after `pose`.
+    /// Draws a fresh window with a fresh controller in the look, after `pose` has changed it.
     template <typename Pose>
     void picture(const QString& name, QSize size, Look look, const char* scene, Pose pose)
     {

@@ -66,7 +66,7 @@ std::vector<Look> eventLooks()
     };
 }
 
-/// Groups of the demonstration cannot tell their states: those that can are a console's.
+/// The demonstration's groups cannot tell their members' states; a simulated console's can.
 simulator::SimulatorProcess& console()
 {
     simulator::Settings settings;
@@ -75,7 +75,7 @@ simulator::SimulatorProcess& console()
     return process;
 }
 
-/// Hundreds of resources: a few of the console's own, time and again.
+/// Groups with hundreds of resources: a few of the console's own, repeated.
 std::string longGroups(const Feed& groups)
 {
     std::string links;

@@ -23,7 +23,7 @@ FeedbackViewController& openFeedback(SceneStage& stage)
     return *qobject_cast<FeedbackViewController*>(stack->rootViewController());
 }
 
-/// A ring around the second console's state and an arrow to it.
+/// Draws a ring around the second console's state and an arrow to it.
 void drawOn(Sketch& sketch)
 {
     const QSizeF size = sketch.pictureSize();

@@ -35,7 +35,7 @@ FeedListViewController& openServers(SceneStage& stage)
     return stage.openList("viosView", {.corvel = simulatedConsole(stage, simulated())});
 }
 
-/// Names that fit nowhere; the last system's name is refused.
+/// A feed of partitions with names too long for any row. The console does not know their managed system.
 std::string longNamedPartitions(const CorvelRef& corvel)
 {
     const std::string console = "https://" + corvel->address().value() + ":12443/rest/api/uom/ManagedSystem/";

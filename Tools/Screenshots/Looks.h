@@ -11,19 +11,20 @@ class SimulatorProcess;
 namespace lodestar::scenes
 {
 
-/// A screen as it is to be photographed.
+/// A screen that is to be photographed.
 struct Look {
     const char* name;
     std::vector<ConsoleLook> consoles;
     std::function<void(SceneStage&)> prepare;
-    /// Also drawn wide, dark, in large text and mirrored.
+    /// Whether the screen is also drawn wide, dark, in large text and mirrored.
     bool isMain = false;
 };
 
-/// A simulated console under the demonstration's name: logged on, its feeds not yet fetched. It is in no list.
+/// A simulated console with the demonstration's name, which is logged on and has fetched no feeds yet. No list holds
+/// it.
 CorvelRef simulatedConsole(const SceneStage& stage, const simulator::SimulatorProcess& simulated);
 void search(FeedListViewController& list, const char* text);
-/// A feed's entry of a type.
+/// One entry of a feed, with an object of the type.
 std::string entryOf(const std::string& type, const std::string& content);
 
 /// Release notes, licence agreement, open-source notices and the tour.
@@ -34,7 +35,7 @@ std::vector<Look> feedbackLooks();
 std::vector<Look> inventoryLooks();
 /// The lists by managed system, and their details.
 std::vector<Look> groupedLooks();
-/// Serviceable events and resource groups, these of a simulated console.
+/// Serviceable events, and the resource groups of a simulated console.
 std::vector<Look> eventAndGroupLooks();
 /// The performance of a managed system.
 std::vector<Look> performanceLooks();

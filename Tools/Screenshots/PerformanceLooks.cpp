@@ -10,7 +10,7 @@ namespace lodestar::scenes
 namespace
 {
 
-/// Growing in takes this long, and a little more.
+/// Milliseconds: a little more than the chart takes to grow in.
 constexpr int grown = 3300;
 
 PCMViewController& openPerformance(SceneStage& stage, CorvelRef corvel, const char* name = "helios-01")
@@ -34,7 +34,7 @@ void showMemory(SceneStage& stage)
     waitForChart(stage, performance);
 }
 
-/// The metrics of a simulated console with a fault.
+/// Shows the metrics of a simulated console that has the fault.
 void showSimulated(SceneStage& stage, const char* fault)
 {
     simulator::SimulatorProcess simulated{{}};

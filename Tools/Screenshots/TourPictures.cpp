@@ -24,11 +24,11 @@ namespace lodestar::scenes
 namespace
 {
 
-// Points of a page. The screens widget shows the part above the words on its own where the words cannot be read: it
-// counts on their place.
+// Points of a page. The kit's intro widget counts on where the words stand: when they would be too small to read, it
+// shows only the part of the picture above them.
 constexpr QSize pageSize(390, 844);
 constexpr QRectF screenFrame(45, 64, 300, 500);
-// What of it stands above the tab bar has the frame's proportions.
+// The part of the screen above the tab bar has the frame's proportions.
 constexpr QSize screenSize(390, 706);
 constexpr double wordsTop = 676;
 constexpr double wordsWidth = 316;
@@ -50,7 +50,7 @@ Look lookNamed(std::string_view name, const std::vector<Look>& looks)
     return *found;
 }
 
-/// The screens of the tour's pages, in their order.
+/// The screens for the tour's pages, in the pages' order.
 std::vector<Look> looksOfPages()
 {
     std::vector<ConsoleLook> fetched = fleet();
@@ -87,7 +87,7 @@ void drawSky(QPainter& painter)
         painter.setOpacity(star.opacity);
         painter.drawEllipse(star.at, star.radius, star.radius);
     }
-    // The list's reflection in calm water.
+    // The list's mirror image in calm water.
     painter.setBrush(UIColor::selectedBlue());
     struct Ripple {
         double width;
@@ -154,8 +154,8 @@ QImage makePage(const QImage& screen, const IntroPage& page)
     return image;
 }
 
-/// The picture in 256 colours, which takes a third of the room: the most frequent ones, none too close to another.
-/// Screens are flat, so that what is left to be replaced is the edges of letters.
+/// The picture in 256 colours, which takes a third of the space. Takes the most frequent colours that are not too close
+/// to one another: screens are flat, so that only the edges of letters lose their own colour.
 QImage withPalette(const QImage& image)
 {
     std::map<QRgb, int> counts;

@@ -102,7 +102,7 @@ bool hasType(const QObject* object, const QByteArray& name)
     return false;
 }
 
-/// The same wherever the pictures are made, and nothing of the machine.
+/// Facts that are the same on every machine and tell nothing of the one that makes the pictures.
 Report factsOfAPhone()
 {
     Report facts;
@@ -218,7 +218,8 @@ SceneStage::~SceneStage()
 void SceneStage::closeWindow()
 {
     if (m_list) {
-        // A sheet holds the screen under it: only its dismissal lets go of both, and of what it still meant to post.
+        // A sheet keeps the screen under it alive. Dismissing the sheet frees both, and with them the notifications
+        // that they would still post.
         for (const auto& screen : m_list->navigationController()->viewControllers()) {
             screen->dismissSemiModalView();
         }
@@ -241,7 +242,7 @@ void SceneStage::show(QSize size, const std::vector<ConsoleLook>& consoles)
     m_tabs = makeController<TabBarController>(
         std::vector<TabBarItem>{{"Corvels", "tab_consoles", makeController<NavigationController>(m_list)},
                                 {"Dashboard", "tab_dashboard", makeController<NavigationController>(m_dashboard)}});
-    // Loaded while there is nothing to fetch.
+    // Loaded before there are records, so that nothing is fetched.
     m_tabs->loadViewIfNeeded();
     m_list->loadViewIfNeeded();
     setRecords(consoles);

@@ -28,33 +28,33 @@
 namespace lodestar::scenes
 {
 
-/// How a record of the working list is to look.
+/// How to make a record of the working list look.
 struct ConsoleLook {
     enum class State { Fetching, Online, Offline };
 
     std::string name{};
     std::string address{};
-    std::string version{}; ///< empty for one that was never fetched
+    std::string version{}; ///< empty for a console that was never fetched
     State state = State::Online;
     int systemErrors = 0;
     int attentionLEDs = 0;
     int events = 0;
-    /// State text and count, in order.
+    /// State texts with their counts, in order.
     std::vector<std::pair<std::string, int>> systems{};
     std::vector<std::pair<std::string, int>> partitions{};
 };
 
-/// Six consoles in every state, with inventories that make the dashboard's two pies.
+/// Six consoles that show every state between them, with inventories for the dashboard's two pies.
 std::vector<ConsoleLook> fleet();
-/// Names, addresses and counts far longer than any row.
+/// Consoles with names, addresses and counts far too long for a row.
 std::vector<ConsoleLook> longNames();
 
-/// A fetched console with the demonstration's feeds, those that are given in their place; an empty text is a feed that
-/// failed. It is in no list.
+/// A fetched console with the demonstration's feeds. Texts in `feeds` replace feeds of their type; an empty text stands
+/// for a feed that failed. No list holds the console.
 CorvelRef demoConsole(const std::map<std::string, std::string>& feeds = {});
 
-/// A window with the two tabs of the main interface in it, drawn without a display. Nothing is fetched: records are as
-/// they are told. One at a time; needs a QGuiApplication.
+/// A window with the main interface's two tabs, drawn without a display. Nothing is fetched: records look as their
+/// `ConsoleLook` says. One at a time; needs a QGuiApplication.
 class SceneStage
 {
 public:
@@ -63,11 +63,11 @@ public:
     SceneStage(const SceneStage&) = delete;
     SceneStage& operator=(const SceneStage&) = delete;
 
-    /// Fresh controllers and scenes over these records. Points.
+    /// Makes new controllers and scenes for these records. The size is in points.
     void show(QSize size, const std::vector<ConsoleLook>& consoles);
     void showDashboard();
     DeltaCorvelViewController* openEditor();
-    /// A screen over the console list, by its scene's identifier; null for a scene that the stage does not have.
+    /// Opens a screen over the console list by its scene's identifier; null when the stage has no such scene.
     ViewController* open(std::string_view identifier, SceneInputs inputs) const;
     template <typename Controller>
     Controller* open(std::string_view identifier, SceneInputs inputs) const
@@ -75,7 +75,7 @@ public:
         return qobject_cast<Controller*>(open(identifier, std::move(inputs)));
     }
 
-    /// Likewise a list, when it has fetched what it shows and its motion has ended.
+    /// Opens a list likewise, and waits until the list has fetched and its motion has ended.
     template <typename List = FeedListViewController>
     List& openList(std::string_view identifier, SceneInputs inputs) const
     {
@@ -89,25 +89,26 @@ public:
     DashboardTableViewController& dashboard() const { return *m_dashboard; }
     TabBarController& tabs() const { return *m_tabs; }
     QQuickWindow& window() const { return *m_window; }
-    /// Laid over the window, its files in a folder of the stage's. The consoles' one password is the secret.
+    /// Feedback's screens, laid over the window. Their files are in the stage's folder, and their only secret is the
+    /// password that all consoles share.
     FeedbackHost& feedback() const { return *m_feedback; }
     ReportStore reports() const { return ReportStore(m_folder.filePath("Reports").toStdString()); }
 
-    /// Runs the event loop until the predicate holds; false when it does not within five seconds.
+    /// Runs the event loop until the predicate holds. False when it does not hold within five seconds.
     bool waitFor(const std::function<bool()>& predicate) const;
-    /// Runs the event loop for that time, to let motion end.
+    /// Runs the event loop for this time, so that motion ends.
     void settle(int milliseconds = 400) const;
     /// The window's picture in device pixels.
     QImage grab() const;
 
-    /// Visible items whose C++ or QML type has the name, in the order of the tree.
+    /// The visible items whose C++ or QML type has the name, in the tree's order.
     std::vector<QQuickItem*> items(const QString& typeName) const;
-    /// Everything visible that is pressed by itself: rows of tables are not.
+    /// Every visible item that a person can press, except rows of tables.
     std::vector<QQuickItem*> buttons() const;
     QQuickItem* item(const QString& objectName) const;
-    /// Uncovers a row's buttons.
+    /// Swipes the row, so that its buttons show.
     void swipe(int row) const;
-    /// Warnings of the QML engine so far.
+    /// The QML engine's warnings so far.
     const QStringList& warnings() const { return m_warnings; }
 
 private:
