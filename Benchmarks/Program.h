@@ -12,7 +12,7 @@
 namespace lodestar::bench
 {
 
-/// Throws, and so ends the program with an error, when what is to be measured did not come about.
+/// Throws, which ends the program with an error, when the thing to measure did not happen.
 inline void require(bool condition, const char* what)
 {
     if (!condition) {
@@ -20,8 +20,8 @@ inline void require(bool condition, const char* what)
     }
 }
 
-/// What a benchmark program does: with `--rows FILE` it measures its rows, otherwise it runs the benchmarks that the
-/// rest of the command line selects. The program's exit code.
+/// Runs a benchmark program: with `--rows FILE` it measures its rows, otherwise it runs the benchmarks that the rest of
+/// the command line selects. Returns the program's exit code.
 template <typename MeasureRows>
 int run(int argc, char** argv, const MeasureRows& measureRows)
 try {

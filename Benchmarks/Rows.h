@@ -17,8 +17,8 @@
 namespace lodestar::bench
 {
 
-/// Nanoseconds of the processor that the calling thread has had. For work that waits for nothing: of what else a
-/// machine does, the longer of two such works would meet more.
+/// Nanoseconds of processor time that the calling thread has used. Use it for work that waits for nothing: by the
+/// clock, the longer of two such works would suffer more from whatever else the machine does.
 inline double processorTime()
 {
     timespec time{};
@@ -26,8 +26,8 @@ inline double processorTime()
     return static_cast<double>(time.tv_sec) * 1e9 + static_cast<double>(time.tv_nsec);
 }
 
-/// Nanoseconds that the call takes. A call that returns a number measures itself (in any unit, without its setting up):
-/// that number is the answer.
+/// Nanoseconds that the call takes. A call that returns a number measures itself, in any unit and without its
+/// preparations; that number is the result.
 template <typename Call>
 double measure(Call& call)
 {
@@ -40,7 +40,7 @@ double measure(Call& call)
     }
 }
 
-/// Of at least one value.
+/// The median of at least one value.
 inline double median(std::vector<double> values)
 {
     std::sort(values.begin(), values.end());
@@ -53,8 +53,8 @@ struct Medians {
     double reference;
 };
 
-/// Runs both once to warm up, then both in each repetition, which of them first being drawn, so that what else goes on
-/// on the machine meets both alike.
+/// Runs both calls once to warm up. Then runs both in each repetition, in random order, so that other work of the
+/// machine disturbs both equally.
 template <typename Ours, typename Reference>
 Medians medianInterleaved(Ours&& ours, Reference&& reference, std::size_t repetitions = 11)
 {
@@ -76,11 +76,12 @@ Medians medianInterleaved(Ours&& ours, Reference&& reference, std::size_t repeti
     return {median(std::move(oursTimes)), median(std::move(referenceTimes))};
 }
 
-/// The figures that a program is held to. With `--rows FILE` on the command line they go there as one JSON array.
+/// The rows of figures that a program must meet. With `--rows FILE` on the command line, they are written to the file
+/// as one JSON array.
 class Rows
 {
 public:
-    /// Takes `--rows FILE` out of the arguments.
+    /// Removes `--rows FILE` from the arguments.
     Rows(int& argc, char** argv)
     {
         int kept = 1;
@@ -94,11 +95,11 @@ public:
         argc = kept;
     }
 
-    /// Whether `--rows` was given: then a program measures its rows instead of running the benchmarks one by one.
+    /// Whether `--rows` was given: the program then measures its rows instead of running single benchmarks.
     bool requested() const { return !m_path.empty(); }
 
-    /// Ours may be up to `goal` times the reference, which is above zero. A goal that is no ratio is written with a
-    /// reference of 1.
+    /// Adds a row: ours may be up to `goal` times the reference, which must be above zero. For a goal that is not a
+    /// ratio the reference is 1.
     void add(std::string_view name, double ours, double reference, double goal, std::string_view unit = "ns")
     {
         const double ratio = ours / reference;
@@ -113,7 +114,7 @@ public:
                   ",\"unit\":\"" + escaped(unit) + "\"}";
     }
 
-    /// Writes the file; the program's exit code.
+    /// Writes the file and returns the program's exit code.
     int write() const
     {
         std::ofstream file(m_path);

@@ -18,9 +18,9 @@
 #include <ctime>
 #include <string>
 
-// Three lines of so many samples as the performance screen shows them, drawn into an image of a phone's chart at two
-// pixels a point, by us and by Qt Charts. Both sides are antialiased, lines and text alike, have a legend, a value axis
-// with a dashed grid and an index axis, and keep from one drawing to the next what they like.
+// Draws three lines of samples, as on the performance screen, into an image of a phone's chart at two pixels a point:
+// once with our chart and once with Qt Charts. Both draw lines and text antialiased, with a legend, a value axis with a
+// dashed grid and an index axis. Both may keep anything from one drawing to the next.
 
 namespace lodestar
 {
@@ -35,13 +35,13 @@ const std::array<QString, 3> names{QStringLiteral("Total Processors"), QStringLi
 
 float sample(int series, int index, int count)
 {
-    // A day's load with noise: no line is straight, since no reduction may live on that.
+    // A day's load with noise: no line may be straight, or a reduction of straight lines would look fast.
     const double noise = static_cast<double>((std::int64_t{index} * 7919 + series * 104729) % 101) / 101.0;
     return static_cast<float>(16 - 4 * series + 2 * std::sin(6.28 * index / count) + noise);
 }
 
-/// A call that measures itself by its thread's processor time. Drawing waits for nothing, and of what else a machine
-/// does the longer of two drawings would meet more.
+/// Makes the call measure its thread's processor time. Drawing waits for nothing, and by the clock the longer of two
+/// drawings would suffer more from whatever else the machine does.
 template <typename Call>
 auto measured(Call call)
 {
@@ -60,7 +60,7 @@ QImage emptyImage()
     return image;
 }
 
-/// A drawing that drew nothing is no figure to be held against.
+/// Throws when the drawing is empty: its time would mean nothing.
 void requireInk(const QImage& image)
 {
     int found = 0;
@@ -215,7 +215,7 @@ void addMillion(bench::Rows& rows)
     const bench::Medians redrawn =
         bench::medianInterleaved(measured([&] { many.draw(); }), measured([&] { few.draw(); }), 201);
     requireInk(many.image());
-    // The same work for both: two equal times, which scatter around 1.
+    // Both do the same work, so the ratio scatters around 1.
     rows.add("line chart 1,000,000 x 3, redrawn / 240 x 3", redrawn.ours, redrawn.reference, 1.0);
     const auto pan = [](Ours& chart) {
         chart.pan();

@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
-// What a large feed costs to parse and to drop again, and to keep, beside libxml2's own tree of the same bytes.
+// Measures parsing a large feed, dropping it and keeping it, against libxml2's own tree of the same bytes.
 //
-// The feed is one of a console with thousands of partitions, as the simulator sends it. Memory that earlier runs left
-// with the allocator is given back before each run: what the heap went through before can double a time.
+// The feed is that of a console with thousands of partitions, as the simulator sends it. Before each run the allocator
+// gives back the memory of earlier runs: the state of the heap can double a time.
 #include "Benchmarks/Program.h"
 #include "Simulator/FeedWriter.h"
 #include "XML/XMLElement.h"
@@ -54,7 +54,7 @@ std::string makeFeed(std::size_t feedBytes, int partitionsEach)
     return makeFeeds(settings, feedBytes, type).front();
 }
 
-/// A feed and how often it is parsed in one run, so that runs take long enough to be told apart.
+/// A feed, and how often one run parses it, so that runs take long enough to be compared.
 struct Load {
     std::string bytes;
     std::size_t entries;
@@ -73,7 +73,7 @@ const Load& usual()
     return load;
 }
 
-/// Nanoseconds of one of the load's parses.
+/// Nanoseconds of one parse, averaged over the load's parses.
 template <typename Work>
 double timed(const Load& load, const Work& work)
 {
@@ -107,14 +107,14 @@ double tree(const Load& load)
     });
 }
 
-/// Bytes that the allocator has given out, also those that it mapped for one block.
+/// Bytes that the allocator has given out, including blocks that it mapped singly.
 double allocated()
 {
     const struct mallinfo2 info = ::mallinfo2();
     return static_cast<double>(info.uordblks + info.hblkhd);
 }
 
-/// Adds how the memory of parsed feeds stands to the bytes that they were made of.
+/// Adds the memory of parsed feeds, divided by the bytes from which they were parsed.
 void measureMemory(bench::Rows& rows, std::string_view name, const std::vector<std::string>& feeds)
 {
     std::vector<XMLElement> kept;
@@ -150,7 +150,7 @@ BENCHMARK_CAPTURE(parse, tree200, &tree, &usual)->Name("libxml2's tree, 200 KB")
 
 constexpr std::size_t floodBytes = 10'000'000;
 
-/// Processor time, whatever comes of it.
+/// Nanoseconds of the thread's processor time, whether or not the parse succeeds.
 double floodTime(const std::string& bytes)
 {
     ::malloc_trim(0);

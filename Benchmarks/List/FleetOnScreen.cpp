@@ -16,7 +16,7 @@ namespace lodestar::bench
 namespace
 {
 
-constexpr int refreshLimit = 600'000; // milliseconds; beyond it something hangs
+constexpr int refreshLimit = 600'000; // milliseconds; a refresh that takes longer hangs
 constexpr int tick = 1;               // milliseconds
 
 bool isSettled()

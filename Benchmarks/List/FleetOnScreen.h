@@ -9,21 +9,21 @@ namespace lodestar::bench
 
 struct Refresh {
     double nanoseconds = 0;
-    double longestGap = 0; ///< milliseconds in which the main thread did not come back to its loop
-    int online = 0;        ///< consoles that are so afterwards
+    double longestGap = 0; ///< milliseconds during which the main thread did not return to its loop
+    int online = 0;        ///< how many consoles are online afterwards
 };
 
-/// Simulated consoles, their list, and the window that shows it. Main thread.
+/// Simulated consoles, their list, and the window that shows the list. Main thread.
 class FleetOnScreen
 {
 public:
-    /// Lists the consoles; none has been asked for anything yet.
+    /// Lists the consoles, but asks none of them for anything.
     explicit FleetOnScreen(const simulator::Settings& settings);
 
     simulator::SimulatorProcess& simulator() { return m_simulator; }
     void openDashboard() { m_stage.tabs().setSelectedIndex(1); }
     void closeDashboard() { m_stage.tabs().setSelectedIndex(0); }
-    /// A pull, until it has settled for every console; throws when it does not within ten minutes.
+    /// Pulls the list to refresh it and waits until every console has settled. Throws after ten minutes.
     Refresh refresh();
 
 private:

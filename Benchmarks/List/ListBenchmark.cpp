@@ -2,8 +2,8 @@
 #include "Benchmarks/List/FleetOnScreen.h"
 #include "Benchmarks/List/ScreenProgram.h"
 
-// The console list on a screen while every console of a fleet is refreshed: the frames are drawn by the main thread, so
-// what holds it up is seen here.
+// Shows the console list while every console of a fleet is refreshed. The main thread draws the frames, so whatever
+// holds that thread up shows in them.
 
 namespace lodestar
 {
@@ -11,7 +11,7 @@ namespace lodestar
 namespace
 {
 
-/// Consoles of six feeds of 200 KB, logged on to and fetched once.
+/// Consoles with six feeds of 200 KB each, logged on to and fetched once.
 class LargeFleet
 {
 public:

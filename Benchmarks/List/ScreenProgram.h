@@ -9,7 +9,7 @@
 namespace lodestar::bench
 {
 
-/// What a program that draws stands on, without a display. To be made first in `main`.
+/// What a program needs in order to draw without a display. Make it first in `main`.
 class Screen
 {
 public:

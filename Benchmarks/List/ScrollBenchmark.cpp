@@ -15,8 +15,8 @@
 #include <cstring>
 #include <stdexcept>
 
-// Long lists on a screen: what a frame of scrolling costs beside the same of a short list, what a keystroke of a search
-// costs beside reading the names once, and how many connections a list of look-ups takes.
+// Measures long lists on a screen: a frame of scrolling against one of a short list, a search's keystroke against
+// reading the names once, and the number of connections that a list of look-ups takes.
 
 namespace lodestar
 {
@@ -46,7 +46,7 @@ CorvelRef consoleOfSystems(int systems)
     return scenes::demoConsole({{"ManagedSystem", xml + "</feed>"}});
 }
 
-/// The managed systems of a console in a window, until it is destroyed.
+/// A console's list of managed systems, which stands in a window until this object is destroyed.
 class ListOnScreen
 {
 public:
@@ -74,17 +74,17 @@ public:
 
     MSListViewController& controller() const { return m_list; }
 
-    /// Nanoseconds of the processor that a frame takes, the mean of those at the list's head, in its middle and at its
-    /// end: every second frame brings a row, so that a median would be of no kind of frame. Long and short lists are
-    /// gone through in the same way.
+    /// Nanoseconds of the processor per frame: the mean of the list's head, middle and end. Not the median: every
+    /// second frame brings a row, so a median would belong to neither kind of frame. Long and short lists are scrolled
+    /// alike.
     double scroll() const { return (scrollFrom(0) + scrollFrom(0.5) + scrollFrom(1)) / 3; }
 
 private:
     static constexpr int steps = 120;
     static constexpr double step = 33; // points
 
-    /// Goes to a place, from the first one (0) to the last one (1) that has the room, and from there some screens down
-    /// and up again, as fast as a flick.
+    /// Goes to a place in the list, from 0 at its head to 1 at its end, and scrolls some screens down and up again from
+    /// there, as fast as a flick. The end leaves room for that.
     double scrollFrom(double place) const
     {
         const double height = m_flickable->property("contentHeight").toDouble();
@@ -109,8 +109,8 @@ private:
         return total / frames;
     }
 
-    /// Polishes and draws what changed, as when the window asks for its next frame, and lets rows go that were left,
-    /// which would otherwise be moved along with every frame that follows.
+    /// Polishes and draws what changed, as when the window asks for its next frame. Also frees the rows that were
+    /// scrolled away, which every later frame would move along otherwise.
     void drawFrame() const
     {
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
@@ -123,7 +123,7 @@ private:
     QQuickItem* m_flickable = nullptr;
 };
 
-/// How many of the names, each ended by a line feed, contain the text.
+/// How many of the names contain the text. A line feed ends each name.
 std::size_t plainSearch(const std::string& names, std::string_view text)
 {
     std::size_t found = 0;
@@ -143,7 +143,7 @@ std::size_t plainSearch(const std::string& names, std::string_view text)
 
 void measureScrolling(bench::Rows& rows, scenes::SceneStage& stage, const CorvelRef& corvel)
 {
-    // Lists are opened seconds apart, in which a machine's speed changes.
+    // The two lists are opened seconds apart, and a machine's speed changes meanwhile: hence many repetitions.
     constexpr std::size_t repetitions = 31;
     const CorvelRef few = consoleOfSystems(shortList);
     const auto times = bench::medianInterleaved(
@@ -233,7 +233,7 @@ void measureRows(bench::Rows& rows)
     measureHandshakes(rows, stage);
 }
 
-/// The rows from the stored feed, on the main thread as after a fetch.
+/// Makes the rows from the stored feed on the main thread, as after a fetch.
 void makeList(benchmark::State& state)
 {
     const scenes::SceneStage stage;
@@ -246,7 +246,7 @@ void makeList(benchmark::State& state)
 }
 BENCHMARK(makeList)->Unit(benchmark::kMillisecond);
 
-/// Of a list that was made on the main thread: reads the names, too.
+/// The first search in a list that was made on the main thread, which also reads the names.
 void searchFirst(benchmark::State& state)
 {
     const scenes::SceneStage stage;
@@ -262,12 +262,12 @@ void searchFirst(benchmark::State& state)
 }
 BENCHMARK(searchFirst)->Unit(benchmark::kMillisecond);
 
-/// A line that nobody listens to but the file, from far down a stack, as when a list is made.
+/// Logs a line that goes only to the file, from deep in the stack, as when a list is made.
 [[gnu::noinline]] void logLines(benchmark::State& state, int depth)
 {
     if (depth > 0) {
         logLines(state, depth - 1);
-        benchmark::ClobberMemory(); // no tail call
+        benchmark::ClobberMemory(); // prevents a tail call
         return;
     }
     for ([[maybe_unused]] auto iteration : state) {

@@ -11,8 +11,8 @@
 #include <string>
 #include <string_view>
 
-// What only shows in the long run: a very large fleet, and a day's pulls. Each is measured in a process of its own,
-// whose memory is then its alone.
+// Measures what shows only in the long run: a very large fleet, and a day's pulls. Each is measured in a process of its
+// own, whose memory is then used by nothing else.
 
 namespace lodestar
 {
@@ -21,17 +21,17 @@ namespace
 {
 
 constexpr int warmUp = 600;
-constexpr int pulls = 10 * 3600 / 5; ///< ten hours of one every five seconds, without the seconds between
+constexpr int pulls = 10 * 3600 / 5; ///< ten hours' worth at one every five seconds, but without waiting between
 constexpr int pullsBetweenSamples = 20;
 
-/// Two numbers that a measured process tells.
+/// The two numbers that a measured process prints.
 struct Figures {
     double first = 0;
     double second = 0;
 };
 
-/// Peak memory a console, and seconds, of the first refresh of so many, among them some that refuse the logon, cut a
-/// feed or damage it.
+/// The first refresh of so many consoles, some of which refuse the logon, cut a feed or damage a feed. The figures are
+/// the peak memory per console and the seconds.
 Figures refreshOfFleet(int consoles)
 {
     simulator::Settings settings;
@@ -63,7 +63,7 @@ Figures refreshOfFleet(int consoles)
     return {(memory("VmHWM") - before) / consoles, refresh.nanoseconds / 1e9};
 }
 
-/// Resident memory after the warm-up and at the end. All the while consoles fail in one way or another and come back.
+/// Resident memory after the warm-up and at the end. All the while some consoles fail in various ways and recover.
 Figures memoryOfPulls()
 {
     constexpr std::array faults = {"refuseLogon:0",
@@ -101,7 +101,7 @@ Figures memoryOfPulls()
     return {bench::median(early), bench::median(late)};
 }
 
-/// What this program tells when it is run in that mode.
+/// The figures that this program prints when it is run in the mode.
 Figures measured(const QStringList& mode)
 {
     QProcess process;
@@ -111,7 +111,7 @@ Figures measured(const QStringList& mode)
     bench::require(process.waitForFinished(limit) && process.exitStatus() == QProcess::NormalExit &&
                        process.exitCode() == 0,
                    "a measured process failed");
-    // The transport writes lines of its own before.
+    // The transport prints lines of its own before the figures.
     const QList<QByteArray> words = process.readAllStandardOutput().simplified().split(' ');
     return {words.at(words.size() - 2).toDouble(), words.back().toDouble()};
 }

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-// What it costs to make a chart's series of the metrics of a system with many partitions, beside the parser alone on
-// the same bytes: a fresh parser each time, as a client that fetches one document has it.
+// Measures how long it takes to make a chart's series from the metrics of a system with many partitions, against the
+// parser alone on the same bytes. The parser is new each time, as in a client that fetches a single document.
 #include "Benchmarks/Program.h"
 #include "Inventory/Metrics/MetricsReduction.h"
 #include "Simulator/Metrics.h"

@@ -146,7 +146,7 @@ void oneThenEach()
     done.acquire();
 }
 
-/// A registered benchmark runs the function as it is.
+/// Runs the function as a registered benchmark.
 template <void (*function)()>
 void run(benchmark::State& state)
 {
@@ -164,7 +164,7 @@ BENCHMARK(run<chainOfQtPoolTasks>)->Name("chain of 100, QThreadPool tasks")->Use
 BENCHMARK(run<joined>)->Name("all: of 1,000")->UseRealTime();
 BENCHMARK(run<oneThenEach>)->Name("one then each, 1,000")->UseRealTime();
 
-/// The function, so many times in one measurement.
+/// A function that runs the given one this many times, for one measurement.
 auto times(int count, void (*function)())
 {
     return [count, function] {

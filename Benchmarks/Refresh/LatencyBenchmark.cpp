@@ -14,9 +14,9 @@
 #include <map>
 #include <string>
 
-// A refresh through a network with a length: logon or session check, then six feeds of 200 KB, of every console of a
-// fleet. Ours and curl's run as whole processes in turn. Ours refreshes twice: the second time, keys and connections
-// are known.
+// Refreshes every console of a fleet over a simulated network with a round trip: a logon or session check, then six
+// feeds of 200 KB. Our client and curl run in turn, each as a whole process. Ours refreshes twice: the second time,
+// session keys and connections exist already.
 
 namespace lodestar
 {
@@ -30,9 +30,9 @@ using bench::runProgram;
 using namespace std::chrono_literals;
 
 constexpr auto longestRun = std::chrono::minutes(10);
-/// So short a network, in milliseconds, tells what the work alone takes, that of the simulated network included.
+/// Milliseconds of a round trip so short that the time is mostly work, the simulated network's work included.
 constexpr int nearby = 4;
-/// Consoles at the front of a fleet that misbehave, and are not waited for.
+/// So many consoles at the front of the fleet misbehave; a refresh does not wait for them.
 constexpr std::size_t badConsoles = 2;
 
 double nanoseconds(std::chrono::steady_clock::duration duration)
@@ -40,7 +40,7 @@ double nanoseconds(std::chrono::steady_clock::duration duration)
     return std::chrono::duration<double, std::nano>(duration).count();
 }
 
-// ---- What a measured process of ours does.
+// ---- The measured process, with our client.
 
 using Clock = std::chrono::steady_clock;
 
@@ -97,8 +97,8 @@ double ownFeed(const CorvelRef& corvel)
     return nanoseconds(Clock::now() - start);
 }
 
-/// The slowest of three, asked for at different moments of a refresh: while the checks are under way, while the feeds
-/// are asked for, and while they come.
+/// The slowest of three single feeds, requested at different moments of a refresh: during the session checks, while the
+/// feeds are requested, and while they arrive.
 double ownFeedDuringRefresh(const std::vector<CorvelRef>& corvels, std::chrono::milliseconds roundTrip)
 {
     double slowest = 0;
@@ -112,17 +112,18 @@ double ownFeedDuringRefresh(const std::vector<CorvelRef>& corvels, std::chrono::
     return slowest;
 }
 
-/// Writes when the first refresh had ended (the clock's own nanoseconds), how long the second took, and, when asked
-/// for, how long a feed takes by itself and during a refresh.
+/// Writes into a file beside `path` when the first refresh ended (nanoseconds of the clock) and how long the second
+/// took; on request also how long a single feed takes, alone and during a refresh.
 int refreshTwice(const std::string& path, std::size_t ignored, int ownFeedAtRoundTrip)
 {
-    // The transport says on standard output what it does.
+    // The transport logs to standard output.
     bench::require(std::freopen("/dev/null", "w", stdout) != nullptr, "no /dev/null");
     const std::vector<CorvelRef> corvels = readConsoles(path);
     await(refresh(corvels, ignored));
     const auto firstEnd = Clock::now();
     requireFeeds(corvels, ignored);
-    // The bad ones' first requests are under way still: a second refresh of them would be another thing.
+    // The bad consoles' first requests are still under way, so that a second refresh of these would be a different
+    // case.
     const std::vector<CorvelRef> good(corvels.begin() + static_cast<std::ptrdiff_t>(ignored), corvels.end());
     const auto secondStart = Clock::now();
     await(refresh(good, 0));
@@ -139,7 +140,7 @@ int refreshTwice(const std::string& path, std::size_t ignored, int ownFeedAtRoun
     return times.flush() ? 0 : 1;
 }
 
-// ---- The measuring process.
+// ---- The measuring process, with simulator and reference.
 
 struct Times {
     double first = 0;
@@ -148,8 +149,8 @@ struct Times {
     double feedDuringRefresh = 0;
 };
 
-/// The last console, which a person asks, has a process of its own, as a real one is a machine of its own. In the
-/// process of all the others the person's request would wait for the answers to theirs.
+/// The last console, which is the one that a person asks, has a simulator process of its own: a real console is a
+/// machine of its own. In the others' process the person's request would wait for the answers to their requests.
 class Fleet
 {
 public:
@@ -165,7 +166,7 @@ public:
         settings.events = 120;
         settings.groups = 120;
         settings.feedBytes = 200'000;
-        settings.gzip = false; // curl would be sent ten times as much
+        settings.gzip = false; // otherwise curl would receive ten times what our client does
         settings.recordCap = 0;
         settings.stalls = stalls;
         if (bad) {
@@ -274,7 +275,7 @@ private:
     simulator::SimulatorProcess m_simulator;
     simulator::SimulatorProcess m_last;
     std::vector<std::string> m_addresses;
-    std::vector<std::string> m_keys; ///< of the good consoles
+    std::vector<std::string> m_keys; ///< only the good consoles'
 };
 
 struct Medians {
@@ -305,7 +306,7 @@ Medians measure(const Fleet& fleet, int repetitions, bool ownFeedToo)
     return {{median(first), median(second), median(alone), median(during)}, median(curl)};
 }
 
-/// A network's waiting is the same every time: where it outweighs the work, few repetitions tell as much as many.
+/// A network's delay is the same each time. Where it outweighs the work, few repetitions are enough.
 int repetitionsFor(int consoles, int roundTrip)
 {
     if (roundTrip == 0) {
@@ -349,7 +350,7 @@ void measureRows(bench::Rows& rows)
     const Medians stalled = measure(stalling, 3, false);
     rows.add("50 consoles, 1000 ms, one piece of a hundred late: first refresh / curl --parallel", stalled.ours.first,
              stalled.curl, 1.1);
-    // A late piece costs two round trips. Of so many pieces, two of one feed are likely to be late.
+    // A late piece costs two round trips. With this many pieces, some feed is likely to have two late ones.
     rows.add("50 consoles, 1000 ms, one piece of a hundred late: second refresh / two round trips and two late pieces",
              stalled.ours.second, 6e9, 1.15);
 }

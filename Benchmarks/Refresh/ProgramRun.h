@@ -16,13 +16,13 @@ extern char** environ;
 namespace lodestar::bench
 {
 
-/// What a refresh asks a console for.
+/// The feeds that a refresh requests from a console.
 constexpr std::array<std::string_view, 6> feedPaths = {
     "uom/ManagementConsole", "uom/ManagedSystem",    "uom/VirtualIOServer",
     "uom/LogicalPartition",  "sem/ServiceableEvent", "uom/Group",
 };
 
-/// Runs a program to its end; nanoseconds. Throws when it fails.
+/// Runs a program to its end and returns how many nanoseconds that took. Throws when the program fails.
 inline double runProgram(const std::vector<std::string>& command)
 {
     std::vector<char*> arguments;

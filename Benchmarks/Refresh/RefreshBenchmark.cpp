@@ -18,8 +18,8 @@
 #include <sys/resource.h>
 #include <unistd.h>
 
-// Ours and the reference run as whole processes in turn, each with its own start and its own handshakes. The addresses,
-// session keys and certificates are laid out in a file by this program, which also runs the simulator.
+// Our client and the reference run in turn, each as a whole process with its own start and its own handshakes. This
+// program also runs the simulator, and writes addresses, session keys and certificate fingerprints into files for them.
 
 namespace lodestar
 {
@@ -36,7 +36,7 @@ constexpr int lookUps = 200;
 struct Console {
     std::string address;
     std::string key;
-    std::string fingerprint; ///< lower-case hexadecimal
+    std::string fingerprint; ///< in lower-case hexadecimal
 };
 
 ServerTrust::Fingerprint fingerprintOf(const std::string& hex)
@@ -48,11 +48,11 @@ ServerTrust::Fingerprint fingerprintOf(const std::string& hex)
     return leaf;
 }
 
-// ---- What a measured process of ours does.
+// ---- The measured process, with our client.
 
 std::vector<Console> readConsoles(const std::string& path)
 {
-    // A store of its own, beside the one of the measuring process.
+    // The store of the measuring process must not be shared.
     StoreStack::shared().setApplicationDocumentsDirectory(fs::path(path).parent_path().string() + "/measured");
     std::vector<Console> consoles;
     std::ifstream file(path);
@@ -64,7 +64,7 @@ std::vector<Console> readConsoles(const std::string& path)
     return consoles;
 }
 
-/// Fetches and counts every console as a refresh does, and prints the memory that this took.
+/// Fetches and counts every console as a refresh does. Writes the memory that this took into a file beside `path`.
 int refreshAll(const std::string& path)
 {
     const std::vector<Console> consoles = readConsoles(path);
@@ -118,9 +118,9 @@ int lookUpAll(const std::string& path, const std::string& link)
     return 0;
 }
 
-// ---- The measuring process.
+// ---- The measuring process, with simulator and reference.
 
-/// A fleet whose consoles are logged on to, with the files that the measured processes read.
+/// A fleet with a session on each console, and the files that the measured processes read.
 class Fleet
 {
 public:
@@ -135,7 +135,7 @@ public:
         settings.events = 120;
         settings.groups = 120;
         settings.feedBytes = 200'000;
-        settings.gzip = false; // curl would be sent ten times as much
+        settings.gzip = false; // otherwise curl would receive ten times what our client does
         settings.recordCap = 0;
         m_simulator.start(settings);
         logOn();
@@ -153,7 +153,7 @@ public:
     {
         return runProgram({"curl", "-q", "-K", m_scratch.file(configuration)});
     }
-    /// Peak resident memory and retained feeds of the last refresh, in bytes.
+    /// The last refresh's peak resident memory and the memory of its feeds, in bytes.
     std::pair<double, double> memory() const
     {
         std::pair<double, double> bytes{0, 0};

@@ -5,7 +5,7 @@
 
 #include <cstdio>
 
-/// Shows one screen, says "first frame" on standard output when it is there, and ends.
+/// Shows one screen, prints "first frame" when that screen is drawn, and ends.
 int main(int argc, char** argv)
 {
     const QGuiApplication application(argc, argv);

@@ -27,26 +27,27 @@ namespace
 using Clock = std::chrono::steady_clock;
 using namespace std::chrono_literals;
 
-constexpr auto patience = 60s; // For one start; beyond it something hangs.
+constexpr auto patience = 60s; // for one start; a start that takes longer hangs
 constexpr const char* marker = "first frame\n";
 
-/// Thrown rather than exited with, so that the folders go.
+/// Throws rather than exits, so that the scratch folders are removed.
 [[noreturn]] void fail(const std::string& what)
 {
     throw std::runtime_error(what);
 }
 
-/// Where one program keeps its settings and files. The first start fills it; the later ones find what a user's second
-/// start finds.
+/// The folder in which one program keeps its settings and files. The first start fills it, so that later starts find
+/// what a user's second start finds.
 using Home = lodestar::ScratchFolder;
 
-/// No start that is measured shows the tour: it lies over the list, and comes until someone has gone through it.
+/// Keeps the tour from showing in measured starts. The tour lies over the list and comes back until a person has gone
+/// through it.
 void rememberTour(const Home& home)
 {
     lodestar::FileUserDefaults(home.file("Lodestar.defaults")).setBool(true, "showedPreview");
 }
 
-/// This environment, but without a display, with the software renderer, and with everything kept in `home`.
+/// This process's environment, but without a display, with the software renderer, and with all files kept in `home`.
 std::vector<std::string> environmentIn(const std::string& home)
 {
     const std::vector<std::pair<std::string, std::string>> own = {
@@ -79,7 +80,7 @@ std::vector<char*> pointersTo(std::vector<std::string>& texts)
     return result;
 }
 
-/// Whether the marker came before the output ended or the patience did; reads no further than that.
+/// Waits for the marker and reads no further. False when the output ends or the deadline passes first.
 bool awaitMarker(int output, Clock::time_point deadline)
 {
     std::string text;
@@ -100,8 +101,8 @@ bool awaitMarker(int output, Clock::time_point deadline)
     return true;
 }
 
-/// Nanoseconds from starting the program to its saying that the first frame is shown. Waits for its end as well, so
-/// that one program's shutting down is not part of the next one's start.
+/// Nanoseconds from starting the program until it says that the first frame is shown. Also waits for the program's end,
+/// so that its shutdown does not slow the next start.
 double nanosecondsToFirstFrame(const std::filesystem::path& program, const Home& home)
 {
     int ends[2];
@@ -131,7 +132,7 @@ double nanosecondsToFirstFrame(const std::filesystem::path& program, const Home&
     if (!shown) {
         kill(child, SIGKILL);
     } else {
-        // What it still prints while it shuts down must not block it.
+        // Read the rest, so that printing cannot block the program's shutdown.
         char buffer[4096];
         while (read(ends[0], buffer, sizeof buffer) > 0) {
         }
@@ -155,7 +156,7 @@ try {
     const Home ourHome;
     const Home bareHome;
     rememberTour(ourHome);
-    // A start is short and a busy machine's scheduling is not: many repetitions cost little and steady the median.
+    // A start is short, and a busy machine delays some: many repetitions cost little and steady the median.
     constexpr std::size_t repetitions = 41;
     const auto medians = lodestar::bench::medianInterleaved(
         [&] { return nanosecondsToFirstFrame(folder / "lodestar", ourHome); },

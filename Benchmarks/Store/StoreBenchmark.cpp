@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-// What a save costs after each console of a full refresh, beside the same transactions in plain SQLite calls.
+// Measures the saves after each console of a full refresh, against the same transactions in plain SQLite calls.
 //
-// Each run goes through 5,000 consoles and gives each a version that it did not have, with one save, so one durable
-// transaction, a console. Opening and closing are not measured. Both stores are of the same schema and size, on the
-// same disk, with the same settings; the reference keeps its three statements prepared.
+// Each run goes through 5,000 consoles, gives each one a new version and saves it, which makes one durable transaction
+// per console. Opening and closing are not measured. Both stores have the same schema, size, disk and settings; the
+// reference keeps its three statements prepared.
 #include "Application/Model/Corvel.h"
 #include "Application/Model/StoreStack.h"
 #include "Benchmarks/Program.h"
@@ -51,7 +51,7 @@ std::string makeStore(const std::string& path)
     return path;
 }
 
-/// A text of constant length that is another one in each run.
+/// A text that differs in each run and always has the same length.
 std::string version(int run)
 {
     return "V8R8." + std::to_string(100000 + run) + ".0.SP1";
