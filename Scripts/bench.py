@@ -11,7 +11,7 @@ import tempfile
 
 PROGRAMS = ["PromiseBenchmark", "FeedBenchmark", "MetricsBenchmark", "StoreBenchmark", "RefreshBenchmark", "LatencyBenchmark",
             "ListBenchmark", "ScrollBenchmark", "StartBenchmark", "ChartsBenchmark"]
-# A quarter of an hour and more: run when asked for.
+# Takes a quarter of an hour or longer, so it runs only when asked for.
 LONG = ["SoakBenchmark"]
 
 

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: Apache-2.0
-# What ./run, ./test and ./bench share. Sourced by them from the top of the checkout.
+# Functions for ./run, ./test and ./bench, which source this file from the top of the checkout.
 
 say() { printf '%s\n' "lodestar: $*" >&2; }
 die() {
@@ -7,7 +7,8 @@ die() {
     exit 1
 }
 
-# Installs what Packaging/debian-packages.txt lists and the machine lacks. Elsewhere than on Debian the list is for people.
+# Installs the packages of Packaging/debian-packages.txt that the machine lacks. On other systems than Debian a person
+# must install them.
 install_packages() {
     command -v dpkg-query >/dev/null || {
         say "not a Debian system; the libraries that Packaging/debian-packages.txt names must be there"

@@ -1,8 +1,8 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""Provokes every fault of the table against the real client, each row in a process of its own, and prints a line a row:
-how often it was provoked, how often that was survived, the process's peak memory, and whether anything stored was lost.
-A row is one of FaultRows or tests that provoke the fault themselves and say how often."""
+"""Provokes every fault of the table against the real client, each row in a process of its own. For each row prints how
+often the fault was provoked, how often the client survived it, the process's peak memory, and whether anything stored
+was lost. A row runs the program FaultRows, or tests that provoke the fault themselves and report how often."""
 
 import argparse
 import dataclasses
@@ -17,16 +17,16 @@ import tempfile
 import time
 
 DRIVE = "FaultRows"
-PASSWORD = "lantern-7-quay"  # of every simulated console
+PASSWORD = "lantern-7-quay"  # what every simulated console accepts
 
 
 @dataclasses.dataclass
 class Row:
     fault: str
     must: str
-    runs: list  # of (program, what of it)
+    runs: list  # pairs of a program and the mode or tests that it runs
     seconds: int = 600
-    filled: bool = True  # fresh memory is, with a pattern: not where memory is judged, since that touches all of it
+    filled: bool = True  # fills fresh memory with a pattern; off where peak memory counts, since filling uses it all
 
 
 ROWS = [
@@ -86,7 +86,7 @@ class Found:
 
 
 class Run:
-    """One program at work on a row."""
+    """One program that runs for a row."""
 
     def __init__(self, build, program, what, row):
         self.name = f"{program} {what}"
@@ -103,7 +103,7 @@ class Run:
         self.peak = 0
 
     def wait(self):
-        """Until it has ended or was ended; what it found."""
+        """Waits until the program has ended, or kills it when its time is up. Returns what it found."""
         while self.process.poll() is None and time.monotonic() < self.end:
             self.notePeak()
             time.sleep(0.02)
@@ -145,7 +145,7 @@ class Run:
         return Found(told["tries"], told["survived"], told["peak"], told["ratio"], told["lost"] > 0)
 
     def read_tests(self):
-        """A test counts as often as it says that it provoked its fault, or once."""
+        """Counts each test as often as the test says that it provoked its fault; once when it says nothing."""
         found = Found()
         report = json.loads(self.report.read_text()) if self.report.exists() else {}
         for suite in report.get("testsuites", []):
@@ -211,7 +211,7 @@ def main():
     parser.add_argument("only", nargs="*", help="parts of the names of rows to run instead of all")
     arguments = parser.parse_args()
     rows = [row for row in ROWS if not arguments.only or any(part in row.fault for part in arguments.only)]
-    # The row that does nothing but wait does so beside the others.
+    # The row that only waits is started now, and waits while the others run.
     waiting = {id(row): [Run(arguments.build, *run, row) for run in row.runs]
                for row in rows if row.runs[0] == (DRIVE, "waits")}
     results = []

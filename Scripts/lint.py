@@ -12,7 +12,7 @@ import re
 import subprocess
 import sys
 
-# From the bottom up. A module may include itself and what stands in its row's set.
+# The modules from the bottom up. A module may include its own files and those of the modules in its row's set.
 PLATFORM = {"Platform"}
 BELOW = {
     "Platform": set(),
@@ -44,7 +44,7 @@ def tracked(source, *endings):
 
 
 def module_of(path):
-    """The module of a path below Shared/, the longest name first, or none."""
+    """The module of a path below Shared/, or none. The longest module name that fits wins."""
     for module in sorted(BELOW, key=len, reverse=True):
         if path.startswith(module + "/"):
             return module
@@ -81,7 +81,7 @@ def check_includes(source, _build):
 
 
 def check_elements(source, _build):
-    """Only the inventory knows what consoles call things. The answer to a logon is the client's own."""
+    """Only the inventory may read elements by the consoles' names; the client itself reads the answer to a logon."""
     reads = re.compile(r"\.(child|childCount|children|attribute|member)\([^)]|\.path\(\{")
     readers = ("Shared/XML/", "Shared/Inventory/", "Shared/Controllers/REST/RESTSupport.cpp")
     return [f"{path}:{number}: reads an element above the inventory: {row.strip()}"
@@ -101,7 +101,7 @@ def check_licences(source, _build):
 
 
 def check_texts(source, _build):
-    """Loose ends and stray bytes."""
+    """Finds notes of unfinished work, tests that check nothing, and stray bytes."""
     faults = []
     loose = re.compile(r"\b(TO" r"DO|FIX" r"ME|XX" r"X)\b|SUCC" r"EED\(\)|GTEST_" r"SKIP|DISABLED" r"_")
     for path in tracked(source, *TEXT_ENDINGS):
@@ -119,7 +119,7 @@ def check_texts(source, _build):
 
 
 def check_claims(source, _build):
-    """Each test, folder and file that a page names exists."""
+    """Finds tests, folders and files that a page names but that do not exist."""
     tests = set()
     for path in tracked(source, ".cpp", ".h"):
         if path.parts[0] == "Tests":
@@ -136,7 +136,7 @@ def check_claims(source, _build):
 
 
 def dependencies(build):
-    """Object file -> the files that it was built from, as ninja recorded them."""
+    """For each object file the files from which it was built, as ninja recorded them."""
     done = subprocess.run(["ninja", "-C", build, "-t", "deps"], check=True, stdout=subprocess.PIPE, text=True)
     found, current = {}, None
     for row in done.stdout.splitlines():
@@ -148,8 +148,9 @@ def dependencies(build):
 
 
 def check_tidy(source, build):
-    """clang-tidy over the program, the simulator, the tools and the benchmarks, skipping files unchanged, with all they include,
-    since they last passed. The tests are left to the compiler: their macros would take most of the time."""
+    """Runs clang-tidy over the program, the simulator, the tools and the benchmarks. Skips a file that passed before if
+    neither the file nor anything that it includes has changed. Leaves out the tests: their macros would take most of
+    the time."""
     commands = json.loads((build / "compile_commands.json").read_text())
     objects = dependencies(build)
     cache = build / "tidy-passed"

@@ -1,26 +1,27 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""notices.py FOLDER NAME=FILE...: writes FOLDER/NAME.txt for every licence file that is given, and removes what else is
-there. The words stay as they are; the packagers' indentation goes, and lines that were broken for a wide terminal are
-joined, since a phone breaks them elsewhere. Ends with a message for a file that cannot be read or names nothing."""
+"""notices.py FOLDER NAME=FILE...: writes FOLDER/NAME.txt for every licence file given, and removes other files from
+FOLDER. Keeps the words, drops the packagers' indentation, and joins lines that were broken for a wide terminal, since a
+phone breaks them elsewhere. Ends with a message when a name is too short or a file is empty or cannot be read."""
 
 import pathlib
 import re
 import sys
 
-# A line at least this long was broken for its length, not for its meaning.
+# A line at least this long was broken because it was full, so the next line continues it.
 FULL_LINE = 58
-# The start of a line that begins something of its own: a list's item, a year, a copyright, a field.
+# How a line starts that never continues the one before: with a list's mark, a year, a copyright or a field's name.
 OWN_LINE = re.compile(r"[-*•#=]|[0-9]{4}\b|\(?[0-9a-zA-Z]{1,3}[.)]\s|Copyright\b|©|[A-Z][A-Za-z-]+: ?")
-# Text that is indented more is a column of names, and still more a heading in the middle of its line.
+# Columns of indentation. Running text has at most the first number, a column of names at most the second; what is
+# indented further is a centred heading.
 DEEPEST_TEXT = 5
 DEEPEST_COLUMN = 12
-# The screen takes the ending off a file's name, so that a name needs more than the ending has.
+# The screen cuts the four characters of the ending off a file's name; no shorter name is accepted.
 SHORTEST_NAME = 4
 
 
 def without_indentation(row):
-    """A row of a machine-readable copyright file: continued fields are indented by one, their empty rows hold a dot."""
+    """The text of a row in a machine-readable copyright file: one space continues a field, a dot is an empty row."""
     if row.rstrip() == " .":
         return ""
     return row[1:].rstrip() if row.startswith(" ") else row.rstrip()

@@ -1,5 +1,5 @@
 # SPDX-License-Identifier: Apache-2.0
-# Compiler settings and the three functions by which modules, tests and benchmarks are declared.
+# Compiler settings, and the functions that declare modules, tests, benchmarks and fuzzers.
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -17,13 +17,13 @@ if(LODESTAR_CCACHE)
   set(CMAKE_CXX_COMPILER_LAUNCHER ${LODESTAR_CCACHE})
 endif()
 
-# The language and warning settings of every target of ours; generated code gets none of the warnings.
+# Language and warning settings of our own targets. Generated code is compiled without these warnings.
 add_library(lodestar_settings INTERFACE)
 target_compile_options(lodestar_settings INTERFACE
   -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wsign-conversion -Wnon-virtual-dtor -Wold-style-cast
   -Woverloaded-virtual -Werror
   "-ffile-prefix-map=${CMAKE_SOURCE_DIR}/=")
-# GCC 12 finds an overlap in `"a" + string` that is not there when it optimises.
+# When it optimises, GCC 12 warns of an overlap in `"a" + string` that does not exist.
 target_compile_options(lodestar_settings INTERFACE
   $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)
 target_compile_definitions(lodestar_settings INTERFACE QT_NO_KEYWORDS)
@@ -31,7 +31,7 @@ target_include_directories(lodestar_settings INTERFACE "${CMAKE_SOURCE_DIR}/Shar
 find_package(Threads REQUIRED)
 target_link_libraries(lodestar_settings INTERFACE Threads::Threads)
 
-# GCC's own manual calls this warning unreliable beside its sanitizers; the other builds keep it.
+# GCC's manual calls this warning unreliable together with sanitizers. The other builds keep it.
 if(NOT LODESTAR_SANITIZE STREQUAL "" AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
   add_compile_options(-Wno-maybe-uninitialized)
 endif()
@@ -48,16 +48,16 @@ elseif(NOT LODESTAR_SANITIZE STREQUAL "")
   message(FATAL_ERROR "LODESTAR_SANITIZE must be empty, address, thread or fuzz")
 endif()
 
-# lodestar_library(<name> SOURCES ... LIBRARIES ...): a static library of Shared/; its folder's files include each
-# other and the modules below as "Platform/Error.h", that is, from Shared/.
+# lodestar_library(<name> SOURCES ... LIBRARIES ...): a static library. Its files include each other and the modules
+# below by paths from Shared/, such as "Platform/Error.h".
 function(lodestar_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LIBRARIES" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
   target_link_libraries(${name} PUBLIC lodestar_settings ${ARG_LIBRARIES})
 endfunction()
 
-# What every test runs under, whoever starts it: no display, and the sanitizers' settings. The caller's own settings do
-# not count, or a test would pass for one and fail for another.
+# The environment of every test: no display, and the sanitizers' settings. It overrides the caller's own settings, so
+# that a test gives the same result for everybody.
 set(LODESTAR_TEST_ENVIRONMENT
   QT_QPA_PLATFORM=offscreen
   QT_QUICK_BACKEND=software
@@ -66,8 +66,9 @@ set(LODESTAR_TEST_ENVIRONMENT
   UBSAN_OPTIONS=print_stacktrace=1
   TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1)
 
-# lodestar_test(<name> SOURCES ... LIBRARIES ... [LABELS ...] [TIMEOUT seconds] [SERIAL]): a GoogleTest program, one ctest
-# entry a test case. Programs with Qt in them run without a display. SERIAL is for those that play gestures in real time.
+# lodestar_test(<name> SOURCES ... LIBRARIES ... [LABELS ...] [TIMEOUT seconds] [SERIAL]): a GoogleTest program with one
+# ctest entry per test case. Programs with Qt run without a display. SERIAL is for programs that play gestures in real
+# time: they run alone.
 function(lodestar_test name)
   cmake_parse_arguments(ARG "SERIAL" "TIMEOUT" "SOURCES;LIBRARIES;LABELS" ${ARGN})
   if(NOT ARG_TIMEOUT)
@@ -78,13 +79,13 @@ function(lodestar_test name)
   add_executable(${name} ${ARG_SOURCES})
   target_include_directories(${name} PRIVATE "${CMAKE_SOURCE_DIR}")
   target_link_libraries(${name} PRIVATE lodestar_settings ${ARG_LIBRARIES} GTest::gmock GTest::gtest_main)
-  # No property may be empty: it would be dropped on the way, and the next one's name taken for its value.
+  # Pass no empty property: CMake would drop its value and take the next property's name for it.
   set(properties TIMEOUT ${ARG_TIMEOUT} RUN_SERIAL ${ARG_SERIAL})
   if(ARG_LABELS)
     list(APPEND properties LABELS ${ARG_LABELS})
   endif()
   gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 TEST_LIST ${name}_cases PROPERTIES ${properties})
-  # A list does not survive the way through the properties above: all of it but the first would be lost.
+  # The environment is a list, of which the properties above would keep only the first entry; so set it in a file.
   set(environment "${CMAKE_CURRENT_BINARY_DIR}/${name}_environment.cmake")
   file(CONFIGURE OUTPUT "${environment}" @ONLY CONTENT [[
 if(@name@_cases)

@@ -1,8 +1,8 @@
 # SPDX-License-Identifier: Apache-2.0
-# lodestar_gather_notices(<variable> <folder>): writes a notice for every library that the program is made with into the
-# folder, from the licence files that their packages install, and sets the variable to the files. A library that is added
-# to Packaging/debian-packages.txt is added here as well. Without one of the files there is no build: a program must not
-# go out without its notices.
+# lodestar_gather_notices(<variable> <folder>): writes into the folder a notice for every library of which the program
+# is made, from the licence file that the library's package installs, and sets the variable to the notices' files. A
+# library that is added to Packaging/debian-packages.txt must be added here as well. When a licence file is missing, the
+# build fails: a program must not be given away without its notices.
 find_package(Python3 3.9 REQUIRED COMPONENTS Interpreter)
 set(LODESTAR_LICENCE_FOLDER /usr/share/doc CACHE PATH "Where packages install <package>/copyright")
 set(LODESTAR_COMMON_LICENCES /usr/share/common-licenses CACHE PATH "Where the texts are that those files refer to")
