@@ -6,7 +6,7 @@
 
 #include <QQmlEngine>
 
-// Generated with the module. A static library's registration is left out by the linker unless it is named.
+// The build generates this function. The linker leaves a static library's registration out unless code names it.
 void qml_register_types_Lodestar_Views();
 
 namespace lodestar

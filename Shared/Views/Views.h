@@ -6,8 +6,8 @@ class QQmlEngine;
 namespace lodestar
 {
 
-/// Makes `import Lodestar.Views` work in the engine, and the modules that it stands on. Once an engine, before it loads
-/// anything.
+/// Makes `import Lodestar.Views` work in the engine, and the modules that Views needs. Call it once per engine, before
+/// the engine loads anything.
 void installViews(QQmlEngine& engine);
 
 } // namespace lodestar

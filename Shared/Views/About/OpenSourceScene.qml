@@ -5,7 +5,7 @@ import QtQuick
 import Lodestar.Kit
 import Lodestar.Views
 
-/// The notices, one below the other.
+/// Shows the notices one below the other.
 ReadingPage {
     id: scene
 

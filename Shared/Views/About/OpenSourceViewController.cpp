@@ -12,7 +12,7 @@ namespace
 {
 
 constexpr auto folder = "OpenSourceLicenses";
-// A dot and three letters.
+// Length of a file name's ending: a dot and three letters.
 constexpr std::size_t endingLength = 4;
 
 QString withoutEnding(const std::string& file)
@@ -30,7 +30,7 @@ void OpenSourceViewController::viewDidLoad()
 
 void OpenSourceViewController::setupLicenseView()
 {
-    // Hundreds of kilobytes are there to be read.
+    // The notices are hundreds of kilobytes, so the main thread must not read them.
     DispatchQueue::globalBackground().async([screen = self<OpenSourceViewController>()] {
         const Resources& resources = Resources::main();
         QString text;

@@ -7,7 +7,7 @@
 namespace lodestar
 {
 
-/// The notices of the libraries that the application is made with. Main thread.
+/// Shows the notices of the libraries that the application uses. Main thread.
 class OpenSourceViewController : public lodestar::ViewController
 {
     Q_OBJECT
@@ -17,9 +17,10 @@ class OpenSourceViewController : public lodestar::ViewController
 
 public:
     TextViewOutlet* licenseText() { return &m_licenseText; }
-    /// Has every file of the package's folder "OpenSourceLicenses" read into the view, each below its name without its
-    /// last four characters, in the order in which the folder lists them: they are not sorted. A folder that cannot be
-    /// read leaves the view empty, a file that cannot stands there without content.
+    /// Reads every file of the package's folder "OpenSourceLicenses" in the background and puts the texts into the
+    /// view. Above each text stands the file's name without its last four characters. The order is that in which the
+    /// folder lists its files; they are not sorted. A folder that cannot be read leaves the view empty; a file that
+    /// cannot be read has its name but no text.
     void setupLicenseView();
 
 protected:

@@ -6,7 +6,7 @@
 namespace lodestar
 {
 
-/// The maker's licence agreement, which is displayed and nothing else.
+/// Shows the maker's licence agreement. Nothing asks for consent.
 class OrnisLicenseViewController : public lodestar::RichDocumentViewController
 {
     Q_OBJECT

@@ -4,13 +4,13 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Lodestar.Kit
 
-/// A screen to be read: one card from top to bottom whose text, in pieces, only stands for as long as it is seen. Arrows,
-/// the page keys, Space, Home and End scroll.
+/// A screen for reading: one card from top to bottom. Its text is in pieces, which exist only while they are in view.
+/// Arrows, the page keys, Space, Home and End scroll.
 PageScaffold {
     id: page
 
     property alias model: list.model
-    /// As wide as `textWidth`; at `textStart`.
+    /// Draws one piece of the text; its root stands at `textStart` and is `textWidth` wide.
     required property Component delegate
     readonly property real textStart: sideMargin + Theme.rowStart
     readonly property real textWidth: width - 2 * textStart
@@ -37,7 +37,7 @@ PageScaffold {
         list.positionViewAtEnd();
         scrollTo(list.originY + list.contentHeight);
     }
-    /// Whether the key was one of the page's.
+    /// Returns whether the key was one of the page's.
     function handleKey(event: var): bool {
         const screenful = Math.max(40, list.height - 40);
         switch (event.key) {
@@ -76,15 +76,16 @@ PageScaffold {
         activeFocusOnTab: true
         keyNavigationEnabled: false
         boundsBehavior: Flickable.DragAndOvershootBounds
-        // A screenful on either side, so that a flick meets text.
+        // One screenful on either side is made ahead, so that a flick finds text.
         cacheBuffer: Math.max(0, height)
         Accessible.role: Accessible.Document
         Accessible.name: page.controller?.title ?? ""
         Keys.onPressed: (event) => event.accepted = page.handleKey(event)
-        // The text comes later than the page; a list then starts at its first row, not above it.
+        // The text comes later than the page, and a list that fills later stands at its first row, not at the margin
+        // above.
         onCountChanged: page.scrollToStart()
 
-        // Above the card and in it, below the text and the card.
+        // Each margin is the space outside the card plus the space inside it.
         topMargin: 8 + 16
         bottomMargin: 24 + Theme.groupGap
 

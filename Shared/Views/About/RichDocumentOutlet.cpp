@@ -14,7 +14,7 @@ namespace lodestar
 namespace
 {
 
-constexpr double twips = 20; // a point
+constexpr double twips = 20; // twips per point
 constexpr double readableContrast = 4.5;
 
 double linear(double component)
@@ -174,7 +174,8 @@ QString RichDocumentOutlet::runMarkup(const RichTextRun& run, double scale, cons
 QString RichDocumentOutlet::family(std::size_t font) const
 {
     const QString asked = font < m_document.fonts.size() ? QString::fromStdString(m_document.fonts[font]) : QString();
-    // A family that is not there would be drawn in whatever the system thinks of; and a name comes out of a file.
+    // A missing family is not passed on, because the system would choose some replacement. Quotes and semicolons are
+    // refused because the name comes out of a file and goes into CSS.
     return QFontDatabase::hasFamily(asked) && !asked.contains(QLatin1Char('\'')) && !asked.contains(QLatin1Char('"')) &&
                    !asked.contains(QLatin1Char(';'))
                ? asked.toHtmlEscaped()

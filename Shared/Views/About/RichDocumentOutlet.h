@@ -9,7 +9,7 @@
 namespace lodestar
 {
 
-/// How one paragraph lies on the page. Points at 100 % text.
+/// The layout of one paragraph. Lengths in points at 100 % text.
 struct RichParagraph {
     Q_GADGET
     QML_VALUE_TYPE(richParagraph)
@@ -24,18 +24,18 @@ struct RichParagraph {
     Q_PROPERTY(QString text MEMBER text)
 
 public:
-    int alignment = 0; ///< Text's
+    int alignment = 0; ///< a value of Text.horizontalAlignment
     double left = 0;
     double right = 0;
     double before = 0;
     double after = 0;
-    double size = 0; ///< of its first characters
+    double size = 0; ///< size of its first characters
     QString marker{};
     double markerLeft = 0;
-    QString text{}; ///< as it is read out
+    QString text{}; ///< plain text for screen readers
 };
 
-/// A view of a rich text: its paragraphs as a list of rows. Set from any thread, read on the main thread.
+/// A view of a rich text: a list with one row per paragraph. Set from any thread, read on the main thread.
 class RichDocumentOutlet : public QAbstractListModel
 {
     Q_OBJECT
@@ -54,8 +54,8 @@ public:
     QVariant data(const QModelIndex& index, int role) const override;
     QHash<int, QByteArray> roleNames() const override;
 
-    /// A paragraph's text with its looks, for an item that draws rich text: sizes are multiplied, and colours that
-    /// could not be read on the ground are replaced. Empty for a row that is not there.
+    /// The markup of a paragraph for an item that draws rich text. Sizes are multiplied by `scale`; colours that could
+    /// not be read on `ground` are replaced. Empty for a row that does not exist.
     Q_INVOKABLE QString markup(int row, double scale, const QColor& ground, const QColor& ink) const;
 
 private:
@@ -65,8 +65,8 @@ private:
     RichTextDocument m_document;
 };
 
-/// The colour, or where its contrast against the ground is below 4.5 the nearest shade of it that has that; greys
-/// become the ink. The document's colours were chosen for white paper.
+/// The colour itself if its contrast against the ground is at least 4.5; otherwise the nearest shade that reaches 4.5,
+/// or the ink for a grey. Needed because the document's colours were chosen for white paper.
 QColor readableColor(const QColor& color, const QColor& ground, const QColor& ink);
 
 } // namespace lodestar

@@ -5,7 +5,7 @@ import QtQuick
 import Lodestar.Kit
 import Lodestar.Views
 
-/// A rich text of the application's package.
+/// Shows a rich text of the application's package.
 ReadingPage {
     id: scene
 
@@ -18,7 +18,7 @@ ReadingPage {
         required property richParagraph paragraph
         required property int place
         readonly property real scaled: Theme.textScale
-        // Indents are spared where the text is large for its measure.
+        // Indents shrink where the text is large for the width.
         readonly property real start: Math.min(paragraph.left * scaled, scene.textWidth / 4)
         readonly property real end: Math.min(paragraph.right * scaled, scene.textWidth / 4)
 
@@ -45,7 +45,7 @@ ReadingPage {
         Text {
             id: body
 
-            // An empty line is as high as a written one.
+            // A blank gives an empty line the height of a written one.
             text: row.paragraph.text === "" ? "&nbsp;"
                                             : scene.screen.webview.markup(row.place, row.scaled, Theme.card, Theme.ink)
             textFormat: Text.RichText

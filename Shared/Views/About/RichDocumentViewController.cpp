@@ -9,7 +9,7 @@ namespace lodestar
 
 void RichDocumentViewController::setupWebView()
 {
-    // Megabytes may be there to be read.
+    // The text may be megabytes, so the main thread must not read it.
     DispatchQueue::globalBackground().async([screen = self<RichDocumentViewController>()] {
         const auto bytes = Resources::main().contents(screen->m_resource, "rtf");
         screen->webview()->setDocument(bytes ? readRichText(*bytes) : RichTextDocument());

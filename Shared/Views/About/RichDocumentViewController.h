@@ -19,11 +19,11 @@ class RichDocumentViewController : public lodestar::ViewController
 
 public:
     RichDocumentOutlet* webview() { return &m_webview; }
-    /// Has the text read and put into the view, which stays empty when there is none.
+    /// Reads the text in the background and puts it into the view, which stays empty when there is no text.
     void setupWebView();
 
 protected:
-    /// The resource's name, without its extension "rtf".
+    /// `resource` is the resource's name without the extension "rtf".
     explicit RichDocumentViewController(std::string resource) : m_resource(std::move(resource)) {}
 
 private:

@@ -10,7 +10,8 @@ namespace lodestar
 namespace
 {
 
-// Characters. A piece ends at the first empty line after the one, and at the other wherever it is.
+// In characters. A piece ends at the first empty line after `shortestPiece`, and at the latest at `longestPiece`, there
+// at a line's end if possible.
 constexpr qsizetype shortestPiece = 400;
 constexpr qsizetype longestPiece = 4000;
 
@@ -26,7 +27,7 @@ QStringList piecesOf(const QString& text)
             end = line > start ? line : start + longestPiece;
         }
         pieces.append(text.mid(start, end - start));
-        // The line feed between two pieces belongs to neither.
+        // The line feed between two pieces is dropped.
         start = end < text.size() && text[end] == QLatin1Char('\n') ? end + 1 : end;
     }
     return pieces;

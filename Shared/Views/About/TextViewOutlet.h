@@ -8,7 +8,7 @@
 namespace lodestar
 {
 
-/// A long text to be read: a view that shows it scrolls. Set from any thread, read on the main thread.
+/// A long text in a view that scrolls. Set from any thread, read on the main thread.
 class TextViewOutlet : public lodestar::ViewOutlet
 {
     Q_OBJECT
@@ -21,8 +21,9 @@ public:
     const QString& attributedText() const { return m_attributedText; }
     void setAttributedText(const QString& text);
 
-    /// The text in pieces of some paragraphs each, line feeds between: an item that drew it whole would take seconds.
-    /// They follow the text once the main queue comes to it, however often it was set meanwhile.
+    /// The text in pieces of some paragraphs each, without the line feeds between pieces: one item for the whole text
+    /// would take seconds to draw. The main queue renews the pieces after the text was set, once for any number of
+    /// changes.
     const QStringList& pieces() const { return m_pieces; }
 
 Q_SIGNALS:

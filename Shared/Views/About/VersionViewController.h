@@ -6,7 +6,7 @@
 namespace lodestar
 {
 
-/// The release notes.
+/// Shows the release notes.
 class VersionViewController : public lodestar::RichDocumentViewController
 {
     Q_OBJECT

@@ -10,10 +10,10 @@
 namespace lodestar
 {
 
-/// What a label shows of a field; empty for an absent one.
+/// A field's text for a label; empty for an absent field.
 QString textOf(const std::optional<std::string>& field);
 
-/// A row as a screen reader says it: its words in their order, the empty ones left out.
+/// A row's text for screen readers: the words in order, without the empty ones.
 QString spoken(QStringList words);
 
 } // namespace lodestar

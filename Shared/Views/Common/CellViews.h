@@ -11,11 +11,11 @@
 namespace lodestar
 {
 
-/// The views of a table cell as values: what the outlets of a controller are to a screen, these are to a row. A row is
-/// configured by making its cell anew, so nothing here notifies.
+/// The views of a table cell as values. They are to a row what a controller's outlets are to a screen. A row changes by
+/// getting a new cell, so these values notify nobody.
 
-/// A text in a cell. An invalid colour is the view's own. In a list of search results `match` is what was searched for,
-/// to be marked where the text holds it; elsewhere it is empty.
+/// A text in a cell. An invalid colour leaves the view its own colour. In a list of search results, `match` is the
+/// searched text, which is marked wherever the label contains it; elsewhere `match` is empty.
 struct CellLabel {
     Q_GADGET
     QML_VALUE_TYPE(cellLabel)
@@ -30,7 +30,7 @@ public:
     bool hidden = false;
     QString match{};
 
-    /// The text as a row draws it: a console's line ends would make the row grow.
+    /// The text in one line, because line breaks from a console would make the row grow.
     QString line() const
     {
         static const auto endsLine = [](QChar each) {
@@ -47,7 +47,7 @@ public:
     friend bool operator==(const CellLabel&, const CellLabel&) = default;
 };
 
-/// A picture in a cell, by the name of its resource.
+/// A picture in a cell, given by the name of its resource.
 struct CellImage {
     Q_GADGET
     QML_VALUE_TYPE(cellImage)
@@ -61,7 +61,7 @@ public:
     friend bool operator==(const CellImage&, const CellImage&) = default;
 };
 
-/// An activity indicator in a cell, hidden while it stands still.
+/// An activity indicator in a cell; hidden while it does not run.
 struct CellIndicator {
     Q_GADGET
     QML_VALUE_TYPE(cellIndicator)

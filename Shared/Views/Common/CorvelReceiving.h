@@ -8,14 +8,14 @@
 namespace lodestar
 {
 
-/// A screen that is opened for one console. Openers reach such screens through the storyboard, hence without knowing
-/// their type, and hand the record over through this.
+/// A screen that is opened for one console. Openers make such screens by the storyboard and do not know their type;
+/// they pass the record on through this interface.
 class CorvelReceiving
 {
 public:
     virtual ~CorvelReceiving() = default;
     const CorvelRef& corvel() const { return m_corvel; }
-    /// Before the screen is put into a container. Main thread.
+    /// To be called before the screen is put into a container. Main thread.
     virtual void setCorvel(CorvelRef corvel) { m_corvel = std::move(corvel); }
 
 private:

@@ -8,7 +8,7 @@
 namespace lodestar
 {
 
-/// A fact in a detail screen: its label over its value.
+/// A fact on a detail screen: a label over its value.
 struct DetailCell {
     Q_GADGET
     QML_VALUE_TYPE(detailCell)
@@ -19,7 +19,7 @@ struct DetailCell {
 public:
     QString textLabel;
     QString detailTextLabel;
-    /// Leads on: takes a press and shows its chevron.
+    /// Whether the row leads on: it then takes a press and shows a chevron.
     bool disclosure = false;
 
     friend bool operator==(const DetailCell&, const DetailCell&) = default;

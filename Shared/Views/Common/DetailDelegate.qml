@@ -3,7 +3,7 @@ import QtQuick
 import Lodestar.Kit
 import Lodestar.Views
 
-/// A fact: its label over its value, or before it where the window is wide.
+/// Draws a fact: the label over its value, or before it where the window is wide.
 TableCell {
     id: row
 

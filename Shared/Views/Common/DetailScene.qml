@@ -5,14 +5,14 @@ import QtQuick
 import Lodestar.Kit
 import Lodestar.Views
 
-/// A screen of facts. One that waits for them puts up its own spinner and words as children.
+/// A screen of facts. A screen that has to wait for its facts adds a spinner and a text as children.
 PageScaffold {
     id: scene
 
-    /// Stands in for the controller's title.
+    /// Replaces the controller's title; null shows the title.
     property Item titleView: null
     property BarButtonOutlet rightBarButton: null
-    /// Names the table for those who do not see the title above it.
+    /// The table's name for screen readers.
     property string label: details.title
 
     readonly property DetailViewController details: controller as DetailViewController

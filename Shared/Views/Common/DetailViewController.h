@@ -15,17 +15,17 @@
 namespace lodestar
 {
 
-/// A section of a detail screen: row strings of the form label, separator, value.
+/// A section of a detail screen: row strings of label, separator and value.
 struct DetailSection {
     QStringList data;
 };
 
-/// A screen of facts: sections of row strings, each drawn as a label over its value. Rows rest unless the screen says
-/// that one leads on. A screen of this kind calls `setTableData` and, where it has titles, overrides
+/// A screen of facts: sections of row strings, each drawn as a label over its value. A row cannot be pressed unless
+/// `leadsOn` says so. A subclass calls `setTableData` and, if its sections have titles, overrides
 /// `titleForHeaderInSection`; its scene is DetailScene, which needs no delegate. Main thread.
 ///
-/// A row is split at every separator and shows the first piece and the second. What stands behind a second separator is
-/// not shown: a value that holds the separator is cut at it, and that is meant.
+/// A row string is split at every separator, and only the first two pieces are shown. A value that contains the
+/// separator is therefore cut there; that is meant.
 class DetailViewController : public lodestar::ViewController, public TableDataSource
 {
     Q_OBJECT
@@ -41,17 +41,18 @@ public:
 
     int numberOfSections(TableKind tableView) const override;
     int numberOfRowsInSection(TableKind tableView, int section) const override;
-    /// Every section has a header; one without words is an empty header. Title by index, "" beyond.
+    /// Every section has a header. The title is taken by index; beyond the titles it is "", which gives an empty
+    /// header.
     std::optional<QString> titleForHeaderInSection(TableKind tableView, int section) const override;
     QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
-    /// Every tap ends with the row deselected; a row that leads on is `openRow`ed first.
+    /// Calls `openRow` for a row that leads on. Every tap ends with the row deselected.
     void didSelectRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
 
 protected:
-    /// Reloads the table.
+    /// Sets the sections and reloads the table.
     void setTableData(std::vector<DetailSection> sections);
     void setSectionTitles(QStringList titles) { m_sectionTitles = std::move(titles); }
-    /// What is shown as the row's value; empty for a row that is not there or has none.
+    /// The value that the row shows; empty for a row that does not exist or has no value.
     QString valueAt(IndexPath indexPath) const;
     virtual bool leadsOn(IndexPath /*indexPath*/) const { return false; }
     virtual void openRow(IndexPath /*indexPath*/) {}
@@ -59,7 +60,7 @@ protected:
     /// Serial number, machine type and model of a system or a console.
     DetailSection modelAndSerial(const MachineIdentity& machine) const;
     QString row(const QString& label, const QString& value) const;
-    /// An absent text reads "(null)".
+    /// An absent value is written as "(null)".
     QString row(const QString& label, const std::optional<std::string>& value) const;
 
 private:

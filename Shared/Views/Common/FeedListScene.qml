@@ -5,12 +5,12 @@ import QtQuick
 import Lodestar.Kit
 import Lodestar.Views
 
-/// A list of a console's feed in its three looks, with search. A screen gives the delegate of a row, and whatever it puts
-/// up itself, as children.
+/// A list of a console's feed, with its three looks and search. A screen gives the delegate of a row; its own popups
+/// are children.
 PageScaffold {
     id: scene
 
-    /// A component whose root is a TableCell; it draws the rows of both tables.
+    /// A component whose root is a TableCell; it draws rows of the list and of the search results.
     required property Component delegate
     signal swipeButtonTapped(bool inSearchResults, int section, int row, int index, bool leading)
 

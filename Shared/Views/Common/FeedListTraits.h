@@ -6,45 +6,46 @@
 namespace lodestar
 {
 
-/// A method that fetches afresh, as its failures are logged.
+/// A function that fetches afresh, as the log names it when the fetch fails.
 struct FeedFetch {
     std::string_view selector;
     int line;
 };
 
-/// When a pull's control goes back.
+/// When the control of a pull to refresh goes back.
 enum class PullEnds {
-    AtOnce,      ///< with the pull: the list's own indicator tells how the fetch goes on
+    AtOnce,      ///< at the pull; the list's own indicator shows the fetch
     OnSettlement ///< when the fetch has settled
 };
 
-/// Of hairlines, points from a row's start and end.
+/// Insets of hairlines from a row's start and end, in points.
 struct SeparatorInset {
     double left;
     double right;
 };
 
-/// How one list of a console's feed differs from the others. Texts are marked with
+/// The differences between the lists of a console's feeds. Texts are marked with
 /// QT_TRANSLATE_NOOP("FeedListViewController", …) and translated where they are shown.
 struct FeedListTraits {
-    std::string_view fileName; ///< for the log: path and class
-    int instantiationLine;     ///< of the log line of `viewDidLoad`
-    std::string_view type;     ///< of the feed
+    std::string_view fileName; ///< path and class, for the log
+    int instantiationLine;     ///< line number of `viewDidLoad`'s log line
+    std::string_view type;     ///< the feed's type
     const char* title;
-    /// What `fetchNewRESTData`, the pull and the refresh button are called in the log; most lists have one method.
+    /// Names in the log for the fetches of `fetchNewRESTData`, the pull and the refresh button; most lists have one
+    /// name.
     FeedFetch newDataFetch;
     FeedFetch pullFetch = newDataFetch;
     FeedFetch buttonFetch = newDataFetch;
     PullEnds pullEnds = PullEnds::AtOnce;
     SeparatorInset separators = {10, 15};
     SeparatorInset resultSeparators = {10, 17};
-    double rowHeight = 50; ///< points, at 100 % text
+    double rowHeight = 50; ///< in points, at 100 % text
     bool searchable = true;
     const char* noDataImage;
     const char* noDataText;
     /// A second no-data label above the first; null for none.
     const char* noDataHeadline = nullptr;
-    /// Said below the picture by a list that was fetched and has nothing in it.
+    /// Shown below the picture when the list was fetched and is empty.
     const char* emptyText;
 };
 

@@ -87,7 +87,7 @@ RXPromise<std::string> FeedListViewController::fetchNewRESTData()
 RXPromise<std::string> FeedListViewController::fetchAfresh(const FeedFetch& fetch)
 {
     onMainThread<FeedListViewController>([](FeedListViewController& screen) { screen.emptyLists(); });
-    // The screen is kept until the feed is stored, also when it is closed meanwhile.
+    // The promise keeps the screen until the feed is stored, even when the screen was closed.
     const auto screen = self<FeedListViewController>();
     const Turn turn = ++m_turn;
     return fetchFeedWithStoredKey(corvel(), type())
@@ -103,7 +103,7 @@ RXPromise<std::string> FeedListViewController::fetchAfresh(const FeedFetch& fetc
 
 RXPromise<std::string> FeedListViewController::adopt(const XMLElement& feedRoot, Turn turn)
 {
-    // An older answer that comes late does not replace a newer one.
+    // A late answer to an older fetch must not replace a newer feed.
     if (turn > m_storedTurn) {
         m_storedTurn = turn;
         setFeedOfType(*corvel(), type(), Feed(feedRoot));
@@ -179,7 +179,7 @@ void FeedListViewController::showContentNow()
     m_fetchingActivityIndicator.stopAnimating();
     m_tableView.setHidden(false);
     m_tableView.reloadData();
-    // Whoever searches while the feed is fetched anew goes on in the new one.
+    // A search that is open during a new fetch is repeated in the new feed.
     if (m_searchBar.isActive() && shouldReloadTableForSearchString(m_searchBar.text())) {
         m_searchResultsTableView.reloadData();
     }

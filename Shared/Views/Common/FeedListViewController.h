@@ -20,21 +20,23 @@ namespace lodestar
 {
 
 /// The list of one of a console's feeds: header with time stamp, table, search, pull to refresh, and three looks:
-/// loading, content, no content. It shows the feed of the console's last whole fetch if that has ended, and fetches its
-/// own otherwise; a fetch of its own is stored in the record, so that other screens see it.
+/// loading, content, no content. The list shows the feed of the console's last whole fetch if that fetch has ended;
+/// otherwise it fetches the feed itself. It stores a feed that it fetched in the console's record, so that other
+/// screens see it.
 ///
-/// A screen of this kind gives its traits and overrides
-///  - `showFeed`: makes the rows of a feed and ends in the content's look;
-///  - `emptyLists`: before each fresh fetch;
-///  - `filterContentForSearchText`, and what a TableDataSource answers.
+/// A subclass gives its traits and overrides
+///  - `showFeed`: makes the rows of a feed and then shows the content;
+///  - `emptyLists`: called before each fresh fetch;
+///  - `filterContentForSearchText` and the functions of TableDataSource.
 /// Its scene is a FeedListScene with the delegate of a row.
 ///
-/// Threads. `showFeed` runs on a background queue for a stored feed and on the main thread after a fetch, and may block
-/// there. What it makes it hands to the main thread as one finished value (`onMainThread`); lists that rows are read
-/// from are touched on the main thread only. Calls are marked "any thread" where they may come from `showFeed`.
+/// Threads: `showFeed` runs on a background queue for a stored feed and on the main thread after a fetch, and may block
+/// there. It passes its result to the main thread as one finished value (`onMainThread`); only the main thread touches
+/// the lists that rows are read from. Functions that `showFeed` may call are marked "any thread".
 ///
-/// Turns. Each fetch is a turn, and what is shown is the last turn's: a fetch that was overtaken by another stores its
-/// feed and shows nothing, so that impatience makes no row twice. The first load has the turn of the list's opening.
+/// Turns: each fetch is a turn, and only the last turn is shown. A fetch that another one has overtaken stores its feed
+/// but shows nothing, so that repeated refreshing never makes a row twice. The first load takes the turn that the list
+/// has when it opens.
 class FeedListViewController : public lodestar::ViewController, public TableDataSource, public CorvelReceiving
 {
     Q_OBJECT
@@ -53,7 +55,7 @@ class FeedListViewController : public lodestar::ViewController, public TableData
     Q_PROPERTY(QString emptyText READ emptyText CONSTANT)
 
 public:
-    /// The traits outlive the screen.
+    /// The traits must outlive the screen.
     explicit FeedListViewController(const FeedListTraits& traits);
 
     TitleHeader* header() { return &m_header; }
@@ -65,31 +67,31 @@ public:
     IndicatorOutlet* fetchingActivityIndicator() { return &m_fetchingActivityIndicator; }
     ImageOutlet* noDataImage() { return &m_noDataImage; }
     LabelOutlet* noDataLabel() { return &m_noDataLabel; }
-    /// Without text in lists that have one label only.
+    /// Its text is empty in lists that have one label only.
     LabelOutlet* noDataHeadline() { return &m_noDataHeadline; }
     QString emptyText() const;
 
     void setCustomNavigationBar() { m_header.setCustomNavigationBar(); }
-    /// Any thread; after `setCustomNavigationBar`, or the process ends.
+    /// Any thread. Before `setCustomNavigationBar`, a call ends the process.
     void setHeaderTitle(const QString& title, const QString& subtitle) { m_header.setHeaderTitle(title, subtitle); }
 
-    /// Logs on with the stored key, fetches the feed, stores and shows it. Fulfilled with "OK" once it is shown or was
-    /// overtaken, rejected once the failure is. Any thread.
+    /// Logs on with the stored key, fetches the feed, stores it and shows it. Fulfilled with "OK" when the feed is
+    /// shown or was overtaken; rejected when the failure is shown. Any thread.
     RXPromise<std::string> fetchNewRESTData();
-    /// The header becomes the screen's title and the feed's time stamp. Any thread.
+    /// Sets the header to the screen's title and the feed's time stamp. Any thread.
     void parseTimeStampFromXML(const XMLElement& feedRoot);
-    /// The pull.
+    /// Handles a pull to refresh.
     void refreshTable();
     void refreshFromButton();
 
-    /// The three looks. Any thread: each takes effect later, on the main thread.
+    /// Show the three looks. Any thread; each takes effect later, on the main thread.
     void UILoadingData();
     void UIShowContent();
     void UINoContent();
 
-    /// Rebuilds what the table of search results shows. The scope is passed and plays no part.
+    /// Rebuilds the search results. `scope` is ignored.
     virtual void filterContentForSearchText(const QString& searchText, const QString& scope) = 0;
-    /// Filters; always true.
+    /// Filters the list; always returns true.
     bool shouldReloadTableForSearchString(const QString& searchString);
     void showSearchBar();
 
@@ -97,39 +99,39 @@ protected:
     using Turn = int;
 
     void viewDidLoad() override;
-    /// The first load, on a background queue: the stored feed, or a fetch if the console has not been fetched.
+    /// The first load, on a background queue: shows the stored feed, or fetches it if the console has not been fetched.
     void fetchFeed(Turn turn);
-    /// Shows a feed that is there: its rows, its time stamp, the content's look, in the screen's own order. Fulfilled
-    /// with "OK" when it is done.
+    /// Shows a given feed: its rows, its time stamp and the content's look, in an order that the subclass chooses.
+    /// Fulfilled with "OK" when everything is shown.
     virtual RXPromise<std::string> showFeed(const XMLElement& feedRoot, Turn turn) = 0;
-    /// Main thread.
+    /// Empties the subclass's lists. Main thread.
     virtual void emptyLists() = 0;
 
-    /// The last fetch's. Any thread.
+    /// The turn of the last fetch. Any thread.
     Turn turn() const { return m_turn; }
-    /// Whether what belongs to the turn is still wanted. Any thread.
+    /// Whether the turn is still the last, so that its result is wanted. Any thread.
     bool isLast(Turn turn) const { return m_turn == turn; }
-    /// Whether the screen was closed: nobody sees what it would still find out. Any thread.
+    /// Whether the screen was closed, so that further work for it is useless. Any thread.
     bool isClosed() const { return navigationController() == nullptr; }
-    /// `UIShowContent`, unless the turn is over by then. Any thread.
+    /// Calls `UIShowContent` if the turn is still the last when the main thread gets there. Any thread.
     void showContentOf(Turn turn);
     static RXPromise<std::string> done();
 
-    /// `fetchNewRESTData` under another name in the log. Any thread.
+    /// Does the same as `fetchNewRESTData` under another name in the log. Any thread.
     RXPromise<std::string> fetchAfresh(const FeedFetch& fetch);
-    /// The record's feed as it is now. Any thread.
+    /// The feed that the console's record has now. Any thread.
     Feed feed() const;
     std::string_view type() const { return m_traits.type; }
     TableOutlet& table(TableKind kind)
     {
         return kind == TableKind::SearchResults ? m_searchResultsTableView : m_tableView;
     }
-    /// What is searched for if that table asks; empty for the screen's own.
+    /// The searched text for the table of search results; empty for the screen's own table.
     QString matchFor(TableKind tableView) const;
     const ScreenLog& log() const { return m_log; }
 
     /// Runs `change(screen)` on the main thread: at once when called there, otherwise later, in order. The screen is
-    /// kept until then.
+    /// kept alive until then.
     template <typename Controller, typename Change>
     void onMainThread(Change change)
     {
@@ -137,7 +139,8 @@ protected:
             [screen = self<Controller>(), change = std::move(change)]() mutable { change(*screen); });
     }
 
-    /// Makes a list ready to be searched if that holds up no screen: after a fetch the first search does it.
+    /// Prepares a list for searching, but not on the main thread, where that would hold up the screen: after a fetch,
+    /// the first search prepares the list.
     template <typename List>
     static void prepareSearchOffMain(List& list)
     {
@@ -155,7 +158,7 @@ private:
     const FeedListTraits& m_traits;
     ScreenLog m_log;
     std::atomic<Turn> m_turn = 0;
-    Turn m_storedTurn = 0; ///< of the newest fetch that brought a feed; main thread
+    Turn m_storedTurn = 0; ///< turn of the newest fetch that brought a feed; main thread
     TitleHeader m_header;
     TableOutlet m_tableView;
     TableOutlet m_searchResultsTableView;

@@ -16,7 +16,7 @@ struct MediumDate {
     const char16_t* pattern;
 };
 
-// Qt has long, short and narrow dates only.
+// A table, because Qt has only long, short and narrow date formats.
 constexpr std::array<MediumDate, 21> mediumDates = {{
     {QLocale::Arabic, u"d MMM yyyy"},         {QLocale::Chinese, u"yyyy年M月d日"},
     {QLocale::Czech, u"d. M. yyyy"},          {QLocale::Danish, u"d. MMM yyyy"},
@@ -44,7 +44,8 @@ QString mediumDatePattern(const QLocale& locale)
 
 QString mediumDateShortTime(const WallClock& clock, const QLocale& locale)
 {
-    // The C locale's short time has seconds, also as the system's locale, which does not equal it.
+    // The C locale's short time has seconds. The system's locale may be C and yet not equal QLocale::c(), so the
+    // language is compared.
     const QLocale shown = locale.language() == QLocale::C ? QLocale(QLocale::English, QLocale::UnitedKingdom) : locale;
     return shown.toString(clock.date, mediumDatePattern(shown)) + QStringLiteral(", ") +
            shown.toString(clock.time, QLocale::ShortFormat);

@@ -12,18 +12,18 @@ namespace lodestar
 
 class Feed;
 
-/// A date and time as a clock on the wall has them.
+/// A date and time without a time zone, as a wall clock shows them.
 struct WallClock {
     QDate date;
     QTime time;
 };
 
-/// The date in the locale's medium style, the time in its short one, as in "3 Jul 2026, 10:25".
+/// Date in the locale's medium style and time in its short style, as in "3 Jul 2026, 10:25".
 QString mediumDateShortTime(const WallClock& clock, const QLocale& locale = QLocale());
 QString mediumDateShortTime(const FeedDate& date, const QLocale& locale = QLocale());
 
-/// When the feed was published, as its first entry says and as the current locale writes it; empty when the feed does
-/// not say, or not readably. Any thread.
+/// The time at which the feed was published, taken from its first entry and written in the current locale. Empty when
+/// the entry has no readable time. Any thread.
 QString feedTimeStamp(const Feed& feed);
 
 } // namespace lodestar

@@ -18,7 +18,7 @@ void FlatListViewController::appendStoredFeed(Turn turn)
     const Feed stored = feed();
     for (const XMLElement& entry : stored.entries()) {
         XMLElement element = contentOf(entry, type());
-        // An entry of another type has no row.
+        // An entry of another type gives no element and gets no row.
         if (element) {
             list.append(std::move(element));
         }

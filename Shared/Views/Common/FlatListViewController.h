@@ -10,9 +10,9 @@
 namespace lodestar
 {
 
-/// A list of one section: the feed's elements, in the order of the feed. Nothing is sorted.
+/// A list with one section: the feed's elements in the order of the feed, not sorted.
 ///
-/// A screen of this kind says what its rows are searched by and overrides `showFeed`, which calls `appendStoredFeed`.
+/// A subclass gives the text by which its rows are searched and overrides `showFeed`, which calls `appendStoredFeed`.
 class FlatListViewController : public lodestar::FeedListViewController
 {
     Q_OBJECT
@@ -30,14 +30,14 @@ public:
 
 protected:
     void emptyLists() override;
-    /// Puts the elements of the stored feed behind those that are listed, unless the turn is over. It does not clear:
-    /// lists are emptied before each fetch. Any thread.
+    /// Appends the elements of the stored feed to the list, unless the turn is over. Nothing is cleared here: lists are
+    /// emptied before each fetch. Any thread.
     void appendStoredFeed(Turn turn);
 
     const std::vector<XMLElement>& elements() const { return m_list.elements(); }
-    /// What the search found, as places in `elements`.
+    /// The search results, as indexes into `elements`.
     const std::vector<std::uint32_t>& filteredElements() const { return m_filteredList; }
-    /// What stands in a row of that table; no element for a row that is not there.
+    /// The element of a table's row; no element for a row that does not exist.
     XMLElement elementAtRow(TableKind tableView, int row) const;
 
 private:

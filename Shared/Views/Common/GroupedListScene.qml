@@ -4,7 +4,7 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Lodestar.Views
 
-/// A console's logical partitions or virtual I/O servers, under the managed systems that they belong to.
+/// A console's logical partitions or virtual I/O servers, grouped by managed system.
 FeedListScene {
     delegate: StateRow {
         required property partitionCell cell

@@ -41,7 +41,7 @@ void GroupedListViewController::emptyLists()
     m_filteredPartitions.clear();
 }
 
-/// A feed on its way into groups.
+/// A feed whose entries are being grouped.
 struct GroupedListViewController::Grouping {
     std::vector<XMLElement> entries;
     Turn turn;
@@ -87,7 +87,7 @@ bool GroupedListViewController::groupNext(Grouping& grouping) const
     log().write(m_grouping.partitionLine, seperate, className + ": Fetching partition");
     XMLElement partition = contentOf(grouping.entries[grouping.next++], type());
     log().write(m_grouping.linkLine, seperate, className + ": Fetching stored link");
-    // An entry of another type is no partition, and has no link.
+    // An entry of another type is no partition and has no link to a system.
     const std::optional<std::string> system = partition ? systemOf(partition) : std::nullopt;
     if (system) {
         grouping.partitions.append(*system, std::move(partition));
@@ -113,7 +113,7 @@ std::optional<std::string> GroupedListViewController::systemOf(const XMLElement&
     if (m_grouping.nameless == Nameless::LeftOut) {
         return name;
     }
-    // A section needs words above it.
+    // Without a name, the section's header would be empty.
     return name.value_or("").empty() ? tr("Unknown system").toStdString() : std::move(name);
 }
 
@@ -155,7 +155,7 @@ int GroupedListViewController::numberOfRowsInSection(TableKind tableView, int se
 
 std::optional<QString> GroupedListViewController::titleForHeaderInSection(TableKind /*tableView*/, int section) const
 {
-    // The unfiltered keys, for search results too: titles do not follow the filter, and that is meant.
+    // Titles come from the unfiltered groups, for search results too. The filter does not change titles; that is meant.
     return m_partitions.groupCount() == 0
                ? QStringLiteral("Demo Corvel")
                : QString::fromStdString(m_partitions.keyAt(static_cast<std::size_t>(section)));

@@ -13,16 +13,16 @@
 namespace lodestar
 {
 
-/// What becomes of an element whose system's name cannot be looked up.
+/// How an element is listed when its system's name cannot be looked up.
 enum class Nameless {
-    Grouped, ///< listed under a system of its own name
-    LeftOut  ///< listed nowhere
+    Grouped, ///< in a section "Unknown system"
+    LeftOut  ///< not at all
 };
 
-/// How one grouped list differs from the other, beside what all lists differ in.
+/// The differences between the grouped lists, besides those of all feed lists.
 struct GroupedListTraits {
     FeedListTraits list;
-    /// Of the log lines of `seperatePartitionsBySystemFromXML`: at its start, and twice for each entry.
+    /// Line numbers of the log lines of `seperatePartitionsBySystemFromXML`: one at its start, two for each entry.
     int seperatingLine;
     int partitionLine;
     int linkLine;
@@ -30,11 +30,11 @@ struct GroupedListTraits {
     std::string_view detailScene;
 };
 
-/// A list of a console's partitions or servers in one section per managed system. Sections stand in the order in which
-/// their systems first came, rows in the order of the feed; nothing is sorted. Each element names its system by a link
-/// only, so that grouping asks the console once per element, one after the other; no answer is kept for the next.
+/// A list of a console's partitions or servers with one section per managed system. Sections stand in the order in
+/// which their systems first occur in the feed, rows in the order of the feed; nothing is sorted. Each element names
+/// its system by a link only, so grouping asks the console once per element, one after the other; no answer is reused.
 ///
-/// A screen of this kind gives its traits and overrides `completeCell`; its scene is GroupedListScene.
+/// A subclass gives its traits and overrides `completeCell`; its scene is GroupedListScene.
 class GroupedListViewController : public lodestar::FeedListViewController
 {
     Q_OBJECT
@@ -42,17 +42,17 @@ class GroupedListViewController : public lodestar::FeedListViewController
     QML_UNCREATABLE("made by the storyboard")
 
 public:
-    /// The traits outlive the screen.
+    /// The traits must outlive the screen.
     explicit GroupedListViewController(const GroupedListTraits& traits);
 
     const GroupedFeed& partitions() const { return m_partitions; }
-    /// What the search found, a system without a match left out.
+    /// The search results by system; systems without a match are left out.
     const std::vector<ElementGroup>& filteredPartitions() const { return m_filteredPartitions; }
 
-    /// Appends the feed's elements to their systems and shows the content. Blocks its thread for one look-up per
-    /// element: a background queue for the stored feed, the main thread after a fetch. Both are meant; on the main
-    /// thread events are handled between look-ups. It ends early, and shows nothing, when the screen is closed or the
-    /// list is fetched anew.
+    /// Adds the feed's elements to their systems and shows the content. Blocks its thread for one look-up per element:
+    /// a background queue for the stored feed, the main thread after a fetch. Both are meant; on the main thread,
+    /// events are handled between look-ups. Stops early, and shows nothing, when the screen is closed or the list is
+    /// fetched anew.
     void seperatePartitionsBySystemFromXML(const XMLElement& feedRoot)
     {
         seperatePartitionsBySystemFromXML(feedRoot, turn());
@@ -68,20 +68,20 @@ public:
 protected:
     RXPromise<std::string> showFeed(const XMLElement& feedRoot, Turn turn) override;
     void emptyLists() override;
-    /// Adds to a row what only this screen shows.
+    /// Adds the parts of a row that only the subclass shows.
     virtual void completeCell(PartitionCell& cell, const Partition& partition) const = 0;
-    /// What stands in a row and is opened by it; no element for a row that is not there.
+    /// The element that a row shows and opens; no element for a row that does not exist.
     virtual XMLElement partitionAt(TableKind tableView, IndexPath indexPath) const;
 
-    /// A group by its place among the keys of the table's own groups; without elements if it is not there.
+    /// A group by its index among the table's own groups; empty if the table has no such group.
     const std::vector<XMLElement>& groupAt(TableKind tableView, int section) const;
-    /// Likewise by its system's name.
+    /// A group by its system's name among the table's own groups; empty if the table has no such group.
     const std::vector<XMLElement>& groupNamed(TableKind tableView, const std::string& system) const;
 
 private:
     struct Grouping;
     RXPromise<std::string> seperatePartitionsBySystemFromXML(const XMLElement& feedRoot, Turn turn);
-    /// Looks one element's system up; false when there was none left or nobody wants the rest.
+    /// Looks up the system of the next element. False when no element is left or the result is no longer wanted.
     bool groupNext(Grouping& grouping) const;
     void adopt(Grouping& grouping);
     std::optional<std::string> systemOf(const XMLElement& partition) const;

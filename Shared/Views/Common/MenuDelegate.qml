@@ -3,7 +3,7 @@ import QtQuick
 import Lodestar.Kit
 import Lodestar.Views
 
-/// A menu's row: it draws a MenuRow and leaves the press to the table.
+/// Draws a menu's row with a MenuRow; the table takes the press.
 TableCell {
     id: row
 

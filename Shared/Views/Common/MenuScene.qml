@@ -9,7 +9,7 @@ import Lodestar.Views
 PageScaffold {
     id: scene
 
-    /// Above the first card, and how far what stands there has been scrolled up.
+    /// Points above the first card; and how far the content there has been scrolled up.
     property alias topSpace: table.topSpace
     readonly property real scrolledBy: table.flickable.contentY + table.topSpace
 

@@ -10,7 +10,7 @@
 namespace lodestar
 {
 
-/// A row of a menu screen, as drawn.
+/// A row of a menu screen as a value.
 struct MenuCell {
     Q_GADGET
     QML_VALUE_TYPE(menuCell)
@@ -30,8 +30,8 @@ public:
     friend bool operator==(const MenuCell&, const MenuCell&) = default;
 };
 
-/// A fixed menu that leads to other scenes. A row whose scene the storyboard does not have is greyed. Rows are made
-/// anew each time the screen appears, for their counts. Its scene is MenuScene. Main thread.
+/// A fixed menu that leads to other scenes. A row is greyed if the storyboard does not have its scene. Rows are made
+/// anew each time the screen appears, because their counts may have changed. The scene is MenuScene. Main thread.
 class MenuTableViewController : public lodestar::ViewController, public TableDataSource
 {
     Q_OBJECT
@@ -43,7 +43,7 @@ public:
     struct Row {
         QString title;
         QString imageName;
-        std::string scene; ///< empty for a row that only rests
+        std::string scene; ///< empty for a row that leads nowhere
         QString detail{};
     };
     using Sections = std::vector<std::vector<Row>>;
@@ -54,7 +54,7 @@ public:
     int numberOfSections(TableKind tableView) const override;
     int numberOfRowsInSection(TableKind tableView, int section) const override;
     QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
-    /// Opens what the row leads to, if anything, and deselects it.
+    /// Opens the row's scene, if it has one, and deselects the row.
     void didSelectRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
 
 protected:

@@ -11,7 +11,7 @@ namespace lodestar
 
 class Partition;
 
-/// One row of a list grouped by managed system, as a value: a partition's name and state, and what the screen adds.
+/// One row of a list grouped by managed system, as a value: a partition's name and state, and the subclass's additions.
 class PartitionCell
 {
     Q_GADGET
@@ -27,20 +27,20 @@ class PartitionCell
 
 public:
     PartitionCell() = default;
-    /// `match` is what was searched for; empty for none.
+    /// `match` is the searched text; empty for none.
     PartitionCell(const Partition& partition, const QString& match);
 
     const CellLabel& nameLabel() const { return m_nameLabel; }
     const CellLabel& typeLabel() const { return m_typeLabel; }
     const CellLabel& stateLabel() const { return m_stateLabel; }
-    /// The shape that says the state without colour: "good", "off", "error" or "alert".
+    /// The shape that shows the state without colour: "good", "off", "error" or "alert".
     const QString& stateMark() const { return m_stateMark; }
     const CellLabel& referenceCodeLabel() const { return m_referenceCodeLabel; }
     /// Index 0 stands at the row's outer edge.
     const QList<SwipeButton>& leftButtons() const { return m_leftButtons; }
-    /// The button that a far swipe lets fill the row; -1 for none.
+    /// The button that fills the row after a far swipe; -1 for none.
     int leftExpansion() const { return m_leftExpansion; }
-    /// The row as one sentence.
+    /// The row's text for screen readers, as one sentence.
     QString accessibleText() const;
 
     void setType(const QString& type) { m_typeLabel.text = type; }

@@ -16,7 +16,7 @@ class PartitionDetailViewController : public lodestar::DetailViewController, pub
     QML_UNCREATABLE("made by the storyboard")
 
 public:
-    /// `fileName` as in ScreenLog; `title` is translated already.
+    /// `fileName` is that of ScreenLog; `title` must be translated already.
     PartitionDetailViewController(std::string_view fileName, const QString& title);
 
     virtual void populatePartitionDetails();

@@ -14,8 +14,8 @@ namespace lodestar
 
 class ViewController;
 
-/// What screens are opened with beside a console (CorvelReceiving). Openers reach screens by their scene alone and hand
-/// over through these, before the screen is put into a container. Main thread.
+/// The inputs of screens besides the console (CorvelReceiving). Openers know only a screen's scene; they pass inputs
+/// through these interfaces before the screen is put into a container. Main thread.
 
 /// A screen that shows one element of a feed.
 class RootXMLReceiving
@@ -29,7 +29,8 @@ private:
     XMLElement m_rootXML;
 };
 
-/// A list that can narrow itself to one managed system, named despite its name by `partitionName`; none for all.
+/// A list that can be narrowed to one managed system. Despite its name, `partitionName` is the system's name; nothing
+/// means all systems.
 class PartitionNarrowing
 {
 public:
@@ -37,8 +38,8 @@ public:
     virtual void setPartitionName(std::optional<std::string> partitionName) = 0;
 };
 
-/// A screen that shows the performance of one managed system: its name, none when the opener has none to give, and the
-/// identifier that its metrics go by.
+/// A screen that shows the performance of one managed system. It gets the system's name, which is nothing when the
+/// opener does not know it, and the identifier by which metrics are requested.
 class PerformanceReceiving
 {
 public:
@@ -47,7 +48,7 @@ public:
     virtual void setSystemID(std::optional<std::string> systemID) = 0;
 };
 
-/// Everything that a scene may be given; each scene takes what it receives.
+/// All inputs that a scene may be given; each scene takes those it receives.
 struct SceneInputs {
     CorvelRef corvel{};
     XMLElement rootXML{};
@@ -56,8 +57,8 @@ struct SceneInputs {
     std::optional<std::string> systemID{};
 };
 
-/// Opens a scene of the storyboard with its inputs, pushed on the stack of `from`, animated. False, and nothing
-/// happens, for a scene that does not exist and for a screen that is on no stack.
+/// Opens a scene of the storyboard with its inputs: pushes it, animated, on the stack of `from`. Returns false and does
+/// nothing if the scene does not exist or `from` is on no stack.
 bool openScene(const ViewController& from, std::string_view identifier, SceneInputs inputs);
 
 } // namespace lodestar

@@ -3,15 +3,16 @@ import QtQuick
 import Lodestar.Kit
 import Lodestar.Views
 
-/// The row of an inventory list: a name, with a badge before it and a caption below it if it has them; at its end a state
-/// with a note below. With large text what stood at the end stands below, mark leading. What is not given takes no room.
+/// The row of an inventory list. At its start: a name, optionally with a badge before it and a caption below it. At its
+/// end: a state with a note below. With large text, state and note stand below the name, the mark before the word.
+/// Parts that are not given take no room.
 TableCell {
     id: row
 
     required property cellLabel name
     property string caption
     property string badge
-    /// From the row's start to the name, at 100 % text.
+    /// Points from the row's start to the name, at 100 % text.
     property real nameStart: Theme.rowStart
     property cellLabel state
     property string stateMark
@@ -23,7 +24,7 @@ TableCell {
     readonly property real trailing: Theme.rowEnd + (chevron ? 22 : 0)
     readonly property bool hasState: state.text !== ""
     readonly property bool hasSecondLine: caption !== "" || note !== ""
-    /// Between what stands at the start and what stands at the end.
+    /// Gap between the parts at the start and the parts at the end.
     readonly property int gap: 12
     readonly property real room: width - textStart - trailing
 
@@ -31,8 +32,8 @@ TableCell {
 
     readonly property real stackedHeight: words.height + (hasState ? word.height : 0) + (note !== "" ? noteLabel.height : 0)
 
-    // The note's own implicit width would answer to its width, which answers to this. A point more than measured: the
-    // layout may round its glyphs up.
+    // The note is measured separately: the label's implicit width depends on its width, which depends on this. One
+    // point is added because the layout may round glyph widths up.
     TextMetrics {
         id: noteMeasure
 
@@ -81,7 +82,7 @@ TableCell {
                 wrapMode: row.stacked ? Text.Wrap : Text.NoWrap
                 width: row.stacked ? row.room
                                    : Math.max(0, row.room - (row.note !== "" ? noteLabel.width + noteLabel.inset + row.gap : 0))
-                // A column mirrors nothing.
+                // A Column does not mirror its children.
                 x: Theme.mirrored ? words.width - width : 0
                 Accessible.ignored: true
             }
@@ -97,7 +98,7 @@ TableCell {
             wraps: row.stacked
             platePadding: row.hasSecondLine && !row.stacked ? 0 : 2
             width: row.stacked ? row.room : Math.min(implicitWidth, Math.round(row.room * 0.5))
-            // By place, not by anchors: an item that changes from one side's anchor to the other's loses its width.
+            // x and not anchors: an item whose anchor changes from one side to the other loses its width.
             x: row.stacked !== Theme.mirrored ? 0 : parent.width - width
             y: row.stacked ? words.height : Math.round((nameLabel.lineHeight - height) / 2)
             Accessible.ignored: true
@@ -105,7 +106,7 @@ TableCell {
         Label {
             id: noteLabel
 
-            /// Below the word, not below its mark.
+            /// The note stands below the state's word, not below its mark.
             readonly property real inset: word.visible ? word.markSpace : 0
 
             visible: row.note !== ""

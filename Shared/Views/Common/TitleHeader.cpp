@@ -13,7 +13,7 @@ void TitleHeader::setCustomNavigationBar()
 
 void TitleHeader::setHeaderTitle(const QString& title, const QString& subtitle)
 {
-    // That both lines are there and are labels, the types see to.
+    // The types guarantee that both lines exist and are labels, so only the building is checked.
     if (!m_isBuilt) {
         qFatal("Assertion failed: self.navigationItem.titleView != nil");
     }

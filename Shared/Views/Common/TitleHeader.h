@@ -6,7 +6,8 @@
 namespace lodestar
 {
 
-/// The two-line title view of a pushed screen's bar, 200 by 44 points: a title over a subtitle. Part of its controller.
+/// The two-line title view of a pushed screen's bar, 200 by 44 points: a title over a subtitle. A member of its
+/// controller.
 class TitleHeader : public QObject
 {
     Q_OBJECT
@@ -19,9 +20,9 @@ public:
     LabelOutlet* titleLabel() { return &m_titleLabel; }
     LabelOutlet* subtitleLabel() { return &m_subtitleLabel; }
 
-    /// Builds the view, with placeholders. Main thread, once.
+    /// Builds the view, with placeholders. Call once, on the main thread.
     void setCustomNavigationBar();
-    /// Any thread. Setting a view that was never built is a programming error and ends the process.
+    /// Any thread. Setting the texts before the view was built is a programming error and ends the process.
     void setHeaderTitle(const QString& title, const QString& subtitle);
 
 private:

@@ -13,7 +13,7 @@ namespace lodestar
 namespace
 {
 
-/// What the version of a console reads as when its version feed had nothing to say.
+/// The version text of a console whose version feed was empty.
 constexpr auto versionOfNothing = "V(null)R(null).(null).(null).(null)";
 
 QString text(const std::optional<std::string>& value)
@@ -26,7 +26,7 @@ QString versionText(const std::optional<std::string>& version)
     if (version == versionOfNothing) {
         return CorvelListCell::tr("N/A");
     }
-    // A record that was never fetched has no version, and says so.
+    // A record that was never fetched has no version; "(null)" is shown for it.
     return version ? QString::fromStdString(*version) : QStringLiteral("(null)");
 }
 

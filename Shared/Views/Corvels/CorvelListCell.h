@@ -12,8 +12,8 @@ namespace lodestar
 
 class Corvel;
 
-/// One row of the console list, as a value. Its views are either the three spinners or the three values with the
-/// arrow, never both; name, version and address stand in either case.
+/// One row of the console list, as a value. It shows either three spinners or three values with the arrow, never both;
+/// name, version and address are shown in both cases.
 class CorvelListCell
 {
     Q_GADGET
@@ -35,12 +35,12 @@ class CorvelListCell
     Q_PROPERTY(QString accessibleText READ accessibleText)
 
 public:
-    /// A cell with its spinners going.
+    /// Makes a cell whose spinners run.
     CorvelListCell();
 
-    /// Spinners in the place of the values, no arrow.
+    /// Shows the spinners in place of values and arrow.
     void startAnimating();
-    /// The values and the arrow in the place of the spinners.
+    /// Shows values and arrow in place of the spinners.
     void stopAnimating();
     /// Shows the record as it is now. Main thread.
     void configure(const Corvel& corvel);
@@ -52,17 +52,17 @@ public:
     const CellLabel& statusLabel() const { return m_statusLabel; }
     const CellLabel& attentionLabel() const { return m_attentionLabel; }
     const CellLabel& eventsLabel() const { return m_eventsLabel; }
-    /// The shape that says the status without colour: "good", "error" or "offline".
+    /// The shape that shows the status without colour: "good", "error" or "offline".
     const QString& statusMark() const { return m_statusMark; }
     const CellImage& selectionArrow() const { return m_selectionArrow; }
     const CellIndicator& statusActivityIndicator() const { return m_statusActivityIndicator; }
     const CellIndicator& attentionActivityIndicator() const { return m_attentionActivityIndicator; }
     const CellIndicator& eventsActivityIndicator() const { return m_eventsActivityIndicator; }
-    /// Whether a press shows; without it the row looks at rest whatever is done to it.
+    /// Whether the row can be pressed and shows it; if not, the row always looks at rest.
     bool highlights() const { return m_highlights; }
     /// Index 0 stands at the row's outer edge.
     const QList<SwipeButton>& rightButtons() const { return m_rightButtons; }
-    /// The row as one sentence: name, state, counts.
+    /// The row's text for screen readers, as one sentence: name, state, counts.
     QString accessibleText() const;
 
 private:

@@ -6,18 +6,19 @@ import Lodestar.Kit
 import Lodestar.Views
 
 /// A console's row: name, version, address, and three values or their spinners. On phones the values stand in columns
-/// below; on wider windows beside, under captions; large text stacks everything.
+/// below the address; on wider windows at the row's end, under captions. Large text puts everything on lines of its
+/// own.
 TableCell {
     id: row
 
     required property corvelListCell cell
 
     readonly property bool captioned: !Theme.stacked && Theme.widthClass(Window.width) !== Theme.compactWidth
-    /// One value a line: with large text, and where the three would not fit beside each other.
+    /// One value per line: with large text, and where the three do not fit beside each other.
     readonly property bool stacked: Theme.stacked || (!captioned && metrics.neededWidth > width - Theme.rowStart - Theme.rowEnd)
     readonly property bool narrow: Window.width < 375
     readonly property real scale100: Theme.textScale
-    /// Kept free at the end for the chevron, there or not, so that columns stay in line.
+    /// Points kept free at the end for the chevron, even without one, so that columns of all rows are aligned.
     readonly property real trailing: Theme.rowEnd + 24
 
     accessibleText: cell.accessibleText
@@ -31,7 +32,7 @@ TableCell {
         required property string caption
         required property cellLabel value
         required property cellIndicator indicator
-        /// Shown in the place of a plain value.
+        /// Shows the value as a state with this mark; empty shows plain text.
         property string stateMark: ""
         property bool captionHidden: false
 
@@ -108,8 +109,8 @@ TableCell {
                                                                               : 11 * row.scale100)
         height: row.captioned ? identityHeight : identityHeight + Math.round(7 * row.scale100) + metrics.height
 
-        // Their own implicit widths answer to their widths, which answer to these. A point more than measured: the
-        // layout may round its glyphs up.
+        // Name and version are measured separately: the labels' implicit widths depend on their widths, which depend on
+        // these. One point is added because the layout may round glyph widths up.
         TextMetrics {
             id: nameMeasure
 
@@ -139,7 +140,7 @@ TableCell {
             id: version
 
             readonly property bool atEnd: !row.captioned && !row.stacked
-            /// The name comes first: a version that would cut it goes down to the address.
+            /// The name has precedence: a version that would make the name elide moves down to the address.
             readonly property bool besideName: atEnd && nameMeasure.advanceWidth + wanted + 14 < content.identityWidth
             readonly property real wanted: Math.ceil(versionMeasure.advanceWidth) + 1
 
@@ -149,7 +150,7 @@ TableCell {
             elide: Text.ElideMiddle
             width: Math.min(wanted, atEnd && !besideName ? Math.round(content.identityWidth / 2)
                                                                 : content.identityWidth)
-            // By place, not by anchors: an item that changes from one side's anchor to the other's loses its width.
+            // x and not anchors: an item whose anchor changes from one side to the other loses its width.
             x: atEnd === Theme.mirrored ? (atEnd ? 24 : 0) : parent.width - width - (atEnd ? 24 : 0)
             y: besideName ? name.baselineOffset - baselineOffset : atEnd ? address.y : address.y + address.height
             Accessible.ignored: true
@@ -175,7 +176,7 @@ TableCell {
             readonly property real firstColumn: row.captioned ? 124 : row.narrow ? 92 : 104
             readonly property real secondColumn: row.captioned ? 104 : row.narrow ? 104 : 112
             readonly property real lineStep: Math.round(28 * row.scale100)
-            /// A value that needs more than its column takes it from the next.
+            /// A value that is wider than its column moves the next column on.
             readonly property real secondStart: Math.max(firstColumn, status.implicitWidth + 12)
             readonly property real thirdStart: secondStart + Math.max(secondColumn, attention.implicitWidth + 12)
             readonly property real neededWidth: thirdStart + events.implicitWidth

@@ -5,7 +5,7 @@ import QtQuick
 import Lodestar.Kit
 import Lodestar.Views
 
-/// The console list: one card of rows, or a picture and the way to add the first console.
+/// The console list: one card of rows; without consoles, a picture and a button that adds the first one.
 PageScaffold {
     id: scene
 

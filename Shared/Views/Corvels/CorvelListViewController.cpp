@@ -27,8 +27,8 @@ constexpr double rowHeight = 92;
 constexpr double separatorLeft = 10;
 constexpr double separatorRight = 15;
 
-// Points of the sheet below its bar. One point between the two resting heights is meant: 224 is the form itself, 223
-// what it goes back to once the status line has been up.
+// Heights of the sheet below its bar, in points. The two heights without status line differ by one point; that is
+// meant: 224 is the form as it opens, 223 the form after a status line was shown.
 constexpr double sheetHeight = 224;
 constexpr double sheetHeightWithStatus = 266;
 constexpr double sheetHeightAfterStatus = 223;
@@ -120,7 +120,7 @@ void CorvelListViewController::dataRefresh()
 {
     LODESTAR_LOG(fileName, "-[CorvelListViewController dataRefresh]",
                  "CorvelListViewController: Refreshing data from REST");
-    // A copy: a demonstration console may be done before the next one is asked.
+    // A copy is walked, because a demonstration console may finish, and change the list, before the next one is asked.
     const std::vector<CorvelRef> corvels = RESTHandler::sharedInstance().corvelList();
     for (const CorvelRef& corvel : corvels) {
         refreshCorvel(corvel);
@@ -129,7 +129,7 @@ void CorvelListViewController::dataRefresh()
 
 void CorvelListViewController::refreshCorvel(const CorvelRef& corvel)
 {
-    // The screen is kept until the result is stored, also when it is closed meanwhile.
+    // The promise keeps the screen until the result is stored, even when the screen was closed.
     const auto screen = self<CorvelListViewController>();
     fetchInventory(corvel, Urgency::Fleet)
         .thenOnMain([screen, corvel](const std::string&) { screen->didRefreshCorvel(corvel); },
@@ -143,7 +143,7 @@ void CorvelListViewController::didRefreshCorvel(const CorvelRef& corvel)
         return;
     }
     if (corvel->restData() == nullptr) {
-        return; // A pull has reset it since, and its own refresh is on the way.
+        return; // A later pull has reset the record, and that pull's own refresh is running.
     }
     LODESTAR_LOG(fileName, "-[CorvelListViewController dataRefresh]", "CorvelListViewController: Parsing mcvi");
     LODESTAR_LOG(fileName, "-[CorvelListViewController dataRefresh]", "CorvelListViewController: Parsing version");

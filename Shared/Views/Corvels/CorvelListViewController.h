@@ -16,8 +16,9 @@ namespace lodestar
 
 class DeltaCorvelViewController;
 
-/// The console list: every registered console with its version, address and health, refreshed from the consoles on
-/// load and on pull. Its rows are the working list's records in list order, one section. Main thread.
+/// The console list: every registered console with its version, address and health. It fetches from the consoles when
+/// it loads and at every pull. Its rows are the records of the working list, in that order, in one section. Main
+/// thread.
 class CorvelListViewController : public lodestar::SheetHostController, public TableDataSource, public PagedIntroDelegate
 {
     Q_OBJECT
@@ -32,9 +33,9 @@ public:
     enum class FromExpansion { No, Yes };
     enum class SwipeDirection { LeftToRight, RightToLeft };
 
-    /// Shows the intro tour over a screen and calls the list's `introDidFinish` when it is over.
+    /// Shows the intro tour over a screen and calls the list's `introDidFinish` at its end.
     using IntroPresenter = std::function<void(ViewController& over, std::weak_ptr<CorvelListViewController> delegate)>;
-    /// Names the tour; without one none is shown. Main thread, before the first list loads.
+    /// Sets the presenter of the tour; without one, no tour is shown. Main thread, before the first list loads.
     static void setIntroPresenter(IntroPresenter presenter);
 
     CorvelListViewController();
@@ -42,20 +43,22 @@ public:
     TableOutlet* tableView() { return &m_tableView; }
     RefreshControl* refreshControl() { return &m_refreshControl; }
     bool viewHasAppearedOnce() const { return m_viewHasAppearedOnce; }
-    /// The settings button is not there while the storyboard has no settings.
+    /// Whether the settings button is hidden, which it is while the storyboard has no settings.
     bool isSettingsHidden() const;
 
-    /// The feedback button is there on devices that are not shaken. Whether this one is shows after the first frame.
+    /// Whether the feedback button is hidden. It is shown on devices that cannot be shaken, which is known only after
+    /// the first frame.
     bool isFeedbackHidden() const;
 
     Q_INVOKABLE void addCorvel();
     Q_INVOKABLE void openSettings();
     Q_INVOKABLE void openFeedback();
-    /// Seeds the demonstration console, at most once an installation. It is stored with the next save.
+    /// Adds the demonstration console, at most once per installation. The next save stores it.
     void addTestCorvel();
-    /// Fetches every console of the list at once. Each result is drawn as it comes.
+    /// Fetches all consoles of the list at the same time. Each result is shown when it arrives.
     void dataRefresh();
-    /// The pull: every row back to its spinners, then `dataRefresh`. The control ends at once.
+    /// Handles a pull to refresh: shows spinners in every row, then calls `dataRefresh`. The pull's control goes back
+    /// at once.
     void refresh();
     void resetFetchData();
     void introDidFinish() override;
@@ -63,13 +66,13 @@ public:
     int numberOfRowsInSection(TableKind tableView, int section) const override;
     QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
     void didSelectRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
-    /// A swiped row's button. Always true: the row closes again.
+    /// Handles a button of a swiped row. Returns true always, so that the row closes.
     bool tappedButtonAtIndex(int row, int index, SwipeDirection direction, FromExpansion fromExpansion);
-    /// The same for a button on the right that was tapped or reached by key.
+    /// Handles a button on the right that was tapped or chosen by key.
     Q_INVOKABLE bool swipeTableCell(int row, int tappedButtonAtIndex);
 
     void hideModalView();
-    /// The rows, whether or not there were any before.
+    /// Shows the rows, whether or not there were rows before.
     void showCorvels();
     void statusWillShow();
     void statusShouldHide();

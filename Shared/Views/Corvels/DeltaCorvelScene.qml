@@ -3,8 +3,8 @@ import QtQuick
 import Lodestar.Kit
 import Lodestar.Views
 
-/// The console editor's form, below the bar of its sheet: four fields and, when the sheet makes room for it, the line
-/// that says how saving goes.
+/// The console editor's form, below the bar of its sheet: four fields and, when the sheet has room for it, the line
+/// that tells the progress of saving.
 SheetContent {
     id: scene
 
@@ -15,13 +15,14 @@ SheetContent {
     title: editor.navigationBar.text
     saveEnabled: !editor.busy
     firstField: nameField
-    // The fields grow with the text, and the line with what it says while there is room for it.
+    // The fields grow with the text size, and the status line grows with its text while the sheet has room for the
+    // line.
     extraHeight: Math.max(0, status.y - 4 * nameField.rowHeight)
                  + (statedHeight > 4 * nameField.rowHeight ? Math.max(0, status.height - status.leastHeight) : 0)
     onSaved: editor.saveCorvel()
     onCancelled: editor.cancel()
 
-    /// What is probably wrong with an address. It is taken as it stands all the same.
+    /// A remark on what is probably wrong with an address; empty for nothing. The address is accepted all the same.
     function addressHint(address: string): string {
         if (address.includes("://")) {
             return qsTr("Leave out \"%1\".").arg(address.substring(0, address.indexOf("://") + 3));
@@ -113,7 +114,7 @@ SheetContent {
         required property DeltaCorvelViewController editor
         property bool ruled: true
 
-        // Pale while saving only: beside an error the text has to be read, though it cannot be changed for a moment yet.
+        // A field is pale only while saving. After an error the field stays disabled for a moment, but must be readable.
         opacity: field.editor.busy ? 0.5 : 1
         onReturnPressed: field.editor.textFieldShouldReturn(outlet)
 

@@ -66,7 +66,7 @@ void DeltaCorvelViewController::hideKeyboardOnTouch()
 
 void DeltaCorvelViewController::saveCorvel()
 {
-    // A second press while the first is under way would add the console twice.
+    // A second press during saving would add the console twice.
     if (isBusy() || m_closed) {
         return;
     }
@@ -79,7 +79,7 @@ void DeltaCorvelViewController::saveCorvel()
     }
     insertRecordIfNeeded();
     copyFieldsToRecord();
-    // A registered console's own record matches, so that it cannot be saved from here. That is meant.
+    // A registered console's own record matches too, so a registered console cannot be saved from here. That is meant.
     if (isAddressRegistered(*m_corvel)) {
         showStatusWithError(tr("Corvel has already been added"));
         return;
@@ -89,7 +89,7 @@ void DeltaCorvelViewController::saveCorvel()
 
 void DeltaCorvelViewController::insertRecordIfNeeded()
 {
-    // A second attempt after a failure goes on with the record of the first.
+    // A second attempt after a failure uses the record of the first.
     if (!m_hasCreated && m_creatingInstance) {
         m_corvel = insertNewCorvel();
         m_corvel->setDemo(false);
@@ -116,7 +116,7 @@ void DeltaCorvelViewController::logOnAndFetch()
 
 void DeltaCorvelViewController::didFetch(const CorvelRef& corvel)
 {
-    // Cancelled meanwhile: the record is gone and must not come back by the list.
+    // The user cancelled during the fetch and the record was deleted; it must not return to the list.
     if (!corvel->isInserted()) {
         forgetSessionKeyOfUnregistered(*corvel);
         return;
@@ -124,7 +124,8 @@ void DeltaCorvelViewController::didFetch(const CorvelRef& corvel)
     if (m_closed) {
         return;
     }
-    // The lock takes the sheet away but not the work, and the same console may have been added anew meanwhile.
+    // The passcode lock closes the sheet without ending the fetch, so the same console may have been added by another
+    // editor.
     if (isAddressRegistered(*m_corvel)) {
         deleteCorvel(corvel);
         m_corvel = nullptr;
@@ -146,7 +147,8 @@ void DeltaCorvelViewController::didFail(const Error& error)
 
 void DeltaCorvelViewController::cancel()
 {
-    // The sheet can still be pressed while it slides away, when its record may be a registered console.
+    // The sheet can be pressed while it slides away; by then its record may be a registered console, which must not be
+    // deleted.
     if (m_closed) {
         return;
     }
@@ -159,7 +161,7 @@ void DeltaCorvelViewController::cancel()
 void DeltaCorvelViewController::close()
 {
     m_closed = true;
-    // The list drops its sheet, and with it perhaps the last reference to this.
+    // The list releases its sheet, which may hold the last reference to this object.
     const auto screen = shared_from_this();
     NotificationCenter::defaultCenter().postNotification(hasSheet() ? "CloseDeltaCorvel" : "CorvelAdded");
     m_parentList.reset();
@@ -207,7 +209,8 @@ void DeltaCorvelViewController::showStatus(const QString& text, StatusKind kind)
 
 void DeltaCorvelViewController::hideStatusLater(Reenable fields)
 {
-    // The text itself stays; only the line goes. A status shown meanwhile, or a closed sheet, is left alone.
+    // Only the line is hidden; its text stays. Nothing happens if another status was shown or the sheet was closed by
+    // then.
     const std::weak_ptr<ViewController> weak = weak_from_this();
     MainQueue::shared().asyncAfter(statusTime, [this, weak, fields, serial = m_statusSerial] {
         const auto screen = weak.lock();

@@ -12,11 +12,11 @@ namespace lodestar
 class CorvelListViewController;
 
 /// The console editor: one form for adding and for editing, in a sheet over the list. It checks the fields, logs on,
-/// fetches everything once and only then adds the console. Main thread.
+/// fetches everything once, and only then adds the console. Main thread.
 ///
-/// It is told nothing by the list and finds it through notifications: "StatusWillShow" and "StatusShouldHide" move the
-/// sheet, "CloseDeltaCorvel" closes it, and "CorvelAdded" comes in its place when there is no sheet any more. A closed
-/// editor posts and shows nothing any more.
+/// The editor talks to the list by notifications and gets none back: "StatusWillShow" and "StatusShouldHide" resize the
+/// sheet, "CloseDeltaCorvel" closes it; when the sheet is gone already, "CorvelAdded" is sent in place of
+/// "CloseDeltaCorvel". A closed editor sends and shows nothing.
 class DeltaCorvelViewController : public lodestar::ViewController
 {
     Q_OBJECT
@@ -35,20 +35,20 @@ class DeltaCorvelViewController : public lodestar::ViewController
     Q_PROPERTY(double tableHeaderHeight READ tableHeaderHeight CONSTANT)
 
 public:
-    /// What the status line says, which decides how it is marked.
+    /// The kind of text in the status line, which decides on its mark.
     enum class StatusKind { None, Message, Failure, Success };
     Q_ENUM(StatusKind)
 
     DeltaCorvelViewController();
 
     const CorvelRef& corvel() const { return m_corvel; }
-    /// The record to edit; none (as made) to add one. Before the sheet is presented.
+    /// The record to edit; null, as at the start, to add one. To be set before the sheet is presented.
     void setCorvel(CorvelRef corvel) { m_corvel = std::move(corvel); }
-    /// Keeps the list for as long as the editor is there.
+    /// The editor keeps the list alive until it is closed.
     void setParentList(std::shared_ptr<CorvelListViewController> list) { m_parentList = std::move(list); }
     /// Whether this editor has inserted a record of its own.
     bool hasCreated() const { return m_hasCreated; }
-    /// Whether it was opened without a record.
+    /// Whether the editor was opened without a record.
     bool creatingInstance() const { return m_creatingInstance; }
 
     LabelOutlet* navigationBar() { return &m_navigationBar; }
@@ -58,22 +58,22 @@ public:
     FieldOutlet* passwordField() { return &m_passwordField; }
     LabelOutlet* statusLabel() { return &m_statusLabel; }
     StatusKind statusKind() const { return m_statusKind; }
-    /// From a press of Save that went ahead until its outcome; Save does nothing meanwhile.
+    /// True from a press of Save until its outcome; further presses do nothing.
     bool isBusy() const { return m_statusKind == StatusKind::Message; }
     double separatorLeft() const { return 10; }
     double separatorRight() const { return 15; }
-    /// Next to nothing: none at all would bring back a grouped table's gap on top.
+    /// Almost 0, because 0 would bring back the gap above a grouped table.
     double tableHeaderHeight() const { return 0.01; }
 
-    /// Takes the keyboard from the field. Always true.
+    /// Takes the keyboard focus from the field. Returns true always.
     Q_INVOKABLE bool textFieldShouldReturn(lodestar::FieldOutlet* textField);
-    /// Whether every field has text. No trimming, no look at the address.
+    /// Whether every field has text. Texts are not trimmed, and the address is not checked.
     bool fieldsValidate() const;
     Q_INVOKABLE void hideKeyboardOnTouch();
     Q_INVOKABLE void saveCorvel();
     Q_INVOKABLE void cancel();
     void showStatusWithMessage(const QString& message);
-    /// Also gives the fields back, two seconds later.
+    /// Shows the error, and enables the fields again two seconds later.
     void showStatusWithError(const QString& message);
     void showWithSuccess(const QString& message);
 
@@ -95,8 +95,8 @@ private:
     void didFetch(const CorvelRef& corvel);
     void didFail(const Error& error);
     void close();
-    /// False once the lock has taken the sheet away, which does not end the work: the list may show another one since,
-    /// and what is posted would be taken for that one's.
+    /// False when the passcode lock has closed the sheet, which does not end the editor's work. The list may show
+    /// another editor's sheet since; that sheet would then receive this editor's notifications.
     bool hasSheet() const;
 
     CorvelRef m_corvel;

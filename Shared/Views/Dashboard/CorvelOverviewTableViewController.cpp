@@ -16,7 +16,7 @@ constexpr auto groupsScene = "resourceGroupsView";
 constexpr auto eventsScene = "serviceableEventsView";
 constexpr auto consoleScene = "managementConsoleView";
 
-/// Empty for a row that leads nowhere.
+/// The scene of a row; empty for a row that leads nowhere.
 std::string_view sceneOf(IndexPath indexPath)
 {
     switch (indexPath.section) {

@@ -7,7 +7,7 @@
 namespace lodestar
 {
 
-/// The menu of one console: what it manages, with counts, and the console itself.
+/// The menu of one console: the kinds of things that the console manages, with counts, and the console itself.
 class CorvelOverviewTableViewController : public lodestar::MenuTableViewController, public CorvelReceiving
 {
     Q_OBJECT

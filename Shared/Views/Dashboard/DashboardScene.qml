@@ -6,8 +6,8 @@ import Lodestar.Charts
 import Lodestar.Kit
 import Lodestar.Views
 
-/// The dashboard: three figures and two pies. Cards keep their places while their content is loading, so that nothing
-/// moves when it comes.
+/// The dashboard: three figures and two pies. Cards keep their places while their content loads, so that nothing moves
+/// when it arrives.
 PageScaffold {
     id: scene
 
@@ -48,7 +48,7 @@ PageScaffold {
     }
     scrollView: page
 
-    /// Words above a card that come with its content. Their place is kept.
+    /// The heading of a card. It appears with the card's content; its place is kept free until then.
     component Heading: Item {
         id: heading
 
@@ -122,7 +122,7 @@ PageScaffold {
 
         required property PieChartView chart
         required property IndicatorOutlet indicator
-        /// Said where there is nothing to chart.
+        /// The text when there is nothing to chart.
         required property string emptyText
 
         implicitHeight: Theme.textScale > 1 ? Math.max(scene.dashboard.chartRowHeight, pie.implicitHeight)
@@ -231,7 +231,7 @@ PageScaffold {
             }
 
             component FigureRule: Rectangle {
-                /// How many figures stand before it.
+                /// Number of figures before this rule.
                 required property int place
 
                 readonly property real thickness: 1 / Screen.devicePixelRatio

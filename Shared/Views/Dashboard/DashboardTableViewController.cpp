@@ -32,17 +32,18 @@ constexpr double phoneRatio = 1.2;
 
 constexpr double animationTime = 1.5;
 
-/// A wait that is over sooner needs no words.
+/// A wait that ends sooner shows no text.
 constexpr std::chrono::milliseconds waitingInterval{1500};
 
-// The line number is part of the message: it names the missing feed in a log, whatever becomes of this file's lines.
+// The line number is part of the message: it names the missing feed in the log, so it stays the same even when this
+// file's lines move.
 void logMissing(int line, std::string_view message)
 {
     VireoLogger::logWithLevel(2, 0, line, fileName, "-[DashboardTableViewController createDashboard]",
                               callStackReturnAddresses(), "{}", message);
 }
 
-/// The three feeds of one console are judged apart: one that is missing takes nothing from the others.
+/// Adds the three feeds of one console. A missing feed does not prevent the others from being counted.
 void addCorvel(Totals& totals, const Corvel& corvel)
 {
     const auto feed = [&corvel](std::string_view type, int line, std::string_view missing) {
@@ -76,7 +77,7 @@ const QList<QColor>& partitionColors()
     return colors;
 }
 
-/// The plain count, were it ever fractional with one digit, and no sign after it.
+/// Shows the plain count without a sign; a fractional count would have one digit.
 NumberFormatter valueFormatter()
 {
     NumberFormatter formatter;
@@ -87,7 +88,7 @@ NumberFormatter valueFormatter()
     return formatter;
 }
 
-/// Colours go by position, not by state: a state has no colour of its own.
+/// Colours are given by position, so a state has no fixed colour.
 PieChartData pieData(const StateCounts& counts, const QList<QColor>& colors, double valueFontSize)
 {
     PieChartData data;
@@ -113,7 +114,8 @@ DashboardTableViewController::DashboardTableViewController()
 
 DashboardTableViewController::~DashboardTableViewController()
 {
-    // The threads are not joined: at idle priority they may take long to notice, and they touch nothing of this.
+    // The threads are not joined: at idle priority they may take long to notice the request, and they use nothing of
+    // this object.
     m_stopWaiting.request_stop();
 }
 
@@ -125,7 +127,7 @@ void DashboardTableViewController::viewDidLoad()
 void DashboardTableViewController::viewDidAppear()
 {
     UILoadingContent();
-    // One wait an appearance: shown twice while a wait runs, the dashboard is drawn twice.
+    // Every appearance starts a wait. When the dashboard appears again during a wait, it is drawn twice.
     std::thread([dashboard = weak_from_this(), stop = m_stopWaiting.get_token()] {
         const OwnThread thread("lodestar-wait");
         OwnThread::takeIdlePriority();
@@ -137,8 +139,8 @@ void DashboardTableViewController::waitForRequestToEnd(const std::weak_ptr<ViewC
                                                        const std::stop_token& stop)
 {
     const RESTHandler& rest = RESTHandler::sharedInstance();
-    // Reads the flags as fast as it can, and is meant to: the numbers are there the moment that the last console is.
-    // Idle priority keeps it out of everybody's way. A console that is never done keeps it going.
+    // This loop polls without a pause; that is meant, so that the numbers are there as soon as the last console is
+    // done. Idle priority keeps it from disturbing other threads. If a console is never done, the loop does not end.
     std::size_t count = 0;
     std::size_t done = 0;
     do {
@@ -147,7 +149,7 @@ void DashboardTableViewController::waitForRequestToEnd(const std::weak_ptr<ViewC
         }
         done = static_cast<std::size_t>(std::ranges::count_if(
             *rest.corvelListSnapshot(), [](const CorvelRef& corvel) { return corvel->completedFetch.load(); }));
-        // Asked anew: a console that was added while the flags were read is waited for as well.
+        // The list is asked again, so that a console added during the count is waited for too.
         count = rest.corvelListSnapshot()->size();
     } while (done < count);
 
@@ -201,7 +203,7 @@ void DashboardTableViewController::applySettings(PieChartView& pie)
     legend.yOffset = 18;
     pie.setLegend(legend);
     pie.setDrawSliceText(false);
-    // The second word on percentages is the one that counts: slices show how many, not what share.
+    // This overrides the setting made before: slices show counts, not shares.
     pie.setUsePercentValues(false);
     pie.setRotationWithTwoFingers(true);
 }
@@ -308,7 +310,7 @@ void DashboardTableViewController::setViewSize(double width, double shortestSide
 
 std::optional<double> DashboardTableViewController::heightForRowAtIndexPath(IndexPath indexPath) const
 {
-    // Counted without regard to the section.
+    // Rows are counted without regard to sections.
     if (indexPath.row != managedSystemsRow && indexPath.row != partitionsRow) {
         return std::nullopt;
     }

@@ -14,8 +14,8 @@ namespace lodestar
 {
 
 /// The dashboard: how many consoles are online, how many attention LEDs are lit, how many events there are, and two
-/// pies of states. It fetches nothing; each time it appears it waits until every console of the working list has been
-/// fetched and then draws what the records hold. Main thread, but for the wait.
+/// pies of states. The dashboard fetches nothing. Each time it appears, it waits until every console of the working
+/// list has been fetched and then shows what the records contain. Main thread, except for the wait.
 class DashboardTableViewController : public lodestar::ViewController, public ChartViewDelegate
 {
     Q_OBJECT
@@ -40,7 +40,7 @@ class DashboardTableViewController : public lodestar::ViewController, public Cha
 
 public:
     DashboardTableViewController();
-    /// Ends the waits that are still running.
+    /// Asks the waits that still run to end.
     ~DashboardTableViewController() override;
 
     IndicatorOutlet* lParLoadingIndicator() { return &m_lParLoadingIndicator; }
@@ -54,29 +54,31 @@ public:
     ViewOutlet* CorvelOverviewLabel() { return &m_CorvelOverviewLabel; }
     ViewOutlet* managedSystemLabel() { return &m_managedSystemLabel; }
     ViewOutlet* lparLabel() { return &m_lparLabel; }
-    /// Shown when there is nothing to sum up.
+    /// Visible when there is nothing to sum up.
     ViewOutlet* noDataView() { return &m_noDataView; }
-    /// Says which consoles are waited for, once that has taken a while.
+    /// Names the consoles that are waited for, once the wait has taken a while.
     LabelOutlet* waitingLabel() { return &m_waitingLabel; }
     PieChartView* manSysPieChartView() { return &m_manSysPieChartView; }
     PieChartView* lparPieChartView() { return &m_lparPieChartView; }
 
-    /// Returns once every console of the working list has been fetched, `createDashboard` scheduled on the main thread,
-    /// or once it is told to stop. Background thread; it holds no reference to the dashboard while it waits.
+    /// Waits until every console of the working list has been fetched, then schedules `createDashboard` on the main
+    /// thread and returns. Returns early when asked to stop. Background thread; while waiting, it holds no strong
+    /// reference to the dashboard.
     static void waitForRequestToEnd(const std::weak_ptr<ViewController>& dashboard, const std::stop_token& stop);
     void createDashboard();
     void UILoadingContent();
     void UIShowContent();
 
-    /// The size of the controller's view, and the shorter side of the screen, which tells a tablet. Points.
+    /// Sets the size of the controller's view, and the shorter side of the screen, by which a tablet is recognised.
+    /// Points.
     Q_INVOKABLE void setViewSize(double width, double shortestSide);
-    /// Opens the console list's editor, for whoever has no console yet.
+    /// Opens the editor of the console list, for users who have no console yet.
     Q_INVOKABLE void addConsole();
-    /// None for a row whose height is the scene's own.
+    /// Nothing for a row whose height the scene decides.
     std::optional<double> heightForRowAtIndexPath(IndexPath indexPath) const;
     double chartRowHeight() const;
 
-    /// Both do nothing: a slice that is tapped stands out, and that is all.
+    /// Both functions do nothing: tapping a slice only makes it stand out.
     void chartValueSelected(ChartView& chartView, const ChartEntry& entry, int dataSetIndex,
                             const Highlight& highlight) override;
     void chartValueNothingSelected(ChartView& chartView) override;
@@ -97,7 +99,7 @@ private:
     void setContentHidden(bool hidden);
 
     std::stop_source m_stopWaiting;
-    int m_wait = 0; ///< counts the loading looks and their ends: odd while one is shown
+    int m_wait = 0; ///< counts changes between loading and loaded; odd while loading is shown
     double m_viewWidth = 0;
     bool m_tabletIdiom = false;
 

@@ -5,7 +5,7 @@ import QtQuick
 import Lodestar.Kit
 import Lodestar.Views
 
-/// A managed system's menu, below two gauges.
+/// A managed system's menu, with two gauges above it.
 MenuScene {
     id: scene
 
@@ -16,7 +16,7 @@ MenuScene {
     Item {
         id: ornament
 
-        // The frames are a phone's; on wide pages they keep their place beside the cards.
+        // The gauges' frames are meant for a phone; on wide pages, they keep their place relative to the cards.
         x: Theme.sideMargin(scene.width, Theme.measure) - Theme.cardMargin(0)
         y: -scene.scrolledBy
         width: scene.width - 2 * x

@@ -29,7 +29,7 @@ QList<GaugeFigure> MSOverViewController::gauges() const
 
 MenuTableViewController::Sections MSOverViewController::makeSections() const
 {
-    // The resting row says which system the menu is for.
+    // The row without a scene names the system that the menu is for.
     const ManagedSystem shown(system());
     return {{{tr("Performance Monitoring"), "performance", performanceScene}},
             {{textOf(shown.name()), "managed_systems", "", textOf(shown.state())},
@@ -50,8 +50,8 @@ void MSOverViewController::openRow(IndexPath indexPath)
 
 std::optional<std::string> MSOverViewController::systemIDAtRow(int row) const
 {
-    // By the selected row, which here is always the first: the feed's first system is charted, whichever system the
-    // menu is for. That is meant.
+    // The index is that of the selected row, which here is always 0. So the feed's first system is charted, whichever
+    // system the menu is for. That is meant.
     const Feed feed = corvel() ? feedOfType(*corvel(), ObjectType::ManagedSystem) : Feed::notAvailable();
     return ManagedSystem::identifierAt(feed, static_cast<std::size_t>(row));
 }

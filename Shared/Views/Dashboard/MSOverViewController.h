@@ -12,7 +12,7 @@
 namespace lodestar
 {
 
-/// What a circle gauge shows, and where. Points.
+/// A circle gauge's place in points, its figures and its colour.
 struct GaugeFigure {
     Q_GADGET
     QML_VALUE_TYPE(gaugeFigure)
@@ -45,7 +45,8 @@ public:
     const XMLElement& system() const { return rootXML(); }
     void setSystem(XMLElement system) { setRootXML(std::move(system)); }
 
-    /// An ornament: the figures are fixed and say nothing of the system. That the two overlap is meant.
+    /// The gauges are decoration: their figures are fixed and tell nothing of the system. That the two overlap is
+    /// meant.
     QList<GaugeFigure> gauges() const;
 
 protected:

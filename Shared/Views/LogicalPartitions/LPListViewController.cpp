@@ -65,7 +65,7 @@ XMLElement LPListViewController::partitionAt(TableKind tableView, IndexPath inde
 {
     XMLElement partition = GroupedListViewController::partitionAt(tableView, indexPath);
     if (!partition && m_partitionName) {
-        // The first group is the shorter one: what is left are the system's own.
+        // The section has more rows than the first group; the further rows show the system's own elements.
         partition = elementAt(groupNamed(tableView, *m_partitionName), indexPath.row);
     }
     return partition;

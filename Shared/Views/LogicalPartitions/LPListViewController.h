@@ -7,11 +7,11 @@
 namespace lodestar
 {
 
-/// The logical partitions of a console by managed system: of all its systems, or narrowed to one. A demonstration
-/// console knows no system by name and always shows all.
+/// The logical partitions of a console by managed system: of all systems, or narrowed to one. A demonstration console
+/// has no system names and always shows all.
 ///
-/// A narrowed list has one section with as many rows as the system has partitions, and titled with its name. Its rows
-/// are the first group's all the same, whichever system that is: the narrowing does not reach them, and that is meant.
+/// A narrowed list has one section with the system's name and as many rows as the system has partitions. Nevertheless
+/// its rows show the partitions of the first group, whichever system that is; that is meant.
 class LPListViewController : public lodestar::GroupedListViewController, public PartitionNarrowing
 {
     Q_OBJECT
@@ -21,7 +21,7 @@ class LPListViewController : public lodestar::GroupedListViewController, public 
 public:
     LPListViewController();
 
-    /// Despite its name, that of a managed system; none for all systems.
+    /// Despite its name, the name of a managed system; nothing for all systems.
     const std::optional<std::string>& partitionName() const { return m_partitionName; }
     void setPartitionName(std::optional<std::string> partitionName) override
     {

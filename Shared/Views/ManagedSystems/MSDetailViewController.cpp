@@ -39,7 +39,7 @@ void MSDetailViewController::viewDidLoad()
 void MSDetailViewController::populateSystemDetails()
 {
     const ManagedSystem system(rootXML());
-    // The prefix is another screen's, and stays: logs are searched for these lines.
+    // The prefix is another screen's name. It must stay, because logs are searched for these lines.
     screenLog.write(47, populate, "DeltaCorvelViewController: Fetching Main Items");
     DetailSection main{{row(tr("IP Address"), system.primaryIPAddress()), row(tr("Status"), system.state()),
                         row(tr("Reference Code"), system.referenceCode()),

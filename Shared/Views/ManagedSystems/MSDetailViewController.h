@@ -7,8 +7,8 @@
 namespace lodestar
 {
 
-/// The facts of one managed system. Its reference code leads to the code's documentation in the system browser, where
-/// the documentation's address was given to the build (LODESTAR_REFERENCE_CODE_ADDRESS).
+/// The facts of one managed system. Its reference code opens the code's documentation in the system browser, if the
+/// build was given the documentation's address (LODESTAR_REFERENCE_CODE_ADDRESS).
 class MSDetailViewController : public lodestar::DetailViewController, public RootXMLReceiving
 {
     Q_OBJECT
@@ -16,12 +16,12 @@ class MSDetailViewController : public lodestar::DetailViewController, public Roo
     QML_UNCREATABLE("made by the storyboard")
 
 public:
-    /// The documentation's address without the code, empty for none.
+    /// `documentationBase` is the documentation's address without the code; empty for none.
     explicit MSDetailViewController(QString documentationBase = builtDocumentationBase());
 
     void populateSystemDetails();
 
-    /// Where a reference code is documented.
+    /// The address of a reference code's documentation.
     QUrl documentationURL(const QString& referenceCode) const;
 
 protected:

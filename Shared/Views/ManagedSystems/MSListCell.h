@@ -12,8 +12,8 @@ namespace lodestar
 
 class ManagedSystem;
 
-/// One row of the managed-system list, as a value: name, state and, for a system in error or with its attention LED
-/// lit, a badge that the name makes room for.
+/// One row of the managed-system list, as a value: name and state. A system in error or with its attention LED lit has
+/// a badge, for which the name moves aside.
 class MSListCell
 {
     Q_GADGET
@@ -29,13 +29,13 @@ class MSListCell
 
 public:
     MSListCell() = default;
-    /// `match` is what was searched for; empty for none.
+    /// `match` is the searched text; empty for none.
     MSListCell(const ManagedSystem& system, const QString& match);
 
     const CellImage& statusImage() const { return m_statusImage; }
     const CellLabel& nameLabel() const { return m_nameLabel; }
     const CellLabel& statusLabel() const { return m_statusLabel; }
-    /// The shape that says the state without colour: "good", "error" or "off".
+    /// The shape that shows the state without colour: "good", "error" or "off".
     const QString& statusMark() const { return m_statusMark; }
     /// Points from the row's start to the name.
     double nameLeftConstraint() const { return m_nameLeftConstraint; }

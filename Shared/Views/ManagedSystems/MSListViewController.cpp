@@ -89,7 +89,8 @@ void MSListViewController::didSelectRowAtIndexPath(TableKind tableView, IndexPat
                            choice(tr("Logical Partitions"), "logical_partitions", partitionsScene),
                            {tr("Cancel")}},
                           cancelItem, [this, tableView, indexPath](int index) {
-                              // Taken again: the list may have come anew while the sheet was up.
+                              // The element is read again, because the list may have been fetched anew while the sheet
+                              // was up.
                               openItem(index, ManagedSystem(elementAtRow(tableView, indexPath.row)));
                           });
     table(tableView).deselectRow(indexPath);

@@ -12,8 +12,8 @@ namespace lodestar
 
 class ManagedSystem;
 
-/// The managed systems of a console, in the order of the feed, with a state text and badges. A row opens an action
-/// sheet with what can be seen of the system; swiping it, a long press or the menu key offer its menu screen.
+/// The managed systems of a console, in the order of the feed, with a state text and badges. A tap on a row opens an
+/// action sheet with the system's screens; a swipe, a long press or the menu key offers the system's menu screen.
 class MSListViewController : public lodestar::FlatListViewController
 {
     Q_OBJECT
@@ -26,7 +26,7 @@ public:
 
     MenuOutlet* actionSheet() { return &m_actionSheet; }
     const std::vector<XMLElement>& MSList() const { return elements(); }
-    /// What the search found, as rows of `MSList`.
+    /// The search results, as rows of `MSList`.
     const std::vector<std::uint32_t>& filteredMSList() const { return filteredElements(); }
 
     /// Appends the systems of the stored feed. Any thread.
@@ -34,7 +34,7 @@ public:
 
     QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
     void didSelectRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
-    /// A swiped row's button. Always true: the row closes again.
+    /// Handles a button of a swiped row. Returns true always, so that the row closes.
     bool tappedButtonAtIndex(TableKind tableView, int row, int index);
     Q_INVOKABLE bool swipeTableCell(bool inSearchResults, int row, int tappedButtonAtIndex);
 

@@ -3,7 +3,7 @@ import QtQuick
 import Lodestar.Kit
 import Lodestar.Views
 
-/// What a console says of itself.
+/// Shows a console's facts about itself.
 DetailScene {
     id: scene
 

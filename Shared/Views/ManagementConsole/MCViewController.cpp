@@ -56,7 +56,7 @@ void MCViewController::offerRefresh()
 
 void MCViewController::refreshFromButton()
 {
-    // One fetch at a time: it ends in facts, or in a new offer.
+    // Only one fetch runs at a time, so the button goes; if the fetch fails, the button is offered again.
     m_rightBarButton.setItem(BarButtonOutlet::SystemItem::None, {});
     m_contentLabel.setHidden(true);
     m_header.setHeaderTitle(tr("Management Console"), tr("updating..."));
@@ -77,7 +77,7 @@ void MCViewController::fetchAfresh()
             [screen](const Error& error) {
                 screenLog.writeError(121, "fetchSystemInformation", error);
                 screen->m_fetchingActivityIndicator.stopAnimating();
-                // Nothing is being updated any more.
+                // The subtitle "updating..." has to go.
                 screen->m_header.setHeaderTitle(tr("Management Console"), QString());
                 screen->m_contentLabel.setHidden(false);
                 screen->offerRefresh();
@@ -102,7 +102,7 @@ void MCViewController::populateTableViewFromXML(const XMLElement& feedRoot)
     screenLog.write(144, populate, "MCViewController: Fetching MTSM");
     DetailSection serial = modelAndSerial(console.identity());
 
-    // The line says processors and introduces the version.
+    // The log line says processors although the version follows.
     screenLog.write(156, populate, "MCViewController: Fetching processor information");
     DetailSection version{
         {row(tr("Version"), QString::fromStdString(console.version())), row(tr("Build Level"), console.buildLevel())}};

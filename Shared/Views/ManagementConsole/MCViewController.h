@@ -11,8 +11,8 @@
 namespace lodestar
 {
 
-/// What a console says of itself: name, model, version. Shown from the console's last whole fetch if that has ended,
-/// fetched otherwise. Main thread.
+/// A console's facts about itself: name, model, version. They come from the console's last whole fetch if that fetch
+/// has ended; otherwise they are fetched. Main thread.
 class MCViewController : public lodestar::DetailViewController, public CorvelReceiving
 {
     Q_OBJECT
@@ -27,10 +27,10 @@ public:
     MCViewController();
 
     TitleHeader* header() { return &m_header; }
-    /// Shown when the fetch failed.
+    /// Visible when the fetch failed.
     LabelOutlet* contentLabel() { return &m_contentLabel; }
     IndicatorOutlet* fetchingActivityIndicator() { return &m_fetchingActivityIndicator; }
-    /// Refreshes where there is nothing to show; none otherwise.
+    /// The button that refreshes; visible only while there is nothing to show.
     BarButtonOutlet* rightBarButton() { return &m_rightBarButton; }
 
     void fetchSystemInformation();

@@ -10,20 +10,19 @@
 namespace lodestar
 {
 
-/// How many of a group's resources are in which state.
+/// The number of a group's resources in each state.
 struct RGStateCounts {
     int good = 0;
     int off = 0;
     int alert = 0;
     int error = 0;
 
-    /// Counts a state by its exact wording. Any other text counts nowhere.
+    /// Counts a state by its exact wording; any other text is not counted.
     void add(std::string_view state);
     friend bool operator==(const RGStateCounts&, const RGStateCounts&) = default;
 };
 
-/// One row of the resource-group list, as a value: tag, name, how many resources, and how many of them are in which
-/// state.
+/// One row of the resource-group list, as a value: tag, name, number of resources, and their number in each state.
 class RGListCell
 {
     Q_GADGET
@@ -41,11 +40,11 @@ class RGListCell
 
 public:
     void setGroupName(const QString& name) { m_groupNameLabel.text = name; }
-    /// A name that no tag has leaves the image as it was.
+    /// Sets the tag's image. A colour without a tag leaves the image as it was.
     void setGroupColor(std::string_view name);
     void setStateCounts(const RGStateCounts& counts);
     void setResourceCount(int count);
-    /// The states are still being asked for: there are no counts yet.
+    /// Whether the states are still being fetched, so that there are no counts yet.
     void setUpdating(bool updating) { m_updating = updating; }
 
     const CellLabel& groupNameLabel() const { return m_groupNameLabel; }
@@ -56,7 +55,7 @@ public:
     const CellLabel& resourceCountLabel() const { return m_resourceCountLabel; }
     const CellImage& groupTag() const { return m_groupTag; }
     bool isUpdating() const { return m_updating; }
-    /// Name, colour and counts as one sentence.
+    /// The row's text for screen readers, as one sentence: name, colour, counts.
     QString accessibleText() const;
 
 private:

@@ -5,10 +5,10 @@ import QtQuick
 import Lodestar.Kit
 import Lodestar.Views
 
-/// A resource group's row: tag and name, how many resources at the end, and below four counts that stand in columns. With
-/// large text the number of resources stands below the name, and the columns break into lines where they do not fit;
-/// otherwise a row keeps its height however narrow it is, and what stands in it gives way. Until the counts are known, the
-/// row says that they are asked for.
+/// A resource group's row: tag and name, the number of resources at the end, and four counts in columns below. With
+/// large text the number of resources stands below the name, and the columns wrap where they do not fit. At other text
+/// sizes a row keeps its height in any width, and its texts elide. Until the counts are known, the row says that they
+/// are being fetched.
 TableCell {
     id: row
 
@@ -17,7 +17,7 @@ TableCell {
     readonly property real scale100: Theme.textScale
     readonly property bool stacked: Theme.stacked
     readonly property real tagSize: Math.round(28 * Theme.badgeScale)
-    /// The drawing's own margin hangs out, so that the tag's ink starts where other rows' text does.
+    /// The picture has a margin of its own; moving it out puts the tag's ink where the text of other rows starts.
     readonly property real tagStart: Theme.rowStart - 2
     readonly property real textStart: tagStart + tagSize + 14
 
@@ -97,7 +97,7 @@ TableCell {
             color: Theme.ink2
             width: Math.min(implicitWidth, Math.round(parent.width * (row.stacked ? 1 : 0.5)))
             elide: row.stacked ? Text.ElideNone : Text.ElideMiddle
-            // By place, not by anchors: an item that changes from one side's anchor to the other's loses its width.
+            // x and not anchors: an item whose anchor changes from one side to the other loses its width.
             x: row.stacked !== Theme.mirrored ? 0 : parent.width - width
             y: row.stacked ? name.height : name.baselineOffset - baselineOffset
             Accessible.ignored: true
@@ -108,10 +108,10 @@ TableCell {
             readonly property real column: Math.round((Window.width < 375 ? 56 : 64) * row.scale100)
             readonly property real widest: Math.max(good.implicitWidth, off.implicitWidth, alert.implicitWidth,
                                                     error.implicitWidth) + 12 * row.scale100
-            /// Columns give way by a fifth before they break.
+            /// Columns shrink by up to a fifth before they wrap.
             readonly property real least: Math.max(widest, 0.8 * column)
 
-            // Kept as high as it will be.
+            // While updating, the counts are transparent and not hidden, so that the row keeps its height.
             opacity: row.cell.updating ? 0 : 1
             columns: !row.stacked || 4 * least <= parent.width ? 4 : 2 * least <= parent.width ? 2 : 1
             readonly property real share: Math.floor(parent.width / columns)

@@ -100,7 +100,8 @@ CellInSteps RGListViewController::cellInStepsForRowAtIndexPath(TableKind /*table
 void RGListViewController::processStates(const std::vector<XMLElement>& links, RGStateCounts& counters,
                                          LinkKind kind) const
 {
-    // One request after another, nothing kept, on the thread that configures the row: states are as they are now.
+    // The states are fetched one after another on the thread that configures the row, and are not cached, so that they
+    // are current.
     for (const XMLElement& link : links) {
         const auto address = ResourceGroup::stateLinkOf({link, kind});
         const auto state = address ? fetchLinkedText(*address, corvel()) : std::nullopt;

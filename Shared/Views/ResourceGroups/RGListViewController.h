@@ -12,8 +12,8 @@
 namespace lodestar
 {
 
-/// The resource groups of a console, each with its colour tag, how many resources it has and their states. It has no
-/// search, and its rows lead nowhere.
+/// The resource groups of a console, each with its colour tag, its number of resources and their states. The list has
+/// no search, and its rows lead nowhere.
 class RGListViewController : public lodestar::FeedListViewController
 {
     Q_OBJECT
@@ -21,24 +21,24 @@ class RGListViewController : public lodestar::FeedListViewController
     QML_UNCREATABLE("made by the storyboard")
 
 public:
-    /// What a group's links lead to.
+    /// The kind of resource that a group's link leads to.
     using LinkKind = ResourceGroup::MemberKind;
 
     RGListViewController();
 
-    /// A place for resources that rows have looked up; emptied by every pull. Nothing is kept in it: a state on screen
-    /// is never older than the last time that its row was configured.
+    /// A place for looked-up resources, emptied by every pull. Nothing is stored in it: a state on screen is always as
+    /// old as the row's last configuration.
     std::map<std::string, std::string>& resources() { return m_resources; }
 
-    /// Nothing: the list has no search.
+    /// Does nothing, because the list has no search.
     void filterContentForSearchText(const QString& searchText, const QString& scope) override;
 
     int numberOfRowsInSection(TableKind tableView, int section) const override;
-    /// Blocks for as long as the group's resources take to tell their states, one after another.
+    /// Blocks until all resources of the group have told their states, one after another.
     QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
-    /// What is known without asking, and one step a resource.
+    /// The cell as far as it is known without asking, and one step per resource.
     CellInSteps cellInStepsForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
-    /// Asks each link for its state and counts it. Blocks.
+    /// Asks each link for its state and counts the states. Blocks.
     void processStates(const std::vector<XMLElement>& links, RGStateCounts& counters, LinkKind kind) const;
 
 protected:
@@ -49,7 +49,8 @@ private:
     const std::vector<XMLElement>& entries() const;
 
     std::map<std::string, std::string> m_resources;
-    /// The stored feed's entries, and the feed they are of: a feed of many is walked once, not once a row.
+    /// The entries of the stored feed, and the feed that they come from, so that a long feed is walked once and not
+    /// once per row.
     mutable XMLElement m_entriesOf;
     mutable std::vector<XMLElement> m_entries;
 };

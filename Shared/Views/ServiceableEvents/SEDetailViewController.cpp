@@ -20,7 +20,7 @@ namespace
 
 constexpr ScreenLog screenLog("Shared/Views/ServiceableEvents/SEDetailViewController");
 
-/// The decimal number that the text starts with; 0 for none.
+/// The decimal number at the start of the text; 0 for none.
 double decimalNumber(std::string_view text)
 {
     while (!text.empty() && std::isspace(static_cast<unsigned char>(text.front())) != 0) {
@@ -30,18 +30,18 @@ double decimalNumber(std::string_view text)
         text.remove_prefix(1);
     }
     double number = 0;
-    // Words for infinity and the like are no decimal numbers.
+    // Words such as "inf" are not decimal numbers.
     if (text.find_first_of("0123456789.") <= 1) {
         std::from_chars(text.data(), text.data() + text.size(), number);
     }
     return number;
 }
 
-/// Seconds since 1970 as "hh:MM dd/MM": an hour of twelve, then the month where the minutes would stand, and the date.
-/// It is meant. Empty for what no calendar has.
+/// Seconds since 1970 as "hh:MM dd/MM": the hour of a twelve-hour clock, then the month in the place of the minutes,
+/// then day and month. That is meant. Empty for a time outside the calendar.
 QString eventTime(const std::optional<std::string>& timestamp)
 {
-    constexpr double lastSecond = 9e15; // in milliseconds still a 64-bit number
+    constexpr double lastSecond = 9e15; // in milliseconds still within 64 bits
     const double seconds = std::floor(decimalNumber(timestamp.value_or("")));
     if (std::abs(seconds) > lastSecond) {
         return {};
@@ -59,7 +59,7 @@ QString eventTime(const std::optional<std::string>& timestamp)
 
 SEDetailViewController::SEDetailViewController() : DetailViewController(u'~')
 {
-    // Only the first unit's section has a title.
+    // Only the first unit's section has a title; the sections of further units have none.
     setSectionTitles({tr("Main Information"), tr("Associated FRUs")});
 }
 
@@ -82,7 +82,7 @@ void SEDetailViewController::populateEventDetails()
 
 DetailSection SEDetailViewController::mainInformation() const
 {
-    // An absent text is an empty value here, not "(null)".
+    // On this screen an absent text is an empty value, not "(null)".
     const ServiceableEvent event(rootXML());
     return {{
         row(tr("Problem Number"), textOf(event.problemNumber())),

@@ -9,8 +9,8 @@ namespace lodestar
 
 class FieldReplaceableUnit;
 
-/// Every recorded fact of one serviceable event, and a section for each field-replaceable unit associated with it. The
-/// separator of its rows is '~', since codes and times hold colons.
+/// All recorded facts of one serviceable event, and a section for each of its field-replaceable units. Rows use the
+/// separator '~', because codes and times contain colons.
 class SEDetailViewController : public lodestar::DetailViewController, public RootXMLReceiving
 {
     Q_OBJECT

@@ -10,8 +10,8 @@ namespace lodestar
 
 class ServiceableEvent;
 
-/// One row of the serviceable-event list, as a value: the state of its approval with its number, over the raw text of
-/// when it was last reported.
+/// One row of the serviceable-event list, as a value: the state of the event's approval with its number, over the
+/// unchanged text of when the event was last reported.
 class SEListCell
 {
     Q_GADGET
@@ -22,7 +22,7 @@ class SEListCell
 
 public:
     SEListCell() = default;
-    /// `match` is what was searched for; empty for none.
+    /// `match` is the searched text; empty for none.
     SEListCell(const ServiceableEvent& event, const QString& match);
 
     const CellLabel& titleLabel() const { return m_titleLabel; }

@@ -14,7 +14,7 @@ namespace lodestar
 namespace
 {
 
-// Three methods fetch here, and each fails under its own name and line.
+// Three functions fetch here; each failure is logged with the function's own name and line.
 constexpr FeedListTraits traits = {
     .fileName = "Shared/Views/ServiceableEvents/SEListViewController",
     .instantiationLine = 32,
@@ -58,7 +58,7 @@ void SEListViewController::createSEList(Turn turn)
 
 QVariant SEListViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)
 {
-    // Without a root: "NA", or no value at all. The console was reset while its events are shown.
+    // The feed has no root when it is "NA" or absent, because the console was reset while its events were shown.
     if (!feed().root()) {
         setHeaderTitle(QCoreApplication::translate("FeedListViewController", traits.title), tr("N/A"));
         return QVariant::fromValue(SEListCell());
@@ -69,8 +69,8 @@ QVariant SEListViewController::cellForRowAtIndexPath(TableKind tableView, IndexP
 
 void SEListViewController::didSelectRowAtIndexPath(TableKind /*tableView*/, IndexPath indexPath)
 {
-    // The row's index is taken in the whole feed, and the row deselected is the main table's, also when search results
-    // were tapped. Both are meant.
+    // The row's index is used in the whole feed, and the main table's row is deselected, even when a search result was
+    // tapped. Both are meant.
     const XMLElement event = contentOf(elementAt(feed().entries(), indexPath.row), ObjectType::ServiceableEvent);
     if (event) {
         openScene(*this, "serviceableEventsDetail", {.rootXML = event});

@@ -9,7 +9,7 @@
 namespace lodestar
 {
 
-/// The serviceable events of a console, in the order of the feed. A row leads to the event's facts.
+/// The serviceable events of a console, in the order of the feed. A row opens the event's facts.
 class SEListViewController : public lodestar::FlatListViewController
 {
     Q_OBJECT
@@ -20,14 +20,14 @@ public:
     SEListViewController();
 
     const std::vector<XMLElement>& SEList() const { return elements(); }
-    /// What the search found, as rows of `SEList`.
+    /// The search results, as rows of `SEList`.
     const std::vector<std::uint32_t>& filteredSEList() const { return filteredElements(); }
 
     /// Appends the events of the stored feed and shows the content. Any thread.
     void createSEList() { createSEList(turn()); }
 
     QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
-    /// Opens the event that the stored feed has at the row's index, whichever table was tapped.
+    /// Opens the event at the row's index in the stored feed, whichever table was tapped.
     void didSelectRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
 
 protected:

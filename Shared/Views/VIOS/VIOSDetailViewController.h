@@ -16,7 +16,7 @@ class VIOSDetailViewController : public lodestar::PartitionDetailViewController
 public:
     VIOSDetailViewController();
 
-    /// As a partition's, with a line in the log.
+    /// Does the same as for a partition and writes one more log line.
     void populatePartitionDetails() override;
 };
 

@@ -6,8 +6,8 @@
 namespace lodestar
 {
 
-/// The virtual I/O servers of a console by managed system. Their rows swipe and uncover buttons that do nothing: that
-/// is meant, since nothing is ever changed on a console.
+/// The virtual I/O servers of a console by managed system. Swiping a row uncovers buttons that do nothing; that is
+/// meant, because nothing is ever changed on a console.
 class VIOSViewController : public lodestar::GroupedListViewController
 {
     Q_OBJECT
@@ -17,8 +17,8 @@ class VIOSViewController : public lodestar::GroupedListViewController
 public:
     VIOSViewController();
 
-    /// The second text of a list that could not be loaded. Content leaves it as it is: loading, which comes first, has
-    /// hidden it.
+    /// The second text of a list that could not be loaded. Showing content need not hide it, because loading comes
+    /// first and hides it.
     LabelOutlet* ohCrabLabel() { return noDataHeadline(); }
 
 protected:

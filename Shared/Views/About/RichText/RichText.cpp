@@ -22,7 +22,7 @@ constexpr int symbolCharacterSet = 2;
 constexpr char32_t bullet = 0x2022;
 constexpr char16_t replacement = 0xFFFD;
 
-// From 0x80 on; from 0xA0 on the code page is Latin 1.
+// Characters of the bytes 0x80 to 0x9F; from 0xA0 on, the code page equals Latin 1.
 constexpr std::array<char16_t, 32> windows1252 = {0x20AC, 0xFFFD, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
                                                   0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0xFFFD, 0x017D, 0xFFFD,
                                                   0xFFFD, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
@@ -56,15 +56,15 @@ public:
 
 private:
     enum class Destination { Body, Marker, FontTable, ColorTable, Skipped };
-    /// What a group inherits and its end gives back.
+    /// The state that a group inherits and that its end restores.
     struct State {
         Destination destination = Destination::Body;
         RichTextStyle style{};
-        RichTextParagraph paragraph{}; ///< the format alone
-        int font = -1;                 ///< as the text numbers it
-        int fallback = 1;              ///< characters that stand in for one written as a number
+        RichTextParagraph paragraph{}; ///< format only, no text
+        int font = -1;                 ///< the font's number in the text
+        int fallback = 1;              ///< number of fallback characters after a character written as a number
     };
-    /// With the word's parameter.
+    /// The handler of a control word; the number is the word's parameter.
     using Action = void (*)(Reader&, int);
     static const std::map<std::string_view, Action>& actions();
     template <char32_t character>
@@ -101,12 +101,12 @@ private:
     State m_state;
     std::vector<State> m_groups;
     std::size_t m_tooDeep = 0;
-    RichTextParagraph m_paragraph; ///< runs and marker of the paragraph under way
+    RichTextParagraph m_paragraph; ///< runs and marker of the paragraph that is being read
     std::size_t m_pieces = 0;
-    int m_skip = 0; ///< stand-ins still to be passed over
+    int m_skip = 0; ///< fallback characters still to be skipped
     char16_t m_highSurrogate = 0;
     int m_defaultFont = -1;
-    std::map<int, std::size_t> m_fonts; ///< the text's numbers, the document's fonts
+    std::map<int, std::size_t> m_fonts; ///< from font numbers in the text to indexes into the document's fonts
     std::set<int> m_symbolFonts;
     int m_namedFont = -1;
     std::string m_fontName;
@@ -191,12 +191,12 @@ RichTextDocument Reader::read()
     for (RichTextToken token = m_tokens.next(); token.kind != RichTextToken::Kind::End; token = m_tokens.next()) {
         handle(token);
         m_document.truncated = m_document.truncated || m_pieces >= RichTextLimits::pieces;
-        // Whatever follows the text's own group is no part of it.
+        // Bytes after the end of the text's own group do not belong to the text.
         if (m_pieces >= RichTextLimits::pieces || (token.kind == RichTextToken::Kind::GroupClose && m_groups.empty())) {
             break;
         }
     }
-    // Where the text was cut, what was under way is shown in its format.
+    // Where the text was cut off, the unfinished paragraph is kept in its format.
     m_state.destination = Destination::Body;
     flushSurrogate();
     if (!m_paragraph.runs.empty() || !trimmed(m_paragraph.marker).empty()) {
@@ -273,7 +273,8 @@ void Reader::handleSymbol(int symbol)
 {
     switch (symbol) {
     case '*':
-        // What follows may be passed over by those who do not know it, and nothing that is known here is marked so.
+        // The mark says that readers may skip the group if they do not know its word; all groups known here have no
+        // such mark.
         m_state.destination = Destination::Skipped;
         break;
     case '\\':
@@ -302,7 +303,8 @@ void Reader::appendByte(int byte)
     if (character == '\n') {
         return;
     }
-    // A symbol font's characters are drawings at the places of letters, and all that texts draw with them are bullets.
+    // Symbol fonts have pictures in the places of letters. All such pictures become bullets, because texts use them
+    // only for bullets.
     if (character > 0x20 && m_symbolFonts.contains(m_state.font)) {
         append(bullet);
     } else {

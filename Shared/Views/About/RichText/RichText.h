@@ -24,12 +24,12 @@ struct RichTextStyle {
     bool bold = false;
     bool italic = false;
     bool underline = false;
-    std::optional<RichTextColor> color{}; ///< none for the screen's own
+    std::optional<RichTextColor> color{}; ///< nothing leaves the screen's own colour
     friend bool operator==(const RichTextStyle&, const RichTextStyle&) = default;
 };
 
-/// A stretch of text in one style: UTF-8, never empty, without control characters but tabs and, for a break inside the
-/// paragraph, line feeds.
+/// A stretch of text in one style: UTF-8, never empty. Its only control characters are tabs and line feeds; a line feed
+/// is a line break inside the paragraph.
 struct RichTextRun {
     std::string text;
     RichTextStyle style;
@@ -37,37 +37,37 @@ struct RichTextRun {
 
 enum class RichTextAlignment : std::uint8_t { Left, Center, Right, Justified };
 
-/// Lengths in twentieths of a point, within ±31680 (22 inches).
+/// One paragraph. Lengths in twentieths of a point, within ±31680 (22 inches).
 struct RichTextParagraph {
     RichTextAlignment alignment = RichTextAlignment::Left;
     int leftIndent = 0;
     int rightIndent = 0;
-    int firstLineIndent = 0; ///< beside the left indent; negative where a list's marker hangs
+    int firstLineIndent = 0; ///< added to the left indent; negative where a list's marker hangs
     int spaceBefore = 0;
     int spaceAfter = 0;
-    std::string marker{}; ///< of a list's item, as in "•" or "2."; empty for none
+    std::string marker{}; ///< marker of a list's item, as in "•" or "2."; empty for none
     RichTextStyle markerStyle{};
-    std::vector<RichTextRun> runs{}; ///< none for an empty line
+    std::vector<RichTextRun> runs{}; ///< empty for an empty line
 };
 
 struct RichTextDocument {
-    /// Family names. The first is empty: the screen's own.
+    /// Names of font families. The first is empty and means the screen's own family.
     std::vector<std::string> fonts{std::string()};
     std::vector<RichTextParagraph> paragraphs{};
-    bool truncated = false; ///< a limit was reached: what lies behind it is missing
+    bool truncated = false; ///< a limit was reached; the text beyond it is missing
 };
 
 struct RichTextLimits {
     static constexpr std::size_t bytes = std::size_t(4) * 1024 * 1024;
-    static constexpr std::size_t depth = 256;         ///< groups inside each other
-    static constexpr std::size_t pieces = 100000;     ///< paragraphs and runs
-    static constexpr std::size_t tableEntries = 1024; ///< fonts, and colours
+    static constexpr std::size_t depth = 256;         ///< nested groups
+    static constexpr std::size_t pieces = 100000;     ///< paragraphs and runs together
+    static constexpr std::size_t tableEntries = 1024; ///< for fonts and for colours each
 };
 
-/// Reads what the legal text and the release notes use of rich text: fonts, sizes, bold, italic, underlines, colours,
-/// alignment, indents, list markers, tabs and breaks, in the code page 1252 and in Unicode. Everything else is passed
-/// over. Any bytes may be given: damaged rich text yields what can be read of it, bytes that are no rich text are no
-/// paragraphs. Time and memory are linear in the size. Any thread.
+/// Reads the part of rich text that the legal text and the release notes use: fonts, sizes, bold, italic, underlines,
+/// colours, alignment, indents, list markers, tabs and breaks, in code page 1252 and in Unicode. Everything else is
+/// skipped. Any bytes may be given: of damaged rich text, the readable part is returned; bytes that are no rich text
+/// give no paragraphs. Time and memory are linear in the size. Any thread.
 RichTextDocument readRichText(std::string_view bytes);
 
 } // namespace lodestar

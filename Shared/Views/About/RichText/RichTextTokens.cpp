@@ -59,7 +59,7 @@ RichTextToken RichTextTokens::word()
         token.value = m_rest.front() == '-' ? -largestParameter : largestParameter;
     }
     take(static_cast<std::size_t>(end - m_rest.data()));
-    // One blank belongs to the word.
+    // One blank after a control word is part of the word.
     take(m_rest.starts_with(' ') ? 1 : 0);
     if (name == "bin") {
         take(static_cast<std::size_t>(std::max(0, token.value)));

@@ -13,8 +13,8 @@ struct RichTextToken {
         GroupOpen,
         GroupClose,
         Text,  ///< `text`: bytes without braces, backslashes and line ends
-        Byte,  ///< `value`: one byte of text, written in hexadecimal; 0 for a damaged one
-        Word,  ///< `text`: the control word; `value` its parameter, 1 without one, so that a switch is on
+        Byte,  ///< `value`: one byte of text, written as two hexadecimal digits; 0 for a damaged one
+        Word,  ///< `text`: the control word; `value`: its parameter, or 1 without one, which turns a switch on
         Symbol ///< `value`: the character behind the backslash
     };
     Kind kind = Kind::End;
@@ -22,7 +22,7 @@ struct RichTextToken {
     int value = 1;
 };
 
-/// Cuts rich text into its tokens. Any bytes may be given; each is read once. The bytes outlive this.
+/// Cuts rich text into tokens. Any bytes may be given; each is read once. The bytes must outlive this object.
 class RichTextTokens
 {
 public:

@@ -6,13 +6,14 @@
 namespace lodestar
 {
 
-/// One point of a graph over time: the point type of the performance screens. The line chart has its own, by index.
+/// One point of a graph over time, as the performance screens use it. The line chart has a point type of its own, by
+/// index.
 class GraphPoint
 {
 public:
     using Time = std::chrono::system_clock::time_point;
 
-    /// Zero, now.
+    /// A value of 0 at the present time.
     GraphPoint() = default;
     GraphPoint(Time date, double value) : m_time(date), m_value(value) {}
 

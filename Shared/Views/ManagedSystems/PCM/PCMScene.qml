@@ -6,8 +6,8 @@ import Lodestar.Charts
 import Lodestar.Kit
 import Lodestar.Views
 
-/// The performance of a managed system: processors or memory, their latest values, their lines. Cards keep their places
-/// while their content is loading, so that nothing moves when it comes.
+/// The performance of a managed system: processors or memory, as latest values and as lines. Cards keep their places
+/// while their content loads, so that nothing moves when it arrives.
 PageScaffold {
     id: scene
 
@@ -27,7 +27,7 @@ PageScaffold {
     }
     scrollView: page
 
-    /// One latest value under the stroke of its line.
+    /// One latest value, below a stroke in the colour of its line.
     component Figure: Item {
         id: figure
 
@@ -199,7 +199,7 @@ PageScaffold {
             id: card
 
             readonly property real above: page.topSpace + segments.height + values.height + 24
-            /// Plot and axis keep 320 to 640 whatever the legend below them takes.
+            /// Height in points for the legend, so that plot and axis keep 320 to 640 whatever the legend needs.
             readonly property real legend: 42 + 60 * (Theme.textScale - 1)
 
             objectName: "chartCard"

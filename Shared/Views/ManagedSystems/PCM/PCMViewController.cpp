@@ -20,20 +20,20 @@ namespace
 constexpr ScreenLog screenLog("Shared/Views/ManagedSystems/PCM/PCMViewController");
 constexpr auto calculate = "calculateGraphValuesFromJSON:";
 
-/// Skipped samples that get a log line each. What a broken console may send is not to fill the log.
+/// The most skipped samples that get a log line each, so that a broken console cannot fill the log.
 constexpr std::size_t mostSkippedLines = 1000;
 
 constexpr double newDataSeconds = 3.0;
 constexpr double openingSeconds = 2.5;
 
-/// Orange, green and blue as charts have them on a light card; the scene knows their dark counterparts.
+/// Orange, green and blue as charts have them on a light card; the scene replaces them on a dark one.
 const std::array<QColor, 3> seriesColors = {QColor(0xD9, 0x7A, 0x00), QColor(0x00, 0x8B, 0x11),
                                             QColor(0x00, 0x30, 0x8B)};
 constexpr std::array<double MetricsFigures::*, 3> seriesFigures = {&MetricsFigures::total, &MetricsFigures::allocated,
                                                                    &MetricsFigures::used};
 
-/// Digits and a point in every language: the figures are the console's. Ties go to the even digit, as in C: Qt's own
-/// functions round them up.
+/// The number with a decimal point in every language, because the figures are the console's. Ties go to the even digit,
+/// as in C; Qt's own functions would round them up.
 QString twoDecimals(double value)
 {
     return QString::fromStdString(fmt::format("{:.2f}", value));
@@ -48,7 +48,7 @@ QString shown(const std::optional<MetricsDate>& date)
     return mediumDateShortTime({local.date(), local.time()});
 }
 
-/// A date that cannot be read leaves the other one alone.
+/// If one date cannot be read, the other stands alone.
 QString period(const QString& start, const QString& end)
 {
     return start.isEmpty() || end.isEmpty() ? start + end : QStringLiteral("%1 - %2").arg(start, end);
@@ -201,7 +201,7 @@ void PCMViewController::calculateGraphValuesFromJSON(const MetricsValue& samples
     if (reduction.first) {
         m_startDate = reduction.first->date;
     }
-    // A last sample that was skipped leaves the values as they were.
+    // If the last sample was skipped, the values stay as they were.
     if (reduction.last) {
         setLatest(reduction.last->figures);
         m_endDate = reduction.last->date;

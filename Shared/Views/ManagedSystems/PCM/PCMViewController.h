@@ -17,8 +17,8 @@
 namespace lodestar
 {
 
-/// The performance of one managed system: its total, allocated and used processors or memory as lines, and the latest
-/// of each as a number. Every choice of a segment fetches the whole document anew. Main thread.
+/// The performance of one managed system: total, allocated and used processors or memory, each as a line and its latest
+/// value as a number. Every choice of a segment fetches the whole document anew. Main thread.
 class PCMViewController : public lodestar::ViewController,
                           public CorvelReceiving,
                           public PerformanceReceiving,
@@ -43,12 +43,13 @@ class PCMViewController : public lodestar::ViewController,
 public:
     PCMViewController();
 
-    /// None when the opener gave none: the title is then empty.
+    /// Nothing when the opener gave no name; the title is then empty.
     const std::optional<std::string>& sysName() const { return m_sysName; }
     void setSysName(std::optional<std::string> sysName) override { m_sysName = std::move(sysName); }
     const std::optional<std::string>& systemID() const { return m_systemID; }
     void setSystemID(std::optional<std::string> systemID) override { m_systemID = std::move(systemID); }
-    /// Of the first and the last sample when they were last charted; none before and for a stamp that cannot be read.
+    /// Dates of the first and last sample of the last chart; nothing before that, and for a time stamp that cannot be
+    /// read.
     const std::optional<MetricsDate>& startDate() const { return m_startDate; }
     const std::optional<MetricsDate>& endDate() const { return m_endDate; }
 
@@ -56,11 +57,11 @@ public:
     LineChartView* chartView() { return &m_chartView; }
     /// Segment 0 is processors, segment 1 memory.
     SegmentedControlOutlet* typeSegmentedControl() { return &m_typeSegmentedControl; }
-    /// Fetches anew after a failure; none otherwise.
+    /// The button that fetches anew; visible only after a failure.
     BarButtonOutlet* rightBarButton() { return &m_rightBarButton; }
     LabelOutlet* fetchingLabel() { return &m_fetchingLabel; }
     IndicatorOutlet* fetchingActivityView() { return &m_fetchingActivityView; }
-    /// The latest values with two decimals, "-" after a failure; a spinner stands in for each while it is fetched.
+    /// The latest values with two decimals, "-" after a failure. A spinner replaces each value while it is fetched.
     LabelOutlet* totalLabel() { return &m_totalLabel; }
     LabelOutlet* allocatedLabel() { return &m_allocatedLabel; }
     LabelOutlet* usedLabel() { return &m_usedLabel; }
@@ -68,11 +69,11 @@ public:
     IndicatorOutlet* allocatedIndicator() { return &m_allocatedIndicator; }
     IndicatorOutlet* usedIndicator() { return &m_usedIndicator; }
 
-    /// What the segmented control does.
+    /// Handles a choice in the segmented control.
     Q_INVOKABLE void selectedSegmentedIndex(int index);
-    /// A fetch that is under way goes on, and what it brings is not shown.
+    /// Starts a fetch. An earlier fetch that still runs continues, but its result is not shown.
     void fetchPCMData();
-    /// Charts an array of samples by the segment that is chosen.
+    /// Charts an array of samples for the chosen segment.
     void calculateGraphValuesFromJSON(const MetricsValue& samples);
     void startLoadingIndicators();
     void stopLoadingIndicators();
@@ -96,7 +97,7 @@ private:
     std::optional<std::string> m_systemID;
     std::optional<MetricsDate> m_startDate;
     std::optional<MetricsDate> m_endDate;
-    /// Counts fetches: only the latest is shown.
+    /// Number of fetches so far; only the latest fetch is shown.
     std::uint64_t m_fetch = 0;
 
     TitleHeader m_header;
