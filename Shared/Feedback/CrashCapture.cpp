@@ -32,15 +32,15 @@ namespace
 
 constexpr std::array<int, 6> crashSignals = {SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGTRAP, SIGABRT};
 constexpr int mostFrames = 64;
-/// Room kept on the disk, for a crash that is about the disk being full.
+/// Room reserved on the disk, for crashes that happen because the disk is full.
 constexpr off_t reservedBytes = 64L << 10;
-/// A handler that hangs is ended by the alarm after so many seconds.
+/// Seconds after which an alarm ends a handler that hangs.
 constexpr unsigned handlerSeconds = 10;
 
-/// All that the handler touches. Filled before it is installed, but for the exception.
+/// Everything that the handler touches. All but the exception is filled before the handler is installed.
 struct State {
     std::atomic<int> descriptor = -1;
-    std::atomic<pid_t> reporter = 0; ///< the thread that is writing
+    std::atomic<pid_t> reporter = 0; ///< the thread that is writing the crash file
     std::array<struct sigaction, crashSignals.size()> previous = {};
     char exception[4096] = {};
     std::atomic<std::size_t> exceptionLength = 0;
@@ -50,12 +50,12 @@ State state;
 
 alignas(16) char alternateStack[64 << 10];
 
-/// Puts text together without the library, whose formatting may allocate or lock.
+/// Formats text without the library's formatting, which may allocate or lock.
 class SafeWriter
 {
 public:
     explicit SafeWriter(int descriptor) : m_descriptor(descriptor) {}
-    /// With nowhere to write to the crash goes its way unrecorded.
+    /// A write that fails is ignored: the crash then stays unrecorded.
     void text(const char* bytes, std::size_t count) { writeFully(m_descriptor, {bytes, count}); }
     void text(const char* words) { text(words, std::strlen(words)); }
     void number(std::uintptr_t value, unsigned base)
@@ -79,7 +79,7 @@ private:
     int m_descriptor;
 };
 
-/// Where the thread was, and whence it was called if that can be told without unwinding.
+/// The place of the crash; `link` is the return address where the processor has it in a register, else 0.
 struct Place {
     std::uintptr_t counter = 0;
     std::uintptr_t stack = 0;
@@ -103,7 +103,7 @@ Place placeOf(const void* context)
 void writeReport(SafeWriter& out, int signal, const siginfo_t* info, const Place& place)
 {
     out.line("signal ", static_cast<std::uintptr_t>(signal), 10);
-    // Negative codes, of signals that somebody sent, count as none.
+    // Negative codes mean that a process sent the signal; they are written as 0.
     out.line("code ", static_cast<std::uintptr_t>(info->si_code > 0 ? info->si_code : 0), 10);
     out.line("time ", static_cast<std::uintptr_t>(std::time(nullptr)), 10);
     out.line("thread ", static_cast<std::uintptr_t>(::gettid()), 10);
@@ -118,26 +118,26 @@ void writeReport(SafeWriter& out, int signal, const siginfo_t* info, const Place
     out.line("counter ", place.counter, 16);
     state.lastLines->read([&out](const char* bytes, std::size_t count) { out.text(bytes, count); });
     out.text("\nframes\n");
-    // From here on memory is read that the crash may have wrecked; what is written above stands in any case.
+    // From here on the handler reads memory that the crash may have damaged; all lines above are in the file already.
     void* frames[mostFrames];
     const int count = ::backtrace(frames, mostFrames);
     for (int index = 0; index < count; ++index) {
         out.line("frame ", reinterpret_cast<std::uintptr_t>(frames[index]), 16);
     }
     if (place.counter == 0) {
-        // A call through a null pointer: only its return address tells who made it.
+        // After a call through a null pointer only the return address shows the caller.
         const std::uintptr_t caller = place.link != 0 ? place.link : *std::bit_cast<const std::uintptr_t*>(place.stack);
         out.line("caller ", caller, 16);
     }
     out.text("end\n");
 }
 
-/// Lets the signal happen as it would have without this handler.
+/// Lets the signal happen as if this handler did not exist.
 void giveBack(int signal, const siginfo_t* info, const struct sigaction& handler)
 {
     ::sigaction(signal, &handler, nullptr);
-    // A fault comes again by itself when its instruction does; everything else has to be sent again. It is blocked
-    // until this handler has returned.
+    // A fault comes again by itself when its instruction runs again; every other signal must be sent again. It stays
+    // blocked until this handler has returned.
     const bool isFault = info->si_code > 0 && signal != SIGTRAP && signal != SIGABRT;
     if (!isFault) {
         ::raise(signal);
@@ -152,7 +152,7 @@ void handleCrash(int signal, siginfo_t* info, void* context)
     pid_t reporter = 0;
     if (!state.reporter.compare_exchange_strong(reporter, ::gettid())) {
         if (reporter != ::gettid()) {
-            // Another thread's crash is being written down and ends the process; two at once would be neither.
+            // Another thread is writing its crash and will end the process; two crashes in one file would spoil both.
             const struct timespec patience = {handlerSeconds, 0};
             ::nanosleep(&patience, nullptr);
         }
@@ -162,7 +162,8 @@ void handleCrash(int signal, siginfo_t* info, void* context)
     ::sigaction(SIGALRM, &byDefault, nullptr);
     ::alarm(handlerSeconds);
     byDefault.sa_handler = SIG_IGN;
-    ::sigaction(SIGXFSZ, &byDefault, nullptr); // a limit on file sizes is a full disk, not a death of its own
+    // Exceeding a limit on file sizes must count as a full disk, not end the process.
+    ::sigaction(SIGXFSZ, &byDefault, nullptr);
     if (const int descriptor = state.descriptor.load(std::memory_order_acquire); descriptor >= 0) {
         SafeWriter out(descriptor);
         writeReport(out, signal, info, placeOf(context));
@@ -187,9 +188,10 @@ Result<int> openFile(const std::string& folder)
     if (descriptor < 0) {
         return fileError("Crashes will go unrecorded", errno);
     }
-    // Locked for life: a start beside this one must not take the file for a dead run's.
+    // Locked until the process ends: another instance that starts meanwhile must not take the file for a dead run's.
     ::flock(descriptor, LOCK_EX | LOCK_NB);
-    ::fallocate(descriptor, FALLOC_FL_KEEP_SIZE, 0, reservedBytes); // not every disk can; then it is as it is
+    // Not every disk can reserve; then nothing is reserved.
+    ::fallocate(descriptor, FALLOC_FL_KEEP_SIZE, 0, reservedBytes);
     return descriptor;
 }
 
@@ -228,10 +230,10 @@ Result<void> CrashCapture::install(const std::string& folder, const Run& run)
     }
     const bool isFirst = state.lastLines == nullptr;
     state.lastLines = &LogWriter::shared().lastLines();
-    // The file before this one stays open: whoever writes to it at this moment must not write to a stranger.
+    // The file of an earlier call stays open: a thread that is writing to its descriptor must not hit another file.
     state.descriptor.store(opened.value(), std::memory_order_release);
     void* first[1];
-    ::backtrace(first, 1); // loads what it needs, which must not happen in the handler
+    ::backtrace(first, 1); // loads the unwinder now, because loading must not happen in the handler
     if (isFirst) {
         installHandlers();
     }
@@ -254,7 +256,8 @@ void CrashCapture::recordModules()
             lines += '\n';
         }
     }
-    // In one piece, since a crash on another thread appends to the same file. A full disk costs names, no addresses.
+    // One write, since a crash on another thread appends to the same file. On a full disk names are lost, but no
+    // addresses.
     [[maybe_unused]] const ssize_t written = ::write(descriptor, lines.data(), lines.size());
 }
 
@@ -262,11 +265,11 @@ void CrashCapture::noteException(std::string_view text) noexcept
 {
     try {
         std::string line;
-        appendLogText(line, text.substr(0, sizeof state.exception / 4)); // an escaped byte takes up to four
+        appendLogText(line, text.substr(0, sizeof state.exception / 4)); // escaping makes one byte into up to four
         std::memcpy(state.exception, line.data(), line.size());
         state.exceptionLength.store(line.size(), std::memory_order_release);
     } catch (...) {
-        return; // no memory to tell it with: the addresses have to do
+        return; // no memory for the text; the crash file then has only addresses
     }
 }
 

@@ -9,33 +9,33 @@
 namespace lodestar
 {
 
-/// Writes down where the process was when it crashed: on SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGTRAP and SIGABRT, into a
-/// file that was opened, and given its room on the disk, beforehand. The next start makes a report of it (see
+/// Records where the process crashed: on SIGSEGV, SIGBUS, SIGFPE, SIGILL, SIGTRAP and SIGABRT, in a file that was
+/// opened beforehand with its room on the disk reserved. The next start makes a report of the file (see
 /// CrashCollector.h).
 ///
-/// The handler only writes raw addresses; it takes no lock and allocates nothing. It then puts back what handled the
-/// signal before and lets the signal happen again, so that core files, exit codes and whoever waits for them see the
-/// crash as if it had never been here. A crash inside the handler ends the process at once.
+/// The handler only writes raw addresses; it takes no lock and allocates nothing. It then restores the signal's earlier
+/// handler and lets the signal happen again, so that core files, exit codes and waiting processes see the crash as if
+/// this handler did not exist. A crash inside the handler ends the process at once.
 ///
-/// A stack that overflows is recorded on the main thread and on those that begin with an `OwnThread`. On any other
-/// it ends the process unrecorded, for want of a second stack to run the handler on.
+/// A stack overflow is recorded on the main thread and on threads that begin with an `OwnThread`. On any other thread
+/// it ends the process unrecorded, because the handler has no second stack to run on.
 class CrashCapture
 {
 public:
-    /// What the file says about the run before it crashes.
+    /// Facts about the run, written to the file in advance.
     struct Run {
         std::string version;
         std::string session;
     };
 
-    /// Main thread, once, as early as may be. The file lies in the folder, 0600, and is locked for as long as the
-    /// process lives. When the folder cannot be written, crashes go unrecorded and nothing else changes.
+    /// Main thread; call once, as early as possible. Makes the file in the folder, 0600, locked as long as the process
+    /// lives. When the folder cannot be written, crashes go unrecorded and nothing else changes.
     static Result<void> install(const std::string& folder, const Run& run);
-    /// Adds the libraries that have been loaded since the last time, without which addresses in them tell nothing. Any
-    /// thread but one at a time; it waits for the disk.
+    /// Adds the libraries that were loaded since the last call; without them addresses inside them mean nothing. Any
+    /// thread, one at a time; waits for the disk.
     static void recordModules();
-    /// What the coming abort is about; at most a kilobyte of it. It stands in the file as it comes: without secrets,
-    /// please. Any thread.
+    /// Notes the reason for the coming abort, at most a kilobyte of it. The file keeps the text unchanged, so it must
+    /// hold no secrets. Any thread.
     static void noteException(std::string_view text) noexcept;
 };
 

@@ -2,8 +2,8 @@
 #include "Feedback/CrashCapture.h"
 #include "Feedback/CrashModules.h"
 
-// In place of CrashCapture.cpp and CrashModules.cpp on systems whose loader and registers those do not know: crashes go
-// to the system's own reporter, and everything else of the feedback works.
+// Replaces CrashCapture.cpp and CrashModules.cpp on systems whose loader and registers those files do not know: the
+// system's own reporter then handles crashes, and the rest of the feedback works.
 
 namespace lodestar
 {

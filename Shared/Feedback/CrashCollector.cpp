@@ -26,10 +26,10 @@ namespace
 constexpr std::string_view ownFile = "Shared/Feedback/CrashCollector";
 constexpr std::size_t mostCrashBytes = std::size_t{1} << 20;
 constexpr std::size_t logBytes = std::size_t{64} << 10;
-/// Ends the name of a file whose functions are being named.
+/// Suffix of a crash file while its functions are being named.
 constexpr std::string_view beingRead = ".reading";
 
-/// Whether the file's run has ended: a run that lives holds the lock.
+/// Whether the file's run has ended: a live run holds the lock.
 bool isAbandoned(const std::string& path)
 {
     const int descriptor = ::open(path.c_str(), O_RDONLY | O_CLOEXEC | O_NOFOLLOW | O_NONBLOCK);
@@ -41,13 +41,13 @@ bool isAbandoned(const std::string& path)
     return abandoned;
 }
 
-/// The log of that run: what had been written, and what had not.
+/// The run's log: the lines in the log files and the last lines that were not written any more.
 std::string logOf(const CrashRecord& record, const std::string& logFolder)
 {
     std::string log = logTailBeforeThisRun(logFolder, logBytes);
     std::string unwritten;
     for (const std::string& line : record.lastLines) {
-        // The first may lack its start and is then the end of a line that is there.
+        // The first kept line may lack its start; it is skipped when it is the end of a line in the log.
         if (log.find(line) == std::string::npos) {
             unwritten += line + "\n";
         }
@@ -69,7 +69,7 @@ ReportBundle bundleOf(const CrashRecord& record, const CrashSources& sources, bo
     return bundle;
 }
 
-/// Whether a report came of the file.
+/// Makes a report of the file. False when no report came of it.
 bool collect(const std::string& path, const CrashSources& sources, const ReportStore& store)
 {
     const Result<std::string> text = readPrivateFile(path, mostCrashBytes);

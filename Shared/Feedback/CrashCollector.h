@@ -9,19 +9,20 @@
 namespace lodestar
 {
 
-/// Where a crash is found and what its report is made of.
+/// Where crash files lie and what goes into their reports.
 struct CrashSources {
-    std::string crashFolder; ///< as given to `CrashCapture::install`
+    std::string crashFolder; ///< the folder given to `CrashCapture::install`
     std::string logFolder;
-    std::vector<std::string> secrets; ///< to be taken out of every text, should they be in one
+    std::vector<std::string> secrets; ///< removed from every text of a report
 };
 
-/// Turns what crashed runs left into reports and returns how many those are. Files of runs that ended well go, those of
-/// runs that are still alive stay. A crash whose report cannot be kept, on a full disk, stays for the next start; one
-/// that has already crashed this function is kept without the names of its functions. Not on the main thread.
+/// Makes reports of the files that crashed runs left; returns the number of reports. Files of runs that ended well are
+/// deleted; files of live runs stay. When a report cannot be saved, for instance on a full disk, its crash file stays
+/// for the next start. A crash file that has crashed this function before gets a report without function names. Not on
+/// the main thread.
 int collectCrashes(const CrashSources& sources, const ReportStore& store);
 
-/// Takes away what crashed runs left.
+/// Deletes the files that crashed runs left.
 void forgetCrashes(const std::string& crashFolder);
 
 } // namespace lodestar

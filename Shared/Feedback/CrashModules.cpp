@@ -22,7 +22,7 @@ std::size_t padded(std::size_t size)
     return (size + 3) & ~std::size_t{3};
 }
 
-/// The build identifier among the notes of a segment.
+/// The build identifier in the notes of a segment; empty when the notes have none.
 std::string buildIdIn(const char* notes, std::size_t size)
 {
     while (size >= sizeof(ElfW(Nhdr))) {

@@ -57,12 +57,12 @@ struct Reader {
         if (inFrames || record.signal == 0) {
             readField(name, line);
         } else if (!readCrashField(name, line) && !whole.empty()) {
-            record.lastLines.emplace_back(whole); // the log stands between the fields and the frames
+            record.lastLines.emplace_back(whole); // log lines stand between the crash's fields and the frames
         }
         inFrames = inFrames || whole == "frames";
     }
 
-    /// The fields before a crash and after the log.
+    /// Reads the fields that stand before a crash, and those after the log.
     void readField(std::string_view name, std::string_view value)
     {
         if (name == "version") {
@@ -95,14 +95,14 @@ struct Reader {
         } else if (name == "counter") {
             counter = numberIn<std::uintptr_t>(value, 16);
         } else if (name == "module") {
-            readField(name, value); // the background was just writing it
+            readField(name, value); // another thread was writing the module when the process crashed
         } else {
             return name == "thread" || name == "frames";
         }
         return true;
     }
 
-    /// The handler's own frames go: the calls start where it crashed.
+    /// Removes the handler's own frames, so that the calls start at the crash.
     void settle()
     {
         std::vector<std::uintptr_t>& calls = record.calls;
@@ -110,7 +110,7 @@ struct Reader {
         if (counter != 0 && place != calls.end()) {
             calls.erase(calls.begin(), place);
         } else {
-            // The stack could not be unwound past the handler: what is in it is the handler.
+            // The stack could not be unwound past the handler, so all frames belong to the handler.
             calls = {counter};
         }
         if (caller != 0) {
@@ -130,7 +130,7 @@ std::string CrashRecord::signalName() const
 std::string CrashRecord::summary() const
 {
     std::string text = fmt::format("The application ended by {}", signalName());
-    // Of a signal that a process sent, the place tells who sent it.
+    // When a process sent the signal, the address field identifies the sender instead.
     if (address && code > 0) {
         text += fmt::format(" at address 0x{:x}", *address);
     }

@@ -13,26 +13,26 @@
 namespace lodestar
 {
 
-/// What a crashed run left, as `CrashCapture` wrote it.
+/// The contents of a crash file, as `CrashCapture` wrote them.
 struct CrashRecord {
     int signal = 0;
     int code = 0;
     std::time_t time = 0;
     std::string version;
     std::string session;
-    std::string exception;                 ///< type and description when an exception ended it
-    std::optional<std::uintptr_t> address; ///< that could not be read or written
-    std::vector<std::uintptr_t> calls;     ///< where it crashed, then the return addresses outwards
+    std::string exception;                 ///< type and description, when an exception ended the process
+    std::optional<std::uintptr_t> address; ///< the address that could not be read or written
+    std::vector<std::uintptr_t> calls;     ///< the place of the crash, then the return addresses outwards
     std::vector<LoadedModule> modules;
-    std::vector<std::string> lastLines; ///< of the log, without their line feeds
+    std::vector<std::string> lastLines; ///< of the log, without line feeds
 
-    /// "SIGSEGV" and its like.
+    /// The signal's name, such as "SIGSEGV".
     std::string signalName() const;
-    /// One sentence: what a list shows.
+    /// One sentence for the list of reports.
     std::string summary() const;
 };
 
-/// Reads whatever is there, whole or cut. Empty when the run did not crash.
+/// Reads a crash file, whole or cut. None when the run did not crash.
 std::optional<CrashRecord> parseCrashRecord(std::string_view text);
 
 } // namespace lodestar

@@ -23,14 +23,15 @@ const LoadedModule* moduleAt(const std::vector<LoadedModule>& modules, std::uint
     return found == modules.end() ? nullptr : &*found;
 }
 
-/// A return address points behind its call, which may be the last thing that its function does.
+/// The address of a call. A return address points behind the call; when the call is the function's last instruction,
+/// that is already the next function.
 std::uintptr_t placeOfCall(const CrashRecord& record, std::size_t index)
 {
     const std::uintptr_t address = record.calls[index];
     return index == 0 || address == 0 ? address : address - 1;
 }
 
-/// Where the record's address lies in this run; 0 when its file, or that build of it, is not loaded.
+/// The record's address in this run; 0 when the address's module, or that build of the module, is not loaded.
 std::uintptr_t addressInThisRun(const CrashRecord& record, std::uintptr_t address,
                                 const std::vector<LoadedModule>& loaded)
 {
@@ -46,8 +47,8 @@ std::uintptr_t addressInThisRun(const CrashRecord& record, std::uintptr_t addres
 using FindSymbols = decltype(&lodestar_find_symbols);
 
 struct Names {
-    std::vector<std::size_t> calls; ///< whose addresses are asked for
-    std::vector<std::string> text;  ///< one for each call of the record
+    std::vector<std::size_t> calls; ///< the calls whose addresses are looked up
+    std::vector<std::string> text;  ///< one name for each call of the record
 };
 
 void addName(void* context, std::size_t index, const char* function, const char* file, unsigned line)
@@ -89,7 +90,7 @@ std::string text(const CrashRecord& record, const std::vector<std::string>& name
     std::set<std::string> files;
     for (std::size_t index = 0; index < record.calls.size(); ++index) {
         const std::uintptr_t address = record.calls[index];
-        // The path above the file's name may tell whose home it is.
+        // Only file names are shown: a path may name the person's home folder.
         if (const LoadedModule* module = moduleAt(record.modules, placeOfCall(record, index))) {
             result += fmt::format("{:2}  {}+0x{:x}", index, module->name(), address - module->base);
             files.insert(fmt::format("{}  {}\n", module->name(), module->buildId));

@@ -8,13 +8,13 @@
 namespace lodestar
 {
 
-/// The crash as text for people who mend it: what happened, then a line for each call with its place in its file, and
-/// the functions' names as far as this run has the same files loaded, then those files with their build identifiers, by
-/// which the rest can be named later. Slow: reads debugging information, which is loaded for that (see SymbolModule.h).
-/// Not on the main thread.
+/// The crash as text for developers: what happened; a line for each call with its place in its file, and with the
+/// function's name where this run has the same file loaded; then the files with their build identifiers, which let the
+/// other functions be named later. Slow: it loads and reads debugging information (see SymbolModule.h). Not on the main
+/// thread.
 std::string symbolisedText(const CrashRecord& record);
 
-/// The same without names, when naming them has crashed before.
+/// The same text without function names, for a record whose naming crashed before.
 std::string addressText(const CrashRecord& record);
 
 } // namespace lodestar

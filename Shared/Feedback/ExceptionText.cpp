@@ -23,7 +23,7 @@ namespace
 
 constexpr std::chrono::seconds patience(1);
 
-/// Shared with the thread that fills it, which may be given up.
+/// Shared with the thread that fills it, because the caller may stop waiting.
 struct Answer {
     std::mutex mutex;
     std::condition_variable given;
@@ -31,7 +31,7 @@ struct Answer {
     std::optional<std::string> text;
 };
 
-/// Empty when the secrets cannot be had.
+/// The text without secrets; none when the secrets are not to be had in time.
 std::optional<std::string> withoutSecrets(const std::string& text,
                                           const std::function<std::vector<std::string>()>& secrets)
 {
@@ -57,7 +57,7 @@ std::optional<std::string> withoutSecrets(const std::string& text,
     return answer->text;
 }
 
-/// Empty for an exception that has none.
+/// None for an exception without a description.
 std::optional<std::string> wordsInFlight()
 {
     try {
@@ -95,7 +95,7 @@ std::string exceptionText(const std::function<std::vector<std::string>()>& secre
         const std::optional<std::string> clean = withoutSecrets(*words, secrets);
         return text + (clean ? ": " + *clean : " (its description might tell a secret)");
     } catch (...) {
-        return text; // no memory, or no thread, to look for secrets with
+        return text; // no memory or no thread for removing the secrets
     }
 }
 

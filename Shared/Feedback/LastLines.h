@@ -8,9 +8,9 @@
 namespace lodestar
 {
 
-/// The last lines of the log in memory, for the moment of a crash: what the background has not written by then would be
-/// lost, and it is what happened last. Writers take turns (the log writer's lock); a signal handler may read at any
-/// time and at worst sees one line torn.
+/// The log's last lines, kept in memory for a crash: lines that the background has not written by then would be lost,
+/// and those tell what happened last. Only one thread may write at a time (the log writer's lock sees to that). A
+/// signal handler may read at any time and at worst sees one line torn.
 class LastLines
 {
 public:
@@ -18,8 +18,8 @@ public:
 
     void append(std::string_view line);
     void clear();
-    /// Calls `piece` with the kept bytes in order, in at most two pieces. Safe in a signal handler if the function is.
-    /// The first line may lack its start.
+    /// Calls `piece` with the kept bytes in order, in at most two pieces. Safe in a signal handler if `piece` is safe
+    /// there. The first line may lack its start.
     template <typename Function>
     void read(Function piece) const
     {

@@ -9,8 +9,8 @@ namespace lodestar
 namespace
 {
 
-/// Set while this thread is inside a listener. What a listener logs goes to no listener: not back to itself without
-/// end, and not to one that another thread is in, which may be waiting for this one.
+/// True while this thread is inside a listener. Lines that a listener logs reach no listener: the same listener would
+/// be called without end, and another listener may be running on a thread that waits for this one.
 thread_local bool notifying = false;
 
 struct NotifyingScope {
@@ -45,7 +45,7 @@ std::shared_ptr<void> LogListeners::add(Function function)
                     std::erase(*remaining, listener);
                     m_list = std::move(remaining);
                 }
-                const std::lock_guard listenerLock(listener->mutex); // waits for a call under way
+                const std::lock_guard listenerLock(listener->mutex); // waits for a running call to end
                 listener->ended = true;
             }};
 }

@@ -11,7 +11,7 @@
 namespace lodestar
 {
 
-/// Those who hear every line. Thread-safe.
+/// The functions that receive every logged line. Thread-safe.
 class LogListeners
 {
 public:
@@ -24,7 +24,7 @@ public:
 
 private:
     struct Listener {
-        std::recursive_mutex mutex; ///< recursive: a listener may end itself while it runs
+        std::recursive_mutex mutex; ///< recursive, because a listener may end itself while it runs
         Function function;
         bool ended = false;
     };

@@ -14,14 +14,14 @@ namespace lodestar
 namespace
 {
 
-/// The end of a file, at most so many bytes; empty when it cannot be read.
+/// The end of a file, at most `bytes` bytes; empty when the file cannot be read.
 std::string endOf(const std::string& path, std::size_t bytes)
 {
     Result<std::string> end = readPrivateFile(path, bytes, FilePart::End);
     return end ? std::move(end).value() : std::string();
 }
 
-/// The last so many bytes of the text, from the start of a line.
+/// The last whole lines of the text, at most `bytes` bytes.
 std::string wholeLines(std::string text, std::size_t bytes)
 {
     if (text.size() > bytes) {
@@ -31,7 +31,8 @@ std::string wholeLines(std::string text, std::size_t bytes)
     return text;
 }
 
-/// The youngest two files, one byte more than asked for, which tells whether the first line is whole.
+/// The end of the youngest two files, with one byte more than asked for: that byte tells whether the first line is
+/// whole.
 std::string lastFiles(const std::string& folder, std::size_t bytes)
 {
     const std::string path = folder + "/lodestar.log";
@@ -51,7 +52,7 @@ std::string logTail(const std::string& folder, std::size_t bytes)
 
 std::string logTailBeforeThisRun(const std::string& folder, std::size_t bytes)
 {
-    // This run has logged little yet; what it did log must not push the other's lines out.
+    // Room for this run's own lines, which are few so far: they must not push the other run's lines out.
     constexpr std::size_t ownLines = std::size_t{256} << 10;
     std::string text = lastFiles(folder, bytes + ownLines);
     const std::size_t header = text.find(fmt::format(" process {}, program loaded at ", ::getpid()));

@@ -7,11 +7,11 @@
 namespace lodestar
 {
 
-/// The last whole lines of the log in that folder, at most so many bytes of them, the file that was set aside last
-/// included. Empty when there is no log. `VireoLogger::flush` first, for the lines of this moment.
+/// The last whole lines of the log in that folder, at most `bytes` bytes, the youngest rotated file included. Empty
+/// when there is no log. To include the newest lines, call `VireoLogger::flush` first.
 std::string logTail(const std::string& folder, std::size_t bytes);
 
-/// The same for a run that has ended: what was logged after this run's own first header line is left out.
+/// The same for a run that has ended: lines from this run's first header on are left out.
 std::string logTailBeforeThisRun(const std::string& folder, std::size_t bytes);
 
 } // namespace lodestar

@@ -19,8 +19,8 @@ std::uint32_t byteAt(std::string_view text, std::size_t index)
     return static_cast<unsigned char>(text[index]);
 }
 
-/// The length of the well-formed character of two or more bytes at the start of the text, and its code point; 0 when
-/// there is none.
+/// Length and code point of the well-formed character of two or more bytes at the start of the text; the length is 0
+/// when there is none.
 std::size_t decode(std::string_view text, std::uint32_t& code)
 {
     const std::uint32_t lead = byteAt(text, 0);
@@ -40,7 +40,7 @@ std::size_t decode(std::string_view text, std::uint32_t& code)
     return overlong || outside ? 0 : length;
 }
 
-/// C1 controls, separators that some viewers break lines at, and marks that reorder what a viewer shows.
+/// C1 controls, separators at which some viewers break lines, and marks that reorder what a viewer shows.
 bool disguises(std::uint32_t code)
 {
     return code < 0xA0 || (code >= 0x2028 && code <= 0x202E) || (code >= 0x2066 && code <= 0x2069) || code == 0x200E ||

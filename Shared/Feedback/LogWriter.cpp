@@ -16,13 +16,13 @@ namespace
 {
 constexpr std::size_t mostPending = std::size_t{1} << 20;
 constexpr std::size_t enoughPending = std::size_t{64} << 10;
-/// How long lines are gathered before they are written, so that a burst of them wakes the thread once.
+/// Lines are collected for this long before they are written, so that a burst wakes the thread once.
 constexpr std::chrono::milliseconds gathering(100);
 } // namespace
 
 LogWriter& LogWriter::shared()
 {
-    // Never destroyed: threads log until the very end. What they log after the exit handler ran is lost.
+    // Never destroyed: threads log until the very end. Lines that are logged after the exit handler ran are lost.
     static auto& writer = *[] {
         auto* created = new LogWriter;
         std::atexit([] { LogWriter::shared().stop(); });
@@ -89,7 +89,7 @@ void LogWriter::forget()
     m_file.empty();
 }
 
-/// With `m_fileMutex` held.
+/// Call with `m_fileMutex` held.
 void LogWriter::writePending()
 {
     std::size_t dropped = 0;

@@ -15,23 +15,24 @@
 namespace lodestar
 {
 
-/// Carries lines to the log file on a thread of its own, so that no caller ever waits for the disk. Thread-safe.
+/// Writes lines to the log file on its own thread, so that no caller waits for the disk. Thread-safe.
 class LogWriter
 {
 public:
-    /// The process's writer; it writes what is left when the process exits.
+    /// The process's writer. It writes the buffered rest when the process exits.
     static LogWriter& shared();
 
-    /// What was buffered goes to the file that was open. False, and nothing changes, when the file cannot be opened.
+    /// Opens another file; buffered lines still go to the file that was open before. False, with nothing changed, when
+    /// the file cannot be opened.
     bool open(const std::string& folder, const std::string& name, const std::string& header);
     bool isOpen() const { return m_open.load(std::memory_order_relaxed); }
-    /// Buffers one line, its line feed included; beyond a megabyte that the disk has not taken, lines are dropped and
-    /// counted instead.
+    /// Buffers one line, which ends with a line feed. While more than a megabyte waits for the disk, lines are dropped
+    /// and counted.
     void append(std::string_view line);
     void flush();
-    /// Drops all that has been logged, on the disk too.
+    /// Deletes everything logged so far, on the disk too.
     void forget();
-    /// What was logged last, for a crash.
+    /// The lines logged last, for a crash.
     const LastLines& lastLines() const { return m_lastLines; }
 
 private:
@@ -41,16 +42,16 @@ private:
     void stop();
 
     std::atomic<bool> m_open = false;
-    std::mutex m_mutex; ///< guards what follows; held for no longer than a copy into the buffer
+    std::mutex m_mutex; ///< guards the members below; held only for a copy into the buffer
     std::condition_variable m_changed;
     std::string m_pending;
     LastLines m_lastLines;
     std::size_t m_linesDropped = 0;
     bool m_stopping = false;
     std::thread m_thread;
-    std::mutex m_fileMutex; ///< guards what follows; taken before the other
+    std::mutex m_fileMutex; ///< guards the members below; taken before `m_mutex`
     RotatingLogFile m_file;
-    std::string m_writing; ///< changes places with `m_pending`, so that neither is allocated anew
+    std::string m_writing; ///< swapped with `m_pending`, so that neither is allocated again
 };
 
 } // namespace lodestar

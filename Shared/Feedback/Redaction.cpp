@@ -48,7 +48,8 @@ std::string asXml(std::string_view secret)
     return text;
 }
 
-/// Longest first: a secret that is the start of another one would leave the other's end standing.
+/// Every form in which a secret may appear, longest first: when one secret is the start of another, replacing the
+/// shorter first would leave the end of the longer.
 std::vector<std::string> disguises(const std::vector<std::string>& secrets)
 {
     std::vector<std::string> all;
@@ -75,7 +76,7 @@ void replaceAll(std::string& text, const std::string& secret)
     }
 }
 
-/// Takes away what stands between the end of each `opening` and the next of the `closing` characters.
+/// Replaces the text between the end of each `opening` and the next of the `closing` characters.
 void removeBetween(std::string& text, std::string_view opening, std::string_view skipped, std::string_view closing)
 {
     for (std::size_t at = text.find(opening); at != std::string::npos; at = text.find(opening, at)) {
@@ -88,7 +89,7 @@ void removeBetween(std::string& text, std::string_view opening, std::string_view
     }
 }
 
-/// The content of each element of that name.
+/// Replaces the content of each element with that name.
 void removeContent(std::string& text, std::string_view element)
 {
     for (std::size_t at = text.find(element); at != std::string::npos; at = text.find(element, at)) {

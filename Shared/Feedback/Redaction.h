@@ -8,14 +8,14 @@
 namespace lodestar
 {
 
-/// What stands in a redacted text where something secret stood.
+/// Stands in a redacted text in place of a secret.
 inline constexpr std::string_view redactionMark = "[removed]";
 
-/// The text without the secrets, wherever they stand and in whatever of the usual disguises (as a log escapes them,
-/// percent-encoded, as XML), and without what follows the names under which session keys and passwords travel. Nothing
-/// that reaches a report should hold a secret to begin with: this is the net below.
+/// Removes the secrets from the text wherever they appear, plain or in the usual other forms (escaped as in a log,
+/// percent-encoded, as XML). Also removes the values after the names under which session keys and passwords are sent.
+/// Reports should hold no secrets in the first place; this is the safety net.
 ///
-/// Secrets of fewer than four bytes are not looked for: taking away every "a" of a text would tell the secret.
+/// Secrets of fewer than four bytes are not removed: removing every "a" from a text would reveal the secret.
 std::string redacted(std::string_view text, const std::vector<std::string>& secrets);
 
 } // namespace lodestar

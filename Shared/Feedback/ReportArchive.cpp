@@ -22,15 +22,15 @@ void append32(std::string& bytes, std::uint32_t value)
     append16(bytes, value >> 16U);
 }
 
-/// The fields that an entry's own header and its line in the directory share.
+/// Fields that an entry's own header and its entry in the directory share.
 std::string commonFields(const std::string& name, std::string_view bytes)
 {
     constexpr std::uint32_t namesAreUtf8 = 0x0800;
-    constexpr std::uint32_t firstOfJanuary1980 = 0x0021; // a report tells its time itself
+    constexpr std::uint32_t firstOfJanuary1980 = 0x0021; // a constant time, since the report states its time itself
     std::string fields;
-    append16(fields, 20); // version 2.0 is needed
+    append16(fields, 20); // version 2.0 needed
     append16(fields, namesAreUtf8);
-    append16(fields, 0); // stored
+    append16(fields, 0); // method: stored
     append16(fields, 0);
     append16(fields, firstOfJanuary1980);
     append32(fields,

@@ -10,8 +10,8 @@
 namespace lodestar
 {
 
-/// A ZIP archive of the files, in a folder of that name, uncompressed: pictures are compressed already and any desk can
-/// look into it. Below 4 GB in all.
+/// A ZIP archive of the files, in a folder with that name. Nothing is compressed: pictures are compressed already, and
+/// every computer can open such an archive. The total must stay below 4 GB.
 std::string zipArchive(std::string_view folder, const std::vector<ReportFile>& files);
 
 } // namespace lodestar

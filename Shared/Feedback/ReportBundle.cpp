@@ -40,7 +40,7 @@ std::string_view takeLine(std::string_view& text)
     return line;
 }
 
-/// The value of NAME="value" or NAME=value in the system's description of itself.
+/// The value in NAME="value" or NAME=value in the system's description file.
 std::string releaseName()
 {
     std::ifstream stream("/etc/os-release");

@@ -24,7 +24,7 @@ Error senderError(int code, std::string text)
     return {std::string(reportErrorDomain), code, std::move(text), {}, nullptr};
 }
 
-/// Tells the progress once a percent: a large body goes in thousands of pieces.
+/// Reports the progress at most once for each percent: a large body is sent in thousands of pieces.
 std::function<void(std::size_t)> percentOf(std::size_t whole, std::function<void(int)> progress)
 {
     return [whole, progress = std::move(progress), told = 0](std::size_t sent) mutable {
@@ -36,7 +36,7 @@ std::function<void(std::size_t)> percentOf(std::size_t whole, std::function<void
     };
 }
 
-/// Sends the body over TLS or not at all.
+/// Sends the body over TLS; fails for any other address.
 std::function<void()> post(const std::string& address, const char* type, std::string body, const OperationQueue& queue,
                            std::function<void(Result<void>)> completion, std::function<void(int)> progress = {})
 {
@@ -73,7 +73,7 @@ std::string& address()
     return address;
 }
 
-/// As a JSON string.
+/// Quotes the text as a JSON string.
 std::string quoted(const std::string& text)
 {
     std::string result = "\"";

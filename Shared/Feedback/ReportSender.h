@@ -11,32 +11,33 @@
 namespace lodestar
 {
 
-/// Where reports are sent, "https://…"; empty, as by default, when they are sent nowhere. The build says it, unless the
-/// run was told another: on the main thread, before anything else asks.
+/// The address to which reports are sent, "https://…"; empty, the default, when they are sent nowhere. The build sets
+/// the address. `setFeedbackAddress` replaces it for this run: main thread, before anything else reads the address.
 const std::string& feedbackAddress();
 void setFeedbackAddress(std::string address);
 
-/// A run of the program as the feedback service knows it.
+/// A run of the program, as the feedback service knows it.
 struct FeedbackSession {
-    std::string applicationKey; ///< a credential: it stands in no log and in no report
+    std::string applicationKey; ///< a credential: never put it into a log or a report
     std::string identifier;     ///< letters and digits
-    int mode = 0;               ///< of the feedback, as the service numbers them
+    int mode = 0;               ///< the feedback's mode, in the service's numbers
 };
 
-/// Announces the run to the service, at "sessions" below the address, as JSON: {"key": …, "session": …, "mode": …}.
-/// The key goes in the body, which no redirect takes to another server. Otherwise as `sendReport`.
+/// Announces the run to the service, at "sessions" below the address, as JSON: {"key": …, "session": …, "mode": …}. The
+/// key goes in the body, because no redirect takes a body to another server. Everything else is as for `sendReport`.
 void startFeedbackSession(const FeedbackSession& session, const std::string& address, const OperationQueue& queue,
                           std::function<void(Result<void>)> completion);
 
-/// Sends the report as one ZIP archive. To be called only when a person who was shown `sentText` of the same bundle has
-/// said so. Only over HTTPS, to a server that the system's authorities vouch for. The completion runs once, on the
-/// queue, with success when the server answered with a status of 2xx. A header names the session it is sent in, which
-/// may be a later one than the report tells about.
+/// Sends the report as one ZIP archive. Call it only after a person has read `sentText` of the same bundle and agreed.
+/// Sends only over HTTPS, to a server that the system's authorities accept. The completion runs once, on the queue; it
+/// reports success when the server answered with a 2xx status. A header names the session in which the report is sent,
+/// which may be later than the one it is about.
 ///
-/// `progress` is told how much of it has gone, in percent, each time that has grown, on the network thread; it must not
-/// block. All may have gone long before the server answers.
+/// `progress` receives the percentage sent so far, each time it has grown, on the network thread; it must not block.
+/// The last byte may be sent long before the server answers.
 ///
-/// The returned function cancels, from any thread, and does nothing once it has ended; the completion still runs.
+/// The returned function cancels, from any thread; after the end it does nothing. The completion runs even after a
+/// cancel.
 std::function<void()> sendReport(const ReportBundle& bundle, const std::string& address, const OperationQueue& queue,
                                  std::function<void(Result<void>)> completion,
                                  std::function<void(int percent)> progress = {});

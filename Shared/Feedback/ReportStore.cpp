@@ -29,7 +29,7 @@ namespace
 namespace fs = std::filesystem;
 
 constexpr const char* unansweredMark = "unanswered";
-/// Followed by the process and the identifier: folders that are being made or taken away.
+/// Prefix of folders that are being made or deleted; the process and the identifier follow.
 constexpr std::string_view unfinished = ".unfinished-";
 
 bool isIdentifier(std::string_view name)
@@ -39,7 +39,7 @@ bool isIdentifier(std::string_view name)
     });
 }
 
-/// The second, so that names sort by age, and enough chance for reports of one second.
+/// The time to the second, so that names sort by age, and a random part that tells apart reports of the same second.
 std::string newIdentifier(const std::string& made)
 {
     std::string time = made;
@@ -180,7 +180,7 @@ Result<void> ReportStore::remove(const std::string& identifier) const
     if (!isIdentifier(identifier)) {
         return reportError("The report cannot be deleted", ENOENT);
     }
-    // Out of sight first: a report that is half deleted is never listed.
+    // Renamed first, so that a half-deleted report is never listed.
     const std::string leaving = m_folder + "/" + std::string(unfinished) + fmt::format("{}-", ::getpid()) + identifier;
     if (std::rename(pathOf(identifier).c_str(), leaving.c_str()) != 0) {
         return reportError("The report cannot be deleted", errno);
@@ -250,7 +250,7 @@ void ReportStore::sweep() const
         const std::string name = entry->path().filename();
         if (name.starts_with(unfinished)) {
             const int process = std::atoi(name.c_str() + unfinished.size());
-            // Another window of the program may be at it.
+            // A folder of a live process stays: another instance of the program may be working on it.
             if (process <= 0 || (process != ::getpid() && ::kill(process, 0) != 0 && errno == ESRCH)) {
                 leftovers.push_back(entry->path());
             }

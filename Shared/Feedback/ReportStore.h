@@ -11,42 +11,43 @@
 namespace lodestar
 {
 
-/// The reports, one folder each (0700, files 0600) in a folder of ours. A report is there whole or not at all: it is
-/// written under another name and renamed. Thread-safe, as the file system is; calls wait for the disk.
+/// The reports, one folder each (0700, files 0600) in a folder of ours. A report exists whole or not at all: its folder
+/// is written under another name and then renamed. As thread-safe as the file system; calls wait for the disk.
 class ReportStore
 {
 public:
     struct Limits {
-        std::size_t feedback = 50; ///< reports by people; one more is refused, never one of theirs dropped
-        std::size_t crashes = 10;  ///< the oldest goes for a new one, so that a crash at every start fills no disk
-        std::size_t bytes = std::size_t{32} << 20; ///< of one report
+        std::size_t feedback = 50; ///< reports made by people; when full, a new one is refused
+        /// Crash reports; a new one replaces the oldest, so that a crash at every start cannot fill the disk.
+        std::size_t crashes = 10;
+        std::size_t bytes = std::size_t{32} << 20; ///< one report's bytes
     };
 
-    /// Nothing is touched until the first call.
+    /// The constructor does not touch the disk.
     explicit ReportStore(std::string folder) : ReportStore(std::move(folder), Limits()) {}
     ReportStore(std::string folder, Limits limits);
 
     const std::string& folder() const { return m_folder; }
 
-    /// Keeps the bundle and returns the identifier that it got; the given one does not count. When that fails nothing
-    /// of it is left behind. A crash report waits for an answer (see `unanswered`), a person's own does not.
+    /// Saves the bundle and returns the report's new identifier; the bundle's own is ignored. A failed save leaves
+    /// nothing behind. A crash report then waits for an answer (see `unanswered`), a person's report does not.
     Result<std::string> save(const ReportBundle& bundle) const;
-    /// Youngest first; what is damaged is left out.
+    /// All readable reports, youngest first; damaged ones are left out.
     std::vector<Report> list() const;
     Result<ReportBundle> read(const std::string& identifier) const;
     Result<void> remove(const std::string& identifier) const;
-    /// Everything, damaged reports as well; the last failure of several.
+    /// Deletes all reports, damaged ones as well. Returns the last failure, if any.
     Result<void> removeAll() const;
 
-    /// Crash reports that nobody has yet said to keep, youngest first.
+    /// Crash reports that no person has decided about yet, youngest first.
     std::vector<Report> unanswered() const;
     void keep(const std::string& identifier) const;
 
-    /// Writes the report as one ZIP archive, 0600, into a folder of the person's and returns its path. No file that is
-    /// there already is replaced, and none that cannot be finished is left.
+    /// Writes the report as one ZIP archive, 0600, into a folder chosen for the person; returns the archive's path.
+    /// Never replaces a file. An archive that cannot be finished is removed.
     Result<std::string> exportTo(const std::string& identifier, const std::string& folder) const;
 
-    /// Takes away what a run that ended in the middle of a save or a removal left.
+    /// Deletes what a run left when it ended in the middle of a save or a removal.
     void sweep() const;
 
 private:

@@ -42,7 +42,7 @@ RotatingLogFile& RotatingLogFile::operator=(RotatingLogFile&& other) noexcept
 bool RotatingLogFile::open(const std::string& folder, const std::string& name, Limits limits)
 {
     close();
-    // A folder that is there but cannot be tightened still takes a log.
+    // A folder whose mode cannot be changed still takes a log.
     std::error_code ignored;
     if (!makePrivateFolder(folder, FolderThere::Tightened) && !std::filesystem::is_directory(folder, ignored)) {
         return false;
@@ -71,7 +71,8 @@ void RotatingLogFile::append(std::string_view lines)
             if (m_size > m_header.size()) {
                 rotate();
             }
-            // A line too long for any file gets one of its own, and so does every line when no file can be set aside.
+            // A line too long for any file gets a file of its own. When no file can be rotated, every further line is
+            // appended here.
             length = std::max(fittingLength(lines), std::min(lines.find('\n'), lines.size() - 1) + 1);
         }
         appendPiece(lines.substr(0, length));
@@ -121,18 +122,18 @@ void RotatingLogFile::rotate()
     for (int number = m_limits.files - 1; number > 0; --number) {
         const std::string older = m_path + "." + std::to_string(number);
         const std::string younger = number == 1 ? m_path : m_path + "." + std::to_string(number - 1);
-        std::rename(younger.c_str(), older.c_str()); // the ones that are not there yet are no failure
+        std::rename(younger.c_str(), older.c_str()); // missing older files are no failure
     }
     const int previous = std::exchange(m_descriptor, -1);
     if (!openFile()) {
-        // Out of descriptors, or the folder is gone: go on in the old file and try again after as many bytes.
+        // No descriptor is free, or the folder is gone: go on in the old file and try again after as many bytes.
         m_descriptor = previous;
         m_size = 0;
         return;
     }
     ::close(previous);
     if (m_size > 0 && ::ftruncate(m_descriptor, 0) == 0) {
-        // The file could not be set aside, or none is to be kept: the new lines are worth more than the old ones.
+        // The file could not be renamed, or no old files are kept: new lines are worth more than old ones.
         m_size = 0;
     }
     m_midLine = false;
@@ -159,7 +160,7 @@ void RotatingLogFile::empty()
 
 bool RotatingLogFile::openFile()
 {
-    // No link is followed: what it points to is none of ours to append to.
+    // Follows no link: the log must not be appended to a file elsewhere.
     m_descriptor = ::open(m_path.c_str(), O_RDWR | O_APPEND | O_CREAT | O_CLOEXEC | O_NOFOLLOW, S_IRUSR | S_IWUSR);
     struct stat status = {};
     if (m_descriptor < 0 || ::fstat(m_descriptor, &status) != 0 || !S_ISREG(status.st_mode)) {

@@ -9,15 +9,15 @@
 namespace lodestar
 {
 
-/// A log file that is set aside when it is full: `name`, then `name`.1 (the youngest of the old ones) up to the number
-/// kept. Files are 0600 in a folder 0700. What cannot be written, on a full disk for one, is dropped and accounted for
-/// in the file as soon as it can be written again; nothing here ever fails its caller. Not thread-safe.
+/// A log file that rotates when it is full: `name`, then `name`.1 (the youngest old file) up to the number of files
+/// kept. Files are 0600 in a folder 0700. Bytes that cannot be written, for instance on a full disk, are dropped; the
+/// file states their number as soon as it can be written again. No failure reaches the caller. Not thread-safe.
 class RotatingLogFile
 {
 public:
     struct Limits {
         std::size_t fileBytes = std::size_t{1} << 20;
-        int files = 4; ///< the current one included
+        int files = 4; ///< the number of files kept, the current one included
     };
 
     RotatingLogFile() = default;
@@ -25,15 +25,15 @@ public:
     RotatingLogFile(RotatingLogFile&& other) noexcept;
     RotatingLogFile& operator=(RotatingLogFile&& other) noexcept;
 
-    /// Makes the folder (and those above it) when missing and opens the file to append to it; false when either fails.
+    /// Makes missing folders and opens the file for appending; false when either fails.
     bool open(const std::string& folder, const std::string& name, Limits limits);
     bool isOpen() const { return m_descriptor >= 0; }
-    /// Written at the top of every new file and by `open`: what a reader needs to make sense of the lines below it.
+    /// Written by `open` and at the top of every new file: readers need it to understand the lines below.
     void setHeader(std::string header) { m_header = std::move(header); }
 
     /// Appends whole lines, each with its line feed. A file grows past its limit only to hold one line.
     void append(std::string_view lines);
-    /// Takes away the files that were set aside and what stands in this one, but for a header.
+    /// Deletes the rotated files and empties the current file, except for a header.
     void empty();
 
 private:

@@ -12,12 +12,12 @@ namespace
 
 using namespace std::chrono_literals;
 
-constexpr double strong = 11.0; ///< a little more than gravity again; a brisk step stays below
+constexpr double strong = 11.0; ///< a little more than gravity once again; a brisk step stays below
 constexpr int swingsOfAShake = 3;
 constexpr auto withinTime = 900ms;
 constexpr auto quietAfterwards = 1500ms;
 constexpr auto gravityTime = 0.5; ///< seconds in which the average follows a turned device
-constexpr auto lostTouch = 500ms; ///< a gap in the samples after which nothing before it counts
+constexpr auto lostTouch = 500ms; ///< a longer gap between samples makes the detector start again
 
 } // namespace
 

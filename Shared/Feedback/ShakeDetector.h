@@ -6,12 +6,12 @@
 namespace lodestar
 {
 
-/// Tells a shake from walking, dropping and turning the device, on the samples of its accelerometer: three strong
-/// swings in turn against each other within less than a second. One a sensor, one thread.
+/// Tells a shake from walking, dropping and turning the device, by the samples of its accelerometer. A shake is three
+/// strong swings, each against the one before, in less than a second. One detector for each sensor; one thread.
 class ShakeDetector
 {
 public:
-    /// Metres per square second along the device's axes, gravity included, and the sensor's clock.
+    /// Metres per square second along the device's axes, gravity included, and the sensor's time.
     struct Sample {
         double x = 0;
         double y = 0;
@@ -19,7 +19,7 @@ public:
         std::chrono::microseconds time{};
     };
 
-    /// True for the sample that completes a shake. A shake that goes on is not told twice.
+    /// True for the sample that completes a shake. A shake that goes on is reported once.
     bool add(const Sample& sample);
 
 private:
@@ -31,7 +31,7 @@ private:
     bool isReversal(const Vector& motion) const;
 
     bool m_started = false;
-    Vector m_gravity; ///< slow average: what is left when the hand rests
+    Vector m_gravity; ///< slow average: the acceleration while the hand rests
     Vector m_lastSwing;
     int m_swings = 0;
     std::chrono::microseconds m_firstSwing{};

@@ -3,11 +3,11 @@
 
 #include <cstddef>
 
-/// The one function of lodestar-symbols.so (see OwnModule.h). A module of its own, because the libraries
-/// that read debugging information would make every start slower for the sake of the one after a crash.
+/// The one function of lodestar-symbols.so (see OwnModule.h). It is in a separate module, because the libraries that
+/// read debugging information would slow every start, and only the start after a crash needs them.
 ///
-/// Names the functions at addresses of this process: calls `found` for each that has a name, with its index, its
-/// demangled name, its source file (empty when unknown) and line.
+/// Names the functions at addresses of this process. For each address with a name it calls `found` with the address's
+/// index, the demangled name, the source file (empty when unknown) and the line.
 extern "C" {
 using LodestarSymbolFound = void (*)(void* context, std::size_t index, const char* function, const char* file,
                                      unsigned line);

@@ -48,7 +48,7 @@ std::function<void()>& presenter()
     return function;
 }
 
-/// Never destroyed: threads may end the process while it is ending.
+/// Never destroyed: a thread may terminate the process while the process is already ending.
 struct SecretsProvider {
     std::mutex mutex;
     std::function<std::vector<std::string>()> function;
@@ -60,7 +60,7 @@ SecretsProvider& secretsProvider()
     return provider;
 }
 
-/// Time, level, tag, thread, place, method, message: the order in which a reader scans.
+/// One line: time, level, tag, thread, place, method, message, in the order in which a reader scans.
 std::string formatted(const VireoLogger::Entry& entry)
 {
     std::string line;
@@ -85,7 +85,7 @@ void appendStack(std::string& line, std::span<void* const> stacktrace)
     line += '}';
 }
 
-/// Addresses mean something only with the place at which the program was loaded in that run.
+/// Addresses in the log mean something only together with the address at which the program was loaded in that run.
 std::string fileHeader()
 {
     const std::vector<LoadedModule> modules = loadedModules();
@@ -100,7 +100,7 @@ std::string fileHeader()
 
 void VireoLogger::write(const Line& line)
 {
-    // Logging never breaks its caller: what cannot be had for it, memory above all, costs the line and no more.
+    // Logging never breaks its caller: when memory or anything else is missing, only the line is lost.
     try {
         const Entry entry{line.level, line.tag, line.line, line.fileName, line.method, line.stacktrace, line.message};
         LogListeners::shared().notify(entry);
@@ -128,7 +128,7 @@ VireoLogger::Settings& VireoLogger::settings()
 
 const std::string& VireoLogger::sessionIdentifier()
 {
-    // Chance, not the clock: it names the run and nothing of the device.
+    // A random number, not the time: it identifies the run and tells nothing about the device.
     static const std::string identifier = [] {
         std::random_device chance;
         return fmt::format("{:08x}{:08x}", chance(), chance());
@@ -138,7 +138,7 @@ const std::string& VireoLogger::sessionIdentifier()
 
 void VireoLogger::startSession(std::string_view applicationKey)
 {
-    // The key is a credential: whether there is one may be known, what it is may not.
+    // The key is a credential: the log may tell whether there is a key, never the key itself.
     LODESTAR_LOG(ownFile, "+[VireoLogger startSession:]",
                  "session started {} an application key, mode {}, {} on shake, named {}",
                  applicationKey.empty() ? "without" : "with", settings().mode,
@@ -224,7 +224,7 @@ void VireoLogger::flush()
     constexpr int most = 32;
     void* addresses[most + 1];
     const int count = ::backtrace(addresses, most + 1);
-    // The first address lies in this function.
+    // The first address lies in this function, so it is left out.
     return count <= 1 ? std::vector<void*>() : std::vector<void*>(addresses + 1, addresses + count);
 #else
     return {};

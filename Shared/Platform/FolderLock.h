@@ -10,7 +10,7 @@ enum class FolderClaim {
     Ours,
     Taken,   ///< another process has the folder; two processes would overwrite each other's defaults
     Foreign, ///< the folder belongs to another user, who could read and change its files
-    /// a link, or a file that is not this user's, has the lock file's name; locking it would lock something else
+    /// A link, or a file that is not this user's, has the lock file's name; locking it would lock something else.
     NoLock
 };
 

@@ -22,7 +22,7 @@ Error fileError(std::string_view attempt, int code);
 
 enum class FolderThere {
     Left, ///< keeps its mode: others may share it
-    /// gets mode 0700: the folder is ours; when its mode cannot be changed, the call fails and the folder stays
+    /// Gets mode 0700: the folder is ours; when its mode cannot be changed, the call fails and the folder stays.
     Tightened
 };
 /// Makes the folder and every missing folder above it, each new one 0700. Fails for the empty path, and when something

@@ -18,7 +18,7 @@ namespace
 
 struct Lead {
     std::size_t followers;
-    /// bounds of the first follower; they exclude overlong forms, surrogates and values beyond Unicode
+    /// Bounds of the first follower; they exclude overlong forms, surrogates and values beyond Unicode.
     std::uint8_t firstLow;
     std::uint8_t firstHigh;
 };

@@ -12,7 +12,7 @@ void paintCover(QPainter& painter, const QRectF& rect, double unit)
     painter.save();
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(0x54, 0x5E, 0x6B));
-    // Square beneath the rounded look: a corner left open would show what is there.
+    // Paints a full rectangle beneath the rounded bar: otherwise the corners would show what is covered.
     painter.setRenderHint(QPainter::Antialiasing, false);
     painter.drawRect(rect);
     painter.setRenderHint(QPainter::Antialiasing, true);

@@ -8,8 +8,8 @@ class QPainter;
 namespace lodestar
 {
 
-/// Paints the hatched bar that hides what is beneath: opaque, so that nothing shows through. `unit` is the length of a
-/// point in the painter's units.
+/// Paints the opaque, hatched bar that hides everything beneath. `unit` is the length of a point in the painter's
+/// units.
 void paintCover(QPainter& painter, const QRectF& rect, double unit);
 
 } // namespace lodestar

@@ -30,7 +30,7 @@ void FeedbackHost::need()
 
 void FeedbackHost::setScreen(std::shared_ptr<ViewController> screen)
 {
-    // The one that goes may be the one asking.
+    // Keeps the old screen alive for this call: that screen may have made the call.
     const auto keep = std::exchange(m_screen, std::move(screen));
     Q_EMIT screenChanged();
 }
@@ -116,7 +116,8 @@ void FeedbackHost::askAboutCrashes()
     }
     need();
     const auto count = static_cast<int>(m_crashes.size());
-    // What a person has begun is not laid aside for it; the list of reports sends as well.
+    // A screen that a person has begun is not replaced, so the question then offers no sending; the list of reports can
+    // send, too.
     const bool sends = !m_setup->address.empty() && m_screen == nullptr;
     std::vector<MenuChoice> choices = {{tr("Keep")}, {tr("Delete"), true}};
     if (sends) {
@@ -147,7 +148,8 @@ void FeedbackHost::answerAboutCrashes(bool kept)
     }
 }
 
-/// Nothing is sent before its texts have been on the screen. Then the next one is asked about.
+/// Shows a report's texts, since nothing is sent before they have been on the screen. Asks about the next report after
+/// that.
 void FeedbackHost::reviewFirstCrash()
 {
     const std::string identifier = m_crashes.front().identifier;
@@ -155,7 +157,7 @@ void FeedbackHost::reviewFirstCrash()
     m_setup->store.keep(identifier);
     const Result<ReportBundle> bundle = m_setup->store.read(identifier);
     if (!bundle) {
-        askAboutCrashes(); // somebody took it away meanwhile
+        askAboutCrashes(); // the report was deleted in the meantime
         return;
     }
     auto review = makeController<ReportViewController>(m_setup, bundle.value());

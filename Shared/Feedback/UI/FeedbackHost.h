@@ -10,13 +10,13 @@
 namespace lodestar
 {
 
-/// What feedback lays over a window: the feedback screen, and the question about a crash. The screens beneath are not
-/// told of it. Main thread.
+/// Shows feedback over a window: the feedback screen and the question about a crash. The screens beneath are not told.
+/// Main thread.
 ///
-/// While the lock is up, nothing from behind it is shown: a screen that was begun before steps aside, with its picture
-/// and its note, and comes back when the lock is gone; the question about a crash waits as long. A screen that is
-/// opened over the lock gets the lock's own picture; when the lock comes up anew it steps aside too, and comes back
-/// when it is asked for again or the lock is gone.
+/// While the lock is up, nothing from behind it is shown. A feedback screen begun before the lock is put aside, with
+/// its picture and its note, and comes back when the lock is gone; the question about a crash waits as long. A screen
+/// opened over the lock shows the lock's own picture. When the lock comes up again, that screen is put aside, too; it
+/// comes back when feedback is asked for again or when the lock is gone.
 class FeedbackHost : public QObject
 {
     Q_OBJECT
@@ -30,21 +30,22 @@ public:
     using QObject::QObject;
 
     void setUp(FeedbackSetup setup);
-    /// Null while none is up.
+    /// Null while no feedback screen is up.
     ViewController* screen() const { return m_screen.get(); }
     MenuOutlet* alert() const { return m_alert; }
-    /// Something is, or was, to be shown: until then no scene is loaded for it.
+    /// True once anything was to be shown: until then no scene is loaded.
     bool isNeeded() const { return m_needed; }
 
-    /// Opens the screen on the picture; nothing while one is up or before `setUp`.
+    /// Opens the feedback screen with the picture. Does nothing while a screen is up or before `setUp`. Over the lock,
+    /// a screen that was put aside there comes back instead.
     void present(QImage picture);
-    /// Turns what crashed runs left into reports, in the background, and asks what to do with those that nobody has
-    /// been asked about.
+    /// Makes reports of the files that crashed runs left, in the background, then asks about crash reports that no
+    /// person has decided about.
     void offerCrashes();
-    /// To be told of every lock that comes up, also of one after another.
+    /// Call it for every lock that comes up, even directly after another.
     void setLocked(bool locked);
-    /// Lets go of whatever is on screen, stands aside or waits to be asked about: its reports have been taken away, and
-    /// whoever comes next did not begin it.
+    /// Drops the screen that is up, screens put aside and pending questions: their reports were deleted, and the next
+    /// person did not begin them.
     void forget();
     bool isLocked() const { return m_locked; }
 
@@ -62,9 +63,9 @@ private:
 
     std::shared_ptr<const FeedbackSetup> m_setup;
     std::shared_ptr<ViewController> m_screen;
-    std::shared_ptr<ViewController> m_begunBefore; ///< the lock came up, and aside since
-    std::shared_ptr<ViewController> m_begunOver;   ///< the lock, and aside since it came up anew
-    std::vector<Report> m_crashes;                 ///< to be asked about
+    std::shared_ptr<ViewController> m_begunBefore; ///< begun before the lock came up, and put aside since
+    std::shared_ptr<ViewController> m_begunOver;   ///< begun over the lock, and put aside since the lock came up again
+    std::vector<Report> m_crashes;                 ///< reports still to be asked about
     MenuOutlet* m_alert = new MenuOutlet(this);
     bool m_locked = false;
     bool m_needed = false;

@@ -6,7 +6,7 @@ import QtQuick.Templates as T
 import Lodestar.Feedback
 import Lodestar.Kit
 
-/// Lays the feedback screen over everything that the window shows, popups included, and asks about crashes.
+/// Shows the feedback screen over everything in the window, popups included, and asks about crashes.
 Item {
     id: layer
 
@@ -14,7 +14,8 @@ Item {
 
     function follow() {
         if (host.screen !== null && cover.opened) {
-            // One follows another, whose question has just been answered: the keyboard would go with that.
+            // A screen replaces another whose question was just answered; the keyboard focus would vanish with that
+            // question.
             screen.forceActiveFocus(Qt.OtherFocusReason);
         } else if (host.screen !== null) {
             keyboard.remember();

@@ -6,7 +6,7 @@ import QtQuick.Templates as T
 import Lodestar.Feedback
 import Lodestar.Kit
 
-/// The picture to draw on, the tools, the note, and what becomes of them.
+/// The picture to draw on, the tools, the note, and the actions for them.
 PageScaffold {
     id: scene
 
@@ -70,7 +70,7 @@ PageScaffold {
 
         Item {
             readonly property size drawn: scene.feedback.sketch.pictureSize
-            // The first row below looks out: there is more to find.
+            // The first row below stays partly visible, as a sign that there is more below.
             readonly property real room: page.height - tools.height - noteCard.height - foot.height - 68
             readonly property real wanted: Math.max(240, room)
 

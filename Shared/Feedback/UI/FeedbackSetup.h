@@ -10,16 +10,16 @@
 namespace lodestar
 {
 
-/// What the feedback screens need of the application.
+/// What the application provides to the feedback screens.
 struct FeedbackSetup {
     ReportStore store{std::string()};
     std::string crashFolder;
     std::string logFolder;
-    std::string exportFolder; ///< where a person finds files that were exported
-    std::string address;      ///< where reports may be sent; empty for nowhere
-    /// When, by which version, on what system and in which run a report is made. Main thread.
+    std::string exportFolder; ///< the folder where a person finds exported files
+    std::string address;      ///< the server for reports; empty when reports are sent nowhere
+    /// Time, version, system and run of a report made now. Main thread.
     std::function<Report()> facts;
-    /// The passwords and session keys that the application holds, to be taken out of every text. Main thread.
+    /// The passwords and session keys that the application holds; they are removed from every text. Main thread.
     std::function<std::vector<std::string>()> secrets;
 };
 

@@ -5,7 +5,7 @@
 
 #include <QQmlEngine>
 
-// Generated with the module. A static library's registration is left out by the linker unless it is named.
+// Generated with the module. Unless the program names the registration of a static library, the linker leaves it out.
 void qml_register_types_Lodestar_Feedback();
 
 namespace lodestar

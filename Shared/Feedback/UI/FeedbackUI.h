@@ -6,7 +6,8 @@ class QQmlEngine;
 namespace lodestar
 {
 
-/// Makes `import Lodestar.Feedback` work in the engine, and the kit with it. Before it loads anything.
+/// Makes `import Lodestar.Feedback` work in the engine, and the kit's import with it. Call it before the engine loads
+/// anything.
 void installFeedbackUI(QQmlEngine& engine);
 
 } // namespace lodestar

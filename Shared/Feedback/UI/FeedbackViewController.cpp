@@ -50,7 +50,7 @@ void FeedbackViewController::setBusy(bool busy)
 void FeedbackViewController::cancel()
 {
     if (m_busy) {
-        return; // what is under way ends by itself, and closes the screen
+        return; // the running work ends by itself and closes the screen
     }
     if (m_noteView->text().trimmed().isEmpty() && !m_sketch->canUndo()) {
         m_close();
@@ -64,7 +64,8 @@ void FeedbackViewController::cancel()
                      });
 }
 
-/// Reads and packs off the main thread; what only the main thread may touch is taken first.
+/// Builds the bundle. Reading and packing happen off the main thread; data that only the main thread may touch is
+/// copied first.
 void FeedbackViewController::assemble(std::function<void(ReportBundle)> done)
 {
     setBusy(true);
@@ -123,7 +124,7 @@ void FeedbackViewController::showText()
     });
 }
 
-/// Before anything is sent the report is on the disk: whatever happens on the way, it is not lost.
+/// Saves the report before anything is sent: whatever happens to the transfer, the report is not lost.
 void FeedbackViewController::keep(ReportBundle bundle, std::function<void(ReportBundle)> done)
 {
     setBusy(true);
@@ -153,7 +154,7 @@ void FeedbackViewController::finish(const QString& title, const QString& message
     m_alert->present(title, message, {{tr("OK")}}, 0, [this](int) { m_close(); });
 }
 
-/// The screen stays, with everything in it.
+/// Shows the error. The screen stays, with everything in it.
 void FeedbackViewController::tell(const QString& title, const Error& error)
 {
     m_alert->present(title, errorText(error), {{tr("OK")}}, 0, {});

@@ -10,10 +10,10 @@
 namespace lodestar
 {
 
-/// The feedback screen: a picture of what was on screen to draw on, a note, and the way to keep or send both.
+/// The feedback screen: a picture of the screen before it, to draw on, a note, and the buttons to keep or send both.
 ///
-/// Over the passcode screen it knows nothing of what lies behind the lock: the report gets no log, and the reports that
-/// were made before cannot be reached from it.
+/// Over the passcode screen, feedback must show nothing from behind the lock: the report gets no log, and earlier
+/// reports cannot be opened.
 class FeedbackViewController : public lodestar::ViewController
 {
     Q_OBJECT
@@ -30,23 +30,23 @@ public:
     enum class Lock { Open, Locked };
     static constexpr int longestNote = 10'000;
 
-    /// `close` takes the screen away.
+    /// `close` removes the screen.
     FeedbackViewController(std::shared_ptr<const FeedbackSetup> setup, QImage picture, Lock lock,
                            std::function<void()> close);
 
     Sketch* sketch() const { return m_sketch; }
     FieldOutlet* noteView() const { return m_noteView; }
     MenuOutlet* alert() const { return m_alert; }
-    /// This build has an address; otherwise reports are only kept.
+    /// True when this build has an address; otherwise reports are only kept.
     bool sends() const { return !m_setup->address.empty(); }
     bool isLocked() const { return m_lock == Lock::Locked; }
     bool isBusy() const { return m_busy; }
 
-    /// Leaves, after a question when something would be lost.
+    /// Closes the screen; asks first when something would be lost.
     Q_INVOKABLE void cancel();
-    /// Keeps the report; where it is to be sent, shows what is sent first.
+    /// Keeps the report. When the report is to be sent, shows its texts first.
     Q_INVOKABLE void submit();
-    /// Shows every text that the report would hold.
+    /// Shows all texts of the report.
     Q_INVOKABLE void showText();
     Q_INVOKABLE void showReports();
 

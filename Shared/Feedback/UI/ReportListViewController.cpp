@@ -28,7 +28,7 @@ ReportListViewController::ReportListViewController(std::shared_ptr<const Feedbac
 
 void ReportListViewController::viewDidAppear()
 {
-    // A few dozen small files: quicker than a spinner.
+    // Reads on the main thread: a few dozen small files are read faster than a spinner appears.
     m_reports = m_setup->store.list();
     Q_EMIT rowsChanged();
 }
@@ -55,7 +55,7 @@ void ReportListViewController::open(int row)
         navigationController()->pushViewController(makeController<ReportViewController>(m_setup, bundle.value()),
                                                    Animated::Yes);
     } else {
-        viewDidAppear(); // somebody took it away meanwhile
+        viewDidAppear(); // the report was deleted in the meantime
     }
 }
 

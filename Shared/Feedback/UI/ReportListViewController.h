@@ -22,8 +22,8 @@ struct ReportRow {
 
 public:
     QString title;
-    QString note; ///< its first line
-    QString time; ///< of this place, in short
+    QString note; ///< the note's first line
+    QString time; ///< the short local form
 };
 
 /// The reports on this device, youngest first.

@@ -5,7 +5,7 @@ import QtQuick
 import Lodestar.Feedback
 import Lodestar.Kit
 
-/// A report to be read, line by line: a log is too long for one text.
+/// A report's text, line by line: a log is too long for one text item.
 PageScaffold {
     id: scene
 
@@ -95,7 +95,7 @@ PageScaffold {
         }
         Component.onCompleted: contentY = start
 
-        // In the margin and no header: a list of Qt 6.4 makes none of a component that is bound.
+        // Lies in the margin instead of a header: in Qt 6.4 a list makes no header of a bound component.
         SketchPicture {
             parent: list.contentItem
             visible: scene.drawn.width > 0

@@ -14,7 +14,7 @@ namespace lodestar
 namespace
 {
 
-/// Kept by whatever is to go on with it: the transfer, or the alert's handler.
+/// One report being sent. The transfer or the alert's handler keeps it alive.
 class Sending : public std::enable_shared_from_this<Sending>
 {
 public:
@@ -39,7 +39,7 @@ public:
                 MainQueue::shared().async([self, outcome] { self->ended(outcome); });
             },
             [self](int percent) { MainQueue::shared().async([self, percent] { self->sent(percent); }); });
-        // A cancelled transfer still says how it ended: it may have been too late.
+        // After a cancel the transfer still reports its outcome: the cancel may have come too late.
         m_alert.present(QCoreApplication::translate("Reports", "Sending the report..."), percentText(0),
                         {{QCoreApplication::translate("Reports", "Cancel")}}, 0, [self, cancel](int) {
                             self->m_isUnderWay = false;
@@ -50,7 +50,7 @@ public:
 private:
     static QString percentText(int percent)
     {
-        // The system takes a small report at once, however slowly it goes on from there.
+        // The system accepts a small report at once, however slowly it is sent from there.
         return percent == 100 ? QCoreApplication::translate("Reports", "Waiting for the answer...")
                               : QCoreApplication::translate("Reports", "%1 %").arg(percent);
     }
@@ -85,7 +85,7 @@ private:
     const ReportBundle m_bundle;
     const std::string m_address;
     const std::function<void()> m_done;
-    bool m_isUnderWay = false; ///< and the alert says so
+    bool m_isUnderWay = false; ///< true while the alert shows the transfer's progress
 };
 
 } // namespace

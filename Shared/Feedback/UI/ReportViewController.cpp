@@ -42,7 +42,7 @@ ReportViewController::ReportViewController(std::shared_ptr<const FeedbackSetup> 
     }
 }
 
-/// As often as the person likes, one time after another.
+/// Offers to send the report, again after each time, but only once at a time.
 void ReportViewController::offerSending(const ReportBundle& bundle)
 {
     setAction(tr("Send"), [this, bundle] {
@@ -73,7 +73,7 @@ void ReportViewController::leave()
 
 void ReportViewController::act()
 {
-    // It may take this screen away.
+    // The action may remove this screen.
     const auto keep = shared_from_this();
     if (m_action) {
         const std::function<void()> action = std::exchange(m_action, nullptr);

@@ -11,8 +11,8 @@
 namespace lodestar
 {
 
-/// A report's texts and picture, to be read: before it is sent, with the button that sends it; or one that was kept,
-/// with the ways to hand it on, to delete it and, in a build that has an address, to send it.
+/// A report's texts and picture, to be read. Before a report is sent, the screen has the button that sends it. For a
+/// kept report it has buttons to export, to delete and, in a build with an address, to send.
 class ReportViewController : public lodestar::ViewController
 {
     Q_OBJECT
@@ -26,28 +26,28 @@ class ReportViewController : public lodestar::ViewController
     Q_PROPERTY(lodestar::MenuOutlet* alert READ alert CONSTANT)
 
 public:
-    /// Of a report that is not kept yet.
+    /// Shows a report that is not kept yet.
     ReportViewController(const QString& title, const QString& text);
-    /// Of one that is.
+    /// Shows a kept report.
     ReportViewController(std::shared_ptr<const FeedbackSetup> setup, const ReportBundle& bundle);
 
     const QStringList& lines() const { return m_lines; }
-    /// Null without one.
+    /// Null for a report without a picture.
     Sketch* picture() const { return m_picture; }
     bool isKept() const { return m_setup != nullptr; }
     const QString& actionTitle() const { return m_actionTitle; }
     MenuOutlet* alert() const { return m_alert; }
-    /// The button at the end of the bar; before the screen is shown.
+    /// The button at the end of the bar. Call it before the screen is shown.
     void setAction(const QString& title, std::function<void()> action);
-    /// For a screen that nothing lies beneath: what takes it away, also once the report was sent or deleted. Before the
-    /// screen is shown.
+    /// For a screen with none beneath: `close` removes it, also after the report was sent or deleted. Call it before
+    /// the screen is shown.
     void setClose(std::function<void()> close) { m_close = std::move(close); }
     bool closes() const { return m_close != nullptr; }
 
-    /// Leaves, wherever that leads.
+    /// Closes the screen, or goes back to the one beneath.
     Q_INVOKABLE void leave();
     Q_INVOKABLE void act();
-    /// Writes the report as an archive where the person finds it, and says where.
+    /// Writes the report as an archive to a place where the person finds it, and names that place.
     Q_INVOKABLE void exportReport();
     Q_INVOKABLE void deleteReport();
 

@@ -31,14 +31,14 @@ public:
     void paint(QPainter* painter) override { paintCover(*painter, boundingRect(), 1); }
 };
 
-/// A field that shows dots, told by the property that every kind of text field has.
+/// Whether the item is a field that shows dots; every kind of text field has the property that tells.
 bool hidesItsText(const QQuickItem* item)
 {
     const QVariant mode = item->property("echoMode");
     return mode.isValid() && mode.toInt() != 0;
 }
 
-/// What the item's content takes: of a text that is shorter than its item, the text's part.
+/// The part of the item that its content fills: for a text shorter than its item, the text's part.
 QRectF contentRect(const QQuickItem* item)
 {
     QRectF rect(0, 0, item->width(), item->height());

@@ -11,7 +11,7 @@ namespace lodestar
 namespace
 {
 
-constexpr double penWidth = 4; ///< points
+constexpr double penWidth = 4; ///< in points
 
 } // namespace
 
@@ -27,7 +27,7 @@ void Sketch::setColor(int color)
 {
     if (color >= 0 && color < colors().size()) {
         m_color = color;
-        m_tool = Tool::Pen; // whoever picks a colour means to draw with it
+        m_tool = Tool::Pen; // a person who picks a colour wants to draw with it
         Q_EMIT toolChanged();
     }
 }
@@ -76,7 +76,7 @@ void Sketch::extend(QPointF point)
 
 void Sketch::end()
 {
-    // A tap with the cover hides nothing: it must not count as something to undo.
+    // A tap with the cover tool hides nothing, so it must not count as a mark to undo.
     if (m_drawing && m_marks.back().tool == Tool::Cover &&
         (m_marks.back().points.front() - m_marks.back().points.back()).manhattanLength() < 2) {
         m_marks.pop_back();

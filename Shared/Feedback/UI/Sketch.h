@@ -14,8 +14,8 @@
 namespace lodestar
 {
 
-/// A picture and what has been drawn on it: strokes of the pen and covers, in the picture's pixels, so that they stay
-/// where they are however large the picture is shown. Main thread.
+/// A picture and the marks drawn on it: strokes of the pen and covers. Marks are in the picture's pixels, so they stay
+/// in place at whatever size the picture is shown. Main thread.
 class Sketch : public QObject
 {
     Q_OBJECT
@@ -35,7 +35,7 @@ public:
 
     Tool tool() const { return m_tool; }
     void setTool(Tool tool);
-    /// Of the pen: an index of `colors`.
+    /// The pen's colour: an index of `colors`.
     int color() const { return m_color; }
     void setColor(int color);
     static QList<QColor> colors();
@@ -43,15 +43,15 @@ public:
     bool canUndo() const { return !m_marks.empty(); }
     QSizeF pictureSize() const { return m_picture.size(); }
 
-    /// One mark of the tool, from where it is set down to where it is lifted. Points beyond the edge are drawn on it.
+    /// One mark of the tool, from touching down to lifting. Points outside the picture move to its edge.
     void begin(QPointF point);
     void extend(QPointF point);
     void end();
     Q_INVOKABLE void undo();
 
-    /// Everything, in the picture's pixels.
+    /// Paints picture and marks, in the picture's pixels.
     void paint(QPainter& painter) const;
-    /// The picture with all marks in its own pixels: a cover is no layer that could be lifted.
+    /// The picture with the marks drawn into its pixels: a cover is no layer that could be lifted.
     QImage composed() const;
 
 Q_SIGNALS:
@@ -62,7 +62,7 @@ private:
     struct Mark {
         Tool tool = Tool::Pen;
         QColor color;
-        QPolygonF points; ///< of a cover: two corners
+        QPolygonF points; ///< a cover has two: opposite corners
     };
     QPointF within(QPointF point) const;
 

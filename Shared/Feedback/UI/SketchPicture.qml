@@ -3,7 +3,7 @@ import QtQuick
 import Lodestar.Feedback
 import Lodestar.Kit
 
-/// A sketch as a card with a hairline around it: a picture of a screen is as light as the ground that it lies on.
+/// A sketch as a card with a hairline around it: a picture of a light screen would not stand out from a light ground.
 SketchView {
     CardCorners {
         anchors.fill: parent

@@ -2,7 +2,7 @@
 import QtQuick
 import Lodestar.Kit
 
-/// A button among the drawing tools: a drawing, or a disc of colour.
+/// A button among the drawing tools; shows a drawing or a disc of colour.
 Pressable {
     id: tool
 

@@ -9,7 +9,7 @@ namespace lodestar
 SketchView::SketchView(QQuickItem* parent) : QQuickPaintedItem(parent)
 {
     setAcceptedMouseButtons(Qt::LeftButton);
-    setKeepMouseGrab(true); // a stroke is no flick of the page below
+    setKeepMouseGrab(true); // a stroke must not scroll the page below
     setAntialiasing(true);
 }
 
@@ -29,7 +29,7 @@ void SketchView::setSketch(Sketch* sketch)
     Q_EMIT sketchChanged();
 }
 
-/// Points of this item a pixel of the picture.
+/// How many of this item's points one pixel of the picture takes.
 double SketchView::scale() const
 {
     return m_sketch && m_sketch->pictureSize().width() > 0 ? width() / m_sketch->pictureSize().width() : 0;

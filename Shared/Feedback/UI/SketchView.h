@@ -9,7 +9,7 @@
 namespace lodestar
 {
 
-/// Shows a sketch in the whole of the item, which should have the picture's proportions, and lets it be drawn on.
+/// Shows a sketch across the whole item and lets a person draw on it. The item should have the picture's proportions.
 class SketchView : public QQuickPaintedItem
 {
     Q_OBJECT

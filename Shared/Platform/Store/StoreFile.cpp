@@ -229,7 +229,7 @@ private:
 #if defined(__linux__)
         return ::mkostemp(pattern, O_CLOEXEC);
 #else
-        // the file is closed at once: a child process started in that instant inherits an empty file at worst
+        // The file is closed at once: a child process started in that instant inherits an empty file at worst.
         return ::mkstemp(pattern);
 #endif
     }

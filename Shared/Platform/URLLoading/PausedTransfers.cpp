@@ -14,7 +14,7 @@ namespace
 
 constexpr std::chrono::milliseconds patience{100};
 constexpr std::chrono::seconds look{2};
-/// bytes between two looks; a low bar, since a slow network is nobody's fault
+/// Bytes between two looks; a low bar, since a slow network is nobody's fault.
 constexpr std::size_t fastEnough = 1024UL * 1024;
 constexpr std::chrono::milliseconds standstill{500};
 
