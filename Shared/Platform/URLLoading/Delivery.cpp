@@ -33,7 +33,7 @@ class Delivery::LargeBodies
 public:
     static LargeBodies& shared()
     {
-        // Never destroyed: the thread waits here when the process ends.
+        // Never destroyed: the thread still waits on the condition when the process ends.
         static LargeBodies* const bodies = new LargeBodies;
         return *bodies;
     }
