@@ -12,8 +12,8 @@ namespace lodestar
 class ChartGlide
 {
 public:
-    /// Every call of `advance` gets a time in seconds: at the finger's full speed, the chart would move in that time as
-    /// far as it has to move now.
+    /// At every step, `advance` gets a time in seconds: the time that the step's way would take at the finger's full
+    /// speed.
     explicit ChartGlide(std::function<void(double seconds)> advance);
 
     void start();

@@ -227,8 +227,8 @@ void PlotChartItem::wheelEvent(QWheelEvent* event)
         points = points.transposed();
     }
     if (std::abs(angle.x()) <= std::abs(angle.y())) {
-        // Zooming in enlarges x only, lest the lines leave the plot at top and bottom; with Control, y too. Zooming out
-        // always shrinks both. When the zoom cannot go further, the page gets the wheel.
+        // Zooming in enlarges x only, so that the lines do not leave the plot at top and bottom; with Control, it
+        // enlarges y too. Zooming out always shrinks both. When the zoom cannot go further, the page gets the wheel.
         const double factor = std::pow(wheelFactor, angle.y() / 120.0);
         const bool both = factor < 1 || event->modifiers().testFlag(Qt::ControlModifier);
         event->setAccepted(zoomAt(event->position(), factor, both ? factor : 1));

@@ -8,8 +8,8 @@ namespace lodestar
 {
 
 /// An item that assistive programs can press, focus and command. Give the item role, name and states by the attached
-/// `Accessible`, as any item. The item itself tells its actions, whether it is enabled and whether it has the keyboard
-/// focus; its visible children only are told of. Main thread.
+/// `Accessible`, as any item. The item itself reports its actions, whether it is enabled, whether it has the keyboard
+/// focus, and those of its children that are visible. Main thread.
 class AccessibleItem : public QQuickItem
 {
     Q_OBJECT

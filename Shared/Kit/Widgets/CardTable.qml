@@ -20,7 +20,7 @@ AccessibleScope {
     property real topSpace: 8
     property alias header: list.header
     property alias footer: list.footer
-    /// A pull uncovers a search field.
+    /// Whether a pull uncovers a search field.
     property alias searchOffered: search.offered
     property alias currentIndex: list.currentIndex
     readonly property alias flickable: list

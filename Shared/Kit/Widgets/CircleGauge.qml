@@ -3,8 +3,8 @@ import QtQuick
 import QtQuick.Shapes
 import Lodestar.Kit
 
-/// A ring on a faint track, drawn from the top as far round as `current` is of `total`. The ring draws itself once, when
-/// it is made.
+/// A ring on a faint track, drawn from the top as far round as `current` is of `total`. The ring draws itself once,
+/// when it is made.
 Item {
     id: gauge
 

@@ -114,7 +114,7 @@ SheetContent {
         required property DeltaCorvelViewController editor
         property bool ruled: true
 
-        // A field is pale only while saving. After an error the field stays disabled for a moment, but must be readable.
+        // A field is pale only while saving. After an error the field stays disabled for a moment, but is readable.
         opacity: field.editor.busy ? 0.5 : 1
         onReturnPressed: field.editor.textFieldShouldReturn(outlet)
 
