@@ -36,7 +36,7 @@ std::string readAll(Body& body);
 
 /// The bytes in the gzip format.
 std::string gzipped(const std::string& bytes);
-/// A small gzip stream that unpacks to `total` blanks, rounded up to a megabyte.
+/// A small gzip stream that unpacks to at least `total` blanks: `total` rounded up to a megabyte.
 BodyPtr makeGzipBomb(std::uint64_t total);
 
 } // namespace lodestar::simulator

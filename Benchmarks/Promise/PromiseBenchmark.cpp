@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
-// What a promise costs, beside what the same work costs otherwise.
+// Measures our promise against other ways to do the same work.
 //
-// Everything that a function below does is measured, the making and the destruction of all promises included:
-//  - one then: create, register one handler, settle, and run the handler on the same thread. Ours runs it as every
-//    screen does, from the main queue, which is drained each time. QPromise runs its continuation within the settling
-//    call; std::promise has none, so that its value is fetched instead.
-//  - chain: build 100 links, settle the first, wait until the last handler has run on the pool. The reference is 100
-//    blocks given to the same pool, each by the one before it.
-//  - all: create 1,000 promises, join them, settle each, wait for the handler of the whole. The reference registers one
-//    handler a promise and waits for all of them.
+// Each function below is measured as a whole, including making and destroying its promises:
+//  - one then: creates a promise, registers one handler, settles, and runs the handler on the same thread. Our handler
+//    runs as every screen's does, from the main queue, which is drained each time. QPromise runs its continuation
+//    within the settling call. std::promise has no continuation, so the value is fetched instead.
+//  - chain: builds 100 links, settles the first, and waits until the last handler has run on the pool. The reference
+//    gives the same pool 100 tasks, each of which submits the next.
+//  - all: creates 1,000 promises, joins them, settles each, and waits for the handler of the joint promise. The
+//    reference registers one handler for each promise and waits for all handlers.
 #include "Benchmarks/Program.h"
 #include "Controllers/REST/RXPromise.h"
 #include "Platform/Queues/MainQueue.h"

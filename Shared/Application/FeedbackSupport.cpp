@@ -53,7 +53,8 @@ ReportStore reportStore(const QString& dataFolder)
     return ReportStore((dataFolder + QStringLiteral("/Reports")).toStdString());
 }
 
-/// True once a sensor was found: a new run looks for the sensor only after its first screen is drawn.
+/// The key under which a run notes that the device has a shake sensor. The next run's first screen depends on the note,
+/// because that run looks for the sensor only after drawing the screen.
 QString shakenKey()
 {
     return QStringLiteral("shaken");

@@ -13,7 +13,7 @@ namespace lodestar
 
 class ViewController;
 
-/// Told when the tour has been finished or skipped.
+/// Is told when the person has finished or skipped the tour.
 using IntroViewDelegate = PagedIntroDelegate;
 
 /// The tour: six pages, one picture each.

@@ -161,7 +161,7 @@ void LoginViewController::hideKeyboardOnTouch()
 
 void LoginViewController::performLogin()
 {
-    // The keychain has not answered yet, and would be asked the same thing twice.
+    // The keychain has not answered the last attempt yet, and is not asked twice.
     if (std::exchange(m_isComparing, true)) {
         return;
     }

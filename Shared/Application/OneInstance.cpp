@@ -14,7 +14,7 @@ namespace
 {
 
 constexpr std::string_view ownFile = "Shared/Application/OneInstance";
-constexpr auto token = "XDG_ACTIVATION_TOKEN"; ///< what a desktop gives a start that may take the keyboard
+constexpr auto token = "XDG_ACTIVATION_TOKEN"; ///< set by the desktop for a start that may take the keyboard focus
 constexpr qint64 longestToken = 256;
 constexpr int patience = 1000; ///< milliseconds
 

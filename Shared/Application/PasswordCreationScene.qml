@@ -16,7 +16,7 @@ SheetContent {
 
     title: sheet.navigationBar.text
     firstField: oldField.visible ? oldField : updateField
-    // The rows grow with the text.
+    // Rows grow with the size of text, and the sheet grows with the rows.
     extraHeight: Math.max(0, trailingRow.y + trailingRow.height - rowsHeight)
     onSaved: sheet.savePW()
     onCancelled: sheet.cancel()

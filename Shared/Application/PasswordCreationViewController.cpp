@@ -56,7 +56,7 @@ bool PasswordCreationViewController::fieldsValidate(const std::string& stored) c
 
 void PasswordCreationViewController::savePW()
 {
-    // Closed: the sheet takes a moment to slide away and can be pressed meanwhile.
+    // The sheet may be closed already: while it slides away, it can still be pressed.
     if (m_closed || std::exchange(m_isSaving, true)) {
         return;
     }

@@ -23,7 +23,7 @@ public:
     std::optional<std::string> name() const { return text("ManagementConsoleName"); }
     MachineIdentity identity() const { return MachineIdentity(element().child("MachineTypeModelAndSerialNumber")); }
     std::optional<std::string> buildLevel() const { return text({"VersionInfo", "BuildLevel"}); }
-    /// "V…R…" from the five parts of the version, "(null)" for each missing one.
+    /// The version in the form "V…R…", made of five parts; a missing part is "(null)".
     std::string version() const;
 };
 

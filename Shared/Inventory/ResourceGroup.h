@@ -20,7 +20,7 @@ public:
     using Record::Record;
 
     enum class MemberKind { Partition, ManagedSystem };
-    /// A member as the group names it.
+    /// A member, as far as the group tells about it.
     struct Member {
         XMLElement link; ///< the group's link to the member
         MemberKind kind;

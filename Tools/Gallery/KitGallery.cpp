@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// kit-gallery FOLDER: draws the kit's widgets and screens in every appearance into pictures, to be looked at.
+// kit-gallery FOLDER: draws the kit's widgets and screens in every appearance into pictures, for people to look at.
 #include "Gallery.h"
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/Kit.h"

@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-// The lists by managed system ask a console for the systems' names: a simulated one answers.
+// The lists by managed system ask a console for the systems' names, so a simulated console answers here.
 #include "Fleet/Registry.h"
 #include "Inventory/Partition.h"
 #include "Simulator/SimulatorProcess.h"

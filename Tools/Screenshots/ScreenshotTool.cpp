@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
-// lodestar-screenshots FOLDER [TEXT]: one picture a screen and look, without a display. With TEXT only those whose file
-// name contains it.
-// lodestar-screenshots --tour FOLDER: the tour's pictures, as they stand in Resources/tour.
+// lodestar-screenshots FOLDER [TEXT]: draws one picture per screen and look, without a display. With TEXT, draws only
+// the pictures whose file name contains it.
+//
+// lodestar-screenshots --tour FOLDER: draws the tour's pictures, which are kept in Resources/tour.
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/MainLoop.h"
 #include "Tools/Screenshots/Looks.h"

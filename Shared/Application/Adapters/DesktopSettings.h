@@ -20,7 +20,7 @@ class DesktopSettings : public QObject
 public:
     /// Called at first if the desktop has the setting, and on each change.
     using MotionHandler = std::function<void(bool reduced)>;
-    /// Likewise; 1 is the size of text that the screens are drawn for.
+    /// Called likewise. A scale of 1 stands for the size of text for which the screens are drawn.
     using TextHandler = std::function<void(double scale)>;
 
     DesktopSettings(MotionHandler motionReduced, TextHandler textScaled, QObject* parent = nullptr);

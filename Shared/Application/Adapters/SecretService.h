@@ -8,11 +8,11 @@
 namespace lodestar
 {
 
-/// What stands between the application and an item of the desktop's secret service.
+/// What keeps the application from an item of the desktop's secret service, if anything does.
 enum class SecretAccess {
     Free,
     NoItem,    ///< nothing is kept under that name
-    Locked,    ///< the service would ask the person first
+    Locked,    ///< the service would first ask the person to unlock it
     NoService, ///< there is no bus, or no secret service on it
     Unknown,   ///< the service does not say, or does not keep our items
 };
@@ -20,8 +20,8 @@ enum class SecretAccess {
 struct SecretQuestion {
     QString service;
     QString account;
-    bool writes = false; ///< whether a text is written; emptying an item, which needs no collection, is no such write
-    bool mayPrompt = false; ///< whether the service may ask the person, and a session bus be started if absent
+    bool writes = false;    ///< true for storing a text, which needs a collection; false also for emptying an item
+    bool mayPrompt = false; ///< whether the service may ask the person; also lets an absent session bus be started
 };
 
 /// Asks the service how it would treat the request; this brings up no prompt. Makes at most three calls and waits up to

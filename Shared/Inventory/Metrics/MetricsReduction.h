@@ -17,7 +17,7 @@ namespace lodestar
 /// nothing.
 enum class MetricsSegment : int { Processors = 0, Memory = 1 };
 
-/// The three figures of one sample: units of processors, or gigabytes of 1000 MB.
+/// One sample's three figures, in units of processors or in gigabytes of 1000 MB.
 struct MetricsFigures {
     double total = 0;
     double allocated = 0;
