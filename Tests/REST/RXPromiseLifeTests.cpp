@@ -112,11 +112,10 @@ TEST(RXPromiseLifeTests, CapturesGoAsSoonAsTheHandlerHasRunOrNeverWill)
     EXPECT_EQ(token.use_count(), 1) << "the promise can never be settled any more";
     EXPECT_TRUE(held->isPending());
     {
-        // The block waits in a queue that never runs it.
-        const DispatchQueue suspended("suspended", DispatchQueue::Kind::Serial);
-        suspended.suspend();
+        // The block waits for a thread that never runs it.
+        const auto idle = std::make_shared<ManualThread>();
         const RXPromise<int> promise;
-        promise.thenOn(suspended, [token](int) {});
+        promise.thenOn(idle, [token](int) {});
         promise.fulfillWithValue(1);
     }
     EXPECT_EQ(token.use_count(), 1);

@@ -28,91 +28,63 @@ struct Turn {
     bool granted = false;
 };
 
+/// What waits in a serial queue: a block for the pool, or a thread that runs its own.
 struct Item {
     Task block;
     Turn* turn = nullptr; ///< set: the thread that waits there runs the block, not the pool
-    bool alone = false;
 };
 
 } // namespace
 
-/// Blocks that run on the pool keep the state alive, so a queue lives until its last running block has looked for the
-/// next one. Only a suspended queue can be destroyed with blocks in it.
+/// Blocks that run on the pool keep the state alive, so a queue lives until its last block has run. A concurrent queue
+/// leaves everything to the pool.
 struct DispatchQueue::State final : ThreadPool::Owner, std::enable_shared_from_this<DispatchQueue::State> {
     State(std::string queueLabel, Kind queueKind) : label(std::move(queueLabel)), kind(queueKind) {}
 
-    void async(Task block, bool alone);
+    void async(Task block);
     void sync(Task block);
-    void resume();
     void run(Task& block) override;
     void execute(Task& block) const;
-
-    bool mayStart(bool alone) const { return suspended == 0 && !aloneRuns && !(alone && running > 0); }
-    bool pendingMayStart() const { return !pending.empty() && mayStart(pending.front().alone); }
-    void begin(bool alone);
-    void end();
     bool takeNext(Task& block);
-    void startAll();
 
     const std::string label;
     const Kind kind;
+    // A serial queue's.
     std::mutex mutex;
     Ring<Item> pending;
-    std::size_t running = 0;
-    std::size_t suspended = 0;
-    bool aloneRuns = false;
+    bool isBusy = false;
 };
 
-void DispatchQueue::State::begin(bool alone)
+void DispatchQueue::State::async(Task block)
 {
-    ++running;
-    aloneRuns = alone;
-}
-
-void DispatchQueue::State::end()
-{
-    --running;
-    aloneRuns = false;
-}
-
-void DispatchQueue::State::async(Task block, bool alone)
-{
-    {
+    if (kind == Kind::Serial) {
         const std::lock_guard lock(mutex);
-        if (!pending.empty() || !mayStart(alone)) {
-            pending.push({std::move(block), nullptr, alone});
+        if (std::exchange(isBusy, true)) {
+            pending.push({std::move(block)});
             return;
         }
-        begin(alone);
     }
     ThreadPool::shared().submit(std::move(block), shared_from_this());
 }
 
 void DispatchQueue::State::sync(Task block)
 {
-    const bool alone = kind == Kind::Serial;
+    if (kind == Kind::Concurrent) {
+        execute(block);
+        return;
+    }
     {
         std::unique_lock lock(mutex);
-        if (pending.empty() && mayStart(alone)) {
-            begin(alone);
-        } else {
+        if (std::exchange(isBusy, true)) {
             Turn turn;
-            pending.push({Task(), &turn, alone});
+            pending.push({Task(), &turn});
             turn.condition.wait(lock, [&] { return turn.granted; });
         }
     }
     execute(block);
     const std::lock_guard lock(mutex);
-    end();
-    startAll();
-}
-
-void DispatchQueue::State::resume()
-{
-    const std::lock_guard lock(mutex);
-    assert(suspended > 0);
-    if (--suspended == 0) {
-        startAll();
+    if (Task next; takeNext(next)) {
+        ThreadPool::shared().submit(std::move(next), shared_from_this());
     }
 }
 
@@ -125,14 +97,16 @@ void DispatchQueue::State::execute(Task& block) const
     t_frame = frame.outer;
 }
 
-/// Runs on a thread of the pool. Runs up to 64 of the queue's blocks in a row: a long queue then needs no trip through
-/// the pool for each block, and other queues still get the thread.
+/// Runs on a thread of the pool. Runs up to 64 of a serial queue's blocks in a row: a long queue then needs no trip
+/// through the pool for each block, and other queues still get the thread.
 void DispatchQueue::State::run(Task& block)
 {
     for (int i = 0; i < 64; ++i) {
         execute(block);
+        if (kind == Kind::Concurrent) {
+            return;
+        }
         const std::lock_guard lock(mutex);
-        end();
         if (!takeNext(block)) {
             return;
         }
@@ -140,34 +114,22 @@ void DispatchQueue::State::run(Task& block)
     ThreadPool::shared().submit(std::move(block), shared_from_this());
 }
 
-/// Call with the lock held. Takes the next block for this thread, if that block may start and belongs on the pool.
-/// Starts every other block that may start as well.
+/// Call with the lock held, after a serial queue's block. Takes the next block, if that block belongs on the pool. A
+/// thread that waits for its turn gets the turn instead.
 bool DispatchQueue::State::takeNext(Task& block)
 {
-    if (!pendingMayStart() || pending.front().turn != nullptr) {
-        startAll();
+    isBusy = !pending.empty();
+    if (!isBusy) {
         return false;
     }
     Item item = pending.pop();
-    begin(item.alone);
-    block = std::move(item.block);
-    startAll();
-    return true;
-}
-
-/// Call with the lock held. Hands out every block that may start now, in order.
-void DispatchQueue::State::startAll()
-{
-    while (pendingMayStart()) {
-        Item item = pending.pop();
-        begin(item.alone);
-        if (item.turn != nullptr) {
-            item.turn->granted = true;
-            item.turn->condition.notify_one();
-        } else {
-            ThreadPool::shared().submit(std::move(item.block), shared_from_this());
-        }
+    if (item.turn != nullptr) {
+        item.turn->granted = true;
+        item.turn->condition.notify_one();
+        return false;
     }
+    block = std::move(item.block);
+    return true;
 }
 
 DispatchQueue::DispatchQueue(std::string label, Kind kind) : m_state(std::make_shared<State>(std::move(label), kind)) {}
@@ -177,14 +139,9 @@ const std::string& DispatchQueue::label() const
     return m_state->label;
 }
 
-DispatchQueue::Kind DispatchQueue::kind() const
-{
-    return m_state->kind;
-}
-
 void DispatchQueue::async(Task block) const
 {
-    m_state->async(std::move(block), m_state->kind == Kind::Serial);
+    m_state->async(std::move(block));
 }
 
 void DispatchQueue::sync(Task block) const
@@ -192,22 +149,6 @@ void DispatchQueue::sync(Task block) const
     assert(m_state->kind == Kind::Concurrent || !isCurrent());
     const auto state = m_state; // the block may drop the last handle
     state->sync(std::move(block));
-}
-
-void DispatchQueue::barrierAsync(Task block) const
-{
-    m_state->async(std::move(block), true);
-}
-
-void DispatchQueue::suspend() const
-{
-    const std::lock_guard lock(m_state->mutex);
-    ++m_state->suspended;
-}
-
-void DispatchQueue::resume() const
-{
-    m_state->resume();
 }
 
 bool DispatchQueue::isCurrent() const

@@ -10,8 +10,7 @@ namespace lodestar
 {
 
 /// A labelled queue of blocks over the process's one thread pool. Thread-safe. Cheap to copy: copies are the same
-/// queue. When the last copy is destroyed, waiting blocks still run; blocks that wait on a suspended queue are
-/// destroyed without running.
+/// queue. When the last copy is destroyed, waiting blocks still run.
 ///
 /// The pool grows when blocks wait and every thread is blocked, up to a generous maximum; a block may therefore block.
 class DispatchQueue
@@ -25,19 +24,12 @@ public:
     DispatchQueue(std::string label, Kind kind);
 
     const std::string& label() const;
-    Kind kind() const;
 
     /// Runs the block later, never inside this call.
     void async(Task block) const;
     /// Runs the block on the calling thread when the queue's turn comes; returns when the block has run. On a serial
     /// queue this works like a lock. Calling it from a block of the same serial queue is a programming error.
     void sync(Task block) const;
-    /// Runs the block alone: after every block queued before it, before every block queued after it.
-    void barrierAsync(Task block) const;
-
-    /// A suspended queue starts no block. Calls nest: as many `resume` as `suspend`.
-    void suspend() const;
-    void resume() const;
 
     /// True on a thread that is running a block of this queue.
     bool isCurrent() const;

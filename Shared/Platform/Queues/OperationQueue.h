@@ -3,7 +3,6 @@
 
 #include "Platform/Queues/Task.h"
 
-#include <cstddef>
 #include <memory>
 #include <string>
 
@@ -21,9 +20,6 @@ public:
     void addOperation(Task operation) const;
     /// Blocks until no operation waits or runs.
     void waitUntilAllOperationsAreFinished() const;
-    /// The most operations that run at once. 0, the initial value, leaves the limit to the pool; 1 makes the queue
-    /// serial.
-    void setMaxConcurrentOperationCount(std::size_t count) const;
 
 private:
     struct State;
