@@ -3,7 +3,7 @@
 
 #include "Feedback/ReportArchive.h"
 #include "Feedback/VireoLogger.h"
-#include "Platform/URLLoading/URLConnection.h"
+#include "Platform/URLLoading/URLLoading.h"
 
 #include <fmt/core.h>
 

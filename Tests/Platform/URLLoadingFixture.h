@@ -2,7 +2,10 @@
 #pragma once
 
 #include "Platform/URLLoading/ServerTrust.h"
+#include "Platform/URLLoading/TransferLimits.h"
 #include "Platform/URLLoading/URLConnection.h"
+#include "Platform/URLLoading/URLErrorCode.h"
+#include "Platform/URLLoading/URLLoading.h"
 #include "Simulator/SimulatorProcess.h"
 
 #include <gtest/gtest.h>

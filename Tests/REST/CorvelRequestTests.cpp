@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Controllers/REST/CorvelRequest.h"
+#include "Platform/URLLoading/URLErrorCode.h"
 #include "Tests/REST/RESTHandlerFixture.h"
 
 #include <gmock/gmock.h>

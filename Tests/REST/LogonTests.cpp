@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Platform/URLLoading/URLErrorCode.h"
 #include "Tests/REST/RESTHandlerFixture.h"
 
 #include <gmock/gmock.h>

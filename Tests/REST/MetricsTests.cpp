@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/Resources.h"
-#include "Platform/URLLoading/URLConnection.h"
 #include "Tests/REST/RESTHandlerFixture.h"
 
 #include <gmock/gmock.h>

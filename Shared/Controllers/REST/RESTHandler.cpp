@@ -8,6 +8,7 @@
 #include "Inventory/Record.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/URLLoading/ServerTrust.h"
+#include "Platform/URLLoading/URLLoading.h"
 #include "Platform/UserDefaults.h"
 
 #include <algorithm>

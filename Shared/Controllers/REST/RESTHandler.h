@@ -3,10 +3,11 @@
 
 #include "Application/Model/Corvel.h"
 #include "Controllers/REST/RXPromise.h"
+#include "Controllers/REST/SessionKey.h"
 #include "Inventory/Feed.h"
 #include "Inventory/Metrics/MetricsDocument.h"
 #include "Platform/Queues/OperationQueue.h"
-#include "Platform/URLLoading/URLConnection.h"
+#include "Platform/URLLoading/URLRequest.h"
 
 #include <cstddef>
 #include <memory>
@@ -18,9 +19,6 @@
 
 namespace lodestar
 {
-
-/// A console's session key; none when the console gave none or none is stored.
-using SessionKey = std::optional<std::string>;
 
 /// Whether to try a stored session key against the console before trusting it.
 enum class CheckToken { No, Yes };

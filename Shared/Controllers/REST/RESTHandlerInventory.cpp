@@ -4,6 +4,7 @@
 #include "Feedback/VireoLogger.h"
 #include "Inventory/ManagedSystem.h"
 #include "Platform/Resources.h"
+#include "Platform/URLLoading/URLLoading.h"
 #include "XML/KeptRoom.h"
 
 #include <mutex>

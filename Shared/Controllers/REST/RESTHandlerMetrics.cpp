@@ -5,6 +5,7 @@
 #include "Inventory/Metrics/MetricsReduction.h"
 #include "Inventory/Record.h"
 #include "Platform/Resources.h"
+#include "Platform/URLLoading/URLLoading.h"
 
 #include <utility>
 

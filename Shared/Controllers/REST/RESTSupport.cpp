@@ -1,13 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Controllers/REST/RESTSupport.h"
 
+#include "Controllers/REST/RXPromise.h"
 #include "Inventory/Record.h"
 #include "Platform/URLLoading/ErrorWords.h"
 #include "Platform/UserDefaults.h"
+#include "XML/XMLElement.h"
 
 #include <fmt/core.h>
 
 #include <cstdint>
+#include <optional>
 #include <utility>
 
 namespace lodestar

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Controllers/REST/RESTHandler.h"
+#include "Application/Model/Corvel.h"
+#include "Controllers/REST/SessionKey.h"
+#include "Platform/Result.h"
+#include "Platform/URLLoading/URLRequest.h"
 
-#include <optional>
+#include <cstddef>
 #include <string>
 #include <string_view>
 

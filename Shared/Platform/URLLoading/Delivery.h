@@ -2,9 +2,10 @@
 #pragma once
 
 #include "Platform/Queues/OperationQueue.h"
+#include "Platform/Result.h"
 #include "Platform/URLLoading/BodyUnpacker.h"
 #include "Platform/URLLoading/HeldBytes.h"
-#include "Platform/URLLoading/URLConnection.h"
+#include "Platform/URLLoading/URLRequest.h"
 
 #include <functional>
 #include <memory>

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Platform/URLLoading/URLConnection.h"
+#include "Platform/URLLoading/URLErrorCode.h"
 
 #include <string>
 

@@ -1,9 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/URLLoading/HeldBytes.h"
 
-#include "Platform/URLLoading/NetworkThread.h"
-
 #include <algorithm>
+#include <atomic>
 #include <chrono>
 #include <condition_variable>
 #include <mutex>
@@ -27,6 +26,8 @@ constexpr std::size_t partOfLittle = 2;
 constexpr std::size_t littleBody = 64UL * 1024;
 constexpr std::size_t leastPart = 64; ///< of the fair third: every server may have so much while there is room
 constexpr std::size_t largeLoad = 64UL * 1024 * 1024;
+
+std::atomic<void (*)()> givenBack = nullptr;
 
 /// The GNU allocator keeps the many freed pieces of large bodies until this call.
 void giveMemoryBack()
@@ -191,7 +192,14 @@ void HeldBytes::reset()
     if (endsLargeLoad) {
         giveMemoryBack();
     }
-    NetworkThread::readerCaughtUp();
+    if (auto* const told = givenBack.load()) {
+        told();
+    }
+}
+
+void HeldBytes::setGivenBack(void (*told)())
+{
+    givenBack = told;
 }
 
 void HeldBytes::setDelivering()

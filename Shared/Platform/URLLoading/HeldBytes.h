@@ -65,6 +65,8 @@ public:
     static std::size_t mostOfOne(std::size_t heldLimit);
     /// Bytes of whole bodies that wait for their readers.
     static std::size_t waitingForReaders();
+    /// Sets the function that is called, on any thread, each time a body has given its share back.
+    static void setGivenBack(void (*told)());
     /// Blocks until something is given back, 50 ms at most.
     static void waitForLess();
 

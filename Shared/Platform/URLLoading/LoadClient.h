@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Platform/Result.h"
 #include "Platform/URLLoading/Transfer.h"
-#include "Platform/URLLoading/URLConnection.h"
+#include "Platform/URLLoading/URLRequest.h"
 
 #include <functional>
 

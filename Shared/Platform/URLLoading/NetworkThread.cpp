@@ -48,6 +48,7 @@ NetworkThread& NetworkThread::shared()
         prepareProcessForTransfers();
         auto* const made = new NetworkThread;
         theThread = made;
+        HeldBytes::setGivenBack(&readerCaughtUp);
         std::atexit([] {
             NetworkThread& self = *theThread.load();
             {
@@ -220,7 +221,7 @@ void NetworkThread::begin(const std::shared_ptr<Transfer>& transfer)
         ahead = m_ahead.take(transfer->server());
         m_hasReleased = m_hasReleased || ahead;
     }
-    transfer->setPausedTransfers(m_paused);
+    transfer->setWhenPaused([this](Transfer& paused) { m_paused.add(paused); });
     m_waiting.didStart(*transfer);
     if (transfer->start(std::move(ahead))) {
         m_running.emplace(transfer.get(), transfer);

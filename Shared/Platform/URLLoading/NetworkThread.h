@@ -43,8 +43,6 @@ public:
     /// them. The same caller later takes this back, in any case, with a negative number. Any thread.
     void expect(const std::string& url, int transfers);
 
-    /// Call when a body was handed to its reader: starts transfers that waited for that. Any thread.
-    static void readerCaughtUp();
     /// True when no transfer was under way at the thread's last look. Any thread.
     static bool isQuiet();
 
@@ -54,6 +52,8 @@ private:
     NetworkThread();
     ~NetworkThread() = default;
 
+    /// Starts what waited for a body to be handed to its reader. Any thread.
+    static void readerCaughtUp();
     void run();
     void wake() const;
     int waitTime();

@@ -3,7 +3,6 @@
 
 #include "Platform/Queues/ThreadPool.h"
 #include "Platform/URLLoading/BodyDecoder.h"
-#include "Platform/URLLoading/PausedTransfers.h"
 #include "Platform/URLLoading/Redirect.h"
 #include "Platform/URLLoading/URLError.h"
 
@@ -323,7 +322,7 @@ bool Transfer::hasRoom(std::size_t bytes)
     if (needed <= m_held.count()) {
         return true;
     }
-    const bool mayPause = m_pausedTransfers != nullptr;
+    const bool mayPause = m_whenPaused != nullptr;
     const HeldBytes::Claim claim = mayPause ? m_claim : HeldBytes::Claim::Whole;
     const std::size_t missing = needed - m_held.count();
     m_nextHeld = std::max(missing, nextStep());
@@ -339,7 +338,7 @@ bool Transfer::hasRoom(std::size_t bytes)
     if (!std::exchange(m_hasPaused, true)) {
         m_pausedSince = m_lastProgress;
     }
-    m_pausedTransfers->add(*this);
+    m_whenPaused(*this);
     return false;
 }
 

@@ -1,21 +1,23 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Platform/Error.h"
 #include "Platform/URLLoading/CloseNotice.h"
 #include "Platform/URLLoading/ConnectionHandle.h"
 #include "Platform/URLLoading/HeldBytes.h"
 #include "Platform/URLLoading/ServerCertificate.h"
-#include "Platform/URLLoading/URLConnection.h"
+#include "Platform/URLLoading/TransferLimits.h"
+#include "Platform/URLLoading/URLErrorCode.h"
+#include "Platform/URLLoading/URLRequest.h"
 
 #include <chrono>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <span>
 
 namespace lodestar
 {
-
-class PausedTransfers;
 
 enum class Handshake { Fresh, Reused };
 
@@ -74,9 +76,9 @@ public:
     bool hopEnded(CURLcode result);
     void fail(URLErrorCode code);
 
-    /// Call before `start`: a body that finds no room then waits, and the transfer enters the list. Without a list such
-    /// a body is refused.
-    void setPausedTransfers(PausedTransfers& list) { m_pausedTransfers = &list; }
+    /// Call before `start`: a body that finds no room then waits, and the function is called. Without a function such a
+    /// body is refused.
+    void setWhenPaused(std::function<void(Transfer&)> whenPaused) { m_whenPaused = std::move(whenPaused); }
     bool isPaused() const { return m_paused; }
     Clock::time_point pausedSince() const { return m_pausedSince; }
     std::size_t heldBytes() const { return m_held.count(); }
@@ -149,7 +151,7 @@ private:
     std::size_t m_bodyBytes = 0; ///< the current response's body bytes, as they came
     HeldBytes m_held;
     std::size_t m_nextHeld = 0;
-    PausedTransfers* m_pausedTransfers = nullptr;
+    std::function<void(Transfer&)> m_whenPaused;
     bool m_paused = false;
     bool m_hasPaused = false; ///< this body has paused since it last went on
     Clock::time_point m_pausedSince;

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Platform/Error.h"
-#include "Platform/URLLoading/URLConnection.h"
+#include "Platform/URLLoading/URLErrorCode.h"
 
 #include <string>
 

@@ -1,9 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Platform/URLLoading/URLLoading.h"
+
 #include "Platform/URLLoading/Delivery.h"
 #include "Platform/URLLoading/LoadClient.h"
 #include "Platform/URLLoading/NetworkThread.h"
 #include "Platform/URLLoading/SynchronousLoader.h"
-#include "Platform/URLLoading/URLConnection.h"
 
 namespace lodestar
 {

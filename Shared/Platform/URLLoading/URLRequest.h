@@ -61,4 +61,10 @@ struct URLResponse {
     std::int64_t expectedContentLength = -1; ///< -1 when unknown
 };
 
+/// A plain call's outcome: a response with its body, or an error.
+struct URLLoad {
+    URLResponse response;
+    std::string body;
+};
+
 } // namespace lodestar
