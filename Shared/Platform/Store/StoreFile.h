@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Platform/Store/ObjectContext.h"
+#include "Platform/Result.h"
+#include "Platform/Store/ManagedObjectModel.h"
 
 #include <SQLiteCpp/Database.h>
 

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Platform/Store/ObjectContext.h"
+#include "Platform/Store/ManagedObjectModel.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <vector>
