@@ -2,7 +2,6 @@
 #include "XML/KeptBytes.h"
 
 #include "Platform/URLLoading/TransferLimits.h"
-#include "XML/KeptRoom.h"
 
 #include <algorithm>
 #include <atomic>
@@ -21,6 +20,7 @@ constexpr std::size_t smallDocument = 16UL * 1024;
 constexpr std::size_t leftForSmall = 4 * megabyte;
 
 std::atomic<std::size_t> keptBytes{0};
+std::atomic<void (*)()> givenBack = nullptr;
 
 } // namespace
 
@@ -28,7 +28,9 @@ KeptBytes::~KeptBytes()
 {
     if (m_bytes > 0) {
         keptBytes.fetch_sub(m_bytes, std::memory_order_relaxed);
-        KeptRoom::moreIsFree();
+        if (auto* const told = givenBack.load()) {
+            told();
+        }
     }
 }
 
@@ -43,6 +45,11 @@ bool KeptBytes::resize(std::size_t bytes)
     } while (!keptBytes.compare_exchange_weak(before, before - m_bytes + bytes, std::memory_order_relaxed));
     m_bytes = bytes;
     return true;
+}
+
+void KeptBytes::setGivenBack(void (*told)())
+{
+    givenBack = told;
 }
 
 std::size_t KeptBytes::total()

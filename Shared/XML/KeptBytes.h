@@ -21,6 +21,8 @@ public:
     bool resize(std::size_t bytes);
     std::size_t size() const { return m_bytes; }
 
+    /// The function is called on any thread, each time a document has given its share back.
+    static void setGivenBack(void (*told)());
     static std::size_t total();
     static std::size_t limit();
 

@@ -36,10 +36,15 @@ struct State {
     }
 };
 
+void moreIsFree();
+
 State& state()
 {
     // Never destroyed: feeds may come in until the very end of the process.
-    static State* const shared = new State;
+    static State* const shared = [] {
+        KeptBytes::setGivenBack(&moreIsFree);
+        return new State;
+    }();
     return *shared;
 }
 
@@ -61,6 +66,17 @@ void startThoseThatFit()
     }
 }
 
+/// Kept bytes, or promised ones, have gone.
+void moreIsFree()
+{
+    if (state().someWait && !state().isScheduled.exchange(true)) {
+        ThreadPool::shared().submit([] {
+            state().isScheduled = false;
+            startThoseThatFit();
+        });
+    }
+}
+
 } // namespace
 
 void KeptRoom::whenThereIs(std::size_t bytes, Urgency urgency, Start start)
@@ -72,16 +88,6 @@ void KeptRoom::whenThereIs(std::size_t bytes, Urgency urgency, Start start)
         state().someWait = true;
     }
     startThoseThatFit();
-}
-
-void KeptRoom::moreIsFree()
-{
-    if (state().someWait && !state().isScheduled.exchange(true)) {
-        ThreadPool::shared().submit([] {
-            state().isScheduled = false;
-            startThoseThatFit();
-        });
-    }
 }
 
 KeptRoom::Share::~Share()

@@ -35,8 +35,6 @@ public:
     /// Calls the function once there is room: at once, or later on a thread of the pool. While no other console has a
     /// share, nobody waits: what does not fit then will not fit later either.
     static void whenThereIs(std::size_t bytes, Urgency urgency, Start start);
-    /// Call when kept bytes were freed.
-    static void moreIsFree();
 };
 
 } // namespace lodestar

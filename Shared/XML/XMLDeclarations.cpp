@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "XML/XMLDeclarations.h"
 
-#include "XML/XMLDocumentBuilder.h"
 #include "XML/XMLInput.h"
 
 #include <libxml/SAX2.h>
@@ -17,6 +16,11 @@ namespace
 /// The limit on what parameter entities expand to. Consoles declare nothing, so the limit can be small.
 constexpr std::size_t mostExpandedBytes = 1U << 20U;
 constexpr std::size_t costOfExpansion = 100;
+
+XMLDeclarationReader& readerOf(const xmlParserCtxt& parser)
+{
+    return *static_cast<XMLDeclarationReader*>(parser._private);
+}
 
 /// Whether the entity's text would keep the parser busy for long. The parser is about to check the text, with a context
 /// of its own.
@@ -39,7 +43,7 @@ xmlEntityPtr entityNamed(void* context, const xmlChar* name)
     const xmlEntityPtr entity = xmlSAX2GetEntity(context, name);
     if (entity != nullptr && isMonstrous(*entity)) {
         auto* const parser = static_cast<xmlParserCtxtPtr>(context);
-        static_cast<XMLDocumentBuilder*>(parser->_private)->refuse();
+        readerOf(*parser).refuse();
         xmlStopParser(parser);
         return nullptr;
     }
@@ -55,7 +59,7 @@ xmlEntityPtr parameterEntityNamed(void* context, const xmlChar* name)
 {
     const xmlEntityPtr entity = xmlSAX2GetParameterEntity(context, name);
     auto* const parser = static_cast<xmlParserCtxtPtr>(context);
-    if (entity != nullptr && !static_cast<XMLDocumentBuilder*>(parser->_private)->expansion().add(*entity)) {
+    if (entity != nullptr && !readerOf(*parser).expansion().add(*entity)) {
         xmlStopParser(parser);
         return nullptr;
     }

@@ -1,23 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "XML/XMLDocument.h"
 
-#include "XML/XMLDocumentBuilder.h"
-
 #include <algorithm>
-#include <new>
 
 namespace lodestar
 {
-
-Result<std::shared_ptr<const XMLDocument>> XMLDocument::parse(const char* bytes, std::size_t size)
-{
-    // The builder also allocates before the first event and after the last, so memory may run out there, too.
-    try {
-        return XMLDocumentBuilder().run({bytes, size});
-    } catch (const std::bad_alloc&) {
-        return XMLDocumentBuilder::outOfMemory();
-    }
-}
 
 std::string_view XMLDocument::text(Index index) const
 {

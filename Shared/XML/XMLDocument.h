@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Platform/Result.h"
 #include "XML/KeptBytes.h"
 #include "XML/XMLArray.h"
 #include "XML/XMLNames.h"
@@ -32,9 +31,6 @@ public:
         std::uint32_t value;
     };
     static constexpr Name noName = XMLNames::none;
-
-    /// Null when the bytes make no document, or a document without a root. A zero byte must follow the bytes.
-    static Result<std::shared_ptr<const XMLDocument>> parse(const char* bytes, std::size_t size);
 
     Name name(Index index) const { return m_nodes[index].name; }
     Index childrenBegin(Index index) const { return index + 1; }

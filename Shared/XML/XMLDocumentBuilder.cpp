@@ -63,6 +63,16 @@ struct ParserDeleter {
 
 } // namespace
 
+Result<std::shared_ptr<const XMLDocument>> XMLDocumentBuilder::parse(const char* bytes, std::size_t size)
+{
+    // Also what is made before the first event, and after the last, may find no memory.
+    try {
+        return XMLDocumentBuilder().run({bytes, size});
+    } catch (const std::bad_alloc&) {
+        return outOfMemory();
+    }
+}
+
 Error XMLDocumentBuilder::outOfMemory()
 {
     // This text is short enough to need no allocation.
@@ -90,7 +100,7 @@ Result<std::shared_ptr<const XMLDocument>> XMLDocumentBuilder::run(std::string_v
     m_errorsLeft = errorsAlways + bytes.size() / bytesAnError;
     m_comparisonsLeft = comparisonsAlways + bytes.size() * comparisonsAByte;
     m_partsLeft = partsAlways + bytes.size() / bytesAPart;
-    parser->_private = this;
+    parser->_private = static_cast<XMLDeclarationReader*>(this);
     xmlCtxtUseOptions(parser.get(), parseOptions);
     setEvents(*parser->sax);
     reserve(bytes.size());
@@ -199,7 +209,7 @@ void XMLDocumentBuilder::noteError(void* context, xmlErrorPtr error)
         return;
     }
     auto* const parser = static_cast<xmlParserCtxtPtr>(context);
-    auto* const self = static_cast<XMLDocumentBuilder*>(parser->_private);
+    XMLDocumentBuilder* const self = builderOf(*parser);
     if (error->code == XML_ERR_NO_MEMORY) {
         self->fail(outOfMemory());
     } else if (self->m_errorsLeft > 0) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Platform/Result.h"
 #include "XML/XMLDeclarations.h"
 #include "XML/XMLDocument.h"
 #include "XML/XMLMemory.h"
@@ -15,9 +16,13 @@ namespace lodestar
 
 /// Builds a document from libxml2's events. One parse, one thread; the static functions are the parser's callbacks. The
 /// constructor may throw `std::bad_alloc`.
-class XMLDocumentBuilder
+class XMLDocumentBuilder final : private XMLDeclarationReader
 {
 public:
+    /// Null when the bytes make no document, or a document without a root. A zero byte must follow the bytes.
+    static Result<std::shared_ptr<const XMLDocument>> parse(const char* bytes, std::size_t size);
+
+private:
     /// Runs the parse. Null without a root; an error when memory or the arena's indexes ran out. A zero byte must
     /// follow the bytes. Throws `std::bad_alloc`.
     Result<std::shared_ptr<const XMLDocument>> run(std::string_view bytes);
@@ -25,11 +30,8 @@ public:
     /// Creating this error allocates nothing.
     static Error outOfMemory();
 
-    XMLExpansion& expansion() { return m_expansion; }
-    /// Ends the parse because the document is too large in some way.
-    void refuse();
+    void refuse() override;
 
-private:
     static constexpr unsigned knownBits = 10;
     static constexpr unsigned knownListBits = 12;
     /// The address of the parser's only copy of a name, and whether the name had a prefix.
@@ -39,12 +41,16 @@ private:
         XMLDocument::Name name;
     };
 
+    static XMLDocumentBuilder* builderOf(const xmlParserCtxt& parser)
+    {
+        return static_cast<XMLDocumentBuilder*>(static_cast<XMLDeclarationReader*>(parser._private));
+    }
     /// The parse's builder. Null once the parse is over, and for events from inside an entity's text: the parser checks
     /// that text with a context of its own when the entity is first named, and references read as nothing.
     static XMLDocumentBuilder* of(void* context)
     {
         auto* const parser = static_cast<xmlParserCtxtPtr>(context);
-        auto* const builder = static_cast<XMLDocumentBuilder*>(parser->_private);
+        XMLDocumentBuilder* const builder = builderOf(*parser);
         if (builder->m_over && parser == builder->m_parser) {
             xmlStopParser(parser);
         }
@@ -107,7 +113,6 @@ private:
         m_known{}; ///< a cache by address; a name that another has displaced is looked up by its text
     /// A cache by a list's contents: the list's number plus one; 0 for none.
     std::array<std::uint16_t, std::size_t{1} << knownListBits> m_knownLists{};
-    XMLExpansion m_expansion;
     xmlParserCtxtPtr m_parser = nullptr;
     std::size_t m_errorsLeft = 0;
     std::size_t m_comparisonsLeft = 0;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "XML/XMLElement.h"
 
-#include "XML/XMLDocument.h"
+#include "XML/XMLDocumentBuilder.h"
 
 namespace lodestar
 {
@@ -28,7 +28,7 @@ void forEachChild(const XMLDocument& document, XMLDocument::Index parent, std::s
 
 Result<XMLElement> XMLElement::parse(const std::string& bytes)
 {
-    Result<std::shared_ptr<const XMLDocument>> document = XMLDocument::parse(bytes.c_str(), bytes.size());
+    Result<std::shared_ptr<const XMLDocument>> document = XMLDocumentBuilder::parse(bytes.c_str(), bytes.size());
     if (!document) {
         return document.error();
     }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tests/Support/TreeReference.h"
 
-#include "XML/XMLDocument.h"
+#include "XML/XMLDocumentBuilder.h"
 #include "XML/XMLElement.h"
 
 #include <libxml/parser.h>
@@ -209,7 +209,7 @@ std::string readArena(std::string_view bytes)
         return "(none)";
     }
     const Result<std::shared_ptr<const XMLDocument>> document =
-        XMLDocument::parse(std::string(bytes).c_str(), bytes.size());
+        XMLDocumentBuilder::parse(std::string(bytes).c_str(), bytes.size());
     std::string all;
     XMLDocument::Index index = 0;
     appendElement(*document.value(), index, root.value(), all);

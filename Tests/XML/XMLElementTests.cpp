@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tests/Support/TreeReference.h"
-#include "XML/XMLDocument.h"
+#include "XML/XMLDocumentBuilder.h"
 #include "XML/XMLElement.h"
 
 #include <fmt/format.h>
@@ -154,7 +154,7 @@ TEST(XMLElementTests, NothingPastTheBytesIsLookedAt)
         char* const begin = pages + page - length - 1;
         std::memcpy(begin, feed.data(), length);
         begin[length] = '\0';
-        ASSERT_EQ(XMLDocument::parse(begin, length).ok(), true) << length;
+        ASSERT_EQ(XMLDocumentBuilder::parse(begin, length).ok(), true) << length;
     }
     ::munmap(pages, 2 * page);
 }

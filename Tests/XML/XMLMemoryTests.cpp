@@ -2,7 +2,7 @@
 // Every single allocation of a parse refused, the library's and our own.
 #include "Tests/Support/Injection.h"
 #include "Tests/Support/TreeReference.h"
-#include "XML/XMLDocument.h"
+#include "XML/XMLDocumentBuilder.h"
 
 #include <gtest/gtest.h>
 #include <libxml/parser.h>
@@ -27,7 +27,7 @@ using Parsed = Result<std::shared_ptr<const XMLDocument>>;
 bool parseRefusing(int number, const std::string& bytes, std::optional<Parsed>& result)
 {
     const injection::Failing failing({injection::Call::Allocation}, number);
-    result.emplace(XMLDocument::parse(bytes.c_str(), bytes.size()));
+    result.emplace(XMLDocumentBuilder::parse(bytes.c_str(), bytes.size()));
     return injection::Failing::happened();
 }
 
@@ -68,7 +68,7 @@ TEST(XMLMemoryTests, AShorterDocumentNeverPassesForAWholeOne)
           std::string("<f><b>salvaged</c>&undefined;<d e='<'>f</f>")}) {
         const std::string reading = readArena(bytes);
         ASSERT_EQ(reading, readTree(bytes));
-        const std::string whole = listed(*XMLDocument::parse(bytes.c_str(), bytes.size()).value());
+        const std::string whole = listed(*XMLDocumentBuilder::parse(bytes.c_str(), bytes.size()).value());
         std::optional<Parsed> result;
         int number = 0;
         int errors = 0;
