@@ -50,7 +50,7 @@ std::shared_ptr<void> LogListeners::add(Function function)
             }};
 }
 
-void LogListeners::notify(const VireoLogger::Entry& entry)
+void LogListeners::notify(const LogEntry& entry)
 {
     if (notifying) {
         return;

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Feedback/VireoLogger.h"
+#include "Feedback/LogEntry.h"
 
 #include <functional>
 #include <memory>
@@ -15,12 +15,12 @@ namespace lodestar
 class LogListeners
 {
 public:
-    using Function = std::function<void(const VireoLogger::Entry&)>;
+    using Function = std::function<void(const LogEntry&)>;
 
     static LogListeners& shared();
 
     [[nodiscard]] std::shared_ptr<void> add(Function function);
-    void notify(const VireoLogger::Entry& entry);
+    void notify(const LogEntry& entry);
 
 private:
     struct Listener {

@@ -2,7 +2,7 @@
 #include "Feedback/ReportSender.h"
 
 #include "Feedback/ReportArchive.h"
-#include "Feedback/VireoLogger.h"
+#include "Feedback/SessionIdentifier.h"
 #include "Platform/URLLoading/URLLoading.h"
 
 #include <fmt/core.h>
@@ -50,7 +50,7 @@ std::function<void()> post(const std::string& address, const char* type, std::st
     request.url = address;
     request.method = "POST";
     request.headers.setValue("Content-Type", type);
-    request.headers.setValue("X-Feedback-Session", VireoLogger::sessionIdentifier());
+    request.headers.setValue("X-Feedback-Session", feedbackSessionIdentifier());
     request.body = std::move(body);
     if (progress) {
         request.bodySent = percentOf(request.body.size(), std::move(progress));

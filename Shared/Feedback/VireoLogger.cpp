@@ -8,6 +8,7 @@
 #include "Feedback/LogText.h"
 #include "Feedback/LogWriter.h"
 #include "Feedback/ReportSender.h"
+#include "Feedback/SessionIdentifier.h"
 #include "Platform/Queues/OwnThread.h"
 #include "Platform/UtcStamp.h"
 
@@ -20,7 +21,6 @@
 #include <exception>
 #include <iterator>
 #include <mutex>
-#include <random>
 #include <unistd.h>
 #include <utility>
 
@@ -128,12 +128,7 @@ VireoLogger::Settings& VireoLogger::settings()
 
 const std::string& VireoLogger::sessionIdentifier()
 {
-    // A random number, not the time: it identifies the run and tells nothing about the device.
-    static const std::string identifier = [] {
-        std::random_device chance;
-        return fmt::format("{:08x}{:08x}", chance(), chance());
-    }();
-    return identifier;
+    return feedbackSessionIdentifier();
 }
 
 void VireoLogger::startSession(std::string_view applicationKey)

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Feedback/LogEntry.h"
+
 #include <fmt/core.h>
 
 #include <functional>
@@ -24,16 +26,7 @@ public:
         /// Whether screens show a button for the feedback screen, for devices that are not shaken.
         bool offersEntry = false;
     };
-    /// One logged line, as a listener receives it.
-    struct Entry {
-        int level;
-        int tag;
-        int line;
-        std::string_view fileName; ///< such as "Shared/Controllers/REST/RESTHandler"
-        std::string_view method;   ///< such as "-[RESTHandler login:checkToken:]"
-        std::span<void* const> stacktrace;
-        std::string_view message;
-    };
+    using Entry = LogEntry;
 
     template <typename... Args>
     static void logWithLevel(int level, int tag, int line, std::string_view fileName, std::string_view method,

@@ -4,7 +4,6 @@
 #include "Feedback/UI/ReportViewController.h"
 #include "Kit/Core/NavigationController.h"
 
-#include <QCoreApplication>
 #include <QDateTime>
 #include <QLocale>
 
@@ -12,12 +11,6 @@
 
 namespace lodestar
 {
-
-QString reportKindName(Report::Kind kind)
-{
-    return kind == Report::Kind::Crash ? QCoreApplication::translate("Reports", "Crash")
-                                       : QCoreApplication::translate("Reports", "Feedback");
-}
 
 ReportListViewController::ReportListViewController(std::shared_ptr<const FeedbackSetup> setup)
     : m_setup(std::move(setup))

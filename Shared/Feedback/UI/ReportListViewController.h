@@ -9,9 +9,6 @@
 namespace lodestar
 {
 
-/// "Feedback" or "Crash".
-QString reportKindName(Report::Kind kind);
-
 /// A row of the list of reports.
 struct ReportRow {
     Q_GADGET

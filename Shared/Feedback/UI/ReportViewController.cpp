@@ -1,10 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/UI/ReportViewController.h"
 
-#include "Feedback/UI/ReportListViewController.h"
 #include "Feedback/UI/ReportSending.h"
 #include "Kit/Core/ErrorText.h"
 #include "Kit/Core/NavigationController.h"
+
+#include <QCoreApplication>
 
 #include <utility>
 
@@ -19,6 +20,12 @@ QUrl reportScene()
 }
 
 } // namespace
+
+QString reportKindName(Report::Kind kind)
+{
+    return kind == Report::Kind::Crash ? QCoreApplication::translate("Reports", "Crash")
+                                       : QCoreApplication::translate("Reports", "Feedback");
+}
 
 ReportViewController::ReportViewController(const QString& title, const QString& text) : m_lines(text.split('\n'))
 {

@@ -11,6 +11,9 @@
 namespace lodestar
 {
 
+/// "Feedback" or "Crash".
+QString reportKindName(Report::Kind kind);
+
 /// A report's texts and picture, to be read. Before a report is sent, the screen has the button that sends it. For a
 /// kept report it has buttons to export, to delete and, in a build with an address, to send.
 class ReportViewController : public lodestar::ViewController
