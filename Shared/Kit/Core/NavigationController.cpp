@@ -3,14 +3,21 @@
 
 #include "Platform/Queues/MainQueue.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace lodestar
 {
 
+void NavigationController::setStackOf(ViewController& screen, NavigationController* stack)
+{
+    screen.m_navigationController = stack;
+    screen.m_container = stack;
+}
+
 NavigationController::NavigationController(std::shared_ptr<ViewController> root)
 {
-    root->m_navigationController = this;
+    setStackOf(*root, this);
     m_stack.push_back(std::move(root));
 }
 
@@ -18,14 +25,14 @@ NavigationController::~NavigationController()
 {
     // A screen may outlive its stack when others hold it.
     for (const auto& controller : m_stack) {
-        controller->m_navigationController = nullptr;
+        setStackOf(*controller, nullptr);
     }
 }
 
 void NavigationController::pushViewController(std::shared_ptr<ViewController> controller, Animated animated)
 {
     ViewController* shown = controller.get();
-    shown->m_navigationController = this;
+    setStackOf(*shown, this);
     m_stack.push_back(std::move(controller));
     shown->loadViewIfNeeded();
     Q_EMIT pushed(shown, animated == Animated::Yes);
@@ -41,7 +48,7 @@ std::shared_ptr<ViewController> NavigationController::popViewController(Animated
     std::shared_ptr<ViewController> controller = std::move(m_stack.back());
     m_stack.pop_back();
     controller->endAppearance();
-    controller->m_navigationController = nullptr;
+    setStackOf(*controller, nullptr);
     Q_EMIT popped(controller.get(), animated == Animated::Yes);
     Q_EMIT stackChanged();
     updateAppearance();
@@ -61,7 +68,7 @@ void NavigationController::popToRoot()
         const auto covered = m_stack.end() - 2;
         const std::shared_ptr<ViewController> controller = *covered;
         m_stack.erase(covered);
-        controller->m_navigationController = nullptr;
+        setStackOf(*controller, nullptr);
         Q_EMIT removed(depth() - 1);
         MainQueue::shared().async([keep = controller] {});
     }
@@ -76,6 +83,19 @@ ViewController* NavigationController::topViewController() const
 ViewController* NavigationController::rootViewController() const
 {
     return m_stack.front().get();
+}
+
+const ViewController* NavigationController::screenBelow(const ViewController& screen) const
+{
+    const auto above = std::ranges::find(m_stack, &screen, &std::shared_ptr<ViewController>::get);
+    return above == m_stack.begin() || above == m_stack.end() ? nullptr : std::prev(above)->get();
+}
+
+void NavigationController::goBackFrom(const ViewController& screen)
+{
+    if (topViewController() == &screen) {
+        pop();
+    }
 }
 
 int NavigationController::depth() const

@@ -51,8 +51,11 @@ protected:
     void viewDidLoad() override;
     void viewDidAppear() override;
     void viewDidDisappear() override;
+    const ViewController* screenBelow(const ViewController& screen) const override;
+    void goBackFrom(const ViewController& screen) override;
 
 private:
+    static void setStackOf(ViewController& screen, NavigationController* stack);
     void updateAppearance();
     std::vector<std::shared_ptr<ViewController>> m_stack;
 };

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Kit/Core/PagedIntro.h"
 
-#include "Kit/Core/ViewController.h"
-
 #include <QQmlEngine>
 
 #include <utility>
@@ -63,7 +61,7 @@ void PagedIntro::setDelegate(std::weak_ptr<PagedIntroDelegate> delegate)
     m_delegate = std::move(delegate);
 }
 
-void PagedIntro::showInView(ViewController& view, double animationDuration)
+void PagedIntro::showInView(PagedIntroHost& view, double animationDuration)
 {
     m_animationDuration = animationDuration;
     m_presented = true;

@@ -14,8 +14,6 @@
 namespace lodestar
 {
 
-class ViewController;
-
 /// One page: a picture that fills the page and includes its words. `heading` and `words` repeat the words as text, for
 /// screen readers and for screens or text sizes at which the picture's own cannot be read.
 struct IntroPage {
@@ -33,6 +31,18 @@ public:
 
     bool hasBackground() const { return !background.isEmpty(); }
     friend bool operator==(const IntroPage&, const IntroPage&) = default;
+};
+
+class PagedIntro;
+
+/// A screen that an intro can cover. The screen keeps the intro.
+class PagedIntroHost
+{
+public:
+    virtual void setIntro(std::shared_ptr<PagedIntro> intro) = 0;
+
+protected:
+    ~PagedIntroHost() = default;
 };
 
 /// Hears when an intro is over, however it ended.
@@ -120,7 +130,7 @@ public:
 
     /// Shows the intro over a screen, which keeps it; an intro that is there is replaced. Call once per intro; the
     /// intro must be held by a `std::shared_ptr`.
-    void showInView(ViewController& view, double animationDuration);
+    void showInView(PagedIntroHost& view, double animationDuration);
     /// Whether the intro is visible. After its end the screen still keeps it, so that it can be drawn as it goes.
     bool isPresented() const { return m_presented; }
     /// Duration of the coming and of the going, in seconds.

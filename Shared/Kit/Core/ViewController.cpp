@@ -1,13 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Kit/Core/ViewController.h"
 
-#include "Kit/Core/NavigationController.h"
-#include "Kit/Core/TabBarController.h"
 #include "Platform/Queues/MainQueue.h"
 
 #include <QQmlEngine>
 
-#include <algorithm>
 #include <utility>
 
 namespace lodestar
@@ -63,36 +60,29 @@ void ViewController::endAppearance()
 
 bool ViewController::canGoBack() const
 {
-    return m_navigationController != nullptr && navigationController()->rootViewController() != this;
+    return m_container != nullptr && m_container->screenBelow(*this) != nullptr;
 }
 
 QString ViewController::backButtonTitle() const
 {
-    if (!canGoBack()) {
+    const ViewController* const below = m_container != nullptr ? m_container->screenBelow(*this) : nullptr;
+    if (below == nullptr) {
         return {};
     }
-    const auto& stack = navigationController()->viewControllers();
-    const auto self = std::find_if(stack.begin(), stack.end(), [this](const auto& each) { return each.get() == this; });
-    if (self == stack.begin() || self == stack.end()) {
-        return {};
-    }
-    const ViewController& below = **std::prev(self);
-    return below.backTitle().isNull() ? below.title() : below.backTitle();
+    return below->backTitle().isNull() ? below->title() : below->backTitle();
 }
 
 void ViewController::goBack()
 {
-    if (canGoBack() && navigationController()->topViewController() == this) {
-        navigationController()->pop();
+    if (canGoBack()) {
+        m_container->goBackFrom(*this);
     }
 }
 
 TabBarController* ViewController::tabBarController() const
 {
-    if (m_tabBarController != nullptr || m_navigationController == nullptr) {
-        return m_tabBarController;
-    }
-    return navigationController()->tabBarController();
+    return m_tabBarController != nullptr || m_container == nullptr ? m_tabBarController
+                                                                   : m_container->tabBarController();
 }
 
 void ViewController::presentSemiViewController(std::shared_ptr<ViewController> controller, SemiModalOptions options)

@@ -21,7 +21,7 @@ class SemiModalPresentation;
 /// The controller of one screen: the screen's content and actions, without its drawing. Main thread. A controller is
 /// held by a `std::shared_ptr` from `makeController`, whose deleter posts to the main thread because a worker may
 /// release the last reference.
-class ViewController : public QObject, public std::enable_shared_from_this<ViewController>
+class ViewController : public QObject, public PagedIntroHost, public std::enable_shared_from_this<ViewController>
 {
     Q_OBJECT
     QML_ELEMENT
@@ -77,7 +77,7 @@ public:
 
     /// The intro that covers this screen; null for none.
     PagedIntro* intro() const { return m_intro.get(); }
-    void setIntro(std::shared_ptr<PagedIntro> intro);
+    void setIntro(std::shared_ptr<PagedIntro> intro) override;
 
 Q_SIGNALS:
     void titleChanged();
@@ -92,6 +92,11 @@ protected:
     virtual void viewDidAppear() {}
     virtual void viewDidDisappear() {}
     void endEditing() { Q_EMIT endEditingRequested(); }
+
+    /// For a stack of screens: the screen below one of its own; null below the first.
+    virtual const ViewController* screenBelow(const ViewController& /*screen*/) const { return nullptr; }
+    /// For a stack of screens: pops the screen if it is the last.
+    virtual void goBackFrom(const ViewController& /*screen*/) {}
 
     /// A reference to this object as its own type, for handlers that keep the controller alive.
     template <typename Controller>
@@ -109,6 +114,7 @@ private:
     bool m_viewLoaded = false;
     bool m_appeared = false;
     std::atomic<NavigationController*> m_navigationController = nullptr;
+    ViewController* m_container = nullptr; ///< the navigation controller, as a screen
     TabBarController* m_tabBarController = nullptr;
     std::unique_ptr<SemiModalPresentation> m_semiModal;
     std::shared_ptr<PagedIntro> m_intro;
