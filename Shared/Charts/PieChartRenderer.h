@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Charts/PieChartModel.h"
+#include "Charts/PieSlice.h"
 
 #include <QPainterPath>
 #include <QPointF>
@@ -12,15 +13,6 @@
 
 namespace lodestar
 {
-
-/// One slice after layout. Angles are in degrees clockwise from 12 o'clock.
-struct PieSlice {
-    qsizetype entry = 0; ///< Position among the data set's entries.
-    double start = 0;
-    double sweep = 0;
-    double gap = 0; ///< Half the gap at either side, in points; 0 for the only slice.
-    QPointF center; ///< Centre of the pie; moved outward for a highlighted slice.
-};
 
 /// A pie after layout. Lengths in points.
 struct PieLayout {

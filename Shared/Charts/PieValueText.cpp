@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Charts/PieValueText.h"
 
-#include "Charts/PieChartRenderer.h"
+#include "Charts/PieSlice.h"
 
 #include <QFontMetricsF>
 #include <QPainter>
