@@ -2,13 +2,11 @@
 #include "Application/FeedbackWindow.h"
 
 #include "Application/DiscardedInterface.h"
-#include "Application/LoginViewController.h"
-#include "Application/Model/Setting.h"
+#include "Application/LockScreen.h"
 #include "Feedback/UI/FeedbackUI.h"
 #include "Feedback/VireoLogger.h"
 #include "Kit/Core/Kit.h"
 #include "Kit/Core/UIFont+System.h"
-#include "Platform/UserDefaults.h"
 #include "Views/Views.h"
 
 #include <QFontMetricsF>
@@ -32,12 +30,11 @@ void installApplicationScenes(QQmlEngine& engine)
     installFeedbackUI(engine);
 }
 
-/// Whether the controller is a passcode screen that locks. While no passcode is required, that screen passes on by
-/// itself and locks nothing.
+/// Whether the controller is a screen that locks.
 bool isLock(const ViewController* controller)
 {
-    return qobject_cast<const LoginViewController*>(controller) != nullptr &&
-           UserDefaults::standard().boolForKey(Setting::requirePassword);
+    const auto* const lock = dynamic_cast<const LockScreen*>(controller);
+    return lock != nullptr && lock->locks();
 }
 
 QUrl mainScene()

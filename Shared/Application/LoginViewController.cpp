@@ -25,6 +25,11 @@ constexpr double shortScreenHeight = 568;
 
 LoginViewController::LoginViewController(RootSwitch showRoot) : m_showRoot(std::move(showRoot)) {}
 
+bool LoginViewController::locks() const
+{
+    return UserDefaults::standard().boolForKey(Setting::requirePassword);
+}
+
 void LoginViewController::viewDidLoad()
 {
     m_isFirstLaunch = true;

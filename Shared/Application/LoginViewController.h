@@ -3,6 +3,7 @@
 
 #include "Application/ControlOutlets.h"
 #include "Application/KeychainWait.h"
+#include "Application/LockScreen.h"
 #include "Kit/Core/Menu.h"
 #include "Kit/Core/ViewController.h"
 #include "Platform/Error.h"
@@ -19,7 +20,7 @@ namespace lodestar
 /// The passcode screen, which stands in front of everything: it asks for the passcode, or passes on to the main
 /// interface at once when no passcode is required. A person who forgot the passcode can only wipe everything. Main
 /// thread.
-class LoginViewController : public lodestar::ViewController
+class LoginViewController : public lodestar::ViewController, public LockScreen
 {
     Q_OBJECT
     QML_ELEMENT
@@ -64,6 +65,8 @@ public:
     int openingDelay() const { return 100; }
     int openingDuration() const { return 1000; }
     int shiftDuration() const { return m_shiftDuration; }
+
+    bool locks() const override;
 
     /// The heights, in points, of the scene and of the main screen, which is the window. Called whenever either
     /// changes.

@@ -2,7 +2,6 @@
 #include "Application/PasswordCreationViewController.h"
 
 #include "Application/Passcode.h"
-#include "Application/SettingsViewController.h"
 #include "Platform/NotificationCenter.h"
 #include "Platform/Queues/MainQueue.h"
 
@@ -20,9 +19,10 @@ constexpr int trailingRowHeight = 30;
 
 } // namespace
 
-void PasswordCreationViewController::setParentSettings(std::shared_ptr<SettingsViewController> settings)
+void PasswordCreationViewController::setParentSettings(std::shared_ptr<ViewController> settings, MenuOutlet& alert)
 {
     m_parentSettings = std::move(settings);
+    m_parentAlert = &alert;
 }
 
 void PasswordCreationViewController::viewDidLoad()
@@ -110,7 +110,7 @@ void PasswordCreationViewController::saveEnded(const std::string& stored, const 
     const auto settings = m_parentSettings;
     close();
     // An alert of the sheet would vanish with the sheet, so the settings show it.
-    MenuOutlet* const shown = settings ? settings->alert() : &m_alert;
+    MenuOutlet* const shown = settings ? m_parentAlert : &m_alert;
     shown->present(tr("Password Saved"), {}, {{tr("Continue")}}, 0, {});
 }
 

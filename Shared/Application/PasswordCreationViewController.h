@@ -14,8 +14,6 @@
 namespace lodestar
 {
 
-class SettingsViewController;
-
 /// The passcode sheet: sets a passcode, or changes it for a person who knows the old one. The sheet asks to be closed
 /// with the notification "ClosePasswordCreationView". Main thread.
 class PasswordCreationViewController : public lodestar::ViewController
@@ -33,8 +31,8 @@ class PasswordCreationViewController : public lodestar::ViewController
     Q_PROPERTY(double separatorRight READ separatorRight CONSTANT)
 
 public:
-    /// Keeps the settings alive. They show that the passcode is saved after the sheet has gone.
-    void setParentSettings(std::shared_ptr<SettingsViewController> settings);
+    /// Keeps the settings alive. Their alert says that the passcode is saved after the sheet has gone.
+    void setParentSettings(std::shared_ptr<ViewController> settings, MenuOutlet& alert);
 
     LabelOutlet* navigationBar() { return &m_navigationBar; }
     FieldOutlet* oldPassword() { return &m_oldPassword; }
@@ -71,7 +69,8 @@ private:
     void setFieldsEnabled(bool enabled);
     void close();
 
-    std::shared_ptr<SettingsViewController> m_parentSettings;
+    std::shared_ptr<ViewController> m_parentSettings;
+    MenuOutlet* m_parentAlert = nullptr; ///< the settings' own
     bool m_closed = false;
     bool m_isSaving = false;
 

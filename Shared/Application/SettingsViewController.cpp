@@ -158,7 +158,7 @@ void SettingsViewController::presentPasscodeSheet()
         self.m_keychainWait.end();
         self.updateKeychainNote();
         if (self.isInWindow() && self.semiModal() == nullptr && self.m_passwordSwitch.isOn()) {
-            sheet->setParentSettings(self.self<SettingsViewController>());
+            sheet->setParentSettings(self.shared_from_this(), self.m_alert);
             self.presentSemiViewController(sheet, {.pushParentBack = false, .height = self.restingSheetHeight()});
         }
     });

@@ -248,7 +248,7 @@ void CorvelListViewController::editCorvelAtIndex(std::size_t index)
 void CorvelListViewController::addCorvel()
 {
     if (const auto editor = Storyboard::main().instantiate<DeltaCorvelViewController>("deltaCorvel")) {
-        editor->setParentList(self<CorvelListViewController>());
+        editor->setParentList(shared_from_this());
         presentEditor(editor);
     }
 }

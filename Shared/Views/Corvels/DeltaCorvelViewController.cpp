@@ -7,7 +7,6 @@
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/NotificationCenter.h"
 #include "Platform/Queues/MainQueue.h"
-#include "Views/Corvels/CorvelListViewController.h"
 
 #include <chrono>
 

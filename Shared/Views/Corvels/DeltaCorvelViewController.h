@@ -9,8 +9,6 @@
 namespace lodestar
 {
 
-class CorvelListViewController;
-
 /// The console editor: one form for adding and for editing, in a sheet over the list. It checks the fields, logs on,
 /// fetches everything once, and only then adds the console. Main thread.
 ///
@@ -45,7 +43,7 @@ public:
     /// The record to edit; null, as at the start, to add one. To be set before the sheet is presented.
     void setCorvel(CorvelRef corvel) { m_corvel = std::move(corvel); }
     /// The editor keeps the list alive until it is closed.
-    void setParentList(std::shared_ptr<CorvelListViewController> list) { m_parentList = std::move(list); }
+    void setParentList(std::shared_ptr<ViewController> list) { m_parentList = std::move(list); }
     /// Whether this editor has inserted a record of its own.
     bool hasCreated() const { return m_hasCreated; }
     /// Whether the editor was opened without a record.
@@ -100,7 +98,7 @@ private:
     bool hasSheet() const;
 
     CorvelRef m_corvel;
-    std::shared_ptr<CorvelListViewController> m_parentList;
+    std::shared_ptr<ViewController> m_parentList;
     bool m_hasCreated = false;
     bool m_creatingInstance = false;
     bool m_closed = false;
