@@ -44,6 +44,17 @@ std::vector<XMLElement> ElementList::containing(std::string_view text)
     return found;
 }
 
+ElementList elementsOf(const Feed& feed, std::string_view type, SearchText searchText)
+{
+    ElementList list(searchText);
+    for (const XMLElement& entry : feed.entries()) {
+        if (XMLElement element = contentOf(entry, type)) {
+            list.append(std::move(element));
+        }
+    }
+    return list;
+}
+
 XMLElement elementAt(const std::vector<XMLElement>& elements, int row)
 {
     const auto index = static_cast<std::size_t>(row);

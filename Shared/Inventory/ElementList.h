@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Inventory/Feed.h"
 #include "Inventory/SearchIndex.h"
 #include "XML/XMLElement.h"
 
@@ -43,6 +44,10 @@ private:
     std::vector<XMLElement> m_elements;
     SearchIndex m_index; ///< covers the first elements only, or none: most lists are never searched
 };
+
+/// The elements of a type in a feed, in its order: the rows of a list. Entries of other types give none, nor does "NA".
+/// Any thread.
+ElementList elementsOf(const Feed& feed, std::string_view type, SearchText searchText);
 
 /// The element of a row; no element when the row does not exist (any more): a drawn table may ask for rows of a list
 /// that was emptied meanwhile.

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Inventory/GroupedFeed.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace lodestar
@@ -67,6 +68,20 @@ std::vector<ElementGroup> GroupedFeed::containing(std::string_view text)
         }
     }
     return found;
+}
+
+GroupedFeed groupedBySystem(const Feed& feed, std::string_view type,
+                            const std::vector<std::optional<std::string>>& systems, SearchText searchText)
+{
+    GroupedFeed groups(searchText);
+    const std::vector<XMLElement> entries = feed.entries();
+    for (std::size_t i = 0; i < std::min(entries.size(), systems.size()); ++i) {
+        XMLElement element = contentOf(entries[i], type);
+        if (element && systems[i]) {
+            groups.append(*systems[i], std::move(element));
+        }
+    }
+    return groups;
 }
 
 } // namespace lodestar

@@ -53,4 +53,9 @@ private:
     std::unordered_map<std::string, std::size_t> m_indexes;
 };
 
+/// What a feed holds of a type, under the systems' names: the rows of a grouped list. `systems` has a name for each of
+/// the feed's first entries; entries without one, and those behind, are left out. Any thread.
+GroupedFeed groupedBySystem(const Feed& feed, std::string_view type,
+                            const std::vector<std::optional<std::string>>& systems, SearchText searchText);
+
 } // namespace lodestar

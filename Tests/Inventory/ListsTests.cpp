@@ -5,6 +5,8 @@
 
 #include <gmock/gmock.h>
 
+#include <future>
+
 namespace lodestar::test
 {
 namespace
@@ -47,15 +49,34 @@ TEST(SearchIndexTests, FindsRowsByAnyPartOfTheirNameWhateverItsCase)
     EXPECT_EQ(index.rowsContaining("").size(), 9U);
 }
 
-TEST(GroupedFeedTests, KeepsKeysInTheOrderOfTheirFirstElementAndFiltersPerKey)
+TEST(GroupedFeedTests, KeepsKeysInTheOrderOfTheirFirstElementOnAnyThreadAndFiltersPerKey)
 {
-    const auto feed = XMLElement::parse("<f><p>LPAR01</p><p>web</p><p>MyLpar2</p><p>mail</p></f>").value();
-    const std::vector<XMLElement> all = feed.children("p");
-    const auto textOf = [](const XMLElement& element) { return element.text().value_or(""); };
-    GroupedFeed groups(textOf);
-    const std::vector<std::string> systems = {"zeta", "alpha", "zeta", "mid"};
-    for (std::size_t i = 0; i < all.size(); ++i) {
-        groups.append(systems[i], all[i]);
+    std::string entries;
+    for (const char* content : {"<p>LPAR01</p>", "<p>web</p>", "<q>LPAR</q>", "<p>MyLpar2</p>", "<p>of no system</p>",
+                                "<p>mail</p>", "<p>not looked up</p>"}) {
+        entries += "<entry><content>" + std::string(content) + "</content></entry>";
+    }
+    const Feed feed(XMLElement::parse("<f>" + entries + "</f>").value());
+    const std::vector<std::optional<std::string>> systems = {"zeta", "alpha", "q", "zeta", std::nullopt, "mid"};
+    const SearchText textOf = [](const XMLElement& element) { return element.text().value_or(""); };
+
+    // Rows are made of the feed alone: on any thread, on several at once.
+    std::vector<std::future<GroupedFeed>> made;
+    for (int i = 0; i < 4; ++i) {
+        made.push_back(std::async(std::launch::async, [&] {
+            GroupedFeed rows = groupedBySystem(feed, "p", systems, textOf);
+            rows.prepareSearch();
+            return rows;
+        }));
+    }
+    auto listed = std::async(std::launch::async, [&] { return elementsOf(feed, "p", textOf); });
+    std::vector<XMLElement> all = listed.get().elements();
+    ASSERT_EQ(all.size(), 6U);
+    all.erase(all.begin() + 3);
+    GroupedFeed groups = made.back().get();
+    made.pop_back();
+    for (auto& other : made) {
+        EXPECT_EQ(other.get().elementsAt(0), groups.elementsAt(0));
     }
     ASSERT_EQ(groups.groupCount(), 3U);
     EXPECT_EQ(groups.keyAt(0), "zeta");

@@ -76,7 +76,7 @@ void FeedListViewController::fetchFeed(Turn turn)
         UINoContent();
         return;
     }
-    showFeed(stored.root(), turn);
+    showFeed(stored, turn, Source::Record);
 }
 
 RXPromise<std::string> FeedListViewController::fetchNewRESTData()
@@ -86,12 +86,12 @@ RXPromise<std::string> FeedListViewController::fetchNewRESTData()
 
 RXPromise<std::string> FeedListViewController::fetchAfresh(const FeedFetch& fetch)
 {
-    onMainThread<FeedListViewController>([](FeedListViewController& screen) { screen.emptyLists(); });
     // The promise keeps the screen until the feed is stored, even when the screen was closed.
     const auto screen = self<FeedListViewController>();
+    MainQueue::shared().run([screen] { screen->emptyLists(); });
     const Turn turn = ++m_turn;
     return fetchFeedWithStoredKey(corvel(), type())
-        .thenOnMain([screen, turn](const XMLElement& feedRoot) { return screen->adopt(feedRoot, turn); },
+        .thenOnMain([screen, turn](const XMLElement& feedRoot) { return screen->storeAndShow(feedRoot, turn); },
                     [screen, turn, fetch](const Error& error) {
                         screen->m_log.writeError(fetch.line, fetch.selector, error);
                         if (screen->isLast(turn)) {
@@ -101,21 +101,19 @@ RXPromise<std::string> FeedListViewController::fetchAfresh(const FeedFetch& fetc
                     });
 }
 
-RXPromise<std::string> FeedListViewController::adopt(const XMLElement& feedRoot, Turn turn)
+RXPromise<std::string> FeedListViewController::storeAndShow(const XMLElement& feedRoot, Turn turn)
 {
     // A late answer to an older fetch must not replace a newer feed.
     if (turn > m_storedTurn) {
         m_storedTurn = turn;
         setFeedOfType(*corvel(), type(), Feed(feedRoot));
     }
-    return isLast(turn) ? showFeed(feedRoot, turn) : done();
-}
-
-RXPromise<std::string> FeedListViewController::done()
-{
-    RXPromise<std::string> promise;
-    promise.fulfillWithValue("OK");
-    return promise;
+    if (isLast(turn)) {
+        return showFeed(Feed(feedRoot), turn, Source::Fetch);
+    }
+    RXPromise<std::string> overtaken;
+    overtaken.fulfillWithValue("OK");
+    return overtaken;
 }
 
 void FeedListViewController::parseTimeStampFromXML(const XMLElement& feedRoot)
@@ -155,12 +153,7 @@ void FeedListViewController::UILoadingData()
 
 void FeedListViewController::UIShowContent()
 {
-    MainQueue::shared().async([screen = self<FeedListViewController>()] { screen->showContentNow(); });
-}
-
-void FeedListViewController::showContentOf(Turn turn)
-{
-    MainQueue::shared().async([screen = self<FeedListViewController>(), turn] {
+    MainQueue::shared().async([screen = self<FeedListViewController>(), turn = turn()] {
         if (screen->isLast(turn)) {
             screen->showContentNow();
         }

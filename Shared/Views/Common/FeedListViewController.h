@@ -6,7 +6,9 @@
 #include "Kit/Core/Bars.h"
 #include "Kit/Core/Table.h"
 #include "Kit/Core/ViewController.h"
+#include "Platform/Queues/DispatchQueue.h"
 #include "Platform/Queues/MainQueue.h"
+#include "Platform/Queues/ThreadPool.h"
 #include "Views/Common/CorvelReceiving.h"
 #include "Views/Common/FeedListTraits.h"
 #include "Views/Common/ScreenLog.h"
@@ -25,14 +27,15 @@ namespace lodestar
 /// screens see it.
 ///
 /// A subclass gives its traits and overrides
-///  - `showFeed`: makes the rows of a feed and then shows the content;
+///  - `showFeed`: has the rows of a feed made and taken over, and then shows the content;
 ///  - `emptyLists`: called before each fresh fetch;
 ///  - `filterContentForSearchText` and the functions of TableDataSource.
 /// Its scene is a FeedListScene with the delegate of a row.
 ///
-/// Threads: `showFeed` runs on a background queue for a stored feed and on the main thread after a fetch, and may block
-/// there. It passes its result to the main thread as one finished value (`onMainThread`); only the main thread touches
-/// the lists that rows are read from. Functions that `showFeed` may call are marked "any thread".
+/// Threads: rows are made in two steps (`makeRows`). A function that knows no screen makes a value of the feed on a
+/// background queue; another function takes the value over on the main thread, and only the main thread touches the
+/// lists that rows are read from. `showFeed`, which begins this, is called on a background queue for a stored feed and
+/// on the main thread after a fetch, and may block there. Functions that `showFeed` may call are marked "any thread".
 ///
 /// Turns: each fetch is a turn, and only the last turn is shown. A fetch that another one has overtaken stores its feed
 /// but shows nothing, so that repeated refreshing never makes a row twice. The first load takes the turn that the list
@@ -84,7 +87,8 @@ public:
     void refreshTable();
     void refreshFromButton();
 
-    /// Show the three looks. Any thread; each takes effect later, on the main thread.
+    /// Show the three looks. Any thread; each takes effect later, on the main thread; the content's look only if no
+    /// fetch has begun by then.
     void UILoadingData();
     void UIShowContent();
     void UINoContent();
@@ -97,13 +101,15 @@ public:
 
 protected:
     using Turn = int;
+    /// Where a feed that is shown comes from.
+    enum class Source { Record, Fetch };
 
     void viewDidLoad() override;
     /// The first load, on a background queue: shows the stored feed, or fetches it if the console has not been fetched.
     void fetchFeed(Turn turn);
     /// Shows a given feed: its rows, its time stamp and the content's look, in an order that the subclass chooses.
     /// Fulfilled with "OK" when everything is shown.
-    virtual RXPromise<std::string> showFeed(const XMLElement& feedRoot, Turn turn) = 0;
+    virtual RXPromise<std::string> showFeed(const Feed& feed, Turn turn, Source source) = 0;
     /// Empties the subclass's lists. Main thread.
     virtual void emptyLists() = 0;
 
@@ -113,10 +119,6 @@ protected:
     bool isLast(Turn turn) const { return m_turn == turn; }
     /// Whether the screen was closed, so that further work for it is useless. Any thread.
     bool isClosed() const { return navigationController() == nullptr; }
-    /// Calls `UIShowContent` if the turn is still the last when the main thread gets there. Any thread.
-    void showContentOf(Turn turn);
-    static RXPromise<std::string> done();
-
     /// Does the same as `fetchNewRESTData` under another name in the log. Any thread.
     RXPromise<std::string> fetchAfresh(const FeedFetch& fetch);
     /// The feed that the console's record has now. Any thread.
@@ -130,27 +132,28 @@ protected:
     QString matchFor(TableKind tableView) const;
     const ScreenLog& log() const { return m_log; }
 
-    /// Runs `change(screen)` on the main thread: at once when called there, otherwise later, in order. The screen is
-    /// kept alive until then.
-    template <typename Controller, typename Change>
-    void onMainThread(Change change)
+    /// Calls `make()`, which returns the rows of a feed, on a background queue, then `adopt(screen, rows)` on the main
+    /// thread unless the turn is over by then. Fulfils `shown` with "OK" in either case. The screen is kept alive until
+    /// then. Any thread.
+    template <typename Screen, typename Make, typename Adopt>
+    RXPromise<std::string> makeRows(Turn turn, Make make, Adopt adopt, RXPromise<std::string> shown = {})
     {
-        MainQueue::shared().run(
-            [screen = self<Controller>(), change = std::move(change)]() mutable { change(*screen); });
-    }
-
-    /// Prepares a list for searching, but not on the main thread, where that would hold up the screen: after a fetch,
-    /// the first search prepares the list.
-    template <typename List>
-    static void prepareSearchOffMain(List& list)
-    {
-        if (!MainQueue::shared().isCurrent()) {
-            list.prepareSearch();
-        }
+        const ThreadPool::UrgentScope forPerson(true);
+        DispatchQueue::globalBackground().async(
+            [screen = self<Screen>(), turn, make = std::move(make), adopt = std::move(adopt), shown]() mutable {
+                MainQueue::shared().async(
+                    [screen = std::move(screen), turn, rows = make(), adopt = std::move(adopt), shown]() mutable {
+                        if (screen->isLast(turn)) {
+                            adopt(*screen, std::move(rows));
+                        }
+                        shown.fulfillWithValue("OK");
+                    });
+            });
+        return shown;
     }
 
 private:
-    RXPromise<std::string> adopt(const XMLElement& feedRoot, Turn turn);
+    RXPromise<std::string> storeAndShow(const XMLElement& feedRoot, Turn turn);
     QString translated(const char* text) const;
     void showContentNow();
     void showNoContentNow();

@@ -12,23 +12,16 @@ void FlatListViewController::emptyLists()
     m_filteredList.clear();
 }
 
-void FlatListViewController::appendStoredFeed(Turn turn)
+RXPromise<std::string> FlatListViewController::showFeed(const Feed& feed, Turn turn, Source /*source*/)
 {
-    ElementList list(m_searchText);
-    const Feed stored = feed();
-    for (const XMLElement& entry : stored.entries()) {
-        XMLElement element = contentOf(entry, type());
-        // An entry of another type gives no element and gets no row.
-        if (element) {
-            list.append(std::move(element));
-        }
-    }
-    prepareSearchOffMain(list);
-    onMainThread<FlatListViewController>([list = std::move(list), turn](FlatListViewController& screen) mutable {
-        if (screen.isLast(turn)) {
-            screen.m_list.append(std::move(list));
-        }
-    });
+    return makeRows<FlatListViewController>(
+        turn,
+        [feed, type = type(), searchText = m_searchText] {
+            ElementList rows = elementsOf(feed, type, searchText);
+            rows.prepareSearch();
+            return rows;
+        },
+        [feed](FlatListViewController& screen, ElementList rows) { screen.adopt(std::move(rows), feed); });
 }
 
 void FlatListViewController::filterContentForSearchText(const QString& searchText, const QString& /*scope*/)

@@ -12,7 +12,7 @@ namespace lodestar
 
 /// A list with one section: the feed's elements in the order of the feed, not sorted.
 ///
-/// A subclass gives the text by which its rows are searched and overrides `showFeed`, which calls `appendStoredFeed`.
+/// A subclass gives the text by which its rows are searched and overrides `adopt`, which calls `append`.
 class FlatListViewController : public lodestar::FeedListViewController
 {
     Q_OBJECT
@@ -30,9 +30,13 @@ public:
 
 protected:
     void emptyLists() override;
-    /// Appends the elements of the stored feed to the list, unless the turn is over. Nothing is cleared here: lists are
-    /// emptied before each fetch. Any thread.
-    void appendStoredFeed(Turn turn);
+    RXPromise<std::string> showFeed(const Feed& feed, Turn turn, Source source) override;
+    /// Takes over the rows that were made of the feed and shows it. Main thread.
+    virtual void adopt(ElementList rows, const Feed& feed) = 0;
+    /// Appends the rows to the list. Nothing is cleared here: lists are emptied before each fetch.
+    void append(ElementList rows) { m_list.append(std::move(rows)); }
+    /// The rows of the record's feed.
+    ElementList storedRows() const { return elementsOf(feed(), type(), m_searchText); }
 
     const std::vector<XMLElement>& elements() const { return m_list.elements(); }
     /// The search results, as indexes into `elements`.

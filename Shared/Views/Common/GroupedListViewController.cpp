@@ -41,70 +41,70 @@ void GroupedListViewController::emptyLists()
     m_filteredPartitions.clear();
 }
 
-/// A feed whose entries are being grouped.
-struct GroupedListViewController::Grouping {
-    std::vector<XMLElement> entries;
+/// A feed, and the systems of those entries whose systems have been looked up.
+struct GroupedListViewController::LookUps {
+    Feed feed;
     Turn turn;
-    std::size_t next = 0;
-    GroupedFeed partitions{nameOf};
+    std::vector<XMLElement> entries;
+    std::vector<std::optional<std::string>> systems{};
 };
 
-RXPromise<std::string> GroupedListViewController::showFeed(const XMLElement& feedRoot, Turn turn)
+RXPromise<std::string> GroupedListViewController::showFeed(const Feed& feed, Turn turn, Source source)
 {
-    parseTimeStampFromXML(feedRoot);
-    return seperatePartitionsBySystemFromXML(feedRoot, turn);
+    parseTimeStampFromXML(feed.root());
+    return seperatePartitionsBySystemFromXML(feed, turn, source);
 }
 
-RXPromise<std::string> GroupedListViewController::seperatePartitionsBySystemFromXML(const XMLElement& feedRoot,
-                                                                                    Turn turn)
+RXPromise<std::string> GroupedListViewController::seperatePartitionsBySystemFromXML(const Feed& feed, Turn turn,
+                                                                                    Source source)
 {
     log().write(m_grouping.seperatingLine, seperate, std::string(log().className()) + ": Seperating partitions");
-    const auto grouping = std::make_shared<Grouping>(Grouping{Feed(feedRoot).entries(), turn});
-    if (!MainQueue::shared().isCurrent()) {
-        while (groupNext(*grouping)) {
+    const auto lookUps = std::make_shared<LookUps>(LookUps{feed, turn, feed.entries()});
+    RXPromise<std::string> shown;
+    if (source == Source::Record) {
+        while (lookUpNext(*lookUps)) {
         }
-        adopt(*grouping);
-        return done();
+        return group(lookUps, shown);
     }
-    RXPromise<std::string> grouped;
-    doInStepsOnMain([screen = self<GroupedListViewController>(), grouping, grouped] {
-        if (screen->groupNext(*grouping)) {
+    doInStepsOnMain([screen = self<GroupedListViewController>(), lookUps, shown] {
+        if (screen->lookUpNext(*lookUps)) {
             return NextStep::AtOnce;
         }
-        screen->adopt(*grouping);
-        grouped.fulfillWithValue("OK");
+        screen->group(lookUps, shown);
         return NextStep::None;
     });
-    return grouped;
+    return shown;
 }
 
-bool GroupedListViewController::groupNext(Grouping& grouping) const
+bool GroupedListViewController::lookUpNext(LookUps& lookUps) const
 {
-    if (grouping.next == grouping.entries.size() || !isLast(grouping.turn) || isClosed()) {
+    if (lookUps.systems.size() == lookUps.entries.size() || !isLast(lookUps.turn) || isClosed()) {
         return false;
     }
     const std::string className(log().className());
     log().write(m_grouping.partitionLine, seperate, className + ": Fetching partition");
-    XMLElement partition = contentOf(grouping.entries[grouping.next++], type());
+    const XMLElement partition = contentOf(lookUps.entries[lookUps.systems.size()], type());
     log().write(m_grouping.linkLine, seperate, className + ": Fetching stored link");
     // An entry of another type is no partition and has no link to a system.
-    const std::optional<std::string> system = partition ? systemOf(partition) : std::nullopt;
-    if (system) {
-        grouping.partitions.append(*system, std::move(partition));
-    }
+    lookUps.systems.push_back(partition ? systemOf(partition) : std::nullopt);
     return true;
 }
 
-void GroupedListViewController::adopt(Grouping& grouping)
+RXPromise<std::string> GroupedListViewController::group(const std::shared_ptr<const LookUps>& lookUps,
+                                                        const RXPromise<std::string>& shown)
 {
-    prepareSearchOffMain(grouping.partitions);
-    onMainThread<GroupedListViewController>(
-        [partitions = std::move(grouping.partitions), turn = grouping.turn](GroupedListViewController& screen) mutable {
-            if (screen.isLast(turn)) {
-                screen.m_partitions.append(std::move(partitions));
-            }
-        });
-    showContentOf(grouping.turn);
+    return makeRows<GroupedListViewController>(
+        lookUps->turn,
+        [lookUps, type = type()] {
+            GroupedFeed rows = groupedBySystem(lookUps->feed, type, lookUps->systems, nameOf);
+            rows.prepareSearch();
+            return rows;
+        },
+        [](GroupedListViewController& screen, GroupedFeed rows) {
+            screen.m_partitions.append(std::move(rows));
+            screen.UIShowContent();
+        },
+        shown);
 }
 
 std::optional<std::string> GroupedListViewController::systemOf(const XMLElement& partition) const

@@ -5,6 +5,7 @@
 #include "Views/Common/FeedListViewController.h"
 #include "Views/Common/PartitionCell.h"
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -49,14 +50,6 @@ public:
     /// The search results by system; systems without a match are left out.
     const std::vector<ElementGroup>& filteredPartitions() const { return m_filteredPartitions; }
 
-    /// Adds the feed's elements to their systems and shows the content. Blocks its thread for one look-up per element:
-    /// a background queue for the stored feed, the main thread after a fetch. Both are meant; on the main thread,
-    /// events are handled between look-ups. Stops early, and shows nothing, when the screen is closed or the list is
-    /// fetched anew.
-    void seperatePartitionsBySystemFromXML(const XMLElement& feedRoot)
-    {
-        seperatePartitionsBySystemFromXML(feedRoot, turn());
-    }
     void filterContentForSearchText(const QString& searchText, const QString& scope) override;
 
     int numberOfSections(TableKind tableView) const override;
@@ -66,7 +59,12 @@ public:
     void didSelectRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
 
 protected:
-    RXPromise<std::string> showFeed(const XMLElement& feedRoot, Turn turn) override;
+    RXPromise<std::string> showFeed(const Feed& feed, Turn turn, Source source) override;
+    /// Appends the feed's elements to their systems and shows the content. Blocks its thread for one look-up per
+    /// element: a background queue for the record's feed, the main thread after a fetch. Both are meant; on the main
+    /// thread events are handled between look-ups. It ends early, and shows nothing, when the screen is closed or the
+    /// list is fetched anew.
+    RXPromise<std::string> seperatePartitionsBySystemFromXML(const Feed& feed, Turn turn, Source source);
     void emptyLists() override;
     /// Adds the parts of a row that only the subclass shows.
     virtual void completeCell(PartitionCell& cell, const Partition& partition) const = 0;
@@ -79,11 +77,10 @@ protected:
     const std::vector<XMLElement>& groupNamed(TableKind tableView, const std::string& system) const;
 
 private:
-    struct Grouping;
-    RXPromise<std::string> seperatePartitionsBySystemFromXML(const XMLElement& feedRoot, Turn turn);
-    /// Looks up the system of the next element. False when no element is left or the result is no longer wanted.
-    bool groupNext(Grouping& grouping) const;
-    void adopt(Grouping& grouping);
+    struct LookUps;
+    /// Looks up the system of the next entry. False when no entry is left or the result is no longer wanted.
+    bool lookUpNext(LookUps& lookUps) const;
+    RXPromise<std::string> group(const std::shared_ptr<const LookUps>& lookUps, const RXPromise<std::string>& shown);
     std::optional<std::string> systemOf(const XMLElement& partition) const;
 
     const GroupedListTraits& m_grouping;

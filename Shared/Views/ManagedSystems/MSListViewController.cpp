@@ -59,18 +59,17 @@ QList<SwipeButton> makeRightButtons()
 
 MSListViewController::MSListViewController() : FlatListViewController(traits, nameOf) {}
 
-RXPromise<std::string> MSListViewController::showFeed(const XMLElement& feedRoot, Turn turn)
+void MSListViewController::adopt(ElementList rows, const Feed& feed)
 {
-    createMSList(turn);
-    parseTimeStampFromXML(feedRoot);
-    showContentOf(turn);
-    return done();
+    createMSList(std::move(rows));
+    parseTimeStampFromXML(feed.root());
+    UIShowContent();
 }
 
-void MSListViewController::createMSList(Turn turn)
+void MSListViewController::createMSList(ElementList systems)
 {
     log().write(197, "createMSList", "MSListViewController: Creating Managed System List");
-    appendStoredFeed(turn);
+    append(std::move(systems));
     tableView()->reloadData();
 }
 

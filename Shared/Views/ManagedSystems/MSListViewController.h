@@ -29,8 +29,8 @@ public:
     /// The search results, as rows of `MSList`.
     const std::vector<std::uint32_t>& filteredMSList() const { return filteredElements(); }
 
-    /// Appends the systems of the stored feed. Any thread.
-    void createMSList() { createMSList(turn()); }
+    /// Appends the systems of the stored feed.
+    void createMSList() { createMSList(storedRows()); }
 
     QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
     void didSelectRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
@@ -39,10 +39,10 @@ public:
     Q_INVOKABLE bool swipeTableCell(bool inSearchResults, int row, int tappedButtonAtIndex);
 
 protected:
-    RXPromise<std::string> showFeed(const XMLElement& feedRoot, Turn turn) override;
+    void adopt(ElementList rows, const Feed& feed) override;
 
 private:
-    void createMSList(Turn turn);
+    void createMSList(ElementList systems);
     void openItem(int index, const ManagedSystem& system);
 
     MenuOutlet m_actionSheet;

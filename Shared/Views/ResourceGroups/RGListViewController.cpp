@@ -37,11 +37,16 @@ RGListViewController::RGListViewController() : FeedListViewController(traits)
     tableView()->setMakesCellsInSteps(true);
 }
 
-RXPromise<std::string> RGListViewController::showFeed(const XMLElement& feedRoot, Turn turn)
+RXPromise<std::string> RGListViewController::showFeed(const Feed& feed, Turn turn, Source /*source*/)
 {
-    parseTimeStampFromXML(feedRoot);
-    showContentOf(turn);
-    return done();
+    return makeRows<RGListViewController>(
+        turn, [feed] { return feed.entries(); },
+        [feed](RGListViewController& screen, std::vector<XMLElement> entries) {
+            screen.m_entriesOf = feed.root();
+            screen.m_entries = std::move(entries);
+            screen.parseTimeStampFromXML(feed.root());
+            screen.UIShowContent();
+        });
 }
 
 void RGListViewController::filterContentForSearchText(const QString& /*searchText*/, const QString& /*scope*/) {}

@@ -42,7 +42,7 @@ public:
     void processStates(const std::vector<XMLElement>& links, RGStateCounts& counters, LinkKind kind) const;
 
 protected:
-    RXPromise<std::string> showFeed(const XMLElement& feedRoot, Turn turn) override;
+    RXPromise<std::string> showFeed(const Feed& feed, Turn turn, Source source) override;
     void emptyLists() override { m_resources.clear(); }
 
 private:

@@ -42,18 +42,17 @@ std::string titleOf(const XMLElement& event)
 
 SEListViewController::SEListViewController() : FlatListViewController(traits, titleOf) {}
 
-RXPromise<std::string> SEListViewController::showFeed(const XMLElement& feedRoot, Turn turn)
+void SEListViewController::adopt(ElementList rows, const Feed& feed)
 {
-    createSEList(turn);
-    parseTimeStampFromXML(feedRoot);
-    return done();
+    createSEList(std::move(rows));
+    parseTimeStampFromXML(feed.root());
 }
 
-void SEListViewController::createSEList(Turn turn)
+void SEListViewController::createSEList(ElementList events)
 {
     log().write(185, "createSEList", "SEListViewController: Creating SE list");
-    appendStoredFeed(turn);
-    showContentOf(turn);
+    append(std::move(events));
+    UIShowContent();
 }
 
 QVariant SEListViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)

@@ -23,18 +23,15 @@ public:
     /// The search results, as rows of `SEList`.
     const std::vector<std::uint32_t>& filteredSEList() const { return filteredElements(); }
 
-    /// Appends the events of the stored feed and shows the content. Any thread.
-    void createSEList() { createSEList(turn()); }
+    /// Appends the events and shows the content.
+    void createSEList(ElementList events);
 
     QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
     /// Opens the event at the row's index in the stored feed, whichever table was tapped.
     void didSelectRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
 
 protected:
-    RXPromise<std::string> showFeed(const XMLElement& feedRoot, Turn turn) override;
-
-private:
-    void createSEList(Turn turn);
+    void adopt(ElementList rows, const Feed& feed) override;
 };
 
 } // namespace lodestar
