@@ -1,9 +1,10 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""The style checks of ./test (format, elements, includes, licences, texts, claims), and the analyser of ./test --tidy."""
+"""The style checks of ./test (format, elements, includes, circles, licences, texts, claims), and the analyser of ./test --tidy."""
 
 import argparse
 import concurrent.futures
+import graphlib
 import hashlib
 import json
 import os
@@ -57,6 +58,9 @@ def check_format(source, _build):
     return done.stderr.splitlines()
 
 
+INCLUDE = re.compile(r'\s*#\s*include\s+(["<])([^">]+)')
+
+
 def check_includes(source, _build):
     faults = []
     for path in tracked(source, ".h", ".cpp"):
@@ -64,7 +68,7 @@ def check_includes(source, _build):
             continue
         module = module_of("/".join(path.parts[1:]))
         for number, text in enumerate((source / path).read_text().splitlines(), 1):
-            include = re.match(r'\s*#\s*include\s+(["<])([^">]+)', text)
+            include = INCLUDE.match(text)
             if not include:
                 continue
             bracket, name = include.groups()
@@ -78,6 +82,30 @@ def check_includes(source, _build):
             if target not in BELOW[module]:
                 faults.append(f"{path}:{number}: {module} must not include upwards: {name}")
     return faults
+
+
+def check_circles(source, _build):
+    """A unit is a header with its program files: those that bear its name or, having no header, begin with it. No unit
+    includes itself by way of others."""
+    files = [path for path in tracked(source, ".h", ".cpp", ".mm") if path.parts[0] != "Tests"]
+    units = {path.with_suffix(""): set() for path in files if path.suffix == ".h"}
+    for path in files:
+        own = [unit for unit in units if unit.parent == path.parent and path.stem.startswith(unit.name)]
+        unit = max(own, key=lambda each: len(each.name), default=path.with_suffix(""))
+        for row in (source / path).read_text().splitlines():
+            include = INCLUDE.match(row)
+            if include and include.group(1) == '"':
+                name = pathlib.Path(include.group(2)).with_suffix("")
+                units.setdefault(unit, set()).update({name, "Shared" / name} & units.keys() - {unit})
+    faults = []
+    while True:
+        try:
+            graphlib.TopologicalSorter(units).prepare()
+            return faults
+        except graphlib.CycleError as error:
+            circle = error.args[1][::-1]  # it comes as "is included by"
+            faults.append("a circle of includes: " + " -> ".join(map(str, circle)))
+            units[circle[0]].discard(circle[1])
 
 
 def check_elements(source, _build):
@@ -183,7 +211,7 @@ def check_tidy(source, build):
 
 
 def main():
-    checks = {"format": check_format, "elements": check_elements, "includes": check_includes,
+    checks = {"format": check_format, "elements": check_elements, "includes": check_includes, "circles": check_circles,
               "licences": check_licences, "texts": check_texts,
               "claims": check_claims, "tidy": check_tidy}
     parser = argparse.ArgumentParser()
