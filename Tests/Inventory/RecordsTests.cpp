@@ -11,9 +11,11 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <fstream>
 #include <iterator>
 #include <random>
+#include <set>
 
 namespace lodestar::test
 {
@@ -236,6 +238,51 @@ TEST(RecordsTests, DemonstrationFeedsHoldEveryField)
         }
     }
     EXPECT_FALSE(wholeDemoRecords<ResourceGroup>(groupFields).front().members().empty());
+}
+
+TEST(RecordsTests, DemonstrationFeedsShowEveryLookInFewClearSlicesAndLeadToWhatIsThere)
+{
+    using testing::AllOf;
+    using testing::Ge;
+    using testing::IsSupersetOf;
+    using testing::SizeIs;
+    std::set<std::pair<bool, bool>> badges;
+    std::set<Text> systemStates;
+    for (const ManagedSystem& each : wholeDemoRecords<ManagedSystem>(systemFields)) {
+        badges.emplace(each.health() == Health::Error, each.isAttentionLEDLit());
+        systemStates.insert(each.state());
+    }
+    EXPECT_THAT(badges, SizeIs(4));
+    const auto fewSlices = SizeIs(AllOf(Ge(4U), testing::Le(6U)));
+    EXPECT_THAT(systemStates, AllOf(fewSlices, IsSupersetOf({"operating", "error"})));
+    std::set<Text> partitionStates;
+    for (const Partition& each : wholeDemoRecords<LogicalPartition>(partitionFields)) {
+        partitionStates.insert(each.state());
+    }
+    EXPECT_THAT(partitionStates, AllOf(fewSlices, IsSupersetOf({"running", "not activated", "error", "starting"})));
+    std::set<Text> colors;
+    for (const ResourceGroup& each : wholeDemoRecords<ResourceGroup>(groupFields)) {
+        colors.insert(each.color());
+    }
+    EXPECT_THAT(colors, SizeIs(Ge(9U)));
+
+    std::set<std::string> known;
+    std::set<std::string> linked;
+    for (const auto& [type, schema] : feedTable) {
+        for (const XMLElement& each : Feed(XMLElement::parse(demoFeed(type)).value()).entries()) {
+            const XMLElement object = contentOf(each, type);
+            known.insert(each.child("link").attribute("href").value_or(""));
+            linked.insert(object.child("AssociatedManagedSystem").attribute("href").value_or(*known.begin()));
+            for (const char* list :
+                 {"AssociatedLogicalPartitions", "AssociatedVirtualIOServers", "AssociatedManagedSystems"}) {
+                for (const XMLElement& link : object.child(list).children("link")) {
+                    linked.insert(link.attribute("href").value_or("none"));
+                }
+            }
+        }
+    }
+    EXPECT_THAT(linked, SizeIs(Ge(10U)));
+    EXPECT_TRUE(std::ranges::includes(known, linked));
 }
 
 TEST(RecordsTests, EachKindJudgesByItsOwnWords)
