@@ -41,15 +41,8 @@ TEST_F(ManagedSystemsTest, AFetchedConsoleIsShownFromItsFeedWithoutAFetch)
     const CorvelRef corvel = addConsole(system("zeta", "operating") + "<entry><content><Other/></content></entry>" +
                                         "<entry/>" + system("alpha", "standby"));
     const auto list = openList(corvel);
-    EXPECT_EQ(list->header()->titleLabel()->text(), "Managed Systems");
-    EXPECT_EQ(subtitle(*list), "updating...");
-    EXPECT_TRUE(list->tableView()->isHidden() && list->fetchingActivityIndicator()->isAnimating());
-    EXPECT_TRUE(list->noDataImage()->isHidden() && list->noDataLabel()->isHidden());
-    EXPECT_EQ(list->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::None);
-    EXPECT_TRUE(list->backTitle().isEmpty() && !list->backTitle().isNull());
 
     ASSERT_TRUE(hasContent(*list));
-    EXPECT_FALSE(list->fetchingActivityIndicator()->isAnimating());
     EXPECT_EQ(list->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::Search);
     EXPECT_EQ(subtitle(*list), "3 Jul 2026, 10:25");
     ASSERT_EQ(list->tableView()->count(), 2);
@@ -62,8 +55,6 @@ TEST_F(ManagedSystemsTest, AFetchedConsoleIsShownFromItsFeedWithoutAFetch)
 
     const std::vector<LoggedLine> log = lines(listFile);
     EXPECT_THAT(lineNumbers(log), ElementsAre(40, 197));
-    EXPECT_EQ(log[0].message, "MSListViewController instantiation");
-    EXPECT_EQ(log[0].method, "-[MSListViewController viewDidLoad]");
     EXPECT_EQ(log[1].message, "MSListViewController: Creating Managed System List");
     EXPECT_EQ(log[1].method, "-[MSListViewController createMSList]");
 }
@@ -95,29 +86,6 @@ TEST_F(ManagedSystemsTest, RowsShowStateAndBadgesByExactWording)
     EXPECT_EQ(cell(*list, 2).accessibleText(), "broken, error");
     EXPECT_EQ(cell(*list, 3).accessibleText(), "both, incomplete - recovery, error, attention LED on");
 }
-
-TEST_F(ManagedSystemsTest, AFeedThatFailedShowsNoContentUntilItIsRefreshed)
-{
-    const CorvelRef corvel = addFetched({{"ManagedSystem", Feed::notAvailable()}});
-    demoFeeds()["ManagedSystem"] = "<feed>" + system("alpha", "operating") + "</feed>";
-    const auto list = openList(corvel);
-    ASSERT_TRUE(hasNoContent(*list));
-    EXPECT_TRUE(list->tableView()->isHidden());
-    EXPECT_FALSE(list->noDataImage()->isHidden() || list->fetchingActivityIndicator()->isAnimating());
-    EXPECT_EQ(list->header()->titleLabel()->text(), "Managed Systems");
-    EXPECT_EQ(subtitle(*list), "");
-    EXPECT_EQ(list->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::Refresh);
-    EXPECT_TRUE(list->rightBarButton()->isEnabled());
-
-    list->rightBarButton()->tap();
-    EXPECT_FALSE(list->noDataLabel()->isHidden());
-    ASSERT_TRUE(runUntil([&] { return list->fetchingActivityIndicator()->isAnimating(); }));
-    EXPECT_TRUE(list->noDataLabel()->isHidden() && list->noDataImage()->isHidden());
-    ASSERT_TRUE(hasContent(*list));
-    EXPECT_EQ(list->tableView()->count(), 1);
-    EXPECT_EQ(feedOfType(*corvel, ObjectType::ManagedSystem).entryCount(), 1U);
-}
-
 TEST_F(ManagedSystemsTest, AnUnfetchedConsoleIsFetchedAndAnEmptyFeedIsContent)
 {
     demoFeeds()["ManagedSystem"] = "<feed><entry><published>yesterday</published></entry></feed>";

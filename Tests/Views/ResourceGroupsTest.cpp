@@ -46,8 +46,6 @@ TEST_F(ResourceGroupsTest, EveryEntryOfTheStoredFeedIsARow)
         addFetched({{"Group", Feed(parse("<feed>" + group("Ledger", "Green", 2, 1) + group("Quarantine", "Teal", 0, 1) +
                                          "<entry><content><Other/></content></entry></feed>"))}});
     const auto list = open<RGListViewController>(corvel);
-    EXPECT_EQ(list->header()->titleLabel()->text(), "Resource Groups");
-    EXPECT_EQ(list->header()->subtitleLabel()->text(), "updating...");
     ASSERT_TRUE(hasContent(*list));
     EXPECT_EQ(list->header()->subtitleLabel()->text(), "3 Jul 2026, 10:25");
     EXPECT_EQ(list->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::None);
@@ -64,7 +62,6 @@ TEST_F(ResourceGroupsTest, EveryEntryOfTheStoredFeedIsARow)
     EXPECT_EQ(cell(*list, 1).groupTag().imageName, "");
     EXPECT_EQ(cell(*list, 2).resourceCountLabel().text, "0 Resources");
     EXPECT_EQ(cell(*list, 3).groupNameLabel().text, "");
-    EXPECT_EQ(messages(listFile).front(), "RGListViewController instantiation");
 
     // The rows are the stored feed's, as it is now.
     setFeedOfType(*corvel, ObjectType::Group, Feed(parse("<feed>" + group("New", "Red", 0) + "</feed>")));
@@ -97,6 +94,10 @@ TEST_F(ResourceGroupsTest, StatesAndColoursAreTakenByTheirExactWording)
         counters.add(state);
     }
     EXPECT_EQ(counters, (RGStateCounts{2, 1, 1, 3}));
+    RGStateCounts none;
+    makeController<RGListViewController>()->processStates({parse("<link href='https://127.0.0.1:12443/a'/>")}, none,
+                                                          RGListViewController::LinkKind::Partition);
+    EXPECT_EQ(none, RGStateCounts{}) << "without a console";
     RGListCell cell;
     cell.setStateCounts(counters);
     EXPECT_EQ(counts(cell), QStringList({"2", "1", "1", "3"}));
