@@ -146,6 +146,23 @@ TEST_F(ObjectContextTests, SaveWritesOnlyWhatChanged)
     EXPECT_THAT(takeWrites(), ElementsAre("delete", "insert"));
 }
 
+TEST_F(ObjectContextTests, ASaveThatTheDatabaseRefusesHalfWayLeavesNothingOfItself)
+{
+    const auto context = open();
+    const ObjectRef a = insert(*context, "a");
+    ASSERT_TRUE(context->save().ok());
+    plain().exec("CREATE TRIGGER t BEFORE INSERT ON Item WHEN NEW.title = 'c' BEGIN SELECT RAISE(ABORT, 'no'); END");
+    a->setAttribute(Title, std::string("a2"));
+    insert(*context, "b");
+    insert(*context, "c");
+    EXPECT_FALSE(context->save().ok());
+    EXPECT_TRUE(context->hasChanges());
+    EXPECT_THAT(storedTitles(), ElementsAre("a"));
+    plain().exec("DROP TRIGGER t");
+    ASSERT_TRUE(context->save().ok());
+    EXPECT_THAT(storedTitles(), ElementsAre("a2", "b", "c"));
+}
+
 TEST_F(ObjectContextTests, ObjectsOutliveTheirDeletionAndTheirContext)
 {
     auto context = open();

@@ -6,8 +6,6 @@
 
 #include <algorithm>
 #include <atomic>
-#include <cstdlib>
-#include <filesystem>
 #include <latch>
 #include <sys/resource.h>
 #include <thread>
@@ -147,6 +145,28 @@ TEST_F(URLLoadingTest, AFleetSharesFewConnectionsAConsole)
     rlimit files{};
     ASSERT_EQ(getrlimit(RLIMIT_NOFILE, &files), 0);
     EXPECT_EQ(files.rlim_cur, files.rlim_max) << "and descriptors suffice for all";
+}
+
+TEST_F(URLLoadingTest, ASimulatedNetworkTakesTheTimeThatTheseTestsCountOn)
+{
+    struct Network {
+        int roundTrip; ///< ms
+        int stalls;
+        int roundTrips; ///< of a request on a connection that stands
+    };
+    // Where each piece is late, request and answer take two and a half round trips each.
+    for (const auto& [roundTrip, stalls, roundTrips] : {Network{200, 0, 1}, {50, 100, 5}}) {
+        simulator::Settings settings;
+        settings.roundTrip = roundTrip;
+        settings.stalls = stalls;
+        simulator::SimulatorProcess simulator{settings};
+        logOn(simulator);
+        URLRequest request = feedRequest(simulator, "none");
+        EXPECT_EQ(sendSynchronousRequest(request).value().response.statusCode, 403);
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_EQ(sendSynchronousRequest(request).value().response.statusCode, 403);
+        EXPECT_EQ((std::chrono::steady_clock::now() - start) / std::chrono::milliseconds(roundTrip), roundTrips);
+    }
 }
 
 TEST_F(URLLoadingTest, SixRequestsLeaveTogetherThroughANetworkWithALength)

@@ -10,7 +10,6 @@
 #include <atomic>
 #include <latch>
 #include <sys/resource.h>
-#include <thread>
 
 using testing::AllOf;
 using testing::Each;
@@ -237,6 +236,16 @@ TEST_F(URLLoadingTest, HostileSizesAreCutAtTheLimits)
     EXPECT_LT(residentKilobytes() - before, static_cast<long>(limits.heldBytes / 1024) + residentSlack);
 }
 
+TEST_F(URLLoadingTest, ABodysLimitCountsWhatIsUnpacked)
+{
+    simulator::SimulatorProcess simulator{{}};
+    const std::string key = logOn(simulator);
+    simulator.setFault("largeGzip:All"); // 40 MB of blanks, packed into a thousandth of that
+    TransferLimits::shared().bodyBytes = 8UL * 1024 * 1024;
+    EXPECT_EQ(codeOf(loadAsynchronously(feedRequest(simulator, key))), URLErrorCode::DataLengthExceedsMaximum);
+    EXPECT_EQ(codeOf(sendSynchronousRequest(feedRequest(simulator, key))), URLErrorCode::DataLengthExceedsMaximum);
+}
+
 TEST_F(URLLoadingTest, LargeBodiesOfManyConsolesTakeTurnsWithinTheBudget)
 {
     const TransferLimits& limits = TransferLimits::shared();
@@ -304,6 +313,19 @@ TEST_F(URLLoadingTest, SilentAndTricklingServersAreLeftInTime)
         EXPECT_THAT(taken, Each(AllOf(Ge(3000ms), Le(3150ms)))) << fault;
         simulator.clearFaults();
     }
+}
+
+TEST_F(URLLoadingTest, ABodyThatTricklesIsLeftAtTheTotalLimit)
+{
+    // The head comes at once, and a byte of the body long before the idle limit each time.
+    const ScriptedServer server("HTTP/1.1 200 OK\r\nContent-Length: 1000000\r\n\r\n", ScriptedServer::Ending::Trickle);
+    TransferLimits::shared().totalTimeFactor = 2;
+    URLRequest request;
+    request.url = server.url();
+    request.timeout = 700ms;
+    const auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ(codeOf(connect(request, Answer::Accept)->outcome()), URLErrorCode::TimedOut);
+    EXPECT_THAT(std::chrono::steady_clock::now() - start, AllOf(Ge(1400ms), Le(1800ms)));
 }
 
 TEST_F(URLLoadingTest, IdleLimitComesBeforeALongerTotalOne)

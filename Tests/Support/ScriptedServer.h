@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <arpa/inet.h>
+#include <chrono>
+#include <csignal>
 #include <future>
 #include <netinet/in.h>
 #include <string>
@@ -17,11 +19,11 @@ namespace lodestar::test
 {
 
 /// A server on a loopback address that accepts one connection, reads one request and answers with the given bytes,
-/// whatever they are; then it ends the connection with or without saying so first.
+/// whatever they are; then it ends the connection, with or without saying so first, or goes on with a byte every 50 ms.
 class ScriptedServer
 {
 public:
-    enum class Ending { Notice, Silent };
+    enum class Ending { Notice, Silent, Trickle };
 
     using LeafRef = std::shared_ptr<const simulator::Leaf>;
 
@@ -81,6 +83,10 @@ private:
             (count = SSL_read(ssl.get(), request.data(), static_cast<int>(request.size()))) > 0) {
             m_request.set_value(request.substr(0, static_cast<std::size_t>(count)));
             SSL_write(ssl.get(), m_answer.data(), static_cast<int>(m_answer.size()));
+            std::signal(SIGPIPE, SIG_IGN); // the client leaves first
+            while (m_ending == Ending::Trickle && SSL_write(ssl.get(), "x", 1) == 1) {
+                std::this_thread::sleep_for(std::chrono::milliseconds(50));
+            }
             if (m_ending == Ending::Notice) {
                 SSL_shutdown(ssl.get());
             }
