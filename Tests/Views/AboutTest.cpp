@@ -78,25 +78,6 @@ protected:
 
     PackagedTexts* package = nullptr;
 };
-
-TEST_F(AboutTest, ReleaseNotesAndAgreementShowTheirOwnTexts)
-{
-    package->texts = {{"VersionChangelog.rtf", "{\\rtf1 New\\par}"}, {"Ornis_License_en.rtf", "no rich text"}};
-    const auto version = load<VersionViewController>();
-    const auto agreement = load<OrnisLicenseViewController>();
-    EXPECT_EQ(version->title(), "Release Notes");
-    EXPECT_EQ(agreement->title(), "Ornis License");
-    ASSERT_TRUE(runUntil([&] { return version->webview()->rowCount({}) + agreement->webview()->rowCount({}) == 2; }));
-    EXPECT_EQ(version->webview()->document().paragraphs.front().runs.front().text, "New");
-    EXPECT_EQ(agreement->webview()->document().paragraphs.front().runs.front().text, "no rich text");
-
-    package->texts.clear();
-    const auto missing = load<VersionViewController>();
-    ASSERT_TRUE(waitUntilRead(missing));
-    drain();
-    EXPECT_EQ(missing->webview()->rowCount({}), 0);
-}
-
 TEST_F(AboutTest, NoticesStandInTheFoldersOrderBelowTheirShortenedNames)
 {
     package->notices = Files{{"zlib.txt", "Z\n"}, {"gone.txt", std::nullopt}, {"libxml2.txt", "X \xC3\xA9"}};

@@ -200,18 +200,6 @@ TEST_F(CorvelListTest, OnlyAFetchedOnlineConsoleOpensItsOverview)
     EXPECT_EQ(tasks->corvel, corvel);
     EXPECT_THAT(deselected, ElementsAre(0, 0));
 }
-
-TEST_F(CorvelListTest, SettingsButtonIsThereOnceThereAreSettings)
-{
-    load();
-    EXPECT_TRUE(list->isSettingsHidden());
-    Storyboard::main().registerScene(
-        "settingsViewController", [] { return makeController<TasksController>(); }, QUrl());
-    EXPECT_FALSE(list->isSettingsHidden());
-    list->openSettings();
-    EXPECT_EQ(navigation->depth(), 2);
-}
-
 TEST_F(CorvelListTest, DeleteTakesTheRecordItsKeyAndItsRow)
 {
     addCorvel("Harbour A", "a.example", true);

@@ -146,32 +146,6 @@ TEST_F(DashboardTest, SumsWhatTheConsolesHoldAndLogsWhatTheyLack)
         EXPECT_EQ(line.method, "-[DashboardTableViewController createDashboard]");
     }
 }
-
-TEST_F(DashboardTest, BothPiesHaveTheSameSettings)
-{
-    addFetched("a", {{"ManagedSystem", systems({"operating"})}});
-    dashboard->manSysPieChartView()->highlightValues({{0, 0}});
-    dashboard->createDashboard();
-    for (const PieChartView* view : {dashboard->manSysPieChartView(), dashboard->lparPieChartView()}) {
-        const PieChartModel& pie = view->model();
-        EXPECT_EQ(view->delegate(), static_cast<ChartViewDelegate*>(dashboard.get()));
-        EXPECT_FALSE(pie.usePercentValues);
-        EXPECT_TRUE(pie.drawHole && pie.holeTransparent && pie.rotationEnabled && pie.rotationWithTwoFingers);
-        EXPECT_FALSE(pie.drawSliceText);
-        EXPECT_DOUBLE_EQ(pie.holeRadiusPercent, 0.54);
-        EXPECT_DOUBLE_EQ(pie.transparentCircleRadiusPercent, 0.58);
-        EXPECT_EQ(pie.rotationAngle, 0);
-        EXPECT_TRUE(pie.descriptionText.isEmpty());
-        EXPECT_EQ(pie.legend.position, LegendPosition::AboveChartLeft);
-        EXPECT_DOUBLE_EQ(pie.legend.xEntrySpace, 0.8);
-        EXPECT_DOUBLE_EQ(pie.legend.yEntrySpace, 0.8);
-        EXPECT_EQ(pie.legend.yOffset, 18);
-        EXPECT_TRUE(pie.highlights.isEmpty());
-        EXPECT_EQ(pie.data.dataSet.valueTextColor, QColor(Qt::white));
-        EXPECT_TRUE(pie.data.dataSet.label.isEmpty());
-    }
-}
-
 TEST_F(DashboardTest, AttentionSumWrapsAtThirtyTwoBits)
 {
     for (const char* address : {"a", "b"}) {
@@ -246,19 +220,5 @@ TEST_F(DashboardTest, EmptyListStopsTheIndicatorsAndShowsNothing)
     dashboard->beginAppearance();
     EXPECT_TRUE(dashboard->noDataView()->isHidden());
 }
-
-TEST_F(DashboardTest, ChartRowsAreSizedByTheViewsWidth)
-{
-    dashboard->setViewSize(375, 375);
-    EXPECT_DOUBLE_EQ(dashboard->heightForRowAtIndexPath({0, 2}).value(), 312.5);
-    EXPECT_DOUBLE_EQ(dashboard->heightForRowAtIndexPath({1, 5}).value(), 312.5);
-    EXPECT_EQ(dashboard->heightForRowAtIndexPath({0, 1}), std::nullopt);
-    // A phone on its side is still a phone.
-    dashboard->setViewSize(844, 390);
-    EXPECT_DOUBLE_EQ(dashboard->chartRowHeight(), 844 / 1.2);
-    dashboard->setViewSize(768, 768);
-    EXPECT_NEAR(dashboard->chartRowHeight(), 349.1, 0.1);
-}
-
 } // namespace
 } // namespace lodestar::testing

@@ -182,14 +182,5 @@ TEST_F(DeltaCorvelTest, CancelDuringTheLogonAddsNothingAndShowsNothing)
     EXPECT_THAT(RESTHandler::sharedInstance().corvelList(), IsEmpty());
     EXPECT_EQ(insertedRecords(), 0U);
 }
-
-TEST_F(DeltaCorvelTest, SuccessLookHidesAfterTwoSecondsAsWell)
-{
-    open();
-    editor->showWithSuccess("done");
-    EXPECT_EQ(editor->statusLabel()->color(), UIColor::successGreen());
-    ASSERT_TRUE(runUntil([this] { return !takeNotifications().empty(); }, std::chrono::seconds(4)));
-}
-
 } // namespace
 } // namespace lodestar::testing

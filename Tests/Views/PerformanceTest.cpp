@@ -28,6 +28,8 @@ std::string demoMetrics(const simulator::MetricsShape& shape)
 
 class PerformanceTest : public ListTest
 {
+    const InZone m_zone{"EAST-9"}; // what a console says in its own is shown in this one
+
 protected:
     std::shared_ptr<PCMViewController> openPerformance(const CorvelRef& corvel, const std::string& systemID = "any")
     {
@@ -129,27 +131,6 @@ TEST_F(PerformanceTest, ProcessorsThenMemoryOfASimulatedConsole)
     EXPECT_THAT(messages(source), ElementsAre("PCMViewController instantiation"));
     EXPECT_EQ(lineNumbers(lines(source)), std::vector<int>{39});
 }
-
-TEST_F(PerformanceTest, ChartIsSetUpOnce)
-{
-    const auto screen = openDemo(demoMetrics({}));
-    const PlotModel& model = screen->chartView()->model();
-    EXPECT_EQ(model.noDataText, "No performance data available.");
-    EXPECT_EQ(model.descriptionText, "");
-    EXPECT_FALSE(model.highlightEnabled || model.highlightIndicatorEnabled || model.drawGridBackgroundEnabled);
-    EXPECT_TRUE(model.dragEnabled && model.scaleEnabled && model.pinchZoomEnabled);
-    EXPECT_EQ(model.xAxis.labelPosition, XAxisLabelPosition::Bottom);
-    EXPECT_FALSE(model.xAxis.drawGridLinesEnabled || model.leftAxis.startAtZeroEnabled || model.rightAxis.enabled);
-    EXPECT_EQ(model.leftAxis.gridLineDashLengths, QList<double>({5, 5}));
-    EXPECT_TRUE(model.leftAxis.drawLimitLinesBehindDataEnabled);
-    EXPECT_EQ(model.legend.form, LegendForm::Line);
-    for (const LineChartDataSet& set : screen->chartView()->data().dataSets) {
-        EXPECT_EQ(set.lineWidth, 1);
-        EXPECT_EQ(set.circleRadius, 0);
-        EXPECT_FALSE(set.drawCircleHoleEnabled);
-    }
-}
-
 TEST_F(PerformanceTest, FailureShowsAnEmptyChartAndDashes)
 {
     simulator::SimulatorProcess fleet{{}};

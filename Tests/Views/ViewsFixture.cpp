@@ -13,7 +13,6 @@
 #include <QGuiApplication>
 
 #include <algorithm>
-#include <filesystem>
 
 namespace lodestar::testing
 {

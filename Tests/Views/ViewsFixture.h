@@ -7,15 +7,14 @@
 #include "Platform/NotificationCenter.h"
 #include "Tests/Support/ScratchFolder.h"
 
+#include <QByteArray>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <chrono>
 #include <functional>
 #include <map>
 #include <memory>
 #include <mutex>
-#include <string>
 #include <vector>
 
 namespace lodestar::testing
@@ -29,6 +28,24 @@ struct LoggedLine {
     std::string fileName;
     std::string method;
     std::string message;
+};
+
+/// The process is in that time zone while this lives.
+class InZone
+{
+public:
+    explicit InZone(const QByteArray& zone) { set(zone); }
+    ~InZone() { set(m_before); }
+    InZone(const InZone&) = delete;
+    InZone& operator=(const InZone&) = delete;
+
+private:
+    static void set(const QByteArray& zone)
+    {
+        zone.isEmpty() ? qunsetenv("TZ") : qputenv("TZ", zone);
+        tzset();
+    }
+    const QByteArray m_before = qgetenv("TZ");
 };
 
 /// Feeds of the demonstration console by object type, and other files by their whole name, changeable from test to
