@@ -189,33 +189,6 @@ TEST_F(FileUserDefaultsTests, ManyThreadsLoseNothing)
     }
     EXPECT_EQ(FileUserDefaults(path).allKeys().size(), 800U);
 }
-
-TEST(PackageResourcesTests, ReadsTheProgramsOwnFilesFromAnyThread)
-{
-    const PackageResources resources;
-    std::optional<std::string> found;
-    std::thread([&] { found = resources.contents("AdapterTests", "cpp"); }).join();
-    ASSERT_TRUE(found.has_value());
-    EXPECT_THAT(*found, ::testing::StartsWith("// SPDX-License-Identifier"));
-    EXPECT_THAT(*found, ::testing::EndsWith("return RUN_ALL_TESTS();\n}\n"));
-    EXPECT_EQ(resources.contents("AdapterTests", "h"), std::nullopt);
-    EXPECT_EQ(resources.contents("AdapterTests", ""), std::nullopt);
-    EXPECT_EQ(resources.contents("", ""), std::nullopt);
-}
-
-TEST(PackageResourcesTests, ListsAndReadsAFolder)
-{
-    const PackageResources resources;
-    const auto files = resources.filesInFolder("Folder");
-    ASSERT_TRUE(files.has_value());
-    EXPECT_THAT(*files, UnorderedElementsAreArray({"AdapterTests.cpp", "SystemKeychainTests.h"}));
-    EXPECT_EQ(resources.contentsInFolder("Folder", "AdapterTests.cpp"), resources.contents("AdapterTests", "cpp"));
-    EXPECT_EQ(resources.contentsInFolder("Folder", "missing"), std::nullopt);
-    EXPECT_EQ(resources.filesInFolder("AdapterTests.cpp"), std::nullopt);
-    EXPECT_EQ(resources.filesInFolder("Missing"), std::nullopt);
-    EXPECT_EQ(resources.filesInFolder(""), std::nullopt);
-}
-
 } // namespace
 
 } // namespace lodestar

@@ -9,7 +9,6 @@
 #include "Kit/Core/Storyboard.h"
 #include "Kit/Core/TabBarController.h"
 #include "Kit/Core/UIColor+Tessel.h"
-#include "Platform/Keychain.h"
 #include "Platform/UserDefaults.h"
 #include "Tests/Support/StoredPassword.h"
 #include "Views/Corvels/CorvelListViewController.h"
@@ -99,20 +98,6 @@ TEST_F(AppDelegateTest, ARequiredPasscodeStandsInFrontAtEveryActivation)
     dynamic_cast<LoginViewController*>(root())->performShowMainView();
     EXPECT_NE(dynamic_cast<TabBarController*>(root()), nullptr);
 }
-
-TEST_F(AppDelegateTest, OnlyAShakeAsksForFeedback)
-{
-    int presented = 0;
-    VireoLogger::setFeedbackPresenter([&presented] { ++presented; });
-    FeedbackWindow* const window = m_delegate.window();
-    window->motionBegan(FeedbackWindow::EventType::RemoteControl, FeedbackWindow::EventSubtype::RemoteControlPlay);
-    window->motionBegan(FeedbackWindow::EventType::Motion, FeedbackWindow::EventSubtype::None);
-    EXPECT_EQ(presented, 0);
-    window->motionBegan(FeedbackWindow::EventType::Motion, FeedbackWindow::EventSubtype::MotionShake);
-    EXPECT_EQ(presented, 1);
-    VireoLogger::setFeedbackPresenter({});
-}
-
 TEST_F(AppDelegateTest, TerminationSavesWhatIsPending)
 {
     m_delegate.managedObjectContext();

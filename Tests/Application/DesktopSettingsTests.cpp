@@ -13,7 +13,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace lodestar
 {

@@ -19,7 +19,6 @@
 #include <functional>
 #include <map>
 #include <mutex>
-#include <string>
 #include <utility>
 #include <vector>
 

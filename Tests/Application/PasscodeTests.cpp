@@ -112,27 +112,6 @@ TEST_F(PasscodeTest, OnlyTheVeryTextOpens)
     EXPECT_TRUE(isUnlocked());
     EXPECT_THAT(logged(), Not(HasSubstr("Caf")));
 }
-
-TEST_F(PasscodeTest, AnyTextButNoneIsAPasscode)
-{
-    require(false);
-    showSettings();
-    for (const QString& text :
-         {QStringLiteral("a"), QStringLiteral(" "), QString(10'000, u'x'),
-          QString::fromUtf8("\U0001F468\u200D\U0001F469\u200D\U0001F467"), QString::fromUtf8("e\u0301\n\t\"'<&>")}) {
-        passcode().clear();
-        flip(true);
-        if (sheet() == nullptr) {
-            settings->didSelectRowAtIndexPath({0, 1});
-        }
-        save({}, text, text);
-        EXPECT_EQ(passcode(), text.toStdString());
-        EXPECT_TRUE(opens(text));
-        EXPECT_FALSE(opens(text + ' '));
-    }
-    EXPECT_EQ(settings->alert()->title(), "Password Saved");
-}
-
 TEST_F(PasscodeTest, AKeychainThatCannotBeReadSwitchesTheLockOffAndSettingsSayWhy)
 {
     const std::pair<int, const char*> reasons[] = {{Keychain::locked, "keychain was locked"},
@@ -327,34 +306,6 @@ TEST_F(PasscodeTest, ThePasscodeSurvivesTheSwitchAndTheFlagFollowsLoadsOnly)
     EXPECT_EQ(sheet(), nullptr);
     EXPECT_TRUE(isRequired());
 }
-
-TEST_F(PasscodeTest, TheSheetsHeightsFollowThePasscodeAndTheKeyboard)
-{
-    require(false);
-    showSettings();
-    flip(true);
-    const auto heights = [this] {
-        std::vector<int> rows;
-        for (int row = 0; row < 4; ++row) {
-            rows.push_back(sheet()->heightForRowAtIndexPath(row));
-        }
-        return rows;
-    };
-    EXPECT_EQ(settings->semiModal()->height(), 119);
-    EXPECT_THAT(heights(), ::testing::ElementsAre(0, 44, 44, 30));
-    settings->keyboardWillShow(260);
-    EXPECT_EQ(settings->semiModal()->height(), 379);
-    settings->keyboardWillHide();
-    EXPECT_EQ(settings->semiModal()->height(), 119);
-    save({}, "p", "p");
-    settings->didSelectRowAtIndexPath({0, 1});
-    EXPECT_EQ(settings->semiModal()->height(), 164);
-    EXPECT_THAT(heights(), ::testing::ElementsAre(44, 44, 44, 30));
-    stack->endAppearance();
-    settings->keyboardWillShow(260);
-    EXPECT_EQ(settings->semiModal()->height(), 164) << "not in a window";
-}
-
 TEST_F(PasscodeTest, TheTitleMakesRoomForThePushedScreensBackButton)
 {
     require(false);

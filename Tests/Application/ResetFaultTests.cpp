@@ -9,7 +9,6 @@
 #include "Tests/Support/LongRun.h"
 #include "Views/Corvels/CorvelListViewController.h"
 
-#include <filesystem>
 #include <random>
 
 namespace lodestar::lock

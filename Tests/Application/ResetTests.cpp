@@ -6,8 +6,6 @@
 #include "Kit/Core/TabBarController.h"
 #include "Tests/Application/LockFixture.h"
 
-#include <filesystem>
-
 namespace lodestar::lock
 {
 namespace

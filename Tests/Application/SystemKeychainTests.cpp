@@ -12,7 +12,6 @@
 
 #include <cstdlib>
 #include <iostream>
-#include <string>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <type_traits>
@@ -120,20 +119,6 @@ protected:
     QTemporaryDir m_home;
     const QString m_self = QCoreApplication::applicationFilePath();
 };
-
-TEST_F(SystemKeychainTests, KeepsPasswordsInTheSystemsService)
-{
-    const QString script = QStringLiteral("printf '\\n' | gnome-keyring-daemon --unlock --components=secrets "
-                                          ">/dev/null 2>&1; exec \"$0\" --keychain");
-    const auto output = run(QStringLiteral("dbus-run-session"),
-                            {QStringLiteral("--"), QStringLiteral("bash"), QStringLiteral("-c"), script, m_self},
-                            environmentWithBus(QString()));
-    EXPECT_THAT(lines(output),
-                ElementsAre("read [] in time", "write [] in time", "read [p\u00E4ss 'w\u014Drd' ] in time",
-                            "read [] in time", "write error -2 in time", "read [p\u00E4ss 'w\u014Drd' ] in time",
-                            "write [] in time", "read [] in time"));
-}
-
 TEST_F(SystemKeychainTests, FailsSoonWithoutAService)
 {
     const auto output = run(m_self, {QStringLiteral("--keychain")},

@@ -3,7 +3,6 @@
 #include "Application/FeedbackSupport.h"
 #include "Application/OneInstance.h"
 #include "Application/WindowPlace.h"
-#include "Feedback/VireoLogger.h"
 #include "Fleet/Registry.h"
 #include "Platform/NotificationCenter.h"
 #include "Simulator/SimulatorProcess.h"
@@ -16,9 +15,6 @@
 #include <QSensorBackend>
 #include <QSensorManager>
 #include <QTemporaryDir>
-
-#include <cstdlib>
-#include <fstream>
 
 namespace lodestar::lock
 {

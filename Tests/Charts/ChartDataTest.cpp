@@ -25,18 +25,6 @@ TEST(NumberFormatterTest, CountsAreBareAndFractionsRoundHalfToEven)
     EXPECT_EQ(values.stringFromNumber(-0.04), "0") << "no negative zero";
     EXPECT_EQ(values.stringFromNumber(16777216), "16777216") << "no grouping";
 }
-
-TEST(NumberFormatterTest, StylesMultiplierAndHostileNumbers)
-{
-    EXPECT_EQ((NumberFormatter{NumberFormatter::Style::Percent, 0, 1.0, "%"}.stringFromNumber(62.96)), "63%");
-    EXPECT_EQ((NumberFormatter{NumberFormatter::Style::Percent, 1, 100, " %"}.stringFromNumber(0.125)), "12.5 %");
-    EXPECT_EQ((NumberFormatter{NumberFormatter::Style::Decimal, 2, 1.0, "%"}.stringFromNumber(262.144)), "262.14");
-    const NumberFormatter wild{NumberFormatter::Style::Decimal, 99, 1.0, ""};
-    EXPECT_EQ(wild.stringFromNumber(std::nan("")), "");
-    EXPECT_EQ(wild.stringFromNumber(std::numeric_limits<double>::infinity()), "");
-    EXPECT_EQ(wild.stringFromNumber(std::numeric_limits<double>::max()).size(), 309);
-}
-
 TEST(ChartEasingTest, NumbersNameTheirCurves)
 {
     const auto eased = [](int number, double at) { return ease(static_cast<ChartEasingOption>(number), at); };
@@ -65,38 +53,5 @@ TEST(ChartEasingTest, EveryCurveStartsAndEndsExactly)
         EXPECT_EQ(ease(option, std::nan("")), 1) << number;
     }
 }
-
-TEST(ChartAnimationTest, PhasesFollowTheirOwnDurations)
-{
-    const ChartAnimation both{2, 4, ChartEasingOption::Linear};
-    EXPECT_EQ(both.duration(), 4);
-    EXPECT_DOUBLE_EQ(both.phasesAt(1).x, 0.5);
-    EXPECT_DOUBLE_EQ(both.phasesAt(1).y, 0.25);
-    EXPECT_EQ(both.phasesAt(3).x, 1);
-    EXPECT_EQ(both.phasesAt(0).y, 0);
-
-    const ChartAnimation onlyX{3, 0, ChartEasingOption::Linear};
-    EXPECT_EQ(onlyX.phasesAt(0).y, 1) << "an axis without a duration is complete";
-    const ChartAnimation hostile{std::nan(""), -1, ChartEasingOption::Linear};
-    EXPECT_EQ(hostile.duration(), 0);
-    EXPECT_EQ(hostile.phasesAt(0).x, 1);
-}
-
-TEST(PieChartDataSetTest, ColoursRepeatAndBadValuesCountAsNothing)
-{
-    PieChartDataSet dataSet;
-    EXPECT_TRUE(dataSet.colorAt(3).isValid()) << "a colour even without any";
-    dataSet.colors = {Qt::red, Qt::green};
-    EXPECT_EQ(dataSet.colorAt(0), QColor(Qt::red));
-    EXPECT_EQ(dataSet.colorAt(3), QColor(Qt::green));
-
-    const float infinity = std::numeric_limits<float>::infinity();
-    dataSet.entries = {{2, 0}, {-5, 1}, {std::nanf(""), 2}, {infinity, 3}, {1, 4}};
-    EXPECT_EQ(dataSet.total(), 3);
-    const float most = std::numeric_limits<float>::max();
-    dataSet.entries = {{most, 0}, {most, 1}};
-    EXPECT_TRUE(std::isfinite(dataSet.total()));
-}
-
 } // namespace
 } // namespace lodestar

@@ -93,18 +93,6 @@ TEST(LegendTest, EveryPositionKeepsToItsSide)
     EXPECT_LT(firstLeft(9), firstLeft(10));
     EXPECT_LT(firstLeft(10), firstLeft(11));
 }
-
-TEST(LegendTest, MirrorsForRightToLeft)
-{
-    const auto labels = items({"operating", "error"});
-    const LegendLayout plain = layoutLegend(legendAt(9), labels, chart, style());
-    const LegendLayout mirrored = layoutLegend(legendAt(9), labels, chart, style(1, Qt::RightToLeft));
-    EXPECT_EQ(mirrored.boxes[0].form.right(), 366 - 20);
-    EXPECT_LT(mirrored.boxes[0].baseline.x(), mirrored.boxes[0].form.left());
-    EXPECT_LT(mirrored.boxes[1].form.right(), mirrored.boxes[0].baseline.x());
-    EXPECT_EQ(mirrored.boxes[1].form.right(), 366 - plain.boxes[1].form.left());
-}
-
 TEST(LegendTest, LongNamesAndLongListsStayInsideTheirShare)
 {
     const QString longName = QString(400, QLatin1Char('w'));
@@ -124,16 +112,5 @@ TEST(LegendTest, LongNamesAndLongListsStayInsideTheirShare)
         EXPECT_EQ(last.text, QStringLiteral("+%1").arg(500 - (cut.boxes.size() - 1))) << "says exactly how many";
     }
 }
-
-TEST(LegendTest, NothingToShowTakesNoRoom)
-{
-    const auto labels = items({"one"});
-    Legend off = legendAt(9);
-    off.enabled = false;
-    EXPECT_EQ(contentBeside(off, layoutLegend(off, labels, chart, style()), chart, style()).height(), 325);
-    EXPECT_TRUE(layoutLegend(legendAt(9), {}, chart, style()).boxes.empty());
-    EXPECT_TRUE(layoutLegend(legendAt(9), labels, QSizeF(10, 10), style()).boxes.empty());
-}
-
 } // namespace
 } // namespace lodestar

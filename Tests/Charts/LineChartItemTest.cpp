@@ -197,18 +197,6 @@ TEST_F(LineChartItemTest, KeysZoomMoveAndShowAll)
     ASSERT_TRUE(settled());
     EXPECT_EQ(seen(), PlotViewport());
 }
-
-TEST_F(LineChartItemTest, TapsSelectOnlyWhereHighlightingIsOn)
-{
-    const PlotLayout layout = PlotRenderer(m_view.model()).layout({QSizeF(366, 400), {}, {}});
-    const QPoint at(qRound(layout.transform.toX(120)), 150);
-    QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, at);
-    EXPECT_TRUE(m_view.model().highlights.isEmpty());
-    m_view.setHighlightEnabled(true);
-    QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, at);
-    EXPECT_EQ(m_view.model().highlights, (QList<Highlight>{{120, 0}}));
-}
-
 TEST_F(LineChartItemTest, IsReadWithItsTextAndOutlivesItsView)
 {
     QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(m_item);

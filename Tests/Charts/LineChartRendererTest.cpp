@@ -111,26 +111,6 @@ TEST(LineChartRendererTest, LabelsStandAtTheirTicksAndNeverOverlapOrLeaveTheChar
         }
     }
 }
-
-TEST(LineChartRendererTest, TheTextOfAxesIsDrawnWholeAndOnlyWhereItIsLaidOut)
-{
-    LineChartView view;
-    showLine(view, {100, 300, 200, 250});
-    ChartFrame frame = phone;
-    frame.style.textScale = 2;
-    frame.style.textColor = red;
-    const PlotPicture picture(view, frame);
-    int inside = 0;
-    for (const auto* labels : {&picture.layout.leftLabels, &picture.layout.bottomLabels}) {
-        for (const AxisLabel& label : *labels) {
-            const int ink = picture.count(red, label.box.adjusted(-1, -1, 1, 1));
-            EXPECT_GT(ink, 20) << label.text.toStdString();
-            inside += ink;
-        }
-    }
-    EXPECT_EQ(picture.count(red, QRectF(QPointF(0, 0), frame.size)), inside) << "no text is cut or elsewhere";
-}
-
 TEST(LineChartRendererTest, GridIsDashedFiveOnFiveOffAndMissingWhereSwitchedOff)
 {
     LineChartView view;
@@ -240,23 +220,6 @@ TEST(LineChartRendererTest, LinesGoOnAcrossGapsHoweverCloselyTheyAreLookedAt)
     const PlotPicture edge(view);
     EXPECT_NEAR(edge.span(blue, 44000).center().y(), edge.point(0, 2.8).y(), 1.5) << "on to an entry out of view";
 }
-
-TEST(LineChartRendererTest, WideAndSeeThroughLinesAreOfOnePiece)
-{
-    LineChartView view;
-    showLine(view, {0, 4, 0}, QColor(0, 0, 255, 128));
-    LineChartData data = view.data();
-    data.dataSets[0].lineWidth = 8;
-    view.setData(data);
-    YAxis axis;
-    axis.drawGridLinesEnabled = false;
-    view.setLeftAxis(axis);
-    const PlotPicture picture(view);
-    const QColor once = picture.at(picture.point(0.5, 2));
-    EXPECT_TRUE(near(once, QColor(127, 127, 255), 3));
-    EXPECT_TRUE(near(picture.at(picture.point(1, 4) + QPointF(0, 4)), once, 3)) << "no darker where pieces meet";
-}
-
 TEST(LineChartRendererTest, AZoomShowsItsPartAndKeepsWithinThePlot)
 {
     LineChartView view;

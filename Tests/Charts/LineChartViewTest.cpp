@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Charts/LineChartView.h"
 
 #include "ChartSupport.h"
 
 #include <QSignalSpy>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <cmath>
 

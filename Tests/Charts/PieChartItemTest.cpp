@@ -143,16 +143,5 @@ TEST_F(PieChartItemTest, ShowsTheViewAsItChangesAndOutlivesIt)
     m_item->forceActiveFocus();
     QTest::keyClick(m_window, Qt::Key_Right);
 }
-
-TEST_F(PieChartItemTest, IsReadAsAChartWithItsText)
-{
-    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(m_item);
-    ASSERT_TRUE(interface != nullptr);
-    EXPECT_EQ(interface->role(), QAccessible::Chart);
-    EXPECT_EQ(interface->text(QAccessible::Name), "state 0 2, state 1 1, state 2 1");
-    m_view.select(1);
-    EXPECT_EQ(interface->text(QAccessible::Description), "state 1 1");
-}
-
 } // namespace
 } // namespace lodestar::charttest

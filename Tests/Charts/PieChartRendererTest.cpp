@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Charts/PieChartRenderer.h"
 
 #include "ChartSupport.h"
 #include "Charts/PieValueText.h"
@@ -103,15 +102,6 @@ TEST(PieChartRendererTest, OneStateIsAFullRing)
         EXPECT_EQ(pie.at(0.3, 0), white);
     }
 }
-
-TEST(PieChartRendererTest, ColoursStartOverWhenThereAreMoreSlices)
-{
-    const Picture pie(barePie({1, 1, 1, 1, 1, 1}));
-    EXPECT_EQ(pie.at(0.8, 30), blue);
-    EXPECT_EQ(pie.at(0.8, 270), yellow);
-    EXPECT_EQ(pie.at(0.8, 330), blue);
-}
-
 TEST(PieChartRendererTest, NothingIsDrawnForNothingAndBadValuesHaveNoSlice)
 {
     const float infinity = std::numeric_limits<float>::infinity();

@@ -55,21 +55,5 @@ TEST(PieChartViewTest, ReadsAsAListOfStateAndCount)
     view.setUsePercentValues(false);
     EXPECT_EQ(view.accessibleText(), "operating 17, incomplete 2, 3") << "an index without a label has no name";
 }
-
-TEST(PieChartViewTest, ChangesAreToldOnceAndOnlyWhenTheyAreChanges)
-{
-    PieChartView view;
-    const QSignalSpy changed(&view, &ChartView::changed);
-    view.setRotationAngle(0);
-    view.setDrawHole(true);
-    view.setHidden(false);
-    EXPECT_EQ(changed.count(), 0);
-    view.setHoleRadiusPercent(0.54);
-    view.setHoleRadiusPercent(0.54);
-    EXPECT_EQ(changed.count(), 1);
-    view.setData(dashboardPie({1}).data);
-    EXPECT_EQ(changed.count(), 2);
-}
-
 } // namespace
 } // namespace lodestar::charttest

@@ -24,18 +24,6 @@ TEST(PlotSeriesTest, EntriesAreSortedAndThoseThatAreNotFiniteLeftOut)
     EXPECT_EQ(series.extent(), (PlotExtent{{0, 9}, {-5, 3}}));
     EXPECT_TRUE(PlotSeries({{NAN, 0}}).isEmpty());
 }
-
-TEST(PlotSeriesTest, FindsTheNearestEntry)
-{
-    const PlotSeries series({{1, 0}, {2, 4}, {3, 9}});
-    EXPECT_EQ(series.nearest(-7)->value, 1);
-    EXPECT_EQ(series.nearest(1.9)->value, 1);
-    EXPECT_EQ(series.nearest(2.1)->value, 2);
-    EXPECT_EQ(series.nearest(6.6)->value, 3);
-    EXPECT_EQ(series.nearest(99)->value, 3);
-    EXPECT_FALSE(PlotSeries().nearest(0));
-}
-
 TEST(PlotSeriesTest, ExtremesOfARangeAreThoseOfItsEntries)
 {
     std::mt19937 random(7);

@@ -5,7 +5,6 @@
 #include "Tests/Support/LongRun.h"
 
 #include <algorithm>
-#include <array>
 #include <malloc.h>
 #include <random>
 

@@ -6,7 +6,6 @@
 #include "Tests/Support/ScriptedServer.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <openssl/pem.h>
 
 #include <algorithm>
@@ -14,7 +13,6 @@
 #include <cstdlib>
 #include <fstream>
 #include <functional>
-#include <future>
 
 namespace lodestar
 {

@@ -4,10 +4,8 @@
 #include "Tests/Support/ScratchFolder.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
-#include <stdexcept>
 #include <thread>
 
 namespace lodestar
@@ -219,40 +217,4 @@ TEST(VireoLogger, SaysThatASessionStartedButNeverItsKey)
     EXPECT_THAT(heard.front(), Not(HasSubstr("5ecret")));
     VireoLogger::settings() = {};
 }
-
-TEST(VireoLogger, FeedbackGoesToThePresenterThatIsInstalled)
-{
-    int presented = 0;
-    VireoLogger::setFeedbackPresenter([&] { ++presented; });
-    VireoLogger::feedback();
-    VireoLogger::setFeedbackPresenter({});
-    VireoLogger::feedback();
-    EXPECT_EQ(presented, 1);
-}
-
-TEST(VireoLogger, LogsTheExceptionThatEndsTheProcess)
-{
-    const SharedFolder folder;
-    EXPECT_EXIT(
-        {
-            VireoLogger::openLogFolder(folder.path());
-            std::set_terminate(VireoLogger::uncaughtExceptionHandler);
-            std::thread([] { throw std::runtime_error("no way\nout"); }).join();
-        },
-        testing::KilledBySignal(SIGABRT), "");
-    EXPECT_THAT(lastLine(folder.log()), HasSubstr("uncaught exception: std::runtime_error: no way\\nout {"));
-}
-
-TEST(VireoLogger, ReturnAddressesStartInTheCallerAndAreBounded)
-{
-    const std::vector<void*> stack = callStackReturnAddresses();
-    ASSERT_FALSE(stack.empty());
-    EXPECT_LE(stack.size(), 32U);
-    EXPECT_NE(stack.front(), reinterpret_cast<void*>(&callStackReturnAddresses));
-    const std::function<std::size_t(int)> deep = [&](int depth) {
-        return depth == 0 ? callStackReturnAddresses().size() : deep(depth - 1);
-    };
-    EXPECT_EQ(deep(100), 32U);
-}
-
 } // namespace lodestar

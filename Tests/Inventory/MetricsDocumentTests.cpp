@@ -49,19 +49,6 @@ TEST(MetricsDocumentTest, ReadsWhatIsThereAndNothingElse)
     const MetricsDocument marked = parsed("\xEF\xBB\xBF{\"a\":1}");
     EXPECT_EQ(marked.root().member("a").number(), 1.0);
 }
-
-TEST(MetricsDocumentTest, OutlivesItsTextAndIsSharedByItsCopies)
-{
-    MetricsDocument copy;
-    {
-        std::string text = R"({"name":"helios"})";
-        const MetricsDocument document = parsed(text);
-        text.assign(1000, 'x');
-        copy = document;
-    }
-    EXPECT_EQ(copy.root().member("name").text(), "helios");
-}
-
 TEST(MetricsDocumentTest, RefusesWhatIsNoDocument)
 {
     const std::string texts[] = {

@@ -2,7 +2,6 @@
 #include "Inventory/Metrics/MetricsReduction.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <array>
 

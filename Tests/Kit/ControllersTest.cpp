@@ -5,7 +5,6 @@
 #include "Platform/Queues/MainQueue.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <thread>
 

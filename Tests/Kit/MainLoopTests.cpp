@@ -5,7 +5,6 @@
 #include <QCoreApplication>
 #include <QEventLoop>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <atomic>
@@ -82,34 +81,6 @@ TEST(MainLoopTests, ANestedLoopRunsTheBlocksBehindTheOneThatStartedIt)
     EXPECT_TRUE(spinUntil([&] { return order.size() == 5; }));
     EXPECT_THAT(order, ElementsAre("first begins", "second begins", "third", "second ends", "first ends"));
 }
-
-TEST(MainLoopTests, BlocksThatComeWithoutALoopWaitForTheNextOne)
-{
-    std::atomic<bool> stop = false;
-    std::atomic<int> queued = 0;
-    int ran = 0;
-    std::thread producer([&] {
-        while (!stop) {
-            ++queued;
-            MainQueue::shared().async([&] { ++ran; });
-            std::this_thread::yield();
-        }
-    });
-    while (queued < 2000) {
-        const MainLoop loop;
-        QCoreApplication::processEvents();
-    }
-    stop = true;
-    producer.join();
-    QCoreApplication::processEvents();
-    const int before = ran;
-    MainQueue::shared().async([&] { ++ran; });
-    QCoreApplication::processEvents();
-    EXPECT_EQ(ran, before) << "nobody drains";
-    const MainLoop loop;
-    EXPECT_TRUE(spinUntil([&] { return ran == queued + 1; }));
-}
-
 } // namespace
 
 } // namespace lodestar

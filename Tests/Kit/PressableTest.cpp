@@ -4,7 +4,6 @@
 #include "KitWindow.h"
 
 #include <QAccessible>
-#include <gtest/gtest.h>
 
 namespace lodestar
 {

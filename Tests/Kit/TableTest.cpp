@@ -7,7 +7,6 @@
 #include <QQmlEngine>
 #include <QSignalSpy>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <thread>
 

@@ -1,14 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Kit/Core/Appearance.h"
 #include "Kit/Core/IconProvider.h"
-#include "Kit/Core/Kit.h"
 #include "KitWindow.h"
 
 #include <QColor>
 #include <QDirIterator>
-#include <QQmlComponent>
-#include <QQmlEngine>
-#include <gtest/gtest.h>
 
 #include <cmath>
 

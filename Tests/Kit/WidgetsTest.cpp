@@ -8,7 +8,6 @@
 #include <QAccessible>
 #include <QImage>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace lodestar
 {

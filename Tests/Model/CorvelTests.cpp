@@ -8,9 +8,6 @@
 #include <gmock/gmock.h>
 
 #include <atomic>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <thread>
 
 namespace lodestar
@@ -100,20 +97,6 @@ TEST_F(CorvelTests, AttributesAreKeptAndTheRestIsNot)
     EXPECT_EQ(std::static_pointer_cast<Group>(context().fetchAll("Group").value().at(0))->name(), "racks");
     EXPECT_EQ(insert()->demo(), 0) << "none reads as 0";
 }
-
-TEST_F(CorvelTests, OnlyAttributesMakeChanges)
-{
-    const CorvelRef corvel = insert();
-    corvel->setVersion("V1");
-    StoreStack::shared().saveContext();
-    corvel->setRestData(std::make_shared<FeedDictionary>(1));
-    corvel->isOnline = true;
-    corvel->setVersion("V1");
-    EXPECT_FALSE(context().hasChanges());
-    corvel->setVersion(std::nullopt);
-    EXPECT_TRUE(context().hasChanges());
-}
-
 TEST_F(CorvelTests, ADeletedPasswordIsWipedOnTheMainQueuesNextTurn)
 {
     for (const bool closedBefore : {false, true}) {

@@ -8,9 +8,6 @@
 #include <gmock/gmock.h>
 
 #include <cstdio>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 
 namespace lodestar
 {

@@ -18,15 +18,6 @@ TEST(ErrorTests, DescriptionLeavesOutWhatIsEmptyAndStaysOneLine)
     EXPECT_EQ(description({"URLError", -3, "Timed\nout", "idle\r\nfor long", below}),
               "URLError -3: Timed out (idle  for long; underlying: ObjectStore 11: malformed)");
 }
-
-TEST(ErrorTests, UserInformationIsEverythingButDomainAndCode)
-{
-    EXPECT_EQ(userInfoDescription({"URLError", 28, "", "", nullptr}), "{}");
-    const auto below = std::make_shared<const Error>(Error{"ObjectStore", 11, "", "", nullptr});
-    EXPECT_EQ(userInfoDescription({"URLError", 28, "Timed out", "idle", below}),
-              "{localizedDescription=Timed out, failureReason=idle, underlying=ObjectStore 11}");
-}
-
 TEST(ErrorTests, AnErrorThatNobodyDescribedStillTellsSomething)
 {
     EXPECT_EQ(shownDescription({"RXPromise", -1000, {}, {}, nullptr}),

@@ -74,31 +74,6 @@ TEST_F(MainQueueTests, RunIsImmediateOnlyOnTheMainThread)
     queue.drain();
     EXPECT_TRUE(ran);
 }
-
-TEST_F(MainQueueTests, WakesOnceForEachDrainedQueue)
-{
-    int wakes = 0;
-    queue.async([] {});
-    queue.setWake([&] { ++wakes; });
-    EXPECT_EQ(wakes, 1) << "a host that comes late must hear of what already waits";
-    queue.async([] {});
-    EXPECT_EQ(wakes, 1);
-    queue.drain();
-    queue.async([&] { queue.async([] {}); });
-    EXPECT_EQ(wakes, 2);
-    queue.drain();
-    EXPECT_EQ(wakes, 3) << "what a block queues during a drain needs a wake of its own";
-    queue.drain();
-    queue.setWake([&] {
-        ++wakes;
-        queue.setWake(nullptr);
-    });
-    queue.async([] {});
-    queue.drain();
-    queue.async([] {});
-    EXPECT_EQ(wakes, 4) << "a wake function may remove itself, and is then not called again";
-}
-
 TEST_F(MainQueueTests, NobodyIsInARemovedWakeFunction)
 {
     std::atomic<bool> stop = false;

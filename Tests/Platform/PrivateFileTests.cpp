@@ -4,7 +4,6 @@
 #include "Tests/Support/ScratchFolder.h"
 
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <cerrno>
 #include <limits>

@@ -8,7 +8,6 @@
 #include <cstdio>
 #include <cstdlib>
 #include <mutex>
-#include <unistd.h>
 
 using testing::ElementsAre;
 using testing::HasSubstr;

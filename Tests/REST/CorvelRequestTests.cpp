@@ -69,16 +69,6 @@ private:
     OperationQueue m_queue{"requests"};
     std::atomic<int> m_calls{0};
 };
-
-TEST_F(CorvelRequestTest, StartsEmpty)
-{
-    CorvelRequest request;
-    EXPECT_EQ(request.response().statusCode, 0);
-    EXPECT_EQ(request.data(), "");
-    ASSERT_TRUE(request.closure());
-    request.closure()(nullptr, nullptr, nullptr);
-}
-
 TEST_F(CorvelRequestTest, ReachesAConsoleThatNobodyVouchesForAndSaysSo)
 {
     simulator::SimulatorProcess simulator{{}};
@@ -112,20 +102,6 @@ TEST_F(CorvelRequestTest, KeepsTheBodyOfTheLastResponseOnly)
     EXPECT_EQ(request.response().url, "https://b/");
     EXPECT_EQ(request.data(), "secondsecond");
 }
-
-TEST_F(CorvelRequestTest, FailureGivesTheErrorAlone)
-{
-    simulator::SimulatorProcess simulator{{}};
-    simulator.stopConsole(0);
-    URLRequest request;
-    request.url = "https://" + simulator.address() + ":12443/";
-    const Outcome outcome = send(request);
-    EXPECT_FALSE(outcome.response);
-    EXPECT_FALSE(outcome.data);
-    ASSERT_TRUE(outcome.error);
-    EXPECT_EQ(outcome.error->code, static_cast<int>(URLErrorCode::CannotConnectToHost));
-}
-
 TEST_F(CorvelRequestTest, AnswersNoChallengeButTheServersTrust)
 {
     using Method = AuthenticationChallenge::Method;

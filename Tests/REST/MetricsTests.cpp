@@ -163,21 +163,6 @@ TEST_F(MetricsTest, MessageOfTheFirstSampleDecides)
         EXPECT_EQ(outcome(without), notProcessed) << without;
     }
 }
-
-TEST_F(MetricsTest, LargeSystemHasALargeDocument)
-{
-    simulator::Settings settings;
-    settings.partitions = 105;
-    simulator::SimulatorProcess simulator{settings};
-    const CorvelRef corvel = corvelOf(simulator);
-    const SessionKey sessionKey = key(corvel);
-    const auto document = fetch(corvel, sessionKey, firstSystem(corvel, sessionKey));
-    ASSERT_TRUE(document.ok());
-    const auto samples = document.value().root().path({"systemUtil", "utilSamples"}).elements();
-    ASSERT_EQ(samples.size(), 240U);
-    EXPECT_EQ(samples.back().member("partitionUtil").elements().size(), 105U);
-}
-
 TEST_F(MetricsTest, DemoConsoleReadsThePackageAtOnce)
 {
     Resources::install(makeFolderResources(LODESTAR_DEMO_FOLDER));

@@ -13,10 +13,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <cstdlib>
-#include <filesystem>
 #include <mutex>
-#include <string>
 #include <vector>
 
 namespace lodestar::test

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 // Who keeps what alive, and until when.
-#include "Controllers/REST/RXPromise.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Tests/REST/ManualThread.h"
 
@@ -21,27 +20,6 @@ namespace
 {
 
 using namespace std::chrono_literals;
-
-TEST(RXPromiseLifeTests, NothingRegisteredDuringSettlementIsLostWithTheHandle)
-{
-    constexpr int rounds = 2000;
-    std::atomic<int> ran = 0;
-    for (int round = 0; round < rounds; ++round) {
-        const RXPromise<int> source;
-        auto derived = std::make_optional(source.then([](int value) { return value; }));
-        source.fulfillWithValue(1);
-        for (int i = 0; i < 3; ++i) {
-            derived->then([&ran](int value) { ran += value; });
-        }
-        derived.reset();
-    }
-    const auto limit = std::chrono::steady_clock::now() + 30s;
-    while (ran < 3 * rounds && std::chrono::steady_clock::now() < limit) {
-        std::this_thread::yield();
-    }
-    ASSERT_EQ(ran, 3 * rounds);
-}
-
 TEST(RXPromiseLifeTests, AContextMayRegisterAndLetGoWhileItIsGivenABlock)
 {
     class Registering final : public ManualThread

@@ -1,23 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 // Settling, contexts, order.
-#include "Controllers/REST/RXPromise.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Tests/REST/ManualThread.h"
 #include "Tests/Support/StoreFixture.h"
-
-#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <atomic>
 #include <cstdio>
 #include <future>
 #include <latch>
-#include <memory>
 #include <optional>
-#include <string>
 #include <thread>
-#include <utility>
-#include <vector>
 
 namespace lodestar
 {
@@ -54,26 +47,6 @@ TEST(RXPromiseTests, SettlesOnceAndForGood)
     nothing.fulfillWithValue();
     EXPECT_TRUE(nothing.result()->ok());
 }
-
-TEST(RXPromiseTests, ReasonsBecomeErrorsAndErrorsStayAsTheyAre)
-{
-    const auto reasonOf = [](const auto& reject) {
-        const RXPromise<int> promise;
-        reject(promise);
-        return promise.result()->error();
-    };
-    const Error given{"URLError", 28, "Timed out", "idle", std::make_shared<const Error>()};
-    const Error kept = reasonOf([&](const auto& promise) { promise.rejectWithReason(given); });
-    EXPECT_EQ(kept, given);
-    EXPECT_EQ(kept.underlying, given.underlying);
-    EXPECT_EQ(reasonOf([](const auto& promise) { promise.rejectWithReason("why"); }),
-              (Error{"RXPromise", -1000, "", "why", nullptr}));
-    EXPECT_EQ(reasonOf([](const auto& promise) { promise.rejectWithReason(std::string("text")); }),
-              (Error{"RXPromise", -1000, "", "text", nullptr}));
-    EXPECT_EQ(reasonOf([](const auto& promise) { promise.rejectWithReason(); }),
-              (Error{"RXPromise", -1000, "", "", nullptr}));
-}
-
 TEST(RXPromiseTests, HandlersNeverRunOnTheStackThatSettlesOrRegisters)
 {
     MainQueue::shared().adoptCurrentThread();
@@ -137,21 +110,6 @@ TEST_F(RXPromiseStoreTests, AnObjectContextRunsHandlersWhereItIsUsed)
     EXPECT_TRUE(onMain);
     EXPECT_EQ(titles(fetch(*context)), std::vector<std::string>{"from a worker"});
 }
-
-TEST(RXPromiseTests, HandlersOfDifferentPromisesRunAtTheSameTime)
-{
-    // Shared: a handler may still be looking at it when this test is over.
-    const auto together = std::make_shared<std::latch>(3);
-    const RXPromise<void> one;
-    const RXPromise<void> two;
-    one.then([together] { together->arrive_and_wait(); });
-    two.then([together] { together->arrive_and_wait(); });
-    one.fulfillWithValue();
-    two.fulfillWithValue();
-    together->arrive_and_wait();
-    EXPECT_TRUE(together->try_wait());
-}
-
 TEST(RXPromiseTests, RegistrationOrderIsTheOrderOfRunning)
 {
     const std::vector<ExecutionContext> contexts{
@@ -197,38 +155,6 @@ TEST(RXPromiseTests, AHandlerThatItsContextLetsGoHoldsUpNoOther)
     }
     EXPECT_EQ(after.get_future().get(), 7);
 }
-
-TEST(RXPromiseTests, ManyThreadsSettleAndRegisterAndEachHandlerRunsOnce)
-{
-    for (int round = 0; round < 100; ++round) {
-        const RXPromise<int> promise;
-        std::latch start(4);
-        std::latch handled(40);
-        std::atomic<int> sum = 0;
-        std::vector<std::thread> threads;
-        threads.reserve(4);
-        for (int t = 0; t < 4; ++t) {
-            threads.emplace_back([&, t] {
-                start.arrive_and_wait();
-                for (int i = 0; i < 10; ++i) {
-                    promise.then([&](int value) {
-                        sum += value;
-                        handled.count_down();
-                    });
-                    if (i == 5) {
-                        promise.fulfillWithValue(t + 1);
-                    }
-                }
-            });
-        }
-        for (auto& thread : threads) {
-            thread.join();
-        }
-        handled.wait();
-        EXPECT_EQ(sum, 40 * promise.result()->value());
-    }
-}
-
 TEST(RXPromiseTests, QueuesAreKnownByTheirLabels)
 {
     const RXPromise<int> promise;

@@ -5,8 +5,6 @@
 #include "Views/About/OpenSourceViewController.h"
 #include "Views/About/RichDocumentViewController.h"
 
-#include <QAccessible>
-
 namespace lodestar::scenes
 {
 namespace

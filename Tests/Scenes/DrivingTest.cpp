@@ -1,12 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
-#include "Kit/Core/NavigationController.h"
-#include "Kit/Core/Storyboard.h"
 #include "Tests/Scenes/SceneTest.h"
-#include "Views/Common/CorvelReceiving.h"
 
-#include <QAccessible>
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QInputMethod>
@@ -19,22 +15,9 @@ namespace lodestar::scenes
 namespace
 {
 
-class TasksController : public ViewController, public CorvelReceiving
-{
-public:
-    void setCorvel(CorvelRef value) override { corvel = std::move(value); }
-    CorvelRef corvel;
-};
-
 class DrivingTest : public SceneTest
 {
 protected:
-    void registerTasks()
-    {
-        Storyboard::main().registerScene(
-            "corvelTasksViewController", [this] { return tasks = makeController<TasksController>(); },
-            QUrl(QStringLiteral("qrc:/Lodestar/Kit/FocusRing.qml")));
-    }
     DeltaCorvelViewController* editor() const
     {
         return stage.list().semiModal() == nullptr
@@ -67,8 +50,6 @@ protected:
         }
         QTest::mouseRelease(&stage.window(), Qt::LeftButton, {}, from + QPoint(by, 0));
     }
-
-    std::shared_ptr<TasksController> tasks;
 };
 
 TEST_F(DrivingTest, TheFormIsFilledByKeyboardAndTellsWhatIsMissing)
@@ -100,39 +81,6 @@ TEST_F(DrivingTest, TheFormIsFilledByKeyboardAndTellsWhatIsMissing)
     EXPECT_EQ(stage.list().semiModal(), nullptr);
     EXPECT_TRUE(stage.waitFor([&] { return button("Cancel") == nullptr; }));
 }
-
-TEST_F(DrivingTest, BusyFormTakesNoSecondSave)
-{
-    stage.show({390, 844}, fleet());
-    press(Qt::Key_N, Qt::ControlModifier);
-    ASSERT_TRUE(waitForSheet());
-    editor()->showStatusWithMessage("verifying...");
-    ASSERT_TRUE(stage.waitFor([&] { return text("verifying...") != nullptr; }));
-    EXPECT_FALSE(button("Save")->isEnabled());
-    click(button("Cancel"));
-    EXPECT_EQ(stage.list().semiModal(), nullptr);
-}
-
-TEST_F(DrivingTest, RowsOpenByPointerAndByKeyboard)
-{
-    registerTasks();
-    stage.show({390, 844}, fleet());
-    const auto depth = [this] { return stage.list().navigationController()->depth(); };
-    click(row(3)); // offline
-    EXPECT_EQ(depth(), 1);
-    click(row(1));
-    ASSERT_EQ(depth(), 2);
-    EXPECT_EQ(tasks->corvel->name(), "Harbour B");
-    stage.list().navigationController()->pop();
-    ASSERT_TRUE(stage.waitFor([&] { return row(1) != nullptr; }));
-    stage.settle(200);
-
-    press(Qt::Key_Home);
-    press(Qt::Key_Return);
-    ASSERT_EQ(depth(), 2);
-    EXPECT_EQ(tasks->corvel->name(), "Harbour A");
-}
-
 TEST_F(DrivingTest, ASwipeUncoversEditAndDelete)
 {
     stage.show({390, 844}, fleet());
@@ -208,19 +156,6 @@ TEST_F(DrivingTest, RefreshKeyPulls)
     press(Qt::Key_F5);
     EXPECT_EQ(pulls, 2);
 }
-
-TEST_F(DrivingTest, TheSheetStandsOnTheKeyboard)
-{
-    stage.show({390, 844}, fleet());
-    stage.openEditor();
-    ASSERT_TRUE(waitForSheet());
-    const double before = button("Cancel")->mapToScene({}).y();
-    stage.list().keyboardWillShow(260);
-    EXPECT_TRUE(stage.waitFor([&] { return button("Cancel")->mapToScene({}).y() == before - 260; }));
-    stage.list().keyboardWillHide();
-    EXPECT_TRUE(stage.waitFor([&] { return button("Cancel")->mapToScene({}).y() == before; }));
-}
-
 TEST_F(DrivingTest, TheDashboardReadsFromTheSideWhereReadingBegins)
 {
     const auto left = [this](const char* words) { return text(words)->mapToScene({}).x(); };
@@ -355,24 +290,6 @@ TEST_F(DrivingTest, AWideWindowsChoicesComeUpByThePress)
     EXPECT_LT(std::abs(first.top() - at.y()), 80);
     EXPECT_TRUE(first.left() < at.x() && at.x() < first.right());
 }
-
-TEST_F(DrivingTest, ARowIsOneSentenceForScreenReaders)
-{
-    QAccessible::setActive(true);
-    stage.show({390, 844}, fleet());
-    std::vector<QString> sentences;
-    for (QQuickItem* cell : stage.items("TableRow")) {
-        QAccessibleInterface* spoken = QAccessible::queryAccessibleInterface(cell);
-        ASSERT_NE(spoken, nullptr);
-        sentences.push_back(spoken->text(QAccessible::Name));
-        EXPECT_EQ(spoken->role(), QAccessible::ListItem);
-    }
-    ASSERT_EQ(sentences.size(), 6U);
-    EXPECT_EQ(sentences[1], "Harbour B, Error, attention 2, events 14");
-    EXPECT_EQ(sentences[2], "Ridgeway Laboratory, updating");
-    EXPECT_EQ(sentences[3], "Northfield Recovery Site, Offline, attention 0, events 0");
-}
-
 TEST_F(DrivingTest, TheDashboardLoadsAndDraws)
 {
     stage.show({390, 844}, fleet());

@@ -3,8 +3,6 @@
 #include "Views/ResourceGroups/RGListViewController.h"
 #include "Views/ServiceableEvents/SEListViewController.h"
 
-#include <QAccessible>
-
 namespace lodestar::scenes
 {
 namespace
@@ -73,24 +71,5 @@ TEST_F(EventsTest, RowsHaveTheirHeightsInANarrowWindowAndWhateverAConsoleAnswers
         }
     }
 }
-
-TEST_F(EventsTest, AHundredThousandEventsOpenScrollAndAreSearched)
-{
-    std::string feed = "<feed>";
-    for (int i = 0; i < 100000; ++i) {
-        feed += "<entry><content><ServiceableEvent><problemNumber>" + std::to_string(i) +
-                "</problemNumber><ApprovalState>Approved</ApprovalState></ServiceableEvent></content></entry>";
-    }
-    auto* const list =
-        openList<SEListViewController>("serviceableEventsView", {{"ServiceableEvent", feed + "</feed>"}});
-    ASSERT_EQ(list->tableView()->count(), 100000);
-    press(Qt::Key_End);
-    ASSERT_TRUE(stage.waitFor([&] { return text("Approved (#99999)") != nullptr; }));
-    EXPECT_LT(stage.items("StateRow").size(), 40U);
-    list->showSearchBar();
-    list->searchBar()->setText("approved (#9999");
-    EXPECT_EQ(list->searchResultsTableView()->count(), 11);
-}
-
 } // namespace
 } // namespace lodestar::scenes

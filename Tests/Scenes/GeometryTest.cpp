@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Inventory/Feed.h"
-#include "Kit/Core/NavigationController.h"
 #include "Tests/Scenes/SceneTest.h"
 
 #include <tuple>

@@ -4,8 +4,6 @@
 #include "Views/LogicalPartitions/LPListViewController.h"
 #include "Views/VIOS/VIOSViewController.h"
 
-#include <QAccessible>
-
 namespace lodestar::scenes
 {
 namespace

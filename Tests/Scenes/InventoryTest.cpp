@@ -6,8 +6,6 @@
 #include "Views/ManagedSystems/MSDetailViewController.h"
 #include "Views/ManagedSystems/MSListViewController.h"
 
-#include <QAccessible>
-
 namespace lodestar::scenes
 {
 namespace

@@ -88,22 +88,5 @@ TEST_F(PerformancePathTest, FromASystemsActionSheet)
     press(Qt::Key_Escape);
     EXPECT_TRUE(stage.waitFor([this] { return text("helios-02") != nullptr; }));
 }
-
-TEST_F(PerformancePathTest, FromASystemsMenu)
-{
-    openSystems();
-    stage.swipe(0);
-    ASSERT_TRUE(stage.waitFor([this] { return button("System menu") != nullptr; }));
-    stage.settle(300);
-    click(button("System menu"));
-    ASSERT_TRUE(stage.waitFor([this] { return qobject_cast<MSOverViewController*>(top()) != nullptr; }));
-    ASSERT_TRUE(stage.waitFor([this] { return text("Performance Monitoring") != nullptr; }));
-    stage.settle();
-    click(text("Performance Monitoring"));
-    seeProcessorsAndSwitchToMemory();
-    press(Qt::Key_Escape);
-    EXPECT_TRUE(stage.waitFor([this] { return text("Performance Monitoring") != nullptr; }));
-}
-
 } // namespace
 } // namespace lodestar::scenes

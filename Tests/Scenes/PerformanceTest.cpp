@@ -5,9 +5,6 @@
 
 #include <QPointingDevice>
 
-#include <memory>
-#include <utility>
-
 namespace lodestar::scenes
 {
 namespace
@@ -31,56 +28,7 @@ protected:
         return found.empty() ? nullptr : found.front();
     }
     PlotViewport viewport(PCMViewController& performance) const { return performance.chartView()->viewport(); }
-
-    const std::unique_ptr<QPointingDevice> m_touchScreen{QTest::createTouchDevice()};
 };
-
-TEST_F(PerformanceSceneTest, ChartZoomsByDoubleClickAndIsDragged)
-{
-    PCMViewController& performance = openPerformance();
-    ASSERT_NE(chart(), nullptr);
-    const PlotViewport whole = viewport(performance);
-    QTest::mouseDClick(&stage.window(), Qt::LeftButton, {}, centerOf(chart()));
-    ASSERT_TRUE(stage.waitFor([&] { return viewport(performance).width == whole.width / 2; }));
-    const PlotViewport zoomed = viewport(performance);
-    const QPoint from = centerOf(chart());
-    QTest::mousePress(&stage.window(), Qt::LeftButton, {}, from);
-    for (int step = 1; step <= 8; ++step) {
-        QTest::mouseMove(&stage.window(), from + QPoint(-10 * step, 0));
-    }
-    QTest::mouseRelease(&stage.window(), Qt::LeftButton, {}, from + QPoint(-80, 0));
-    EXPECT_GT(viewport(performance).x, zoomed.x) << "what lies after it came in";
-    // New data show the whole again.
-    click(button("Memory"));
-    ASSERT_TRUE(stage.waitFor([&] { return text("262.14") != nullptr; }));
-    EXPECT_TRUE(viewport(performance) == whole);
-}
-
-TEST_F(PerformanceSceneTest, ChartIsPinchedBetweenTwoFingersInsideItsPage)
-{
-    PCMViewController& performance = openPerformance({360, 640});
-    const PlotViewport whole = viewport(performance);
-    const QPoint middle = centerOf(chart());
-    const auto fingers = [&](int apart) { return std::pair(middle - QPoint(apart, 0), middle + QPoint(apart, 0)); };
-    const auto [left, right] = fingers(40);
-    QTest::touchEvent(&stage.window(), m_touchScreen.get()).press(0, left).press(1, right);
-    for (int apart = 50; apart <= 120; apart += 10) {
-        const auto [first, second] = fingers(apart);
-        QTest::touchEvent(&stage.window(), m_touchScreen.get()).move(0, first).move(1, second);
-    }
-    // The window passes strokes on with its next frame.
-    ASSERT_TRUE(stage.waitFor([&] { return qFuzzyCompare(viewport(performance).width, whole.width / 3); }));
-    const PlotViewport pinched = viewport(performance);
-    // One finger goes on dragging.
-    QTest::touchEvent(&stage.window(), m_touchScreen.get()).stationary(0).release(1, fingers(120).second);
-    for (int step = 1; step <= 8; ++step) {
-        QTest::touchEvent(&stage.window(), m_touchScreen.get()).move(0, fingers(120).first + QPoint(10 * step, 0));
-    }
-    QTest::touchEvent(&stage.window(), m_touchScreen.get()).release(0, fingers(120).first + QPoint(80, 0));
-    EXPECT_TRUE(stage.waitFor([&] { return viewport(performance).x < pinched.x; }));
-    EXPECT_NEAR(viewport(performance).width, pinched.width, 1e-9);
-}
-
 TEST_F(PerformanceSceneTest, ChartIsReachedAndWorkedByKeys)
 {
     PCMViewController& performance = openPerformance();

@@ -7,13 +7,8 @@
 #include <SQLiteCpp/Database.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
-#include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <map>
 #include <memory>
-#include <string>
 #include <vector>
 
 namespace lodestar::test

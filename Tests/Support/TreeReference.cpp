@@ -11,7 +11,6 @@
 #include <cstdio>
 #include <memory>
 #include <set>
-#include <vector>
 
 namespace lodestar
 {

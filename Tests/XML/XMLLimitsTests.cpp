@@ -8,9 +8,7 @@
 #include <libxml/parser.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <ctime>
-#include <filesystem>
 #include <functional>
 #include <regex>
 #include <sys/stat.h>
