@@ -51,7 +51,7 @@ class ListOnScreen
 {
 public:
     ListOnScreen(scenes::SceneStage& stage, const CorvelRef& corvel, int rows)
-        : m_stage(stage), m_list(*stage.open<MSListViewController>("managedSystemsView", {.corvel = corvel}))
+        : m_stage(stage), m_list(*stage.open<MSListViewController>(Scenes::managedSystemsView, corvel))
     {
         bench::require(
             stage.waitFor([&] { return !m_list.tableView()->isHidden() && m_list.tableView()->rows() == rows; }),
@@ -207,7 +207,8 @@ void measureHandshakes(bench::Rows& rows, scenes::SceneStage& stage)
     bench::require(stage.waitFor(isDone), "the console was not fetched");
     corvel->completedFetch = true;
     const auto before = fleet.statistics();
-    const auto* const list = stage.open<LPListViewController>("logicalPartitionsView", {.corvel = corvel});
+    const auto* const list =
+        stage.open<LPListViewController>(Scenes::logicalPartitionsView, {.corvel = corvel, .partitionName = {}});
     int listed = 0;
     const auto isListed = [&] {
         listed = 0;

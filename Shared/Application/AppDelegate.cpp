@@ -6,10 +6,10 @@
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
-#include "Kit/Core/Storyboard.h"
 #include "Kit/Core/TabBarController.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/UserDefaults.h"
+#include "Views/Common/Scenes.h"
 
 #include <exception>
 
@@ -75,7 +75,7 @@ void AppDelegate::saveContext() const
 
 void AppDelegate::showInitialViewController()
 {
-    window()->setRootViewController(Storyboard::main().instantiateViewController("loginViewController"));
+    window()->setRootViewController(Storyboard::main().instantiateViewController(Scenes::loginViewController));
 }
 
 } // namespace lodestar

@@ -48,9 +48,9 @@ void IntroView::showIntroViewInView(ViewController& view, std::weak_ptr<IntroVie
 {
     const auto intro = std::make_shared<PagedIntro>(pages());
     intro->setDelegate(std::move(delegate));
-    intro->pageControl()->setPageIndicatorTintColor(UIColor::lightGrayColor());
-    intro->pageControl()->setCurrentPageIndicatorTintColor(UIColor::selectedBlue());
-    intro->skipButton()->setTitleColor(UIColor::selectedBlue());
+    intro->pageControl()->pageIndicatorTintColor = UIColor::lightGrayColor();
+    intro->pageControl()->currentPageIndicatorTintColor = UIColor::selectedBlue();
+    intro->skipButton()->titleColor = UIColor::selectedBlue();
     intro->showInView(view, animationDuration);
 }
 

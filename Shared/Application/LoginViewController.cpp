@@ -6,8 +6,8 @@
 #include "Application/Model/Setting.h"
 #include "Application/Passcode.h"
 #include "Fleet/Registry.h"
-#include "Kit/Core/Storyboard.h"
 #include "Platform/UserDefaults.h"
+#include "Views/Common/Scenes.h"
 
 #include <cmath>
 #include <utility>
@@ -213,7 +213,7 @@ void LoginViewController::performShowMainView()
     m_hasPassedOn = true;
     // The switch drops the window's reference to this screen.
     const auto keep = shared_from_this();
-    m_showRoot(Storyboard::main().instantiateViewController("mainView"));
+    m_showRoot(Storyboard::main().instantiateViewController(Scenes::mainView));
 }
 
 } // namespace lodestar

@@ -5,11 +5,11 @@
 #include "Application/PasswordCreationViewController.h"
 #include "Application/SettingsViewController.h"
 #include "Kit/Core/NavigationController.h"
-#include "Kit/Core/Storyboard.h"
 #include "Kit/Core/TabBarController.h"
 #include "Views/About/OpenSourceViewController.h"
 #include "Views/About/OrnisLicenseViewController.h"
 #include "Views/About/VersionViewController.h"
+#include "Views/Common/Scenes.h"
 #include "Views/Corvels/CorvelListViewController.h"
 #include "Views/Corvels/DeltaCorvelViewController.h"
 #include "Views/Dashboard/CorvelOverviewTableViewController.h"
@@ -44,9 +44,9 @@ QUrl applicationScene(const char* file)
     return QUrl(QStringLiteral("qrc:/Lodestar/Application/") + QLatin1String(file));
 }
 
-std::shared_ptr<ViewController> inNavigation(const char* identifier)
+std::shared_ptr<ViewController> inNavigation(Scene<> scene)
 {
-    return makeController<NavigationController>(Storyboard::main().instantiateViewController(identifier));
+    return makeController<NavigationController>(Storyboard::main().instantiateViewController(scene));
 }
 
 /// The main interface: a tab bar with the console list and the dashboard, each in a navigation stack of its own.
@@ -54,16 +54,58 @@ std::shared_ptr<ViewController> makeMainInterface()
 {
     return makeController<TabBarController>(std::vector<TabBarItem>{
         {QCoreApplication::translate("MainStoryboard", "Corvels"), QStringLiteral("tab_consoles"),
-         inNavigation("corvelListView")},
+         inNavigation(Scenes::corvelListView)},
         {QCoreApplication::translate("MainStoryboard", "Dashboard"), QStringLiteral("tab_dashboard"),
-         inNavigation("dashboardView")},
+         inNavigation(Scenes::dashboardView)},
     });
 }
 
-template <typename Controller>
-Storyboard::Factory factory()
+void give(const ViewController& /*screen*/, NoInput /*input*/) {}
+
+void give(CorvelReceiving& screen, CorvelRef corvel)
 {
-    return [] { return makeController<Controller>(); };
+    screen.setCorvel(std::move(corvel));
+}
+
+void give(RootXMLReceiving& screen, XMLElement rootXML)
+{
+    screen.setRootXML(std::move(rootXML));
+}
+
+void give(DeltaCorvelViewController& screen, EditorInput input)
+{
+    screen.setCorvel(std::move(input.corvel));
+    screen.setParentList(std::move(input.parentList));
+}
+
+void give(LPListViewController& screen, PartitionsInput input)
+{
+    screen.setCorvel(std::move(input.corvel));
+    screen.setPartitionName(std::move(input.partitionName));
+}
+
+void give(MSOverViewController& screen, SystemMenuInput input)
+{
+    screen.setCorvel(std::move(input.corvel));
+    screen.setSystem(std::move(input.system));
+}
+
+void give(PCMViewController& screen, PerformanceInput input)
+{
+    screen.setCorvel(std::move(input.corvel));
+    screen.setSysName(std::move(input.sysName));
+    screen.setSystemID(std::move(input.systemID));
+}
+
+template <typename Controller, typename Input>
+void add(Scene<Input> scene, QUrl file)
+{
+    const auto factory = [](Input input) {
+        auto screen = makeController<Controller>();
+        give(*screen, std::move(input));
+        return screen;
+    };
+    Storyboard::main().registerScene(scene, factory, std::move(file));
 }
 
 } // namespace
@@ -71,43 +113,33 @@ Storyboard::Factory factory()
 void registerMainStoryboard(LoginViewController::RootSwitch showRoot)
 {
     CorvelListViewController::setIntroPresenter(&IntroView::showIntroViewInView);
-    Storyboard& storyboard = Storyboard::main();
-    storyboard.registerScene(
-        "loginViewController",
-        [showRoot = std::move(showRoot)] { return makeController<LoginViewController>(showRoot); },
-        applicationScene("LoginScene.qml"));
-    storyboard.registerScene("passwordCreation", factory<PasswordCreationViewController>(),
-                             applicationScene("PasswordCreationScene.qml"));
-    storyboard.registerScene("settingsViewController", factory<SettingsViewController>(),
-                             applicationScene("SettingsScene.qml"));
-    storyboard.registerScene("mainView", &makeMainInterface, {});
-    storyboard.registerScene("corvelListView", factory<CorvelListViewController>(), viewsScene("CorvelListScene.qml"));
-    storyboard.registerScene("deltaCorvel", factory<DeltaCorvelViewController>(), viewsScene("DeltaCorvelScene.qml"));
-    storyboard.registerScene("dashboardView", factory<DashboardTableViewController>(),
-                             viewsScene("DashboardScene.qml"));
-    storyboard.registerScene("corvelTasksViewController", factory<CorvelOverviewTableViewController>(),
-                             viewsScene("MenuScene.qml"));
-    storyboard.registerScene("managedSystemsView", factory<MSListViewController>(), viewsScene("MSListScene.qml"));
-    storyboard.registerScene("managedSystemInfo", factory<MSDetailViewController>(), viewsScene("DetailScene.qml"));
-    storyboard.registerScene("managedSystemMenu", factory<MSOverViewController>(), viewsScene("MSOverScene.qml"));
-    storyboard.registerScene("pcmDataView", factory<PCMViewController>(), viewsScene("PCMScene.qml"));
-    storyboard.registerScene("managementConsoleView", factory<MCViewController>(), viewsScene("MCScene.qml"));
-    storyboard.registerScene("logicalPartitionsView", factory<LPListViewController>(),
-                             viewsScene("GroupedListScene.qml"));
-    storyboard.registerScene("logicalPartitionsDetail", factory<LPDetailViewController>(),
-                             viewsScene("DetailScene.qml"));
-    storyboard.registerScene("viosView", factory<VIOSViewController>(), viewsScene("GroupedListScene.qml"));
-    storyboard.registerScene("viosDetail", factory<VIOSDetailViewController>(), viewsScene("DetailScene.qml"));
-    storyboard.registerScene("resourceGroupsView", factory<RGListViewController>(), viewsScene("RGListScene.qml"));
-    storyboard.registerScene("serviceableEventsView", factory<SEListViewController>(), viewsScene("SEListScene.qml"));
-    storyboard.registerScene("serviceableEventsDetail", factory<SEDetailViewController>(),
-                             viewsScene("DetailScene.qml"));
-    storyboard.registerScene("versionViewController", factory<VersionViewController>(),
-                             viewsScene("RichDocumentScene.qml"));
-    storyboard.registerScene("openSourceViewController", factory<OpenSourceViewController>(),
-                             viewsScene("OpenSourceScene.qml"));
-    storyboard.registerScene("OrnisLicenseViewController", factory<OrnisLicenseViewController>(),
-                             viewsScene("RichDocumentScene.qml"));
+    const auto makeLogin = [showRoot = std::move(showRoot)](NoInput) {
+        return makeController<LoginViewController>(showRoot);
+    };
+    const auto makeMainView = [](NoInput) { return makeMainInterface(); };
+    Storyboard::main().registerScene(Scenes::loginViewController, makeLogin, applicationScene("LoginScene.qml"));
+    Storyboard::main().registerScene(Scenes::mainView, makeMainView, {});
+    add<PasswordCreationViewController>(Scenes::passwordCreation, applicationScene("PasswordCreationScene.qml"));
+    add<SettingsViewController>(Scenes::settingsViewController, applicationScene("SettingsScene.qml"));
+    add<CorvelListViewController>(Scenes::corvelListView, viewsScene("CorvelListScene.qml"));
+    add<DeltaCorvelViewController>(Scenes::deltaCorvel, viewsScene("DeltaCorvelScene.qml"));
+    add<DashboardTableViewController>(Scenes::dashboardView, viewsScene("DashboardScene.qml"));
+    add<CorvelOverviewTableViewController>(Scenes::corvelTasksViewController, viewsScene("MenuScene.qml"));
+    add<MSListViewController>(Scenes::managedSystemsView, viewsScene("MSListScene.qml"));
+    add<MSDetailViewController>(Scenes::managedSystemInfo, viewsScene("DetailScene.qml"));
+    add<MSOverViewController>(Scenes::managedSystemMenu, viewsScene("MSOverScene.qml"));
+    add<PCMViewController>(Scenes::pcmDataView, viewsScene("PCMScene.qml"));
+    add<MCViewController>(Scenes::managementConsoleView, viewsScene("MCScene.qml"));
+    add<LPListViewController>(Scenes::logicalPartitionsView, viewsScene("GroupedListScene.qml"));
+    add<LPDetailViewController>(Scenes::logicalPartitionsDetail, viewsScene("DetailScene.qml"));
+    add<VIOSViewController>(Scenes::viosView, viewsScene("GroupedListScene.qml"));
+    add<VIOSDetailViewController>(Scenes::viosDetail, viewsScene("DetailScene.qml"));
+    add<RGListViewController>(Scenes::resourceGroupsView, viewsScene("RGListScene.qml"));
+    add<SEListViewController>(Scenes::serviceableEventsView, viewsScene("SEListScene.qml"));
+    add<SEDetailViewController>(Scenes::serviceableEventsDetail, viewsScene("DetailScene.qml"));
+    add<VersionViewController>(Scenes::versionViewController, viewsScene("RichDocumentScene.qml"));
+    add<OpenSourceViewController>(Scenes::openSourceViewController, viewsScene("OpenSourceScene.qml"));
+    add<OrnisLicenseViewController>(Scenes::OrnisLicenseViewController, viewsScene("RichDocumentScene.qml"));
 }
 
 } // namespace lodestar

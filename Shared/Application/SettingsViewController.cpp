@@ -5,10 +5,9 @@
 #include "Application/Model/Setting.h"
 #include "Application/Passcode.h"
 #include "Application/PasswordCreationViewController.h"
-#include "Kit/Core/Storyboard.h"
 #include "Kit/Core/TabBarController.h"
 #include "Platform/UserDefaults.h"
-#include "Views/Common/SceneInputs.h"
+#include "Views/Common/Scenes.h"
 
 #include <QCoreApplication>
 
@@ -135,17 +134,17 @@ void SettingsViewController::didSelectRowAtIndexPath(IndexPath indexPath)
     } else if (indexPath == introTourRow) {
         showIntroTour();
     } else if (indexPath == versionRow) {
-        pushWithoutTitle("versionViewController");
+        pushWithoutTitle(Scenes::versionViewController);
     } else if (indexPath == openSourceRow) {
-        pushWithoutTitle("openSourceViewController");
+        pushWithoutTitle(Scenes::openSourceViewController);
     } else if (indexPath == licenceRow) {
-        pushWithoutTitle("OrnisLicenseViewController");
+        pushWithoutTitle(Scenes::OrnisLicenseViewController);
     }
 }
 
 void SettingsViewController::presentPasscodeSheet()
 {
-    const auto sheet = Storyboard::main().instantiate<PasswordCreationViewController>("passwordCreation");
+    const auto sheet = Storyboard::main().instantiate<PasswordCreationViewController>(Scenes::passwordCreation);
     if (!sheet || std::exchange(m_isOpeningSheet, true)) {
         return;
     }
@@ -170,13 +169,13 @@ void SettingsViewController::showIntroTour()
     IntroView::showIntroViewInView(tabs != nullptr ? *tabs : *this, self<SettingsViewController>());
 }
 
-void SettingsViewController::pushWithoutTitle(std::string_view identifier)
+void SettingsViewController::pushWithoutTitle(Scene<> scene)
 {
     // The title is emptied before the push: the pushed screen's bar reads the text of its back button only once, when
     // it is made.
-    if (Storyboard::main().hasScene(identifier) && navigationController() != nullptr) {
+    if (navigationController() != nullptr) {
         setTitle(QStringLiteral(""));
-        openScene(*this, identifier, {});
+        openScene(*this, scene);
     }
 }
 

@@ -6,6 +6,7 @@
 #include "Kit/Core/Menu.h"
 #include "Kit/Core/PagedIntro.h"
 #include "Kit/Core/SheetHostController.h"
+#include "Kit/Core/Storyboard.h"
 #include "Kit/Core/Table.h"
 #include "Platform/NotificationCenter.h"
 
@@ -74,7 +75,7 @@ private:
     void whenPasscodeIsKnown(const std::function<void(SettingsViewController&)>& function);
     void presentPasscodeSheet();
     void showIntroTour();
-    void pushWithoutTitle(std::string_view identifier);
+    void pushWithoutTitle(Scene<> scene);
 
     NotificationCenter::Observation m_closeObservation;
     SwitchOutlet m_passwordSwitch;

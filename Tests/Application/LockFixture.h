@@ -7,12 +7,12 @@
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
-#include "Kit/Core/Storyboard.h"
 #include "Platform/Error.h"
 #include "Platform/Keychain.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/UserDefaults.h"
 #include "Tests/Support/ScratchFolder.h"
+#include "Views/Common/Scenes.h"
 
 #include <gmock/gmock.h>
 

@@ -108,7 +108,7 @@ protected:
 
     std::shared_ptr<PasswordCreationViewController> openSheet()
     {
-        settings = Storyboard::main().instantiate<SettingsViewController>("settingsViewController");
+        settings = Storyboard::main().instantiate<SettingsViewController>(Scenes::settingsViewController);
         settings->beginAppearance();
         settings->passwordSwitch()->setOn(true);
         settings->togglePassword();
@@ -136,7 +136,7 @@ protected:
     }
     bool opens(const QString& text)
     {
-        const auto login = Storyboard::main().instantiate<LoginViewController>("loginViewController");
+        const auto login = Storyboard::main().instantiate<LoginViewController>(Scenes::loginViewController);
         root = login;
         login->beginAppearance();
         login->passwordTextField()->setText(text);
@@ -187,7 +187,7 @@ TEST_F(PasscodeServiceTest, AKeyringThatAsksIsWaitedForAndALockedOneIsToldFromAn
     QProcess prompter;
     prompter.start(QCoreApplication::applicationFilePath(), {QLatin1String(prompterOption)});
     ASSERT_TRUE(prompter.waitForReadyRead(20'000));
-    const auto login = Storyboard::main().instantiate<LoginViewController>("loginViewController");
+    const auto login = Storyboard::main().instantiate<LoginViewController>(Scenes::loginViewController);
     root = login;
     login->beginAppearance();
     EXPECT_FALSE(waitFor([&] { return root != login; }, 2 * deadline));

@@ -20,7 +20,7 @@ class PasscodeTest : public LockTest
 protected:
     LoginViewController& showLogin()
     {
-        login = Storyboard::main().instantiate<LoginViewController>("loginViewController");
+        login = Storyboard::main().instantiate<LoginViewController>(Scenes::loginViewController);
         root = login;
         login->viewDidLayoutSubviews(844, 844);
         login->beginAppearance();
@@ -37,7 +37,7 @@ protected:
 
     SettingsViewController& showSettings()
     {
-        settings = Storyboard::main().instantiate<SettingsViewController>("settingsViewController");
+        settings = Storyboard::main().instantiate<SettingsViewController>(Scenes::settingsViewController);
         stack = makeController<NavigationController>(makeController<ViewController>());
         stack->beginAppearance();
         stack->pushViewController(settings, Animated::No);
@@ -310,11 +310,12 @@ TEST_F(PasscodeTest, TheTitleMakesRoomForThePushedScreensBackButton)
 {
     require(false);
     showSettings();
-    const char* const screens[] = {"versionViewController", "openSourceViewController", "OrnisLicenseViewController"};
+    const Scene<> screens[] = {Scenes::versionViewController, Scenes::openSourceViewController,
+                               Scenes::OrnisLicenseViewController};
     for (int row = 1; row <= 3; ++row) {
         std::weak_ptr<ViewController> pushed;
         Storyboard::main().registerScene(screens[row - 1],
-                                         [&pushed] {
+                                         [&pushed](NoInput) {
                                              auto screen = makeController<ViewController>();
                                              pushed = screen;
                                              return screen;

@@ -59,7 +59,7 @@ protected:
     }
     void showLock()
     {
-        const auto login = Storyboard::main().instantiate<LoginViewController>("loginViewController");
+        const auto login = Storyboard::main().instantiate<LoginViewController>(Scenes::loginViewController);
         root = login;
         login->beginAppearance();
     }
@@ -161,7 +161,7 @@ TEST_F(ResetFaultTest, ConsolesThatAreAskedMeanwhileLeaveNothing)
             corvel->setPassword(fleet.password());
             rest.addCorvel(corvel);
         }
-        const auto list = Storyboard::main().instantiate<CorvelListViewController>("corvelListView");
+        const auto list = Storyboard::main().instantiate<CorvelListViewController>(Scenes::corvelListView);
         list->loadViewIfNeeded();
         MainQueue::shared().runUntil([] { return false; }, std::chrono::milliseconds(random() % 60));
         showLock();

@@ -51,7 +51,7 @@ protected:
     }
     std::shared_ptr<LoginViewController> lockedScreen()
     {
-        auto login = Storyboard::main().instantiate<LoginViewController>("loginViewController");
+        auto login = Storyboard::main().instantiate<LoginViewController>(Scenes::loginViewController);
         root = login;
         login->beginAppearance();
         return login;

@@ -174,15 +174,26 @@ TEST_F(ControllersTest, ASheetIsReplacedResizedAndReleasedAfterItsDismissal)
 TEST_F(ControllersTest, StoryboardMakesAFreshControllerWithItsScene)
 {
     Storyboard storyboard;
+    const Scene<> plain{"plain"};
+    const Scene<std::string> named{"named"};
     storyboard.registerScene(
-        "screen", [&] { return makeController<Screen>("screen", log); }, QUrl("qrc:/screen.qml"));
-    const auto one = storyboard.instantiate<Screen>("screen");
+        plain, [&](NoInput) { return makeController<Screen>("plain", log); }, QUrl("qrc:/screen.qml"));
+    storyboard.registerScene(named,
+                             [&](const std::string& name) {
+                                 log.push_back(name);
+                                 return makeController<Screen>(name.c_str(), log);
+                             },
+                             {});
+    const auto one = storyboard.instantiate<Screen>(plain);
     ASSERT_NE(one, nullptr);
     EXPECT_EQ(one->scene(), QUrl("qrc:/screen.qml"));
-    EXPECT_NE(one, storyboard.instantiateViewController("screen"));
-    EXPECT_EQ(storyboard.instantiate<NavigationController>("screen"), nullptr);
-    EXPECT_EQ(storyboard.instantiateViewController("other"), nullptr);
-    EXPECT_FALSE(storyboard.hasScene("other"));
+    EXPECT_NE(one, storyboard.instantiateViewController(plain));
+    EXPECT_EQ(storyboard.instantiate<NavigationController>(plain), nullptr);
+    log.clear();
+    const auto other = storyboard.instantiateViewController(named, "given");
+    EXPECT_THAT(log, ElementsAre("given"));
+    EXPECT_DEATH(storyboard.instantiateViewController(Scene<>{"other"}), "no scene other");
+    EXPECT_THROW(storyboard.instantiateViewController(Scene<>{"named"}), std::bad_any_cast);
 }
 
 } // namespace lodestar

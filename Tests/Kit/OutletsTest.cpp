@@ -2,7 +2,6 @@
 #include "Kit/Core/Outlets.h"
 
 #include "Kit/Core/Menu.h"
-#include "Kit/Core/UIColor+Tessel.h"
 #include "Kit/Core/UIFont+System.h"
 #include "Platform/Queues/MainQueue.h"
 
@@ -43,7 +42,7 @@ TEST(OutletsTest, SettersTakeEffectAtOnceOnTheMainThreadAndInOrderLaterFromWorke
         label.setText("second");
         label.setText("second");
         label.setHidden(true);
-        label.setColor(UIColor::errorRed());
+        label.setState(Role::State::Error);
         indicator.startAnimating();
     });
     EXPECT_EQ(label.text(), "main");
@@ -51,7 +50,7 @@ TEST(OutletsTest, SettersTakeEffectAtOnceOnTheMainThreadAndInOrderLaterFromWorke
     EXPECT_TRUE(MainQueue::shared().runUntil([&] { return indicator.isAnimating(); }, std::chrono::seconds(5)));
     EXPECT_EQ(seen, QStringList({"main", "first", "second"}));
     EXPECT_TRUE(label.isHidden());
-    EXPECT_EQ(label.color(), UIColor::errorRed());
+    EXPECT_EQ(label.state(), Role::State::Error);
 }
 
 TEST(OutletsTest, AChangeForAnOutletThatHasGoneIsDropped)
@@ -97,7 +96,6 @@ TEST(OutletsTest, TheFaceIsTheOneRegularFaceInEveryWeight)
     EXPECT_EQ(QFontInfo(bold).family(), "Lato");
     EXPECT_FALSE(QFontInfo(bold).bold());
     EXPECT_TRUE(QFontInfo(UIFont::fontWithName("HelveticaNeue", 12)).family().startsWith("Nimbus Sans"));
-    EXPECT_EQ(UIColor::failedRed(), QColor(142, 142, 147));
 }
 
 } // namespace lodestar

@@ -1,9 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Kit/Core/IconProvider.h"
+#include "Kit/Core/Kit.h"
+#include "Kit/Core/Role.h"
+#include "Kit/Core/UIColor+Tessel.h"
 #include "KitWindow.h"
 
 #include <QColor>
 #include <QDirIterator>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <QQmlExpression>
+#include <gtest/gtest.h>
 
 #include <cmath>
 
@@ -53,12 +60,90 @@ protected:
         return value;
     }
     QColor color(const char* role) const { return theme(role).value<QColor>(); }
+    /// What a function of the theme answers for a role.
+    template <typename Named>
+    QVariant answer(const char* function, Named role) const
+    {
+        QQmlExpression call(qmlContext(m_holder.get()), m_holder.get(),
+                            QStringLiteral("theme.%1(%2)").arg(function).arg(static_cast<int>(role)));
+        const QVariant value = call.evaluate();
+        EXPECT_FALSE(call.hasError()) << call.error().toString().toStdString();
+        return value;
+    }
 
     QQmlEngine m_engine;
     std::unique_ptr<QObject> m_holder;
 };
 
 } // namespace
+
+TEST_F(ThemeTest, EveryNamedColourAndEveryRoleLooksAsSpecifiedInBothAppearances)
+{
+    const std::pair<QColor, QRgb> named[] = {
+        {UIColor::tesselLightBlue(), 0xFF71C7F4}, {UIColor::tesselLightGreen(), 0xFF7BBE31},
+        {UIColor::tesselBlue(), 0xFF133C5B},      {UIColor::selectedBlue(), 0xFF009EEB},
+        {UIColor::ornisBlue(), 0xFF00308B},       {UIColor::successGreen(), 0xFF008B11},
+        {UIColor::errorRed(), 0xFF8B0A00},        {UIColor::failedRed(), 0xFF8E8E93},
+        {UIColor::dashboardBlue(), 0xFF4274B9},   {UIColor::dashboardRed(), 0xFFE32226},
+        {UIColor::dashboardGreen(), 0xFF50B048},  {UIColor::dashboardGrey(), 0xFF919191},
+        {UIColor::dashboardYellow(), 0xFFFFC81D}, {UIColor::dashboardOrange(), 0xFFF39C12},
+    };
+    for (const auto& [color, value] : named) {
+        EXPECT_EQ(color.rgba(), value) << color.name().toStdString();
+    }
+    struct Look {
+        Role::State state;
+        const char* mark;
+        QRgb inLight;
+        QRgb inDark;
+        QRgb lone = 0; ///< of the mark without a word, where it differs
+    };
+    const Look looks[] = {
+        {Role::State::None, "", 0xFF555555, 0xFFC9D0D8},
+        {Role::State::Good, "good", 0xFF008B11, 0xFF008B11},
+        {Role::State::Off, "off", 0xFF8E8E93, 0xFF8E8E93},
+        {Role::State::Idle, "off", 0xFF66707E, 0xFF95A0AD},
+        {Role::State::Alert, "alert", 0xFFB35900, 0xFFF39C12},
+        {Role::State::Error, "error", 0xFF8B0A00, 0xFF8B0A00, 0xFFE32226},
+        {Role::State::BadgedError, "error", 0xFF66707E, 0xFF95A0AD},
+        {Role::State::Offline, "offline", 0xFF66707E, 0xFF95A0AD},
+    };
+    struct Button {
+        Role::Button role;
+        std::pair<QRgb, QRgb> inLight; ///< ground and ink
+        std::pair<QRgb, QRgb> inDark;
+    };
+    const Button buttons[] = {
+        {Role::Button::Standard, {0xFF133C5B, 0xFFFFFFFF}, {0xFF133C5B, 0xFFFFFFFF}},
+        {Role::Button::Quiet, {0xFFC3CAD3, 0xFF1A2027}, {0xFF4A5460, 0xFFECEFF3}},
+        {Role::Button::Positive, {0xFF7BBE31, 0xFF133C5B}, {0xFF7BBE31, 0xFF133C5B}},
+        {Role::Button::Favourite, {0xFF8B0A00, 0xFFFFFFFF}, {0xFF8B0A00, 0xFFFFFFFF}},
+        {Role::Button::Destructive, {0xFFE32226, 0xFFFFFFFF}, {0xFFE32226, 0xFFFFFFFF}},
+    };
+    const auto rgba = [&](const char* function, auto role) {
+        return answer(function, role).template value<QColor>().rgba();
+    };
+    for (const bool dark : {false, true}) {
+        Appearance::shared().overrideDark(dark);
+        for (const Look& look : looks) {
+            const QRgb ink = dark ? look.inDark : look.inLight;
+            EXPECT_EQ(rgba("stateInk", look.state), ink) << static_cast<int>(look.state) << dark;
+            EXPECT_EQ(rgba("loneMarkInk", look.state), look.lone != 0 ? look.lone : ink)
+                << static_cast<int>(look.state);
+            EXPECT_EQ(answer("stateMark", look.state).toString(), look.mark) << static_cast<int>(look.state);
+        }
+        for (const Button& button : buttons) {
+            EXPECT_EQ(std::pair(rgba("buttonGround", button.role), rgba("buttonInk", button.role)),
+                      dark ? button.inDark : button.inLight)
+                << static_cast<int>(button.role) << dark;
+        }
+        EXPECT_EQ(color("accent").rgba(), 0xFF009EEB);
+        EXPECT_EQ(color("accentInk").rgba(), dark ? 0xFF71C7F4 : 0xFF0072AD);
+        EXPECT_EQ(color("chartOrange").rgba(), dark ? 0xFFF39C12 : 0xFFD97A00);
+        EXPECT_EQ(color("chartGreen").rgba(), dark ? 0xFF50B048 : 0xFF008B11);
+        EXPECT_EQ(color("chartBlue").rgba(), dark ? 0xFFA9DDF8 : 0xFF00308B);
+    }
+}
 
 TEST_F(ThemeTest, TextsKeepTheirContrastInBothAppearances)
 {

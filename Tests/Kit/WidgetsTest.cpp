@@ -61,7 +61,7 @@ TEST_F(WidgetsTest, ARowSwipesByMouseAndFingerOneAtATimeAndStaysOpenOverAReload)
     EXPECT_TRUE(waitFor([&] { return reveal(window, 0) == 144; }));
     EXPECT_THAT(list->selected, IsEmpty());
 
-    list->rows[0].push_back({"new", "operating", "good", Qt::black, "", true});
+    list->rows[0].push_back({"new", "operating", Role::State::Good, "", true});
     list->rows[0][0].name = "renamed";
     list->configured.clear();
     list->tableView()->reloadData();

@@ -193,7 +193,7 @@ TEST_F(AboutTest, PagesAreSpelledOutWhereTheirPicturesCannotBeRead)
 TEST_F(AboutTest, LongTextsScrollByKeysAndStandOnlyWhereTheyAreSeen)
 {
     stage.show({390, 844}, fleet());
-    auto* const notices = stage.open<OpenSourceViewController>("openSourceViewController", {});
+    auto* const notices = stage.open<OpenSourceViewController>(Scenes::openSourceViewController, {});
     ASSERT_TRUE(stage.waitFor([&] { return notices->licenseText()->pieces().size() > 100; }));
     const QString all = notices->licenseText()->attributedText();
     for (const char* library : {"Qt Base\n", "libxml2\n", "SQLite\n", "OpenSSL\n", "Lato\n"}) {
@@ -225,10 +225,10 @@ TEST_F(AboutTest, LongTextsScrollByKeysAndStandOnlyWhereTheyAreSeen)
 
 TEST_F(AboutTest, ReleaseNotesAndAgreementReadWell)
 {
-    for (const char* scene : {"versionViewController", "OrnisLicenseViewController"}) {
+    for (const Scene<> scene : {Scenes::versionViewController, Scenes::OrnisLicenseViewController}) {
         stage.show({390, 844}, fleet());
         auto* const screen = stage.open<RichDocumentViewController>(scene, {});
-        ASSERT_TRUE(stage.waitFor([&] { return screen->webview()->rowCount({}) > 20; })) << scene;
+        ASSERT_TRUE(stage.waitFor([&] { return screen->webview()->rowCount({}) > 20; })) << scene.identifier;
         const RichTextDocument& document = screen->webview()->document();
         EXPECT_FALSE(document.truncated);
         int markers = 0;

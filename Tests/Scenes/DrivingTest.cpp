@@ -1,7 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
+#include "Kit/Core/NavigationController.h"
 #include "Tests/Scenes/SceneTest.h"
+#include "Views/Common/CorvelReceiving.h"
+#include "Views/Common/Scenes.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -281,7 +284,7 @@ TEST_F(DrivingTest, AFieldsMenuPastesAndASecretIsShownOnDemandAloneAndNeverCopie
 TEST_F(DrivingTest, AWideWindowsChoicesComeUpByThePress)
 {
     stage.show({1280, 800}, fleet());
-    stage.openList("managedSystemsView", {.corvel = demoConsole()});
+    stage.openList(Scenes::managedSystemsView, demoConsole());
     const QPoint at = centerOf(row(1));
     click(row(1));
     ASSERT_TRUE(stage.waitFor([&] { return button("System Information") != nullptr; }));

@@ -84,6 +84,11 @@ protected:
         }
         return item;
     }
+    const std::function<void(const char*)> soundLook = [this](const char* scene) {
+        ASSERT_TRUE(stage.waitFor([this] { return row(0) != nullptr && stage.items("Spinner").empty(); })) << scene;
+        stage.settle(200);
+        expectSound();
+    };
     void expectSound() const
     {
         ASSERT_FALSE(texts().empty());
@@ -179,16 +184,9 @@ TEST_P(GeometryTest, Inventory)
     const CorvelRef corvel = demoConsole();
     const XMLElement system =
         contentOf(feedOfType(*corvel, ObjectType::ManagedSystem).entries().at(2), ObjectType::ManagedSystem);
-    for (const char* scene :
-         {"corvelTasksViewController", "managedSystemsView", "managementConsoleView", "managedSystemInfo",
-          "managedSystemMenu", "logicalPartitionsView", "logicalPartitionsDetail", "viosView"}) {
-        ASSERT_NE(stage.open(scene, {.corvel = corvel, .rootXML = system}), nullptr);
-        ASSERT_TRUE(stage.waitFor([this] { return row(0) != nullptr && stage.items("Spinner").empty(); }));
-        stage.settle(200);
-        expectSound();
-        stage.list().navigationController()->pop();
-        stage.settle(200);
-    }
+    visit({corvel, system}, soundLook, Scenes::corvelTasksViewController, Scenes::managedSystemsView,
+          Scenes::managementConsoleView, Scenes::managedSystemInfo, Scenes::managedSystemMenu,
+          Scenes::logicalPartitionsView, Scenes::logicalPartitionsDetail, Scenes::viosView);
 }
 
 TEST_P(GeometryTest, EventsAndGroups)
@@ -198,14 +196,8 @@ TEST_P(GeometryTest, EventsAndGroups)
     const CorvelRef corvel = demoConsole();
     const Feed events = feedOfType(*corvel, ObjectType::ServiceableEvent);
     const XMLElement event = contentOf(events.entries().front(), ObjectType::ServiceableEvent);
-    for (const char* scene : {"serviceableEventsView", "serviceableEventsDetail", "resourceGroupsView"}) {
-        ASSERT_NE(stage.open(scene, {.corvel = corvel, .rootXML = event}), nullptr);
-        ASSERT_TRUE(stage.waitFor([this] { return row(0) != nullptr && stage.items("Spinner").empty(); }));
-        stage.settle(200);
-        expectSound();
-        stage.list().navigationController()->pop();
-        stage.settle(200);
-    }
+    visit({corvel, event}, soundLook, Scenes::serviceableEventsView, Scenes::serviceableEventsDetail,
+          Scenes::resourceGroupsView);
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, GeometryTest,

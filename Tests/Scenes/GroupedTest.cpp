@@ -12,11 +12,11 @@ namespace
 class GroupedTest : public SceneTest
 {
 protected:
-    template <typename Controller>
-    Controller* openList(std::string_view scene, SceneInputs inputs)
+    template <typename Controller, typename Input>
+    Controller* openList(Scene<Input> scene, std::type_identity_t<Input> input)
     {
         stage.show({390, 844}, fleet());
-        return &stage.openList<Controller>(scene, std::move(inputs));
+        return &stage.openList<Controller>(scene, std::move(input));
     }
     QQuickItem* swipe(int index) const { return row(index)->property("swipe").value<QQuickItem*>(); }
     double reveal(int index) const { return swipe(index)->property("reveal").toDouble(); }
@@ -34,7 +34,7 @@ protected:
 TEST_F(GroupedTest, AServersButtonsAreShownAndDoNothing)
 {
     QAccessible::setActive(true);
-    VIOSViewController* const list = openList<VIOSViewController>("viosView", {.corvel = demoConsole()});
+    VIOSViewController* const list = openList<VIOSViewController>(Scenes::viosView, demoConsole());
     const auto spoken = [](QQuickItem* item) {
         return QAccessible::queryAccessibleInterface(item)->text(QAccessible::Name);
     };
@@ -73,7 +73,7 @@ TEST_F(GroupedTest, PartitionsOpenFromTheListAndFromItsSearch)
 {
     QAccessible::setActive(true);
     LPListViewController* const list =
-        openList<LPListViewController>("logicalPartitionsView", {.corvel = demoConsole()});
+        openList<LPListViewController>(Scenes::logicalPartitionsView, {.corvel = demoConsole(), .partitionName = {}});
     EXPECT_NE(text("demo placeholder"), nullptr);
     EXPECT_EQ(spokenAs(row(1)), "scheduled-jobs, General purpose, shutting down, N210-0004");
     list->showSearchBar();
@@ -94,7 +94,7 @@ TEST_F(GroupedTest, AHeaderWithoutRowsIsStillAnEmptyList)
     // Nobody has logged on to it: no look-up answers.
     const CorvelRef corvel = demoConsole();
     corvel->setDemo(false);
-    openList<LPListViewController>("logicalPartitionsView", {.corvel = corvel, .partitionName = "elsewhere"});
+    openList<LPListViewController>(Scenes::logicalPartitionsView, {.corvel = corvel, .partitionName = "elsewhere"});
     EXPECT_NE(text("Unknown system"), nullptr);
     EXPECT_NE(text("There are no partitions here."), nullptr);
 }

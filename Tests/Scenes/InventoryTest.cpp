@@ -17,7 +17,7 @@ protected:
     MSListViewController* openSystems(const std::map<std::string, std::string>& feeds = {})
     {
         stage.show({390, 844}, fleet());
-        return &stage.openList<MSListViewController>("managedSystemsView", {.corvel = demoConsole(feeds)});
+        return &stage.openList<MSListViewController>(Scenes::managedSystemsView, demoConsole(feeds));
     }
     /// Of all rows that the table has items for, drawn or not.
     std::vector<const CellHost*> hostsIn(const TableOutlet& table) const

@@ -20,7 +20,7 @@ protected:
     void openSystems()
     {
         stage.show({390, 844}, fleet());
-        stage.openList("managedSystemsView", {.corvel = demoConsole()});
+        stage.openList(Scenes::managedSystemsView, demoConsole());
     }
 
     /// How many columns of the plot a line of that colour passes through.

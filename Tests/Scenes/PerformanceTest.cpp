@@ -17,7 +17,7 @@ protected:
     {
         stage.show(size, fleet());
         auto& performance = *stage.open<PCMViewController>(
-            "pcmDataView", {.corvel = demoConsole(), .sysName = "helios-01", .systemID = "any"});
+            Scenes::pcmDataView, {.corvel = demoConsole(), .sysName = "helios-01", .systemID = "any"});
         stage.waitFor([&] { return !performance.chartView()->isHidden(); });
         stage.settle(200);
         return performance;
@@ -55,7 +55,7 @@ TEST_F(PerformanceSceneTest, FromASystemsMenuTheTitleStandsClearOfTheWayBack)
         stage.show({width, 640}, fleet());
         const CorvelRef corvel = demoConsole();
         const auto systems = recordsOf<ManagedSystem>(feedOfType(*corvel, ObjectType::ManagedSystem));
-        stage.open("managedSystemMenu", {.corvel = corvel, .rootXML = systems.at(2).element()});
+        stage.open(Scenes::managedSystemMenu, {.corvel = corvel, .system = systems.at(2).element()});
         top()->setTitle(QStringLiteral("A managed system with a long name"));
         ASSERT_TRUE(stage.waitFor([this] { return row(0) != nullptr; }));
         stage.settle(200);

@@ -129,7 +129,7 @@ TEST_F(ReaderTest, WhatIsUnderALayerIsNeitherReadNorPressed)
         {"passcode sheet", [&] { act("Require Passcode"); }, "Back", "New passcode", "Cancel", QAccessible::Dialog},
         {"action sheet",
          [&] {
-             stage.openList("managedSystemsView", {.corvel = demoConsole()});
+             stage.openList(Scenes::managedSystemsView, demoConsole());
              act(nameOf(find("Managed Systems")->child(2)));
          },
          "Back", "System Information", "Cancel", QAccessible::PopupMenu},
@@ -203,7 +203,7 @@ TEST_F(ReaderTest, EveryKindOfControlDoesWhatAPressDoes)
     act("Back");
     EXPECT_EQ(depth(), 1);
 
-    FeedListViewController& systems = stage.openList("managedSystemsView", {.corvel = demoConsole()});
+    FeedListViewController& systems = stage.openList(Scenes::managedSystemsView, demoConsole());
     act("Search");
     ASSERT_TRUE(waitFor("Cancel"));
     type("nothing at all");
@@ -216,7 +216,7 @@ TEST_F(ReaderTest, EveryKindOfControlDoesWhatAPressDoes)
     EXPECT_EQ(depth(), 3);
 
     auto& performance = *stage.open<PCMViewController>(
-        "pcmDataView", {.corvel = demoConsole(), .sysName = "helios-01", .systemID = "any"});
+        Scenes::pcmDataView, {.corvel = demoConsole(), .sysName = "helios-01", .systemID = "any"});
     ASSERT_TRUE(waitFor("Memory"));
     act("Memory");
     EXPECT_EQ(performance.typeSegmentedControl()->selectedSegmentIndex(), 1);
@@ -247,19 +247,17 @@ TEST_F(ReaderTest, EverySceneReadsFromItsTitleDown)
     const auto rootOf = [&corvel](std::string_view type) {
         return feedOfType(*corvel, type).entries().front().path({"content", type});
     };
-    for (const char* scene :
-         {"corvelTasksViewController", "managedSystemsView", "managementConsoleView", "managedSystemInfo",
-          "managedSystemMenu", "logicalPartitionsView", "logicalPartitionsDetail", "viosView", "serviceableEventsView",
-          "serviceableEventsDetail", "resourceGroupsView", "settingsViewController"}) {
-        const bool isEvent = std::string_view(scene).starts_with("serviceable");
-        const XMLElement root = rootOf(isEvent ? ObjectType::ServiceableEvent : ObjectType::ManagedSystem);
-        ASSERT_NE(stage.open(scene, {.corvel = corvel, .rootXML = root}), nullptr);
+    const auto look = [this](const char* scene) {
         ASSERT_TRUE(stage.waitFor([this] { return stage.items("Spinner").empty(); }));
         stage.settle(200);
         expectReadable(scene);
-        stage.list().navigationController()->pop();
-        stage.settle(200);
-    }
+    };
+    visit({corvel, rootOf(ObjectType::ManagedSystem)}, look, Scenes::corvelTasksViewController,
+          Scenes::managedSystemsView, Scenes::managementConsoleView, Scenes::managedSystemInfo,
+          Scenes::managedSystemMenu, Scenes::logicalPartitionsView, Scenes::logicalPartitionsDetail, Scenes::viosView,
+          Scenes::resourceGroupsView, Scenes::settingsViewController);
+    visit({corvel, rootOf(ObjectType::ServiceableEvent)}, look, Scenes::serviceableEventsView,
+          Scenes::serviceableEventsDetail);
 }
 
 TEST_F(ReaderTest, AReaderThatGoesFromRowToRowComesToTheEndOfALongList)

@@ -72,7 +72,7 @@ TEST_F(ResourceGroupsTest, TheScreenLivesWhileItsRowsAskForTheirStates)
     QObject::connect(&pulse, &QTimer::timeout, [&] { longest = std::max(longest, since.restart()); });
     since.start();
     pulse.start(1);
-    auto* const list = stage.open<RGListViewController>("resourceGroupsView", {.corvel = corvel});
+    auto* const list = stage.open<RGListViewController>(Scenes::resourceGroupsView, corvel);
     ASSERT_TRUE(stage.waitFor([&] { return updatingRows() > 4; }));
     EXPECT_NE(text("updating..."), nullptr);
     // One row at a time, from the top, and only those that are seen.

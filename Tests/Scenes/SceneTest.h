@@ -12,6 +12,18 @@
 namespace lodestar::scenes
 {
 
+/// What any scene over the console list can be opened with.
+struct AnyInput {
+    CorvelRef corvel;
+    XMLElement root;
+
+    operator NoInput() const { return {}; }
+    operator CorvelRef() const { return corvel; }
+    operator XMLElement() const { return root; }
+    operator SystemMenuInput() const { return {corvel, root}; }
+    operator PartitionsInput() const { return {corvel, {}}; }
+};
+
 /// A stage, and hands to work it with. No test may leave a QML warning behind.
 class SceneTest : public ::testing::Test
 {
@@ -29,6 +41,18 @@ protected:
     }
     void TearDown() override { EXPECT_EQ(stage.warnings(), QStringList()); }
 
+    /// Opens the scenes one after the other and leaves each after `look`, which is told its identifier.
+    template <typename... Input>
+    void visit(const AnyInput& input, const std::function<void(const char*)>& look, Scene<Input>... scene) const
+    {
+        const auto visitOne = [&](auto each) {
+            ASSERT_NE(stage.open(each, input), nullptr);
+            look(each.identifier);
+            stage.list().navigationController()->pop();
+            stage.settle(200);
+        };
+        (visitOne(scene), ...);
+    }
     QPoint centerOf(const QQuickItem* item) const
     {
         return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();

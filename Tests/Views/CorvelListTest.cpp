@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
-#include "Kit/Core/Storyboard.h"
 #include "Kit/Core/TabBarController.h"
-#include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/UserDefaults.h"
 #include "Tests/Views/ViewsFixture.h"
 #include "Views/Common/CorvelReceiving.h"
+#include "Views/Common/Scenes.h"
 #include "Views/Corvels/CorvelListCell.h"
 #include "Views/Corvels/CorvelListViewController.h"
 #include "Views/Corvels/DeltaCorvelViewController.h"
@@ -20,13 +19,6 @@ using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
 constexpr auto listFile = "Shared/Views/Corvels/CorvelListViewController";
-
-class TasksController : public ViewController, public CorvelReceiving
-{
-public:
-    void setCorvel(CorvelRef value) override { corvel = std::move(value); }
-    CorvelRef corvel;
-};
 
 class CorvelListTest : public ViewsTest
 {
@@ -124,7 +116,7 @@ TEST_F(CorvelListTest, RowsShowSpinnersOrValues)
     const CorvelListCell good = cell(0);
     EXPECT_EQ(good.versionLabel().text, "N/A");
     EXPECT_EQ(good.statusLabel().text, "Good");
-    EXPECT_EQ(good.statusLabel().color, UIColor::successGreen());
+    EXPECT_EQ(good.statusLabel().state, Role::State::Good);
     EXPECT_EQ(good.attentionLabel().text, "2");
     EXPECT_EQ(good.eventsLabel().text, "3");
     EXPECT_FALSE(good.statusActivityIndicator().animating || good.statusLabel().hidden || good.selectionArrow().hidden);
@@ -137,13 +129,13 @@ TEST_F(CorvelListTest, RowsShowSpinnersOrValues)
     const CorvelListCell failed = cell(0);
     EXPECT_EQ(failed.versionLabel().text, "V3R2.4.0.SP1");
     EXPECT_EQ(failed.statusLabel().text, "Error");
-    EXPECT_EQ(failed.statusLabel().color, UIColor::errorRed());
+    EXPECT_EQ(failed.statusLabel().state, Role::State::Error);
     EXPECT_EQ(failed.eventsLabel().text, "0");
 
     corvel->isOnline = false;
     const CorvelListCell offline = cell(0);
     EXPECT_EQ(offline.statusLabel().text, "Offline");
-    EXPECT_EQ(offline.statusLabel().color, UIColor::grayColor());
+    EXPECT_EQ(offline.statusLabel().state, Role::State::Offline);
     EXPECT_TRUE(offline.selectionArrow().hidden);
     EXPECT_FALSE(offline.highlights() || offline.statusLabel().hidden);
     EXPECT_EQ(offline.attentionLabel().text, "2");
@@ -151,9 +143,9 @@ TEST_F(CorvelListTest, RowsShowSpinnersOrValues)
     const QList<SwipeButton>& buttons = offline.rightButtons();
     ASSERT_EQ(buttons.size(), 2);
     EXPECT_EQ(buttons[0].title, "Delete");
-    EXPECT_EQ(buttons[0].backgroundColor, UIColor::redColor());
+    EXPECT_EQ(buttons[0].role, Role::Button::Destructive);
     EXPECT_EQ(buttons[1].title, "Edit");
-    EXPECT_EQ(buttons[1].backgroundColor, UIColor::lightGrayColor());
+    EXPECT_EQ(buttons[1].role, Role::Button::Quiet);
 }
 
 TEST_F(CorvelListTest, PullSendsEveryRowBackToItsSpinnersAndFetchesAnew)
@@ -174,32 +166,33 @@ TEST_F(CorvelListTest, PullSendsEveryRowBackToItsSpinnersAndFetchesAnew)
 
 TEST_F(CorvelListTest, OnlyAFetchedOnlineConsoleOpensItsOverview)
 {
-    std::shared_ptr<TasksController> tasks;
+    std::vector<CorvelRef> opened;
     const CorvelRef corvel = addCorvel("Demo", "127.0.0.1", true);
     load();
     ASSERT_TRUE(runUntil([&] { return corvel->completedFetch.load(); }));
     std::vector<int> deselected;
     QObject::connect(list->tableView(), &TableOutlet::deselected, [&](int row) { deselected.push_back(row); });
-    // No such scene yet: the row only goes back to its look at rest.
-    list->tableView()->select(0);
-    EXPECT_EQ(navigation->depth(), 1);
-    EXPECT_THAT(deselected, ElementsAre(0));
-
     Storyboard::main().registerScene(
-        "corvelTasksViewController", [&] { return tasks = makeController<TasksController>(); }, QUrl());
+        Scenes::corvelTasksViewController,
+        [&](CorvelRef input) {
+            opened.push_back(std::move(input));
+            return makeController<ViewController>();
+        },
+        QUrl());
     for (const auto& [completed, online] : {std::pair{false, true}, std::pair{true, false}}) {
         corvel->completedFetch = completed;
         corvel->isOnline = online;
         list->tableView()->select(0);
         EXPECT_EQ(navigation->depth(), 1);
-        EXPECT_EQ(deselected.size(), 1U);
+        EXPECT_THAT(deselected, IsEmpty());
     }
     corvel->completedFetch = corvel->isOnline = true;
     list->tableView()->select(0);
-    EXPECT_EQ(navigation->topViewController(), tasks.get());
-    EXPECT_EQ(tasks->corvel, corvel);
-    EXPECT_THAT(deselected, ElementsAre(0, 0));
+    EXPECT_EQ(navigation->depth(), 2);
+    EXPECT_THAT(opened, ElementsAre(corvel));
+    EXPECT_THAT(deselected, ElementsAre(0));
 }
+
 TEST_F(CorvelListTest, DeleteTakesTheRecordItsKeyAndItsRow)
 {
     addCorvel("Harbour A", "a.example", true);

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
-#include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/UserDefaults.h"
 #include "Tests/Views/ViewsFixture.h"
 #include "Views/Corvels/DeltaCorvelViewController.h"
@@ -47,7 +46,7 @@ protected:
         }
         return enabled;
     }
-    bool hasFailed() const { return editor->statusKind() == DeltaCorvelViewController::StatusKind::Failure; }
+    bool hasFailed() const { return editor->statusLabel()->state() == Role::State::Error; }
     static std::size_t insertedRecords()
     {
         return StoreStack::shared().managedObjectContext().fetchAll(Corvel::entityName).value().size();
@@ -94,7 +93,7 @@ TEST_F(DeltaCorvelTest, EveryFieldIsNeededAndTheFieldsComeBackAfterTwoSeconds)
         fill(name, address, username, password);
         editor->saveCorvel();
         EXPECT_EQ(editor->statusLabel()->text(), "Please enter all fields");
-        EXPECT_EQ(editor->statusLabel()->color(), UIColor::errorRed());
+        EXPECT_EQ(editor->statusLabel()->state(), Role::State::Error);
         EXPECT_THAT(takeNotifications(), ElementsAre("StatusWillShow"));
         EXPECT_FALSE(fieldsEnabled());
     }
@@ -133,7 +132,7 @@ TEST_F(DeltaCorvelTest, AFailedLogonLeavesARecordThatTheNextSaveReusesAndCancelD
     fill("New", nobody, "u", "p");
     editor->saveCorvel();
     EXPECT_EQ(editor->statusLabel()->text(), "verifying...");
-    EXPECT_EQ(editor->statusLabel()->color(), UIColor::darkGrayColor());
+    EXPECT_EQ(editor->statusLabel()->state(), Role::State::None);
     EXPECT_TRUE(editor->isBusy());
     editor->saveCorvel(); // does nothing while the first is under way
     ASSERT_TRUE(runUntil([&] { return hasFailed(); }));

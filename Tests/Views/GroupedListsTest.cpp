@@ -2,7 +2,6 @@
 #include "Feedback/VireoLogger.h"
 #include "Fleet/Registry.h"
 #include "Inventory/ManagedSystem.h"
-#include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Tests/Views/ListFixture.h"
 #include "Views/LogicalPartitions/LPDetailViewController.h"
@@ -90,15 +89,11 @@ TEST_F(GroupedListsTest, PartitionsShowTheirStateByExactWording)
                                 entry("LogicalPartition", named("two", "not activated")) +
                                 entry("LogicalPartition", named("three", "error")) +
                                 entry("LogicalPartition", named("four", "Running")) + entry("LogicalPartition", ""));
-    const auto expectState = [&](int row, const QColor& color, const char* mark) {
-        EXPECT_EQ(cell(*list, 0, row).stateLabel().color, color) << row;
-        EXPECT_EQ(cell(*list, 0, row).stateMark(), mark) << row;
-    };
-    expectState(0, QColor(0, 139, 17), "good");
-    expectState(1, QColor(142, 142, 147), "off");
-    expectState(2, QColor(139, 10, 0), "error");
-    expectState(3, UIColor::orangeColor(), "alert");
-    expectState(4, UIColor::orangeColor(), "alert");
+    const Role::State states[] = {Role::State::Good, Role::State::Off, Role::State::Error, Role::State::Alert,
+                                  Role::State::Alert};
+    for (int row = 0; row < 5; ++row) {
+        EXPECT_EQ(cell(*list, 0, row).stateLabel().state, states[row]) << row;
+    }
     EXPECT_EQ(cell(*list, 0, 0).accessibleText(), "one, Dedicated, running, N140-0020");
     EXPECT_EQ(cell(*list, 0, 4).accessibleText(), "");
     EXPECT_EQ(list->tableView()->rowHeight(), 50);
@@ -110,10 +105,12 @@ TEST_F(GroupedListsTest, ServersUncoverButtonsByTheirState)
         "VirtualIOServer",
         entry("VirtualIOServer", named("a", "not activated")) +
             entry("VirtualIOServer", named("b", "Not activated") + "<ReferenceCode>x</ReferenceCode>"));
-    EXPECT_THAT(cell(*list, 0, 0).leftButtons(), ElementsAre(SwipeButton{"", QColor(123, 190, 49), "check", "Check"}));
-    EXPECT_THAT(cell(*list, 0, 1).leftButtons(), ElementsAre(SwipeButton{"", QColor(19, 60, 91), "check", "Check"},
-                                                             SwipeButton{"", QColor(139, 10, 0), "fav", "Favourite"}));
-    EXPECT_EQ(cell(*list, 0, 1).stateLabel().color, UIColor::orangeColor());
+    EXPECT_THAT(cell(*list, 0, 0).leftButtons(),
+                ElementsAre(SwipeButton{"", Role::Button::Positive, "check", "Check"}));
+    EXPECT_THAT(cell(*list, 0, 1).leftButtons(),
+                ElementsAre(SwipeButton{"", Role::Button::Standard, "check", "Check"},
+                            SwipeButton{"", Role::Button::Favourite, "fav", "Favourite"}));
+    EXPECT_EQ(cell(*list, 0, 1).stateLabel().state, Role::State::Alert);
 }
 
 TEST_F(GroupedListsTest, ADemonstrationConsoleShowsAllItsPartitionsInOneGroup)
@@ -325,7 +322,7 @@ TEST_F(GroupingTest, WithoutASystemsNamePartitionsAreKeptAndServersLeftOut)
 
 TEST_F(GroupingTest, SearchResultsGoByTheirOwnGroupsUnderTheTitlesOfAll)
 {
-    registerScenes({"logicalPartitionsDetail"});
+    registerScenes(Scenes::logicalPartitionsDetail);
     store("LogicalPartition", partition(0, named("web")) + partition(1, named("LPAR01")) + partition(1, named("mail")) +
                                   partition(2, named("MyLpar2")));
     const auto list = openLoaded<LPListViewController>();
@@ -338,11 +335,11 @@ TEST_F(GroupingTest, SearchResultsGoByTheirOwnGroupsUnderTheTitlesOfAll)
                      [&](int row) { deselected.push_back(row); });
     list->searchResultsTableView()->select(3);
     ASSERT_EQ(openedScene, "logicalPartitionsDetail");
-    EXPECT_EQ(opened->inputs.rootXML.child("PartitionName").text(), "MyLpar2");
+    EXPECT_EQ(input<XMLElement>().child("PartitionName").text(), "MyLpar2");
     EXPECT_THAT(deselected, ElementsAre(3));
     goBack();
     list->didSelectRowAtIndexPath(Main, {1, 1});
-    EXPECT_EQ(opened->inputs.rootXML.child("PartitionName").text(), "mail");
+    EXPECT_EQ(input<XMLElement>().child("PartitionName").text(), "mail");
     goBack();
 
     // A drawn row may be tapped after its list went.
@@ -353,7 +350,7 @@ TEST_F(GroupingTest, SearchResultsGoByTheirOwnGroupsUnderTheTitlesOfAll)
 
 TEST_F(GroupingTest, ANarrowedListCountsItsSystemAndDrawsTheFirst)
 {
-    registerScenes({"logicalPartitionsDetail"});
+    registerScenes(Scenes::logicalPartitionsDetail);
     store("LogicalPartition", partition(0, named("first-1")) + partition(1, named("own-1")) +
                                   partition(0, named("first-2")) + partition(1, named("own-2")) +
                                   partition(1, named("own-3")));
@@ -363,7 +360,7 @@ TEST_F(GroupingTest, ANarrowedListCountsItsSystemAndDrawsTheFirst)
     EXPECT_THAT(names(*list), ElementsAre(QStringList({"first-1", "first-2", "own-3"})));
     for (const auto& [row, name] : {std::pair(0, "first-1"), std::pair(2, "own-3")}) {
         list->didSelectRowAtIndexPath(Main, {0, row});
-        EXPECT_EQ(opened->inputs.rootXML.child("PartitionName").text(), name);
+        EXPECT_EQ(input<XMLElement>().child("PartitionName").text(), name);
         goBack();
     }
     searchFor(*list, "-2");

@@ -2,32 +2,16 @@
 #pragma once
 
 #include "Controllers/REST/RESTHandler.h"
-#include "Kit/Core/Storyboard.h"
 #include "Platform/URLLoading/ServerTrust.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Views/ViewsFixture.h"
-#include "Views/Common/CorvelReceiving.h"
 #include "Views/Common/FeedListViewController.h"
-#include "Views/Common/SceneInputs.h"
+#include "Views/Common/Scenes.h"
+
+#include <any>
 
 namespace lodestar::testing
 {
-
-/// A scene that stands where another screen will, and keeps what it was given.
-class ReceivingScene : public ViewController,
-                       public CorvelReceiving,
-                       public RootXMLReceiving,
-                       public PartitionNarrowing,
-                       public PerformanceReceiving
-{
-public:
-    void setCorvel(CorvelRef corvel) override { inputs.corvel = std::move(corvel); }
-    void setRootXML(XMLElement rootXML) override { inputs.rootXML = std::move(rootXML); }
-    void setPartitionName(std::optional<std::string> name) override { inputs.partitionName = std::move(name); }
-    void setSysName(std::optional<std::string> name) override { inputs.sysName = std::move(name); }
-    void setSystemID(std::optional<std::string> systemID) override { inputs.systemID = std::move(systemID); }
-    SceneInputs inputs;
-};
 
 /// A feed's entry.
 inline std::string entry(const std::string& type, const std::string& inner)
@@ -62,7 +46,7 @@ class ListTest : public ViewsTest
 protected:
     void TearDown() override
     {
-        opened.reset();
+        openedWith.reset();
         navigation.reset();
         ViewsTest::TearDown();
     }
@@ -83,17 +67,25 @@ protected:
         screen->setCorvel(corvel);
         return push(screen);
     }
-    void registerScenes(const std::vector<std::string>& identifiers)
+    /// Bare screens stand where these scenes will.
+    template <typename... Input>
+    void registerScenes(Scene<Input>... scene)
     {
-        for (const std::string& identifier : identifiers) {
-            Storyboard::main().registerScene(
-                identifier,
-                [this, identifier] {
-                    openedScene = identifier;
-                    return opened = makeController<ReceivingScene>();
-                },
-                QUrl());
-        }
+        (Storyboard::main().registerScene(
+             scene,
+             [this, scene](Input input) {
+                 openedScene = scene.identifier;
+                 openedWith = std::move(input);
+                 return makeController<ViewController>();
+             },
+             QUrl()),
+         ...);
+    }
+    /// What the last of those scenes was opened with.
+    template <typename Input>
+    Input input() const
+    {
+        return std::any_cast<Input>(openedWith);
     }
     /// Back to the screen, to open the next.
     void goBack() const { navigation->popViewController(Animated::No); }
@@ -126,7 +118,7 @@ protected:
     }
 
     std::shared_ptr<NavigationController> navigation;
-    std::shared_ptr<ReceivingScene> opened;
+    std::any openedWith;
     std::string openedScene;
 };
 

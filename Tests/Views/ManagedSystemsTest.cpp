@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Kit/Core/UIColor+Tessel.h"
 #include "Tests/Views/ListFixture.h"
 #include "Views/ManagedSystems/MSListCell.h"
 #include "Views/ManagedSystems/MSListViewController.h"
@@ -67,20 +66,19 @@ TEST_F(ManagedSystemsTest, RowsShowStateAndBadgesByExactWording)
                    "<entry><content><ManagedSystem/></content></entry>");
     const auto list = openList(corvel);
     ASSERT_TRUE(hasContent(*list));
-    const auto expectRow = [&](int row, const char* badge, double left, const QColor& color, const char* mark) {
+    const auto expectRow = [&](int row, const char* badge, double left, Role::State state) {
         const MSListCell shown = cell(*list, row);
         EXPECT_EQ(shown.statusImage().imageName, badge) << row;
         EXPECT_EQ(shown.statusImage().hidden, *badge == 0) << row;
         EXPECT_EQ(shown.nameLeftConstraint(), left) << row;
-        EXPECT_EQ(shown.statusLabel().color, color) << row;
-        EXPECT_EQ(shown.statusMark(), mark) << row;
+        EXPECT_EQ(shown.statusLabel().state, state) << row;
     };
-    expectRow(0, "", 20, UIColor::successGreen(), "good");
-    expectRow(1, "ms_lederror", 45, UIColor::successGreen(), "good");
-    expectRow(2, "ms_stateerror", 45, UIColor::grayColor(), "error");
-    expectRow(3, "ms_botherror", 45, UIColor::grayColor(), "error");
-    expectRow(4, "", 20, UIColor::grayColor(), "off");
-    expectRow(5, "", 20, UIColor::grayColor(), "off");
+    expectRow(0, "", 20, Role::State::Good);
+    expectRow(1, "ms_lederror", 45, Role::State::Good);
+    expectRow(2, "ms_stateerror", 45, Role::State::BadgedError);
+    expectRow(3, "ms_botherror", 45, Role::State::BadgedError);
+    expectRow(4, "", 20, Role::State::Idle);
+    expectRow(5, "", 20, Role::State::Idle);
     EXPECT_EQ(cell(*list, 4).statusLabel().text, "Operating");
     EXPECT_EQ(cell(*list, 1).accessibleText(), "lamp, operating, attention LED on");
     EXPECT_EQ(cell(*list, 2).accessibleText(), "broken, error");
@@ -154,7 +152,8 @@ TEST_F(ManagedSystemsTest, TheSheetOpensTheSystemOfTheTableThatWasTapped)
     const CorvelRef corvel =
         addConsole(system("first", "operating") +
                    system("second", "operating", "false", "<Metadata><Atom><AtomID>id-2</AtomID></Atom></Metadata>"));
-    registerScenes({"managedSystemInfo", "logicalPartitionsView"});
+    registerScenes(Scenes::managedSystemInfo, Scenes::logicalPartitionsView, Scenes::pcmDataView,
+                   Scenes::managedSystemMenu);
     const auto list = openList(corvel);
     ASSERT_TRUE(hasContent(*list));
     std::vector<int> deselected;
@@ -170,33 +169,30 @@ TEST_F(ManagedSystemsTest, TheSheetOpensTheSystemOfTheTableThatWasTapped)
     EXPECT_EQ(list->actionSheet()->title(), "Managed System");
     ASSERT_EQ(list->actionSheet()->choices().size(), 4);
     EXPECT_EQ(list->actionSheet()->choices()[1].value<MenuChoice>().title, "Performance Monitoring");
-    EXPECT_FALSE(list->actionSheet()->choices()[1].value<MenuChoice>().enabled);
     EXPECT_THAT(deselected, ElementsAre(0));
-    list->actionSheet()->choose(1);
-    EXPECT_TRUE(list->actionSheet()->isPresented());
     list->actionSheet()->choose(3);
     EXPECT_EQ(navigation->depth(), 2);
 
     choose(0);
     EXPECT_EQ(openedScene, "managedSystemInfo");
-    EXPECT_EQ(opened->inputs.rootXML.child("SystemName").text(), "second");
+    EXPECT_EQ(input<XMLElement>().child("SystemName").text(), "second");
     goBack();
     choose(2);
     EXPECT_EQ(openedScene, "logicalPartitionsView");
-    EXPECT_EQ(opened->inputs.corvel, corvel);
-    EXPECT_EQ(opened->inputs.partitionName, "second");
+    EXPECT_EQ(input<PartitionsInput>().corvel, corvel);
+    EXPECT_EQ(input<PartitionsInput>().partitionName, "second");
     goBack();
-    registerScenes({"pcmDataView", "managedSystemMenu"});
     choose(1);
-    EXPECT_EQ(opened->inputs.corvel, corvel);
-    EXPECT_EQ(opened->inputs.sysName, "second");
-    EXPECT_EQ(opened->inputs.systemID, "id-2");
+    EXPECT_EQ(input<PerformanceInput>().corvel, corvel);
+    EXPECT_EQ(input<PerformanceInput>().sysName, "second");
+    EXPECT_EQ(input<PerformanceInput>().systemID, "id-2");
     goBack();
 
     ASSERT_EQ(cell(*list, 0).rightButtons().size(), 1);
     EXPECT_TRUE(list->swipeTableCell(false, 0, 0));
     EXPECT_EQ(openedScene, "managedSystemMenu");
-    EXPECT_EQ(opened->inputs.rootXML.child("SystemName").text(), "first");
+    EXPECT_EQ(input<SystemMenuInput>().corvel, corvel);
+    EXPECT_EQ(input<SystemMenuInput>().system.child("SystemName").text(), "first");
     goBack();
 
     // The list goes while the sheet is up.

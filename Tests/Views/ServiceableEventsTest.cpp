@@ -70,7 +70,7 @@ TEST_F(ServiceableEventsTest, EventsAreListedInTheOrderOfTheFeed)
 
 TEST_F(ServiceableEventsTest, ASearchResultOpensTheEventAtItsRowOfTheWholeFeed)
 {
-    registerScenes({"serviceableEventsDetail"});
+    registerScenes(Scenes::serviceableEventsDetail);
     const auto list =
         open<SEListViewController>(addConsole(event("7", "Pending approval", "1") + event("1042", "Approved", "2") +
                                               otherEntry + event("1043", "Not approved", "3")));
@@ -88,7 +88,7 @@ TEST_F(ServiceableEventsTest, ASearchResultOpensTheEventAtItsRowOfTheWholeFeed)
 
     list->searchResultsTableView()->select(0);
     EXPECT_EQ(openedScene, "serviceableEventsDetail");
-    EXPECT_EQ(opened->inputs.rootXML.child("problemNumber").text(), "7");
+    EXPECT_EQ(input<XMLElement>().child("problemNumber").text(), "7");
     EXPECT_THAT(deselected, ElementsAre(0));
     goBack();
     // The third entry is no event.

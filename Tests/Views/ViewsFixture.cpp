@@ -4,10 +4,10 @@
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
-#include "Kit/Core/Storyboard.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/Resources.h"
 #include "Platform/UserDefaults.h"
+#include "Views/Common/Scenes.h"
 #include "Views/Corvels/DeltaCorvelViewController.h"
 
 #include <QGuiApplication>
@@ -63,7 +63,14 @@ void ViewsTest::SetUp()
     RESTHandler::sharedInstance().setCorvelList({});
     Storyboard::main() = Storyboard();
     Storyboard::main().registerScene(
-        "deltaCorvel", [] { return makeController<DeltaCorvelViewController>(); }, QUrl());
+        Scenes::deltaCorvel,
+        [](const EditorInput& input) {
+            auto editor = makeController<DeltaCorvelViewController>();
+            editor->setCorvel(input.corvel);
+            editor->setParentList(input.parentList);
+            return editor;
+        },
+        QUrl());
     m_listener = VireoLogger::addListener([this](const VireoLogger::Entry& entry) {
         const std::lock_guard lock(m_mutex);
         m_lines.push_back({entry.level, entry.tag, entry.line, std::string(entry.fileName), std::string(entry.method),

@@ -1,22 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Gallery.h"
 
-#include "Kit/Core/UIColor+Tessel.h"
-
 namespace lodestar
 {
 
 GalleryController::GalleryController()
 {
-    const QColor good = UIColor::successGreen();
-    const QColor grey = UIColor::grayColor();
-    rows[0] = {{"helios-01", "operating", "good", good, ""},
-               {"helios-02", "operating", "good", good, "ms_lederror"},
-               {"helios-03", "error", "error", UIColor::errorRed(), "ms_stateerror"},
-               {"helios-04", "incomplete", "alert", UIColor::orangeColor(), "ms_botherror"},
-               {"atlas-ledger-archive-west-cold-storage-02", "standby", "off", grey, ""}};
-    rows[1] = {{"borealis-01", "not activated", "off", UIColor::failedRed(), ""},
-               {"borealis-02", "Offline", "offline", grey, "", false}};
+    rows[0] = {{"helios-01", "operating", Role::State::Good, ""},
+               {"helios-02", "operating", Role::State::Good, "ms_lederror"},
+               {"helios-03", "error", Role::State::Error, "ms_stateerror"},
+               {"helios-04", "incomplete", Role::State::Alert, "ms_botherror"},
+               {"atlas-ledger-archive-west-cold-storage-02", "standby", Role::State::Idle, ""}};
+    rows[1] = {{"borealis-01", "not activated", Role::State::Off, ""},
+               {"borealis-02", "Offline", Role::State::Offline, "", false}};
 }
 
 void GalleryController::viewDidLoad()
@@ -26,7 +22,7 @@ void GalleryController::viewDidLoad()
     m_tableView.setRowHeight(50);
     m_tableView.reloadData();
     m_status.setText(QStringLiteral("Please enter all fields"));
-    m_status.setColor(UIColor::errorRed());
+    m_status.setState(Role::State::Error);
     m_nameField.setText(QStringLiteral("Harbour C"));
     m_userField.setText(QStringLiteral("oversight"));
     m_userField.setEnabled(false);

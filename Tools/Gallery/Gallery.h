@@ -14,16 +14,14 @@ struct GalleryCell {
     Q_GADGET
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(QString state MEMBER state)
-    Q_PROPERTY(QString mark MEMBER mark)
-    Q_PROPERTY(QColor color MEMBER color)
+    Q_PROPERTY(lodestar::Role::State role MEMBER role)
     Q_PROPERTY(QString badge MEMBER badge)
     Q_PROPERTY(bool online MEMBER online)
 
 public:
     QString name;
     QString state;
-    QString mark;
-    QColor color;
+    Role::State role;
     QString badge;
     bool online = true;
 };

@@ -138,10 +138,9 @@ Rectangle {
                     width: parent.width
 
                     Repeater {
-                        model: [["operating", "good", Theme.successGreen], ["running", "good", Theme.successGreen],
-                                ["not activated", "off", Theme.failedRed], ["error", "error", Theme.errorRed],
-                                ["starting", "alert", Theme.systemOrange], ["standby", "off", Theme.ink3],
-                                ["Offline", "offline", Theme.ink3]]
+                        model: [["operating", Role.State.Good], ["running", Role.State.Good], ["not activated", Role.State.Off],
+                                ["error", Role.State.Error], ["starting", Role.State.Alert], ["standby", Role.State.Idle],
+                                ["Offline", Role.State.Offline]]
 
                         Item {
                             id: sample
@@ -153,8 +152,7 @@ Rectangle {
 
                             StateWord {
                                 word: sample.modelData[0]
-                                mark: sample.modelData[1]
-                                color: sample.modelData[2]
+                                role: sample.modelData[1]
                                 markLeads: true
                                 anchors.left: parent.left
                                 anchors.leftMargin: 8
@@ -339,22 +337,22 @@ Rectangle {
                     SwipeCell {
                         width: parent.width
                         height: 50
-                        buttons: [{"title": "Delete", "backgroundColor": "#E32226"}, {"title": "Edit", "backgroundColor": "#C3CAD3"}]
+                        buttons: [{"title": "Delete", "role": Role.Button.Destructive}, {"title": "Edit", "role": Role.Button.Quiet}]
                         reveal: 144
                         Label { text: "Uplands Colocation"; x: 20; anchors.verticalCenter: parent.verticalCenter }
                     }
                     SwipeCell {
                         width: parent.width
                         height: 50
-                        leadingButtons: [{"title": "Good", "backgroundColor": "#133C5B", "imageName": "check"},
-                                         {"title": "Favourite", "backgroundColor": "#8B0A00", "imageName": "fav"}]
+                        leadingButtons: [{"title": "Good", "role": Role.Button.Standard, "imageName": "check"},
+                                         {"title": "Favourite", "role": Role.Button.Favourite, "imageName": "fav"}]
                         reveal: -144
                         Label { text: "vios-harbour-2a"; x: 20; anchors.verticalCenter: parent.verticalCenter }
                     }
                     SwipeCell {
                         width: parent.width
                         height: 50
-                        leadingButtons: [{"title": "Good", "backgroundColor": "#7BBE31", "imageName": "check"}]
+                        leadingButtons: [{"title": "Good", "role": Role.Button.Positive, "imageName": "check"}]
                         reveal: -72
                         Label { text: "vios-harbour-3b"; x: 20; anchors.verticalCenter: parent.verticalCenter }
                     }

@@ -11,8 +11,8 @@ TableCell {
 
     accessibleText: cell.cell.name + ", " + cell.cell.state
     selectable: cell.cell.online
-    swipeButtons: [{"title": "Delete", "backgroundColor": Theme.systemRed}, {"title": "Edit", "backgroundColor": "#C3CAD3"}]
-    leadingSwipeButtons: cell.cell.badge === "" ? [] : [{"title": "Good", "backgroundColor": "#133C5B", "imageName": "check"}]
+    swipeButtons: [{"title": "Delete", "role": Role.Button.Destructive}, {"title": "Edit", "role": Role.Button.Quiet}]
+    leadingSwipeButtons: cell.cell.badge === "" ? [] : [{"title": "Good", "role": Role.Button.Standard, "imageName": "check"}]
     implicitHeight: stacked ? name.implicitHeight + state.implicitHeight + 20 : 0
 
     Icon {
@@ -42,8 +42,7 @@ TableCell {
         id: state
 
         word: cell.cell.state
-        mark: cell.cell.mark
-        color: cell.cell.color
+        role: cell.cell.role
         markLeads: cell.stacked
         x: cell.stacked ? (Theme.mirrored ? name.x + name.width - width : name.x)
                         : Theme.mirrored ? 15 : parent.width - width - 15

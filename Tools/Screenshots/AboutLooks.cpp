@@ -7,12 +7,12 @@ namespace lodestar::scenes
 namespace
 {
 
-std::function<void(SceneStage&)> opening(const char* scene)
+std::function<void(SceneStage&)> opening(Scene<> scene)
 {
     return [scene](SceneStage& stage) { stage.open(scene, {}); };
 }
 
-std::function<void(SceneStage&)> openingAtEnd(const char* scene)
+std::function<void(SceneStage&)> openingAtEnd(Scene<> scene)
 {
     return [scene](SceneStage& stage) {
         stage.open(scene, {});
@@ -40,11 +40,11 @@ std::function<void(SceneStage&)> tourAt(int page)
 std::vector<Look> aboutLooks()
 {
     return {
-        {"release-notes", fleet(), opening("versionViewController"), true},
-        {"release-notes-end", fleet(), openingAtEnd("versionViewController")},
-        {"license-agreement", fleet(), opening("OrnisLicenseViewController"), true},
-        {"open-source-licenses", fleet(), opening("openSourceViewController"), true},
-        {"open-source-licenses-end", fleet(), openingAtEnd("openSourceViewController")},
+        {"release-notes", fleet(), opening(Scenes::versionViewController), true},
+        {"release-notes-end", fleet(), openingAtEnd(Scenes::versionViewController)},
+        {"license-agreement", fleet(), opening(Scenes::OrnisLicenseViewController), true},
+        {"open-source-licenses", fleet(), opening(Scenes::openSourceViewController), true},
+        {"open-source-licenses-end", fleet(), openingAtEnd(Scenes::openSourceViewController)},
         {"intro-tour", fleet(), tourAt(0), true},
         {"intro-tour-last", fleet(), tourAt(5)},
     };

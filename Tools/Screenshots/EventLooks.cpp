@@ -8,13 +8,13 @@ namespace lodestar::scenes
 namespace
 {
 
-std::function<void(SceneStage&)> opening(const char* scene, const std::map<std::string, std::string>& feeds = {})
+std::function<void(SceneStage&)> opening(Scene<CorvelRef> scene, const std::map<std::string, std::string>& feeds = {})
 {
-    return [scene, feeds](SceneStage& stage) { stage.openList(scene, {.corvel = demoConsole(feeds)}); };
+    return [scene, feeds](SceneStage& stage) { stage.openList(scene, demoConsole(feeds)); };
 }
 
-constexpr auto eventsScene = "serviceableEventsView";
-constexpr auto groupsScene = "resourceGroupsView";
+constexpr auto eventsScene = Scenes::serviceableEventsView;
+constexpr auto groupsScene = Scenes::resourceGroupsView;
 
 std::string longEvents()
 {
@@ -50,19 +50,17 @@ std::vector<Look> eventLooks()
         {"serviceable-events-failed", fleet(), opening(eventsScene, {{"ServiceableEvent", ""}})},
         {"serviceable-events-empty", fleet(), opening(eventsScene, {{"ServiceableEvent", "<feed/>"}})},
         {"serviceable-events-search", fleet(),
-         [](SceneStage& stage) { search(stage.openList(eventsScene, {.corvel = demoConsole()}), "pending"); }, true},
-        {"event-detail", fleet(),
-         [](SceneStage& stage) { stage.open("serviceableEventsDetail", {.rootXML = demoEvent(0)}); }, true},
+         [](SceneStage& stage) { search(stage.openList(eventsScene, demoConsole()), "pending"); }, true},
+        {"event-detail", fleet(), [](SceneStage& stage) { stage.open(Scenes::serviceableEventsDetail, demoEvent(0)); },
+         true},
         {"event-detail-units", fleet(),
          [](SceneStage& stage) {
-             stage.open("serviceableEventsDetail", {.rootXML = demoEvent(0)});
+             stage.open(Scenes::serviceableEventsDetail, demoEvent(0));
              scrollToEnd(stage);
          },
          true},
         {"event-detail-bare", fleet(),
-         [](SceneStage& stage) {
-             stage.open("serviceableEventsDetail", {.rootXML = XMLElement::parse("<e/>").value()});
-         }},
+         [](SceneStage& stage) { stage.open(Scenes::serviceableEventsDetail, XMLElement::parse("<e/>").value()); }},
     };
 }
 
@@ -102,11 +100,11 @@ std::vector<Look> groupLooks()
 {
     return {
         {"resource-groups", fleet(),
-         [](SceneStage& stage) { stage.openList(groupsScene, {.corvel = simulatedConsole(stage, console())}); }, true},
+         [](SceneStage& stage) { stage.openList(groupsScene, simulatedConsole(stage, console())); }, true},
         {"resource-groups-long", fleet(),
          [](SceneStage& stage) {
              const CorvelRef corvel = simulatedConsole(stage, console());
-             FeedListViewController& list = stage.openList(groupsScene, {.corvel = corvel});
+             FeedListViewController& list = stage.openList(groupsScene, corvel);
              console().setFeed(0, "Group", longGroups(feedOfType(*corvel, ObjectType::Group)));
              const auto fetched = list.fetchNewRESTData();
              stage.waitFor([&] { return !fetched.isPending(); });

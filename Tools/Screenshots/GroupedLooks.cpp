@@ -26,13 +26,13 @@ simulator::SimulatorProcess& simulated()
 
 FeedListViewController& openPartitions(SceneStage& stage, std::optional<std::string> system = {})
 {
-    return stage.openList("logicalPartitionsView",
+    return stage.openList(Scenes::logicalPartitionsView,
                           {.corvel = simulatedConsole(stage, simulated()), .partitionName = std::move(system)});
 }
 
 FeedListViewController& openServers(SceneStage& stage)
 {
-    return stage.openList("viosView", {.corvel = simulatedConsole(stage, simulated())});
+    return stage.openList(Scenes::viosView, simulatedConsole(stage, simulated()));
 }
 
 /// A feed of partitions with names too long for any row. The console does not know their managed system.
@@ -74,12 +74,14 @@ std::vector<Look> partitionLooks()
          }},
         {"partitions-narrowed-empty", fleet(), [](SceneStage& stage) { openPartitions(stage, "elsewhere"); }},
         {"partitions-demo", fleet(),
-         [](SceneStage& stage) { stage.openList("logicalPartitionsView", {.corvel = demoConsole()}); }},
+         [](SceneStage& stage) {
+             stage.openList(Scenes::logicalPartitionsView, {.corvel = demoConsole(), .partitionName = {}});
+         }},
         {"partitions-long-names", fleet(),
          [](SceneStage& stage) {
              const CorvelRef corvel = simulatedConsole(stage, simulated());
              simulated().setFeed(0, "LogicalPartition", longNamedPartitions(corvel));
-             stage.openList("logicalPartitionsView", {.corvel = corvel});
+             stage.openList(Scenes::logicalPartitionsView, {.corvel = corvel, .partitionName = {}});
              simulated().resetFeed(0, "LogicalPartition");
          },
          true},
@@ -91,12 +93,14 @@ std::vector<Look> partitionLooks()
          }},
         {"partitions-failed", fleet(),
          [](SceneStage& stage) {
-             stage.openList("logicalPartitionsView", {.corvel = demoConsole({{"LogicalPartition", ""}})});
+             stage.openList(Scenes::logicalPartitionsView,
+                            {.corvel = demoConsole({{"LogicalPartition", ""}}), .partitionName = {}});
          },
          true},
         {"partitions-empty", fleet(),
          [](SceneStage& stage) {
-             stage.openList("logicalPartitionsView", {.corvel = demoConsole({{"LogicalPartition", "<feed/>"}})});
+             stage.openList(Scenes::logicalPartitionsView,
+                            {.corvel = demoConsole({{"LogicalPartition", "<feed/>"}}), .partitionName = {}});
          }},
         {"partition-detail", fleet(), [](SceneStage& stage) { openPartitions(stage).tableView()->select(2); }, true},
     };
@@ -132,12 +136,12 @@ std::vector<Look> serverLooks()
         {"virtual-io-servers-swiped-far", fleet(), expand},
         {"virtual-io-servers-failed", fleet(),
          [](SceneStage& stage) {
-             stage.openList("viosView", {.corvel = demoConsole({{"VirtualIOServer", ""}})});
+             stage.openList(Scenes::viosView, demoConsole({{"VirtualIOServer", ""}}));
          },
          true},
         {"virtual-io-servers-empty", fleet(),
          [](SceneStage& stage) {
-             stage.openList("viosView", {.corvel = demoConsole({{"VirtualIOServer", "<feed/>"}})});
+             stage.openList(Scenes::viosView, demoConsole({{"VirtualIOServer", "<feed/>"}}));
          }},
         {"virtual-io-server-detail", fleet(), [](SceneStage& stage) { openServers(stage).tableView()->select(1); }},
     };

@@ -28,7 +28,7 @@ std::string longNamedSystems()
 
 FeedListViewController& openSystems(SceneStage& stage, const std::map<std::string, std::string>& feeds = {})
 {
-    return stage.openList("managedSystemsView", {.corvel = demoConsole(feeds)});
+    return stage.openList(Scenes::managedSystemsView, demoConsole(feeds));
 }
 
 XMLElement demoSystem(const CorvelRef& corvel, std::size_t index)
@@ -71,11 +71,11 @@ std::vector<Look> systemLooks()
          },
          true},
         {"system-detail", fleet(),
-         [](SceneStage& stage) { stage.open("managedSystemInfo", {.rootXML = demoSystem(demoConsole(), 2)}); }, true},
+         [](SceneStage& stage) { stage.open(Scenes::managedSystemInfo, demoSystem(demoConsole(), 2)); }, true},
         {"system-menu", fleet(),
          [](SceneStage& stage) {
              const CorvelRef corvel = demoConsole();
-             stage.open("managedSystemMenu", {.corvel = corvel, .rootXML = demoSystem(corvel, 2)});
+             stage.open(Scenes::managedSystemMenu, {.corvel = corvel, .system = demoSystem(corvel, 2)});
              stage.settle(1100);
          },
          true},
@@ -87,14 +87,14 @@ std::vector<Look> consoleInventoryLooks()
     return {
         {"console-overview", fleet(),
          [](SceneStage& stage) {
-             stage.open("corvelTasksViewController", {.corvel = demoConsole({{"Group", ""}})});
+             stage.open(Scenes::corvelTasksViewController, demoConsole({{"Group", ""}}));
          },
          true},
         {"console-information", fleet(),
-         [](SceneStage& stage) { stage.open("managementConsoleView", {.corvel = demoConsole()}); }, true},
+         [](SceneStage& stage) { stage.open(Scenes::managementConsoleView, demoConsole()); }, true},
         {"console-information-failed", fleet(),
          [](SceneStage& stage) {
-             stage.open("managementConsoleView", {.corvel = demoConsole({{"ManagementConsole", ""}})});
+             stage.open(Scenes::managementConsoleView, demoConsole({{"ManagementConsole", ""}}));
          }},
     };
 }

@@ -4,10 +4,10 @@
 #include "Application/PasswordCreationViewController.h"
 #include "Application/SettingsViewController.h"
 #include "Kit/Core/NavigationController.h"
-#include "Kit/Core/Storyboard.h"
 #include "Platform/UserDefaults.h"
 #include "Tests/Support/StoredPassword.h"
 #include "Tools/Screenshots/Looks.h"
+#include "Views/Common/Scenes.h"
 
 #include <tuple>
 
@@ -27,7 +27,7 @@ void setLock(const QString& stored, bool required)
 LoginViewController& showLock(SceneStage& stage)
 {
     setLock(passcode, true);
-    const auto login = Storyboard::main().instantiate<LoginViewController>("loginViewController");
+    const auto login = Storyboard::main().instantiate<LoginViewController>(Scenes::loginViewController);
     stage.window().setProperty("controller", QVariant::fromValue<ViewController*>(login.get()));
     stage.settle(1300);
     return *login;

@@ -16,7 +16,7 @@ constexpr int grown = 3300;
 PCMViewController& openPerformance(SceneStage& stage, CorvelRef corvel, const char* name = "helios-01")
 {
     const auto id = ManagedSystem::identifierAt(feedOfType(*corvel, ObjectType::ManagedSystem), 0);
-    return *stage.open<PCMViewController>("pcmDataView",
+    return *stage.open<PCMViewController>(Scenes::pcmDataView,
                                           {.corvel = std::move(corvel), .sysName = std::string(name), .systemID = id});
 }
 

@@ -7,10 +7,10 @@
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/UI/FeedbackUI.h"
 #include "Kit/Core/NavigationController.h"
-#include "Kit/Core/Storyboard.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/Resources.h"
 #include "Platform/UserDefaults.h"
+#include "Views/Common/Scenes.h"
 #include "Views/Views.h"
 
 #include <QCoreApplication>
@@ -237,8 +237,8 @@ void SceneStage::show(QSize size, const std::vector<ConsoleLook>& consoles)
 {
     closeWindow();
     RESTHandler::sharedInstance().setCorvelList({});
-    m_list = Storyboard::main().instantiate<CorvelListViewController>("corvelListView");
-    m_dashboard = Storyboard::main().instantiate<DashboardTableViewController>("dashboardView");
+    m_list = Storyboard::main().instantiate<CorvelListViewController>(Scenes::corvelListView);
+    m_dashboard = Storyboard::main().instantiate<DashboardTableViewController>(Scenes::dashboardView);
     m_tabs = makeController<TabBarController>(
         std::vector<TabBarItem>{{"Corvels", "tab_consoles", makeController<NavigationController>(m_list)},
                                 {"Dashboard", "tab_dashboard", makeController<NavigationController>(m_dashboard)}});
@@ -290,15 +290,6 @@ DeltaCorvelViewController* SceneStage::openEditor()
 {
     m_list->addCorvel();
     return qobject_cast<DeltaCorvelViewController*>(m_list->semiModal()->controller());
-}
-
-ViewController* SceneStage::open(std::string_view identifier, SceneInputs inputs) const
-{
-    if (!openScene(*m_list, identifier, std::move(inputs))) {
-        return nullptr;
-    }
-    settle(60);
-    return m_list->navigationController()->topViewController();
 }
 
 bool SceneStage::waitFor(const std::function<bool()>& predicate) const

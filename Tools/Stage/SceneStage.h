@@ -5,7 +5,7 @@
 #include "Feedback/UI/FeedbackHost.h"
 #include "Kit/Core/TabBarController.h"
 #include "Views/Common/FeedListViewController.h"
-#include "Views/Common/SceneInputs.h"
+#include "Views/Common/Scenes.h"
 #include "Views/Corvels/CorvelListViewController.h"
 #include "Views/Corvels/DeltaCorvelViewController.h"
 #include "Views/Dashboard/DashboardTableViewController.h"
@@ -67,19 +67,20 @@ public:
     void show(QSize size, const std::vector<ConsoleLook>& consoles);
     void showDashboard();
     DeltaCorvelViewController* openEditor();
-    /// Opens a screen over the console list by its scene's identifier; null when the stage has no such scene.
-    ViewController* open(std::string_view identifier, SceneInputs inputs) const;
-    template <typename Controller>
-    Controller* open(std::string_view identifier, SceneInputs inputs) const
+    /// A screen over the console list.
+    template <typename Controller = ViewController, typename Input>
+    Controller* open(Scene<Input> scene, std::type_identity_t<Input> input) const
     {
-        return qobject_cast<Controller*>(open(identifier, std::move(inputs)));
+        openScene(*m_list, scene, std::move(input));
+        settle(60);
+        return qobject_cast<Controller*>(m_list->navigationController()->topViewController());
     }
 
-    /// Opens a list likewise, and waits until the list has fetched and its motion has ended.
-    template <typename List = FeedListViewController>
-    List& openList(std::string_view identifier, SceneInputs inputs) const
+    /// Likewise a list, when it has fetched what it shows and its motion has ended.
+    template <typename List = FeedListViewController, typename Input>
+    List& openList(Scene<Input> scene, std::type_identity_t<Input> input) const
     {
-        List& list = *open<List>(identifier, std::move(inputs));
+        List& list = *open<List>(scene, std::move(input));
         waitFor([&list] { return !list.fetchingActivityIndicator()->isAnimating(); });
         settle();
         return list;

@@ -48,8 +48,7 @@ void MenuOutlet::dismiss()
 
 void MenuOutlet::choose(int index)
 {
-    if (!m_presented || index < 0 || index >= static_cast<int>(m_choices.size()) ||
-        !m_choices[static_cast<std::size_t>(index)].enabled) {
+    if (!m_presented || index < 0 || index >= static_cast<int>(m_choices.size())) {
         return;
     }
     const Handler handler = std::move(m_handler);

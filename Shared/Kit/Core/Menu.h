@@ -19,13 +19,11 @@ struct MenuChoice {
     Q_PROPERTY(QString title MEMBER title)
     Q_PROPERTY(bool destructive MEMBER destructive)
     Q_PROPERTY(QString imageName MEMBER imageName)
-    Q_PROPERTY(bool enabled MEMBER enabled)
 
 public:
     QString title;
     bool destructive = false;
     QString imageName{}; ///< action sheets only
-    bool enabled = true; ///< action sheets only: a disabled choice is greyed and cannot be chosen
     friend bool operator==(const MenuChoice&, const MenuChoice&) = default;
 };
 

@@ -26,12 +26,12 @@ void LabelOutlet::setText(const QString& text)
     });
 }
 
-void LabelOutlet::setColor(const QColor& color)
+void LabelOutlet::setState(Role::State state)
 {
-    onMain(this, [color](LabelOutlet& outlet) {
-        if (outlet.m_color != color) {
-            outlet.m_color = color;
-            Q_EMIT outlet.colorChanged();
+    onMain(this, [state](LabelOutlet& outlet) {
+        if (outlet.m_state != state) {
+            outlet.m_state = state;
+            Q_EMIT outlet.stateChanged();
         }
     });
 }

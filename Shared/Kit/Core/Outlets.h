@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QColor>
+#include "Kit/Core/Role.h"
+
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
@@ -33,30 +34,29 @@ private:
     bool m_hidden = false;
 };
 
-/// A text.
+/// A text, and the state that it tells of if it tells of one.
 class LabelOutlet : public lodestar::ViewOutlet
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
-    Q_PROPERTY(QColor color READ color WRITE setColor NOTIFY colorChanged)
+    Q_PROPERTY(lodestar::Role::State state READ state WRITE setState NOTIFY stateChanged)
 
 public:
     explicit LabelOutlet(QObject* parent = nullptr) : ViewOutlet(parent) {}
     const QString& text() const { return m_text; }
     void setText(const QString& text);
-    /// Invalid leaves the view its own colour.
-    const QColor& color() const { return m_color; }
-    void setColor(const QColor& color);
+    Role::State state() const { return m_state; }
+    void setState(Role::State state);
 
 Q_SIGNALS:
     void textChanged();
-    void colorChanged();
+    void stateChanged();
 
 private:
     QString m_text;
-    QColor m_color;
+    Role::State m_state = Role::State::None;
 };
 
 /// An activity indicator. It is hidden while it does not run, unless told otherwise.

@@ -20,27 +20,6 @@ void PageControlOutlet::setCurrentPage(int page)
     }
 }
 
-void PageControlOutlet::setPageIndicatorTintColor(const QColor& color)
-{
-    if (std::exchange(m_pageIndicatorTintColor, color) != color) {
-        Q_EMIT colorsChanged();
-    }
-}
-
-void PageControlOutlet::setCurrentPageIndicatorTintColor(const QColor& color)
-{
-    if (std::exchange(m_currentPageIndicatorTintColor, color) != color) {
-        Q_EMIT colorsChanged();
-    }
-}
-
-void ButtonOutlet::setTitleColor(const QColor& color)
-{
-    if (std::exchange(m_titleColor, color) != color) {
-        Q_EMIT titleColorChanged();
-    }
-}
-
 PagedIntro::PagedIntro(std::vector<IntroPage> pages)
     : m_pages(std::move(pages)), m_pageControl(static_cast<int>(m_pages.size()))
 {

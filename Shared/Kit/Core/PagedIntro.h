@@ -61,8 +61,8 @@ class PageControlOutlet : public QObject
     QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(int currentPage READ currentPage WRITE setCurrentPage NOTIFY currentPageChanged)
     Q_PROPERTY(int numberOfPages READ numberOfPages CONSTANT)
-    Q_PROPERTY(QColor pageIndicatorTintColor READ pageIndicatorTintColor NOTIFY colorsChanged)
-    Q_PROPERTY(QColor currentPageIndicatorTintColor READ currentPageIndicatorTintColor NOTIFY colorsChanged)
+    Q_PROPERTY(QColor pageIndicatorTintColor MEMBER pageIndicatorTintColor CONSTANT)
+    Q_PROPERTY(QColor currentPageIndicatorTintColor MEMBER currentPageIndicatorTintColor CONSTANT)
 
 public:
     explicit PageControlOutlet(int numberOfPages, QObject* parent = nullptr);
@@ -70,20 +70,17 @@ public:
     int currentPage() const { return m_currentPage; }
     /// A page number outside the range changes nothing.
     void setCurrentPage(int page);
-    const QColor& pageIndicatorTintColor() const { return m_pageIndicatorTintColor; }
-    void setPageIndicatorTintColor(const QColor& color);
-    const QColor& currentPageIndicatorTintColor() const { return m_currentPageIndicatorTintColor; }
-    void setCurrentPageIndicatorTintColor(const QColor& color);
+
+    /// Before the intro is shown.
+    QColor pageIndicatorTintColor;
+    QColor currentPageIndicatorTintColor;
 
 Q_SIGNALS:
     void currentPageChanged();
-    void colorsChanged();
 
 private:
     int m_numberOfPages;
     int m_currentPage = 0;
-    QColor m_pageIndicatorTintColor;
-    QColor m_currentPageIndicatorTintColor;
 };
 
 /// A button that shows only a word.
@@ -92,18 +89,12 @@ class ButtonOutlet : public QObject
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by controllers")
-    Q_PROPERTY(QColor titleColor READ titleColor NOTIFY titleColorChanged)
+    Q_PROPERTY(QColor titleColor MEMBER titleColor CONSTANT)
 
 public:
     using QObject::QObject;
-    const QColor& titleColor() const { return m_titleColor; }
-    void setTitleColor(const QColor& color);
-
-Q_SIGNALS:
-    void titleColorChanged();
-
-private:
-    QColor m_titleColor;
+    /// Before the intro is shown.
+    QColor titleColor;
 };
 
 /// Pages that cover a whole screen and are turned by swipes and keys. An intro ends once: by the skip button, a swipe

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Kit/Core/Storyboard.h"
 
-#include <utility>
-
 namespace lodestar
 {
 
@@ -12,23 +10,13 @@ Storyboard& Storyboard::main()
     return storyboard;
 }
 
-void Storyboard::registerScene(std::string identifier, Factory factory, QUrl scene)
-{
-    m_scenes.insert_or_assign(std::move(identifier), Scene{std::move(factory), std::move(scene)});
-}
-
-bool Storyboard::hasScene(std::string_view identifier) const
-{
-    return m_scenes.find(identifier) != m_scenes.end();
-}
-
-std::shared_ptr<ViewController> Storyboard::instantiateViewController(std::string_view identifier) const
+std::shared_ptr<ViewController> Storyboard::instantiate(std::string_view identifier, std::any input) const
 {
     const auto found = m_scenes.find(identifier);
     if (found == m_scenes.end()) {
-        return nullptr;
+        qFatal("The storyboard has no scene %s", std::string(identifier).c_str());
     }
-    std::shared_ptr<ViewController> controller = found->second.factory();
+    std::shared_ptr<ViewController> controller = found->second.factory(std::move(input));
     controller->setScene(found->second.file);
     return controller;
 }

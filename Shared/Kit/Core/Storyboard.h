@@ -1,43 +1,88 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Kit/Core/ViewController.h"
+#include "Kit/Core/NavigationController.h"
 
+#include <any>
 #include <functional>
 #include <map>
 #include <string>
 #include <string_view>
+#include <type_traits>
+#include <utility>
 
 namespace lodestar
 {
 
-/// The table of scenes: identifier, controller factory and QML file. Screens reach each other by identifier only, so
-/// that includes never go upwards. Main thread.
+struct NoInput {
+};
+
+/// A scene by its identifier, and the type of all that it is opened with.
+template <typename Input = NoInput>
+struct Scene {
+    const char* identifier;
+};
+
+/// The table of scenes: identifier, controller factory, QML file. Screens reach each other by a Scene alone, so that
+/// nothing includes upwards. A scene that the table lacks, or has under another type of input, ends the process. Main
+/// thread.
 class Storyboard
 {
 public:
-    using Factory = std::function<std::shared_ptr<ViewController>()>;
+    template <typename Input>
+    using Factory = std::function<std::shared_ptr<ViewController>(Input)>;
 
     static Storyboard& main();
 
-    void registerScene(std::string identifier, Factory factory, QUrl scene);
-    bool hasScene(std::string_view identifier) const;
-    /// A new controller with its scene set; null for an unknown identifier.
-    std::shared_ptr<ViewController> instantiateViewController(std::string_view identifier) const;
-
-    /// A new controller of the given type; null also when the scene's controller has another type.
-    template <typename Controller>
-    std::shared_ptr<Controller> instantiate(std::string_view identifier) const
+    template <typename Input>
+    void registerScene(Scene<Input> scene, std::type_identity_t<Factory<Input>> factory, QUrl file)
     {
-        return std::dynamic_pointer_cast<Controller>(instantiateViewController(identifier));
+        m_scenes.insert_or_assign(scene.identifier, Entry{[factory = std::move(factory)](std::any input) {
+                                                              return factory(std::any_cast<Input>(std::move(input)));
+                                                          },
+                                                          std::move(file)});
+    }
+
+    /// A fresh controller that has its input, its scene set.
+    template <typename Input>
+    std::shared_ptr<ViewController> instantiateViewController(Scene<Input> scene,
+                                                              std::type_identity_t<Input> input) const
+    {
+        return instantiate(scene.identifier, std::move(input));
+    }
+    std::shared_ptr<ViewController> instantiateViewController(Scene<> scene) const
+    {
+        return instantiate(scene.identifier, NoInput());
+    }
+    /// The same as its own type; null when the scene's controller is of another type.
+    template <typename Controller>
+    std::shared_ptr<Controller> instantiate(Scene<> scene) const
+    {
+        return std::dynamic_pointer_cast<Controller>(instantiateViewController(scene));
     }
 
 private:
-    struct Scene {
-        Factory factory;
+    struct Entry {
+        std::function<std::shared_ptr<ViewController>(std::any)> factory;
         QUrl file;
     };
-    std::map<std::string, Scene, std::less<>> m_scenes;
+    std::shared_ptr<ViewController> instantiate(std::string_view identifier, std::any input) const;
+
+    std::map<std::string, Entry, std::less<>> m_scenes;
 };
+
+/// Opens a scene of the storyboard, animated, on the stack that `from` stands on. A screen on no stack, closed as a
+/// rule, opens nothing.
+template <typename Input>
+void openScene(const ViewController& from, Scene<Input> scene, std::type_identity_t<Input> input)
+{
+    if (NavigationController* const stack = from.navigationController()) {
+        stack->pushViewController(Storyboard::main().instantiateViewController(scene, std::move(input)), Animated::Yes);
+    }
+}
+inline void openScene(const ViewController& from, Scene<> scene)
+{
+    openScene(from, scene, NoInput());
+}
 
 } // namespace lodestar

@@ -2,9 +2,9 @@
 #pragma once
 
 #include "Kit/Core/CellSteps.h"
+#include "Kit/Core/Role.h"
 
 #include <QAbstractListModel>
-#include <QColor>
 #include <QString>
 #include <QVariant>
 #include <QtQml/qqmlregistration.h>
@@ -192,13 +192,13 @@ struct SwipeButton {
     Q_GADGET
     QML_VALUE_TYPE(swipeButton)
     Q_PROPERTY(QString title MEMBER title)
-    Q_PROPERTY(QColor backgroundColor MEMBER backgroundColor)
+    Q_PROPERTY(lodestar::Role::Button role MEMBER role)
     Q_PROPERTY(QString imageName MEMBER imageName)
     Q_PROPERTY(QString spoken MEMBER spoken)
 
 public:
     QString title;
-    QColor backgroundColor;
+    Role::Button role = Role::Button::Standard;
     QString imageName{};
     QString spoken{}; ///< what a screen reader says for a picture without a title
     friend bool operator==(const SwipeButton&, const SwipeButton&) = default;

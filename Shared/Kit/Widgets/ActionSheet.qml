@@ -148,7 +148,6 @@ T.Popup {
                     required property menuChoice modelData
 
                     visible: index !== sheet.outlet.cancelIndex
-                    enabled: modelData.enabled
                     rowHeight: 56
                     chevron: false
                     text: modelData.title

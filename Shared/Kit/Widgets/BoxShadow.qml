@@ -13,8 +13,7 @@ Item {
     property real strength: Theme.dark ? 0.6 : 0.2
 
     BorderImage {
-        readonly property color shade: Theme.dark ? Qt.rgba(0, 0, 0, shadow.strength)
-                                                  : Qt.rgba(16 / 255, 24 / 255, 33 / 255, shadow.strength)
+        readonly property color shade: Qt.rgba(Theme.shade.r, Theme.shade.g, Theme.shade.b, shadow.strength)
         readonly property int edge: shadow.radius + 2 * shadow.blur
 
         x: -shadow.blur

@@ -72,7 +72,7 @@ Item {
                 width: parent.width
                 size: Theme.rootTitleSize
                 scaleFactor: Theme.barScale
-                color: "#FFFFFF"
+                color: Theme.nightInk
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
                 Accessible.ignored: true
@@ -80,7 +80,7 @@ Item {
             Label {
                 text: view.page.words
                 width: parent.width
-                color: "#BFD3E3"
+                color: Theme.nightInk2
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
                 Accessible.ignored: true

@@ -4,12 +4,8 @@ import Lodestar.Kit
 
 /// A label that shows its outlet's text and colour. `baseColor` applies while the outlet has no colour.
 Label {
-    id: label
-
     required property LabelOutlet outlet
-    property color baseColor: Theme.ink
 
     text: outlet.text
     visible: !outlet.hidden
-    color: outlet.color.valid ? Theme.inkFor(outlet.color) : baseColor
 }

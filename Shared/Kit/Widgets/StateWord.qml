@@ -9,18 +9,19 @@ Item {
     id: state
 
     required property string word
-    /// The shape of the mark; empty for no mark.
-    property string mark: "good"
-    property color color: Theme.successGreen
+    /// One of Role.State.
+    required property int role
+    /// Empty for none.
+    property string mark: Theme.stateMark(role)
     property bool markLeads: false
     property int size: Theme.stateSize
-    property bool plated: Qt.colorEqual(color, Theme.errorRed)
+    readonly property bool plated: role === Role.State.Error
     property bool wraps: false
     /// Points of the plate above and below the word; smaller where another line is near.
     property int platePadding: 2
     property real scaleFactor: Theme.textScale
 
-    readonly property color shownColor: Theme.inkFor(color)
+    readonly property color ink: Theme.stateInk(role)
     readonly property real gap: scaleFactor >= 1.5 ? 10 : 6
     readonly property real markSpace: mark === "" ? 0 : markItem.width + gap
     // One point more than measured, because the layout may round glyph widths up.
@@ -57,7 +58,7 @@ Item {
         id: markItem
 
         mark: state.mark
-        color: state.shownColor
+        color: state.ink
         scaleFactor: state.scaleFactor
         x: state.place(state.markLeads ? 0 : state.used - width, width)
         y: (label.lineHeight - height) / 2
@@ -68,8 +69,8 @@ Item {
         text: state.word
         size: state.size
         scaleFactor: state.scaleFactor
-        color: state.shownColor
-        // The word is aligned towards its mark.
+        color: state.ink
+        // Close to its mark, whichever side that is on.
         horizontalAlignment: state.markLeads ? Text.AlignLeft : Text.AlignRight
         elide: state.wraps ? Text.ElideNone : Text.ElideMiddle
         wrapMode: state.wraps ? Text.Wrap : Text.NoWrap

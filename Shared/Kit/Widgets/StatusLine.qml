@@ -9,7 +9,7 @@ Item {
     required property LabelOutlet outlet
     property bool busy: false
 
-    readonly property bool failed: Qt.colorEqual(outlet.color, Theme.errorRed)
+    readonly property bool failed: outlet.state === Role.State.Error
 
     /// The height with a single line of text.
     readonly property int leastHeight: 42
@@ -32,8 +32,8 @@ Item {
         id: word
 
         word: status.outlet.text
-        mark: status.failed ? "error" : ""
-        color: status.outlet.color.valid ? status.outlet.color : Theme.titleInk
+        role: status.outlet.state
+        mark: status.failed ? Theme.stateMark(role) : ""
         markLeads: true
         wraps: true
         anchors.left: parent.left

@@ -37,7 +37,8 @@ FocusScope {
 
             required property int index
             required property var modelData
-            readonly property color ground: Theme.surfaceFor(modelData.backgroundColor)
+            readonly property color ground: Theme.buttonGround(modelData.role)
+            readonly property color ink: Theme.buttonInk(modelData.role)
             readonly property string picture: modelData.imageName ?? ""
             readonly property real narrow: view.buttonWidth + (index === 0 ? view.spread : 0)
             readonly property real start: (index * view.buttonWidth + (index > 0 ? view.spread : 0)) * (1 - fill)
@@ -70,14 +71,14 @@ FocusScope {
                     anchors.fill: parent
                     anchors.margins: 3
                     radius: Theme.segmentRadius
-                    border.color: Theme.inkOn(button.ground)
+                    border.color: button.ink
                     shown: button.visualFocus
                 }
             }
             Icon {
                 visible: button.picture !== ""
                 name: button.picture
-                color: Theme.inkOn(button.ground)
+                color: button.ink
                 anchors.centerIn: parent
             }
             Label {
@@ -85,7 +86,7 @@ FocusScope {
                 text: button.text
                 size: Theme.stateSize
                 scaleFactor: Theme.barScale
-                color: Theme.inkOn(button.ground)
+                color: button.ink
                 width: parent.width - 8
                 anchors.centerIn: parent
                 horizontalAlignment: Text.AlignHCenter

@@ -53,9 +53,9 @@ Pressable {
             radius: 13
             y: 2
             x: 2 + (control.checked !== Theme.mirrored ? 20 : 0)
-            color: "#FFFFFF"
+            color: Theme.knob
             border.width: 1 / Screen.devicePixelRatio
-            border.color: "#29101821"
+            border.color: Theme.knobEdge
 
             Behavior on x {
                 NumberAnimation { duration: Theme.settle; easing.type: Easing.OutCubic }

@@ -21,69 +21,93 @@ QtObject {
     readonly property color well: dark ? "#1B2128" : "#E4E8ED"
     readonly property color hairline: dark ? "#262D36" : "#D9DEE5"
     readonly property color scrim: dark ? "#9E000000" : "#6B101821"
+    readonly property color shade: dark ? "#000000" : "#101821"
     readonly property color night: "#0B2236"
 
     // Ink
     readonly property color ink: dark ? "#ECEFF3" : "#1A2027"
     readonly property color ink2: dark ? "#A9B3BF" : "#545E6B"
     readonly property color ink3: dark ? "#95A0AD" : "#66707E"
-    readonly property color systemGrey: ink3
     readonly property color titleInk: dark ? "#C9D0D8" : "#555555"
     readonly property color faint: dark ? "#5C6773" : "#A9B3BF"
+    readonly property color nightInk: "#FFFFFF"
+    readonly property color nightInk2: "#BFD3E3"
     readonly property color match: dark ? "#0B3D58" : "#CDEBFB"
 
-    // Blue: accent is for fills only, and a fill never tells a state alone; text and lines use accentInk.
-    readonly property color accent: "#009EEB"
-    readonly property color accentInk: dark ? "#71C7F4" : "#0072AD"
+    // Blue: the accent only fills, beside a change of shape; whatever is text or line is accentInk.
+    readonly property color accent: UIColor.selectedBlue
+    readonly property color accentInk: dark ? UIColor.tesselLightBlue : "#0072AD"
     readonly property color fill: accentInk
     readonly property color fillInk: dark ? "#04121B" : "#FFFFFF"
-    readonly property color tabSelected: dark ? "#009EEB" : "#0072AD"
+    readonly property color tabSelected: dark ? accent : accentInk
     readonly property color track: dark ? "#5C6773" : "#8A95A3"
+    readonly property color knob: "#FFFFFF"
+    readonly property color knobEdge: "#29101821"
     readonly property color segment: dark ? "#39434F" : "#FFFFFF"
 
     // State
-    readonly property color successGreen: "#008B11"
-    readonly property color failedRed: "#8E8E93"
-    readonly property color errorRed: "#8B0A00"
+    readonly property color successGreen: UIColor.successGreen
+    readonly property color failedRed: UIColor.failedRed
+    readonly property color errorRed: UIColor.errorRed
     readonly property color plate: dark ? "#F2C7C1" : "#FBEAE7"
-    readonly property color systemOrange: dark ? "#F39C12" : "#B35900"
+    readonly property color systemOrange: dark ? UIColor.dashboardOrange : "#B35900"
     readonly property color systemRed: "#E32226"
     readonly property color systemRedInk: dark ? "#FF7A75" : "#E32226"
-    readonly property color systemLightGrey: dark ? "#4A5460" : "#C3CAD3"
+    readonly property color systemLightGrey: dark ? "#4A5460" : UIColor.lightGrayColor
     readonly property color lightGreyInk: dark ? "#ECEFF3" : "#1A2027"
-    readonly property color tesselBlue: "#133C5B"
-    readonly property color tesselLightGreen: "#7BBE31"
+    readonly property color tesselBlue: UIColor.tesselBlue
+    readonly property color tesselLightGreen: UIColor.tesselLightGreen
 
     // Charts
-    readonly property color chartOrange: dark ? "#F39C12" : "#D97A00"
-    readonly property color chartGreen: dark ? "#50B048" : "#008B11"
-    readonly property color chartBlue: dark ? "#A9DDF8" : "#00308B"
+    readonly property color chartOrange: dark ? UIColor.dashboardOrange : UIColor.chartOrange
+    readonly property color chartGreen: dark ? UIColor.dashboardGreen : UIColor.successGreen
+    readonly property color chartBlue: dark ? "#A9DDF8" : UIColor.ornisBlue
     readonly property color chartGrid: dark ? "#333C47" : "#C4CCD5"
 
-    /// The colour for text or a mark in the present appearance. Controllers name system colours by their light values;
-    /// palette colours are the same in both appearances and are returned as they are.
-    function inkFor(named: color): color {
-        if (Qt.colorEqual(named, "#66707E")) {
-            return systemGrey;
+    /// The ink of a state's word and mark.
+    function stateInk(state: int): color {
+        switch (state) {
+        case Role.State.None: return titleInk;
+        case Role.State.Good: return successGreen;
+        case Role.State.Off: return failedRed;
+        case Role.State.Alert: return systemOrange;
+        case Role.State.Error: return errorRed;
+        default: return ink3;
         }
-        if (Qt.colorEqual(named, "#555555")) {
-            return titleInk;
-        }
-        if (Qt.colorEqual(named, "#E32226")) {
-            return systemRedInk;
-        }
-        return Qt.colorEqual(named, "#B35900") ? systemOrange : named;
     }
-    /// The colour for a button's ground in the present appearance.
-    function surfaceFor(named: color): color {
-        return Qt.colorEqual(named, "#C3CAD3") ? systemLightGrey : named;
+    /// The ink of a mark without a word: no plate lifts the dark red of errors off its card.
+    function loneMarkInk(state: int): color {
+        return state === Role.State.Error ? systemRed : stateInk(state);
     }
-    /// The text colour that can be read on a button of this colour.
-    function inkOn(background: color): color {
-        if (Qt.colorEqual(background, tesselLightGreen)) {
-            return tesselBlue;
+    /// The shape of a state, see StateMark; empty for none.
+    function stateMark(state: int): string {
+        switch (state) {
+        case Role.State.None: return "";
+        case Role.State.Good: return "good";
+        case Role.State.Alert: return "alert";
+        case Role.State.Error:
+        case Role.State.BadgedError: return "error";
+        case Role.State.Offline: return "offline";
+        default: return "off";
         }
-        return Qt.colorEqual(background, systemLightGrey) ? lightGreyInk : "#FFFFFF";
+    }
+    /// The ground of a swiped row's button.
+    function buttonGround(role: int): color {
+        switch (role) {
+        case Role.Button.Quiet: return systemLightGrey;
+        case Role.Button.Positive: return tesselLightGreen;
+        case Role.Button.Favourite: return errorRed;
+        case Role.Button.Destructive: return systemRed;
+        default: return tesselBlue;
+        }
+    }
+    /// What reads on that ground.
+    function buttonInk(role: int): color {
+        switch (role) {
+        case Role.Button.Quiet: return lightGreyInk;
+        case Role.Button.Positive: return tesselBlue;
+        default: return "#FFFFFF";
+        }
     }
 
     // Type

@@ -5,6 +5,7 @@
 #include "Views/About/RichText/RichText.h"
 
 #include <QAbstractListModel>
+#include <QColor>
 
 namespace lodestar
 {

@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include <QColor>
+#include "Kit/Core/Role.h"
+
 #include <QObject>
 #include <QString>
 #include <QtQml/qqmlregistration.h>
@@ -20,17 +21,19 @@ struct CellLabel {
     Q_GADGET
     QML_VALUE_TYPE(cellLabel)
     Q_PROPERTY(QString text READ line)
-    Q_PROPERTY(QColor color MEMBER color)
+    // A number to QML: what is compiled of it cannot read an enumeration of another module out of a value.
+    Q_PROPERTY(int state READ stateNumber)
     Q_PROPERTY(bool hidden MEMBER hidden)
     Q_PROPERTY(QString match MEMBER match)
 
 public:
     QString text;
-    QColor color;
+    Role::State state = Role::State::None;
     bool hidden = false;
     QString match{};
 
-    /// The text in one line, because line breaks from a console would make the row grow.
+    int stateNumber() const { return static_cast<int>(state); }
+    /// The text as a row draws it: a console's line ends would make the row grow.
     QString line() const
     {
         static const auto endsLine = [](QChar each) {

@@ -13,10 +13,9 @@ namespace lodestar
 class CorvelReceiving
 {
 public:
-    virtual ~CorvelReceiving() = default;
     const CorvelRef& corvel() const { return m_corvel; }
-    /// To be called before the screen is put into a container. Main thread.
-    virtual void setCorvel(CorvelRef corvel) { m_corvel = std::move(corvel); }
+    /// Before the screen is put into a container.
+    void setCorvel(CorvelRef corvel) { m_corvel = std::move(corvel); }
 
 private:
     CorvelRef m_corvel;

@@ -12,7 +12,6 @@ FeedListScene {
         name: cell.nameLabel
         caption: cell.typeLabel.text
         state: cell.stateLabel
-        stateMark: cell.stateMark
         note: cell.referenceCodeLabel.text
         chevron: true
         leadingSwipeButtons: cell.leftButtons

@@ -4,7 +4,6 @@
 #include "Fleet/Registry.h"
 #include "Inventory/Partition.h"
 #include "Platform/Queues/MainSteps.h"
-#include "Views/Common/SceneInputs.h"
 
 #include <algorithm>
 #include <memory>
@@ -178,7 +177,7 @@ void GroupedListViewController::didSelectRowAtIndexPath(TableKind tableView, Ind
 {
     const XMLElement partition = partitionAt(tableView, indexPath);
     if (partition) {
-        openScene(*this, m_grouping.detailScene, {.rootXML = partition});
+        openScene(*this, m_grouping.detailScene, partition);
     }
     table(tableView).deselectRow(indexPath);
 }

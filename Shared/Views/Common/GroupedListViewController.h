@@ -4,6 +4,7 @@
 #include "Inventory/GroupedFeed.h"
 #include "Views/Common/FeedListViewController.h"
 #include "Views/Common/PartitionCell.h"
+#include "Views/Common/Scenes.h"
 
 #include <memory>
 #include <optional>
@@ -28,7 +29,7 @@ struct GroupedListTraits {
     int partitionLine;
     int linkLine;
     Nameless nameless;
-    std::string_view detailScene;
+    Scene<XMLElement> detailScene;
 };
 
 /// A list of a console's partitions or servers with one section per managed system. Sections stand in the order in

@@ -10,7 +10,7 @@ TableCell {
     required property menuCell cell
 
     accessibleText: cell.title + (cell.detail === "" ? "" : ", " + cell.detail)
-    selectable: !cell.rests && cell.enabled
+    selectable: !cell.rests
     implicitHeight: content.implicitHeight
 
     MenuRow {
@@ -23,7 +23,7 @@ TableCell {
         detail: row.cell.detail
         chevron: !row.cell.rests
         enabled: false
-        greyed: !row.cell.enabled
+        greyed: false
         pressable: false
         surfaced: false
         Accessible.ignored: true

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Common/MenuTableViewController.h"
 
-#include "Kit/Core/Storyboard.h"
-
 namespace lodestar
 {
 namespace
@@ -47,20 +45,25 @@ int MenuTableViewController::numberOfRowsInSection(TableKind /*tableView*/, int 
     return section >= 0 && index < m_sections.size() ? static_cast<int>(m_sections[index].size()) : 0;
 }
 
-QVariant MenuTableViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)
+const MenuTableViewController::Row* MenuTableViewController::rowAt(IndexPath indexPath) const
 {
-    if (indexPath.row < 0 || indexPath.row >= numberOfRowsInSection(tableView, indexPath.section)) {
-        return QVariant::fromValue(MenuCell{});
-    }
-    const Row& row = m_sections[static_cast<std::size_t>(indexPath.section)][static_cast<std::size_t>(indexPath.row)];
-    const bool rests = row.scene.empty();
-    return QVariant::fromValue(
-        MenuCell{row.title, row.imageName, row.detail, rests, rests || Storyboard::main().hasScene(row.scene)});
+    return indexPath.row >= 0 && indexPath.row < numberOfRowsInSection(TableKind::Main, indexPath.section)
+               ? &m_sections[static_cast<std::size_t>(indexPath.section)][static_cast<std::size_t>(indexPath.row)]
+               : nullptr;
+}
+
+QVariant MenuTableViewController::cellForRowAtIndexPath(TableKind /*tableView*/, IndexPath indexPath)
+{
+    const Row* const row = rowAt(indexPath);
+    return QVariant::fromValue(row == nullptr ? MenuCell{}
+                                              : MenuCell{row->title, row->imageName, row->detail, !row->open});
 }
 
 void MenuTableViewController::didSelectRowAtIndexPath(TableKind /*tableView*/, IndexPath indexPath)
 {
-    openRow(indexPath);
+    if (const Row* const row = rowAt(indexPath); row != nullptr && row->open) {
+        row->open();
+    }
     m_tableView.deselectRow(indexPath);
 }
 

@@ -4,7 +4,7 @@
 #include "Kit/Core/Table.h"
 #include "Kit/Core/ViewController.h"
 
-#include <string>
+#include <functional>
 #include <vector>
 
 namespace lodestar
@@ -18,14 +18,12 @@ struct MenuCell {
     Q_PROPERTY(QString imageName MEMBER imageName)
     Q_PROPERTY(QString detail MEMBER detail)
     Q_PROPERTY(bool rests MEMBER rests)
-    Q_PROPERTY(bool enabled MEMBER enabled)
 
 public:
     QString title;
     QString imageName;
     QString detail; ///< a count or a note at the row's end
     bool rests = false;
-    bool enabled = true;
 
     friend bool operator==(const MenuCell&, const MenuCell&) = default;
 };
@@ -43,7 +41,7 @@ public:
     struct Row {
         QString title;
         QString imageName;
-        std::string scene; ///< empty for a row that leads nowhere
+        std::function<void()> open; ///< none for a row that only rests
         QString detail{};
     };
     using Sections = std::vector<std::vector<Row>>;
@@ -61,10 +59,10 @@ protected:
     void viewDidLoad() override;
     void viewDidAppear() override;
     virtual Sections makeSections() const = 0;
-    virtual void openRow(IndexPath indexPath) = 0;
 
 private:
     void reload();
+    const Row* rowAt(IndexPath indexPath) const;
 
     TableOutlet m_tableView;
     Sections m_sections;

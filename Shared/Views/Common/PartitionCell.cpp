@@ -2,7 +2,6 @@
 #include "Views/Common/PartitionCell.h"
 
 #include "Inventory/Partition.h"
-#include "Kit/Core/UIColor+Tessel.h"
 #include "Views/Common/CellText.h"
 
 namespace lodestar
@@ -10,22 +9,17 @@ namespace lodestar
 namespace
 {
 
-struct StateLook {
-    QColor color;
-    const char* mark;
-};
-
-StateLook lookOf(Health health)
+Role::State roleOf(Health health)
 {
     switch (health) {
     case Health::Good:
-        return {UIColor::successGreen(), "good"};
+        return Role::State::Good;
     case Health::Idle:
-        return {UIColor::failedRed(), "off"};
+        return Role::State::Off;
     case Health::Error:
-        return {UIColor::errorRed(), "error"};
+        return Role::State::Error;
     default:
-        return {UIColor::orangeColor(), "alert"};
+        return Role::State::Alert;
     }
 }
 
@@ -36,9 +30,7 @@ PartitionCell::PartitionCell(const Partition& partition, const QString& match)
     m_nameLabel.text = textOf(partition.name());
     m_nameLabel.match = match;
     m_stateLabel.text = textOf(partition.state());
-    const StateLook look = lookOf(partition.health());
-    m_stateLabel.color = look.color;
-    m_stateMark = QString::fromLatin1(look.mark);
+    m_stateLabel.state = roleOf(partition.health());
 }
 
 QString PartitionCell::accessibleText() const

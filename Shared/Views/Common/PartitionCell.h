@@ -19,7 +19,6 @@ class PartitionCell
     Q_PROPERTY(lodestar::CellLabel nameLabel READ nameLabel)
     Q_PROPERTY(lodestar::CellLabel typeLabel READ typeLabel)
     Q_PROPERTY(lodestar::CellLabel stateLabel READ stateLabel)
-    Q_PROPERTY(QString stateMark READ stateMark)
     Q_PROPERTY(lodestar::CellLabel referenceCodeLabel READ referenceCodeLabel)
     Q_PROPERTY(QList<lodestar::SwipeButton> leftButtons READ leftButtons)
     Q_PROPERTY(int leftExpansion READ leftExpansion)
@@ -33,8 +32,6 @@ public:
     const CellLabel& nameLabel() const { return m_nameLabel; }
     const CellLabel& typeLabel() const { return m_typeLabel; }
     const CellLabel& stateLabel() const { return m_stateLabel; }
-    /// The shape that shows the state without colour: "good", "off", "error" or "alert".
-    const QString& stateMark() const { return m_stateMark; }
     const CellLabel& referenceCodeLabel() const { return m_referenceCodeLabel; }
     /// Index 0 stands at the row's outer edge.
     const QList<SwipeButton>& leftButtons() const { return m_leftButtons; }
@@ -55,7 +52,6 @@ private:
     CellLabel m_nameLabel;
     CellLabel m_typeLabel;
     CellLabel m_stateLabel;
-    QString m_stateMark;
     CellLabel m_referenceCodeLabel;
     QList<SwipeButton> m_leftButtons;
     int m_leftExpansion = -1;

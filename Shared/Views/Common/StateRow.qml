@@ -15,7 +15,6 @@ TableCell {
     /// Points from the row's start to the name, at 100 % text.
     property real nameStart: Theme.rowStart
     property cellLabel state
-    property string stateMark
     property string note
     property bool chevron: false
 
@@ -92,8 +91,7 @@ TableCell {
 
             visible: row.hasState
             word: row.state.text
-            color: row.state.color
-            mark: row.stateMark
+            role: row.state.state
             markLeads: row.stacked
             wraps: row.stacked
             platePadding: row.hasSecondLine && !row.stacked ? 0 : 2

@@ -3,7 +3,6 @@
 
 #include "Application/Model/Corvel.h"
 #include "Inventory/ConsoleInformation.h"
-#include "Kit/Core/UIColor+Tessel.h"
 
 #include <optional>
 #include <string>
@@ -75,15 +74,18 @@ void CorvelListCell::configure(const Corvel& corvel)
     }
     switch (healthOf(corvel)) {
     case Health::Offline:
-        setStatus(tr("Offline"), UIColor::grayColor(), QStringLiteral("offline"));
+        m_statusLabel.text = tr("Offline");
+        m_statusLabel.state = Role::State::Offline;
         m_highlights = false;
         m_selectionArrow.hidden = true;
         break;
     case Health::Error:
-        setStatus(tr("Error"), UIColor::errorRed(), QStringLiteral("error"));
+        m_statusLabel.text = tr("Error");
+        m_statusLabel.state = Role::State::Error;
         break;
     default:
-        setStatus(tr("Good"), UIColor::successGreen(), QStringLiteral("good"));
+        m_statusLabel.text = tr("Good");
+        m_statusLabel.state = Role::State::Good;
     }
     m_attentionLabel.text = QString::number(corvel.numMSLEDs);
     m_eventsLabel.text = eventsText(corvel);
@@ -98,13 +100,6 @@ QString CorvelListCell::accessibleText() const
     //: A console in the list, read aloud: %1 name, %2 status word, %3 and %4 counts
     return tr("%1, %2, attention %3, events %4")
         .arg(m_nameLabel.text, m_statusLabel.text, m_attentionLabel.text, m_eventsLabel.text);
-}
-
-void CorvelListCell::setStatus(const QString& text, const QColor& color, const QString& mark)
-{
-    m_statusLabel.text = text;
-    m_statusLabel.color = color;
-    m_statusMark = mark;
 }
 
 } // namespace lodestar

@@ -25,7 +25,6 @@ class CorvelListCell
     Q_PROPERTY(lodestar::CellLabel statusLabel READ statusLabel)
     Q_PROPERTY(lodestar::CellLabel attentionLabel READ attentionLabel)
     Q_PROPERTY(lodestar::CellLabel eventsLabel READ eventsLabel)
-    Q_PROPERTY(QString statusMark READ statusMark)
     Q_PROPERTY(lodestar::CellImage selectionArrow READ selectionArrow)
     Q_PROPERTY(lodestar::CellIndicator statusActivityIndicator READ statusActivityIndicator)
     Q_PROPERTY(lodestar::CellIndicator attentionActivityIndicator READ attentionActivityIndicator)
@@ -52,8 +51,6 @@ public:
     const CellLabel& statusLabel() const { return m_statusLabel; }
     const CellLabel& attentionLabel() const { return m_attentionLabel; }
     const CellLabel& eventsLabel() const { return m_eventsLabel; }
-    /// The shape that shows the status without colour: "good", "error" or "offline".
-    const QString& statusMark() const { return m_statusMark; }
     const CellImage& selectionArrow() const { return m_selectionArrow; }
     const CellIndicator& statusActivityIndicator() const { return m_statusActivityIndicator; }
     const CellIndicator& attentionActivityIndicator() const { return m_attentionActivityIndicator; }
@@ -66,15 +63,12 @@ public:
     QString accessibleText() const;
 
 private:
-    void setStatus(const QString& text, const QColor& color, const QString& mark);
-
     CellLabel m_nameLabel;
     CellLabel m_versionLabel;
     CellLabel m_addressLabel;
     CellLabel m_statusLabel;
     CellLabel m_attentionLabel;
     CellLabel m_eventsLabel;
-    QString m_statusMark;
     CellImage m_selectionArrow;
     CellIndicator m_statusActivityIndicator;
     CellIndicator m_attentionActivityIndicator;

@@ -32,11 +32,9 @@ TableCell {
         required property string caption
         required property cellLabel value
         required property cellIndicator indicator
-        /// Shows the value as a state with this mark; empty shows plain text.
-        property string stateMark: ""
         property bool captionHidden: false
 
-        readonly property bool stateful: stateMark !== ""
+        readonly property bool stateful: value.state !== Role.State.None
         readonly property real valueX: captionHidden || row.captioned ? 0 : captionLabel.implicitWidth + 6 * row.scale100
         readonly property real valueY: row.captioned ? Math.round(22 * row.scale100) : Math.round(row.scale100)
         readonly property real valueWidth: indicator.animating ? spinner.width
@@ -70,8 +68,7 @@ TableCell {
             id: word
 
             word: metric.stateful ? metric.value.text : ""
-            mark: metric.stateMark
-            color: metric.value.color
+            role: metric.value.state
             markLeads: true
             visible: metric.stateful && !metric.value.hidden
             anchors.left: parent.left
@@ -193,7 +190,6 @@ TableCell {
                 caption: qsTr("Status")
                 captionHidden: !row.captioned
                 value: row.cell.statusLabel
-                stateMark: row.cell.statusMark
                 indicator: row.cell.statusActivityIndicator
                 anchors.left: parent.left
                 width: implicitWidth

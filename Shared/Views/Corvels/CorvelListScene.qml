@@ -30,7 +30,6 @@ PageScaffold {
                 objectName: "settingsButton"
                 iconName: "settings"
                 text: qsTr("Settings")
-                visible: !scene.corvels.settingsHidden
                 onClicked: scene.corvels.openSettings()
             },
             IconButton {

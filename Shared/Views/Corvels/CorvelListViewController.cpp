@@ -6,13 +6,10 @@
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
 #include "Fleet/Registry.h"
-#include "Kit/Core/Storyboard.h"
 #include "Kit/Core/TabBarController.h"
-#include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/UserDefaults.h"
-#include "Views/Common/SceneInputs.h"
+#include "Views/Common/Scenes.h"
 #include "Views/Corvels/CorvelListCell.h"
-#include "Views/Corvels/DeltaCorvelViewController.h"
 
 #include <utility>
 
@@ -46,10 +43,10 @@ QList<SwipeButton> makeRightButtons()
 {
     SwipeButton remove;
     remove.title = CorvelListViewController::tr("Delete");
-    remove.backgroundColor = UIColor::redColor();
+    remove.role = Role::Button::Destructive;
     SwipeButton edit;
     edit.title = CorvelListViewController::tr("Edit");
-    edit.backgroundColor = UIColor::lightGrayColor();
+    edit.role = Role::Button::Quiet;
     return {remove, edit};
 }
 
@@ -63,11 +60,6 @@ void CorvelListViewController::setIntroPresenter(IntroPresenter presenter)
 CorvelListViewController::CorvelListViewController() : m_tableView(*this, TableKind::Main)
 {
     m_tableView.setRowHeight(rowHeight);
-}
-
-bool CorvelListViewController::isSettingsHidden() const
-{
-    return !Storyboard::main().hasScene("settingsViewController");
 }
 
 bool CorvelListViewController::isFeedbackHidden() const
@@ -205,7 +197,7 @@ void CorvelListViewController::didSelectRowAtIndexPath(TableKind /*tableView*/, 
     if (!corvel || !corvel->completedFetch || !corvel->isOnline) {
         return;
     }
-    openScene(*this, "corvelTasksViewController", {.corvel = corvel});
+    openScene(*this, Scenes::corvelTasksViewController, corvel);
     m_tableView.deselectRow(indexPath);
 }
 
@@ -239,24 +231,19 @@ void CorvelListViewController::deleteCorvelAtIndex(std::size_t index)
 
 void CorvelListViewController::editCorvelAtIndex(std::size_t index)
 {
-    if (const auto editor = Storyboard::main().instantiate<DeltaCorvelViewController>("deltaCorvel")) {
-        editor->setCorvel(RESTHandler::sharedInstance().corvelList()[index]);
-        presentEditor(editor);
-    }
+    presentEditor({.corvel = RESTHandler::sharedInstance().corvelList()[index], .parentList = {}});
 }
 
 void CorvelListViewController::addCorvel()
 {
-    if (const auto editor = Storyboard::main().instantiate<DeltaCorvelViewController>("deltaCorvel")) {
-        editor->setParentList(shared_from_this());
-        presentEditor(editor);
-    }
+    presentEditor({.corvel = {}, .parentList = self<CorvelListViewController>()});
 }
 
-void CorvelListViewController::presentEditor(const std::shared_ptr<DeltaCorvelViewController>& editor)
+void CorvelListViewController::presentEditor(EditorInput input)
 {
     m_tableView.setEditing(false, true);
-    presentSemiViewController(editor, {.pushParentBack = false, .height = restingSheetHeight()});
+    presentSemiViewController(Storyboard::main().instantiateViewController(Scenes::deltaCorvel, std::move(input)),
+                              {.pushParentBack = false, .height = restingSheetHeight()});
 }
 
 void CorvelListViewController::openFeedback()
@@ -266,7 +253,7 @@ void CorvelListViewController::openFeedback()
 
 void CorvelListViewController::openSettings()
 {
-    openScene(*this, "settingsViewController", {});
+    openScene(*this, Scenes::settingsViewController);
 }
 
 double CorvelListViewController::restingSheetHeight() const

@@ -14,7 +14,7 @@
 namespace lodestar
 {
 
-class DeltaCorvelViewController;
+struct EditorInput;
 
 /// The console list: every registered console with its version, address and health. It fetches from the consoles when
 /// it loads and at every pull. Its rows are the records of the working list, in that order, in one section. Main
@@ -26,7 +26,6 @@ class CorvelListViewController : public lodestar::SheetHostController, public Ta
     QML_UNCREATABLE("made by the storyboard")
     Q_PROPERTY(lodestar::TableOutlet* tableView READ tableView CONSTANT)
     Q_PROPERTY(lodestar::RefreshControl* refreshControl READ refreshControl CONSTANT)
-    Q_PROPERTY(bool settingsHidden READ isSettingsHidden CONSTANT)
     Q_PROPERTY(bool feedbackHidden READ isFeedbackHidden NOTIFY feedbackHiddenChanged)
 
 public:
@@ -43,8 +42,7 @@ public:
     TableOutlet* tableView() { return &m_tableView; }
     RefreshControl* refreshControl() { return &m_refreshControl; }
     bool viewHasAppearedOnce() const { return m_viewHasAppearedOnce; }
-    /// Whether the settings button is hidden, which it is while the storyboard has no settings.
-    bool isSettingsHidden() const;
+    /// The settings button is not there while the storyboard has no settings.
 
     /// Whether the feedback button is hidden. It is shown on devices that cannot be shaken, which is known only after
     /// the first frame.
@@ -91,7 +89,7 @@ private:
     void didFailToRefreshCorvel(const CorvelRef& corvel, const Error& error);
     void deleteCorvelAtIndex(std::size_t index);
     void editCorvelAtIndex(std::size_t index);
-    void presentEditor(const std::shared_ptr<DeltaCorvelViewController>& editor);
+    void presentEditor(EditorInput input);
 
     TableOutlet m_tableView;
     RefreshControl m_refreshControl;

@@ -4,7 +4,6 @@
 #include "Feedback/VireoLogger.h"
 #include "Fleet/Registry.h"
 #include "Kit/Core/ErrorText.h"
-#include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/NotificationCenter.h"
 #include "Platform/Queues/MainQueue.h"
 
@@ -177,7 +176,7 @@ bool DeltaCorvelViewController::hasSheet() const
 
 void DeltaCorvelViewController::showStatusWithMessage(const QString& message)
 {
-    showStatus(message, StatusKind::Message);
+    showStatus(message, Role::State::None);
     if (!m_closed && hasSheet()) {
         NotificationCenter::defaultCenter().postNotification("StatusWillShow");
     }
@@ -185,25 +184,23 @@ void DeltaCorvelViewController::showStatusWithMessage(const QString& message)
 
 void DeltaCorvelViewController::showStatusWithError(const QString& message)
 {
-    showStatus(message, StatusKind::Failure);
+    showStatus(message, Role::State::Error);
     hideStatusLater(Reenable::Yes);
 }
 
 void DeltaCorvelViewController::showWithSuccess(const QString& message)
 {
-    showStatus(message, StatusKind::Success);
+    showStatus(message, Role::State::Good);
     hideStatusLater(Reenable::No);
 }
 
-void DeltaCorvelViewController::showStatus(const QString& text, StatusKind kind)
+void DeltaCorvelViewController::showStatus(const QString& text, Role::State state)
 {
     ++m_statusSerial;
     m_statusLabel.setText(text);
-    m_statusLabel.setColor(kind == StatusKind::Failure   ? UIColor::errorRed()
-                           : kind == StatusKind::Success ? UIColor::successGreen()
-                                                         : UIColor::darkGrayColor());
-    m_statusKind = kind;
-    Q_EMIT statusKindChanged();
+    m_statusLabel.setState(state);
+    m_busy = state == Role::State::None;
+    Q_EMIT busyChanged();
 }
 
 void DeltaCorvelViewController::hideStatusLater(Reenable fields)

@@ -26,17 +26,12 @@ class DeltaCorvelViewController : public lodestar::ViewController
     Q_PROPERTY(lodestar::FieldOutlet* usernameField READ usernameField CONSTANT)
     Q_PROPERTY(lodestar::FieldOutlet* passwordField READ passwordField CONSTANT)
     Q_PROPERTY(lodestar::LabelOutlet* statusLabel READ statusLabel CONSTANT)
-    Q_PROPERTY(StatusKind statusKind READ statusKind NOTIFY statusKindChanged)
-    Q_PROPERTY(bool busy READ isBusy NOTIFY statusKindChanged)
+    Q_PROPERTY(bool busy READ isBusy NOTIFY busyChanged)
     Q_PROPERTY(double separatorLeft READ separatorLeft CONSTANT)
     Q_PROPERTY(double separatorRight READ separatorRight CONSTANT)
     Q_PROPERTY(double tableHeaderHeight READ tableHeaderHeight CONSTANT)
 
 public:
-    /// The kind of text in the status line, which decides on its mark.
-    enum class StatusKind { None, Message, Failure, Success };
-    Q_ENUM(StatusKind)
-
     DeltaCorvelViewController();
 
     const CorvelRef& corvel() const { return m_corvel; }
@@ -55,9 +50,8 @@ public:
     FieldOutlet* usernameField() { return &m_usernameField; }
     FieldOutlet* passwordField() { return &m_passwordField; }
     LabelOutlet* statusLabel() { return &m_statusLabel; }
-    StatusKind statusKind() const { return m_statusKind; }
-    /// True from a press of Save until its outcome; further presses do nothing.
-    bool isBusy() const { return m_statusKind == StatusKind::Message; }
+    /// From a press of Save that went ahead until its outcome; Save does nothing meanwhile.
+    bool isBusy() const { return m_busy; }
     double separatorLeft() const { return 10; }
     double separatorRight() const { return 15; }
     /// Almost 0, because 0 would bring back the gap above a grouped table.
@@ -76,7 +70,7 @@ public:
     void showWithSuccess(const QString& message);
 
 Q_SIGNALS:
-    void statusKindChanged();
+    void busyChanged();
 
 protected:
     void viewDidLoad() override;
@@ -85,7 +79,7 @@ private:
     enum class Reenable { No, Yes };
 
     void setFieldsEnabled(bool enabled);
-    void showStatus(const QString& text, StatusKind kind);
+    void showStatus(const QString& text, Role::State state);
     void hideStatusLater(Reenable fields);
     void insertRecordIfNeeded();
     void copyFieldsToRecord();
@@ -102,7 +96,7 @@ private:
     bool m_hasCreated = false;
     bool m_creatingInstance = false;
     bool m_closed = false;
-    StatusKind m_statusKind = StatusKind::None;
+    bool m_busy = false;
     int m_statusSerial = 0;
 
     LabelOutlet m_navigationBar;

@@ -17,7 +17,6 @@ class CorvelOverviewTableViewController : public lodestar::MenuTableViewControll
 protected:
     void viewDidLoad() override;
     Sections makeSections() const override;
-    void openRow(IndexPath indexPath) override;
 
 private:
     QString countOf(std::string_view type) const;

@@ -217,7 +217,7 @@ PageScaffold {
             OutletLabel {
                 outlet: scene.dashboard.waitingLabel
                 size: Theme.stateSize
-                baseColor: Theme.ink2
+                color: Theme.ink2
                 anchors.centerIn: parent
                 width: parent.width - 40
                 horizontalAlignment: Text.AlignHCenter

@@ -3,17 +3,10 @@
 
 #include "Inventory/ManagedSystem.h"
 #include "Views/Common/CellText.h"
+#include "Views/Common/Scenes.h"
 
 namespace lodestar
 {
-namespace
-{
-
-constexpr auto performanceScene = "pcmDataView";
-constexpr auto partitionsScene = "logicalPartitionsView";
-constexpr auto informationScene = "managedSystemInfo";
-
-} // namespace
 
 void MSOverViewController::viewDidLoad()
 {
@@ -31,29 +24,25 @@ MenuTableViewController::Sections MSOverViewController::makeSections() const
 {
     // The row without a scene names the system that the menu is for.
     const ManagedSystem shown(system());
-    return {{{tr("Performance Monitoring"), "performance", performanceScene}},
-            {{textOf(shown.name()), "managed_systems", "", textOf(shown.state())},
-             {tr("Logical Partitions"), "logical_partitions", partitionsScene}},
-            {{tr("System Information"), "info", informationScene}}};
+    const auto opensPerformance = [this] {
+        openScene(*this, Scenes::pcmDataView, {.corvel = corvel(), .sysName = {}, .systemID = firstSystemID()});
+    };
+    const auto opensPartitions = [this] {
+        openScene(*this, Scenes::logicalPartitionsView,
+                  {.corvel = corvel(), .partitionName = ManagedSystem(system()).name()});
+    };
+    const auto opensInformation = [this] { openScene(*this, Scenes::managedSystemInfo, system()); };
+    return {{{tr("Performance Monitoring"), "performance", opensPerformance}},
+            {{textOf(shown.name()), "managed_systems", {}, textOf(shown.state())},
+             {tr("Logical Partitions"), "logical_partitions", opensPartitions}},
+            {{tr("System Information"), "info", opensInformation}}};
 }
 
-void MSOverViewController::openRow(IndexPath indexPath)
+std::optional<std::string> MSOverViewController::firstSystemID() const
 {
-    if (indexPath == IndexPath{0, 0}) {
-        openScene(*this, performanceScene, {.corvel = corvel(), .systemID = systemIDAtRow(indexPath.row)});
-    } else if (indexPath == IndexPath{1, 1}) {
-        openScene(*this, partitionsScene, {.corvel = corvel(), .partitionName = ManagedSystem(system()).name()});
-    } else if (indexPath == IndexPath{2, 0}) {
-        openScene(*this, informationScene, {.rootXML = system()});
-    }
-}
-
-std::optional<std::string> MSOverViewController::systemIDAtRow(int row) const
-{
-    // The index is that of the selected row, which here is always 0. So the feed's first system is charted, whichever
-    // system the menu is for. That is meant.
+    // The feed's first system is charted, whichever system the menu is for. That is meant.
     const Feed feed = corvel() ? feedOfType(*corvel(), ObjectType::ManagedSystem) : Feed::notAvailable();
-    return ManagedSystem::identifierAt(feed, static_cast<std::size_t>(row));
+    return ManagedSystem::identifierAt(feed, 0);
 }
 
 } // namespace lodestar

@@ -3,7 +3,7 @@
 
 #include "Views/Common/CorvelReceiving.h"
 #include "Views/Common/MenuTableViewController.h"
-#include "Views/Common/SceneInputs.h"
+#include "Views/Common/RootXMLReceiving.h"
 
 #include <QColor>
 #include <QList>
@@ -52,10 +52,9 @@ public:
 protected:
     void viewDidLoad() override;
     Sections makeSections() const override;
-    void openRow(IndexPath indexPath) override;
 
 private:
-    std::optional<std::string> systemIDAtRow(int row) const;
+    std::optional<std::string> firstSystemID() const;
 };
 
 } // namespace lodestar

@@ -28,7 +28,7 @@ constexpr GroupedListTraits traits = {
     .partitionLine = 194,
     .linkLine = 197,
     .nameless = Nameless::Grouped,
-    .detailScene = "logicalPartitionsDetail",
+    .detailScene = Scenes::logicalPartitionsDetail,
 };
 
 } // namespace

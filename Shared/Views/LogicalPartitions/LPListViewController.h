@@ -2,7 +2,6 @@
 #pragma once
 
 #include "Views/Common/GroupedListViewController.h"
-#include "Views/Common/SceneInputs.h"
 
 namespace lodestar
 {
@@ -10,9 +9,9 @@ namespace lodestar
 /// The logical partitions of a console by managed system: of all systems, or narrowed to one. A demonstration console
 /// has no system names and always shows all.
 ///
-/// A narrowed list has one section with the system's name and as many rows as the system has partitions. Nevertheless
-/// its rows show the partitions of the first group, whichever system that is; that is meant.
-class LPListViewController : public lodestar::GroupedListViewController, public PartitionNarrowing
+/// A narrowed list has one section with as many rows as the system has partitions, and titled with its name. Its rows
+/// are the first group's all the same, whichever system that is: the narrowing does not reach them, and that is meant.
+class LPListViewController : public lodestar::GroupedListViewController
 {
     Q_OBJECT
     QML_ELEMENT
@@ -23,10 +22,7 @@ public:
 
     /// Despite its name, the name of a managed system; nothing for all systems.
     const std::optional<std::string>& partitionName() const { return m_partitionName; }
-    void setPartitionName(std::optional<std::string> partitionName) override
-    {
-        m_partitionName = std::move(partitionName);
-    }
+    void setPartitionName(std::optional<std::string> partitionName) { m_partitionName = std::move(partitionName); }
 
     int numberOfSections(TableKind tableView) const override;
     int numberOfRowsInSection(TableKind tableView, int section) const override;

@@ -2,7 +2,6 @@
 #include "Views/ManagedSystems/MSListCell.h"
 
 #include "Inventory/ManagedSystem.h"
-#include "Kit/Core/UIColor+Tessel.h"
 #include "Views/Common/CellText.h"
 
 #include <utility>
@@ -29,9 +28,9 @@ MSListCell::MSListCell(const ManagedSystem& system, const QString& match)
     m_nameLabel.text = textOf(system.name());
     m_nameLabel.match = match;
     m_statusLabel.text = textOf(system.state());
-    const bool isGood = health == Health::Good;
-    m_statusLabel.color = isGood ? UIColor::successGreen() : UIColor::grayColor();
-    m_statusMark = isGood ? QStringLiteral("good") : m_isError ? QStringLiteral("error") : QStringLiteral("off");
+    m_statusLabel.state = health == Health::Good ? Role::State::Good
+                          : m_isError            ? Role::State::BadgedError
+                                                 : Role::State::Idle;
 }
 
 QString MSListCell::accessibleText() const

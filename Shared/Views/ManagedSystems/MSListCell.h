@@ -22,7 +22,6 @@ class MSListCell
     Q_PROPERTY(lodestar::CellImage statusImage READ statusImage)
     Q_PROPERTY(lodestar::CellLabel nameLabel READ nameLabel)
     Q_PROPERTY(lodestar::CellLabel statusLabel READ statusLabel)
-    Q_PROPERTY(QString statusMark READ statusMark)
     Q_PROPERTY(double nameLeftConstraint READ nameLeftConstraint)
     Q_PROPERTY(QList<lodestar::SwipeButton> rightButtons READ rightButtons)
     Q_PROPERTY(QString accessibleText READ accessibleText)
@@ -35,8 +34,6 @@ public:
     const CellImage& statusImage() const { return m_statusImage; }
     const CellLabel& nameLabel() const { return m_nameLabel; }
     const CellLabel& statusLabel() const { return m_statusLabel; }
-    /// The shape that shows the state without colour: "good", "error" or "off".
-    const QString& statusMark() const { return m_statusMark; }
     /// Points from the row's start to the name.
     double nameLeftConstraint() const { return m_nameLeftConstraint; }
     void setRightButtons(QList<SwipeButton> buttons) { m_rightButtons = std::move(buttons); }
@@ -47,7 +44,6 @@ private:
     CellImage m_statusImage{{}, true};
     CellLabel m_nameLabel;
     CellLabel m_statusLabel;
-    QString m_statusMark;
     double m_nameLeftConstraint = 20;
     bool m_isError = false;
     bool m_isLEDLit = false;

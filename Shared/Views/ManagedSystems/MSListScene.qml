@@ -18,7 +18,6 @@ FeedListScene {
         nameStart: cell.nameLeftConstraint
         badge: cell.statusImage.hidden ? "" : cell.statusImage.imageName
         state: cell.statusLabel
-        stateMark: cell.statusMark
         swipeButtons: cell.rightButtons
         accessibleText: cell.accessibleText
     }

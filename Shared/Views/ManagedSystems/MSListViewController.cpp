@@ -2,9 +2,7 @@
 #include "Views/ManagedSystems/MSListViewController.h"
 
 #include "Inventory/ManagedSystem.h"
-#include "Kit/Core/Storyboard.h"
-#include "Kit/Core/UIColor+Tessel.h"
-#include "Views/Common/SceneInputs.h"
+#include "Views/Common/Scenes.h"
 #include "Views/ManagedSystems/MSListCell.h"
 
 #include <QCoreApplication>
@@ -29,11 +27,6 @@ constexpr FeedListTraits traits = {
     .emptyText = QT_TRANSLATE_NOOP("FeedListViewController", "This console manages no systems."),
 };
 
-constexpr auto informationScene = "managedSystemInfo";
-constexpr auto performanceScene = "pcmDataView";
-constexpr auto partitionsScene = "logicalPartitionsView";
-constexpr auto menuScene = "managedSystemMenu";
-
 constexpr int cancelItem = 3;
 constexpr int menuButton = 0;
 
@@ -42,17 +35,9 @@ std::string nameOf(const XMLElement& system)
     return ManagedSystem(system).name().value_or("");
 }
 
-MenuChoice choice(const QString& title, const char* image, const char* scene)
-{
-    return {title, false, QString::fromLatin1(image), Storyboard::main().hasScene(scene)};
-}
-
 QList<SwipeButton> makeRightButtons()
 {
-    if (!Storyboard::main().hasScene(menuScene)) {
-        return {};
-    }
-    return {SwipeButton{MSListViewController::tr("System menu"), UIColor::tesselBlue(), QStringLiteral("more")}};
+    return {SwipeButton{MSListViewController::tr("System menu"), Role::Button::Standard, QStringLiteral("more")}};
 }
 
 } // namespace
@@ -83,9 +68,9 @@ QVariant MSListViewController::cellForRowAtIndexPath(TableKind tableView, IndexP
 void MSListViewController::didSelectRowAtIndexPath(TableKind tableView, IndexPath indexPath)
 {
     m_actionSheet.present(tr("Managed System"), {},
-                          {choice(tr("System Information"), "info", informationScene),
-                           choice(tr("Performance Monitoring"), "performance", performanceScene),
-                           choice(tr("Logical Partitions"), "logical_partitions", partitionsScene),
+                          {{tr("System Information"), false, QStringLiteral("info")},
+                           {tr("Performance Monitoring"), false, QStringLiteral("performance")},
+                           {tr("Logical Partitions"), false, QStringLiteral("logical_partitions")},
                            {tr("Cancel")}},
                           cancelItem, [this, tableView, indexPath](int index) {
                               // The element is read again, because the list may have been fetched anew while the sheet
@@ -102,14 +87,14 @@ void MSListViewController::openItem(int index, const ManagedSystem& system)
     }
     switch (index) {
     case 0:
-        openScene(*this, informationScene, {.rootXML = system.element()});
+        openScene(*this, Scenes::managedSystemInfo, system.element());
         break;
     case 1:
-        openScene(*this, performanceScene,
+        openScene(*this, Scenes::pcmDataView,
                   {.corvel = corvel(), .sysName = system.name(), .systemID = system.identifier()});
         break;
     case 2:
-        openScene(*this, partitionsScene, {.corvel = corvel(), .partitionName = system.name()});
+        openScene(*this, Scenes::logicalPartitionsView, {.corvel = corvel(), .partitionName = system.name()});
         break;
     default:
         break;
@@ -120,7 +105,7 @@ bool MSListViewController::tappedButtonAtIndex(TableKind tableView, int row, int
 {
     const XMLElement system = elementAtRow(tableView, row);
     if (index == menuButton && system) {
-        openScene(*this, menuScene, {.corvel = corvel(), .rootXML = system});
+        openScene(*this, Scenes::managedSystemMenu, {.corvel = corvel(), .system = system});
     }
     return true;
 }

@@ -29,8 +29,8 @@ TableCell {
         id: counter
 
         required property cellLabel count
-        required property string mark
-        required property color markColor
+        /// One of Role.State.
+        required property int role
 
         readonly property bool zero: count.text === "0"
 
@@ -41,8 +41,8 @@ TableCell {
         StateMark {
             id: shape
 
-            mark: counter.mark
-            color: counter.zero ? Theme.faint : counter.markColor
+            mark: Theme.stateMark(counter.role)
+            color: counter.zero ? Theme.faint : Theme.loneMarkInk(counter.role)
             anchors.left: parent.left
             y: (number.lineHeight - height) / 2
         }
@@ -125,32 +125,28 @@ TableCell {
                 id: good
 
                 count: row.cell.goodCountLabel
-                mark: "good"
-                markColor: Theme.successGreen
+                role: Role.State.Good
                 width: counters.drawn
             }
             Counter {
                 id: off
 
                 count: row.cell.offCountLabel
-                mark: "off"
-                markColor: Theme.failedRed
+                role: Role.State.Off
                 width: counters.drawn
             }
             Counter {
                 id: alert
 
                 count: row.cell.alertCountLabel
-                mark: "alert"
-                markColor: Theme.systemOrange
+                role: Role.State.Alert
                 width: counters.drawn
             }
             Counter {
                 id: error
 
                 count: row.cell.errorCountLabel
-                mark: "error"
-                markColor: Theme.systemRed
+                role: Role.State.Error
                 width: counters.drawn
             }
         }

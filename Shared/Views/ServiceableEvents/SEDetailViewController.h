@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Views/Common/DetailViewController.h"
-#include "Views/Common/SceneInputs.h"
+#include "Views/Common/RootXMLReceiving.h"
 
 namespace lodestar
 {

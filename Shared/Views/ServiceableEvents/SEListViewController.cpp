@@ -2,7 +2,7 @@
 #include "Views/ServiceableEvents/SEListViewController.h"
 
 #include "Inventory/ServiceableEvent.h"
-#include "Views/Common/SceneInputs.h"
+#include "Views/Common/Scenes.h"
 #include "Views/ServiceableEvents/SEListCell.h"
 
 #include <QCoreApplication>
@@ -72,7 +72,7 @@ void SEListViewController::didSelectRowAtIndexPath(TableKind /*tableView*/, Inde
     // tapped. Both are meant.
     const XMLElement event = contentOf(elementAt(feed().entries(), indexPath.row), ObjectType::ServiceableEvent);
     if (event) {
-        openScene(*this, "serviceableEventsDetail", {.rootXML = event});
+        openScene(*this, Scenes::serviceableEventsDetail, event);
     }
     tableView()->deselectRow(indexPath);
 }

@@ -2,7 +2,6 @@
 #include "Views/VIOS/VIOSViewController.h"
 
 #include "Inventory/Partition.h"
-#include "Kit/Core/UIColor+Tessel.h"
 
 #include <QCoreApplication>
 
@@ -29,14 +28,14 @@ constexpr GroupedListTraits traits = {
     .partitionLine = 192,
     .linkLine = 195,
     .nameless = Nameless::LeftOut,
-    .detailScene = "viosDetail",
+    .detailScene = Scenes::viosDetail,
 };
 
 constexpr int expandingButton = 0;
 
-SwipeButton checkButton(const QColor& color)
+SwipeButton checkButton(Role::Button role)
 {
-    return {QString(), color, QStringLiteral("check"), VIOSViewController::tr("Check")};
+    return {QString(), role, QStringLiteral("check"), VIOSViewController::tr("Check")};
 }
 
 } // namespace
@@ -46,10 +45,10 @@ VIOSViewController::VIOSViewController() : GroupedListViewController(traits) {}
 void VIOSViewController::completeCell(PartitionCell& cell, const Partition& partition) const
 {
     if (partition.health() == Health::Idle) {
-        cell.setLeftButtons({checkButton(UIColor::tesselLightGreen())}, expandingButton);
+        cell.setLeftButtons({checkButton(Role::Button::Positive)}, expandingButton);
     } else {
-        const SwipeButton favourite{QString(), UIColor::errorRed(), QStringLiteral("fav"), tr("Favourite")};
-        cell.setLeftButtons({checkButton(UIColor::tesselBlue()), favourite}, expandingButton);
+        const SwipeButton favourite{QString(), Role::Button::Favourite, QStringLiteral("fav"), tr("Favourite")};
+        cell.setLeftButtons({checkButton(Role::Button::Standard), favourite}, expandingButton);
     }
 }
 

@@ -236,7 +236,7 @@ PageScaffold {
                 OutletLabel {
                     outlet: scene.performance.fetchingLabel
                     size: Theme.stateSize
-                    baseColor: Theme.ink2
+                    color: Theme.ink2
                     width: parent.width
                     horizontalAlignment: Text.AlignHCenter
                     wrapMode: Text.Wrap

@@ -2,6 +2,7 @@
 #include "Views/ManagedSystems/PCM/PCMViewController.h"
 
 #include "Controllers/REST/RESTHandler.h"
+#include "Kit/Core/UIColor+Tessel.h"
 #include "Views/Common/FeedTimeStamp.h"
 #include "Views/Common/ScreenLog.h"
 
@@ -26,9 +27,8 @@ constexpr std::size_t mostSkippedLines = 1000;
 constexpr double newDataSeconds = 3.0;
 constexpr double openingSeconds = 2.5;
 
-/// Orange, green and blue as charts have them on a light card; the scene replaces them on a dark one.
-const std::array<QColor, 3> seriesColors = {QColor(0xD9, 0x7A, 0x00), QColor(0x00, 0x8B, 0x11),
-                                            QColor(0x00, 0x30, 0x8B)};
+/// Orange, green and blue as charts have them on a light card; the scene knows their dark counterparts.
+constexpr std::array<QColor, 3> seriesColors = {UIColor::chartOrange(), UIColor::successGreen(), UIColor::ornisBlue()};
 constexpr std::array<double MetricsFigures::*, 3> seriesFigures = {&MetricsFigures::total, &MetricsFigures::allocated,
                                                                    &MetricsFigures::used};
 

@@ -7,7 +7,6 @@
 #include "Kit/Core/Outlets.h"
 #include "Kit/Core/ViewController.h"
 #include "Views/Common/CorvelReceiving.h"
-#include "Views/Common/SceneInputs.h"
 #include "Views/Common/TitleHeader.h"
 
 #include <cstdint>
@@ -17,12 +16,9 @@
 namespace lodestar
 {
 
-/// The performance of one managed system: total, allocated and used processors or memory, each as a line and its latest
-/// value as a number. Every choice of a segment fetches the whole document anew. Main thread.
-class PCMViewController : public lodestar::ViewController,
-                          public CorvelReceiving,
-                          public PerformanceReceiving,
-                          private ChartViewDelegate
+/// The performance of one managed system: its total, allocated and used processors or memory as lines, and the latest
+/// of each as a number. Every choice of a segment fetches the whole document anew. Main thread.
+class PCMViewController : public lodestar::ViewController, public CorvelReceiving, private ChartViewDelegate
 {
     Q_OBJECT
     QML_ELEMENT
@@ -45,11 +41,10 @@ public:
 
     /// Nothing when the opener gave no name; the title is then empty.
     const std::optional<std::string>& sysName() const { return m_sysName; }
-    void setSysName(std::optional<std::string> sysName) override { m_sysName = std::move(sysName); }
+    void setSysName(std::optional<std::string> sysName) { m_sysName = std::move(sysName); }
     const std::optional<std::string>& systemID() const { return m_systemID; }
-    void setSystemID(std::optional<std::string> systemID) override { m_systemID = std::move(systemID); }
-    /// Dates of the first and last sample of the last chart; nothing before that, and for a time stamp that cannot be
-    /// read.
+    void setSystemID(std::optional<std::string> systemID) { m_systemID = std::move(systemID); }
+    /// Of the first and the last sample when they were last charted; none before and for a stamp that cannot be read.
     const std::optional<MetricsDate>& startDate() const { return m_startDate; }
     const std::optional<MetricsDate>& endDate() const { return m_endDate; }
 
