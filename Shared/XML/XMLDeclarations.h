@@ -29,7 +29,7 @@ public:
     virtual void refuse() = 0;
 
 protected:
-    ~XMLDeclarationReader() = default;
+    virtual ~XMLDeclarationReader() = default;
 
 private:
     XMLExpansion m_expansion;
