@@ -2,7 +2,7 @@
 import QtQuick
 import Lodestar.Kit
 
-/// A label that shows its outlet's text and colour. `baseColor` applies while the outlet has no colour.
+/// A label that shows its outlet's text.
 Label {
     required property LabelOutlet outlet
 

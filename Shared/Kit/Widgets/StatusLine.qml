@@ -2,7 +2,7 @@
 import QtQuick
 import Lodestar.Kit
 
-/// The line below a form that tells the state of what is going on, in its outlet's colour; errors stand on a plate.
+/// The line below a form that tells what is going on, in the look of its outlet's state; errors stand on a plate.
 Item {
     id: status
 

@@ -9,8 +9,8 @@ Item {
     property string accessibleText
     /// Whether the row can be pressed. Screen readers read a row that cannot.
     property bool selectable: true
-    /// Buttons as values with `title`, `backgroundColor` and, for a picture, `imageName`; the first stands at the outer
-    /// edge.
+    /// Buttons as values with `title`, `role` (one of Role.Button) and, for a picture, `imageName`; the first stands at
+    /// the outer edge.
     property var swipeButtons: []
     property var leadingSwipeButtons: []
     /// The leading button that fills the row after a far drag and is chosen when the finger leaves; -1 for none.

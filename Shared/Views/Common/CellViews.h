@@ -15,7 +15,7 @@ namespace lodestar
 /// The views of a table cell as values. They are to a row what a controller's outlets are to a screen. A row changes by
 /// getting a new cell, so these values notify nobody.
 
-/// A text in a cell. An invalid colour leaves the view its own colour. In a list of search results, `match` is the
+/// A text in a cell, and the state that the text tells, if it tells one. In a list of search results, `match` is the
 /// searched text, which is marked wherever the label contains it; elsewhere `match` is empty.
 struct CellLabel {
     Q_GADGET

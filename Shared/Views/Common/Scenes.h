@@ -12,13 +12,11 @@
 namespace lodestar
 {
 
-class CorvelListViewController;
-
 /// What scenes are opened with. No member has a default: an opener that leaves one out is not compiled.
 
 struct EditorInput {
-    CorvelRef corvel;                                     ///< none to add one
-    std::shared_ptr<CorvelListViewController> parentList; ///< kept for as long as the editor is there; may be none
+    CorvelRef corvel;                           ///< none to add one
+    std::shared_ptr<ViewController> parentList; ///< kept for as long as the editor is there; may be none
 };
 
 struct PartitionsInput {

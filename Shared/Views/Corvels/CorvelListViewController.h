@@ -42,7 +42,6 @@ public:
     TableOutlet* tableView() { return &m_tableView; }
     RefreshControl* refreshControl() { return &m_refreshControl; }
     bool viewHasAppearedOnce() const { return m_viewHasAppearedOnce; }
-    /// The settings button is not there while the storyboard has no settings.
 
     /// Whether the feedback button is hidden. It is shown on devices that cannot be shaken, which is known only after
     /// the first frame.
