@@ -157,7 +157,7 @@ TEST_F(ObjectContextTests, ASaveThatTheDatabaseRefusesHalfWayLeavesNothingOfItse
     insert(*context, "c");
     EXPECT_FALSE(context->save().ok());
     EXPECT_TRUE(context->hasChanges());
-    EXPECT_THAT(storedTitles(), ElementsAre("a"));
+    EXPECT_EQ(plain().execAndGet("SELECT group_concat(title) FROM Item").getString(), "a");
     plain().exec("DROP TRIGGER t");
     ASSERT_TRUE(context->save().ok());
     EXPECT_THAT(storedTitles(), ElementsAre("a2", "b", "c"));

@@ -14,7 +14,7 @@ IconButton {
 
     /// Whether the key would copy the field's text to the clipboard.
     function isCopying(event: var): bool {
-        // qmllint of Qt 6.4 does not know StandardKey.
+        // The linter of Qt 6.4 does not know StandardKey.
         return event.matches(StandardKey.Copy) || event.matches(StandardKey.Cut); // qmllint disable unqualified
     }
 
