@@ -6,6 +6,7 @@
 
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace lodestar::test
 {
@@ -14,7 +15,8 @@ inline Result<std::string> readPassword(const std::string& service = "Login", co
                                         Keychain::Prompt prompt = Keychain::Prompt::Allowed)
 {
     std::optional<Result<std::string>> answer;
-    Keychain::standard().readPassword(service, account, prompt, [&](Result<std::string> result) { answer = result; });
+    Keychain::standard().readPassword(service, account, prompt,
+                                      [&](Result<std::string> result) { answer = std::move(result); });
     MainQueue::shared().runUntil([&] { return answer.has_value(); }, std::chrono::seconds(60));
     return *answer;
 }
@@ -25,7 +27,7 @@ inline Result<void> writePassword(const std::string& password, const std::string
 {
     std::optional<Result<void>> answer;
     Keychain::standard().writePassword(password, service, account, prompt,
-                                       [&](Result<void> result) { answer = result; });
+                                       [&](Result<void> result) { answer = std::move(result); });
     MainQueue::shared().runUntil([&] { return answer.has_value(); }, std::chrono::seconds(60));
     return *answer;
 }

@@ -171,7 +171,8 @@ QImage withPalette(const QImage& image)
                          std::abs(qBlue(left) - qBlue(right))}) <= 5;
     };
     QList<QRgb> palette;
-    for (const auto& [color, count] : colors) {
+    for (const auto& counted : colors) {
+        const QRgb color = counted.first;
         if (palette.size() < 256 &&
             std::none_of(palette.begin(), palette.end(), [&](QRgb chosen) { return isClose(chosen, color); })) {
             palette.append(color);

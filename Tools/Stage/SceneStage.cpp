@@ -18,6 +18,7 @@
 #include <QEventLoop>
 #include <QQmlComponent>
 #include <QTimer>
+#include <fmt/core.h>
 
 #include <stdexcept>
 
@@ -34,8 +35,7 @@ std::string feedOf(const std::string& type, const std::string& element,
     std::string xml = "<feed>";
     for (const auto& [state, count] : states) {
         for (int i = 0; i < count; ++i) {
-            xml += "<entry><content><" + type + "><" + element + ">" + state + "</" + element + "></" + type +
-                   "></content></entry>";
+            xml += fmt::format("<entry><content><{0}><{1}>{2}</{1}></{0}></content></entry>", type, element, state);
         }
     }
     return xml + "</feed>";
@@ -48,7 +48,7 @@ Feed parse(const std::string& xml)
 
 CorvelRef makeRecord(const ConsoleLook& look)
 {
-    const auto corvel = std::static_pointer_cast<Corvel>(
+    auto corvel = std::static_pointer_cast<Corvel>(
         StoreStack::shared().managedObjectContext().insertNewObject(Corvel::entityName));
     corvel->setName(look.name);
     corvel->setAddress(look.address);
@@ -72,6 +72,7 @@ CorvelRef makeRecord(const ConsoleLook& look)
 void setRecords(const std::vector<ConsoleLook>& consoles)
 {
     std::vector<CorvelRef> records;
+    records.reserve(consoles.size());
     for (const ConsoleLook& look : consoles) {
         records.push_back(makeRecord(look));
     }
@@ -168,7 +169,7 @@ std::vector<ConsoleLook> longNames()
 
 CorvelRef demoConsole(const std::map<std::string, std::string>& feeds)
 {
-    const auto corvel = std::static_pointer_cast<Corvel>(
+    auto corvel = std::static_pointer_cast<Corvel>(
         StoreStack::shared().managedObjectContext().insertNewObject(Corvel::entityName));
     corvel->setName("Harbour B");
     corvel->setAddress("127.0.0.1");
@@ -309,7 +310,10 @@ bool SceneStage::waitFor(const std::function<bool()>& predicate) const
 void SceneStage::settle(int milliseconds) const
 {
     QEventLoop loop;
-    QTimer::singleShot(milliseconds, &loop, &QEventLoop::quit);
+    QTimer timer;
+    timer.setSingleShot(true);
+    QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
+    timer.start(milliseconds);
     loop.exec();
 }
 
