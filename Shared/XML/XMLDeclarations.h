@@ -24,12 +24,10 @@ private:
 class XMLDeclarationReader
 {
 public:
+    virtual ~XMLDeclarationReader() = default;
     XMLExpansion& expansion() { return m_expansion; }
     /// Ends the parse: the document is too large in some way.
     virtual void refuse() = 0;
-
-protected:
-    virtual ~XMLDeclarationReader() = default;
 
 private:
     XMLExpansion m_expansion;
