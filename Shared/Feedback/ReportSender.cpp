@@ -2,12 +2,12 @@
 #include "Feedback/ReportSender.h"
 
 #include "Feedback/ReportArchive.h"
-#include "Feedback/SessionIdentifier.h"
 #include "Platform/URLLoading/URLLoading.h"
 
 #include <fmt/core.h>
 
 #include <algorithm>
+#include <random>
 #include <utility>
 
 namespace lodestar
@@ -94,6 +94,16 @@ const std::string& feedbackAddress()
 void setFeedbackAddress(std::string address_)
 {
     address() = std::move(address_);
+}
+
+const std::string& feedbackSessionIdentifier()
+{
+    // A random number, not the time: it identifies the run and tells nothing about the device.
+    static const std::string identifier = [] {
+        std::random_device chance;
+        return fmt::format("{:08x}{:08x}", chance(), chance());
+    }();
+    return identifier;
 }
 
 void startFeedbackSession(const FeedbackSession& session, const std::string& address, const OperationQueue& queue,

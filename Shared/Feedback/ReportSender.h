@@ -16,6 +16,9 @@ namespace lodestar
 const std::string& feedbackAddress();
 void setFeedbackAddress(std::string address);
 
+/// Names this run of the program in the log, in reports and to the feedback service: letters and digits. Any thread.
+const std::string& feedbackSessionIdentifier();
+
 /// A run of the program, as the feedback service knows it.
 struct FeedbackSession {
     std::string applicationKey; ///< a credential: never put it into a log or a report

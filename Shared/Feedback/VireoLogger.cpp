@@ -4,11 +4,9 @@
 #include "Feedback/CrashCapture.h"
 #include "Feedback/CrashModules.h"
 #include "Feedback/ExceptionText.h"
-#include "Feedback/LogListeners.h"
 #include "Feedback/LogText.h"
 #include "Feedback/LogWriter.h"
 #include "Feedback/ReportSender.h"
-#include "Feedback/SessionIdentifier.h"
 #include "Platform/Queues/OwnThread.h"
 #include "Platform/UtcStamp.h"
 
@@ -19,14 +17,12 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <execinfo.h>
 #include <iterator>
+#include <list>
 #include <mutex>
 #include <unistd.h>
 #include <utility>
-
-#if __has_include(<execinfo.h>)
-#include <execinfo.h>
-#endif
 
 namespace lodestar
 {
@@ -58,6 +54,18 @@ SecretsProvider& secretsProvider()
 {
     static auto& provider = *new SecretsProvider;
     return provider;
+}
+
+/// The functions that receive every line. Never destroyed: threads log until the very end.
+struct Listeners {
+    std::mutex mutex; ///< held while the functions run
+    std::list<std::function<void(const VireoLogger::Entry&)>> functions;
+};
+
+Listeners& listeners()
+{
+    static auto& all = *new Listeners;
+    return all;
 }
 
 /// One line: time, level, tag, thread, place, method, message, in the order in which a reader scans.
@@ -98,12 +106,16 @@ std::string fileHeader()
 
 } // namespace
 
-void VireoLogger::write(const Line& line)
+void VireoLogger::write(const Entry& entry)
 {
     // Logging never breaks its caller: when memory or anything else is missing, only the line is lost.
     try {
-        const Entry entry{line.level, line.tag, line.line, line.fileName, line.method, line.stacktrace, line.message};
-        LogListeners::shared().notify(entry);
+        {
+            const std::lock_guard lock(listeners().mutex);
+            for (const auto& listener : listeners().functions) {
+                listener(entry);
+            }
+        }
         LogWriter& writer = LogWriter::shared();
         if (!copiesToStandardError && !writer.isOpen()) {
             return;
@@ -200,7 +212,12 @@ bool VireoLogger::openLogFolder(const std::string& folder)
 
 std::shared_ptr<void> VireoLogger::addListener(std::function<void(const Entry&)> listener)
 {
-    return LogListeners::shared().add(std::move(listener));
+    const std::lock_guard lock(listeners().mutex);
+    const auto added = listeners().functions.insert(listeners().functions.end(), std::move(listener));
+    return {&*added, [added](void*) {
+                const std::lock_guard removing(listeners().mutex);
+                listeners().functions.erase(added);
+            }};
 }
 
 void VireoLogger::forget()
@@ -215,15 +232,11 @@ void VireoLogger::flush()
 
 [[gnu::noinline]] std::vector<void*> callStackReturnAddresses()
 {
-#if __has_include(<execinfo.h>)
     constexpr int most = 32;
     void* addresses[most + 1];
     const int count = ::backtrace(addresses, most + 1);
     // The first address lies in this function, so it is left out.
     return count <= 1 ? std::vector<void*>() : std::vector<void*>(addresses + 1, addresses + count);
-#else
-    return {};
-#endif
 }
 
 } // namespace lodestar

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Feedback/LogEntry.h"
-
 #include <fmt/core.h>
 
 #include <functional>
@@ -26,7 +24,16 @@ public:
         /// Whether screens show a button for the feedback screen, for devices that are not shaken.
         bool offersEntry = false;
     };
-    using Entry = LogEntry;
+    /// One logged line, as a listener receives it.
+    struct Entry {
+        int level;
+        int tag;
+        int line;
+        std::string_view fileName; ///< such as "Shared/Controllers/REST/RESTHandler"
+        std::string_view method;   ///< such as "-[RESTHandler login:checkToken:]"
+        std::span<void* const> stacktrace;
+        std::string_view message;
+    };
 
     template <typename... Args>
     static void logWithLevel(int level, int tag, int line, std::string_view fileName, std::string_view method,
@@ -60,7 +67,7 @@ public:
     static bool openLogFolder(const std::string& folder);
     /// Calls the function for every line, on the thread that logs the line, one line at a time, until the returned
     /// token is destroyed. After the token's destruction the function does not run any more. The message is unescaped,
-    /// as it was logged. Lines that the function logs itself reach no listener. For tests and the debug console.
+    /// as it was logged. The function must neither log nor end its own token. For tests.
     [[nodiscard]] static std::shared_ptr<void> addListener(std::function<void(const Entry&)> listener);
     /// Empties the log: the current file, the rotated files and the lines kept in memory for a crash. Logging goes on.
     static void forget();
@@ -69,19 +76,10 @@ public:
     static void flush();
 
 private:
-    struct Line {
-        int level;
-        int tag;
-        int line;
-        std::string_view fileName;
-        std::string_view method;
-        std::span<void* const> stacktrace;
-        std::string message;
-    };
-    static void write(const Line& line);
+    static void write(const Entry& entry);
 };
 
-/// The return addresses of the calling thread's stack, innermost first, at most 32; empty where the system cannot tell.
+/// The return addresses of the calling thread's stack, innermost first, at most 32.
 std::vector<void*> callStackReturnAddresses();
 
 } // namespace lodestar

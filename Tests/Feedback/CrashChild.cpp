@@ -10,6 +10,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
+#include <filesystem>
+#include <fstream>
 #include <functional>
 #include <map>
 #include <mutex>
@@ -100,6 +102,16 @@ void throwWithTheLockHeld() noexcept
     throwWithASecret();
 }
 
+/// Lives as long as the file that it makes.
+void waitUntilTold(const std::string& folder)
+{
+    const std::string file = folder + "/waiting";
+    std::ofstream(file) << "alive";
+    while (std::filesystem::exists(file)) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+    }
+}
+
 void throwOnAWorker()
 {
     std::thread(&throwWithASecret).join();
@@ -108,7 +120,7 @@ void throwOnAWorker()
 } // namespace
 
 /// Found by its name in the report.
-[[gnu::noinline]] void crashHere(const std::string& what)
+[[gnu::noinline]] void crashHere(const std::string& folder, const std::string& what)
 {
     const std::map<std::string, std::function<void()>> ways = {
         {"segv", [] { zero = *reinterpret_cast<volatile int*>(zero + 16); }},
@@ -133,6 +145,8 @@ void throwOnAWorker()
              ::raise(SIGSEGV);
          }},
         {"killed", [] { ::raise(SIGKILL); }},
+        {"end", [] {}},
+        {"wait", [&folder] { waitUntilTold(folder); }},
     };
     ways.at(what)();
 }
@@ -158,12 +172,6 @@ int main(int argc, char** argv)
     }
     CrashCapture::recordModules();
     LODESTAR_LOG("Tests/Feedback/CrashChild", "main", "last words before {}", what);
-    if (what == "wait") {
-        std::puts("ready");
-        std::fflush(stdout);
-        std::getchar();
-        return 0;
-    }
-    crashHere(what);
+    crashHere(folder, what);
     return 0;
 }

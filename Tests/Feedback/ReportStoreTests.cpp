@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/ReportStore.h"
+#include "Tests/Support/FullDisk.h"
 #include "Tests/Support/ScratchFolder.h"
 
 #include <gmock/gmock.h>
 
 #include <cerrno>
-#include <csignal>
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace lodestar
@@ -58,25 +57,6 @@ unsigned permissions(const std::string& path)
     return status.st_mode & 0777U;
 }
 
-/// No file grows beyond so many bytes while it lives.
-class SmallDisk
-{
-public:
-    explicit SmallDisk(rlim_t bytes)
-    {
-        ::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const struct rlimit limit = {bytes, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~SmallDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
-
-private:
-    struct rlimit m_before = {};
-};
-
 } // namespace
 
 TEST_F(ReportStoreTest, WhatIsKeptIsReadBackAndIsNobodyElses)
@@ -126,7 +106,7 @@ TEST_F(ReportStoreTest, AFullDiskLeavesNothingHalfAndTakesNothingThatWasThere)
     ReportBundle large = sample();
     large.picture.assign(300'000, 'p');
     {
-        const SmallDisk disk(100'000);
+        const test::FullDisk disk(100'000);
         const Result<std::string> saved = m_store.save(large);
         ASSERT_FALSE(saved.ok());
         EXPECT_EQ(saved.error().code, EFBIG);
@@ -135,7 +115,7 @@ TEST_F(ReportStoreTest, AFullDiskLeavesNothingHalfAndTakesNothingThatWasThere)
     EXPECT_THAT(entries(), ElementsAre(before));
     EXPECT_TRUE(m_store.save(large).ok());
     {
-        const SmallDisk disk(10);
+        const test::FullDisk disk(10);
         EXPECT_FALSE(m_store.exportTo(before, m_folder.file("out")).ok());
     }
     EXPECT_TRUE(fs::is_empty(m_folder.file("out")));

@@ -1,11 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/RotatingLogFile.h"
+#include "Tests/Support/FullDisk.h"
 #include "Tests/Support/ScratchFolder.h"
 
 #include <gtest/gtest.h>
-
-#include <csignal>
-#include <sys/resource.h>
 
 namespace lodestar
 {
@@ -19,25 +17,6 @@ perms modeOf(const std::filesystem::path& path)
 {
     return std::filesystem::status(path).permissions();
 }
-
-/// For its life, writes that would make a file larger than this fail as on a full disk.
-class FullDisk
-{
-public:
-    explicit FullDisk(rlim_t bytes)
-    {
-        std::signal(SIGXFSZ, SIG_IGN);
-        ::getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~FullDisk() { ::setrlimit(RLIMIT_FSIZE, &m_before); }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    rlimit m_before = {};
-};
 
 } // namespace
 
@@ -105,7 +84,7 @@ TEST(RotatingLogFile, CountsWhatAFullDiskTookAndRecovers)
     RotatingLogFile file;
     ASSERT_TRUE(file.open(scratch.path().string(), "log", {}));
     {
-        const FullDisk disk(10);
+        const test::FullDisk disk(10);
         file.append("12345678\nabc\n"); // the disk is full in the second line
         file.append("lost\n");
         EXPECT_EQ(scratch.read("log"), "12345678\na");

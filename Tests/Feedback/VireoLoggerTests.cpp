@@ -11,7 +11,6 @@
 namespace lodestar
 {
 
-using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
@@ -27,34 +26,6 @@ std::string escaped(std::string_view message)
     appendLogText(line, message);
     return line;
 }
-
-/// A folder that a test and the process that it runs again to let it die have in common.
-class SharedFolder
-{
-public:
-    SharedFolder()
-    {
-        GTEST_FLAG_SET(death_test_style, "threadsafe");
-        if (const char* inherited = std::getenv(variable)) {
-            m_path = inherited;
-        } else {
-            m_own = std::make_unique<ScratchFolder>();
-            m_path = m_own->path().string();
-            ::setenv(variable, m_path.c_str(), 1);
-        }
-    }
-    ~SharedFolder() { ::unsetenv(variable); }
-    SharedFolder(const SharedFolder&) = delete;
-    SharedFolder& operator=(const SharedFolder&) = delete;
-
-    const std::string& path() const { return m_path; }
-    std::string log() const { return m_own ? m_own->read("lodestar.log") : ""; }
-
-private:
-    static constexpr const char* variable = "LODESTAR_TEST_LOG_FOLDER";
-    std::unique_ptr<ScratchFolder> m_own;
-    std::string m_path;
-};
 
 std::string lastLine(const std::string& log)
 {
@@ -141,58 +112,23 @@ TEST(VireoLogger, CarriesLinesToTheFileWithoutAFlush)
     }
 }
 
-TEST(VireoLogger, WritesWhatIsLeftAtExit)
-{
-    const SharedFolder folder;
-    EXPECT_EXIT(
-        {
-            VireoLogger::openLogFolder(folder.path());
-            LODESTAR_LOG(here, "method", "the last words");
-            std::exit(0);
-        },
-        testing::ExitedWithCode(0), "");
-    EXPECT_THAT(lastLine(folder.log()), HasSubstr("the last words"));
-}
-
 TEST(VireoLogger, ListenersHearLinesAsLoggedUntilTheyEnd)
-{
-    std::vector<std::string> heard;
-    auto listener = VireoLogger::addListener([&](const VireoLogger::Entry& entry) {
-        heard.push_back(fmt::format("{} {} {} {}", entry.level, entry.tag, entry.method, entry.message));
-        EXPECT_EQ(entry.fileName, here);
-        EXPECT_FALSE(entry.stacktrace.empty());
-        LODESTAR_LOG(here, "listener", "does not come back");
-    });
-    LODESTAR_LOG(here, "-[A b:]", "{}\n", "text");
-    EXPECT_THAT(heard, ElementsAre("2 0 -[A b:] text\n"));
-    listener.reset();
-    LODESTAR_LOG(here, "-[A b:]", "unheard");
-    EXPECT_EQ(heard.size(), 1U);
-
-    std::shared_ptr<void> once;
-    int calls = 0;
-    once = VireoLogger::addListener([&](const VireoLogger::Entry&) {
-        ++calls;
-        once.reset();
-    });
-    LODESTAR_LOG(here, "method", "one");
-    LODESTAR_LOG(here, "method", "two");
-    EXPECT_EQ(calls, 1);
-}
-
-TEST(VireoLogger, AListenerThatHasEndedDoesNotRunOnAnyThread)
 {
     std::atomic<bool> stop = false;
     std::thread logging([&] {
         while (!stop) {
-            LODESTAR_LOG(here, "method", "again");
+            LODESTAR_LOG(here, "-[A b:]", "{}\n", "text");
         }
     });
     for (int round = 0; round < 50; ++round) {
         std::atomic<bool> alive = true;
         std::atomic<int> calls = 0;
-        auto listener = VireoLogger::addListener([&](const VireoLogger::Entry&) {
+        auto listener = VireoLogger::addListener([&](const VireoLogger::Entry& entry) {
             EXPECT_TRUE(alive);
+            EXPECT_EQ(
+                fmt::format("{} {} {} {} {}", entry.level, entry.tag, entry.fileName, entry.method, entry.message),
+                fmt::format("2 0 {} -[A b:] text\n", here));
+            EXPECT_FALSE(entry.stacktrace.empty());
             ++calls;
         });
         while (calls == 0) {
