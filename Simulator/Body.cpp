@@ -32,18 +32,6 @@ private:
     std::size_t m_at = 0;
 };
 
-class FeedBody final : public Body
-{
-public:
-    FeedBody(const FeedTemplate& feed, const BlankValues& values) : m_size(feed.size(values)), m_cursor(feed, values) {}
-    std::uint64_t size() const override { return m_size; }
-    std::size_t read(char* out, std::size_t count) override { return m_cursor.read(out, count); }
-
-private:
-    std::uint64_t m_size;
-    FeedCursor m_cursor;
-};
-
 class RepeatingBody final : public Body
 {
 public:
@@ -158,11 +146,6 @@ BodyPtr makeBody(std::string text)
 BodyPtr makeBody(std::shared_ptr<const std::string> text)
 {
     return std::make_unique<TextBody>(std::move(text));
-}
-
-BodyPtr makeBody(const FeedTemplate& feed, const BlankValues& values)
-{
-    return std::make_unique<FeedBody>(feed, values);
 }
 
 BodyPtr makeRepeatingBody(std::string first, std::string repeated, std::uint64_t total, std::string last)

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Simulator/FeedWriter.h"
-
 #include <cstddef>
 #include <cstdint>
 #include <memory>
@@ -25,8 +23,6 @@ using BodyPtr = std::unique_ptr<Body>;
 
 BodyPtr makeBody(std::string text);
 BodyPtr makeBody(std::shared_ptr<const std::string> text);
-/// The feed and the values must outlive the body.
-BodyPtr makeBody(const FeedTemplate& feed, const BlankValues& values);
 /// `first`, then `repeated` until the body has at least `total` bytes, then `last`.
 BodyPtr makeRepeatingBody(std::string first, std::string repeated, std::uint64_t total, std::string last);
 /// The inner body in the chunked transfer coding. `size` is the inner body's.

@@ -133,10 +133,6 @@ bool Connection::readRequest()
     case RequestParser::Outcome::Incomplete:
         break;
     }
-    if (m_parser.wantsContinue()) {
-        static constexpr std::string_view line = "HTTP/1.1 100 Continue\r\n\r\n";
-        SSL_write(m_ssl.get(), line.data(), static_cast<int>(line.size()));
-    }
     std::array<char, recordSize> bytes{};
     ERR_clear_error();
     const int result = SSL_read(m_ssl.get(), bytes.data(), static_cast<int>(bytes.size()));

@@ -33,11 +33,9 @@ int queryNumber(const std::string& target, const std::string& name)
     return std::max(0, number);
 }
 
-const Fault* find(const std::vector<Fault>& faults, FaultName name, const RequestKind& kind)
+bool isStruck(const std::vector<Fault>& faults, std::string_view name, const RequestKind& kind)
 {
-    const auto fault =
-        std::ranges::find_if(faults, [&](const Fault& each) { return each.name == name && strikes(each, kind); });
-    return fault == faults.end() ? nullptr : &*fault;
+    return std::ranges::any_of(faults, [&](const Fault& each) { return each.name == name && strikes(each, kind); });
 }
 
 } // namespace
@@ -68,14 +66,14 @@ Console::Console(const Settings& settings, int index, std::string address,
 Response Console::answer(const Request& request, const std::vector<Fault>& faults, const std::string& nextAddress)
 {
     const RequestKind kind = kindOf(request);
-    if (find(faults, FaultName::BasicAuth, kind) != nullptr) {
+    if (isStruck(faults, "basicAuth", kind)) {
         Response response = errorResponse(401, "Credentials are wanted in a header.");
         response.headers.emplace_back("WWW-Authenticate", "Basic realm=\"corvel\"");
         return response;
     }
     Draft draft;
     if (kind.area == RequestKind::Area::Logon) {
-        draft.response = logon(request, faults);
+        draft.response = logon(request);
     } else if (!request.header("X-API-Session")) {
         return errorResponse(401, "There is no session.");
     } else if (!hasSession(request)) {
@@ -85,7 +83,7 @@ Response Console::answer(const Request& request, const std::vector<Fault>& fault
     }
     for (const Fault& fault : faults) {
         if (strikes(fault, kind)) {
-            draft.strike(fault, request, m_address, nextAddress);
+            strike(draft, {fault, request, m_address, nextAddress});
         }
     }
     if (m_settings.gzip && request.acceptsGzip()) {
@@ -116,7 +114,7 @@ void Console::changeLeaf(Leaf::Kind kind)
 RequestKind Console::kindOf(const Request& request) const
 {
     using enum RequestKind::Area;
-    const std::string path = request.path();
+    const std::string path = request.resource();
     if (path == "/rest/api/web/Logon") {
         return {Logon, {}};
     }
@@ -137,41 +135,20 @@ RequestKind Console::kindOf(const Request& request) const
     return {Other, {}};
 }
 
-Response Console::logon(const Request& request, const std::vector<Fault>& faults)
+Response Console::logon(const Request& request)
 {
-    static const std::string type = "application/vnd.ornis.varnex.web+xml; type=LogonResponse";
-    const RequestKind kind{RequestKind::Area::Logon, {}};
     if (request.method != "PUT") {
         return errorResponse(405, "A logon is a PUT.");
     }
-    const bool accepted = holdsElement(request.body, "UserID", m_settings.user) &&
-                          holdsElement(request.body, "Password", m_settings.password);
-    if (!accepted || find(faults, FaultName::RefuseLogon, kind) != nullptr) {
+    if (!holdsElement(request.body, "UserID", m_settings.user) ||
+        !holdsElement(request.body, "Password", m_settings.password)) {
         return errorResponse(401, "The user or the password is wrong.");
     }
-    if (const Fault* fault = find(faults, FaultName::LogonNotXML, kind)) {
-        if (fault->what == "empty") {
-            return textResponse(type, "");
-        }
-        return fault->what == "json" ? textResponse("application/json", R"({"status": "maintenance", "key": null})")
-                                     : textResponse("text/html", "<!DOCTYPE html><html><head><title>Sign in<br></head>"
-                                                                 "<body><p>Please sign in</body></html>");
-    }
-    std::string element;
-    if (find(faults, FaultName::LogonWithoutKey, kind) == nullptr) {
-        const auto high = m_settings.seed + static_cast<std::uint64_t>(m_index) * 104729U;
-        ++m_logons;
-        std::string key = makeIdentifier(high, m_logons) + "+/" + makeIdentifier(m_logons, ~high) + "=";
-        if (find(faults, FaultName::LongKey, kind) != nullptr) {
-            key.append(1U << 20U, 'k');
-        }
-        m_sessions.insert(key);
-        element = "<X-API-Session kxe=\"false\" kb=\"CUR\">" + key + "</X-API-Session>";
-    }
-    return textResponse(type, "<?xml version=\"1.0\" encoding=\"UTF-8\" standalone=\"yes\"?>\n<LogonResponse "
-                              "xmlns=\"urn:ornis:varnex:web:2012_10\" schemaVersion=\"V1_0\">"
-                              "<Metadata><Atom/></Metadata>" +
-                                  element + "</LogonResponse>");
+    const auto high = m_settings.seed + static_cast<std::uint64_t>(m_index) * 104729U;
+    ++m_logons;
+    const std::string key = makeIdentifier(high, m_logons) + "+/" + makeIdentifier(m_logons, ~high) + "=";
+    m_sessions.insert(key);
+    return logonResponse(key);
 }
 
 bool Console::hasSession(const Request& request) const
@@ -187,7 +164,7 @@ Draft Console::answerOf(const Request& request, const RequestKind& kind, const s
         return draft;
     }
     if (kind.area == RequestKind::Area::Quick) {
-        draft.response = quick(request.path());
+        draft.response = quick(request.resource());
         return draft;
     }
     if (kind.area == RequestKind::Area::Metrics || kind.area == RequestKind::Area::MetricsDocument) {
@@ -204,7 +181,7 @@ Draft Console::answerOf(const Request& request, const RequestKind& kind, const s
     if (const auto own = m_ownFeeds.find(type); own != m_ownFeeds.end()) {
         draft.response.body = makeBody(own->second);
     } else {
-        draft.response.body = makeBody(m_served->feeds.find(type)->second, m_blanks);
+        draft.response.body = makeBody(filled(m_served->feeds.find(type)->second, m_blanks));
         draft.feedType = type;
     }
     return draft;
@@ -224,7 +201,7 @@ Response Console::quick(const std::string& path) const
 Response Console::metrics(const Request& request, const RequestKind& kind, const std::vector<Fault>& faults) const
 {
     const bool isFeed = kind.area == RequestKind::Area::Metrics;
-    const std::string path = request.path();
+    const std::string path = request.resource();
     const std::size_t idEnd = path.find("/ProcessedMetrics");
     const std::string id = path.substr(0, idEnd).substr(path.substr(0, idEnd).rfind('/') + 1);
     const auto system = std::ranges::find(inventory().systems, id, &ManagedSystem::id);
@@ -237,17 +214,17 @@ Response Console::metrics(const Request& request, const RequestKind& kind, const
     }
     if (isFeed) {
         const std::string link = "https://" + m_address + ":" + std::to_string(consolePort) + path + "/" +
-                                 std::to_string(queryNumber(request.target, "NoOfSamples")) + ".json";
-        return textResponse(contentType, writeMetricsFeed(inventory(), *system, link));
+                                 std::to_string(queryNumber(request.path, "NoOfSamples")) + ".json";
+        return textResponse(contentType, writeMetricsFeed(*system, link));
     }
     MetricsShape shape;
     shape.samples = std::min(std::max(0, std::atoi(path.c_str() + path.rfind('/') + 1)), m_settings.samples);
-    shape.samples = find(faults, FaultName::EmptyMetrics, kind) != nullptr ? 0 : shape.samples;
-    shape.unprocessed = find(faults, FaultName::UnprocessedMetrics, kind) != nullptr;
-    shape.nulls = find(faults, FaultName::NullMetrics, kind) != nullptr;
+    shape.samples = isStruck(faults, "emptyMetrics", kind) ? 0 : shape.samples;
+    shape.unprocessed = isStruck(faults, "unprocessedMetrics", kind);
+    shape.nulls = isStruck(faults, "nullMetrics", kind);
     shape.partitions = m_settings.partitions;
     shape.seed = m_settings.seed + static_cast<std::uint64_t>(system - inventory().systems.begin());
-    return textResponse(contentType, writeMetricsDocument(inventory(), *system, shape));
+    return textResponse(contentType, writeMetricsDocument(*system, shape));
 }
 
 void Console::compress(Draft& draft)

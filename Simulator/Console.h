@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Simulator/Draft.h"
 #include "Simulator/Fault.h"
 #include "Simulator/FeedWriter.h"
 #include "Simulator/Http.h"
@@ -21,7 +20,8 @@ namespace lodestar::simulator
 /// An inventory in the form in which it is served. Consoles share it.
 struct ServedInventory {
     Inventory inventory;
-    std::map<std::string, FeedTemplate, std::less<>> feeds;
+    /// With blanks, by type.
+    std::map<std::string, std::string, std::less<>> feeds;
     /// Single values in JSON's quotes, under "identifier/property".
     std::unordered_map<std::string, std::string> quickValues;
 
@@ -56,7 +56,7 @@ public:
 
 private:
     RequestKind kindOf(const Request& request) const;
-    Response logon(const Request& request, const std::vector<Fault>& faults);
+    Response logon(const Request& request);
     bool hasSession(const Request& request) const;
     Draft answerOf(const Request& request, const RequestKind& kind, const std::vector<Fault>& faults);
     Response quick(const std::string& path) const;

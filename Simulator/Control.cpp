@@ -2,7 +2,6 @@
 #include "Simulator/Control.h"
 
 #include <charconv>
-#include <functional>
 #include <map>
 #include <stdexcept>
 
@@ -13,8 +12,6 @@ namespace
 {
 
 using Words = std::vector<std::string>;
-/// Returns the lines of its answer, each with its line end.
-using Command = std::function<std::string(Simulator&, const Words&)>;
 
 int numberAt(const Words& words, std::size_t i)
 {
@@ -25,6 +22,30 @@ int numberAt(const Words& words, std::size_t i)
         throw std::invalid_argument("not a number: " + word);
     }
     return number;
+}
+
+std::string lineOf(std::string_view name, const std::vector<std::uint64_t>& numbers)
+{
+    std::string line(name);
+    for (const std::uint64_t number : numbers) {
+        line.append(1, ' ').append(std::to_string(number));
+    }
+    return line + "\n";
+}
+
+void clear(Simulator& simulator, const Words& words)
+{
+    if (words.size() > 1) {
+        simulator.clearFault(Fault::parse(words[1]));
+    } else {
+        simulator.clearFaults();
+    }
+}
+
+void setFeed(Simulator& simulator, const Words& words)
+{
+    simulator.setFeed(numberAt(words, 1), words.at(2),
+                      words.size() > 3 ? std::optional(decodeWord(words[3])) : std::nullopt);
 }
 
 std::string allRequests(Simulator& simulator, const Words& /*words*/)
@@ -48,80 +69,41 @@ std::string statistics(Simulator& simulator, const Words& words)
 {
     const Statistics of =
         simulator.statistics(words.size() > 1 ? std::optional<int>(numberAt(words, 1)) : std::nullopt);
-    return "statistics " + std::to_string(of.connections) + " " + std::to_string(of.handshakes) + " " +
-           std::to_string(of.requests) + "\n";
+    return lineOf("statistics", {of.connections, of.handshakes, of.requests});
 }
 
 std::string summary(Simulator& simulator, const Words& words)
 {
+    std::vector<std::uint64_t> counts;
     const InventorySummary of = simulator.summary(numberAt(words, 1));
-    std::string line = "summary";
     for (const int count :
          {of.systems, of.systemErrors, of.attentionLEDs, of.partitions, of.vios, of.events, of.groups}) {
-        line.append(1, ' ').append(std::to_string(count));
+        counts.push_back(static_cast<std::uint64_t>(count));
     }
-    return line + "\n";
+    return lineOf("summary", counts);
 }
 
-const std::map<std::string, Command, std::less<>>& commands()
+std::string certificate(Simulator& simulator, const Words& words)
 {
-    static const std::map<std::string, Command, std::less<>> table = {
-        {"fault",
-         [](Simulator& simulator, const Words& words) {
-             simulator.setFault(Fault::parse(words.at(1)));
-             return std::string();
-         }},
-        {"clear",
-         [](Simulator& simulator, const Words& words) {
-             if (words.size() > 1) {
-                 simulator.clearFault(Fault::parse(words[1]));
-             } else {
-                 simulator.clearFaults();
-             }
-             return std::string();
-         }},
-        {"latency",
-         [](Simulator& simulator, const Words& words) {
-             simulator.setLatency(numberAt(words, 1));
-             return std::string();
-         }},
-        {"round-trip",
-         [](Simulator& simulator, const Words& words) {
-             simulator.setRoundTrip(numberAt(words, 1));
-             return std::string();
-         }},
-        {"feed",
-         [](Simulator& simulator, const Words& words) {
-             simulator.setFeed(numberAt(words, 1), words.at(2),
-                               words.size() > 3 ? std::optional(decodeWord(words[3])) : std::nullopt);
-             return std::string();
-         }},
-        {"stop",
-         [](Simulator& simulator, const Words& words) {
-             simulator.stopConsole(numberAt(words, 1));
-             return std::string();
-         }},
-        {"start",
-         [](Simulator& simulator, const Words& words) {
-             simulator.startConsole(numberAt(words, 1));
-             return std::string();
-         }},
-        {"clear-requests",
-         [](Simulator& simulator, const Words& /*words*/) {
-             simulator.clearRequests();
-             return std::string();
-         }},
-        {"certificate",
-         [](Simulator& simulator, const Words& words) {
-             return "certificate " + simulator.certificateFingerprint(numberAt(words, 1)) + "\n";
-         }},
-        {"reports", reports},
-        {"requests", allRequests},
-        {"statistics", statistics},
-        {"summary", summary},
-    };
-    return table;
+    return "certificate " + simulator.certificateFingerprint(numberAt(words, 1)) + "\n";
 }
+
+/// Commands that change something.
+const std::map<std::string_view, void (*)(Simulator&, const Words&)> changes = {
+    {"fault", [](Simulator& on, const Words& words) { on.setFault(Fault::parse(words.at(1))); }},
+    {"clear", clear},
+    {"latency", [](Simulator& on, const Words& words) { on.setLatency(numberAt(words, 1)); }},
+    {"round-trip", [](Simulator& on, const Words& words) { on.setRoundTrip(numberAt(words, 1)); }},
+    {"feed", setFeed},
+    {"stop", [](Simulator& on, const Words& words) { on.stopConsole(numberAt(words, 1)); }},
+    {"start", [](Simulator& on, const Words& words) { on.startConsole(numberAt(words, 1)); }},
+    {"clear-requests", [](Simulator& on, const Words&) { on.clearRequests(); }},
+};
+/// Commands that ask something; each returns the lines of its answer with their line ends.
+const std::map<std::string_view, std::string (*)(Simulator&, const Words&)> questions = {
+    {"certificate", certificate}, {"reports", reports}, {"requests", allRequests},
+    {"statistics", statistics},   {"summary", summary},
+};
 
 } // namespace
 
@@ -172,11 +154,15 @@ std::string Control::run(const std::vector<std::string>& words)
         m_loop.stop();
         return {};
     }
-    const auto command = commands().find(words[0]);
-    if (command == commands().end()) {
+    if (const auto change = changes.find(words[0]); change != changes.end()) {
+        change->second(m_simulator, words);
+        return {};
+    }
+    const auto question = questions.find(words[0]);
+    if (question == questions.end()) {
         throw std::invalid_argument("unknown command " + words[0]);
     }
-    return command->second(m_simulator, words);
+    return question->second(m_simulator, words);
 }
 
 } // namespace lodestar::simulator

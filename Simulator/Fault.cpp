@@ -1,11 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Simulator/Fault.h"
 
+#include "Simulator/FeedWriter.h"
+#include "Simulator/Settings.h"
+
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdlib>
 #include <stdexcept>
-#include <utility>
+#include <vector>
 
 namespace lodestar::simulator
 {
@@ -13,89 +17,181 @@ namespace lodestar::simulator
 namespace
 {
 
-constexpr std::array<std::pair<std::string_view, FaultName>, 35> names = {{
-    {"refuseLogon", FaultName::RefuseLogon},
-    {"logonWithoutKey", FaultName::LogonWithoutKey},
-    {"logonNotXML", FaultName::LogonNotXML},
-    {"longKey", FaultName::LongKey},
-    {"expireSession", FaultName::ExpireSession},
-    {"refuseFeed", FaultName::RefuseFeed},
-    {"emptyFeed", FaultName::EmptyFeed},
-    {"stallFeed", FaultName::StallFeed},
-    {"silentAfterAccept", FaultName::SilentAfterAccept},
-    {"trickle", FaultName::Trickle},
-    {"cutBody", FaultName::CutBody},
-    {"cutChunk", FaultName::CutChunk},
-    {"cutGzip", FaultName::CutGzip},
-    {"reset", FaultName::Reset},
-    {"malformedFeed", FaultName::MalformedFeed},
-    {"hugeBody", FaultName::HugeBody},
-    {"gzipBomb", FaultName::GzipBomb},
-    {"largeFeed", FaultName::LargeFeed},
-    {"largeGzip", FaultName::LargeGzip},
-    {"vastFeed", FaultName::VastFeed},
-    {"hugeHeaders", FaultName::HugeHeaders},
-    {"endlessChunk", FaultName::EndlessChunk},
-    {"twoLengths", FaultName::TwoLengths},
-    {"redirectLoop", FaultName::RedirectLoop},
-    {"redirectOtherHost", FaultName::RedirectOtherHost},
-    {"swapCertificate", FaultName::SwapCertificate},
-    {"basicAuth", FaultName::BasicAuth},
-    {"closePort", FaultName::ClosePort},
-    {"expiredCertificate", FaultName::ExpiredCertificate},
-    {"misnamedCertificate", FaultName::MisnamedCertificate},
-    {"chunked", FaultName::Chunked},
-    {"failedStatus", FaultName::FailedStatus},
-    {"nullMetrics", FaultName::NullMetrics},
-    {"unprocessedMetrics", FaultName::UnprocessedMetrics},
-    {"emptyMetrics", FaultName::EmptyMetrics},
-}};
+using Area = RequestKind::Area;
+using Strike = void (*)(Draft&, const Struck&);
 
-constexpr std::array<std::string_view, 13> targets = {
-    "",
-    "All",
-    "Logon",
-    "SessionCheck",
-    "Quick",
-    "Metrics",
-    "MetricsDocument",
-    "ManagementConsole",
-    "Group",
-    "ManagedSystem",
-    "VirtualIOServer",
-    "LogicalPartition",
-    "ServiceableEvent",
+struct Row {
+    std::string_view name;
+    /// The requests that are struck when the fault names none.
+    Area area;
+    Strike strike;
+    std::string_view help;
 };
-constexpr std::array<std::string_view, 4> logonForms = {"", "html", "empty", "json"};
 
-void checkTarget(const Fault& fault)
+constexpr std::uint64_t gigabyte = 1ULL << 30U;
+constexpr std::uint64_t megabyte = 1ULL << 20U;
+
+// Puts a stray ampersand and an unknown entity in the place of an end tag, and drops the last tenth.
+std::string damaged(std::string text)
 {
-    const bool known = fault.name == FaultName::LogonNotXML
-                           ? std::ranges::find(logonForms, fault.what) != logonForms.end()
-                           : std::ranges::find(targets, fault.what) != targets.end();
-    if (!known) {
-        throw std::invalid_argument("a fault cannot strike \"" + fault.what + "\"");
+    const std::size_t middle = text.find("</", text.size() / 2);
+    if (middle != std::string::npos) {
+        const std::size_t end = text.find('>', middle);
+        text.replace(middle, end == std::string::npos ? 0 : end - middle + 1, " & &nothing; ");
+    }
+    text.resize(text.size() - text.size() / 10);
+    return text;
+}
+
+// After how many bytes to stop so that a chunk stays incomplete.
+std::uint64_t insideChunk(std::uint64_t size)
+{
+    constexpr std::uint64_t chunk = 8192;
+    return size < chunk ? size / 2 + 3 : size / 2 / chunk * (chunk + 8) + 106;
+}
+
+BodyPtr entriesOf(std::uint64_t size)
+{
+    return makeRepeatingBody("<feed>", "<entry><content>" + std::string(65536, ' ') + "</content></entry>", size,
+                             "</feed>");
+}
+
+void redirect(Draft& draft, const std::string& address, const std::string& target)
+{
+    draft.replace(textResponse("text/html", "<p>It is elsewhere.</p>"));
+    draft.response.status = 307;
+    draft.response.headers.emplace_back("Location", "https://" + address + ":" + std::to_string(consolePort) + target);
+}
+
+void redirectToItself(Draft& draft, const Struck& struck)
+{
+    const std::size_t at = struck.request.path.find("?hop=");
+    const int hop = at == std::string::npos ? 0 : std::atoi(struck.request.path.c_str() + at + 5);
+    redirect(draft, struck.address, struck.request.resource() + "?hop=" + std::to_string(hop + 1));
+}
+
+void answerNoXML(Draft& draft, const Struck& struck)
+{
+    if (struck.fault.what == "empty") {
+        draft.replaceBody(makeBody(std::string()));
+    } else if (struck.fault.what == "json") {
+        draft.replace(textResponse("application/json", R"({"status": "maintenance", "key": null})"));
+    } else {
+        draft.replace(textResponse("text/html", "<!DOCTYPE html><html><head><title>Sign in<br></head>"
+                                                "<body><p>Please sign in</body></html>"));
     }
 }
 
-std::string_view areaName(RequestKind::Area area)
+// A row without a function acts on connections, sessions or the metrics document: its name is asked for there.
+const std::vector<Row> rows = {
+    {"refuseLogon", Area::Logon,
+     [](Draft& draft, const Struck&) { draft.replace(errorResponse(401, "The user or the password is wrong.")); },
+     "the logon answers 401"},
+    {"logonWithoutKey", Area::Logon, [](Draft& draft, const Struck&) { draft.replace(logonResponse({})); },
+     "the logon answers 200 without a session key"},
+    {"logonNotXML", Area::Logon, answerNoXML,
+     "the logon answers 200 with WHAT: html (also when left out), empty, json"},
+    {"longKey", Area::Logon,
+     [](Draft& draft, const Struck&) { draft.replace(logonResponse(std::string(megabyte, 'k'))); },
+     "the logon answers 200 with a session key of 1 MB"},
+    {"expireSession", Area::Feed, nullptr, "every session key becomes invalid; at once and only once"},
+    {"refuseFeed", Area::Feed,
+     [](Draft& draft, const Struck&) { draft.replace(errorResponse(500, "The console is busy.")); }, "status 500"},
+    {"emptyFeed", Area::Feed, [](Draft& draft, const Struck&) { draft.replaceBody(makeBody(std::string())); },
+     "status 200 without a body"},
+    {"stallFeed", Area::Feed, [](Draft& draft, const Struck&) { draft.response.ending = Ending::Silence; },
+     "no answer"},
+    {"silentAfterAccept", Area::Feed, nullptr, "connections are accepted, and nothing is ever sent on them"},
+    {"trickle", Area::Feed, [](Draft& draft, const Struck&) { draft.response.trickled = true; },
+     "the answer comes at one byte a second"},
+    {"cutBody", Area::Feed,
+     [](Draft& draft, const Struck&) { draft.cut(draft.response.body->size() / 2, Ending::Close); },
+     "the connection ends in the middle of the body"},
+    {"cutChunk", Area::Feed,
+     [](Draft& draft, const Struck&) {
+         draft.response.framing = Framing::Chunks;
+         draft.cut(insideChunk(draft.response.body->size()), Ending::Close);
+     },
+     "the connection ends in the middle of a chunk"},
+    {"cutGzip", Area::Feed,
+     [](Draft& draft, const Struck&) {
+         const std::string packed = gzipped(readAll(*draft.response.body));
+         draft.replacePacked(makeBody(packed.substr(0, packed.size() / 2)));
+     },
+     "the answer is complete, but its compressed body is cut in the middle"},
+    {"reset", Area::Feed,
+     [](Draft& draft, const Struck&) { draft.cut(draft.response.body->size() / 2, Ending::Reset); },
+     "the connection is reset in the middle of the body"},
+    {"malformedFeed", Area::Feed,
+     [](Draft& draft, const Struck&) { draft.replaceBody(makeBody(damaged(readAll(*draft.response.body)))); },
+     "damaged XML"},
+    {"hugeBody", Area::Feed, [](Draft& draft, const Struck&) { draft.replaceBody(entriesOf(gigabyte)); }, "1 GB"},
+    {"gzipBomb", Area::Feed, [](Draft& draft, const Struck&) { draft.replacePacked(makeGzipBomb(gigabyte)); },
+     "a small compressed body that unpacks to 1 GB"},
+    {"largeFeed", Area::Feed, [](Draft& draft, const Struck&) { draft.replaceBody(entriesOf(40 * megabyte)); },
+     "40 MB, which is no fault"},
+    {"largeGzip", Area::Feed, [](Draft& draft, const Struck&) { draft.replacePacked(makeGzipBomb(40 * megabyte)); },
+     "40 MB, compressed, which is no fault"},
+    {"vastFeed", Area::Feed, [](Draft& draft, const Struck&) { draft.replaceBody(entriesOf(180 * megabyte)); },
+     "180 MB, which is no fault"},
+    {"hugeHeaders", Area::Feed, [](Draft& draft, const Struck&) { draft.response.headerFiller = 16 * megabyte; },
+     "16 MB of header lines before the body"},
+    {"endlessChunk", Area::Feed,
+     [](Draft& draft, const Struck&) {
+         draft.replaceBody(makeRepeatingBody("1;", std::string(65536, 'x'), gigabyte, "\r\nx\r\n0\r\n\r\n"));
+         draft.response.framing = Framing::OwnChunks;
+     },
+     "the extension of the first chunk goes on for 1 GB before the chunk's first byte"},
+    {"twoLengths", Area::Feed,
+     [](Draft& draft, const Struck&) { draft.response.headers.emplace_back("Content-Length", "0"); },
+     "a second length, 0, beside the body's own"},
+    {"redirectLoop", Area::Feed, redirectToItself, "a redirect to its own address"},
+    {"redirectOtherHost", Area::Feed,
+     [](Draft& draft, const Struck& struck) { redirect(draft, struck.nextAddress, struck.request.resource()); },
+     "a redirect to the same path on the next console"},
+    {"swapCertificate", Area::Feed, nullptr,
+     "the console gets a new certificate and closes its connections; at once and only once"},
+    {"basicAuth", Area::Other, nullptr, "status 401 with a demand for HTTP basic authentication, to everything"},
+    {"closePort", Area::Feed, nullptr, "the console closes its connections and does not listen until this is cleared"},
+    {"expiredCertificate", Area::Feed, nullptr, "the certificate has expired; connections are closed"},
+    {"misnamedCertificate", Area::Feed, nullptr, "the certificate names another host; connections are closed"},
+    {"chunked", Area::Feed, [](Draft& draft, const Struck&) { draft.response.framing = Framing::Chunks; },
+     "the body is sent whole, in chunks, which is no fault"},
+    {"failedStatus", Area::Feed, [](Draft& draft, const Struck&) { draft.response.status = 500; },
+     "the usual answer with status 500"},
+    {"nullMetrics", Area::MetricsDocument, nullptr, "the metrics have some nulls"},
+    {"unprocessedMetrics", Area::MetricsDocument, nullptr, "the metrics say that nothing was processed"},
+    {"emptyMetrics", Area::MetricsDocument, nullptr, "the metrics have no samples"},
+};
+
+/// Null for a name that no fault has.
+const Row* rowOf(std::string_view name)
 {
-    switch (area) {
-    case RequestKind::Area::Logon:
-        return "Logon";
-    case RequestKind::Area::SessionCheck:
-        return "SessionCheck";
-    case RequestKind::Area::Quick:
-        return "Quick";
-    case RequestKind::Area::Metrics:
-        return "Metrics";
-    case RequestKind::Area::MetricsDocument:
-        return "MetricsDocument";
-    case RequestKind::Area::Feed:
-    case RequestKind::Area::Other:
-        break;
+    const auto row = std::ranges::find(rows, name, &Row::name);
+    return row != rows.end() ? &*row : nullptr;
+}
+
+/// What a fault may name beside feeds' types, and the requests that it then strikes.
+struct Target {
+    std::string_view name;
+    Area area;
+};
+constexpr std::array<Target, 5> targets = {{{"Logon", Area::Logon},
+                                            {"SessionCheck", Area::SessionCheck},
+                                            {"Quick", Area::Quick},
+                                            {"Metrics", Area::Metrics},
+                                            {"MetricsDocument", Area::MetricsDocument}}};
+
+bool isKnownTarget(const Fault& fault)
+{
+    if (fault.what.empty()) {
+        return true;
     }
-    return {};
+    if (fault.name == "logonNotXML") {
+        return fault.what == "html" || fault.what == "empty" || fault.what == "json";
+    }
+    return fault.what == "All" || std::ranges::find(targets, fault.what, &Target::name) != targets.end() ||
+           std::ranges::find(feedTypes, fault.what) != feedTypes.end();
 }
 
 } // namespace
@@ -103,13 +199,8 @@ std::string_view areaName(RequestKind::Area area)
 Fault Fault::parse(std::string_view text)
 {
     Fault fault;
-    const std::size_t nameEnd = std::min(text.find(':'), text.size());
-    const auto name = std::ranges::find(names, text.substr(0, nameEnd), &decltype(names)::value_type::first);
-    if (name == names.end()) {
-        throw std::invalid_argument("unknown fault " + std::string(text));
-    }
-    fault.name = name->second;
-    std::string_view rest = text.substr(nameEnd);
+    fault.name = text.substr(0, text.find(':'));
+    std::string_view rest = text.substr(fault.name.size());
     while (!rest.empty()) {
         rest.remove_prefix(1);
         const std::string_view part = rest.substr(0, rest.find(':'));
@@ -126,33 +217,42 @@ Fault Fault::parse(std::string_view text)
             fault.what = part;
         }
     }
-    checkTarget(fault);
+    if (rowOf(fault.name) == nullptr || !isKnownTarget(fault)) {
+        throw std::invalid_argument("unknown fault " + std::string(text));
+    }
     return fault;
+}
+
+std::string faultHelp()
+{
+    std::string help;
+    for (const Row& row : rows) {
+        help.append("  ").append(row.name).append(22 - row.name.size(), ' ').append(row.help).append("\n");
+    }
+    return help;
 }
 
 bool strikes(const Fault& fault, const RequestKind& kind)
 {
-    using enum RequestKind::Area;
-    switch (fault.name) {
-    case FaultName::RefuseLogon:
-    case FaultName::LogonWithoutKey:
-    case FaultName::LogonNotXML:
-    case FaultName::LongKey:
-        return kind.area == Logon;
-    case FaultName::NullMetrics:
-    case FaultName::UnprocessedMetrics:
-    case FaultName::EmptyMetrics:
-        return kind.area == MetricsDocument;
-    default:
-        break;
+    const Area usual = rowOf(fault.name)->area;
+    if (usual == Area::Logon || usual == Area::MetricsDocument) {
+        return kind.area == usual;
     }
-    if (fault.what == "All" || (fault.what.empty() && fault.name == FaultName::BasicAuth)) {
+    if (fault.what.empty()) {
+        return usual == Area::Other || kind.area == usual;
+    }
+    if (fault.what == "All" || (kind.area == Area::Feed && fault.what == kind.type)) {
         return true;
     }
-    if (kind.area == Feed) {
-        return fault.what.empty() || fault.what == kind.type;
+    const auto* const named = std::ranges::find(targets, fault.what, &Target::name);
+    return named != targets.end() && named->area == kind.area;
+}
+
+void strike(Draft& draft, const Struck& struck)
+{
+    if (const Strike change = rowOf(struck.fault.name)->strike) {
+        change(draft, struck);
     }
-    return !fault.what.empty() && fault.what == areaName(kind.area);
 }
 
 } // namespace lodestar::simulator

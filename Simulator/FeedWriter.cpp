@@ -3,17 +3,18 @@
 
 #include "Simulator/XmlWriter.h"
 
-#include <algorithm>
-
 namespace lodestar::simulator
 {
 
 namespace
 {
 
+/// Begins a blank; no text of an inventory contains it.
+constexpr char mark = '\x01';
+
 std::string blank(Blank which)
 {
-    return {FeedTemplate::blankMark(which)};
+    return {mark, static_cast<char>('0' + static_cast<int>(which))};
 }
 
 std::string linkTo(std::string_view type)
@@ -32,7 +33,7 @@ class FeedWriter
 public:
     FeedWriter(const Inventory& inventory, std::size_t feedBytes) : m_inventory(inventory), m_feedBytes(feedBytes) {}
 
-    FeedTemplate feed(std::string_view type)
+    std::string feed(std::string_view type)
     {
         if (type == "ManagementConsole") {
             return write(type, 1, [&](std::size_t /*i*/) { managementConsole(); });
@@ -56,13 +57,13 @@ public:
 
 private:
     template <typename WriteEntry>
-    FeedTemplate write(std::string_view type, std::size_t entries, const WriteEntry& writeEntry)
+    std::string write(std::string_view type, std::size_t entries, const WriteEntry& writeEntry)
     {
         m_xml = {};
         m_xml.raw(R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)");
         m_xml.open("feed", {{"xmlns", "http://www.w3.org/2005/Atom"}});
-        m_xml.text("id", makeIdentifier(type.size(), m_inventory.published.size()));
-        m_xml.text("updated", m_inventory.published);
+        m_xml.text("id", makeIdentifier(type.size(), published.size()));
+        m_xml.text("updated", published);
         m_xml.empty("link", {{"rel", "self"}, {"href", linkTo(type)}});
         for (std::size_t i = 0; i < entries; ++i) {
             // Padding is measured from the feed's start, so that an entry that grew too large leaves less padding to
@@ -71,7 +72,7 @@ private:
             writeEntry(i);
         }
         m_xml.close();
-        return FeedTemplate(m_xml.take());
+        return m_xml.take();
     }
 
     void openEntry(std::string_view type, const std::string& id)
@@ -79,7 +80,7 @@ private:
         m_xml.open("entry");
         m_xml.text("id", id);
         m_xml.text("title", type);
-        m_xml.text("published", m_inventory.published);
+        m_xml.text("published", published);
         m_xml.empty("link", {{"rel", "self"}, {"href", linkTo(type, id)}});
         m_xml.open("author");
         m_xml.text("name", "Corvel Console");
@@ -133,12 +134,7 @@ private:
         }
         m_xml.close();
         m_xml.open("VersionInfo", {{"kb", "CUR"}, {"kxe", "false"}, {"schemaVersion", "V1_0"}});
-        m_xml.text("BuildLevel", console.buildLevel);
-        m_xml.text("Maintenance", console.maintenance);
-        m_xml.text("Minor", console.minor);
-        m_xml.text("Release", console.release);
-        m_xml.text("ServicePackName", console.servicePackName);
-        m_xml.text("Version", console.version);
+        texts(console.version);
         m_xml.close();
         closeEntry();
     }
@@ -192,47 +188,28 @@ private:
         const ConsoleIdentity& console = m_inventory.console;
         const MachineIdentity identity = {console.machine.type, console.machine.model, blank(Blank::ConsoleSerial)};
         openEntry("ServiceableEvent", event.id);
-        m_xml.number("problemNumber", event.problemNumber);
-        m_xml.text("callHomeEnabled", event.callHome);
-        m_xml.number("problemManagementHardwareRecord", event.hardwareRecord);
-        m_xml.text("ApprovalState", event.approvalState);
-        m_xml.text("referenceCode", event.referenceCode);
-        m_xml.text("referenceCodeExtension", event.referenceCodeExtension);
-        m_xml.text("systemReferenceCode", event.systemReferenceCode);
-        m_xml.text("problemState", event.problemState);
-        m_xml.text("firmwareFix", event.firmwareFix);
-        m_xml.number("firstReportedTimestamp", event.firstReported);
-        m_xml.number("lastReportedTimestamp", event.lastReported);
-        m_xml.number("primaryTimestamp", event.primary);
+        texts(event.fields);
         node("reportingConsoleNode", blank(Blank::ConsoleName), identity);
         if (event.failingSystem) {
             const ManagedSystem& failing = m_inventory.systems[*event.failingSystem];
             node("failingManagedSystemNode", failing.name, failing.machine);
         }
-        m_xml.text("shortDescription", event.text);
-        m_xml.number("eventSeverity", event.severity);
-        m_xml.text("notificationType", event.notificationType);
-        m_xml.number("duplicateCount", event.duplicates);
         node("analyzingConsoleNode", blank(Blank::ConsoleName), identity);
         m_xml.open("fieldReplaceableUnits");
-        for (const ReplaceableUnit& unit : event.units) {
-            replaceableUnit(unit);
+        for (const Fields& unit : event.units) {
+            m_xml.open("FieldReplaceableUnit");
+            texts(unit);
+            m_xml.close();
         }
         m_xml.close();
         closeEntry();
     }
 
-    void replaceableUnit(const ReplaceableUnit& unit)
+    void texts(const Fields& fields)
     {
-        m_xml.open("FieldReplaceableUnit");
-        m_xml.text("partNumber", unit.partNumber);
-        m_xml.text("class", unit.unitClass);
-        m_xml.text("fieldReplaceableUnitDescription", unit.description);
-        m_xml.text("locationCode", unit.locationCode);
-        m_xml.text("previouslyReplaced", unit.previouslyReplaced);
-        m_xml.text("replacedTimestamp", unit.replacedTimestamp);
-        m_xml.text("replacementGroup", unit.replacementGroup);
-        m_xml.close();
+        for (const auto& [name, text] : fields) {
+            m_xml.text(name, text);
+        }
     }
 
     void link(std::string_view type, const std::string& id)
@@ -270,63 +247,20 @@ private:
 
 } // namespace
 
-FeedTemplate::FeedTemplate(const std::string& marked)
+std::string filled(const std::string& feed, const BlankValues& values)
 {
-    m_text.reserve(marked.size());
-    for (const char c : marked) {
-        if (c >= 1 && c <= static_cast<char>(blankCount)) {
-            m_holes.push_back({m_text.size(), static_cast<std::size_t>(c - 1)});
-        } else {
-            m_text += c;
-        }
+    std::string text;
+    text.reserve(feed.size());
+    std::size_t at = 0;
+    for (std::size_t next = 0; (next = feed.find(mark, at)) != std::string::npos; at = next + 2) {
+        text.append(feed, at, next - at).append(values.at(static_cast<std::size_t>(feed[next + 1] - '0')));
     }
+    return text.append(feed, at);
 }
 
-std::size_t FeedTemplate::size(const BlankValues& values) const
+std::map<std::string, std::string, std::less<>> writeFeeds(const Inventory& inventory, std::size_t feedBytes)
 {
-    std::size_t size = m_text.size();
-    for (const Hole& hole : m_holes) {
-        size += values[hole.blank].size();
-    }
-    return size;
-}
-
-std::string FeedTemplate::filled(const BlankValues& values) const
-{
-    std::string text(size(values), '\0');
-    FeedCursor(*this, values).read(text.data(), text.size());
-    return text;
-}
-
-std::size_t FeedCursor::read(char* out, std::size_t count)
-{
-    std::size_t done = 0;
-    while (done < count) {
-        const bool hasHole = m_hole < m_feed.m_holes.size();
-        const std::size_t stop = hasHole ? m_feed.m_holes[m_hole].at : m_feed.m_text.size();
-        if (m_at < stop) {
-            const std::size_t n = m_feed.m_text.copy(out + done, std::min(count - done, stop - m_at), m_at);
-            m_at += n;
-            done += n;
-        } else if (!hasHole) {
-            break;
-        } else {
-            const std::string& value = m_values[m_feed.m_holes[m_hole].blank];
-            const std::size_t n = value.copy(out + done, count - done, m_inValue);
-            m_inValue += n;
-            done += n;
-            if (m_inValue == value.size()) {
-                m_inValue = 0;
-                ++m_hole;
-            }
-        }
-    }
-    return done;
-}
-
-std::map<std::string, FeedTemplate, std::less<>> writeFeeds(const Inventory& inventory, std::size_t feedBytes)
-{
-    std::map<std::string, FeedTemplate, std::less<>> feeds;
+    std::map<std::string, std::string, std::less<>> feeds;
     FeedWriter writer(inventory, feedBytes);
     for (const std::string_view type : feedTypes) {
         feeds.emplace(type, writer.feed(type));

@@ -14,50 +14,12 @@ namespace
 constexpr std::size_t headLimit = 256U << 10U;
 constexpr std::size_t bodyLimit = 4U << 20U;
 
-std::string_view reasonOf(int status)
-{
-    switch (status) {
-    case 200:
-        return "OK";
-    case 201:
-        return "Created";
-    case 307:
-        return "Temporary Redirect";
-    case 400:
-        return "Bad Request";
-    case 401:
-        return "Unauthorized";
-    case 403:
-        return "Forbidden";
-    case 404:
-        return "Not Found";
-    case 405:
-        return "Method Not Allowed";
-    default:
-        return "Internal Server Error";
-    }
-}
-
 bool sameText(std::string_view a, std::string_view b)
 {
     return a.size() == b.size() && strncasecmp(a.data(), b.data(), a.size()) == 0;
 }
 
 } // namespace
-
-std::optional<std::string> Request::header(std::string_view name) const
-{
-    std::optional<std::string> value;
-    for (const std::string& line : headers) {
-        const std::size_t colon = line.find(':');
-        if (colon == std::string::npos || !sameText(std::string_view(line).substr(0, colon), name)) {
-            continue;
-        }
-        const std::size_t start = std::min(line.find_first_not_of(" \t", colon + 1), line.size());
-        value = (value ? *value + ", " : std::string()) + line.substr(start);
-    }
-    return value;
-}
 
 bool Request::acceptsGzip() const
 {
@@ -88,19 +50,9 @@ RequestParser::Outcome RequestParser::next(Request& request)
     }
     request = std::move(*m_partial);
     m_partial.reset();
-    m_continueAsked = false;
     request.body = m_input.substr(0, m_bodySize);
     m_input.erase(0, m_bodySize);
     return Outcome::Complete;
-}
-
-bool RequestParser::wantsContinue()
-{
-    if (!m_partial || m_continueAsked || !sameText(m_partial->header("Expect").value_or(""), "100-continue")) {
-        return false;
-    }
-    m_continueAsked = true;
-    return true;
 }
 
 bool RequestParser::parseHead(std::string_view head)
@@ -119,7 +71,7 @@ bool RequestParser::parseHead(std::string_view head)
         return false;
     }
     request.method = line.substr(0, methodEnd);
-    request.target = line.substr(methodEnd + 1, targetEnd - methodEnd - 1);
+    request.path = line.substr(methodEnd + 1, targetEnd - methodEnd - 1);
     request.version = line.substr(targetEnd + 1);
     m_bodySize = 0;
     if (const auto length = request.header("Content-Length")) {
@@ -135,8 +87,8 @@ bool RequestParser::parseHead(std::string_view head)
 
 BodyPtr takeHead(Response& response)
 {
-    std::string head =
-        "HTTP/1.1 " + std::to_string(response.status) + " " + std::string(reasonOf(response.status)) + "\r\n";
+    // The reason after the status may be empty.
+    std::string head = "HTTP/1.1 " + std::to_string(response.status) + " \r\n";
     for (const auto& [name, value] : response.headers) {
         head.append(name).append(": ").append(value).append("\r\n");
     }

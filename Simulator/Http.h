@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Simulator/Body.h"
+#include "Simulator/Protocol.h"
 
 #include <chrono>
 #include <cstddef>
@@ -17,18 +18,11 @@ namespace lodestar::simulator
 {
 
 /// One request as received.
-struct Request {
-    std::string method;
-    std::string target;
+struct Request : SentRequest {
     std::string version;
-    /// The header lines without their line ends.
-    std::vector<std::string> headers;
-    std::string body;
 
-    /// The values of all headers of that name, joined by ", "; nothing when there is none.
-    std::optional<std::string> header(std::string_view name) const;
-    /// The target without its query.
-    std::string path() const { return target.substr(0, target.find('?')); }
+    /// The path without its query.
+    std::string resource() const { return path.substr(0, path.find('?')); }
     bool acceptsGzip() const;
     bool keepsConnection() const;
 };
@@ -42,8 +36,6 @@ public:
     void append(std::string_view bytes) { m_input.append(bytes); }
     /// Takes the next request from the input. After `Bad`, the rest of the stream cannot be used.
     Outcome next(Request& request);
-    /// Whether the client waits for permission to send the incomplete request's body. True at most once per request.
-    bool wantsContinue();
 
 private:
     bool parseHead(std::string_view head);
@@ -51,7 +43,6 @@ private:
     std::string m_input;
     std::optional<Request> m_partial;
     std::size_t m_bodySize = 0;
-    bool m_continueAsked = false;
 };
 
 /// What the connection does after an answer, or the part of an answer that is to be sent.

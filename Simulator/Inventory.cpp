@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <random>
+#include <span>
 #include <string_view>
 
 namespace lodestar::simulator
@@ -12,73 +13,32 @@ namespace lodestar::simulator
 namespace
 {
 
-using Words = std::vector<std::string_view>;
+using Words = std::span<const std::string_view>;
 
-const Words& sites()
-{
-    static const Words words = {"harbour",   "ridgeway",  "northfield", "uplands",    "millbrook",
-                                "eastquay",  "lowmoor",   "saltmarsh",  "kingsferry", "beaconhill",
-                                "tidewater", "fernworth", "oldmint",    "stonebridge"};
-    return words;
-}
+constexpr auto sites = std::to_array<std::string_view>({"harbour", "ridgeway", "northfield", "uplands", "millbrook",
+                                                        "eastquay", "lowmoor", "saltmarsh", "kingsferry", "beaconhill",
+                                                        "tidewater", "fernworth", "oldmint", "stonebridge"});
 
-const Words& systemFamilies()
-{
-    static const Words words = {
-        "helios", "atlas-ledger", "borealis", "meridian", "castor", "tidemark", "atlas-archive-west-cold",
-        "cygnus", "lanternist",   "pollux"};
-    return words;
-}
+constexpr auto systemFamilies =
+    std::to_array<std::string_view>({"helios", "atlas-ledger", "borealis", "meridian", "castor", "tidemark",
+                                     "atlas-archive-west-cold", "cygnus", "lanternist", "pollux"});
 
-const Words& partitionRoles()
-{
-    static const Words words = {"ledger-app",
-                                "ledger-db-primary",
-                                "batch-night",
-                                "mail-relay",
-                                "settled-archive",
-                                "scheduled-jobs",
-                                "freight-tariff",
-                                "customs-queue",
-                                "print-spool",
-                                "berth-planning",
-                                "pilot-roster",
-                                "web:01",
-                                "Ledger-Migration-Rehearsal-2026-second-attempt",
-                                "crane-telemetry",
-                                "MyDirectory"};
-    return words;
-}
+constexpr auto partitionRoles = std::to_array<std::string_view>(
+    {"ledger-app", "ledger-db-primary", "batch-night", "mail-relay", "settled-archive", "scheduled-jobs",
+     "freight-tariff", "customs-queue", "print-spool", "berth-planning", "pilot-roster", "web:01",
+     "Ledger-Migration-Rehearsal-2026-second-attempt", "crane-telemetry", "MyDirectory"});
 
 // Systems take these states in this order, so that a small inventory shows every kind of row already. "error" and
 // "incomplete" also occur inside longer words, which badges must count, and with a capital letter, which they must not.
-const Words& uneasySystemStates()
-{
-    static const Words words = {"error",
-                                "incomplete",
-                                "standby",
-                                "power off",
-                                "initializing",
-                                "not available",
-                                "error - terminated",
-                                "Operating",
-                                "incomplete - version mismatch",
-                                "alert"};
-    return words;
-}
+constexpr auto uneasySystemStates =
+    std::to_array<std::string_view>({"error", "incomplete", "standby", "power off", "initializing", "not available",
+                                     "error - terminated", "Operating", "incomplete - version mismatch", "alert"});
 
-const Words& uneasyPartitionStates()
-{
-    static const Words words = {"not activated", "error",         "starting",      "shutting down",
-                                "alert",         "not available", "not activated", "Running"};
-    return words;
-}
+constexpr auto uneasyPartitionStates = std::to_array<std::string_view>(
+    {"not activated", "error", "starting", "shutting down", "alert", "not available", "not activated", "Running"});
 
-const Words& colors()
-{
-    static const Words words = {"Cyan", "Green", "Red", "Purple", "Blue", "Grey", "Yellow", "Orange", "Pink", "Teal"};
-    return words;
-}
+constexpr auto colors = std::to_array<std::string_view>(
+    {"Cyan", "Green", "Red", "Purple", "Blue", "Grey", "Yellow", "Orange", "Pink", "Teal"});
 
 // Mixes the bits, so that a change of any bit may change all others.
 std::uint64_t scrambled(std::uint64_t bits)
@@ -98,7 +58,6 @@ public:
 
     Inventory make()
     {
-        m_inventory.published = "2026-03-12T09:41:17.250Z";
         m_inventory.console = makeConsoleIdentity(m_settings.seed, static_cast<int>(m_number));
         for (int i = 0; i < m_settings.systems; ++i) {
             addSystem(static_cast<std::size_t>(i));
@@ -140,7 +99,7 @@ private:
         return std::string(families[below(families.size())]) + "-" + hexadecimal(4);
     }
 
-    static std::string numbered(const Words& words, std::size_t i)
+    static std::string numbered(Words words, std::size_t i)
     {
         const std::size_t round = i / words.size() + 1;
         return std::string(words[i % words.size()]) + (round < 10 ? "-0" : "-") + std::to_string(round);
@@ -156,8 +115,8 @@ private:
     {
         ManagedSystem system;
         system.id = identifier();
-        system.name = numbered(systemFamilies(), i);
-        const Words& uneasy = uneasySystemStates();
+        system.name = numbered(systemFamilies, i);
+        const Words uneasy = uneasySystemStates;
         system.state = i % 2 == 0 ? "operating" : uneasy[(i / 2 + m_number) % uneasy.size()];
         // Lamps are lit on good and on failing systems. A lamp that says "True" does not count as lit.
         system.attentionLED = i % 5 == 1 || i % 7 == 4 ? "true" : i % 11 == 6 ? "True" : "false";
@@ -181,10 +140,10 @@ private:
         const std::size_t i = m_inventory.partitions.size();
         Partition partition;
         partition.id = identifier();
-        partition.name = numbered(partitionRoles(), i);
+        partition.name = numbered(partitionRoles, i);
         partition.number = static_cast<int>(k) + 1;
         partition.type = types[i % 4 == 3 ? 1 + below(2) : 0];
-        const Words& uneasy = uneasyPartitionStates();
+        const Words uneasy = uneasyPartitionStates;
         partition.state = i % 3 != 1 ? "running" : uneasy[(i / 3 + m_number) % uneasy.size()];
         if (partition.state != "running") {
             partition.referenceCode = partition.state == "not activated" ? "00000000" : referenceCode();
@@ -200,7 +159,7 @@ private:
         Partition server;
         server.id = identifier();
         server.system = i / 2 % m_inventory.systems.size();
-        server.name = "vios-" + std::string(sites()[m_number % sites().size()]) + "-" + std::to_string(i / 2 + 1) +
+        server.name = "vios-" + std::string(sites[m_number % sites.size()]) + "-" + std::to_string(i / 2 + 1) +
                       (i % 2 == 0 ? "a" : "b");
         server.number = 100 + static_cast<int>(i % 2);
         server.type = "Virtual IO Server";
@@ -217,29 +176,36 @@ private:
             "The service processor was reset by its watchdog after it had not answered for two minutes"};
         ServiceableEvent event;
         event.id = identifier();
-        event.problemNumber = 1042 - static_cast<int>(i);
-        event.callHome = i % 3 == 0 ? "true" : "false";
-        event.hardwareRecord = 7 + static_cast<int>(i);
-        event.approvalState = approvals[i % approvals.size()];
-        event.referenceCode = referenceCode();
-        event.referenceCodeExtension = hexadecimal(8);
-        event.systemReferenceCode = event.referenceCode.substr(0, 4);
-        event.problemState = i % 4 == 3 ? "Closed" : "Open";
-        event.firmwareFix = i % 5 == 4 ? "Level 2.4.1" : "None available";
-        event.lastReported = 1773308460 - static_cast<std::int64_t>(i) * 86413;
-        event.firstReported = event.lastReported - 7200;
-        event.primary = event.lastReported - 3600;
+        const std::string code = referenceCode();
+        const std::int64_t lastReported = 1773308460 - static_cast<std::int64_t>(i) * 86413;
+        const std::string firstReported = std::to_string(lastReported - 7200);
+        event.fields = {{"problemNumber", std::to_string(1042 - static_cast<int>(i))},
+                        {"callHomeEnabled", i % 3 == 0 ? "true" : "false"},
+                        {"problemManagementHardwareRecord", std::to_string(7 + i)},
+                        {"ApprovalState", std::string(approvals[i % approvals.size()])},
+                        {"referenceCode", code},
+                        {"referenceCodeExtension", hexadecimal(8)},
+                        {"systemReferenceCode", code.substr(0, 4)},
+                        {"problemState", i % 4 == 3 ? "Closed" : "Open"},
+                        {"firmwareFix", i % 5 == 4 ? "Level 2.4.1" : "None available"},
+                        {"firstReportedTimestamp", firstReported},
+                        {"lastReportedTimestamp", std::to_string(lastReported)},
+                        {"primaryTimestamp", std::to_string(lastReported - 3600)},
+                        {"shortDescription", std::string(texts[i % texts.size()])},
+                        {"eventSeverity", std::to_string(10 * (1 + i % 5))},
+                        {"notificationType", i % 2 == 0 ? "Customer" : "Service"},
+                        {"duplicateCount", std::to_string(i % 4)}};
         if (!m_inventory.systems.empty() && i % 7 != 6) {
             event.failingSystem = below(m_inventory.systems.size());
         }
-        event.text = texts[i % texts.size()];
-        event.severity = 10 * (1 + static_cast<int>(i % 5));
-        event.notificationType = i % 2 == 0 ? "Customer" : "Service";
-        event.duplicates = static_cast<int>(i % 4);
         for (std::size_t unit = 0; unit < i % 4; ++unit) {
-            event.units.push_back({"PS-1400-0" + std::to_string(unit), "Hardware", "Power supply, 1400 W",
-                                   "drawer 1, supply " + std::to_string(unit + 1), unit == 1 ? "true" : "false",
-                                   unit == 1 ? std::to_string(event.firstReported) : "0", std::to_string(unit + 1)});
+            event.units.push_back({{"partNumber", "PS-1400-0" + std::to_string(unit)},
+                                   {"class", "Hardware"},
+                                   {"fieldReplaceableUnitDescription", "Power supply, 1400 W"},
+                                   {"locationCode", "drawer 1, supply " + std::to_string(unit + 1)},
+                                   {"previouslyReplaced", unit == 1 ? "true" : "false"},
+                                   {"replacedTimestamp", unit == 1 ? firstReported : "0"},
+                                   {"replacementGroup", std::to_string(unit + 1)}});
         }
         m_inventory.events.push_back(std::move(event));
     }
@@ -247,15 +213,14 @@ private:
     // One group stays empty, and one has a single resource.
     void addGroup(std::size_t i)
     {
-        static const Words names = {"Ledger production",  "Ledger recovery",
-                                    "Quarantine",         "Decommissioned",
-                                    "Batch & scheduling", "Storage front ends",
-                                    "Training",           "Migration rehearsal of the western archive, spring 2026",
-                                    "Harbour office",     "Unsorted"};
+        static constexpr auto names = std::to_array<std::string_view>(
+            {"Ledger production", "Ledger recovery", "Quarantine", "Decommissioned", "Batch & scheduling",
+             "Storage front ends", "Training", "Migration rehearsal of the western archive, spring 2026",
+             "Harbour office", "Unsorted"});
         Group group;
         group.id = identifier();
         group.name = i < names.size() ? std::string(names[i]) : numbered(names, i);
-        group.color = colors()[i % colors().size()];
+        group.color = colors[i % colors.size()];
         if (i % names.size() == 2 && !m_inventory.partitions.empty()) {
             group.partitions.push_back(below(m_inventory.partitions.size()));
         } else if (i % names.size() != 3) {
@@ -296,14 +261,14 @@ ConsoleIdentity makeConsoleIdentity(std::uint64_t seed, int index)
     ConsoleIdentity console;
     console.id = id;
     console.name =
-        "corvel-" + std::string(sites()[number % sites().size()]) + "-" + std::to_string(number / sites().size() + 1);
+        "corvel-" + std::string(sites[number % sites.size()]) + "-" + std::to_string(number / sites.size() + 1);
     console.machine = {"5180", "K2", id.substr(0, 7)};
-    console.version = "3";
-    console.release = number % 5 == 3 ? "1" : "2";
-    console.maintenance = number % 5 == 3 ? "9" : "4";
-    console.minor = "0";
-    console.servicePackName = "SP" + std::to_string(1 + number % 4);
-    console.buildLevel = "20260118.2";
+    console.version = {{"BuildLevel", "20260118.2"},
+                       {"Maintenance", number % 5 == 3 ? "9" : "4"},
+                       {"Minor", "0"},
+                       {"Release", number % 5 == 3 ? "1" : "2"},
+                       {"ServicePackName", "SP" + std::to_string(1 + number % 4)},
+                       {"Version", "3"}};
     return console;
 }
 

@@ -4,13 +4,24 @@
 #include "Simulator/Protocol.h"
 #include "Simulator/Settings.h"
 
+#include <chrono>
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 namespace lodestar::simulator
 {
+
+/// When every feed was made.
+inline constexpr std::chrono::sys_seconds publishedAt =
+    std::chrono::sys_days(
+        std::chrono::year_month_day(std::chrono::year(2026), std::chrono::March, std::chrono::day(12))) +
+    std::chrono::hours(9) + std::chrono::minutes(41) + std::chrono::seconds(17);
+/// The same, and a quarter of a second, as the feeds say it.
+inline constexpr std::string_view published = "2026-03-12T09:41:17.250Z";
 
 struct MachineIdentity {
     std::string type;
@@ -43,38 +54,16 @@ struct Partition {
     std::size_t system = 0;
 };
 
-struct ReplaceableUnit {
-    std::string partNumber;
-    std::string unitClass;
-    std::string description;
-    std::string locationCode;
-    std::string previouslyReplaced;
-    std::string replacedTimestamp;
-    std::string replacementGroup;
-};
+/// The names and texts of elements.
+using Fields = std::vector<std::pair<std::string_view, std::string>>;
 
 struct ServiceableEvent {
     std::string id;
-    int problemNumber = 0;
-    std::string callHome;
-    int hardwareRecord = 0;
-    std::string approvalState;
-    std::string referenceCode;
-    std::string referenceCodeExtension;
-    std::string systemReferenceCode;
-    std::string problemState;
-    std::string firmwareFix;
-    /// Seconds since 1970.
-    std::int64_t firstReported = 0;
-    std::int64_t lastReported = 0;
-    std::int64_t primary = 0;
+    Fields fields;
     /// Index of the failing system; none when the console itself has the fault.
     std::optional<std::size_t> failingSystem;
-    std::string text;
-    int severity = 0;
-    std::string notificationType;
-    int duplicates = 0;
-    std::vector<ReplaceableUnit> units;
+    /// The parts to replace.
+    std::vector<Fields> units;
 };
 
 struct Group {
@@ -91,17 +80,10 @@ struct ConsoleIdentity {
     std::string id;
     std::string name;
     MachineIdentity machine;
-    std::string version;
-    std::string release;
-    std::string maintenance;
-    std::string minor;
-    std::string servicePackName;
-    std::string buildLevel;
+    Fields version;
 };
 
 struct Inventory {
-    /// In the form "yyyy-MM-dd'T'HH:mm:ss.SSS'Z'".
-    std::string published;
     ConsoleIdentity console;
     std::vector<ManagedSystem> systems;
     std::vector<Partition> partitions;

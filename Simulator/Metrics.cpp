@@ -8,7 +8,7 @@
 #include <charconv>
 #include <chrono>
 #include <cmath>
-#include <cstdio>
+#include <ctime>
 #include <numbers>
 #include <random>
 
@@ -39,39 +39,22 @@ std::string decimal(double value, int decimals = 2)
     const auto [end, error] =
         std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, decimals);
     std::string out(text.data(), end);
-    while (out.find('.') != std::string::npos && (out.back() == '0' || out.back() == '.')) {
-        const bool wasPoint = out.back() == '.';
+    if (out.find('.') != std::string::npos) {
+        out.erase(out.find_last_not_of('0') + 1);
+    }
+    if (out.back() == '.') {
         out.pop_back();
-        if (wasPoint) {
-            break;
-        }
     }
     return out;
 }
 
-/// Turns "2026-03-12T09:41:00.000Z" into seconds since 1970.
-std::chrono::sys_seconds momentOf(const std::string& published)
-{
-    const auto part = [&published](std::size_t from, std::size_t length) {
-        return std::atoi(published.substr(from, length).c_str());
-    };
-    const std::chrono::year_month_day date{std::chrono::year(part(0, 4)),
-                                           std::chrono::month(static_cast<unsigned>(part(5, 2))),
-                                           std::chrono::day(static_cast<unsigned>(part(8, 2)))};
-    return std::chrono::sys_days(date) + std::chrono::hours(part(11, 2)) + std::chrono::minutes(part(14, 2)) +
-           std::chrono::seconds(part(17, 2));
-}
-
 std::string stamp(std::chrono::sys_seconds moment)
 {
-    const auto day = std::chrono::floor<std::chrono::days>(moment);
-    const std::chrono::year_month_day date(day);
-    const std::chrono::hh_mm_ss time(moment - day);
+    const std::time_t seconds = std::chrono::system_clock::to_time_t(moment);
+    std::tm parts{};
+    gmtime_r(&seconds, &parts);
     std::array<char, 64> text{};
-    std::snprintf(text.data(), text.size(), "%04d-%02u-%02uT%02d:%02d:%02d.+0000", static_cast<int>(date.year()),
-                  static_cast<unsigned>(date.month()), static_cast<unsigned>(date.day()),
-                  static_cast<int>(time.hours().count()), static_cast<int>(time.minutes().count()),
-                  static_cast<int>(time.seconds().count()));
+    std::strftime(text.data(), text.size(), "%Y-%m-%dT%H:%M:%S.+0000", &parts);
     return text.data();
 }
 
@@ -83,12 +66,8 @@ std::string figure(std::string_view name, const std::string& value)
 class Document
 {
 public:
-    Document(const Inventory& inventory, const ManagedSystem& system, const MetricsShape& shape)
-        : m_system(system),
-          m_shape(shape),
-          m_end(momentOf(inventory.published)),
-          m_processors(std::atof(system.processorUnits.c_str())),
-          m_random(shape.seed)
+    Document(const ManagedSystem& system, const MetricsShape& shape)
+        : m_system(system), m_shape(shape), m_processors(std::atof(system.processorUnits.c_str())), m_random(shape.seed)
     {
     }
 
@@ -97,7 +76,7 @@ public:
         m_out = R"({"systemUtil":{"utilInfo":{"name":)" + jsonText(m_system.name) + R"(,"id":)" +
                 jsonText(m_system.id) + R"(,"intervalSeconds":)" + std::to_string(interval.count()) +
                 R"(,"startTimeStamp":)" + jsonText(stamp(momentAt(0))) + R"(,"endTimeStamp":)" +
-                jsonText(stamp(m_end)) + "},\n\"utilSamples\":[";
+                jsonText(stamp(publishedAt)) + "},\n\"utilSamples\":[";
         for (int i = 0; i < m_shape.samples; ++i) {
             m_out += i == 0 ? "\n" : ",\n";
             writeSample(i);
@@ -106,7 +85,10 @@ public:
     }
 
 private:
-    std::chrono::sys_seconds momentAt(int i) const { return m_end - interval * std::max(0, m_shape.samples - 1 - i); }
+    std::chrono::sys_seconds momentAt(int i) const
+    {
+        return publishedAt - interval * std::max(0, m_shape.samples - 1 - i);
+    }
     double partAt(int i) const { return m_shape.samples > 1 ? double(i) / (m_shape.samples - 1) : 1.0; }
     double noise() { return std::uniform_real_distribution<double>(-1, 1)(m_random); }
 
@@ -177,7 +159,6 @@ private:
 
     const ManagedSystem& m_system;
     const MetricsShape& m_shape;
-    std::chrono::sys_seconds m_end;
     double m_processors;
     std::mt19937_64 m_random;
     double m_wander = 0;
@@ -198,21 +179,21 @@ std::string jsonText(std::string_view text)
     return out + '"';
 }
 
-std::string writeMetricsDocument(const Inventory& inventory, const ManagedSystem& system, const MetricsShape& shape)
+std::string writeMetricsDocument(const ManagedSystem& system, const MetricsShape& shape)
 {
-    return Document(inventory, system, shape).write();
+    return Document(system, shape).write();
 }
 
-std::string writeMetricsFeed(const Inventory& inventory, const ManagedSystem& system, const std::string& documentLink)
+std::string writeMetricsFeed(const ManagedSystem& system, const std::string& documentLink)
 {
     XmlWriter xml;
     xml.raw(R"(<?xml version="1.0" encoding="UTF-8" standalone="yes"?>)");
     xml.open("feed", {{"xmlns", "http://www.w3.org/2005/Atom"}});
     xml.text("id", system.id);
-    xml.text("updated", inventory.published);
+    xml.text("updated", published);
     xml.open("entry");
     xml.text("title", system.name);
-    xml.text("published", inventory.published);
+    xml.text("published", published);
     xml.empty("link", {{"type", "application/json"}, {"href", documentLink}});
     xml.close();
     xml.close();

@@ -27,9 +27,9 @@ struct MetricsShape {
 /// Writes a system's processed metrics as JSON, one sample on each line. Samples are three minutes apart; the last one
 /// is from when the inventory was published. The use of processors follows a daily load, and memory is assigned in
 /// steps. The last sample has round figures: a quarter of the processors is available, and 40.625 % of them are used.
-std::string writeMetricsDocument(const Inventory& inventory, const ManagedSystem& system, const MetricsShape& shape);
+std::string writeMetricsDocument(const ManagedSystem& system, const MetricsShape& shape);
 
 /// Writes the feed whose first entry links to the document.
-std::string writeMetricsFeed(const Inventory& inventory, const ManagedSystem& system, const std::string& documentLink);
+std::string writeMetricsFeed(const ManagedSystem& system, const std::string& documentLink);
 
 } // namespace lodestar::simulator

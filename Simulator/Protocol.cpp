@@ -12,12 +12,6 @@ namespace lodestar::simulator
 namespace
 {
 
-bool isHeader(const std::string& line, std::string_view name)
-{
-    return line.size() > name.size() && line[name.size()] == ':' &&
-           strncasecmp(line.data(), name.data(), name.size()) == 0;
-}
-
 std::int64_t numberIn(const std::string& word)
 {
     std::int64_t number = 0;
@@ -30,20 +24,17 @@ std::int64_t numberIn(const std::string& word)
 
 } // namespace
 
-std::optional<std::string> RecordedRequest::header(std::string_view name) const
+std::optional<std::string> SentRequest::header(std::string_view name) const
 {
-    const auto line = std::ranges::find_if(headers, [&](const std::string& each) { return isHeader(each, name); });
-    if (line == headers.end()) {
-        return std::nullopt;
+    std::optional<std::string> value;
+    for (const std::string& line : headers) {
+        if (line.size() > name.size() && line[name.size()] == ':' &&
+            strncasecmp(line.data(), name.data(), name.size()) == 0) {
+            const std::size_t start = std::min(line.find_first_not_of(" \t", name.size() + 1), line.size());
+            value = (value ? *value + ", " : std::string()) + line.substr(start);
+        }
     }
-    const std::size_t start = line->find_first_not_of(" \t", name.size() + 1);
-    return start == std::string::npos ? std::string() : line->substr(start);
-}
-
-int RecordedRequest::headerCount(std::string_view name) const
-{
-    return static_cast<int>(
-        std::ranges::count_if(headers, [&](const std::string& each) { return isHeader(each, name); }));
+    return value;
 }
 
 std::string encodeWord(std::string_view bytes)

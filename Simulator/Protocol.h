@@ -10,13 +10,8 @@
 namespace lodestar::simulator
 {
 
-/// One request as a console received it.
-struct RecordedRequest {
-    int console = 0;
-    /// Counted from 1 over all consoles: two requests with the same number came on the same connection.
-    std::uint64_t connection = 0;
-    /// Milliseconds since the simulator started.
-    std::int64_t milliseconds = 0;
+/// What a client sent.
+struct SentRequest {
     std::string method;
     /// The path with its query, as sent.
     std::string path;
@@ -24,10 +19,17 @@ struct RecordedRequest {
     std::vector<std::string> headers;
     std::string body;
 
-    /// The value of the first header of that name, in any case; nothing when there is none.
+    /// The values of all headers of that name, in any case, joined by ", "; nothing when there is none.
     std::optional<std::string> header(std::string_view name) const;
-    /// How many headers have that name, in any case.
-    int headerCount(std::string_view name) const;
+};
+
+/// One request as a console received it.
+struct RecordedRequest : SentRequest {
+    int console = 0;
+    /// Counted from 1 over all consoles: two requests with the same number came on the same connection.
+    std::uint64_t connection = 0;
+    /// Milliseconds since the simulator started.
+    std::int64_t milliseconds = 0;
 };
 
 /// Numbers of objects in a console's inventory.

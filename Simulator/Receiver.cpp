@@ -100,7 +100,7 @@ void Receiver::accept()
 
 Response Receiver::answer(const Request& request)
 {
-    const std::string target = request.path();
+    const std::string target = request.resource();
     if (target == path && request.method == "POST") {
         return take(request);
     }

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Simulator/Settings.h"
 
+#include <algorithm>
 #include <arpa/inet.h>
 #include <charconv>
-#include <functional>
-#include <map>
 #include <stdexcept>
+#include <type_traits>
+#include <utility>
+#include <variant>
 
 namespace lodestar::simulator
 {
@@ -13,95 +15,79 @@ namespace lodestar::simulator
 namespace
 {
 
-template <typename Number>
-Number numberFrom(const std::string& option, const std::string& text)
+/// An option with a value, and the setting that it sets.
+struct Option {
+    std::string_view name;
+    std::variant<int Settings::*, std::size_t Settings::*, std::string Settings::*> member;
+    std::string_view help;
+};
+
+constexpr Option options[] = {
+    {"--consoles", &Settings::consoles, "consoles, each on an address of its own"},
+    {"--systems", &Settings::systems, "managed systems a console"},
+    {"--partitions", &Settings::partitions, "logical partitions a managed system"},
+    {"--vios", &Settings::vios, "virtual I/O servers a console"},
+    {"--events", &Settings::events, "serviceable events a console"},
+    {"--groups", &Settings::groups, "resource groups a console"},
+    {"--samples", &Settings::samples, "metrics samples a system; each grows with the partitions"},
+    {"--feed-bytes", &Settings::feedBytes, "pad every feed to about so many bytes; 0: not padded"},
+    {"--latency", &Settings::latency, "milliseconds' wait before every answer"},
+    {"--round-trip", &Settings::roundTrip, "milliseconds of the network's way to a console and back"},
+    {"--stalls", &Settings::stalls, "with a round trip: of a hundred pieces, how many come two round trips late"},
+    {"--seed", &Settings::seed, "another seed gives another inventory"},
+    {"--record-cap", &Settings::recordCap, "how many requests are remembered"},
+    {"--user", &Settings::user, "the name that every console accepts; it is the simulator's own"},
+    {"--password", &Settings::password, "likewise the password"},
+    {"--address", &Settings::address, "address of the first console, or \"auto\" for a free block"},
+    {"--receiver", &Settings::receiver,
+     "take feedback reports in as well, on port 12444 of the first address; the\n                    certificate that "
+     "vouches for it is written into this file, for SSL_CERT_FILE"},
+};
+
+/// Where the consoles of a command line begin unless it says otherwise.
+constexpr const char* firstAddress = "127.0.0.2";
+
+std::string textOf(const Settings& settings, const Option& option)
 {
-    Number number{};
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc() || end != text.data() + text.size() || number < Number{}) {
-        throw std::invalid_argument(option + " wants a number, not \"" + text + "\"");
-    }
-    return number;
+    return std::visit(
+        [&settings](auto member) {
+            if constexpr (std::is_same_v<decltype(member), std::string Settings::*>) {
+                return settings.*member;
+            } else {
+                return std::to_string(settings.*member);
+            }
+        },
+        option.member);
 }
 
-using Setter = std::function<void(CommandLine&, const std::string& option, const std::string& value)>;
-
-template <typename Number>
-Setter numberSetter(Number Settings::*member)
+void set(Settings& settings, const Option& option, const std::string& text)
 {
-    return [member](CommandLine& line, const std::string& option, const std::string& value) {
-        line.settings.*member = numberFrom<Number>(option, value);
+    const auto setMember = [&](auto member) {
+        if constexpr (std::is_same_v<decltype(member), std::string Settings::*>) {
+            settings.*member = text;
+        } else {
+            const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), settings.*member);
+            if (error != std::errc() || end != text.data() + text.size() || std::cmp_less(settings.*member, 0)) {
+                throw std::invalid_argument(std::string(option.name) + " wants a number, not \"" + text + "\"");
+            }
+        }
     };
-}
-
-Setter textSetter(std::string Settings::*member)
-{
-    return [member](CommandLine& line, const std::string& /*option*/, const std::string& value) {
-        line.settings.*member = value;
-    };
-}
-
-const std::map<std::string, Setter, std::less<>>& setters()
-{
-    static const std::map<std::string, Setter, std::less<>> table = {
-        {"--consoles", numberSetter(&Settings::consoles)},
-        {"--systems", numberSetter(&Settings::systems)},
-        {"--partitions", numberSetter(&Settings::partitions)},
-        {"--vios", numberSetter(&Settings::vios)},
-        {"--events", numberSetter(&Settings::events)},
-        {"--groups", numberSetter(&Settings::groups)},
-        {"--samples", numberSetter(&Settings::samples)},
-        {"--feed-bytes", numberSetter(&Settings::feedBytes)},
-        {"--latency", numberSetter(&Settings::latency)},
-        {"--round-trip", numberSetter(&Settings::roundTrip)},
-        {"--stalls", numberSetter(&Settings::stalls)},
-        {"--seed", numberSetter(&Settings::seed)},
-        {"--record-cap", numberSetter(&Settings::recordCap)},
-        {"--receiver", textSetter(&Settings::receiver)},
-        {"--user", textSetter(&Settings::user)},
-        {"--password", textSetter(&Settings::password)},
-        {"--address",
-         [](CommandLine& line, const std::string& /*option*/, const std::string& value) {
-             line.settings.address = value == "auto" ? std::string() : value;
-         }},
-        {"--fault", [](CommandLine& line, const std::string& /*option*/,
-                       const std::string& value) { line.settings.faults.push_back(value); }},
-    };
-    return table;
+    std::visit(setMember, option.member);
 }
 
 } // namespace
 
 std::vector<std::string> argumentsOf(const Settings& settings)
 {
-    std::vector<std::string> arguments = {
-        "--consoles",   std::to_string(settings.consoles),
-        "--systems",    std::to_string(settings.systems),
-        "--partitions", std::to_string(settings.partitions),
-        "--vios",       std::to_string(settings.vios),
-        "--events",     std::to_string(settings.events),
-        "--groups",     std::to_string(settings.groups),
-        "--samples",    std::to_string(settings.samples),
-        "--feed-bytes", std::to_string(settings.feedBytes),
-        "--latency",    std::to_string(settings.latency),
-        "--round-trip", std::to_string(settings.roundTrip),
-        "--stalls",     std::to_string(settings.stalls),
-        "--seed",       std::to_string(settings.seed),
-        "--record-cap", std::to_string(settings.recordCap),
-        "--user",       settings.user,
-        "--password",   settings.password,
-        "--address",    settings.address.empty() ? "auto" : settings.address,
-    };
+    std::vector<std::string> arguments;
+    for (const Option& option : options) {
+        arguments.insert(arguments.end(), {std::string(option.name), textOf(settings, option)});
+    }
     if (!settings.gzip) {
         arguments.emplace_back("--no-gzip");
     }
-    if (!settings.receiver.empty()) {
-        arguments.emplace_back("--receiver");
-        arguments.push_back(settings.receiver);
-    }
     for (const std::string& fault : settings.faults) {
-        arguments.emplace_back("--fault");
-        arguments.push_back(fault);
+        arguments.insert(arguments.end(), {"--fault", fault});
     }
     return arguments;
 }
@@ -109,60 +95,43 @@ std::vector<std::string> argumentsOf(const Settings& settings)
 CommandLine parseArguments(const std::vector<std::string>& arguments)
 {
     CommandLine line;
-    line.settings.address = "127.0.0.2";
+    line.settings.address = firstAddress;
     for (std::size_t i = 0; i < arguments.size(); ++i) {
-        const std::string& option = arguments[i];
-        if (option == "--help" || option == "-h") {
+        const std::string& name = arguments[i];
+        const auto* const option = std::ranges::find(options, name, &Option::name);
+        if (name == "--help" || name == "-h") {
             line.help = true;
-        } else if (option == "--control") {
+        } else if (name == "--control") {
             line.control = true;
-        } else if (option == "--no-gzip") {
+        } else if (name == "--no-gzip") {
             line.settings.gzip = false;
-        } else if (const auto setter = setters().find(option); setter == setters().end()) {
-            throw std::invalid_argument("unknown option " + option);
+        } else if (option == std::end(options) && name != "--fault") {
+            throw std::invalid_argument("unknown option " + name);
         } else if (i + 1 == arguments.size()) {
-            throw std::invalid_argument(option + " wants a value");
+            throw std::invalid_argument(name + " wants a value");
+        } else if (name == "--fault") {
+            line.settings.faults.push_back(arguments[++i]);
         } else {
-            setter->second(line, option, arguments[++i]);
+            set(line.settings, *option, arguments[++i]);
         }
     }
     return line;
 }
 
-std::string_view helpText()
+std::string helpText()
 {
-    return R"(lodestar-simulator: consoles to point a client at, on loopback addresses, port 12443
-
-  --consoles N      consoles, each on an address of its own (1)
-  --systems N       managed systems a console (8)
-  --partitions N    logical partitions a managed system (4)
-  --vios N          virtual I/O servers a console (6)
-  --events N        serviceable events a console (8)
-  --groups N        resource groups a console (9)
-  --samples N       metrics samples a system (240); each grows with the partitions
-  --feed-bytes N    pad every feed to about N bytes (0: not padded)
-  --latency MS      wait before every answer (0)
-  --round-trip MS   the network's way to a console and back (0)
-  --stalls N        with a round trip: of a hundred pieces, how many come two round trips late (0)
-  --seed N          another seed gives another inventory (1)
-  --user U --password P
-                    the credentials that every console accepts; they are the simulator's own
-  --address A       address of the first console (127.0.0.2), or "auto" for a free block
-  --no-gzip         never compress
-  --record-cap N    how many requests are remembered (100000)
+    std::string help = "lodestar-simulator: consoles to point a client at, on loopback addresses, port 12443\n\n";
+    Settings usual;
+    usual.address = firstAddress;
+    for (const Option& option : options) {
+        const std::string text = textOf(usual, option);
+        help.append("  ").append(option.name).append(18 - option.name.size(), ' ').append(option.help);
+        help.append(text.empty() ? "\n" : " (" + text + ")\n");
+    }
+    return help + R"(  --no-gzip         never compress
   --fault NAME[:WHAT][:CONSOLE]
                     a fault from the start, for one console or all; may be repeated
-  --receiver FILE   take feedback reports in as well, on port 12444 of the first address; the certificate that
-                    vouches for it is written into the file, for SSL_CERT_FILE
   --control         end when standard input ends
-
-Faults. WHAT is a feed's type, or Logon, SessionCheck, Quick, Metrics, MetricsDocument, All; feeds when left out:
-  refuseFeed emptyFeed stallFeed malformedFeed cutBody cutChunk cutGzip reset trickle hugeBody gzipBomb
-  largeFeed largeGzip vastFeed
-  hugeHeaders endlessChunk twoLengths redirectLoop redirectOtherHost chunked failedStatus; basicAuth (everything when left out)
-  nullMetrics unprocessedMetrics emptyMetrics (the metrics document)
-  refuseLogon logonWithoutKey longKey logonNotXML[:html|empty|json]
-  silentAfterAccept closePort expiredCertificate misnamedCertificate; at once and once: expireSession swapCertificate
 
 Commands on standard input, each answered with lines that end in "ok" or "error TEXT"; arguments percent-encoded:
   fault NAME[:WHAT][:CONSOLE]     clear [NAME[:WHAT][:CONSOLE]]     latency MS
@@ -177,6 +146,8 @@ Trying it by hand:
   curl -sk -X PUT --data "$BODY" https://127.0.0.2:12443/rest/api/web/Logon
   curl -sk -H "X-API-Session: KEY" https://127.0.0.2:12443/rest/api/uom/ManagedSystem
   curl -sk https://127.0.0.2:12444/reports      the reports that came; the first one's archive is at .../reports/1
+
+Faults. WHAT is a feed's type, or Logon, SessionCheck, Quick, Metrics, MetricsDocument, All; feeds when left out:
 )";
 }
 

@@ -40,8 +40,8 @@ struct Settings {
     /// Made-up credentials that every console accepts.
     std::string user = "operator";
     std::string password = "lantern-7-quay";
-    /// The first console's address, 127.a.b.c. Empty for a free block of addresses, which the process chooses.
-    std::string address;
+    /// The first console's address, 127.a.b.c; "auto" for a free block of addresses, which the process chooses.
+    std::string address = "auto";
     /// Whether feeds are compressed for clients that accept compression.
     bool gzip = true;
     /// How many requests are kept, after which the oldest are dropped; 0 keeps none.
@@ -66,7 +66,8 @@ struct CommandLine {
 /// Throws `std::invalid_argument`, with a text for the user, when it does not understand the arguments.
 CommandLine parseArguments(const std::vector<std::string>& arguments);
 
-std::string_view helpText();
+/// The command line's options and the commands; the names of the faults are to follow.
+std::string helpText();
 
 /// The address of the console with the index, counted from `base`. Each block of 256 has 254 addresses, so 127.0.0.254
 /// is followed by 127.0.1.1. Throws `std::invalid_argument` when `base` is no loopback address, and `std::out_of_range`

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <map>
 #include <stdexcept>
 #include <sys/epoll.h>
 #include <sys/resource.h>
@@ -41,6 +42,16 @@ std::string blockOfProcess(int attempt)
     return "127." + std::to_string(16 + block / 256) + "." + std::to_string(block % 256) + ".2";
 }
 
+/// The kind of certificate that the fault gives a console; none for other faults.
+std::optional<Leaf::Kind> leafKindOf(const Fault& fault)
+{
+    static const std::map<std::string_view, Leaf::Kind> kinds = {{"swapCertificate", Leaf::Kind::Valid},
+                                                                 {"expiredCertificate", Leaf::Kind::Expired},
+                                                                 {"misnamedCertificate", Leaf::Kind::Misnamed}};
+    const auto kind = kinds.find(fault.name);
+    return kind != kinds.end() ? std::optional(kind->second) : std::nullopt;
+}
+
 } // namespace
 
 Simulator::Simulator(EventLoop& loop, Settings settings)
@@ -52,7 +63,7 @@ Simulator::Simulator(EventLoop& loop, Settings settings)
         m_inventories.push_back(std::make_shared<const ServedInventory>(m_settings, static_cast<std::uint64_t>(i)));
     }
     constexpr int attempts = 64;
-    const bool fixed = !m_settings.address.empty();
+    const bool fixed = m_settings.address != "auto";
     for (int attempt = 1;; ++attempt) {
         buildConsoles(fixed ? m_settings.address : blockOfProcess(attempt));
         try {
@@ -200,7 +211,7 @@ void Simulator::adopt(Station& station, int descriptor)
     auto connection = std::make_unique<Connection>(m_loop, descriptor, std::move(ssl), std::move(callbacks));
     Connection& added = *connection;
     station.connections.emplace(number, std::move(connection));
-    const auto isSilence = [](const Fault& each) { return each.name == FaultName::SilentAfterAccept; };
+    const auto isSilence = [](const Fault& each) { return each.name == "silentAfterAccept"; };
     if (std::ranges::any_of(faultsOf(station.console.index()), isSilence)) {
         added.fallSilent();
     }
@@ -224,7 +235,7 @@ Response Simulator::answer(Station& station, std::uint64_t connection, const Req
     return response;
 }
 
-void Simulator::record(int console, std::uint64_t connection, const Request& request)
+void Simulator::record(int console, std::uint64_t connection, const SentRequest& request)
 {
     if (m_settings.recordCap == 0) {
         return;
@@ -233,8 +244,7 @@ void Simulator::record(int console, std::uint64_t connection, const Request& req
         m_requests.pop_front();
     }
     const auto age = std::chrono::duration_cast<std::chrono::milliseconds>(EventLoop::Clock::now() - m_start);
-    m_requests.push_back(
-        {console, connection, age.count(), request.method, request.target, request.headers, request.body});
+    m_requests.push_back({request, console, connection, age.count()});
 }
 
 std::vector<Fault> Simulator::faultsOf(int console) const
@@ -260,7 +270,7 @@ void Simulator::forEachStruck(const Fault& fault, const Do& act)
 void Simulator::setFault(const Fault& fault)
 {
     forEachStruck(fault, [&](Station& each) { strikeConsole(fault, each); });
-    const bool once = fault.name == FaultName::ExpireSession || fault.name == FaultName::SwapCertificate;
+    const bool once = fault.name == "expireSession" || fault.name == "swapCertificate";
     if (!once && std::ranges::find(m_faults, fault) == m_faults.end()) {
         m_faults.push_back(fault);
     }
@@ -269,28 +279,14 @@ void Simulator::setFault(const Fault& fault)
 // The immediate effect of a fault; later requests are struck elsewhere.
 void Simulator::strikeConsole(const Fault& fault, Station& station)
 {
-    switch (fault.name) {
-    case FaultName::ExpireSession:
+    if (fault.name == "expireSession") {
         station.console.expireSessions();
-        break;
-    case FaultName::ClosePort:
+    } else if (fault.name == "closePort") {
         stopListening(station);
         closeConnections(station);
-        break;
-    case FaultName::SwapCertificate:
-        station.console.changeLeaf(Leaf::Kind::Valid);
+    } else if (const auto kind = leafKindOf(fault)) {
+        station.console.changeLeaf(*kind);
         closeConnections(station);
-        break;
-    case FaultName::ExpiredCertificate:
-        station.console.changeLeaf(Leaf::Kind::Expired);
-        closeConnections(station);
-        break;
-    case FaultName::MisnamedCertificate:
-        station.console.changeLeaf(Leaf::Kind::Misnamed);
-        closeConnections(station);
-        break;
-    default:
-        break;
     }
 }
 
@@ -302,9 +298,9 @@ void Simulator::clearFault(const Fault& fault)
     }
     m_faults.erase(kept, m_faults.end());
     forEachStruck(fault, [&](Station& each) {
-        if (fault.name == FaultName::ClosePort) {
+        if (fault.name == "closePort") {
             listenOn(each);
-        } else if (fault.name == FaultName::ExpiredCertificate || fault.name == FaultName::MisnamedCertificate) {
+        } else if (leafKindOf(fault)) {
             each.console.changeLeaf(Leaf::Kind::Valid);
             closeConnections(each);
         }

@@ -82,7 +82,7 @@ private:
     void adopt(Station& station, int descriptor);
     void bury(Station& station, std::uint64_t number);
     Response answer(Station& station, std::uint64_t connection, const Request& request);
-    void record(int console, std::uint64_t connection, const Request& request);
+    void record(int console, std::uint64_t connection, const SentRequest& request);
     std::vector<Fault> faultsOf(int console) const;
     void strikeConsole(const Fault& fault, Station& station);
     template <typename Do>

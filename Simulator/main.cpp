@@ -61,7 +61,7 @@ int main(int argc, char** argv)
     try {
         const CommandLine line = parseArguments(std::vector<std::string>(argv + 1, argv + argc));
         if (line.help) {
-            std::cout << helpText();
+            std::cout << helpText() << faultHelp();
             return 0;
         }
         return serve(line);

@@ -35,12 +35,11 @@ void check(bool holds, const char* what)
 std::vector<std::string> makeFeeds(const simulator::Settings& settings, std::size_t feedBytes,
                                    std::span<const std::string_view> types)
 {
-    const auto feeds =
-        simulator::writeFeeds(simulator::makeInventory(settings, 1), simulator::Layout::Compact, feedBytes);
+    const auto feeds = simulator::writeFeeds(simulator::makeInventory(settings, 1), feedBytes);
     std::vector<std::string> made;
     for (const std::string_view type : types) {
-        made.push_back(
-            feeds.find(type)->second.filled({"127.0.0.2", "atlas", "06A17A8", "6918b61e-c645-7a0d-6417-d56c545c61a4"}));
+        made.push_back(simulator::filled(feeds.find(type)->second,
+                                         {"127.0.0.2", "atlas", "06A17A8", "6918b61e-c645-7a0d-6417-d56c545c61a4"}));
     }
     return made;
 }

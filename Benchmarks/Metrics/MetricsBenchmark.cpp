@@ -20,7 +20,7 @@ const std::string& large()
 {
     static const std::string document = [] {
         const simulator::Inventory inventory = simulator::makeInventory({}, 0);
-        return simulator::writeMetricsDocument(inventory, inventory.systems.front(), {.partitions = 105});
+        return simulator::writeMetricsDocument(inventory.systems.front(), {.partitions = 105});
     }();
     return document;
 }

@@ -23,7 +23,7 @@ const std::string source = "Shared/Views/ManagedSystems/PCM/PCMViewController";
 std::string demoMetrics(const simulator::MetricsShape& shape)
 {
     const simulator::Inventory inventory = simulator::makeInventory({}, 0);
-    return simulator::writeMetricsDocument(inventory, inventory.systems.front(), shape);
+    return simulator::writeMetricsDocument(inventory.systems.front(), shape);
 }
 
 class PerformanceTest : public ListTest
