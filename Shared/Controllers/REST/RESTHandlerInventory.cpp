@@ -7,6 +7,8 @@
 #include "Platform/URLLoading/URLLoading.h"
 #include "XML/KeptRoom.h"
 
+#include <simdjson.h>
+
 #include <mutex>
 #include <utility>
 
@@ -173,7 +175,7 @@ std::optional<std::string> RESTHandler::fetchDataFromAtomLink(const std::string&
         return std::nullopt;
     }
     std::string text = std::move(load.value().body);
-    if (!isUTF8(text)) {
+    if (!simdjson::validate_utf8(text)) {
         return std::nullopt;
     }
     std::erase(text, '"');

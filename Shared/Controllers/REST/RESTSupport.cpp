@@ -9,7 +9,6 @@
 
 #include <fmt/core.h>
 
-#include <cstdint>
 #include <optional>
 #include <utility>
 
@@ -18,32 +17,6 @@ namespace lodestar
 
 namespace
 {
-
-struct Lead {
-    std::size_t followers;
-    /// Bounds of the first follower; they exclude overlong forms, surrogates and values beyond Unicode.
-    std::uint8_t firstLow;
-    std::uint8_t firstHigh;
-};
-
-std::optional<Lead> leadOf(std::uint8_t byte)
-{
-    if (byte < 0x80) {
-        return Lead{0, 0, 0};
-    }
-    if (byte >= 0xC2 && byte <= 0xDF) {
-        return Lead{1, 0x80, 0xBF};
-    }
-    if (byte >= 0xE0 && byte <= 0xEF) {
-        return Lead{2, static_cast<std::uint8_t>(byte == 0xE0 ? 0xA0 : 0x80),
-                    static_cast<std::uint8_t>(byte == 0xED ? 0x9F : 0xBF)};
-    }
-    if (byte >= 0xF0 && byte <= 0xF4) {
-        return Lead{3, static_cast<std::uint8_t>(byte == 0xF0 ? 0x90 : 0x80),
-                    static_cast<std::uint8_t>(byte == 0xF4 ? 0x8F : 0xBF)};
-    }
-    return std::nullopt;
-}
 
 SessionKey usable(SessionKey key)
 {
@@ -82,26 +55,6 @@ Error logonRefusal(int statusCode)
     Error error = promise::errorWithReason("");
     error.localizedDescription = wordsForLogonStatus(statusCode);
     return error;
-}
-
-bool isUTF8(std::string_view bytes)
-{
-    for (std::size_t i = 0; i < bytes.size();) {
-        const auto lead = leadOf(static_cast<std::uint8_t>(bytes[i]));
-        if (!lead || bytes.size() - i <= lead->followers) {
-            return false;
-        }
-        for (std::size_t k = 1; k <= lead->followers; ++k) {
-            const auto follower = static_cast<std::uint8_t>(bytes[i + k]);
-            const std::uint8_t low = k == 1 ? lead->firstLow : 0x80;
-            const std::uint8_t high = k == 1 ? lead->firstHigh : 0xBF;
-            if (follower < low || follower > high) {
-                return false;
-            }
-        }
-        i += lead->followers + 1;
-    }
-    return true;
 }
 
 } // namespace lodestar

@@ -32,7 +32,4 @@ std::string causeOf(const Result<URLLoad>& load);
 /// caller can tell one status from another. Its description tells a person what the status means.
 Error logonRefusal(int statusCode);
 
-/// Whether the bytes are well-formed UTF-8 (no overlong forms, no surrogates).
-bool isUTF8(std::string_view bytes);
-
 } // namespace lodestar
