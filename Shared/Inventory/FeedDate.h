@@ -20,4 +20,9 @@ struct FeedDate {
 /// does not exist. Any thread.
 std::optional<FeedDate> parseFeedDate(std::string_view text);
 
+/// Reads exactly "yyyy-MM-dd'T'HH:mm:ss", with the year 0, too. Nothing as above.
+std::optional<FeedDate> parseDateAndTime(std::string_view text);
+/// The number of a text that consists of ASCII digits alone; nothing for any other text, or an empty one.
+std::optional<unsigned> numberOf(std::string_view digits);
+
 } // namespace lodestar

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Inventory/Metrics/MetricsDate.h"
 
+#include "Inventory/FeedDate.h"
+
 #include <algorithm>
 #include <array>
 
@@ -9,23 +11,7 @@ namespace lodestar
 namespace
 {
 
-constexpr std::string_view pattern = "0000-00-00T00:00:00.";
 constexpr std::array<std::string_view, 3> zeroZones = {"GMT", "UTC", "UT"};
-
-bool isDigit(char c)
-{
-    return c >= '0' && c <= '9';
-}
-
-/// The text must be digits alone.
-unsigned number(std::string_view digits)
-{
-    unsigned value = 0;
-    for (const char digit : digits) {
-        value = value * 10 + static_cast<unsigned>(digit - '0');
-    }
-    return value;
-}
 
 /// Reads "+1", "+01", "+0130", "+1:30" or "+01:30", with either sign; nothing for any other text.
 std::optional<std::chrono::minutes> distance(std::string_view text)
@@ -43,12 +29,13 @@ std::optional<std::chrono::minutes> distance(std::string_view text)
         minutes = hours.substr(2);
         hours = hours.substr(0, 2);
     }
-    const bool isShaped = !hours.empty() && hours.size() <= 2 && minutes.size() == 2 &&
-                          std::ranges::all_of(hours, isDigit) && std::ranges::all_of(minutes, isDigit);
-    if (!isShaped || number(hours) > 23 || number(minutes) > 59) {
+    const auto wholeHours = numberOf(hours);
+    const auto restMinutes = numberOf(minutes);
+    if (hours.size() > 2 || minutes.size() != 2 || !wholeHours || !restMinutes || *wholeHours > 23 ||
+        *restMinutes > 59) {
         return {};
     }
-    const std::chrono::minutes length = std::chrono::hours(number(hours)) + std::chrono::minutes(number(minutes));
+    const std::chrono::minutes length = std::chrono::hours(*wholeHours) + std::chrono::minutes(*restMinutes);
     return isWest ? -length : length;
 }
 
@@ -73,21 +60,16 @@ std::optional<std::chrono::minutes> offsetOf(std::string_view zone)
 
 std::optional<MetricsDate> dateFromString(std::string_view text)
 {
-    const std::string_view stamp = text.substr(0, pattern.size());
-    const bool isShaped = std::ranges::equal(
-        stamp, pattern, [](char given, char wanted) { return wanted == '0' ? isDigit(given) : given == wanted; });
-    if (!isShaped) {
+    constexpr std::size_t point = 19;
+    const auto read = parseDateAndTime(text.substr(0, point));
+    if (!read || text.size() == point || text[point] != '.') {
         return {};
     }
-    const auto part = [stamp](std::size_t from, std::size_t length) { return number(stamp.substr(from, length)); };
-    const std::chrono::year_month_day day{std::chrono::year(static_cast<int>(part(0, 4))),
-                                          std::chrono::month(part(5, 2)), std::chrono::day(part(8, 2))};
-    const auto offset = offsetOf(text.substr(pattern.size()));
-    if (!day.ok() || part(11, 2) > 23 || part(14, 2) > 59 || part(17, 2) > 59 || !offset) {
+    const auto offset = offsetOf(text.substr(point + 1));
+    if (!offset) {
         return {};
     }
-    return std::chrono::sys_days(day) + std::chrono::hours(part(11, 2)) + std::chrono::minutes(part(14, 2)) +
-           std::chrono::seconds(part(17, 2)) - *offset;
+    return std::chrono::sys_days(read->date) + std::chrono::duration_cast<std::chrono::seconds>(read->time) - *offset;
 }
 
 } // namespace lodestar
