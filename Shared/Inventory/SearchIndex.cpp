@@ -48,9 +48,7 @@ std::string foldedUnicode(std::string_view text)
     return result;
 }
 
-} // namespace
-
-std::string SearchIndex::folded(std::string_view text)
+std::string folded(std::string_view text)
 {
     if (!isASCII(text)) {
         return foldedUnicode(text);
@@ -60,16 +58,11 @@ std::string SearchIndex::folded(std::string_view text)
     return result;
 }
 
+} // namespace
+
 void SearchIndex::add(std::string_view name)
 {
-    if (isASCII(name)) {
-        const std::size_t start = m_names.size();
-        m_names.append(name);
-        std::transform(m_names.begin() + static_cast<std::ptrdiff_t>(start), m_names.end(),
-                       m_names.begin() + static_cast<std::ptrdiff_t>(start), lower);
-    } else {
-        m_names.append(folded(name));
-    }
+    m_names.append(folded(name));
     m_names.push_back('\0');
     m_ends.push_back(m_names.size());
 }

@@ -21,8 +21,6 @@ public:
     /// The rows whose name contains the text, in order. Every name contains the empty text.
     std::vector<std::uint32_t> rowsContaining(std::string_view text) const;
 
-    static std::string folded(std::string_view text);
-
 private:
     std::string m_names;             ///< each name ends with a NUL, which no name in a feed contains
     std::vector<std::size_t> m_ends; ///< for each row, the place after its NUL

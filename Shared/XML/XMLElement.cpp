@@ -40,18 +40,6 @@ std::string_view XMLElement::name() const
     return exists() ? m_document->nameText(m_document->name(m_index)) : std::string_view();
 }
 
-XMLElement XMLElement::child(std::string_view name) const
-{
-    XMLElement found;
-    if (exists()) {
-        forEachChild(*m_document, m_index, name, [&](XMLDocument::Index index) {
-            found = XMLElement(m_document, index);
-            return false;
-        });
-    }
-    return found;
-}
-
 std::vector<XMLElement> XMLElement::children(std::string_view name) const
 {
     std::vector<XMLElement> found;

@@ -44,7 +44,7 @@ public:
     /// The local name; empty for no element. Views live as long as the document.
     std::string_view name() const;
     /// The first child element of that name.
-    XMLElement child(std::string_view name) const;
+    XMLElement child(std::string_view name) const { return path({name}); }
     /// All child elements of that name, in document order.
     std::vector<XMLElement> children(std::string_view name) const;
     /// Equals `children(name).size()`, but makes no elements.
