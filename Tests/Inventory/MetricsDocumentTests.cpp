@@ -24,17 +24,17 @@ MetricsDocument parsed(const std::string& text)
 TEST(MetricsDocumentTest, ReadsWhatIsThereAndNothingElse)
 {
     const MetricsDocument document = parsed(
-        R"({"a":{"b":[{"c":[1.5,null]},7]},"text":"é\n","true":true,"null":null,"empty":[],"big":18446744073709551615,"minus":-3,"digits":"12"})");
+        "\xEF\xBB\xBF"
+        R"({"a":{"b":[{"c":[1.5,null]},7]},"text":"é\n","true":true,"null":null,"empty":[],"minus":-3,"digits":"12"})");
     const MetricsValue root = document.root();
-    EXPECT_EQ(root.path({"a", "b"}).first().member("c").first().number(), 1.5);
-    ASSERT_EQ(root.path({"a", "b"}).elements().size(), 2U);
-    EXPECT_EQ(root.path({"a", "b"}).elements()[1].number(), 7);
-    EXPECT_TRUE(root.path({"a", "b"}).first().member("c").elements().at(1).isNull());
+    const auto list = root.path({"a", "b"}).elements();
+    ASSERT_EQ(list.size(), 2U);
+    EXPECT_EQ(list[0].member("c").first().number(), 1.5);
+    EXPECT_TRUE(list[0].member("c").elements().at(1).isNull());
+    EXPECT_EQ(list[1].number(), 7);
     EXPECT_EQ(root.member("text").text(), "é\n");
     EXPECT_EQ(root.member("minus").number(), -3);
-    EXPECT_EQ(root.member("big").number(), 18446744073709551615.0);
-    EXPECT_TRUE(root.member("null").exists());
-    EXPECT_TRUE(root.member("null").isNull());
+    EXPECT_TRUE(root.member("null").exists() && root.member("null").isNull());
     for (const MetricsValue& none :
          {MetricsValue(), root.member("nothing"), root.path({"text", "a"}), root.first(), root.member("empty").first(),
           root.path({"null", "a"}), root.path({"true", "a"})}) {
@@ -42,32 +42,26 @@ TEST(MetricsDocumentTest, ReadsWhatIsThereAndNothingElse)
         EXPECT_TRUE(none.elements().empty() && !none.first().exists() && !none.path({"a", "b"}).exists());
     }
     EXPECT_FALSE(root.member("digits").number() || root.member("true").number() || root.member("null").number());
-    EXPECT_FALSE(root.member("minus").text());
-    EXPECT_TRUE(root.member("a").elements().empty());
-    const MetricsDocument empty;
-    EXPECT_FALSE(empty.root().exists());
-    const MetricsDocument marked = parsed("\xEF\xBB\xBF{\"a\":1}");
-    EXPECT_EQ(marked.root().member("a").number(), 1.0);
+    EXPECT_TRUE(!root.member("minus").text() && root.member("a").elements().empty());
 }
+
 TEST(MetricsDocumentTest, RefusesWhatIsNoDocument)
 {
-    const std::string texts[] = {
-        "",
-        " ",
-        "null",
-        "7",
-        R"("text")",
-        "<feed/>",
-        "{",
-        R"({"a":1)",
-        R"({"a":01})",
-        R"({"a":1-2})",
-        "{\"a\":\"\xFF\"}",
-        R"({"a":NaN})",
-        R"({"a":123456789012345678901234567890)",
-        std::string(5000, '['),
-        "[" + std::string(MetricsDocument::largest, ' ') + "]",
-    };
+    const std::string texts[] = {"",
+                                 " ",
+                                 "null",
+                                 "7",
+                                 R"("text")",
+                                 "<feed/>",
+                                 "{",
+                                 R"({"a":1)",
+                                 R"({"a":01})",
+                                 R"({"a":1-2})",
+                                 "{\"a\":\"\xFF\"}",
+                                 R"({"a":NaN})",
+                                 R"({"a":123456789012345678901234567890)",
+                                 std::string(5000, '['),
+                                 "[" + std::string(MetricsDocument::largest, ' ') + "]"};
     for (const std::string& text : texts) {
         const auto document = MetricsDocument::parse(text);
         ASSERT_FALSE(document.ok()) << text.substr(0, 60);
@@ -83,14 +77,13 @@ TEST(MetricsDocumentTest, NumberThatIsTooLargeCostsOnlyItself)
         R"({"t\"1e999":"1e999 \\","a":[123456789012345678901234567890,-98765432109876543210,1e999,-1E+400,1e-999,)" +
         std::string(400, '9') + ",5]}");
     const auto values = document.root().member("a").elements();
-    ASSERT_EQ(values.size(), 7U);
-    EXPECT_EQ(values[0].number(), 123456789012345678901234567890.0);
-    EXPECT_EQ(values[1].number(), -98765432109876543210.0);
-    EXPECT_EQ(values[2].number(), std::nullopt);
-    EXPECT_EQ(values[3].number(), std::nullopt);
-    EXPECT_EQ(values[4].number(), 0.0);
-    EXPECT_EQ(values[5].number(), std::nullopt);
-    EXPECT_EQ(values[6].number(), 5.0);
+    std::vector<std::optional<double>> numbers;
+    for (const MetricsValue& value : values) {
+        numbers.push_back(value.number());
+    }
+    constexpr auto none = std::nullopt;
+    EXPECT_THAT(numbers, testing::ElementsAre(123456789012345678901234567890.0, -98765432109876543210.0, none, none,
+                                              0.0, none, 5.0));
     EXPECT_EQ(document.root().member("t\"1e999").text(), "1e999 \\");
 }
 

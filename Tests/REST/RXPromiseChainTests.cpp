@@ -72,21 +72,6 @@ TEST_F(RXPromiseChainTests, WhatAHandlerReturnsIsTheOutcome)
 
 TEST_F(RXPromiseChainTests, AFailureHandlerTurnsARejectionIntoAnOutcome)
 {
-    const auto text =
-        rejected("why").then([](int) { return std::string(); }, [](const Error& e) { return "NA " + e.failureReason; });
-    EXPECT_EQ(outcome(text).value(), "NA why");
-    const auto nothing = rejected("why").then([](int) {}, [](const Error&) {});
-    EXPECT_TRUE(outcome(nothing).ok());
-    RXPromise<std::optional<int>> source;
-    source.rejectWithReason("why");
-    EXPECT_EQ(outcome(source.then(nullptr, [](const Error&) {})).value(), std::nullopt);
-    EXPECT_EQ(outcome(rejected("why").then(nullptr, [](const Error&) { return fulfilled(3); })).value(), 3);
-    EXPECT_EQ(outcome(rejected("why").then(nullptr, [](const Error&) { return error("other"); })).error(),
-              error("other"));
-}
-
-TEST_F(RXPromiseChainTests, WithNoMatchingHandlerTheResultPassesOnUnchanged)
-{
     int successes = 0;
     const auto end = rejected("root")
                          .thenOnMain([&](int v) { return ++successes + v; })
@@ -96,13 +81,20 @@ TEST_F(RXPromiseChainTests, WithNoMatchingHandlerTheResultPassesOnUnchanged)
                          .thenOnMain([](const std::string& s) { return s + "!"; });
     EXPECT_EQ(outcome(end).value(), "recovered from root!");
     EXPECT_EQ(successes, 0);
-
+    EXPECT_TRUE(outcome(rejected("why").then([](int) {}, [](const Error&) {})).ok());
+    RXPromise<std::optional<int>> source;
+    source.rejectWithReason("why");
+    EXPECT_EQ(outcome(source.then(nullptr, [](const Error&) {})).value(), std::nullopt);
+    EXPECT_EQ(outcome(rejected("why").then(nullptr, [](const Error&) { return fulfilled(3); })).value(), 3);
+    EXPECT_EQ(outcome(rejected("why").then(nullptr, [](const Error&) { return error("other"); })).error(),
+              error("other"));
     EXPECT_EQ(outcome(fulfilled(4).then(nullptr, [](const Error&) { return 0; })).value(), 4);
-    const RXPromise<int> source;
-    const auto passed = source.then([](int) { return 1; }).then(nullptr);
-    source.rejectWithReason(error("kept"));
-    EXPECT_EQ(outcome(passed).error(), error("kept"));
+    const RXPromise<int> unmatched;
+    const auto passed = unmatched.then([](int) { return 1; }).then(nullptr);
+    unmatched.rejectWithReason(error("kept"));
+    EXPECT_EQ(outcome(passed).error(), error("kept")) << "an error of one's own passes on unchanged";
 }
+
 TEST_F(RXPromiseChainTests, AReturnedPromiseIsWaitedFor)
 {
     for (const bool settleFirst : {true, false}) {
@@ -143,29 +135,22 @@ TEST_F(RXPromiseChainTests, CancellationReachesWhatIsDerived)
     const auto worded =
         source.thenOnMain([](int) { return std::string(); }, [](const Error&) { return std::string("because"); });
     const auto failing = source.thenOnMain(nullptr, [](const Error&) { return error("e"); });
-    const auto failingLater = source.thenOnMain(nullptr, [](const Error&) { return rejected("later"); });
     source.cancel();
     EXPECT_EQ(reason(second), "cancelled");
     EXPECT_EQ(reason(recovering), "") << "a value is no reason";
     EXPECT_EQ(reason(worded), "because");
     EXPECT_EQ(outcome(failing).error(), error("e"));
-    EXPECT_EQ(reason(failingLater), "");
     EXPECT_TRUE(unhandled.isCancelled() && second.isCancelled() && recovering.isCancelled() && worded.isCancelled() &&
-                failing.isCancelled() && failingLater.isCancelled());
+                failing.isCancelled());
     EXPECT_EQ(successes, 0);
 
     const RXPromise<int> parent;
-    bool ran = false;
-    const auto early = parent.thenOnMain([&](int v) {
-        ran = true;
-        return v;
-    });
-    const auto next = early.thenOnMain([](int v) { return v; });
+    int ran = 0;
+    const auto early = parent.thenOnMain([&](int v) { return ran = v; });
     early.cancel();
-    EXPECT_EQ(reason(next), "cancelled");
     parent.fulfillWithValue(1);
     MainQueue::shared().drain();
-    EXPECT_TRUE(ran) << "the registering handler still runs";
+    EXPECT_EQ(ran, 1) << "the registering handler still runs";
     EXPECT_TRUE(early.isCancelled());
 }
 
@@ -173,29 +158,22 @@ TEST_F(RXPromiseChainTests, AllKeepsTheOrderOfTheInputs)
 {
     EXPECT_TRUE(RXPromise<int>::all({}).result()->value().empty());
     std::vector<RXPromise<std::optional<int>>> inputs(100);
-    const auto settle = [&](std::size_t i) {
-        inputs[i].fulfillWithValue(i % 10 == 0 ? std::nullopt : std::optional(static_cast<int>(i)));
-    };
-    settle(99);
     const auto all = RXPromise<std::optional<int>>::all(inputs);
-    std::thread other([&] {
-        for (std::size_t i = 98; i >= 50; --i) {
-            settle(i);
+    const auto settle = [&](int from, int step) {
+        for (int i = from; i >= 0 && i < 100; i += step) {
+            inputs[static_cast<std::size_t>(i)].fulfillWithValue(i % 10 == 0 ? std::nullopt : std::optional(i));
         }
-    });
-    for (std::size_t i = 0; i < 49; ++i) {
-        settle(i);
-    }
+    };
+    std::thread other([&] { settle(99, -2); });
+    settle(2, 2);
     other.join();
     EXPECT_TRUE(all.isPending());
-    settle(49);
+    settle(0, 100);
     const auto values = outcome(all).value();
     ASSERT_EQ(values.size(), inputs.size());
-    for (std::size_t i = 0; i < values.size(); ++i) {
-        EXPECT_EQ(values[i], i % 10 == 0 ? std::nullopt : std::optional(static_cast<int>(i)));
+    for (int i = 0; i < 100; ++i) {
+        EXPECT_EQ(values[static_cast<std::size_t>(i)], i % 10 == 0 ? std::nullopt : std::optional(i));
     }
-    const auto same = RXPromise<int>::all({fulfilled(1), fulfilled(2), fulfilled(1)});
-    EXPECT_EQ(outcome(same).value(), (std::vector{1, 2, 1}));
 }
 
 TEST_F(RXPromiseChainTests, AllRejectsWithTheFirstRejectionAndKeepsNothing)
@@ -213,8 +191,6 @@ TEST_F(RXPromiseChainTests, AllRejectsWithTheFirstRejectionAndKeepsNothing)
     const auto withCancelled = RXPromise<int>::all({fulfilled(1), cancelled()});
     EXPECT_EQ(reason(withCancelled), "cancelled");
     EXPECT_TRUE(withCancelled.isRejected());
-    const auto orphaned = RXPromise<int>::all({fulfilled(1), RXPromise<int>()});
-    EXPECT_TRUE(orphaned.isPending());
 }
 } // namespace
 } // namespace lodestar

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <map>
 #include <memory>
 #include <set>
 
@@ -77,9 +78,8 @@ std::size_t appendTree(const xmlNode& element, std::vector<std::string>& lines, 
 }
 
 /// Through the arena for what only it can list, the names of attributes, and through the element for every answer.
-void appendElement(const XMLDocument& document, XMLDocument::Index& index, const XMLElement& element, std::string& out)
+void appendElement(const XMLDocument& document, XMLDocument::Index own, const XMLElement& element, std::string& out)
 {
-    const XMLDocument::Index own = index++;
     const XMLDocument::Index end = document.end(own);
     std::string attributes;
     std::set<std::string_view> seen;
@@ -92,28 +92,24 @@ void appendElement(const XMLDocument& document, XMLDocument::Index& index, const
     out += std::to_string(end - own) + " " + field(element.name()) + attributes + " " +
            field(element.text().value_or("(no text)")) + "\n";
 
-    std::set<std::string_view> names;
-    std::vector<std::pair<std::string_view, std::size_t>> order;
+    struct Namesakes {
+        std::vector<XMLElement> elements;
+        std::size_t next = 0;
+    };
+    std::map<std::string_view, Namesakes> children;
     for (XMLDocument::Index child = own + 1; child < end; child = document.end(child)) {
         const std::string_view name = document.nameText(document.name(child));
-        const auto same = [&](const auto& entry) { return entry.first == name; };
-        order.emplace_back(name, static_cast<std::size_t>(std::count_if(order.begin(), order.end(), same)));
-        names.insert(name);
-    }
-    std::vector<std::pair<std::string_view, std::vector<XMLElement>>> byName;
-    byName.reserve(names.size());
-    for (const std::string_view name : names) {
-        byName.emplace_back(name, element.children(name));
-        if (byName.back().second.size() != element.childCount(name) ||
-            !(byName.back().second.front() == element.child(name))) {
-            out += "(child, children and childCount disagree)\n";
+        const auto [entry, isNew] = children.try_emplace(name);
+        auto& [elements, next] = entry->second;
+        if (isNew) {
+            elements = element.children(name);
+            if (elements.empty() || elements.size() != element.childCount(name) ||
+                !(elements.front() == element.child(name))) {
+                out += "(child, children and childCount disagree)\n";
+            }
         }
-    }
-    for (const auto& one : order) {
-        const auto found =
-            std::find_if(byName.begin(), byName.end(), [&](const auto& e) { return e.first == one.first; });
-        appendElement(document, index, one.second < found->second.size() ? found->second[one.second] : XMLElement(),
-                      out);
+        appendElement(document, child, next < elements.size() ? elements[next] : XMLElement(), out);
+        ++next;
     }
 }
 
@@ -210,8 +206,7 @@ std::string readArena(std::string_view bytes)
     const Result<std::shared_ptr<const XMLDocument>> document =
         XMLDocumentBuilder::parse(std::string(bytes).c_str(), bytes.size());
     std::string all;
-    XMLDocument::Index index = 0;
-    appendElement(*document.value(), index, root.value(), all);
+    appendElement(*document.value(), 0, root.value(), all);
     return all;
 }
 

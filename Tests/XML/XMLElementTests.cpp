@@ -43,16 +43,10 @@ TEST(XMLElementTests, ReadsChildrenTextAndAttributesByLocalName)
     EXPECT_EQ(root.text(), "abde&<g>");
     EXPECT_EQ(root.attribute("n"), "1&2<A");
     EXPECT_FALSE(root.attribute("m").has_value());
-}
-
-TEST(XMLElementTests, NoElementAnswersNothing)
-{
     for (const char* bytes : {"", "   ", "not xml", "{\"json\": 1}"}) {
-        const XMLElement root = parsed(bytes);
-        EXPECT_FALSE(root.exists()) << bytes;
-        EXPECT_FALSE(root.child("entry").child("content").text().has_value());
-        EXPECT_TRUE(root.children("entry").empty());
-        EXPECT_FALSE(root.attribute("href").has_value());
+        const XMLElement none = parsed(bytes);
+        EXPECT_FALSE(none || none.child("entry").path({"content"}).text() || none.attribute("href")) << bytes;
+        EXPECT_TRUE(none.children("entry").empty());
     }
 }
 
