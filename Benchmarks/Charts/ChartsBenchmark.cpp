@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Benchmarks/Program.h"
-#include "Charts/LineChartView.h"
+#include "Charts/PlotChartView.h"
 #include "Charts/PlotRenderer.h"
 
 #include <QApplication>
@@ -88,7 +88,7 @@ public:
             for (int i = 0; i < count; ++i) {
                 line.entries << ChartEntry{sample(series, i, count), i};
             }
-            m_data.dataSets << line;
+            m_data.lineDataSets << line;
         }
         YAxis axis;
         axis.startAtZeroEnabled = false;
@@ -117,8 +117,8 @@ public:
     const QImage& image() const { return m_image; }
 
 private:
-    LineChartData m_data;
-    LineChartView m_view;
+    PlotChartData m_data;
+    PlotChartView m_view;
     PlotRenderer m_renderer{m_view.model()};
     QImage m_image = emptyImage();
 };

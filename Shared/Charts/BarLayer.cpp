@@ -11,6 +11,7 @@ namespace
 {
 
 constexpr double groupShare = 0.8; // Share of an x index's place that its bars take together.
+constexpr double barSpace = 0.2;   // Share of a bar's place that stays empty.
 
 /// The entries whose bars are in view.
 std::pair<qsizetype, qsizetype> rangeInView(const PlotSeries& series, const PlotInterval& x)
@@ -20,22 +21,10 @@ std::pair<qsizetype, qsizetype> rangeInView(const PlotSeries& series, const Plot
 
 } // namespace
 
-BarLayer::BarLayer(const QList<BarChartDataSet>& dataSets) : m_dataSets(dataSets)
-{
-    for (const BarChartDataSet& dataSet : dataSets) {
-        m_series.emplace_back(dataSet.entries);
-    }
-}
-
-const PlotSeries& BarLayer::series(qsizetype position) const
-{
-    return m_series.at(static_cast<std::size_t>(position));
-}
-
 QRectF BarLayer::barOf(qsizetype position, const ChartEntry& entry, const PlotTransform& transform) const
 {
-    const double place = groupShare / static_cast<double>(m_dataSets.size());
-    const double gap = place * std::clamp(m_dataSets.at(position).barSpace, 0.0, 0.9);
+    const double place = groupShare / static_cast<double>(dataSetCount());
+    const double gap = place * barSpace;
     const double start = entry.xIndex - groupShare / 2 + place * static_cast<double>(position) + gap / 2;
     const QPointF base(transform.toX(start), transform.toY(0));
     const QPointF end(transform.toX(start + place - gap), transform.toY(entry.value));
@@ -46,14 +35,13 @@ void BarLayer::draw(QPainter& painter, const PlotCanvas& canvas) const
 {
     painter.setPen(Qt::NoPen);
     const double grown = std::clamp(canvas.phases.x, 0.0, 1.0) * std::max(canvas.phases.y, 0.0);
-    for (qsizetype i = 0; i < m_dataSets.size(); ++i) {
-        const BarChartDataSet& dataSet = m_dataSets.at(i);
+    for (qsizetype i = 0; i < dataSetCount(); ++i) {
         const PlotSeries& entries = series(i);
         const auto [first, last] = rangeInView(entries, canvas.transform.visible.x);
         for (qsizetype e = first; e < last; ++e) {
             ChartEntry entry = entries.at(e);
             entry.value *= static_cast<float>(grown);
-            painter.fillRect(barOf(i, entry, canvas.transform), canvas.colorOf(dataSet, i));
+            painter.fillRect(barOf(i, entry, canvas.transform), canvas.colorOf(dataSet(i), i));
         }
     }
 }

@@ -19,9 +19,8 @@ struct LimitLine {
     bool operator==(const LimitLine&) const = default;
 };
 
-/// Where the labels of the x axis stand. Screens name a position by its number, so the order is fixed.
-enum class XAxisLabelPosition : int { Top, Bottom, BothSided, TopInside, BottomInside };
-static_assert(static_cast<int>(XAxisLabelPosition::Bottom) == 1);
+/// Where the labels of the x axis stand. Screens name a position by its number.
+enum class XAxisLabelPosition : int { Top = 0, Bottom = 1 };
 
 /// The settings that both kinds of axis have.
 struct ChartAxis {

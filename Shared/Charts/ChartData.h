@@ -45,8 +45,6 @@ struct ChartDataSet {
 
     /// The colour at a position; mid grey when the list is empty.
     QColor colorAt(qsizetype position) const;
-
-    bool operator==(const ChartDataSet&) const = default;
 };
 
 /// The one data set of a pie. A value that is negative or not finite counts as 0; a value of 0 has no slice.
@@ -55,8 +53,6 @@ struct PieChartDataSet : ChartDataSet {
     static double chartedValue(const ChartEntry& entry);
     /// Sum of the charted values.
     double total() const;
-
-    bool operator==(const PieChartDataSet&) const = default;
 };
 
 /// A pie's labels and its data set.
@@ -70,8 +66,6 @@ struct PieChartData {
 
     /// An entry's label; empty when its index points outside the labels.
     QString labelOf(const ChartEntry& entry) const { return xVals.value(entry.xIndex); }
-
-    bool operator==(const PieChartData&) const = default;
 };
 
 /// One line. Entries whose value is not finite are left out; the line joins their neighbours. Entries may be in any
@@ -82,43 +76,19 @@ struct LineChartDataSet : ChartDataSet {
     double lineWidth = 1;    ///< In points, as is the circle's radius.
     double circleRadius = 4; ///< Radius of the circle at every entry; 0 for no circles.
     bool drawCircleHoleEnabled = true;
-
-    bool operator==(const LineChartDataSet&) const = default;
-};
-
-/// The labels and the lines. Label i belongs to x index i; an entry whose index is beyond the labels is charted without
-/// a label.
-struct LineChartData {
-    QStringList xVals;
-    QList<LineChartDataSet> dataSets;
-
-    bool operator==(const LineChartData&) const = default;
 };
 
 /// The bars of one colour. An entry whose value is not finite has no bar.
 struct BarChartDataSet : ChartDataSet {
     BarChartDataSet() { valueFormatter.maximumFractionDigits = 2; }
-
-    double barSpace = 0.2; ///< Share of a bar's place that stays empty, 0 to 0.9.
-
-    bool operator==(const BarChartDataSet&) const = default;
 };
 
-/// The labels and the bars; bars of several data sets stand side by side at their x index.
-struct BarChartData {
-    QStringList xVals;
-    QList<BarChartDataSet> dataSets;
-
-    bool operator==(const BarChartData&) const = default;
-};
-
-/// Bars with lines in front of them; both use the same labels.
-struct CombinedChartData {
+/// What a chart with axes shows: bars, lines, or bars with lines in front of them. Label i belongs to x index i; an
+/// entry whose index is beyond the labels is charted without a label. Bars of several data sets stand side by side.
+struct PlotChartData {
     QStringList xVals;
     QList<BarChartDataSet> barDataSets;
     QList<LineChartDataSet> lineDataSets;
-
-    bool operator==(const CombinedChartData&) const = default;
 };
 
 } // namespace lodestar

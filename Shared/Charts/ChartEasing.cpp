@@ -15,7 +15,7 @@ namespace
 QEasingCurve::Type curveType(ChartEasingOption option)
 {
     const int number = static_cast<int>(option);
-    if (number < 1 || number > static_cast<int>(ChartEasingOption::EaseInOutBounce)) {
+    if (number < 1 || number > static_cast<int>(ChartEasingOption::Last)) {
         return QEasingCurve::Linear;
     }
     const int family = (number - 1) / 3;

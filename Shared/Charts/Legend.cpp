@@ -15,29 +15,22 @@ namespace
 constexpr double sideMargin = 20;
 constexpr double fontSize = 12;
 constexpr double lineHeight = 16;
+constexpr double formSize = 9; // Side of a square, diameter of a circle.
+constexpr double lineLength = 16;
 constexpr double formGap = 6;
 constexpr double xEntryStep = 20;
 constexpr double yEntryStep = 5;
 constexpr double largestShare = 0.45;
 
-enum class Side { Right, Left, Below, Above };
-enum class Place { Start, Center, End };
-
-Side sideOf(const Legend& legend)
+bool isAbove(const Legend& legend)
 {
-    const int number = std::clamp(static_cast<int>(legend.position), 0, 11);
-    return static_cast<Side>(number / 3);
+    return legend.position >= LegendPosition::AboveChartLeft;
 }
 
-Place placeOf(const Legend& legend)
+/// Share of a line's free room that stays before its entries.
+double shareBefore(const Legend& legend)
 {
-    const int number = std::clamp(static_cast<int>(legend.position), 0, 11);
-    return static_cast<Place>(number % 3);
-}
-
-bool isHorizontal(Side side)
-{
-    return side == Side::Below || side == Side::Above;
+    return static_cast<int>(legend.position) % 3 / 2.0;
 }
 
 QFont legendFont(const ChartStyle& style)
@@ -52,14 +45,13 @@ class Flow
 {
 public:
     Flow(const Legend& legend, QSizeF chart, const ChartStyle& style)
-        : m_metrics(legendFont(style)), m_scale(style.textScale), m_horizontal(isHorizontal(sideOf(legend)))
+        : m_metrics(legendFont(style)), m_scale(style.textScale)
     {
-        const bool line = legend.form == LegendForm::Line;
-        m_form = QSizeF(line ? 2 * legend.formSize - 2 : legend.formSize, legend.formSize) * formScale();
+        m_form = QSizeF(legend.form == LegendForm::Line ? lineLength : formSize, formSize) * formScale();
         m_entryGap = legend.xEntrySpace * xEntryStep * m_scale;
         m_pitch = lineHeight * m_scale + legend.yEntrySpace * yEntryStep * m_scale;
-        m_width = (m_horizontal ? chart.width() : chart.width() * largestShare) - 2 * sideMargin;
-        const double height = (m_horizontal ? largestShare : 1.0) * chart.height() - legend.yOffset;
+        m_width = chart.width() - 2 * sideMargin;
+        const double height = largestShare * chart.height() - legend.yOffset;
         m_lines = std::max(1, static_cast<int>(std::floor((height + m_pitch - lineHeight * m_scale) / m_pitch)));
     }
 
@@ -92,14 +84,6 @@ public:
         double width = 0;
         for (const Box& box : m_boxes) {
             width = box.line == line ? std::max(width, box.x + box.width) : width;
-        }
-        return width;
-    }
-    double columnWidth() const
-    {
-        double width = 0;
-        for (const Box& box : m_boxes) {
-            width = std::max(width, box.x + box.width);
         }
         return width;
     }
@@ -136,7 +120,7 @@ private:
             const Box& last = m_boxes.back();
             box.line = last.line;
             box.x = last.x + last.width + m_entryGap;
-            if (!m_horizontal || box.x + box.width > m_width) {
+            if (box.x + box.width > m_width) {
                 ++box.line;
                 box.x = 0;
             }
@@ -150,7 +134,6 @@ private:
 
     QFontMetricsF m_metrics;
     double m_scale;
-    bool m_horizontal;
     QSizeF m_form;
     double m_entryGap = 0;
     double m_pitch = 0;
@@ -158,36 +141,6 @@ private:
     int m_lines = 0;
     std::vector<Box> m_boxes;
 };
-
-double shareBefore(Place place)
-{
-    return place == Place::Start ? 0.0 : place == Place::Center ? 0.5 : 1.0;
-}
-
-/// The flow's origin and its bounds in a left-to-right chart.
-struct Frame {
-    QPointF origin;
-    QRectF bounds;
-};
-
-Frame frameOf(const Legend& legend, const Flow& flow, QSizeF chart)
-{
-    const double outer = flow.height() + legend.yOffset;
-    switch (sideOf(legend)) {
-    case Side::Above:
-        return {{sideMargin, legend.yOffset}, {0, 0, chart.width(), outer}};
-    case Side::Below:
-        return {{sideMargin, chart.height() - outer}, {0, chart.height() - outer, chart.width(), outer}};
-    case Side::Left:
-    case Side::Right:
-        break;
-    }
-    const double width = flow.columnWidth() + sideMargin;
-    const double start = sideOf(legend) == Side::Left ? 0 : chart.width() - width;
-    const double top =
-        legend.yOffset + (chart.height() - legend.yOffset - flow.height()) * shareBefore(placeOf(legend));
-    return {{sideOf(legend) == Side::Left ? sideMargin : start, top}, {start, 0, width, chart.height()}};
-}
 
 QRectF mirrored(const QRectF& rect, double width)
 {
@@ -205,18 +158,17 @@ LegendLayout layoutLegend(const Legend& legend, std::span<const LegendItem> item
     }
     Flow flow(legend, chart, style);
     flow.place(items);
-    const Frame frame = frameOf(legend, flow, chart);
-    const bool rightToLeft = style.direction == Qt::RightToLeft;
-    const bool aligned = isHorizontal(sideOf(legend));
-    layout.bounds = rightToLeft ? mirrored(frame.bounds, chart.width()) : frame.bounds;
+    const double outer = flow.height() + legend.yOffset;
+    layout.bounds = {0, isAbove(legend) ? 0 : chart.height() - outer, chart.width(), outer};
+    const double top = isAbove(legend) ? legend.yOffset : layout.bounds.top();
     for (const Flow::Box& box : flow.boxes()) {
-        const double slack = aligned ? (flow.available() - flow.lineWidth(box.line)) * shareBefore(placeOf(legend)) : 0;
-        const double x = frame.origin.x() + slack + box.x;
-        const double center = frame.origin.y() + flow.lineCenter(box.line);
+        const double slack = (flow.available() - flow.lineWidth(box.line)) * shareBefore(legend);
+        const double x = sideMargin + slack + box.x;
+        const double center = top + flow.lineCenter(box.line);
         const double textStart = box.hasForm ? flow.textStart() : 0;
         QRectF form(x, center - flow.form().height() / 2, box.hasForm ? flow.form().width() : 0, flow.form().height());
         QRectF text(x + textStart, 0, box.width - textStart, 0);
-        if (rightToLeft) {
+        if (style.direction == Qt::RightToLeft) {
             form = mirrored(form, chart.width());
             text = mirrored(text, chart.width());
         }
@@ -226,28 +178,16 @@ LegendLayout layoutLegend(const Legend& legend, std::span<const LegendItem> item
     return layout;
 }
 
-QRectF contentBeside(const Legend& legend, const LegendLayout& layout, QSizeF chart, const ChartStyle& style)
+QRectF contentBeside(const Legend& legend, const LegendLayout& layout, QSizeF chart)
 {
     QRectF content(QPointF(0, 0), chart);
     if (layout.bounds.isEmpty()) {
         return content;
     }
-    const bool rightToLeft = style.direction == Qt::RightToLeft;
-    switch (sideOf(legend)) {
-    case Side::Above:
+    if (isAbove(legend)) {
         content.setTop(layout.bounds.bottom());
-        break;
-    case Side::Below:
+    } else {
         content.setBottom(layout.bounds.top());
-        break;
-    case Side::Left:
-    case Side::Right:
-        if ((sideOf(legend) == Side::Left) != rightToLeft) {
-            content.setLeft(layout.bounds.right());
-        } else {
-            content.setRight(layout.bounds.left());
-        }
-        break;
     }
     return content;
 }

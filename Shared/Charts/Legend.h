@@ -17,16 +17,10 @@ class QPainter;
 namespace lodestar
 {
 
-/// Where the legend stands. Screens name a position by its number: the side of the chart (right, left, below, above)
-/// times three plus the place along that side.
+/// Where the legend stands: below or above the chart, and at which end of its line. Screens name a position by its
+/// number.
 enum class LegendPosition : int {
-    RightOfChartTop,
-    RightOfChartCenter,
-    RightOfChartBottom,
-    LeftOfChartTop,
-    LeftOfChartCenter,
-    LeftOfChartBottom,
-    BelowChartLeft,
+    BelowChartLeft = 6,
     BelowChartCenter,
     BelowChartRight,
     AboveChartLeft,
@@ -43,7 +37,6 @@ struct Legend {
     bool enabled = true;
     LegendPosition position = LegendPosition::BelowChartLeft;
     LegendForm form = LegendForm::Square;
-    double formSize = 9;    ///< Side of a square or diameter of a circle; a line is 2 points shorter than twice this.
     double xEntrySpace = 1; ///< Gap between the entries of a line, in steps of 20 points.
     double yEntrySpace = 1; ///< Gap between lines, in steps of 5 points.
     double yOffset = 0;     ///< Gap to the chart's edge; the text size does not scale it.
@@ -67,19 +60,19 @@ struct LegendBox {
 };
 
 /// A legend after layout. `bounds` runs from the chart's edge to the inner end of the legend and spans the chart's
-/// whole width (legend above or below) or height (at a side); it is empty when there is nothing to show.
+/// whole width; it is empty when there is nothing to show.
 struct LegendLayout {
     std::vector<LegendBox> boxes;
     QRectF bounds;
 };
 
 /// Lays a legend out within a chart of the given size. The legend takes at most 45 % of the chart; names too long for
-/// their line are elided in the middle. A right-to-left style mirrors the whole layout, sides included.
+/// their line are elided in the middle. A right-to-left style mirrors the whole layout.
 LegendLayout layoutLegend(const Legend& legend, std::span<const LegendItem> items, QSizeF chart,
                           const ChartStyle& style);
 
 /// The part of the chart that the legend leaves free.
-QRectF contentBeside(const Legend& legend, const LegendLayout& layout, QSizeF chart, const ChartStyle& style);
+QRectF contentBeside(const Legend& legend, const LegendLayout& layout, QSizeF chart);
 
 void drawLegend(QPainter& painter, const Legend& legend, const LegendLayout& layout, const ChartStyle& style);
 

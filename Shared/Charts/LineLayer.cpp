@@ -142,9 +142,7 @@ public:
 
     void draw(QPainter& painter) const
     {
-        if (!m_columns.empty()) {
-            LineMask(m_columns, m_color, m_canvas.pixelRatio).draw(painter);
-        }
+        drawLineMask(painter, m_columns, m_color, m_canvas.pixelRatio);
         if (m_isSingle) {
             painter.setPen(Qt::NoPen);
             painter.setBrush(m_color);
@@ -203,32 +201,11 @@ private:
 
 } // namespace
 
-LineLayer::LineLayer(const QList<LineChartDataSet>& dataSets)
-{
-    m_lines.reserve(static_cast<std::size_t>(dataSets.size()));
-    for (const LineChartDataSet& dataSet : dataSets) {
-        Line line;
-        line.dataSet = dataSet;
-        line.series = PlotSeries(dataSet.entries);
-        m_lines.push_back(std::move(line));
-    }
-}
-
-const ChartDataSet& LineLayer::dataSet(qsizetype position) const
-{
-    return m_lines.at(static_cast<std::size_t>(position)).dataSet;
-}
-
-const PlotSeries& LineLayer::series(qsizetype position) const
-{
-    return m_lines.at(static_cast<std::size_t>(position)).series;
-}
-
 void LineLayer::update(const PlotCanvas& canvas) const
 {
     QList<QColor> colors;
-    for (const Line& line : m_lines) {
-        colors << canvas.colorOf(line.dataSet, colors.size());
+    while (colors.size() < dataSetCount()) {
+        colors << canvas.colorOf(dataSet(colors.size()), colors.size());
     }
     const QColor& cardColor = canvas.style.cardColor;
     if (m_picture.transform == canvas.transform && m_picture.pixelRatio == canvas.pixelRatio &&
@@ -247,10 +224,9 @@ void LineLayer::update(const PlotCanvas& canvas) const
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate(-pixels.topLeft());
     painter.scale(ratio, ratio);
-    for (std::size_t i = 0; i < m_lines.size(); ++i) {
-        const Line& line = m_lines[i];
-        if (!line.series.isEmpty()) {
-            LineDrawing(line.dataSet, line.series, canvas, colors.at(static_cast<qsizetype>(i))).draw(painter);
+    for (qsizetype i = 0; i < dataSetCount(); ++i) {
+        if (!series(i).isEmpty()) {
+            LineDrawing(part(i).dataSet, series(i), canvas, colors.at(i)).draw(painter);
         }
     }
 }

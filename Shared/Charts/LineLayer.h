@@ -5,8 +5,6 @@
 
 #include <QImage>
 
-#include <vector>
-
 namespace lodestar
 {
 
@@ -14,22 +12,14 @@ namespace lodestar
 /// greatest value of every column: the eye cannot tell that from the line itself, and the drawing takes the same time
 /// for any number of entries. Any other line is drawn point by point. The layer keeps a picture of the lines until they
 /// would look different, so that growing in, selecting and limit lines redraw none of them.
-class LineLayer : public PlotLayer
+class LineLayer : public SeriesLayer<LineChartDataSet>
 {
 public:
-    explicit LineLayer(const QList<LineChartDataSet>& dataSets);
+    using SeriesLayer::SeriesLayer;
 
-    qsizetype dataSetCount() const override { return static_cast<qsizetype>(m_lines.size()); }
-    const ChartDataSet& dataSet(qsizetype position) const override;
-    const PlotSeries& series(qsizetype position) const override;
     void draw(QPainter& painter, const PlotCanvas& canvas) const override;
 
 private:
-    struct Line {
-        LineChartDataSet dataSet;
-        PlotSeries series;
-    };
-
     /// The lines as last drawn, with everything that their look depends on.
     struct Picture {
         PlotTransform transform;
@@ -42,7 +32,6 @@ private:
 
     void update(const PlotCanvas& canvas) const;
 
-    std::vector<Line> m_lines;
     mutable Picture m_picture;
 };
 

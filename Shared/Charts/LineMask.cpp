@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Charts/LineMask.h"
 
+#include <QImage>
 #include <QPainter>
 
 #include <algorithm>
@@ -63,7 +64,7 @@ private:
 
 } // namespace
 
-LineMask::LineMask(std::span<const QRectF> columns, const QColor& color, double pixelRatio) : m_pixelRatio(pixelRatio)
+void drawLineMask(QPainter& painter, std::span<const QRectF> columns, const QColor& color, double pixelRatio)
 {
     QRectF bounds;
     for (const QRectF& column : columns) {
@@ -73,24 +74,16 @@ LineMask::LineMask(std::span<const QRectF> columns, const QColor& color, double 
     if (columns.empty() || area.isEmpty()) {
         return;
     }
-    m_image = QImage(area.size(), QImage::Format_ARGB32_Premultiplied);
-    m_image.fill(Qt::transparent);
-    m_position = area.topLeft();
-    Filler filler(m_image, color);
+    QImage image(area.size(), QImage::Format_ARGB32_Premultiplied);
+    image.fill(Qt::transparent);
+    Filler filler(image, color);
     for (const QRectF& column : columns) {
         filler.fill(inPixels(column, pixelRatio).translated(-area.topLeft()));
     }
-}
-
-void LineMask::draw(QPainter& painter) const
-{
-    if (m_image.isNull()) {
-        return;
-    }
     // Scaled to device pixels, the painter copies the picture; in points it would resample it, which takes far longer.
     painter.save();
-    painter.scale(1 / m_pixelRatio, 1 / m_pixelRatio);
-    painter.drawImage(m_position, m_image);
+    painter.scale(1 / pixelRatio, 1 / pixelRatio);
+    painter.drawImage(area.topLeft(), image);
     painter.restore();
 }
 

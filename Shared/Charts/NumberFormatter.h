@@ -18,8 +18,6 @@ struct NumberFormatter {
 
     /// The text, with the process's decimal point; empty when number times multiplier is not finite.
     QString stringFromNumber(double number) const;
-
-    bool operator==(const NumberFormatter&) const = default;
 };
 
 } // namespace lodestar

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Charts/PieChartRenderer.h"
 
-#include "Charts/PieValueText.h"
-
 #include <QFontMetricsF>
 #include <QPainter>
 
@@ -51,7 +49,7 @@ PieLayout PieChartRenderer::layout(const ChartFrame& frame) const
 {
     PieLayout layout;
     layout.legend = layoutLegend(m_model.legend, legendItems(), frame.size, frame.style);
-    layout.content = contentBeside(m_model.legend, layout.legend, frame.size, frame.style);
+    layout.content = contentBeside(m_model.legend, layout.legend, frame.size);
     const QRectF room = layout.content.adjusted(margin, margin, -margin, -margin);
     const double box = std::min({room.width(), room.height(), m_maximumDiameter});
     layout.center = layout.content.center();
@@ -189,7 +187,7 @@ double PieChartRenderer::preferredHeight(double width, const ChartStyle& style) 
     // on the screen.
     const QSizeF tall(width, tallest * style.textScale);
     const LegendLayout legend = layoutLegend(m_model.legend, legendItems(), tall, style);
-    const double beside = tall.height() - contentBeside(m_model.legend, legend, tall, style).height();
+    const double beside = tall.height() - contentBeside(m_model.legend, legend, tall).height();
     const double box = std::min(std::max(width - 2 * margin, smallestBox), m_maximumDiameter);
     return beside + box + 2 * margin;
 }

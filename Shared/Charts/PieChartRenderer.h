@@ -2,7 +2,7 @@
 #pragma once
 
 #include "Charts/PieChartModel.h"
-#include "Charts/PieSlice.h"
+#include "Charts/PieValueText.h"
 
 #include <QPainterPath>
 #include <QPointF>

@@ -1,8 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Charts/PieValueText.h"
 
-#include "Charts/PieSlice.h"
-
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QTransform>

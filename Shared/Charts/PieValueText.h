@@ -14,7 +14,14 @@ class QPainter;
 namespace lodestar
 {
 
-struct PieSlice;
+/// One slice after layout. Angles are in degrees clockwise from 12 o'clock.
+struct PieSlice {
+    qsizetype entry = 0; ///< Position among the data set's entries.
+    double start = 0;
+    double sweep = 0;
+    double gap = 0; ///< Half the gap at either side, in points; 0 for the only slice.
+    QPointF center; ///< Centre of the pie; moved outward for a highlighted slice.
+};
 
 /// Contrast ratio of two opaque colours, 1 to 21.
 double contrastRatio(const QColor& first, const QColor& second);

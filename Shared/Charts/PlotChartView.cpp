@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Charts/PlotChartView.h"
 
-#include <utility>
+#include "Charts/BarLayer.h"
+#include "Charts/LineLayer.h"
 
 namespace lodestar
 {
@@ -31,10 +32,11 @@ QSizeF PlotChartView::smallestViewport() const
     return {std::min(1.0, 2 / m_model.wholeX().length()), 0.02};
 }
 
-void PlotChartView::setLayers(const QStringList& xVals, std::vector<std::shared_ptr<const PlotLayer>> layers)
+void PlotChartView::setData(const PlotChartData& data)
 {
-    m_model.xVals = xVals;
-    m_model.layers = std::move(layers);
+    m_data = data;
+    m_model.xVals = data.xVals;
+    m_model.layers = {std::make_shared<BarLayer>(data.barDataSets), std::make_shared<LineLayer>(data.lineDataSets)};
     m_model.highlights.clear();
     m_model.viewport = {};
     announceData();

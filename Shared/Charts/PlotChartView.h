@@ -9,8 +9,7 @@
 namespace lodestar
 {
 
-/// A chart with axes as its controller holds it. The subclass decides on the marks; settings, zoom, selection and texts
-/// are the same for all.
+/// A chart with axes as its controller holds it: lines, bars, or both.
 class PlotChartView : public lodestar::ChartView
 {
     Q_OBJECT
@@ -22,6 +21,11 @@ public:
 
     /// Everything that is drawn.
     const PlotModel& model() const { return m_model; }
+
+    const PlotChartData& data() const { return m_data; }
+    /// Shows all of the data, with nothing highlighted. Empty data show the no-data text.
+    void setData(const PlotChartData& data);
+    void clear() { setData({}); }
 
     void setNoDataText(const QString& text);
     void setHighlightEnabled(bool on) { assign(m_model.highlightEnabled, on); }
@@ -58,13 +62,11 @@ public:
     /// Data set's name, label and value.
     QString selectedText() const override;
 
-protected:
-    void setLayers(const QStringList& xVals, std::vector<std::shared_ptr<const PlotLayer>> layers);
-
 private:
     const ChartModel& common() const override { return m_model; }
     ChartModel& common() override { return m_model; }
 
+    PlotChartData m_data;
     PlotModel m_model;
 };
 

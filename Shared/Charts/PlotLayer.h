@@ -4,6 +4,9 @@
 #include "Charts/ChartStyle.h"
 #include "Charts/PlotSeries.h"
 
+#include <iterator>
+#include <vector>
+
 class QPainter;
 
 namespace lodestar
@@ -46,9 +49,32 @@ public:
     virtual bool standsOnZero() const { return false; }
     /// Draws the marks; the painter is clipped to the plot.
     virtual void draw(QPainter& painter, const PlotCanvas& canvas) const = 0;
+};
 
-    /// The extent of all series of the layer.
-    PlotExtent extent() const;
+/// A layer of data sets of one kind.
+template <typename DataSet>
+class SeriesLayer : public PlotLayer
+{
+public:
+    explicit SeriesLayer(const QList<DataSet>& dataSets)
+    {
+        for (const DataSet& dataSet : dataSets) {
+            m_parts.push_back({dataSet, PlotSeries(dataSet.entries)});
+        }
+    }
+    qsizetype dataSetCount() const override { return std::ssize(m_parts); }
+    const ChartDataSet& dataSet(qsizetype position) const override { return part(position).dataSet; }
+    const PlotSeries& series(qsizetype position) const override { return part(position).series; }
+
+protected:
+    struct Part {
+        DataSet dataSet;
+        PlotSeries series;
+    };
+    const Part& part(qsizetype position) const { return m_parts.at(static_cast<std::size_t>(position)); }
+
+private:
+    std::vector<Part> m_parts;
 };
 
 } // namespace lodestar

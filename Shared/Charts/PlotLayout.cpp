@@ -22,8 +22,6 @@ constexpr double labelGap = 8;   // Points between an axis and its labels.
 constexpr double spaceStep = 20; // Points per unit of `spaceBetweenLabels`.
 constexpr double smallest = 24;  // In points; a plot that is narrower or lower is not drawn.
 
-enum class Place { Left, Right, Top, Bottom };
-
 /// Finds room for the axis labels and places them.
 class Placement
 {
@@ -32,7 +30,7 @@ public:
         : m_model(model), m_scale(frame.style.textScale), m_size(frame.size), m_metrics(axisFont(frame.style))
     {
         m_layout.legend = layoutLegend(model.legend, legendItems(frame.style), frame.size, frame.style);
-        m_layout.content = contentBeside(model.legend, m_layout.legend, frame.size, frame.style);
+        m_layout.content = contentBeside(model.legend, m_layout.legend, frame.size);
     }
 
     PlotLayout layout()
@@ -61,21 +59,9 @@ private:
         return items;
     }
 
-    bool hasLabelsAt(Place place) const
+    bool hasIndicesAt(XAxisLabelPosition position) const
     {
-        const XAxisLabelPosition position = m_model.xAxis.labelPosition;
-        const bool both = position == XAxisLabelPosition::BothSided;
-        switch (place) {
-        case Place::Left:
-            return m_model.leftAxis.enabled;
-        case Place::Right:
-            return m_model.rightAxis.enabled;
-        case Place::Top:
-            return m_model.xAxis.enabled && (both || position == XAxisLabelPosition::Top);
-        case Place::Bottom:
-            return m_model.xAxis.enabled && (both || position == XAxisLabelPosition::Bottom);
-        }
-        return false;
+        return m_model.xAxis.enabled && m_model.xAxis.labelPosition == position;
     }
 
     double lineHeight() const { return 14 * m_scale; }
@@ -84,8 +70,8 @@ private:
     {
         QRectF plot = m_layout.content;
         const double room = labelGap + lineHeight();
-        plot.setTop(plot.top() + (hasLabelsAt(Place::Top) ? edge + room : top));
-        plot.setBottom(plot.bottom() - (hasLabelsAt(Place::Bottom) ? room : 0) - edge);
+        plot.setTop(plot.top() + (hasIndicesAt(XAxisLabelPosition::Top) ? edge + room : top));
+        plot.setBottom(plot.bottom() - (hasIndicesAt(XAxisLabelPosition::Bottom) ? room : 0) - edge);
         if (plot.height() < smallest) {
             return;
         }
@@ -101,8 +87,8 @@ private:
             widest = std::max(widest, m_metrics.horizontalAdvance(step.text(tick)));
         }
         const double beside = std::ceil(edge * 0.75 + widest + labelGap);
-        plot.setLeft(plot.left() + (hasLabelsAt(Place::Left) ? beside : edge));
-        plot.setRight(plot.right() - (hasLabelsAt(Place::Right) ? beside : edge));
+        plot.setLeft(plot.left() + (m_model.leftAxis.enabled ? beside : edge));
+        plot.setRight(plot.right() - (m_model.rightAxis.enabled ? beside : edge));
         if (plot.width() < smallest) {
             return;
         }
@@ -117,10 +103,10 @@ private:
             const QString text = step.text(tick);
             const QSizeF size(m_metrics.horizontalAdvance(text), m_metrics.capHeight());
             const double y = m_layout.transform.toY(tick) - size.height() / 2;
-            if (hasLabelsAt(Place::Left)) {
+            if (m_model.leftAxis.enabled) {
                 m_layout.leftLabels.push_back({tick, text, {{plot.left() - labelGap - size.width(), y}, size}});
             }
-            if (hasLabelsAt(Place::Right)) {
+            if (m_model.rightAxis.enabled) {
                 m_layout.rightLabels.push_back({tick, text, {{plot.right() + labelGap, y}, size}});
             }
         }
@@ -168,31 +154,13 @@ private:
             stride = labelStride(stride + 1.0);
             labels = labelsEvery(stride);
         }
+        const bool isBelow = m_model.xAxis.labelPosition == XAxisLabelPosition::Bottom;
+        const double middle = isBelow ? transform.plot.bottom() + labelGap + lineHeight() / 2
+                                      : transform.plot.top() - labelGap - lineHeight() / 2;
         for (AxisLabel& label : *labels) {
-            m_layout.indexTicks << label.at;
-            const QRectF box = label.box;
-            const double below = transform.plot.bottom() + labelGap + (lineHeight() - box.height()) / 2;
-            const double above = transform.plot.top() - labelGap - (lineHeight() + box.height()) / 2;
-            switch (m_model.xAxis.labelPosition) {
-            case XAxisLabelPosition::BothSided:
-                m_layout.topLabels.push_back({label.at, label.text, box.translated(0, above)});
-                [[fallthrough]];
-            case XAxisLabelPosition::Bottom:
-                m_layout.bottomLabels.push_back({label.at, label.text, box.translated(0, below)});
-                break;
-            case XAxisLabelPosition::Top:
-                m_layout.topLabels.push_back({label.at, label.text, box.translated(0, above)});
-                break;
-            case XAxisLabelPosition::TopInside:
-                m_layout.topLabels.push_back(
-                    {label.at, label.text, box.translated(0, transform.plot.top() + labelGap)});
-                break;
-            case XAxisLabelPosition::BottomInside:
-                m_layout.bottomLabels.push_back(
-                    {label.at, label.text, box.translated(0, transform.plot.bottom() - labelGap - box.height())});
-                break;
-            }
+            label.box.moveTop(middle - label.box.height() / 2);
         }
+        m_layout.indexLabels = std::move(*labels);
     }
 
     const PlotModel& m_model;

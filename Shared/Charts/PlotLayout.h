@@ -24,11 +24,9 @@ struct PlotLayout {
     PlotTransform transform;
     PlotExtent whole;         ///< Both axes from end to end, zoomed in or not.
     QList<double> valueTicks; ///< Value ticks within view.
-    QList<double> indexTicks; ///< X indices within view that have a label.
     std::vector<AxisLabel> leftLabels;
     std::vector<AxisLabel> rightLabels;
-    std::vector<AxisLabel> topLabels;
-    std::vector<AxisLabel> bottomLabels;
+    std::vector<AxisLabel> indexLabels;
 
     /// Whether there are data and room for a plot.
     bool hasPlot() const { return !transform.plot.isEmpty(); }

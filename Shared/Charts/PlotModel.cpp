@@ -14,10 +14,9 @@ bool PlotModel::isEmpty() const
 PlotExtent PlotModel::dataExtent() const
 {
     PlotExtent extent;
-    for (const auto& layer : layers) {
-        const PlotExtent part = layer->extent();
-        extent.x.include(part.x);
-        extent.y.include(part.y);
+    for (const Series& each : allSeries()) {
+        extent.x.include(each.series->extent().x);
+        extent.y.include(each.series->extent().y);
     }
     return extent;
 }
@@ -38,7 +37,7 @@ std::vector<PlotModel::Series> PlotModel::allSeries() const
     std::vector<Series> all;
     for (const auto& layer : layers) {
         for (qsizetype i = 0; i < layer->dataSetCount(); ++i) {
-            all.push_back({&layer->dataSet(i), &layer->series(i), layer.get(), i});
+            all.push_back({&layer->dataSet(i), &layer->series(i)});
         }
     }
     return all;

@@ -42,8 +42,6 @@ struct PlotModel : ChartModel {
     struct Series {
         const ChartDataSet* dataSet;
         const PlotSeries* series;
-        const PlotLayer* layer;
-        qsizetype position; ///< Position within the layer.
     };
     std::vector<Series> allSeries() const;
     /// The entry that a highlight names; nothing when no such entry exists.

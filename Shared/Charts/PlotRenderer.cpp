@@ -93,8 +93,8 @@ void PlotRenderer::drawGrid(QPainter& painter, const PlotLayout& layout, const C
     }
     if (m_model.xAxis.enabled && m_model.xAxis.drawGridLinesEnabled) {
         painter.setPen(dashedPen(style.gridColor, 1, m_model.xAxis.gridLineDashLengths));
-        for (const double tick : layout.indexTicks) {
-            const double x = crisp(layout.transform.toX(tick), ratio);
+        for (const AxisLabel& label : layout.indexLabels) {
+            const double x = crisp(layout.transform.toX(label.at), ratio);
             painter.drawLine(QPointF(x, plot.top()), QPointF(x, plot.bottom()));
         }
     }
@@ -116,18 +116,12 @@ void PlotRenderer::drawAxes(QPainter& painter, const PlotLayout& layout, const C
         painter.drawLine(QPointF(right, upper), QPointF(right, lower));
     }
     if (m_model.xAxis.enabled) {
-        const XAxisLabelPosition position = m_model.xAxis.labelPosition;
-        const bool above = position == XAxisLabelPosition::Top || position == XAxisLabelPosition::TopInside;
-        if (above || position == XAxisLabelPosition::BothSided) {
-            painter.drawLine(QPointF(left, upper), QPointF(plot.right(), upper));
-        }
-        if (!above) {
-            painter.drawLine(QPointF(left, lower), QPointF(plot.right(), lower));
-        }
+        const double y = m_model.xAxis.labelPosition == XAxisLabelPosition::Top ? upper : lower;
+        painter.drawLine(QPointF(left, y), QPointF(plot.right(), y));
     }
     painter.setFont(axisFont(style));
     painter.setPen(style.textColor);
-    for (const auto* labels : {&layout.leftLabels, &layout.rightLabels, &layout.topLabels, &layout.bottomLabels}) {
+    for (const auto* labels : {&layout.leftLabels, &layout.rightLabels, &layout.indexLabels}) {
         for (const AxisLabel& label : *labels) {
             painter.drawText(label.box.bottomLeft(), label.text);
         }

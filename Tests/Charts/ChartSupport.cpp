@@ -76,10 +76,26 @@ Picture::Picture(const PieChartModel& model, const ChartFrame& frame, double pix
 {
 }
 
-QColor Picture::at(double share, double angle) const
+QPointF pointOn(const PieLayout& layout, double share, double angle)
 {
     const double radians = angle * std::numbers::pi / 180;
-    return at(layout.center + share * layout.radius * QPointF(std::sin(radians), -std::cos(radians)));
+    return layout.center + share * layout.radius * QPointF(std::sin(radians), -std::cos(radians));
+}
+
+QStringList numbers(qsizetype count, int first)
+{
+    QStringList labels;
+    for (qsizetype i = 0; i < count; ++i) {
+        labels << QString::number(first + i);
+    }
+    return labels;
+}
+
+LineChartDataSet plainLine(const QString& label, const QColor& color, const QList<float>& values)
+{
+    auto line = dataSet<LineChartDataSet>(label, color, values);
+    line.circleRadius = 0;
+    return line;
 }
 
 void setUpLines(PlotChartView& view)
@@ -105,23 +121,13 @@ void setUpLines(PlotChartView& view)
     view.setLegend(legend);
 }
 
-void showLine(LineChartView& view, const QList<float>& values, const QColor& color)
+void showLine(PlotChartView& view, const QList<float>& values)
 {
     setUpLines(view);
     Legend legend = view.legend();
     legend.enabled = false;
     view.setLegend(legend);
-    LineChartData data;
-    LineChartDataSet line;
-    line.label = QStringLiteral("line");
-    line.colors = {color};
-    line.circleRadius = 0;
-    for (qsizetype i = 0; i < values.size(); ++i) {
-        data.xVals << QString::number(i);
-        line.entries << ChartEntry{values.at(i), static_cast<int>(i)};
-    }
-    data.dataSets << line;
-    view.setData(data);
+    view.setData({numbers(values.size()), {}, {plainLine(QStringLiteral("line"), blue, values)}});
 }
 
 PlotPicture::PlotPicture(const PlotChartView& view, const ChartFrame& frame, double pixelRatio)

@@ -1,8 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Charts/LineChartView.h"
 #include "Charts/PieChartRenderer.h"
+#include "Charts/PieChartView.h"
+#include "Charts/PlotChartView.h"
 #include "Charts/PlotRenderer.h"
 
 #include <QImage>
@@ -34,6 +35,9 @@ PieChartModel dashboardPie(const QList<float>& counts);
 /// The same without values and legend, so that only slices are drawn.
 PieChartModel barePie(const QList<float>& counts);
 
+/// The point at a share of the pie's radius and an angle clockwise from 12 o'clock.
+QPointF pointOn(const PieLayout& layout, double share, double angle);
+
 /// A drawn chart on its card, in Lato, 366 × 325 points at two pixels a point unless told otherwise.
 struct Drawing {
     Drawing(const ChartRenderer& renderer, const ChartFrame& frame, double pixelRatio);
@@ -55,14 +59,29 @@ struct Picture : Drawing {
                      double pixelRatio = 2);
 
     using Drawing::at;
-    /// The colour at a share of the radius and an angle clockwise from 12 o'clock.
-    QColor at(double share, double angle) const;
+    QColor at(double share, double angle) const { return at(pointOn(layout, share, angle)); }
 
     PieLayout layout;
 };
 
-/// A line over these values; labels "0", "1", … set up as the performance screen does it, but for the legend.
-void showLine(LineChartView& view, const QList<float>& values, const QColor& color = blue);
+/// The numbers from the first on as labels.
+QStringList numbers(qsizetype count, int first = 0);
+/// A data set of these values at the x indices 0, 1, …
+template <typename Set>
+Set dataSet(const QString& label, const QColor& color, const QList<float>& values)
+{
+    Set set;
+    set.label = label;
+    set.colors = {color};
+    for (const float value : values) {
+        set.entries << ChartEntry{value, static_cast<int>(set.entries.size())};
+    }
+    return set;
+}
+/// The same as a line without circles.
+LineChartDataSet plainLine(const QString& label, const QColor& color, const QList<float>& values);
+/// A blue line over these values; labels "0", "1", … set up as the performance screen does it, but for the legend.
+void showLine(PlotChartView& view, const QList<float>& values);
 /// The settings alone.
 void setUpLines(PlotChartView& view);
 

@@ -28,11 +28,7 @@ protected:
         m_layout = PieChartRenderer(m_view.model()).layout({QSizeF(366, 325), {}, {}});
     }
 
-    QPoint on(double share, double angle) const
-    {
-        const double radians = angle * M_PI / 180;
-        return (m_layout.center + share * m_layout.radius * QPointF(std::sin(radians), -std::cos(radians))).toPoint();
-    }
+    QPoint on(double share, double angle) const { return pointOn(m_layout, share, angle).toPoint(); }
     PieLayout m_layout;
 };
 

@@ -26,7 +26,7 @@ protected:
     /// How many columns of the plot a line of that colour passes through.
     int columnsWith(const QColor& color) const
     {
-        const auto charts = stage.items(QStringLiteral("LineChart"));
+        const auto charts = stage.items(QStringLiteral("PlotChart"));
         if (charts.empty()) {
             return 0;
         }

@@ -24,7 +24,7 @@ protected:
     }
     QQuickItem* chart() const
     {
-        const auto found = stage.items(QStringLiteral("LineChart"));
+        const auto found = stage.items(QStringLiteral("PlotChart"));
         return found.empty() ? nullptr : found.front();
     }
     PlotViewport viewport(PCMViewController& performance) const { return performance.chartView()->viewport(); }

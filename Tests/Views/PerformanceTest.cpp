@@ -57,7 +57,7 @@ protected:
     static QStringList names(PCMViewController& screen)
     {
         QStringList found;
-        for (const LineChartDataSet& set : screen.chartView()->data().dataSets) {
+        for (const LineChartDataSet& set : screen.chartView()->data().lineDataSets) {
             found << set.label;
         }
         return found;
@@ -116,9 +116,9 @@ TEST_F(PerformanceTest, ProcessorsThenMemoryOfASimulatedConsole)
     EXPECT_EQ(screen->header()->subtitleLabel()->text(),
               local("2026-03-11T21:44:17Z") + " - " + local("2026-03-12T09:41:17Z"));
     EXPECT_EQ(screen->endDate().value() - screen->startDate().value(), std::chrono::seconds(239 * 180));
-    const LineChartData processors = screen->chartView()->data();
+    const PlotChartData processors = screen->chartView()->data();
     EXPECT_EQ(processors.xVals.size(), 240);
-    EXPECT_EQ(processors.dataSets[1].entries.last(), (ChartEntry{12, 239}));
+    EXPECT_EQ(processors.lineDataSets[1].entries.last(), (ChartEntry{12, 239}));
 
     screen->selectedSegmentedIndex(1);
     expectLoading(*screen);
@@ -126,7 +126,7 @@ TEST_F(PerformanceTest, ProcessorsThenMemoryOfASimulatedConsole)
     expectLoaded(*screen);
     EXPECT_EQ(values(*screen), QStringList({"262.14", "10.24", "250.00"}));
     EXPECT_EQ(names(*screen), QStringList({"Total Memory", "Memory Allocated", "Memory Used"}));
-    EXPECT_EQ(screen->chartView()->data().dataSets[0].entries.first(), (ChartEntry{262.144F, 0}));
+    EXPECT_EQ(screen->chartView()->data().lineDataSets[0].entries.first(), (ChartEntry{262.144F, 0}));
     EXPECT_EQ(fleet.requests().size(), 4U) << "the choice fetches the document anew";
     EXPECT_THAT(messages(source), ElementsAre("PCMViewController instantiation"));
     EXPECT_EQ(lineNumbers(lines(source)), std::vector<int>{39});
@@ -140,14 +140,14 @@ TEST_F(PerformanceTest, FailureShowsAnEmptyChartAndDashes)
     for (const char* fault : {"unprocessedMetrics", "refuseFeed:Metrics"}) {
         screen->selectedSegmentedIndex(0);
         ASSERT_TRUE(hasEnded(*screen));
-        EXPECT_EQ(screen->chartView()->data().dataSets.size(), 3);
+        EXPECT_EQ(screen->chartView()->data().lineDataSets.size(), 3);
         fleet.setFault(fault);
         screen->selectedSegmentedIndex(1);
         expectLoading(*screen);
         ASSERT_TRUE(hasEnded(*screen));
         expectLoaded(*screen);
         EXPECT_EQ(values(*screen), QStringList({"-", "-", "-"}));
-        EXPECT_TRUE(screen->chartView()->data().dataSets.isEmpty());
+        EXPECT_TRUE(screen->chartView()->data().lineDataSets.isEmpty());
         EXPECT_EQ(screen->header()->titleLabel()->text(), "helios-01");
         EXPECT_EQ(screen->header()->subtitleLabel()->text(), "");
         fleet.clearFaults();
@@ -155,7 +155,7 @@ TEST_F(PerformanceTest, FailureShowsAnEmptyChartAndDashes)
         expectLoading(*screen);
         EXPECT_EQ(screen->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::None);
         ASSERT_TRUE(hasEnded(*screen));
-        EXPECT_EQ(screen->chartView()->data().dataSets.size(), 3);
+        EXPECT_EQ(screen->chartView()->data().lineDataSets.size(), 3);
     }
     EXPECT_EQ(lineNumbers(lines(source)), (std::vector<int>{39, 163, 163}));
     EXPECT_THAT(messages(source),

@@ -208,7 +208,7 @@ PageScaffold {
             radius: Theme.cardRadius
             color: Theme.card
 
-            LineChart {
+            PlotChart {
                 outlet: scene.performance.chartView
                 visible: !scene.performance.chartView.hidden
                 anchors.fill: parent

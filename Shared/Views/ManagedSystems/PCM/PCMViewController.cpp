@@ -226,7 +226,7 @@ void PCMViewController::setChartData(const MetricsReduction& reduction, MetricsS
     } else if (reduction.sampleCount > 0 && segment == MetricsSegment::Memory) {
         names = {tr("Total Memory"), tr("Memory Allocated"), tr("Memory Used")};
     }
-    LineChartData data;
+    PlotChartData data;
     data.xVals.reserve(static_cast<qsizetype>(reduction.xLabels.size()));
     for (const std::string& label : reduction.xLabels) {
         data.xVals << QString::fromStdString(label);
@@ -242,7 +242,7 @@ void PCMViewController::setChartData(const MetricsReduction& reduction, MetricsS
         for (const MetricsPoint& point : reduction.points) {
             set.entries << ChartEntry{static_cast<float>(point.figures.*seriesFigures.at(series)), point.xIndex};
         }
-        data.dataSets << set;
+        data.lineDataSets << set;
     }
     m_chartView.setData(data);
 }

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Charts/LineChartView.h"
+#include "Charts/PlotChartView.h"
 #include "Inventory/Metrics/MetricsReduction.h"
 #include "Kit/Core/Bars.h"
 #include "Kit/Core/Outlets.h"
@@ -24,7 +24,7 @@ class PCMViewController : public lodestar::ViewController, public CorvelReceivin
     QML_ELEMENT
     QML_UNCREATABLE("made by the storyboard")
     Q_PROPERTY(lodestar::TitleHeader* header READ header CONSTANT)
-    Q_PROPERTY(lodestar::LineChartView* chartView READ chartView CONSTANT)
+    Q_PROPERTY(lodestar::PlotChartView* chartView READ chartView CONSTANT)
     Q_PROPERTY(lodestar::SegmentedControlOutlet* typeSegmentedControl READ typeSegmentedControl CONSTANT)
     Q_PROPERTY(lodestar::BarButtonOutlet* rightBarButton READ rightBarButton CONSTANT)
     Q_PROPERTY(lodestar::LabelOutlet* fetchingLabel READ fetchingLabel CONSTANT)
@@ -49,7 +49,7 @@ public:
     const std::optional<MetricsDate>& endDate() const { return m_endDate; }
 
     TitleHeader* header() { return &m_header; }
-    LineChartView* chartView() { return &m_chartView; }
+    PlotChartView* chartView() { return &m_chartView; }
     /// Segment 0 is processors, segment 1 memory.
     SegmentedControlOutlet* typeSegmentedControl() { return &m_typeSegmentedControl; }
     /// The button that fetches anew; visible only after a failure.
@@ -96,7 +96,7 @@ private:
     std::uint64_t m_fetch = 0;
 
     TitleHeader m_header;
-    LineChartView m_chartView;
+    PlotChartView m_chartView;
     SegmentedControlOutlet m_typeSegmentedControl;
     BarButtonOutlet m_rightBarButton;
     LabelOutlet m_fetchingLabel;
