@@ -10,12 +10,7 @@ namespace lodestar
 
 void BarButtonOutlet::setEnabled(bool enabled)
 {
-    onMain(this, [enabled](BarButtonOutlet& button) {
-        if (button.m_enabled != enabled) {
-            button.m_enabled = enabled;
-            Q_EMIT button.itemChanged();
-        }
-    });
+    assignOnMain(this, &BarButtonOutlet::m_enabled, enabled, &BarButtonOutlet::itemChanged);
 }
 
 void BarButtonOutlet::setItem(SystemItem item, std::function<void()> action)
@@ -30,28 +25,14 @@ void BarButtonOutlet::setItem(SystemItem item, std::function<void()> action)
 
 QString BarButtonOutlet::imageName() const
 {
-    switch (m_item) {
-    case SystemItem::Search:
-        return QStringLiteral("search");
-    case SystemItem::Refresh:
-        return QStringLiteral("refresh");
-    case SystemItem::None:
-        break;
-    }
-    return {};
+    return m_item == SystemItem::Search    ? QStringLiteral("search")
+           : m_item == SystemItem::Refresh ? QStringLiteral("refresh")
+                                           : QString();
 }
 
 QString BarButtonOutlet::title() const
 {
-    switch (m_item) {
-    case SystemItem::Search:
-        return tr("Search");
-    case SystemItem::Refresh:
-        return tr("Refresh");
-    case SystemItem::None:
-        break;
-    }
-    return {};
+    return m_item == SystemItem::Search ? tr("Search") : m_item == SystemItem::Refresh ? tr("Refresh") : QString();
 }
 
 void BarButtonOutlet::tap()

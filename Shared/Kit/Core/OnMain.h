@@ -5,6 +5,7 @@
 
 #include <QPointer>
 
+#include <type_traits>
 #include <utility>
 
 namespace lodestar
@@ -22,6 +23,18 @@ void onMain(Object* object, Change change)
     MainQueue::shared().async([guard = QPointer<Object>(object), change = std::move(change)]() mutable {
         if (guard) {
             change(*guard);
+        }
+    });
+}
+
+/// Sets a member on the main thread as `onMain` runs a change. The signal is emitted where that changes the member.
+template <typename Object, typename Value>
+void assignOnMain(Object* object, Value Object::*member, std::type_identity_t<Value> value, void (Object::*changed)())
+{
+    onMain(object, [member, value = std::move(value), changed](Object& target) mutable {
+        if (target.*member != value) {
+            target.*member = std::move(value);
+            Q_EMIT(target.*changed)();
         }
     });
 }

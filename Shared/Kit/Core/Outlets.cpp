@@ -8,32 +8,17 @@ namespace lodestar
 
 void ViewOutlet::setHidden(bool hidden)
 {
-    onMain(this, [hidden](ViewOutlet& outlet) {
-        if (outlet.m_hidden != hidden) {
-            outlet.m_hidden = hidden;
-            Q_EMIT outlet.hiddenChanged();
-        }
-    });
+    assignOnMain(this, &ViewOutlet::m_hidden, hidden, &ViewOutlet::hiddenChanged);
 }
 
 void LabelOutlet::setText(const QString& text)
 {
-    onMain(this, [text](LabelOutlet& outlet) {
-        if (outlet.m_text != text) {
-            outlet.m_text = text;
-            Q_EMIT outlet.textChanged();
-        }
-    });
+    assignOnMain(this, &LabelOutlet::m_text, text, &LabelOutlet::textChanged);
 }
 
 void LabelOutlet::setState(Role::State state)
 {
-    onMain(this, [state](LabelOutlet& outlet) {
-        if (outlet.m_state != state) {
-            outlet.m_state = state;
-            Q_EMIT outlet.stateChanged();
-        }
-    });
+    assignOnMain(this, &LabelOutlet::m_state, state, &LabelOutlet::stateChanged);
 }
 
 void IndicatorOutlet::startAnimating()
@@ -48,32 +33,17 @@ void IndicatorOutlet::stopAnimating()
 
 void IndicatorOutlet::setAnimating(bool animating)
 {
-    onMain(this, [animating](IndicatorOutlet& outlet) {
-        if (outlet.m_animating != animating) {
-            outlet.m_animating = animating;
-            Q_EMIT outlet.animatingChanged();
-        }
-    });
+    assignOnMain(this, &IndicatorOutlet::m_animating, animating, &IndicatorOutlet::animatingChanged);
 }
 
 void FieldOutlet::setText(const QString& text)
 {
-    onMain(this, [text](FieldOutlet& outlet) {
-        if (outlet.m_text != text) {
-            outlet.m_text = text;
-            Q_EMIT outlet.textChanged();
-        }
-    });
+    assignOnMain(this, &FieldOutlet::m_text, text, &FieldOutlet::textChanged);
 }
 
 void FieldOutlet::setEnabled(bool enabled)
 {
-    onMain(this, [enabled](FieldOutlet& outlet) {
-        if (outlet.m_enabled != enabled) {
-            outlet.m_enabled = enabled;
-            Q_EMIT outlet.enabledChanged();
-        }
-    });
+    assignOnMain(this, &FieldOutlet::m_enabled, enabled, &FieldOutlet::enabledChanged);
 }
 
 void FieldOutlet::resignFirstResponder()
@@ -83,32 +53,18 @@ void FieldOutlet::resignFirstResponder()
 
 void ImageOutlet::setImageName(const QString& name)
 {
-    onMain(this, [name](ImageOutlet& outlet) {
-        if (outlet.m_imageName != name) {
-            outlet.m_imageName = name;
-            Q_EMIT outlet.imageNameChanged();
-        }
-    });
+    assignOnMain(this, &ImageOutlet::m_imageName, name, &ImageOutlet::imageNameChanged);
 }
 
 void SwitchOutlet::setOn(bool on)
 {
-    onMain(this, [on](SwitchOutlet& outlet) {
-        if (outlet.m_on != on) {
-            outlet.m_on = on;
-            Q_EMIT outlet.onChanged();
-        }
-    });
+    assignOnMain(this, &SwitchOutlet::m_on, on, &SwitchOutlet::onChanged);
 }
 
 void SegmentedControlOutlet::setSelectedSegmentIndex(int index)
 {
-    onMain(this, [index](SegmentedControlOutlet& outlet) {
-        if (outlet.m_selectedSegmentIndex != index) {
-            outlet.m_selectedSegmentIndex = index;
-            Q_EMIT outlet.selectedSegmentIndexChanged();
-        }
-    });
+    assignOnMain(this, &SegmentedControlOutlet::m_selectedSegmentIndex, index,
+                 &SegmentedControlOutlet::selectedSegmentIndexChanged);
 }
 
 } // namespace lodestar
