@@ -30,8 +30,7 @@ void CellHost::setTable(TableOutlet* table)
     m_table = table;
     if (table != nullptr) {
         const auto changed = [this](const QModelIndex& first, const QModelIndex& last, const QList<int>& roles) {
-            if (!m_pooled && first.row() <= m_index && m_index <= last.row() &&
-                (roles.empty() || roles.contains(TableOutlet::Cell))) {
+            if (!m_pooled && first.row() <= m_index && m_index <= last.row() && roles.empty()) {
                 configure();
             }
         };

@@ -21,12 +21,7 @@ TableOutlet::TableOutlet(TableDataSource& source, TableKind kind, QObject* paren
 
 void TableOutlet::setHidden(bool hidden)
 {
-    onMain(this, [hidden](TableOutlet& table) {
-        if (table.m_hidden != hidden) {
-            table.m_hidden = hidden;
-            Q_EMIT table.hiddenChanged();
-        }
-    });
+    assignOnMain(this, &TableOutlet::m_hidden, hidden, &TableOutlet::hiddenChanged);
 }
 
 void TableOutlet::setSeparatorInset(double left, double right)
@@ -83,7 +78,6 @@ void TableOutlet::reloadOnMain()
     const auto adopt = [&] {
         m_sections = std::move(sections);
         m_count = count;
-        m_cells.clear();
     };
     // Rows are inserted and removed at the list's end only; every remaining row gets its new content as a cell.
     if (count < before) {
@@ -141,13 +135,6 @@ void TableOutlet::deleteRow(IndexPath indexPath, RowAnimation animation)
     std::for_each(m_sections.begin() + indexPath.section + 1, m_sections.end(),
                   [](SectionInfo& later) { --later.start; });
     --m_count;
-    std::unordered_map<int, QVariant> cells;
-    for (auto& [place, cell] : m_cells) {
-        if (place != flat) {
-            cells.emplace(place > flat ? place - 1 : place, std::move(cell));
-        }
-    }
-    m_cells = std::move(cells);
     endRemoveRows();
     Q_EMIT countChanged();
     // Row numbers within the section have changed, and the section may have another first or last row; no cell changed.
@@ -187,18 +174,6 @@ QVariant TableOutlet::data(const QModelIndex& index, int role) const
         return path->row < 0;
     case HeaderTitle:
         return path->row < 0 ? section.title : QString();
-    case Cell: {
-        if (path->row < 0) {
-            return {};
-        }
-        const auto made = m_cells.find(index.row());
-        if (made != m_cells.end()) {
-            return made->second;
-        }
-        QVariant cell = m_source.cellForRowAtIndexPath(m_kind, *path);
-        m_cells.insert_or_assign(index.row(), cell);
-        return cell;
-    }
     case Section:
         return path->section;
     case Row:
@@ -218,7 +193,6 @@ QHash<int, QByteArray> TableOutlet::roleNames() const
 {
     return {{IsHeader, "isHeader"},
             {HeaderTitle, "headerTitle"},
-            {Cell, "cell"},
             {Section, "section"},
             {Row, "row"},
             {FirstInSection, "firstInSection"},

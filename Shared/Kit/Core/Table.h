@@ -10,7 +10,6 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
 namespace lodestar
@@ -49,8 +48,8 @@ public:
 
 enum class RowAnimation { None, Left };
 
-/// A table as QML sees it: one flat list of headers and rows. `kind` tells them apart; `cell` is the row's value. The
-/// outlet is hidden and shown like any other.
+/// A table as QML sees it: one flat list of headers and rows. The model says what stands where; a drawn row asks for
+/// its cell itself. The outlet is hidden and shown like any other.
 class TableOutlet : public QAbstractListModel
 {
     Q_OBJECT
@@ -69,7 +68,6 @@ public:
     enum Role {
         IsHeader = Qt::UserRole + 1,
         HeaderTitle,
-        Cell,
         Section,
         Row, ///< -1 for a header
         FirstInSection,
@@ -104,8 +102,8 @@ public:
     /// Removes a row that the source has dropped already. The rows below move up and are not configured again.
     void deleteRow(IndexPath indexPath, RowAnimation animation);
 
-    /// Configures the row: always asks the source for a new cell. A drawn row calls this once when it comes into view
-    /// and once when it is told that its cell changed. The role `Cell` returns cells made since the last reload.
+    /// Asks the source for a new cell. A drawn row calls this once when it comes into view and once for a change of the
+    /// model that names no roles.
     QVariant configureCell(int index) const;
     CellInSteps configureCellInSteps(int index) const;
     CellSteps& cellSteps() { return m_cellSteps; }
@@ -153,7 +151,6 @@ private:
     TableKind m_kind;
     std::vector<SectionInfo> m_sections;
     int m_count = 0;
-    mutable std::unordered_map<int, QVariant> m_cells; ///< made since the last reload, by flat index
     bool m_announcePending = false;
     bool m_removalAnimated = false;
     bool m_hidden = false;
