@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/ReportSender.h"
 #include "Feedback/VireoLogger.h"
-#include "Platform/URLLoading/URLErrorCode.h"
+#include "Platform/URLLoading/URLError.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Support/ScriptedServer.h"
 

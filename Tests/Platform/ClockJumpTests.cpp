@@ -9,7 +9,6 @@
 #include <atomic>
 #include <ctime>
 #include <sys/syscall.h>
-#include <sys/time.h>
 #include <unistd.h>
 
 namespace
@@ -28,22 +27,6 @@ int clock_gettime(clockid_t clock, timespec* now) noexcept
     }
     return static_cast<int>(result);
 }
-std::time_t time(std::time_t* result) noexcept
-{
-    timespec now{};
-    clock_gettime(CLOCK_REALTIME, &now);
-    if (result != nullptr) {
-        *result = now.tv_sec;
-    }
-    return now.tv_sec;
-}
-int gettimeofday(timeval* result, void* /*zone*/) noexcept
-{
-    timespec now{};
-    clock_gettime(CLOCK_REALTIME, &now);
-    *result = {now.tv_sec, now.tv_nsec / 1000};
-    return 0;
-}
 }
 
 namespace lodestar::test
@@ -53,6 +36,7 @@ namespace
 
 using namespace std::chrono_literals;
 using std::chrono::steady_clock;
+using std::chrono::system_clock;
 using testing::AllOf;
 using testing::Ge;
 using testing::Le;
@@ -64,7 +48,7 @@ TEST_F(URLLoadingTest, DeadlinesDoNotFollowTheWallClock)
     MainQueue::shared().adoptCurrentThread();
     simulator::SimulatorProcess simulator{{}};
     const std::string key = logOn(simulator);
-    const std::time_t before = std::time(nullptr);
+    const auto before = system_clock::now();
     for (const std::time_t to : {tenYears, -tenYears}) {
         SCOPED_TRACE(to);
         jump = 0;
@@ -72,11 +56,11 @@ TEST_F(URLLoadingTest, DeadlinesDoNotFollowTheWallClock)
         URLRequest request = feedRequest(simulator, key);
         request.timeout = 1500ms;
         const auto start = steady_clock::now();
-        const auto delegate = connect(request, Answer::Accept);
+        const auto delegate = connect(request);
         bool due = false;
         MainQueue::shared().asyncAfter(100ms, [&due] { due = true; });
         jump = to;
-        ASSERT_GT(std::abs(std::time(nullptr) - before), tenYears / 2) << "the clock can be set at all";
+        ASSERT_GT(abs(system_clock::now() - before), 24h) << "the clock can be set at all";
         EXPECT_TRUE(MainQueue::shared().runUntil([&due] { return due; }, 60s));
         EXPECT_THAT(steady_clock::now() - start, AllOf(Ge(100ms), Le(3s)));
         EXPECT_EQ(codeOf(delegate->outcome()), URLErrorCode::TimedOut);

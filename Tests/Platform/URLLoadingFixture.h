@@ -4,18 +4,21 @@
 #include "Platform/URLLoading/ServerTrust.h"
 #include "Platform/URLLoading/TransferLimits.h"
 #include "Platform/URLLoading/URLConnection.h"
-#include "Platform/URLLoading/URLErrorCode.h"
+#include "Platform/URLLoading/URLError.h"
 #include "Platform/URLLoading/URLLoading.h"
 #include "Simulator/SimulatorProcess.h"
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <chrono>
 #include <functional>
 #include <future>
+#include <latch>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace lodestar::test
 {
@@ -27,6 +30,15 @@ inline URLRequest consoleRequest(const std::string& address, std::string_view pa
     URLRequest request;
     request.url = "https://" + address + ":12443" + std::string(path);
     return request;
+}
+
+inline simulator::Settings settingsOf(int consoles, int roundTrip = 0, std::size_t feedBytes = 0)
+{
+    simulator::Settings settings;
+    settings.consoles = consoles;
+    settings.roundTrip = roundTrip;
+    settings.feedBytes = feedBytes;
+    return settings;
 }
 
 /// Collects what a connection tells, and answers challenges as it is told to.
@@ -116,12 +128,41 @@ protected:
         return future.get();
     }
 
-    std::shared_ptr<RecordingDelegate> connect(const URLRequest& request, Answer answer)
+    /// One after the other: the asynchronous and the blocking call, and a connection whose delegate accepts.
+    std::vector<Result<URLLoad>> loadEveryWay(const URLRequest& request)
     {
-        auto delegate = std::make_shared<RecordingDelegate>(answer);
-        const auto connection = URLConnection::make(request, delegate);
+        return {loadAsynchronously(request), sendSynchronousRequest(request), connect(request)->outcome()};
+    }
+
+    static bool isOK(const Result<URLLoad>& load) { return load && load.value().response.statusCode == 200; }
+
+    /// Sends all requests at once; returns how many answers are good.
+    std::ptrdiff_t loadTogether(const std::vector<URLRequest>& requests,
+                                const std::function<bool(const Result<URLLoad>&)>& isGood = &isOK)
+    {
+        std::latch settled(std::ssize(requests));
+        std::atomic<std::ptrdiff_t> good = 0;
+        for (const URLRequest& request : requests) {
+            sendAsynchronousRequest(request, m_queue, [&](const Result<URLLoad>& load) {
+                good += isGood(load) ? 1 : 0;
+                settled.count_down();
+            });
+        }
+        settled.wait();
+        return good;
+    }
+
+    std::shared_ptr<URLConnection> start(const URLRequest& request, const std::shared_ptr<RecordingDelegate>& delegate)
+    {
+        auto connection = URLConnection::make(request, delegate);
         connection->setDelegateQueue(m_queue);
         connection->start();
+        return connection;
+    }
+    std::shared_ptr<RecordingDelegate> connect(const URLRequest& request, Answer answer = Answer::Accept)
+    {
+        auto delegate = std::make_shared<RecordingDelegate>(answer);
+        start(request, delegate);
         return delegate;
     }
 
@@ -132,7 +173,7 @@ protected:
         request.method = "PUT";
         request.body = "<LogonRequest><UserID>" + simulator.user() + "</UserID><Password>" + simulator.password() +
                        "</Password></LogonRequest>";
-        const Result<URLLoad> load = connect(request, Answer::Accept)->outcome();
+        const Result<URLLoad> load = connect(request)->outcome();
         if (!load || load.value().response.statusCode != 200) {
             ADD_FAILURE() << "no logon";
             return {};
@@ -142,11 +183,24 @@ protected:
         return body.substr(start, body.find('<', start) - start);
     }
 
-    URLRequest feedRequest(simulator::SimulatorProcess& simulator, const std::string& key, int console = 0)
+    static URLRequest feedRequest(simulator::SimulatorProcess& simulator, const std::string& key, int console = 0,
+                                  Urgency urgency = Urgency::Person)
     {
         URLRequest request = consoleRequest(simulator.address(console), "/rest/api/uom/ManagedSystem");
         request.headers.setValue("X-API-Session", key);
+        request.urgency = urgency;
         return request;
+    }
+
+    /// Six requests of a refresh to each console, which has been logged on to while so many were expected.
+    std::vector<URLRequest> fleetRequests(simulator::SimulatorProcess& simulator, int expected = 0)
+    {
+        std::vector<URLRequest> requests;
+        for (int i = 0; i < simulator.consoleCount(); ++i) {
+            const auto ahead = expectRequests("https://" + simulator.address(i) + ":12443/", expected);
+            requests.insert(requests.end(), 6, feedRequest(simulator, logOn(simulator, i), i, Urgency::Fleet));
+        }
+        return requests;
     }
 
     static URLErrorCode codeOf(const Result<URLLoad>& load)

@@ -7,6 +7,7 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <functional>
 #include <mutex>
 
 using testing::ElementsAre;
@@ -51,15 +52,6 @@ VouchedLeaves& vouched()
 
 const testing::Environment* const registered = testing::AddGlobalTestEnvironment(&vouched());
 
-constexpr const char* shortAnswer = "HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nOK";
-
-URLRequest requestOf(const std::string& url)
-{
-    URLRequest request;
-    request.url = url;
-    return request;
-}
-
 } // namespace
 
 class URLTrustTest : public URLLoadingTest
@@ -97,47 +89,38 @@ TEST_F(URLTrustTest, PlainRequestSendsNothingToAServerNobodyVouchesFor)
 
 TEST_F(URLTrustTest, SystemsWordCountsUnlessTheCertificateIsStaleOrNamesAnother)
 {
-    using enum ScriptedServer::Ending;
-    {
-        const ScriptedServer server(shortAnswer, Notice, "127.0.0.1", vouched().valid);
-        EXPECT_TRUE(loadAsynchronously(requestOf(server.url())).ok());
-    }
-    {
-        const ScriptedServer server(shortAnswer, Notice, "127.0.0.1", vouched().valid);
-        EXPECT_TRUE(sendSynchronousRequest(requestOf(server.url())).ok());
-    }
-    {
-        const ScriptedServer server(shortAnswer, Notice, "127.0.0.1", vouched().valid);
-        const auto delegate = connect(requestOf(server.url()), Answer::Decline);
-        EXPECT_TRUE(delegate->outcome().ok()) << "without a credential the system's word counts";
-        EXPECT_EQ(delegate->challenges, 1);
+    using Way = std::function<Result<URLLoad>(const URLRequest&)>;
+    const auto load = [](const Way& way, const std::string& address, const auto& leaf, const std::string& name) {
+        const ScriptedServer server("HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nOK", ScriptedServer::Ending::Notice,
+                                    address, leaf);
+        URLRequest request;
+        request.url = server.urlFor(name);
+        return way(request);
+    };
+    const Way plain = [this](const URLRequest& request) { return loadAsynchronously(request); };
+    const Way declining = [this](const URLRequest& request) { return connect(request, Answer::Decline)->outcome(); };
+    for (const Way& way : {plain, Way(&sendSynchronousRequest), declining}) {
+        EXPECT_TRUE(load(way, "127.0.0.1", vouched().valid, "127.0.0.1").ok());
     }
     EXPECT_THAT(refusals(), IsEmpty());
-    {
-        const ScriptedServer server(shortAnswer, Notice, "127.0.0.1", vouched().valid);
-        EXPECT_EQ(codeOf(loadAsynchronously(requestOf(server.urlFor("localhost")))),
-                  URLErrorCode::ServerCertificateUntrusted);
-    }
-    {
-        const ScriptedServer server(shortAnswer, Notice, "127.0.0.2", vouched().expired);
-        EXPECT_EQ(codeOf(loadAsynchronously(requestOf(server.url()))), URLErrorCode::ServerCertificateUntrusted);
-    }
+    EXPECT_EQ(codeOf(load(plain, "127.0.0.1", vouched().valid, "localhost")), URLErrorCode::ServerCertificateUntrusted);
+    EXPECT_EQ(codeOf(load(plain, "127.0.0.2", vouched().expired, "127.0.0.2")),
+              URLErrorCode::ServerCertificateUntrusted);
     EXPECT_THAT(refusals(), ElementsAre(HasSubstr("hostname"), HasSubstr("expired")));
 }
 
 TEST_F(URLTrustTest, AcceptedCertificateIsGoodForPlainRequestsToThatServerAlone)
 {
-    simulator::Settings settings;
-    settings.consoles = 2;
-    simulator::SimulatorProcess simulator(settings);
-    const auto first = connect(consoleRequest(simulator.address(), "/"), Answer::Accept);
+    simulator::SimulatorProcess simulator(settingsOf(2));
+    const URLRequest request = consoleRequest(simulator.address(), "/");
+    const auto first = connect(request);
     EXPECT_TRUE(first->outcome().ok());
     EXPECT_EQ(first->challenges, 1);
     EXPECT_FALSE(first->respondedBeforeChallenge);
     EXPECT_EQ(first->challengedHost, simulator.address() + ":12443");
     EXPECT_EQ(first->responses, 1);
 
-    const auto again = connect(consoleRequest(simulator.address(), "/"), Answer::Accept);
+    const auto again = connect(request);
     EXPECT_TRUE(again->outcome().ok());
     EXPECT_EQ(again->challenges, 0) << "the connection was kept, so there was no handshake to ask about";
 
@@ -167,18 +150,18 @@ TEST_F(URLTrustTest, DelegateThatDoesNotAcceptHearsNothingButTheEnd)
 TEST_F(URLTrustTest, SwappedCertificateIsRefusedUntilADelegateHasMetIt)
 {
     for (const std::string fault : {"swapCertificate", "expiredCertificate", "misnamedCertificate"}) {
+        SCOPED_TRACE(fault);
         simulator::SimulatorProcess simulator{{}};
-        const std::string key = logOn(simulator);
-        EXPECT_TRUE(loadAsynchronously(feedRequest(simulator, key)).ok());
-        EXPECT_TRUE(sendSynchronousRequest(feedRequest(simulator, key)).ok());
+        const URLRequest request = feedRequest(simulator, logOn(simulator));
+        EXPECT_TRUE(loadAsynchronously(request).ok());
+        EXPECT_TRUE(sendSynchronousRequest(request).ok());
         simulator.setFault(fault);
-        EXPECT_EQ(codeOf(loadAsynchronously(feedRequest(simulator, key))), URLErrorCode::ServerCertificateUntrusted);
-        EXPECT_EQ(codeOf(sendSynchronousRequest(feedRequest(simulator, key))),
-                  URLErrorCode::ServerCertificateUntrusted);
-        EXPECT_THAT(refusals(), SizeIs(2)) << fault;
-        EXPECT_TRUE(connect(consoleRequest(simulator.address(), "/"), Answer::Accept)->outcome().ok());
-        EXPECT_TRUE(loadAsynchronously(feedRequest(simulator, key)).ok()) << fault;
-        EXPECT_TRUE(sendSynchronousRequest(feedRequest(simulator, key)).ok()) << fault;
+        EXPECT_EQ(codeOf(loadAsynchronously(request)), URLErrorCode::ServerCertificateUntrusted);
+        EXPECT_EQ(codeOf(sendSynchronousRequest(request)), URLErrorCode::ServerCertificateUntrusted);
+        EXPECT_THAT(refusals(), SizeIs(2));
+        EXPECT_TRUE(connect(request)->outcome().ok());
+        EXPECT_TRUE(loadAsynchronously(request).ok());
+        EXPECT_TRUE(sendSynchronousRequest(request).ok());
     }
 }
 
@@ -186,21 +169,20 @@ TEST_F(URLTrustTest, KeptConnectionDoesNotHideAnotherCertificate)
 {
     // The connections stand, as behind a balancer; what the client remembers has changed in the meantime.
     simulator::SimulatorProcess simulator{{}};
-    const std::string key = logOn(simulator);
+    const URLRequest request = feedRequest(simulator, logOn(simulator));
     const auto real = ServerTrust::shared().remembered(simulator.address(), 12443);
     ASSERT_TRUE(real);
     ServerTrust::Fingerprint other = *real;
     other[0] ^= 1U;
     ServerTrust::shared().remember(simulator.address(), 12443, other);
-    EXPECT_EQ(codeOf(loadAsynchronously(feedRequest(simulator, key))), URLErrorCode::ServerCertificateUntrusted);
-    const auto handshakes = simulator.handshakes();
-    EXPECT_EQ(handshakes, 2U) << "the kept connection is left for a fresh one before the server is refused";
+    EXPECT_EQ(codeOf(loadAsynchronously(request)), URLErrorCode::ServerCertificateUntrusted);
+    EXPECT_EQ(simulator.handshakes(), 2U) << "the kept connection is left for a fresh one before the server is refused";
 
-    const auto delegate = connect(consoleRequest(simulator.address(), "/"), Answer::Accept);
+    const auto delegate = connect(request);
     EXPECT_TRUE(delegate->outcome().ok());
     EXPECT_EQ(delegate->challenges, 1);
     EXPECT_EQ(ServerTrust::shared().remembered(simulator.address(), 12443), real);
-    EXPECT_TRUE(loadAsynchronously(feedRequest(simulator, key)).ok());
+    EXPECT_TRUE(loadAsynchronously(request).ok());
     EXPECT_THAT(refusals(), SizeIs(1));
 }
 

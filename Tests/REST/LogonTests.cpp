@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Platform/URLLoading/URLErrorCode.h"
+#include "Platform/URLLoading/URLError.h"
 #include "Tests/REST/RESTHandlerFixture.h"
 
 #include <gmock/gmock.h>

@@ -19,11 +19,12 @@ namespace lodestar::test
 {
 
 /// A server on a loopback address that accepts one connection, reads one request and answers with the given bytes,
-/// whatever they are; then it ends the connection, with or without saying so first, or goes on with a byte every 50 ms.
+/// whatever they are; then it ends the connection, with or without saying so first, goes on with a byte every 50 ms or
+/// says nothing more.
 class ScriptedServer
 {
 public:
-    enum class Ending { Notice, Silent, Trickle };
+    enum class Ending { Notice, Silent, Trickle, Stall };
 
     using LeafRef = std::shared_ptr<const simulator::Leaf>;
 
@@ -91,7 +92,9 @@ private:
                 SSL_shutdown(ssl.get());
             }
         }
-        shutdown(connection, SHUT_WR);
+        if (m_ending != Ending::Stall) {
+            shutdown(connection, SHUT_WR);
+        }
         // What the client still says is read, since unread bytes would turn the end into a reset.
         while (read(connection, request.data(), request.size()) > 0) {
         }

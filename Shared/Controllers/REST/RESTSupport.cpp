@@ -3,7 +3,7 @@
 
 #include "Controllers/REST/RXPromise.h"
 #include "Inventory/Record.h"
-#include "Platform/URLLoading/ErrorWords.h"
+#include "Platform/URLLoading/URLError.h"
 #include "Platform/UserDefaults.h"
 #include "XML/XMLElement.h"
 

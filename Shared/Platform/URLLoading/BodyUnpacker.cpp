@@ -15,24 +15,21 @@ namespace
 
 constexpr std::chrono::seconds patience{3};
 
-std::string encodingOf(const URLResponse& response)
+BodyDecoder::Encoding encodingOf(const URLResponse& response)
 {
-    return response.headers.value("Content-Encoding").value_or("");
+    return BodyDecoder::encodingNamed(response.headers.value("Content-Encoding").value_or(""));
 }
 
 } // namespace
 
 BodyUnpacker::BodyUnpacker(const URLResponse& response, std::optional<HeldBytes::Claim> claim, WithoutRoom without)
-    : m_limits(TransferLimits::shared()),
-      m_decoder(BodyDecoder::make(encodingOf(response))),
-      m_claim(claim),
-      m_without(without)
+    : m_limits(TransferLimits::shared()), m_decoder(encodingOf(response)), m_claim(claim), m_without(without)
 {
 }
 
 bool BodyUnpacker::isNeeded(const URLResponse& response)
 {
-    return BodyDecoder::isPacked(encodingOf(response));
+    return encodingOf(response) != BodyDecoder::Encoding::None;
 }
 
 bool BodyUnpacker::unpack(std::span<const char> bytes, const Sink& sink)
@@ -41,7 +38,7 @@ bool BodyUnpacker::unpack(std::span<const char> bytes, const Sink& sink)
         return false;
     }
     try {
-        if (m_decoder && m_decoder->decode(bytes, [&](std::span<const char> piece) { return take(piece, sink); })) {
+        if (m_decoder.decode(bytes, [&](std::span<const char> piece) { return take(piece, sink); })) {
             return true;
         }
     } catch (const std::bad_alloc&) {
@@ -71,7 +68,7 @@ bool BodyUnpacker::take(std::span<const char> piece, const Sink& sink)
 
 std::optional<Error> BodyUnpacker::error() const
 {
-    if (!m_error && m_decoder && !m_decoder->isComplete()) {
+    if (!m_error && !m_decoder.isComplete()) {
         return urlError(URLErrorCode::NetworkConnectionLost, "the body was cut");
     }
     return m_error;

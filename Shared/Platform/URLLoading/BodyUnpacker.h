@@ -25,8 +25,8 @@ public:
     /// HeldBytes).
     enum class WithoutRoom { Refuse, Wait };
 
-    /// The response's encoding must be a known one. Without a claim no bytes are counted as held: for a sink that keeps
-    /// nothing.
+    /// The response's body must be packed in a known way. Without a claim no bytes are counted as held: for a sink that
+    /// keeps nothing.
     BodyUnpacker(const URLResponse& response, std::optional<HeldBytes::Claim> claim,
                  WithoutRoom without = WithoutRoom::Refuse);
 
@@ -45,7 +45,7 @@ private:
     bool take(std::span<const char> piece, const Sink& sink);
 
     const TransferLimits m_limits;
-    std::optional<BodyDecoder> m_decoder;
+    BodyDecoder m_decoder;
     const std::optional<HeldBytes::Claim> m_claim;
     const WithoutRoom m_without;
     HeldBytes m_held;

@@ -20,6 +20,11 @@ bool prepare()
            curl_global_init(CURL_GLOBAL_DEFAULT) == CURLE_OK;
 }
 
+bool hasCloseNotice(const ssl_st* connection)
+{
+    return (SSL_get_shutdown(connection) & SSL_RECEIVED_SHUTDOWN) != 0;
+}
+
 std::uint64_t wireBytes(ssl_st* connection)
 {
     return BIO_number_read(SSL_get_rbio(connection));
@@ -29,7 +34,6 @@ std::uint64_t wireBytes(ssl_st* connection)
 
 const lodestar::CurlModule* lodestar_curl_module()
 {
-    using lodestar::CloseNotice;
     using lodestar::HandshakeHold;
     using lodestar::ServerCertificate;
     static constexpr lodestar::CurlModule module{
@@ -57,7 +61,7 @@ const lodestar::CurlModule* lodestar_curl_module()
         .urlSet = &curl_url_set,
         .prepare = &prepare,
         .certificateOfConnection = &ServerCertificate::ofConnection,
-        .noticeOfConnection = &CloseNotice::ofConnection,
+        .hasCloseNotice = &hasCloseNotice,
         .wireBytesOfConnection = &wireBytes,
         .secureConnection = &HandshakeHold::secureConnection,
     };

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Platform/URLLoading/CloseNotice.h"
 #include "Platform/URLLoading/HandshakeHold.h"
 #include "Platform/URLLoading/ServerCertificate.h"
 
@@ -46,7 +45,8 @@ struct CurlModule {
     /// Sets up the state that both libraries keep for the whole process. Call it once, before any other function.
     bool (*prepare)();
     decltype(&ServerCertificate::ofConnection) certificateOfConnection;
-    decltype(&CloseNotice::ofConnection) noticeOfConnection;
+    /// Whether the other end of a TLS connection has sent its close notice.
+    bool (*hasCloseNotice)(const ssl_st* connection);
     /// Bytes that a TLS connection has received since it was opened, TLS's own bytes included.
     std::uint64_t (*wireBytesOfConnection)(ssl_st* connection);
     decltype(&HandshakeHold::secureConnection) secureConnection;

@@ -122,8 +122,7 @@ std::optional<Origin> Origin::ofURL(const std::string& url)
     if (!scheme || !host || !port) {
         return std::nullopt;
     }
-    std::ranges::transform(*host, host->begin(),
-                           [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
+    std::ranges::transform(*host, host->begin(), &lowered);
     if (host->size() > 2 && host->front() == '[' && host->back() == ']') {
         *host = host->substr(1, host->size() - 2);
     }

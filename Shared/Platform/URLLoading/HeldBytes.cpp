@@ -94,11 +94,8 @@ void HeldBytes::Turn::giveBack()
 }
 
 HeldBytes::HeldBytes(HeldBytes&& other) noexcept
-    : m_server(std::move(other.m_server)),
-      m_count(std::exchange(other.m_count, 0)),
-      m_fair(std::exchange(other.m_fair, true)),
-      m_delivering(std::exchange(other.m_delivering, false))
 {
+    *this = std::move(other);
 }
 
 HeldBytes& HeldBytes::operator=(HeldBytes&& other) noexcept

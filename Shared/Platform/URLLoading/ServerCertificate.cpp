@@ -6,25 +6,10 @@
 #include <openssl/x509_vfy.h>
 #include <openssl/x509v3.h>
 
+#include <memory>
+
 namespace lodestar
 {
-
-class ServerCertificate::PresentedChain final : public Chain
-{
-public:
-    PresentedChain() = default;
-    ~PresentedChain() override
-    {
-        X509_free(leaf);
-        sk_X509_pop_free(others, X509_free);
-    }
-    PresentedChain(const PresentedChain&) = delete;
-    PresentedChain& operator=(const PresentedChain&) = delete;
-    std::string systemObjection(const std::string& host) const override;
-
-    X509* leaf = nullptr;
-    STACK_OF(X509) * others = nullptr;
-};
 
 namespace
 {
@@ -51,31 +36,7 @@ bool expectHost(X509_VERIFY_PARAM* parameters, const std::string& host)
     return X509_VERIFY_PARAM_set1_host(parameters, host.data(), host.size()) == 1;
 }
 
-} // namespace
-
-std::optional<ServerCertificate> ServerCertificate::ofConnection(const ssl_st* connection, std::string host, int port)
-{
-    if (connection == nullptr) {
-        return std::nullopt;
-    }
-    auto chain = std::make_shared<PresentedChain>();
-    chain->leaf = SSL_get1_peer_certificate(connection);
-    ServerCertificate certificate;
-    unsigned int length = 0;
-    if (chain->leaf == nullptr || X509_digest(chain->leaf, EVP_sha256(), certificate.m_leaf.data(), &length) != 1 ||
-        length != certificate.m_leaf.size()) {
-        return std::nullopt;
-    }
-    if (STACK_OF(X509)* presented = SSL_get_peer_cert_chain(connection); presented != nullptr) {
-        chain->others = X509_chain_up_ref(presented);
-    }
-    certificate.m_chain = std::move(chain);
-    certificate.m_host = std::move(host);
-    certificate.m_port = port;
-    return certificate;
-}
-
-std::string ServerCertificate::PresentedChain::systemObjection(const std::string& host) const
+std::string objection(X509* leaf, STACK_OF(X509) * others, const std::string& host)
 {
     const std::unique_ptr<X509_STORE_CTX, void (*)(X509_STORE_CTX*)> context(X509_STORE_CTX_new(), X509_STORE_CTX_free);
     X509_STORE* const authorities = systemAuthorities();
@@ -89,6 +50,31 @@ std::string ServerCertificate::PresentedChain::systemObjection(const std::string
         return {};
     }
     return X509_verify_cert_error_string(X509_STORE_CTX_get_error(context.get()));
+}
+
+} // namespace
+
+std::optional<ServerCertificate> ServerCertificate::ofConnection(const ssl_st* connection, std::string host, int port)
+{
+    if (connection == nullptr) {
+        return std::nullopt;
+    }
+    const std::shared_ptr<X509> leaf(SSL_get1_peer_certificate(connection), X509_free);
+    ServerCertificate certificate;
+    unsigned int length = 0;
+    if (leaf == nullptr || X509_digest(leaf.get(), EVP_sha256(), certificate.m_leaf.data(), &length) != 1 ||
+        length != certificate.m_leaf.size()) {
+        return std::nullopt;
+    }
+    STACK_OF(X509)* const presented = SSL_get_peer_cert_chain(connection);
+    const std::shared_ptr<STACK_OF(X509)> others(presented != nullptr ? X509_chain_up_ref(presented) : nullptr,
+                                                 [](STACK_OF(X509) * chain) { sk_X509_pop_free(chain, X509_free); });
+    certificate.m_objection = [leaf, others](const std::string& name) {
+        return objection(leaf.get(), others.get(), name);
+    };
+    certificate.m_host = std::move(host);
+    certificate.m_port = port;
+    return certificate;
 }
 
 } // namespace lodestar

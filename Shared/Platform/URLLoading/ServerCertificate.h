@@ -3,7 +3,7 @@
 
 #include "Platform/URLLoading/ServerTrust.h"
 
-#include <memory>
+#include <functional>
 #include <optional>
 #include <string>
 
@@ -25,22 +25,14 @@ public:
     const ServerTrust::Fingerprint& leaf() const { return m_leaf; }
     /// Asks the system's authorities about the chain, its dates and the host's name. Empty means that they accept; any
     /// other text is the reason against. Costs the verification of a chain.
-    std::string systemObjection() const { return m_chain->systemObjection(m_host); }
+    std::string systemObjection() const { return m_objection(m_host); }
 
 private:
-    class Chain
-    {
-    public:
-        virtual ~Chain() = default;
-        virtual std::string systemObjection(const std::string& host) const = 0;
-    };
-    class PresentedChain;
-
     ServerCertificate() = default;
     std::string m_host;
     int m_port = 0;
     ServerTrust::Fingerprint m_leaf{};
-    std::shared_ptr<const Chain> m_chain;
+    std::function<std::string(const std::string& host)> m_objection; ///< keeps the chain alive
 };
 
 } // namespace lodestar

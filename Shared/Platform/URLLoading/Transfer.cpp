@@ -4,7 +4,6 @@
 #include "Platform/Queues/ThreadPool.h"
 #include "Platform/URLLoading/BodyDecoder.h"
 #include "Platform/URLLoading/Redirect.h"
-#include "Platform/URLLoading/URLError.h"
 
 #include <algorithm>
 #include <charconv>
@@ -85,6 +84,7 @@ bool Transfer::prepareHop(std::optional<ConnectionHandle> ahead)
 {
     m_response = {};
     m_inBody = false;
+    m_hasCloseNotice = false;
     m_origin = Origin::ofURL(m_request.url);
     if (m_origin && ahead) {
         m_connection = std::move(*ahead);
@@ -99,22 +99,13 @@ bool Transfer::prepareHop(std::optional<ConnectionHandle> ahead)
     }
     CURL* const easy = m_connection.easy.get();
     m_headers = curlHeaders(m_request);
-    curl().easySetopt(easy, CURLOPT_PRIVATE, this);
     curl().easySetopt(easy, CURLOPT_HTTPHEADER, m_headers.get());
     if (m_request.method != "GET" || !m_request.body.empty()) {
         curl().easySetopt(easy, CURLOPT_POSTFIELDSIZE_LARGE, static_cast<curl_off_t>(m_request.body.size()));
         curl().easySetopt(easy, CURLOPT_POSTFIELDS, m_request.body.data());
         curl().easySetopt(easy, CURLOPT_CUSTOMREQUEST, m_request.method.c_str());
     }
-    curl().easySetopt(easy, CURLOPT_PREREQFUNCTION, &Transfer::prerequest);
-    curl().easySetopt(easy, CURLOPT_PREREQDATA, this);
-    curl().easySetopt(easy, CURLOPT_HEADERFUNCTION, &Transfer::header);
-    curl().easySetopt(easy, CURLOPT_HEADERDATA, this);
-    curl().easySetopt(easy, CURLOPT_WRITEFUNCTION, &Transfer::body);
-    curl().easySetopt(easy, CURLOPT_WRITEDATA, this);
-    curl().easySetopt(easy, CURLOPT_NOPROGRESS, 0L);
-    curl().easySetopt(easy, CURLOPT_XFERINFOFUNCTION, &Transfer::progress);
-    curl().easySetopt(easy, CURLOPT_XFERINFODATA, this);
+    setCallbacks();
     const bool fresh = std::exchange(m_needsFreshConnection, false) || m_client->wantsFreshHandshake(*m_origin);
     curl().easySetopt(easy, CURLOPT_FRESH_CONNECT, fresh ? 1L : 0L);
     return true;
@@ -158,7 +149,7 @@ bool Transfer::bodyIsWhole() const
 {
     const bool delimited = m_response.headers.value("Content-Length") || m_response.headers.value("Transfer-Encoding");
     const bool bodiless = m_response.statusCode == 204 || m_response.statusCode == 304;
-    return delimited || bodiless || m_closeNotice == nullptr || m_closeNotice->received;
+    return delimited || bodiless || m_hasCloseNotice;
 }
 
 void Transfer::fail(URLErrorCode code)
@@ -207,17 +198,13 @@ Transfer::Clock::time_point Transfer::deadline() const
 bool Transfer::connectionReady()
 {
     m_lastProgress = Clock::now();
-    curl_tlssessioninfo* session = nullptr;
-    curl().easyGetinfo(m_connection.easy.get(), CURLINFO_TLS_SSL_PTR, &session);
     long connections = 0;
     curl().easyGetinfo(m_connection.easy.get(), CURLINFO_NUM_CONNECTS, &connections);
-    auto* const connection = session != nullptr ? static_cast<ssl_st*>(session->internals) : nullptr;
-    const auto certificate = curl().certificateOfConnection(connection, m_origin->host, m_origin->port);
+    const auto certificate = curl().certificateOfConnection(connection(), m_origin->host, m_origin->port);
     if (!certificate) {
         refuse(URLErrorCode::SecureConnectionFailed, "the server presented no certificate");
         return false;
     }
-    m_closeNotice = curl().noticeOfConnection(connection);
     m_unseenBefore = wireBytes() - static_cast<std::int64_t>(m_received);
     m_madeConnection = m_madeConnection || connections > 0;
     const Handshake handshake = connections > 0 ? Handshake::Fresh : Handshake::Reused;
@@ -271,7 +258,7 @@ bool Transfer::headersComplete()
     m_bodyBytes = 0;
     m_held.reset();
     const std::string encoding = m_response.headers.value("Content-Encoding").value_or("");
-    if (!BodyDecoder::knows(encoding)) {
+    if (BodyDecoder::encodingNamed(encoding) == BodyDecoder::Encoding::Unknown) {
         refuse(URLErrorCode::BadServerResponse, "unknown content encoding");
         return false;
     }
@@ -373,13 +360,27 @@ void Transfer::refuseForRoom()
     refuse(URLErrorCode::DataLengthExceedsMaximum, "too many bytes are held");
 }
 
-std::int64_t Transfer::wireBytes() const
+/// Null while there is none.
+ssl_st* Transfer::connection() const
 {
     curl_tlssessioninfo* session = nullptr;
     curl().easyGetinfo(m_connection.easy.get(), CURLINFO_TLS_SSL_PTR, &session);
-    return session != nullptr && session->internals != nullptr
-               ? static_cast<std::int64_t>(curl().wireBytesOfConnection(static_cast<ssl_st*>(session->internals)))
-               : 0;
+    return session != nullptr ? static_cast<ssl_st*>(session->internals) : nullptr;
+}
+
+std::int64_t Transfer::wireBytes() const
+{
+    ssl_st* const open = connection();
+    return open != nullptr ? static_cast<std::int64_t>(curl().wireBytesOfConnection(open)) : 0;
+}
+
+/// libcurl takes any end of the stream for the end of a body without a length; only the notice tells a whole body from
+/// a cut one. Looks while libcurl still has the connection: at the end of the transfer it has closed the connection.
+void Transfer::noteCloseNotice()
+{
+    if (const ssl_st* const open = m_inBody ? connection() : nullptr; open != nullptr) {
+        m_hasCloseNotice = curl().hasCloseNotice(open);
+    }
 }
 
 /// A chunk's extension may be endless, and libcurl reports none of its bytes.
@@ -395,51 +396,6 @@ bool Transfer::framingIsBounded()
     }
     refuse(URLErrorCode::DataLengthExceedsMaximum, "too many bytes around the body");
     return false;
-}
-
-/// No exception may pass through libcurl. The only one that can occur is a lack of memory for bytes from a server.
-template <typename Work>
-bool Transfer::guarded(Work work)
-{
-    try {
-        return work();
-    } catch (const std::exception&) {
-        refuse(URLErrorCode::DataLengthExceedsMaximum, "out of memory");
-        return false;
-    }
-}
-
-int Transfer::prerequest(void* self, char*, char*, int, int)
-{
-    auto& transfer = *static_cast<Transfer*>(self);
-    return transfer.guarded([&] { return transfer.connectionReady(); }) ? CURL_PREREQFUNC_OK : CURL_PREREQFUNC_ABORT;
-}
-
-std::size_t Transfer::header(char* bytes, std::size_t size, std::size_t count, void* self)
-{
-    auto& transfer = *static_cast<Transfer*>(self);
-    return transfer.guarded([&] { return transfer.headerLine({bytes, size * count}); }) ? size * count : 0;
-}
-
-std::size_t Transfer::body(char* bytes, std::size_t size, std::size_t count, void* self)
-{
-    auto& transfer = *static_cast<Transfer*>(self);
-    if (transfer.guarded([&] { return transfer.bodyBytes({bytes, size * count}); })) {
-        return size * count;
-    }
-    return transfer.m_paused ? CURL_WRITEFUNC_PAUSE : 0;
-}
-
-int Transfer::progress(void* self, curl_off_t, curl_off_t, curl_off_t, curl_off_t sent)
-{
-    auto& transfer = *static_cast<Transfer*>(self);
-    const auto goesOn = [&] {
-        if (transfer.m_request.bodySent) {
-            transfer.m_request.bodySent(static_cast<std::size_t>(sent));
-        }
-        return transfer.framingIsBounded();
-    };
-    return transfer.guarded(goesOn) ? 0 : 1;
 }
 
 } // namespace lodestar

@@ -1,13 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Platform/Error.h"
-#include "Platform/URLLoading/CloseNotice.h"
 #include "Platform/URLLoading/ConnectionHandle.h"
 #include "Platform/URLLoading/HeldBytes.h"
 #include "Platform/URLLoading/ServerCertificate.h"
 #include "Platform/URLLoading/TransferLimits.h"
-#include "Platform/URLLoading/URLErrorCode.h"
+#include "Platform/URLLoading/URLError.h"
 #include "Platform/URLLoading/URLRequest.h"
 
 #include <chrono>
@@ -116,11 +114,13 @@ private:
     bool bodyBytes(std::span<const char> bytes);
     bool hasRoom(std::size_t bytes);
     std::size_t nextStep() const;
+    ssl_st* connection() const;
     std::int64_t wireBytes() const;
+    void noteCloseNotice();
     bool framingIsBounded();
+    void setCallbacks();
     template <typename Work>
     bool guarded(Work work);
-
     static int prerequest(void* self, char*, char*, int, int);
     static std::size_t header(char* bytes, std::size_t size, std::size_t count, void* self);
     static std::size_t body(char* bytes, std::size_t size, std::size_t count, void* self);
@@ -161,8 +161,8 @@ private:
     bool m_inHeaders = false;
     bool m_inBody = false;            ///< true while the hop's last response brings its body
     std::optional<URLRequest> m_next; ///< set when the current response is a redirect to follow
-    std::shared_ptr<const CloseNotice> m_closeNotice;
-    std::optional<Error> m_refusal; ///< the reason when one of our callbacks stopped libcurl
+    bool m_hasCloseNotice = false;    ///< the server has said that it sends no more
+    std::optional<Error> m_refusal;   ///< the reason when one of our callbacks stopped libcurl
 };
 
 } // namespace lodestar

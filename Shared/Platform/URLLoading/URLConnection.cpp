@@ -3,12 +3,13 @@
 
 #include "Platform/URLLoading/BodyUnpacker.h"
 #include "Platform/URLLoading/NetworkThread.h"
-#include "Platform/URLLoading/Strand.h"
 #include "Platform/URLLoading/Transfer.h"
 #include "Platform/URLLoading/URLError.h"
 
 #include <atomic>
 #include <cassert>
+#include <mutex>
+#include <vector>
 
 namespace lodestar
 {
@@ -39,7 +40,7 @@ private:
 };
 
 /// The connection that users hold; also the transfer's client. The transfer keeps it alive while the network works for
-/// it. The blocks on the strand keep it alive until its delegate has heard the end.
+/// it. The waiting calls keep it alive until its delegate has heard the end.
 class Connection final : public URLConnection, public TransferClient
 {
 public:
@@ -51,8 +52,7 @@ public:
     void setDelegateQueue(const OperationQueue& queue) override { m_queue = queue; }
     void start() override
     {
-        assert(m_strand == nullptr);
-        m_strand = std::make_shared<Strand>(m_queue);
+        assert(m_transfer == nullptr);
         m_transfer = std::make_shared<Transfer>(std::move(m_request), self());
         NetworkThread::shared().start(m_transfer);
     }
@@ -68,7 +68,7 @@ public:
         const bool known =
             ServerTrust::shared().isRemembered(certificate.host(), certificate.port(), certificate.leaf());
         if (handshake == Handshake::Fresh || !known) {
-            m_strand->post([self = self(), certificate] { self->challengeDelegate(certificate); });
+            post([self = self(), certificate] { self->challengeDelegate(certificate); });
         }
         return true;
     }
@@ -78,25 +78,27 @@ public:
     }
     void didReceiveResponse(const URLResponse& response) override
     {
-        m_strand->post([self = self(), response] {
+        post([self = self(), response] {
             if (!self->m_failure) {
-                self->m_unpacker.emplace(response, HeldBytes::Claim::Whole);
-                self->m_isPacked = BodyUnpacker::isNeeded(response);
+                self->m_unpacker.reset();
+                if (BodyUnpacker::isNeeded(response)) {
+                    self->m_unpacker.emplace(response, HeldBytes::Claim::Whole);
+                }
                 self->m_delegate->didReceiveResponse(response);
             }
         });
     }
     void didReceiveData(std::span<const char> data) override
     {
-        m_strand->post([self = self(), bytes = std::string(data.data(), data.size())] { self->tellData(bytes); });
+        post([self = self(), bytes = std::string(data.data(), data.size())] { self->tellData(bytes); });
     }
     void didEnd(std::optional<Error> error, HeldBytes held) override
     {
         held.setDelivering();
-        m_strand->post([self = self(), error = std::move(error), held = std::move(held)] {
+        post([self = self(), error = std::move(error), held = std::move(held)] {
             if (!self->m_failure && error) {
                 self->m_failure = error;
-            } else if (!self->m_failure && self->m_isPacked) {
+            } else if (!self->m_failure && self->m_unpacker) {
                 self->m_failure = self->m_unpacker->error();
             }
             if (self->m_failure) {
@@ -111,6 +113,38 @@ public:
 
 private:
     std::shared_ptr<Connection> self() { return std::static_pointer_cast<Connection>(shared_from_this()); }
+
+    /// Has the call to the delegate made on its queue: one call at a time, in order.
+    void post(Task call)
+    {
+        {
+            const std::lock_guard lock(m_mutex);
+            m_calls.push_back(std::move(call));
+            if (std::exchange(m_isCalling, true)) {
+                return;
+            }
+        }
+        m_queue.addOperation([self = self()] { self->makeCalls(); });
+    }
+    void makeCalls()
+    {
+        std::vector<Task> calls;
+        for (;;) {
+            {
+                const std::lock_guard lock(m_mutex);
+                calls.clear();
+                calls.swap(m_calls);
+                if (calls.empty()) {
+                    m_isCalling = false;
+                    return;
+                }
+            }
+            for (Task& call : calls) {
+                call();
+                call.reset();
+            }
+        }
+    }
 
     void challengeDelegate(const ServerCertificate& certificate)
     {
@@ -128,7 +162,7 @@ private:
         if (m_failure) {
             return;
         }
-        if (!m_isPacked) {
+        if (!m_unpacker) {
             m_delegate->didReceiveData(bytes);
         } else if (!m_unpacker->unpack(bytes,
                                        [this](std::span<const char> piece) { m_delegate->didReceiveData(piece); })) {
@@ -142,14 +176,15 @@ private:
     }
 
     URLRequest m_request;
-    std::shared_ptr<URLConnectionDelegate> m_delegate; ///< only the strand uses it, once started
     OperationQueue m_queue;
-    std::shared_ptr<Strand> m_strand;
     std::shared_ptr<Transfer> m_transfer;
-    // Only the strand uses the members below.
-    std::optional<BodyUnpacker> m_unpacker; ///< unpacks the last response's body
-    bool m_isPacked = false;
-    std::optional<Error> m_failure; ///< once set, the delegate hears only of the end
+    std::mutex m_mutex;
+    std::vector<Task> m_calls;
+    bool m_isCalling = false;
+    // Once started, only calls use the members below.
+    std::shared_ptr<URLConnectionDelegate> m_delegate;
+    std::optional<BodyUnpacker> m_unpacker; ///< unpacks the last response's body, if it is packed
+    std::optional<Error> m_failure;         ///< once set, the delegate hears only of the end
 };
 
 } // namespace

@@ -9,11 +9,6 @@ namespace lodestar
 namespace
 {
 
-char lowered(char c)
-{
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 bool sameName(std::string_view a, std::string_view b)
 {
     return std::ranges::equal(a, b, [](char x, char y) { return lowered(x) == lowered(y); });

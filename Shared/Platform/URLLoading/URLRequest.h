@@ -14,6 +14,12 @@
 namespace lodestar
 {
 
+/// ASCII's capitals in lower case, in every locale: what header fields, encodings and hosts are compared by.
+constexpr char lowered(char c)
+{
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
 /// Header fields in the order in which they were set. Names compare without regard to case.
 class HTTPHeaders
 {
