@@ -2,7 +2,7 @@
 #include "Application/OneInstance.h"
 
 #include "Feedback/VireoLogger.h"
-#include "Platform/FolderLock.h"
+#include "Platform/PrivateFile.h"
 
 #include <QLocalSocket>
 

@@ -2,8 +2,10 @@
 #pragma once
 
 #include <functional>
+#include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 namespace lodestar
 {
@@ -22,9 +24,10 @@ public:
     void postNotification(const std::string& name);
 
 private:
-    NotificationCenter();
-    struct State;
-    std::shared_ptr<State> m_state;
+    NotificationCenter() = default;
+
+    using Observer = std::shared_ptr<const std::function<void()>>;
+    std::map<std::string, std::vector<Observer>> m_observers;
 };
 
 } // namespace lodestar

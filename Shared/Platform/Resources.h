@@ -9,13 +9,13 @@
 namespace lodestar
 {
 
-/// The application package's read-only files. Implementations are thread-safe.
+/// The application package's read-only files. This class has none. Implementations are thread-safe.
 class Resources
 {
 public:
     virtual ~Resources() = default;
     /// The whole file `name.extension` at the package's top level; none when there is no such file.
-    virtual std::optional<std::string> contents(const std::string& name, const std::string& extension) const = 0;
+    virtual std::optional<std::string> contents(const std::string& name, const std::string& extension) const;
     /// The names of the files in a folder at the package's top level, in no particular order; none when there is no
     /// such folder or it cannot be read.
     virtual std::optional<std::vector<std::string>> filesInFolder(const std::string& folder) const;
@@ -26,8 +26,5 @@ public:
     static Resources& main();
     static void install(std::unique_ptr<Resources> resources);
 };
-
-/// Resources read from a folder, whose path is used as given.
-std::unique_ptr<Resources> makeFolderResources(std::string folder);
 
 } // namespace lodestar

@@ -15,13 +15,7 @@ namespace
 class MemoryUserDefaults final : public UserDefaults
 {
 public:
-    bool boolForKey(const std::string& key) const override
-    {
-        const std::lock_guard lock(m_mutex);
-        const auto found = m_values.find(key);
-        const bool* value = found == m_values.end() ? nullptr : std::get_if<bool>(&found->second);
-        return value != nullptr && *value;
-    }
+    bool boolForKey(const std::string& key) const override { return valueOf<bool>(key).value_or(false); }
 
     void setBool(bool value, const std::string& key) override
     {
@@ -29,13 +23,7 @@ public:
         m_values.insert_or_assign(key, value);
     }
 
-    std::optional<std::string> stringForKey(const std::string& key) const override
-    {
-        const std::lock_guard lock(m_mutex);
-        const auto found = m_values.find(key);
-        const std::string* value = found == m_values.end() ? nullptr : std::get_if<std::string>(&found->second);
-        return value == nullptr ? std::nullopt : std::optional(*value);
-    }
+    std::optional<std::string> stringForKey(const std::string& key) const override { return valueOf<std::string>(key); }
 
     void setString(const std::string& value, const std::string& key) override
     {
@@ -63,6 +51,15 @@ public:
     bool synchronize() override { return true; }
 
 private:
+    template <typename Value>
+    std::optional<Value> valueOf(const std::string& key) const
+    {
+        const std::lock_guard lock(m_mutex);
+        const auto found = m_values.find(key);
+        const Value* value = found == m_values.end() ? nullptr : std::get_if<Value>(&found->second);
+        return value == nullptr ? std::nullopt : std::optional(*value);
+    }
+
     mutable std::mutex m_mutex;
     std::map<std::string, std::variant<bool, std::string>> m_values;
 };

@@ -1,24 +1,100 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Platform/FolderLock.h"
 #include "Platform/NotificationCenter.h"
-#include "Platform/Resources.h"
-#include "Platform/UserDefaults.h"
+#include "Platform/PrivateFile.h"
+#include "Platform/UtcStamp.h"
 #include "Tests/Support/ScratchFolder.h"
-#include "Tests/Support/StoredPassword.h"
 
 #include <gmock/gmock.h>
 
+#include <cerrno>
+#include <limits>
 #include <sys/stat.h>
 #include <sys/wait.h>
-#include <thread>
 #include <unistd.h>
 
 namespace lodestar
 {
 
+using testing::AllOf;
 using testing::ElementsAre;
-using testing::IsEmpty;
-using testing::UnorderedElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+namespace
+{
+
+mode_t modeOf(const std::string& path)
+{
+    struct stat status = {};
+    EXPECT_EQ(::stat(path.c_str(), &status), 0) << path;
+    return status.st_mode & 07777U;
+}
+
+} // namespace
+
+TEST(PrivateFile, EveryNewFolderIsPrivateAndThoseThereAreLeftUnlessTheyAreOurs)
+{
+    const ScratchFolder scratch;
+    const std::string shared = scratch.file("shared");
+    const mode_t former = ::umask(0);
+    ASSERT_EQ(::mkdir(shared.c_str(), 0755), 0);
+    EXPECT_TRUE(makePrivateFolder(shared + "/a/b/"));
+    ::umask(former);
+    EXPECT_EQ(modeOf(shared + "/a"), 0700U);
+    EXPECT_EQ(modeOf(shared + "/a/b"), 0700U);
+    EXPECT_TRUE(makePrivateFolder(shared));
+    EXPECT_EQ(modeOf(shared), 0755U);
+    EXPECT_TRUE(makePrivateFolder(shared, FolderThere::Tightened));
+    EXPECT_EQ(modeOf(shared), 0700U);
+
+    ASSERT_TRUE(writePrivateFile(shared + "/file", "mine"));
+    for (const char* const path : {"/file", "/file/below"}) {
+        const Result<void> made = makePrivateFolder(shared + path);
+        ASSERT_FALSE(made.ok()) << path;
+        EXPECT_EQ(made.error().code, ENOTDIR) << path;
+    }
+    EXPECT_FALSE(makePrivateFolder("").ok());
+}
+
+TEST(PrivateFile, IsNeverReplacedAndIsReadBoundedAtEitherEnd)
+{
+    const ScratchFolder scratch;
+    const std::string path = scratch.file("kept.txt");
+    const mode_t former = ::umask(0);
+    ASSERT_TRUE(writePrivateFile(path, "0123456789"));
+    ::umask(former);
+    EXPECT_EQ(modeOf(path), 0600U);
+    const Result<void> again = writePrivateFile(path, "second");
+    ASSERT_FALSE(again.ok());
+    EXPECT_EQ(again.error().code, EEXIST);
+    EXPECT_THAT(again.error().localizedDescription,
+                AllOf(HasSubstr("kept.txt cannot be written"), Not(HasSubstr(scratch.path().string()))));
+
+    EXPECT_EQ(readPrivateFile(path, 4).value(), "0123");
+    EXPECT_EQ(readPrivateFile(path, 4, FilePart::End).value(), "6789");
+    EXPECT_EQ(readPrivateFile(path, 100, FilePart::End).value(), "0123456789");
+    std::filesystem::create_symlink(path, scratch.path() / "link");
+    ASSERT_EQ(::mkfifo(scratch.file("pipe").c_str(), 0600), 0);
+    for (const char* const name : {"link", "pipe", "", "absent"}) {
+        EXPECT_FALSE(readPrivateFile(scratch.file(name), 4).ok()) << name;
+    }
+}
+
+TEST(UtcStamp, HasEveryDigitAndTellsTimesOfNoYearAsZero)
+{
+    EXPECT_EQ(utcStamp(1717060364), "2024-05-30T09:12:44Z");
+    EXPECT_EQ(utcStamp(253402300799), "9999-12-31T23:59:59Z");
+    for (const std::time_t outside : {std::time_t{253402300800}, std::numeric_limits<std::time_t>::max(),
+                                      std::numeric_limits<std::time_t>::min()}) {
+        EXPECT_EQ(utcStamp(outside), "1970-01-01T00:00:00Z") << outside;
+    }
+    using namespace std::chrono;
+    std::string line = "at ";
+    appendUtcStamp(line, system_clock::from_time_t(1717060364) + milliseconds(7) + microseconds(999));
+    appendUtcStamp(line, system_clock::from_time_t(0) - milliseconds(1));
+    EXPECT_EQ(line, "at 2024-05-30T09:12:44.007Z1969-12-31T23:59:59.999Z");
+}
+
 TEST(Services, AFolderIsClaimedOnceAndGivenBackWhenItsProcessEnds)
 {
     const ScratchFolder folder;
@@ -48,25 +124,6 @@ TEST(Services, ALinkIsNoLockAndAFolderOfSomebodyElseIsNotClaimed)
     }
     EXPECT_EQ(claimFolder(::geteuid() == 0 ? folder.path() : "/"), FolderClaim::Foreign);
 }
-TEST(Services, ObserversRunInOrderOnlyForTheirNameAndOnlyWhileObserving)
-{
-    NotificationCenter& center = NotificationCenter::defaultCenter();
-    std::vector<int> calls;
-    auto first = center.addObserver("StatusWillShow", [&] { calls.push_back(1); });
-    auto second = center.addObserver("StatusWillShow", [&] { calls.push_back(2); });
-    const auto other = center.addObserver("StatusShouldHide", [&] { calls.push_back(3); });
-    EXPECT_TRUE(first);
-    center.postNotification("StatusWillShow");
-    center.postNotification("nobody listens");
-    EXPECT_THAT(calls, ElementsAre(1, 2));
-    first.reset();
-    center.postNotification("StatusWillShow");
-    EXPECT_THAT(calls, ElementsAre(1, 2, 2));
-    second.reset();
-    center.postNotification("StatusWillShow");
-    center.postNotification("StatusShouldHide");
-    EXPECT_THAT(calls, ElementsAre(1, 2, 2, 3));
-}
 
 TEST(Services, ObserversThatComeAndGoWhileANotificationIsPostedCountFromTheNext)
 {
@@ -92,4 +149,18 @@ TEST(Services, ObserversThatComeAndGoWhileANotificationIsPostedCountFromTheNext)
     center.postNotification("change");
     EXPECT_THAT(calls, ElementsAre("changer", "coming"));
 }
+
+TEST(ErrorTests, DescriptionsLeaveOutWhatIsEmptyAndAlwaysTellSomething)
+{
+    EXPECT_EQ(description({"URLError", 28, "", "", nullptr}), "URLError 28");
+    EXPECT_EQ(description({"", 0, "", "why", nullptr}), "(why)");
+    const auto below = std::make_shared<const Error>(Error{"ObjectStore", 11, "malformed", "", nullptr});
+    EXPECT_EQ(description({"URLError", -3, "Timed\nout", "idle\r\nfor long", below}),
+              "URLError -3: Timed out (idle  for long; underlying: ObjectStore 11: malformed)");
+    const std::string failed = "The operation couldn\u2019t be completed. ";
+    EXPECT_EQ(shownDescription({"RXPromise", -1000, {}, {}, nullptr}), failed + "(RXPromise error -1000.)");
+    EXPECT_EQ(shownDescription({"RXPromise", -1000, {}, "No answer.", nullptr}), failed + "No answer.");
+    EXPECT_EQ(shownDescription({"URLError", -1001, "It timed out.", "why", nullptr}), "It timed out.");
+}
+
 } // namespace lodestar

@@ -212,7 +212,7 @@ protected:
         return static_cast<URLErrorCode>(load.error().code);
     }
 
-    OperationQueue m_queue{"transport tests"};
+    OperationQueue m_queue;
 
 private:
     TransferLimits m_limits;

@@ -37,7 +37,7 @@ TEST_F(CorvelRequestTest, ReachesAConsoleThatNobodyVouchesForAndSaysSo)
 {
     URLRequest request;
     request.url = "https://" + host + "/rest/api/uom/Group";
-    const OperationQueue queue("requests");
+    const OperationQueue queue;
     std::atomic<int> status = 0;
     auto corvelRequest = std::make_shared<CorvelRequest>();
     const std::weak_ptr<CorvelRequest> watched = corvelRequest;

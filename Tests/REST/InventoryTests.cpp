@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Fleet/Registry.h"
-#include "Platform/Resources.h"
 #include "Tests/REST/RESTHandlerFixture.h"
 #include "XML/KeptBytes.h"
 
@@ -137,7 +136,7 @@ TEST_F(InventoryTest, SwappedCertificateCostsTheFeedsUntilTheNextLogon)
 
 TEST_F(InventoryTest, DemoConsoleReadsThePackageAndNeverTheNetwork)
 {
-    Resources::install(makeFolderResources(LODESTAR_DEMO_FOLDER));
+    Resources::install(std::make_unique<DemoFolder>());
     corvel->setDemo(true);
     EXPECT_EQ(settled(fetchInventory(corvel)).value(), "OK");
     EXPECT_TRUE(corvel->isOnline);
@@ -153,9 +152,9 @@ TEST_F(InventoryTest, DemoConsoleReadsThePackageAndNeverTheNetwork)
     const auto metrics = handler().fetchPCMDataForManagedSystem(std::nullopt, corvel, "OK");
     ASSERT_TRUE(metrics.isFulfilled());
     EXPECT_EQ(metrics.result()->value().root().path({"systemUtil", "utilSamples"}).elements().size(), 240U);
-    Resources::install(makeFolderResources("/nowhere"));
+    Resources::install(nullptr);
     EXPECT_TRUE(handler().fetchPCMDataForManagedSystem(std::nullopt, corvel, "OK").isRejected());
-    Resources::install(makeFolderResources(LODESTAR_DEMO_FOLDER));
+    Resources::install(std::make_unique<DemoFolder>());
 }
 
 TEST_F(InventoryTest, LinkedValueIsFetchedOnTheCallersThread)

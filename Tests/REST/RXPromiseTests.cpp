@@ -91,7 +91,7 @@ TEST_F(RXPromiseStoreTests, EachContextRunsItsHandlers)
     MainQueue::shared().adoptCurrentThread();
     const std::unique_ptr<ObjectContext> context = open();
     const DispatchQueue serial("serial", DispatchQueue::Kind::Serial);
-    const OperationQueue operations("operations");
+    const OperationQueue operations;
     std::promise<bool> onDefault;
     std::promise<bool> onSerial;
     std::promise<bool> onOperations;
@@ -113,9 +113,9 @@ TEST_F(RXPromiseStoreTests, EachContextRunsItsHandlers)
 
 TEST(RXPromiseTests, RegistrationOrderIsTheOrderOfRunning)
 {
-    const std::vector<ExecutionContext> contexts{
-        ExecutionContext::defaultContext(), DispatchQueue("serial", DispatchQueue::Kind::Serial),
-        OperationQueue("operations"), DispatchQueue("concurrent", DispatchQueue::Kind::Concurrent)};
+    const std::vector<ExecutionContext> contexts{ExecutionContext::defaultContext(),
+                                                 DispatchQueue("serial", DispatchQueue::Kind::Serial), OperationQueue(),
+                                                 DispatchQueue("concurrent", DispatchQueue::Kind::Concurrent)};
     constexpr int handlers = 24;
     // One context for all handlers of a round, and in the last kind of round another for each.
     for (std::size_t round = 0; round < 1000; ++round) {

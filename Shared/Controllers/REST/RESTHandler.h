@@ -74,7 +74,7 @@ private:
     RESTHandler();
     ~RESTHandler() = default;
 
-    OperationQueue m_queue{"RESTHandler"};
+    OperationQueue m_queue;
     std::vector<CorvelRef> m_corvelList;
     mutable std::mutex m_snapshotMutex; ///< held only while a pointer is copied: the dashboard polls the list
     std::shared_ptr<const std::vector<CorvelRef>> m_snapshot;

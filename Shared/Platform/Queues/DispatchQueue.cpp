@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/Queues/DispatchQueue.h"
 
-#include "Platform/Queues/Ring.h"
 #include "Platform/Queues/ThreadPool.h"
 
 #include <cassert>
 #include <condition_variable>
+#include <deque>
 #include <mutex>
 #include <utility>
 
@@ -51,7 +51,7 @@ struct DispatchQueue::State final : ThreadPool::Owner, std::enable_shared_from_t
     const Kind kind;
     // A serial queue's.
     std::mutex mutex;
-    Ring<Item> pending;
+    std::deque<Item> pending;
     bool isBusy = false;
 };
 
@@ -60,7 +60,7 @@ void DispatchQueue::State::async(Task block)
     if (kind == Kind::Serial) {
         const std::lock_guard lock(mutex);
         if (std::exchange(isBusy, true)) {
-            pending.push({std::move(block)});
+            pending.push_back({std::move(block)});
             return;
         }
     }
@@ -77,7 +77,7 @@ void DispatchQueue::State::sync(Task block)
         std::unique_lock lock(mutex);
         if (std::exchange(isBusy, true)) {
             Turn turn;
-            pending.push({Task(), &turn});
+            pending.push_back({Task(), &turn});
             turn.condition.wait(lock, [&] { return turn.granted; });
         }
     }
@@ -122,7 +122,8 @@ bool DispatchQueue::State::takeNext(Task& block)
     if (!isBusy) {
         return false;
     }
-    Item item = pending.pop();
+    Item item = std::move(pending.front());
+    pending.pop_front();
     if (item.turn != nullptr) {
         item.turn->granted = true;
         item.turn->condition.notify_one();

@@ -2,17 +2,17 @@
 #include "Platform/Queues/MainQueue.h"
 
 #include "Platform/Queues/OwnThread.h"
-#include "Platform/Queues/Ring.h"
 
 #include <algorithm>
 #include <atomic>
 #include <condition_variable>
 #include <cstdint>
+#include <deque>
+#include <map>
 #include <memory>
 #include <mutex>
 #include <thread>
 #include <utility>
-#include <vector>
 
 namespace lodestar
 {
@@ -23,21 +23,8 @@ namespace
 using Clock = std::chrono::steady_clock;
 using Wake = std::shared_ptr<const std::function<void()>>;
 
-struct Timer {
-    Clock::time_point due;
-    std::uint64_t number; ///< timers with equal times fire in the order in which they were asked for
-    Task block;
-};
-
-bool later(const Timer& a, const Timer& b)
-{
-    return a.due != b.due ? a.due > b.due : a.number > b.number;
-}
-
 /// A limit on one wait: the host's own work may change the predicate's answer without queueing a block.
 constexpr std::chrono::milliseconds pollInterval{2};
-
-thread_local int t_wakesRunning = 0;
 
 } // namespace
 
@@ -48,7 +35,7 @@ struct MainQueue::State {
 
     std::mutex mutex;
     std::atomic<std::thread::id> mainThread{std::this_thread::get_id()};
-    Ring<Task> blocks;
+    std::deque<Task> blocks;
     std::uint64_t pushed = 0;
     std::uint64_t popped = 0;
     bool woken = false; ///< the host was woken for the waiting blocks and has not begun to drain
@@ -59,8 +46,7 @@ struct MainQueue::State {
     std::size_t waiting = 0; ///< callers in `runUntil`
     std::condition_variable blockCame;
 
-    std::vector<Timer> timers; ///< a heap; the next timer is in front
-    std::uint64_t timersMade = 0;
+    std::multimap<Clock::time_point, Task> timers; ///< equal times stay in the order in which they were asked for
     bool timerThreadExists = false;
     std::condition_variable timersChanged;
 };
@@ -68,7 +54,7 @@ struct MainQueue::State {
 /// Call with the lock held. The lock is released for a while when a wake function is called.
 void MainQueue::State::push(Task block, std::unique_lock<std::mutex>& lock)
 {
-    blocks.push(std::move(block));
+    blocks.push_back(std::move(block));
     ++pushed;
     if (waiting > 0) {
         blockCame.notify_all();
@@ -87,9 +73,7 @@ void MainQueue::State::callWake(std::unique_lock<std::mutex>& lock)
     ++wakesRunning;
     Wake function = wake;
     lock.unlock();
-    ++t_wakesRunning;
     (*function)();
-    --t_wakesRunning;
     function.reset();
     lock.lock();
     --wakesRunning;
@@ -103,13 +87,10 @@ void MainQueue::State::runTimers()
     while (true) {
         if (timers.empty()) {
             timersChanged.wait(lock);
-        } else if (const auto due = timers.front().due; Clock::now() < due) {
+        } else if (const auto due = timers.begin()->first; Clock::now() < due) {
             timersChanged.wait_until(lock, due);
         } else {
-            std::pop_heap(timers.begin(), timers.end(), later);
-            Task block = std::move(timers.back().block);
-            timers.pop_back();
-            push(std::move(block), lock);
+            push(std::move(timers.extract(timers.begin()).mapped()), lock);
         }
     }
 }
@@ -132,9 +113,7 @@ void MainQueue::async(Task block)
 void MainQueue::asyncAfter(std::chrono::milliseconds delay, Task block)
 {
     const std::lock_guard lock(m_state->mutex);
-    auto& timers = m_state->timers;
-    timers.push_back({Clock::now() + delay, m_state->timersMade++, std::move(block)});
-    std::push_heap(timers.begin(), timers.end(), later);
+    m_state->timers.emplace(Clock::now() + delay, std::move(block));
     if (m_state->timerThreadExists) {
         m_state->timersChanged.notify_one();
     } else {
@@ -167,8 +146,7 @@ void MainQueue::setWake(std::function<void()> wake)
     std::unique_lock lock(m_state->mutex);
     m_state->wake = wake ? std::make_shared<const std::function<void()>>(std::move(wake)) : nullptr;
     // After this call no thread is inside the old wake function, so the caller may destroy what it refers to.
-    const auto own = static_cast<std::size_t>(t_wakesRunning);
-    m_state->wakesEnded.wait(lock, [&] { return m_state->wakesRunning <= own; });
+    m_state->wakesEnded.wait(lock, [&] { return m_state->wakesRunning == 0; });
     m_state->woken = false;
     if (!m_state->blocks.empty()) {
         m_state->callWake(lock);
@@ -184,7 +162,8 @@ bool MainQueue::drain()
     const std::uint64_t end = m_state->pushed;
     bool ran = false;
     while (m_state->popped < end) {
-        Task block = m_state->blocks.pop();
+        Task block = std::move(m_state->blocks.front());
+        m_state->blocks.pop_front();
         ++m_state->popped;
         lock.unlock();
         block();

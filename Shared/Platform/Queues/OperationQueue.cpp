@@ -13,8 +13,6 @@ namespace lodestar
 
 /// Operations keep the state alive, so none is lost when the last handle is destroyed.
 struct OperationQueue::State final : ThreadPool::Owner, std::enable_shared_from_this<OperationQueue::State> {
-    explicit State(std::string queueName) : name(std::move(queueName)) {}
-
     void add(Task operation)
     {
         {
@@ -34,18 +32,12 @@ struct OperationQueue::State final : ThreadPool::Owner, std::enable_shared_from_
         }
     }
 
-    const std::string name;
     std::mutex mutex;
     std::condition_variable finished;
     std::size_t unfinished = 0;
 };
 
-OperationQueue::OperationQueue(std::string name) : m_state(std::make_shared<State>(std::move(name))) {}
-
-const std::string& OperationQueue::name() const
-{
-    return m_state->name;
-}
+OperationQueue::OperationQueue() : m_state(std::make_shared<State>()) {}
 
 void OperationQueue::addOperation(Task operation) const
 {

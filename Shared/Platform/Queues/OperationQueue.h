@@ -4,7 +4,6 @@
 #include "Platform/Queues/Task.h"
 
 #include <memory>
-#include <string>
 
 namespace lodestar
 {
@@ -14,9 +13,7 @@ namespace lodestar
 class OperationQueue
 {
 public:
-    explicit OperationQueue(std::string name = {});
-
-    const std::string& name() const;
+    OperationQueue();
     void addOperation(Task operation) const;
     /// Blocks until no operation waits or runs.
     void waitUntilAllOperationsAreFinished() const;

@@ -3,7 +3,6 @@
 
 #include "Platform/MemoryReserve.h"
 #include "Platform/Queues/OwnThread.h"
-#include "Platform/Queues/Ring.h"
 
 #include <algorithm>
 #include <atomic>
@@ -11,6 +10,7 @@
 #include <cstdint>
 #include <cstdlib>
 #include <ctime>
+#include <deque>
 #include <mutex>
 #include <system_error>
 #include <thread>
@@ -79,7 +79,6 @@ struct ThreadPool::State : std::enable_shared_from_this<ThreadPool::State> {
 
     void submit(Job job);
     void stop(std::chrono::milliseconds limit);
-    void finish();
     bool hasJobs() const { return !jobs.empty() || !urgentJobs.empty(); }
 
     void work();
@@ -96,15 +95,14 @@ struct ThreadPool::State : std::enable_shared_from_this<ThreadPool::State> {
 
     const Limits limits;
     mutable std::mutex mutex;
-    Ring<Job> urgentJobs;
-    Ring<Job> jobs;
+    std::deque<Job> urgentJobs;
+    std::deque<Job> jobs;
     std::atomic<bool> jobsWait{false}; ///< same as `hasJobs()`, for a thread that looks without the lock
     std::vector<Sleeper*> sleepers;
     std::size_t searching = 0;
     std::size_t threads = 0;
     std::size_t running = 0;
-    bool stopped = false;   ///< no more jobs start
-    bool finishing = false; ///< threads end when no job waits
+    bool stopped = false; ///< no more jobs start
     std::condition_variable quiet;
 
     bool watcherExists = false;
@@ -128,7 +126,7 @@ thread_local bool t_jobsAreUrgent = false;
 void ThreadPool::State::submit(Job job)
 {
     const std::lock_guard lock(mutex);
-    (job.isUrgent ? urgentJobs : jobs).push(std::move(job));
+    (job.isUrgent ? urgentJobs : jobs).push_back(std::move(job));
     ++submitted;
     jobsWait.store(true, std::memory_order_relaxed);
     if (searching == 0) {
@@ -217,8 +215,6 @@ void ThreadPool::State::work()
         ++searching;
     }
     --threads;
-    quiet.notify_all();
-    watcherCondition.notify_all();
 }
 
 /// Call with the lock held, while the caller counts as searching; on return it no longer does. False when the thread
@@ -230,7 +226,9 @@ bool ThreadPool::State::nextJob(Job& job, std::unique_lock<std::mutex>& lock)
             return false;
         }
     }
-    job = (urgentJobs.empty() ? jobs : urgentJobs).pop();
+    std::deque<Job>& first = urgentJobs.empty() ? jobs : urgentJobs;
+    job = std::move(first.front());
+    first.pop_front();
     ++started;
     --searching;
     if (!hasJobs()) {
@@ -245,7 +243,7 @@ bool ThreadPool::State::nextJob(Job& job, std::unique_lock<std::mutex>& lock)
 /// searching.
 bool ThreadPool::State::waitForJobs(std::unique_lock<std::mutex>& lock)
 {
-    if (!stopped && !finishing && searching == 1) {
+    if (!stopped && searching == 1) {
         lock.unlock();
         look();
         lock.lock();
@@ -254,10 +252,7 @@ bool ThreadPool::State::waitForJobs(std::unique_lock<std::mutex>& lock)
         }
     }
     --searching;
-    if (stopped || finishing) {
-        return false;
-    }
-    return sleep(lock);
+    return !stopped && sleep(lock);
 }
 
 /// Spins for a few microseconds, so that a chain of short blocks needs no system call for each block.
@@ -290,7 +285,7 @@ void ThreadPool::State::watch()
 {
     const OwnThread thread("lodestar-watch");
     std::unique_lock lock(mutex);
-    while (!stopped && !(finishing && threads == 0)) {
+    while (!stopped) {
         if (!watching) {
             watcherCondition.wait(lock);
             continue;
@@ -300,7 +295,6 @@ void ThreadPool::State::watch()
             growWhenStuck();
         }
     }
-    watcherExists = false;
 }
 
 /// Called with the lock held, once a tick while jobs wait. When no job started during the tick, the running jobs block:
@@ -336,20 +330,6 @@ void ThreadPool::State::stop(std::chrono::milliseconds limit)
     quiet.wait_for(lock, limit, [&] { return running <= own; });
 }
 
-void ThreadPool::State::finish()
-{
-    std::unique_lock lock(mutex);
-    finishing = true;
-    watcherCondition.notify_all();
-    for (Sleeper* sleeper : sleepers) {
-        sleeper->woken = true;
-        ++searching;
-        sleeper->condition.notify_one();
-    }
-    sleepers.clear();
-    quiet.wait(lock, [&] { return threads == 0 && (!hasJobs() || stopped); });
-}
-
 ThreadPool& ThreadPool::shared()
 {
     // Never destroyed: blocks may come from anywhere until the very end of the process.
@@ -366,7 +346,7 @@ ThreadPool::ThreadPool(Limits limits) : m_state(std::make_shared<State>(limits))
 
 ThreadPool::~ThreadPool()
 {
-    m_state->finish();
+    m_state->stop(std::chrono::hours(24));
 }
 
 void ThreadPool::submit(Task block, std::shared_ptr<Owner> owner)

@@ -56,7 +56,7 @@ public:
     static ThreadPool& shared();
 
     explicit ThreadPool(Limits limits);
-    /// Runs all waiting jobs, then ends the threads. Never destroy a pool from one of its own jobs.
+    /// Starts no more jobs and waits for the running ones. Never destroy a pool from one of its own jobs.
     ~ThreadPool();
     ThreadPool(const ThreadPool&) = delete;
     ThreadPool& operator=(const ThreadPool&) = delete;

@@ -7,6 +7,7 @@
 #include <SQLiteCpp/Statement.h>
 #include <SQLiteCpp/Transaction.h>
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstddef>
@@ -15,6 +16,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <fstream>
 #include <optional>
 #include <sqlite3.h>
 #include <sys/stat.h>
@@ -52,51 +54,6 @@ struct Identity {
     std::int32_t userVersion;
 };
 
-/// A file opened through SQLite's own file layer. Closing a descriptor of our own would drop the locks that a
-/// connection of this process holds on the same file.
-class HeaderReader
-{
-public:
-    explicit HeaderReader(const std::string& path)
-        : m_storage(std::make_unique<std::max_align_t[]>(storageUnits())),
-          m_name(sqlite3_create_filename(path.c_str(), "", "", 0, nullptr))
-    {
-        if (sqlite3_vfs* const vfs = sqlite3_vfs_find(nullptr); vfs != nullptr && m_name != nullptr) {
-            m_result = vfs->xOpen(vfs, m_name, file(), SQLITE_OPEN_READONLY | SQLITE_OPEN_MAIN_DB, nullptr);
-        }
-    }
-    ~HeaderReader()
-    {
-        if (file()->pMethods != nullptr) {
-            file()->pMethods->xClose(file());
-        }
-        sqlite3_free_filename(m_name);
-    }
-    HeaderReader(const HeaderReader&) = delete;
-    HeaderReader& operator=(const HeaderReader&) = delete;
-
-    int read(std::array<unsigned char, 100>& header)
-    {
-        if (m_result == SQLITE_OK) {
-            m_result = file()->pMethods->xRead(file(), header.data(), static_cast<int>(header.size()), 0);
-        }
-        return m_result;
-    }
-
-private:
-    static std::size_t storageUnits()
-    {
-        const sqlite3_vfs* const vfs = sqlite3_vfs_find(nullptr);
-        const std::size_t size = vfs != nullptr ? static_cast<std::size_t>(vfs->szOsFile) : sizeof(sqlite3_file);
-        return size / sizeof(std::max_align_t) + 1;
-    }
-    sqlite3_file* file() { return reinterpret_cast<sqlite3_file*>(m_storage.get()); }
-
-    std::unique_ptr<std::max_align_t[]> m_storage;
-    const char* m_name;
-    int m_result = SQLITE_CANTOPEN;
-};
-
 std::int32_t bigEndian(const std::array<unsigned char, 100>& header, std::size_t offset)
 {
     std::uint32_t value = 0;
@@ -106,17 +63,20 @@ std::int32_t bigEndian(const std::array<unsigned char, 100>& header, std::size_t
     return static_cast<std::int32_t>(value);
 }
 
+/// Reads the header past SQLite, which could change the file. No connection of this process may be open to it: closing
+/// a file drops all locks that the process holds on it.
 Result<Identity> readIdentity(const std::string& path)
 {
     std::array<unsigned char, 100> header{};
-    const int code = HeaderReader(path).read(header);
-    const std::string_view magic("SQLite format 3\0", 16);
-    if (code == SQLITE_IOERR_SHORT_READ ||
-        (code == SQLITE_OK && std::string_view(reinterpret_cast<const char*>(header.data()), 16) != magic)) {
-        return makeError(SQLITE_NOTADB, "The file is not a database.");
-    }
-    if (code != SQLITE_OK) {
+    std::ifstream file(path, std::ios::binary);
+    file.read(reinterpret_cast<char*>(header.data()), static_cast<std::streamsize>(header.size()));
+    if (!file.is_open() || file.bad()) {
+        const int code = file.is_open() ? SQLITE_IOERR_READ : SQLITE_CANTOPEN;
         return makeError(code, "The file cannot be read.", sqlite3_errstr(code));
+    }
+    constexpr std::string_view magic("SQLite format 3\0", 16);
+    if (file.fail() || !std::equal(magic.begin(), magic.end(), header.begin())) {
+        return makeError(SQLITE_NOTADB, "The file is not a database.");
     }
     constexpr std::size_t userVersionOffset = 60;
     constexpr std::size_t applicationIdOffset = 68;
@@ -212,15 +172,7 @@ public:
             return errno;
         }
 #endif
-        if (::link(m_path.c_str(), target.c_str()) == 0) {
-            ::unlink(m_path.c_str());
-            return 0;
-        }
-        if (errno == EEXIST) {
-            return 0;
-        }
-        const bool unsupported = errno == EPERM || errno == EOPNOTSUPP || errno == ENOSYS || errno == EMLINK;
-        return unsupported && std::rename(m_path.c_str(), target.c_str()) == 0 ? 0 : errno;
+        return std::rename(m_path.c_str(), target.c_str()) == 0 ? 0 : errno;
     }
 
 private:
