@@ -8,6 +8,8 @@
 #include <libxml/hash.h>
 #include <libxml/parserInternals.h>
 
+#include <algorithm>
+
 namespace lodestar
 {
 namespace
@@ -17,9 +19,9 @@ namespace
 constexpr std::size_t mostExpandedBytes = 1U << 20U;
 constexpr std::size_t costOfExpansion = 100;
 
-XMLDeclarationReader& readerOf(const xmlParserCtxt& parser)
+XMLDeclarationState& stateOf(const xmlParserCtxt& parser)
 {
-    return *static_cast<XMLDeclarationReader*>(parser._private);
+    return *static_cast<XMLDeclarationState*>(parser._private);
 }
 
 /// Whether the entity's text would keep the parser busy for long. The parser is about to check the text, with a context
@@ -41,9 +43,10 @@ xmlNode* anyContent()
 xmlEntityPtr entityNamed(void* context, const xmlChar* name)
 {
     const xmlEntityPtr entity = xmlSAX2GetEntity(context, name);
-    if (entity != nullptr && isMonstrous(*entity)) {
-        auto* const parser = static_cast<xmlParserCtxtPtr>(context);
-        readerOf(*parser).refuse();
+    auto* const parser = static_cast<xmlParserCtxtPtr>(context);
+    bool& refused = stateOf(*parser).refused;
+    refused = refused || (entity != nullptr && isMonstrous(*entity));
+    if (refused) {
         xmlStopParser(parser);
         return nullptr;
     }
@@ -59,9 +62,13 @@ xmlEntityPtr parameterEntityNamed(void* context, const xmlChar* name)
 {
     const xmlEntityPtr entity = xmlSAX2GetParameterEntity(context, name);
     auto* const parser = static_cast<xmlParserCtxtPtr>(context);
-    if (entity != nullptr && !readerOf(*parser).expansion().add(*entity)) {
-        xmlStopParser(parser);
-        return nullptr;
+    if (entity != nullptr) {
+        std::size_t& bytes = stateOf(*parser).expandedBytes;
+        bytes += costOfExpansion + static_cast<std::size_t>(std::max(entity->length, 0));
+        if (bytes > mostExpandedBytes) {
+            xmlStopParser(parser);
+            return nullptr;
+        }
     }
     return entity;
 }
@@ -78,12 +85,6 @@ void declarationsEnd(void* context, const xmlChar* /*name*/, const xmlChar* /*pu
 }
 
 } // namespace
-
-bool XMLExpansion::add(const xmlEntity& entity)
-{
-    m_bytes += costOfExpansion + static_cast<std::size_t>(entity.length > 0 ? entity.length : 0);
-    return m_bytes <= mostExpandedBytes;
-}
 
 void setDeclarationEvents(xmlSAXHandler& events)
 {

@@ -8,29 +8,12 @@
 namespace lodestar
 {
 
-/// The amount of text that parameter entities have added to a document's declarations. The library itself sets no
-/// limit.
-class XMLExpansion
-{
-public:
-    /// False once that amount is too large.
-    bool add(const xmlEntity& entity);
-
-private:
-    std::size_t m_bytes = 0;
-};
-
 /// What the parser's `_private` points to while it reads declarations.
-class XMLDeclarationReader
-{
-public:
-    virtual ~XMLDeclarationReader() = default;
-    XMLExpansion& expansion() { return m_expansion; }
-    /// Ends the parse: the document is too large in some way.
-    virtual void refuse() = 0;
-
-private:
-    XMLExpansion m_expansion;
+struct XMLDeclarationState {
+    /// The amount of text that parameter entities have added to the document's declarations. The library itself sets no
+    /// limit.
+    std::size_t expandedBytes = 0;
+    bool refused = false; ///< the document is too large in some way: nothing more is read
 };
 
 /// Makes the parser handle a document's declarations. Elements come out as they would in libxml2's own tree, in time

@@ -100,12 +100,12 @@ Result<std::shared_ptr<const XMLDocument>> XMLDocumentBuilder::run(std::string_v
     m_errorsLeft = errorsAlways + bytes.size() / bytesAnError;
     m_comparisonsLeft = comparisonsAlways + bytes.size() * comparisonsAByte;
     m_partsLeft = partsAlways + bytes.size() / bytesAPart;
-    parser->_private = static_cast<XMLDeclarationReader*>(this);
+    parser->_private = static_cast<XMLDeclarationState*>(this);
     xmlCtxtUseOptions(parser.get(), parseOptions);
     setEvents(*parser->sax);
     reserve(bytes.size());
     xmlParseDocument(parser.get());
-    if (m_memory.wasBeyondLimits()) {
+    if (refused || m_memory.wasBeyondLimits()) {
         return tooLarge();
     }
     // A document cut short by a lack of memory must never pass for a whole one.
@@ -381,14 +381,9 @@ XMLDocument::Name XMLDocumentBuilder::internLocalPart(const xmlChar* name, const
     }
     const XMLDocument::Name number = m_document->m_names.intern(text);
     if (number == XMLDocument::noName) {
-        refuse();
+        fail(tooLarge());
     }
     return number;
-}
-
-void XMLDocumentBuilder::refuse()
-{
-    fail(tooLarge());
 }
 
 void XMLDocumentBuilder::fail(Error error)

@@ -16,7 +16,7 @@ namespace lodestar
 
 /// Builds a document from libxml2's events. One parse, one thread; the static functions are the parser's callbacks. The
 /// constructor may throw `std::bad_alloc`.
-class XMLDocumentBuilder final : private XMLDeclarationReader
+class XMLDocumentBuilder final : private XMLDeclarationState
 {
 public:
     /// Null when the bytes make no document, or a document without a root. A zero byte must follow the bytes.
@@ -30,8 +30,6 @@ private:
     /// Creating this error allocates nothing.
     static Error outOfMemory();
 
-    void refuse() override;
-
     static constexpr unsigned knownBits = 10;
     static constexpr unsigned knownListBits = 12;
     /// The address of the parser's only copy of a name, and whether the name had a prefix.
@@ -43,7 +41,7 @@ private:
 
     static XMLDocumentBuilder* builderOf(const xmlParserCtxt& parser)
     {
-        return static_cast<XMLDocumentBuilder*>(static_cast<XMLDeclarationReader*>(parser._private));
+        return static_cast<XMLDocumentBuilder*>(static_cast<XMLDeclarationState*>(parser._private));
     }
     /// The parse's builder. Null once the parse is over, and for events from inside an entity's text: the parser checks
     /// that text with a context of its own when the entity is first named, and references read as nothing.
@@ -51,10 +49,11 @@ private:
     {
         auto* const parser = static_cast<xmlParserCtxtPtr>(context);
         XMLDocumentBuilder* const builder = builderOf(*parser);
-        if (builder->m_over && parser == builder->m_parser) {
+        const bool isOver = builder->m_over || builder->refused;
+        if (isOver && parser == builder->m_parser) {
             xmlStopParser(parser);
         }
-        return parser == builder->m_parser && !builder->m_over ? builder : nullptr;
+        return parser == builder->m_parser && !isOver ? builder : nullptr;
     }
     static void startElement(void* context, const xmlChar* localName, const xmlChar* prefix, const xmlChar* uri,
                              int namespaceCount, const xmlChar** namespaces, int attributeCount, int defaultedCount,
