@@ -8,12 +8,11 @@ namespace lodestar::simulator
 
 Response errorResponse(int status, const std::string& message)
 {
-    Response response;
+    Response response =
+        textResponse("application/xml", "<?xml version=\"1.0\" encoding=\"UTF-8\"?><ErrorResponse><HTTPStatus>" +
+                                            std::to_string(status) + "</HTTPStatus><Message>" + message +
+                                            "</Message></ErrorResponse>");
     response.status = status;
-    response.headers = {{"Content-Type", "application/xml"}};
-    response.body =
-        makeBody("<?xml version=\"1.0\" encoding=\"UTF-8\"?><ErrorResponse><HTTPStatus>" + std::to_string(status) +
-                 "</HTTPStatus><Message>" + message + "</Message></ErrorResponse>");
     return response;
 }
 

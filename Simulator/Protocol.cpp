@@ -9,21 +9,6 @@
 namespace lodestar::simulator
 {
 
-namespace
-{
-
-std::int64_t numberIn(const std::string& word)
-{
-    std::int64_t number = 0;
-    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), number);
-    if (error != std::errc() || end != word.data() + word.size()) {
-        throw std::invalid_argument("not a number: " + word);
-    }
-    return number;
-}
-
-} // namespace
-
 std::optional<std::string> SentRequest::header(std::string_view name) const
 {
     std::optional<std::string> value;
@@ -112,9 +97,9 @@ RecordedRequest decodeRequest(const std::vector<std::string>& words)
         throw std::invalid_argument("not a request");
     }
     RecordedRequest request;
-    request.console = static_cast<int>(numberIn(words[0]));
-    request.connection = static_cast<std::uint64_t>(numberIn(words[1]));
-    request.milliseconds = numberIn(words[2]);
+    request.console = std::stoi(words[0]);
+    request.connection = std::stoull(words[1]);
+    request.milliseconds = std::stoll(words[2]);
     request.method = decodeWord(words[3]);
     request.path = decodeWord(words[4]);
     request.body = decodeWord(words[5]);

@@ -10,6 +10,8 @@
 
 #include <gmock/gmock.h>
 
+#include <utility>
+
 namespace lodestar::test
 {
 namespace
@@ -80,8 +82,7 @@ std::string numbered(const std::vector<std::string>& names)
 std::string eventFeed()
 {
     return "<feed xmlns='urn:a'><entry><content><s:ServiceableEvent xmlns:s='urn:s' "
-           "xmlns='urn:t'><fieldReplaceableUnits>"
-           "<FieldReplaceableUnit>" +
+           "xmlns='urn:t'><fieldReplaceableUnits><FieldReplaceableUnit>" +
            numbered({"partNumber", "class", "fieldReplaceableUnitDescription", "locationCode", "previouslyReplaced",
                      "replacedTimestamp", "replacementGroup"}) +
            "</FieldReplaceableUnit><Other/><FieldReplaceableUnit/></fieldReplaceableUnits><analyzingConsoleNode>"
@@ -102,59 +103,43 @@ constexpr auto groupFeed = R"(<feed><entry><content><Group><AssociatedManagedSys
 <l:link xmlns:l="urn:l" href="https://c/v"/></AssociatedVirtualIOServers><GroupName>G&lt;N</GroupName></Group></content>
 </entry><entry><content><Group/></content></entry></feed>)";
 
+template <typename... Each>
+Texts texts(Each... each)
+{
+    return {std::move(each)...};
+}
+
 Texts textsOf(const ConsoleInformation& of)
 {
-    return {of.name(), of.buildLevel(), of.identity().serialNumber(), of.identity().machineType(),
-            of.identity().model()};
+    return texts(of.name(), of.buildLevel(), of.identity().serialNumber(), of.identity().machineType(),
+                 of.identity().model());
 }
 
 Texts textsOf(const ManagedSystem& of)
 {
-    return {of.name(),
-            of.state(),
-            of.primaryIPAddress(),
-            of.attentionLEDState(),
-            of.availableProcessingUnits(),
-            of.availableMemory(),
-            of.referenceCode(),
-            of.identifier(),
-            of.identity().machineType()};
+    return texts(of.name(), of.state(), of.primaryIPAddress(), of.attentionLEDState(), of.availableProcessingUnits(),
+                 of.availableMemory(), of.referenceCode(), of.identifier(), of.identity().machineType());
 }
 
 Texts textsOf(const Partition& of)
 {
-    return {of.name(), of.identifier(), of.kind(), of.state(), of.referenceCode(), of.systemNameLink()};
+    return texts(of.name(), of.identifier(), of.kind(), of.state(), of.referenceCode(), of.systemNameLink());
 }
 
 Texts textsOf(const ServiceableEvent& of)
 {
-    return {of.problemNumber(),
-            of.callHomeEnabled(),
-            of.hardwareRecord(),
-            of.approvalState(),
-            of.referenceCode(),
-            of.referenceCodeExtension(),
-            of.systemReferenceCode(),
-            of.problemState(),
-            of.firmwareFix(),
-            of.firstReported(),
-            of.lastReported(),
-            of.primaryTimestamp(),
-            of.shortDescription(),
-            of.severity(),
-            of.notificationType(),
-            of.duplicateCount(),
-            of.reportingConsole().hostName(),
-            of.reportingConsole().model(),
-            of.failingSystem().model(),
-            of.analyzingConsole().hostName(),
-            of.analyzingConsole().model()};
+    return texts(of.problemNumber(), of.callHomeEnabled(), of.hardwareRecord(), of.approvalState(), of.referenceCode(),
+                 of.referenceCodeExtension(), of.systemReferenceCode(), of.problemState(), of.firmwareFix(),
+                 of.firstReported(), of.lastReported(), of.primaryTimestamp(), of.shortDescription(), of.severity(),
+                 of.notificationType(), of.duplicateCount(), of.reportingConsole().hostName(),
+                 of.reportingConsole().model(), of.failingSystem().model(), of.analyzingConsole().hostName(),
+                 of.analyzingConsole().model());
 }
 
 Texts textsOf(const FieldReplaceableUnit& of)
 {
-    return {of.partNumber(),         of.unitClass(),         of.unitDescription(), of.locationCode(),
-            of.previouslyReplaced(), of.replacedTimestamp(), of.replacementGroup()};
+    return texts(of.partNumber(), of.unitClass(), of.unitDescription(), of.locationCode(), of.previouslyReplaced(),
+                 of.replacedTimestamp(), of.replacementGroup());
 }
 
 using HandWrittenFeedTest = ConsoleTest;
