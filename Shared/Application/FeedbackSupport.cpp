@@ -55,10 +55,7 @@ ReportStore reportStore(const QString& dataFolder)
 
 /// The key under which a run notes that the device has a shake sensor. The next run's first screen depends on the note,
 /// because that run looks for the sensor only after drawing the screen.
-QString shakenKey()
-{
-    return QStringLiteral("shaken");
-}
+constexpr auto shakenKey = "shaken";
 
 FeedbackSetup setupFor(const QString& dataFolder, const QString& version)
 {
@@ -73,7 +70,7 @@ FeedbackSetup setupFor(const QString& dataFolder, const QString& version)
                     report.made = utcStamp(std::time(nullptr));
                     report.version = version;
                     report.system = systemDescription();
-                    report.session = VireoLogger::sessionIdentifier();
+                    report.session = feedbackSessionIdentifier();
                     return report;
                 },
             .secrets = &FeedbackSupport::secretsInUse};
@@ -89,8 +86,7 @@ void FeedbackSupport::keepIn(const QString& dataFolder)
 void FeedbackSupport::captureCrashes(const QString& dataFolder, const QString& version)
 {
     keepIn(dataFolder);
-    const Result<void> installed =
-        CrashCapture::install(crashFolder(dataFolder), {version.toStdString(), VireoLogger::sessionIdentifier()});
+    const Result<void> installed = CrashCapture::install(crashFolder(dataFolder), version.toStdString());
     if (!installed) {
         LODESTAR_LOG(ownFile, "captureCrashes", "crashes go unrecorded: {}", description(installed.error()));
     }
@@ -146,7 +142,7 @@ FeedbackSupport::FeedbackSupport(FeedbackWindow& window, const QString& dataFold
         }
     });
     // As far as the last run found: a device that cannot be shaken has a button in the console list instead.
-    VireoLogger::settings().offersEntry = !KeptState::shared().value(shakenKey()).toBool();
+    VireoLogger::settings().offersEntry = !KeptState::shared().boolForKey(shakenKey);
     QObject::connect(
         &window, &QQuickWindow::frameSwapped, &m_untilGone, [this, &window] { startAfterFirstFrame(window); },
         static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
@@ -169,7 +165,7 @@ void FeedbackSupport::startAfterFirstFrame(FeedbackWindow& window)
         });
         isShaken = m_sensor->isThere();
     }
-    KeptState::shared().setValue(shakenKey(), isShaken ? QJsonValue(true) : QJsonValue(QJsonValue::Undefined));
+    KeptState::shared().setBool(isShaken, shakenKey);
     VireoLogger::settings().offersEntry = !isShaken;
     NotificationCenter::defaultCenter().postNotification("FeedbackEntryDidChange");
 }

@@ -1,18 +1,21 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/FeedbackWindow.h"
 
-#include "Application/DiscardedInterface.h"
-#include "Application/LockScreen.h"
+#include "Application/Model/Setting.h"
 #include "Feedback/UI/FeedbackUI.h"
 #include "Feedback/VireoLogger.h"
 #include "Kit/Core/Kit.h"
+#include "Kit/Core/NavigationController.h"
+#include "Kit/Core/TabBarController.h"
 #include "Kit/Core/UIFont+System.h"
+#include "Platform/UserDefaults.h"
 #include "Views/Views.h"
 
 #include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <QQuickItem>
 
 extern void qml_register_types_Lodestar_Application();
 
@@ -30,11 +33,41 @@ void installApplicationScenes(QQmlEngine& engine)
     installFeedbackUI(engine);
 }
 
-/// Whether the controller is a screen that locks.
+/// Whether the controller keeps people out: anything but the main interface does, while a passcode is required. Without
+/// one, the passcode screen passes on by itself.
 bool isLock(const ViewController* controller)
 {
-    const auto* const lock = dynamic_cast<const LockScreen*>(controller);
-    return lock != nullptr && lock->locks();
+    return controller != nullptr && qobject_cast<const TabBarController*>(controller) == nullptr &&
+           UserDefaults::standard().boolForKey(Setting::requirePassword);
+}
+
+/// Takes down, at once and without motion, the sheets of a screen and of those below it: sheets keep their screens
+/// alive.
+void dismissSheets(ViewController& controller)
+{
+    if (const auto* const tabs = qobject_cast<TabBarController*>(&controller)) {
+        for (int index = 0; index < tabs->count(); ++index) {
+            dismissSheets(*tabs->controllerAt(index));
+        }
+    } else if (const auto* const stack = qobject_cast<NavigationController*>(&controller)) {
+        for (const auto& screen : stack->viewControllers()) {
+            dismissSheets(*screen);
+        }
+    }
+    controller.dismissSemiModalView();
+}
+
+/// Hides alerts and action sheets. A popup is destroyed with its scene, but only after the running event, and a frame
+/// may be drawn before that.
+void hidePopups(const QQuickWindow& window)
+{
+    for (const QQuickItem* layer : window.contentItem()->childItems()) {
+        if (layer->inherits("QQuickOverlay")) {
+            for (QQuickItem* popup : layer->childItems()) {
+                popup->setVisible(false);
+            }
+        }
+    }
 }
 
 QUrl mainScene()
@@ -116,7 +149,8 @@ void FeedbackWindow::setRootViewController(std::shared_ptr<ViewController> contr
     const auto previous = std::exchange(m_rootViewController, std::move(controller));
     if (previous) {
         previous->endAppearance();
-        discardInterface(*previous, *this);
+        dismissSheets(*previous);
+        hidePopups(*this);
     }
     m_feedbackHost.setLocked(isLock(m_rootViewController.get()));
     Q_EMIT rootViewControllerChanged();

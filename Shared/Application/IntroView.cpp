@@ -44,7 +44,7 @@ std::vector<IntroPage> IntroView::pages()
     };
 }
 
-void IntroView::showIntroViewInView(ViewController& view, std::weak_ptr<IntroViewDelegate> delegate)
+void IntroView::showIntroViewInView(ViewController& view, std::weak_ptr<PagedIntroDelegate> delegate)
 {
     const auto intro = std::make_shared<PagedIntro>(pages());
     intro->setDelegate(std::move(delegate));

@@ -13,9 +13,6 @@ namespace lodestar
 
 class ViewController;
 
-/// Is told when the person has finished or skipped the tour.
-using IntroViewDelegate = PagedIntroDelegate;
-
 /// The tour: six pages, one picture each.
 class IntroView
 {
@@ -28,7 +25,7 @@ public:
     static std::vector<IntroPage> pages();
 
     /// Builds the tour and lays it over the whole view, usually the tab bar controller's. Main thread.
-    static void showIntroViewInView(ViewController& view, std::weak_ptr<IntroViewDelegate> delegate);
+    static void showIntroViewInView(ViewController& view, std::weak_ptr<PagedIntroDelegate> delegate);
 };
 
 } // namespace lodestar

@@ -21,10 +21,10 @@ FocusScope {
 
     /// From 0, where only the mark shows, to 1, where everything shows.
     property real opening: 0
-    readonly property real logoStart: Theme.reducedMotion ? controller.logoYAlignment.constant : height / 2
-    readonly property real logoCentre: logoStart + (controller.logoYAlignment.constant - logoStart) * opening
-    readonly property real logoEnd: controller.logoYAlignment.constant + logo.height / 2
-    property real wishedSpace: controller.spaceToPassword.constant
+    readonly property real logoStart: Theme.reducedMotion ? controller.logoYAlignment : height / 2
+    readonly property real logoCentre: logoStart + (controller.logoYAlignment - logoStart) * opening
+    readonly property real logoEnd: controller.logoYAlignment + logo.height / 2
+    property real wishedSpace: controller.spaceToPassword
     readonly property real space: Math.max(12 + label.height + 8, Math.min(wishedSpace, shownHeight - logoEnd - below))
     readonly property real below: field.height + 12 + loginButton.height + 12 + resetButton.height + 16
 
@@ -187,7 +187,6 @@ FocusScope {
 
             objectName: "loginButton"
             visible: !scene.controller.loginButton.hidden
-            enabled: scene.controller.loginButton.enabled
             text: qsTr("Log In")
             opacity: scene.opening
             x: page.columnX
@@ -200,7 +199,6 @@ FocusScope {
 
             objectName: "resetPasswordButton"
             visible: !scene.controller.resetPasswordButton.hidden
-            enabled: scene.controller.resetPasswordButton.enabled
             text: qsTr("Reset Passcode and Erase All Data")
             size: Theme.stateSize
             wraps: true

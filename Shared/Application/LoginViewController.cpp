@@ -25,11 +25,6 @@ constexpr double shortScreenHeight = 568;
 
 LoginViewController::LoginViewController(RootSwitch showRoot) : m_showRoot(std::move(showRoot)) {}
 
-bool LoginViewController::locks() const
-{
-    return UserDefaults::standard().boolForKey(Setting::requirePassword);
-}
-
 void LoginViewController::viewDidLoad()
 {
     m_isFirstLaunch = true;
@@ -98,12 +93,17 @@ void LoginViewController::readPasscode(const PasscodeUse& use)
                    });
 }
 
-void LoginViewController::aestheticModifications()
+void LoginViewController::setFormHidden(bool hidden)
 {
     for (ViewOutlet* view : std::initializer_list<ViewOutlet*>{&m_passwordLabel, &m_passwordTextField, &m_loginButton,
                                                                &m_resetPasswordButton}) {
-        view->setHidden(true);
+        view->setHidden(hidden);
     }
+}
+
+void LoginViewController::aestheticModifications()
+{
+    setFormHidden(true);
 }
 
 double LoginViewController::openedLogoPosition() const
@@ -111,14 +111,23 @@ double LoginViewController::openedLogoPosition() const
     return m_mainScreenHeight == shortScreenHeight ? m_viewHeight / 4 : m_viewHeight / 3;
 }
 
+void LoginViewController::setLogoYAlignment(double distance)
+{
+    m_logoYAlignment = distance;
+    Q_EMIT logoYAlignmentChanged();
+}
+
+void LoginViewController::setSpaceToPassword(double distance)
+{
+    m_spaceToPassword = distance;
+    Q_EMIT spaceToPasswordChanged();
+}
+
 void LoginViewController::firstAnimation()
 {
-    m_logoYAlignment.setConstant(openedLogoPosition());
-    for (ViewOutlet* view : std::initializer_list<ViewOutlet*>{&m_passwordLabel, &m_passwordTextField, &m_loginButton,
-                                                               &m_resetPasswordButton}) {
-        view->setHidden(false);
-    }
-    m_spaceToPassword.setConstant(spaceAtRest);
+    setLogoYAlignment(openedLogoPosition());
+    setFormHidden(false);
+    setSpaceToPassword(spaceAtRest);
     m_isFirstLaunch = false;
     Q_EMIT isFirstLaunchChanged();
 }
@@ -127,7 +136,7 @@ void LoginViewController::viewDidLayoutSubviews(double viewHeight, double mainSc
 {
     m_viewHeight = viewHeight;
     m_mainScreenHeight = mainScreenHeight;
-    m_logoYAlignment.setConstant(m_isFirstLaunch ? viewHeight / 2 : openedLogoPosition());
+    setLogoYAlignment(m_isFirstLaunch ? viewHeight / 2 : openedLogoPosition());
 }
 
 void LoginViewController::keyboardDidChangeFrame(const QRectF& endFrame, double animationDuration)
@@ -141,7 +150,7 @@ void LoginViewController::shiftKeyboardDistance(int /*distance*/, Up up, double 
     m_keyboardUp = up == Up::Yes;
     m_shiftDuration = static_cast<int>(std::lround(animationDuration * 1000));
     Q_EMIT shiftDurationChanged();
-    m_spaceToPassword.setConstant(m_keyboardUp ? spaceOverKeyboard : spaceAtRest);
+    setSpaceToPassword(m_keyboardUp ? spaceOverKeyboard : spaceAtRest);
 }
 
 bool LoginViewController::textFieldShouldReturn(FieldOutlet* textField)
@@ -198,13 +207,13 @@ void LoginViewController::resetApplicationData()
     defaults.setBool(true, Setting::resetUnderWay);
     defaults.synchronize();
 
-    KeptState::shared().clear();
+    removeEveryDefault(KeptState::shared());
     // A keychain that refuses does not stop the reset: "requirePassword" is removed below, which ends the lock.
     Passcode::discard();
     deleteEveryCorvel();
     FeedbackSupport::forgetReports();
     // This also removes the note that a reset is under way, so nothing may be left to wipe afterwards.
-    removeEveryDefault();
+    removeEveryDefault(defaults);
     performShowMainView();
 }
 

@@ -1,10 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Application/ControlOutlets.h"
 #include "Application/KeychainWait.h"
-#include "Application/LockScreen.h"
 #include "Kit/Core/Menu.h"
+#include "Kit/Core/Outlets.h"
 #include "Kit/Core/ViewController.h"
 #include "Platform/Error.h"
 
@@ -20,7 +19,7 @@ namespace lodestar
 /// The passcode screen, which stands in front of everything: it asks for the passcode, or passes on to the main
 /// interface at once when no passcode is required. A person who forgot the passcode can only wipe everything. Main
 /// thread.
-class LoginViewController : public lodestar::ViewController, public LockScreen
+class LoginViewController : public lodestar::ViewController
 {
     Q_OBJECT
     QML_ELEMENT
@@ -28,10 +27,10 @@ class LoginViewController : public lodestar::ViewController, public LockScreen
     Q_PROPERTY(lodestar::ImageOutlet* logoImageView READ logoImageView CONSTANT)
     Q_PROPERTY(lodestar::LabelOutlet* passwordLabel READ passwordLabel CONSTANT)
     Q_PROPERTY(lodestar::FieldOutlet* passwordTextField READ passwordTextField CONSTANT)
-    Q_PROPERTY(lodestar::ControlOutlet* loginButton READ loginButton CONSTANT)
-    Q_PROPERTY(lodestar::ControlOutlet* resetPasswordButton READ resetPasswordButton CONSTANT)
-    Q_PROPERTY(lodestar::LayoutConstraint* logoYAlignment READ logoYAlignment CONSTANT)
-    Q_PROPERTY(lodestar::LayoutConstraint* spaceToPassword READ spaceToPassword CONSTANT)
+    Q_PROPERTY(lodestar::ViewOutlet* loginButton READ loginButton CONSTANT)
+    Q_PROPERTY(lodestar::ViewOutlet* resetPasswordButton READ resetPasswordButton CONSTANT)
+    Q_PROPERTY(double logoYAlignment READ logoYAlignment NOTIFY logoYAlignmentChanged)
+    Q_PROPERTY(double spaceToPassword READ spaceToPassword NOTIFY spaceToPasswordChanged)
     Q_PROPERTY(lodestar::LabelOutlet* keychainNote READ keychainNote CONSTANT)
     Q_PROPERTY(lodestar::MenuOutlet* alert READ alert CONSTANT)
     Q_PROPERTY(bool isFirstLaunch READ isFirstLaunch NOTIFY isFirstLaunchChanged)
@@ -49,12 +48,12 @@ public:
     ImageOutlet* logoImageView() { return &m_logoImageView; }
     LabelOutlet* passwordLabel() { return &m_passwordLabel; }
     FieldOutlet* passwordTextField() { return &m_passwordTextField; }
-    ControlOutlet* loginButton() { return &m_loginButton; }
-    ControlOutlet* resetPasswordButton() { return &m_resetPasswordButton; }
-    /// The distance of the logo's centre from the top.
-    LayoutConstraint* logoYAlignment() { return &m_logoYAlignment; }
-    /// The distance between the logo and the field, on a screen that is tall enough.
-    LayoutConstraint* spaceToPassword() { return &m_spaceToPassword; }
+    ViewOutlet* loginButton() { return &m_loginButton; }
+    ViewOutlet* resetPasswordButton() { return &m_resetPasswordButton; }
+    /// The distance of the logo's centre from the top, in points.
+    double logoYAlignment() const { return m_logoYAlignment; }
+    /// The distance between the logo and the field, in points, on a screen that is tall enough.
+    double spaceToPassword() const { return m_spaceToPassword; }
     /// Says that the keychain is being waited for; hidden before the wait becomes noticeable, and while nothing is
     /// waited for.
     LabelOutlet* keychainNote() { return &m_keychainNote; }
@@ -65,8 +64,6 @@ public:
     int openingDelay() const { return 100; }
     int openingDuration() const { return 1000; }
     int shiftDuration() const { return m_shiftDuration; }
-
-    bool locks() const override;
 
     /// The heights, in points, of the scene and of the main screen, which is the window. Called whenever either
     /// changes.
@@ -95,6 +92,8 @@ public:
     void performShowMainView();
 
 Q_SIGNALS:
+    void logoYAlignmentChanged();
+    void spaceToPasswordChanged();
     void isFirstLaunchChanged();
     void shiftDurationChanged();
 
@@ -107,6 +106,9 @@ private:
         std::function<void(LoginViewController&, const std::string& passcode, const std::optional<Error>& failure)>;
 
     double openedLogoPosition() const;
+    void setLogoYAlignment(double distance);
+    void setSpaceToPassword(double distance);
+    void setFormHidden(bool hidden);
     void askWhetherThereIsAPasscode();
     /// The function is not called if the screen is gone, or no longer shown, when the answer comes.
     void readPasscode(const PasscodeUse& use);
@@ -119,14 +121,14 @@ private:
     int m_shiftDuration = 0;
     double m_viewHeight = 0;
     double m_mainScreenHeight = 0;
+    double m_logoYAlignment = 0;
+    double m_spaceToPassword = 0;
 
     ImageOutlet m_logoImageView;
     LabelOutlet m_passwordLabel;
     FieldOutlet m_passwordTextField;
-    ControlOutlet m_loginButton;
-    ControlOutlet m_resetPasswordButton;
-    LayoutConstraint m_logoYAlignment;
-    LayoutConstraint m_spaceToPassword;
+    ViewOutlet m_loginButton;
+    ViewOutlet m_resetPasswordButton;
     LabelOutlet m_keychainNote;
     KeychainWait m_keychainWait{m_keychainNote};
     MenuOutlet m_alert;

@@ -17,16 +17,10 @@ constexpr auto fileName = "Shared/Application/Passcode";
 constexpr auto service = "Login";
 constexpr auto account = "Admin";
 
-/// Set while the keychain still holds a passcode that was discarded.
-QString discardKey()
-{
-    return QStringLiteral("discardPasscode");
-}
-/// Holds the code of the failure that switched the lock off.
-QString lockOffKey()
-{
-    return QStringLiteral("lockOff");
-}
+/// The key of what is kept while the keychain still holds a passcode that was discarded.
+constexpr auto discardKey = "discardPasscode";
+/// The key of the code of the failure that switched the lock off.
+constexpr auto lockOffKey = "lockOff";
 
 /// The state of the whole process.
 struct Readings {
@@ -47,7 +41,7 @@ Readings& readings()
 
 bool isToBeDiscarded()
 {
-    return KeptState::shared().value(discardKey()).toBool();
+    return KeptState::shared().boolForKey(discardKey);
 }
 
 void write(const std::string& passcode, Passcode::Prompt prompt, Keychain::Written answer)
@@ -58,7 +52,7 @@ void write(const std::string& passcode, Passcode::Prompt prompt, Keychain::Writt
     Keychain::standard().writePassword(
         passcode, service, account, prompt, [answer = std::move(answer)](const Result<void>& written) {
             if (written) {
-                KeptState::shared().setValue(discardKey(), QJsonValue::Undefined);
+                KeptState::shared().removeObjectForKey(discardKey);
             } else {
                 LODESTAR_LOG(fileName, "+[Passcode store:]", "The passcode cannot be written: {}",
                              description(written.error()));
@@ -115,7 +109,7 @@ void Passcode::store(const std::string& passcode, Keychain::Written answer)
 
 void Passcode::discard()
 {
-    KeptState::shared().setValue(discardKey(), true);
+    KeptState::shared().setBool(true, discardKey);
     write({}, Prompt::No, [](const Result<void>&) {});
 }
 
@@ -171,18 +165,17 @@ QString Passcode::words(const Error& failure)
 
 void Passcode::rememberLockOff(const Error& failure)
 {
-    KeptState::shared().setValue(lockOffKey(), failure.code);
+    KeptState::shared().setString(std::to_string(failure.code), lockOffKey);
 }
 
 void Passcode::forgetLockOff()
 {
-    KeptState::shared().setValue(lockOffKey(), QJsonValue::Undefined);
+    KeptState::shared().removeObjectForKey(lockOffKey);
 }
 
 QString Passcode::lockOffWords()
 {
-    const QJsonValue code = KeptState::shared().value(lockOffKey());
-    switch (code.toInt()) {
+    switch (QString::fromStdString(KeptState::shared().stringForKey(lockOffKey).value_or("")).toInt()) {
     case 0:
         return {};
     case Keychain::locked:

@@ -67,12 +67,12 @@ void PasswordCreationViewController::savePW()
         saveOver({}, {});
         return;
     }
-    Passcode::read(Passcode::Prompt::Allowed,
-                   [keep = kept()](const std::string& stored, const std::optional<Error>& failure) {
-                       if (!keep->m_closed) {
-                           keep->saveOver(stored, failure);
-                       }
-                   });
+    Passcode::read(Passcode::Prompt::Allowed, [keep = self<PasswordCreationViewController>()](
+                                                  const std::string& stored, const std::optional<Error>& failure) {
+        if (!keep->m_closed) {
+            keep->saveOver(stored, failure);
+        }
+    });
 }
 
 void PasswordCreationViewController::saveOver(const std::string& stored, const std::optional<Error>& failure)
@@ -89,7 +89,9 @@ void PasswordCreationViewController::saveOver(const std::string& stored, const s
         return;
     }
     Passcode::store(m_verifyPassword.text().toStdString(),
-                    [keep = kept(), stored](const Result<void>& written) { keep->saveEnded(stored, written); });
+                    [keep = self<PasswordCreationViewController>(), stored](const Result<void>& written) {
+                        keep->saveEnded(stored, written);
+                    });
 }
 
 void PasswordCreationViewController::saveEnded(const std::string& stored, const Result<void>& written)
@@ -132,11 +134,6 @@ void PasswordCreationViewController::viewDidDisappear()
     // The passcode screen may replace the settings while the keychain still works for this sheet. The settings may be
     // the caller, so let go of them only after the call has returned.
     MainQueue::shared().async([settings = std::exchange(m_parentSettings, nullptr)] {});
-}
-
-std::shared_ptr<PasswordCreationViewController> PasswordCreationViewController::kept()
-{
-    return self<PasswordCreationViewController>();
 }
 
 void PasswordCreationViewController::close()

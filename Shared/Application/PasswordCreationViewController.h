@@ -62,7 +62,6 @@ protected:
     void viewDidDisappear() override;
 
 private:
-    std::shared_ptr<PasswordCreationViewController> kept();
     void saveOver(const std::string& stored, const std::optional<Error>& failure);
     void saveEnded(const std::string& stored, const Result<void>& written);
     void refuse(const QString& message);

@@ -55,11 +55,6 @@ void SettingsViewController::viewDidAppear()
     setTitle(tr("Settings"));
 }
 
-void SettingsViewController::viewWillDisappear()
-{
-    turnOffWithoutPasscode();
-}
-
 void SettingsViewController::whenPasscodeIsKnown(const std::function<void(SettingsViewController&)>& function)
 {
     Passcode::whenExistsIsKnown([weak = weak_from_this(), function] {

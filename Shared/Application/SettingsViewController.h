@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Application/ControlOutlets.h"
 #include "Application/KeychainWait.h"
 #include "Kit/Core/Menu.h"
+#include "Kit/Core/Outlets.h"
 #include "Kit/Core/PagedIntro.h"
 #include "Kit/Core/SheetHostController.h"
 #include "Kit/Core/Storyboard.h"
@@ -24,8 +24,8 @@ class SettingsViewController : public lodestar::SheetHostController, public Page
     QML_ELEMENT
     QML_UNCREATABLE("The storyboard makes it.")
     Q_PROPERTY(lodestar::SwitchOutlet* passwordSwitch READ passwordSwitch CONSTANT)
-    Q_PROPERTY(lodestar::ControlOutlet* passwordCell READ passwordCell CONSTANT)
-    Q_PROPERTY(lodestar::ControlOutlet* passwordCellLabel READ passwordCellLabel CONSTANT)
+    Q_PROPERTY(lodestar::ViewOutlet* passwordCell READ passwordCell CONSTANT)
+    Q_PROPERTY(lodestar::ViewOutlet* passwordCellLabel READ passwordCellLabel CONSTANT)
     Q_PROPERTY(lodestar::ImageOutlet* passwordCellArrow READ passwordCellArrow CONSTANT)
     Q_PROPERTY(lodestar::LabelOutlet* keychainNote READ keychainNote CONSTANT)
     Q_PROPERTY(lodestar::MenuOutlet* alert READ alert CONSTANT)
@@ -36,8 +36,8 @@ class SettingsViewController : public lodestar::SheetHostController, public Page
 public:
     SwitchOutlet* passwordSwitch() { return &m_passwordSwitch; }
     /// The row that changes the passcode; while disabled it takes no touches.
-    ControlOutlet* passwordCell() { return &m_passwordCell; }
-    ControlOutlet* passwordCellLabel() { return &m_passwordCellLabel; }
+    ViewOutlet* passwordCell() { return &m_passwordCell; }
+    ViewOutlet* passwordCellLabel() { return &m_passwordCellLabel; }
     ImageOutlet* passwordCellArrow() { return &m_passwordCellArrow; }
     /// Says, below the passcode's rows, why there is no lock or why none can be confirmed. Hidden while there is
     /// nothing to say.
@@ -63,11 +63,10 @@ public:
 protected:
     void viewDidLoad() override;
     void viewDidAppear() override;
-    void viewDidDisappear() override { viewWillDisappear(); }
+    void viewDidDisappear() override { turnOffWithoutPasscode(); }
     double restingSheetHeight() const override;
 
 private:
-    void viewWillDisappear();
     void setPasswordCellEnabled(bool enabled);
     void turnOffWithoutPasscode();
     void updateKeychainNote();
@@ -79,8 +78,8 @@ private:
 
     NotificationCenter::Observation m_closeObservation;
     SwitchOutlet m_passwordSwitch;
-    ControlOutlet m_passwordCell;
-    ControlOutlet m_passwordCellLabel;
+    ViewOutlet m_passwordCell;
+    ViewOutlet m_passwordCellLabel;
     ImageOutlet m_passwordCellArrow;
     LabelOutlet m_keychainNote;
     KeychainWait m_keychainWait{m_keychainNote};

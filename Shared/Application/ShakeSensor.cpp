@@ -1,49 +1,30 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/ShakeSensor.h"
 
-#include "Feedback/ShakeDetector.h"
-
-#include <QAccelerometer>
-
 #include <utility>
 
 namespace lodestar
 {
 
-struct ShakeSensor::State {
-    QAccelerometer sensor;
-    ShakeDetector detector;
-    std::function<void()> shaken;
-
-    void read()
-    {
-        const QAccelerometerReading* reading = sensor.reading();
-        if (reading != nullptr &&
-            detector.add({reading->x(), reading->y(), reading->z(), std::chrono::microseconds(reading->timestamp())})) {
-            shaken();
-        }
-    }
-};
-
-ShakeSensor::ShakeSensor(std::function<void()> shaken) : m_state(std::make_unique<State>())
+ShakeSensor::ShakeSensor(std::function<void()> shaken) : m_shaken(std::move(shaken))
 {
-    m_state->shaken = std::move(shaken);
-    QAccelerometer& sensor = m_state->sensor;
     // On a device without an accelerometer Qt connects and starts a dummy instead.
-    if (!sensor.connectToBackend() || sensor.identifier().startsWith("dummy") || sensor.identifier().isEmpty()) {
+    if (!m_sensor.connectToBackend() || m_sensor.identifier().startsWith("dummy") || m_sensor.identifier().isEmpty()) {
         return;
     }
     constexpr int samplesASecond = 50;
-    sensor.setDataRate(samplesASecond);
-    QObject::connect(&sensor, &QSensor::readingChanged, &sensor, [state = m_state.get()] { state->read(); });
-    sensor.start();
+    m_sensor.setDataRate(samplesASecond);
+    QObject::connect(&m_sensor, &QSensor::readingChanged, &m_sensor, [this] { read(); });
+    m_sensor.start();
 }
 
-ShakeSensor::~ShakeSensor() = default;
-
-bool ShakeSensor::isThere() const
+void ShakeSensor::read()
 {
-    return m_state->sensor.isActive();
+    const QAccelerometerReading* reading = m_sensor.reading();
+    if (reading != nullptr &&
+        m_detector.add({reading->x(), reading->y(), reading->z(), std::chrono::microseconds(reading->timestamp())})) {
+        m_shaken();
+    }
 }
 
 } // namespace lodestar

@@ -1,8 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Feedback/ShakeDetector.h"
+
+#include <QAccelerometer>
+
 #include <functional>
-#include <memory>
 
 namespace lodestar
 {
@@ -13,16 +16,16 @@ class ShakeSensor
 {
 public:
     explicit ShakeSensor(std::function<void()> shaken);
-    ~ShakeSensor();
-    ShakeSensor(const ShakeSensor&) = delete;
-    ShakeSensor& operator=(const ShakeSensor&) = delete;
 
     /// Whether the device has an accelerometer.
-    bool isThere() const;
+    bool isThere() const { return m_sensor.isActive(); }
 
 private:
-    struct State;
-    std::unique_ptr<State> m_state;
+    void read();
+
+    const std::function<void()> m_shaken;
+    ShakeDetector m_detector;
+    QAccelerometer m_sensor;
 };
 
 } // namespace lodestar

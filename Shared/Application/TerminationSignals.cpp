@@ -3,17 +3,14 @@
 
 #include <QSocketNotifier>
 
-#ifdef Q_OS_UNIX
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
-#endif
+#include <utility>
 
 namespace lodestar
 {
-
-#ifdef Q_OS_UNIX
 
 namespace
 {
@@ -33,14 +30,8 @@ void noteSignal(int)
 
 } // namespace
 
-struct TerminationSignals::State {
-    std::function<void()> terminate;
-    std::unique_ptr<QSocketNotifier> notifier;
-};
-
-TerminationSignals::TerminationSignals(std::function<void()> terminate) : m_state(std::make_unique<State>())
+TerminationSignals::TerminationSignals(std::function<void()> terminate) : m_terminate(std::move(terminate))
 {
-    m_state->terminate = std::move(terminate);
     if (::pipe(signalPipe) != 0) {
         return;
     }
@@ -48,10 +39,10 @@ TerminationSignals::TerminationSignals(std::function<void()> terminate) : m_stat
         ::fcntl(end, F_SETFD, FD_CLOEXEC);
         ::fcntl(end, F_SETFL, O_NONBLOCK);
     }
-    m_state->notifier = std::make_unique<QSocketNotifier>(signalPipe[0], QSocketNotifier::Read);
-    QObject::connect(m_state->notifier.get(), &QSocketNotifier::activated, [state = m_state.get()] {
-        state->notifier->setEnabled(false);
-        state->terminate();
+    m_notifier = std::make_unique<QSocketNotifier>(signalPipe[0], QSocketNotifier::Read);
+    QObject::connect(m_notifier.get(), &QSocketNotifier::activated, [this] {
+        m_notifier->setEnabled(false);
+        m_terminate();
     });
     struct sigaction action = {};
     action.sa_handler = &noteSignal;
@@ -66,18 +57,9 @@ TerminationSignals::~TerminationSignals()
     for (const int signal : endingSignals) {
         ::signal(signal, SIG_DFL);
     }
-    m_state->notifier.reset();
+    m_notifier.reset();
     ::close(signalPipe[0]);
     ::close(signalPipe[1]);
 }
-
-#else
-
-struct TerminationSignals::State {
-};
-TerminationSignals::TerminationSignals(std::function<void()>) {}
-TerminationSignals::~TerminationSignals() = default;
-
-#endif
 
 } // namespace lodestar

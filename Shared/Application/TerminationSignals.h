@@ -4,11 +4,13 @@
 #include <functional>
 #include <memory>
 
+class QSocketNotifier;
+
 namespace lodestar
 {
 
 /// Turns the system's requests to end (SIGTERM, SIGINT, SIGHUP) into a call on the main thread, so that the process
-/// ends as if its window had been closed. Does nothing on systems without these signals. Main thread, one at a time.
+/// ends as if its window had been closed. Main thread, one at a time.
 class TerminationSignals
 {
 public:
@@ -18,8 +20,8 @@ public:
     TerminationSignals& operator=(const TerminationSignals&) = delete;
 
 private:
-    struct State;
-    std::unique_ptr<State> m_state;
+    const std::function<void()> m_terminate;
+    std::unique_ptr<QSocketNotifier> m_notifier;
 };
 
 } // namespace lodestar

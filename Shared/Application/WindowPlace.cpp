@@ -4,8 +4,8 @@
 #include "Application/KeptState.h"
 
 #include <QGuiApplication>
-#include <QJsonObject>
 #include <QScreen>
+#include <QStringList>
 #include <QWindow>
 
 #include <algorithm>
@@ -16,15 +16,16 @@ namespace lodestar
 namespace
 {
 
-QString key()
-{
-    return QStringLiteral("window");
-}
+constexpr auto placeKey = "window"; ///< x, y, width and height, in points
+constexpr auto maximizedKey = "windowIsMaximized";
 
-QRect rectOf(const QJsonObject& kept)
+/// Empty when no place is kept.
+QRect keptPlace()
 {
-    const auto number = [&kept](const char* name) { return kept.value(QLatin1String(name)).toInt(); };
-    return {number("x"), number("y"), number("width"), number("height")};
+    const std::string kept = KeptState::shared().stringForKey(placeKey).value_or("");
+    const QStringList numbers = QString::fromStdString(kept).split(u' ');
+    return numbers.size() == 4 ? QRect(numbers[0].toInt(), numbers[1].toInt(), numbers[2].toInt(), numbers[3].toInt())
+                               : QRect();
 }
 
 /// The screen on which enough of the window's upper edge lies to move the window by it; null when there is none.
@@ -66,8 +67,7 @@ WindowPlace::~WindowPlace()
 
 void WindowPlace::restore()
 {
-    const QJsonObject kept = KeptState::shared().value(key()).toObject();
-    const QRect place = rectOf(kept);
+    const QRect place = keptPlace();
     if (place.isEmpty()) {
         return;
     }
@@ -77,7 +77,7 @@ void WindowPlace::restore()
     if (screen != nullptr) {
         m_window.setFramePosition(place.topLeft());
     }
-    if (kept.value(QStringLiteral("maximized")).toBool()) {
+    if (KeptState::shared().boolForKey(maximizedKey)) {
         m_window.setWindowStates(Qt::WindowMaximized);
     }
 }
@@ -88,17 +88,14 @@ void WindowPlace::remember()
     if (states.testFlag(Qt::WindowMinimized) || states.testFlag(Qt::WindowFullScreen)) {
         return;
     }
-    QJsonObject kept = KeptState::shared().value(key()).toObject();
     const bool maximized = states.testFlag(Qt::WindowMaximized);
-    kept.insert(QStringLiteral("maximized"), maximized);
+    KeptState::shared().setBool(maximized, maximizedKey);
     if (!maximized) {
         const QPoint place = m_window.framePosition();
-        kept.insert(QStringLiteral("x"), place.x());
-        kept.insert(QStringLiteral("y"), place.y());
-        kept.insert(QStringLiteral("width"), m_window.width());
-        kept.insert(QStringLiteral("height"), m_window.height());
+        const QString kept = QStringLiteral("%1 %2 %3 %4");
+        KeptState::shared().setString(
+            kept.arg(place.x()).arg(place.y()).arg(m_window.width()).arg(m_window.height()).toStdString(), placeKey);
     }
-    KeptState::shared().setValue(key(), kept);
 }
 
 } // namespace lodestar

@@ -28,7 +28,6 @@
 #include <QScreen>
 #include <QStandardPaths>
 
-#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
@@ -86,8 +85,8 @@ SystemKeychain& installPlatform(const QString& folder)
     FeedbackSupport::captureCrashes(folder, QStringLiteral(LODESTAR_VERSION));
     UserDefaults::install(
         std::make_unique<FileUserDefaults>((folder + QStringLiteral("/Lodestar.defaults")).toStdString()));
-    KeptState::shared().openFolder(folder);
-    auto keychain = std::make_unique<SystemKeychain>(std::chrono::seconds(3), SystemKeychain::Begin::WhenTold);
+    KeptState::openFolder(folder.toStdString());
+    auto keychain = std::make_unique<SystemKeychain>();
     SystemKeychain& installed = *keychain;
     Keychain::install(std::move(keychain));
     Resources::install(std::make_unique<PackageResources>());

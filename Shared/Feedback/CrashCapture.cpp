@@ -4,6 +4,7 @@
 #include "Feedback/CrashModules.h"
 #include "Feedback/LogText.h"
 #include "Feedback/LogWriter.h"
+#include "Feedback/ReportSender.h"
 #include "Platform/PrivateFile.h"
 
 #include <fmt/core.h>
@@ -212,16 +213,16 @@ void installHandlers()
 
 } // namespace
 
-Result<void> CrashCapture::install(const std::string& folder, const Run& run)
+Result<void> CrashCapture::install(const std::string& folder, std::string_view version)
 {
     const Result<int> opened = openFile(folder);
     if (!opened) {
         return opened.error();
     }
     std::string header = fmt::format("crash file 1\nprocess {}\nversion ", ::getpid());
-    appendLogText(header, run.version);
+    appendLogText(header, version);
     header += "\nsession ";
-    appendLogText(header, run.session);
+    appendLogText(header, feedbackSessionIdentifier());
     header += '\n';
     if (writeFully(opened.value(), header) < header.size()) {
         const int code = errno;

@@ -22,15 +22,10 @@ namespace lodestar
 class CrashCapture
 {
 public:
-    /// Facts about the run, written to the file in advance.
-    struct Run {
-        std::string version;
-        std::string session;
-    };
-
     /// Main thread; call once, as early as possible. Makes the file in the folder, 0600, locked as long as the process
-    /// lives. When the folder cannot be written, crashes go unrecorded and nothing else changes.
-    static Result<void> install(const std::string& folder, const Run& run);
+    /// lives, and writes the application's version and the run's session to it in advance. When the folder cannot be
+    /// written, crashes go unrecorded and nothing else changes.
+    static Result<void> install(const std::string& folder, std::string_view version);
     /// Adds the libraries that were loaded since the last call; without them addresses inside them mean nothing. Any
     /// thread, one at a time; waits for the disk.
     static void recordModules();

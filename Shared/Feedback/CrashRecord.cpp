@@ -54,37 +54,24 @@ struct Reader {
     {
         const std::string_view whole = line;
         const std::string_view name = takeUntil(line, ' ');
-        if (inFrames || record.signal == 0) {
-            readField(name, line);
-        } else if (!readCrashField(name, line) && !whole.empty()) {
+        const bool isInCrash = record.signal != 0 && !inFrames;
+        if (!readField(name, line) && isInCrash && !whole.empty()) {
             record.lastLines.emplace_back(whole); // log lines stand between the crash's fields and the frames
         }
         inFrames = inFrames || whole == "frames";
     }
 
-    /// Reads the fields that stand before a crash, and those after the log.
-    void readField(std::string_view name, std::string_view value)
+    /// False for a line that is no field. The first log line may begin anywhere, even with the name of a field that
+    /// stands before it, so those fields are read only once.
+    bool readField(std::string_view name, std::string_view value)
     {
-        if (name == "version") {
+        if (name == "version" && record.version.empty()) {
             record.version = value;
-        } else if (name == "session") {
+        } else if (name == "session" && record.session.empty()) {
             record.session = value;
-        } else if (name == "signal") {
+        } else if (name == "signal" && record.signal == 0) {
             record.signal = numberIn<int>(value, 10);
-        } else if (name == "frame" && record.calls.size() < mostCalls) {
-            record.calls.push_back(numberIn<std::uintptr_t>(value, 16));
-        } else if (name == "caller") {
-            caller = numberIn<std::uintptr_t>(value, 16);
-        } else if (name == "module" && record.modules.size() < mostModules) {
-            if (std::optional<LoadedModule> module = parseModule(value)) {
-                record.modules.push_back(std::move(*module));
-            }
-        }
-    }
-
-    bool readCrashField(std::string_view name, std::string_view value)
-    {
-        if (name == "code") {
+        } else if (name == "code") {
             record.code = numberIn<int>(value, 10);
         } else if (name == "time") {
             record.time = numberIn<std::time_t>(value, 10);
@@ -94,8 +81,15 @@ struct Reader {
             record.exception = value;
         } else if (name == "counter") {
             counter = numberIn<std::uintptr_t>(value, 16);
-        } else if (name == "module") {
-            readField(name, value); // another thread was writing the module when the process crashed
+        } else if (name == "frame" && record.calls.size() < mostCalls) {
+            record.calls.push_back(numberIn<std::uintptr_t>(value, 16));
+        } else if (name == "caller") {
+            caller = numberIn<std::uintptr_t>(value, 16);
+        } else if (name == "module" && record.modules.size() < mostModules) {
+            // Another thread may have been writing modules when the process crashed.
+            if (std::optional<LoadedModule> module = parseModule(value)) {
+                record.modules.push_back(std::move(*module));
+            }
         } else {
             return name == "thread" || name == "frames";
         }

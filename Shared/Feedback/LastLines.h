@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include <algorithm>
 #include <atomic>
 #include <cstddef>
+#include <cstring>
 #include <string_view>
 
 namespace lodestar
@@ -16,8 +18,23 @@ class LastLines
 public:
     static constexpr std::size_t capacity = std::size_t{16} << 10;
 
-    void append(std::string_view line);
-    void clear();
+    void append(std::string_view line)
+    {
+        if (line.size() > capacity) {
+            line.remove_prefix(line.size() - capacity);
+        }
+        const std::size_t total = m_total.load(std::memory_order_relaxed);
+        const std::size_t at = total % capacity;
+        const std::size_t first = std::min(line.size(), capacity - at);
+        std::memcpy(m_bytes + at, line.data(), first);
+        std::memcpy(m_bytes, line.data() + first, line.size() - first);
+        m_total.store(total + line.size(), std::memory_order_release);
+    }
+    void clear()
+    {
+        m_total.store(0, std::memory_order_release);
+        std::memset(m_bytes, 0, capacity);
+    }
     /// Calls `piece` with the kept bytes in order, in at most two pieces. Safe in a signal handler if `piece` is safe
     /// there. The first line may lack its start.
     template <typename Function>

@@ -56,25 +56,13 @@ void appendBytes(std::string& line, std::string_view bytes)
 
 void appendAscii(std::string& line, char byte)
 {
-    switch (byte) {
-    case '\\':
-        line += "\\\\";
-        break;
-    case '\n':
-        line += "\\n";
-        break;
-    case '\r':
-        line += "\\r";
-        break;
-    case '\t':
-        line += "\\t";
-        break;
-    default:
-        if (byte >= ' ' && byte != '\x7f') {
-            line += byte;
-        } else {
-            appendBytes(line, {&byte, 1});
-        }
+    constexpr std::string_view shortened = "\\\n\r\t";
+    if (const std::size_t at = shortened.find(byte); at != std::string_view::npos) {
+        line += {'\\', "\\nrt"[at]};
+    } else if (byte >= ' ' && byte != '\x7f') {
+        line += byte;
+    } else {
+        appendBytes(line, {&byte, 1});
     }
 }
 

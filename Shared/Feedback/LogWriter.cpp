@@ -33,9 +33,9 @@ LogWriter& LogWriter::shared()
 
 bool LogWriter::open(const std::string& folder, const std::string& name, const std::string& header)
 {
-    RotatingLogFile file;
-    file.setHeader(header);
-    if (!file.open(folder, name, {})) {
+    auto file = std::make_unique<RotatingLogFile>();
+    file->setHeader(header);
+    if (!file->open(folder, name, {})) {
         return false;
     }
     const std::lock_guard fileLock(m_fileMutex);
@@ -86,7 +86,7 @@ void LogWriter::forget()
         m_linesDropped = 0;
         m_lastLines.clear();
     }
-    m_file.empty();
+    m_file->empty();
 }
 
 /// Call with `m_fileMutex` held.
@@ -99,9 +99,9 @@ void LogWriter::writePending()
         m_writing.swap(m_pending);
         dropped = std::exchange(m_linesDropped, 0);
     }
-    m_file.append(m_writing);
+    m_file->append(m_writing);
     if (dropped > 0) {
-        m_file.append(fmt::format("({} lines of log came too fast to be written)\n", dropped));
+        m_file->append(fmt::format("({} lines of log came too fast to be written)\n", dropped));
     }
 }
 

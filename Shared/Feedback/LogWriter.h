@@ -7,6 +7,7 @@
 #include <atomic>
 #include <condition_variable>
 #include <cstddef>
+#include <memory>
 #include <mutex>
 #include <string>
 #include <string_view>
@@ -50,7 +51,7 @@ private:
     bool m_stopping = false;
     std::thread m_thread;
     std::mutex m_fileMutex; ///< guards the members below; taken before `m_mutex`
-    RotatingLogFile m_file;
+    std::unique_ptr<RotatingLogFile> m_file = std::make_unique<RotatingLogFile>();
     std::string m_writing; ///< swapped with `m_pending`, so that neither is allocated again
 };
 

@@ -27,24 +27,19 @@ std::string percentEncoded(std::string_view secret)
     return text;
 }
 
-std::string asXml(std::string_view secret)
+void replaceAll(std::string& text, std::string_view part, std::string_view by)
 {
-    std::string text;
-    for (const char c : secret) {
-        switch (c) {
-        case '&':
-            text += "&amp;";
-            break;
-        case '<':
-            text += "&lt;";
-            break;
-        case '>':
-            text += "&gt;";
-            break;
-        default:
-            text += c;
-        }
+    for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at)) {
+        text.replace(at, part.size(), by);
+        at += by.size();
     }
+}
+
+std::string asXml(std::string text)
+{
+    replaceAll(text, "&", "&amp;");
+    replaceAll(text, "<", "&lt;");
+    replaceAll(text, ">", "&gt;");
     return text;
 }
 
@@ -66,14 +61,6 @@ std::vector<std::string> disguises(const std::vector<std::string>& secrets)
     });
     all.erase(std::unique(all.begin(), all.end()), all.end());
     return all;
-}
-
-void replaceAll(std::string& text, const std::string& secret)
-{
-    for (std::size_t at = text.find(secret); at != std::string::npos; at = text.find(secret, at)) {
-        text.replace(at, secret.size(), redactionMark);
-        at += redactionMark.size();
-    }
 }
 
 /// Replaces the text between the end of each `opening` and the next of the `closing` characters.
@@ -108,7 +95,7 @@ std::string redacted(std::string_view text, const std::vector<std::string>& secr
 {
     std::string result(text);
     for (const std::string& secret : disguises(secrets)) {
-        replaceAll(result, secret);
+        replaceAll(result, secret, redactionMark);
     }
     for (const std::string_view header : {"X-API-Session:", "X-API-Session=", "X-API-Session\":"}) {
         removeBetween(result, header, " \"'", " \"'<>,;\n\\");

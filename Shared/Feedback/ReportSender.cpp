@@ -74,7 +74,7 @@ std::string& address()
 }
 
 /// Quotes the text as a JSON string.
-std::string quoted(const std::string& text)
+std::string quoted(std::string_view text)
 {
     std::string result = "\"";
     for (const char c : text) {
@@ -106,13 +106,13 @@ const std::string& feedbackSessionIdentifier()
     return identifier;
 }
 
-void startFeedbackSession(const FeedbackSession& session, const std::string& address, const OperationQueue& queue,
-                          std::function<void(Result<void>)> completion)
+void startFeedbackSession(std::string_view applicationKey, int mode, const std::string& address,
+                          const OperationQueue& queue, std::function<void(Result<void>)> completion)
 {
     const std::string below = address.ends_with('/') ? "sessions" : "/sessions";
     post(address + below, "application/json",
-         fmt::format(R"({{"key":{},"session":{},"mode":{}}})", quoted(session.applicationKey),
-                     quoted(session.identifier), session.mode),
+         fmt::format(R"({{"key":{},"session":{},"mode":{}}})", quoted(applicationKey),
+                     quoted(feedbackSessionIdentifier()), mode),
          queue, std::move(completion));
 }
 

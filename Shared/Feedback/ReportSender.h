@@ -7,6 +7,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 
 namespace lodestar
 {
@@ -19,17 +20,12 @@ void setFeedbackAddress(std::string address);
 /// Names this run of the program in the log, in reports and to the feedback service: letters and digits. Any thread.
 const std::string& feedbackSessionIdentifier();
 
-/// A run of the program, as the feedback service knows it.
-struct FeedbackSession {
-    std::string applicationKey; ///< a credential: never put it into a log or a report
-    std::string identifier;     ///< letters and digits
-    int mode = 0;               ///< the feedback's mode, in the service's numbers
-};
-
 /// Announces the run to the service, at "sessions" below the address, as JSON: {"key": …, "session": …, "mode": …}. The
-/// key goes in the body, because no redirect takes a body to another server. Everything else is as for `sendReport`.
-void startFeedbackSession(const FeedbackSession& session, const std::string& address, const OperationQueue& queue,
-                          std::function<void(Result<void>)> completion);
+/// application's key is a credential: never put it into a log or a report. The key goes in the body, because no
+/// redirect takes a body to another server. The mode is one of the service's numbers. Everything else is as for
+/// `sendReport`.
+void startFeedbackSession(std::string_view applicationKey, int mode, const std::string& address,
+                          const OperationQueue& queue, std::function<void(Result<void>)> completion);
 
 /// Sends the report as one ZIP archive. Call it only after a person has read `sentText` of the same bundle and agreed.
 /// Sends only over HTTPS, to a server that the system's authorities accept. The completion runs once, on the queue; it

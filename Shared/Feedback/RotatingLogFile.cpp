@@ -22,23 +22,6 @@ RotatingLogFile::~RotatingLogFile()
     close();
 }
 
-RotatingLogFile::RotatingLogFile(RotatingLogFile&& other) noexcept
-{
-    *this = std::move(other);
-}
-
-RotatingLogFile& RotatingLogFile::operator=(RotatingLogFile&& other) noexcept
-{
-    std::swap(m_path, other.m_path);
-    std::swap(m_header, other.m_header);
-    std::swap(m_limits, other.m_limits);
-    std::swap(m_descriptor, other.m_descriptor);
-    std::swap(m_size, other.m_size);
-    std::swap(m_bytesLost, other.m_bytesLost);
-    std::swap(m_midLine, other.m_midLine);
-    return *this;
-}
-
 bool RotatingLogFile::open(const std::string& folder, const std::string& name, Limits limits)
 {
     close();

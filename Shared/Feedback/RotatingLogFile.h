@@ -22,8 +22,8 @@ public:
 
     RotatingLogFile() = default;
     ~RotatingLogFile();
-    RotatingLogFile(RotatingLogFile&& other) noexcept;
-    RotatingLogFile& operator=(RotatingLogFile&& other) noexcept;
+    RotatingLogFile(const RotatingLogFile&) = delete;
+    RotatingLogFile& operator=(const RotatingLogFile&) = delete;
 
     /// Makes missing folders and opens the file for appending; false when either fails.
     bool open(const std::string& folder, const std::string& name, Limits limits);

@@ -3,9 +3,9 @@
 
 #include "Feedback/CrashCapture.h"
 #include "Feedback/CrashModules.h"
-#include "Feedback/ExceptionText.h"
 #include "Feedback/LogText.h"
 #include "Feedback/LogWriter.h"
+#include "Feedback/Redaction.h"
 #include "Feedback/ReportSender.h"
 #include "Platform/Queues/OwnThread.h"
 #include "Platform/UtcStamp.h"
@@ -16,11 +16,16 @@
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <cxxabi.h>
 #include <exception>
 #include <execinfo.h>
+#include <future>
 #include <iterator>
 #include <list>
 #include <mutex>
+#include <optional>
+#include <thread>
+#include <typeinfo>
 #include <unistd.h>
 #include <utility>
 
@@ -104,6 +109,70 @@ std::string fileHeader()
     return header;
 }
 
+/// The text without secrets; none when the secrets are not to be had within a second. A separate thread fetches them:
+/// nothing has been unwound, so the calling thread may hold a lock that the secrets need.
+std::optional<std::string> withoutSecrets(const std::string& text,
+                                          const std::function<std::vector<std::string>()>& secrets)
+{
+    if (!secrets) {
+        return redacted(text, {});
+    }
+    std::promise<std::optional<std::string>> promise;
+    auto clean = promise.get_future();
+    std::thread([promise = std::move(promise), text, secrets]() mutable {
+        const OwnThread thread("lodestar-end");
+        try {
+            promise.set_value(redacted(text, secrets()));
+        } catch (...) {
+            promise.set_value(std::nullopt);
+        }
+    }).detach();
+    constexpr std::chrono::seconds patience(1);
+    return clean.wait_for(patience) == std::future_status::ready ? clean.get() : std::nullopt;
+}
+
+/// None for an exception without a description.
+std::optional<std::string> wordsInFlight()
+{
+    try {
+        throw;
+    } catch (const std::exception& exception) {
+        return exception.what();
+    } catch (...) {
+        return std::nullopt;
+    }
+}
+
+std::string typeInFlight()
+{
+    int status = 0;
+    const std::type_info* type = abi::__cxa_current_exception_type();
+    char* demangled = type == nullptr ? nullptr : abi::__cxa_demangle(type->name(), nullptr, nullptr, &status);
+    std::string name = demangled != nullptr ? demangled : type != nullptr ? type->name() : "unknown type";
+    std::free(demangled);
+    return name;
+}
+
+/// Type and description of the exception that ends the process, for the log and the crash file. Secrets are removed
+/// from the description, since both files may be read long before a report is made of them.
+std::string exceptionText(const std::function<std::vector<std::string>()>& secrets)
+{
+    if (!std::current_exception()) {
+        return "terminated without an exception";
+    }
+    std::string text = typeInFlight();
+    const std::optional<std::string> words = wordsInFlight();
+    if (!words) {
+        return text + " (no description)";
+    }
+    try {
+        const std::optional<std::string> clean = withoutSecrets(*words, secrets);
+        return text + (clean ? ": " + *clean : " (its description might tell a secret)");
+    } catch (...) {
+        return text; // no memory or no thread for removing the secrets
+    }
+}
+
 } // namespace
 
 void VireoLogger::write(const Entry& entry)
@@ -138,30 +207,23 @@ VireoLogger::Settings& VireoLogger::settings()
     return settings;
 }
 
-const std::string& VireoLogger::sessionIdentifier()
-{
-    return feedbackSessionIdentifier();
-}
-
 void VireoLogger::startSession(std::string_view applicationKey)
 {
     // The key is a credential: the log may tell whether there is a key, never the key itself.
     LODESTAR_LOG(ownFile, "+[VireoLogger startSession:]",
                  "session started {} an application key, mode {}, {} on shake, named {}",
                  applicationKey.empty() ? "without" : "with", settings().mode,
-                 settings().reportOnShake ? "reports" : "no report", sessionIdentifier());
+                 settings().reportOnShake ? "reports" : "no report", feedbackSessionIdentifier());
     if (feedbackAddress().empty()) {
         return;
     }
     static const OperationQueue queue;
-    startFeedbackSession({std::string(applicationKey), sessionIdentifier(), settings().mode}, feedbackAddress(), queue,
-                         [](const Result<void>& started) {
-                             if (!started) {
-                                 LODESTAR_LOG(ownFile, "+[VireoLogger startSession:]",
-                                              "the feedback service knows nothing of the session: {}",
-                                              description(started.error()));
-                             }
-                         });
+    startFeedbackSession(applicationKey, settings().mode, feedbackAddress(), queue, [](const Result<void>& started) {
+        if (!started) {
+            LODESTAR_LOG(ownFile, "+[VireoLogger startSession:]",
+                         "the feedback service knows nothing of the session: {}", description(started.error()));
+        }
+    });
 }
 
 void VireoLogger::uncaughtExceptionHandler()

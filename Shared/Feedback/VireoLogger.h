@@ -47,8 +47,6 @@ public:
     /// Starts a new feedback session with the application's key, in the mode of the settings. A build with an address
     /// announces the session to the service there and does not wait for an answer. Main thread.
     static void startSession(std::string_view applicationKey);
-    /// Identifies this run of the program in the log and in reports. Any thread.
-    static const std::string& sessionIdentifier();
     /// For `std::set_terminate`: logs the exception in flight without its secrets, notes it for the crash report and
     /// aborts.
     [[noreturn]] static void uncaughtExceptionHandler();

@@ -93,9 +93,8 @@ void deleteEveryCorvel()
     saveIgnoringErrors();
 }
 
-void removeEveryDefault()
+void removeEveryDefault(UserDefaults& defaults)
 {
-    UserDefaults& defaults = UserDefaults::standard();
     for (const std::string& key : defaults.allKeys()) {
         defaults.removeObjectForKey(key);
     }

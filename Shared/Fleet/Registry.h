@@ -14,6 +14,8 @@
 namespace lodestar
 {
 
+class UserDefaults;
+
 /// The registry of consoles: screens and others use it to change records and to fetch into them. Main thread, unless a
 /// function says otherwise.
 
@@ -37,8 +39,8 @@ void addDemoCorvel();
 void deleteCorvelAtIndex(std::size_t index);
 /// Removes every record from list and store, also those that are only being added.
 void deleteEveryCorvel();
-/// Removes every user default: session keys and settings alike.
-void removeEveryDefault();
+/// Removes everything from the defaults: from the process's own, session keys and settings alike.
+void removeEveryDefault(UserDefaults& defaults);
 /// Forgets what was fetched of the working list's consoles, so that they are fetched anew.
 void forgetFetchedData();
 /// Removes the session key of a deleted record, unless a registered console has the same address. For a logon that was

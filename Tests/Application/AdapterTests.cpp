@@ -1,19 +1,19 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Adapters/FileUserDefaults.h"
-#include "Application/Adapters/PackageResources.h"
+#include "Application/Adapters/SystemKeychain.h"
 #include "Platform/Queues/MainQueue.h"
-#include "Tests/Application/SystemKeychainTests.h"
+#include "Tests/Support/ScratchFolder.h"
+#include "Tests/Support/StoredPassword.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTemporaryDir>
 #include <gmock/gmock.h>
 
-#include <fstream>
+#include <filesystem>
 #include <random>
+#include <sys/socket.h>
+#include <sys/un.h>
 #include <thread>
+#include <unistd.h>
 
 namespace lodestar
 {
@@ -26,15 +26,10 @@ using ::testing::UnorderedElementsAreArray;
 class FileUserDefaultsTests : public ::testing::Test
 {
 protected:
-    std::string contents() const
-    {
-        QFile file(QString::fromStdString(path));
-        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-        return file.readAll().toStdString();
-    }
+    std::string contents() const { return folder.read("deeper/Lodestar.defaults"); }
 
-    QTemporaryDir folder;
-    const std::string path = folder.filePath(QStringLiteral("deeper/Lodestar.defaults")).toStdString();
+    const ScratchFolder folder;
+    const std::string path = folder.file("deeper/Lodestar.defaults");
 };
 
 TEST_F(FileUserDefaultsTests, EveryKeyAndValueComesBackExactly)
@@ -89,50 +84,22 @@ TEST_F(FileUserDefaultsTests, TheFileIsPrivateAndAlone)
     FileUserDefaults defaults(path);
     defaults.setString("first-key", "console");
     ASSERT_TRUE(defaults.synchronize());
-    const auto owner = QFile::ReadOwner | QFile::WriteOwner | QFile::ReadUser | QFile::WriteUser;
-    const QString file = QString::fromStdString(path);
-    EXPECT_EQ(QFile::permissions(file), owner);
-    EXPECT_EQ(QFile::permissions(QFileInfo(file).path()), owner | QFile::ExeOwner | QFile::ExeUser);
+    using std::filesystem::perms;
+    const auto permissions = [](const std::string& name) { return std::filesystem::status(name).permissions(); };
+    EXPECT_EQ(permissions(path), perms::owner_read | perms::owner_write);
+    EXPECT_EQ(permissions(folder.file("deeper")), perms::owner_all);
 
     // What a killed process left: half of a file, and a lock of another machine.
     std::ofstream(path + ".new") << "[Strings]\nfirst-";
     std::ofstream(path + ".lock") << "1\nLodestar\nanother-machine\nid\nboot\n";
-    QFile::setPermissions(file, owner | QFile::ReadOther);
+    std::filesystem::permissions(path, perms::all);
     defaults.setString("second-key", "console");
     ASSERT_TRUE(defaults.synchronize());
-    EXPECT_EQ(QFile::permissions(file), owner);
+    EXPECT_EQ(permissions(path), perms::owner_read | perms::owner_write);
     EXPECT_THAT(contents(), ::testing::AllOf(::testing::HasSubstr("second-key"),
                                              ::testing::Not(::testing::HasSubstr("first-key"))));
-    QFile::remove(file + QStringLiteral(".lock"));
-    EXPECT_EQ(QDir(QFileInfo(file).path()).entryList(QDir::Files | QDir::Hidden).size(), 1);
-}
-
-TEST_F(FileUserDefaultsTests, WritesBehindTheCallersBack)
-{
-    FileUserDefaults defaults(path);
-    defaults.setString("v", "k");
-    const auto arrived = [this] { return FileUserDefaults(path).stringForKey("k") == "v"; };
-    EXPECT_TRUE(MainQueue::shared().runUntil(arrived, std::chrono::seconds(20)));
-}
-
-TEST_F(FileUserDefaultsTests, AnUnwritablePlaceStillAnswers)
-{
-    const std::string blocked = folder.filePath(QStringLiteral("file")).toStdString();
-    std::ofstream(blocked) << "in the way";
-    FileUserDefaults below(blocked + "/Lodestar.defaults");
-    FileUserDefaults onFolder(folder.path().toStdString());
-    for (FileUserDefaults* defaults : {&below, &onFolder}) {
-        EXPECT_TRUE(defaults->synchronize()) << "nothing to write";
-        defaults->setString("v", "k");
-        defaults->setBool(true, "b");
-        EXPECT_FALSE(defaults->synchronize());
-        EXPECT_EQ(defaults->stringForKey("k"), "v");
-        EXPECT_TRUE(defaults->boolForKey("b"));
-        EXPECT_FALSE(defaults->synchronize()) << "still not written";
-    }
-    QFile::remove(QString::fromStdString(blocked));
-    EXPECT_TRUE(below.synchronize()) << "the place is free now";
-    EXPECT_EQ(FileUserDefaults(blocked + "/Lodestar.defaults").stringForKey("k"), "v");
+    std::filesystem::remove(path + ".lock");
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder.file("deeper")), {}), 1);
 }
 
 TEST_F(FileUserDefaultsTests, ADamagedFileIsReadAsFarAsItGoesAndReplaced)
@@ -162,33 +129,67 @@ TEST_F(FileUserDefaultsTests, ADamagedFileIsReadAsFarAsItGoesAndReplaced)
     EXPECT_EQ(FileUserDefaults(path).stringForKey("console"), "kept");
 }
 
-TEST_F(FileUserDefaultsTests, ManyThreadsLoseNothing)
+TEST_F(FileUserDefaultsTests, WritesBehindTheBacksOfItsCallersAndLosesNoneOfTheirChanges)
 {
-    {
-        FileUserDefaults defaults(path);
-        std::vector<std::thread> threads;
-        threads.reserve(8);
-        for (int t = 0; t < 8; ++t) {
-            threads.emplace_back([&defaults, t] {
-                for (int i = 0; i < 200; ++i) {
-                    const std::string key = std::to_string(t) + "/" + std::to_string(i);
-                    defaults.setString(key, key);
-                    if (i % 2 == 1) {
-                        defaults.removeObjectForKey(key);
-                    }
-                    if (i % 50 == 0) {
-                        EXPECT_TRUE(defaults.synchronize());
-                    }
-                    EXPECT_EQ(defaults.stringForKey(key).has_value(), i % 2 == 0);
+    FileUserDefaults defaults(path);
+    std::vector<std::jthread> threads;
+    for (int t = 0; t < 4; ++t) {
+        threads.emplace_back([&defaults, t] {
+            for (int i = 0; i < 200; ++i) {
+                const std::string key = std::to_string(t) + "/" + std::to_string(i);
+                defaults.setString(key, key);
+                if (i % 2 == 1) {
+                    defaults.removeObjectForKey(key);
                 }
-            });
-        }
-        for (std::thread& thread : threads) {
-            thread.join();
-        }
+                EXPECT_EQ(defaults.stringForKey(key).has_value(), i % 2 == 0);
+            }
+        });
     }
-    EXPECT_EQ(FileUserDefaults(path).allKeys().size(), 800U);
+    threads.clear(); // when they have ended
+    const auto areWritten = [this] { return FileUserDefaults(path).allKeys().size() == 400; };
+    EXPECT_TRUE(MainQueue::shared().runUntil(areWritten, std::chrono::seconds(20)));
 }
+
+TEST(SystemKeychainTests, FailsSoonWithoutAServiceAndOneThatNeverAnswersCostsOneDeadline)
+{
+    constexpr std::chrono::milliseconds deadline{1500};
+    constexpr auto variable = "DBUS_SESSION_BUS_ADDRESS";
+    const QByteArray before = qgetenv(variable);
+    const ScratchFolder folder;
+    const std::string path = folder.file("bus");
+    qputenv(variable, ("unix:path=" + path).c_str());
+    for (const bool isThere : {false, true}) {
+        SCOPED_TRACE(isThere);
+        // A bus that takes the connection and then says nothing.
+        const int listener = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
+        sockaddr_un address{};
+        address.sun_family = AF_UNIX;
+        ASSERT_LT(path.size(), sizeof address.sun_path);
+        std::copy(path.begin(), path.end(), address.sun_path);
+        if (isThere) {
+            ASSERT_EQ(::bind(listener, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
+            ASSERT_EQ(::listen(listener, 8), 0);
+        }
+        auto made = std::make_unique<SystemKeychain>(deadline);
+        SystemKeychain& keychain = *made;
+        keychain.begin();
+        Keychain::install(std::move(made));
+        for (int call = 0; call < 4; ++call) {
+            const auto start = std::chrono::steady_clock::now();
+            const int code = call % 2 == 0 ? test::readPassword().error().code : test::writePassword("p").error().code;
+            const auto elapsed = std::chrono::steady_clock::now() - start;
+            EXPECT_EQ(code, isThere ? Keychain::timedOut : Keychain::absent);
+            EXPECT_EQ(elapsed >= deadline, isThere && call == 0);
+            EXPECT_LT(elapsed, 2 * deadline);
+        }
+        EXPECT_EQ(test::writePassword(std::string("cut\0short", 9)).error().code, Keychain::notAText);
+        EXPECT_EQ(keychain.owesAnswer(), isThere);
+        ::close(listener); // which lets go of the keychain's thread
+        Keychain::install(nullptr);
+    }
+    qputenv(variable, before);
+}
+
 } // namespace
 
 } // namespace lodestar
@@ -196,9 +197,6 @@ TEST_F(FileUserDefaultsTests, ManyThreadsLoseNothing)
 int main(int argc, char** argv)
 {
     const QCoreApplication application(argc, argv);
-    if (argc == 2 && std::string_view(argv[1]) == "--keychain") {
-        return lodestar::test::runKeychainCalls();
-    }
     ::testing::InitGoogleMock(&argc, argv);
     return RUN_ALL_TESTS();
 }

@@ -7,6 +7,7 @@
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
+#include "Kit/Core/TabBarController.h"
 #include "Platform/Error.h"
 #include "Platform/Keychain.h"
 #include "Platform/Queues/MainQueue.h"
@@ -19,6 +20,7 @@
 #include <functional>
 #include <map>
 #include <mutex>
+#include <thread>
 #include <utility>
 #include <vector>
 
@@ -96,7 +98,7 @@ protected:
         StoreStack::shared().close();
         StoreStack::shared().setApplicationDocumentsDirectory(folder.path());
         UserDefaults::install(nullptr);
-        KeptState::shared().openFolder(QString::fromStdString(folder.path()));
+        KeptState::openFolder(folder.path());
         auto made = std::make_unique<FaultyKeychain>();
         keychain = made.get();
         Keychain::install(std::move(made));
@@ -111,14 +113,14 @@ protected:
     ~LockTest() override
     {
         listener.reset();
+        passcodeScreen.reset();
         root.reset();
         MainQueue::shared().runUntil([] { return true; }, std::chrono::seconds(1));
         RESTHandler::sharedInstance().setCorvelList({});
         StoreStack::shared().close();
         UserDefaults::install(nullptr);
         Keychain::install(nullptr);
-        KeptState::shared().synchronize();
-        KeptState::shared().openFolder({});
+        KeptState::openFolder({});
     }
 
     std::string& passcode() const { return keychain->items[{"Login", "Admin"}]; }
@@ -128,12 +130,22 @@ protected:
         UserDefaults::standard().setBool(true, "showedPreview");
         UserDefaults::standard().setBool(required, "requirePassword");
     }
+    LoginViewController& showLogin()
+    {
+        passcodeScreen = Storyboard::main().instantiate<LoginViewController>(Scenes::loginViewController);
+        root = passcodeScreen;
+        passcodeScreen->beginAppearance();
+        return *passcodeScreen;
+    }
+    /// Whether the main interface was shown in the passcode screen's place.
+    bool isUnlocked() const { return dynamic_cast<TabBarController*>(root.get()) != nullptr; }
     static bool isRequired() { return UserDefaults::standard().boolForKey("requirePassword"); }
     /// What is kept as the next run finds it.
     void reopenKeptState() const
     {
-        KeptState::shared().synchronize();
-        KeptState::shared().openFolder(QString::fromStdString(folder.path()));
+        KeptState::openFolder(folder.path());
+        // Qt takes a file of the same size and millisecond for the file that it has read, so the next one gets another.
+        std::this_thread::sleep_for(std::chrono::milliseconds(2));
     }
     std::string logged()
     {
@@ -144,6 +156,7 @@ protected:
     const ScratchFolder folder;
     FaultyKeychain* keychain = nullptr;
     std::shared_ptr<ViewController> root;
+    std::shared_ptr<LoginViewController> passcodeScreen; ///< shown last, and kept when another screen is shown
 
 private:
     std::mutex mutex;

@@ -12,7 +12,6 @@
 #include "Views/Corvels/CorvelListViewController.h"
 
 #include <QAccessible>
-#include <QDeadlineTimer>
 #include <QGuiApplication>
 #include <QImage>
 #include <QQuickItem>
@@ -56,25 +55,8 @@ protected:
         window().requestActivate();
         ASSERT_TRUE(waitFor([this] { return window().isExposed() && window().isActive(); }));
     }
-    static void settle(int milliseconds = 20)
-    {
-        const QDeadlineTimer limit(milliseconds);
-        while (!limit.hasExpired()) {
-            QCoreApplication::processEvents(QEventLoop::AllEvents, 5);
-            QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        }
-    }
-    static bool waitFor(const std::function<bool()>& predicate)
-    {
-        const QDeadlineTimer limit(10'000);
-        while (!predicate()) {
-            if (limit.hasExpired()) {
-                return false;
-            }
-            settle(5);
-        }
-        return true;
-    }
+    static void settle(int milliseconds = 20) { QTest::qWait(milliseconds); }
+    static bool waitFor(const std::function<bool()>& predicate) { return QTest::qWaitFor(predicate, 10'000); }
     LoginViewController* login() const { return dynamic_cast<LoginViewController*>(window().rootViewController()); }
     CorvelListViewController& list() const
     {
@@ -153,6 +135,18 @@ protected:
         }
     }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const { QTest::keyClick(&window(), key, modifiers); }
+
+    /// As when the application becomes active again.
+    void reactivate()
+    {
+        delegate.applicationDidBecomeActive();
+        settle(300);
+    }
+    void unlock() const
+    {
+        type(secret);
+        press(Qt::Key_Return);
+    }
 
     AppDelegate delegate;
 };

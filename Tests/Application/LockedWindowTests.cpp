@@ -40,8 +40,7 @@ TEST_F(LockedWindowTest, NothingOfTheOldInterfaceStaysWhateverWasOpen)
     };
     for (std::size_t index = 0; index < openers.size(); ++index) {
         SCOPED_TRACE(index);
-        type(secret);
-        press(Qt::Key_Return);
+        unlock();
         ASSERT_EQ(login(), nullptr);
         openers[index]();
         settle(400);
@@ -66,8 +65,7 @@ TEST_F(LockedWindowTest, NoKeyLeadsBehindIt)
     openSettings().alert()->present("Password Saved", {}, {{"Continue"}}, 0, {});
     settle(300);
     require();
-    delegate.applicationDidBecomeActive();
-    settle(300);
+    reactivate();
     LoginViewController* const lock = login();
     ASSERT_NE(lock, nullptr);
     std::set<QQuickItem*> reached;
@@ -119,8 +117,7 @@ TEST_F(LockedWindowTest, TheTextIsNotGivenAway)
     press(Qt::Key_Z, Qt::ControlModifier);
     EXPECT_EQ(login()->passwordTextField()->text(), QString());
     // The field has the keyboard again.
-    type(secret);
-    press(Qt::Key_Return);
+    unlock();
     EXPECT_EQ(login(), nullptr);
 
     openSettings().didSelectRowAtIndexPath({0, 1});
@@ -161,8 +158,7 @@ TEST_F(LockedWindowTest, WhatIsOutOfSightIsCoveredAndWhatIsInSightIsLeftAlone)
     ASSERT_NE(login(), nullptr);
     EXPECT_TRUE(showsOnlyTheMark(window().grabWindow(), 844 / 3)) << "before any event has run";
 
-    type(secret);
-    press(Qt::Key_Return);
+    unlock();
     settle(300);
     window().hide();
     desk.applicationStateDidChange(Qt::ApplicationInactive);
@@ -172,8 +168,7 @@ TEST_F(LockedWindowTest, WhatIsOutOfSightIsCoveredAndWhatIsInSightIsLeftAlone)
     desk.applicationStateDidChange(Qt::ApplicationActive);
     ASSERT_NE(login(), nullptr);
     settle(300);
-    type(secret);
-    press(Qt::Key_Return);
+    unlock();
     EXPECT_EQ(login(), nullptr) << "the field has the keyboard";
 
     PrivacyCover phone(window(), Device::Phone, lock);
@@ -219,16 +214,14 @@ TEST_F(LockedWindowTest, FeedbackNeitherPassesTheLockNorTellsWhatIsBehindIt)
     settle(300);
     EXPECT_EQ(login(), lock) << "the lock is still up";
     press(Qt::Key_A, Qt::ControlModifier);
-    type(secret);
-    press(Qt::Key_Return);
+    unlock();
     EXPECT_EQ(login(), nullptr) << "and its field has the keyboard";
     ASSERT_NE(feedback(), nullptr);
     EXPECT_EQ(feedback()->noteView()->text(), QStringLiteral("begun before"));
     settle(300);
 
     // What was begun over the lock when that came up anew holds nothing up: neither the lock nor what is behind it.
-    delegate.applicationDidBecomeActive();
-    settle(300);
+    reactivate();
     shake();
     ASSERT_NE(feedback(), nullptr);
     feedback()->noteView()->setText(QStringLiteral("begun over it"));
@@ -241,10 +234,8 @@ TEST_F(LockedWindowTest, FeedbackNeitherPassesTheLockNorTellsWhatIsBehindIt)
     ASSERT_NE(feedback(), nullptr);
     EXPECT_EQ(feedback()->noteView()->text(), QStringLiteral("begun over it"));
     settle(300);
-    delegate.applicationDidBecomeActive();
-    settle(300);
-    type(secret);
-    press(Qt::Key_Return);
+    reactivate();
+    unlock();
     EXPECT_EQ(login(), nullptr);
     for (const QString& note : {QStringLiteral("begun over it"), QStringLiteral("begun before")}) {
         SCOPED_TRACE(note.toStdString());

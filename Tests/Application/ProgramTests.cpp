@@ -104,7 +104,7 @@ TEST_F(ProgramTest, KeepsWhatItKnowsWhenItIsToldToEndAndAFurtherStartOnlyRaisesI
         << said.toStdString();
 
     terminate(first);
-    EXPECT_THAT(scratch.read("data/Lodestar.state"), HasSubstr("\"height\": 844"));
+    EXPECT_THAT(scratch.read("data/Lodestar.state"), HasSubstr("%20844"));
     EXPECT_THAT(scratch.read("data/Lodestar.defaults"), HasSubstr("initialLoad=true"));
     EXPECT_EQ(storedConsoles().size(), 1U) << "the demonstration console";
 }

@@ -1,10 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 // Every single allocation, write, sync and rename of the defaults and of a reset refused, one after the other.
-#include "Application/Adapters/FileUserDefaults.h"
-#include "Fleet/Registry.h"
 #include "Platform/MemoryReserve.h"
 #include "Simulator/SimulatorProcess.h"
-#include "Tests/Application/LockFixture.h"
+#include "Tests/Application/ResetFixture.h"
 #include "Tests/Support/Injection.h"
 #include "Tests/Support/LongRun.h"
 #include "Views/Corvels/CorvelListViewController.h"
@@ -24,17 +22,13 @@ using injection::forEachFailure;
 using injection::Kind;
 using injection::Threads;
 
-class ResetFaultTest : public LockTest
+class ResetFaultTest : public ResetFixture
 {
 protected:
     static void SetUpTestSuite() { MemoryReserve::install(); } // as the application does
     /// Allocations are by far the most: a few of them, and all in the long run.
     static int stepOf(Call call) { return call == Call::Allocation ? rounds(29, 1) : 1; }
-    void openDefaults() const
-    {
-        UserDefaults::install(std::make_unique<FileUserDefaults>(folder.file("Lodestar.defaults")));
-    }
-    void fill() const
+    void startAnew() const
     {
         MemoryReserve::topUp();
         UserDefaults::install(nullptr);
@@ -43,36 +37,8 @@ protected:
             std::filesystem::remove_all(entry);
         }
         openDefaults();
-        RESTHandler& rest = RESTHandler::sharedInstance();
-        rest.setCorvelList({});
-        for (const char* const number : {"0", "1"}) {
-            const CorvelRef corvel = insertNewCorvel();
-            corvel->setAddress("127.0.99." + std::string(number)); // nobody listens there
-            corvel->setPassword("secret-password");
-            rest.addCorvel(corvel);
-            UserDefaults::standard().setString("secret-key", *corvel->address());
-        }
-        saveIgnoringErrors();
-        passcode() = "secret-passcode";
-        require();
-        ASSERT_TRUE(UserDefaults::standard().synchronize());
-    }
-    void showLock()
-    {
-        const auto login = Storyboard::main().instantiate<LoginViewController>(Scenes::loginViewController);
-        root = login;
-        login->beginAppearance();
-    }
-    std::vector<std::string> filesWithSecrets(const std::string& secret = "secret-") const
-    {
-        std::vector<std::string> names;
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.path())) {
-            const std::string name = std::filesystem::relative(entry.path(), folder.path());
-            if (entry.is_regular_file() && folder.read(name).find(secret) != std::string::npos) {
-                names.push_back(name);
-            }
-        }
-        return names;
+        RESTHandler::sharedInstance().setCorvelList({});
+        fill(2);
     }
 };
 
@@ -82,7 +48,7 @@ TEST_F(ResetFaultTest, DefaultsKeepTheOldFileOrHaveTheNewOne)
     for (const Kind kind : everyKind) {
         tries += forEachFailure(stepOf(kind.call), [&](int number) {
             SCOPED_TRACE(::testing::Message() << "call " << number << " of kind " << static_cast<int>(kind.call));
-            fill();
+            startAnew();
             const std::string before = folder.read("Lodestar.defaults");
             {
                 const Failing failing(kind, number, Threads::All);
@@ -110,13 +76,13 @@ TEST_F(ResetFaultTest, AResetIsFinishedByTheNextStartAtTheLatest)
         }
         tries += forEachFailure(stepOf(kind.call), [&](int number) {
             SCOPED_TRACE(::testing::Message() << "call " << number << " of kind " << static_cast<int>(kind.call));
-            fill();
-            showLock();
+            startAnew();
+            LoginViewController& login = showLogin();
             bool isEnded = false;
             try {
                 const Failing failing(kind, number, Threads::All);
-                std::dynamic_pointer_cast<LoginViewController>(root)->resetApplicationData();
-                MainQueue::shared().runUntil([] { return false; }, std::chrono::milliseconds(20));
+                login.resetApplicationData();
+                runMainQueue(20);
             } catch (const std::bad_alloc&) {
                 isEnded = true;
             }
@@ -125,17 +91,18 @@ TEST_F(ResetFaultTest, AResetIsFinishedByTheNextStartAtTheLatest)
             StoreStack::shared().close();
             openDefaults();
             RESTHandler::sharedInstance().setCorvelList(RESTHandler::sharedInstance().fetchCorvels());
-            showLock();
-            MainQueue::shared().runUntil([] { return false; }, std::chrono::milliseconds(20));
+            showLogin();
+            runMainQueue(20);
             if (isEnded && isRequired()) {
                 EXPECT_EQ(RESTHandler::sharedInstance().corvelList().size(), 2U) << "not begun";
                 return;
             }
+            EXPECT_TRUE(isUnlocked());
             EXPECT_TRUE(RESTHandler::sharedInstance().corvelList().empty());
             EXPECT_FALSE(isRequired());
             UserDefaults::standard().synchronize();
             StoreStack::shared().close();
-            EXPECT_THAT(filesWithSecrets(), ::testing::IsEmpty());
+            EXPECT_THAT(filesWith("secret-"), ::testing::IsEmpty());
         });
     }
     RecordProperty("tries", tries);
@@ -152,22 +119,17 @@ TEST_F(ResetFaultTest, ConsolesThatAreAskedMeanwhileLeaveNothing)
     const int tries = rounds(5, 100);
     for (int round = 0; round < tries; ++round) {
         SCOPED_TRACE(round);
-        fill();
+        startAnew();
         RESTHandler& rest = RESTHandler::sharedInstance();
         for (int i = 0; i < fleet.consoleCount(); ++i) {
-            const CorvelRef corvel = insertNewCorvel();
-            corvel->setAddress(fleet.address(i));
-            corvel->setUsername(fleet.user());
-            corvel->setPassword(fleet.password());
-            rest.addCorvel(corvel);
+            rest.addCorvel(addConsole(fleet.address(i), fleet.user(), fleet.password()));
         }
         const auto list = Storyboard::main().instantiate<CorvelListViewController>(Scenes::corvelListView);
         list->loadViewIfNeeded();
-        MainQueue::shared().runUntil([] { return false; }, std::chrono::milliseconds(random() % 60));
-        showLock();
-        std::dynamic_pointer_cast<LoginViewController>(root)->resetApplicationData();
+        runMainQueue(static_cast<int>(random() % 60));
+        showLogin().resetApplicationData();
         rest.queue().waitUntilAllOperationsAreFinished();
-        MainQueue::shared().runUntil([] { return false; }, std::chrono::milliseconds(300));
+        runMainQueue(300);
         rest.queue().waitUntilAllOperationsAreFinished();
         MainQueue::shared().drain();
         UserDefaults::standard().synchronize();
@@ -176,7 +138,7 @@ TEST_F(ResetFaultTest, ConsolesThatAreAskedMeanwhileLeaveNothing)
         }
         root.reset();
         StoreStack::shared().close();
-        EXPECT_THAT(filesWithSecrets(fleet.password()), ::testing::IsEmpty());
+        EXPECT_THAT(filesWith(fleet.password()), ::testing::IsEmpty());
     }
     RecordProperty("tries", tries);
 }

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Application/Adapters/FileUserDefaults.h"
 #include "Application/FeedbackSupport.h"
 #include "Feedback/CrashCollector.h"
-#include "Fleet/Registry.h"
-#include "Kit/Core/TabBarController.h"
-#include "Tests/Application/LockFixture.h"
+#include "Tests/Application/ResetFixture.h"
 
 namespace lodestar::lock
 {
@@ -13,100 +10,47 @@ namespace
 
 namespace fs = std::filesystem;
 
-class ResetTest : public LockTest
+class ResetTest : public ResetFixture
 {
 protected:
     ResetTest()
     {
         VireoLogger::openLogFolder(folder.file("Logs"));
-        UserDefaults::install(std::make_unique<FileUserDefaults>(folder.file("Lodestar.defaults")));
+        openDefaults();
         RESTHandler::sharedInstance().setCorvelList(RESTHandler::sharedInstance().fetchCorvels());
     }
     ~ResetTest() override { VireoLogger::openLogFolder("/dev/null/nowhere"); }
 
-    static CorvelRef addConsole(const std::string& address, const std::string& password)
-    {
-        const CorvelRef corvel = insertNewCorvel();
-        corvel->setDemo(false);
-        corvel->setName(address);
-        corvel->setAddress(address);
-        corvel->setUsername("oversight");
-        corvel->setPassword(password);
-        return corvel;
-    }
-    void fill(int consoles) const
-    {
-        RESTHandler& rest = RESTHandler::sharedInstance();
-        for (int index = 0; index < consoles; ++index) {
-            const std::string number = std::to_string(index);
-            // Nobody listens there.
-            rest.addCorvel(addConsole("127.0.99." + number, "secret-password-" + number));
-            UserDefaults::standard().setString("secret-key-" + number, "127.0.99." + number);
-        }
-        saveIgnoringErrors();
-        passcode() = "secret-passcode";
-        KeptState::shared().setValue(QStringLiteral("window"), 1);
-        require();
-        ASSERT_TRUE(UserDefaults::standard().synchronize());
-    }
-    std::shared_ptr<LoginViewController> lockedScreen()
-    {
-        auto login = Storyboard::main().instantiate<LoginViewController>(Scenes::loginViewController);
-        root = login;
-        login->beginAppearance();
-        return login;
-    }
     /// What is written late is written.
-    void settle() const
+    static void settle()
     {
-        MainQueue::shared().runUntil([] { return false; }, std::chrono::milliseconds(50));
+        runMainQueue(50);
         UserDefaults::standard().synchronize();
         KeptState::shared().synchronize();
         VireoLogger::flush();
-    }
-    std::map<std::string, std::string> files() const
-    {
-        std::map<std::string, std::string> found;
-        for (const auto& entry : fs::recursive_directory_iterator(folder.path())) {
-            if (entry.is_regular_file()) {
-                const std::string name = fs::relative(entry.path(), folder.path());
-                found[name] = folder.read(name);
-            }
-        }
-        return found;
-    }
-    std::vector<std::string> filesWithSecrets() const
-    {
-        std::vector<std::string> names;
-        for (const auto& [name, content] : files()) {
-            if (content.find("secret-") != std::string::npos) {
-                names.push_back(name);
-            }
-        }
-        return names;
     }
 };
 
 TEST_F(ResetTest, LeavesNoSecretInAnyFileAndComesUpAsOnTheFirstDay)
 {
     fill(40);
-    ASSERT_THAT(filesWithSecrets(), ::testing::Contains("Lodestar.defaults")) << "the search itself works";
-    const auto login = lockedScreen();
-    login->passwordTextField()->setText("secret-attempt");
-    login->performLogin();
-    login->alert()->choose(0);
+    ASSERT_THAT(filesWith("secret-"), ::testing::Contains("Lodestar.defaults")) << "the search itself works";
+    LoginViewController& login = showLogin();
+    login.passwordTextField()->setText("secret-attempt");
+    login.performLogin();
+    login.alert()->choose(0);
     // An editor that the lock took away had inserted this one, but not saved it.
-    addConsole("10.0.0.1", "secret-unsaved");
+    addConsole("10.0.0.1", "overseer", "secret-unsaved");
 
-    login->resetPassword();
-    EXPECT_EQ(login->alert()->title(), "Reset Application?");
-    EXPECT_EQ(login->alert()->message(), "Resetting your password will clear all application data");
-    login->alert()->choose(1);
+    login.resetPassword();
+    EXPECT_EQ(login.alert()->title(), "Reset Application?");
+    EXPECT_EQ(login.alert()->message(), "Resetting your password will clear all application data");
+    login.alert()->choose(1);
     EXPECT_EQ(passcode(), "secret-passcode") << "cancelled";
-    login->resetPassword();
-    login->alert()->choose(0);
+    login.resetPassword();
+    login.alert()->choose(0);
 
-    ASSERT_NE(dynamic_cast<TabBarController*>(root.get()), nullptr);
+    ASSERT_TRUE(isUnlocked());
     EXPECT_EQ(passcode(), "");
     EXPECT_FALSE(isRequired());
     EXPECT_FALSE(UserDefaults::standard().boolForKey("showedPreview"));
@@ -114,57 +58,48 @@ TEST_F(ResetTest, LeavesNoSecretInAnyFileAndComesUpAsOnTheFirstDay)
     ASSERT_EQ(RESTHandler::sharedInstance().corvelList().size(), 1U);
     EXPECT_EQ(RESTHandler::sharedInstance().corvelList().front()->name(), "Demo Corvel");
     settle();
-    EXPECT_THAT(filesWithSecrets(), ::testing::IsEmpty());
+    EXPECT_THAT(filesWith("secret-"), ::testing::IsEmpty());
     EXPECT_EQ(UserDefaults::standard().allKeys(), std::vector<std::string>{"initialLoad"});
+    EXPECT_THAT(KeptState::shared().allKeys(), ::testing::IsEmpty());
 
     root.reset();
     StoreStack::shared().close();
-    EXPECT_THAT(filesWithSecrets(), ::testing::IsEmpty());
+    EXPECT_THAT(filesWith("secret-"), ::testing::IsEmpty());
     std::vector<std::string> names;
     for (const auto& [name, content] : files()) {
         names.push_back(name);
     }
-    EXPECT_THAT(names, ::testing::UnorderedElementsAre("Lodestar.sqlite", "Lodestar.defaults", "Logs/lodestar.log"));
+    EXPECT_THAT(names, ::testing::UnorderedElementsAre("Lodestar.sqlite", "Lodestar.defaults", "Lodestar.state",
+                                                       "Logs/lodestar.log"));
     // The demonstration has been refreshed, and with that saved.
     for (const CorvelRef& corvel : RESTHandler::sharedInstance().fetchCorvels()) {
         EXPECT_EQ(corvel->name(), "Demo Corvel");
     }
 }
 
-TEST_F(ResetTest, AKeychainThatRefusesDoesNotKeepTheRest)
-{
-    fill(2);
-    const auto login = lockedScreen();
-    keychain->writeFailure = Keychain::timedOut;
-    login->resetApplicationData();
-    settle();
-    EXPECT_FALSE(isRequired());
-    EXPECT_THAT(filesWithSecrets(), ::testing::IsEmpty());
-}
-
 TEST_F(ResetTest, AResetThatTheProcessDidNotSurviveIsFinishedBeforeAnythingIsShown)
 {
     fill(3);
-    const auto login = lockedScreen();
     std::string written;
     keychain->onWrite = [&] { written = folder.read("Lodestar.defaults"); };
-    login->resetApplicationData();
+    showLogin().resetApplicationData();
     keychain->onWrite = nullptr;
 
     // The state of the disk after the first step, in a new process.
     root.reset();
     StoreStack::shared().close();
+    UserDefaults::install(nullptr);
     std::ofstream(folder.file("Lodestar.defaults"), std::ios::binary) << written;
-    UserDefaults::install(std::make_unique<FileUserDefaults>(folder.file("Lodestar.defaults")));
+    openDefaults();
     RESTHandler::sharedInstance().setCorvelList({});
-    RESTHandler::sharedInstance().addCorvel(addConsole("127.0.99.0", "secret-password-0"));
+    RESTHandler::sharedInstance().addCorvel(addConsole("127.0.99.0", "overseer", "secret-password-0"));
     saveIgnoringErrors();
     ASSERT_TRUE(isRequired());
-    lockedScreen();
-    ASSERT_NE(dynamic_cast<TabBarController*>(root.get()), nullptr);
+    showLogin();
+    EXPECT_TRUE(isUnlocked());
     EXPECT_TRUE(RESTHandler::sharedInstance().corvelList().empty());
     settle();
-    EXPECT_THAT(filesWithSecrets(), ::testing::IsEmpty());
+    EXPECT_THAT(filesWith("secret-"), ::testing::IsEmpty());
 }
 
 TEST_F(ResetTest, ReportsHoldNoSecretAndGoWithTheRest)
@@ -172,13 +107,13 @@ TEST_F(ResetTest, ReportsHoldNoSecretAndGoWithTheRest)
     fill(3);
     // Its console is gone, the key is not.
     UserDefaults::standard().setString("secret-key-orphan", "127.0.99.77");
-    const auto login = lockedScreen();
-    login->passwordTextField()->setText("secret-attempt");
-    login->performLogin();
-    login->alert()->choose(0);
+    LoginViewController& login = showLogin();
+    login.passwordTextField()->setText("secret-attempt");
+    login.performLogin();
+    login.alert()->choose(0);
     settle();
     const auto isStoreOrDefaults = ::testing::AnyOf("Lodestar.defaults", ::testing::StartsWith("Lodestar.sqlite"));
-    EXPECT_THAT(filesWithSecrets(), ::testing::Each(isStoreOrDefaults)) << "after use";
+    EXPECT_THAT(filesWith("secret-"), ::testing::Each(isStoreOrDefaults)) << "after use";
 
     // The worst that a crash can tell: what was thrown, and lines of the log that should never have been written.
     FeedbackSupport::keepIn(QString::fromStdString(folder.path()));
@@ -190,22 +125,20 @@ TEST_F(ResetTest, ReportsHoldNoSecretAndGoWithTheRest)
     const ReportStore reports(folder.file("Reports"));
     ASSERT_EQ(collectCrashes({folder.file("Crashes"), folder.file("Logs"), FeedbackSupport::secretsInUse()}, reports),
               1);
-    EXPECT_THAT(filesWithSecrets(), ::testing::Each(isStoreOrDefaults)) << "after a crash";
-    for (const auto& [name, content] : files()) {
-        EXPECT_THAT(content, ::testing::Not(::testing::HasSubstr("secret-passcode"))) << name;
-    }
+    EXPECT_THAT(filesWith("secret-"), ::testing::Each(isStoreOrDefaults)) << "after a crash";
+    EXPECT_THAT(filesWith("secret-passcode"), ::testing::IsEmpty());
 
     std::ofstream(folder.file("Crashes/crash-1-2")) << "secret-password-1";
     // No secret, but where the consoles are is nothing for whoever comes next.
     LODESTAR_LOG("Tests/Application/ResetTests", "test", "no answer from 127.0.99.1");
     settle();
     std::ofstream(folder.file("Logs/lodestar.log.1")) << "no answer from 127.0.99.2";
-    login->resetApplicationData();
+    keychain->writeFailure = Keychain::timedOut; // which must not keep the rest
+    login.resetApplicationData();
     settle();
-    EXPECT_THAT(filesWithSecrets(), ::testing::IsEmpty());
-    for (const auto& [name, content] : files()) {
-        EXPECT_THAT(content, ::testing::Not(::testing::HasSubstr("127.0.99."))) << name;
-    }
+    EXPECT_FALSE(isRequired());
+    EXPECT_THAT(filesWith("secret-"), ::testing::IsEmpty());
+    EXPECT_THAT(filesWith("127.0.99."), ::testing::IsEmpty());
     EXPECT_THAT(reports.list(), ::testing::IsEmpty());
     EXPECT_TRUE(fs::is_empty(folder.file("Reports")));
     EXPECT_TRUE(fs::is_empty(folder.file("Crashes")));

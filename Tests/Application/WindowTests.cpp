@@ -1,20 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 // The real window as a person meets it: on the first day, and with a keyboard on a small screen.
 #include "Application/FeedbackSupport.h"
-#include "Application/OneInstance.h"
 #include "Application/WindowPlace.h"
-#include "Fleet/Registry.h"
 #include "Platform/NotificationCenter.h"
-#include "Simulator/SimulatorProcess.h"
 #include "Tests/Application/LockedWindowFixture.h"
 
-#include <QFileInfo>
-#include <QJsonObject>
 #include <QScopedValueRollback>
 #include <QScreen>
 #include <QSensorBackend>
 #include <QSensorManager>
-#include <QTemporaryDir>
+
+#include <exception>
 
 namespace lodestar::lock
 {
@@ -117,7 +113,7 @@ TEST_F(LockedWindowTest, ComesBackWhereItStoodAndWithTheButtonThatItsDeviceNeeds
         place = std::make_unique<WindowPlace>(window());
     };
     constexpr int settling = 700; // milliseconds
-    std::ofstream(folder.file("Lodestar.state")) << "{\"window\": [";
+    std::ofstream(folder.file("Lodestar.state")) << "[Strings]\nwindow=60 4\n[";
     start();
     EXPECT_EQ(window().size(), QSize(390, 844)) << "nothing is known";
     open(false);
@@ -134,8 +130,7 @@ TEST_F(LockedWindowTest, ComesBackWhereItStoodAndWithTheButtonThatItsDeviceNeeds
 
     // A screen that is not there any more, and was larger.
     place.reset();
-    KeptState::shared().setValue(QStringLiteral("window"),
-                                 QJsonObject{{"x", 5000}, {"y", 40}, {"width", 3000}, {"height", 600}});
+    KeptState::shared().setString("5000 40 3000 600", "window");
     start();
     EXPECT_TRUE(window().screen()->availableGeometry().contains(window().geometry()));
     EXPECT_EQ(window().height(), 600);
@@ -162,41 +157,15 @@ TEST_F(LockedWindowTest, ComesBackWhereItStoodAndWithTheButtonThatItsDeviceNeeds
     place.reset();
 }
 
-TEST_F(LockedWindowTest, AFurtherStartOnTheSameFolderShowsTheWindow)
+TEST_F(LockedWindowTest, UncaughtExceptionsAreReportedAndTheEndSavesWhatIsPending)
 {
-    const QTemporaryDir data;
-    open(false);
-    const OneInstance instance(window(), data.path());
-    ASSERT_TRUE(claimDataFolder(data.path()));
-    window().update(); // It may have drawn all it had to, and a mere requestUpdate() swaps no frame then.
-    ASSERT_TRUE(waitFor([&] { return QFileInfo::exists(data.filePath(QStringLiteral("Lodestar.window"))); }));
-    window().hide();
-    EXPECT_FALSE(claimDataFolder(data.path()));
-    EXPECT_TRUE(waitFor([&] { return window().isVisible(); }));
-}
-
-TEST_F(LockedWindowTest, AConsoleThatCannotBeReachedReadsOfflineUntilItAnswers)
-{
-    simulator::Settings settings;
-    settings.consoles = 2;
-    simulator::SimulatorProcess fleet(settings);
-    for (const int number : {0, 1}) {
-        const CorvelRef corvel = insertNewCorvel();
-        corvel->setName("Console " + std::to_string(number));
-        corvel->setAddress(fleet.address(number));
-        corvel->setUsername(fleet.user());
-        corvel->setPassword(fleet.password());
-        RESTHandler::sharedInstance().addCorvel(corvel);
-    }
-    fleet.setFault("closePort:0");
-    open(false);
-    const auto isTold = [this](const char* sentence) { return spoken().contains(QString::fromLatin1(sentence)); };
-    EXPECT_TRUE(waitFor([&] {
-        return isTold("Console 0, Offline, attention 0, events 0") && isTold("Console 1, Error, attention 3, events 8");
-    }));
-    fleet.clearFaults();
-    list().refresh();
-    EXPECT_TRUE(waitFor([&] { return isTold("Console 0, Error, attention 3, events 8"); }));
+    delegate.didFinishLaunchingWithOptions();
+    EXPECT_EQ(std::get_terminate(), &VireoLogger::uncaughtExceptionHandler);
+    delegate.managedObjectContext().insertNewObject(Corvel::entityName);
+    delegate.applicationWillTerminate();
+    StoreStack::shared().close();
+    EXPECT_EQ(RESTHandler::sharedInstance().fetchCorvels().size(), 1U);
+    VireoLogger::settings() = {};
 }
 
 } // namespace

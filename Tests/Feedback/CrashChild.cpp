@@ -4,7 +4,6 @@
 #include "Feedback/CrashCollector.h"
 #include "Feedback/VireoLogger.h"
 #include "Platform/Queues/DispatchQueue.h"
-#include "Platform/Queues/OwnThread.h"
 
 #include <csignal>
 #include <cstdio>
@@ -73,14 +72,6 @@ void overflowInThePool()
     ::sleep(60);
 }
 
-void overflowOnAThreadOfItsOwn()
-{
-    std::thread([] {
-        const OwnThread thread("overflows");
-        zero = overflow(zero);
-    }).join();
-}
-
 const std::string secret = "hunter2-swordfish";
 std::mutex guardOfSecrets;
 
@@ -125,14 +116,10 @@ void throwOnAWorker()
     const std::map<std::string, std::function<void()>> ways = {
         {"segv", [] { zero = *reinterpret_cast<volatile int*>(zero + 16); }},
         {"bus", &readPastTheEnd},
-        {"fpe", [] { ::raise(SIGFPE); }},
-        {"ill", [] { __builtin_trap(); }},
-        {"trap", [] { ::raise(SIGTRAP); }},
         {"abort", [] { std::abort(); }},
         {"null-call", &callNowhere},
         {"overflow", [] { zero = overflow(zero); }},
         {"pool-overflow", &overflowInThePool},
-        {"thread-overflow", &overflowOnAThreadOfItsOwn},
         {"no-stack", &crashWithoutStack},
         {"two-threads", &crashOnTwoThreads},
         {"exception", &throwWithASecret},
@@ -167,7 +154,7 @@ int main(int argc, char** argv)
     ::setrlimit(RLIMIT_CORE, &noCore);
     VireoLogger::setSecretsProvider(&secretsInUse);
     std::set_terminate(&VireoLogger::uncaughtExceptionHandler);
-    if (!CrashCapture::install(folder + "/Crashes", {"9.8.7", VireoLogger::sessionIdentifier()})) {
+    if (!CrashCapture::install(folder + "/Crashes", "9.8.7")) {
         return 3;
     }
     CrashCapture::recordModules();

@@ -10,7 +10,7 @@ namespace lodestar::scenes
 namespace
 {
 
-class CountingDelegate : public IntroViewDelegate
+class CountingDelegate : public PagedIntroDelegate
 {
 public:
     void introDidFinish() override { ++finished; }

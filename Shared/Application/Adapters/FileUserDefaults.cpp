@@ -2,19 +2,13 @@
 #include "Application/Adapters/FileUserDefaults.h"
 
 #include "Platform/PrivateFile.h"
-#include "Platform/Queues/DispatchQueue.h"
 
 #include <QFile>
 #include <QFileInfo>
 #include <QSettings>
 
-#include <cstdint>
 #include <cstdio>
-#include <map>
-#include <mutex>
 #include <new>
-#include <utility>
-#include <variant>
 
 namespace lodestar
 {
@@ -57,10 +51,10 @@ void forEachKey(QSettings& settings, QLatin1String group, const Function& functi
     settings.endGroup();
 }
 
-Values read(const QString& path)
+Values read(const std::string& path)
 {
     Values values;
-    QSettings settings(path, QSettings::IniFormat);
+    QSettings settings(QString::fromStdString(path), QSettings::IniFormat);
     forEachKey(settings, strings, [&](const std::string& key, const QVariant& value) {
         values.insert_or_assign(key, decoded(value.toString()));
     });
@@ -96,10 +90,11 @@ std::string fileText(const Values& values)
 /// Replaces the file as a whole: it holds session keys, so the new file is private from its first byte. `QSettings`
 /// must not write it: a process that is killed while writing leaves its lock behind, and the lock would hold up every
 /// later process. The folder belongs to this process, so no lock is needed.
-bool write(const QString& path, const Values& values)
+bool write(const std::string& path, const Values& values)
 {
-    const std::string folder = QFile::encodeName(QFileInfo(path).absolutePath()).toStdString();
-    const std::string file = QFile::encodeName(path).toStdString();
+    const QString name = QString::fromStdString(path);
+    const std::string folder = QFile::encodeName(QFileInfo(name).absolutePath()).toStdString();
+    const std::string file = QFile::encodeName(name).toStdString();
     const std::string fresh = file + ".new";
     std::remove(fresh.c_str()); // left by a process that was killed
     if (!makePrivateFolder(folder) || !writePrivateFile(fresh, fileText(values))) {
@@ -115,123 +110,40 @@ bool write(const QString& path, const Values& values)
 
 } // namespace
 
-struct FileUserDefaults::State : std::enable_shared_from_this<State> {
-    explicit State(const std::string& thePath) : path(QString::fromStdString(thePath)), values(read(path)) {}
-
-    /// The values differ from the file from now on. Call with `mutex` held.
-    void noteChange()
-    {
-        ++generation;
-        if (!std::exchange(writeQueued, true)) {
-            queue.async([self = shared_from_this()] { self->writePending(); });
-        }
-    }
-
-    bool writePending()
-    {
-        const std::lock_guard writing(writeMutex);
-        std::unique_lock lock(mutex);
-        writeQueued = false;
-        if (generation == writtenGeneration) {
-            return true;
-        }
-        const std::uint64_t copied = generation;
-        bool written = false;
-        try {
-            const Values copy = values;
-            lock.unlock();
-            written = write(path, copy);
-        } catch (const std::bad_alloc&) {
-            // Qt allocates its texts outside the memory reserve. As with a full disk, the next change or the end tries
-            // again.
-        }
-        if (!lock.owns_lock()) {
-            lock.lock();
-        }
-        if (written) {
-            writtenGeneration = copied;
-        }
-        return written;
-    }
-
-    void set(const std::string& key, Value value)
-    {
-        const std::lock_guard lock(mutex);
-        const auto [entry, isNew] = values.try_emplace(key, value);
-        if (isNew || entry->second != value) {
-            entry->second = std::move(value);
-            noteChange();
-        }
-    }
-
-    template <typename T>
-    std::optional<T> get(const std::string& key) const
-    {
-        const std::lock_guard lock(mutex);
-        const auto found = values.find(key);
-        const T* const value = found != values.end() ? std::get_if<T>(&found->second) : nullptr;
-        return value != nullptr ? std::optional<T>(*value) : std::nullopt;
-    }
-
-    const QString path;
-    const DispatchQueue queue{"lodestar.user-defaults", DispatchQueue::Kind::Serial};
-    std::mutex writeMutex; ///< one writer at a time; taken before `mutex`
-    mutable std::mutex mutex;
-    Values values;
-    std::uint64_t generation = 0;
-    std::uint64_t writtenGeneration = 0;
-    bool writeQueued = false;
-};
-
-FileUserDefaults::FileUserDefaults(const std::string& path) : m_state(std::make_shared<State>(path)) {}
+FileUserDefaults::FileUserDefaults(const std::string& path) : UserDefaults(read(path)), m_path(path) {}
 
 FileUserDefaults::~FileUserDefaults()
 {
-    m_state->writePending();
+    m_queue.sync([this] { synchronize(); }); // after the last write that is queued
 }
 
-bool FileUserDefaults::boolForKey(const std::string& key) const
+void FileUserDefaults::didChange()
 {
-    return m_state->get<bool>(key).value_or(false);
-}
-
-void FileUserDefaults::setBool(bool value, const std::string& key)
-{
-    m_state->set(key, value);
-}
-
-std::optional<std::string> FileUserDefaults::stringForKey(const std::string& key) const
-{
-    return m_state->get<std::string>(key);
-}
-
-void FileUserDefaults::setString(const std::string& value, const std::string& key)
-{
-    m_state->set(key, value);
-}
-
-void FileUserDefaults::removeObjectForKey(const std::string& key)
-{
-    const std::lock_guard lock(m_state->mutex);
-    if (m_state->values.erase(key) > 0) {
-        m_state->noteChange();
+    ++m_generation;
+    if (!m_writeQueued.exchange(true)) {
+        m_queue.async([this] { synchronize(); });
     }
-}
-
-std::vector<std::string> FileUserDefaults::allKeys() const
-{
-    const std::lock_guard lock(m_state->mutex);
-    std::vector<std::string> keys;
-    keys.reserve(m_state->values.size());
-    for (const auto& [key, value] : m_state->values) {
-        keys.push_back(key);
-    }
-    return keys;
 }
 
 bool FileUserDefaults::synchronize()
 {
-    return m_state->writePending();
+    const std::lock_guard writing(m_writeMutex);
+    m_writeQueued = false;
+    const std::uint64_t copied = m_generation;
+    if (copied == m_writtenGeneration) {
+        return true;
+    }
+    try {
+        if (!write(m_path, values())) {
+            return false;
+        }
+    } catch (const std::bad_alloc&) {
+        // Qt allocates its texts outside the memory reserve. As with a full disk, the next change or the end tries
+        // again.
+        return false;
+    }
+    m_writtenGeneration = copied;
+    return true;
 }
 
 } // namespace lodestar

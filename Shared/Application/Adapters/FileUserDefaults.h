@@ -1,11 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Platform/Queues/DispatchQueue.h"
 #include "Platform/UserDefaults.h"
 
-#include <memory>
-#include <string>
-#include <vector>
+#include <atomic>
+#include <cstdint>
 
 namespace lodestar
 {
@@ -20,21 +20,18 @@ public:
     /// The first write makes missing folders, each with mode 0700.
     explicit FileUserDefaults(const std::string& path);
     ~FileUserDefaults() override;
-    FileUserDefaults(const FileUserDefaults&) = delete;
-    FileUserDefaults& operator=(const FileUserDefaults&) = delete;
-
-    bool boolForKey(const std::string& key) const override;
-    void setBool(bool value, const std::string& key) override;
-    /// Nothing when the key has no value, and when its value is a boolean.
-    std::optional<std::string> stringForKey(const std::string& key) const override;
-    void setString(const std::string& value, const std::string& key) override;
-    void removeObjectForKey(const std::string& key) override;
-    std::vector<std::string> allKeys() const override;
     bool synchronize() override;
 
+protected:
+    void didChange() override;
+
 private:
-    struct State;
-    std::shared_ptr<State> m_state;
+    const std::string m_path;
+    const DispatchQueue m_queue{"lodestar.user-defaults", DispatchQueue::Kind::Serial};
+    std::mutex m_writeMutex; ///< one writer at a time
+    std::atomic<std::uint64_t> m_generation = 0;
+    std::uint64_t m_writtenGeneration = 0;
+    std::atomic<bool> m_writeQueued = false;
 };
 
 } // namespace lodestar

@@ -5,9 +5,7 @@
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/Queues/OwnThread.h"
 
-#include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QEvent>
 #include <QObject>
 #include <QString>
 #include <QThread>
@@ -88,12 +86,9 @@ Result<std::string> resultOf(QKeychain::Job* job, SecretAccess access)
 
 } // namespace
 
-/// Lives on the main thread; only `settle` may be called on any thread.
+/// Lives on the main thread; only `start` and `settle` run on another.
 struct SystemKeychain::State : std::enable_shared_from_this<State> {
-    class Starter;
-    class AskEvent;
-
-    State(std::chrono::milliseconds theDeadline, Begin begin);
+    explicit State(std::chrono::milliseconds theDeadline);
     ~State();
     State(const State&) = delete;
     State& operator=(const State&) = delete;
@@ -101,83 +96,52 @@ struct SystemKeychain::State : std::enable_shared_from_this<State> {
     void ask(SecretQuestion question, std::function<QKeychain::Job*()> makeJob,
              std::function<void(Result<std::string>)> answer);
     void startNext();
+    static void start(const std::weak_ptr<State>& state, const std::shared_ptr<Call>& call,
+                      std::chrono::milliseconds limit);
     void timeIsUp(const std::shared_ptr<Call>& call);
     void ended();
     /// Any thread. The state may be destroyed already.
     static void settle(const std::weak_ptr<State>& state, Call& call, Result<std::string> result);
 
     const std::chrono::milliseconds deadline;
-    bool hasBegun;
+    bool hasBegun = false;
     std::deque<std::shared_ptr<Call>> waiting;
     std::shared_ptr<Call> current; ///< the request that the service has; the library runs one job at a time
     bool givenUp = false;          ///< whether `current` has been answered although its job has not ended
     std::unique_ptr<QThread> thread = std::make_unique<QThread>();
-    std::unique_ptr<Starter> starter;
+    std::unique_ptr<QObject> onThread =
+        std::make_unique<QObject>(); ///< lives on the thread; jobs are started in its name
 };
 
-/// Carries a request to the keychain's thread.
-class SystemKeychain::State::AskEvent final : public QEvent
+/// On the keychain's thread.
+void SystemKeychain::State::start(const std::weak_ptr<State>& state, const std::shared_ptr<Call>& call,
+                                  std::chrono::milliseconds limit)
 {
-public:
-    AskEvent(std::weak_ptr<State> theState, std::shared_ptr<Call> theCall, std::chrono::milliseconds theLimit)
-        : QEvent(eventType()), state(std::move(theState)), call(std::move(theCall)), limit(theLimit)
-    {
+    const SecretAccess access = secretAccess(call->question, limit);
+    auto* const job = call->makeJob();
+    const bool reads = qobject_cast<QKeychain::ReadPasswordJob*>(job) != nullptr;
+    if (auto answer = answerWithoutJob(call->question, reads, access)) {
+        delete job;
+        settle(state, *call, std::move(*answer));
+        return;
     }
-    static Type eventType()
     {
-        static const int type = registerEventType();
-        return static_cast<Type>(type);
+        const std::lock_guard lock(call->mutex);
+        call->asksThePerson = access == SecretAccess::Locked;
     }
+    QObject::connect(job, &QKeychain::Job::finished, job, [state, call, access](QKeychain::Job* finished) {
+        settle(state, *call, resultOf(finished, access));
+    });
+    job->setAutoDelete(true);
+    // Without a service the library must not fall back to a plain file.
+    job->setInsecureFallback(false);
+    job->start();
+}
 
-    const std::weak_ptr<State> state;
-    const std::shared_ptr<Call> call;
-    const std::chrono::milliseconds limit;
-};
-
-/// Starts the jobs on the keychain's thread.
-class SystemKeychain::State::Starter final : public QObject
-{
-public:
-    bool event(QEvent* event) override
-    {
-        if (event->type() != AskEvent::eventType()) {
-            return QObject::event(event);
-        }
-        const auto& ask = static_cast<const AskEvent&>(*event);
-        start(ask.state, ask.call, ask.limit);
-        return true;
-    }
-
-private:
-    static void start(const std::weak_ptr<State>& state, const std::shared_ptr<Call>& call,
-                      std::chrono::milliseconds limit)
-    {
-        const SecretAccess access = secretAccess(call->question, limit);
-        auto* const job = call->makeJob();
-        const bool reads = qobject_cast<QKeychain::ReadPasswordJob*>(job) != nullptr;
-        if (auto answer = answerWithoutJob(call->question, reads, access)) {
-            delete job;
-            settle(state, *call, std::move(*answer));
-            return;
-        }
-        {
-            const std::lock_guard lock(call->mutex);
-            call->asksThePerson = access == SecretAccess::Locked;
-        }
-        connect(job, &QKeychain::Job::finished, job,
-                [state, call, access](QKeychain::Job* finished) { settle(state, *call, resultOf(finished, access)); });
-        job->setAutoDelete(true);
-        // Without a service the library must not fall back to a plain file.
-        job->setInsecureFallback(false);
-        job->start();
-    }
-};
-
-SystemKeychain::State::State(std::chrono::milliseconds theDeadline, Begin begin)
-    : deadline(theDeadline), hasBegun(begin == Begin::AtOnce), starter(std::make_unique<Starter>())
+SystemKeychain::State::State(std::chrono::milliseconds theDeadline) : deadline(theDeadline)
 {
     thread->setObjectName(QStringLiteral("lodestar-keychain"));
-    starter->moveToThread(thread.get());
+    onThread->moveToThread(thread.get());
     QObject::connect(
         thread.get(), &QThread::started, thread.get(),
         [] { static thread_local const OwnThread own("lodestar-keych"); }, Qt::DirectConnection);
@@ -192,7 +156,7 @@ SystemKeychain::State::~State()
     // The thread is stuck inside the library, perhaps for good. Leak it: Qt ends a process that destroys a running
     // thread.
     static_cast<void>(thread.release());
-    static_cast<void>(starter.release());
+    static_cast<void>(onThread.release());
 }
 
 void SystemKeychain::State::ask(SecretQuestion question, std::function<QKeychain::Job*()> makeJob,
@@ -221,7 +185,9 @@ void SystemKeychain::State::startNext()
             self->timeIsUp(call);
         }
     });
-    QCoreApplication::postEvent(starter.get(), new AskEvent(weak_from_this(), current, deadline));
+    QMetaObject::invokeMethod(
+        onThread.get(), [state = weak_from_this(), call = current, limit = deadline] { start(state, call, limit); },
+        Qt::QueuedConnection);
 }
 
 void SystemKeychain::State::timeIsUp(const std::shared_ptr<Call>& call)
@@ -265,10 +231,7 @@ void SystemKeychain::State::settle(const std::weak_ptr<State>& state, Call& call
     });
 }
 
-SystemKeychain::SystemKeychain(std::chrono::milliseconds deadline, Begin begin)
-    : m_state(std::make_shared<State>(deadline, begin))
-{
-}
+SystemKeychain::SystemKeychain(std::chrono::milliseconds deadline) : m_state(std::make_shared<State>(deadline)) {}
 
 SystemKeychain::~SystemKeychain() = default;
 

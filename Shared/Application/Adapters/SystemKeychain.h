@@ -22,9 +22,7 @@ namespace lodestar
 class SystemKeychain final : public Keychain
 {
 public:
-    enum class Begin { AtOnce, WhenTold };
-
-    explicit SystemKeychain(std::chrono::milliseconds deadline = std::chrono::seconds(3), Begin begin = Begin::AtOnce);
+    explicit SystemKeychain(std::chrono::milliseconds deadline = std::chrono::seconds(3));
     /// Leaves requests that are under way unanswered.
     ~SystemKeychain() override;
     SystemKeychain(const SystemKeychain&) = delete;

@@ -1,18 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Model/Corvel.h"
 
-#include <utility>
-
 namespace lodestar
 {
-
-namespace
-{
-
-/// Indices of the attributes, in the order in which `Corvel::entity` lists them.
-enum Attribute : std::size_t { Name, Address, Username, Password, Demo, Version, AttributeCount };
-
-} // namespace
 
 EntityDescription Corvel::entity()
 {
@@ -41,27 +31,6 @@ void Corvel::setText(std::size_t index, std::optional<std::string> value)
     setAttribute(index, value ? AttributeValue(*std::move(value)) : AttributeValue());
 }
 
-std::optional<std::string> Corvel::name() const
-{
-    return text(Name);
-}
-std::optional<std::string> Corvel::address() const
-{
-    return text(Address);
-}
-std::optional<std::string> Corvel::username() const
-{
-    return text(Username);
-}
-std::optional<std::string> Corvel::password() const
-{
-    return text(Password);
-}
-std::optional<std::string> Corvel::version() const
-{
-    return text(Version);
-}
-
 int Corvel::demo() const
 {
     const std::lock_guard lock(m_attributesMutex);
@@ -69,26 +38,6 @@ int Corvel::demo() const
     return number != nullptr ? static_cast<int>(*number) : 0;
 }
 
-void Corvel::setName(std::optional<std::string> value)
-{
-    setText(Name, std::move(value));
-}
-void Corvel::setAddress(std::optional<std::string> value)
-{
-    setText(Address, std::move(value));
-}
-void Corvel::setUsername(std::optional<std::string> value)
-{
-    setText(Username, std::move(value));
-}
-void Corvel::setPassword(std::optional<std::string> value)
-{
-    setText(Password, std::move(value));
-}
-void Corvel::setVersion(std::optional<std::string> value)
-{
-    setText(Version, std::move(value));
-}
 void Corvel::setDemo(bool value)
 {
     const std::lock_guard lock(m_attributesMutex);
@@ -103,15 +52,12 @@ std::shared_ptr<const FeedDictionary> Corvel::restData() const
 
 void Corvel::setRestData(std::shared_ptr<const FeedDictionary> feeds)
 {
-    {
-        const std::lock_guard lock(m_restDataMutex);
-        m_restData.swap(feeds);
-    }
-    // The former feeds may take many megabytes: they are freed here, after the lock was released.
+    changeRestData([&feeds](const std::shared_ptr<const FeedDictionary>& /*former*/) { return std::move(feeds); });
 }
 
 void Corvel::changeRestData(const RestDataChange& change)
 {
+    // The former feeds may take many megabytes: they are freed after the lock was released.
     std::shared_ptr<const FeedDictionary> former;
     {
         const std::lock_guard lock(m_restDataMutex);

@@ -9,6 +9,7 @@
 #include <mutex>
 #include <optional>
 #include <string>
+#include <utility>
 
 namespace lodestar
 {
@@ -29,18 +30,18 @@ public:
 
     Corvel();
 
-    std::optional<std::string> name() const;
-    std::optional<std::string> address() const;
-    std::optional<std::string> username() const;
-    std::optional<std::string> password() const;
-    std::optional<std::string> version() const;
+    std::optional<std::string> name() const { return text(Name); }
+    std::optional<std::string> address() const { return text(Address); }
+    std::optional<std::string> username() const { return text(Username); }
+    std::optional<std::string> password() const { return text(Password); }
+    std::optional<std::string> version() const { return text(Version); }
     /// The integer value of `demo`, 0 when it has none; 1 marks the demonstration console.
     int demo() const;
-    void setName(std::optional<std::string> value);
-    void setAddress(std::optional<std::string> value);
-    void setUsername(std::optional<std::string> value);
-    void setPassword(std::optional<std::string> value);
-    void setVersion(std::optional<std::string> value);
+    void setName(std::optional<std::string> value) { setText(Name, std::move(value)); }
+    void setAddress(std::optional<std::string> value) { setText(Address, std::move(value)); }
+    void setUsername(std::optional<std::string> value) { setText(Username, std::move(value)); }
+    void setPassword(std::optional<std::string> value) { setText(Password, std::move(value)); }
+    void setVersion(std::optional<std::string> value) { setText(Version, std::move(value)); }
     void setDemo(bool value);
 
     std::atomic<bool> isOnline = false;
@@ -58,6 +59,9 @@ public:
     void changeRestData(const RestDataChange& change);
 
 private:
+    /// Indices of the attributes, in the order in which `entity` lists them.
+    enum Attribute : std::size_t { Name, Address, Username, Password, Demo, Version, AttributeCount };
+
     std::optional<std::string> text(std::size_t index) const;
     void setText(std::size_t index, std::optional<std::string> value);
 

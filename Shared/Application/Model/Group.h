@@ -6,6 +6,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
 namespace lodestar
 {
@@ -15,12 +16,22 @@ class Group : public ManagedObject
 {
 public:
     static constexpr std::string_view entityName = "Group";
-    static EntityDescription entity();
+    static EntityDescription entity()
+    {
+        return {std::string(entityName), {{"name", AttributeType::String}}, [] { return std::make_shared<Group>(); }};
+    }
 
-    Group();
+    Group() : ManagedObject(1) {}
 
-    std::optional<std::string> name() const;
-    void setName(std::optional<std::string> value);
+    std::optional<std::string> name() const
+    {
+        const auto* const name = std::get_if<std::string>(&attribute(0));
+        return name != nullptr ? std::optional(*name) : std::nullopt;
+    }
+    void setName(std::optional<std::string> value)
+    {
+        setAttribute(0, value ? AttributeValue(*std::move(value)) : AttributeValue());
+    }
 };
 
 } // namespace lodestar

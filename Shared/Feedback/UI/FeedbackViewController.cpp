@@ -101,7 +101,9 @@ void FeedbackViewController::submit()
     }
     assemble([this](ReportBundle bundle) {
         keep(std::move(bundle), [this](const ReportBundle&) {
-            finish(tr("Report Saved"), isLocked() ? QString() : tr("It is in the list of reports on this device."));
+            m_alert->present(tr("Report Saved"),
+                             isLocked() ? QString() : tr("It is in the list of reports on this device."), {{tr("OK")}},
+                             0, [this](int) { m_close(); });
         });
     });
 }
@@ -117,7 +119,9 @@ void FeedbackViewController::showText()
         if (sends()) {
             review->setAction(tr("Send"), [this, bundle = std::move(bundle)] {
                 navigationController()->popViewController(Animated::Yes);
-                keep(bundle, [this](const ReportBundle& kept) { send(kept); });
+                keep(bundle, [this](const ReportBundle& kept) {
+                    sendKeptReport(self<FeedbackViewController>(), *m_alert, kept, m_setup->address, m_close);
+                });
             });
         }
         navigationController()->pushViewController(review, Animated::Yes);
@@ -135,29 +139,15 @@ void FeedbackViewController::keep(ReportBundle bundle, std::function<void(Report
                 [screen = std::move(screen), saved, bundle = std::move(bundle), done = std::move(done)]() mutable {
                     screen->setBusy(false);
                     if (!*saved) {
-                        screen->tell(tr("The report could not be saved"), saved->error());
+                        // The screen stays, with everything in it.
+                        screen->m_alert->present(tr("The report could not be saved"), errorText(saved->error()),
+                                                 {{tr("OK")}}, 0, {});
                         return;
                     }
                     bundle.identifier = saved->value();
                     done(std::move(bundle));
                 });
         });
-}
-
-void FeedbackViewController::send(const ReportBundle& bundle)
-{
-    sendKeptReport(self<FeedbackViewController>(), *m_alert, bundle, m_setup->address, m_close);
-}
-
-void FeedbackViewController::finish(const QString& title, const QString& message)
-{
-    m_alert->present(title, message, {{tr("OK")}}, 0, [this](int) { m_close(); });
-}
-
-/// Shows the error. The screen stays, with everything in it.
-void FeedbackViewController::tell(const QString& title, const Error& error)
-{
-    m_alert->present(title, errorText(error), {{tr("OK")}}, 0, {});
 }
 
 void FeedbackViewController::showReports()

@@ -57,9 +57,6 @@ private:
     void setBusy(bool busy);
     void assemble(std::function<void(ReportBundle)> done);
     void keep(ReportBundle bundle, std::function<void(ReportBundle)> done);
-    void send(const ReportBundle& bundle);
-    void finish(const QString& title, const QString& message);
-    void tell(const QString& title, const Error& error);
 
     std::shared_ptr<const FeedbackSetup> m_setup;
     Lock m_lock;

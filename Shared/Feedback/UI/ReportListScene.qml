@@ -30,7 +30,7 @@ PageScaffold {
                     required property int index
                     required property reportRow modelData
 
-                    text: modelData.note === "" ? modelData.title : modelData.title + ": " + modelData.note
+                    text: modelData.text
                     detail: modelData.time
                     onClicked: scene.reports.open(index)
                 }

@@ -31,8 +31,9 @@ QVariantList ReportListViewController::rows() const
     QVariantList rows;
     for (const Report& report : m_reports) {
         const QDateTime made = QDateTime::fromString(QString::fromStdString(report.made), Qt::ISODate).toLocalTime();
-        const QString note = QString::fromStdString(report.note).trimmed();
-        rows << QVariant::fromValue(ReportRow{reportKindName(report.kind), note.section('\n', 0, 0),
+        const QString kind = reportKindName(report.kind);
+        const QString note = QString::fromStdString(report.note).trimmed().section('\n', 0, 0);
+        rows << QVariant::fromValue(ReportRow{note.isEmpty() ? kind : kind + QStringLiteral(": ") + note,
                                               QLocale().toString(made.date(), QLocale::ShortFormat)});
     }
     return rows;

@@ -13,13 +13,11 @@ namespace lodestar
 struct ReportRow {
     Q_GADGET
     QML_VALUE_TYPE(reportRow)
-    Q_PROPERTY(QString title MEMBER title)
-    Q_PROPERTY(QString note MEMBER note)
+    Q_PROPERTY(QString text MEMBER text)
     Q_PROPERTY(QString time MEMBER time)
 
 public:
-    QString title;
-    QString note; ///< the note's first line
+    QString text; ///< the kind, and the note's first line if there is a note
     QString time; ///< the short local form
 };
 

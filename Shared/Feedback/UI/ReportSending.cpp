@@ -17,6 +17,8 @@ namespace
 /// One report being sent. The transfer or the alert's handler keeps it alive.
 class Sending : public std::enable_shared_from_this<Sending>
 {
+    Q_DECLARE_TR_FUNCTIONS(Reports)
+
 public:
     Sending(std::shared_ptr<ViewController> screen, MenuOutlet& alert, ReportBundle bundle, std::string address,
             std::function<void()> done)
@@ -40,19 +42,17 @@ public:
             },
             [self](int percent) { MainQueue::shared().async([self, percent] { self->sent(percent); }); });
         // After a cancel the transfer still reports its outcome: the cancel may have come too late.
-        m_alert.present(QCoreApplication::translate("Reports", "Sending the report..."), percentText(0),
-                        {{QCoreApplication::translate("Reports", "Cancel")}}, 0, [self, cancel](int) {
-                            self->m_isUnderWay = false;
-                            cancel();
-                        });
+        m_alert.present(tr("Sending the report..."), percentText(0), {{tr("Cancel")}}, 0, [self, cancel](int) {
+            self->m_isUnderWay = false;
+            cancel();
+        });
     }
 
 private:
     static QString percentText(int percent)
     {
         // The system accepts a small report at once, however slowly it is sent from there.
-        return percent == 100 ? QCoreApplication::translate("Reports", "Waiting for the answer...")
-                              : QCoreApplication::translate("Reports", "%1 %").arg(percent);
+        return percent == 100 ? tr("Waiting for the answer...") : tr("%1 %").arg(percent);
     }
 
     void sent(int percent)
@@ -66,18 +66,14 @@ private:
     {
         m_isUnderWay = false;
         if (outcome) {
-            m_alert.present(QCoreApplication::translate("Reports", "Report Sent"),
-                            QCoreApplication::translate("Reports", "Thank you. A copy is in the list of reports."),
-                            {{QCoreApplication::translate("Reports", "OK")}}, 0,
+            m_alert.present(tr("Report Sent"), tr("Thank you. A copy is in the list of reports."), {{tr("OK")}}, 0,
                             [self = shared_from_this()](int) { self->m_done(); });
             return;
         }
-        m_alert.present(
-            QCoreApplication::translate("Reports", "The report could not be sent"),
-            QCoreApplication::translate("Reports", "%1\nIt is kept in the list of reports.")
-                .arg(errorText(outcome.error())),
-            {{QCoreApplication::translate("Reports", "OK")}, {QCoreApplication::translate("Reports", "Try Again")}}, 0,
-            [self = shared_from_this()](int index) { index == 1 ? self->start() : self->m_done(); });
+        m_alert.present(tr("The report could not be sent"),
+                        tr("%1\nIt is kept in the list of reports.").arg(errorText(outcome.error())),
+                        {{tr("OK")}, {tr("Try Again")}}, 0,
+                        [self = shared_from_this()](int index) { index == 1 ? self->start() : self->m_done(); });
     }
 
     const std::shared_ptr<ViewController> m_screen;

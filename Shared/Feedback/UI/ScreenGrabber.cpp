@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/UI/ScreenGrabber.h"
 
-#include "Feedback/UI/CoverPattern.h"
+#include "Feedback/UI/Sketch.h"
 #include "Kit/Core/Privacy.h"
 
 #include <QQuickItem>
@@ -28,7 +28,7 @@ public:
         setZ(coverDepth);
         setOpaquePainting(true);
     }
-    void paint(QPainter* painter) override { paintCover(*painter, boundingRect(), 1); }
+    void paint(QPainter* painter) override { Sketch::paintCover(*painter, boundingRect(), 1); }
 };
 
 /// Whether the item is a field that shows dots; every kind of text field has the property that tells.

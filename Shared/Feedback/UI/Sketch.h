@@ -49,6 +49,9 @@ public:
     void end();
     Q_INVOKABLE void undo();
 
+    /// Paints the opaque, hatched bar that hides everything beneath. `unit` is the length of a point in the painter's
+    /// units.
+    static void paintCover(QPainter& painter, const QRectF& rect, double unit);
     /// Paints picture and marks, in the picture's pixels.
     void paint(QPainter& painter) const;
     /// The picture with the marks drawn into its pixels: a cover is no layer that could be lifted.

@@ -11,6 +11,11 @@ void ViewOutlet::setHidden(bool hidden)
     assignOnMain(this, &ViewOutlet::m_hidden, hidden, &ViewOutlet::hiddenChanged);
 }
 
+void ViewOutlet::setEnabled(bool enabled)
+{
+    assignOnMain(this, &ViewOutlet::m_enabled, enabled, &ViewOutlet::enabledChanged);
+}
+
 void LabelOutlet::setText(const QString& text)
 {
     assignOnMain(this, &LabelOutlet::m_text, text, &LabelOutlet::textChanged);
@@ -39,11 +44,6 @@ void IndicatorOutlet::setAnimating(bool animating)
 void FieldOutlet::setText(const QString& text)
 {
     assignOnMain(this, &FieldOutlet::m_text, text, &FieldOutlet::textChanged);
-}
-
-void FieldOutlet::setEnabled(bool enabled)
-{
-    assignOnMain(this, &FieldOutlet::m_enabled, enabled, &FieldOutlet::enabledChanged);
 }
 
 void FieldOutlet::resignFirstResponder()

@@ -14,24 +14,29 @@ namespace lodestar
 /// properties of the controller under the outlet's own name. QML items bind to them; tests read them. Setters may be
 /// called from any thread and take effect on the main thread: at once when called there, otherwise later.
 
-/// A view that can be hidden.
+/// A view that can be hidden and disabled.
 class ViewOutlet : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(bool hidden READ isHidden WRITE setHidden NOTIFY hiddenChanged)
+    Q_PROPERTY(bool enabled READ isEnabled WRITE setEnabled NOTIFY enabledChanged)
 
 public:
     explicit ViewOutlet(QObject* parent = nullptr) : QObject(parent) {}
     bool isHidden() const { return m_hidden; }
     void setHidden(bool hidden);
+    bool isEnabled() const { return m_enabled; }
+    void setEnabled(bool enabled);
 
 Q_SIGNALS:
     void hiddenChanged();
+    void enabledChanged();
 
 private:
     bool m_hidden = false;
+    bool m_enabled = true;
 };
 
 /// A text, and the state that it tells of if it tells of one.
@@ -88,25 +93,20 @@ class FieldOutlet : public lodestar::ViewOutlet
     QML_ELEMENT
     QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
-    Q_PROPERTY(bool enabled READ isEnabled WRITE setEnabled NOTIFY enabledChanged)
 
 public:
     explicit FieldOutlet(QObject* parent = nullptr) : ViewOutlet(parent) {}
     const QString& text() const { return m_text; }
     void setText(const QString& text);
-    bool isEnabled() const { return m_enabled; }
-    void setEnabled(bool enabled);
     /// Takes the keyboard focus away from the field; does nothing when the field does not have it.
     void resignFirstResponder();
 
 Q_SIGNALS:
     void textChanged();
-    void enabledChanged();
     void resignRequested();
 
 private:
     QString m_text;
-    bool m_enabled = true;
 };
 
 /// A picture, given by the name of its resource without extension.

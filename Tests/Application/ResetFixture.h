@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "Application/Adapters/FileUserDefaults.h"
+#include "Fleet/Registry.h"
+#include "Tests/Application/LockFixture.h"
+
+namespace lodestar::lock
+{
+
+/// Everything that a reset has to remove, in the files that the application keeps it in.
+class ResetFixture : public LockTest
+{
+protected:
+    void openDefaults() const
+    {
+        UserDefaults::install(std::make_unique<FileUserDefaults>(folder.file("Lodestar.defaults")));
+    }
+    static CorvelRef addConsole(const std::string& address, const std::string& user, const std::string& password)
+    {
+        const CorvelRef corvel = insertNewCorvel();
+        corvel->setDemo(false);
+        corvel->setName(address);
+        corvel->setAddress(address);
+        corvel->setUsername(user);
+        corvel->setPassword(password);
+        return corvel;
+    }
+    /// Nobody listens at the consoles' addresses.
+    void fill(int consoles) const
+    {
+        for (int index = 0; index < consoles; ++index) {
+            const std::string number = std::to_string(index);
+            const std::string address = "127.0.99." + number;
+            RESTHandler::sharedInstance().addCorvel(addConsole(address, "overseer", "secret-password-" + number));
+            UserDefaults::standard().setString("secret-key-" + number, address);
+        }
+        saveIgnoringErrors();
+        passcode() = "secret-passcode";
+        KeptState::shared().setString("0 0 1 1", "window");
+        require();
+        ASSERT_TRUE(UserDefaults::standard().synchronize());
+    }
+    static void runMainQueue(int milliseconds)
+    {
+        MainQueue::shared().runUntil([] { return false; }, std::chrono::milliseconds(milliseconds));
+    }
+    std::map<std::string, std::string> files() const
+    {
+        std::map<std::string, std::string> found;
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.path())) {
+            if (entry.is_regular_file()) {
+                const std::string name = std::filesystem::relative(entry.path(), folder.path());
+                found[name] = folder.read(name);
+            }
+        }
+        return found;
+    }
+    std::vector<std::string> filesWith(const std::string& text) const
+    {
+        std::vector<std::string> names;
+        for (const auto& [name, content] : files()) {
+            if (content.find(text) != std::string::npos) {
+                names.push_back(name);
+            }
+        }
+        return names;
+    }
+};
+
+} // namespace lodestar::lock
