@@ -69,7 +69,7 @@ ROWS = [
     Row("5,000 consoles", "all settle; memory grows with their number", [("FaultRows", "*Fleets*")], 1800),
     Row("console deleted while it is asked", "no use after free, no key back",
         [("RESTHandlerTests", "*DeletedMeanwhile*"),
-         ("views_tests", "*DeletedDuringItsRefresh*:*MayBeDeleted*:FleetTest.*Anew*:FleetTest.*Gathers*")]),
+         ("views_tests", "CorvelListTest.Delete*:*MayBeDeleted*:AddingTest.*Gathers*")]),
     Row("application reset while it refreshes", "no key back, no secret in any file",
         [("ResetFaultTests", "*Meanwhile*"), ("ApplicationTests", "ResetTest.*")]),
     Row("ten hours of pulls while consoles fail and come back", "resident memory flat after the warm-up",

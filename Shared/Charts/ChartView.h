@@ -14,14 +14,16 @@ namespace lodestar
 
 class ChartView;
 
-/// Receives the user's selections, on the main thread.
+/// Receives the user's selections, on the main thread; does nothing unless overridden.
 class ChartViewDelegate
 {
 public:
     virtual ~ChartViewDelegate() = default;
-    virtual void chartValueSelected(ChartView& chartView, const ChartEntry& entry, int dataSetIndex,
-                                    const Highlight& highlight) = 0;
-    virtual void chartValueNothingSelected(ChartView& chartView) = 0;
+    virtual void chartValueSelected(ChartView& /*chartView*/, const ChartEntry& /*entry*/, int /*dataSetIndex*/,
+                                    const Highlight& /*highlight*/)
+    {
+    }
+    virtual void chartValueNothingSelected(ChartView& /*chartView*/) {}
 };
 
 /// A chart as its controller holds it: what the chart shows, how, and whether it is hidden. A controller offers its

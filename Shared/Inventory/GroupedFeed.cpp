@@ -58,13 +58,12 @@ std::optional<std::size_t> GroupedFeed::groupOf(const std::string& system) const
     return found != m_indexes.end() ? std::optional(found->second) : std::nullopt;
 }
 
-std::vector<ElementGroup> GroupedFeed::containing(std::string_view text)
+GroupedFeed GroupedFeed::containing(std::string_view text)
 {
-    std::vector<ElementGroup> found;
+    GroupedFeed found(m_searchText);
     for (Group& group : m_groups) {
-        std::vector<XMLElement> elements = group.list.containing(text);
-        if (!elements.empty()) {
-            found.push_back({group.system, std::move(elements)});
+        for (XMLElement& element : group.list.containing(text)) {
+            found.append(group.system, std::move(element));
         }
     }
     return found;

@@ -13,12 +13,6 @@
 namespace lodestar
 {
 
-/// One managed system's name and those of its elements that a search found.
-struct ElementGroup {
-    std::string system;
-    std::vector<XMLElement> elements;
-};
-
 /// A feed's elements, grouped by the managed systems that they belong to. The keys are the systems' names in the order
 /// in which they were first appended, which is the order of the sections; elements keep the feed's order. A value,
 /// handed over as an `ElementList` is.
@@ -39,7 +33,7 @@ public:
     std::optional<std::size_t> groupOf(const std::string& system) const;
     /// For each key the elements whose search text contains the text, case ignored. A key without such elements is left
     /// out.
-    std::vector<ElementGroup> containing(std::string_view text);
+    GroupedFeed containing(std::string_view text);
 
 private:
     struct Group {

@@ -33,22 +33,18 @@ bool isText(const std::string& text)
     return true;
 }
 
-void requireSound(const lodestar::RichTextDocument& document, std::size_t size)
+void requireSound(const std::vector<lodestar::RichTextParagraph>& paragraphs, std::size_t size)
 {
-    require(!document.fonts.empty() && document.fonts.size() <= lodestar::RichTextLimits::tableEntries,
-            "bounded fonts");
-    std::size_t pieces = document.paragraphs.size();
+    std::size_t pieces = paragraphs.size();
     std::size_t bytes = 0;
-    for (const lodestar::RichTextParagraph& paragraph : document.paragraphs) {
-        require(isLength(paragraph.leftIndent) && isLength(paragraph.rightIndent) &&
-                    isLength(paragraph.firstLineIndent) && isLength(paragraph.spaceBefore) &&
-                    isLength(paragraph.spaceAfter),
+    for (const lodestar::RichTextParagraph& paragraph : paragraphs) {
+        require(isLength(paragraph.leftIndent) && isLength(paragraph.firstLineIndent) &&
+                    isLength(paragraph.spaceBefore) && isLength(paragraph.spaceAfter),
                 "lengths within their range");
         require(isText(paragraph.marker), "a marker in UTF-8", paragraph.marker);
         pieces += paragraph.runs.size();
         for (const lodestar::RichTextRun& run : paragraph.runs) {
             require(!run.text.empty() && isText(run.text), "text in UTF-8", run.text);
-            require(run.style.font < document.fonts.size(), "a font of the document");
             require(run.style.halfPoints > 0 && run.style.halfPoints <= 800, "a size within its range");
             bytes += run.text.size();
         }

@@ -80,19 +80,19 @@ TEST(GroupedFeedTests, KeepsKeysInTheOrderOfTheirFirstElementOnAnyThreadAndFilte
     EXPECT_EQ(groups.groupOf("mid"), 2U);
     EXPECT_EQ(groups.groupOf("none"), std::nullopt);
 
-    EXPECT_EQ(groups.containing("lpar").size(), 1U);
+    EXPECT_EQ(groups.containing("lpar").groupCount(), 1U);
     // What comes after a search is found by the next one, whether in a group that was searched or in a new one.
     GroupedFeed more(textOf);
     more.append("last", all[0]);
     more.append("zeta", all[1]);
     more.append("zeta", all[2]);
     groups.append(std::move(more));
-    const std::vector<ElementGroup> foundThen = groups.containing("LPAR");
-    ASSERT_EQ(foundThen.size(), 2U);
-    EXPECT_THAT(foundThen[0].elements, ElementsAre(all[0], all[2], all[2]));
-    EXPECT_EQ(foundThen[1].system, "last");
+    const GroupedFeed foundThen = groups.containing("LPAR");
+    ASSERT_EQ(foundThen.groupCount(), 2U);
+    EXPECT_THAT(foundThen.elementsAt(0), ElementsAre(all[0], all[2], all[2]));
+    EXPECT_EQ(foundThen.keyAt(1), "last");
     groups.clear();
-    EXPECT_THAT(groups.containing(""), IsEmpty());
+    EXPECT_EQ(groups.containing("").groupCount(), 0U);
     EXPECT_EQ(groups.groupCount(), 0U);
     EXPECT_EQ(groups.groupOf("zeta"), std::nullopt);
 }

@@ -1,10 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
-#include "Kit/Core/NavigationController.h"
 #include "Tests/Scenes/SceneTest.h"
-#include "Views/Common/CorvelReceiving.h"
-#include "Views/Common/Scenes.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -27,84 +24,19 @@ protected:
                    ? nullptr
                    : qobject_cast<DeltaCorvelViewController*>(stage.list().semiModal()->controller());
     }
-    static void finishFetches()
+    void showDashboard(QSize size)
     {
+        stage.show(size, fleet());
+        stage.showDashboard();
+        EXPECT_EQ(text("Corvels Online"), nullptr);
+        EXPECT_EQ(stage.items("Spinner").size(), 2U);
         for (const CorvelRef& corvel : RESTHandler::sharedInstance().corvelList()) {
             corvel->completedFetch = true;
         }
-    }
-    /// As the editor does when a console answered.
-    static void addRecord(const char* name)
-    {
-        const auto corvel = std::static_pointer_cast<Corvel>(
-            StoreStack::shared().managedObjectContext().insertNewObject(Corvel::entityName));
-        corvel->setName(name);
-        corvel->setAddress("c.example");
-        corvel->completedFetch = true;
-        RESTHandler::sharedInstance().addCorvel(corvel);
-    }
-    void drag(const QQuickItem* item, int by) const
-    {
-        const QPoint from = centerOf(item);
-        QTest::mousePress(&stage.window(), Qt::LeftButton, {}, from);
-        for (int step = 1; step <= 10; ++step) {
-            QTest::mouseMove(&stage.window(), from + QPoint(by * step / 10, 0));
-            QCoreApplication::processEvents();
-        }
-        QTest::mouseRelease(&stage.window(), Qt::LeftButton, {}, from + QPoint(by, 0));
+        ASSERT_TRUE(waitForText("4 / 6"));
+        stage.settle();
     }
 };
-
-TEST_F(DrivingTest, TheFormIsFilledByKeyboardAndTellsWhatIsMissing)
-{
-    stage.show({390, 844}, fleet());
-    click(stage.item("addButton"));
-    ASSERT_TRUE(waitForSheet());
-    DeltaCorvelViewController& form = *editor();
-    // The first field has the keyboard.
-    type("Harbour C");
-    press(Qt::Key_Tab);
-    type("c.example");
-    press(Qt::Key_Tab);
-    type("oversight");
-    EXPECT_EQ(form.nameField()->text(), "Harbour C");
-    EXPECT_EQ(form.addressField()->text(), "c.example");
-    EXPECT_EQ(form.usernameField()->text(), "oversight");
-
-    click(button("Save"));
-    EXPECT_TRUE(stage.waitFor([&] { return text("Please enter all fields") != nullptr; }));
-    EXPECT_TRUE(stage.waitFor([&] {
-        const QQuickItem* line = text("Please enter all fields");
-        return line->mapToScene(QPointF(0, line->height())).y() <= stage.window().height();
-    })) << "the status line stays outside the window";
-    EXPECT_FALSE(form.nameField()->isEnabled());
-    EXPECT_TRUE(stage.waitFor([&] { return form.nameField()->isEnabled(); }));
-
-    press(Qt::Key_Escape);
-    EXPECT_EQ(stage.list().semiModal(), nullptr);
-    EXPECT_TRUE(stage.waitFor([&] { return button("Cancel") == nullptr; }));
-}
-TEST_F(DrivingTest, ASwipeUncoversEditAndDelete)
-{
-    stage.show({390, 844}, fleet());
-    drag(row(4), -200);
-    ASSERT_TRUE(stage.waitFor([&] { return button("Edit") != nullptr; }));
-    stage.settle(300);
-    EXPECT_GE(button("Delete")->mapToScene({}).x(), button("Edit")->mapToScene({}).x() + 72);
-    click(button("Edit"));
-    ASSERT_NE(editor(), nullptr);
-    EXPECT_EQ(editor()->nameField()->text(), "Uplands Colocation");
-    ASSERT_TRUE(waitForSheet());
-    press(Qt::Key_Escape);
-    ASSERT_TRUE(stage.waitFor([&] { return button("Cancel") == nullptr; }));
-
-    drag(row(0), -200);
-    ASSERT_TRUE(stage.waitFor([&] { return button("Delete") != nullptr; }));
-    stage.settle(300);
-    click(button("Delete"));
-    EXPECT_EQ(RESTHandler::sharedInstance().corvelList().size(), 5U);
-    EXPECT_EQ(stage.list().tableView()->count(), 5);
-}
 
 TEST_F(DrivingTest, AListWhoseLastRowSlidAwayDrawsTheNextConsole)
 {
@@ -112,22 +44,28 @@ TEST_F(DrivingTest, AListWhoseLastRowSlidAwayDrawsTheNextConsole)
     stage.show({390, 844}, {fleet().front()});
     press(Qt::Key_Home);
     press(Qt::Key_Menu);
-    ASSERT_TRUE(stage.waitFor([&] { return button("Delete") != nullptr; }));
+    ASSERT_TRUE(waitForButton("Delete"));
     stage.settle(300);
+    EXPECT_GE(button("Delete")->mapToScene({}).x(), button("Edit")->mapToScene({}).x() + 72);
     EXPECT_TRUE(button("Edit")->hasActiveFocus()); // what cannot be taken back comes second
     press(Qt::Key_Right);
     press(Qt::Key_Return);
     EXPECT_TRUE(RESTHandler::sharedInstance().corvelList().empty());
-    ASSERT_TRUE(stage.waitFor([&] { return text("No consoles yet.") != nullptr; }));
+    ASSERT_TRUE(waitForText("No consoles yet."));
     stage.settle();
     const QImage empty = stage.grab();
 
     click(button("Add Corvel"));
     ASSERT_NE(editor(), nullptr);
     ASSERT_TRUE(waitForSheet());
-    addRecord("Harbour C");
+    // As the editor does when a console answered.
+    const auto corvel = std::static_pointer_cast<Corvel>(
+        StoreStack::shared().managedObjectContext().insertNewObject(Corvel::entityName));
+    corvel->setName("Harbour C");
+    corvel->completedFetch = true;
+    RESTHandler::sharedInstance().addCorvel(corvel);
     stage.list().hideModalView();
-    ASSERT_TRUE(stage.waitFor([&] { return button("Save") == nullptr; }));
+    ASSERT_TRUE(waitForNoSheet());
     stage.settle();
     const QQuickItem* const name = text("Harbour C");
     ASSERT_NE(name, nullptr);
@@ -135,7 +73,7 @@ TEST_F(DrivingTest, AListWhoseLastRowSlidAwayDrawsTheNextConsole)
     EXPECT_NE(stage.grab().copy(place), empty.copy(place)) << "the row is not drawn";
 }
 
-TEST_F(DrivingTest, TabGoesFromTheBarToTheRowsAndOnToTheRail)
+TEST_F(DrivingTest, TabGoesFromTheBarToTheRowsAndOnToTheRailAndKeysRefresh)
 {
     stage.show({1280, 800}, fleet());
     press(Qt::Key_Home);
@@ -147,55 +85,21 @@ TEST_F(DrivingTest, TabGoesFromTheBarToTheRowsAndOnToTheRail)
     }
     met.removeAll("Feedback"); // not where a shake asks for it
     EXPECT_EQ(met.join(", ").toStdString(), "Corvels, Dashboard, Settings, Add console, row");
-}
 
-TEST_F(DrivingTest, RefreshKeyPulls)
-{
     stage.show({390, 844}, {});
     int pulls = 0;
     QObject::connect(stage.list().refreshControl(), &RefreshControl::valueChanged, [&pulls] { ++pulls; });
     press(Qt::Key_R, Qt::ControlModifier);
-    EXPECT_EQ(pulls, 1);
     press(Qt::Key_F5);
     EXPECT_EQ(pulls, 2);
 }
-TEST_F(DrivingTest, TheDashboardReadsFromTheSideWhereReadingBegins)
-{
-    const auto left = [this](const char* words) { return text(words)->mapToScene({}).x(); };
-    for (const bool mirrored : {false, true}) {
-        Appearance::shared().overrideMirrored(mirrored);
-        stage.show({768, 1024}, fleet());
-        stage.showDashboard();
-        finishFetches();
-        ASSERT_TRUE(stage.waitFor([this] { return text("Corvels Online") != nullptr; }));
-        stage.settle();
-        EXPECT_EQ(left("Corvels Online") > left("Attention LEDs"), mirrored);
-        EXPECT_EQ(left("Attention LEDs") > left("Serviceable Events"), mirrored);
-        EXPECT_EQ(left("Managed Systems") > left("Logical Partitions"), mirrored);
-    }
-}
 
-TEST_F(DrivingTest, ATapBesideTheFieldsEndsEditing)
+TEST_F(DrivingTest, TheFormIsFilledByKeyboardAndItsMessageIsSeenThoughTheKeyboardIsSlow)
 {
     stage.show({390, 844}, fleet());
-    DeltaCorvelViewController* const form = stage.openEditor();
+    click(stage.item("addButton"));
     ASSERT_TRUE(waitForSheet());
-    type("Harbour");
-    QQuickItem* const fields = stage.items("Form").front();
-    fields->setProperty("contentY", fields->property("contentHeight").toDouble() - fields->height());
-    const QPointF foot(fields->width() / 2, fields->height() - 8);
-    QTest::mouseClick(&stage.window(), Qt::LeftButton, {}, fields->mapToScene(foot).toPoint());
-    type("xyz");
-    EXPECT_EQ(form->nameField()->text(), "Harbour");
-    press(Qt::Key_Escape);
-    EXPECT_EQ(stage.list().semiModal(), nullptr) << "the sheet still has the keyboard";
-}
-
-TEST_F(DrivingTest, ReturnGoesFromFieldToFieldAndSavesAndItsMessageIsSeenThoughTheKeyboardIsSlow)
-{
-    stage.show({390, 844}, fleet());
-    DeltaCorvelViewController* const form = stage.openEditor();
-    ASSERT_TRUE(waitForSheet());
+    DeltaCorvelViewController* const form = editor();
     // It stays in sight for a moment after it was told to go.
     QQmlPropertyMap slow;
     const auto cover = [&](double height) {
@@ -208,34 +112,46 @@ TEST_F(DrivingTest, ReturnGoesFromFieldToFieldAndSavesAndItsMessageIsSeenThoughT
     cover(260);
     const SemiModalPresentation* const sheet = stage.list().semiModal();
     EXPECT_EQ(sheet->height(), 224 + 260);
+    // The first field has the keyboard; Return goes from field to field, and saves.
     for (const char* words : {"Harbour C", "https://harbour-c", "oversight"}) {
         type(words);
         press(Qt::Key_Return);
         EXPECT_EQ(sheet->height(), 224 + 260);
     }
+    EXPECT_EQ(form->nameField()->text(), "Harbour C");
     EXPECT_EQ(form->usernameField()->text(), "oversight");
     EXPECT_NE(text("Leave out \"https://\"."), nullptr);
     press(Qt::Key_Return);
-    ASSERT_TRUE(stage.waitFor([&] { return text("Please enter all fields") != nullptr; }));
+    ASSERT_TRUE(waitForText("Please enter all fields"));
+    EXPECT_FALSE(form->nameField()->isEnabled());
     EXPECT_EQ(sheet->height(), 266);
     cover(120);
     EXPECT_EQ(sheet->height(), 266);
     cover(0);
     EXPECT_EQ(sheet->height(), 266);
-    EXPECT_TRUE(stage.waitFor([&] { return sheet->height() == 223; }));
+    EXPECT_TRUE(stage.waitFor([&] { return sheet->height() == 223 && form->nameField()->isEnabled(); }));
     keyboard->setProperty("inputMethod", QVariant::fromValue<QObject*>(QGuiApplication::inputMethod()));
+
+    // A tap beside the fields ends editing.
+    QQuickItem* const fields = stage.items("Form").front();
+    stage.items("QQuickTextField").front()->forceActiveFocus();
+    type("!");
+    fields->setProperty("contentY", fields->property("contentHeight").toDouble() - fields->height());
+    const QPointF foot(fields->width() / 2, fields->height() - 8);
+    QTest::mouseClick(&stage.window(), Qt::LeftButton, {}, fields->mapToScene(foot).toPoint());
+    type("xyz");
+    EXPECT_EQ(form->nameField()->text(), "Harbour C!");
 
     // Two lines take their room above the form.
     form->showStatusWithMessage("verifying...");
     form->showStatusWithError(QStringLiteral("The console gave an answer that was not expected at all. ").repeated(2));
     stage.settle(300);
-    const QQuickItem* const fields = stage.items("Form").front();
+    const QQuickItem* const line = stage.items("StatusLine").front();
     EXPECT_EQ(fields->property("contentY").toDouble(), 0);
-    EXPECT_LE(stage.items("StatusLine")
-                  .front()
-                  ->mapRectToItem(fields, stage.items("StatusLine").front()->boundingRect())
-                  .bottom(),
-              fields->height());
+    EXPECT_LE(line->mapRectToItem(fields, line->boundingRect()).bottom(), fields->height());
+    press(Qt::Key_Escape);
+    EXPECT_EQ(stage.list().semiModal(), nullptr) << "the sheet still has the keyboard";
+    EXPECT_TRUE(waitForNoSheet());
 }
 
 TEST_F(DrivingTest, AFieldsMenuPastesAndASecretIsShownOnDemandAloneAndNeverCopied)
@@ -247,7 +163,7 @@ TEST_F(DrivingTest, AFieldsMenuPastesAndASecretIsShownOnDemandAloneAndNeverCopie
     ASSERT_EQ(fields.size(), 4U);
     QGuiApplication::clipboard()->setText(QStringLiteral("harbour-c.example"));
     QTest::mouseClick(&stage.window(), Qt::RightButton, {}, centerOf(fields[1]));
-    ASSERT_TRUE(stage.waitFor([&] { return button("Paste") != nullptr; }));
+    ASSERT_TRUE(waitForButton("Paste"));
     EXPECT_EQ(button("Copy"), nullptr) << "nothing is selected";
     stage.settle(100);
     click(button("Paste"));
@@ -257,8 +173,8 @@ TEST_F(DrivingTest, AFieldsMenuPastesAndASecretIsShownOnDemandAloneAndNeverCopie
     fields[3]->forceActiveFocus();
     QMetaObject::invokeMethod(fields[3], "selectAll");
     QTest::mousePress(&stage.window(), Qt::LeftButton, {}, centerOf(fields[3]));
-    ASSERT_TRUE(stage.waitFor([&] { return button("Select All") != nullptr; }));
-    QTest::mouseRelease(&stage.window(), Qt::LeftButton, {}, centerOf(fields[3]));
+    ASSERT_TRUE(waitForButton("Select All"));
+    letGo(centerOf(fields[3]));
     EXPECT_EQ(button("Cut"), nullptr);
     EXPECT_EQ(button("Copy"), nullptr);
     press(Qt::Key_Escape);
@@ -271,9 +187,9 @@ TEST_F(DrivingTest, AFieldsMenuPastesAndASecretIsShownOnDemandAloneAndNeverCopie
     stage.settle(50);
     EXPECT_TRUE(shown());
     fields[3]->forceActiveFocus();
-    press(Qt::Key_A, Qt::ControlModifier);
-    press(Qt::Key_C, Qt::ControlModifier);
-    press(Qt::Key_X, Qt::ControlModifier);
+    for (const Qt::Key key : {Qt::Key_A, Qt::Key_C, Qt::Key_X}) {
+        press(key, Qt::ControlModifier);
+    }
     EXPECT_EQ(QGuiApplication::clipboard()->text(), "harbour-c.example");
     EXPECT_TRUE(shown());
     EXPECT_FALSE(QAccessible::queryAccessibleInterface(fields[3])->text(QAccessible::Value).contains(u"twelve"));
@@ -287,29 +203,29 @@ TEST_F(DrivingTest, AWideWindowsChoicesComeUpByThePress)
     stage.openList(Scenes::managedSystemsView, demoConsole());
     const QPoint at = centerOf(row(1));
     click(row(1));
-    ASSERT_TRUE(stage.waitFor([&] { return button("System Information") != nullptr; }));
+    ASSERT_TRUE(waitForButton("System Information"));
     stage.settle(300);
     const QRectF first = button("System Information")->mapRectToScene(button("System Information")->boundingRect());
     EXPECT_LT(std::abs(first.top() - at.y()), 80);
     EXPECT_TRUE(first.left() < at.x() && at.x() < first.right());
 }
-TEST_F(DrivingTest, TheDashboardLoadsAndDraws)
-{
-    stage.show({390, 844}, fleet());
-    stage.showDashboard();
-    EXPECT_EQ(text("Corvels Online"), nullptr);
-    EXPECT_EQ(stage.items("Spinner").size(), 2U);
-    finishFetches();
-    ASSERT_TRUE(stage.waitFor([&] { return text("4 / 6") != nullptr; }));
-    EXPECT_NE(text("Corvels Online"), nullptr);
-    EXPECT_TRUE(stage.items("Spinner").empty());
-    const std::vector<QQuickItem*> pies = stage.items("PieChart");
-    ASSERT_EQ(pies.size(), 2U);
-    EXPECT_DOUBLE_EQ(pies[0]->height(), 390 / 1.2);
 
+TEST_F(DrivingTest, TheDashboardLoadsAndReadsFromTheSideWhereReadingBegins)
+{
+    const auto left = [this](const char* words) { return text(words)->mapToScene({}).x(); };
+    for (const bool mirrored : {false, true}) {
+        Appearance::shared().overrideMirrored(mirrored);
+        showDashboard({768, 1024});
+        EXPECT_TRUE(stage.items("Spinner").empty());
+        EXPECT_EQ(left("Corvels Online") > left("Attention LEDs"), mirrored);
+        EXPECT_EQ(left("Attention LEDs") > left("Serviceable Events"), mirrored);
+        EXPECT_EQ(left("Managed Systems") > left("Logical Partitions"), mirrored);
+    }
+    showDashboard({390, 844});
+    EXPECT_DOUBLE_EQ(stage.items("PieChart").at(0)->height(), 390 / 1.2);
     stage.show({768, 1024}, {});
     stage.showDashboard();
-    EXPECT_TRUE(stage.waitFor([&] { return text("No consoles yet.") != nullptr; }));
+    EXPECT_TRUE(waitForText("No consoles yet."));
 }
 
 } // namespace

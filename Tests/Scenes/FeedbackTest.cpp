@@ -112,7 +112,7 @@ TEST_F(FeedbackTest, DrawingsAreUndoneAndKeptWithTheNoteButWithoutPasswords)
     click(stage.item("noteField"));
     type("My password is twelve-chars");
     click(stage.item("submitButton"));
-    ASSERT_TRUE(stage.waitFor([this] { return button("OK") != nullptr; }));
+    ASSERT_TRUE(waitForButton("OK"));
     click(button("OK"));
     EXPECT_TRUE(stage.waitFor([this] { return stage.feedback().screen() == nullptr; }));
     const std::vector<Report> reports = stage.reports().list();
@@ -136,14 +136,14 @@ TEST_F(FeedbackTest, ReportsAreReadExportedAndDeletedWithTheKeyboardAlone)
     open();
     stage.item("reportsRow")->forceActiveFocus(Qt::TabFocusReason);
     press(Qt::Key_Return);
-    ASSERT_TRUE(stage.waitFor([this] { return button("Feedback: It stood still") != nullptr; }));
+    ASSERT_TRUE(waitForButton("Feedback: It stood still"));
     button("Feedback: It stood still")->forceActiveFocus(Qt::TabFocusReason);
     press(Qt::Key_Return);
-    ASSERT_TRUE(stage.waitFor([this] { return text("a line of the log") != nullptr; }));
+    ASSERT_TRUE(waitForText("a line of the log"));
     stage.settle();
     stage.item("exportButton")->forceActiveFocus(Qt::TabFocusReason);
     press(Qt::Key_Return);
-    ASSERT_TRUE(stage.waitFor([this] { return button("OK") != nullptr; }));
+    ASSERT_TRUE(waitForButton("OK"));
     press(Qt::Key_Return); // while it still fades in
     EXPECT_TRUE(stage.waitFor([this] { return button("OK") == nullptr; }));
     stage.item("deleteButton")->forceActiveFocus(Qt::TabFocusReason);
@@ -152,7 +152,7 @@ TEST_F(FeedbackTest, ReportsAreReadExportedAndDeletedWithTheKeyboardAlone)
     press(Qt::Key_Right);
     press(Qt::Key_Return);
     EXPECT_TRUE(stage.waitFor([this] { return stage.reports().list().empty(); }));
-    EXPECT_TRUE(stage.waitFor([this] { return text("No reports on this device.") != nullptr; }));
+    EXPECT_TRUE(waitForText("No reports on this device."));
 }
 
 TEST_F(FeedbackTest, AKeptReportIsSentAsOftenAsItFails)

@@ -98,20 +98,13 @@ protected:
     }
 };
 
-TEST_P(GeometryTest, Consoles)
+TEST_P(GeometryTest, ConsolesMirrorAndKeepTheirHeightAndTheirNames)
 {
     apply();
-    stage.show(size(), fleet());
-    expectSound();
-    stage.show(size(), longNames());
-    expectSound();
-    stage.show(size(), {});
-    expectSound();
-}
-
-TEST_P(GeometryTest, RowsMirrorAndKeepTheirHeightAndTheirNames)
-{
-    apply();
+    for (const std::vector<ConsoleLook>& consoles : {longNames(), {}}) {
+        stage.show(size(), consoles);
+        expectSound();
+    }
     std::vector<ConsoleLook> alike = fleet();
     alike[0].name = "Northfield Recovery Site, 1";
     alike[1].name = "Northfield Recovery Site, 2";
@@ -124,6 +117,7 @@ TEST_P(GeometryTest, RowsMirrorAndKeepTheirHeightAndTheirNames)
     }
     expectSound();
     stage.show(size(), fleet());
+    expectSound();
     const double scale = std::get<2>(GetParam());
     for (const QQuickItem* place : stage.items("TableRow")) {
         EXPECT_GE(place->height(), std::round(92 * scale));
@@ -182,22 +176,14 @@ TEST_P(GeometryTest, Inventory)
     apply();
     stage.show(size(), fleet());
     const CorvelRef corvel = demoConsole();
-    const XMLElement system =
-        contentOf(feedOfType(*corvel, ObjectType::ManagedSystem).entries().at(2), ObjectType::ManagedSystem);
-    visit({corvel, system}, soundLook, Scenes::corvelTasksViewController, Scenes::managedSystemsView,
-          Scenes::managementConsoleView, Scenes::managedSystemInfo, Scenes::managedSystemMenu,
-          Scenes::logicalPartitionsView, Scenes::logicalPartitionsDetail, Scenes::viosView);
-}
-
-TEST_P(GeometryTest, EventsAndGroups)
-{
-    apply();
-    stage.show(size(), fleet());
-    const CorvelRef corvel = demoConsole();
-    const Feed events = feedOfType(*corvel, ObjectType::ServiceableEvent);
-    const XMLElement event = contentOf(events.entries().front(), ObjectType::ServiceableEvent);
-    visit({corvel, event}, soundLook, Scenes::serviceableEventsView, Scenes::serviceableEventsDetail,
-          Scenes::resourceGroupsView);
+    const auto objectAt = [&](std::string_view type, std::size_t place) {
+        return contentOf(feedOfType(*corvel, type).entries().at(place), type);
+    };
+    visit({corvel, objectAt(ObjectType::ManagedSystem, 2)}, soundLook, Scenes::corvelTasksViewController,
+          Scenes::managedSystemsView, Scenes::managementConsoleView, Scenes::managedSystemInfo,
+          Scenes::managedSystemMenu, Scenes::logicalPartitionsView, Scenes::logicalPartitionsDetail, Scenes::viosView);
+    visit({corvel, objectAt(ObjectType::ServiceableEvent, 0)}, soundLook, Scenes::serviceableEventsView,
+          Scenes::serviceableEventsDetail, Scenes::resourceGroupsView);
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, GeometryTest,

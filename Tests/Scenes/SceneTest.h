@@ -9,10 +9,12 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace lodestar::scenes
 {
 
-/// What any scene over the console list can be opened with.
+/// What any scene can be opened with.
 struct AnyInput {
     CorvelRef corvel;
     XMLElement root;
@@ -20,9 +22,34 @@ struct AnyInput {
     operator NoInput() const { return {}; }
     operator CorvelRef() const { return corvel; }
     operator XMLElement() const { return root; }
+    operator EditorInput() const { return {corvel, {}}; }
     operator SystemMenuInput() const { return {corvel, root}; }
     operator PartitionsInput() const { return {corvel, {}}; }
+    operator PerformanceInput() const { return {corvel, "helios-01", "any"}; }
 };
+
+struct AnyScene {
+    std::string name;
+    std::function<std::shared_ptr<ViewController>()> make;
+};
+
+/// Every scene of the storyboard but the main view, which only holds two of them, and the lock, which leads on to it.
+/// Details are of the console's first system.
+inline std::vector<AnyScene> everyScene(const CorvelRef& corvel)
+{
+    const Feed systems = feedOfType(*corvel, ObjectType::ManagedSystem);
+    const AnyInput input{corvel, contentOf(systems.entries().front(), ObjectType::ManagedSystem)};
+    const auto each = [&input](auto... scene) -> std::vector<AnyScene> {
+        return {{scene.identifier,
+                 [input, scene] { return Storyboard::main().instantiateViewController(scene, input); }}...};
+    };
+    return each(Scenes::corvelListView, Scenes::deltaCorvel, Scenes::dashboardView, Scenes::corvelTasksViewController,
+                Scenes::managedSystemsView, Scenes::managedSystemInfo, Scenes::managedSystemMenu, Scenes::pcmDataView,
+                Scenes::managementConsoleView, Scenes::logicalPartitionsView, Scenes::logicalPartitionsDetail,
+                Scenes::viosView, Scenes::viosDetail, Scenes::resourceGroupsView, Scenes::serviceableEventsView,
+                Scenes::serviceableEventsDetail, Scenes::versionViewController, Scenes::openSourceViewController,
+                Scenes::OrnisLicenseViewController, Scenes::settingsViewController, Scenes::passwordCreation);
+}
 
 /// A stage, and hands to work it with. No test may leave a QML warning behind.
 class SceneTest : public ::testing::Test
@@ -62,6 +89,15 @@ protected:
         ASSERT_NE(item, nullptr);
         QTest::mouseClick(&stage.window(), Qt::LeftButton, {}, centerOf(item));
     }
+    /// Drags along x and leaves the button down.
+    void pull(const QPoint& from, int by) const
+    {
+        QTest::mousePress(&stage.window(), Qt::LeftButton, {}, from);
+        for (int step = 1; step <= 10; ++step) {
+            QTest::mouseMove(&stage.window(), from + QPoint(by * step / 10, 0), 10);
+        }
+    }
+    void letGo(const QPoint& at) const { QTest::mouseRelease(&stage.window(), Qt::LeftButton, {}, at, 60); }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const
     {
         QTest::keyClick(&stage.window(), key, modifiers);
@@ -72,48 +108,45 @@ protected:
             QTest::keyClick(&stage.window(), *text);
         }
     }
-    QQuickItem* button(const QString& text) const
+    static QQuickItem* firstWith(const char* property, const QVariant& value, const std::vector<QQuickItem*>& items)
     {
-        for (QQuickItem* item : stage.buttons()) {
-            if (item->property("text").toString() == text) {
-                return item;
-            }
-        }
-        return nullptr;
+        const auto found =
+            std::ranges::find_if(items, [&](const QQuickItem* item) { return item->property(property) == value; });
+        return found != items.end() ? *found : nullptr;
     }
-    QQuickItem* row(int index) const
-    {
-        for (QQuickItem* item : stage.items(QStringLiteral("TableRow"))) {
-            if (item->property("index").toInt() == index) {
-                return item;
-            }
-        }
-        return nullptr;
-    }
+    QQuickItem* button(const QString& text) const { return firstWith("text", text, stage.buttons()); }
+    QQuickItem* row(int index) const { return firstWith("index", index, stage.items(QStringLiteral("TableRow"))); }
     QQuickItem* text(const QString& content) const
     {
-        for (QQuickItem* item : stage.items(QStringLiteral("QQuickText"))) {
-            if (item->property("text").toString() == content) {
-                return item;
-            }
-        }
-        return nullptr;
+        return firstWith("text", content, stage.items(QStringLiteral("QQuickText")));
+    }
+    bool waitForButton(const QString& words) const
+    {
+        return stage.waitFor([&] { return button(words) != nullptr; });
+    }
+    bool waitForText(const QString& words) const
+    {
+        return stage.waitFor([&] { return text(words) != nullptr; });
     }
     ViewController* top() const { return stage.list().navigationController()->topViewController(); }
-    /// What a screen reader says for a table's row, once it is active.
-    static QString spokenAs(QQuickItem* tableRow)
+    /// What a screen reader says for an item, once it is active.
+    static QString spokenAs(QQuickItem* item)
     {
-        QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(tableRow);
+        QAccessibleInterface* const spoken = QAccessible::queryAccessibleInterface(item);
         return spoken != nullptr ? spoken->text(QAccessible::Name) : QString();
     }
     bool waitForSheet() const
     {
-        return stage.waitFor([this] { return button(QStringLiteral("Cancel")) != nullptr; }) && stage.waitFor([this] {
-            const QQuickItem* cancel = button(QStringLiteral("Cancel"));
+        return waitForButton("Cancel") && stage.waitFor([this] {
+            const QQuickItem* cancel = button("Cancel");
             const double top = cancel != nullptr ? cancel->mapToScene({}).y() : 0;
             stage.settle(30);
             return cancel != nullptr && cancel->mapToScene({}).y() == top && top < stage.window().height() - 200;
         });
+    }
+    bool waitForNoSheet() const
+    {
+        return stage.waitFor([this] { return button("Cancel") == nullptr && button("Save") == nullptr; });
     }
 
     SceneStage stage;

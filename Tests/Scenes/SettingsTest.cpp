@@ -38,10 +38,6 @@ protected:
             return cancel != nullptr && cancel->mapToScene({}).y() == 844 - 44 - height;
         });
     }
-    bool waitForNoSheet() const
-    {
-        return stage.waitFor([this] { return button(QStringLiteral("Save")) == nullptr; });
-    }
     bool isSwitchDrawnOn() const { return stage.item("passwordSwitch")->property("checked").toBool(); }
 
     SettingsViewController* settings = nullptr;
@@ -51,50 +47,7 @@ TEST_F(SettingsTest, APasscodeIsSetAndChangedByHand)
 {
     open();
     EXPECT_FALSE(stage.item("passwordCell")->isEnabled());
-    click(stage.item("passwordSwitch"));
-    ASSERT_TRUE(waitForSheetOf(119));
-    EXPECT_EQ(text("Old passcode"), nullptr);
-    type("first ");
-    press(Qt::Key_Tab);
-    type("first ");
-    click(button("Save"));
-    ASSERT_TRUE(stage.waitFor([this] { return button("Continue") != nullptr; }));
-    EXPECT_EQ(passcode(), "first ");
-    ASSERT_TRUE(waitForNoSheet());
-    stage.settle(150);
-    click(button("Continue"));
-    ASSERT_TRUE(stage.waitFor([this] { return button("Continue") == nullptr; }));
-    EXPECT_TRUE(isSwitchDrawnOn());
-
-    click(stage.item("passwordCell"));
-    ASSERT_TRUE(waitForSheetOf(164));
-    ASSERT_NE(text("Old passcode"), nullptr);
-    type("wrong");
-    press(Qt::Key_Tab);
-    type("second");
-    press(Qt::Key_Tab);
-    type("second");
-    click(button("Save"));
-    ASSERT_TRUE(stage.waitFor([this] { return button("OK") != nullptr; }));
-    stage.settle(150);
-    press(Qt::Key_Return);
-    ASSERT_TRUE(stage.waitFor([this] { return button("OK") == nullptr; }));
-    EXPECT_EQ(passcode(), "first ");
-    EXPECT_NE(settings->semiModal(), nullptr);
-    // The next try is written at once.
-    stage.settle(200);
-    type("x");
-    EXPECT_EQ(dynamic_cast<PasswordCreationViewController&>(*settings->semiModal()->controller()).oldPassword()->text(),
-              "x");
-    press(Qt::Key_Escape);
-    EXPECT_EQ(settings->semiModal(), nullptr);
-    EXPECT_TRUE(waitForNoSheet());
-}
-
-TEST_F(SettingsTest, CancellingTheFirstPasscodeTurnsTheSwitchBack)
-{
-    open();
-    // By keyboard, which finds its ring again.
+    // By keyboard, which finds its ring again when the sheet is cancelled.
     press(Qt::Key_Tab);
     press(Qt::Key_Backtab);
     QQuickItem* const toggle = stage.window().activeFocusItem();
@@ -106,16 +59,22 @@ TEST_F(SettingsTest, CancellingTheFirstPasscodeTurnsTheSwitchBack)
     ASSERT_TRUE(stage.waitFor([&] { return stage.window().activeFocusItem() == toggle; }));
     EXPECT_TRUE(toggle->property("visualFocus").toBool());
     EXPECT_FALSE(isSwitchDrawnOn());
-    EXPECT_FALSE(UserDefaults::standard().boolForKey("requirePassword"));
-    click(stage.item("passwordCell"));
-    EXPECT_EQ(settings->semiModal(), nullptr);
-}
 
-TEST_F(SettingsTest, TheSheetIsAsTallAsItsRows)
-{
-    std::ignore = test::writePassword("p");
-    UserDefaults::standard().setBool(true, "requirePassword");
-    open();
+    click(stage.item("passwordSwitch"));
+    ASSERT_TRUE(waitForSheetOf(119));
+    EXPECT_EQ(text("Old passcode"), nullptr);
+    type("first ");
+    press(Qt::Key_Tab);
+    type("first ");
+    click(button("Save"));
+    ASSERT_TRUE(waitForButton("Continue"));
+    EXPECT_EQ(passcode(), "first ");
+    ASSERT_TRUE(waitForNoSheet());
+    stage.settle(150);
+    click(button("Continue"));
+    ASSERT_TRUE(stage.waitFor([this] { return button("Continue") == nullptr; }));
+    EXPECT_TRUE(isSwitchDrawnOn());
+
     click(stage.item("passwordCell"));
     ASSERT_TRUE(waitForSheetOf(164));
     std::vector<double> tops;
@@ -129,6 +88,27 @@ TEST_F(SettingsTest, TheSheetIsAsTallAsItsRows)
     EXPECT_LE(note->mapToScene(QPointF(0, note->height())).y(), 844);
     settings->keyboardWillShow(260);
     EXPECT_TRUE(waitForSheetOf(164 + 260));
+    settings->keyboardWillHide();
+    type("wrong");
+    press(Qt::Key_Tab);
+    type("second");
+    press(Qt::Key_Tab);
+    type("second");
+    click(button("Save"));
+    ASSERT_TRUE(waitForButton("OK"));
+    stage.settle(150);
+    press(Qt::Key_Return);
+    ASSERT_TRUE(stage.waitFor([this] { return button("OK") == nullptr; }));
+    EXPECT_EQ(passcode(), "first ");
+    EXPECT_NE(settings->semiModal(), nullptr);
+    // The next try is written at once.
+    stage.settle(200);
+    type("x");
+    EXPECT_EQ(dynamic_cast<PasswordCreationViewController&>(*settings->semiModal()->controller()).oldPassword()->text(),
+              "x");
+    press(Qt::Key_Escape);
+    EXPECT_EQ(settings->semiModal(), nullptr);
+    EXPECT_TRUE(waitForNoSheet());
 }
 
 } // namespace

@@ -12,10 +12,10 @@ namespace lodestar::testing
 namespace
 {
 
+using ::testing::AllOf;
 using ::testing::ElementsAre;
-
-constexpr auto detailFile = "Shared/Views/ManagedSystems/MSDetailViewController";
-constexpr auto consoleFile = "Shared/Views/ManagementConsole/MCViewController";
+using ::testing::EndsWith;
+using ::testing::StartsWith;
 
 class BrowserStub : public QObject
 {
@@ -25,188 +25,174 @@ public:
     Q_SLOT void open(const QUrl& url) { opened.push_back(url); }
 };
 
-class SystemDetailTest : public ListTest
+class ConsoleScreensTest : public ListTest
 {
 protected:
     std::shared_ptr<MSDetailViewController> show(const std::string& xml,
                                                  const char* base = "https://docs.example/reference-codes?code=")
     {
         const auto detail = makeController<MSDetailViewController>(QString::fromLatin1(base));
-        detail->setRootXML(parse(xml));
+        detail->setRootXML(parse("<s>" + xml + "</s>"));
         return push(detail);
-    }
-    static DetailCell cell(DetailViewController& detail, int section, int row)
-    {
-        return detail.cellForRowAtIndexPath(TableKind::Main, {section, row}).value<DetailCell>();
     }
 };
 
-TEST_F(SystemDetailTest, ShowsTheFactsInFourSections)
+TEST_F(ConsoleScreensTest, ASystemShowsItsFactsInFourSections)
 {
-    const auto detail = show("<s><SystemName>helios-03</SystemName><PrimaryIPAddress>fe80::1</PrimaryIPAddress>"
+    const auto detail = show("<SystemName>helios-03</SystemName><PrimaryIPAddress>fe80::1</PrimaryIPAddress>"
                              "<State>error</State><MachineTypeModelAndSerialNumber><SerialNumber>06A</SerialNumber>"
                              "<Model>M16</Model></MachineTypeModelAndSerialNumber>"
                              "<AssociatedSystemMemoryConfiguration><ConfigurableSystemMemory>262144"
-                             "</ConfigurableSystemMemory></AssociatedSystemMemoryConfiguration></s>");
+                             "</ConfigurableSystemMemory></AssociatedSystemMemoryConfiguration>");
     EXPECT_EQ(detail->title(), "helios-03");
-    std::vector<QStringList> data;
-    for (const DetailSection& section : detail->tableData()) {
-        data.push_back(section.data);
-    }
-    EXPECT_THAT(data, ElementsAre(QStringList({"IP Address:fe80::1", "Status:error", "Reference Code:(null)",
-                                               "Attention LED On:(null)"}),
-                                  QStringList({"Serial Number:06A", "Machine Type:(null)", "Model:M16"}),
-                                  QStringList({"Available Processing Units:(null)"}),
-                                  QStringList({"Available Memory:262144 MB"})));
-    EXPECT_EQ(cell(*detail, 0, 0).detailTextLabel, "fe80");
+    EXPECT_THAT(detail->tableData(), ElementsAre(QStringList({"IP Address:fe80::1", "Status:error",
+                                                              "Reference Code:(null)", "Attention LED On:(null)"}),
+                                                 QStringList({"Serial Number:06A", "Machine Type:(null)", "Model:M16"}),
+                                                 QStringList({"Available Processing Units:(null)"}),
+                                                 QStringList({"Available Memory:262144 MB"})));
+    EXPECT_EQ(cellAt<DetailCell>(*detail, 0, TableKind::Main, 0).detailTextLabel, "fe80");
     EXPECT_EQ(detail->titleForHeaderInSection(TableKind::Main, 1), "Model & Serial Information");
     EXPECT_EQ(detail->titleForHeaderInSection(TableKind::Main, 4), "");
-    const std::vector<LoggedLine> log = lines(detailFile);
-    EXPECT_THAT(lineNumbers(log), ElementsAre(23, 47, 58, 69, 78));
-    EXPECT_EQ(log[4].message, "DeltaCorvelViewController: Fetching Memory Information");
-    EXPECT_EQ(log[4].method, "-[MSDetailViewController populateSystemDetails]");
+    const auto fetching = [](const char* start, const char* what) {
+        return std::string(start) + " populateSystemDetails: DeltaCorvelViewController: Fetching " + what;
+    };
+    EXPECT_THAT(log("Shared/Views/ManagedSystems/MSDetailViewController"),
+                ElementsAre("23 viewDidLoad: MSDetailViewController instantiation", fetching("47", "Main Items"),
+                            fetching("58", "MTSM"), fetching("69", "Processor Information"),
+                            fetching("78", "Memory Information")));
 }
 
-TEST_F(SystemDetailTest, OnlyAReferenceCodeLeadsOnToItsDocumentation)
+TEST_F(ConsoleScreensTest, OnlyAReferenceCodeLeadsOnToItsDocumentation)
 {
     BrowserStub browser;
     QDesktopServices::setUrlHandler("https", &browser, "open");
-    const auto detail = show("<s><ReferenceCode>X4 17&amp;a/ü</ReferenceCode></s>");
-    std::vector<int> deselected;
-    QObject::connect(detail->tableView(), &TableOutlet::deselected, [&](int row) { deselected.push_back(row); });
-    EXPECT_TRUE(cell(*detail, 0, 2).disclosure);
-    EXPECT_FALSE(cell(*detail, 0, 1).disclosure || cell(*detail, 1, 2).disclosure);
-    for (int flat = 0; flat < detail->tableView()->count(); ++flat) {
-        detail->tableView()->select(flat);
+    const auto linked = show("<ReferenceCode>X4 17&amp;a/ü</ReferenceCode>");
+    watch(linked->tableView());
+    // A program that was built without the documentation's address has no link, nor has a system without a code.
+    for (const auto& detail : {linked, show("<ReferenceCode>X417</ReferenceCode>", ""), show("")}) {
+        EXPECT_EQ(cellAt<DetailCell>(*detail, 2, TableKind::Main, 0).disclosure, detail == linked);
+        for (int flat = 0; flat < detail->tableView()->count(); ++flat) {
+            detail->tableView()->select(flat);
+        }
     }
+    EXPECT_FALSE(cellAt<DetailCell>(*linked, 1, TableKind::Main, 0).disclosure ||
+                 cellAt<DetailCell>(*linked, 2, TableKind::Main, 1).disclosure);
     ASSERT_EQ(browser.opened.size(), 1U);
     EXPECT_EQ(browser.opened[0].toString(QUrl::FullyEncoded),
               "https://docs.example/reference-codes?code=X4%2017%26a%2F%C3%BC");
     EXPECT_EQ(deselected.size(), 9U);
-    // A program that was built without the documentation's address has no link.
-    const auto unlinked = show("<s><ReferenceCode>X417</ReferenceCode></s>", "");
-    EXPECT_FALSE(cell(*unlinked, 0, 2).disclosure);
-    unlinked->didSelectRowAtIndexPath(TableKind::Main, {0, 2});
-    EXPECT_EQ(browser.opened.size(), 1U);
-
-    const auto none = show("<s><SystemName>alpha</SystemName></s>");
-    EXPECT_FALSE(cell(*none, 0, 2).disclosure);
-    none->didSelectRowAtIndexPath(TableKind::Main, {0, 2});
-    EXPECT_EQ(browser.opened.size(), 1U);
     QDesktopServices::unsetUrlHandler("https");
 }
 
-class ConsoleScreensTest : public SystemDetailTest
-{
-};
-
 TEST_F(ConsoleScreensTest, ConsoleInformationComesFromTheFeedOrSaysThatThereIsNone)
 {
-    const std::string xml =
-        "<feed><entry><published>2026-07-03T10:25:00.000Z</published><content><ManagementConsole>"
+    const std::string entries = entry(
+        "ManagementConsole",
         "<ManagementConsoleName>corvel-a</ManagementConsoleName><VersionInfo><Version>3</Version><Release>2</Release>"
-        "<Minor>0</Minor><ServicePackName>SP1</ServicePackName><BuildLevel>20260118.2</BuildLevel></VersionInfo>"
-        "</ManagementConsole></content></entry></feed>";
-    const auto shown = open<MCViewController>(addFetched({{"ManagementConsole", Feed(parse(xml))}}));
-    EXPECT_EQ(shown->header()->titleLabel()->text(), "Management Console");
-    EXPECT_EQ(shown->header()->subtitleLabel()->text(), "3 Jul 2026, 10:25");
-    EXPECT_EQ(cell(*shown, 0, 0).detailTextLabel, "corvel-a");
-    EXPECT_EQ(cell(*shown, 1, 0).detailTextLabel, "(null)");
-    // Maintenance stands before the minor release, and is missing.
-    EXPECT_EQ(cell(*shown, 2, 0), (DetailCell{"Version", "V3R2.(null).0.SP1", false}));
-    EXPECT_EQ(cell(*shown, 2, 1), (DetailCell{"Build Level", "20260118.2", false}));
-    EXPECT_EQ(shown->titleForHeaderInSection(TableKind::Main, 2), "Version Information");
+        "<Minor>0</Minor><ServicePackName>SP1</ServicePackName><BuildLevel>20260118.2</BuildLevel></VersionInfo>");
+    const auto header = [](MCViewController& screen) {
+        return screen.header()->titleLabel()->text() + "/" + screen.header()->subtitleLabel()->text();
+    };
+    const std::string source = "Shared/Views/ManagementConsole/MCViewController";
+    const auto fetching = [](const char* start, const char* what) {
+        return std::string(start) + " populateTableViewFromXML:: MCViewController: Fetching " + what;
+    };
+    const auto shown = open<MCViewController>(addFetched("ManagementConsole", entries));
+    EXPECT_EQ(header(*shown), "Management Console/3 Jul 2026, 10:25");
     EXPECT_FALSE(shown->tableView()->isHidden());
-    EXPECT_THAT(lineNumbers(lines(consoleFile)), ElementsAre(26, 135, 138, 144, 156));
-
-    const auto failed = open<MCViewController>(addFetched({{"ManagementConsole", Feed::notAvailable()}}));
-    EXPECT_EQ(failed->header()->titleLabel()->text(), "Console Data");
-    EXPECT_EQ(failed->header()->subtitleLabel()->text(), "N/A");
-    EXPECT_TRUE(failed->tableView()->isHidden() && failed->contentLabel()->isHidden());
+    EXPECT_EQ(cellAt<DetailCell>(*shown, 0, TableKind::Main, 0).detailTextLabel, "corvel-a");
+    EXPECT_EQ(cellAt<DetailCell>(*shown, 0, TableKind::Main, 1).detailTextLabel, "(null)");
+    // Maintenance stands before the minor release, and is missing.
+    EXPECT_EQ(cellAt<DetailCell>(*shown, 0, TableKind::Main, 2), (DetailCell{"Version", "V3R2.(null).0.SP1", false}));
+    EXPECT_EQ(cellAt<DetailCell>(*shown, 1, TableKind::Main, 2), (DetailCell{"Build Level", "20260118.2", false}));
+    EXPECT_EQ(shown->titleForHeaderInSection(TableKind::Main, 2), "Version Information");
+    EXPECT_THAT(log(source), ElementsAre("26 viewDidLoad: MCViewController instantiation", fetching("135", "data"),
+                                         fetching("138", "Main items"), fetching("144", "MTSM"),
+                                         fetching("156", "processor information")));
 
     const auto alone = open<MCViewController>(nullptr);
-    alone->fetchSystemInformation();
-    EXPECT_EQ(alone->header()->subtitleLabel()->text(), "N/A");
+    EXPECT_EQ(header(*alone), "Console Data/N/A");
     alone->rightBarButton()->tap();
     EXPECT_TRUE(alone->fetchingActivityIndicator()->isAnimating());
     EXPECT_FALSE(alone->rightBarButton()->isEnabled());
     ASSERT_TRUE(runUntil([&] { return !alone->contentLabel()->isHidden(); }));
+    EXPECT_FALSE(alone->fetchingActivityIndicator()->isAnimating());
     EXPECT_TRUE(alone->rightBarButton()->isEnabled());
+    EXPECT_EQ(header(*alone), "Management Console/");
+    EXPECT_THAT(log(source).back(),
+                AllOf(StartsWith("121 fetchSystemInformation: Error: "), EndsWith(" - > fetchSystemInformation")));
 
-    demoFeeds()["ManagementConsole"] = xml;
+    demoFeeds()["ManagementConsole"] = "<feed>" + entries + "</feed>";
+    const CorvelRef lacking = addFetched("ManagementConsole", "");
+    setFeedOfType(*lacking, ObjectType::ManagementConsole, Feed::notAvailable());
+    const auto failed = open<MCViewController>(lacking);
+    EXPECT_EQ(header(*failed), "Console Data/N/A");
+    EXPECT_TRUE(failed->tableView()->isHidden() && failed->contentLabel()->isHidden());
     failed->rightBarButton()->tap();
-    EXPECT_EQ(failed->header()->subtitleLabel()->text(), "updating...");
-    ASSERT_TRUE(runUntil([&] { return !failed->tableView()->isHidden(); }));
-    EXPECT_EQ(failed->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::None);
     const auto fetched = open<MCViewController>(addCorvel("Demo", "127.0.0.1", true));
-    EXPECT_EQ(fetched->header()->subtitleLabel()->text(), "updating...");
-    EXPECT_TRUE(fetched->fetchingActivityIndicator()->isAnimating());
-    ASSERT_TRUE(runUntil([&] { return !fetched->tableView()->isHidden(); }));
-    EXPECT_FALSE(fetched->fetchingActivityIndicator()->isAnimating());
-    EXPECT_EQ(cell(*fetched, 0, 0).detailTextLabel, "corvel-a");
+    for (const auto& screen : {failed, fetched}) {
+        EXPECT_EQ(header(*screen), "Management Console/updating...");
+        EXPECT_TRUE(screen->fetchingActivityIndicator()->isAnimating());
+    }
+    for (const auto& screen : {failed, fetched}) {
+        ASSERT_TRUE(runUntil([&] { return !screen->tableView()->isHidden(); }));
+        EXPECT_FALSE(screen->fetchingActivityIndicator()->isAnimating());
+        EXPECT_EQ(screen->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::None);
+        EXPECT_EQ(cellAt<DetailCell>(*screen, 0, TableKind::Main, 0).detailTextLabel, "corvel-a");
+    }
 }
 
 TEST_F(ConsoleScreensTest, TheOverviewCountsAndLeadsOn)
 {
-    const CorvelRef corvel =
-        addFetched({{"ManagedSystem", Feed(parse("<feed><entry/><entry/></feed>"))}, {"Group", Feed::notAvailable()}});
+    const CorvelRef corvel = addFetched("ManagedSystem", "<entry/><entry/>");
+    setFeedOfType(*corvel, ObjectType::Group, Feed::notAvailable());
     registerScenes(Scenes::managedSystemsView, Scenes::viosView, Scenes::logicalPartitionsView,
                    Scenes::resourceGroupsView, Scenes::serviceableEventsView, Scenes::managementConsoleView);
     const auto overview = open<CorvelOverviewTableViewController>(corvel);
     EXPECT_EQ(overview->title(), "Harbour A");
     EXPECT_TRUE(overview->backTitle().isEmpty() && !overview->backTitle().isNull());
-    const auto menuCell = [&](int section, int row) {
-        return overview->cellForRowAtIndexPath(TableKind::Main, {section, row}).value<MenuCell>();
+    const auto detail = [&](int section, int row) {
+        return overview->cellForRowAtIndexPath(TableKind::Main, {section, row}).value<MenuCell>().detail;
     };
-    EXPECT_EQ(menuCell(0, 0).detail, "2");
-    EXPECT_EQ(menuCell(0, 3).detail, "not loaded");
-    EXPECT_EQ(menuCell(2, 0).detail, "");
+    EXPECT_EQ(detail(0, 0), "2");
+    EXPECT_EQ(detail(0, 3), "not loaded");
+    EXPECT_EQ(detail(2, 0), "");
 
     std::vector<std::string> scenes;
-    int deselected = 0;
-    QObject::connect(overview->tableView(), &TableOutlet::deselected, [&] { ++deselected; });
+    watch(overview->tableView());
     for (int flat = 0; flat < overview->tableView()->count(); ++flat) {
         overview->tableView()->select(flat);
         if (navigation->depth() == 3) {
-            if (openedScene == Scenes::logicalPartitionsView.identifier) {
-                EXPECT_EQ(input<PartitionsInput>().corvel, corvel);
-                EXPECT_EQ(input<PartitionsInput>().partitionName, std::nullopt);
-            } else {
-                EXPECT_EQ(input<CorvelRef>(), corvel);
-            }
+            const auto* const partitions = std::any_cast<PartitionsInput>(&openedWith);
+            EXPECT_EQ(partitions != nullptr ? partitions->corvel : input<CorvelRef>(), corvel);
+            EXPECT_FALSE(partitions != nullptr && partitions->partitionName);
             scenes.push_back(openedScene);
             goBack();
         }
     }
     EXPECT_THAT(scenes, ElementsAre("managedSystemsView", "viosView", "logicalPartitionsView", "resourceGroupsView",
                                     "serviceableEventsView", "managementConsoleView"));
-    EXPECT_EQ(deselected, 6);
+    EXPECT_EQ(deselected.size(), 6U);
     // A fetch of another screen shows when this one comes back.
     setFeedOfType(*corvel, ObjectType::Group, Feed(parse("<feed><entry/></feed>")));
     overview->didSelectRowAtIndexPath(TableKind::Main, {2, 0});
     goBack();
-    EXPECT_EQ(menuCell(0, 3).detail, "1");
+    EXPECT_EQ(detail(0, 3), "1");
 }
 
 TEST_F(ConsoleScreensTest, TheSystemMenuChartsTheFirstSystemAndOpensItsOwn)
 {
-    const CorvelRef corvel = addFetched(
-        {{"ManagedSystem",
-          Feed(parse("<feed>" +
-                     system("first", "operating", "false", "<Metadata><Atom><AtomID>id-1</AtomID></Atom></Metadata>") +
-                     system("second", "standby") + "</feed>"))}});
     registerScenes(Scenes::pcmDataView, Scenes::logicalPartitionsView, Scenes::managedSystemInfo);
     const auto menu = makeController<MSOverViewController>();
-    menu->setCorvel(corvel);
+    menu->setCorvel(addFetched("ManagedSystem", system("first", "operating", "false",
+                                                       "<Metadata><Atom><AtomID>id-1</AtomID></Atom></Metadata>") +
+                                                    system("second", "standby")));
     menu->setSystem(parse("<s><SystemName>second</SystemName></s>"));
     push(menu);
     EXPECT_EQ(menu->title(), "Managed System");
-    ASSERT_EQ(menu->gauges().size(), 2);
-    EXPECT_EQ(menu->gauges()[1], (GaugeFigure{QRectF(85, 28, 110, 110), 100, 60, false, QColor(77, 186, 122)}));
-
     menu->didSelectRowAtIndexPath(TableKind::Main, {0, 0});
     EXPECT_EQ(openedScene, "pcmDataView");
-    EXPECT_EQ(input<PerformanceInput>().corvel, corvel);
+    EXPECT_EQ(input<PerformanceInput>().corvel, menu->corvel());
     EXPECT_EQ(input<PerformanceInput>().systemID, "id-1");
     EXPECT_EQ(input<PerformanceInput>().sysName, std::nullopt);
     goBack();

@@ -2,11 +2,14 @@
 // What all lists of a console's inventory do alike, and what they have to bear.
 #include "Fleet/Registry.h"
 #include "Tests/Views/ListFixture.h"
+#include "Views/Common/FeedTimeStamp.h"
 #include "Views/LogicalPartitions/LPListViewController.h"
 #include "Views/ManagedSystems/MSListViewController.h"
 #include "Views/ResourceGroups/RGListViewController.h"
 #include "Views/ServiceableEvents/SEListViewController.h"
 #include "Views/VIOS/VIOSViewController.h"
+
+#include <array>
 
 namespace lodestar::testing
 {
@@ -14,11 +17,16 @@ namespace
 {
 
 struct ListKind {
-    std::string name;
+    const char* name;
     std::string_view type;
     const char* title;
-    std::string source; ///< as it logs
+    const char* folder;
     std::shared_ptr<FeedListViewController> (*make)();
+    /// As the log names a failed fetch of the list, of its pull and of its button.
+    std::array<const char*, 3> failures;
+    PullEnds pullEnds = PullEnds::AtOnce;
+
+    std::string source() const { return std::string("Shared/Views/") + folder + "/" + name; }
 };
 
 template <typename Controller>
@@ -27,17 +35,27 @@ std::shared_ptr<FeedListViewController> makeList()
     return makeController<Controller>();
 }
 
+constexpr std::array<const char*, 3> alike(const char* failure)
+{
+    return {failure, failure, failure};
+}
+
 const ListKind everyList[] = {
-    {"MSListViewController", ObjectType::ManagedSystem, "Managed Systems",
-     "Shared/Views/ManagedSystems/MSListViewController", makeList<MSListViewController>},
-    {"LPListViewController", ObjectType::LogicalPartition, "Logical Partitions",
-     "Shared/Views/LogicalPartitions/LPListViewController", makeList<LPListViewController>},
-    {"VIOSViewController", ObjectType::VirtualIOServer, "Virtual IO Servers", "Shared/Views/VIOS/VIOSViewController",
-     makeList<VIOSViewController>},
-    {"SEListViewController", ObjectType::ServiceableEvent, "Serviceable Events",
-     "Shared/Views/ServiceableEvents/SEListViewController", makeList<SEListViewController>},
-    {"RGListViewController", ObjectType::Group, "Resource Groups", "Shared/Views/ResourceGroups/RGListViewController",
-     makeList<RGListViewController>},
+    {"MSListViewController", ObjectType::ManagedSystem, "Managed Systems", "ManagedSystems",
+     makeList<MSListViewController>, alike("165 fetchNewRESTData")},
+    {"LPListViewController", ObjectType::LogicalPartition, "Logical Partitions", "LogicalPartitions",
+     makeList<LPListViewController>, alike("159 fetchNewRESTData")},
+    {"VIOSViewController", ObjectType::VirtualIOServer, "Virtual IO Servers", "VIOS", makeList<VIOSViewController>,
+     alike("158 fetchNewRESTData")},
+    {"SEListViewController",
+     ObjectType::ServiceableEvent,
+     "Serviceable Events",
+     "ServiceableEvents",
+     makeList<SEListViewController>,
+     {"152 fetchServiceableEvents", "216 refreshTable:", "240 refreshFromButton"},
+     PullEnds::OnSettlement},
+    {"RGListViewController", ObjectType::Group, "Resource Groups", "ResourceGroups", makeList<RGListViewController>,
+     alike(" fetchNewRESTData")},
 };
 
 class EveryListTest : public ListTest, public ::testing::WithParamInterface<ListKind>
@@ -60,6 +78,14 @@ protected:
         return push(list);
     }
     std::size_t stored() const { return feedOfType(*corvel, GetParam().type).entryCount(); }
+    /// How often the list says from now on that it has nothing to show.
+    const int& countFailures(FeedListViewController& list)
+    {
+        failureCount = 0;
+        QObject::connect(list.noDataLabel(), &ViewOutlet::hiddenChanged,
+                         [this, &list] { failureCount += list.noDataLabel()->isHidden() ? 0 : 1; });
+        return failureCount;
+    }
     /// Makes every row, as a table that draws them all would; answers how many there are.
     static int drawAll(FeedListViewController& list)
     {
@@ -74,6 +100,7 @@ protected:
 
     simulator::SimulatorProcess fleet;
     CorvelRef corvel;
+    int failureCount = 0;
 };
 
 TEST_P(EveryListTest, OpensLoadingAndShowsWhatItFetchedAndThenWhatIsStored)
@@ -83,14 +110,11 @@ TEST_P(EveryListTest, OpensLoadingAndShowsWhatItFetchedAndThenWhatIsStored)
         fleet.clearRequests();
         const auto list = openList();
         EXPECT_EQ(list->header()->titleLabel()->text(), GetParam().title);
-        EXPECT_EQ(list->header()->subtitleLabel()->text(), "updating...");
+        EXPECT_EQ(subtitle(*list), "updating...");
         EXPECT_TRUE(list->tableView()->isHidden() && list->fetchingActivityIndicator()->isAnimating());
         EXPECT_TRUE(list->noDataImage()->isHidden() && list->noDataLabel()->isHidden());
         EXPECT_EQ(list->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::None);
         EXPECT_TRUE(list->backTitle().isEmpty() && !list->backTitle().isNull());
-        const LoggedLine opening = lines(GetParam().source).front();
-        EXPECT_EQ(opening.message, GetParam().name + " instantiation");
-        EXPECT_EQ(opening.method, "-[" + GetParam().name + " viewDidLoad]");
         ASSERT_TRUE(hasContent(*list));
         EXPECT_FALSE(list->fetchingActivityIndicator()->isAnimating());
         EXPECT_EQ(static_cast<std::size_t>(list->tableView()->rows()), stored());
@@ -99,20 +123,33 @@ TEST_P(EveryListTest, OpensLoadingAndShowsWhatItFetchedAndThenWhatIsStored)
             std::ranges::count_if(requests, [](const auto& each) { return each.path.ends_with(GetParam().type); }),
             fetched ? 0 : 1);
     }
+    EXPECT_EQ(unnumberedLog(GetParam().source()).front(),
+              "viewDidLoad: " + std::string(GetParam().name) + " instantiation");
 }
 
 TEST_P(EveryListTest, EndsInTheLookThatItsAnswerDeserves)
 {
+    const auto expectFailure = [this](FeedListViewController& list, std::size_t fetch) {
+        ASSERT_TRUE(hasNoContent(list));
+        const std::string line = log(GetParam().source()).back();
+        const std::string failure = GetParam().failures[fetch];
+        EXPECT_NE(line.find(failure + ": Error: "), std::string::npos) << line;
+        EXPECT_TRUE(line.ends_with(" - > " + failure.substr(failure.find(' ') + 1))) << line;
+    };
     for (const char* fault : {"cutBody:All", "cutChunk:All", "cutGzip:All", "reset:All", "refuseFeed:All"}) {
+        SCOPED_TRACE(fault);
         fleet.setFault(fault);
         const auto list = openList();
-        ASSERT_TRUE(hasNoContent(*list)) << fault;
-        EXPECT_TRUE(list->tableView()->isHidden() && corvel->restData() == nullptr) << fault;
-        EXPECT_FALSE(list->noDataImage()->isHidden() || list->fetchingActivityIndicator()->isAnimating());
+        expectFailure(*list, 0);
+        EXPECT_TRUE(list->tableView()->isHidden() && corvel->restData() == nullptr);
+        EXPECT_FALSE(list->noDataImage()->isHidden() || list->noDataHeadline()->isHidden() ||
+                     list->fetchingActivityIndicator()->isAnimating());
+        EXPECT_EQ(subtitle(*list), "");
         fleet.clearFaults();
-        list->refreshFromButton();
-        ASSERT_TRUE(hasContent(*list)) << fault;
-        EXPECT_TRUE(list->noDataLabel()->isHidden() && list->noDataImage()->isHidden());
+        list->rightBarButton()->tap();
+        ASSERT_TRUE(hasContent(*list));
+        EXPECT_TRUE(list->noDataLabel()->isHidden() && list->noDataHeadline()->isHidden() &&
+                    list->noDataImage()->isHidden());
         corvel->setRestData(nullptr);
     }
     fleet.setFault("emptyFeed:All");
@@ -133,9 +170,16 @@ TEST_P(EveryListTest, EndsInTheLookThatItsAnswerDeserves)
     // What cannot be looked up takes no row that is there.
     fleet.setFault("cutBody:Quick");
     EXPECT_EQ(drawAll(*list), rows);
-    fleet.setFault("expireSession");
+    // What cannot be fetched leaves what is stored.
+    fleet.setFault("refuseFeed:All");
+    const int& failures = countFailures(*list);
     list->refreshControl()->pull();
-    ASSERT_TRUE(hasNoContent(*list));
+    EXPECT_EQ(list->refreshControl()->isRefreshing(), GetParam().pullEnds == PullEnds::OnSettlement);
+    ASSERT_TRUE(runUntil([&] { return failures == 1 && !list->refreshControl()->isRefreshing(); }));
+    expectFailure(*list, 1);
+    list->rightBarButton()->tap();
+    ASSERT_TRUE(runUntil([&] { return failures == 2; }));
+    expectFailure(*list, 2);
     EXPECT_EQ(stored(), static_cast<std::size_t>(rows));
 }
 
@@ -143,13 +187,9 @@ TEST_P(EveryListTest, WithoutAConsoleFailsToFetchAndGoesOn)
 {
     const auto list = push(GetParam().make());
     ASSERT_TRUE(hasNoContent(*list));
-    int failures = 0;
-    QObject::connect(list->noDataLabel(), &ViewOutlet::hiddenChanged,
-                     [&] { failures += list->noDataLabel()->isHidden() ? 0 : 1; });
+    const int& failures = countFailures(*list);
     list->refreshControl()->pull();
-    EXPECT_TRUE(runUntil([&] { return failures == 1 && !list->refreshControl()->isRefreshing(); }));
-    list->refreshFromButton();
-    EXPECT_TRUE(runUntil([&] { return failures == 2; }));
+    EXPECT_TRUE(runUntil([&] { return failures == 1; }));
     EXPECT_TRUE(list->tableView()->isHidden());
     EXPECT_EQ(drawAll(*list), 0);
 }
@@ -192,6 +232,35 @@ TEST_P(EveryListTest, ItsConsoleMayBeDeletedAndTheListClosedWhileTwoFetchesRun)
 
 INSTANTIATE_TEST_SUITE_P(Lists, EveryListTest, ::testing::ValuesIn(everyList),
                          [](const auto& kind) { return kind.param.name; });
+
+TEST(FeedTimeStampTest, ShowsTheWallClockInEveryZoneAndInTheLocalesForm)
+{
+    // In New York this time does not exist: its clocks jump over it.
+    QByteArrayList zones = {"UTC", "Asia/Kathmandu", "America/New_York"};
+    for (int hours = -14; hours <= 12; ++hours) {
+        zones << "Etc/GMT" + QByteArray(hours > 0 ? "+" : "") + QByteArray::number(hours);
+    }
+    for (const QByteArray& zone : zones) {
+        const InZone there(zone);
+        EXPECT_EQ(mediumDateShortTime(*parseFeedDate("2026-03-08T02:30:00.000Z"), QLocale("en_GB")),
+                  "8 Mar 2026, 02:30");
+    }
+    for (const auto& [locale, shown] : {std::pair("C", "3 Jul 2026, 10:25"),
+                                        {"en_US", "Jul 3, 2026, 10:25 AM"},
+                                        {"de_DE", "03.07.2026, 10:25"},
+                                        {"ja_JP", "2026/07/03, 10:25"}}) {
+        EXPECT_EQ(mediumDateShortTime(*parseFeedDate("2026-07-03T10:25:00.000Z"), QLocale(locale)), shown);
+    }
+}
+
+TEST(TitleHeaderDeathTest, ATitleWithoutItsViewStopsTheProgram)
+{
+    TitleHeader header;
+    EXPECT_DEATH(header.setHeaderTitle("Managed Systems", ""), "self.navigationItem.titleView != nil");
+    header.setCustomNavigationBar();
+    EXPECT_EQ(header.titleLabel()->text(), "Title");
+    EXPECT_EQ(header.subtitleLabel()->text(), "Subtitle");
+}
 
 } // namespace
 } // namespace lodestar::testing

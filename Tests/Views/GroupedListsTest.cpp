@@ -18,6 +18,7 @@ namespace lodestar::testing
 namespace
 {
 
+using ::testing::_;
 using ::testing::AllOf;
 using ::testing::Each;
 using ::testing::ElementsAre;
@@ -25,19 +26,12 @@ using ::testing::HasSubstr;
 using ::testing::SizeIs;
 using ::testing::StartsWith;
 
-constexpr auto partitionsFile = "Shared/Views/LogicalPartitions/LPListViewController";
-constexpr auto serversFile = "Shared/Views/VIOS/VIOSViewController";
 constexpr auto Main = TableKind::Main;
 constexpr auto Results = TableKind::SearchResults;
 
 std::string named(const std::string& name, const std::string& state = "running")
 {
     return "<PartitionName>" + name + "</PartitionName><PartitionState>" + state + "</PartitionState>";
-}
-
-PartitionCell cell(GroupedListViewController& list, int section, int row, TableKind kind = Main)
-{
-    return list.cellForRowAtIndexPath(kind, {section, row}).value<PartitionCell>();
 }
 
 /// The names that a table shows, by section.
@@ -47,7 +41,7 @@ std::vector<QStringList> names(GroupedListViewController& list, TableKind kind =
     for (int section = 0; section < list.numberOfSections(kind); ++section) {
         QStringList& shown = sections.emplace_back();
         for (int row = 0; row < list.numberOfRowsInSection(kind, section); ++row) {
-            shown << cell(list, section, row, kind).nameLabel().text;
+            shown << cellAt<PartitionCell>(list, row, kind, section).nameLabel.text;
         }
     }
     return sections;
@@ -62,102 +56,71 @@ QStringList titles(GroupedListViewController& list, TableKind kind = Main)
     return shown;
 }
 
-void searchFor(FeedListViewController& list, const char* text)
-{
-    list.showSearchBar();
-    list.searchBar()->setText(QString::fromLatin1(text));
-}
-
 /// With a demonstration console, whose elements all stand in one group.
-class GroupedListsTest : public ListTest
-{
-protected:
-    template <typename Controller>
-    std::shared_ptr<Controller> openDemo(const std::string& type, const std::string& entries)
-    {
-        auto list = open<Controller>(addFetched({{type, Feed(parse("<feed>" + entries + "</feed>"))}}));
-        EXPECT_TRUE(hasContent(*list));
-        return list;
-    }
-};
+using GroupedListsTest = ListTest;
 
 TEST_F(GroupedListsTest, PartitionsShowTheirStateByExactWording)
 {
-    const auto list = openDemo<LPListViewController>(
+    const auto list = makeController<LPListViewController>();
+    list->setCorvel(addFetched(
         "LogicalPartition", entry("LogicalPartition", named("one") + "<PartitionType>Dedicated</PartitionType>"
                                                                      "<ReferenceCode>N140-0020</ReferenceCode>") +
-                                entry("LogicalPartition", named("two", "not activated")) +
-                                entry("LogicalPartition", named("three", "error")) +
-                                entry("LogicalPartition", named("four", "Running")) + entry("LogicalPartition", ""));
-    const Role::State states[] = {Role::State::Good, Role::State::Off, Role::State::Error, Role::State::Alert,
-                                  Role::State::Alert};
-    for (int row = 0; row < 5; ++row) {
-        EXPECT_EQ(cell(*list, 0, row).stateLabel().state, states[row]) << row;
-    }
-    EXPECT_EQ(cell(*list, 0, 0).accessibleText(), "one, Dedicated, running, N140-0020");
-    EXPECT_EQ(cell(*list, 0, 4).accessibleText(), "");
-    EXPECT_EQ(list->tableView()->rowHeight(), 50);
-}
-
-TEST_F(GroupedListsTest, ServersUncoverButtonsByTheirState)
-{
-    const auto list = openDemo<VIOSViewController>(
-        "VirtualIOServer",
-        entry("VirtualIOServer", named("a", "not activated")) +
-            entry("VirtualIOServer", named("b", "Not activated") + "<ReferenceCode>x</ReferenceCode>"));
-    EXPECT_THAT(cell(*list, 0, 0).leftButtons(),
-                ElementsAre(SwipeButton{"", Role::Button::Positive, "check", "Check"}));
-    EXPECT_THAT(cell(*list, 0, 1).leftButtons(),
-                ElementsAre(SwipeButton{"", Role::Button::Standard, "check", "Check"},
-                            SwipeButton{"", Role::Button::Favourite, "fav", "Favourite"}));
-    EXPECT_EQ(cell(*list, 0, 1).stateLabel().state, Role::State::Alert);
-}
-
-TEST_F(GroupedListsTest, ADemonstrationConsoleShowsAllItsPartitionsInOneGroup)
-{
-    const CorvelRef corvel = addFetched(
-        {{"LogicalPartition", Feed(parse("<feed>" + entry("LogicalPartition", named("b")) + entry("Other", "") +
-                                         "<entry/>" + entry("LogicalPartition", named("a")) + "</feed>"))}});
-    const auto list = makeController<LPListViewController>();
-    list->setCorvel(corvel);
+                                entry("LogicalPartition", named("two", "not activated")) + entry("Other", "") +
+                                "<entry/>" + entry("LogicalPartition", named("three", "error")) +
+                                entry("LogicalPartition", named("four", "Running")) + entry("LogicalPartition", "")));
+    // A demonstration console has no system to narrow the list to.
     list->setPartitionName("helios-01");
     push(list);
     ASSERT_TRUE(hasContent(*list));
-    EXPECT_EQ(list->partitionName(), std::nullopt);
     EXPECT_EQ(titles(*list), QStringList("demo placeholder"));
-    EXPECT_THAT(names(*list), ElementsAre(QStringList({"b", "a"})));
-    EXPECT_EQ(list->header()->subtitleLabel()->text(), "3 Jul 2026, 10:25");
-    const std::vector<LoggedLine> log = lines(partitionsFile);
-    EXPECT_THAT(lineNumbers(log), ElementsAre(36, 191, 194, 197, 194, 197, 194, 197, 194, 197));
-    EXPECT_EQ(log[1].message, "LPListViewController: Seperating partitions");
-    EXPECT_EQ(log[3].message, "LPListViewController: Fetching stored link");
+    const std::pair<const char*, Role::State> rows[] = {{"one, Dedicated, running, N140-0020", Role::State::Good},
+                                                        {"two, not activated", Role::State::Off},
+                                                        {"three, error", Role::State::Error},
+                                                        {"four, Running", Role::State::Alert},
+                                                        {"", Role::State::Alert}};
+    ASSERT_EQ(list->numberOfRowsInSection(Main, 0), std::ssize(rows));
+    for (int row = 0; row < std::ssize(rows); ++row) {
+        EXPECT_EQ(cellAt<PartitionCell>(*list, row).accessibleText(), rows[row].first);
+        EXPECT_EQ(cellAt<PartitionCell>(*list, row).stateLabel.state, rows[row].second) << row;
+    }
+    EXPECT_EQ(list->tableView()->rowHeight(), 50);
+    EXPECT_EQ(subtitle(*list), "3 Jul 2026, 10:25");
 
-    const auto empty = openDemo<LPListViewController>("LogicalPartition", "");
+    const auto empty = openFetched<LPListViewController>("LogicalPartition", "");
     EXPECT_EQ(empty->tableView()->count(), 0);
     EXPECT_EQ(empty->titleForHeaderInSection(Main, 0), "Demo Corvel");
     EXPECT_EQ(empty->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::Search);
 }
 
+TEST_F(GroupedListsTest, ServersUncoverButtonsByTheirState)
+{
+    const auto list =
+        openFetched<VIOSViewController>("VirtualIOServer", entry("VirtualIOServer", named("a", "not activated")) +
+                                                               entry("VirtualIOServer", named("b", "Not activated")));
+    EXPECT_THAT(cellAt<PartitionCell>(*list, 0).leftButtons,
+                ElementsAre(SwipeButton{"", Role::Button::Positive, "check", "Check"}));
+    EXPECT_THAT(cellAt<PartitionCell>(*list, 1).leftButtons,
+                ElementsAre(SwipeButton{"", Role::Button::Standard, "check", "Check"},
+                            SwipeButton{"", Role::Button::Favourite, "fav", "Favourite"}));
+}
+
 TEST_F(GroupedListsTest, DetailsShowThreeFactsCutAtAColon)
 {
-    const XMLElement facts = parse("<p><PartitionName>web:01</PartitionName><PartitionID>7</PartitionID></p>");
-    const auto expectFacts = [&](PartitionDetailViewController& detail, const char* title) {
-        EXPECT_EQ(detail.title(), title);
-        ASSERT_THAT(detail.tableData(), SizeIs(1));
-        EXPECT_EQ(detail.tableData()[0].data, QStringList({"Name:web:01", "ID:7", "Type:(null)"}));
-        EXPECT_EQ(detail.cellForRowAtIndexPath(Main, {0, 0}).value<DetailCell>().detailTextLabel, "web");
-        EXPECT_EQ(detail.titleForHeaderInSection(Main, 0), "Main Information");
+    const auto expectFacts = [&](std::shared_ptr<PartitionDetailViewController> detail, const char* title) {
+        detail->setRootXML(parse("<p><PartitionName>web:01</PartitionName><PartitionID>7</PartitionID></p>"));
+        push(detail);
+        EXPECT_EQ(detail->title(), title);
+        EXPECT_THAT(detail->tableData(), ElementsAre(QStringList({"Name:web:01", "ID:7", "Type:(null)"})));
+        EXPECT_EQ(detail->cellForRowAtIndexPath(Main, {0, 0}).value<DetailCell>().detailTextLabel, "web");
+        EXPECT_EQ(detail->titleForHeaderInSection(Main, 0), "Main Information");
     };
-    const auto partition = makeController<LPDetailViewController>();
-    partition->setRootXML(facts);
-    expectFacts(*push(partition), "Partition Details");
-    EXPECT_THAT(lineNumbers(lines("Shared/Views/LogicalPartitions/LPDetailViewController")), ElementsAre(23));
-    const auto server = makeController<VIOSDetailViewController>();
-    server->setRootXML(facts);
-    expectFacts(*push(server), "VIOS Details");
-    const auto log = lines("Shared/Views/VIOS/VIOSDetailViewController");
-    EXPECT_THAT(lineNumbers(log), ElementsAre(23, 47));
-    EXPECT_EQ(log[1].message, "VIOSDetailViewController: Fetching main items");
+    expectFacts(makeController<LPDetailViewController>(), "Partition Details");
+    EXPECT_THAT(log("Shared/Views/LogicalPartitions/LPDetailViewController"),
+                ElementsAre("23 viewDidLoad: LPDetailViewController instantiation"));
+    expectFacts(makeController<VIOSDetailViewController>(), "VIOS Details");
+    EXPECT_THAT(log("Shared/Views/VIOS/VIOSDetailViewController"),
+                ElementsAre("23 viewDidLoad: VIOSDetailViewController instantiation",
+                            "47 populatePartitionDetails: VIOSDetailViewController: Fetching main items"));
 }
 
 /// With a console that names its systems.
@@ -229,12 +192,15 @@ TEST_F(GroupingTest, EveryPartitionAsksForItsSystemInTheThreadThatGroups)
     const std::string feed = partition(1, named("LPAR01")) + partition(0, named("web")) +
                              partition(1, named("MyLpar2", "error")) + partition(2, named("mail"));
     store("LogicalPartition", feed);
+    const auto handshakes = fleet.handshakes(0);
     const auto list = openLoaded<LPListViewController>();
     EXPECT_EQ(titles(*list), QStringList({systems[1], systems[0], systems[2]}));
     EXPECT_THAT(names(*list), ElementsAre(QStringList({"LPAR01", "MyLpar2"}), QStringList("web"), QStringList("mail")));
     EXPECT_THAT(fleet.requests(0), AllOf(SizeIs(4), Each(::testing::Field(&simulator::RecordedRequest::path,
                                                                           HasSubstr("/quick/SystemName")))));
     EXPECT_EQ(onMain, 0);
+
+    EXPECT_LE(fleet.handshakes(0) - handshakes, 1U) << "all over one connection";
 
     fleet.setFeed(0, "LogicalPartition", "<feed>" + feed + "</feed>");
     list->refreshFromButton();
@@ -275,49 +241,34 @@ TEST_F(GroupingTest, EveryPartitionAsksForItsSystemInTheThreadThatGroups)
     }
 }
 
-TEST_F(GroupingTest, AListLooksAllItsSystemsUpOverOneConnection)
-{
-    constexpr int count = 200;
-    std::string feed;
-    for (int i = 0; i < count; ++i) {
-        feed += partition(i % 3, named("LPAR" + std::to_string(i)));
-    }
-    store("LogicalPartition", feed);
-    const auto before = fleet.handshakes(0);
-    const auto list = openLoaded<LPListViewController>();
-    EXPECT_THAT(fleet.requests(0), SizeIs(count));
-    EXPECT_LE(fleet.handshakes(0) - before, 1U);
-    // On the main thread after a fetch, whose own connection is another.
-    fleet.setFeed(0, "LogicalPartition", "<feed>" + feed + "</feed>");
-    list->refreshFromButton();
-    ASSERT_TRUE(runUntil([&] { return list->numberOfSections(Main) == 3; }));
-    EXPECT_GE(fleet.requests(0).size(), 2U * count);
-    EXPECT_LE(fleet.handshakes(0) - before, 3U);
-}
-
 TEST_F(GroupingTest, WithoutASystemsNamePartitionsAreKeptAndServersLeftOut)
 {
-    for (const std::string type : {"LogicalPartition", "VirtualIOServer"}) {
-        store(type,
-              of(links[0], named("kept"), type) +
-                  of("https://" + fleet.address(0) + ":1/nobody", named("silent"), type) +
-                  entry(type, named("unlinked")) +
-                  of("https://" + fleet.address(0) + ":12443/rest/api/uom/ManagedSystem/gone", named("refused"), type));
-        if (type == "LogicalPartition") {
-            const auto list = openLoaded<LPListViewController>();
-            EXPECT_THAT(names(*list),
-                        ElementsAre(QStringList("kept"), QStringList({"silent", "unlinked"}), QStringList("refused")));
-            EXPECT_EQ(titles(*list)[1], "Unknown system");
-            EXPECT_THAT(titles(*list)[2].toStdString(), HasSubstr("There is no such property."));
-        } else {
-            const auto list = openLoaded<VIOSViewController>();
-            EXPECT_THAT(names(*list), ElementsAre(QStringList("kept"), QStringList("refused")));
-            EXPECT_EQ(list->ohCrabLabel()->text(), "Nothing in sight");
-            const std::vector<LoggedLine> log = lines(serversFile);
-            EXPECT_THAT(lineNumbers(log), ElementsAre(37, 189, 192, 195, 192, 195, 192, 195, 192, 195));
-            EXPECT_EQ(log[1].message, "VIOSViewController: Seperating partitions");
-        }
-    }
+    const auto entries = [this](const std::string& type) {
+        return of(links[0], named("kept"), type) +
+               of("https://" + fleet.address(0) + ":1/nobody", named("silent"), type) + entry(type, named("unlinked")) +
+               of("https://" + fleet.address(0) + ":12443/rest/api/uom/ManagedSystem/gone", named("refused"), type);
+    };
+    store("LogicalPartition", entries("LogicalPartition"));
+    const auto partitions = openLoaded<LPListViewController>();
+    EXPECT_THAT(names(*partitions),
+                ElementsAre(QStringList("kept"), QStringList({"silent", "unlinked"}), QStringList("refused")));
+    EXPECT_EQ(titles(*partitions)[1], "Unknown system");
+    EXPECT_THAT(titles(*partitions)[2].toStdString(), HasSubstr("There is no such property."));
+    const auto lookUp = [](const char* lines) {
+        return std::string(lines) + " seperatePartitionsBySystemFromXML:: LPListViewController: ";
+    };
+    EXPECT_THAT(log("Shared/Views/LogicalPartitions/LPListViewController"),
+                ElementsAre("36 viewDidLoad: LPListViewController instantiation",
+                            lookUp("191") + "Seperating partitions", lookUp("194") + "Fetching partition",
+                            lookUp("197") + "Fetching stored link", _, _, _, _, _, _));
+
+    store("VirtualIOServer", entries("VirtualIOServer"));
+    const auto servers = openLoaded<VIOSViewController>();
+    EXPECT_THAT(names(*servers), ElementsAre(QStringList("kept"), QStringList("refused")));
+    EXPECT_EQ(servers->ohCrabLabel()->text(), "Nothing in sight");
+    EXPECT_THAT(
+        log("Shared/Views/VIOS/VIOSViewController"),
+        ElementsAre(StartsWith("37 "), StartsWith("189 "), StartsWith("192 "), StartsWith("195 "), _, _, _, _, _, _));
 }
 
 TEST_F(GroupingTest, SearchResultsGoByTheirOwnGroupsUnderTheTitlesOfAll)
@@ -329,10 +280,8 @@ TEST_F(GroupingTest, SearchResultsGoByTheirOwnGroupsUnderTheTitlesOfAll)
     searchFor(*list, "lpar");
     EXPECT_THAT(names(*list, Results), ElementsAre(QStringList("LPAR01"), QStringList("MyLpar2")));
     EXPECT_EQ(titles(*list, Results), QStringList({systems[0], systems[1]}));
-    EXPECT_EQ(cell(*list, 1, 0, Results).nameLabel().match, "lpar");
-    std::vector<int> deselected;
-    QObject::connect(list->searchResultsTableView(), &TableOutlet::deselected,
-                     [&](int row) { deselected.push_back(row); });
+    EXPECT_EQ(cellAt<PartitionCell>(*list, 0, Results, 1).nameLabel.match, "lpar");
+    watch(list->searchResultsTableView());
     list->searchResultsTableView()->select(3);
     ASSERT_EQ(openedScene, "logicalPartitionsDetail");
     EXPECT_EQ(input<XMLElement>().child("PartitionName").text(), "MyLpar2");
@@ -374,20 +323,6 @@ TEST_F(GroupingTest, ANarrowedListCountsItsSystemAndDrawsTheFirst)
     EXPECT_EQ(titles(*unknown), QStringList(systems[0]));
     store("LogicalPartition", "");
     EXPECT_EQ(titles(*openNarrowed(systems[1])), QStringList("Demo Corvel"));
-}
-
-TEST_F(GroupingTest, ARefusedFetchShowsBothTextsAndIsLogged)
-{
-    fleet.setFault("refuseFeed:All:0");
-    const auto servers = open<VIOSViewController>(corvel);
-    ASSERT_TRUE(hasNoContent(*servers));
-    EXPECT_FALSE(servers->ohCrabLabel()->isHidden());
-    EXPECT_EQ(lines(serversFile).back().line, 158);
-    EXPECT_THAT(lines(serversFile).back().message, AllOf(StartsWith("Error: "), HasSubstr(" - > fetchNewRESTData")));
-    fleet.clearFaults();
-    servers->rightBarButton()->tap();
-    ASSERT_TRUE(hasContent(*servers));
-    EXPECT_TRUE(servers->ohCrabLabel()->isHidden());
 }
 
 } // namespace

@@ -28,16 +28,10 @@ inline std::string system(const std::string& name, const std::string& state, con
                                       "</PhysicalSystemAttentionLEDState>" + rest);
 }
 
-/// The lines' numbers; each is to be of level 2, without a tag.
-inline std::vector<int> lineNumbers(const std::vector<LoggedLine>& lines)
+template <typename Cell>
+Cell cellAt(TableDataSource& list, int row, TableKind kind = TableKind::Main, int section = 0)
 {
-    std::vector<int> numbers;
-    for (const LoggedLine& line : lines) {
-        EXPECT_EQ(line.level, 2);
-        EXPECT_EQ(line.tag, 0);
-        numbers.push_back(line.line);
-    }
-    return numbers;
+    return list.cellForRowAtIndexPath(kind, {section, row}).value<Cell>();
 }
 
 /// Screens on a stack, with scenes behind them that keep their inputs.
@@ -89,13 +83,21 @@ protected:
     }
     /// Back to the screen, to open the next.
     void goBack() const { navigation->popViewController(Animated::No); }
-    /// A console whose last whole fetch ended with these feeds.
-    static CorvelRef addFetched(const std::map<std::string, Feed>& byType)
+    /// A demonstration console whose last whole fetch brought one feed, with these entries.
+    static CorvelRef addFetched(const std::string& type, const std::string& entries)
     {
         const CorvelRef corvel = addCorvel("Harbour A", "127.0.0.1", true);
-        corvel->setRestData(feeds(byType));
+        corvel->setRestData(feeds({{type, Feed(parse("<feed>" + entries + "</feed>"))}}));
         corvel->completedFetch = true;
         return corvel;
+    }
+    /// Its list, as it shows the feed.
+    template <typename List>
+    std::shared_ptr<List> openFetched(const std::string& type, const std::string& entries)
+    {
+        auto list = open<List>(addFetched(type, entries));
+        EXPECT_TRUE(hasContent(*list));
+        return list;
     }
     /// A simulated console that has been logged on to and not yet fetched.
     static CorvelRef addLoggedOn(const simulator::SimulatorProcess& fleet)
@@ -108,6 +110,18 @@ protected:
         EXPECT_TRUE(runUntil([&] { return logon.isFulfilled(); }));
         return corvel;
     }
+    /// Keeps the rows that the table is told to deselect from now on.
+    void watch(TableOutlet* table)
+    {
+        deselected.clear();
+        QObject::connect(table, &TableOutlet::deselected, [this](int row) { deselected.push_back(row); });
+    }
+    static void searchFor(FeedListViewController& list, const char* text)
+    {
+        list.showSearchBar();
+        list.searchBar()->setText(QString::fromLatin1(text));
+    }
+    static QString subtitle(FeedListViewController& list) { return list.header()->subtitleLabel()->text(); }
     static bool hasContent(FeedListViewController& list)
     {
         return runUntil([&] { return !list.tableView()->isHidden(); });
@@ -120,6 +134,7 @@ protected:
     std::shared_ptr<NavigationController> navigation;
     std::any openedWith;
     std::string openedScene;
+    std::vector<int> deselected;
 };
 
 } // namespace lodestar::testing

@@ -10,9 +10,11 @@
 #include "Views/Common/Scenes.h"
 #include "Views/Corvels/DeltaCorvelViewController.h"
 
-#include <QGuiApplication>
+#include <QMetaProperty>
+#include <QStringList>
+#include <fmt/format.h>
 
-#include <algorithm>
+#include <utility>
 
 namespace lodestar::testing
 {
@@ -73,8 +75,14 @@ void ViewsTest::SetUp()
         QUrl());
     m_listener = VireoLogger::addListener([this](const VireoLogger::Entry& entry) {
         const std::lock_guard lock(m_mutex);
-        m_lines.push_back({entry.level, entry.tag, entry.line, std::string(entry.fileName), std::string(entry.method),
-                           std::string(entry.message)});
+        const std::string_view file = entry.fileName;
+        const auto method = fmt::format("-[{} ", file.substr(file.rfind('/') + 1));
+        // A line that is not as all screens' lines are shows whole.
+        const bool isUsual = entry.level == 2 && entry.tag == 0 && entry.method.starts_with(method);
+        m_log[std::string(file)].push_back(fmt::format(
+            "{} {}: {}", entry.line,
+            isUsual ? entry.method.substr(method.size(), entry.method.size() - method.size() - 1) : entry.method,
+            entry.message));
     });
     for (const char* name : {"CloseDeltaCorvel", "StatusWillShow", "StatusShouldHide"}) {
         m_observations.push_back(NotificationCenter::defaultCenter().addObserver(
@@ -142,22 +150,34 @@ std::shared_ptr<const FeedDictionary> ViewsTest::feeds(const std::map<std::strin
     return dictionary;
 }
 
-std::vector<LoggedLine> ViewsTest::lines(const std::string& fileName)
+std::string ViewsTest::seen(const QObject& screen)
 {
-    const std::lock_guard lock(m_mutex);
-    std::vector<LoggedLine> found;
-    std::ranges::copy_if(m_lines, std::back_inserter(found),
-                         [&fileName](const LoggedLine& line) { return line.fileName == fileName; });
-    return found;
+    QStringList names;
+    for (int i = ViewController::staticMetaObject.propertyCount(); i < screen.metaObject()->propertyCount(); ++i) {
+        const QMetaProperty property = screen.metaObject()->property(i);
+        const auto* const outlet = property.read(&screen).value<QObject*>();
+        const bool isShown = outlet != nullptr && outlet->property("hidden") == false;
+        if (isShown && outlet->property("animating") != false) {
+            names << QString::fromLatin1(property.name());
+        }
+    }
+    names.sort();
+    return names.join(' ').toStdString();
 }
 
-std::vector<std::string> ViewsTest::messages(const std::string& fileName)
+std::vector<std::string> ViewsTest::log(const std::string& fileName)
 {
-    std::vector<std::string> found;
-    for (const LoggedLine& line : lines(fileName)) {
-        found.push_back(line.message);
+    const std::lock_guard lock(m_mutex);
+    return m_log[fileName];
+}
+
+std::vector<std::string> ViewsTest::unnumberedLog(const std::string& fileName)
+{
+    std::vector<std::string> lines = log(fileName);
+    for (std::string& line : lines) {
+        line.erase(0, line.find(' ') + 1);
     }
-    return found;
+    return lines;
 }
 
 std::vector<std::string> ViewsTest::takeNotifications()
@@ -166,13 +186,3 @@ std::vector<std::string> ViewsTest::takeNotifications()
 }
 
 } // namespace lodestar::testing
-
-int main(int argc, char** argv)
-{
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
-    const QGuiApplication application(argc, argv);
-    ::testing::InitGoogleTest(&argc, argv);
-    return RUN_ALL_TESTS();
-}

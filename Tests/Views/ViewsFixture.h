@@ -20,16 +20,6 @@
 namespace lodestar::testing
 {
 
-/// One logged line, kept.
-struct LoggedLine {
-    int level;
-    int tag;
-    int line;
-    std::string fileName;
-    std::string method;
-    std::string message;
-};
-
 /// The process is in that time zone while this lives.
 class InZone
 {
@@ -72,14 +62,18 @@ protected:
     static XMLElement parse(const std::string& xml);
     static std::shared_ptr<const FeedDictionary> feeds(const std::map<std::string, Feed>& byType);
 
-    std::vector<LoggedLine> lines(const std::string& fileName);
-    std::vector<std::string> messages(const std::string& fileName);
+    /// The names of the screen's outlets that are seen, sorted; of indicators, those that run.
+    static std::string seen(const QObject& screen);
+    /// What a screen has logged, each line as "line method: message".
+    std::vector<std::string> log(const std::string& fileName);
+    /// Likewise without the lines' numbers, for screens that log where they stand.
+    std::vector<std::string> unnumberedLog(const std::string& fileName);
     std::vector<std::string> takeNotifications();
 
 private:
     const ScratchFolder m_folder;
     std::mutex m_mutex;
-    std::vector<LoggedLine> m_lines;
+    std::map<std::string, std::vector<std::string>> m_log; ///< by screen
     std::vector<std::string> m_notifications;
     std::shared_ptr<void> m_listener;
     std::vector<NotificationCenter::Observation> m_observations;

@@ -12,10 +12,7 @@ class OrnisLicenseViewController : public lodestar::RichDocumentViewController
     Q_OBJECT
 
 public:
-    OrnisLicenseViewController() : RichDocumentViewController("Ornis_License_en") {}
-
-protected:
-    void viewDidLoad() override;
+    OrnisLicenseViewController() : RichDocumentViewController("Ornis_License_en", tr("Ornis License")) {}
 };
 
 } // namespace lodestar

@@ -4,7 +4,6 @@
 #include "Kit/Core/Outlets.h"
 #include "Views/About/RichText/RichText.h"
 
-#include <QAbstractListModel>
 #include <QColor>
 
 namespace lodestar
@@ -14,9 +13,7 @@ namespace lodestar
 struct RichParagraph {
     Q_GADGET
     QML_VALUE_TYPE(richParagraph)
-    Q_PROPERTY(int alignment MEMBER alignment)
     Q_PROPERTY(double left MEMBER left)
-    Q_PROPERTY(double right MEMBER right)
     Q_PROPERTY(double before MEMBER before)
     Q_PROPERTY(double after MEMBER after)
     Q_PROPERTY(double size MEMBER size)
@@ -25,45 +22,38 @@ struct RichParagraph {
     Q_PROPERTY(QString text MEMBER text)
 
 public:
-    int alignment = 0; ///< a value of Text.horizontalAlignment
     double left = 0;
-    double right = 0;
     double before = 0;
     double after = 0;
     double size = 0; ///< size of its first characters
     QString marker{};
     double markerLeft = 0;
     QString text{}; ///< plain text for screen readers
+    QList<RichTextRun> runs{};
 };
 
-/// A view of a rich text: a list with one row per paragraph. Set from any thread, read on the main thread.
-class RichDocumentOutlet : public QAbstractListModel
+/// A view of a rich text, paragraph by paragraph. Set from any thread, read on the main thread.
+class RichDocumentOutlet : public QObject
 {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by controllers")
+    Q_PROPERTY(QList<lodestar::RichParagraph> paragraphs READ paragraphs NOTIFY paragraphsChanged)
 
 public:
-    enum Role { ParagraphRole = Qt::UserRole, IndexRole };
-
-    using QAbstractListModel::QAbstractListModel;
-
-    const RichTextDocument& document() const { return m_document; }
-    void setDocument(RichTextDocument document);
-
-    int rowCount(const QModelIndex& parent) const override;
-    QVariant data(const QModelIndex& index, int role) const override;
-    QHash<int, QByteArray> roleNames() const override;
+    const QList<RichParagraph>& paragraphs() const { return m_paragraphs; }
+    void setDocument(const std::vector<RichTextParagraph>& document);
 
     /// The markup of a paragraph for an item that draws rich text. Sizes are multiplied by `scale`; colours that could
-    /// not be read on `ground` are replaced. Empty for a row that does not exist.
-    Q_INVOKABLE QString markup(int row, double scale, const QColor& ground, const QColor& ink) const;
+    /// not be read on `ground` are replaced.
+    Q_INVOKABLE static QString markup(const lodestar::RichParagraph& paragraph, double scale, const QColor& ground,
+                                      const QColor& ink);
+
+Q_SIGNALS:
+    void paragraphsChanged();
 
 private:
-    QString runMarkup(const RichTextRun& run, double scale, const QColor& ground, const QColor& ink) const;
-    QString family(std::size_t font) const;
-
-    RichTextDocument m_document;
+    QList<RichParagraph> m_paragraphs;
 };
 
 /// The colour itself if its contrast against the ground is at least 4.5; otherwise the nearest shade that reaches 4.5,

@@ -11,33 +11,31 @@ ReadingPage {
 
     readonly property RichDocumentViewController screen: controller as RichDocumentViewController
 
-    model: screen.webview
+    model: screen.webview.paragraphs
     delegate: Item {
         id: row
 
-        required property richParagraph paragraph
-        required property int place
+        required property richParagraph modelData
         readonly property real scaled: Theme.textScale
-        // Indents shrink where the text is large for the width.
-        readonly property real start: Math.min(paragraph.left * scaled, scene.textWidth / 4)
-        readonly property real end: Math.min(paragraph.right * scaled, scene.textWidth / 4)
+        // The indent shrinks where the text is large for the width.
+        readonly property real start: Math.min(modelData.left * scaled, scene.textWidth / 4)
 
         width: ListView.view?.width ?? 0
-        height: Math.ceil(body.y + body.height + paragraph.after * scaled)
+        height: Math.ceil(body.y + body.height + modelData.after * scaled)
         Accessible.role: Accessible.StaticText
-        Accessible.name: paragraph.marker === "" ? paragraph.text : paragraph.marker + " " + paragraph.text
+        Accessible.name: modelData.marker === "" ? modelData.text : modelData.marker + " " + modelData.text
 
         Text {
             id: marker
 
             visible: text !== ""
-            text: row.paragraph.marker
+            text: row.modelData.marker
             textFormat: Text.PlainText
             font.family: Theme.family
-            font.pixelSize: Math.round(row.paragraph.size * row.scaled)
+            font.pixelSize: Math.round(row.modelData.size * row.scaled)
             color: Theme.ink
             LayoutMirroring.enabled: false
-            x: scene.textStart + Math.min(row.paragraph.markerLeft * row.scaled, row.start)
+            x: scene.textStart + Math.min(row.modelData.markerLeft * row.scaled, row.start)
             y: body.y
             lineHeight: 1.2
             Accessible.ignored: true
@@ -46,19 +44,19 @@ ReadingPage {
             id: body
 
             // A blank gives an empty line the height of a written one.
-            text: row.paragraph.text === "" ? "&nbsp;"
-                                            : scene.screen.webview.markup(row.place, row.scaled, Theme.card, Theme.ink)
+            text: row.modelData.text === "" ? "&nbsp;"
+                                            : scene.screen.webview.markup(row.modelData, row.scaled, Theme.card, Theme.ink)
             textFormat: Text.RichText
             font.family: Theme.family
-            font.pixelSize: Math.round(row.paragraph.size * row.scaled)
+            font.pixelSize: Math.round(row.modelData.size * row.scaled)
             color: Theme.ink
             wrapMode: Text.Wrap
             lineHeight: 1.2
-            horizontalAlignment: row.paragraph.alignment
+            horizontalAlignment: Text.AlignLeft
             LayoutMirroring.enabled: false
             x: scene.textStart + row.start
-            y: row.paragraph.before * row.scaled
-            width: scene.textWidth - row.start - row.end
+            y: row.modelData.before * row.scaled
+            width: scene.textWidth - row.start
             Accessible.ignored: true
         }
     }

@@ -12,7 +12,7 @@ void RichDocumentViewController::setupWebView()
     // The text may be megabytes, so the main thread must not read it.
     DispatchQueue::globalBackground().async([screen = self<RichDocumentViewController>()] {
         const auto bytes = Resources::main().contents(screen->m_resource, "rtf");
-        screen->webview()->setDocument(bytes ? readRichText(*bytes) : RichTextDocument());
+        screen->webview()->setDocument(readRichText(bytes.value_or("")));
     });
 }
 

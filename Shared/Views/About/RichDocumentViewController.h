@@ -23,8 +23,12 @@ public:
     void setupWebView();
 
 protected:
-    /// `resource` is the resource's name without the extension "rtf".
-    explicit RichDocumentViewController(std::string resource) : m_resource(std::move(resource)) {}
+    /// `resource` is the resource's name without the extension "rtf"; `title` must be translated already.
+    RichDocumentViewController(std::string resource, const QString& title) : m_resource(std::move(resource))
+    {
+        setTitle(title);
+    }
+    void viewDidLoad() override { setupWebView(); }
 
 private:
     std::string m_resource;

@@ -12,10 +12,7 @@ class VersionViewController : public lodestar::RichDocumentViewController
     Q_OBJECT
 
 public:
-    VersionViewController() : RichDocumentViewController("VersionChangelog") {}
-
-protected:
-    void viewDidLoad() override;
+    VersionViewController() : RichDocumentViewController("VersionChangelog", tr("Release Notes")) {}
 };
 
 } // namespace lodestar

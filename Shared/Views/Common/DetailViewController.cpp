@@ -33,8 +33,8 @@ QString DetailViewController::row(const QString& label, const std::optional<std:
 
 DetailSection DetailViewController::modelAndSerial(const MachineIdentity& machine) const
 {
-    return {{row(tr("Serial Number"), machine.serialNumber()), row(tr("Machine Type"), machine.machineType()),
-             row(tr("Model"), machine.model())}};
+    return {row(tr("Serial Number"), machine.serialNumber()), row(tr("Machine Type"), machine.machineType()),
+            row(tr("Model"), machine.model())};
 }
 
 void DetailViewController::setTableData(std::vector<DetailSection> sections)
@@ -51,7 +51,7 @@ int DetailViewController::numberOfSections(TableKind /*tableView*/) const
 int DetailViewController::numberOfRowsInSection(TableKind /*tableView*/, int section) const
 {
     const auto index = static_cast<std::size_t>(section);
-    return section >= 0 && index < m_tableData.size() ? static_cast<int>(m_tableData[index].data.size()) : 0;
+    return section >= 0 && index < m_tableData.size() ? static_cast<int>(m_tableData[index].size()) : 0;
 }
 
 std::optional<QString> DetailViewController::titleForHeaderInSection(TableKind /*tableView*/, int section) const
@@ -64,7 +64,7 @@ QStringList DetailViewController::piecesAt(IndexPath indexPath) const
     if (indexPath.row < 0 || indexPath.row >= numberOfRowsInSection(TableKind::Main, indexPath.section)) {
         return {};
     }
-    return m_tableData[static_cast<std::size_t>(indexPath.section)].data.at(indexPath.row).split(m_separator);
+    return m_tableData[static_cast<std::size_t>(indexPath.section)].at(indexPath.row).split(m_separator);
 }
 
 QString DetailViewController::valueAt(IndexPath indexPath) const

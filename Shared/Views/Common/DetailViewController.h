@@ -4,7 +4,6 @@
 #include "Inventory/Record.h"
 #include "Kit/Core/Table.h"
 #include "Kit/Core/ViewController.h"
-#include "Views/Common/DetailCell.h"
 
 #include <QStringList>
 
@@ -15,10 +14,25 @@
 namespace lodestar
 {
 
-/// A section of a detail screen: row strings of label, separator and value.
-struct DetailSection {
-    QStringList data;
+/// A fact on a detail screen: a label over its value.
+struct DetailCell {
+    Q_GADGET
+    QML_VALUE_TYPE(detailCell)
+    Q_PROPERTY(QString textLabel MEMBER textLabel)
+    Q_PROPERTY(QString detailTextLabel MEMBER detailTextLabel)
+    Q_PROPERTY(bool disclosure MEMBER disclosure)
+
+public:
+    QString textLabel;
+    QString detailTextLabel;
+    /// Whether the row leads on: it then takes a press and shows a chevron.
+    bool disclosure = false;
+
+    friend bool operator==(const DetailCell&, const DetailCell&) = default;
 };
+
+/// A section of a detail screen: row strings of label, separator and value.
+using DetailSection = QStringList;
 
 /// A screen of facts: sections of row strings, each drawn as a label over its value. A row cannot be pressed unless
 /// `leadsOn` says so. A subclass calls `setTableData` and, if its sections have titles, overrides

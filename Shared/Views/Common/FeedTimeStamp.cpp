@@ -16,18 +16,20 @@ struct MediumDate {
     const char16_t* pattern;
 };
 
-// A table, because Qt has only long, short and narrow date formats.
-constexpr std::array<MediumDate, 21> mediumDates = {{
-    {QLocale::Arabic, u"d MMM yyyy"},         {QLocale::Chinese, u"yyyy年M月d日"},
-    {QLocale::Czech, u"d. M. yyyy"},          {QLocale::Danish, u"d. MMM yyyy"},
-    {QLocale::Dutch, u"d MMM yyyy"},          {QLocale::Finnish, u"d.M.yyyy"},
-    {QLocale::French, u"d MMM yyyy"},         {QLocale::German, u"dd.MM.yyyy"},
-    {QLocale::Hebrew, u"d MMM yyyy"},         {QLocale::Hungarian, u"yyyy. MMM d."},
-    {QLocale::Italian, u"d MMM yyyy"},        {QLocale::Japanese, u"yyyy/MM/dd"},
-    {QLocale::Korean, u"yyyy. M. d."},        {QLocale::NorwegianBokmal, u"d. MMM yyyy"},
-    {QLocale::Polish, u"d MMM yyyy"},         {QLocale::Portuguese, u"d 'de' MMM 'de' yyyy"},
-    {QLocale::Russian, u"d MMM yyyy 'г'."},   {QLocale::Spanish, u"d MMM yyyy"},
-    {QLocale::Swedish, u"d MMM yyyy"},        {QLocale::Turkish, u"d MMM yyyy"},
+// A table, because Qt has only long, short and narrow date formats. A language that is not listed has
+// the pattern of British English.
+constexpr std::array<MediumDate, 12> mediumDates = {{
+    {QLocale::Chinese, u"yyyy年M月d日"},
+    {QLocale::Czech, u"d. M. yyyy"},
+    {QLocale::Danish, u"d. MMM yyyy"},
+    {QLocale::Finnish, u"d.M.yyyy"},
+    {QLocale::German, u"dd.MM.yyyy"},
+    {QLocale::Hungarian, u"yyyy. MMM d."},
+    {QLocale::Japanese, u"yyyy/MM/dd"},
+    {QLocale::Korean, u"yyyy. M. d."},
+    {QLocale::NorwegianBokmal, u"d. MMM yyyy"},
+    {QLocale::Portuguese, u"d 'de' MMM 'de' yyyy"},
+    {QLocale::Russian, u"d MMM yyyy 'г'."},
     {QLocale::Ukrainian, u"d MMM yyyy 'р'."},
 }};
 

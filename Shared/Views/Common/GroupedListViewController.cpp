@@ -5,7 +5,6 @@
 #include "Inventory/Partition.h"
 #include "Platform/Queues/MainSteps.h"
 
-#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -16,12 +15,6 @@ namespace
 
 constexpr auto seperate = "seperatePartitionsBySystemFromXML:";
 
-const std::vector<XMLElement>& noGroup()
-{
-    static const std::vector<XMLElement> none;
-    return none;
-}
-
 std::string nameOf(const XMLElement& partition)
 {
     return Partition(partition).name().value_or("");
@@ -30,7 +23,7 @@ std::string nameOf(const XMLElement& partition)
 } // namespace
 
 GroupedListViewController::GroupedListViewController(const GroupedListTraits& traits)
-    : FeedListViewController(traits.list), m_grouping(traits), m_partitions(nameOf)
+    : FeedListViewController(traits.list), m_grouping(traits), m_partitions(nameOf), m_filteredPartitions(nameOf)
 {
 }
 
@@ -123,28 +116,19 @@ void GroupedListViewController::filterContentForSearchText(const QString& search
 
 const std::vector<XMLElement>& GroupedListViewController::groupAt(TableKind tableView, int section) const
 {
-    const auto index = static_cast<std::size_t>(section);
-    if (section < 0 || tableView != TableKind::SearchResults) {
-        return section < 0 ? noGroup() : m_partitions.elementsAt(index);
-    }
-    return index < m_filteredPartitions.size() ? m_filteredPartitions[index].elements : noGroup();
+    return groupsOf(tableView).elementsAt(static_cast<std::size_t>(section));
 }
 
 const std::vector<XMLElement>& GroupedListViewController::groupNamed(TableKind tableView,
                                                                      const std::string& system) const
 {
-    if (tableView != TableKind::SearchResults) {
-        const auto group = m_partitions.groupOf(system);
-        return group ? m_partitions.elementsAt(*group) : noGroup();
-    }
-    const auto group = std::ranges::find(m_filteredPartitions, system, &ElementGroup::system);
-    return group != m_filteredPartitions.end() ? group->elements : noGroup();
+    const GroupedFeed& groups = groupsOf(tableView);
+    return groups.elementsAt(groups.groupOf(system).value_or(groups.groupCount()));
 }
 
 int GroupedListViewController::numberOfSections(TableKind tableView) const
 {
-    return static_cast<int>(tableView == TableKind::SearchResults ? m_filteredPartitions.size()
-                                                                  : m_partitions.groupCount());
+    return static_cast<int>(groupsOf(tableView).groupCount());
 }
 
 int GroupedListViewController::numberOfRowsInSection(TableKind tableView, int section) const

@@ -49,7 +49,7 @@ public:
 
     const GroupedFeed& partitions() const { return m_partitions; }
     /// The search results by system; systems without a match are left out.
-    const std::vector<ElementGroup>& filteredPartitions() const { return m_filteredPartitions; }
+    const GroupedFeed& filteredPartitions() const { return m_filteredPartitions; }
 
     void filterContentForSearchText(const QString& searchText, const QString& scope) override;
 
@@ -79,6 +79,10 @@ protected:
 
 private:
     struct LookUps;
+    const GroupedFeed& groupsOf(TableKind tableView) const
+    {
+        return tableView == TableKind::SearchResults ? m_filteredPartitions : m_partitions;
+    }
     /// Looks up the system of the next entry. False when no entry is left or the result is no longer wanted.
     bool lookUpNext(LookUps& lookUps) const;
     RXPromise<std::string> group(const std::shared_ptr<const LookUps>& lookUps, const RXPromise<std::string>& shown);
@@ -86,7 +90,7 @@ private:
 
     const GroupedListTraits& m_grouping;
     GroupedFeed m_partitions;
-    std::vector<ElementGroup> m_filteredPartitions;
+    GroupedFeed m_filteredPartitions;
 };
 
 } // namespace lodestar

@@ -15,11 +15,11 @@ constexpr double separatorRight = 15;
 MenuTableViewController::MenuTableViewController() : m_tableView(*this, TableKind::Main)
 {
     m_tableView.setRowHeight(rowHeight);
+    m_tableView.setSeparatorInset(separatorLeft, separatorRight);
 }
 
 void MenuTableViewController::viewDidLoad()
 {
-    m_tableView.setSeparatorInset(separatorLeft, separatorRight);
     reload();
 }
 

@@ -27,15 +27,15 @@ Role::State roleOf(Health health)
 
 PartitionCell::PartitionCell(const Partition& partition, const QString& match)
 {
-    m_nameLabel.text = textOf(partition.name());
-    m_nameLabel.match = match;
-    m_stateLabel.text = textOf(partition.state());
-    m_stateLabel.state = roleOf(partition.health());
+    nameLabel.text = textOf(partition.name());
+    nameLabel.match = match;
+    stateLabel.text = textOf(partition.state());
+    stateLabel.state = roleOf(partition.health());
 }
 
 QString PartitionCell::accessibleText() const
 {
-    return spoken({m_nameLabel.text, m_typeLabel.text, m_stateLabel.text, m_referenceCodeLabel.text});
+    return spoken({nameLabel.text, typeLabel.text, stateLabel.text, referenceCodeLabel.text});
 }
 
 } // namespace lodestar

@@ -26,8 +26,8 @@ void PartitionDetailViewController::viewDidLoad()
 void PartitionDetailViewController::populatePartitionDetails()
 {
     const Partition partition(rootXML());
-    setTableData({{{row(tr("Name"), partition.name()), row(tr("ID"), partition.identifier()),
-                    row(tr("Type"), partition.kind())}}});
+    setTableData({DetailSection{row(tr("Name"), partition.name()), row(tr("ID"), partition.identifier()),
+                                row(tr("Type"), partition.kind())}});
 }
 
 } // namespace lodestar

@@ -3,6 +3,7 @@
 
 #include "Application/Model/Corvel.h"
 #include "Inventory/ConsoleInformation.h"
+#include "Views/Common/CellText.h"
 
 #include <optional>
 #include <string>
@@ -14,11 +15,6 @@ namespace
 
 /// The version text of a console whose version feed was empty.
 constexpr auto versionOfNothing = "V(null)R(null).(null).(null).(null)";
-
-QString text(const std::optional<std::string>& value)
-{
-    return value ? QString::fromStdString(*value) : QString();
-}
 
 QString versionText(const std::optional<std::string>& version)
 {
@@ -39,67 +35,57 @@ QString eventsText(const Corvel& corvel)
 
 CorvelListCell::CorvelListCell()
 {
-    m_selectionArrow.imageName = QStringLiteral("chevron");
+    selectionArrow.imageName = QStringLiteral("chevron");
     startAnimating();
 }
 
-void CorvelListCell::startAnimating()
+void CorvelListCell::setAnimating(bool animating)
 {
-    m_selectionArrow.hidden = true;
-    m_statusLabel.hidden = m_attentionLabel.hidden = m_eventsLabel.hidden = true;
-    m_statusActivityIndicator.animating = true;
-    m_attentionActivityIndicator.animating = true;
-    m_eventsActivityIndicator.animating = true;
-}
-
-void CorvelListCell::stopAnimating()
-{
-    m_statusActivityIndicator.animating = false;
-    m_attentionActivityIndicator.animating = false;
-    m_eventsActivityIndicator.animating = false;
-    m_selectionArrow.hidden = false;
-    m_statusLabel.hidden = m_attentionLabel.hidden = m_eventsLabel.hidden = false;
+    for (CellIndicator* indicator : {&statusActivityIndicator, &attentionActivityIndicator, &eventsActivityIndicator}) {
+        indicator->animating = animating;
+    }
+    statusLabel.hidden = attentionLabel.hidden = eventsLabel.hidden = selectionArrow.hidden = animating;
 }
 
 void CorvelListCell::configure(const Corvel& corvel)
 {
     startAnimating();
-    m_highlights = false;
-    m_versionLabel.text = versionText(corvel.version());
-    m_addressLabel.text = text(corvel.address());
-    m_nameLabel.text = text(corvel.name());
+    highlights = false;
+    versionLabel.text = versionText(corvel.version());
+    addressLabel.text = textOf(corvel.address());
+    nameLabel.text = textOf(corvel.name());
     if (corvel.completedFetch) {
         stopAnimating();
-        m_highlights = true;
+        highlights = true;
     }
     switch (healthOf(corvel)) {
     case Health::Offline:
-        m_statusLabel.text = tr("Offline");
-        m_statusLabel.state = Role::State::Offline;
-        m_highlights = false;
-        m_selectionArrow.hidden = true;
+        statusLabel.text = tr("Offline");
+        statusLabel.state = Role::State::Offline;
+        highlights = false;
+        selectionArrow.hidden = true;
         break;
     case Health::Error:
-        m_statusLabel.text = tr("Error");
-        m_statusLabel.state = Role::State::Error;
+        statusLabel.text = tr("Error");
+        statusLabel.state = Role::State::Error;
         break;
     default:
-        m_statusLabel.text = tr("Good");
-        m_statusLabel.state = Role::State::Good;
+        statusLabel.text = tr("Good");
+        statusLabel.state = Role::State::Good;
     }
-    m_attentionLabel.text = QString::number(corvel.numMSLEDs);
-    m_eventsLabel.text = eventsText(corvel);
+    attentionLabel.text = QString::number(corvel.numMSLEDs);
+    eventsLabel.text = eventsText(corvel);
 }
 
 QString CorvelListCell::accessibleText() const
 {
-    if (m_statusActivityIndicator.animating) {
+    if (statusActivityIndicator.animating) {
         //: A console in the list, read aloud while it is being fetched: %1 its name
-        return tr("%1, updating").arg(m_nameLabel.text);
+        return tr("%1, updating").arg(nameLabel.text);
     }
     //: A console in the list, read aloud: %1 name, %2 status word, %3 and %4 counts
     return tr("%1, %2, attention %3, events %4")
-        .arg(m_nameLabel.text, m_statusLabel.text, m_attentionLabel.text, m_eventsLabel.text);
+        .arg(nameLabel.text, statusLabel.text, attentionLabel.text, eventsLabel.text);
 }
 
 } // namespace lodestar

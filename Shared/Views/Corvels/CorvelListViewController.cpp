@@ -41,13 +41,8 @@ CorvelListViewController::IntroPresenter& introPresenter()
 
 QList<SwipeButton> makeRightButtons()
 {
-    SwipeButton remove;
-    remove.title = CorvelListViewController::tr("Delete");
-    remove.role = Role::Button::Destructive;
-    SwipeButton edit;
-    edit.title = CorvelListViewController::tr("Edit");
-    edit.role = Role::Button::Quiet;
-    return {remove, edit};
+    return {{CorvelListViewController::tr("Delete"), Role::Button::Destructive},
+            {CorvelListViewController::tr("Edit"), Role::Button::Quiet}};
 }
 
 } // namespace
@@ -187,7 +182,7 @@ QVariant CorvelListViewController::cellForRowAtIndexPath(TableKind /*tableView*/
     }
     CorvelListCell cell;
     cell.configure(*corvel);
-    cell.setRightButtons(makeRightButtons());
+    cell.rightButtons = makeRightButtons();
     return QVariant::fromValue(cell);
 }
 
@@ -201,37 +196,17 @@ void CorvelListViewController::didSelectRowAtIndexPath(TableKind /*tableView*/, 
     m_tableView.deselectRow(indexPath);
 }
 
-bool CorvelListViewController::tappedButtonAtIndex(int row, int index, SwipeDirection /*direction*/,
-                                                   FromExpansion /*fromExpansion*/)
-{
-    if (!corvelAtRow(row)) {
-        return true;
-    }
-    if (index == deleteButton) {
-        deleteCorvelAtIndex(static_cast<std::size_t>(row));
-    } else if (index == editButton) {
-        editCorvelAtIndex(static_cast<std::size_t>(row));
-    }
-    return true;
-}
-
 bool CorvelListViewController::swipeTableCell(int row, int tappedButtonAtIndex)
 {
-    return this->tappedButtonAtIndex(row, tappedButtonAtIndex, SwipeDirection::RightToLeft, FromExpansion::No);
-}
-
-void CorvelListViewController::deleteCorvelAtIndex(std::size_t index)
-{
-    lodestar::deleteCorvelAtIndex(index);
-    m_tableView.deleteRow({0, static_cast<int>(index)}, RowAnimation::Left);
-    if (RESTHandler::sharedInstance().corvelList().empty()) {
-        m_tableView.setHidden(true);
+    const CorvelRef corvel = corvelAtRow(row);
+    if (corvel && tappedButtonAtIndex == deleteButton) {
+        deleteCorvelAtIndex(static_cast<std::size_t>(row));
+        m_tableView.deleteRow({0, row}, RowAnimation::Left);
+        m_tableView.setHidden(RESTHandler::sharedInstance().corvelList().empty());
+    } else if (corvel && tappedButtonAtIndex == editButton) {
+        presentEditor({.corvel = corvel, .parentList = {}});
     }
-}
-
-void CorvelListViewController::editCorvelAtIndex(std::size_t index)
-{
-    presentEditor({.corvel = RESTHandler::sharedInstance().corvelList()[index], .parentList = {}});
+    return true;
 }
 
 void CorvelListViewController::addCorvel()

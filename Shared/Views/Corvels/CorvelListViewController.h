@@ -29,9 +29,6 @@ class CorvelListViewController : public lodestar::SheetHostController, public Ta
     Q_PROPERTY(bool feedbackHidden READ isFeedbackHidden NOTIFY feedbackHiddenChanged)
 
 public:
-    enum class FromExpansion { No, Yes };
-    enum class SwipeDirection { LeftToRight, RightToLeft };
-
     /// Shows the intro tour over a screen and calls the list's `introDidFinish` at its end.
     using IntroPresenter = std::function<void(ViewController& over, std::weak_ptr<CorvelListViewController> delegate)>;
     /// Sets the presenter of the tour; without one, no tour is shown. Main thread, before the first list loads.
@@ -63,9 +60,8 @@ public:
     int numberOfRowsInSection(TableKind tableView, int section) const override;
     QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
     void didSelectRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
-    /// Handles a button of a swiped row. Returns true always, so that the row closes.
-    bool tappedButtonAtIndex(int row, int index, SwipeDirection direction, FromExpansion fromExpansion);
-    /// Handles a button on the right that was tapped or chosen by key.
+    /// Handles a swiped row's button on the right that was tapped or chosen by key. Returns true always, so that the
+    /// row closes.
     Q_INVOKABLE bool swipeTableCell(int row, int tappedButtonAtIndex);
 
     void hideModalView();
@@ -86,8 +82,6 @@ private:
     void refreshCorvel(const CorvelRef& corvel);
     void didRefreshCorvel(const CorvelRef& corvel);
     void didFailToRefreshCorvel(const CorvelRef& corvel, const Error& error);
-    void deleteCorvelAtIndex(std::size_t index);
-    void editCorvelAtIndex(std::size_t index);
     void presentEditor(EditorInput input);
 
     TableOutlet m_tableView;

@@ -6,6 +6,7 @@
 #include "Kit/Core/ErrorText.h"
 #include "Platform/NotificationCenter.h"
 #include "Platform/Queues/MainQueue.h"
+#include "Views/Common/CellText.h"
 
 #include <chrono>
 
@@ -16,11 +17,6 @@ namespace
 
 constexpr auto fileName = "Shared/Views/Corvels/DeltaCorvelViewController";
 constexpr std::chrono::seconds statusTime{2};
-
-QString text(const std::optional<std::string>& value)
-{
-    return value ? QString::fromStdString(*value) : QString();
-}
 
 } // namespace
 
@@ -34,10 +30,10 @@ void DeltaCorvelViewController::viewDidLoad()
     LODESTAR_LOG(fileName, "-[DeltaCorvelViewController viewDidLoad]", "DeltaCorvelViewController instantiation");
     if (m_corvel) {
         setTitle(tr("Edit Corvel"));
-        m_nameField.setText(text(m_corvel->name()));
-        m_addressField.setText(text(m_corvel->address()));
-        m_usernameField.setText(text(m_corvel->username()));
-        m_passwordField.setText(text(m_corvel->password()));
+        m_nameField.setText(textOf(m_corvel->name()));
+        m_addressField.setText(textOf(m_corvel->address()));
+        m_usernameField.setText(textOf(m_corvel->username()));
+        m_passwordField.setText(textOf(m_corvel->password()));
     } else {
         m_hasCreated = false;
         m_creatingInstance = true;

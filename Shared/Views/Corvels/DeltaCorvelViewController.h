@@ -29,7 +29,6 @@ class DeltaCorvelViewController : public lodestar::ViewController
     Q_PROPERTY(bool busy READ isBusy NOTIFY busyChanged)
     Q_PROPERTY(double separatorLeft READ separatorLeft CONSTANT)
     Q_PROPERTY(double separatorRight READ separatorRight CONSTANT)
-    Q_PROPERTY(double tableHeaderHeight READ tableHeaderHeight CONSTANT)
 
 public:
     DeltaCorvelViewController();
@@ -54,8 +53,6 @@ public:
     bool isBusy() const { return m_busy; }
     double separatorLeft() const { return 10; }
     double separatorRight() const { return 15; }
-    /// Almost 0, because 0 would bring back the gap above a grouped table.
-    double tableHeaderHeight() const { return 0.01; }
 
     /// Takes the keyboard focus from the field. Returns true always.
     Q_INVOKABLE bool textFieldShouldReturn(lodestar::FieldOutlet* textField);

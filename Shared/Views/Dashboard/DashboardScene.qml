@@ -173,48 +173,35 @@ PageScaffold {
             text: qsTr("Corvel Overview")
             space: 4
         }
-        Rectangle {
+        FigureCard {
             id: figures
 
-            readonly property real topPadding: scene.compact ? 16 : 24
-            readonly property bool stacked: Theme.stacked
-            readonly property real column: stacked ? width : width / 3
+            topPadding: scene.compact ? 16 : 24
+            rowSpacing: 24
+            columnSpacing: 12
+            ruleInset: 4
+            ruled: !scene.dashboard.corvelOnlineCount.hidden
 
-            width: parent.width
-            implicitHeight: figureGrid.height + 2 * topPadding - 2
-            radius: Theme.cardRadius
-            color: Theme.card
-
-            Grid {
-                id: figureGrid
-
-                y: figures.topPadding
-                columns: figures.stacked ? 1 : 3
-                rowSpacing: 24
-                leftPadding: 6
-                rightPadding: 6
-                columnSpacing: 12
-
-                Figure {
-                    count: scene.dashboard.corvelOnlineCount
-                    status: scene.dashboard.corvelOnlineStatus
-                    caption: qsTr("Corvels Online")
-                    width: figures.column - 12
-                }
-                Figure {
-                    count: scene.dashboard.attentionLEDCount
-                    status: scene.dashboard.attentionLEDStatus
-                    caption: qsTr("Attention LEDs")
-                    width: figures.column - 12
-                }
-                Figure {
-                    count: scene.dashboard.totalEventsCount
-                    status: scene.dashboard.totalEventsStatus
-                    caption: qsTr("Serviceable Events")
-                    width: figures.column - 12
-                }
+            Figure {
+                count: scene.dashboard.corvelOnlineCount
+                status: scene.dashboard.corvelOnlineStatus
+                caption: qsTr("Corvels Online")
+                width: figures.figureWidth
+            }
+            Figure {
+                count: scene.dashboard.attentionLEDCount
+                status: scene.dashboard.attentionLEDStatus
+                caption: qsTr("Attention LEDs")
+                width: figures.figureWidth
+            }
+            Figure {
+                count: scene.dashboard.totalEventsCount
+                status: scene.dashboard.totalEventsStatus
+                caption: qsTr("Serviceable Events")
+                width: figures.figureWidth
             }
             OutletLabel {
+                parent: figures
                 outlet: scene.dashboard.waitingLabel
                 size: Theme.stateSize
                 color: Theme.ink2
@@ -222,28 +209,6 @@ PageScaffold {
                 width: parent.width - 40
                 horizontalAlignment: Text.AlignHCenter
                 wrapMode: Text.Wrap
-            }
-            FigureRule {
-                place: 1
-            }
-            FigureRule {
-                place: 2
-            }
-
-            component FigureRule: Rectangle {
-                /// Number of figures before this rule.
-                required property int place
-
-                readonly property real thickness: 1 / Screen.devicePixelRatio
-                readonly property real step: (figureGrid.height + figureGrid.rowSpacing) / 3
-
-                visible: !scene.dashboard.corvelOnlineCount.hidden
-                color: Theme.hairline
-                x: !figures.stacked ? Math.round(place * figures.column) : Theme.mirrored ? 15 : 10
-                y: figures.stacked ? Math.round(figureGrid.y + place * step - figureGrid.rowSpacing / 2)
-                                   : figureGrid.y + 4
-                width: figures.stacked ? figures.width - 25 : thickness
-                height: figures.stacked ? thickness : figureGrid.height - 8
             }
         }
         Grid {

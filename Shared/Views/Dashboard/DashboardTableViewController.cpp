@@ -2,7 +2,6 @@
 #include "Views/Dashboard/DashboardTableViewController.h"
 
 #include "Controllers/REST/RESTHandler.h"
-#include "Feedback/VireoLogger.h"
 #include "Inventory/Feed.h"
 #include "Inventory/Totals.h"
 #include "Kit/Core/NavigationController.h"
@@ -10,6 +9,7 @@
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/Queues/OwnThread.h"
+#include "Views/Common/ScreenLog.h"
 #include "Views/Corvels/CorvelListViewController.h"
 
 #include <algorithm>
@@ -22,7 +22,7 @@ namespace lodestar
 namespace
 {
 
-constexpr auto fileName = "Shared/Views/Dashboard/DashboardTableViewController";
+constexpr ScreenLog screenLog("Shared/Views/Dashboard/DashboardTableViewController");
 
 constexpr int managedSystemsRow = 2;
 constexpr int partitionsRow = 5;
@@ -35,21 +35,13 @@ constexpr double animationTime = 1.5;
 /// A wait that ends sooner shows no text.
 constexpr std::chrono::milliseconds waitingInterval{1500};
 
-// The line number is part of the message: it names the missing feed in the log, so it stays the same even when this
-// file's lines move.
-void logMissing(int line, std::string_view message)
-{
-    VireoLogger::logWithLevel(2, 0, line, fileName, "-[DashboardTableViewController createDashboard]",
-                              callStackReturnAddresses(), "{}", message);
-}
-
 /// Adds the three feeds of one console. A missing feed does not prevent the others from being counted.
 void addCorvel(Totals& totals, const Corvel& corvel)
 {
     const auto feed = [&corvel](std::string_view type, int line, std::string_view missing) {
         Feed found = feedOfType(corvel, type);
         if (found.isNA()) {
-            logMissing(line, missing);
+            screenLog.write(line, "createDashboard", missing);
         }
         return found;
     };
@@ -62,19 +54,16 @@ void addCorvel(Totals& totals, const Corvel& corvel)
         feed(ObjectType::ServiceableEvent, 154, "Serviceable data isn't available for this Corvel, was it loaded?"));
 }
 
-const QList<QColor>& managedSystemColors()
+QList<QColor> managedSystemColors()
 {
-    static const QList<QColor> colors = {UIColor::dashboardBlue(), UIColor::dashboardRed(), UIColor::dashboardGreen(),
-                                         UIColor::dashboardGrey(), UIColor::dashboardYellow()};
-    return colors;
+    return {UIColor::dashboardBlue(), UIColor::dashboardRed(), UIColor::dashboardGreen(), UIColor::dashboardGrey(),
+            UIColor::dashboardYellow()};
 }
 
-const QList<QColor>& partitionColors()
+QList<QColor> partitionColors()
 {
-    static const QList<QColor> colors = {UIColor::dashboardYellow(), UIColor::dashboardGreen(),
-                                         UIColor::dashboardBlue(), UIColor::dashboardGrey(),
-                                         UIColor::dashboardOrange()};
-    return colors;
+    return {UIColor::dashboardYellow(), UIColor::dashboardGreen(), UIColor::dashboardBlue(), UIColor::dashboardGrey(),
+            UIColor::dashboardOrange()};
 }
 
 /// Shows the plain count without a sign; a fractional count would have one digit.
@@ -321,12 +310,5 @@ double DashboardTableViewController::chartRowHeight() const
 {
     return m_viewWidth / (m_tabletIdiom ? tabletRatio : phoneRatio);
 }
-
-void DashboardTableViewController::chartValueSelected(ChartView& /*chartView*/, const ChartEntry& /*entry*/,
-                                                      int /*dataSetIndex*/, const Highlight& /*highlight*/)
-{
-}
-
-void DashboardTableViewController::chartValueNothingSelected(ChartView& /*chartView*/) {}
 
 } // namespace lodestar

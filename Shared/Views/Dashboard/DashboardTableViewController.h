@@ -14,8 +14,9 @@ namespace lodestar
 {
 
 /// The dashboard: how many consoles are online, how many attention LEDs are lit, how many events there are, and two
-/// pies of states. The dashboard fetches nothing. Each time it appears, it waits until every console of the working
-/// list has been fetched and then shows what the records contain. Main thread, except for the wait.
+/// pies of states, in which tapping a slice only makes it stand out. The dashboard fetches nothing. Each time it
+/// appears, it waits until every console of the working list has been fetched and then shows what the records contain.
+/// Main thread, except for the wait.
 class DashboardTableViewController : public lodestar::ViewController, public ChartViewDelegate
 {
     Q_OBJECT
@@ -77,11 +78,6 @@ public:
     /// Nothing for a row whose height the scene decides.
     std::optional<double> heightForRowAtIndexPath(IndexPath indexPath) const;
     double chartRowHeight() const;
-
-    /// Both functions do nothing: tapping a slice only makes it stand out.
-    void chartValueSelected(ChartView& chartView, const ChartEntry& entry, int dataSetIndex,
-                            const Highlight& highlight) override;
-    void chartValueNothingSelected(ChartView& chartView) override;
 
 Q_SIGNALS:
     void viewSizeChanged();

@@ -5,40 +5,43 @@ import QtQuick
 import Lodestar.Kit
 import Lodestar.Views
 
-/// A managed system's menu, with two gauges above it.
+/// A managed system's menu, with two gauges above it. The gauges are decoration: their figures are fixed and tell
+/// nothing of the system. That the two overlap is meant.
 MenuScene {
     id: scene
 
-    readonly property MSOverViewController system: controller as MSOverViewController
-
     topSpace: 162
 
-    Item {
-        id: ornament
+    component Ornament: CircleGauge {
+        /// Points from the start of the cards.
+        required property real start
 
-        // The gauges' frames are meant for a phone; on wide pages, they keep their place relative to the cards.
+        x: Theme.mirrored ? ornaments.width - start - width : start
+        y: 28
+        total: 100
+        clockwise: false
+        trackColor: "transparent"
+        Accessible.ignored: true
+    }
+
+    Item {
+        id: ornaments
+
+        // The gauges' places are meant for a phone; on wide pages, they keep their place relative to the cards.
         x: Theme.sideMargin(scene.width, Theme.measure) - Theme.cardMargin(0)
         y: -scene.scrolledBy
         width: scene.width - 2 * x
         height: scene.topSpace
 
-        Repeater {
-            model: scene.system.gauges
-
-            CircleGauge {
-                required property gaugeFigure modelData
-
-                x: Theme.mirrored ? ornament.width - modelData.frame.x - width : modelData.frame.x
-                y: modelData.frame.y
-                width: modelData.frame.width
-                height: modelData.frame.height
-                total: modelData.total
-                current: modelData.current
-                clockwise: modelData.clockwise
-                strokeColor: modelData.strokeColor
-                trackColor: "transparent"
-                Accessible.ignored: true
-            }
+        Ornament {
+            start: 15
+            current: 90
+            strokeColor: Qt.rgba(245 / 255, 94 / 255, 78 / 255, 1)
+        }
+        Ornament {
+            start: 85
+            current: 60
+            strokeColor: Qt.rgba(77 / 255, 186 / 255, 122 / 255, 1)
         }
     }
 }

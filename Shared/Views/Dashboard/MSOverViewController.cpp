@@ -14,12 +14,6 @@ void MSOverViewController::viewDidLoad()
     setTitle(tr("Managed System"));
 }
 
-QList<GaugeFigure> MSOverViewController::gauges() const
-{
-    return {{QRectF(15, 28, 110, 110), 100, 90, false, QColor(245, 94, 78)},
-            {QRectF(85, 28, 110, 110), 100, 60, false, QColor(77, 186, 122)}};
-}
-
 MenuTableViewController::Sections MSOverViewController::makeSections() const
 {
     // The row without a scene names the system that the menu is for.

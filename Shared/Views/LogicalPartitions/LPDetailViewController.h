@@ -14,7 +14,11 @@ class LPDetailViewController : public lodestar::PartitionDetailViewController
     QML_UNCREATABLE("made by the storyboard")
 
 public:
-    LPDetailViewController();
+    LPDetailViewController()
+        : PartitionDetailViewController("Shared/Views/LogicalPartitions/LPDetailViewController",
+                                        tr("Partition Details"))
+    {
+    }
 };
 
 } // namespace lodestar

@@ -73,8 +73,8 @@ XMLElement LPListViewController::partitionAt(TableKind tableView, IndexPath inde
 
 void LPListViewController::completeCell(PartitionCell& cell, const Partition& partition) const
 {
-    cell.setType(textOf(partition.kind()));
-    cell.setReferenceCode(textOf(partition.referenceCode()));
+    cell.typeLabel.text = textOf(partition.kind());
+    cell.referenceCodeLabel.text = textOf(partition.referenceCode());
 }
 
 } // namespace lodestar

@@ -41,18 +41,18 @@ void MSDetailViewController::populateSystemDetails()
     const ManagedSystem system(rootXML());
     // The prefix is another screen's name. It must stay, because logs are searched for these lines.
     screenLog.write(47, populate, "DeltaCorvelViewController: Fetching Main Items");
-    DetailSection main{{row(tr("IP Address"), system.primaryIPAddress()), row(tr("Status"), system.state()),
-                        row(tr("Reference Code"), system.referenceCode()),
-                        row(tr("Attention LED On"), system.attentionLEDState())}};
+    DetailSection main{row(tr("IP Address"), system.primaryIPAddress()), row(tr("Status"), system.state()),
+                       row(tr("Reference Code"), system.referenceCode()),
+                       row(tr("Attention LED On"), system.attentionLEDState())};
 
     screenLog.write(58, populate, "DeltaCorvelViewController: Fetching MTSM");
     DetailSection serial = modelAndSerial(system.identity());
 
     screenLog.write(69, populate, "DeltaCorvelViewController: Fetching Processor Information");
-    DetailSection processor{{row(tr("Available Processing Units"), system.availableProcessingUnits())}};
+    DetailSection processor{row(tr("Available Processing Units"), system.availableProcessingUnits())};
 
     screenLog.write(78, populate, "DeltaCorvelViewController: Fetching Memory Information");
-    DetailSection memorySection{{row(tr("Available Memory"), shownText(system.availableMemory()) + " MB")}};
+    DetailSection memorySection{row(tr("Available Memory"), shownText(system.availableMemory()) + " MB")};
 
     setTableData({std::move(main), std::move(serial), std::move(processor), std::move(memorySection)});
 }
@@ -65,17 +65,13 @@ bool MSDetailViewController::leadsOn(IndexPath indexPath) const
 
 void MSDetailViewController::openRow(IndexPath indexPath)
 {
-    QDesktopServices::openUrl(documentationURL(valueAt(indexPath)));
+    const QByteArray code = QUrl::toPercentEncoding(valueAt(indexPath));
+    QDesktopServices::openUrl(QUrl(m_documentationBase + QString::fromLatin1(code)));
 }
 
 QString MSDetailViewController::builtDocumentationBase()
 {
     return QStringLiteral(LODESTAR_REFERENCE_CODE_ADDRESS);
-}
-
-QUrl MSDetailViewController::documentationURL(const QString& referenceCode) const
-{
-    return QUrl(m_documentationBase + QString::fromLatin1(QUrl::toPercentEncoding(referenceCode)));
 }
 
 } // namespace lodestar

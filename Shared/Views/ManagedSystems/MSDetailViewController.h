@@ -21,9 +21,6 @@ public:
 
     void populateSystemDetails();
 
-    /// The address of a reference code's documentation.
-    QUrl documentationURL(const QString& referenceCode) const;
-
 protected:
     void viewDidLoad() override;
     bool leadsOn(IndexPath indexPath) const override;

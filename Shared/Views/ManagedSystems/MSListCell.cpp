@@ -18,32 +18,23 @@ constexpr double nameLeftBesideBadge = 45;
 MSListCell::MSListCell(const ManagedSystem& system, const QString& match)
 {
     const Health health = system.health();
-    m_isError = health == Health::Error;
-    m_isLEDLit = system.isAttentionLEDLit();
-    if (m_isError || m_isLEDLit) {
-        const char* const badge = !m_isLEDLit ? "ms_stateerror" : !m_isError ? "ms_lederror" : "ms_botherror";
-        m_statusImage = {QString::fromLatin1(badge), false};
-        m_nameLeftConstraint = nameLeftBesideBadge;
+    const bool isError = health == Health::Error;
+    const bool isLEDLit = system.isAttentionLEDLit();
+    if (isError || isLEDLit) {
+        const char* const badge = !isLEDLit ? "ms_stateerror" : !isError ? "ms_lederror" : "ms_botherror";
+        statusImage = {QString::fromLatin1(badge), false};
+        nameLeftConstraint = nameLeftBesideBadge;
     }
-    m_nameLabel.text = textOf(system.name());
-    m_nameLabel.match = match;
-    m_statusLabel.text = textOf(system.state());
-    m_statusLabel.state = health == Health::Good ? Role::State::Good
-                          : m_isError            ? Role::State::BadgedError
-                                                 : Role::State::Idle;
-}
-
-QString MSListCell::accessibleText() const
-{
-    QStringList parts = {m_nameLabel.text, m_statusLabel.text};
-    if (m_isError) {
-        parts << tr("error");
-    }
-    if (m_isLEDLit) {
-        parts << tr("attention LED on");
-    }
+    nameLabel.text = textOf(system.name());
+    nameLabel.match = match;
+    statusLabel.text = textOf(system.state());
+    statusLabel.state = health == Health::Good ? Role::State::Good
+                        : isError              ? Role::State::BadgedError
+                                               : Role::State::Idle;
+    QStringList parts = {nameLabel.text, statusLabel.text, isError ? tr("error") : QString(),
+                         isLEDLit ? tr("attention LED on") : QString()};
     parts.removeDuplicates();
-    return spoken(std::move(parts));
+    accessibleText = spoken(std::move(parts));
 }
 
 } // namespace lodestar

@@ -7,7 +7,6 @@
 
 #include <QCoreApplication>
 
-#include <array>
 #include <utility>
 
 namespace lodestar
@@ -35,11 +34,6 @@ std::string nameOf(const XMLElement& system)
     return ManagedSystem(system).name().value_or("");
 }
 
-QList<SwipeButton> makeRightButtons()
-{
-    return {SwipeButton{MSListViewController::tr("System menu"), Role::Button::Standard, QStringLiteral("more")}};
-}
-
 } // namespace
 
 MSListViewController::MSListViewController() : FlatListViewController(traits, nameOf) {}
@@ -61,7 +55,7 @@ void MSListViewController::createMSList(ElementList systems)
 QVariant MSListViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)
 {
     MSListCell cell(ManagedSystem(elementAtRow(tableView, indexPath.row)), matchFor(tableView));
-    cell.setRightButtons(makeRightButtons());
+    cell.rightButtons = {{tr("System menu"), Role::Button::Standard, QStringLiteral("more")}};
     return QVariant::fromValue(cell);
 }
 
@@ -101,19 +95,13 @@ void MSListViewController::openItem(int index, const ManagedSystem& system)
     }
 }
 
-bool MSListViewController::tappedButtonAtIndex(TableKind tableView, int row, int index)
+bool MSListViewController::swipeTableCell(bool inSearchResults, int row, int tappedButtonAtIndex)
 {
-    const XMLElement system = elementAtRow(tableView, row);
-    if (index == menuButton && system) {
+    const XMLElement system = elementAtRow(inSearchResults ? TableKind::SearchResults : TableKind::Main, row);
+    if (tappedButtonAtIndex == menuButton && system) {
         openScene(*this, Scenes::managedSystemMenu, {.corvel = corvel(), .system = system});
     }
     return true;
-}
-
-bool MSListViewController::swipeTableCell(bool inSearchResults, int row, int tappedButtonAtIndex)
-{
-    return this->tappedButtonAtIndex(inSearchResults ? TableKind::SearchResults : TableKind::Main, row,
-                                     tappedButtonAtIndex);
 }
 
 } // namespace lodestar

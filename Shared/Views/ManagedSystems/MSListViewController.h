@@ -35,7 +35,6 @@ public:
     QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
     void didSelectRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
     /// Handles a button of a swiped row. Returns true always, so that the row closes.
-    bool tappedButtonAtIndex(TableKind tableView, int row, int index);
     Q_INVOKABLE bool swipeTableCell(bool inSearchResults, int row, int tappedButtonAtIndex);
 
 protected:

@@ -97,15 +97,15 @@ void MCViewController::populateTableViewFromXML(const XMLElement& feedRoot)
     const ConsoleInformation console = ConsoleInformation::of(Feed(feedRoot));
 
     screenLog.write(138, populate, "MCViewController: Fetching Main items");
-    DetailSection main{{row(tr("Console Name"), console.name())}};
+    DetailSection main{row(tr("Console Name"), console.name())};
 
     screenLog.write(144, populate, "MCViewController: Fetching MTSM");
     DetailSection serial = modelAndSerial(console.identity());
 
     // The log line says processors although the version follows.
     screenLog.write(156, populate, "MCViewController: Fetching processor information");
-    DetailSection version{
-        {row(tr("Version"), QString::fromStdString(console.version())), row(tr("Build Level"), console.buildLevel())}};
+    DetailSection version{row(tr("Version"), QString::fromStdString(console.version())),
+                          row(tr("Build Level"), console.buildLevel())};
 
     m_fetchingActivityIndicator.stopAnimating();
     tableView()->setHidden(false);

@@ -46,39 +46,39 @@ void RGListCell::setGroupColor(std::string_view name)
 {
     const auto* const tag = std::ranges::find(tags, name, &Tag::color);
     if (tag != tags.end()) {
-        m_groupTag.imageName = QString::fromLatin1(tag->image);
+        groupTag.imageName = QString::fromLatin1(tag->image);
     }
 }
 
 void RGListCell::setStateCounts(const RGStateCounts& counts)
 {
-    m_goodCountLabel.text = QString::number(counts.good);
-    m_offCountLabel.text = QString::number(counts.off);
-    m_alertCountLabel.text = QString::number(counts.alert);
-    m_errorCountLabel.text = QString::number(counts.error);
+    goodCountLabel.text = QString::number(counts.good);
+    offCountLabel.text = QString::number(counts.off);
+    alertCountLabel.text = QString::number(counts.alert);
+    errorCountLabel.text = QString::number(counts.error);
 }
 
 void RGListCell::setResourceCount(int count)
 {
-    m_resourceCountLabel.text = count == 1 ? tr("1 Resource") : tr("%1 Resources").arg(count);
+    resourceCountLabel.text = count == 1 ? tr("1 Resource") : tr("%1 Resources").arg(count);
 }
 
 QString RGListCell::accessibleText() const
 {
-    QStringList parts = {m_groupNameLabel.text};
+    QStringList parts = {groupNameLabel.text};
     const auto* const tag = std::ranges::find_if(
-        tags, [this](const Tag& known) { return m_groupTag.imageName == QLatin1String(known.image); });
+        tags, [this](const Tag& known) { return groupTag.imageName == QLatin1String(known.image); });
     if (tag != tags.end()) {
         parts << tr(tag->spoken);
     }
-    parts << m_resourceCountLabel.text;
-    if (m_updating) {
+    parts << resourceCountLabel.text;
+    if (updating) {
         parts << tr("updating...");
         return spoken(std::move(parts));
     }
     //: A resource group's states, read aloud: counts
     parts << tr("%1 good, %2 off, %3 alert, %4 error")
-                 .arg(m_goodCountLabel.text, m_offCountLabel.text, m_alertCountLabel.text, m_errorCountLabel.text);
+                 .arg(goodCountLabel.text, offCountLabel.text, alertCountLabel.text, errorCountLabel.text);
     return spoken(std::move(parts));
 }
 

@@ -82,10 +82,10 @@ CellInSteps RGListViewController::cellInStepsForRowAtIndexPath(TableKind /*table
     std::vector<ResourceGroup::Member> members = group.members();
 
     RGListCell cell;
-    cell.setGroupName(textOf(group.name()));
+    cell.groupNameLabel.text = textOf(group.name());
     cell.setGroupColor(group.color().value_or(""));
     cell.setResourceCount(static_cast<int>(members.size()));
-    cell.setUpdating(true);
+    cell.updating = true;
     auto step = [this, cell, members = std::move(members), counters = RGStateCounts(),
                  next = std::size_t(0)]() mutable -> std::optional<QVariant> {
         if (next < members.size()) {
@@ -96,7 +96,7 @@ CellInSteps RGListViewController::cellInStepsForRowAtIndexPath(TableKind /*table
             return std::nullopt;
         }
         cell.setStateCounts(counters);
-        cell.setUpdating(false);
+        cell.updating = false;
         return QVariant::fromValue(cell);
     };
     return {QVariant::fromValue(cell), std::move(step)};

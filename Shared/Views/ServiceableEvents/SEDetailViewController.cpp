@@ -84,7 +84,7 @@ DetailSection SEDetailViewController::mainInformation() const
 {
     // On this screen an absent text is an empty value, not "(null)".
     const ServiceableEvent event(rootXML());
-    return {{
+    return {
         row(tr("Problem Number"), textOf(event.problemNumber())),
         row(tr("Call Home Intended"), textOf(event.callHomeEnabled())),
         row(tr("Prob Mgmt Hardware Record"), textOf(event.hardwareRecord())),
@@ -106,12 +106,12 @@ DetailSection SEDetailViewController::mainInformation() const
         row(tr("Duplicate Count"), textOf(event.duplicateCount())),
         row(tr("Mgmt Console Name"), textOf(event.analyzingConsole().hostName())),
         row(tr("Mgmt Console MTMS"), textOf(event.analyzingConsole().model())),
-    }};
+    };
 }
 
 DetailSection SEDetailViewController::unitInformation(const FieldReplaceableUnit& unit) const
 {
-    return {{
+    return {
         row(tr("Part Number"), textOf(unit.partNumber())),
         row(tr("Class"), textOf(unit.unitClass())),
         row(tr("Description"), textOf(unit.unitDescription())),
@@ -119,7 +119,7 @@ DetailSection SEDetailViewController::unitInformation(const FieldReplaceableUnit
         row(tr("Previously Replaced"), textOf(unit.previouslyReplaced())),
         row(tr("Replaced Timestamp"), textOf(unit.replacedTimestamp())),
         row(tr("Replacement Group"), textOf(unit.replacementGroup())),
-    }};
+    };
 }
 
 } // namespace lodestar

@@ -9,14 +9,14 @@ namespace lodestar
 
 SEListCell::SEListCell(const ServiceableEvent& event, const QString& match)
 {
-    m_titleLabel.text = QString::fromStdString(event.title());
-    m_titleLabel.match = match;
-    m_timeLabel.text = textOf(event.lastReported());
+    titleLabel.text = QString::fromStdString(event.title());
+    titleLabel.match = match;
+    timeLabel.text = textOf(event.lastReported());
 }
 
 QString SEListCell::accessibleText() const
 {
-    return spoken({m_titleLabel.text, m_timeLabel.text});
+    return spoken({titleLabel.text, timeLabel.text});
 }
 
 } // namespace lodestar

@@ -12,12 +12,11 @@ class ServiceableEvent;
 
 /// One row of the serviceable-event list, as a value: the state of the event's approval with its number, over the
 /// unchanged text of when the event was last reported.
-class SEListCell
-{
+struct SEListCell {
     Q_GADGET
     QML_VALUE_TYPE(seListCell)
-    Q_PROPERTY(lodestar::CellLabel titleLabel READ titleLabel)
-    Q_PROPERTY(lodestar::CellLabel timeLabel READ timeLabel)
+    Q_PROPERTY(lodestar::CellLabel titleLabel MEMBER titleLabel)
+    Q_PROPERTY(lodestar::CellLabel timeLabel MEMBER timeLabel)
     Q_PROPERTY(QString accessibleText READ accessibleText)
 
 public:
@@ -25,13 +24,10 @@ public:
     /// `match` is the searched text; empty for none.
     SEListCell(const ServiceableEvent& event, const QString& match);
 
-    const CellLabel& titleLabel() const { return m_titleLabel; }
-    const CellLabel& timeLabel() const { return m_timeLabel; }
     QString accessibleText() const;
 
-private:
-    CellLabel m_titleLabel;
-    CellLabel m_timeLabel;
+    CellLabel titleLabel;
+    CellLabel timeLabel;
 };
 
 } // namespace lodestar

@@ -14,10 +14,17 @@ class VIOSDetailViewController : public lodestar::PartitionDetailViewController
     QML_UNCREATABLE("made by the storyboard")
 
 public:
-    VIOSDetailViewController();
+    VIOSDetailViewController()
+        : PartitionDetailViewController("Shared/Views/VIOS/VIOSDetailViewController", tr("VIOS Details"))
+    {
+    }
 
     /// Does the same as for a partition and writes one more log line.
-    void populatePartitionDetails() override;
+    void populatePartitionDetails() override
+    {
+        log().write(47, "populatePartitionDetails", "VIOSDetailViewController: Fetching main items");
+        PartitionDetailViewController::populatePartitionDetails();
+    }
 };
 
 } // namespace lodestar

@@ -31,8 +31,6 @@ constexpr GroupedListTraits traits = {
     .detailScene = Scenes::viosDetail,
 };
 
-constexpr int expandingButton = 0;
-
 SwipeButton checkButton(Role::Button role)
 {
     return {QString(), role, QStringLiteral("check"), VIOSViewController::tr("Check")};
@@ -44,11 +42,12 @@ VIOSViewController::VIOSViewController() : GroupedListViewController(traits) {}
 
 void VIOSViewController::completeCell(PartitionCell& cell, const Partition& partition) const
 {
+    cell.leftExpansion = 0;
     if (partition.health() == Health::Idle) {
-        cell.setLeftButtons({checkButton(Role::Button::Positive)}, expandingButton);
+        cell.leftButtons = {checkButton(Role::Button::Positive)};
     } else {
-        const SwipeButton favourite{QString(), Role::Button::Favourite, QStringLiteral("fav"), tr("Favourite")};
-        cell.setLeftButtons({checkButton(Role::Button::Standard), favourite}, expandingButton);
+        cell.leftButtons = {checkButton(Role::Button::Standard),
+                            {QString(), Role::Button::Favourite, QStringLiteral("fav"), tr("Favourite")}};
     }
 }
 

@@ -19,7 +19,6 @@ struct RichTextColor {
 };
 
 struct RichTextStyle {
-    std::size_t font = 0; ///< index into the document's fonts
     int halfPoints = 24;
     bool bold = false;
     bool italic = false;
@@ -35,39 +34,28 @@ struct RichTextRun {
     RichTextStyle style;
 };
 
-enum class RichTextAlignment : std::uint8_t { Left, Center, Right, Justified };
-
 /// One paragraph. Lengths in twentieths of a point, within ±31680 (22 inches).
 struct RichTextParagraph {
-    RichTextAlignment alignment = RichTextAlignment::Left;
     int leftIndent = 0;
-    int rightIndent = 0;
     int firstLineIndent = 0; ///< added to the left indent; negative where a list's marker hangs
     int spaceBefore = 0;
     int spaceAfter = 0;
-    std::string marker{}; ///< marker of a list's item, as in "•" or "2."; empty for none
-    RichTextStyle markerStyle{};
+    std::string marker{};            ///< marker of a list's item, as in "•" or "2."; empty for none
     std::vector<RichTextRun> runs{}; ///< empty for an empty line
 };
 
-struct RichTextDocument {
-    /// Names of font families. The first is empty and means the screen's own family.
-    std::vector<std::string> fonts{std::string()};
-    std::vector<RichTextParagraph> paragraphs{};
-    bool truncated = false; ///< a limit was reached; the text beyond it is missing
-};
-
+/// Beyond a limit, nothing more is read.
 struct RichTextLimits {
     static constexpr std::size_t bytes = std::size_t(4) * 1024 * 1024;
     static constexpr std::size_t depth = 256;         ///< nested groups
     static constexpr std::size_t pieces = 100000;     ///< paragraphs and runs together
-    static constexpr std::size_t tableEntries = 1024; ///< for fonts and for colours each
+    static constexpr std::size_t tableEntries = 1024; ///< for symbol fonts and for colours each
 };
 
-/// Reads the part of rich text that the legal text and the release notes use: fonts, sizes, bold, italic, underlines,
-/// colours, alignment, indents, list markers, tabs and breaks, in code page 1252 and in Unicode. Everything else is
-/// skipped. Any bytes may be given: of damaged rich text, the readable part is returned; bytes that are no rich text
-/// give no paragraphs. Time and memory are linear in the size. Any thread.
-RichTextDocument readRichText(std::string_view bytes);
+/// Reads the part of rich text that the legal text and the release notes use: sizes, bold, italic, underlines, colours,
+/// indents, list markers, tabs and breaks, in code page 1252 and in Unicode. Everything else is skipped, and every font
+/// is the screen's own. Any bytes may be given: of damaged rich text, the readable part is returned; bytes that are no
+/// rich text give no paragraphs. Time and memory are linear in the size. Any thread.
+std::vector<RichTextParagraph> readRichText(std::string_view bytes);
 
 } // namespace lodestar

@@ -132,63 +132,34 @@ PageScaffold {
             width: 1
             height: 12
         }
-        Rectangle {
+        FigureCard {
             id: values
 
-            readonly property bool stacked: Theme.stacked
-            readonly property real column: stacked ? width : width / 3
+            rowSpacing: 20
 
-            width: parent.width
-            implicitHeight: figures.height + 26
-            radius: Theme.cardRadius
-            color: Theme.card
-
-            Grid {
-                id: figures
-
-                y: 14
-                columns: values.stacked ? 1 : 3
-                rowSpacing: 20
-
-                Figure {
-                    value: scene.performance.totalLabel
-                    indicator: scene.performance.totalIndicator
-                    caption: qsTr("Total")
-                    unit: scene.unit
-                    strokeColor: Theme.chartOrange
-                    width: values.column
-                }
-                Figure {
-                    value: scene.performance.allocatedLabel
-                    indicator: scene.performance.allocatedIndicator
-                    caption: qsTr("Allocated")
-                    unit: scene.unit
-                    strokeColor: Theme.chartGreen
-                    width: values.column
-                }
-                Figure {
-                    value: scene.performance.usedLabel
-                    indicator: scene.performance.usedIndicator
-                    caption: qsTr("Used")
-                    unit: scene.unit
-                    strokeColor: Theme.chartBlue
-                    width: values.column
-                }
+            Figure {
+                value: scene.performance.totalLabel
+                indicator: scene.performance.totalIndicator
+                caption: qsTr("Total")
+                unit: scene.unit
+                strokeColor: Theme.chartOrange
+                width: values.figureWidth
             }
-            Repeater {
-                model: [1, 2]
-
-                Hairline {
-                    required property int modelData
-                    readonly property real step: (figures.height + figures.rowSpacing) / 3
-
-                    vertical: !values.stacked
-                    x: !values.stacked ? Math.round(modelData * values.column) : Theme.mirrored ? 15 : 10
-                    y: values.stacked ? Math.round(figures.y + modelData * step - figures.rowSpacing / 2)
-                                      : figures.y + 2
-                    width: values.stacked ? values.width - 25 : thickness
-                    height: values.stacked ? thickness : figures.height - 4
-                }
+            Figure {
+                value: scene.performance.allocatedLabel
+                indicator: scene.performance.allocatedIndicator
+                caption: qsTr("Allocated")
+                unit: scene.unit
+                strokeColor: Theme.chartGreen
+                width: values.figureWidth
+            }
+            Figure {
+                value: scene.performance.usedLabel
+                indicator: scene.performance.usedIndicator
+                caption: qsTr("Used")
+                unit: scene.unit
+                strokeColor: Theme.chartBlue
+                width: values.figureWidth
             }
         }
         Item {

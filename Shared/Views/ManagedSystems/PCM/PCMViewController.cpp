@@ -179,7 +179,6 @@ void PCMViewController::showMetrics(const MetricsDocument& document)
 
 void PCMViewController::showFailure()
 {
-    m_fetchingActivityView.stopAnimating();
     for (LabelOutlet* label : {&m_totalLabel, &m_allocatedLabel, &m_usedLabel}) {
         label->setText(QStringLiteral("-"));
     }
@@ -207,7 +206,6 @@ void PCMViewController::calculateGraphValuesFromJSON(const MetricsValue& samples
         m_endDate = reduction.last->date;
     }
     setChartData(reduction, segment);
-    m_chartView.setHidden(false);
     stopLoadingIndicators();
 }
 
@@ -249,36 +247,26 @@ void PCMViewController::setChartData(const MetricsReduction& reduction, MetricsS
 
 void PCMViewController::startLoadingIndicators()
 {
-    m_chartView.setHidden(true);
-    m_fetchingLabel.setHidden(false);
-    m_fetchingActivityView.startAnimating();
-    for (LabelOutlet* label : {&m_totalLabel, &m_allocatedLabel, &m_usedLabel}) {
-        label->setHidden(true);
-    }
-    for (IndicatorOutlet* indicator : {&m_totalIndicator, &m_allocatedIndicator, &m_usedIndicator}) {
-        indicator->startAnimating();
-    }
+    setLoading(true);
 }
 
 void PCMViewController::stopLoadingIndicators()
 {
-    m_chartView.setHidden(false);
+    setLoading(false);
     m_chartView.animate(newDataSeconds);
-    m_fetchingLabel.setHidden(true);
-    m_fetchingActivityView.stopAnimating();
-    for (IndicatorOutlet* indicator : {&m_totalIndicator, &m_allocatedIndicator, &m_usedIndicator}) {
-        indicator->stopAnimating();
-    }
-    for (LabelOutlet* label : {&m_totalLabel, &m_allocatedLabel, &m_usedLabel}) {
-        label->setHidden(false);
-    }
 }
 
-void PCMViewController::chartValueSelected(ChartView& /*chartView*/, const ChartEntry& /*entry*/, int /*dataSetIndex*/,
-                                           const Highlight& /*highlight*/)
+void PCMViewController::setLoading(bool loading)
 {
+    m_chartView.setHidden(loading);
+    m_fetchingLabel.setHidden(!loading);
+    for (LabelOutlet* label : {&m_totalLabel, &m_allocatedLabel, &m_usedLabel}) {
+        label->setHidden(loading);
+    }
+    for (IndicatorOutlet* indicator :
+         {&m_fetchingActivityView, &m_totalIndicator, &m_allocatedIndicator, &m_usedIndicator}) {
+        loading ? indicator->startAnimating() : indicator->stopAnimating();
+    }
 }
-
-void PCMViewController::chartValueNothingSelected(ChartView& /*chartView*/) {}
 
 } // namespace lodestar

@@ -77,11 +77,8 @@ protected:
     void viewDidLoad() override;
 
 private:
-    void chartValueSelected(ChartView& chartView, const ChartEntry& entry, int dataSetIndex,
-                            const Highlight& highlight) override;
-    void chartValueNothingSelected(ChartView& chartView) override;
-
     void configureChart();
+    void setLoading(bool loading);
     void showMetrics(const MetricsDocument& document);
     void showFailure();
     void setLatest(const MetricsFigures& figures);
