@@ -1,0 +1,73 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/SceneHost.h"
+#include "Tests/Scenes/SceneTest.h"
+
+#include <QQmlContext>
+
+#include <atomic>
+#include <private/qhooks_p.h>
+
+namespace lodestar::scenes
+{
+namespace
+{
+
+std::atomic<qsizetype> liveObjects = 0;
+
+/// Counts all objects of the process that are made from now on and still live.
+void countObjects()
+{
+    qtHookData[QHooks::AddQObject] = reinterpret_cast<quintptr>(+[](QObject*) { ++liveObjects; });
+    qtHookData[QHooks::RemoveQObject] = reinterpret_cast<quintptr>(+[](QObject*) { --liveObjects; });
+}
+
+constexpr int times = 20; // 200 take minutes, at some 40 ms an opening
+
+class EverySceneTest : public SceneTest
+{
+protected:
+    void open(ViewController& screen) const
+    {
+        SceneHost host(stage.window().contentItem());
+        QQmlEngine::setContextForObject(&host, qmlContext(&stage.window()));
+        host.setSize(QSizeF(stage.window().size()));
+        host.setProperty("reportsAppearance", true);
+        const auto stack = makeController<NavigationController>(screen.shared_from_this());
+        host.setController(stack.get());
+        QCoreApplication::processEvents();
+        EXPECT_NE(host.scene(), nullptr);
+        host.setController(nullptr);
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    }
+    /// After what scripts let go of has gone.
+    qsizetype countLiving() const
+    {
+        qmlEngine(&stage.window())->collectGarbage();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        return liveObjects;
+    }
+};
+
+TEST_F(EverySceneTest, OpensWithoutAWarningAndLeavesNoObjectBehind)
+{
+    stage.show({390, 844}, {});
+    const CorvelRef corvel = demoConsole();
+    countObjects();
+    for (const AnyScene& scene : everyScene(corvel)) {
+        // The first ones fill what is kept for good.
+        qsizetype before = 0;
+        for (int time = -3; time < times; ++time) {
+            open(*scene.make());
+            if (time == -1) {
+                stage.settle(100);
+                before = countLiving();
+            }
+        }
+        // A single object may be one that is made late and kept for good; what is left behind comes with every opening.
+        EXPECT_TRUE(stage.waitFor([&] { return countLiving() < before + times; }))
+            << scene.name << liveObjects - before;
+    }
+}
+
+} // namespace
+} // namespace lodestar::scenes
