@@ -26,6 +26,8 @@ std::string identityOf(const Corvel& corvel)
            "|" + corvel.password().value_or("");
 }
 
+} // namespace
+
 simulator::Settings settingsOf(int consoles)
 {
     simulator::Settings settings;
@@ -35,9 +37,7 @@ simulator::Settings settingsOf(int consoles)
     return settings;
 }
 
-} // namespace
-
-Drive::Drive(int consoles) : m_simulator(settingsOf(consoles))
+Drive::Drive(int consoles, std::vector<std::string> further) : m_simulator(settingsOf(consoles))
 {
     MainQueue::shared().adoptCurrentThread();
     StoreStack::shared().setApplicationDocumentsDirectory(m_folder.file("Documents"));
@@ -46,10 +46,15 @@ Drive::Drive(int consoles) : m_simulator(settingsOf(consoles))
         const std::lock_guard lock(m_mutex);
         m_lines.emplace_back(entry.message);
     });
+    std::vector<std::string> addresses;
     for (int i = 0; i < consoles; ++i) {
+        addresses.push_back(m_simulator.address(i));
+    }
+    std::ranges::move(further, std::back_inserter(addresses));
+    for (const std::string& address : addresses) {
         const CorvelRef corvel = insertNewCorvel();
-        corvel->setName("Console " + std::to_string(i));
-        corvel->setAddress(m_simulator.address(i));
+        corvel->setName("Console " + address);
+        corvel->setAddress(address);
         corvel->setUsername(m_simulator.user());
         corvel->setPassword(m_simulator.password());
         corvel->setDemo(false);

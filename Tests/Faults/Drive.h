@@ -15,11 +15,15 @@
 namespace lodestar::faults
 {
 
-/// Simulated consoles with feeds of a usual size, the real client, and a folder with store and log. Main thread.
+/// Consoles with feeds of a usual size.
+simulator::Settings settingsOf(int consoles);
+
+/// Simulated consoles, the real client, and a folder with store and log. Main thread.
 class Drive
 {
 public:
-    explicit Drive(int consoles);
+    /// Consoles at further addresses come after the simulator's own.
+    explicit Drive(int consoles, std::vector<std::string> further = {});
     /// Closes the store and looks whether it is as it should be.
     ~Drive();
     Drive(const Drive&) = delete;
