@@ -29,9 +29,14 @@ bool isShown(const QQuickView& window)
 
 PrivacyCover::Device PrivacyCover::deviceOf(const QScreen& screen)
 {
+#if defined(Q_OS_ANDROID) || defined(Q_OS_IOS)
+    Q_UNUSED(screen);
+    return Device::Phone;
+#else
     constexpr int shortSideOfTablets = 600; // points
     const QSize size = screen.size();
     return qMin(size.width(), size.height()) < shortSideOfTablets ? Device::Phone : Device::Desk;
+#endif
 }
 
 PrivacyCover::PrivacyCover(QQuickView& window, Device device, std::function<void()> becomeActive)

@@ -3,14 +3,19 @@
 
 #include <QSocketNotifier>
 
+#include <utility>
+
+#ifdef Q_OS_UNIX
 #include <cerrno>
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
-#include <utility>
+#endif
 
 namespace lodestar
 {
+
+#ifdef Q_OS_UNIX
 
 namespace
 {
@@ -61,5 +66,12 @@ TerminationSignals::~TerminationSignals()
     ::close(signalPipe[0]);
     ::close(signalPipe[1]);
 }
+
+#else
+
+TerminationSignals::TerminationSignals(std::function<void()> terminate) : m_terminate(std::move(terminate)) {}
+TerminationSignals::~TerminationSignals() = default;
+
+#endif
 
 } // namespace lodestar

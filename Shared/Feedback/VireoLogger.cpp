@@ -18,7 +18,6 @@
 #include <cstdlib>
 #include <cxxabi.h>
 #include <exception>
-#include <execinfo.h>
 #include <future>
 #include <iterator>
 #include <list>
@@ -28,6 +27,10 @@
 #include <typeinfo>
 #include <unistd.h>
 #include <utility>
+
+#if __has_include(<execinfo.h>)
+#include <execinfo.h>
+#endif
 
 namespace lodestar
 {
@@ -294,11 +297,15 @@ void VireoLogger::flush()
 
 [[gnu::noinline]] std::vector<void*> callStackReturnAddresses()
 {
+#if __has_include(<execinfo.h>)
     constexpr int most = 32;
     void* addresses[most + 1];
     const int count = ::backtrace(addresses, most + 1);
     // The first address lies in this function, so it is left out.
     return count <= 1 ? std::vector<void*>() : std::vector<void*>(addresses + 1, addresses + count);
+#else
+    return {};
+#endif
 }
 
 } // namespace lodestar
