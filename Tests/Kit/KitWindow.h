@@ -50,7 +50,7 @@ public:
         m_view.setInitialProperties({{QStringLiteral("controller"), QVariant::fromValue<QObject*>(root.get())}});
         m_view.setResizeMode(QQuickView::SizeRootObjectToView);
         m_view.resize(size);
-        m_view.setSource(QUrl(QStringLiteral("qrc:/Lodestar/Kit/RootView.qml")));
+        m_view.setSource(QUrl(QStringLiteral("qrc:/kit/RootView.qml")));
         m_view.show();
         m_view.requestActivate();
         EXPECT_TRUE(waitFor([&] { return m_view.isExposed() && m_view.isActive(); }));
@@ -84,10 +84,7 @@ public:
     {
         return item->mapToScene({item->width() / 2, item->height() / 2}).toPoint();
     }
-    void click(const QPoint& at, Qt::MouseButton button = Qt::LeftButton)
-    {
-        QTest::mouseClick(&m_view, button, {}, at);
-    }
+    void click(const QPoint& at) { QTest::mouseClick(&m_view, Qt::LeftButton, {}, at); }
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) { QTest::keyClick(&m_view, key, modifiers); }
     void drag(QPoint from, QPoint by)
     {
@@ -97,8 +94,8 @@ public:
         }
         QTest::mouseRelease(&m_view, Qt::LeftButton, {}, from + by, 60);
     }
-    /// Eight moves of a finger, so many milliseconds apart.
-    void swipe(QPoint from, QPoint by, int pace = 12)
+    /// Eight moves of a finger, so many milliseconds apart, and a rest before it leaves.
+    void swipe(QPoint from, QPoint by, int pace = 12, int rest = 60)
     {
         static QPointingDevice* const finger = QTest::createTouchDevice();
         QTest::touchEvent(&m_view, finger).press(1, from, &m_view);
@@ -106,7 +103,7 @@ public:
             QTest::qWait(pace);
             QTest::touchEvent(&m_view, finger).move(1, from + by * step / 8, &m_view);
         }
-        QTest::qWait(60);
+        QTest::qWait(rest);
         QTest::touchEvent(&m_view, finger).release(1, from + by, &m_view);
     }
 

@@ -65,7 +65,7 @@ public:
         installKit(*window.engine());
         window.setInitialProperties({{QStringLiteral("controller"), QVariant::fromValue<QObject*>(root.get())}});
         window.setResizeMode(QQuickView::SizeRootObjectToView);
-        window.setSource(QUrl(QStringLiteral("qrc:/Lodestar/Kit/RootView.qml")));
+        window.setSource(QUrl(QStringLiteral("qrc:/kit/RootView.qml")));
         window.resize(size);
         window.show();
         window.requestActivate();

@@ -137,10 +137,11 @@ private:
     QQuickWindow* quickWindow() const { return static_cast<QQuickWindow*>(object()); }
 };
 
-class ItemNode final : public Node, public QAccessibleActionInterface
+/// What the attached `Accessible` tells of an item.
+class ItemNode : public Node, public QAccessibleActionInterface
 {
 public:
-    explicit ItemNode(AccessibleItem* item) : Node(item) {}
+    explicit ItemNode(QQuickItem* item) : Node(item) {}
 
     bool isValid() const override { return Node::isValid() && item().window() != nullptr; }
     QWindow* window() const override { return item().window(); }
@@ -180,7 +181,7 @@ public:
         state.disabled = !item().isEnabled();
         state.invisible = !item().isVisible();
         state.offscreen = !placeOf(*item().window()->contentItem()).intersects(rect());
-        state.focusable = item().isAccessiblyFocusable();
+        state.focusable = isFocusable();
         state.focused = item().window()->activeFocusItem() == &item();
         state.modal = isModal();
         state.selectable = told("selectable").toBool();
@@ -194,30 +195,48 @@ public:
     {
         return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
     }
-    QStringList actionNames() const override
-    {
-        QStringList names = item().accessibleActions();
-        if (item().isAccessiblyFocusable()) {
-            names << setFocusAction();
-        }
-        return names;
-    }
+    QStringList actionNames() const override { return isFocusable() ? QStringList{setFocusAction()} : QStringList(); }
     void doAction(const QString& action) override
     {
         if (action == setFocusAction()) {
             item().forceActiveFocus(Qt::TabFocusReason);
-        } else {
-            item().doAccessibleAction(action);
         }
     }
     QStringList keyBindingsForAction(const QString& /*action*/) const override { return {}; }
 
 protected:
+    QQuickItem& item() const { return *static_cast<QQuickItem*>(object()); }
+    virtual bool isFocusable() const { return true; }
+    Items items() const override { return {}; }
+
+private:
+    bool isModal() const { return qobject_cast<const ModalLayer*>(&item()) != nullptr; }
+    QVariant told(const char* property) const
+    {
+        const QObject* const attached = attachedTo(item());
+        return attached != nullptr ? attached->property(property) : QVariant();
+    }
+};
+
+class ActionNode final : public ItemNode
+{
+public:
+    explicit ActionNode(AccessibleItem* item) : ItemNode(item) {}
+
+    QStringList actionNames() const override { return actionItem().accessibleActions() + ItemNode::actionNames(); }
+    void doAction(const QString& action) override
+    {
+        ItemNode::doAction(action);
+        actionItem().doAccessibleAction(action);
+    }
+
+protected:
+    bool isFocusable() const override { return actionItem().isAccessiblyFocusable(); }
     Items items() const override
     {
         Items found;
         collect(item(), found);
-        if (item().readsDownwards()) {
+        if (actionItem().readsDownwards()) {
             std::stable_sort(found.begin(), found.end(), [](const QQuickItem* one, const QQuickItem* other) {
                 return one->mapToScene({}).y() < other->mapToScene({}).y();
             });
@@ -226,12 +245,32 @@ protected:
     }
 
 private:
-    AccessibleItem& item() const { return *static_cast<AccessibleItem*>(object()); }
-    bool isModal() const { return qobject_cast<const ModalLayer*>(&item()) != nullptr; }
-    QVariant told(const char* property) const
+    AccessibleItem& actionItem() const { return static_cast<AccessibleItem&>(item()); }
+};
+
+class SecureFieldNode final : public ItemNode
+{
+public:
+    using ItemNode::ItemNode;
+
+    QAccessible::State state() const override
     {
-        const QObject* const attached = attachedTo(item());
-        return attached != nullptr ? attached->property(property) : QVariant();
+        QAccessible::State state = ItemNode::state();
+        state.editable = true;
+        state.passwordEdit = true;
+        return state;
+    }
+    QString text(QAccessible::Text kind) const override
+    {
+        switch (kind) {
+        case QAccessible::Name:
+            return item().property("label").toString(); // The attached object of a password field tells no name.
+        case QAccessible::Value:
+            // Dots are given even while the field shows its text: that is meant only for the person before the screen.
+            return item().property("passwordCharacter").toString().repeated(item().property("length").toInt());
+        default:
+            return ItemNode::text(kind);
+        }
     }
 };
 
@@ -241,12 +280,17 @@ QAccessibleInterface* describe(const QString& className, QObject* object)
         return new WindowNode(static_cast<QQuickWindow*>(object));
     }
     if (className == u"lodestar::AccessibleItem") {
-        return new ItemNode(static_cast<AccessibleItem*>(object));
+        return new ActionNode(static_cast<AccessibleItem*>(object));
     }
     return nullptr;
 }
 
 } // namespace
+
+QAccessibleInterface* describeSecureField(QQuickItem& field)
+{
+    return new SecureFieldNode(&field);
+}
 
 void installAccessibleTree()
 {

@@ -1,6 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+class QAccessibleInterface;
+class QQuickItem;
+
 namespace lodestar
 {
 
@@ -8,5 +11,8 @@ namespace lodestar
 /// and no actions beyond a button's, and they read lists in the order in which the rows were made. Once per process is
 /// enough. Main thread.
 void installAccessibleTree();
+
+/// A new description of a text field that tells dots in place of the field's text.
+QAccessibleInterface* describeSecureField(QQuickItem& field);
 
 } // namespace lodestar

@@ -18,8 +18,8 @@ class SecureText : public QObject
 public:
     using QObject::QObject;
 
-    /// Makes the accessibility tree tell the dots that the screen shows. The field's property `accessibleName` is its
-    /// name. Call once per field, when the field is complete. Main thread.
+    /// Makes the accessibility tree tell the dots that the screen shows. The field's property `label` is its name. Call
+    /// once per field, when the field is complete. Main thread.
     Q_INVOKABLE void hideFromAccessibility(QQuickItem* field) const;
 };
 

@@ -7,10 +7,9 @@ import Lodestar.Kit
 
 /// Choices for one thing, at the window's lower edge or beside the pointer, with Cancel set apart. Opens and closes
 /// with its outlet.
-T.Popup {
+MenuPopup {
     id: sheet
 
-    required property MenuOutlet outlet
     property real slide: 0
     /// On wide windows the choices come up beside the pointer, so that nobody has to reach down for them.
     property bool nearPress: false
@@ -20,12 +19,7 @@ T.Popup {
 
     readonly property var cancelChoice: outlet.cancelIndex >= 0 ? outlet.choices[outlet.cancelIndex] : undefined
 
-    parent: T.Overlay.overlay
-    modal: true
-    dim: true
-    focus: true
     closePolicy: T.Popup.CloseOnReleaseOutside
-    padding: 0
     width: parent !== null ? Math.min(parent.width - 24, Theme.actionSheetMaxWidth) : 0
     height: card.implicitHeight
     x: parent === null ? 0 : !nearPress ? Math.round((parent.width - width) / 2)
@@ -34,28 +28,10 @@ T.Popup {
                                         : Math.max(12, Math.min(press.y + 12, parent.height - height - 12)) + 12 * (1 - slide)
     opacity: nearPress ? slide : 1
 
-    function follow() {
-        if (outlet.presented) {
-            nearPress = LastPress.isRecent() && parent.width >= 600;
-            press = LastPress.position();
-            keyboard.remember();
-            open();
-        } else {
-            close();
-        }
+    onAboutToShow: {
+        nearPress = LastPress.isRecent() && parent.width >= 600;
+        press = LastPress.position();
     }
-    function cancel() {
-        if (outlet.cancelIndex >= 0) {
-            outlet.choose(outlet.cancelIndex);
-        }
-    }
-
-    readonly property KeyboardReturn keyboard: KeyboardReturn {
-        inside: sheet.parent
-    }
-
-    Component.onCompleted: follow()
-    onClosed: keyboard.giveBack()
     onAboutToHide: {
         // A press beside the sheet closed it.
         if (outlet.presented) {
@@ -64,27 +40,12 @@ T.Popup {
     }
     onOpened: card.forceActiveFocus(Qt.OtherFocusReason)
 
-    Connections {
-        target: sheet.outlet
-        function onPresentedChanged() {
-            sheet.follow();
-        }
-    }
-
     enter: Transition {
         NumberAnimation { property: "slide"; to: 1; duration: Theme.sheetIn; easing.type: Easing.OutCubic }
     }
     exit: Transition {
         NumberAnimation { property: "slide"; to: 0; duration: Theme.sheetOut; easing.type: Easing.OutCubic }
     }
-    T.Overlay.modal: Rectangle {
-        color: Theme.scrim
-
-        Behavior on opacity {
-            NumberAnimation { duration: Theme.sheetIn }
-        }
-    }
-
     background: Item {}
     contentItem: ModalLayer {
         id: card
@@ -106,13 +67,8 @@ T.Popup {
             event.accepted = true;
         }
 
-        BoxShadow {
+        RaisedCard {
             anchors.fill: rows
-        }
-        Rectangle {
-            anchors.fill: rows
-            radius: Theme.sheetRadius
-            color: Theme.raised
         }
         Column {
             id: rows
@@ -168,12 +124,8 @@ T.Popup {
             width: parent.width
             height: cancelButton.implicitHeight
 
-            BoxShadow {
+            RaisedCard {
                 anchors.fill: parent
-            }
-            Rectangle {
-                anchors.fill: parent
-                radius: Theme.sheetRadius
                 color: cancelButton.pressed ? Theme.pressed : Theme.raised
             }
             PlainButton {

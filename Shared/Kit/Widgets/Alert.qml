@@ -2,61 +2,25 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import QtQuick.Templates as T
 import Lodestar.Kit
 
 /// A question or a piece of news, in the middle of the window, with up to two buttons side by side or more below each
 /// other. Opens and closes with its outlet.
-T.Popup {
+MenuPopup {
     id: alert
 
-    required property MenuOutlet outlet
-
-    parent: T.Overlay.overlay
-    modal: true
-    dim: true
-    focus: true
-    closePolicy: T.Popup.NoAutoClose
-    padding: 0
+    escapeIndex: outlet.choices.length === 1 ? 0 : outlet.cancelIndex
+    dimming: Theme.alertIn
     margins: 12
     width: 288
     height: body.implicitHeight
     x: parent !== null ? Math.round((parent.width - width) / 2) : 0
     y: parent !== null ? Math.round((parent.height - height) * 0.46) : 0
 
-    function follow() {
-        if (outlet.presented) {
-            keyboard.remember();
-            open();
-        } else {
-            close();
-        }
-    }
-    function cancel() {
-        if (outlet.cancelIndex >= 0) {
-            outlet.choose(outlet.cancelIndex);
-        } else if (outlet.choices.length === 1) {
-            outlet.choose(0);
-        }
-    }
-
-    readonly property KeyboardReturn keyboard: KeyboardReturn {
-        inside: alert.parent
-    }
-
-    Component.onCompleted: follow()
-    onClosed: keyboard.giveBack()
     onOpened: {
         const first = buttons.itemAt(Math.max(0, outlet.cancelIndex));
         if (first !== null) {
             first.forceActiveFocus(Qt.OtherFocusReason);
-        }
-    }
-
-    Connections {
-        target: alert.outlet
-        function onPresentedChanged() {
-            alert.follow();
         }
     }
 
@@ -75,24 +39,7 @@ T.Popup {
     exit: Transition {
         NumberAnimation { property: "opacity"; to: 0; duration: Theme.alertIn }
     }
-    T.Overlay.modal: Rectangle {
-        color: Theme.scrim
-
-        Behavior on opacity {
-            NumberAnimation { duration: Theme.alertIn }
-        }
-    }
-
-    background: Item {
-        BoxShadow {
-            anchors.fill: parent
-        }
-        Rectangle {
-            anchors.fill: parent
-            radius: Theme.sheetRadius
-            color: Theme.raised
-        }
-    }
+    background: RaisedCard {}
     contentItem: ModalLayer {
         id: body
 

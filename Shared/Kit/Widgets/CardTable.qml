@@ -19,7 +19,6 @@ AccessibleScope {
     /// Points above the first card: 8 below a bar of 52, 0 below a tab root's bar of 60.
     property real topSpace: 8
     property alias header: list.header
-    property alias footer: list.footer
     /// Whether a pull uncovers a search field.
     property alias searchOffered: search.offered
     property alias currentIndex: list.currentIndex

@@ -13,18 +13,14 @@ Item {
     property bool clockwise: true
     property color strokeColor: Theme.accent
     property color trackColor: Theme.hairline
-    property real strokeWidth: 8
 
+    readonly property real strokeWidth: 8
     readonly property real share: total > 0 ? Math.max(0, Math.min(1, current / total)) : 0
     property real drawn: 0
 
-    function stroke() {
-        drawing.restart();
-    }
-
     implicitWidth: 110
     implicitHeight: 110
-    Component.onCompleted: stroke()
+    Component.onCompleted: drawing.start()
 
     NumberAnimation {
         id: drawing

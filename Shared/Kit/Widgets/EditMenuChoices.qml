@@ -43,16 +43,8 @@ T.Popup {
     }
     onOpened: choices.forceActiveFocus(Qt.PopupFocusReason)
 
-    background: Item {
-        BoxShadow {
-            anchors.fill: parent
-            radius: Theme.cardRadius
-        }
-        Rectangle {
-            anchors.fill: parent
-            radius: Theme.cardRadius
-            color: Theme.raised
-        }
+    background: RaisedCard {
+        radius: Theme.cardRadius
     }
     contentItem: ModalLayer {
         id: choices

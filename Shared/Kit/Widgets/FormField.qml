@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Lodestar.Kit
 
 /// One field of a form: its name and its text. The text and the outlet follow each other.
@@ -41,18 +40,6 @@ Item {
         }
     }
 
-    Connections {
-        target: field.outlet
-        function onTextChanged() {
-            if (input.text !== field.outlet.text) {
-                input.text = field.outlet.text;
-            }
-        }
-        function onResignRequested() {
-            input.focus = false;
-        }
-    }
-
     // A press anywhere on the row edits the field.
     MouseArea {
         anchors.fill: parent
@@ -71,11 +58,12 @@ Item {
         elide: Text.ElideRight
         Accessible.ignored: true
     }
-    T.TextField {
+    InputField {
         id: input
 
-        readonly property string accessibleName: field.label
-
+        label: field.label
+        outlet: field.outlet
+        secretSwitch: field.secure ? eye : null
         anchors.left: parent.left
         anchors.leftMargin: Theme.rowStart + (field.stacked ? 0 : field.labelWidth)
         anchors.right: eye.visible ? eye.left : parent.right
@@ -84,31 +72,10 @@ Item {
         height: parent.height - y - (hintLabel.visible ? hintLabel.height : 0)
         topPadding: Appearance.textDrop(font.pixelSize, height, Screen.devicePixelRatio)
         verticalAlignment: TextInput.AlignTop
-        horizontalAlignment: TextInput.AlignLeft
-        font.family: Theme.family
         font.pixelSize: Math.round(Theme.bodySize * Theme.textScale)
-        color: Theme.ink
-        selectionColor: Theme.match
-        selectedTextColor: Theme.ink
-        // Selecting with the mouse copies the selection by itself, so it is off while a secret is shown.
-        selectByMouse: !eye.revealed
         clip: contentWidth > width
-        echoMode: field.secure && !eye.revealed ? TextInput.Password : TextInput.Normal
-        passwordCharacter: "\u2022"
-        passwordMaskDelay: 0
         inputMethodHints: field.inputMethodHints | (field.secure ? Qt.ImhHiddenText | Qt.ImhSensitiveData : 0)
-        cursorDelegate: Caret {}
-        Accessible.role: Accessible.EditableText
-        Accessible.name: field.label
-        Accessible.passwordEdit: field.secure
         Privacy.covered: field.confidential || field.secure
-        Component.onCompleted: {
-            text = field.outlet.text;
-            if (field.secure) {
-                SecureText.hideFromAccessibility(input);
-            }
-        }
-        onTextChanged: field.outlet.text = text
         onActiveFocusChanged: field.showStart()
         onContentSizeChanged: field.showStart()
         onWidthChanged: field.showStart()
@@ -121,14 +88,6 @@ Item {
                 field.next.edit(Qt.TabFocusReason);
             }
         }
-        onPressed: (event) => {
-            if (event.button === Qt.RightButton) {
-                editMenu.show(event.x, event.y);
-            }
-        }
-        onPressAndHold: (event) => editMenu.show(event.x, event.y)
-        Keys.onPressed: (event) => event.accepted = field.secure && eye.isCopying(event)
-        Keys.onMenuPressed: editMenu.show(cursorRectangle.x, cursorRectangle.y)
 
         Label {
             visible: input.text === "" && input.preeditText === ""
@@ -167,13 +126,6 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: Theme.rowEnd - 10
         anchors.verticalCenter: input.verticalCenter
-    }
-    EditMenu {
-        id: editMenu
-
-        field: input
-        secret: field.secure
-        secretSwitch: field.secure ? eye : null
     }
     FocusRing {
         anchors.fill: parent

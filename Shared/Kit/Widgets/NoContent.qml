@@ -9,21 +9,18 @@ Item {
 
     property string picture
     property string text
-    property string secondText
     property ImageOutlet imageOutlet: null
     property LabelOutlet labelOutlet: null
-    property LabelOutlet secondLabelOutlet: null
     property LabelOutlet headlineOutlet: null
     property string actionText
     signal action()
 
     readonly property string headline: headlineOutlet !== null && !headlineOutlet.hidden ? headlineOutlet.text : ""
     readonly property string lines: labelOutlet !== null ? labelOutlet.text : text
-    readonly property string secondLines: secondLabelOutlet !== null ? secondLabelOutlet.text : secondText
 
     visible: (labelOutlet === null || !labelOutlet.hidden) && (imageOutlet === null || !imageOutlet.hidden)
     Accessible.role: Accessible.StaticText
-    Accessible.name: (headline === "" ? "" : headline + "\n") + lines + (secondLines === "" ? "" : "\n" + secondLines)
+    Accessible.name: (headline === "" ? "" : headline + "\n") + lines
 
     Loader {
         id: body

@@ -41,16 +41,6 @@ Item {
             wrapMode: Text.Wrap
             Accessible.ignored: true
         }
-        Label {
-            visible: text !== "" && (body.view.secondLabelOutlet === null || !body.view.secondLabelOutlet.hidden)
-            text: body.view.secondLines
-            size: Theme.stateSize
-            color: Theme.ink2
-            width: parent.width
-            horizontalAlignment: Text.AlignHCenter
-            wrapMode: Text.Wrap
-            Accessible.ignored: true
-        }
         PlainButton {
             visible: text !== ""
             text: body.view.actionText

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Lodestar.Kit
 
 /// Replaces a screen's bar while the screen's list is searched.
@@ -37,40 +36,19 @@ Item {
             anchors.leftMargin: 10
             anchors.verticalCenter: parent.verticalCenter
         }
-        T.TextField {
+        InputField {
             id: field
 
+            label: qsTr("Search")
             anchors.left: glass.right
             anchors.leftMargin: 8
             anchors.right: clearButton.left
             height: parent.height
             topPadding: Appearance.textDrop(font.pixelSize, height, Screen.devicePixelRatio)
             verticalAlignment: TextInput.AlignTop
-            horizontalAlignment: TextInput.AlignLeft
-            font.family: Theme.family
             font.pixelSize: Math.round(Theme.bodySize * Theme.barScale)
-            color: Theme.ink
-            selectionColor: Theme.match
-            selectedTextColor: Theme.ink
-            selectByMouse: true
-            cursorDelegate: Caret {}
-            inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
-            Accessible.role: Accessible.EditableText
-            Accessible.name: qsTr("Search")
             Keys.onEscapePressed: bar.cancelled()
-            Keys.onMenuPressed: editMenu.show(cursorRectangle.x, cursorRectangle.y)
-            onPressed: (event) => {
-                if (event.button === Qt.RightButton) {
-                    editMenu.show(event.x, event.y);
-                }
-            }
-            onPressAndHold: (event) => editMenu.show(event.x, event.y)
 
-            EditMenu {
-                id: editMenu
-
-                field: field
-            }
             Label {
                 id: placeholderLabel
 

@@ -1,12 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import QtQuick.Templates as T
 import Lodestar.Kit
 
 /// The sheet that slides up over a screen: a bar of 44 on top of the content, whose height the presentation gives. Only
 /// Cancel or Escape leads out; the screen behind takes no press. The content's controller lives as long as the sheet
 /// can be seen, even if the presentation ends earlier.
-T.Popup {
+OverlayPopup {
     id: sheet
 
     /// The screen that presents the sheet. The screen steps back while the sheet is up, if the presentation wants it.
@@ -28,12 +27,6 @@ T.Popup {
     /// 1 is up, 0 is away.
     property real slide: 0
 
-    parent: T.Overlay.overlay
-    modal: true
-    focus: true
-    dim: true
-    closePolicy: T.Popup.NoAutoClose
-    padding: 0
     width: parent !== null ? Math.min(parent.width, Theme.sheetMaxWidth) : 0
     height: Math.min(barHeight + bodyHeight + extraHeight, maximumHeight)
     x: parent !== null ? Math.round((parent.width - width) / 2) : 0
@@ -70,10 +63,6 @@ T.Popup {
     onClosed: {
         host.controller = null;
         keyboard.giveBack();
-    }
-
-    readonly property KeyboardReturn keyboard: KeyboardReturn {
-        inside: sheet.parent
     }
 
     Connections {
@@ -128,14 +117,6 @@ T.Popup {
             easing.type: Easing.OutCubic
         }
     }
-    T.Overlay.modal: Rectangle {
-        color: Theme.scrim
-
-        Behavior on opacity {
-            NumberAnimation { duration: Theme.sheetIn }
-        }
-    }
-
     background: Item {
         BoxShadow {
             anchors.fill: parent
@@ -164,7 +145,6 @@ T.Popup {
             id: cancelButton
 
             text: sheet.sheetContent !== null ? sheet.sheetContent.cancelText : ""
-            enabled: sheet.sheetContent !== null && sheet.sheetContent.cancelEnabled
             scaleFactor: Theme.barScale
             leftPadding: 20
             rightPadding: 20
@@ -223,7 +203,7 @@ T.Popup {
     }
 
     function cancel() {
-        if (sheetContent !== null && sheetContent.cancelEnabled) {
+        if (sheetContent !== null) {
             sheetContent.cancelled();
         }
     }

@@ -11,8 +11,6 @@ FocusScope {
     property string cancelText: qsTr("Cancel")
     property string saveText: qsTr("Save")
     property bool saveEnabled: true
-    /// Whether Cancel, and with it Escape, can be used now.
-    property bool cancelEnabled: true
     signal cancelled()
     signal saved()
     /// The first field, which gets the keyboard once the sheet is up.
