@@ -42,11 +42,6 @@ private:
     Log& m_log;
 };
 
-Log take(Log& log)
-{
-    return std::exchange(log, {});
-}
-
 class ControllersTest : public testing::Test
 {
 protected:
@@ -56,29 +51,33 @@ protected:
         while (MainQueue::shared().drain()) {
         }
     }
+    std::shared_ptr<Screen> screen(const char* name) { return makeController<Screen>(name, log); }
+    Log take() { return std::exchange(log, {}); }
+    /// The log as soon as the main queue's blocks have written so many lines.
+    Log takeLater(std::size_t lines)
+    {
+        EXPECT_TRUE(MainQueue::shared().runUntil([&] { return log.size() >= lines; }, std::chrono::seconds(5)));
+        return take();
+    }
+
     Log log;
 };
-
-bool drained(const std::function<bool()>& predicate)
-{
-    return MainQueue::shared().runUntil(predicate, std::chrono::seconds(5));
-}
 
 } // namespace
 
 TEST_F(ControllersTest, NavigationLoadsOnceAndAlternatesAppearances)
 {
-    auto root = makeController<Screen>("root", log);
+    auto root = screen("root");
     auto navigation = makeController<NavigationController>(root);
-    EXPECT_THAT(take(log), IsEmpty());
+    EXPECT_THAT(take(), IsEmpty());
     navigation->beginAppearance();
     navigation->beginAppearance();
-    EXPECT_THAT(take(log), ElementsAre("root load", "root appear"));
+    EXPECT_THAT(take(), ElementsAre("root load", "root appear"));
 
     root->setTitle("Corvels");
-    auto next = makeController<Screen>("next", log);
+    auto next = screen("next");
     navigation->pushViewController(next, Animated::No);
-    EXPECT_THAT(take(log), ElementsAre("next load", "root disappear", "next appear"));
+    EXPECT_THAT(take(), ElementsAre("next load", "root disappear", "next appear"));
     EXPECT_TRUE(next->canGoBack());
     EXPECT_FALSE(root->canGoBack());
     EXPECT_EQ(next->backButtonTitle(), "Corvels");
@@ -87,12 +86,12 @@ TEST_F(ControllersTest, NavigationLoadsOnceAndAlternatesAppearances)
 
     navigation->endAppearance();
     navigation->endAppearance();
-    EXPECT_THAT(take(log), ElementsAre("next disappear"));
+    EXPECT_THAT(take(), ElementsAre("next disappear"));
     navigation->beginAppearance();
     root->goBack();
     EXPECT_EQ(navigation->depth(), 2);
     next->goBack();
-    EXPECT_THAT(take(log), ElementsAre("next appear", "next disappear", "root appear"));
+    EXPECT_THAT(take(), ElementsAre("next appear", "next disappear", "root appear"));
     EXPECT_EQ(next->navigationController(), nullptr);
     EXPECT_EQ(navigation->popViewController(Animated::No), nullptr);
     EXPECT_EQ(navigation->topViewController(), root.get());
@@ -100,50 +99,48 @@ TEST_F(ControllersTest, NavigationLoadsOnceAndAlternatesAppearances)
 
 TEST_F(ControllersTest, AScreenMayPushFromItsOwnAppearance)
 {
-    auto root = makeController<Screen>("root", log);
+    auto root = screen("root");
     auto navigation = makeController<NavigationController>(root);
-    root->whenAppeared = [&] { navigation->pushViewController(makeController<Screen>("next", log), Animated::No); };
+    root->whenAppeared = [&] { navigation->pushViewController(screen("next"), Animated::No); };
     navigation->beginAppearance();
-    EXPECT_THAT(take(log), ElementsAre("root load", "root appear", "next load", "root disappear", "next appear"));
+    EXPECT_THAT(take(), ElementsAre("root load", "root appear", "next load", "root disappear", "next appear"));
 }
 
 TEST_F(ControllersTest, APoppedScreenOutlivesTheCallThatPopsItAndGoesOnTheMainThread)
 {
-    auto navigation = makeController<NavigationController>(makeController<Screen>("root", log));
-    std::shared_ptr<ViewController> next = makeController<Screen>("next", log);
+    auto navigation = makeController<NavigationController>(screen("root"));
+    std::shared_ptr<ViewController> next = screen("next");
     ViewController* bare = next.get();
     navigation->pushViewController(std::move(next), Animated::No);
-    take(log);
+    take();
     bare->goBack();
     EXPECT_THAT(log, IsEmpty());
     EXPECT_FALSE(bare->canGoBack());
-    EXPECT_TRUE(drained([&] { return !log.empty(); }));
-    EXPECT_THAT(take(log), ElementsAre("next gone"));
+    EXPECT_THAT(takeLater(1), ElementsAre("next gone"));
 
-    std::shared_ptr<ViewController> last = makeController<Screen>("last", log);
+    std::shared_ptr<ViewController> last = screen("last");
     std::thread([held = std::move(last)]() mutable { held.reset(); }).join();
     EXPECT_THAT(log, IsEmpty());
-    EXPECT_TRUE(drained([&] { return !log.empty(); }));
-    EXPECT_THAT(take(log), ElementsAre("last gone"));
+    EXPECT_THAT(takeLater(1), ElementsAre("last gone"));
 }
 
 TEST_F(ControllersTest, TabsLoadWhenFirstShownAndOnlyTheSelectedOneAppears)
 {
-    auto first = makeController<Screen>("first", log);
-    auto second = makeController<Screen>("second", log);
+    auto first = screen("first");
+    auto second = screen("second");
     auto navigation = makeController<NavigationController>(first);
     {
         auto tabs = makeController<TabBarController>(
             std::vector<TabBarItem>{{"One", "tab_one", navigation}, {"Two", "tab_two", second}});
         tabs->beginAppearance();
-        EXPECT_THAT(take(log), ElementsAre("first load", "first appear"));
+        EXPECT_THAT(take(), ElementsAre("first load", "first appear"));
         EXPECT_EQ(first->tabBarController(), tabs.get());
         tabs->setSelectedIndex(1);
         tabs->setSelectedIndex(1);
         tabs->setSelectedIndex(2);
-        EXPECT_THAT(take(log), ElementsAre("first disappear", "second load", "second appear"));
+        EXPECT_THAT(take(), ElementsAre("first disappear", "second load", "second appear"));
         tabs->setSelectedIndex(0);
-        EXPECT_THAT(take(log), ElementsAre("second disappear", "first appear"));
+        EXPECT_THAT(take(), ElementsAre("second disappear", "first appear"));
         EXPECT_EQ(tabs->titleAt(1), "Two");
         EXPECT_EQ(tabs->imageNameAt(5), "");
     }
@@ -152,23 +149,21 @@ TEST_F(ControllersTest, TabsLoadWhenFirstShownAndOnlyTheSelectedOneAppears)
 
 TEST_F(ControllersTest, ASheetIsReplacedResizedAndReleasedAfterItsDismissal)
 {
-    auto screen = makeController<Screen>("screen", log);
-    screen->resizeSemiView(5);
-    screen->presentSemiViewController(makeController<Screen>("one", log), {false, 224});
-    screen->presentSemiViewController(makeController<Screen>("two", log), {true, 100});
-    EXPECT_THAT(take(log), ElementsAre("one load", "one appear", "one disappear", "two load", "two appear"));
-    EXPECT_TRUE(screen->semiModal()->pushParentBack());
+    auto below = screen("screen");
+    below->resizeSemiView(5);
+    below->presentSemiViewController(screen("one"), {false, 224});
+    below->presentSemiViewController(screen("two"), {true, 100});
+    EXPECT_THAT(take(), ElementsAre("one load", "one appear", "one disappear", "two load", "two appear"));
     int told = 0;
-    QObject::connect(screen->semiModal(), &SemiModalPresentation::heightChanged, [&] { ++told; });
-    screen->resizeSemiView(266);
-    screen->resizeSemiView(266);
+    QObject::connect(below->semiModal(), &SemiModalPresentation::heightChanged, [&] { ++told; });
+    below->resizeSemiView(266);
+    below->resizeSemiView(266);
     EXPECT_EQ(told, 1);
-    EXPECT_EQ(screen->semiModal()->height(), 266);
-    screen->dismissSemiModalView();
-    screen->dismissSemiModalView();
-    EXPECT_EQ(screen->semiModal(), nullptr);
-    EXPECT_TRUE(drained([&] { return log.size() == 3; }));
-    EXPECT_THAT(take(log), ElementsAre("two disappear", "one gone", "two gone"));
+    EXPECT_EQ(below->semiModal()->height(), 266);
+    below->dismissSemiModalView();
+    below->dismissSemiModalView();
+    EXPECT_EQ(below->semiModal(), nullptr);
+    EXPECT_THAT(takeLater(3), ElementsAre("two disappear", "one gone", "two gone"));
 }
 
 TEST_F(ControllersTest, StoryboardMakesAFreshControllerWithItsScene)
@@ -177,21 +172,16 @@ TEST_F(ControllersTest, StoryboardMakesAFreshControllerWithItsScene)
     const Scene<> plain{"plain"};
     const Scene<std::string> named{"named"};
     storyboard.registerScene(
-        plain, [&](NoInput) { return makeController<Screen>("plain", log); }, QUrl("qrc:/screen.qml"));
-    storyboard.registerScene(named,
-                             [&](const std::string& name) {
-                                 log.push_back(name);
-                                 return makeController<Screen>(name.c_str(), log);
-                             },
-                             {});
+        plain, [&](NoInput) { return screen("plain"); }, QUrl("qrc:/screen.qml"));
+    storyboard.registerScene(named, [&](const std::string& name) { return screen(name.c_str()); }, {});
     const auto one = storyboard.instantiate<Screen>(plain);
     ASSERT_NE(one, nullptr);
     EXPECT_EQ(one->scene(), QUrl("qrc:/screen.qml"));
     EXPECT_NE(one, storyboard.instantiateViewController(plain));
     EXPECT_EQ(storyboard.instantiate<NavigationController>(plain), nullptr);
-    log.clear();
-    const auto other = storyboard.instantiateViewController(named, "given");
-    EXPECT_THAT(log, ElementsAre("given"));
+    take();
+    storyboard.instantiateViewController(named, "given")->beginAppearance();
+    EXPECT_THAT(take(), ElementsAre("given load", "given appear", "given gone"));
     EXPECT_DEATH(storyboard.instantiateViewController(Scene<>{"other"}), "no scene other");
     EXPECT_THROW(storyboard.instantiateViewController(Scene<>{"named"}), std::bad_any_cast);
 }

@@ -12,6 +12,7 @@
 #include <QQmlExpression>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 
 namespace lodestar
@@ -41,17 +42,21 @@ protected:
     ThemeTest()
     {
         installKit(m_engine);
-        QQmlComponent component(&m_engine);
-        component.setData("import QtQml; import Lodestar.Kit; QtObject { readonly property QtObject theme: Theme }",
-                          {});
-        m_holder.reset(component.create());
-        EXPECT_NE(m_holder, nullptr) << component.errorString().toStdString();
+        m_holder = make("QtObject { readonly property QtObject theme: Theme }");
     }
     ~ThemeTest() override
     {
         Appearance::shared().overrideDark({});
         Appearance::shared().overrideTextScale({});
         Appearance::shared().overrideMirrored({});
+    }
+    std::unique_ptr<QObject> make(const QByteArray& qml)
+    {
+        QQmlComponent component(&m_engine);
+        component.setData("import QtQuick; import Lodestar.Kit; " + qml, QUrl(QStringLiteral("qrc:/kit/Made.qml")));
+        std::unique_ptr<QObject> made(component.create());
+        EXPECT_NE(made, nullptr) << component.errorString().toStdString();
+        return made;
     }
     QVariant theme(const char* property) const
     {
@@ -172,6 +177,8 @@ TEST_F(ThemeTest, TextsKeepTheirContrastInBothAppearances)
         {"lightGreyInk", "systemLightGrey", 9.8, 6.6},
         {"ink", "match", 13.1, 9.9},
         {"ink", "pressed", 12, 12},
+        {"hovered", "card", 1.2, 1.1},
+        {"hovered", "ground", 1.1, 1.2},
         {"chartOrange", "card", 3.0, 8.4},
         {"chartBlue", "card", 11.6, 12.7},
         {"tesselBlue", "tesselLightGreen", 4.5, 4.5},
@@ -181,15 +188,6 @@ TEST_F(ThemeTest, TextsKeepTheirContrastInBothAppearances)
         for (const Pair& pair : pairs) {
             EXPECT_GE(contrast(color(pair.text), color(pair.on)) + 0.05, dark ? pair.inDark : pair.inLight)
                 << pair.text << " on " << pair.on << (dark ? ", dark" : ", light");
-        }
-        // What the pointer is over is neither the card nor the ground beside it.
-        for (const char* beside : {"card", "ground"}) {
-            const QColor hovered = color("hovered");
-            const QColor other = color(beside);
-            EXPECT_GE(std::abs(hovered.red() - other.red()) + std::abs(hovered.green() - other.green()) +
-                          std::abs(hovered.blue() - other.blue()),
-                      20)
-                << beside;
         }
     }
 }
@@ -217,32 +215,28 @@ TEST_F(ThemeTest, ScaleStopsWhereItShouldAndDirectionFollows)
 TEST_F(ThemeTest, CapitalsAreCentredInTheirLineByPixels)
 {
     for (const int size : {13, 17, 34}) {
-        QQuickView view;
-        installKit(*view.engine());
-        QQmlComponent component(view.engine());
-        component.setData(
-            QStringLiteral("import QtQuick; import Lodestar.Kit; Rectangle { color: \"white\"; width: 60; "
-                           "height: label.height; Label { id: label; text: \"H\"; size: %1; "
-                           "color: \"black\" } }")
-                .arg(size)
-                .toUtf8(),
-            QUrl());
-        view.setContent({}, &component, component.create());
-        view.show();
-        ASSERT_TRUE(waitFor([&] { return view.isExposed(); }));
-        const QImage image = view.grabWindow();
-        int top = -1;
-        int bottom = -1;
-        for (int y = 0; y < image.height(); ++y) {
-            for (int x = 0; x < image.width(); ++x) {
-                if (qGray(image.pixel(x, y)) < 128) {
-                    top = top < 0 ? y : top;
-                    bottom = y;
-                }
-            }
+        const auto window =
+            make(QStringLiteral("Window { visible: true; color: \"white\"; width: 60; height: label.height; "
+                                "Label { id: label; text: \"H\"; size: %1; color: \"black\" } }")
+                     .arg(size)
+                     .toUtf8());
+        auto* const shown = qobject_cast<QQuickWindow*>(window.get());
+        ASSERT_TRUE(shown != nullptr && waitFor([&] { return shown->isExposed(); }));
+        const QImage image = shown->grabWindow();
+        const auto hasInk = [&](int y) {
+            const auto* const line = reinterpret_cast<const QRgb*>(image.constScanLine(y));
+            return std::any_of(line, line + image.width(), [](QRgb pixel) { return qGray(pixel) < 128; });
+        };
+        int above = 0;
+        int below = 0;
+        while (above < image.height() && !hasInk(above)) {
+            ++above;
         }
-        ASSERT_GE(top, 0) << size;
-        EXPECT_NEAR(top, image.height() - 1 - bottom, 1) << size;
+        while (below < image.height() && !hasInk(image.height() - 1 - below)) {
+            ++below;
+        }
+        ASSERT_LT(above, image.height()) << size;
+        EXPECT_NEAR(above, below, 1) << size;
     }
 }
 
@@ -258,10 +252,8 @@ TEST_F(ThemeTest, EveryDrawingIsReadAndTinted)
         const QImage image = provider.requestImage(name + "/ff0000", &size, {48, 48});
         ASSERT_EQ(image.size(), QSize(48, 48)) << name.toStdString();
         int painted = 0;
-        for (int y = 0; y < 48; ++y) {
-            for (int x = 0; x < 48; ++x) {
-                painted += qAlpha(image.pixel(x, y)) > 40 ? 1 : 0;
-            }
+        for (int pixel = 0; pixel < 48 * 48; ++pixel) {
+            painted += qAlpha(image.pixel(pixel % 48, pixel / 48)) > 40 ? 1 : 0;
         }
         EXPECT_GT(painted, 20) << name.toStdString();
         ++drawings;
@@ -275,25 +267,17 @@ TEST_F(ThemeTest, EveryDrawingIsReadAndTinted)
 
 TEST_F(ThemeTest, WhatIsNotSeenIsNeitherDrawnNorMade)
 {
-    QQmlComponent component(&m_engine);
-    component.setData(R"(
-        import QtQuick
-        import Lodestar.Kit
+    const auto page = make(R"(
         Item {
             id: page
             property bool shown: false
             readonly property url source: icon.source
             readonly property Item made: (nothing.children[0] as Loader).item
-            readonly property string spoken: nothing.Accessible.name
             Item { visible: page.shown; Icon { id: icon; name: "search" } }
-            NoContent { id: nothing; visible: page.shown; text: "Nothing"; secondText: "at all" }
-        })",
-                      QUrl(QStringLiteral("qrc:/kit/Seen.qml")));
-    const std::unique_ptr<QObject> page(component.create());
-    ASSERT_NE(page, nullptr) << component.errorString().toStdString();
+            NoContent { id: nothing; visible: page.shown; text: "Nothing" }
+        })");
     EXPECT_TRUE(page->property("source").toUrl().isEmpty());
     EXPECT_EQ(page->property("made").value<QObject*>(), nullptr);
-    EXPECT_EQ(page->property("spoken").toString(), "Nothing\nat all");
     page->setProperty("shown", true);
     EXPECT_EQ(page->property("source").toUrl().scheme(), "image");
     const QObject* const made = page->property("made").value<QObject*>();

@@ -41,13 +41,29 @@ protected:
     {
         return window.find("table")->property("flickable").value<QQuickItem*>();
     }
-    static bool hasRing(KitWindow& window, int index)
+    static QVariant ofSwipe(KitWindow& window, int index, const char* property)
     {
-        return row(window, index)->property("swipe").value<QQuickItem*>()->property("focusShown").toBool();
+        return row(window, index)->property("swipe").value<QQuickItem*>()->property(property);
     }
-    static double reveal(KitWindow& window, int index)
+    static bool hasRing(KitWindow& window, int index) { return ofSwipe(window, index, "focusShown").toBool(); }
+    /// Whether the row settles so many points aside.
+    static bool settles(KitWindow& window, int index, double aside)
     {
-        return row(window, index)->property("swipe").value<QQuickItem*>()->property("reveal").toDouble();
+        return waitFor([&] { return ofSwipe(window, index, "reveal").toDouble() == aside; });
+    }
+    static QPointF place(KitWindow& window, const char* scene) { return window.find(scene)->mapToScene({0, 0}); }
+    static bool comesTo(KitWindow& window, const char* scene, QPointF at)
+    {
+        return waitFor([&] { return window.find(scene) != nullptr && place(window, scene) == at; });
+    }
+    /// Whether the scene goes, and its controller only after it.
+    static bool goesBefore(const std::weak_ptr<GalleryController>& controller, QQuickItem* scene,
+                           const std::function<void()>& leave)
+    {
+        bool sceneWentFirst = false;
+        QObject::connect(scene, &QObject::destroyed, scene, [&] { sceneWentFirst = !controller.expired(); });
+        leave();
+        return waitFor([&] { return controller.expired(); }) && sceneWentFirst;
     }
 };
 
@@ -58,7 +74,7 @@ TEST_F(WidgetsTest, ARowSwipesByMouseAndFingerOneAtATimeAndStaysOpenOverAReload)
     KitWindow window(list);
     const QPoint first = KitWindow::centre(row(window, 0));
     window.drag(first, {-130, 0});
-    EXPECT_TRUE(waitFor([&] { return reveal(window, 0) == 144; }));
+    EXPECT_TRUE(settles(window, 0, 144));
     EXPECT_THAT(list->selected, IsEmpty());
 
     list->rows[0].push_back({"new", "operating", Role::State::Good, "", true});
@@ -66,16 +82,16 @@ TEST_F(WidgetsTest, ARowSwipesByMouseAndFingerOneAtATimeAndStaysOpenOverAReload)
     list->configured.clear();
     list->tableView()->reloadData();
     EXPECT_TRUE(waitFor([&] { return list->configured.size() >= 8; }));
-    EXPECT_EQ(reveal(window, 0), 144);
+    EXPECT_TRUE(settles(window, 0, 144));
     // Every visible row once: eight rows, one of them new, one a header.
     EXPECT_EQ(list->configured.size(), 8U);
 
     const QPoint second = KitWindow::centre(row(window, 1));
     window.swipe(second, {120, 0});
-    EXPECT_TRUE(waitFor([&] { return reveal(window, 1) == -72 && reveal(window, 0) == 0; }));
+    EXPECT_TRUE(settles(window, 1, -72) && settles(window, 0, 0));
     // A tap beside the buttons closes and chooses nothing; a second one chooses.
     window.click(second);
-    EXPECT_TRUE(waitFor([&] { return reveal(window, 1) == 0; }));
+    EXPECT_TRUE(settles(window, 1, 0));
     EXPECT_THAT(list->selected, IsEmpty());
     window.click(second);
     EXPECT_THAT(list->selected, ElementsAre(IndexPath{0, 1}));
@@ -84,19 +100,40 @@ TEST_F(WidgetsTest, ARowSwipesByMouseAndFingerOneAtATimeAndStaysOpenOverAReload)
     for (const QPoint beside : {first, QPoint(195, 740)}) {
         list->selected.clear();
         window.drag(second, {-130, 0});
-        EXPECT_TRUE(waitFor([&] { return reveal(window, 1) == 144; }));
+        EXPECT_TRUE(settles(window, 1, 144));
         window.click(beside);
-        EXPECT_TRUE(waitFor([&] { return reveal(window, 1) == 0; }));
+        EXPECT_TRUE(settles(window, 1, 0));
         EXPECT_THAT(list->selected, IsEmpty());
     }
 
     // A short, slow swipe falls back; up and down is the list's.
     window.swipe(first, {-40, 0}, 40);
-    EXPECT_TRUE(waitFor([&] { return reveal(window, 0) == 0; }));
+    EXPECT_TRUE(settles(window, 0, 0));
     window.drag(first, {-130, 0});
-    EXPECT_TRUE(waitFor([&] { return reveal(window, 0) == 144; }));
+    EXPECT_TRUE(settles(window, 0, 144));
     window.swipe(second, {0, -60});
-    EXPECT_TRUE(waitFor([&] { return reveal(window, 0) == 0; }));
+    EXPECT_TRUE(settles(window, 0, 0));
+}
+
+TEST_F(WidgetsTest, AQuickFlickStaysATapOrAScrollAndOnlyASidewaysOneSwipes)
+{
+    KitWindow window(list, {390, 300});
+    const QPoint at = KitWindow::centre(row(window, 1));
+    const auto scrolled = [&] { return flickable(window)->property("contentY").toDouble(); };
+    const double start = scrolled();
+    window.swipe(at, {-7, 5}, 1, 0);
+    EXPECT_THAT(list->selected, ElementsAre(IndexPath{0, 1}));
+    EXPECT_EQ(scrolled(), start);
+    EXPECT_TRUE(settles(window, 1, 0));
+    window.swipe(at, {-20, -80}, 2, 0);
+    EXPECT_TRUE(waitFor([&] { return scrolled() > start + 30 && !flickable(window)->property("moving").toBool(); }));
+    EXPECT_EQ(list->selected.size(), 1U);
+    EXPECT_TRUE(settles(window, 1, 0));
+    flickable(window)->setProperty("contentY", start);
+    window.swipe(at, {-50, 12}, 2, 0);
+    EXPECT_TRUE(settles(window, 1, 144));
+    EXPECT_EQ(scrolled(), start);
+    EXPECT_EQ(list->selected.size(), 1U);
 }
 
 TEST_F(WidgetsTest, SwipeButtonsReportTheirIndexFromTheOuterEdgeAndSwapSides)
@@ -105,17 +142,16 @@ TEST_F(WidgetsTest, SwipeButtonsReportTheirIndexFromTheOuterEdgeAndSwapSides)
         list = gallery("GalleryScene");
         Appearance::shared().overrideMirrored(mirrored);
         KitWindow window(list);
-        Appearance::shared().overrideMirrored(mirrored);
         const QPoint middle = KitWindow::centre(row(window, 1));
         window.swipe(middle, {mirrored ? 130 : -130, 0});
-        ASSERT_TRUE(waitFor([&] { return reveal(window, 1) == 144; }));
+        ASSERT_TRUE(settles(window, 1, 144));
         const int edge = mirrored ? 12 : 378;
         window.click({edge + (mirrored ? 100 : -100), middle.y()});
         EXPECT_THAT(list->swiped, ElementsAre(1));
-        ASSERT_TRUE(waitFor([&] { return reveal(window, 1) == 0; }));
+        ASSERT_TRUE(settles(window, 1, 0));
 
         window.swipe(middle, {mirrored ? 130 : -130, 0});
-        ASSERT_TRUE(waitFor([&] { return reveal(window, 1) == 144; }));
+        ASSERT_TRUE(settles(window, 1, 144));
         window.click({edge + (mirrored ? 30 : -30), middle.y()});
         EXPECT_THAT(list->swiped, ElementsAre(1, 0));
         EXPECT_EQ(list->tableView()->count(), 7);
@@ -148,12 +184,12 @@ TEST_F(WidgetsTest, TheTableWorksByKeyboardAlone)
     EXPECT_EQ(list->selected.back(), (IndexPath{0, 3}));
 
     window.key(Qt::Key_Menu);
-    EXPECT_TRUE(waitFor([&] { return reveal(window, 3) == 144; }));
+    EXPECT_TRUE(settles(window, 3, 144));
     window.key(Qt::Key_Escape);
-    EXPECT_TRUE(waitFor([&] { return reveal(window, 3) == 0; }));
+    EXPECT_TRUE(settles(window, 3, 0));
     EXPECT_TRUE(window.find("table")->hasActiveFocus());
     window.key(Qt::Key_Menu);
-    EXPECT_TRUE(waitFor([&] { return reveal(window, 3) == 144; }));
+    EXPECT_TRUE(settles(window, 3, 144));
     window.key(Qt::Key_Return);
     EXPECT_THAT(list->swiped, ElementsAre(1)); // not the outermost, which deletes
     EXPECT_TRUE(hasRing(window, 3));
@@ -206,18 +242,13 @@ TEST_F(WidgetsTest, APullUncoversTheSearchFieldAndAFurtherOneRefreshes)
 TEST_F(WidgetsTest, ASheetDocksItsBarFollowsItsHeightAndKeepsItsContentUntilItHasSlidOut)
 {
     KitWindow window(list, {800, 700});
-    std::weak_ptr<GalleryController> weak;
-    {
-        auto editor = gallery("GallerySheet");
-        weak = editor;
-        list->presentSemiViewController(editor, {false, 224});
-    }
-    ASSERT_TRUE(waitFor([&] { return window.find("GallerySheet") != nullptr; }));
+    list->presentSemiViewController(gallery("GallerySheet"), {false, 224});
+    const auto weak = std::weak_ptr(std::static_pointer_cast<GalleryController>(list->semiModal()->sharedController()));
+    ASSERT_TRUE(comesTo(window, "GallerySheet", {120, 476}));
     QQuickItem* content = window.find("GallerySheet");
-    EXPECT_TRUE(waitFor([&] { return content->mapToScene({0, 0}) == QPointF(120, 476); }));
     EXPECT_EQ(content->width(), 560);
     list->resizeSemiView(266);
-    EXPECT_TRUE(waitFor([&] { return content->mapToScene({0, 0}) == QPointF(120, 434); }));
+    EXPECT_TRUE(comesTo(window, "GallerySheet", {120, 434}));
 
     // The first field has the keyboard; typing reaches the outlet, Return goes on, Escape is Cancel.
     EXPECT_TRUE(waitFor([&] {
@@ -241,20 +272,12 @@ TEST_F(WidgetsTest, ASheetDocksItsBarFollowsItsHeightAndKeepsItsContentUntilItHa
     window.key(Qt::Key_Escape);
     EXPECT_EQ(weak.lock()->cancelled, 1);
 
-    const QPointer<QQuickItem> scene(content);
-    bool sceneWentFirst = false;
-    QObject::connect(content, &QObject::destroyed, content, [&] { sceneWentFirst = !weak.expired(); });
-    list->dismissSemiModalView();
-    EXPECT_FALSE(weak.expired());
-    EXPECT_TRUE(waitFor([&] { return weak.expired(); }));
-    EXPECT_TRUE(scene.isNull());
-    EXPECT_TRUE(sceneWentFirst);
-
-    list->presentSemiViewController(gallery("GallerySheet"), {false, 224});
-    EXPECT_TRUE(waitFor([&] {
-        QQuickItem* again = window.find("GallerySheet");
-        return again != nullptr && again->mapToScene({0, 0}) == QPointF(120, 476);
+    EXPECT_TRUE(goesBefore(weak, content, [&] {
+        list->dismissSemiModalView();
+        EXPECT_FALSE(weak.expired());
     }));
+    list->presentSemiViewController(gallery("GallerySheet"), {false, 224});
+    EXPECT_TRUE(comesTo(window, "GallerySheet", {120, 476}));
 }
 
 TEST_F(WidgetsTest, NavigationSlidesItsScreensAndEveryWayBackPops)
@@ -279,23 +302,15 @@ TEST_F(WidgetsTest, NavigationSlidesItsScreensAndEveryWayBackPops)
         },
     };
     for (const auto& goBack : ways) {
-        std::weak_ptr<GalleryController> weak;
-        {
-            auto detail = gallery("GalleryDetail");
-            weak = detail;
-            navigation->pushViewController(detail, Animated::Yes);
-        }
-        QQuickItem* scene = window.find("GalleryDetail");
-        ASSERT_NE(scene, nullptr);
-        EXPECT_TRUE(waitFor([&] {
-            return scene->mapToScene({0, 0}) == QPointF(0, 0) && !window.find("GalleryScene")->isVisible();
+        auto detail = gallery("GalleryDetail");
+        const std::weak_ptr weak(detail);
+        navigation->pushViewController(std::move(detail), Animated::Yes);
+        ASSERT_TRUE(comesTo(window, "GalleryDetail", {0, 0}));
+        EXPECT_TRUE(waitFor([&] { return !window.find("GalleryScene")->isVisible(); }));
+        EXPECT_TRUE(goesBefore(weak, window.find("GalleryDetail"), [&] {
+            goBack();
+            EXPECT_EQ(navigation->depth(), 1);
         }));
-        bool sceneWentFirst = false;
-        QObject::connect(scene, &QObject::destroyed, scene, [&] { sceneWentFirst = !weak.expired(); });
-        goBack();
-        EXPECT_EQ(navigation->depth(), 1);
-        EXPECT_TRUE(waitFor([&] { return weak.expired(); }));
-        EXPECT_TRUE(sceneWentFirst);
         EXPECT_TRUE(waitFor([&] { return window.find("GalleryScene")->isVisible(); }));
     }
     EXPECT_EQ(list->appeared, 6);
@@ -304,16 +319,14 @@ TEST_F(WidgetsTest, NavigationSlidesItsScreensAndEveryWayBackPops)
     EXPECT_EQ(navigation->depth(), 1);
 
     // The tab that is shown leads to its first screen, past those between.
-    const std::weak_ptr<GalleryController> between = [&] {
-        const auto detail = gallery("GalleryDetail");
-        navigation->pushViewController(detail, Animated::No);
-        navigation->pushViewController(gallery("GalleryDetail"), Animated::Yes);
-        return detail;
-    }();
+    auto detail = gallery("GalleryDetail");
+    const std::weak_ptr between(detail);
+    navigation->pushViewController(std::move(detail), Animated::No);
+    navigation->pushViewController(gallery("GalleryDetail"), Animated::Yes);
     window.click({98, 816});
     EXPECT_EQ(navigation->depth(), 1);
     EXPECT_TRUE(waitFor([&] { return between.expired() && window.find("GalleryDetail") == nullptr; }));
-    EXPECT_EQ(window.find("GalleryScene")->mapToScene({0, 0}), QPointF(0, 0));
+    EXPECT_EQ(place(window, "GalleryScene"), QPointF(0, 0));
     EXPECT_EQ(list->appeared, 7);
 
     window.click({292, 816});
@@ -329,7 +342,7 @@ TEST_F(WidgetsTest, AScreenThatSlidesTakesNoPressAndTheNextPushOrPopDoesNotWaitF
     const auto slid = [&] { return !window.find("lodestar::NavigationStack")->property("busy").toBool(); };
     navigation->pushViewController(gallery("GalleryDetail"), Animated::Yes);
     EXPECT_FALSE(slid());
-    EXPECT_GT(window.find("GalleryDetail")->mapToScene({0, 0}).x(), 0);
+    EXPECT_GT(place(window, "GalleryDetail").x(), 0);
     window.click({200, 200});
     window.click({26, 26});
     EXPECT_EQ(navigation->depth(), 2);
@@ -339,16 +352,16 @@ TEST_F(WidgetsTest, AScreenThatSlidesTakesNoPressAndTheNextPushOrPopDoesNotWaitF
     navigation->pushViewController(third, Animated::Yes);
     navigation->pop();
     navigation->pop();
-    EXPECT_EQ(window.find("GalleryScene")->mapToScene({0, 0}), QPointF(-130, 0));
+    EXPECT_EQ(place(window, "GalleryScene"), QPointF(-130, 0));
     EXPECT_TRUE(waitFor([&] { return slid() && window.find("GalleryDetail") == nullptr; }));
-    EXPECT_EQ(window.find("GalleryScene")->mapToScene({0, 0}), QPointF(0, 0));
+    EXPECT_EQ(place(window, "GalleryScene"), QPointF(0, 0));
     EXPECT_TRUE(window.find("GalleryScene")->hasFocus());
 
     // Without motion both stay where they are.
     Appearance::shared().overrideReducedMotion(true);
     navigation->pushViewController(gallery("GalleryDetail"), Animated::Yes);
     for (const char* scene : {"GalleryDetail", "GalleryScene"}) {
-        EXPECT_EQ(window.find(scene)->mapToScene({0, 0}), QPointF(0, 0));
+        EXPECT_EQ(place(window, scene), QPointF(0, 0));
     }
     navigation->pop();
     navigation->pushViewController(gallery("GalleryDetail"), Animated::No);

@@ -12,7 +12,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <utility>
 
 namespace lodestar
 {
@@ -87,44 +86,6 @@ double Appearance::textDrop(int pixelSize, double lineHeight, double devicePixel
     const double baseline = (lineHeight + metrics.capHeight()) / 2;
     const double ratio = std::max(1.0, devicePixelRatio);
     return std::round(baseline * ratio) / ratio - metrics.ascent();
-}
-
-void Appearance::setSystemReducedMotion(bool reduced)
-{
-    if (std::exchange(m_systemReducedMotion, reduced) != reduced) {
-        Q_EMIT changed();
-    }
-}
-
-void Appearance::setSystemTextScale(double scale)
-{
-    if (std::exchange(m_systemTextScale, scale) != scale) {
-        Q_EMIT changed();
-    }
-}
-
-void Appearance::overrideDark(std::optional<bool> dark)
-{
-    m_dark = dark;
-    Q_EMIT changed();
-}
-
-void Appearance::overrideTextScale(std::optional<double> scale)
-{
-    m_textScale = scale;
-    Q_EMIT changed();
-}
-
-void Appearance::overrideMirrored(std::optional<bool> mirrored)
-{
-    m_mirrored = mirrored;
-    Q_EMIT changed();
-}
-
-void Appearance::overrideReducedMotion(std::optional<bool> reduced)
-{
-    m_reducedMotion = reduced;
-    Q_EMIT changed();
 }
 
 bool Appearance::eventFilter(QObject* watched, QEvent* event)

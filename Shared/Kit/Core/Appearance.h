@@ -5,6 +5,7 @@
 #include <QtQml/qqmlregistration.h>
 
 #include <optional>
+#include <utility>
 
 class QJSEngine;
 class QQmlEngine;
@@ -41,13 +42,13 @@ public:
     Q_INVOKABLE double textDrop(int pixelSize, double lineHeight, double devicePixelRatio) const;
 
     /// Takes a setting of the desktop, once the desktop has told it.
-    void setSystemReducedMotion(bool reduced);
-    void setSystemTextScale(double scale);
+    void setSystemReducedMotion(bool reduced) { set(m_systemReducedMotion, reduced); }
+    void setSystemTextScale(double scale) { set(m_systemTextScale, scale); }
 
-    void overrideDark(std::optional<bool> dark);
-    void overrideTextScale(std::optional<double> scale);
-    void overrideMirrored(std::optional<bool> mirrored);
-    void overrideReducedMotion(std::optional<bool> reduced);
+    void overrideDark(std::optional<bool> dark) { set(m_dark, dark); }
+    void overrideTextScale(std::optional<double> scale) { set(m_textScale, scale); }
+    void overrideMirrored(std::optional<bool> mirrored) { set(m_mirrored, mirrored); }
+    void overrideReducedMotion(std::optional<bool> reduced) { set(m_reducedMotion, reduced); }
 
 Q_SIGNALS:
     void changed();
@@ -57,6 +58,14 @@ protected:
 
 private:
     Appearance();
+    template <typename Wish>
+    void set(Wish& wish, Wish value)
+    {
+        if (std::exchange(wish, value) != value) {
+            Q_EMIT changed();
+        }
+    }
+
     std::optional<bool> m_dark;
     std::optional<double> m_textScale;
     std::optional<bool> m_mirrored;

@@ -1,27 +1,20 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Kit/Core/Menu.h"
 
-#include <algorithm>
-#include <iterator>
 #include <utility>
 
 namespace lodestar
 {
 
-QVariantList MenuOutlet::choices() const
-{
-    QVariantList list;
-    std::transform(m_choices.begin(), m_choices.end(), std::back_inserter(list),
-                   [](const MenuChoice& choice) { return QVariant::fromValue(choice); });
-    return list;
-}
-
-void MenuOutlet::present(QString title, QString message, std::vector<MenuChoice> choices, int cancelIndex,
+void MenuOutlet::present(QString title, QString message, const std::vector<MenuChoice>& choices, int cancelIndex,
                          Handler handler)
 {
     m_title = std::move(title);
     m_message = std::move(message);
-    m_choices = std::move(choices);
+    m_choices.clear();
+    for (const MenuChoice& choice : choices) {
+        m_choices << QVariant::fromValue(choice);
+    }
     m_cancelIndex = cancelIndex;
     m_handler = std::move(handler);
     m_presented = true;
@@ -48,7 +41,7 @@ void MenuOutlet::dismiss()
 
 void MenuOutlet::choose(int index)
 {
-    if (!m_presented || index < 0 || index >= static_cast<int>(m_choices.size())) {
+    if (!m_presented || index < 0 || index >= m_choices.size()) {
         return;
     }
     const Handler handler = std::move(m_handler);

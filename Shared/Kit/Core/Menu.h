@@ -47,13 +47,14 @@ public:
     bool isPresented() const { return m_presented; }
     const QString& title() const { return m_title; }
     const QString& message() const { return m_message; }
-    QVariantList choices() const;
+    const QVariantList& choices() const { return m_choices; }
     /// The choice for Escape and for a tap beside an action sheet; -1 for none. An action sheet sets this choice apart.
     int cancelIndex() const { return m_cancelIndex; }
 
     /// Shows the menu; a menu that is up is replaced. The handler is called once, with the choice, after the menu has
     /// been taken down, so that the handler may show the next menu.
-    void present(QString title, QString message, std::vector<MenuChoice> choices, int cancelIndex, Handler handler);
+    void present(QString title, QString message, const std::vector<MenuChoice>& choices, int cancelIndex,
+                 Handler handler);
     /// Changes the message of the alert that is up; its buttons stay. Does nothing while none is up.
     void setMessage(QString message);
     /// Takes the menu down without a choice.
@@ -68,7 +69,7 @@ private:
     bool m_presented = false;
     QString m_title;
     QString m_message;
-    std::vector<MenuChoice> m_choices;
+    QVariantList m_choices; ///< of MenuChoice
     int m_cancelIndex = -1;
     Handler m_handler;
 };

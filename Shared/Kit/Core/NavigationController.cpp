@@ -57,11 +57,6 @@ std::shared_ptr<ViewController> NavigationController::popViewController(Animated
     return controller;
 }
 
-void NavigationController::pop()
-{
-    popViewController(Animated::Yes);
-}
-
 void NavigationController::popToRoot()
 {
     while (m_stack.size() > 2) {
@@ -73,16 +68,6 @@ void NavigationController::popToRoot()
         MainQueue::shared().async([keep = controller] {});
     }
     pop();
-}
-
-ViewController* NavigationController::topViewController() const
-{
-    return m_stack.back().get();
-}
-
-ViewController* NavigationController::rootViewController() const
-{
-    return m_stack.front().get();
 }
 
 const ViewController* NavigationController::screenBelow(const ViewController& screen) const
@@ -98,29 +83,9 @@ void NavigationController::goBackFrom(const ViewController& screen)
     }
 }
 
-int NavigationController::depth() const
-{
-    return static_cast<int>(m_stack.size());
-}
-
 ViewController* NavigationController::viewControllerAt(int index) const
 {
     return index >= 0 && index < depth() ? m_stack[static_cast<std::size_t>(index)].get() : nullptr;
-}
-
-void NavigationController::viewDidLoad()
-{
-    topViewController()->loadViewIfNeeded();
-}
-
-void NavigationController::viewDidAppear()
-{
-    updateAppearance();
-}
-
-void NavigationController::viewDidDisappear()
-{
-    updateAppearance();
 }
 
 void NavigationController::updateAppearance()

@@ -17,7 +17,6 @@ class NavigationController : public lodestar::ViewController
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("Made by controllers")
-    Q_PROPERTY(lodestar::ViewController* topViewController READ topViewController NOTIFY stackChanged)
     Q_PROPERTY(int depth READ depth NOTIFY stackChanged)
 
 public:
@@ -28,13 +27,13 @@ public:
     void pushViewController(std::shared_ptr<ViewController> controller, Animated animated);
     /// Takes the last screen off, but never the root. Returns the popped screen, or null.
     std::shared_ptr<ViewController> popViewController(Animated animated);
-    Q_INVOKABLE void pop();
+    Q_INVOKABLE void pop() { popViewController(Animated::Yes); }
     /// Slides the last screen away and shows the root; the screens between are removed unseen.
     void popToRoot();
 
-    ViewController* topViewController() const;
-    ViewController* rootViewController() const;
-    int depth() const;
+    ViewController* topViewController() const { return m_stack.back().get(); }
+    ViewController* rootViewController() const { return m_stack.front().get(); }
+    int depth() const { return static_cast<int>(m_stack.size()); }
     const std::vector<std::shared_ptr<ViewController>>& viewControllers() const { return m_stack; }
     Q_INVOKABLE lodestar::ViewController* viewControllerAt(int index) const;
 
@@ -48,9 +47,9 @@ Q_SIGNALS:
     void stackChanged();
 
 protected:
-    void viewDidLoad() override;
-    void viewDidAppear() override;
-    void viewDidDisappear() override;
+    void viewDidLoad() override { topViewController()->loadViewIfNeeded(); }
+    void viewDidAppear() override { updateAppearance(); }
+    void viewDidDisappear() override { updateAppearance(); }
     const ViewController* screenBelow(const ViewController& screen) const override;
     void goBackFrom(const ViewController& screen) override;
 

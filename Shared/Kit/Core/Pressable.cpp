@@ -26,14 +26,6 @@ void Pressable::setPressable(bool pressable)
     }
 }
 
-void Pressable::setText(const QString& text)
-{
-    if (m_text != text) {
-        m_text = text;
-        Q_EMIT textChanged();
-    }
-}
-
 void Pressable::mousePressEvent(QMouseEvent* event)
 {
     if (!QGuiApplication::styleHints()->setFocusOnTouchRelease()) {

@@ -13,7 +13,7 @@ class Pressable : public lodestar::AccessibleItem
 {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged FINAL)
+    Q_PROPERTY(QString text MEMBER m_text NOTIFY textChanged FINAL)
     Q_PROPERTY(bool pressed READ isPressed NOTIFY pressedChanged FINAL)
     Q_PROPERTY(bool hovered READ isHovered NOTIFY hoveredChanged FINAL)
     /// Whether the item can be pressed. If not, it takes neither presses nor the keyboard focus.
@@ -22,8 +22,6 @@ class Pressable : public lodestar::AccessibleItem
 public:
     explicit Pressable(QQuickItem* parent = nullptr);
 
-    QString text() const { return m_text; }
-    void setText(const QString& text);
     /// Whether a press is held and still on the item.
     bool isPressed() const { return m_pressed; }
     bool isHovered() const { return m_hovered; }

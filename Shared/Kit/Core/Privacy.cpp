@@ -6,14 +6,6 @@
 namespace lodestar
 {
 
-void Privacy::setCovered(bool covered)
-{
-    if (m_covered != covered) {
-        m_covered = covered;
-        Q_EMIT coveredChanged();
-    }
-}
-
 Privacy* Privacy::qmlAttachedProperties(QObject* object)
 {
     return new Privacy(object);
@@ -22,7 +14,7 @@ Privacy* Privacy::qmlAttachedProperties(QObject* object)
 bool Privacy::covers(QObject* object)
 {
     const auto* mark = qobject_cast<Privacy*>(qmlAttachedPropertiesObject<Privacy>(object, false));
-    return mark != nullptr && mark->isCovered();
+    return mark != nullptr && mark->m_covered;
 }
 
 } // namespace lodestar

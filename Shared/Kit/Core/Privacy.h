@@ -15,13 +15,10 @@ class Privacy : public QObject
     QML_ELEMENT
     QML_UNCREATABLE("Attached to items")
     QML_ATTACHED(lodestar::Privacy)
-    Q_PROPERTY(bool covered READ isCovered WRITE setCovered NOTIFY coveredChanged)
+    Q_PROPERTY(bool covered MEMBER m_covered NOTIFY coveredChanged)
 
 public:
     explicit Privacy(QObject* parent = nullptr) : QObject(parent) {}
-    bool isCovered() const { return m_covered; }
-    void setCovered(bool covered);
-
     static Privacy* qmlAttachedProperties(QObject* object);
     /// Whether the object is marked. The query attaches nothing to the object.
     static bool covers(QObject* object);

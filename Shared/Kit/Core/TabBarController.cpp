@@ -67,27 +67,6 @@ ViewController* TabBarController::controllerAt(int index) const
     return index >= 0 && index < count() ? m_items[static_cast<std::size_t>(index)].controller.get() : nullptr;
 }
 
-void TabBarController::viewDidLoad()
-{
-    if (ViewController* selected = controllerAt(m_selectedIndex)) {
-        selected->loadViewIfNeeded();
-    }
-}
-
-void TabBarController::viewDidAppear()
-{
-    if (ViewController* selected = controllerAt(m_selectedIndex)) {
-        selected->beginAppearance();
-    }
-}
-
-void TabBarController::viewDidDisappear()
-{
-    if (ViewController* selected = controllerAt(m_selectedIndex)) {
-        selected->endAppearance();
-    }
-}
-
 TabBarAppearance& TabBarAppearance::appearance()
 {
     static TabBarAppearance appearance;

@@ -17,7 +17,7 @@ struct TabBarItem {
     std::shared_ptr<ViewController> controller;
 };
 
-/// Screens side by side behind a bar of tabs. The first tab is selected at the start.
+/// Screens side by side behind a bar of tabs, at least one. The first tab is selected at the start.
 class TabBarController : public lodestar::ViewController
 {
     Q_OBJECT
@@ -46,9 +46,9 @@ Q_SIGNALS:
     void selectedIndexChanged();
 
 protected:
-    void viewDidLoad() override;
-    void viewDidAppear() override;
-    void viewDidDisappear() override;
+    void viewDidLoad() override { controllerAt(m_selectedIndex)->loadViewIfNeeded(); }
+    void viewDidAppear() override { controllerAt(m_selectedIndex)->beginAppearance(); }
+    void viewDidDisappear() override { controllerAt(m_selectedIndex)->endAppearance(); }
 
 private:
     std::vector<TabBarItem> m_items;

@@ -42,18 +42,13 @@ const QString systemFamily = QStringLiteral("Avenir Book");
 
 QFont UIFont::systemFontOfSize(double size)
 {
-    return fontWithName(systemFamily, size);
+    awaitInstalled();
+    return named(systemFamily, size);
 }
 
 QFont UIFont::boldSystemFontOfSize(double size)
 {
     return systemFontOfSize(size);
-}
-
-QFont UIFont::fontWithName(const QString& family, double size)
-{
-    awaitInstalled();
-    return named(family, size);
 }
 
 void UIFont::install()

@@ -13,7 +13,6 @@ struct UIFont {
     static QFont systemFontOfSize(double size);
     /// The same regular face: nothing in the application is set in bold.
     static QFont boldSystemFontOfSize(double size);
-    static QFont fontWithName(const QString& family, double size);
 
     /// Makes the system font the default and starts loading the faces that replace the named ones, on a thread of its
     /// own. Call when the application object exists; later calls do nothing.
