@@ -375,18 +375,22 @@ TEST_F(WidgetsTest, AlertsAndActionSheetsAnswerToPressesAndKeys)
     std::vector<int> answers;
     const auto answer = [&](int index) { answers.push_back(index); };
     const std::vector<MenuChoice> choices{{"OK", true}, {"Cancel"}};
+    const auto focused = [&] { return window.find("table")->hasActiveFocus(); };
+    window.find("table")->forceActiveFocus();
     for (MenuOutlet* menu : {list->alert(), list->actions()}) {
         answers.clear();
         menu->present("Reset?", "All goes", choices, 1, answer);
-        EXPECT_TRUE(waitFor([&] { return !window.find("table")->hasActiveFocus(); }));
+        EXPECT_TRUE(waitFor([&] { return !focused(); }));
         window.key(Qt::Key_Escape);
         EXPECT_THAT(answers, ElementsAre(1));
+        EXPECT_TRUE(waitFor(focused)) << "the keyboard goes back to where it was";
         menu->present("Reset?", "All goes", choices, 1, answer);
         EXPECT_TRUE(waitFor([&] { return window.view().activeFocusItem() != nullptr; }));
         window.click({200, 200});
         // A tap beside an action sheet cancels; an alert wants an answer.
         EXPECT_EQ(menu->isPresented(), menu == list->alert());
         menu->dismiss();
+        EXPECT_TRUE(waitFor(focused));
     }
     EXPECT_THAT(list->selected, IsEmpty());
 }
