@@ -181,6 +181,7 @@ TEST_F(URLTrustTest, KeptConnectionDoesNotHideAnotherCertificate)
     const auto delegate = connect(request);
     EXPECT_TRUE(delegate->outcome().ok());
     EXPECT_EQ(delegate->challenges, 1);
+    EXPECT_EQ(simulator.handshakes(), 3U) << "after a refusal the delegate meets a new connection";
     EXPECT_EQ(ServerTrust::shared().remembered(simulator.address(), 12443), real);
     EXPECT_TRUE(loadAsynchronously(request).ok());
     EXPECT_THAT(refusals(), SizeIs(1));
