@@ -2,7 +2,9 @@
 // The real window as a person meets it: on the first day, and with a keyboard on a small screen.
 #include "Application/FeedbackSupport.h"
 #include "Application/WindowPlace.h"
+#include "Fleet/Registry.h"
 #include "Platform/NotificationCenter.h"
+#include "Simulator/SimulatorProcess.h"
 #include "Tests/Application/LockedWindowFixture.h"
 
 #include <QScopedValueRollback>
@@ -155,6 +157,30 @@ TEST_F(LockedWindowTest, ComesBackWhereItStoodAndWithTheButtonThatItsDeviceNeeds
     QSensorManager::unregisterBackend("QAccelerometer", "test.accelerometer");
     EXPECT_FALSE(isButtonHidden());
     place.reset();
+}
+
+TEST_F(LockedWindowTest, AConsoleThatCannotBeReachedReadsOfflineUntilItAnswers)
+{
+    simulator::Settings settings;
+    settings.consoles = 2;
+    simulator::SimulatorProcess fleet(settings);
+    for (const int number : {0, 1}) {
+        const CorvelRef corvel = insertNewCorvel();
+        corvel->setName("Console " + std::to_string(number));
+        corvel->setAddress(fleet.address(number));
+        corvel->setUsername(fleet.user());
+        corvel->setPassword(fleet.password());
+        RESTHandler::sharedInstance().addCorvel(corvel);
+    }
+    fleet.setFault("closePort:0");
+    open(false);
+    const auto isTold = [this](const char* sentence) { return spoken().contains(QString::fromLatin1(sentence)); };
+    EXPECT_TRUE(waitFor([&] {
+        return isTold("Console 0, Offline, attention 0, events 0") && isTold("Console 1, Error, attention 3, events 8");
+    }));
+    fleet.clearFaults();
+    list().refresh();
+    EXPECT_TRUE(waitFor([&] { return isTold("Console 0, Error, attention 3, events 8"); }));
 }
 
 TEST_F(LockedWindowTest, UncaughtExceptionsAreReportedAndTheEndSavesWhatIsPending)
