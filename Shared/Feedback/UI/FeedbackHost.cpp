@@ -130,7 +130,7 @@ void FeedbackHost::askAboutCrashes()
             ? tr("A report was made on this device. It holds no passwords and is sent nowhere by itself.")
             : tr("%1 reports were made on this device. They hold no passwords and are sent nowhere by themselves.")
                   .arg(count),
-        std::move(choices), keep, [this, keep](int index) {
+        choices, keep, [this, keep](int index) {
             if (index < keep && m_screen == nullptr) {
                 reviewFirstCrash();
             } else {
