@@ -1,11 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Inventory/FeedDate.h"
-#include "Inventory/GroupedFeed.h"
 #include "Inventory/SearchIndex.h"
 
 #include <gmock/gmock.h>
-
-#include <future>
 
 namespace lodestar::test
 {
@@ -47,54 +44,6 @@ TEST(SearchIndexTests, FindsRowsByAnyPartOfTheirNameWhateverItsCase)
     // Not across the end of one name and the start of the next.
     EXPECT_THAT(index.rowsContaining(std::string_view("a\0bc", 4)), IsEmpty());
     EXPECT_EQ(index.rowsContaining("").size(), 9U);
-}
-
-TEST(GroupedFeedTests, KeepsKeysInTheOrderOfTheirFirstElementOnAnyThreadAndFiltersPerKey)
-{
-    std::string entries;
-    for (const char* content : {"<p>LPAR01</p>", "<p>web</p>", "<q>LPAR</q>", "<p>MyLpar2</p>", "<p>of no system</p>",
-                                "<p>mail</p>", "<p>not looked up</p>"}) {
-        entries += "<entry><content>" + std::string(content) + "</content></entry>";
-    }
-    const Feed feed(XMLElement::parse("<f>" + entries + "</f>").value());
-    const std::vector<std::optional<std::string>> systems = {"zeta", "alpha", "q", "zeta", std::nullopt, "mid"};
-    const SearchText textOf = [](const XMLElement& element) { return element.text().value_or(""); };
-
-    // Rows are made of the feed alone: on any thread, on several at once.
-    const auto rows = [&] {
-        GroupedFeed made = groupedBySystem(feed, "p", systems, textOf);
-        made.prepareSearch();
-        return made;
-    };
-    auto others = std::async(std::launch::async, rows);
-    auto listed = std::async(std::launch::async, [&] { return elementsOf(feed, "p", textOf); });
-    GroupedFeed groups = rows();
-    std::vector<XMLElement> all = listed.get().elements();
-    ASSERT_EQ(all.size(), 6U);
-    all.erase(all.begin() + 3);
-    EXPECT_EQ(others.get().elementsAt(0), groups.elementsAt(0));
-    ASSERT_EQ(groups.groupCount(), 3U);
-    EXPECT_EQ(groups.keyAt(0) + groups.keyAt(1) + groups.keyAt(2) + groups.keyAt(3), "zetaalphamid");
-    EXPECT_THAT(groups.elementsAt(0), ElementsAre(all[0], all[2]));
-    EXPECT_THAT(groups.elementsAt(7), IsEmpty());
-    EXPECT_EQ(groups.groupOf("mid"), 2U);
-    EXPECT_EQ(groups.groupOf("none"), std::nullopt);
-
-    EXPECT_EQ(groups.containing("lpar").groupCount(), 1U);
-    // What comes after a search is found by the next one, whether in a group that was searched or in a new one.
-    GroupedFeed more(textOf);
-    more.append("last", all[0]);
-    more.append("zeta", all[1]);
-    more.append("zeta", all[2]);
-    groups.append(std::move(more));
-    const GroupedFeed foundThen = groups.containing("LPAR");
-    ASSERT_EQ(foundThen.groupCount(), 2U);
-    EXPECT_THAT(foundThen.elementsAt(0), ElementsAre(all[0], all[2], all[2]));
-    EXPECT_EQ(foundThen.keyAt(1), "last");
-    groups.clear();
-    EXPECT_EQ(groups.containing("").groupCount(), 0U);
-    EXPECT_EQ(groups.groupCount(), 0U);
-    EXPECT_EQ(groups.groupOf("zeta"), std::nullopt);
 }
 
 } // namespace

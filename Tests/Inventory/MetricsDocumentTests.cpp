@@ -47,28 +47,20 @@ TEST(MetricsDocumentTest, ReadsWhatIsThereAndNothingElse)
 
 TEST(MetricsDocumentTest, RefusesWhatIsNoDocument)
 {
-    const std::string texts[] = {"",
-                                 " ",
-                                 "null",
-                                 "7",
-                                 R"("text")",
-                                 "<feed/>",
-                                 "{",
-                                 R"({"a":1)",
-                                 R"({"a":01})",
-                                 R"({"a":1-2})",
-                                 "{\"a\":\"\xFF\"}",
-                                 R"({"a":NaN})",
-                                 R"({"a":123456789012345678901234567890)",
-                                 std::string(5000, '['),
-                                 "[" + std::string(MetricsDocument::largest, ' ') + "]"};
-    for (const std::string& text : texts) {
+    const auto expectRefusal = [](const std::string& text) {
         const auto document = MetricsDocument::parse(text);
         ASSERT_FALSE(document.ok()) << text.substr(0, 60);
         EXPECT_EQ(document.error().domain, metricsErrorDomain);
         EXPECT_NE(document.error().code, 0);
         EXPECT_FALSE(document.error().localizedDescription.empty());
+    };
+    for (const char* text :
+         {"", " ", "null", "7", R"("text")", "<feed/>", "{", R"({"a":1)", R"({"a":01})", R"({"a":1-2})",
+          "{\"a\":\"\xFF\"}", R"({"a":NaN})", R"({"a":123456789012345678901234567890)"}) {
+        expectRefusal(text);
     }
+    expectRefusal(std::string(5000, '['));
+    expectRefusal("[" + std::string(MetricsDocument::largest, ' ') + "]");
 }
 
 TEST(MetricsDocumentTest, NumberThatIsTooLargeCostsOnlyItself)
