@@ -5,62 +5,48 @@
 
 #include <gtest/gtest.h>
 
-namespace lodestar
+namespace lodestar::charttest
 {
 namespace
 {
 
 constexpr QSizeF chart(366, 325);
 
-ChartStyle style(double scale = 1, Qt::LayoutDirection direction = Qt::LeftToRight)
+LegendLayout layOut(const Legend& legend, const QStringList& labels, double scale = 1,
+                    Qt::LayoutDirection direction = Qt::LeftToRight)
 {
-    ChartStyle made;
-    made.textFont = QFont(QStringLiteral("Lato"));
-    made.textScale = scale;
-    made.direction = direction;
-    return made;
-}
-
-Legend legendAt(int number)
-{
-    Legend legend;
-    legend.position = static_cast<LegendPosition>(number);
-    legend.xEntrySpace = 0.8;
-    legend.yEntrySpace = 0.8;
-    legend.yOffset = 18;
-    return legend;
-}
-
-std::vector<LegendItem> items(std::initializer_list<const char*> labels)
-{
-    std::vector<LegendItem> made;
-    for (const char* label : labels) {
-        made.push_back({QString::fromLatin1(label), Qt::red});
+    std::vector<LegendItem> items;
+    for (const QString& label : labels) {
+        items.push_back({label, red});
     }
-    return made;
+    ChartFrame frame = inLato({});
+    frame.style.textScale = scale;
+    frame.style.direction = direction;
+    return layoutLegend(legend, items, chart, frame.style);
 }
 
 TEST(LegendTest, NumberNineStandsAboveTheChartFromTheLeftAndWraps)
 {
-    const auto labels = items({"operating", "incomplete", "standby", "power off", "error"});
-    const LegendLayout layout = layoutLegend(legendAt(9), labels, chart, style());
+    const Legend legend = dashboardPie({}).legend;
+    const LegendLayout layout = layOut(legend, {"operating", "incomplete", "standby", "power off", "error"});
     ASSERT_EQ(layout.boxes.size(), 5U);
     const QRectF first = layout.boxes[0].form;
     EXPECT_EQ(first, QRectF(20, 18 + 8 - 4.5, 9, 9)) << "middle of a line of 16 below the offset";
     EXPECT_EQ(layout.boxes[0].baseline.x(), 20 + 9 + 6);
     EXPECT_EQ(layout.boxes[3].form.center().y(), first.center().y()) << "four entries share the first line";
     EXPECT_EQ(layout.boxes[4].form.topLeft(), first.topLeft() + QPointF(0, 20)) << "the fifth starts the second";
-    EXPECT_EQ(contentBeside(legendAt(9), layout, chart), QRectF(0, 54, 366, 271));
+    EXPECT_EQ(contentBeside(legend, layout, chart), QRectF(0, 54, 366, 271));
 }
 
 TEST(LegendTest, EveryPositionKeepsToItsSideAndItsEndOfTheLine)
 {
-    const auto labels = items({"one", "two"});
+    Legend legend = dashboardPie({}).legend;
     for (int number = 6; number < 12; ++number) {
         for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
             SCOPED_TRACE(testing::Message() << number << (direction == Qt::RightToLeft ? " mirrored" : ""));
-            const LegendLayout layout = layoutLegend(legendAt(number), labels, chart, style(1, direction));
-            const QRectF content = contentBeside(legendAt(number), layout, chart);
+            legend.position = static_cast<LegendPosition>(number);
+            const LegendLayout layout = layOut(legend, {"one", "two"}, 1, direction);
+            const QRectF content = contentBeside(legend, layout, chart);
             ASSERT_EQ(layout.boxes.size(), 2U);
             const QRectF forms = layout.boxes[0].form | layout.boxes[1].form;
             EXPECT_FALSE(content.intersects(forms)) << "the legend never covers the chart";
@@ -75,15 +61,15 @@ TEST(LegendTest, EveryPositionKeepsToItsSideAndItsEndOfTheLine)
 
 TEST(LegendTest, LongNamesAndLongListsStayInsideTheirShare)
 {
+    const Legend legend = dashboardPie({}).legend;
     const QString longName = QString(400, QLatin1Char('w'));
-    const std::vector<LegendItem> one{{longName, Qt::red}};
-    const QString text = layoutLegend(legendAt(9), one, chart, style()).boxes.at(0).text;
+    const QString text = layOut(legend, {longName}).boxes.at(0).text;
     EXPECT_LT(text.size(), longName.size());
     EXPECT_EQ(text.back(), QLatin1Char('w')) << "elided in the middle";
 
-    const std::vector<LegendItem> many(500, LegendItem{QStringLiteral("state"), Qt::red});
+    const QStringList many(500, QStringLiteral("state"));
     for (const double scale : {1.0, 2.0}) {
-        const LegendLayout cut = layoutLegend(legendAt(9), many, chart, style(scale));
+        const LegendLayout cut = layOut(legend, many, scale);
         EXPECT_LE(cut.bounds.height(), 0.45 * 325);
         const LegendBox& last = cut.boxes.back();
         EXPECT_TRUE(last.form.isEmpty());
@@ -92,4 +78,4 @@ TEST(LegendTest, LongNamesAndLongListsStayInsideTheirShare)
 }
 
 } // namespace
-} // namespace lodestar
+} // namespace lodestar::charttest

@@ -4,7 +4,6 @@
 #include "ChartItemFixture.h"
 #include "ChartSupport.h"
 
-#include <QAccessible>
 #include <QSignalSpy>
 
 namespace lodestar::charttest
@@ -17,7 +16,7 @@ class PieChartItemTest : public ChartItemFixture<PieChartView, PieChartItem>
 protected:
     void SetUp() override
     {
-        const PieChartModel model = dashboardPie({2, 1, 1});
+        const PieChartModel model = dashboardPie({2, 1, 0, 1});
         m_view.setHoleRadiusPercent(0.54);
         m_view.setDrawSliceText(false);
         m_view.setLegend(model.legend);
@@ -32,19 +31,45 @@ protected:
     PieLayout m_layout;
 };
 
-TEST_F(PieChartItemTest, TapsAndClicksSelect)
+TEST_F(PieChartItemTest, TapsClicksAndKeysSelectAndASelectedSliceStandsOut)
 {
     touch().press(0, on(0.8, 225));
     touch().release(0, on(0.8, 225));
     EXPECT_EQ(m_view.selectedEntry(), 1);
-    QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, on(0.8, 90));
+    const auto click = [this](double share, double angle) {
+        QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, on(share, angle));
+    };
+    const std::pair<double, qsizetype> slices[] = {{10, 0}, {190, 1}, {350, 3}};
+    for (const double turn : {0.0, 300.0}) {
+        m_view.setRotationAngle(turn);
+        for (const auto& [angle, entry] : slices) {
+            click(0.8, angle + turn);
+            EXPECT_EQ(m_view.selectedEntry(), entry) << angle << " turned by " << turn;
+        }
+        for (const double beside : {0.5, 1.1}) {
+            click(beside, 10);
+            EXPECT_EQ(m_view.selectedEntry(), std::nullopt) << "neither the hole nor the card is a slice";
+        }
+    }
+    m_view.setRotationAngle(0);
+    m_item->forceActiveFocus(Qt::TabFocusReason);
+    EXPECT_TRUE(m_item->hasVisualFocus());
+    QTest::keyClick(m_window, Qt::Key_Right);
     EXPECT_EQ(m_view.selectedEntry(), 0);
-    QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier, on(0.2, 90));
-    EXPECT_EQ(m_view.selectedEntry(), std::nullopt) << "the hole selects nothing";
+    const QImage picture = m_window->grabWindow();
+    EXPECT_TRUE(near(picture.pixelColor(on(1.03, 90)), blue));
+    EXPECT_TRUE(near(picture.pixelColor(on(1.03, 225)), white));
+    QTest::keyClick(m_window, Qt::Key_Left);
+    EXPECT_EQ(m_view.selectedEntry(), 3) << "round the end";
+    QTest::keyClick(m_window, Qt::Key_Right, Qt::ShiftModifier);
+    EXPECT_EQ(m_view.model().rotationAngle, 15);
+    QTest::keyClick(m_window, Qt::Key_Escape);
+    EXPECT_EQ(m_view.selectedEntry(), std::nullopt);
 }
 
-TEST_F(PieChartItemTest, AFingerAlongTheRingTurnsThePieAndThePageStays)
+TEST_F(PieChartItemTest, AFingerAlongTheRingTurnsThePieAndAcrossTheRingScrollsThePage)
 {
+    m_item->setProperty("reducedMotion", true); // nothing turns on by itself
     // Down the right side: what a page would take for scrolling. The window hands moves on once a frame, so each step
     // waits for what it brings about; the pause keeps the stroke at a hand's pace.
     touch().press(0, on(0.8, 90));
@@ -57,10 +82,8 @@ TEST_F(PieChartItemTest, AFingerAlongTheRingTurnsThePieAndThePageStays)
     EXPECT_EQ(scrolled(), 0);
     touch().release(0, on(0.8, 150));
     EXPECT_EQ(m_view.selectedEntry(), std::nullopt) << "a turn is no tap";
-}
 
-TEST_F(PieChartItemTest, AStrokeAcrossTheRingScrollsThePage)
-{
+    const double turned = m_view.model().rotationAngle;
     const QPoint start = on(0.8, 180);
     touch().press(0, start);
     for (int by = 6; by <= 120 && scrolled() <= 20; by += 6) {
@@ -68,7 +91,7 @@ TEST_F(PieChartItemTest, AStrokeAcrossTheRingScrollsThePage)
         (void)QTest::qWaitFor([this] { return scrolled() > 20; }, 40); // Until the window has handed the move on.
     }
     EXPECT_GT(scrolled(), 20);
-    EXPECT_EQ(m_view.model().rotationAngle, 0);
+    EXPECT_EQ(m_view.model().rotationAngle, turned);
     touch().release(0, start - QPoint(0, 120));
     EXPECT_EQ(m_view.selectedEntry(), std::nullopt);
 }
@@ -88,20 +111,6 @@ TEST_F(PieChartItemTest, TwoFingersTurnUnlessSwitchedOff)
     m_view.setRotationWithTwoFingers(false);
     twist();
     EXPECT_EQ(m_view.model().rotationAngle, 0);
-}
-
-TEST_F(PieChartItemTest, KeysStepThroughSlicesTurnAndLetGo)
-{
-    m_item->forceActiveFocus(Qt::TabFocusReason);
-    EXPECT_TRUE(m_item->hasVisualFocus());
-    QTest::keyClick(m_window, Qt::Key_Right);
-    EXPECT_EQ(m_view.selectedEntry(), 0);
-    QTest::keyClick(m_window, Qt::Key_Left);
-    EXPECT_EQ(m_view.selectedEntry(), 2) << "round the end";
-    QTest::keyClick(m_window, Qt::Key_Right, Qt::ShiftModifier);
-    EXPECT_EQ(m_view.model().rotationAngle, 15);
-    QTest::keyClick(m_window, Qt::Key_Escape);
-    EXPECT_EQ(m_view.selectedEntry(), std::nullopt);
 }
 
 TEST_F(PieChartItemTest, GrowsInWhenToldAndRestsAfterwards)
@@ -124,11 +133,10 @@ TEST_F(PieChartItemTest, ShowsTheViewAsItChangesAndOutlivesIt)
     EXPECT_TRUE(near(probe(), blue));
     m_view.setRotationAngle(180);
     EXPECT_FALSE(near(probe(), blue));
-    m_view.setHidden(true);
-    EXPECT_FALSE(m_item->isVisible());
-    m_view.setHidden(false);
-    EXPECT_TRUE(m_item->isVisible());
-
+    for (const bool hidden : {true, false}) {
+        m_view.setHidden(hidden);
+        EXPECT_EQ(m_item->isVisible(), !hidden);
+    }
     auto other = std::make_unique<PieChartView>();
     other->setData(dashboardPie({1}).data);
     m_item->setOutlet(other.get());
@@ -139,5 +147,6 @@ TEST_F(PieChartItemTest, ShowsTheViewAsItChangesAndOutlivesIt)
     m_item->forceActiveFocus();
     QTest::keyClick(m_window, Qt::Key_Right);
 }
+
 } // namespace
 } // namespace lodestar::charttest
