@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Kit/Core/NavigationController.h"
-#include "Kit/Core/Storyboard.h"
 #include "Kit/Core/TabBarController.h"
 #include "Platform/Queues/MainQueue.h"
 
@@ -141,8 +140,6 @@ TEST_F(ControllersTest, TabsLoadWhenFirstShownAndOnlyTheSelectedOneAppears)
         EXPECT_THAT(take(), ElementsAre("first disappear", "second load", "second appear"));
         tabs->setSelectedIndex(0);
         EXPECT_THAT(take(), ElementsAre("second disappear", "first appear"));
-        EXPECT_EQ(tabs->titleAt(1), "Two");
-        EXPECT_EQ(tabs->imageNameAt(5), "");
     }
     EXPECT_EQ(first->tabBarController(), nullptr);
 }
@@ -164,26 +161,6 @@ TEST_F(ControllersTest, ASheetIsReplacedResizedAndReleasedAfterItsDismissal)
     below->dismissSemiModalView();
     EXPECT_EQ(below->semiModal(), nullptr);
     EXPECT_THAT(takeLater(3), ElementsAre("two disappear", "one gone", "two gone"));
-}
-
-TEST_F(ControllersTest, StoryboardMakesAFreshControllerWithItsScene)
-{
-    Storyboard storyboard;
-    const Scene<> plain{"plain"};
-    const Scene<std::string> named{"named"};
-    storyboard.registerScene(
-        plain, [&](NoInput) { return screen("plain"); }, QUrl("qrc:/screen.qml"));
-    storyboard.registerScene(named, [&](const std::string& name) { return screen(name.c_str()); }, {});
-    const auto one = storyboard.instantiate<Screen>(plain);
-    ASSERT_NE(one, nullptr);
-    EXPECT_EQ(one->scene(), QUrl("qrc:/screen.qml"));
-    EXPECT_NE(one, storyboard.instantiateViewController(plain));
-    EXPECT_EQ(storyboard.instantiate<NavigationController>(plain), nullptr);
-    take();
-    storyboard.instantiateViewController(named, "given")->beginAppearance();
-    EXPECT_THAT(take(), ElementsAre("given load", "given appear", "given gone"));
-    EXPECT_DEATH(storyboard.instantiateViewController(Scene<>{"other"}), "no scene other");
-    EXPECT_THROW(storyboard.instantiateViewController(Scene<>{"named"}), std::bad_any_cast);
 }
 
 } // namespace lodestar

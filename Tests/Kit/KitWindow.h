@@ -5,8 +5,6 @@
 #include "Kit/Core/Kit.h"
 #include "Kit/Core/ViewController.h"
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QQmlComponent>
 #include <QQmlEngine>
 #include <QQuickItem>
@@ -23,15 +21,7 @@ namespace lodestar
 /// Runs the event loop until the predicate holds; false when it does not within ten seconds.
 inline bool waitFor(const std::function<bool()>& predicate)
 {
-    const QDeadlineTimer limit(10000);
-    while (!predicate()) {
-        if (limit.hasExpired()) {
-            return false;
-        }
-        QCoreApplication::processEvents(QEventLoop::AllEvents | QEventLoop::WaitForMoreEvents, 5);
-        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    return true;
+    return QTest::qWaitFor(predicate, 10'000);
 }
 
 /// A window that shows a controller, as the application's does.

@@ -11,7 +11,6 @@
 #include <QStringList>
 #include <gmock/gmock.h>
 
-#include <algorithm>
 #include <thread>
 
 namespace lodestar
@@ -26,24 +25,6 @@ using testing::IsEmpty;
 void onWorker(const std::function<void()>& work)
 {
     std::thread(work).join();
-}
-
-TEST(MainLoopTest, BlocksFromAWorkerRunInOrderOnTheMainThread)
-{
-    std::vector<int> order;
-    bool onMain = true;
-    onWorker([&] {
-        for (int i = 0; i < 1000; ++i) {
-            MainQueue::shared().async([&order, &onMain, i] {
-                order.push_back(i);
-                onMain &= MainQueue::shared().isCurrent();
-            });
-        }
-    });
-    EXPECT_THAT(order, IsEmpty());
-    EXPECT_TRUE(waitFor([&] { return order.size() == 1000; }));
-    EXPECT_TRUE(std::is_sorted(order.begin(), order.end()));
-    EXPECT_TRUE(onMain);
 }
 
 TEST(MainLoopTest, ANestedLoopRunsTheBlocksBehindTheOneThatStartedIt)
