@@ -52,12 +52,13 @@ protected:
         return WIFEXITED(status) ? WEXITSTATUS(status) - 100 : -1;
     }
 
-    /// Of the one report that there must be.
-    ReportBundle report() const
+    /// The one report that the next start makes, taken out of the store.
+    ReportBundle collectOne() const
     {
+        EXPECT_EQ(collect(), 1);
         const std::vector<Report> reports = m_store.unanswered();
-        EXPECT_THAT(reports, SizeIs(1));
         const auto bundle = m_store.read(reports.empty() ? "" : reports.front().identifier);
+        EXPECT_TRUE(bundle && m_store.remove(bundle.value().identifier).ok());
         return bundle ? bundle.value() : ReportBundle();
     }
 
@@ -80,15 +81,19 @@ TEST_F(CrashCaptureTest, EverySignalEndsTheProcessAsItWouldHaveAndLeavesAReport)
         int signal;
         std::string function = "crashHere";
     };
-    // A call that leads nowhere is told by the function that made it.
-    const std::vector<Way> ways = {
-        {"segv", SIGSEGV}, {"bus", SIGBUS}, {"abort", SIGABRT}, {"null-call", SIGSEGV, "callNowhere"}};
+    const std::vector<Way> ways = {{"segv", SIGSEGV},
+                                   {"bus", SIGBUS},
+                                   // A call that leads nowhere is told by the function that made it.
+                                   {"null-call", SIGSEGV, "callNowhere"},
+                                   // Unwinding fails in the handler: the rest stands in the file by then.
+                                   {"no-stack", SIGSEGV, "crashWithoutStack"},
+                                   {"overflow", SIGSEGV, "overflow"},
+                                   {"pool-overflow", SIGSEGV, "overflow"}};
     for (const auto& [what, signal, function] : ways) {
         SCOPED_TRACE(what);
         fs::remove_all(m_folder.path() / "Logs");
         EXPECT_EQ(signalOf(what), signal);
-        ASSERT_EQ(collect(), 1);
-        const ReportBundle crash = report();
+        const ReportBundle crash = collectOne();
         EXPECT_EQ(crash.kind, Report::Kind::Crash);
         EXPECT_EQ(crash.version, "9.8.7");
         EXPECT_THAT(crash.session, SizeIs(16));
@@ -97,8 +102,9 @@ TEST_F(CrashCaptureTest, EverySignalEndsTheProcessAsItWouldHaveAndLeavesAReport)
         EXPECT_THAT(crash.crash, HasSubstr("CrashChild+0x"));
         EXPECT_THAT(crash.log, HasSubstr("last words before " + what + " {"));
         EXPECT_THAT(crash.log, Not(HasSubstr("of a crash"))); // a line of the next start
-        EXPECT_TRUE(m_store.remove(crash.identifier).ok());
     }
+    EXPECT_THAT(signalOf("two-threads"), testing::AnyOf(SIGSEGV, SIGBUS));
+    EXPECT_THAT(collectOne().note, testing::AnyOf(HasSubstr("SIGSEGV"), HasSubstr("SIGBUS")));
     EXPECT_EQ(crashFiles(), 0U);
     EXPECT_EQ(collect(), 0);
 }
@@ -112,7 +118,6 @@ TEST_F(CrashCaptureTest, AnUncaughtExceptionIsToldWithItsTypeAndNeverWithASecret
     };
     const std::vector<Way> ways = {
         {"exception", "std::runtime_error: the password is [removed]"},
-        {"exception-worker", "std::runtime_error: the password is [removed]"},
         {"exception-locked", "std::runtime_error (its description might tell a secret)", "throwWithTheLockHeld"}};
     for (const auto& [what, told, function] : ways) {
         SCOPED_TRACE(what);
@@ -122,35 +127,10 @@ TEST_F(CrashCaptureTest, AnUncaughtExceptionIsToldWithItsTypeAndNeverWithASecret
         EXPECT_THAT(crashFile, HasSubstr(told));
         EXPECT_THAT(crashFile, Not(HasSubstr("hunter2")));
         EXPECT_THAT(m_folder.read("Logs/lodestar.log"), AllOf(HasSubstr(told), Not(HasSubstr("hunter2"))));
-        ASSERT_EQ(collect(), 1);
-        const ReportBundle crash = report();
+        const ReportBundle crash = collectOne();
         EXPECT_THAT(crash.note, HasSubstr(told));
         EXPECT_THAT(crash.crash, HasSubstr(function));
-        EXPECT_TRUE(m_store.remove(crash.identifier).ok());
     }
-}
-
-TEST_F(CrashCaptureTest, CrashesOfTheHandlerAndOfManyThreadsEndAtOnceAndLeaveWhatWasWritten)
-{
-    // Unwinding fails in the handler: where it crashed and what was logged stand in the file by then.
-    EXPECT_EQ(signalOf("no-stack"), SIGSEGV);
-    ASSERT_EQ(collect(), 1);
-    EXPECT_THAT(report().crash, HasSubstr("crashWithoutStack"));
-    EXPECT_THAT(report().log, HasSubstr("last words before no-stack"));
-    EXPECT_TRUE(m_store.remove(report().identifier).ok());
-
-    for (const std::string where : {"overflow", "pool-overflow"}) {
-        SCOPED_TRACE(where);
-        EXPECT_EQ(signalOf(where), SIGSEGV);
-        ASSERT_EQ(collect(), 1);
-        EXPECT_THAT(report().crash, HasSubstr("overflow"));
-        EXPECT_THAT(report().log, HasSubstr("last words before " + where));
-        EXPECT_TRUE(m_store.remove(report().identifier).ok());
-    }
-
-    EXPECT_THAT(signalOf("two-threads"), testing::AnyOf(SIGSEGV, SIGBUS));
-    EXPECT_EQ(collect(), 1);
-    EXPECT_THAT(report().note, testing::AnyOf(HasSubstr("SIGSEGV"), HasSubstr("SIGBUS")));
 }
 
 TEST_F(CrashCaptureTest, RunsThatDidNotCrashLeaveNoReport)

@@ -6,8 +6,6 @@
 #include "Platform/Queues/DispatchQueue.h"
 
 #include <csignal>
-#include <cstdio>
-#include <cstdlib>
 #include <exception>
 #include <filesystem>
 #include <fstream>
@@ -16,7 +14,6 @@
 #include <mutex>
 #include <stdexcept>
 #include <string>
-#include <sys/mman.h>
 #include <sys/resource.h>
 #include <thread>
 #include <unistd.h>
@@ -33,13 +30,6 @@ volatile int zero = 0;
     volatile char room[4096] = {};
     room[depth % 4096] = 1;
     return depth < 0 ? 0 : overflow(depth + 1) + room[0];
-}
-
-void readPastTheEnd()
-{
-    std::FILE* file = std::tmpfile();
-    auto* bytes = static_cast<volatile char*>(::mmap(nullptr, 4096, PROT_READ, MAP_SHARED, ::fileno(file), 0));
-    zero = bytes[0];
 }
 
 /// Wrecks the stack pointer first, so that the handler itself crashes on the way up the stack.
@@ -103,11 +93,6 @@ void waitUntilTold(const std::string& folder)
     }
 }
 
-void throwOnAWorker()
-{
-    std::thread(&throwWithASecret).join();
-}
-
 } // namespace
 
 /// Found by its name in the report.
@@ -115,15 +100,13 @@ void throwOnAWorker()
 {
     const std::map<std::string, std::function<void()>> ways = {
         {"segv", [] { zero = *reinterpret_cast<volatile int*>(zero + 16); }},
-        {"bus", &readPastTheEnd},
-        {"abort", [] { std::abort(); }},
+        {"bus", [] { ::raise(SIGBUS); }},
         {"null-call", &callNowhere},
         {"overflow", [] { zero = overflow(zero); }},
         {"pool-overflow", &overflowInThePool},
         {"no-stack", &crashWithoutStack},
         {"two-threads", &crashOnTwoThreads},
         {"exception", &throwWithASecret},
-        {"exception-worker", &throwOnAWorker},
         {"exception-locked", &throwWithTheLockHeld},
         {"full-disk",
          [] {

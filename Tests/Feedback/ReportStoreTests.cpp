@@ -6,7 +6,7 @@
 #include <gmock/gmock.h>
 
 #include <cerrno>
-#include <sys/stat.h>
+#include <unistd.h>
 
 namespace lodestar
 {
@@ -52,9 +52,7 @@ protected:
 
 unsigned permissions(const std::string& path)
 {
-    struct stat status = {};
-    EXPECT_EQ(::stat(path.c_str(), &status), 0) << path;
-    return status.st_mode & 0777U;
+    return static_cast<unsigned>(fs::status(path).permissions());
 }
 
 } // namespace
