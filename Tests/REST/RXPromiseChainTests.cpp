@@ -5,13 +5,12 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <chrono>
 #include <memory>
+#include <numeric>
 #include <optional>
 #include <string>
 #include <thread>
-#include <type_traits>
 #include <vector>
 
 namespace lodestar
@@ -82,9 +81,6 @@ TEST_F(RXPromiseChainTests, AFailureHandlerTurnsARejectionIntoAnOutcome)
     EXPECT_EQ(outcome(end).value(), "recovered from root!");
     EXPECT_EQ(successes, 0);
     EXPECT_TRUE(outcome(rejected("why").then([](int) {}, [](const Error&) {})).ok());
-    RXPromise<std::optional<int>> source;
-    source.rejectWithReason("why");
-    EXPECT_EQ(outcome(source.then(nullptr, [](const Error&) {})).value(), std::nullopt);
     EXPECT_EQ(outcome(rejected("why").then(nullptr, [](const Error&) { return fulfilled(3); })).value(), 3);
     EXPECT_EQ(outcome(rejected("why").then(nullptr, [](const Error&) { return error("other"); })).error(),
               error("other"));
@@ -125,6 +121,7 @@ TEST_F(RXPromiseChainTests, APromiseThatWaitsForItselfIsRejected)
     EXPECT_FALSE(outcome(**self).ok());
     EXPECT_EQ(self.use_count(), 1);
 }
+
 TEST_F(RXPromiseChainTests, CancellationReachesWhatIsDerived)
 {
     int successes = 0;
@@ -132,16 +129,12 @@ TEST_F(RXPromiseChainTests, CancellationReachesWhatIsDerived)
     const auto unhandled = source.thenOnMain([&](int v) { return ++successes + v; });
     const auto second = unhandled.thenOnMain([&](int) { ++successes; });
     const auto recovering = source.thenOnMain(nullptr, [](const Error&) { return 5; });
-    const auto worded =
-        source.thenOnMain([](int) { return std::string(); }, [](const Error&) { return std::string("because"); });
     const auto failing = source.thenOnMain(nullptr, [](const Error&) { return error("e"); });
     source.cancel();
     EXPECT_EQ(reason(second), "cancelled");
     EXPECT_EQ(reason(recovering), "") << "a value is no reason";
-    EXPECT_EQ(reason(worded), "because");
     EXPECT_EQ(outcome(failing).error(), error("e"));
-    EXPECT_TRUE(unhandled.isCancelled() && second.isCancelled() && recovering.isCancelled() && worded.isCancelled() &&
-                failing.isCancelled());
+    EXPECT_TRUE(unhandled.isCancelled() && second.isCancelled() && recovering.isCancelled() && failing.isCancelled());
     EXPECT_EQ(successes, 0);
 
     const RXPromise<int> parent;
@@ -157,23 +150,21 @@ TEST_F(RXPromiseChainTests, CancellationReachesWhatIsDerived)
 TEST_F(RXPromiseChainTests, AllKeepsTheOrderOfTheInputs)
 {
     EXPECT_TRUE(RXPromise<int>::all({}).result()->value().empty());
-    std::vector<RXPromise<std::optional<int>>> inputs(100);
-    const auto all = RXPromise<std::optional<int>>::all(inputs);
-    const auto settle = [&](int from, int step) {
-        for (int i = from; i >= 0 && i < 100; i += step) {
-            inputs[static_cast<std::size_t>(i)].fulfillWithValue(i % 10 == 0 ? std::nullopt : std::optional(i));
+    std::vector<RXPromise<std::size_t>> inputs(100);
+    const auto all = RXPromise<std::size_t>::all(inputs);
+    const auto settle = [&](std::size_t from) {
+        for (std::size_t i = from; i < inputs.size(); i += 2) {
+            inputs[inputs.size() - 1 - i].fulfillWithValue(inputs.size() - 1 - i);
         }
     };
-    std::thread other([&] { settle(99, -2); });
-    settle(2, 2);
+    std::thread other([&] { settle(2); });
+    settle(1);
     other.join();
     EXPECT_TRUE(all.isPending());
-    settle(0, 100);
-    const auto values = outcome(all).value();
-    ASSERT_EQ(values.size(), inputs.size());
-    for (int i = 0; i < 100; ++i) {
-        EXPECT_EQ(values[static_cast<std::size_t>(i)], i % 10 == 0 ? std::nullopt : std::optional(i));
-    }
+    inputs.back().fulfillWithValue(99);
+    std::vector<std::size_t> expected(inputs.size());
+    std::iota(expected.begin(), expected.end(), 0U);
+    EXPECT_EQ(outcome(all).value(), expected);
 }
 
 TEST_F(RXPromiseChainTests, AllRejectsWithTheFirstRejectionAndKeepsNothing)
@@ -192,5 +183,6 @@ TEST_F(RXPromiseChainTests, AllRejectsWithTheFirstRejectionAndKeepsNothing)
     EXPECT_EQ(reason(withCancelled), "cancelled");
     EXPECT_TRUE(withCancelled.isRejected());
 }
+
 } // namespace
 } // namespace lodestar
