@@ -2,6 +2,7 @@
 #include "Inventory/Feed.h"
 #include "Tests/Scenes/SceneTest.h"
 
+#include <optional>
 #include <tuple>
 
 namespace lodestar::scenes
@@ -12,8 +13,8 @@ namespace
 constexpr int elideMiddle = 2;
 constexpr double tolerance = 1;
 
-/// Width, height, text scale, right to left.
-using Setting = std::tuple<int, int, double, bool>;
+/// Width, height, text scale, right to left, in a language of longer texts.
+using Setting = std::tuple<int, int, double, bool, bool>;
 
 class GeometryTest : public SceneTest, public ::testing::WithParamInterface<Setting>
 {
@@ -22,6 +23,9 @@ protected:
     {
         Appearance::shared().overrideTextScale(std::get<2>(GetParam()));
         Appearance::shared().overrideMirrored(std::get<3>(GetParam()));
+        if (std::get<4>(GetParam())) {
+            language.emplace();
+        }
     }
     QSize size() const { return {std::get<0>(GetParam()), std::get<1>(GetParam())}; }
 
@@ -96,6 +100,9 @@ protected:
         expectNothingOverlaps();
         expectTargetsLargeEnough();
     }
+
+private:
+    std::optional<PseudoLanguage> language;
 };
 
 TEST_P(GeometryTest, ConsolesMirrorAndKeepTheirHeightAndTheirNames)
@@ -187,11 +194,12 @@ TEST_P(GeometryTest, Inventory)
 }
 
 INSTANTIATE_TEST_SUITE_P(Sizes, GeometryTest,
-                         ::testing::Values(Setting{360, 640, 1, false}, Setting{390, 844, 1, true},
-                                           Setting{360, 640, 1.3, false}, Setting{390, 844, 2, false},
-                                           Setting{360, 640, 2, true}, Setting{768, 1024, 1, false},
-                                           Setting{768, 1024, 2, false}, Setting{1280, 800, 1, false},
-                                           Setting{1280, 800, 1, true}));
+                         ::testing::Values(Setting{360, 640, 1, false, false}, Setting{390, 844, 1, true, false},
+                                           Setting{360, 640, 1.3, false, false}, Setting{390, 844, 2, false, false},
+                                           Setting{360, 640, 2, true, false}, Setting{768, 1024, 1, false, false},
+                                           Setting{768, 1024, 2, false, false}, Setting{1280, 800, 1, false, false},
+                                           Setting{1280, 800, 1, true, false}, Setting{390, 844, 1, false, true},
+                                           Setting{768, 1024, 1, true, true}));
 
 } // namespace
 } // namespace lodestar::scenes

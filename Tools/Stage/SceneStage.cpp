@@ -241,8 +241,10 @@ void SceneStage::show(QSize size, const std::vector<ConsoleLook>& consoles)
     m_list = Storyboard::main().instantiate<CorvelListViewController>(Scenes::corvelListView);
     m_dashboard = Storyboard::main().instantiate<DashboardTableViewController>(Scenes::dashboardView);
     m_tabs = makeController<TabBarController>(
-        std::vector<TabBarItem>{{"Corvels", "tab_consoles", makeController<NavigationController>(m_list)},
-                                {"Dashboard", "tab_dashboard", makeController<NavigationController>(m_dashboard)}});
+        std::vector<TabBarItem>{{QCoreApplication::translate("MainStoryboard", "Corvels"), "tab_consoles",
+                                 makeController<NavigationController>(m_list)},
+                                {QCoreApplication::translate("MainStoryboard", "Dashboard"), "tab_dashboard",
+                                 makeController<NavigationController>(m_dashboard)}});
     // Loaded before there are records, so that nothing is fetched.
     m_tabs->loadViewIfNeeded();
     m_list->loadViewIfNeeded();
