@@ -45,22 +45,13 @@ protected:
     {
         MainQueue::shared().runUntil([] { return false; }, std::chrono::milliseconds(milliseconds));
     }
-    std::map<std::string, std::string> files() const
-    {
-        std::map<std::string, std::string> found;
-        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.path())) {
-            if (entry.is_regular_file()) {
-                const std::string name = std::filesystem::relative(entry.path(), folder.path());
-                found[name] = folder.read(name);
-            }
-        }
-        return found;
-    }
+    /// The names of the files that hold the text.
     std::vector<std::string> filesWith(const std::string& text) const
     {
         std::vector<std::string> names;
-        for (const auto& [name, content] : files()) {
-            if (content.find(text) != std::string::npos) {
+        for (const auto& entry : std::filesystem::recursive_directory_iterator(folder.path())) {
+            const std::string name = std::filesystem::relative(entry.path(), folder.path());
+            if (entry.is_regular_file() && folder.read(name).find(text) != std::string::npos) {
                 names.push_back(name);
             }
         }

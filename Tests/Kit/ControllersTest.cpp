@@ -23,17 +23,10 @@ class Screen : public ViewController
 public:
     Screen(std::string name, Log& log) : m_name(std::move(name)), m_log(log) {}
     ~Screen() override { m_log.push_back(m_name + (MainQueue::shared().isCurrent() ? " gone" : " gone on a worker")); }
-    std::function<void()> whenAppeared;
 
 protected:
     void viewDidLoad() override { m_log.push_back(m_name + " load"); }
-    void viewDidAppear() override
-    {
-        m_log.push_back(m_name + " appear");
-        if (const auto once = std::exchange(whenAppeared, nullptr)) {
-            once();
-        }
-    }
+    void viewDidAppear() override { m_log.push_back(m_name + " appear"); }
     void viewDidDisappear() override { m_log.push_back(m_name + " disappear"); }
 
 private:
@@ -94,15 +87,6 @@ TEST_F(ControllersTest, NavigationLoadsOnceAndAlternatesAppearances)
     EXPECT_EQ(next->navigationController(), nullptr);
     EXPECT_EQ(navigation->popViewController(Animated::No), nullptr);
     EXPECT_EQ(navigation->topViewController(), root.get());
-}
-
-TEST_F(ControllersTest, AScreenMayPushFromItsOwnAppearance)
-{
-    auto root = screen("root");
-    auto navigation = makeController<NavigationController>(root);
-    root->whenAppeared = [&] { navigation->pushViewController(screen("next"), Animated::No); };
-    navigation->beginAppearance();
-    EXPECT_THAT(take(), ElementsAre("root load", "root appear", "next load", "root disappear", "next appear"));
 }
 
 TEST_F(ControllersTest, APoppedScreenOutlivesTheCallThatPopsItAndGoesOnTheMainThread)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Kit/Core/Outlets.h"
 
-#include "Kit/Core/Menu.h"
 #include "Kit/Core/UIFont+System.h"
 #include "KitWindow.h"
 #include "Platform/Queues/MainQueue.h"
@@ -77,25 +76,6 @@ TEST(OutletsTest, SettersTakeEffectAtOnceOnTheMainThreadAndInOrderLaterFromWorke
     EXPECT_EQ(seen, QStringList({"main", "first", "second"}));
     EXPECT_TRUE(label.isHidden());
     EXPECT_EQ(label.state(), Role::State::Error);
-}
-
-TEST(OutletsTest, AMenuAnswersOnceAndMayShowTheNextFromItsHandler)
-{
-    MenuOutlet menu;
-    std::vector<int> answers;
-    const std::vector<MenuChoice> choices{{"OK", true}, {"Cancel"}};
-    menu.present("First", "why", choices, 1, [&](int index) {
-        answers.push_back(index);
-        menu.present("Second", {}, choices, -1, [&](int next) { answers.push_back(10 + next); });
-    });
-    menu.choose(7);
-    EXPECT_THAT(answers, IsEmpty());
-    menu.choose(0);
-    EXPECT_EQ(menu.title(), "Second");
-    EXPECT_TRUE(menu.isPresented());
-    menu.dismiss();
-    menu.choose(1);
-    EXPECT_THAT(answers, ElementsAre(0));
 }
 
 TEST(OutletsTest, TheFaceIsTheOneRegularFaceInEveryWeight)

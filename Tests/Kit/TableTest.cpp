@@ -156,20 +156,15 @@ TEST_F(TableTest, ADeletedRowMovesTheOthersUpWithoutConfiguringThem)
 TEST_F(TableTest, AReloadFromAWorkerAsksTheSourceOnTheMainThread)
 {
     RefreshControl control;
-    QSignalSpy pulled(&control, &RefreshControl::valueChanged);
     control.pull();
-    control.pull();
-    EXPECT_EQ(pulled.count(), 1);
     std::thread([&] {
         table.reloadData();
-        table.setHidden(true);
         control.endRefreshing();
     }).join();
     EXPECT_EQ(source.asked, 0);
     EXPECT_TRUE(control.isRefreshing());
     announce();
     EXPECT_EQ(table.count(), 1);
-    EXPECT_TRUE(table.isHidden());
     EXPECT_FALSE(control.isRefreshing());
 }
 

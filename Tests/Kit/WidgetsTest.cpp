@@ -359,7 +359,8 @@ TEST_F(WidgetsTest, AlertsAndActionSheetsAnswerToPressesAndKeys)
         menu->present("Reset?", "All goes", choices, 1, answer);
         EXPECT_TRUE(waitFor([&] { return !focused(); }));
         window.key(Qt::Key_Escape);
-        EXPECT_THAT(answers, ElementsAre(1));
+        menu->choose(0);
+        EXPECT_THAT(answers, ElementsAre(1)) << "one answer, whatever is pressed while the menu goes";
         EXPECT_TRUE(waitFor(focused)) << "the keyboard goes back to where it was";
         menu->present("Reset?", "All goes", choices, 1, answer);
         EXPECT_TRUE(waitFor([&] { return window.view().activeFocusItem() != nullptr; }));
