@@ -14,6 +14,8 @@ using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
 using testing::UnorderedElementsAre;
 
 namespace lodestar::test
@@ -177,27 +179,20 @@ TEST_F(InventoryTest, LinkedValueIsFetchedOnTheCallersThread)
     EXPECT_EQ(handler().fetchDataFromAtomLink(base + "VirtualIOServer", *corvel), "");
     const auto page = handler().fetchDataFromAtomLink(base + "x/1/quick/Nothing", *corvel);
     ASSERT_TRUE(page) << "the status is not looked at";
-    EXPECT_THAT(*page, testing::Not(HasSubstr("\"")));
+    EXPECT_THAT(*page, Not(HasSubstr("\"")));
     EXPECT_THAT(takeLines(), IsEmpty());
 
     simulator.setFault("cutBody:Group");
     EXPECT_EQ(handler().fetchDataFromAtomLink(base + "Group", *corvel), std::nullopt);
     EXPECT_THAT(lineSources(),
-                ElementsAre("2 0 Shared/Controllers/REST/RESTHandler -[RESTHandler fetchDataFromAtomLink:corvel:]"));
-    EXPECT_THAT(takeLines(), ElementsAre(testing::StartsWith("Error: URLError")));
+                ElementsAre(StartsWith(
+                    "2 0 Shared/Controllers/REST/RESTHandler -[RESTHandler fetchDataFromAtomLink:corvel:]:")));
+    EXPECT_THAT(takeLines(), ElementsAre(StartsWith("Error: URLError")));
 }
 
-TEST_F(InventoryTest, WorkingListKeepsTheStoresOrderAndIsReadFromAnyThread)
+TEST_F(InventoryTest, WorkingListIsReadOnAnyThreadWhileItChanges)
 {
-    const CorvelRef a = makeCorvel("b", "1");
-    const CorvelRef b = makeCorvel("a", "2");
-    EXPECT_TRUE(context().save().ok());
-    const CorvelRef c = makeCorvel("c", "3");
-    EXPECT_THAT(handler().fetchCorvels(), ElementsAre(corvel, a, b, c));
-    handler().setCorvelList({a, b});
-    handler().addCorvel(c);
-    EXPECT_THAT(handler().corvelList(), ElementsAre(a, b, c));
-
+    handler().setCorvelList({corvel, makeCorvel("b", "1")});
     std::atomic<bool> over{false};
     std::thread reader([&over] {
         while (!over) {
@@ -209,17 +204,16 @@ TEST_F(InventoryTest, WorkingListKeepsTheStoresOrderAndIsReadFromAnyThread)
     });
     const auto before = handler().corvelListSnapshot();
     for (int i = 0; i < 1000; ++i) {
-        handler().addCorvel(c);
-        a->setAddress("address " + std::to_string(i));
-        handler().removeCorvelAtIndex(handler().corvelList().size() - 1);
+        handler().addCorvel(corvel);
+        corvel->setAddress("address " + std::to_string(i));
+        handler().removeCorvelAtIndex(2);
     }
     over = true;
     reader.join();
     handler().removeCorvelAtIndex(1);
     handler().removeCorvelAtIndex(99);
-    EXPECT_THAT(handler().corvelList(), ElementsAre(a, c));
-    EXPECT_THAT(*handler().corvelListSnapshot(), ElementsAre(a, c));
-    EXPECT_THAT(*before, ElementsAre(a, b, c));
+    EXPECT_THAT(*handler().corvelListSnapshot(), ElementsAre(corvel));
+    EXPECT_EQ(before->size(), 2U);
 }
 
 TEST_F(InventoryTest, FleetWithBadConsolesRefreshesEachForItself)
@@ -249,10 +243,11 @@ TEST_F(InventoryTest, FleetWithBadConsolesRefreshesEachForItself)
     for (const std::string& line : takeLines()) {
         told += line + '\n';
     }
-    EXPECT_THAT(told, AllOf(HasSubstr("Receiving data"), HasSubstr("Console 4")));
+    EXPECT_THAT(told, AllOf(testing::ContainsRegex("Starting request\n(.*\n)*Ignoring SSL\n(.*\n)*Receiving data\n"),
+                            HasSubstr("Console 4")));
     for (const std::string& secret : {simulator.password(), defaults().stringForKey(*corvels[4]->address()).value(),
                                       std::string("<LogonRequest"), std::string("<entry")}) {
-        EXPECT_THAT(told, testing::Not(HasSubstr(secret))) << "neither password nor key nor body is told";
+        EXPECT_THAT(told, Not(HasSubstr(secret))) << "neither password nor key nor body is told";
     }
     for (int i = 0; i < settings.consoles; ++i) {
         SCOPED_TRACE(i);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Controllers/REST/CorvelRequest.h"
 #include "Platform/URLLoading/URLError.h"
 #include "Tests/REST/RESTHandlerFixture.h"
 
@@ -12,8 +13,12 @@ using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::StartsWith;
 
 namespace lodestar::test
+{
+
+namespace
 {
 
 using LogonTest = ConsoleTest;
@@ -46,7 +51,8 @@ TEST_F(LogonTest, FirstLogonGoesOutByteForByteAndItsKeyIsStored)
                             "Content-Length: " + std::to_string(body.size())));
     EXPECT_EQ(handler().loginRequestForCorvel(*corvel).timeout, std::chrono::seconds(10));
 
-    EXPECT_THAT(lineSources(), Each("2 0 Shared/Controllers/REST/RESTHandler -[RESTHandler login:checkToken:]"));
+    EXPECT_THAT(lineSources(),
+                Each(StartsWith("2 0 Shared/Controllers/REST/RESTHandler -[RESTHandler login:checkToken:]:")));
     EXPECT_THAT(takeLines(),
                 ElementsAre("Corvel: Console 0, just used firstOpen case", "Console 0's Corvel's saved token is nil"));
 }
@@ -217,5 +223,49 @@ TEST_F(LogonTest, ConsolesLogOnSideBySideEachWithItsOwnKey)
     }
     EXPECT_EQ((std::set<SessionKey>(keys.begin(), keys.end())).size(), keys.size());
 }
+
+TEST(CorvelRequestTest, KeepsTheBodyOfTheLastResponseOnly)
+{
+    CorvelRequest request;
+    request.didReceiveResponse({"https://a/", 302, {}, -1});
+    request.didReceiveData(std::string("first"));
+    request.didReceiveResponse({"https://b/", 200, {}, -1});
+    request.didReceiveData(std::string("second"));
+    request.didReceiveData(std::string("third"));
+    EXPECT_EQ(request.response().url, "https://b/");
+    EXPECT_EQ(request.data(), "secondthird");
+}
+
+class FakeChallenge : public AuthenticationChallenge
+{
+public:
+    explicit FakeChallenge(Method method) : m_method(method) {}
+    Method authenticationMethod() const override { return m_method; }
+    std::string host() const override { return "console"; }
+    int port() const override { return 12443; }
+    void useCredential() override { used = true; }
+    void continueWithoutCredential() override { went = true; }
+
+    bool used = false;
+    bool went = false;
+
+private:
+    const Method m_method;
+};
+
+TEST(CorvelRequestTest, AnswersNoChallengeButTheServersTrust)
+{
+    using Method = AuthenticationChallenge::Method;
+    CorvelRequest request;
+    for (const Method method :
+         {Method::ServerTrust, Method::HTTPBasic, Method::HTTPDigest, Method::ClientCertificate, Method::Other}) {
+        FakeChallenge challenge(method);
+        request.willSendRequestForAuthenticationChallenge(challenge);
+        EXPECT_EQ(challenge.used, method == Method::ServerTrust);
+        EXPECT_NE(challenge.went, challenge.used);
+    }
+}
+
+} // namespace
 
 } // namespace lodestar::test

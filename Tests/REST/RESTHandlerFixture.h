@@ -52,10 +52,9 @@ protected:
         m_listener = VireoLogger::addListener([this](const VireoLogger::Entry& entry) {
             const std::lock_guard lock(m_linesMutex);
             m_lines.emplace_back(entry.message);
-            m_sources.push_back(std::to_string(entry.level) + " " + std::to_string(entry.tag) + " " +
-                                std::string(entry.fileName) + " " + std::string(entry.method) +
-                                (entry.stacktrace.empty() ? " without a stack" : ""));
-            m_numbers.push_back(entry.line);
+            m_sources.push_back((entry.stacktrace.empty() ? "without a stack " : "") + std::to_string(entry.level) +
+                                " " + std::to_string(entry.tag) + " " + std::string(entry.fileName) + " " +
+                                std::string(entry.method) + ":" + std::to_string(entry.line));
         });
     }
     void TearDown() override
@@ -116,19 +115,13 @@ protected:
     {
         const std::lock_guard lock(m_linesMutex);
         m_sources.clear();
-        m_numbers.clear();
         return std::exchange(m_lines, {});
     }
-    /// Level, tag, file and method of the same lines.
+    /// Level, tag, file, method and number of the same lines.
     std::vector<std::string> lineSources()
     {
         const std::lock_guard lock(m_linesMutex);
         return m_sources;
-    }
-    std::vector<int> lineNumbers()
-    {
-        const std::lock_guard lock(m_linesMutex);
-        return m_numbers;
     }
 
 private:
@@ -137,7 +130,6 @@ private:
     std::mutex m_linesMutex;
     std::vector<std::string> m_lines;
     std::vector<std::string> m_sources;
-    std::vector<int> m_numbers;
 };
 
 /// One console, and its record in the store.
