@@ -199,7 +199,7 @@ SceneStage::SceneStage()
     UserDefaults::standard().setBool(true, "showedPreview");
     TabBarAppearance::appearance().selectedImageTintColor = UIColor::selectedBlue();
     Storyboard::main() = Storyboard();
-    registerMainStoryboard({});
+    registerMainStoryboard([](const std::shared_ptr<ViewController>&) {});
     installViews(m_engine);
     installFeedbackUI(m_engine);
     QObject::connect(&m_engine, &QQmlEngine::warnings, [this](const QList<QQmlError>& warnings) {
