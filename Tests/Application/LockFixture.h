@@ -7,6 +7,7 @@
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
+#include "Fleet/Registry.h"
 #include "Kit/Core/TabBarController.h"
 #include "Platform/Error.h"
 #include "Platform/Keychain.h"
@@ -136,6 +137,21 @@ protected:
         root = passcodeScreen;
         passcodeScreen->beginAppearance();
         return *passcodeScreen;
+    }
+    void logInWith(const char* text) const
+    {
+        passcodeScreen->passwordTextField()->setText(QString::fromUtf8(text));
+        passcodeScreen->performLogin();
+    }
+    static CorvelRef addConsole(const std::string& address, const std::string& user, const std::string& password)
+    {
+        const CorvelRef corvel = insertNewCorvel();
+        corvel->setDemo(false);
+        corvel->setName(address);
+        corvel->setAddress(address);
+        corvel->setUsername(user);
+        corvel->setPassword(password);
+        return corvel;
     }
     /// Whether the main interface was shown in the passcode screen's place.
     bool isUnlocked() const { return dynamic_cast<TabBarController*>(root.get()) != nullptr; }

@@ -7,7 +7,6 @@
 #include "Feedback/UI/FeedbackViewController.h"
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/NavigationController.h"
-#include "Kit/Core/TabBarController.h"
 #include "Tests/Application/LockFixture.h"
 #include "Views/Corvels/CorvelListViewController.h"
 
@@ -54,6 +53,7 @@ protected:
         window().show();
         window().requestActivate();
         ASSERT_TRUE(waitFor([this] { return window().isExposed() && window().isActive(); }));
+        settle(300);
     }
     static void settle(int milliseconds = 20) { QTest::qWait(milliseconds); }
     static bool waitFor(const std::function<bool()>& predicate) { return QTest::qWaitFor(predicate, 10'000); }
@@ -136,10 +136,11 @@ protected:
     }
     void press(Qt::Key key, Qt::KeyboardModifiers modifiers = {}) const { QTest::keyClick(&window(), key, modifiers); }
 
-    /// As when the application becomes active again.
+    /// As when the application becomes active again: the system may show a frame before any event has run.
     void reactivate()
     {
         delegate.applicationDidBecomeActive();
+        EXPECT_TRUE(showsOnlyTheMark(window().grabWindow(), 844 / 3));
         settle(300);
     }
     void unlock() const

@@ -53,8 +53,7 @@ TEST_F(PasscodeTest, OnlyTheVeryTextOpens)
     LoginViewController& screen = showLogin();
     EXPECT_FALSE(screen.passwordTextField()->isHidden());
     for (const char* wrong : {"", "caf\u00E9 9", "Caf\u00E9 9 ", " Caf\u00E9 9", "Cafe\u0301 9", "Caf\u00E9 90"}) {
-        screen.passwordTextField()->setText(QString::fromUtf8(wrong));
-        screen.performLogin();
+        logInWith(wrong);
         ASSERT_FALSE(isUnlocked()) << wrong;
         EXPECT_EQ(screen.passwordTextField()->text(), "");
         EXPECT_TRUE(screen.alert()->isPresented());
@@ -62,8 +61,7 @@ TEST_F(PasscodeTest, OnlyTheVeryTextOpens)
         EXPECT_EQ(screen.alert()->message(), "Incorrect Credentials");
         screen.alert()->choose(0);
     }
-    screen.passwordTextField()->setText(QString::fromUtf8("Caf\u00E9 9"));
-    screen.performLogin();
+    logInWith("Caf\u00E9 9");
     EXPECT_TRUE(isUnlocked());
     EXPECT_THAT(logged(), Not(HasSubstr("Caf")));
 }
@@ -126,8 +124,7 @@ TEST_F(PasscodeTest, WhileThePersonIsAskedTheScreensWait)
     LoginViewController& screen = showLogin();
     EXPECT_FALSE(isUnlocked());
     EXPECT_FALSE(screen.passwordTextField()->isHidden());
-    screen.passwordTextField()->setText("p");
-    screen.performLogin();
+    logInWith("p");
     screen.performLogin();
     EXPECT_FALSE(isUnlocked()) << "pending is not unreadable";
     keychain->release();
@@ -256,18 +253,6 @@ TEST_F(PasscodeTest, TheSwitchCannotStayOnWithoutAPasscodeWhichSurvivesTheSwitch
     passcode().clear();
     stack->pop();
     EXPECT_FALSE(isRequired());
-}
-
-TEST_F(PasscodeTest, TheMarkStandsHigherOnAShortScreenAndTheFieldOverAKeyboard)
-{
-    passcode() = "p";
-    require();
-    LoginViewController& screen = showLogin();
-    screen.viewDidLayoutSubviews(548, 568);
-    EXPECT_EQ(screen.logoYAlignment(), 137);
-    EXPECT_EQ(screen.spaceToPassword(), 200);
-    screen.keyboardDidChangeFrame({0, 308, 320, 260}, 0.25);
-    EXPECT_EQ(screen.spaceToPassword(), 50);
 }
 
 } // namespace

@@ -110,11 +110,9 @@ TEST_F(ResetFaultTest, AResetIsFinishedByTheNextStartAtTheLatest)
 
 TEST_F(ResetFaultTest, ConsolesThatAreAskedMeanwhileLeaveNothing)
 {
-    const simulator::SimulatorProcess fleet([] {
-        simulator::Settings settings;
-        settings.consoles = 3;
-        return settings;
-    }());
+    simulator::Settings settings;
+    settings.consoles = 3;
+    const simulator::SimulatorProcess fleet(settings);
     std::mt19937 random(12); // NOLINT(cert-msc51-cpp): the same moments in every run
     const int tries = rounds(5, 100);
     for (int round = 0; round < tries; ++round) {

@@ -2,7 +2,6 @@
 #pragma once
 
 #include "Application/Adapters/FileUserDefaults.h"
-#include "Fleet/Registry.h"
 #include "Tests/Application/LockFixture.h"
 
 namespace lodestar::lock
@@ -15,16 +14,6 @@ protected:
     void openDefaults() const
     {
         UserDefaults::install(std::make_unique<FileUserDefaults>(folder.file("Lodestar.defaults")));
-    }
-    static CorvelRef addConsole(const std::string& address, const std::string& user, const std::string& password)
-    {
-        const CorvelRef corvel = insertNewCorvel();
-        corvel->setDemo(false);
-        corvel->setName(address);
-        corvel->setAddress(address);
-        corvel->setUsername(user);
-        corvel->setPassword(password);
-        return corvel;
     }
     /// Nobody listens at the consoles' addresses.
     void fill(int consoles) const

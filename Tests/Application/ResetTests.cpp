@@ -36,8 +36,7 @@ TEST_F(ResetTest, LeavesNoSecretInAnyFileAndComesUpAsOnTheFirstDay)
     fill(40);
     ASSERT_THAT(filesWith("secret-"), ::testing::Contains("Lodestar.defaults")) << "the search itself works";
     LoginViewController& login = showLogin();
-    login.passwordTextField()->setText("secret-attempt");
-    login.performLogin();
+    logInWith("secret-attempt");
     login.alert()->choose(0);
     // An editor that the lock took away had inserted this one, but not saved it.
     addConsole("10.0.0.1", "overseer", "secret-unsaved");
@@ -98,8 +97,7 @@ TEST_F(ResetTest, ReportsHoldNoSecretAndGoWithTheRest)
     // Its console is gone, the key is not.
     UserDefaults::standard().setString("secret-key-orphan", "127.0.99.77");
     LoginViewController& login = showLogin();
-    login.passwordTextField()->setText("secret-attempt");
-    login.performLogin();
+    logInWith("secret-attempt");
     login.alert()->choose(0);
     settle();
     const auto isStoreOrDefaults = ::testing::AnyOf("Lodestar.defaults", ::testing::StartsWith("Lodestar.sqlite"));

@@ -2,7 +2,6 @@
 // The real window as a person meets it: on the first day, and with a keyboard on a small screen.
 #include "Application/FeedbackSupport.h"
 #include "Application/WindowPlace.h"
-#include "Fleet/Registry.h"
 #include "Platform/NotificationCenter.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Application/LockedWindowFixture.h"
@@ -44,7 +43,6 @@ TEST_F(LockedWindowTest, AnExitInTheMiddleOfItAllEndsTheProcessAndCrashesNothing
 {
     GTEST_FLAG_SET(death_test_style, "threadsafe");
     open(false);
-    settle(300);
     EXPECT_EXIT(std::exit(7), ::testing::ExitedWithCode(7), "");
 }
 
@@ -154,11 +152,8 @@ TEST_F(LockedWindowTest, AConsoleThatCannotBeReachedReadsOfflineUntilItAnswers)
     settings.consoles = 2;
     simulator::SimulatorProcess fleet(settings);
     for (const int number : {0, 1}) {
-        const CorvelRef corvel = insertNewCorvel();
+        const CorvelRef corvel = addConsole(fleet.address(number), fleet.user(), fleet.password());
         corvel->setName("Console " + std::to_string(number));
-        corvel->setAddress(fleet.address(number));
-        corvel->setUsername(fleet.user());
-        corvel->setPassword(fleet.password());
         RESTHandler::sharedInstance().addCorvel(corvel);
     }
     fleet.setFault("closePort:0");

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Feedback/ReportSender.h"
 #include "Simulator/SimulatorProcess.h"
+#include "Tests/Support/ScratchFolder.h"
 #include "Tests/Support/ScriptedServer.h"
 
 #include <gmock/gmock.h>
@@ -17,40 +18,36 @@ namespace lodestar
 namespace
 {
 
-/// A certificate for which the system's authorities vouch: they are read once a process, hence the environment.
-class VouchedLeaf : public testing::Environment
+/// A certificate for which the system's authorities vouch: they are read once a process.
+class ReportSenderTest : public testing::Test
 {
-public:
-    void SetUp() override
+protected:
+    static void SetUpTestSuite()
     {
+        folder = std::make_unique<ScratchFolder>();
+        const std::string authorities = folder->file("authorities.pem");
         simulator::Settings settings;
-        settings.receiver = m_path;
-        service.start(settings); // writes its own certificate there
-        const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(m_path.c_str(), "a"), std::fclose);
+        settings.receiver = authorities;
+        service = std::make_unique<simulator::SimulatorProcess>(settings);
+        const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(authorities.c_str(), "a"), std::fclose);
         ASSERT_NE(file, nullptr);
-        EXPECT_EQ(PEM_write_X509(file.get(), leaf->certificate.get()), 1);
-        setenv("SSL_CERT_FILE", m_path.c_str(), 1);
+        EXPECT_EQ(PEM_write_X509(file.get(), vouched->certificate.get()), 1); // behind the service's own
+        setenv("SSL_CERT_FILE", authorities.c_str(), 1);
     }
-    void TearDown() override
+    static void TearDownTestSuite()
     {
-        service.stop();
-        std::remove(m_path.c_str());
+        service.reset();
+        folder.reset();
+    }
+    static test::ScriptedServer::LeafRef makeLeaf()
+    {
+        return simulator::makeLeaf("127.0.0.1", simulator::Leaf::Kind::Valid);
     }
 
-    const test::ScriptedServer::LeafRef leaf = simulator::makeLeaf("127.0.0.1", simulator::Leaf::Kind::Valid);
-    simulator::SimulatorProcess service;
-
-private:
-    const std::string m_path = testing::TempDir() + "lodestar-authorities-" + std::to_string(getpid()) + ".pem";
+    static inline const test::ScriptedServer::LeafRef vouched = makeLeaf();
+    static inline std::unique_ptr<ScratchFolder> folder;
+    static inline std::unique_ptr<simulator::SimulatorProcess> service;
 };
-
-VouchedLeaf& vouched()
-{
-    static auto* const leaf = new VouchedLeaf;
-    return *leaf;
-}
-
-const testing::Environment* const registered = testing::AddGlobalTestEnvironment(&vouched());
 
 Result<void> send(const std::string& address)
 {
@@ -70,12 +67,12 @@ Result<void> sendTo(const std::string& answer, const test::ScriptedServer::LeafR
 
 } // namespace
 
-TEST(ReportSenderTest, OnlyAVouchedServersGoodAnswerOverTlsCountsAsSent)
+TEST_F(ReportSenderTest, OnlyAVouchedServersGoodAnswerOverTlsCountsAsSent)
 {
     const std::string good = "HTTP/1.1 201 Created\r\nContent-Length: 0\r\n\r\n";
-    EXPECT_TRUE(sendTo(good, vouched().leaf).ok());
-    EXPECT_FALSE(sendTo(good, simulator::makeLeaf("127.0.0.1", simulator::Leaf::Kind::Valid)).ok());
-    const Result<void> refused = sendTo("HTTP/1.1 507 Full\r\nContent-Length: 0\r\n\r\n", vouched().leaf);
+    EXPECT_TRUE(sendTo(good, vouched).ok());
+    EXPECT_FALSE(sendTo(good, makeLeaf()).ok());
+    const Result<void> refused = sendTo("HTTP/1.1 507 Full\r\nContent-Length: 0\r\n\r\n", vouched);
     ASSERT_FALSE(refused.ok());
     EXPECT_THAT(refused.error().localizedDescription, testing::HasSubstr("507"));
     for (const std::string address : {"", "http://127.0.0.1/", "https", "ftp://127.0.0.1/"}) {
@@ -84,10 +81,10 @@ TEST(ReportSenderTest, OnlyAVouchedServersGoodAnswerOverTlsCountsAsSent)
     EXPECT_EQ(feedbackAddress(), "") << "no build sends anything unless it is told where to";
 }
 
-TEST(ReportSenderTest, TheServiceKnowsTheSessionAndHowMuchHasGoneIsTold)
+TEST_F(ReportSenderTest, TheServiceKnowsTheSessionAndHowMuchHasGoneIsTold)
 {
     const OperationQueue queue;
-    const std::string& address = vouched().service.receiver();
+    const std::string& address = service->receiver();
     std::promise<bool> started;
     startFeedbackSession("k\"ey", 2, address, queue,
                          [&](const Result<void>& outcome) { started.set_value(outcome.ok()); });
@@ -105,7 +102,7 @@ TEST(ReportSenderTest, TheServiceKnowsTheSessionAndHowMuchHasGoneIsTold)
     EXPECT_EQ(std::adjacent_find(told.begin(), told.end(), std::greater_equal()), told.end()) << "once a percent";
     EXPECT_EQ(told.back(), 100);
     const std::string& session = feedbackSessionIdentifier();
-    EXPECT_THAT(vouched().service.reports(),
+    EXPECT_THAT(service->reports(),
                 testing::ElementsAre(R"(session {"key":"k\u0022ey","session":")" + session + R"(","mode":2})",
                                      testing::AllOf(testing::StartsWith("report 1, 3"),
                                                     testing::EndsWith(" bytes, sent in session " + session))));

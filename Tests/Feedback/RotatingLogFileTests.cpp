@@ -18,15 +18,21 @@ perms modeOf(const std::filesystem::path& path)
     return std::filesystem::status(path).permissions();
 }
 
+class RotatingLogFileTest : public testing::Test
+{
+protected:
+    const ScratchFolder scratch;
+    const std::string folder = scratch.path();
+    RotatingLogFile file;
+};
+
 } // namespace
 
-TEST(RotatingLogFile, KeepsTheYoungestFilesWithTheirHeaderAndLosesNoLineInBetween)
+TEST_F(RotatingLogFileTest, KeepsTheYoungestFilesWithTheirHeaderAndLosesNoLineInBetween)
 {
-    const ScratchFolder scratch;
-    const std::string folder = (scratch.path() / "new" / "logs").string();
-    RotatingLogFile file;
+    const std::string made = scratch.file("new/logs");
     file.setHeader("H\n");
-    ASSERT_TRUE(file.open(folder, "log", {10, 3}));
+    ASSERT_TRUE(file.open(made, "log", {10, 3}));
     file.append("111\n222\n333\n444\n"); // two a file beside the header
     file.append("555\n");
     file.append("666\n777\n");
@@ -39,50 +45,44 @@ TEST(RotatingLogFile, KeepsTheYoungestFilesWithTheirHeaderAndLosesNoLineInBetwee
     EXPECT_EQ(scratch.read("new/logs/log.1"), "H\na line that is longer than a file\n");
     EXPECT_EQ(scratch.read("new/logs/log"), "H\n8\n");
 
-    EXPECT_EQ(modeOf(folder), perms::owner_all);
+    EXPECT_EQ(modeOf(made), perms::owner_all);
     for (const char* name : {"log", "log.1", "log.2"}) {
-        EXPECT_EQ(modeOf(std::filesystem::path(folder) / name), perms::owner_read | perms::owner_write) << name;
+        EXPECT_EQ(modeOf(made + "/" + name), perms::owner_read | perms::owner_write) << name;
     }
 
     file.empty();
     file.append("9\n");
     EXPECT_EQ(scratch.read("new/logs/log"), "H\n9\n");
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(folder), {}), 1);
+    EXPECT_EQ(std::distance(std::filesystem::directory_iterator(made), {}), 1);
 }
 
-TEST(RotatingLogFile, GoesOnWithTheFileOfTheLastRunAndTightensItsMode)
+TEST_F(RotatingLogFileTest, GoesOnWithTheFileOfTheLastRunAndTightensItsMode)
 {
-    const ScratchFolder scratch;
     std::ofstream(scratch.path() / "log") << "whole\ncut in the mid";
     std::filesystem::permissions(scratch.path() / "log", perms::all);
-    RotatingLogFile file;
     file.setHeader("H\n");
-    ASSERT_TRUE(file.open(scratch.path().string(), "log", {}));
+    ASSERT_TRUE(file.open(folder, "log", {}));
     file.append("next\n");
     EXPECT_EQ(scratch.read("log"), "whole\ncut in the mid\nH\nnext\n");
     EXPECT_EQ(modeOf(scratch.path() / "log"), perms::owner_read | perms::owner_write);
 }
 
-TEST(RotatingLogFile, RefusesWhatIsNoFolderOrNoFileOfItsOwn)
+TEST_F(RotatingLogFileTest, RefusesWhatIsNoFolderOrNoFileOfItsOwn)
 {
-    const ScratchFolder scratch;
     std::ofstream(scratch.path() / "file") << "mine";
     std::filesystem::create_symlink(scratch.path() / "file", scratch.path() / "link");
     std::filesystem::create_directory(scratch.path() / "folder");
-    RotatingLogFile file;
     EXPECT_FALSE(file.open((scratch.path() / "file" / "below").string(), "log", {}));
-    EXPECT_FALSE(file.open(scratch.path().string(), "link", {}));
-    EXPECT_FALSE(file.open(scratch.path().string(), "folder", {}));
+    EXPECT_FALSE(file.open(folder, "link", {}));
+    EXPECT_FALSE(file.open(folder, "folder", {}));
     EXPECT_FALSE(file.isOpen());
     file.append("goes nowhere\n");
     EXPECT_EQ(scratch.read("file"), "mine");
 }
 
-TEST(RotatingLogFile, CountsWhatAFullDiskTookAndRecovers)
+TEST_F(RotatingLogFileTest, CountsWhatAFullDiskTookAndRecovers)
 {
-    const ScratchFolder scratch;
-    RotatingLogFile file;
-    ASSERT_TRUE(file.open(scratch.path().string(), "log", {}));
+    ASSERT_TRUE(file.open(folder, "log", {}));
     {
         const test::FullDisk disk(10);
         file.append("12345678\nabc\n"); // the disk is full in the second line
@@ -93,12 +93,10 @@ TEST(RotatingLogFile, CountsWhatAFullDiskTookAndRecovers)
     EXPECT_EQ(scratch.read("log"), "12345678\na\n(8 bytes of log could not be written)\nback\n");
 }
 
-TEST(RotatingLogFile, StartsOverWhenTheFullFileCannotBeSetAside)
+TEST_F(RotatingLogFileTest, StartsOverWhenTheFullFileCannotBeSetAside)
 {
-    const ScratchFolder scratch;
     std::filesystem::create_directory(scratch.path() / "log.1"); // no file can be renamed to this
-    RotatingLogFile file;
-    ASSERT_TRUE(file.open(scratch.path().string(), "log", {8, 2}));
+    ASSERT_TRUE(file.open(folder, "log", {8, 2}));
     file.append("111\n222\n333\n");
     EXPECT_EQ(scratch.read("log"), "333\n");
 
