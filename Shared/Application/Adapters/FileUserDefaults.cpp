@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Adapters/FileUserDefaults.h"
 
+#include "Feedback/VireoLogger.h"
 #include "Platform/PrivateFile.h"
 
 #include <QFile>
@@ -133,17 +134,21 @@ bool FileUserDefaults::synchronize()
     if (copied == m_writtenGeneration) {
         return true;
     }
+    bool written = false;
     try {
-        if (!write(m_path, values())) {
-            return false;
-        }
+        written = write(m_path, values());
     } catch (const std::bad_alloc&) {
         // Qt allocates its texts outside the memory reserve. As with a full disk, the next change or the end tries
         // again.
-        return false;
     }
-    m_writtenGeneration = copied;
-    return true;
+    if (written) {
+        m_writtenGeneration = copied;
+    } else if (!m_failing) {
+        LODESTAR_LOG("Shared/Application/Adapters/FileUserDefaults", "synchronize",
+                     "{} could not be written. The next change tries again.", m_path);
+    }
+    m_failing = !written;
+    return written;
 }
 
 } // namespace lodestar

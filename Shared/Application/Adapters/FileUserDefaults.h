@@ -31,6 +31,7 @@ private:
     std::mutex m_writeMutex; ///< one writer at a time
     std::atomic<std::uint64_t> m_generation = 0;
     std::uint64_t m_writtenGeneration = 0;
+    bool m_failing = false; ///< so that the log tells of a full disk once
     std::atomic<bool> m_writeQueued = false;
 };
 
