@@ -1,55 +1,40 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Platform/Resources.h"
 #include "Tests/Views/ViewsFixture.h"
 #include "Views/About/OpenSourceViewController.h"
 #include "Views/About/RichDocumentOutlet.h"
-
-#include <QColor>
-
-#include <algorithm>
-#include <utility>
 
 namespace lodestar::testing
 {
 namespace
 {
 
-using Files = std::vector<std::pair<std::string, std::optional<std::string>>>;
+using Files = std::optional<std::vector<std::string>>;
 
-/// The folder of notices, in the order given; a file without content cannot be read.
+/// The folder of notices; one of the files cannot be read.
 class PackagedNotices : public Resources
 {
 public:
-    std::optional<Files> notices;
+    explicit PackagedNotices(Files files) : m_files(std::move(files)) {}
 
-    std::optional<std::string> contents(const std::string& /*name*/, const std::string& /*extension*/) const override
+    Files filesInFolder(const std::string& folder) const override
     {
-        return std::nullopt;
-    }
-    std::optional<std::vector<std::string>> filesInFolder(const std::string& folder) const override
-    {
-        std::vector<std::string> names;
-        for (const auto& [name, content] : notices.value_or(Files())) {
-            names.push_back(name);
-        }
-        return notices && folder == "OpenSourceLicenses" ? std::optional(names) : std::nullopt;
+        return folder == "OpenSourceLicenses" ? m_files : std::nullopt;
     }
     std::optional<std::string> contentsInFolder(const std::string& /*folder*/, const std::string& file) const override
     {
-        return std::ranges::find(*notices, file, &Files::value_type::first)->second;
+        return file == "gone.txt" ? std::nullopt : std::optional("é of " + file + "\n");
     }
+
+private:
+    const Files m_files;
 };
 
-class AboutTest : public ViewsTest
-{
-};
+using AboutTest = ViewsTest;
 
 TEST_F(AboutTest, NoticesStandInTheFoldersOrderBelowTheirShortenedNames)
 {
-    auto package = std::make_unique<PackagedNotices>();
-    std::optional<Files>& notices = package->notices;
-    Resources::install(std::move(package));
-    const auto read = [] {
+    const auto read = [](const Files& files) {
+        Resources::install(std::make_unique<PackagedNotices>(files));
         const auto screen = makeController<OpenSourceViewController>();
         screen->loadViewIfNeeded();
         // What is read in the background has been read when nobody else holds the screen.
@@ -57,10 +42,9 @@ TEST_F(AboutTest, NoticesStandInTheFoldersOrderBelowTheirShortenedNames)
         drain();
         return screen->licenseText()->attributedText();
     };
-    notices = Files{{"zlib.txt", "Z\n"}, {"gone.txt", std::nullopt}, {"libxml2.txt", "X \xC3\xA9"}};
-    EXPECT_EQ(read(), QStringLiteral("zlib\nZ\n\n\n\ngone\n\n\n\nlibxml2\nX é\n\n\n"));
-    notices = std::nullopt;
-    EXPECT_EQ(read(), "");
+    EXPECT_EQ(read({{"zlib.txt", "gone.txt", "libxml2.txt"}}),
+              QStringLiteral("zlib\né of zlib.txt\n\n\n\ngone\n\n\n\nlibxml2\né of libxml2.txt\n\n\n\n"));
+    EXPECT_EQ(read(std::nullopt), "");
 }
 
 TEST_F(AboutTest, ALongTextIsCutIntoPiecesThatAreItAgain)

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Controllers/REST/RESTHandler.h"
 #include "Kit/Core/UIColor+Tessel.h"
-#include "Tests/Views/ViewsFixture.h"
+#include "Tests/Views/ListFixture.h"
 #include "Views/Dashboard/DashboardTableViewController.h"
 
 #include <dirent.h>
@@ -14,17 +13,6 @@ namespace
 {
 
 using ::testing::ElementsAre;
-
-std::string feedOf(const std::string& type, const std::string& element, const std::vector<std::string>& states)
-{
-    std::string xml = "<feed>";
-    for (const std::string& state : states) {
-        xml += "<entry><content><" + type + ">";
-        xml += state.empty() ? "" : "<" + element + ">" + state + "</" + element + ">";
-        xml += "</" + type + "></content></entry>";
-    }
-    return xml + "</feed>";
-}
 
 /// Threads of this process that run at idle priority.
 int idleThreads()
@@ -83,17 +71,20 @@ protected:
 
 TEST_F(DashboardTest, SumsWhatTheConsolesHoldAndLogsWhatTheyLack)
 {
-    const auto states = [](const char* type, const char* element, const std::vector<std::string>& texts) {
-        return Feed(parse(feedOf(type, element, texts)));
-    };
-    addFetched("a",
-               {{"ManagedSystem", states("ManagedSystem", "State", {"operating", "error", "", "operating", "Error"})},
-                {"LogicalPartition", Feed::notAvailable()},
-                {"ServiceableEvent", Feed(parse("<feed><entry/><entry/></feed>"))}})
+    std::string systems = entry("ManagedSystem", "");
+    for (const char* state : {"operating", "error", "operating", "Error"}) {
+        systems += system("any", state);
+    }
+    std::string partitions;
+    for (const char* state : {"running", "not activated", "running"}) {
+        partitions += entry("LogicalPartition", std::string("<PartitionState>") + state + "</PartitionState>");
+    }
+    addFetched("a", {{"ManagedSystem", Feed(parse("<feed>" + systems + "</feed>"))},
+                     {"LogicalPartition", Feed::notAvailable()},
+                     {"ServiceableEvent", Feed(parse("<feed><entry/><entry/></feed>"))}})
         ->numMSLEDs = 2;
     addFetched("b", {{"ManagedSystem", Feed::notAvailable()},
-                     {"LogicalPartition",
-                      states("LogicalPartition", "PartitionState", {"running", "not activated", "running"})},
+                     {"LogicalPartition", Feed(parse("<feed>" + partitions + "</feed>"))},
                      {"ServiceableEvent", Feed::notAvailable()}})
         ->numMSLEDs = 3;
     const CorvelRef offline = addCorvel("Console", "c");

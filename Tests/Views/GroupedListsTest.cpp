@@ -1,8 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Feedback/VireoLogger.h"
-#include "Fleet/Registry.h"
-#include "Inventory/ManagedSystem.h"
-#include "Platform/Queues/MainQueue.h"
+#include "Simulator/Inventory.h"
 #include "Tests/Views/ListFixture.h"
 #include "Views/LogicalPartitions/LPDetailViewController.h"
 #include "Views/LogicalPartitions/LPListViewController.h"
@@ -57,21 +54,32 @@ QStringList titles(GroupedListViewController& list, TableKind kind = Main)
 }
 
 /// With a demonstration console, whose elements all stand in one group.
-using GroupedListsTest = ListTest;
-
-TEST_F(GroupedListsTest, PartitionsShowTheirStateByExactWording)
+class GroupedListsTest : public ListTest
 {
-    const auto list = makeController<LPListViewController>();
-    list->setCorvel(addFetched(
-        "LogicalPartition", entry("LogicalPartition", named("one") + "<PartitionType>Dedicated</PartitionType>"
-                                                                     "<ReferenceCode>N140-0020</ReferenceCode>") +
-                                entry("LogicalPartition", named("two", "not activated")) + entry("Other", "") +
-                                "<entry/>" + entry("LogicalPartition", named("three", "error")) +
-                                entry("LogicalPartition", named("four", "Running")) + entry("LogicalPartition", "")));
+protected:
+    /// The list of the partitions of one system.
+    std::shared_ptr<LPListViewController> openNarrowed(const CorvelRef& corvel, const QString& system)
+    {
+        const auto list = makeController<LPListViewController>();
+        list->setCorvel(corvel);
+        list->setPartitionName(system.toStdString());
+        push(list);
+        EXPECT_TRUE(hasContent(*list));
+        return list;
+    }
+};
+
+TEST_F(GroupedListsTest, PartitionsAndServersShowTheirStateByExactWording)
+{
     // A demonstration console has no system to narrow the list to.
-    list->setPartitionName("helios-01");
-    push(list);
-    ASSERT_TRUE(hasContent(*list));
+    const auto list = openNarrowed(
+        addFetched("LogicalPartition",
+                   entry("LogicalPartition", named("one") + "<PartitionType>Dedicated</PartitionType>"
+                                                            "<ReferenceCode>N140-0020</ReferenceCode>") +
+                       entry("LogicalPartition", named("two", "not activated")) + entry("Other", "") + "<entry/>" +
+                       entry("LogicalPartition", named("three", "error")) +
+                       entry("LogicalPartition", named("four", "Running")) + entry("LogicalPartition", "")),
+        "helios-01");
     EXPECT_EQ(titles(*list), QStringList("demo placeholder"));
     const std::pair<const char*, Role::State> rows[] = {{"one, Dedicated, running, N140-0020", Role::State::Good},
                                                         {"two, not activated", Role::State::Off},
@@ -83,23 +91,18 @@ TEST_F(GroupedListsTest, PartitionsShowTheirStateByExactWording)
         EXPECT_EQ(cellAt<PartitionCell>(*list, row).accessibleText(), rows[row].first);
         EXPECT_EQ(cellAt<PartitionCell>(*list, row).stateLabel.state, rows[row].second) << row;
     }
-    EXPECT_EQ(list->tableView()->rowHeight(), 50);
-    EXPECT_EQ(subtitle(*list), "3 Jul 2026, 10:25");
+    EXPECT_EQ(header(*list), "Logical Partitions/3 Jul 2026, 10:25");
 
     const auto empty = openFetched<LPListViewController>("LogicalPartition", "");
     EXPECT_EQ(empty->tableView()->count(), 0);
     EXPECT_EQ(empty->titleForHeaderInSection(Main, 0), "Demo Corvel");
-    EXPECT_EQ(empty->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::Search);
-}
 
-TEST_F(GroupedListsTest, ServersUncoverButtonsByTheirState)
-{
-    const auto list =
+    const auto servers =
         openFetched<VIOSViewController>("VirtualIOServer", entry("VirtualIOServer", named("a", "not activated")) +
                                                                entry("VirtualIOServer", named("b", "Not activated")));
-    EXPECT_THAT(cellAt<PartitionCell>(*list, 0).leftButtons,
+    EXPECT_THAT(cellAt<PartitionCell>(*servers, 0).leftButtons,
                 ElementsAre(SwipeButton{"", Role::Button::Positive, "check", "Check"}));
-    EXPECT_THAT(cellAt<PartitionCell>(*list, 1).leftButtons,
+    EXPECT_THAT(cellAt<PartitionCell>(*servers, 1).leftButtons,
                 ElementsAre(SwipeButton{"", Role::Button::Standard, "check", "Check"},
                             SwipeButton{"", Role::Button::Favourite, "fav", "Favourite"}));
 }
@@ -124,7 +127,7 @@ TEST_F(GroupedListsTest, DetailsShowThreeFactsCutAtAColon)
 }
 
 /// With a console that names its systems.
-class GroupingTest : public ListTest
+class GroupingTest : public GroupedListsTest
 {
 protected:
     void SetUp() override
@@ -134,14 +137,9 @@ protected:
         settings.systems = 3;
         fleet.start(settings);
         corvel = addLoggedOn(fleet);
-        std::optional<XMLElement> feed;
-        const auto keep = [&feed](const XMLElement& root) { feed = root; };
-        fetchFeedWithStoredKey(corvel, "ManagedSystem").thenOnMain(keep);
-        ASSERT_TRUE(runUntil([&] { return feed.has_value(); }));
-        for (const ManagedSystem& system : recordsOf<ManagedSystem>(Feed(*feed))) {
-            links.push_back("https://" + fleet.address(0) + ":12443/rest/api/uom/ManagedSystem/" +
-                            system.identifier().value());
-            systems.push_back(QString::fromStdString(system.name().value()));
+        for (const simulator::ManagedSystem& system : simulator::makeInventory(settings, 0).systems) {
+            links.push_back("https://" + fleet.address(0) + ":12443/rest/api/uom/ManagedSystem/" + system.id);
+            systems.push_back(QString::fromStdString(system.name));
         }
         fleet.clearRequests();
     }
@@ -153,24 +151,12 @@ protected:
     {
         return of(links.at(static_cast<std::size_t>(system)), inner, "LogicalPartition");
     }
-    void store(const std::string& type, const std::string& entries)
-    {
-        corvel->setRestData(feeds({{type, Feed(parse("<feed>" + entries + "</feed>"))}}));
-        corvel->completedFetch = true;
-    }
+    /// The console's list of a feed with these entries.
     template <typename Controller>
-    std::shared_ptr<Controller> openLoaded()
+    std::shared_ptr<Controller> openStored(const std::string& type, const std::string& entries)
     {
+        store(corvel, type, entries);
         auto list = open<Controller>(corvel);
-        EXPECT_TRUE(hasContent(*list));
-        return list;
-    }
-    std::shared_ptr<LPListViewController> openNarrowed(const QString& system)
-    {
-        const auto list = makeController<LPListViewController>();
-        list->setCorvel(corvel);
-        list->setPartitionName(system.toStdString());
-        push(list);
         EXPECT_TRUE(hasContent(*list));
         return list;
     }
@@ -191,15 +177,13 @@ TEST_F(GroupingTest, EveryPartitionAsksForItsSystemInTheThreadThatGroups)
     });
     const std::string feed = partition(1, named("LPAR01")) + partition(0, named("web")) +
                              partition(1, named("MyLpar2", "error")) + partition(2, named("mail"));
-    store("LogicalPartition", feed);
     const auto handshakes = fleet.handshakes(0);
-    const auto list = openLoaded<LPListViewController>();
+    const auto list = openStored<LPListViewController>("LogicalPartition", feed);
     EXPECT_EQ(titles(*list), QStringList({systems[1], systems[0], systems[2]}));
     EXPECT_THAT(names(*list), ElementsAre(QStringList({"LPAR01", "MyLpar2"}), QStringList("web"), QStringList("mail")));
     EXPECT_THAT(fleet.requests(0), AllOf(SizeIs(4), Each(::testing::Field(&simulator::RecordedRequest::path,
                                                                           HasSubstr("/quick/SystemName")))));
     EXPECT_EQ(onMain, 0);
-
     EXPECT_LE(fleet.handshakes(0) - handshakes, 1U) << "all over one connection";
 
     fleet.setFeed(0, "LogicalPartition", "<feed>" + feed + "</feed>");
@@ -248,8 +232,7 @@ TEST_F(GroupingTest, WithoutASystemsNamePartitionsAreKeptAndServersLeftOut)
                of("https://" + fleet.address(0) + ":1/nobody", named("silent"), type) + entry(type, named("unlinked")) +
                of("https://" + fleet.address(0) + ":12443/rest/api/uom/ManagedSystem/gone", named("refused"), type);
     };
-    store("LogicalPartition", entries("LogicalPartition"));
-    const auto partitions = openLoaded<LPListViewController>();
+    const auto partitions = openStored<LPListViewController>("LogicalPartition", entries("LogicalPartition"));
     EXPECT_THAT(names(*partitions),
                 ElementsAre(QStringList("kept"), QStringList({"silent", "unlinked"}), QStringList("refused")));
     EXPECT_EQ(titles(*partitions)[1], "Unknown system");
@@ -262,8 +245,7 @@ TEST_F(GroupingTest, WithoutASystemsNamePartitionsAreKeptAndServersLeftOut)
                             lookUp("191") + "Seperating partitions", lookUp("194") + "Fetching partition",
                             lookUp("197") + "Fetching stored link", _, _, _, _, _, _));
 
-    store("VirtualIOServer", entries("VirtualIOServer"));
-    const auto servers = openLoaded<VIOSViewController>();
+    const auto servers = openStored<VIOSViewController>("VirtualIOServer", entries("VirtualIOServer"));
     EXPECT_THAT(names(*servers), ElementsAre(QStringList("kept"), QStringList("refused")));
     EXPECT_EQ(servers->ohCrabLabel()->text(), "Nothing in sight");
     EXPECT_THAT(
@@ -274,9 +256,9 @@ TEST_F(GroupingTest, WithoutASystemsNamePartitionsAreKeptAndServersLeftOut)
 TEST_F(GroupingTest, SearchResultsGoByTheirOwnGroupsUnderTheTitlesOfAll)
 {
     registerScenes(Scenes::logicalPartitionsDetail);
-    store("LogicalPartition", partition(0, named("web")) + partition(1, named("LPAR01")) + partition(1, named("mail")) +
-                                  partition(2, named("MyLpar2")));
-    const auto list = openLoaded<LPListViewController>();
+    const auto list = openStored<LPListViewController>(
+        "LogicalPartition", partition(0, named("web")) + partition(1, named("LPAR01")) + partition(1, named("mail")) +
+                                partition(2, named("MyLpar2")));
     searchFor(*list, "lpar");
     EXPECT_THAT(names(*list, Results), ElementsAre(QStringList("LPAR01"), QStringList("MyLpar2")));
     EXPECT_EQ(titles(*list, Results), QStringList({systems[0], systems[1]}));
@@ -300,10 +282,10 @@ TEST_F(GroupingTest, SearchResultsGoByTheirOwnGroupsUnderTheTitlesOfAll)
 TEST_F(GroupingTest, ANarrowedListCountsItsSystemAndDrawsTheFirst)
 {
     registerScenes(Scenes::logicalPartitionsDetail);
-    store("LogicalPartition", partition(0, named("first-1")) + partition(1, named("own-1")) +
-                                  partition(0, named("first-2")) + partition(1, named("own-2")) +
-                                  partition(1, named("own-3")));
-    const auto list = openNarrowed(systems[1]);
+    store(corvel, "LogicalPartition",
+          partition(0, named("first-1")) + partition(1, named("own-1")) + partition(0, named("first-2")) +
+              partition(1, named("own-2")) + partition(1, named("own-3")));
+    const auto list = openNarrowed(corvel, systems[1]);
     EXPECT_EQ(titles(*list), QStringList(systems[1]));
     // Where the first group has no more rows, the system's own stand.
     EXPECT_THAT(names(*list), ElementsAre(QStringList({"first-1", "first-2", "own-3"})));
@@ -318,11 +300,11 @@ TEST_F(GroupingTest, ANarrowedListCountsItsSystemAndDrawsTheFirst)
     searchFor(*list, "first");
     EXPECT_THAT(names(*list, Results), ElementsAre(QStringList()));
 
-    const auto unknown = openNarrowed("elsewhere");
+    const auto unknown = openNarrowed(corvel, "elsewhere");
     EXPECT_THAT(names(*unknown), ElementsAre(QStringList()));
     EXPECT_EQ(titles(*unknown), QStringList(systems[0]));
-    store("LogicalPartition", "");
-    EXPECT_EQ(titles(*openNarrowed(systems[1])), QStringList("Demo Corvel"));
+    store(corvel, "LogicalPartition", "");
+    EXPECT_EQ(titles(*openNarrowed(corvel, systems[1])), QStringList("Demo Corvel"));
 }
 
 } // namespace

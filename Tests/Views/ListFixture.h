@@ -1,12 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Controllers/REST/RESTHandler.h"
 #include "Platform/URLLoading/ServerTrust.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Views/ViewsFixture.h"
 #include "Views/Common/FeedListViewController.h"
-#include "Views/Common/Scenes.h"
 
 #include <any>
 
@@ -83,12 +81,17 @@ protected:
     }
     /// Back to the screen, to open the next.
     void goBack() const { navigation->popViewController(Animated::No); }
-    /// A demonstration console whose last whole fetch brought one feed, with these entries.
-    static CorvelRef addFetched(const std::string& type, const std::string& entries)
+    /// As if the console's last whole fetch had brought one feed, with these entries.
+    static void store(const CorvelRef& corvel, const std::string& type, const std::string& entries)
     {
-        const CorvelRef corvel = addCorvel("Harbour A", "127.0.0.1", true);
         corvel->setRestData(feeds({{type, Feed(parse("<feed>" + entries + "</feed>"))}}));
         corvel->completedFetch = true;
+    }
+    /// A demonstration console with that feed.
+    static CorvelRef addFetched(const std::string& type, const std::string& entries)
+    {
+        CorvelRef corvel = addCorvel("Harbour A", "127.0.0.1", true);
+        store(corvel, type, entries);
         return corvel;
     }
     /// Its list, as it shows the feed.
@@ -99,13 +102,19 @@ protected:
         EXPECT_TRUE(hasContent(*list));
         return list;
     }
+    /// A simulated console.
+    static CorvelRef addConsole(const simulator::SimulatorProcess& fleet, int console, const std::string& name)
+    {
+        CorvelRef corvel = addCorvel(name, fleet.address(console));
+        corvel->setUsername(fleet.user());
+        corvel->setPassword(fleet.password());
+        return corvel;
+    }
     /// A simulated console that has been logged on to and not yet fetched.
     static CorvelRef addLoggedOn(const simulator::SimulatorProcess& fleet)
     {
         ServerTrust::shared().forgetAll();
-        const CorvelRef corvel = addCorvel("Harbour A", fleet.address(0));
-        corvel->setUsername(fleet.user());
-        corvel->setPassword(fleet.password());
+        const CorvelRef corvel = addConsole(fleet, 0, "Harbour A");
         const auto logon = RESTHandler::sharedInstance().login(corvel, CheckToken::Yes);
         EXPECT_TRUE(runUntil([&] { return logon.isFulfilled(); }));
         return corvel;
@@ -121,7 +130,12 @@ protected:
         list.showSearchBar();
         list.searchBar()->setText(QString::fromLatin1(text));
     }
-    static QString subtitle(FeedListViewController& list) { return list.header()->subtitleLabel()->text(); }
+    /// The header of a screen, as "title/subtitle".
+    template <typename Screen>
+    static QString header(Screen& screen)
+    {
+        return screen.header()->titleLabel()->text() + "/" + screen.header()->subtitleLabel()->text();
+    }
     static bool hasContent(FeedListViewController& list)
     {
         return runUntil([&] { return !list.tableView()->isHidden(); });

@@ -1,6 +1,4 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Fleet/Registry.h"
-#include "Inventory/ManagedSystem.h"
 #include "Simulator/Metrics.h"
 #include "Tests/Views/ListFixture.h"
 #include "Views/ManagedSystems/PCM/PCMViewController.h"
@@ -21,10 +19,9 @@ using ::testing::StartsWith;
 
 const std::string source = "Shared/Views/ManagedSystems/PCM/PCMViewController";
 
-std::string demoMetrics(const simulator::MetricsShape& shape)
+simulator::ManagedSystem firstSystem()
 {
-    const simulator::Inventory inventory = simulator::makeInventory({}, 0);
-    return simulator::writeMetricsDocument(inventory.systems.front(), shape);
+    return simulator::makeInventory({}, 0).systems.front();
 }
 
 class PerformanceTest : public ListTest
@@ -51,10 +48,6 @@ protected:
     {
         return runUntil([&] { return !screen.chartView()->isHidden(); });
     }
-    static QString header(PCMViewController& screen)
-    {
-        return screen.header()->titleLabel()->text() + "/" + screen.header()->subtitleLabel()->text();
-    }
     static QStringList values(PCMViewController& screen)
     {
         return {screen.totalLabel()->text(), screen.allocatedLabel()->text(), screen.usedLabel()->text()};
@@ -66,12 +59,6 @@ protected:
             found << set.label;
         }
         return found;
-    }
-    static std::string firstSystem(const CorvelRef& corvel)
-    {
-        const auto feed = fetchFeedWithStoredKey(corvel, ObjectType::ManagedSystem);
-        EXPECT_TRUE(runUntil([&] { return feed.isFulfilled(); }));
-        return ManagedSystem::identifierAt(Feed(feed.result()->value()), 0).value();
     }
     void expectToLoad(PCMViewController& screen)
     {
@@ -87,9 +74,8 @@ TEST_F(PerformanceTest, ProcessorsThenMemoryOfASimulatedConsole)
 {
     simulator::SimulatorProcess fleet{{}};
     const CorvelRef corvel = addLoggedOn(fleet);
-    const std::string system = firstSystem(corvel);
     fleet.clearRequests();
-    const auto screen = openPerformance(corvel, system);
+    const auto screen = openPerformance(corvel, firstSystem().id);
     EXPECT_EQ(header(*screen), "helios-01/updating...");
     expectToLoad(*screen);
     EXPECT_EQ(values(*screen), QStringList({"16.00", "12.00", "6.50"}));
@@ -130,7 +116,7 @@ TEST_F(PerformanceTest, LaterChoiceWinsOverAnEarlierFailure)
 {
     simulator::SimulatorProcess fleet{{}};
     const CorvelRef stopped = addLoggedOn(fleet);
-    demoFeeds()["ManagedSystem.json"] = demoMetrics({});
+    demoFeeds()["ManagedSystem.json"] = simulator::writeMetricsDocument(firstSystem(), {});
     fleet.stopConsole(0);
     const auto screen = openPerformance(stopped);
     QStringList shown;
@@ -146,7 +132,7 @@ TEST_F(PerformanceTest, LaterChoiceWinsOverAnEarlierFailure)
 
 TEST_F(PerformanceTest, NullsAreLoggedAndTheLastValuesStayWhenTheLastSampleIsSkipped)
 {
-    const auto screen = openDemo(demoMetrics({.samples = 6}));
+    const auto screen = openDemo(simulator::writeMetricsDocument(firstSystem(), {.samples = 6}));
     const auto lastDate = screen->endDate();
     const auto calculate = [&](const std::string& samples) {
         const MetricsDocument document = MetricsDocument::parse(samples).value();

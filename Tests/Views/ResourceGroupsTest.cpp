@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Fleet/Registry.h"
-#include "Inventory/ResourceGroup.h"
+#include "Simulator/Inventory.h"
 #include "Tests/Views/ListFixture.h"
 #include "Views/ResourceGroups/RGListCell.h"
 #include "Views/ResourceGroups/RGListViewController.h"
@@ -34,11 +33,10 @@ QStringList counts(const RGListCell& cell)
 TEST_F(ResourceGroupsTest, EveryEntryOfTheStoredFeedIsARow)
 {
     const auto list =
-        openFetched<RGListViewController>("Group", group("Ledger", "Green", 2, 1) + group("Quarantine", "Teal", 0, 1) +
+        openFetched<RGListViewController>("Group", group("Ledger", "Green", 2, 1) + group("Quarantine", "green", 0, 1) +
                                                        "<entry><content><Other/></content></entry>");
-    EXPECT_EQ(subtitle(*list), "3 Jul 2026, 10:25");
+    EXPECT_EQ(header(*list), "Resource Groups/3 Jul 2026, 10:25");
     EXPECT_EQ(list->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::None);
-    EXPECT_EQ(list->tableView()->rowHeight(), 75);
     ASSERT_EQ(list->tableView()->count(), 3);
     // A demonstration console answers every look-up with words that are no state.
     EXPECT_EQ(cellAt<RGListCell>(*list, 0).accessibleText(),
@@ -59,7 +57,7 @@ TEST_F(ResourceGroupsTest, EveryEntryOfTheStoredFeedIsARow)
     EXPECT_TRUE(list->resources().empty());
 }
 
-TEST_F(ResourceGroupsTest, StatesAndColoursAreTakenByTheirExactWording)
+TEST_F(ResourceGroupsTest, StatesAreCountedByTheirExactWording)
 {
     RGStateCounts counters;
     for (const char* state : {"running", "operating", "not activated", "alert", "error", "error", "error", "Error"}) {
@@ -68,47 +66,28 @@ TEST_F(ResourceGroupsTest, StatesAndColoursAreTakenByTheirExactWording)
     RGListCell cell;
     cell.setStateCounts(counters);
     EXPECT_EQ(counts(cell), QStringList({"2", "1", "1", "3"}));
-    cell.setGroupColor("Purple");
-    for (const char* unknown : {"purple", "Teal", ""}) {
-        cell.setGroupColor(unknown);
-        EXPECT_EQ(cell.groupTag.imageName, "rg_purple") << unknown;
-    }
-}
-
-/// The states that a console's feeds hold, by the identifier that links end in.
-std::map<std::string, std::string> statesOf(const Corvel& corvel)
-{
-    std::map<std::string, std::string> states;
-    for (const auto& [type, element] : std::map<std::string_view, const char*>{{"LogicalPartition", "PartitionState"},
-                                                                               {"VirtualIOServer", "PartitionState"},
-                                                                               {"ManagedSystem", "State"}}) {
-        for (const XMLElement& entry : feedOfType(corvel, type).entries()) {
-            const XMLElement object = entry.path({"content", type});
-            states[object.path({"Metadata", "Atom", "AtomID"}).text().value()] = object.child(element).text().value();
-        }
-    }
-    return states;
 }
 
 TEST_F(ResourceGroupsTest, EachConfigurationOfARowAsksForEveryStateAnew)
 {
     simulator::SimulatorProcess fleet{simulator::Settings{}};
     const CorvelRef corvel = addLoggedOn(fleet);
-    const auto fetched = fetchInventory(corvel);
-    ASSERT_TRUE(runUntil([&] { return fetched.isFulfilled(); }));
     const auto list = open<RGListViewController>(corvel);
     ASSERT_TRUE(hasContent(*list));
 
-    const std::map<std::string, std::string> states = statesOf(*corvel);
-    const auto groups = recordsOf<ResourceGroup>(feedOfType(*corvel, ObjectType::Group));
+    const simulator::Inventory console = simulator::makeInventory({}, 0);
     std::vector<std::string> expected;
     std::map<std::string, int> tally;
-    for (const ResourceGroup::Member& member : groups.at(0).members()) {
-        const std::string link = ResourceGroup::stateLinkOf(member).value();
-        expected.push_back(link.substr(link.find("/rest/")));
-        const std::string object = link.substr(0, link.find("/quick/"));
-        ++tally[states.at(object.substr(object.rfind('/') + 1))];
-    }
+    const auto expectAll = [&](const char* link, const auto& objects, const std::vector<std::size_t>& members) {
+        for (const std::size_t member : members) {
+            expected.push_back(fmt::format(fmt::runtime(link), objects.at(member).id));
+            ++tally[objects.at(member).state];
+        }
+    };
+    const simulator::Group& first = console.groups.front();
+    expectAll("/rest/api/uom/LogicalPartition/{}/quick/PartitionState", console.partitions, first.partitions);
+    expectAll("/rest/api/uom/VirtualIOServer/{}/quick/PartitionState", console.vios, first.vios);
+    expectAll("/rest/api/uom/ManagedSystem/{}/quick/State", console.systems, first.systems);
     ASSERT_GT(expected.size(), 8U);
     const QStringList expectedCounts = {QString::number(tally["running"] + tally["operating"]),
                                         QString::number(tally["not activated"] + tally["not available"]),

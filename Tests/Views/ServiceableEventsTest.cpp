@@ -29,7 +29,7 @@ TEST_F(ServiceableEventsTest, EventsAreListedInTheOrderOfTheFeed)
                                                             event("1042", "approved", "soon") +
                                                             "<entry><content><ServiceableEvent/></content></entry>");
     // The rows come before the time stamp.
-    EXPECT_TRUE(runUntil([&] { return subtitle(*list) == "3 Jul 2026, 10:25"; }));
+    EXPECT_TRUE(runUntil([&] { return header(*list) == "Serviceable Events/3 Jul 2026, 10:25"; }));
     ASSERT_EQ(list->tableView()->count(), 3);
     EXPECT_EQ(cellAt<SEListCell>(*list, 0).accessibleText(), "Pending approval (#7), 1773308460");
     EXPECT_EQ(cellAt<SEListCell>(*list, 1).accessibleText(), "approved (#1042), soon");
@@ -45,8 +45,7 @@ TEST_F(ServiceableEventsTest, EventsAreListedInTheOrderOfTheFeed)
     // The console is reset while its events are shown.
     list->corvel()->setRestData(nullptr);
     EXPECT_EQ(cellAt<SEListCell>(*list, 0).titleLabel.text, "");
-    EXPECT_EQ(list->header()->titleLabel()->text(), "Serviceable Events");
-    EXPECT_EQ(subtitle(*list), "N/A");
+    EXPECT_EQ(header(*list), "Serviceable Events/N/A");
     list->didSelectRowAtIndexPath(TableKind::Main, {0, 0});
     EXPECT_EQ(navigation->depth(), 2);
     list->corvel()->setRestData(feeds({{"ServiceableEvent", Feed::notAvailable()}}));
