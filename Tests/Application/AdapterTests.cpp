@@ -6,14 +6,12 @@
 #include "Tests/Support/StoredPassword.h"
 
 #include <QByteArray>
+#include <QLocalServer>
 #include <gmock/gmock.h>
 
 #include <filesystem>
 #include <random>
-#include <sys/socket.h>
-#include <sys/un.h>
 #include <thread>
-#include <unistd.h>
 
 namespace lodestar
 {
@@ -147,16 +145,8 @@ TEST(SystemKeychainTests, FailsSoonWithoutAServiceAndOneThatNeverAnswersCostsOne
     qputenv(variable, ("unix:path=" + path).c_str());
     for (const bool isThere : {false, true}) {
         SCOPED_TRACE(isThere);
-        // A bus that takes the connection and then says nothing.
-        const int listener = ::socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-        sockaddr_un address{};
-        address.sun_family = AF_UNIX;
-        ASSERT_LT(path.size(), sizeof address.sun_path);
-        std::copy(path.begin(), path.end(), address.sun_path);
-        if (isThere) {
-            ASSERT_EQ(::bind(listener, reinterpret_cast<const sockaddr*>(&address), sizeof address), 0);
-            ASSERT_EQ(::listen(listener, 8), 0);
-        }
+        QLocalServer bus; // takes the connection and then says nothing
+        ASSERT_TRUE(!isThere || bus.listen(QString::fromStdString(path)));
         auto made = std::make_unique<SystemKeychain>(deadline);
         SystemKeychain& keychain = *made;
         keychain.begin();
@@ -171,7 +161,7 @@ TEST(SystemKeychainTests, FailsSoonWithoutAServiceAndOneThatNeverAnswersCostsOne
         }
         EXPECT_EQ(test::writePassword(std::string("cut\0short", 9)).error().code, Keychain::notAText);
         EXPECT_EQ(keychain.owesAnswer(), isThere);
-        ::close(listener); // which lets go of the keychain's thread
+        bus.close(); // which lets go of the keychain's thread
         Keychain::install(nullptr);
     }
     qputenv(variable, before);

@@ -74,8 +74,7 @@ TEST(VireoLogger, KeepsAllLinesOfManyThreadsWholeAndInTheirOrder)
 {
     const ScratchFolder scratch;
     ASSERT_TRUE(VireoLogger::openLogFolder(scratch.path().string()));
-    std::vector<std::thread> threads;
-    threads.reserve(4);
+    std::vector<std::jthread> threads;
     for (int thread = 0; thread < 4; ++thread) {
         threads.emplace_back([thread] {
             for (int line = 0; line < 250; ++line) {
@@ -83,9 +82,7 @@ TEST(VireoLogger, KeepsAllLinesOfManyThreadsWholeAndInTheirOrder)
             }
         });
     }
-    for (std::thread& thread : threads) {
-        thread.join();
-    }
+    threads.clear(); // when they have ended
     VireoLogger::flush();
     const std::string log = scratch.read("lodestar.log");
     EXPECT_EQ(std::count(log.begin(), log.end(), '\n'), 1001); // and the header
