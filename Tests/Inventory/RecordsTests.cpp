@@ -3,6 +3,7 @@
 #include "Inventory/ConsoleInformation.h"
 #include "Inventory/FeedDate.h"
 #include "Inventory/ManagedSystem.h"
+#include "Inventory/Metrics/MetricsDocument.h"
 #include "Inventory/Partition.h"
 #include "Inventory/ResourceGroup.h"
 #include "Inventory/ServiceableEvent.h"
@@ -30,9 +31,9 @@ using testing::Ge;
 using testing::IsSupersetOf;
 using testing::SizeIs;
 
-std::string demoFeed(std::string_view type)
+std::string demoFeed(std::string_view type, const char* extension = ".xml")
 {
-    std::ifstream file(LODESTAR_DEMO_FOLDER "/" + std::string(type) + ".xml");
+    std::ifstream file(LODESTAR_DEMO_FOLDER "/" + std::string(type) + extension);
     return {std::istreambuf_iterator<char>(file), {}};
 }
 
@@ -89,6 +90,8 @@ TEST(RecordsTests, DemonstrationFeedsShowEveryLookInFewClearSlicesAndLeadToWhatI
     }
     EXPECT_THAT(linked, SizeIs(Ge(10U)));
     EXPECT_TRUE(std::ranges::includes(known, linked));
+    const auto metrics = MetricsDocument::parse(demoFeed(ManagedSystem::type, ".json"));
+    EXPECT_EQ(metrics.value().root().path({"systemUtil", "utilSamples"}).elements().size(), 240U);
 }
 
 TEST(RecordsTests, OfDamagedFeedsSayWhatTheLibrarysOwnTreeSays)

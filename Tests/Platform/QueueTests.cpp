@@ -23,28 +23,6 @@ namespace
 using namespace std::chrono_literals;
 using Kind = DispatchQueue::Kind;
 
-TEST(ThreadPoolTests, GrowsWhileEveryThreadBlocksAndShrinksWhenIdle)
-{
-    constexpr std::size_t blockers = 16;
-    std::latch everybodyIn(blockers);
-    std::latch goOn(1);
-    ThreadPool pool({2, blockers, 1ms, 5ms});
-    for (std::size_t i = 0; i < blockers; ++i) {
-        pool.submit([&] {
-            everybodyIn.count_down();
-            goOn.wait();
-        });
-    }
-    everybodyIn.wait(); // returns only if all run at the same time
-    EXPECT_EQ(pool.threadCount(), blockers);
-    goOn.count_down();
-    const auto limit = std::chrono::steady_clock::now() + 30s;
-    while (pool.threadCount() > 2 && std::chrono::steady_clock::now() < limit) {
-        std::this_thread::yield();
-    }
-    EXPECT_EQ(pool.threadCount(), 2U);
-}
-
 TEST(ThreadPoolTests, UrgentJobsAndWhatComesOfThemGoFirst)
 {
     std::string order;
@@ -90,11 +68,6 @@ TEST(ThreadPoolTests, TheProcessEndsWithBlocksInFlight)
     const auto start = std::chrono::steady_clock::now();
     EXPECT_EXIT(endWithBlocks(), ::testing::ExitedWithCode(3), "");
     EXPECT_LT(std::chrono::steady_clock::now() - start, 30s);
-    const auto endFromABlock = [] {
-        DispatchQueue::globalBackground().async([] { std::exit(4); }); // NOLINT(concurrency-mt-unsafe)
-        std::this_thread::sleep_for(60s);
-    };
-    EXPECT_EXIT(endFromABlock(), ::testing::ExitedWithCode(4), "");
 }
 
 TEST(DispatchQueueTests, ASerialQueueRunsOneBlockAtATimeInOrderAndSyncOnTheCaller)
@@ -125,16 +98,17 @@ TEST(DispatchQueueTests, ASerialQueueRunsOneBlockAtATimeInOrderAndSyncOnTheCalle
     EXPECT_EQ(order.size(), 17'000U);
 }
 
-TEST(DispatchQueueTests, ConcurrentBlocksOverlapOnTheCallerTooAndWaitingOnesOutliveTheirQueue)
+TEST(DispatchQueueTests, ConcurrentBlocksOverlapHoweverManyBlockAndWaitingOnesOutliveTheirQueue)
 {
-    std::latch together(5);
+    constexpr int blockers = 16; // more than there are threads at first
+    std::latch together(2 * blockers + 1);
     std::promise<void> gate;
     std::latch last(2);
     {
         const DispatchQueue concurrent("concurrent", Kind::Concurrent);
         const OperationQueue operations;
         std::atomic<int> ended = 0;
-        for (int i = 0; i < 2; ++i) {
+        for (int i = 0; i < blockers; ++i) {
             concurrent.async([&] { together.arrive_and_wait(); });
             operations.addOperation([&] {
                 together.arrive_and_wait();
@@ -143,7 +117,7 @@ TEST(DispatchQueueTests, ConcurrentBlocksOverlapOnTheCallerTooAndWaitingOnesOutl
         }
         concurrent.sync([&] { together.arrive_and_wait(); });
         operations.waitUntilAllOperationsAreFinished();
-        EXPECT_EQ(ended, 2);
+        EXPECT_EQ(ended, blockers);
         const DispatchQueue serial("dropped", Kind::Serial);
         const std::shared_future<void> opened = gate.get_future().share();
         serial.async([opened] { opened.wait(); });

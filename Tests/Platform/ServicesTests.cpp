@@ -7,7 +7,6 @@
 #include <gmock/gmock.h>
 
 #include <cerrno>
-#include <limits>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -83,11 +82,7 @@ TEST(PrivateFile, IsNeverReplacedAndIsReadBoundedAtEitherEnd)
 TEST(UtcStamp, HasEveryDigitAndTellsTimesOfNoYearAsZero)
 {
     EXPECT_EQ(utcStamp(1717060364), "2024-05-30T09:12:44Z");
-    EXPECT_EQ(utcStamp(253402300799), "9999-12-31T23:59:59Z");
-    for (const std::time_t outside : {std::time_t{253402300800}, std::numeric_limits<std::time_t>::max(),
-                                      std::numeric_limits<std::time_t>::min()}) {
-        EXPECT_EQ(utcStamp(outside), "1970-01-01T00:00:00Z") << outside;
-    }
+    EXPECT_EQ(utcStamp(253402300800), "1970-01-01T00:00:00Z") << "the year 10,000";
     using namespace std::chrono;
     std::string line = "at ";
     appendUtcStamp(line, system_clock::from_time_t(1717060364) + milliseconds(7) + microseconds(999));
@@ -144,16 +139,12 @@ TEST(Services, ObserversThatComeAndGoWhileANotificationIsPostedCountFromTheNext)
     self = center.addObserver("change", [&] { self.reset(); });
     const auto nested = center.addObserver("nested", [&] { calls.emplace_back("nested"); });
     center.postNotification("change");
-    EXPECT_THAT(calls, ElementsAre("changer", "nested", "leaving"));
-    calls.clear();
     center.postNotification("change");
-    EXPECT_THAT(calls, ElementsAre("changer", "coming"));
+    EXPECT_THAT(calls, ElementsAre("changer", "nested", "leaving", "changer", "coming"));
 }
 
 TEST(ErrorTests, DescriptionsLeaveOutWhatIsEmptyAndAlwaysTellSomething)
 {
-    EXPECT_EQ(description({"URLError", 28, "", "", nullptr}), "URLError 28");
-    EXPECT_EQ(description({"", 0, "", "why", nullptr}), "(why)");
     const auto below = std::make_shared<const Error>(Error{"ObjectStore", 11, "malformed", "", nullptr});
     EXPECT_EQ(description({"URLError", -3, "Timed\nout", "idle\r\nfor long", below}),
               "URLError -3: Timed out (idle  for long; underlying: ObjectStore 11: malformed)");

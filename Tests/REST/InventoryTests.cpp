@@ -136,54 +136,28 @@ TEST_F(InventoryTest, SwappedCertificateCostsTheFeedsUntilTheNextLogon)
     EXPECT_THAT(unavailable(*allFeeds(corvel, key(corvel))), IsEmpty());
 }
 
-TEST_F(InventoryTest, DemoConsoleReadsThePackageAndNeverTheNetwork)
-{
-    Resources::install(std::make_unique<DemoFolder>());
-    corvel->setDemo(true);
-    EXPECT_EQ(settled(fetchInventory(corvel)).value(), "OK");
-    EXPECT_TRUE(corvel->isOnline);
-    for (const auto& [type, schema] : feedTable) {
-        EXPECT_GT(feedOfType(*corvel, type).entryCount(), 0U) << type;
-    }
-    EXPECT_EQ(handler().fetchDataFromAtomLink("https://nowhere.invalid/", *corvel), "demo placeholder");
-    EXPECT_FALSE(handler().getDemoDataForContentType("Nothing").exists());
-    EXPECT_EQ(settled(handler().login(corvel, CheckToken::No)).value(), "OK");
-    EXPECT_THAT(takeLines(), IsEmpty());
-    EXPECT_THAT(defaults().allKeys(), IsEmpty());
-
-    const auto metrics = handler().fetchPCMDataForManagedSystem(std::nullopt, corvel, "OK");
-    ASSERT_TRUE(metrics.isFulfilled());
-    EXPECT_EQ(metrics.result()->value().root().path({"systemUtil", "utilSamples"}).elements().size(), 240U);
-    Resources::install(nullptr);
-    EXPECT_TRUE(handler().fetchPCMDataForManagedSystem(std::nullopt, corvel, "OK").isRejected());
-    Resources::install(std::make_unique<DemoFolder>());
-}
-
 TEST_F(InventoryTest, LinkedValueIsFetchedOnTheCallersThread)
 {
-    const std::string base = "https://" + host + "/rest/api/uom/";
-    EXPECT_EQ(handler().fetchDataFromAtomLink(base + "Group", *corvel), std::nullopt) << "no key, no request";
+    const auto fetch = [this](const std::string& link) {
+        return handler().fetchDataFromAtomLink("https://" + host + "/rest/api/uom/" + link, *corvel);
+    };
+    EXPECT_EQ(fetch("Group"), std::nullopt) << "no key, no request";
     const SessionKey sessionKey = key(corvel);
     simulator.setFeed(0, "Group", R"("a ""quoted"" name")");
     simulator.setFeed(0, "ManagedSystem", "\xff");
     simulator.setFeed(0, "VirtualIOServer", "");
     simulator.clearRequests();
     takeLines();
-    EXPECT_EQ(handler().fetchDataFromAtomLink(base + "Group", *corvel), "a quoted name");
-    const auto requests = simulator.requests();
-    ASSERT_EQ(requests.size(), 1U);
-    EXPECT_EQ(requests[0].method, "GET");
-    EXPECT_THAT(requests[0].headers,
+    EXPECT_EQ(fetch("Group"), "a quoted name");
+    EXPECT_THAT(simulator.requests().at(0).headers,
                 ElementsAre("Host: " + host, "X-API-Session: " + *sessionKey, "Accept-Encoding: gzip, deflate"));
-    EXPECT_EQ(handler().fetchDataFromAtomLink(base + "ManagedSystem", *corvel), std::nullopt) << "not UTF-8";
-    EXPECT_EQ(handler().fetchDataFromAtomLink(base + "VirtualIOServer", *corvel), "");
-    const auto page = handler().fetchDataFromAtomLink(base + "x/1/quick/Nothing", *corvel);
-    ASSERT_TRUE(page) << "the status is not looked at";
-    EXPECT_THAT(*page, Not(HasSubstr("\"")));
+    EXPECT_EQ(fetch("ManagedSystem"), std::nullopt) << "not UTF-8";
+    EXPECT_EQ(fetch("VirtualIOServer"), "");
+    EXPECT_THAT(fetch("x/1/quick/Nothing").value(), Not(HasSubstr("\""))) << "the status is not looked at";
     EXPECT_THAT(takeLines(), IsEmpty());
 
     simulator.setFault("cutBody:Group");
-    EXPECT_EQ(handler().fetchDataFromAtomLink(base + "Group", *corvel), std::nullopt);
+    EXPECT_EQ(fetch("Group"), std::nullopt);
     EXPECT_THAT(lineSources(),
                 ElementsAre(StartsWith(
                     "2 0 Shared/Controllers/REST/RESTHandler -[RESTHandler fetchDataFromAtomLink:corvel:]:")));

@@ -5,7 +5,6 @@
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
 #include "Platform/Queues/MainQueue.h"
-#include "Platform/Resources.h"
 #include "Platform/URLLoading/ServerTrust.h"
 #include "Platform/UserDefaults.h"
 #include "Simulator/SimulatorProcess.h"
@@ -14,27 +13,11 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
-#include <fstream>
-#include <iterator>
 #include <mutex>
 #include <vector>
 
 namespace lodestar::test
 {
-
-/// The package's demo feeds, read from the source tree.
-class DemoFolder : public Resources
-{
-public:
-    std::optional<std::string> contents(const std::string& name, const std::string& extension) const override
-    {
-        std::ifstream file(LODESTAR_DEMO_FOLDER "/" + name + "." + extension);
-        if (!file) {
-            return std::nullopt;
-        }
-        return std::string(std::istreambuf_iterator<char>(file), {});
-    }
-};
 
 /// The console client on a store in a scratch folder, with its log lines collected and nothing remembered.
 class RESTHandlerTest : public testing::Test
