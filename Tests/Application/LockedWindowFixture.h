@@ -12,7 +12,7 @@
 
 #include <QAccessible>
 #include <QGuiApplication>
-#include <QImage>
+#include <QPainter>
 #include <QQuickItem>
 #include <QTest>
 
@@ -94,16 +94,12 @@ protected:
     }
     static bool showsOnlyTheMark(const QImage& picture, int centre)
     {
-        const QRgb ground = picture.pixel(0, 0);
-        for (int y = 0; y < picture.height(); ++y) {
-            for (int x = 0; x < picture.width(); ++x) {
-                if (picture.pixel(x, y) != ground && !QRect(146, centre - 49, 98, 98).contains(x, y)) {
-                    ADD_FAILURE() << "something at " << x << ", " << y;
-                    return false;
-                }
-            }
-        }
-        return picture.pixel(195, centre - 20) != ground;
+        const QColor ground = picture.pixelColor(0, 0);
+        QImage rest = picture;
+        QPainter(&rest).fillRect(QRect(146, centre - 49, 98, 98), ground);
+        QImage empty = picture;
+        empty.fill(ground);
+        return rest == empty && picture.pixelColor(195, centre - 20) != ground;
     }
     FeedbackViewController* feedback() const
     {

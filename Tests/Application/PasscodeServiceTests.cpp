@@ -13,7 +13,6 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <csignal>
 #include <string_view>
 
@@ -151,8 +150,7 @@ int runInSession(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    const bool lists = std::any_of(
-        argv, argv + argc, [](std::string_view argument) { return argument.substr(0, 18) == "--gtest_list_tests"; });
+    const bool lists = argc > 1 && std::string_view(argv[1]).starts_with("--gtest_list_tests");
     if (!lists && !qEnvironmentVariableIsSet(lodestar::keyringProcess)) {
         return lodestar::runInSession(argc, argv);
     }

@@ -5,12 +5,9 @@
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Support/ScratchFolder.h"
 
-#include <QElapsedTimer>
-#include <QFile>
 #include <QProcess>
 #include <QTest>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 #include <algorithm>
 

@@ -4,12 +4,8 @@
 #include "Kit/Core/UIColor+Tessel.h"
 #include "KitWindow.h"
 
-#include <QColor>
 #include <QDirIterator>
-#include <QQmlComponent>
-#include <QQmlEngine>
 #include <QQmlExpression>
-#include <gtest/gtest.h>
 
 #include <cmath>
 
