@@ -13,14 +13,10 @@
 #include <numbers>
 #include <ostream>
 
-// So that failures read as colours and texts.
+// So that failures read as colours.
 inline void PrintTo(const QColor& color, std::ostream* out)
 {
     *out << color.name(QColor::HexArgb).toStdString();
-}
-inline void PrintTo(const QString& text, std::ostream* out)
-{
-    *out << '"' << text.toStdString() << '"';
 }
 
 namespace lodestar::charttest

@@ -19,12 +19,6 @@ constexpr auto listFile = "Shared/Views/Corvels/CorvelListViewController";
 class CorvelListTest : public ListTest
 {
 protected:
-    void SetUp() override
-    {
-        ListTest::SetUp();
-        UserDefaults::standard().setBool(true, "initialLoad");
-        UserDefaults::standard().setBool(true, "showedPreview");
-    }
     void TearDown() override
     {
         list.reset();
@@ -37,10 +31,7 @@ protected:
         navigation->loadViewIfNeeded();
         navigation->beginAppearance();
     }
-    CorvelListCell cell(int row) const
-    {
-        return list->cellForRowAtIndexPath(TableKind::Main, {0, row}).value<CorvelListCell>();
-    }
+    CorvelListCell cell(int row) const { return cellAt<CorvelListCell>(*list, row); }
 
     std::shared_ptr<CorvelListViewController> list;
 };
@@ -200,7 +191,6 @@ class FleetTest : public CorvelListTest
 protected:
     void start(int consoles)
     {
-        ServerTrust::shared().forgetAll();
         simulator::Settings settings;
         settings.consoles = consoles;
         fleet.start(settings);

@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Platform/URLLoading/ServerTrust.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Views/ViewsFixture.h"
 #include "Views/Corvels/CorvelListViewController.h"
@@ -82,9 +81,8 @@ TEST_F(DeltaCorvelTest, EveryFieldIsNeededAndTheFieldsComeBackAfterTwoSeconds)
     };
     const std::array<const char*, 4> incomplete[] = {
         {"", "a", "u", "p"}, {"n", "", "u", "p"}, {"n", "a", "", "p"}, {"n", "a", "u", ""}};
-    auto before = std::chrono::steady_clock::now();
+    const auto before = std::chrono::steady_clock::now();
     for (const auto& [name, address, username, password] : incomplete) {
-        before = std::chrono::steady_clock::now();
         fill(name, address, username, password);
         editor->saveCorvel();
         EXPECT_EQ(editor->statusLabel()->text(), "Please enter all fields");
@@ -155,14 +153,6 @@ TEST_F(DeltaCorvelTest, CancelDuringTheLogonAddsNothingAndShowsNothing)
 class AddingTest : public DeltaCorvelTest
 {
 protected:
-    void SetUp() override
-    {
-        DeltaCorvelTest::SetUp();
-        UserDefaults::standard().setBool(true, "initialLoad");
-        UserDefaults::standard().setBool(true, "showedPreview");
-        ServerTrust::shared().forgetAll();
-        fleet.start({});
-    }
     void TearDown() override
     {
         list.reset();
@@ -189,7 +179,7 @@ protected:
     static const std::vector<CorvelRef>& consoles() { return RESTHandler::sharedInstance().corvelList(); }
     bool hasKey() const { return UserDefaults::standard().stringForKey(fleet.address(0)).has_value(); }
 
-    simulator::SimulatorProcess fleet;
+    simulator::SimulatorProcess fleet{{}};
     std::shared_ptr<CorvelListViewController> list;
     QStringList statuses; ///< what the editors have told
 };

@@ -8,12 +8,14 @@
 #include "Views/ServiceableEvents/SEListViewController.h"
 #include "Views/VIOS/VIOSViewController.h"
 
-#include <array>
-
 namespace lodestar::testing
 {
 namespace
 {
+
+using ::testing::AllOf;
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
 
 struct ListKind {
     const char* name;
@@ -22,7 +24,9 @@ struct ListKind {
     const char* folder;
     std::shared_ptr<FeedListViewController> (*make)();
     /// As the log names a failed fetch of the list, of its pull and of its button.
-    std::array<const char*, 3> failures;
+    const char* failure;
+    const char* pullFailure = failure;
+    const char* buttonFailure = failure;
     PullEnds pullEnds = PullEnds::AtOnce;
 
     std::string source() const { return std::string("Shared/Views/") + folder + "/" + name; }
@@ -34,27 +38,18 @@ std::shared_ptr<FeedListViewController> makeList()
     return makeController<Controller>();
 }
 
-constexpr std::array<const char*, 3> alike(const char* failure)
-{
-    return {failure, failure, failure};
-}
-
 const ListKind everyList[] = {
     {"MSListViewController", ObjectType::ManagedSystem, "Managed Systems", "ManagedSystems",
-     makeList<MSListViewController>, alike("165 fetchNewRESTData")},
+     makeList<MSListViewController>, "165 fetchNewRESTData"},
     {"LPListViewController", ObjectType::LogicalPartition, "Logical Partitions", "LogicalPartitions",
-     makeList<LPListViewController>, alike("159 fetchNewRESTData")},
+     makeList<LPListViewController>, "159 fetchNewRESTData"},
     {"VIOSViewController", ObjectType::VirtualIOServer, "Virtual IO Servers", "VIOS", makeList<VIOSViewController>,
-     alike("158 fetchNewRESTData")},
-    {"SEListViewController",
-     ObjectType::ServiceableEvent,
-     "Serviceable Events",
-     "ServiceableEvents",
-     makeList<SEListViewController>,
-     {"152 fetchServiceableEvents", "216 refreshTable:", "240 refreshFromButton"},
+     "158 fetchNewRESTData"},
+    {"SEListViewController", ObjectType::ServiceableEvent, "Serviceable Events", "ServiceableEvents",
+     makeList<SEListViewController>, "152 fetchServiceableEvents", "216 refreshTable:", "240 refreshFromButton",
      PullEnds::OnSettlement},
     {"RGListViewController", ObjectType::Group, "Resource Groups", "ResourceGroups", makeList<RGListViewController>,
-     alike(" fetchNewRESTData")},
+     " fetchNewRESTData"},
 };
 
 class EveryListTest : public ListTest, public ::testing::WithParamInterface<ListKind>
@@ -116,9 +111,8 @@ TEST_P(EveryListTest, OpensLoadingAndShowsWhatItFetchedAndThenWhatIsStored)
         EXPECT_EQ(seen(*list), "searchResultsTableView tableView");
         EXPECT_EQ(static_cast<std::size_t>(list->tableView()->rows()), stored());
         const auto requests = fleet.requests(0);
-        EXPECT_EQ(
-            std::ranges::count_if(requests, [](const auto& each) { return each.path.ends_with(GetParam().type); }),
-            fetched ? 0 : 1);
+        const auto isOfFeed = [](const auto& each) { return each.path.ends_with(GetParam().type); };
+        EXPECT_EQ(std::ranges::count_if(requests, isOfFeed), fetched ? 0 : 1);
     }
     EXPECT_EQ(unnumberedLog(GetParam().source()).front(),
               "viewDidLoad: " + std::string(GetParam().name) + " instantiation");
@@ -126,18 +120,16 @@ TEST_P(EveryListTest, OpensLoadingAndShowsWhatItFetchedAndThenWhatIsStored)
 
 TEST_P(EveryListTest, EndsInTheLookThatItsAnswerDeserves)
 {
-    const auto expectFailure = [this](FeedListViewController& list, std::size_t fetch) {
+    const auto expectFailure = [this](FeedListViewController& list, const std::string& failure) {
         ASSERT_TRUE(hasNoContent(list));
-        const std::string line = log(GetParam().source()).back();
-        const std::string failure = GetParam().failures[fetch];
-        EXPECT_NE(line.find(failure + ": Error: "), std::string::npos) << line;
-        EXPECT_TRUE(line.ends_with(" - > " + failure.substr(failure.find(' ') + 1))) << line;
+        EXPECT_THAT(log(GetParam().source()).back(),
+                    AllOf(HasSubstr(failure + ": Error: "), EndsWith(" - > " + failure.substr(failure.find(' ') + 1))));
     };
     for (const char* fault : {"cutBody:All", "cutChunk:All", "cutGzip:All", "reset:All", "refuseFeed:All"}) {
         SCOPED_TRACE(fault);
         fleet.setFault(fault);
         const auto list = openList();
-        expectFailure(*list, 0);
+        expectFailure(*list, GetParam().failure);
         EXPECT_EQ(corvel->restData(), nullptr);
         EXPECT_EQ(seen(*list), "noDataHeadline noDataImage noDataLabel searchResultsTableView");
         EXPECT_EQ(header(*list), GetParam().title + QString("/"));
@@ -177,10 +169,10 @@ TEST_P(EveryListTest, EndsInTheLookThatItsAnswerDeserves)
     list->refreshControl()->pull();
     EXPECT_EQ(list->refreshControl()->isRefreshing(), GetParam().pullEnds == PullEnds::OnSettlement);
     ASSERT_TRUE(runUntil([&] { return failures == 1 && !list->refreshControl()->isRefreshing(); }));
-    expectFailure(*list, 1);
+    expectFailure(*list, GetParam().pullFailure);
     list->rightBarButton()->tap();
     ASSERT_TRUE(runUntil([&] { return failures == 2; }));
-    expectFailure(*list, 2);
+    expectFailure(*list, GetParam().buttonFailure);
     EXPECT_EQ(stored(), static_cast<std::size_t>(rows));
 }
 
@@ -225,7 +217,9 @@ TEST_P(EveryListTest, ItsConsoleMayBeDeletedAndTheListClosedWhileTwoFetchesRun)
 INSTANTIATE_TEST_SUITE_P(Lists, EveryListTest, ::testing::ValuesIn(everyList),
                          [](const auto& kind) { return kind.param.name; });
 
-TEST(FeedTimeStampTest, ShowsTheWallClockInEveryZoneAndInTheLocalesForm)
+using FeedTimeStampTest = ViewsTest;
+
+TEST_F(FeedTimeStampTest, ShowsTheWallClockInEveryZoneAndInTheLocalesForm)
 {
     // In New York this time does not exist: its clocks jump over it.
     QByteArrayList zones = {"UTC", "Asia/Kathmandu", "America/New_York"};
@@ -233,7 +227,7 @@ TEST(FeedTimeStampTest, ShowsTheWallClockInEveryZoneAndInTheLocalesForm)
         zones << "Etc/GMT" + QByteArray(hours > 0 ? "+" : "") + QByteArray::number(hours);
     }
     for (const QByteArray& zone : zones) {
-        const InZone there(zone);
+        setZone(zone);
         EXPECT_EQ(mediumDateShortTime(*parseFeedDate("2026-03-08T02:30:00.000Z"), QLocale("en_GB")),
                   "8 Mar 2026, 02:30");
     }

@@ -1,7 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Platform/URLLoading/ServerTrust.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Views/ViewsFixture.h"
 #include "Views/Common/FeedListViewController.h"
@@ -113,7 +112,6 @@ protected:
     /// A simulated console that has been logged on to and not yet fetched.
     static CorvelRef addLoggedOn(const simulator::SimulatorProcess& fleet)
     {
-        ServerTrust::shared().forgetAll();
         const CorvelRef corvel = addConsole(fleet, 0, "Harbour A");
         const auto logon = RESTHandler::sharedInstance().login(corvel, CheckToken::Yes);
         EXPECT_TRUE(runUntil([&] { return logon.isFulfilled(); }));

@@ -26,11 +26,10 @@ simulator::ManagedSystem firstSystem()
 
 class PerformanceTest : public ListTest
 {
-    const InZone m_zone{"EAST-9"}; // what a console says in its own is shown in this one
-
 protected:
     std::shared_ptr<PCMViewController> openPerformance(const CorvelRef& corvel, const std::string& systemID = "any")
     {
+        setZone("EAST-9"); // what a console says in its own is shown in this one
         auto screen = makeController<PCMViewController>();
         screen->setCorvel(corvel);
         screen->setSysName("helios-01");

@@ -70,7 +70,7 @@ TEST_F(ResourceGroupsTest, StatesAreCountedByTheirExactWording)
 
 TEST_F(ResourceGroupsTest, EachConfigurationOfARowAsksForEveryStateAnew)
 {
-    simulator::SimulatorProcess fleet{simulator::Settings{}};
+    simulator::SimulatorProcess fleet{{}};
     const CorvelRef corvel = addLoggedOn(fleet);
     const auto list = open<RGListViewController>(corvel);
     ASSERT_TRUE(hasContent(*list));

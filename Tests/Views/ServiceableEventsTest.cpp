@@ -83,13 +83,11 @@ class EventDetailTest : public ListTest
 protected:
     std::shared_ptr<SEDetailViewController> show(const std::string& xml)
     {
+        setZone("EAST-9"); // nine hours east of Greenwich
         const auto detail = makeController<SEDetailViewController>();
         detail->setRootXML(parse("<e>" + xml + "</e>"));
         return push(detail);
     }
-
-private:
-    const InZone m_zone{"EAST-9"}; // nine hours east of Greenwich
 };
 
 TEST_F(EventDetailTest, FactsAndUnitsStandInTheirOrderUnderTwoTitles)

@@ -10,6 +10,7 @@
 #include "Platform/NotificationCenter.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/Resources.h"
+#include "Platform/URLLoading/ServerTrust.h"
 #include "Platform/UserDefaults.h"
 #include "Tests/Support/ScratchFolder.h"
 #include "Views/Common/Scenes.h"
@@ -26,24 +27,6 @@
 namespace lodestar::testing
 {
 
-/// The process is in that time zone while this lives.
-class InZone
-{
-public:
-    explicit InZone(const QByteArray& zone) { set(zone); }
-    ~InZone() { set(m_before); }
-    InZone(const InZone&) = delete;
-    InZone& operator=(const InZone&) = delete;
-
-private:
-    static void set(const QByteArray& zone)
-    {
-        zone.isEmpty() ? qunsetenv("TZ") : qputenv("TZ", zone);
-        tzset();
-    }
-    const QByteArray m_before = qgetenv("TZ");
-};
-
 /// Feeds of the demonstration console by object type, and other files by their whole name, changeable from test to
 /// test.
 inline std::map<std::string, std::string>& demoFeeds()
@@ -52,8 +35,9 @@ inline std::map<std::string, std::string>& demoFeeds()
     return feeds;
 }
 
-/// The screens' surroundings, fresh for each test: an empty store in a folder of its own, empty defaults, an empty
-/// working list, the storyboard with the editor only, and every logged line and some notifications kept.
+/// The screens' surroundings, fresh for each test: an empty store in a folder of its own, the defaults of a second use,
+/// an empty working list, no certificate trusted, the storyboard with the editor only, and every logged line and some
+/// notifications kept.
 class ViewsTest : public ::testing::Test
 {
 protected:
@@ -61,6 +45,7 @@ protected:
     {
         // Else whichever thread comes to the queue first is the main one.
         MainQueue::shared().adoptCurrentThread();
+        setZone("UTC");
         demoFeeds() = {{"ManagementConsole",
                         "<feed><entry><content><ManagementConsole><VersionInfo><Version>3</Version><Release>2</Release>"
                         "<Maintenance>4</Maintenance><Minor>0</Minor><ServicePackName>SP1</ServicePackName>"
@@ -77,6 +62,9 @@ protected:
         for (const std::string& key : UserDefaults::standard().allKeys()) {
             UserDefaults::standard().removeObjectForKey(key);
         }
+        UserDefaults::standard().setBool(true, "initialLoad");
+        UserDefaults::standard().setBool(true, "showedPreview");
+        ServerTrust::shared().forgetAll();
         RESTHandler::sharedInstance().setCorvelList({});
         Storyboard::main() = Storyboard();
         Storyboard::main().registerScene(
@@ -115,6 +103,12 @@ protected:
         }
     }
 
+    /// The process is in that time zone until the next test.
+    static void setZone(const QByteArray& zone)
+    {
+        qputenv("TZ", zone);
+        tzset();
+    }
     /// A record in the store's context and the working list.
     static CorvelRef addCorvel(const std::string& name, const std::string& address, bool demo = false)
     {
