@@ -20,7 +20,6 @@
 
 #include <functional>
 #include <map>
-#include <mutex>
 #include <thread>
 #include <utility>
 #include <vector>
@@ -90,7 +89,7 @@ private:
 };
 
 /// The application's screens over an empty store, empty defaults and that keychain. What would come into the window is
-/// kept as the root, and every logged line with it.
+/// kept as the root.
 class LockTest : public ::testing::Test
 {
 protected:
@@ -106,14 +105,10 @@ protected:
         Storyboard::main() = Storyboard();
         registerMainStoryboard([this](std::shared_ptr<ViewController> shown) { root = std::move(shown); });
         RESTHandler::sharedInstance().setCorvelList({});
-        listener = VireoLogger::addListener([this](const VireoLogger::Entry& entry) {
-            const std::lock_guard lock(mutex);
-            log += std::string(entry.message) + "\n";
-        });
+        VireoLogger::openLogFolder(folder.file("Logs"));
     }
     ~LockTest() override
     {
-        listener.reset();
         passcodeScreen.reset();
         root.reset();
         MainQueue::shared().runUntil([] { return true; }, std::chrono::seconds(1));
@@ -122,6 +117,7 @@ protected:
         UserDefaults::install(nullptr);
         Keychain::install(nullptr);
         KeptState::openFolder({});
+        VireoLogger::openLogFolder("/dev/null/nowhere");
     }
 
     std::string& passcode() const { return keychain->items[{"Login", "Admin"}]; }
@@ -163,21 +159,16 @@ protected:
         // Qt takes a file of the same size and millisecond for the file that it has read, so the next one gets another.
         std::this_thread::sleep_for(std::chrono::milliseconds(2));
     }
-    std::string logged()
+    std::string logged() const
     {
-        const std::lock_guard lock(mutex);
-        return log;
+        VireoLogger::flush();
+        return folder.read("Logs/lodestar.log");
     }
 
     const ScratchFolder folder;
     FaultyKeychain* keychain = nullptr;
     std::shared_ptr<ViewController> root;
     std::shared_ptr<LoginViewController> passcodeScreen; ///< shown last, and kept when another screen is shown
-
-private:
-    std::mutex mutex;
-    std::string log;
-    std::shared_ptr<void> listener;
 };
 
 } // namespace lodestar::lock

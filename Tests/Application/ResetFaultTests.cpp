@@ -26,6 +26,8 @@ class ResetFaultTest : public ResetFixture
 {
 protected:
     static void SetUpTestSuite() { MemoryReserve::install(); } // as the application does
+    /// The log's thread would make calls of its own.
+    ResetFaultTest() { VireoLogger::openLogFolder("/dev/null/nowhere"); }
     /// Allocations are by far the most: a few of them, and all in the long run.
     static int stepOf(Call call) { return call == Call::Allocation ? rounds(29, 1) : 1; }
     void startAnew() const

@@ -15,11 +15,9 @@ class ResetTest : public ResetFixture
 protected:
     ResetTest()
     {
-        VireoLogger::openLogFolder(folder.file("Logs"));
         openDefaults();
         RESTHandler::sharedInstance().setCorvelList(RESTHandler::sharedInstance().fetchCorvels());
     }
-    ~ResetTest() override { VireoLogger::openLogFolder("/dev/null/nowhere"); }
 
     /// What is written late is written.
     static void settle()
