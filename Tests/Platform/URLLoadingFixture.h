@@ -23,7 +23,15 @@
 namespace lodestar::test
 {
 
-constexpr std::chrono::seconds patience{60};
+/// What comes of a request within a minute.
+inline Result<URLLoad> awaited(std::promise<Result<URLLoad>>& outcome)
+{
+    auto future = outcome.get_future();
+    if (future.wait_for(std::chrono::minutes(1)) != std::future_status::ready) {
+        return Error{"test", 0, "the request never ended", {}, nullptr};
+    }
+    return future.get();
+}
 
 inline URLRequest consoleRequest(const std::string& address, std::string_view path)
 {
@@ -71,15 +79,7 @@ public:
     void connectionDidFinishLoading() override { end(load); }
     void didFailWithError(const Error& error) override { end(error); }
 
-    /// Waits for the end.
-    Result<URLLoad> outcome()
-    {
-        auto future = m_outcome.get_future();
-        if (future.wait_for(patience) != std::future_status::ready) {
-            return Error{"test", 0, "the connection never ended", {}, nullptr};
-        }
-        return future.get();
-    }
+    Result<URLLoad> outcome() { return awaited(m_outcome); }
 
     int challenges = 0;
     int responses = 0;
@@ -120,12 +120,8 @@ protected:
     Result<URLLoad> loadAsynchronously(const URLRequest& request)
     {
         auto outcome = std::make_shared<std::promise<Result<URLLoad>>>();
-        auto future = outcome->get_future();
         sendAsynchronousRequest(request, m_queue, [outcome](const Result<URLLoad>& load) { outcome->set_value(load); });
-        if (future.wait_for(patience) != std::future_status::ready) {
-            return Error{"test", 0, "the request never ended", {}, nullptr};
-        }
-        return future.get();
+        return awaited(*outcome);
     }
 
     /// One after the other: the asynchronous and the blocking call, and a connection whose delegate accepts.

@@ -94,8 +94,6 @@ int forEachFailure(int step, const Work& work)
     return number / step - 1;
 }
 
-} // namespace lodestar::injection
-
 extern "C" {
 void* __libc_malloc(std::size_t size);
 void* __libc_calloc(std::size_t count, std::size_t size);
@@ -104,56 +102,48 @@ void* __libc_realloc(void* block, std::size_t size);
 // NOLINTBEGIN(misc-definitions-in-headers)
 void* malloc(std::size_t size) noexcept
 {
-    using namespace lodestar::injection;
     return detail::fails(Call::Allocation, ENOMEM) ? nullptr : __libc_malloc(size);
 }
 void* calloc(std::size_t count, std::size_t size) noexcept
 {
-    using namespace lodestar::injection;
     return detail::fails(Call::Allocation, ENOMEM) ? nullptr : __libc_calloc(count, size);
 }
 void* realloc(void* block, std::size_t size) noexcept
 {
-    using namespace lodestar::injection;
     return detail::fails(Call::Allocation, ENOMEM) ? nullptr : __libc_realloc(block, size);
 }
 
 ssize_t write(int file, const void* bytes, std::size_t size)
 {
-    using namespace lodestar::injection;
     return detail::fails(Call::Write, ENOSPC) ? -1 : ::syscall(SYS_write, file, bytes, size);
 }
 ssize_t pwrite64(int file, const void* bytes, std::size_t size, off64_t offset)
 {
-    using namespace lodestar::injection;
     return detail::fails(Call::Write, ENOSPC) ? -1 : ::syscall(SYS_pwrite64, file, bytes, size, offset);
 }
 int ftruncate64(int file, off64_t size) noexcept
 {
-    using namespace lodestar::injection;
     return detail::fails(Call::Write, ENOSPC) ? -1 : static_cast<int>(::syscall(SYS_ftruncate, file, size));
 }
 int fsync(int file)
 {
-    using namespace lodestar::injection;
     return detail::fails(Call::Sync, EIO) ? -1 : static_cast<int>(::syscall(SYS_fsync, file));
 }
 int fdatasync(int file)
 {
-    using namespace lodestar::injection;
     return detail::fails(Call::Sync, EIO) ? -1 : static_cast<int>(::syscall(SYS_fdatasync, file));
 }
 int rename(const char* from, const char* to) noexcept
 {
-    using namespace lodestar::injection;
     return detail::fails(Call::Rename, EIO) ? -1 : static_cast<int>(::syscall(SYS_rename, from, to));
 }
 int renameat2(int fromFolder, const char* from, int toFolder, const char* to, unsigned flags) noexcept
 {
-    using namespace lodestar::injection;
     return detail::fails(Call::Rename, EIO)
                ? -1
                : static_cast<int>(::syscall(SYS_renameat2, fromFolder, from, toFolder, to, flags));
 }
 // NOLINTEND(misc-definitions-in-headers)
 }
+
+} // namespace lodestar::injection
