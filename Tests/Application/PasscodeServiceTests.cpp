@@ -2,14 +2,13 @@
 // The passcode in a real secret service. The program starts itself anew in a session bus with a service of its own.
 #include "Application/Adapters/SystemKeychain.h"
 #include "Kit/Core/MainLoop.h"
+#include "Tests/Support/ScratchFolder.h"
 #include "Tests/Support/StoredPassword.h"
 
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusVirtualObject>
-#include <QFile>
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
 #include <gtest/gtest.h>
 
@@ -113,18 +112,15 @@ TEST(PasscodeServiceTest, APasscodeIsKeptWholeAndALockedKeyringIsToldFromAnEmpty
 
 int runInSession(int argc, char** argv)
 {
-    const QTemporaryDir home;
+    const ScratchFolder scratch;
+    const QString home = QString::fromStdString(scratch.path());
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("HOME"), home.path());
-    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), home.path());
+    environment.insert(QStringLiteral("HOME"), home);
+    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), home);
     environment.remove(QStringLiteral("XDG_DATA_HOME"));
     // A bus that starts nothing by itself: another service would come for a question before ours is there, and in the
     // place of ours when that is gone, locked and with nobody to unlock it.
-    QFile bus(home.filePath(QStringLiteral("bus.conf")));
-    if (!bus.open(QIODevice::WriteOnly) || bus.write(busConfiguration) < 0) {
-        return 1;
-    }
-    bus.close();
+    std::ofstream(scratch.file("bus.conf")) << busConfiguration;
     const QString script =
         QStringLiteral(
             "gnome-keyring-daemon --foreground --unlock --components=secrets < <(printf '\\n') >/dev/null 2>&1 & "
@@ -132,8 +128,12 @@ int runInSession(int argc, char** argv)
             "--dest=org.freedesktop.DBus / org.freedesktop.DBus.NameHasOwner "
             "string:org.freedesktop.secrets | grep -q true && break; sleep 0.1; done; exec \"$0\" \"$@\"")
             .arg(QLatin1String(keyringProcess));
-    QStringList arguments{QStringLiteral("--config-file"), bus.fileName(),       QStringLiteral("--"),
-                          QStringLiteral("bash"),          QStringLiteral("-c"), script};
+    QStringList arguments{QStringLiteral("--config-file"),
+                          home + QStringLiteral("/bus.conf"),
+                          QStringLiteral("--"),
+                          QStringLiteral("bash"),
+                          QStringLiteral("-c"),
+                          script};
     for (int index = 0; index < argc; ++index) {
         arguments << QString::fromLocal8Bit(argv[index]);
     }

@@ -7,7 +7,6 @@
 
 #include <QEventLoop>
 #include <QFontInfo>
-#include <QStringList>
 #include <gmock/gmock.h>
 
 #include <thread>
@@ -20,11 +19,6 @@ namespace
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-void onWorker(const std::function<void()>& work)
-{
-    std::thread(work).join();
-}
 
 TEST(MainLoopTest, ANestedLoopRunsTheBlocksBehindTheOneThatStartedIt)
 {
@@ -61,14 +55,14 @@ TEST(OutletsTest, SettersTakeEffectAtOnceOnTheMainThreadAndInOrderLaterFromWorke
     IndicatorOutlet indicator;
     auto field = std::make_unique<FieldOutlet>();
     QObject::connect(field.get(), &FieldOutlet::enabledChanged, [] { ADD_FAILURE() << "a change after its outlet"; });
-    onWorker([&] {
+    std::thread([&] {
         field->setEnabled(false);
         label.setText("first");
         label.setText("second");
         label.setText("second");
         label.setState(Role::State::Error);
         indicator.startAnimating();
-    });
+    }).join();
     field.reset();
     EXPECT_EQ(label.text(), "main");
     EXPECT_TRUE(waitFor([&] { return indicator.isAnimating(); }));
