@@ -1,11 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
-// What the demonstration's feeds hold, and what is read of damaged feeds.
+// What the demonstration's feeds hold, what is read of damaged feeds, and how rows are dated and found.
 #include "Inventory/ConsoleInformation.h"
 #include "Inventory/FeedDate.h"
 #include "Inventory/ManagedSystem.h"
 #include "Inventory/Metrics/MetricsDocument.h"
 #include "Inventory/Partition.h"
 #include "Inventory/ResourceGroup.h"
+#include "Inventory/SearchIndex.h"
 #include "Inventory/ServiceableEvent.h"
 #include "Tests/Support/LongRun.h"
 #include "Tests/Support/TreeReference.h"
@@ -28,6 +29,7 @@ namespace
 using testing::AllOf;
 using testing::ElementsAre;
 using testing::Ge;
+using testing::IsEmpty;
 using testing::IsSupersetOf;
 using testing::SizeIs;
 
@@ -114,6 +116,40 @@ TEST(RecordsTests, OfDamagedFeedsSayWhatTheLibrarysOwnTreeSays)
         EXPECT_EQ(states, readTreeEntries(hurt, {"content", "ManagedSystem", "State"})) << i;
     }
     RecordProperty("tries", tries);
+}
+
+using namespace std::chrono_literals;
+
+TEST(FeedDateTests, ReadsThePatternAndNothingElse)
+{
+    EXPECT_EQ(parseFeedDate("2026-07-03T10:25:00.000Z"), (FeedDate{2026y / 7 / 3, 10h + 25min}));
+    EXPECT_EQ(parseFeedDate("2024-02-29T23:59:59.999Z"), (FeedDate{2024y / 2 / 29, 24h - 1ms}));
+    for (const char* text :
+         {"", "2026-07-03", "2026-07-03T10:25:00Z", "2026-07-03T10:25:00.000", "2026-07-03T10:25:00.000z",
+          "2026-07-03T10:25:00.000+02:00", "2026-07-03 10:25:00.000Z", " 2026-07-03T10:25:00.000Z",
+          "2026-07-03T10:25:00.000Z\n", "26-07-03T10:25:00.000Z", "2026-13-03T10:25:00.000Z",
+          "0000-01-01T00:00:00.000Z", "2026-02-29T10:25:00.000Z", "2026-07-03T24:00:00.000Z",
+          "2026-07-03T10:60:00.000Z", "2026-07-03T10:25:00.0a0Z", "２026-07-03T10:25:00.00Z"}) {
+        EXPECT_EQ(parseFeedDate(text), std::nullopt) << text;
+    }
+}
+
+TEST(SearchIndexTests, FindsRowsByAnyPartOfTheirNameWhateverItsCase)
+{
+    SearchIndex index;
+    for (const char* name : {"ABC-1", "", "xabcx", "abcabc", "b", "ÄRGER", "a", "bc", "Straße"}) {
+        index.add(name);
+    }
+    EXPECT_THAT(index.rowsContaining("abc"), ElementsAre(0U, 2U, 3U));
+    EXPECT_THAT(index.rowsContaining("ABC"), ElementsAre(0U, 2U, 3U));
+    EXPECT_THAT(index.rowsContaining("ärg"), ElementsAre(5U));
+    EXPECT_THAT(index.rowsContaining("bc"), ElementsAre(0U, 2U, 3U, 7U));
+    EXPECT_THAT(index.rowsContaining("STRAẞE"), ElementsAre(8U));
+    EXPECT_THAT(index.rowsContaining("ss"), IsEmpty()) << "no part of the name could be marked";
+    EXPECT_THAT(index.rowsContaining("abc-12"), IsEmpty());
+    // Not across the end of one name and the start of the next.
+    EXPECT_THAT(index.rowsContaining(std::string_view("a\0bc", 4)), IsEmpty());
+    EXPECT_EQ(index.rowsContaining("").size(), 9U);
 }
 
 } // namespace

@@ -4,7 +4,6 @@
 #include "Inventory/ConsoleInformation.h"
 #include "Inventory/ManagedSystem.h"
 #include "Inventory/Partition.h"
-#include "Inventory/ResourceGroup.h"
 #include "Inventory/ServiceableEvent.h"
 #include "Tests/REST/RESTHandlerFixture.h"
 
@@ -97,12 +96,6 @@ std::string eventFeed()
            "</s:ServiceableEvent></content></entry><entry><content><ServiceableEvent/></content></entry></feed>";
 }
 
-constexpr auto groupFeed = R"(<feed><entry><content><Group><AssociatedManagedSystems><link rel="r" href="https://c/m"/>
-</AssociatedManagedSystems><AssociatedLogicalPartitions><link href='https://c/p' rel='r'></link><link rel='r'/><other/>
-</AssociatedLogicalPartitions><GroupColor>cyan</GroupColor><AssociatedVirtualIOServers>
-<l:link xmlns:l="urn:l" href="https://c/v"/></AssociatedVirtualIOServers><GroupName>G&lt;N</GroupName></Group></content>
-</entry><entry><content><Group/></content></entry></feed>)";
-
 template <typename... Each>
 Texts texts(Each... each)
 {
@@ -146,10 +139,11 @@ using HandWrittenFeedTest = ConsoleTest;
 
 TEST_F(HandWrittenFeedTest, ReadAsTheirRecordsWhateverTheirShape)
 {
-    const std::pair<std::string_view, std::string> feeds[] = {
-        {ObjectType::ManagementConsole, consoleFeed},  {ObjectType::ManagedSystem, systemFeed},
-        {ObjectType::LogicalPartition, partitionFeed}, {ObjectType::VirtualIOServer, serverFeed},
-        {ObjectType::ServiceableEvent, eventFeed()},   {ObjectType::Group, groupFeed}};
+    const std::pair<std::string_view, std::string> feeds[] = {{ObjectType::ManagementConsole, consoleFeed},
+                                                              {ObjectType::ManagedSystem, systemFeed},
+                                                              {ObjectType::LogicalPartition, partitionFeed},
+                                                              {ObjectType::VirtualIOServer, serverFeed},
+                                                              {ObjectType::ServiceableEvent, eventFeed()}};
     for (const auto& [type, feed] : feeds) {
         simulator.setFeed(0, type, feed);
     }
@@ -196,19 +190,6 @@ TEST_F(HandWrittenFeedTest, ReadAsTheirRecordsWhateverTheirShape)
     EXPECT_THAT(textsOf(events[0].units()[1]), Each(none));
     EXPECT_THAT(events[1].units(), SizeIs(0));
     EXPECT_EQ(events[0].title() + events[1].title(), "4 (#1) (#)");
-
-    const auto groups = recordsOf<ResourceGroup>(feedOfType(*corvel, ObjectType::Group));
-    ASSERT_EQ(groups.size(), 2U);
-    EXPECT_EQ(groups[0].name(), "G<N");
-    EXPECT_EQ(groups[0].color(), "cyan");
-    Texts links;
-    for (const ResourceGroup::Member& member : groups[0].members()) {
-        links.push_back(ResourceGroup::stateLinkOf(member));
-    }
-    EXPECT_THAT(links, ElementsAre("https://c/p/quick/PartitionState", none, "https://c/v/quick/PartitionState",
-                                   "https://c/m/quick/State"));
-    EXPECT_THAT(groups[1].members(), SizeIs(0));
-    EXPECT_FALSE(groups[1].name() || groups[1].color());
 }
 
 } // namespace

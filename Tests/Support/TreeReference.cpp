@@ -39,15 +39,11 @@ std::string_view localName(const xmlChar* name, const xmlNs* ns)
                : qualified.substr(colon + 1);
 }
 
-std::string ownText(const xmlNode* first)
+void appendOwnText(const xmlNode& node, std::string& text)
 {
-    std::string text;
-    for (const xmlNode* node = first; node != nullptr; node = node->next) {
-        if ((node->type == XML_TEXT_NODE || node->type == XML_CDATA_SECTION_NODE) && node->content != nullptr) {
-            text += view(node->content);
-        }
+    if ((node.type == XML_TEXT_NODE || node.type == XML_CDATA_SECTION_NODE) && node.content != nullptr) {
+        text += view(node.content);
     }
-    return text;
 }
 
 /// Appends the lines of an element and of all below it, and its text to `text`; returns the number of elements.
@@ -60,16 +56,19 @@ std::size_t appendTree(const xmlNode& element, std::vector<std::string>& lines, 
     for (const xmlNode* node = element.children; node != nullptr; node = node->next) {
         if (node->type == XML_ELEMENT_NODE) {
             count += appendTree(*node, lines, text);
-        } else if ((node->type == XML_TEXT_NODE || node->type == XML_CDATA_SECTION_NODE) && node->content != nullptr) {
-            text += view(node->content);
         }
+        appendOwnText(*node, text);
     }
     std::string attributes;
     std::set<std::string_view> seen;
     for (const xmlAttr* attribute = element.properties; attribute != nullptr; attribute = attribute->next) {
         const std::string_view name = localName(attribute->name, attribute->ns);
         if (seen.insert(name).second) {
-            attributes += " " + field(name) + "=" + field(ownText(attribute->children));
+            std::string value;
+            for (const xmlNode* node = attribute->children; node != nullptr; node = node->next) {
+                appendOwnText(*node, value);
+            }
+            attributes += " " + field(name) + "=" + field(value);
         }
     }
     lines[line] = std::to_string(count) + " " + field(localName(element.name, element.ns)) + attributes + " " +
