@@ -1,5 +1,4 @@
 // SPDX-License-Identifier: Apache-2.0
-
 #include "ChartSupport.h"
 
 #include <QSignalSpy>
@@ -44,8 +43,6 @@ TEST(ChartViewTest, APlotReadsAsNamesWithTheirLatestValuesAndAPieAsNamesWithCoun
     PieChartModel model = dashboardPie({17, 2, 3});
     model.data.xVals = {"operating", "incomplete"};
     pie.setData(model.data);
-    pie.setUsePercentValues(true);
-    pie.setUsePercentValues(false);
     EXPECT_EQ(pie.accessibleText(), "operating 17, incomplete 2, 3") << "an index without a label has no name";
 }
 

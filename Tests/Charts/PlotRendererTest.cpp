@@ -54,9 +54,6 @@ TEST_F(PlotRendererTest, PointsStandWhereTheirIndexAndValueSay)
         EXPECT_TRUE(near(picture.at(peak + QPointF(0, 1)), blue, 40)) << index;
         EXPECT_EQ(picture.count(blue, QRectF(plot.left(), peak.y() - 6, plot.width(), 4.5)), 0) << "nothing above";
     }
-    const QPointF halfway(plot.left() + plot.width() / 8, (plot.bottom() + high) / 2);
-    EXPECT_TRUE(near(picture.at(halfway), blue, 60)) << "joined by straight lines";
-    EXPECT_EQ(picture.at(halfway + QPointF(0, 12)), white);
 }
 
 TEST_F(PlotRendererTest, GapsUnorderedAndForeignIndicesKeepTheirPlaces)

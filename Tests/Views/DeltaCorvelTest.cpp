@@ -10,6 +10,7 @@ namespace
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
+using ::testing::Property;
 
 constexpr auto editorFile = "Shared/Views/Corvels/DeltaCorvelViewController";
 /// Nobody listens there.
@@ -29,12 +30,15 @@ protected:
         editor->setCorvel(std::move(corvel));
         editor->loadViewIfNeeded();
     }
-    void fill(const char* name, const char* address, const char* username, const char* password) const
+    std::array<FieldOutlet*, 4> fields() const
     {
-        editor->nameField()->setText(name);
-        editor->addressField()->setText(address);
-        editor->usernameField()->setText(username);
-        editor->passwordField()->setText(password);
+        return {editor->nameField(), editor->addressField(), editor->usernameField(), editor->passwordField()};
+    }
+    void fill(const std::array<std::string, 4>& texts) const
+    {
+        for (std::size_t i = 0; i < texts.size(); ++i) {
+            fields()[i]->setText(QString::fromStdString(texts[i]));
+        }
     }
     bool hasFailed() const { return editor->statusLabel()->state() == Role::State::Error; }
     static std::size_t insertedRecords() { return RESTHandler::sharedInstance().fetchCorvels().size(); }
@@ -54,12 +58,12 @@ TEST_F(DeltaCorvelTest, OpensEmptyToAddAndFilledToEditButSavesNoRegisteredConsol
     open(corvel);
     EXPECT_EQ(editor->navigationBar()->text(), "Edit Corvel");
     EXPECT_FALSE(editor->creatingInstance());
-    const QStringList shown = {editor->nameField()->text(), editor->addressField()->text(),
-                               editor->usernameField()->text(), editor->passwordField()->text()};
-    EXPECT_EQ(shown, QStringList({"Harbour A", "a.example", "oversight", "secret"}));
+    EXPECT_THAT(fields(),
+                ElementsAre(Property(&FieldOutlet::text, "Harbour A"), Property(&FieldOutlet::text, "a.example"),
+                            Property(&FieldOutlet::text, "oversight"), Property(&FieldOutlet::text, "secret")));
 
     // What was typed stays in the record, in memory.
-    fill("Renamed", "b.example", "u", "p");
+    fill({"Renamed", "b.example", "u", "p"});
     editor->saveCorvel();
     EXPECT_EQ(editor->statusLabel()->text(), "Corvel has already been added");
     editor->cancel();
@@ -74,16 +78,11 @@ TEST_F(DeltaCorvelTest, EveryFieldIsNeededAndTheFieldsComeBackAfterTwoSeconds)
     open();
     int endedEditing = 0;
     QObject::connect(editor.get(), &ViewController::endEditingRequested, [&endedEditing] { ++endedEditing; });
-    const auto enabledFields = [this] {
-        const auto fields = {editor->nameField(), editor->addressField(), editor->usernameField(),
-                             editor->passwordField()};
-        return std::ranges::count_if(fields, &FieldOutlet::isEnabled);
-    };
-    const std::array<const char*, 4> incomplete[] = {
-        {"", "a", "u", "p"}, {"n", "", "u", "p"}, {"n", "a", "", "p"}, {"n", "a", "u", ""}};
+    const auto enabledFields = [this] { return std::ranges::count_if(fields(), &FieldOutlet::isEnabled); };
     const auto before = std::chrono::steady_clock::now();
-    for (const auto& [name, address, username, password] : incomplete) {
-        fill(name, address, username, password);
+    for (std::size_t empty = 0; empty < 4; ++empty) {
+        fill({"n", "a", "u", "p"});
+        fields()[empty]->setText("");
         editor->saveCorvel();
         EXPECT_EQ(editor->statusLabel()->text(), "Please enter all fields");
         EXPECT_TRUE(hasFailed());
@@ -93,7 +92,7 @@ TEST_F(DeltaCorvelTest, EveryFieldIsNeededAndTheFieldsComeBackAfterTwoSeconds)
     EXPECT_EQ(endedEditing, 4);
     EXPECT_EQ(insertedRecords(), 0U);
     // Blanks are text.
-    fill(" ", " ", " ", " ");
+    fill({" ", " ", " ", " "});
     EXPECT_TRUE(editor->fieldsValidate());
 
     ASSERT_TRUE(runUntil([&] { return enabledFields() == 4; }));
@@ -106,7 +105,7 @@ TEST_F(DeltaCorvelTest, AFailedLogonLeavesARecordThatTheNextSaveReusesAndCancelD
 {
     addCorvel("Harbour A", "a.example");
     open();
-    fill("New", nobody, "u", "p");
+    fill({"New", nobody, "u", "p"});
     editor->saveCorvel();
     EXPECT_EQ(editor->statusLabel()->text(), "verifying...");
     EXPECT_EQ(editor->statusLabel()->state(), Role::State::None);
@@ -121,7 +120,7 @@ TEST_F(DeltaCorvelTest, AFailedLogonLeavesARecordThatTheNextSaveReusesAndCancelD
     EXPECT_EQ(insertedRecords(), 2U);
     EXPECT_EQ(RESTHandler::sharedInstance().corvelList().size(), 1U);
 
-    fill("New", "a.example", "u", "p");
+    fill({"New", "a.example", "u", "p"});
     editor->saveCorvel();
     EXPECT_EQ(editor->statusLabel()->text(), "Corvel has already been added");
     EXPECT_EQ(editor->corvel(), record);
@@ -138,7 +137,7 @@ TEST_F(DeltaCorvelTest, AFailedLogonLeavesARecordThatTheNextSaveReusesAndCancelD
 TEST_F(DeltaCorvelTest, CancelDuringTheLogonAddsNothingAndShowsNothing)
 {
     open();
-    fill("New", nobody, "u", "p");
+    fill({"New", nobody, "u", "p"});
     editor->saveCorvel();
     editor->cancel();
     const std::weak_ptr<ViewController> weak = editor;
@@ -170,7 +169,7 @@ protected:
             list->addCorvel();
             editor = std::dynamic_pointer_cast<DeltaCorvelViewController>(list->semiModal()->sharedController());
         }
-        fill("Harbour A", fleet.address(0).c_str(), fleet.user().c_str(), fleet.password().c_str());
+        fill({"Harbour A", fleet.address(0), fleet.user(), fleet.password()});
         QObject::connect(editor->statusLabel(), &LabelOutlet::textChanged,
                          [this, label = editor->statusLabel()] { statuses << label->text(); });
         editor->saveCorvel();

@@ -20,6 +20,7 @@ using ::testing::AllOf;
 using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
+using ::testing::MatchesRegex;
 using ::testing::SizeIs;
 using ::testing::StartsWith;
 
@@ -31,26 +32,18 @@ std::string named(const std::string& name, const std::string& state = "running")
     return "<PartitionName>" + name + "</PartitionName><PartitionState>" + state + "</PartitionState>";
 }
 
-/// The names that a table shows, by section.
-std::vector<QStringList> names(GroupedListViewController& list, TableKind kind = Main)
+/// What a table shows: its sections, each as "title: name, name".
+QStringList shown(GroupedListViewController& list, TableKind kind = Main)
 {
-    std::vector<QStringList> sections;
+    QStringList sections;
     for (int section = 0; section < list.numberOfSections(kind); ++section) {
-        QStringList& shown = sections.emplace_back();
+        QStringList names;
         for (int row = 0; row < list.numberOfRowsInSection(kind, section); ++row) {
-            shown << cellAt<PartitionCell>(list, row, kind, section).nameLabel.text;
+            names << cellAt<PartitionCell>(list, row, kind, section).nameLabel.text;
         }
+        sections << *list.titleForHeaderInSection(kind, section) + ": " + names.join(", ");
     }
     return sections;
-}
-
-QStringList titles(GroupedListViewController& list, TableKind kind = Main)
-{
-    QStringList shown;
-    for (int section = 0; section < list.numberOfSections(kind); ++section) {
-        shown << *list.titleForHeaderInSection(kind, section);
-    }
-    return shown;
 }
 
 /// With a demonstration console, whose elements all stand in one group.
@@ -80,7 +73,7 @@ TEST_F(GroupedListsTest, PartitionsAndServersShowTheirStateByExactWording)
                        entry("LogicalPartition", named("three", "error")) +
                        entry("LogicalPartition", named("four", "Running")) + entry("LogicalPartition", "")),
         "helios-01");
-    EXPECT_EQ(titles(*list), QStringList("demo placeholder"));
+    EXPECT_EQ(list->titleForHeaderInSection(Main, 0), "demo placeholder");
     const std::pair<const char*, Role::State> rows[] = {{"one, Dedicated, running, N140-0020", Role::State::Good},
                                                         {"two, not activated", Role::State::Off},
                                                         {"three, error", Role::State::Error},
@@ -147,9 +140,9 @@ protected:
     {
         return entry(type, "<AssociatedManagedSystem href=\"" + link + "\"/>" + inner);
     }
-    std::string partition(int system, const std::string& inner) const
+    std::string partition(std::size_t system, const char* name) const
     {
-        return of(links.at(static_cast<std::size_t>(system)), inner, "LogicalPartition");
+        return of(links.at(system), named(name), "LogicalPartition");
     }
     /// The console's list of a feed with these entries.
     template <typename Controller>
@@ -175,12 +168,12 @@ TEST_F(GroupingTest, EveryPartitionAsksForItsSystemInTheThreadThatGroups)
             ++onMain;
         }
     });
-    const std::string feed = partition(1, named("LPAR01")) + partition(0, named("web")) +
-                             partition(1, named("MyLpar2", "error")) + partition(2, named("mail"));
+    const std::string feed =
+        partition(1, "LPAR01") + partition(0, "web") + partition(1, "MyLpar2") + partition(2, "mail");
     const auto handshakes = fleet.handshakes(0);
     const auto list = openStored<LPListViewController>("LogicalPartition", feed);
-    EXPECT_EQ(titles(*list), QStringList({systems[1], systems[0], systems[2]}));
-    EXPECT_THAT(names(*list), ElementsAre(QStringList({"LPAR01", "MyLpar2"}), QStringList("web"), QStringList("mail")));
+    const QStringList grouped = {systems[1] + ": LPAR01, MyLpar2", systems[0] + ": web", systems[2] + ": mail"};
+    EXPECT_EQ(shown(*list), grouped);
     EXPECT_THAT(fleet.requests(0), AllOf(SizeIs(4), Each(::testing::Field(&simulator::RecordedRequest::path,
                                                                           HasSubstr("/quick/SystemName")))));
     EXPECT_EQ(onMain, 0);
@@ -188,7 +181,7 @@ TEST_F(GroupingTest, EveryPartitionAsksForItsSystemInTheThreadThatGroups)
 
     fleet.setFeed(0, "LogicalPartition", "<feed>" + feed + "</feed>");
     list->refreshFromButton();
-    EXPECT_THAT(names(*list), SizeIs(0));
+    EXPECT_EQ(shown(*list), QStringList());
     ASSERT_TRUE(runUntil([&] { return list->numberOfSections(Main) == 3; }));
     EXPECT_EQ(onMain, 4);
 
@@ -205,7 +198,7 @@ TEST_F(GroupingTest, EveryPartitionAsksForItsSystemInTheThreadThatGroups)
         longest = std::max(longest, now - std::exchange(before, now));
         return last.isFulfilled();
     }));
-    EXPECT_THAT(names(*list), ElementsAre(QStringList({"LPAR01", "MyLpar2"}), QStringList("web"), QStringList("mail")));
+    EXPECT_EQ(shown(*list), grouped);
     EXPECT_LT(longest, 3 * latency);
 
     // Who closes the list ends its look-ups, on either thread.
@@ -233,10 +226,10 @@ TEST_F(GroupingTest, WithoutASystemsNamePartitionsAreKeptAndServersLeftOut)
                of("https://" + fleet.address(0) + ":12443/rest/api/uom/ManagedSystem/gone", named("refused"), type);
     };
     const auto partitions = openStored<LPListViewController>("LogicalPartition", entries("LogicalPartition"));
-    EXPECT_THAT(names(*partitions),
-                ElementsAre(QStringList("kept"), QStringList({"silent", "unlinked"}), QStringList("refused")));
-    EXPECT_EQ(titles(*partitions)[1], "Unknown system");
-    EXPECT_THAT(titles(*partitions)[2].toStdString(), HasSubstr("There is no such property."));
+    const QString kept = systems[0] + ": kept";
+    EXPECT_EQ(shown(*partitions).mid(0, 2), QStringList({kept, "Unknown system: silent, unlinked"}));
+    EXPECT_THAT(shown(*partitions).mid(2).join('/').toStdString(),
+                MatchesRegex(".*There is no such property.*: refused"));
     const auto lookUp = [](const char* lines) {
         return std::string(lines) + " seperatePartitionsBySystemFromXML:: LPListViewController: ";
     };
@@ -246,7 +239,7 @@ TEST_F(GroupingTest, WithoutASystemsNamePartitionsAreKeptAndServersLeftOut)
                             lookUp("197") + "Fetching stored link", _, _, _, _, _, _));
 
     const auto servers = openStored<VIOSViewController>("VirtualIOServer", entries("VirtualIOServer"));
-    EXPECT_THAT(names(*servers), ElementsAre(QStringList("kept"), QStringList("refused")));
+    EXPECT_EQ(shown(*servers), QStringList({kept, shown(*partitions)[2]}));
     EXPECT_EQ(servers->ohCrabLabel()->text(), "Nothing in sight");
     EXPECT_THAT(
         log("Shared/Views/VIOS/VIOSViewController"),
@@ -256,12 +249,11 @@ TEST_F(GroupingTest, WithoutASystemsNamePartitionsAreKeptAndServersLeftOut)
 TEST_F(GroupingTest, SearchResultsGoByTheirOwnGroupsUnderTheTitlesOfAll)
 {
     registerScenes(Scenes::logicalPartitionsDetail);
-    const auto list = openStored<LPListViewController>(
-        "LogicalPartition", partition(0, named("web")) + partition(1, named("LPAR01")) + partition(1, named("mail")) +
-                                partition(2, named("MyLpar2")));
+    const auto list =
+        openStored<LPListViewController>("LogicalPartition", partition(0, "web") + partition(1, "LPAR01") +
+                                                                 partition(1, "mail") + partition(2, "MyLpar2"));
     searchFor(*list, "lpar");
-    EXPECT_THAT(names(*list, Results), ElementsAre(QStringList("LPAR01"), QStringList("MyLpar2")));
-    EXPECT_EQ(titles(*list, Results), QStringList({systems[0], systems[1]}));
+    EXPECT_EQ(shown(*list, Results), QStringList({systems[0] + ": LPAR01", systems[1] + ": MyLpar2"}));
     EXPECT_EQ(cellAt<PartitionCell>(*list, 0, Results, 1).nameLabel.match, "lpar");
     watch(list->searchResultsTableView());
     list->searchResultsTableView()->select(3);
@@ -283,28 +275,24 @@ TEST_F(GroupingTest, ANarrowedListCountsItsSystemAndDrawsTheFirst)
 {
     registerScenes(Scenes::logicalPartitionsDetail);
     store(corvel, "LogicalPartition",
-          partition(0, named("first-1")) + partition(1, named("own-1")) + partition(0, named("first-2")) +
-              partition(1, named("own-2")) + partition(1, named("own-3")));
+          partition(0, "first-1") + partition(1, "own-1") + partition(0, "first-2") + partition(1, "own-2") +
+              partition(1, "own-3"));
     const auto list = openNarrowed(corvel, systems[1]);
-    EXPECT_EQ(titles(*list), QStringList(systems[1]));
     // Where the first group has no more rows, the system's own stand.
-    EXPECT_THAT(names(*list), ElementsAre(QStringList({"first-1", "first-2", "own-3"})));
+    EXPECT_EQ(shown(*list), QStringList(systems[1] + ": first-1, first-2, own-3"));
     for (const auto& [row, name] : {std::pair(0, "first-1"), std::pair(2, "own-3")}) {
         list->didSelectRowAtIndexPath(Main, {0, row});
         EXPECT_EQ(input<XMLElement>().child("PartitionName").text(), name);
         goBack();
     }
     searchFor(*list, "-2");
-    EXPECT_THAT(names(*list, Results), ElementsAre(QStringList("first-2")));
-    EXPECT_EQ(titles(*list, Results), QStringList(systems[1]));
+    EXPECT_EQ(shown(*list, Results), QStringList(systems[1] + ": first-2"));
     searchFor(*list, "first");
-    EXPECT_THAT(names(*list, Results), ElementsAre(QStringList()));
+    EXPECT_EQ(shown(*list, Results), QStringList(systems[1] + ": "));
 
-    const auto unknown = openNarrowed(corvel, "elsewhere");
-    EXPECT_THAT(names(*unknown), ElementsAre(QStringList()));
-    EXPECT_EQ(titles(*unknown), QStringList(systems[0]));
+    EXPECT_EQ(shown(*openNarrowed(corvel, "elsewhere")), QStringList(systems[0] + ": "));
     store(corvel, "LogicalPartition", "");
-    EXPECT_EQ(titles(*openNarrowed(corvel, systems[1])), QStringList("Demo Corvel"));
+    EXPECT_EQ(shown(*openNarrowed(corvel, systems[1])), QStringList("Demo Corvel: "));
 }
 
 } // namespace

@@ -9,18 +9,15 @@ namespace lodestar::testing
 namespace
 {
 
-std::string group(const std::string& name, const std::string& color, int partitions, int systems = 0)
+const std::string memberLink = "<link href='https://127.0.0.1:12443/rest/api/uom/Thing/1'/><other/>";
+
+std::string group(const std::string& name, const std::string& color, const std::string& partitions,
+                  const std::string& systems)
 {
-    const auto links = [](const std::string& list, int count) {
-        std::string xml = "<" + list + ">";
-        for (int i = 0; i < count; ++i) {
-            xml += "<link href='https://127.0.0.1:12443/rest/api/uom/Thing/" + std::to_string(i) + "'/>";
-        }
-        return xml + "<other/></" + list + ">";
-    };
-    return entry("Group", "<GroupName>" + name + "</GroupName><GroupColor>" + color + "</GroupColor>" +
-                              links("AssociatedLogicalPartitions", partitions) +
-                              links("AssociatedManagedSystems", systems));
+    return entry("Group", "<GroupName>" + name + "</GroupName><GroupColor>" + color +
+                              "</GroupColor><AssociatedLogicalPartitions>" + partitions +
+                              "</AssociatedLogicalPartitions><AssociatedManagedSystems>" + systems +
+                              "</AssociatedManagedSystems>");
 }
 
 using ResourceGroupsTest = ListTest;
@@ -32,9 +29,9 @@ QStringList counts(const RGListCell& cell)
 
 TEST_F(ResourceGroupsTest, EveryEntryOfTheStoredFeedIsARow)
 {
-    const auto list =
-        openFetched<RGListViewController>("Group", group("Ledger", "Green", 2, 1) + group("Quarantine", "green", 0, 1) +
-                                                       "<entry><content><Other/></content></entry>");
+    const auto list = openFetched<RGListViewController>(
+        "Group", group("Ledger", "Green", memberLink + memberLink, memberLink) +
+                     group("Quarantine", "green", "", memberLink) + "<entry><content><Other/></content></entry>");
     EXPECT_EQ(header(*list), "Resource Groups/3 Jul 2026, 10:25");
     EXPECT_EQ(list->rightBarButton()->systemItem(), BarButtonOutlet::SystemItem::None);
     ASSERT_EQ(list->tableView()->count(), 3);
@@ -48,7 +45,7 @@ TEST_F(ResourceGroupsTest, EveryEntryOfTheStoredFeedIsARow)
     EXPECT_EQ(cellAt<RGListCell>(*list, 3).groupNameLabel.text, "");
 
     // The rows are the stored feed's, as it is now.
-    setFeedOfType(*list->corvel(), ObjectType::Group, Feed(parse("<feed>" + group("New", "Red", 0) + "</feed>")));
+    setFeedOfType(*list->corvel(), ObjectType::Group, Feed(parse("<feed>" + group("New", "Red", "", "") + "</feed>")));
     list->tableView()->reloadData();
     EXPECT_EQ(list->tableView()->count(), 1);
     EXPECT_EQ(cellAt<RGListCell>(*list, 0).groupNameLabel.text, "New");
