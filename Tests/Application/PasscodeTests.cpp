@@ -160,30 +160,7 @@ TEST_F(PasscodeTest, WhileThePersonIsAskedTheScreensWait)
     EXPECT_FALSE(isRequired());
 }
 
-TEST_F(PasscodeTest, TheSheetRefusesInOneWay)
-{
-    passcode() = "old";
-    require();
-    showSettings();
-    settings->didSelectRowAtIndexPath({0, 1});
-    ASSERT_NE(sheet(), nullptr);
-    const QString texts[][3] = {{"wrong", "new", "new"}, {"", "new", "new"}, {"old", "", ""},
-                                {"old", "new", ""},      {"old", "", "new"}, {"old", "new", "New"}};
-    for (const auto& [oldText, newText, verification] : texts) {
-        save(oldText, newText, verification);
-        ASSERT_NE(sheet(), nullptr);
-        EXPECT_EQ(sheet()->alert()->title(), "Failed");
-        EXPECT_EQ(sheet()->alert()->message(), "Please reenter password");
-        EXPECT_EQ(sheet()->updatePassword()->text() + sheet()->verifyPassword()->text(), "");
-        sheet()->alert()->choose(0);
-    }
-    EXPECT_EQ(passcode(), "old");
-    save("old", "new", "new");
-    EXPECT_EQ(passcode(), "new");
-    EXPECT_EQ(settings->alert()->title(), "Password Saved");
-}
-
-TEST_F(PasscodeTest, AWriteThatFailedIsNotToldAsSavedAndNotBlamedOnThePasscode)
+TEST_F(PasscodeTest, TheSheetRefusesEveryWrongTextAlikeAndBlamesNoneForTheKeychain)
 {
     require(false);
     showSettings();
@@ -200,13 +177,27 @@ TEST_F(PasscodeTest, AWriteThatFailedIsNotToldAsSavedAndNotBlamedOnThePasscode)
     keychain->writeFailure = 0;
     sheet()->savePW();
     EXPECT_EQ(passcode(), "new");
+    EXPECT_EQ(settings->alert()->title(), "Password Saved");
+
     settings->didSelectRowAtIndexPath({0, 1});
+    ASSERT_NE(sheet(), nullptr);
+    const QString texts[][3] = {{"wrong", "newer", "newer"}, {"", "newer", "newer"}, {"new", "", ""},
+                                {"new", "newer", ""},        {"new", "", "newer"},   {"new", "newer", "Newer"}};
+    for (const auto& [oldText, newText, verification] : texts) {
+        save(oldText, newText, verification);
+        ASSERT_NE(sheet(), nullptr);
+        EXPECT_EQ(sheet()->alert()->title(), "Failed");
+        EXPECT_EQ(sheet()->alert()->message(), "Please reenter password");
+        EXPECT_EQ(sheet()->updatePassword()->text() + sheet()->verifyPassword()->text(), "");
+        sheet()->alert()->choose(0);
+    }
     keychain->readFailure = Keychain::absent;
     save("new", "newer", "newer");
     EXPECT_EQ(sheet()->alert()->message(), "No keychain is running on this system. The passcode was not changed.");
-    keychain->readFailure = 0;
-    sheet()->cancel();
     EXPECT_EQ(passcode(), "new");
+    keychain->readFailure = 0;
+    sheet()->savePW();
+    EXPECT_EQ(passcode(), "newer");
 }
 
 TEST_F(PasscodeTest, TheSwitchCannotStayOnWithoutAPasscodeWhichSurvivesTheSwitch)

@@ -122,13 +122,6 @@ TEST_F(ProgramTest, EndsWithALineAndLeavesAStoreThatItCannotReadAsItIs)
         crash += scratch.read("data/Crashes/" + file.path().filename().string());
     }
     EXPECT_THAT(crash, HasSubstr("Failed to initialize the application's saved data"));
-
-    std::filesystem::remove(store());
-    QProcess next;
-    start(next);
-    ASSERT_TRUE(QTest::qWaitFor([this] { return answersFurtherStarts(); }, patience)) << log();
-    terminate(next);
-    EXPECT_EQ(storedConsoles().size(), 1U);
 }
 
 TEST_F(ProgramTest, RefreshesAStoredConsoleWhereItIsInstalled)
