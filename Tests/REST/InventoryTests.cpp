@@ -114,9 +114,7 @@ TEST_F(InventoryTest, FeedsBeyondWhatTheDeviceCanKeepAreNotAvailable)
         EXPECT_GE(KeptBytes::total() - before, feeds->feed(ObjectType::ManagedSystem).root().documentMemory());
     }
     // The last handler may still be about to let go of its feed.
-    for (int i = 0; KeptBytes::total() != before && i < 500; ++i) {
-        std::this_thread::sleep_for(std::chrono::milliseconds(10));
-    }
+    MainQueue::shared().runUntil([&] { return KeptBytes::total() == before; }, std::chrono::seconds(5));
     ASSERT_EQ(KeptBytes::total(), before);
     KeptBytes others;
     ASSERT_TRUE(others.resize(KeptBytes::limit() - before - 5'300'000));

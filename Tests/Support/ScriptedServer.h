@@ -28,12 +28,8 @@ public:
 
     using LeafRef = std::shared_ptr<const simulator::Leaf>;
 
-    ScriptedServer(std::string answer, Ending ending)
-        : ScriptedServer(std::move(answer), ending, "127.0.0.1",
-                         simulator::makeLeaf("127.0.0.1", simulator::Leaf::Kind::Valid))
-    {
-    }
-    ScriptedServer(std::string answer, Ending ending, std::string address, LeafRef leaf)
+    ScriptedServer(std::string answer, Ending ending, std::string address = "127.0.0.1",
+                   LeafRef leaf = simulator::makeLeaf("127.0.0.1", simulator::Leaf::Kind::Valid))
         : m_answer(std::move(answer)), m_ending(ending), m_address(std::move(address)), m_leaf(std::move(leaf))
     {
         m_listener = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC, 0);
