@@ -67,6 +67,12 @@ TEST_F(ControllersTest, NavigationLoadsOnceAndAlternatesAppearances)
     auto root = screen("root");
     auto navigation = makeController<NavigationController>(root);
     EXPECT_THAT(take(), IsEmpty());
+    {
+        const auto tabs =
+            makeController<TabBarController>(std::vector<TabBarItem>{{"One", "tab_consoles", navigation}});
+        EXPECT_EQ(root->tabBarController(), tabs.get());
+    }
+    EXPECT_EQ(root->tabBarController(), nullptr);
     navigation->beginAppearance();
     navigation->beginAppearance();
     EXPECT_THAT(take(), ElementsAre("root load", "root appear"));
@@ -116,27 +122,6 @@ TEST_F(ControllersTest, APoppedScreenOutlivesTheCallThatPopsItAndGoesOnTheMainTh
     std::thread([held = std::move(last)]() mutable { held.reset(); }).join();
     EXPECT_THAT(log, IsEmpty());
     EXPECT_THAT(takeLater(1), ElementsAre("last gone"));
-}
-
-TEST_F(ControllersTest, TabsLoadWhenFirstShownAndOnlyTheSelectedOneAppears)
-{
-    auto first = screen("first");
-    auto second = screen("second");
-    auto navigation = makeController<NavigationController>(first);
-    {
-        auto tabs = makeController<TabBarController>(
-            std::vector<TabBarItem>{{"One", "tab_one", navigation}, {"Two", "tab_two", second}});
-        tabs->beginAppearance();
-        EXPECT_THAT(take(), ElementsAre("first load", "first appear"));
-        EXPECT_EQ(first->tabBarController(), tabs.get());
-        tabs->setSelectedIndex(1);
-        tabs->setSelectedIndex(1);
-        tabs->setSelectedIndex(2);
-        EXPECT_THAT(take(), ElementsAre("first disappear", "second load", "second appear"));
-        tabs->setSelectedIndex(0);
-        EXPECT_THAT(take(), ElementsAre("second disappear", "first appear"));
-    }
-    EXPECT_EQ(first->tabBarController(), nullptr);
 }
 
 TEST_F(ControllersTest, ASheetIsReplacedResizedAndReleasedAfterItsDismissal)
