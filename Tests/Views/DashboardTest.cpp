@@ -71,20 +71,16 @@ protected:
 
 TEST_F(DashboardTest, SumsWhatTheConsolesHoldAndLogsWhatTheyLack)
 {
-    std::string systems = entry("ManagedSystem", "");
-    for (const char* state : {"operating", "error", "operating", "Error"}) {
-        systems += system("any", state);
-    }
-    std::string partitions;
-    for (const char* state : {"running", "not activated", "running"}) {
-        partitions += entry("LogicalPartition", std::string("<PartitionState>") + state + "</PartitionState>");
-    }
-    addFetched("a", {{"ManagedSystem", Feed(parse("<feed>" + systems + "</feed>"))},
+    const std::string running = entry("LogicalPartition", "<PartitionState>running</PartitionState>");
+    const std::string off = entry("LogicalPartition", "<PartitionState>not activated</PartitionState>");
+    addFetched("a", {{"ManagedSystem", Feed(parse("<feed>" + system("a", "operating") + system("b", "error") +
+                                                  entry("ManagedSystem", "") + system("d", "operating") +
+                                                  system("e", "Error") + "</feed>"))},
                      {"LogicalPartition", Feed::notAvailable()},
                      {"ServiceableEvent", Feed(parse("<feed><entry/><entry/></feed>"))}})
         ->numMSLEDs = 2;
     addFetched("b", {{"ManagedSystem", Feed::notAvailable()},
-                     {"LogicalPartition", Feed(parse("<feed>" + partitions + "</feed>"))},
+                     {"LogicalPartition", Feed(parse("<feed>" + running + off + running + "</feed>"))},
                      {"ServiceableEvent", Feed::notAvailable()}})
         ->numMSLEDs = 3;
     const CorvelRef offline = addCorvel("Console", "c");
