@@ -19,8 +19,9 @@
 namespace lodestar::test
 {
 
-/// The console client on a store in a scratch folder, with its log lines collected and nothing remembered.
-class RESTHandlerTest : public testing::Test
+/// The console client on a store in a scratch folder that holds one console, with its log lines collected and nothing
+/// remembered.
+class ConsoleTest : public testing::Test
 {
 protected:
     void SetUp() override
@@ -39,6 +40,7 @@ protected:
                                 " " + std::to_string(entry.tag) + " " + std::string(entry.fileName) + " " +
                                 std::string(entry.method) + ":" + std::to_string(entry.line));
         });
+        corvel = corvelOf(simulator);
     }
     void TearDown() override
     {
@@ -107,27 +109,16 @@ protected:
         return m_sources;
     }
 
+    simulator::SimulatorProcess simulator{{}};
+    const std::string host = simulator.address() + ":12443";
+    CorvelRef corvel;
+
 private:
     const ScratchFolder m_folder;
     std::shared_ptr<void> m_listener;
     std::mutex m_linesMutex;
     std::vector<std::string> m_lines;
     std::vector<std::string> m_sources;
-};
-
-/// One console, and its record in the store.
-class ConsoleTest : public RESTHandlerTest
-{
-protected:
-    void SetUp() override
-    {
-        RESTHandlerTest::SetUp();
-        corvel = corvelOf(simulator);
-    }
-
-    simulator::SimulatorProcess simulator{{}};
-    const std::string host = simulator.address() + ":12443";
-    CorvelRef corvel;
 };
 
 } // namespace lodestar::test
