@@ -24,6 +24,17 @@ inline bool waitFor(const std::function<bool()>& predicate)
     return QTest::qWaitFor(predicate, 10'000);
 }
 
+/// Appearance outlives the test, and what a test has overridden would.
+struct AppearanceReset {
+    ~AppearanceReset()
+    {
+        Appearance::shared().overrideDark({});
+        Appearance::shared().overrideTextScale({});
+        Appearance::shared().overrideMirrored({});
+        Appearance::shared().overrideReducedMotion({});
+    }
+};
+
 /// A window that shows a controller, as the application's does.
 class KitWindow
 {
@@ -45,15 +56,6 @@ public:
         m_view.requestActivate();
         EXPECT_TRUE(waitFor([&] { return m_view.isExposed() && m_view.isActive(); }));
     }
-    ~KitWindow()
-    {
-        // Appearance outlives the window, and its overrides would the test.
-        Appearance::shared().overrideDark({});
-        Appearance::shared().overrideTextScale({});
-        Appearance::shared().overrideMirrored({});
-        Appearance::shared().overrideReducedMotion({});
-    }
-
     QQuickView& view() { return m_view; }
     /// The first item below the window whose QML type is so named, or whose objectName is; null for none.
     QQuickItem* find(const QString& name) { return find(m_view.contentItem(), name); }
@@ -99,6 +101,7 @@ public:
 
 private:
     QQuickView m_view;
+    AppearanceReset m_reset;
 };
 
 } // namespace lodestar

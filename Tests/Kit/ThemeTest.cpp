@@ -38,12 +38,6 @@ protected:
         installKit(m_engine);
         m_holder = make("QtObject { readonly property QtObject theme: Theme }");
     }
-    ~ThemeTest() override
-    {
-        Appearance::shared().overrideDark({});
-        Appearance::shared().overrideTextScale({});
-        Appearance::shared().overrideMirrored({});
-    }
     std::unique_ptr<QObject> make(const QByteArray& qml)
     {
         QQmlComponent component(&m_engine);
@@ -69,6 +63,7 @@ protected:
         return value;
     }
 
+    AppearanceReset m_reset;
     QQmlEngine m_engine;
     std::unique_ptr<QObject> m_holder;
 };

@@ -143,16 +143,13 @@ TEST_F(WidgetsTest, SwipeButtonsReportTheirIndexFromTheOuterEdgeAndSwapSides)
         Appearance::shared().overrideMirrored(mirrored);
         KitWindow window(list);
         const QPoint middle = KitWindow::centre(row(window, 1));
-        window.swipe(middle, {mirrored ? 130 : -130, 0});
-        ASSERT_TRUE(settles(window, 1, 144));
-        const int edge = mirrored ? 12 : 378;
-        window.click({edge + (mirrored ? 100 : -100), middle.y()});
-        EXPECT_THAT(list->swiped, ElementsAre(1));
-        ASSERT_TRUE(settles(window, 1, 0));
-
-        window.swipe(middle, {mirrored ? 130 : -130, 0});
-        ASSERT_TRUE(settles(window, 1, 144));
-        window.click({edge + (mirrored ? 30 : -30), middle.y()});
+        for (const int button : {1, 0}) {
+            ASSERT_TRUE(settles(window, 1, 0));
+            window.swipe(middle, {mirrored ? 130 : -130, 0});
+            ASSERT_TRUE(settles(window, 1, 144));
+            const int aside = button == 1 ? 100 : 30;
+            window.click({mirrored ? 12 + aside : 378 - aside, middle.y()});
+        }
         EXPECT_THAT(list->swiped, ElementsAre(1, 0));
         EXPECT_EQ(list->tableView()->count(), 7);
         EXPECT_TRUE(waitFor([&] { return KitWindow::centre(row(window, 1)).y() == middle.y(); }));
