@@ -219,6 +219,8 @@ TEST_F(AddingTest, AnEditorWhoseSheetIsGoneAddsItsConsoleBesideTheNextOne)
     EXPECT_EQ(consoles().size(), 1U);
     EXPECT_EQ(list->tableView()->count(), 1);
     EXPECT_TRUE(hasKey());
+    editor->cancel();
+    EXPECT_EQ(list->semiModal(), nullptr);
 }
 
 TEST_F(AddingTest, CancellingWhileItGathersLeavesNoTraceAndTakesNothingFromTheNext)

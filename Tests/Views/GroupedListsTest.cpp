@@ -266,9 +266,10 @@ TEST_F(GroupingTest, SearchResultsGoByTheirOwnGroupsUnderTheTitlesOfAll)
     goBack();
 
     // A drawn row may be tapped after its list went.
-    list->fetchNewRESTData();
+    const auto fetched = list->fetchNewRESTData();
     list->didSelectRowAtIndexPath(Main, {1, 1});
     EXPECT_EQ(navigation->depth(), 2);
+    EXPECT_TRUE(runUntil([&] { return fetched.isFulfilled(); }));
 }
 
 TEST_F(GroupingTest, ANarrowedListCountsItsSystemAndDrawsTheFirst)

@@ -122,9 +122,10 @@ TEST_F(ManagedSystemsTest, TheSheetOpensTheSystemOfTheTableThatWasTapped)
 
     // The list goes while the sheet is up.
     list->tableView()->select(1);
-    list->fetchNewRESTData();
+    const auto fetched = list->fetchNewRESTData();
     list->actionSheet()->choose(0);
     EXPECT_EQ(navigation->depth(), 2);
+    EXPECT_TRUE(runUntil([&] { return fetched.isFulfilled(); }));
 }
 
 } // namespace
