@@ -37,6 +37,9 @@ TEST(AxisTicksTest, StepsAreOneTwoAndFiveTimesATenAndTextsHaveTheDigitsThatTellT
     QLocale::setDefault(QLocale::German);
     EXPECT_EQ((TickStep{5, -1}.text(12.5)), "12,5");
     QLocale::setDefault(QLocale::C);
+    for (const auto& [least, stride] : {std::pair{0.5, 1}, {2.1, 4}, {4.5, 5}, {5.5, 10}, {11.0, 20}, {30.0, 40}}) {
+        EXPECT_EQ(labelStride(least), stride);
+    }
 }
 
 TEST(AxisTicksTest, EveryAxisHoldsItsValuesAndEnds)

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace lodestar::charttest
 {
 namespace
@@ -41,8 +43,9 @@ TEST(LegendTest, NumberNineStandsAboveTheChartFromTheLeftAndWraps)
 TEST(LegendTest, EveryPositionKeepsToItsSideAndItsEndOfTheLine)
 {
     Legend legend = dashboardPie({}).legend;
-    for (int number = 6; number < 12; ++number) {
-        for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+    std::array<double, 3> places{};
+    for (const auto direction : {Qt::LeftToRight, Qt::RightToLeft}) {
+        for (int number = 6; number < 12; ++number) {
             SCOPED_TRACE(testing::Message() << number << (direction == Qt::RightToLeft ? " mirrored" : ""));
             legend.position = static_cast<LegendPosition>(number);
             const LegendLayout layout = layOut(legend, {"one", "two"}, 1, direction);
@@ -54,6 +57,10 @@ TEST(LegendTest, EveryPositionKeepsToItsSideAndItsEndOfTheLine)
             EXPECT_EQ(layout.bounds.center().y() < content.center().y(), number >= 9);
             if (const int place = direction == Qt::RightToLeft ? 2 - number % 3 : number % 3; place != 1) {
                 EXPECT_EQ(forms.center().x() > chart.width() / 2, place == 2);
+            }
+            places.at(static_cast<std::size_t>(number % 3)) = forms.center().x();
+            if (number % 3 == 2) {
+                EXPECT_DOUBLE_EQ(places[1], (places[0] + places[2]) / 2) << "the middle of the line";
             }
         }
     }
