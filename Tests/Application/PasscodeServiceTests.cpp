@@ -14,6 +14,7 @@
 
 #include <csignal>
 #include <string_view>
+#include <sys/wait.h>
 
 namespace lodestar
 {
@@ -103,6 +104,7 @@ TEST(PasscodeServiceTest, APasscodeIsKeptWholeAndALockedKeyringIsToldFromAnEmpty
     const int service = qEnvironmentVariableIntValue(keyringProcess);
     ASSERT_GT(service, 0);
     ASSERT_EQ(::kill(service, SIGKILL), 0);
+    ASSERT_EQ(::waitpid(service, nullptr, 0), service); // the shell that started it became this program
     const auto start = std::chrono::steady_clock::now();
     EXPECT_EQ(test::readPassword().error().code, Keychain::absent);
     EXPECT_EQ(test::writePassword("lost").error().code, Keychain::absent);
