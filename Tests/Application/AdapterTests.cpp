@@ -1,7 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Adapters/FileUserDefaults.h"
 #include "Application/Adapters/SystemKeychain.h"
+#include "Feedback/VireoLogger.h"
 #include "Platform/Queues/MainQueue.h"
+#include "Tests/Support/FullDisk.h"
 #include "Tests/Support/ScratchFolder.h"
 #include "Tests/Support/StoredPassword.h"
 
@@ -114,7 +116,7 @@ TEST_F(FileUserDefaultsTests, ADamagedFileIsReadAsFarAsItGoesAndReplaced)
     EXPECT_EQ(FileUserDefaults(path).stringForKey("console"), "kept");
 }
 
-TEST_F(FileUserDefaultsTests, WritesBehindTheBacksOfItsCallersAndLosesNoneOfTheirChanges)
+TEST_F(FileUserDefaultsTests, ChangesOfManyThreadsAreWrittenBehindThemAndAFullDiskIsToldOnce)
 {
     FileUserDefaults defaults(path);
     std::vector<std::jthread> threads;
@@ -133,6 +135,15 @@ TEST_F(FileUserDefaultsTests, WritesBehindTheBacksOfItsCallersAndLosesNoneOfThei
     threads.clear(); // when they have ended
     const auto areWritten = [this] { return FileUserDefaults(path).allKeys().size() == 400; };
     EXPECT_TRUE(MainQueue::shared().runUntil(areWritten, std::chrono::seconds(20)));
+
+    std::vector<std::string> told;
+    const auto listener = VireoLogger::addListener([&](const auto& entry) { told.emplace_back(entry.message); });
+    const test::FullDisk disk(10);
+    for (const char* change : {"a", "b"}) {
+        defaults.setString(change, "key");
+        EXPECT_FALSE(defaults.synchronize());
+    }
+    EXPECT_THAT(told, ::testing::ElementsAre(path + " could not be written. The next change tries again."));
 }
 
 TEST(SystemKeychainTests, FailsSoonWithoutAServiceAndOneThatNeverAnswersCostsOneDeadline)
