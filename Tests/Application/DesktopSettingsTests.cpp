@@ -37,36 +37,34 @@ TEST(DesktopSettingsTests, MotionAndTextSizeFollowWhatTheDesktopSays)
 {
     qDBusRegisterMetaType<Groups>();
     QProcess daemon;
-    daemon.start(QStringLiteral("dbus-daemon"),
-                 {QStringLiteral("--session"), QStringLiteral("--nofork"), QStringLiteral("--print-address")});
+    daemon.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
     ASSERT_TRUE(daemon.waitForReadyRead());
     const QString address = QString::fromUtf8(daemon.readLine()).trimmed();
 
-    QDBusConnection desktop = QDBusConnection::connectToBus(address, QStringLiteral("desktop"));
+    QDBusConnection desktop = QDBusConnection::connectToBus(address, "desktop");
     Portal portal;
-    portal.groups[QStringLiteral("org.gnome.desktop.interface")][QStringLiteral("enable-animations")] = false;
-    portal.groups[QStringLiteral("org.gnome.desktop.interface")][QStringLiteral("text-scaling-factor")] = 1.5;
-    const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
+    portal.groups["org.gnome.desktop.interface"]["enable-animations"] = false;
+    portal.groups["org.gnome.desktop.interface"]["text-scaling-factor"] = 1.5;
+    const QString path = "/org/freedesktop/portal/desktop";
     ASSERT_TRUE(desktop.registerVirtualObject(path, &portal));
-    ASSERT_TRUE(desktop.registerService(QStringLiteral("org.freedesktop.portal.Desktop")));
+    ASSERT_TRUE(desktop.registerService("org.freedesktop.portal.Desktop"));
 
     std::vector<bool> told;
     std::vector<double> scales;
     DesktopSettings settings([&](bool reduced) { told.push_back(reduced); },
                              [&](double scale) { scales.push_back(scale); });
-    settings.follow(QDBusConnection::connectToBus(address, QStringLiteral("program")));
+    settings.follow(QDBusConnection::connectToBus(address, "program"));
     ASSERT_TRUE(QTest::qWaitFor([&] { return told.size() == 1; }));
 
     const auto change = [&](const char* group, const char* key, const QVariant& value) {
-        QDBusMessage changed = QDBusMessage::createSignal(path, QStringLiteral("org.freedesktop.portal.Settings"),
-                                                          QStringLiteral("SettingChanged"));
+        QDBusMessage changed = QDBusMessage::createSignal(path, "org.freedesktop.portal.Settings", "SettingChanged");
         changed << QString::fromLatin1(group) << QString::fromLatin1(key) << QVariant::fromValue(QDBusVariant(value));
         ASSERT_TRUE(desktop.send(changed));
     };
     change("org.gnome.desktop.interface", "enable-animations", true);
     change("org.gnome.desktop.interface", "cursor-size", 24);
     change("org.gnome.desktop.interface", "text-scaling-factor", 2.0);
-    change("org.kde.kdeglobals.KDE", "AnimationDurationFactor", QStringLiteral("0"));
+    change("org.kde.kdeglobals.KDE", "AnimationDurationFactor", "0");
     change("org.freedesktop.appearance", "reduced-motion", 0U);
     ASSERT_TRUE(QTest::qWaitFor([&] { return told.size() == 4; }));
     EXPECT_THAT(told, testing::ElementsAre(true, false, true, false));
@@ -78,8 +76,8 @@ TEST(DesktopSettingsTests, MotionAndTextSizeFollowWhatTheDesktopSays)
 TEST(SessionBusTests, NobodyStartsABusWhereThereIsNone)
 {
     const QTemporaryDir folder;
-    const QString launched = folder.filePath(QStringLiteral("launched"));
-    QFile launcher(folder.filePath(QStringLiteral("dbus-launch")));
+    const QString launched = folder.filePath("launched");
+    QFile launcher(folder.filePath("dbus-launch"));
     ASSERT_TRUE(launcher.open(QIODevice::WriteOnly));
     launcher.write(("#!/bin/sh\ntouch " + launched + "\nexit 1\n").toUtf8());
     launcher.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
@@ -92,7 +90,7 @@ TEST(SessionBusTests, NobodyStartsABusWhereThereIsNone)
             qputenv("DISPLAY", ":0");
             qputenv("PATH", folder.path().toUtf8() + ":" + qgetenv("PATH"));
             leaveAbsentSessionBus();
-            const auto bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("absent"));
+            const auto bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "absent");
             std::exit(hasSessionBus() || bus.isConnected() || QFile::exists(launched) ? 1 : 0);
         },
         testing::ExitedWithCode(0), "");

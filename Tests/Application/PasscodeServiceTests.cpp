@@ -44,11 +44,11 @@ class SilentPrompter final : public QDBusVirtualObject
 public:
     SilentPrompter()
     {
-        QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, QStringLiteral("prompter"));
-        bus.registerVirtualObject(QStringLiteral("/org/gnome/keyring/Prompter"), this);
-        EXPECT_TRUE(bus.registerService(QStringLiteral("org.gnome.keyring.SystemPrompter")));
+        QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, "prompter");
+        bus.registerVirtualObject("/org/gnome/keyring/Prompter", this);
+        EXPECT_TRUE(bus.registerService("org.gnome.keyring.SystemPrompter"));
     }
-    ~SilentPrompter() override { QDBusConnection::disconnectFromBus(QStringLiteral("prompter")); }
+    ~SilentPrompter() override { QDBusConnection::disconnectFromBus("prompter"); }
     QString introspect(const QString& /*path*/) const override { return {}; }
     bool handleMessage(const QDBusMessage& /*message*/, const QDBusConnection& /*connection*/) override { return true; }
 };
@@ -57,9 +57,7 @@ public:
 QString seenFromOutside()
 {
     QProcess tool;
-    tool.start(QStringLiteral("secret-tool"),
-               {QStringLiteral("lookup"), QStringLiteral("user"), QStringLiteral("Admin"), QStringLiteral("server"),
-                QStringLiteral("Login")});
+    tool.start("secret-tool", {"lookup", "user", "Admin", "server", "Login"});
     EXPECT_TRUE(tool.waitForFinished(20'000));
     return QString::fromUtf8(tool.readAllStandardOutput());
 }
@@ -72,7 +70,7 @@ TEST(PasscodeServiceTest, APasscodeIsKeptWholeAndALockedKeyringIsToldFromAnEmpty
     Keychain::install(std::move(made));
     EXPECT_EQ(test::readPassword().value(), "");
     const QString passcodes[] = {QString::fromUtf8("p\u00E4ss 'w\u014Drd' \U0001F511 "), QString(10'000, u'\u00FC'),
-                                 QString(), QStringLiteral("kept")};
+                                 QString(), "kept"};
     for (const QString& passcode : passcodes) {
         EXPECT_TRUE(test::writePassword(passcode.toStdString()));
         EXPECT_EQ(test::readPassword().value(), passcode.toStdString());
@@ -83,7 +81,7 @@ TEST(PasscodeServiceTest, APasscodeIsKeptWholeAndALockedKeyringIsToldFromAnEmpty
     EXPECT_EQ(seenFromOutside(), "kept");
 
     // It may crash once that is done.
-    QProcess::execute(QStringLiteral("secret-tool"), {QStringLiteral("lock"), QStringLiteral("--collection=login")});
+    QProcess::execute("secret-tool", {"lock", "--collection=login"});
     ASSERT_EQ(test::readPassword("Login", "Admin", Prompt::No).error().code, Keychain::locked);
     auto prompter = std::make_unique<SilentPrompter>();
     std::optional<Result<std::string>> answer;
@@ -117,9 +115,9 @@ int runInSession(int argc, char** argv)
     const ScratchFolder scratch;
     const QString home = QString::fromStdString(scratch.path());
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert(QStringLiteral("HOME"), home);
-    environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), home);
-    environment.remove(QStringLiteral("XDG_DATA_HOME"));
+    environment.insert("HOME", home);
+    environment.insert("XDG_RUNTIME_DIR", home);
+    environment.remove("XDG_DATA_HOME");
     // A bus that starts nothing by itself: another service would come for a question before ours is there, and in the
     // place of ours when that is gone, locked and with nobody to unlock it.
     std::ofstream(scratch.file("bus.conf")) << busConfiguration;
@@ -130,19 +128,14 @@ int runInSession(int argc, char** argv)
             "--dest=org.freedesktop.DBus / org.freedesktop.DBus.NameHasOwner "
             "string:org.freedesktop.secrets | grep -q true && break; sleep 0.1; done; exec \"$0\" \"$@\"")
             .arg(QLatin1String(keyringProcess));
-    QStringList arguments{QStringLiteral("--config-file"),
-                          home + QStringLiteral("/bus.conf"),
-                          QStringLiteral("--"),
-                          QStringLiteral("bash"),
-                          QStringLiteral("-c"),
-                          script};
+    QStringList arguments{"--config-file", home + "/bus.conf", "--", "bash", "-c", script};
     for (int index = 0; index < argc; ++index) {
         arguments << QString::fromLocal8Bit(argv[index]);
     }
     QProcess session;
     session.setProcessEnvironment(environment);
     session.setProcessChannelMode(QProcess::ForwardedChannels);
-    session.start(QStringLiteral("dbus-run-session"), arguments);
+    session.start("dbus-run-session", arguments);
     const bool finished = session.waitForFinished(90'000);
     return finished && session.exitStatus() == QProcess::NormalExit ? session.exitCode() : 1;
 }

@@ -33,11 +33,11 @@ protected:
     void start(QProcess& process, const QString& program = QStringLiteral(LODESTAR_PROGRAM)) const
     {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        environment.insert(QStringLiteral("HOME"), QString::fromStdString(scratch.file("home")));
-        environment.insert(QStringLiteral("XDG_RUNTIME_DIR"), QString::fromStdString(scratch.path()));
-        environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QStringLiteral("disabled:"));
+        environment.insert("HOME", QString::fromStdString(scratch.file("home")));
+        environment.insert("XDG_RUNTIME_DIR", QString::fromStdString(scratch.path()));
+        environment.insert("DBUS_SESSION_BUS_ADDRESS", "disabled:");
         process.setProcessEnvironment(environment);
-        process.start(program, {QStringLiteral("--data"), QString::fromStdString(scratch.file("data"))});
+        process.start(program, {"--data", QString::fromStdString(scratch.file("data"))});
         ASSERT_TRUE(process.waitForStarted(patience));
     }
 
@@ -120,10 +120,9 @@ TEST_F(ProgramTest, EndsWithALineAndLeavesAStoreThatItCannotReadAsItIs)
 TEST_F(ProgramTest, RefreshesAStoredConsoleWhereItIsInstalled)
 {
     const QString prefix = QString::fromStdString(scratch.file("usr"));
-    ASSERT_EQ(
-        QProcess::execute(QStringLiteral(CMAKE_PROGRAM), {QStringLiteral("--install"), QStringLiteral(BUILD_FOLDER),
-                                                          QStringLiteral("--prefix"), prefix}),
-        0);
+    ASSERT_EQ(QProcess::execute(QStringLiteral(CMAKE_PROGRAM),
+                                {"--install", QStringLiteral(BUILD_FOLDER), "--prefix", prefix}),
+              0);
     const std::string entry = scratch.read("usr/share/applications/org.ornis.Lodestar.desktop");
     EXPECT_THAT(entry, HasSubstr("\nExec=lodestar\n"));
     EXPECT_THAT(entry, HasSubstr("\nIcon=org.ornis.Lodestar\n"));
@@ -141,7 +140,7 @@ TEST_F(ProgramTest, RefreshesAStoredConsoleWhereItIsInstalled)
         ASSERT_TRUE(context->save().ok());
     }
     QProcess process;
-    start(process, prefix + QStringLiteral("/bin/lodestar"));
+    start(process, prefix + "/bin/lodestar");
     ASSERT_TRUE(QTest::qWaitFor([&] { return log().find("Parsing version") != std::string::npos; }, patience)) << log();
     terminate(process);
     EXPECT_THAT(storedConsole(), StartsWith("Harbour A V"));
