@@ -98,14 +98,26 @@ TEST_F(MetricsTest, FirstAnswerDecidesWhetherThereIsASecondRequest)
     sessionKey = kept;
     EXPECT_EQ(simulator.requests().size(), 5U);
 
-    // Feeds that lead nowhere.
-    for (const char* feed : {"", "<feed/>", "<feed><entry/></feed>", "<feed><entry><link/></entry></feed>",
-                             "<feed><entry><link href='http://127.0.0.1/'/></entry></feed>", "{}"}) {
-        simulator.setFeed(0, "Metrics", feed);
-        EXPECT_EQ(refusal(), notProcessed) << feed;
+    simulator.setFeed(0, "Metrics", "<feed><entry><link href='http://127.0.0.1/'/></entry></feed>");
+    EXPECT_EQ(refusal(), notProcessed) << "an address without TLS";
+    EXPECT_EQ(simulator.requests().size(), 6U);
+    EXPECT_THAT(takeLines(), Contains("RESTHandler: fetching PCM error message for Console 0"));
+}
+
+TEST_F(MetricsTest, FeedCutAfterTheAddressOfItsFirstLinkLeadsThereAndCutBeforeLeadsNowhere)
+{
+    const std::string before = "<a:feed xmlns:a='u'><a:entry><a:title/><a:link rel='x' a:href = '";
+    const std::string address =
+        "https://" + host + "/rest/api/pcm/ManagedSystem/" + system + "/ProcessedMetrics/7.json";
+    const std::string after = "'/><a:link href='2'/></a:entry><a:entry><a:link href='3'/></a:entry></a:feed>";
+    for (std::size_t length = 0; length <= before.size(); ++length) {
+        simulator.setFeed(0, "Metrics", before.substr(0, length));
+        EXPECT_EQ(refusal(), notProcessed) << length;
     }
-    EXPECT_EQ(simulator.requests().size(), 11U);
-    EXPECT_THAT(takeLines(), Contains("RESTHandler: fetching PCM error message for Console 0").Times(6));
+    for (std::size_t length = 0; length <= after.size(); ++length) {
+        simulator.setFeed(0, "Metrics", before + address + after.substr(0, length));
+        EXPECT_EQ(refusal(), "fulfilled") << length;
+    }
 }
 
 TEST_F(MetricsTest, SecondAnswerIsReadWhateverItsStatusAndTheMessageOfItsFirstSampleDecides)
