@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <atomic>
-#include <cstdlib>
 #include <future>
 #include <latch>
 #include <memory>
@@ -46,28 +45,6 @@ TEST(ThreadPoolTests, UrgentJobsAndWhatComesOfThemGoFirst)
     held.count_down();
     done.wait();
     EXPECT_EQ(order, "abcd");
-}
-
-TEST(ThreadPoolTests, TheProcessEndsWithBlocksInFlight)
-{
-    GTEST_FLAG_SET(death_test_style, "threadsafe");
-    const auto endWithBlocks = [] {
-        std::latch running(3);
-        for (int i = 0; i < 3; ++i) {
-            DispatchQueue::globalBackground().async([&running] {
-                running.count_down();
-                std::this_thread::sleep_for(60s);
-            });
-        }
-        for (int i = 0; i < 1000; ++i) {
-            DispatchQueue::globalBackground().async([] { std::this_thread::sleep_for(1ms); });
-        }
-        running.wait();
-        std::exit(3); // NOLINT(concurrency-mt-unsafe): what is tested
-    };
-    const auto start = std::chrono::steady_clock::now();
-    EXPECT_EXIT(endWithBlocks(), ::testing::ExitedWithCode(3), "");
-    EXPECT_LT(std::chrono::steady_clock::now() - start, 30s);
 }
 
 TEST(DispatchQueueTests, ASerialQueueRunsOneBlockAtATimeInOrderAndSyncOnTheCaller)

@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 // Many transfers at once, and the connections that they share.
+#include "Platform/Queues/DispatchQueue.h"
 #include "Platform/URLLoading/HandshakeHold.h"
 #include "Tests/Platform/URLLoadingFixture.h"
 #include "Tests/Support/ScratchFolder.h"
@@ -172,7 +173,7 @@ TEST_F(URLLoadingTest, ConnectionsMadeAheadMayBeOlderThanTheCertificateAndThanTh
 
 using URLLoadingDeathTest = URLLoadingTest;
 
-TEST_F(URLLoadingDeathTest, ProcessEndsWithTransfersInFlight)
+TEST_F(URLLoadingDeathTest, ProcessEndsWithTransfersAndBlocksInFlight)
 {
     testing::GTEST_FLAG(death_test_style) = "threadsafe";
     const auto leave = [this] {
@@ -182,9 +183,21 @@ TEST_F(URLLoadingDeathTest, ProcessEndsWithTransfersInFlight)
         for (int i = 0; i < 300; ++i) {
             connect(feedRequest(simulator, key));
         }
+        std::latch running(3);
+        for (int i = 0; i < 1000; ++i) {
+            DispatchQueue::globalBackground().async([&running, i] {
+                if (i < 3) {
+                    running.count_down();
+                }
+                std::this_thread::sleep_for(i < 3 ? 60s : 0s);
+            });
+        }
+        running.wait();
         std::exit(7);
     };
+    const auto start = Clock::now();
     EXPECT_EXIT(leave(), testing::ExitedWithCode(7), "");
+    EXPECT_LT(Clock::now() - start, 30s);
 }
 
 TEST_F(URLLoadingDeathTest, NobodyHasTheSecretsOfConnectionsWritten)

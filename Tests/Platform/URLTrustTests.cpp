@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Tests/Platform/URLLoadingFixture.h"
+#include "Tests/Support/ScratchFolder.h"
 #include "Tests/Support/ScriptedServer.h"
 
 #include <gmock/gmock.h>
@@ -28,20 +29,19 @@ class VouchedLeaves : public testing::Environment
 public:
     void SetUp() override
     {
-        m_path = testing::TempDir() + "lodestar-authorities-" + std::to_string(getpid()) + ".pem";
-        const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(m_path.c_str(), "w"), std::fclose);
+        const std::string path = m_folder.file("authorities.pem");
+        const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(path.c_str(), "w"), std::fclose);
         ASSERT_NE(file, nullptr);
         ASSERT_EQ(PEM_write_X509(file.get(), valid->certificate.get()), 1);
         ASSERT_EQ(PEM_write_X509(file.get(), expired->certificate.get()), 1);
-        setenv("SSL_CERT_FILE", m_path.c_str(), 1);
+        setenv("SSL_CERT_FILE", path.c_str(), 1);
     }
-    void TearDown() override { std::remove(m_path.c_str()); }
 
     const ScriptedServer::LeafRef valid = simulator::makeLeaf("127.0.0.1", simulator::Leaf::Kind::Valid);
     const ScriptedServer::LeafRef expired = simulator::makeLeaf("127.0.0.2", simulator::Leaf::Kind::Expired);
 
 private:
-    std::string m_path;
+    const ScratchFolder m_folder;
 };
 
 VouchedLeaves& vouched()
