@@ -30,15 +30,6 @@ std::string numbered(const std::string& form, int number)
     return text;
 }
 
-std::string repeated(int count, const std::string& text)
-{
-    std::string all;
-    for (int i = 0; i < count; ++i) {
-        all += text;
-    }
-    return all;
-}
-
 std::string times(int count, const std::string& form)
 {
     std::string all;
@@ -88,58 +79,52 @@ struct Bomb {
 
 std::vector<Bomb> bombs()
 {
-    const std::string laughs = "<!ENTITY e0 'lol'>" + times(9, "<!ENTITY e@ '" + repeated(10, "&e^;") + "'>");
-    const std::string large = "<!ENTITY e '" + repeated(80'000, "x") + "'>";
-    const std::string references = repeated(26'000, "&e;");
+    const std::string laughs = "<!ENTITY e0 'lol'>" + times(9, "<!ENTITY e@ '" + times(10, "&e^;") + "'>");
+    const std::string large = "<!ENTITY e '" + times(80'000, "x") + "'>";
+    const std::string references = times(26'000, "&e;");
     const std::string attributes = "b " + times(100'000, "c@='>' ") + "/>";
     return {
         {"nested", document(laughs, "&e9;"), Read::Any},
-        {"nested, often named", document(laughs, repeated(5'000, "&e4;")), Read::Any},
+        {"nested, often named", document(laughs, times(5'000, "&e4;")), Read::Any},
         {"nested, in an attribute", document(laughs, "<b c='&e9;'/>"), Read::Any},
         {"quadratic text", document(large, references), Read::Whole},
-        {"quadratic elements", document("<!ENTITY e '" + repeated(20'000, "<b/>") + "'>", references), Read::Whole},
+        {"quadratic elements", document("<!ENTITY e '" + times(20'000, "<b/>") + "'>", references), Read::Whole},
         {"quadratic, first named in an attribute", document(large, "<b c='&e;'/>" + references), Read::Whole},
-        {"quadratic attributes", document(large, repeated(6'600, "<b c='&e;'/>")), Read::Whole},
+        {"quadratic attributes", document(large, times(6'600, "<b c='&e;'/>")), Read::Whole},
         {"nested parameter entities",
-         document("<!ENTITY % p0 \"<!ENTITY x 'y'>\">" + times(9, "<!ENTITY % p@ '" + repeated(10, "&#37;p^;") + "'>") +
+         document("<!ENTITY % p0 \"<!ENTITY x 'y'>\">" + times(9, "<!ENTITY % p@ '" + times(10, "&#37;p^;") + "'>") +
                       "%p9;",
                   "t"),
          Read::Any},
         {"quadratic parameter entity",
-         document("<!ENTITY % p '" + repeated(8'000, "<!-- x -->") + "'>" + repeated(26'000, "%p;"), "t"), Read::Any},
-        {"many defaults", document("<!ATTLIST b " + times(3'000, "c@ CDATA '' ") + ">", repeated(20'000, "<b/>")),
+         document("<!ENTITY % p '" + times(8'000, "<!-- x -->") + "'>" + times(26'000, "%p;"), "t"), Read::Any},
+        {"many defaults", document("<!ATTLIST b " + times(3'000, "c@ CDATA '' ") + ">", times(20'000, "<b/>")),
          Read::Whole},
-        {"large default", document("<!ATTLIST b c CDATA '" + repeated(80'000, "x") + "'>", repeated(20'000, "<b/>")),
+        {"large default", document("<!ATTLIST b c CDATA '" + times(80'000, "x") + "'>", times(20'000, "<b/>")),
          Read::Whole},
         {"defaults made of entities",
-         document(large + "<!ATTLIST b " + times(1'000, "c@ CDATA '&e;&e;' ") + ">", repeated(10'000, "<b/>")),
+         document(large + "<!ATTLIST b " + times(1'000, "c@ CDATA '&e;&e;' ") + ">", times(10'000, "<b/>")),
          Read::Whole},
-        {"depth", repeated(100'000, "<a>") + repeated(100'000, "</a>"), Read::Any},
+        {"depth", times(100'000, "<a>") + times(100'000, "</a>"), Read::Any},
         {"attributes", document("", "<" + attributes), Read::Any},
         {"attributes in UTF-16", utf16(document("", "<b " + times(100'000, "c@='|' ") + "/>")), Read::Any},
         {"attributes in a declared encoding", "<?xml version='1.0' encoding='UTF-7'?><a>+ADw-" + attributes, Read::Any},
         {"attributes in an entity", document("<!ENTITY e \"&#60;" + attributes + "\">", "&e;"), Read::Any},
         {"name spaces", document("", "<b " + times(100'000, "xmlns:c@='u' ") + "/>"), Read::Any},
         {"many names", flood("<a>", "<n@/>"), Read::None},
-        {"attribute names", flood("<a>", "<b n@=''/>"), Read::None},
         {"many name spaces", flood("<a>", "<b xmlns='u@'/>"), Read::None},
-        {"instructions", flood("<a>", "<?n@?>"), Read::None},
         {"values of a declaration", flood("<!DOCTYPE a [<!ATTLIST a b (v", "|v@"), Read::None},
         {"elements", flood("<a>", "<b/>"), Read::None},
         {"tags of many attributes", flood("<a>", "<b" + times(800, " c@=''") + "/>"), Read::None},
-        {"attributes twice", flood("<a><first/>", "<b" + repeated(800, " c=''") + "/>"), Read::Begin},
+        {"attributes twice", flood("<a><first/>", "<b" + times(800, " c=''") + "/>"), Read::Begin},
         {"ampersands", flood("<a><first/>", "&"), Read::Begin},
         {"ampersands in a value", flood("<a><first/><b c='", "&"), Read::Begin},
-        {"angle brackets", flood("<a><first/>", "<"), Read::Begin},
-        {"ends of others", flood("<a><first/>", "<b></c>"), Read::Begin},
-        {"comments", flood("<a><first/>", "<!-- -- -->"), Read::Begin},
-        {"control characters", flood("<a><first/>", "\x01"), Read::Begin},
         {"levels", flood("<a><first/>", "<b>"), Read::Begin},
         // Long stretches that are no tag with too many attributes.
-        {"equations in a text", document("", "<b>" + repeated(5'000, "a=\"b\" ") + "</b>"), Read::Whole},
-        {"equations in a comment", document("", "<!-- " + repeated(5'000, "a=\"b\" ") + " -->"), Read::Whole},
-        {"quotes", document("", "<b c='" + repeated(9'000, "\"") + "'/>"), Read::Whole},
-        {"small tags", document("", repeated(9'000, "<b c='1' d=\"2\"/>")), Read::Whole}};
+        {"equations in a text", document("", "<b>" + times(5'000, "a=\"b\" ") + "</b>"), Read::Whole},
+        {"equations in a comment", document("", "<!-- " + times(5'000, "a=\"b\" ") + " -->"), Read::Whole},
+        {"quotes", document("", "<b c='" + times(9'000, "\"") + "'/>"), Read::Whole},
+        {"small tags", document("", times(9'000, "<b c='1' d=\"2\"/>")), Read::Whole}};
 }
 
 double threadMilliseconds()
