@@ -91,7 +91,7 @@ TEST_F(RXPromiseChainTests, AFailureHandlerTurnsARejectionIntoAnOutcome)
     EXPECT_EQ(outcome(passed).error(), error("kept")) << "an error of one's own passes on unchanged";
 }
 
-TEST_F(RXPromiseChainTests, AReturnedPromiseIsWaitedFor)
+TEST_F(RXPromiseChainTests, AReturnedPromiseIsWaitedForUnlessItIsTheOneThatWaits)
 {
     for (const bool settleFirst : {true, false}) {
         RXPromise<int> inner;
@@ -110,12 +110,9 @@ TEST_F(RXPromiseChainTests, AReturnedPromiseIsWaitedFor)
     const auto cancelledInside = fulfilled(1).thenOnMain([](int) { return cancelled(); });
     EXPECT_EQ(reason(cancelledInside), "cancelled");
     EXPECT_TRUE(cancelledInside.isCancelled()) << "it settles as the returned promise settled";
-}
 
-TEST_F(RXPromiseChainTests, APromiseThatWaitsForItselfIsRejected)
-{
     const RXPromise<int> source;
-    auto self = std::make_shared<std::optional<RXPromise<int>>>();
+    const auto self = std::make_shared<std::optional<RXPromise<int>>>();
     *self = source.thenOnMain([self](int) { return **self; });
     source.fulfillWithValue(1);
     EXPECT_FALSE(outcome(**self).ok());
@@ -147,7 +144,7 @@ TEST_F(RXPromiseChainTests, CancellationReachesWhatIsDerived)
     EXPECT_TRUE(early.isCancelled());
 }
 
-TEST_F(RXPromiseChainTests, AllKeepsTheOrderOfTheInputs)
+TEST_F(RXPromiseChainTests, AllKeepsTheOrderOfTheInputsAndOnARejectionNoneOfThem)
 {
     EXPECT_TRUE(RXPromise<int>::all({}).result()->value().empty());
     std::vector<RXPromise<std::size_t>> inputs(100);
@@ -165,18 +162,15 @@ TEST_F(RXPromiseChainTests, AllKeepsTheOrderOfTheInputs)
     std::vector<std::size_t> expected(inputs.size());
     std::iota(expected.begin(), expected.end(), 0U);
     EXPECT_EQ(outcome(all).value(), expected);
-}
 
-TEST_F(RXPromiseChainTests, AllRejectsWithTheFirstRejectionAndKeepsNothing)
-{
-    std::vector<RXPromise<std::shared_ptr<int>>> inputs(4);
+    std::vector<RXPromise<std::shared_ptr<int>>> shared(4);
     const auto token = std::make_shared<int>(0);
-    const auto all = RXPromise<std::shared_ptr<int>>::all(inputs);
-    inputs[0].fulfillWithValue(token);
-    inputs[3].rejectWithReason("third");
-    inputs[1].rejectWithReason("first");
-    EXPECT_EQ(reason(all), "third");
-    inputs[0] = RXPromise<std::shared_ptr<int>>();
+    const auto rejecting = RXPromise<std::shared_ptr<int>>::all(shared);
+    shared[0].fulfillWithValue(token);
+    shared[3].rejectWithReason("third");
+    shared[1].rejectWithReason("first");
+    EXPECT_EQ(reason(rejecting), "third");
+    shared[0] = RXPromise<std::shared_ptr<int>>();
     EXPECT_EQ(token.use_count(), 1) << "an input that never settles keeps the values of the others";
 
     const auto withCancelled = RXPromise<int>::all({fulfilled(1), cancelled()});

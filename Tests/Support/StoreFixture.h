@@ -107,8 +107,7 @@ protected:
             std::string& state = files[entry.path().filename()];
             state = std::to_string(static_cast<unsigned>(entry.status().permissions())) + ":";
             if (entry.is_regular_file()) {
-                std::ifstream file(entry.path(), std::ios::binary);
-                state.append(std::istreambuf_iterator<char>(file), {});
+                state += scratch.read(entry.path().filename());
             }
         }
         return files;
