@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cmath>
 
 namespace lodestar::charttest
 {
@@ -48,7 +49,7 @@ TEST(LegendTest, EveryPositionKeepsToItsSideAndItsEndOfTheLine)
         for (int number = 6; number < 12; ++number) {
             SCOPED_TRACE(testing::Message() << number << (direction == Qt::RightToLeft ? " mirrored" : ""));
             legend.position = static_cast<LegendPosition>(number);
-            const LegendLayout layout = layOut(legend, {"one", "two"}, 1, direction);
+            const LegendLayout layout = layOut(legend, {"one", "one"}, 1, direction);
             const QRectF content = contentBeside(legend, layout, chart);
             ASSERT_EQ(layout.boxes.size(), 2U);
             const QRectF forms = layout.boxes[0].form | layout.boxes[1].form;
@@ -61,6 +62,10 @@ TEST(LegendTest, EveryPositionKeepsToItsSideAndItsEndOfTheLine)
             places.at(static_cast<std::size_t>(number % 3)) = forms.center().x();
             if (number % 3 == 2) {
                 EXPECT_DOUBLE_EQ(places[1], (places[0] + places[2]) / 2) << "the middle of the line";
+                // An entry's end lies as far from its form as the next form, less the gap between them.
+                const double step = std::abs(layout.boxes[1].form.left() - layout.boxes[0].form.left());
+                EXPECT_NEAR(forms.width() - 9 + step - legend.xEntrySpace * 20 + std::abs(places[2] - places[0]),
+                            chart.width() - 40, 1e-6);
             }
         }
     }
