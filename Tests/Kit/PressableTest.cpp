@@ -10,33 +10,24 @@ namespace lodestar
 namespace
 {
 
-/// Two buttons one above the other, 100 by 50.
-class PressableTest : public testing::Test
+TEST(PressableTest, AFingerTheMouseAndTheSpaceBarClickWhereTheyLetGoOfWhatTheyPressed)
 {
-protected:
-    PressableTest()
-    {
-        window.setGeometry(0, 0, 200, 200);
-        for (Pressable* const item : {&first, &second}) {
-            item->setParentItem(window.contentItem());
-            item->setSize({100, 50});
-            QObject::connect(item, &Pressable::clicked, item, [this, item] { clicks << item; });
-        }
-        second.setY(50);
-        window.show();
-        window.requestActivate();
-        EXPECT_TRUE(waitFor([this] { return window.isExposed() && window.isActive(); }));
-    }
-    void key(Qt::Key which) { QTest::keyClick(&window, which); }
-
+    // Two buttons one above the other, 100 by 50.
     QQuickWindow window;
+    window.setGeometry(0, 0, 200, 200);
     Pressable first;
     Pressable second;
     QList<Pressable*> clicks;
-};
+    for (Pressable* const item : {&first, &second}) {
+        item->setParentItem(window.contentItem());
+        item->setSize({100, 50});
+        QObject::connect(item, &Pressable::clicked, item, [&clicks, item] { clicks << item; });
+    }
+    second.setY(50);
+    window.show();
+    window.requestActivate();
+    ASSERT_TRUE(waitFor([&] { return window.isExposed() && window.isActive(); }));
 
-TEST_F(PressableTest, AFingerOrMouseClicksWhereItLetsGoOfWhatItPressed)
-{
     QTest::mousePress(&window, Qt::LeftButton, {}, {50, 20});
     EXPECT_TRUE(first.isPressed());
     EXPECT_TRUE(first.hasActiveFocus());
@@ -66,13 +57,14 @@ TEST_F(PressableTest, AFingerOrMouseClicksWhereItLetsGoOfWhatItPressed)
     EXPECT_EQ(clicks.size(), 3);
     second.doAccessibleAction(QAccessibleActionInterface::pressAction());
     EXPECT_EQ(clicks.size(), 4);
-}
 
-TEST_F(PressableTest, TheKeyboardGoesFromOneToTheNextWithARingAndTheSpaceBarPresses)
-{
+    // The keyboard goes from one to the next with a ring.
+    first.setEnabled(true);
+    second.forceActiveFocus();
+    clicks.clear();
     first.forceActiveFocus(Qt::TabFocusReason);
     EXPECT_TRUE(first.hasVisualFocus());
-    key(Qt::Key_Tab);
+    QTest::keyClick(&window, Qt::Key_Tab);
     EXPECT_TRUE(second.hasVisualFocus());
     EXPECT_FALSE(first.hasVisualFocus());
     QTest::keyPress(&window, Qt::Key_Space);

@@ -101,10 +101,20 @@ TEST_F(TableTest, SectionsBecomeOneListWithHeadersEmptyAndEqualOnesIncluded)
     EXPECT_EQ(deselected[0][0], 4);
 }
 
-TEST_F(TableTest, ReloadsChangeTheEndOfTheListOnlyAndAnnounceCellsOnceWithoutAskingForAny)
+TEST_F(TableTest, ReloadsFromAnyThreadChangeTheEndOfTheListOnlyAndAnnounceCellsOnceWithoutAskingForAny)
 {
-    reload({3});
+    RefreshControl control;
+    control.pull();
+    source.rows = {3};
+    std::thread([&] {
+        table.reloadData();
+        control.endRefreshing();
+    }).join();
+    EXPECT_EQ(source.asked, 0) << "on the main thread only";
+    EXPECT_TRUE(control.isRefreshing());
     announce();
+    EXPECT_EQ(table.count(), 3);
+    EXPECT_FALSE(control.isRefreshing());
     reload({5});
     reload({2});
     reload({2});
@@ -151,21 +161,6 @@ TEST_F(TableTest, ADeletedRowMovesTheOthersUpWithoutConfiguringThem)
     source.rows = {1, 2};
     table.deleteRow({0, 3}, RowAnimation::Left);
     EXPECT_THAT(shown(), ElementsAre("[A]", "0.0fl", "[B]", "1.0f", "1.1l"));
-}
-
-TEST_F(TableTest, AReloadFromAWorkerAsksTheSourceOnTheMainThread)
-{
-    RefreshControl control;
-    control.pull();
-    std::thread([&] {
-        table.reloadData();
-        control.endRefreshing();
-    }).join();
-    EXPECT_EQ(source.asked, 0);
-    EXPECT_TRUE(control.isRefreshing());
-    announce();
-    EXPECT_EQ(table.count(), 1);
-    EXPECT_FALSE(control.isRefreshing());
 }
 
 TEST_F(TableTest, ADrawnRowAsksOnlyWhileItIsDrawnAndLetsGoOfItsContentWhenItBecomesAHeader)
