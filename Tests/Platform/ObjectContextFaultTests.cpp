@@ -23,27 +23,6 @@ using test::StoreFixture;
 using ::testing::AnyOf;
 using ::testing::ElementsAre;
 
-/// Has SQLite open no file for writing, as on a disk that is mounted to be read only.
-class ReadOnlyDisk
-{
-public:
-    ReadOnlyDisk() { vfs().xSetSystemCall(&vfs(), "open", reinterpret_cast<sqlite3_syscall_ptr>(&open)); }
-    ~ReadOnlyDisk() { vfs().xSetSystemCall(&vfs(), nullptr, nullptr); }
-    ReadOnlyDisk(const ReadOnlyDisk&) = delete;
-    ReadOnlyDisk& operator=(const ReadOnlyDisk&) = delete;
-
-private:
-    static sqlite3_vfs& vfs() { return *sqlite3_vfs_find("unix"); }
-    static int open(const char* file, int flags, int mode)
-    {
-        if ((flags & O_ACCMODE) != O_RDONLY) {
-            errno = EROFS;
-            return -1;
-        }
-        return ::open(file, flags, mode);
-    }
-};
-
 using ObjectContextFaultTests = StoreFixture;
 
 TEST_F(ObjectContextFaultTests, AStoreThatCannotBeWrittenIsRefusedAndLeftAsItWas)
@@ -54,10 +33,15 @@ TEST_F(ObjectContextFaultTests, AStoreThatCannotBeWrittenIsRefusedAndLeftAsItWas
         ASSERT_TRUE(context->save().ok());
     }
     const auto before = snapshot();
-    const auto opened = [this] {
-        const ReadOnlyDisk disk;
-        return ObjectContext::open(path, model());
-    }();
+    const auto openForReading = +[](const char* file, int flags, int mode) {
+        errno = EROFS;
+        return (flags & O_ACCMODE) == O_RDONLY ? ::open(file, flags, mode) : -1;
+    };
+    // SQLite opens no file for writing, as on a disk that is mounted to be read only.
+    sqlite3_vfs* const files = sqlite3_vfs_find("unix");
+    files->xSetSystemCall(files, "open", reinterpret_cast<sqlite3_syscall_ptr>(openForReading));
+    const auto opened = ObjectContext::open(path, model());
+    files->xSetSystemCall(files, nullptr, nullptr);
     ASSERT_FALSE(opened.ok());
     EXPECT_EQ(opened.error().domain, storeErrorDomain);
     EXPECT_THAT(opened.error().code, AnyOf(SQLITE_READONLY, SQLITE_CANTOPEN));

@@ -62,7 +62,6 @@ public:
         ++challenges;
         EXPECT_EQ(challenge.authenticationMethod(), AuthenticationChallenge::Method::ServerTrust);
         challengedHost = challenge.host() + ":" + std::to_string(challenge.port());
-        respondedBeforeChallenge = respondedBeforeChallenge || responses > 0;
         if (m_answer == Answer::Accept) {
             challenge.useCredential();
         } else if (m_answer == Answer::Decline) {
@@ -84,7 +83,6 @@ public:
     int challenges = 0;
     int responses = 0;
     int ends = 0;
-    bool respondedBeforeChallenge = false;
     std::string challengedHost;
     URLLoad load;
 

@@ -127,7 +127,6 @@ TEST_F(URLTrustTest, AcceptedCertificateIsGoodForPlainRequestsToThatServerAlone)
     const auto first = connect(request);
     EXPECT_TRUE(first->outcome().ok());
     EXPECT_EQ(first->challenges, 1);
-    EXPECT_FALSE(first->respondedBeforeChallenge);
     EXPECT_EQ(first->challengedHost, simulator.address() + ":12443");
     const auto again = connect(request);
     EXPECT_TRUE(again->outcome().ok());
