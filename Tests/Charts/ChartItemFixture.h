@@ -11,6 +11,7 @@
 #include <QTest>
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 
 namespace lodestar::charttest
@@ -48,6 +49,17 @@ protected:
 
     double scrolled() const { return m_page->property("contentY").toDouble(); }
     QTest::QTouchEventSequence touch() { return QTest::touchEvent(m_window, m_device.get()); }
+    /// One finger from a point by a stroke, in steps that the window hands on one by one.
+    void stroke(QPoint from, QPoint by, const std::function<bool()>& arrived)
+    {
+        touch().press(0, from);
+        for (int step = 1; step <= 20 && !arrived(); ++step) {
+            touch().move(0, from + by * step / 20);
+            (void)QTest::qWaitFor(arrived, 40);
+        }
+        EXPECT_TRUE(arrived());
+        touch().release(0, from + by);
+    }
 
     const std::unique_ptr<QPointingDevice> m_device{QTest::createTouchDevice()}; // Outlives the window it touches.
     View m_view;

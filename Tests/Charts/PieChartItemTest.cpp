@@ -84,15 +84,8 @@ TEST_F(PieChartItemTest, AFingerAlongTheRingTurnsThePieAndAcrossTheRingScrollsTh
     EXPECT_EQ(m_view.selectedEntry(), std::nullopt) << "a turn is no tap";
 
     const double turned = m_view.model().rotationAngle;
-    const QPoint start = on(0.8, 180);
-    touch().press(0, start);
-    for (int by = 6; by <= 120 && scrolled() <= 20; by += 6) {
-        touch().move(0, start - QPoint(0, by));
-        (void)QTest::qWaitFor([this] { return scrolled() > 20; }, 40); // Until the window has handed the move on.
-    }
-    EXPECT_GT(scrolled(), 20);
+    stroke(on(0.8, 180), {0, -120}, [this] { return scrolled() > 20; });
     EXPECT_EQ(m_view.model().rotationAngle, turned);
-    touch().release(0, start - QPoint(0, 120));
     EXPECT_EQ(m_view.selectedEntry(), std::nullopt);
 }
 

@@ -30,17 +30,6 @@ protected:
     {
         return QTest::qWaitFor([this] { return !m_item->isMoving(); });
     }
-    /// One finger from a point by a stroke, in steps that the window hands on one by one.
-    void stroke(QPoint from, QPoint by, const std::function<bool()>& arrived)
-    {
-        touch().press(0, from);
-        for (int step = 1; step <= 20 && !arrived(); ++step) {
-            touch().move(0, from + by * step / 20);
-            (void)QTest::qWaitFor(arrived, 40);
-        }
-        EXPECT_TRUE(arrived());
-        touch().release(0, from + by);
-    }
     void turnWheel(QPoint angle, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         const QPoint at(183, 180);
