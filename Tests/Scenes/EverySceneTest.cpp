@@ -14,21 +14,14 @@ namespace
 
 std::atomic<qsizetype> liveObjects = 0;
 
-/// Counts all objects of the process that are made from now on and still live.
-void countObjects()
-{
-    qtHookData[QHooks::AddQObject] = reinterpret_cast<quintptr>(+[](QObject*) { ++liveObjects; });
-    qtHookData[QHooks::RemoveQObject] = reinterpret_cast<quintptr>(+[](QObject*) { --liveObjects; });
-}
-
 /// How often each is opened. 200 times, as LODESTAR_OPENINGS can ask for, take minutes.
 const int times = qEnvironmentVariable("LODESTAR_OPENINGS", "20").toInt();
 
-class EverySceneTest : public SceneTest
+using EverySceneTest = SceneTest;
+
+TEST_F(EverySceneTest, OpensWithoutAWarningAndLeavesNoObjectBehind)
 {
-protected:
-    void open(ViewController& screen) const
-    {
+    const auto open = [this](ViewController& screen) {
         SceneHost host(stage.window().contentItem());
         QQmlEngine::setContextForObject(&host, qmlContext(&stage.window()));
         host.setSize(QSizeF(stage.window().size()));
@@ -42,21 +35,18 @@ protected:
         EXPECT_NE(host.scene(), nullptr);
         host.setController(nullptr);
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    }
-    /// After what scripts let go of has gone.
-    qsizetype countLiving() const
-    {
+    };
+    // After what scripts let go of has gone.
+    const auto countLiving = [this] {
         qmlEngine(&stage.window())->collectGarbage();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        return liveObjects;
-    }
-};
-
-TEST_F(EverySceneTest, OpensWithoutAWarningAndLeavesNoObjectBehind)
-{
+        return liveObjects.load();
+    };
     stage.show({390, 844}, {});
     const CorvelRef corvel = demoConsole();
-    countObjects();
+    // All objects of the process that are made from now on and still live.
+    qtHookData[QHooks::AddQObject] = reinterpret_cast<quintptr>(+[](QObject*) { ++liveObjects; });
+    qtHookData[QHooks::RemoveQObject] = reinterpret_cast<quintptr>(+[](QObject*) { --liveObjects; });
     std::vector<AnyScene> scenes = everyScene(corvel);
     for (const Scene<> scene : {Scenes::mainView, Scenes::loginViewController}) {
         scenes.push_back({scene.identifier, [scene] { return Storyboard::main().instantiateViewController(scene); }});

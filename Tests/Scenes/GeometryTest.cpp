@@ -19,7 +19,7 @@ using Setting = std::tuple<int, int, double, bool, bool>;
 class GeometryTest : public SceneTest, public ::testing::WithParamInterface<Setting>
 {
 protected:
-    void apply()
+    void SetUp() override
     {
         Appearance::shared().overrideTextScale(std::get<2>(GetParam()));
         Appearance::shared().overrideMirrored(std::get<3>(GetParam()));
@@ -46,41 +46,6 @@ protected:
         });
         return found;
     }
-    /// Sentences are whole; only names, which say so, are cut in their middle. Nothing leaves the window at its sides.
-    void expectNothingClipped() const
-    {
-        for (const QQuickItem* item : texts()) {
-            const std::string words = item->property("text").toString().toStdString();
-            const bool mayElide = item->property("elide").toInt() == elideMiddle;
-            EXPECT_TRUE(mayElide || !item->property("truncated").toBool()) << words;
-            EXPECT_LE(item->property("contentWidth").toDouble(), item->width() + tolerance) << words;
-            const QRectF ink = inkOf(item);
-            EXPECT_GE(ink.left(), -tolerance) << words;
-            EXPECT_LE(ink.right(), size().width() + tolerance) << words;
-        }
-    }
-    void expectNothingOverlaps() const
-    {
-        const std::vector<QQuickItem*> all = texts();
-        for (std::size_t i = 0; i < all.size(); ++i) {
-            for (std::size_t j = i + 1; j < all.size(); ++j) {
-                if (rowOf(all[i]) == nullptr || rowOf(all[i]) != rowOf(all[j])) {
-                    continue;
-                }
-                const QRectF common = inkOf(all[i]).intersected(inkOf(all[j]));
-                EXPECT_TRUE(common.width() <= tolerance || common.height() <= tolerance)
-                    << all[i]->property("text").toString().toStdString() << " / "
-                    << all[j]->property("text").toString().toStdString();
-            }
-        }
-    }
-    void expectTargetsLargeEnough() const
-    {
-        for (const QQuickItem* item : stage.buttons()) {
-            EXPECT_GE(item->width(), 44) << item->property("text").toString().toStdString();
-            EXPECT_GE(item->height(), 44) << item->property("text").toString().toStdString();
-        }
-    }
     static const QQuickItem* rowOf(const QQuickItem* item)
     {
         while (item != nullptr && !QByteArray(item->metaObject()->className()).startsWith("TableRow")) {
@@ -88,17 +53,45 @@ protected:
         }
         return item;
     }
-    const std::function<void(const char*)> soundLook = [this](const char* scene) {
-        ASSERT_TRUE(stage.waitFor([this] { return row(0) != nullptr && stage.items("Spinner").empty(); })) << scene;
-        stage.settle(200);
-        expectSound();
-    };
+    /// Sentences are whole; only names, which say so, are cut in their middle. Nothing leaves the window at its sides,
+    /// nothing overlaps in a row, and a finger hits every button.
     void expectSound() const
     {
-        ASSERT_FALSE(texts().empty());
-        expectNothingClipped();
-        expectNothingOverlaps();
-        expectTargetsLargeEnough();
+        const std::vector<QQuickItem*> all = texts();
+        ASSERT_FALSE(all.empty());
+        for (auto item = all.begin(); item != all.end(); ++item) {
+            SCOPED_TRACE((*item)->property("text").toString().toStdString());
+            const bool mayElide = (*item)->property("elide").toInt() == elideMiddle;
+            EXPECT_TRUE(mayElide || !(*item)->property("truncated").toBool());
+            EXPECT_LE((*item)->property("contentWidth").toDouble(), (*item)->width() + tolerance);
+            const QRectF ink = inkOf(*item);
+            EXPECT_GE(ink.left(), -tolerance);
+            EXPECT_LE(ink.right(), size().width() + tolerance);
+            for (auto other = item + 1; other != all.end(); ++other) {
+                const bool apart = rowOf(*item) == nullptr || rowOf(*item) != rowOf(*other);
+                const QRectF common = apart ? QRectF() : ink.intersected(inkOf(*other));
+                EXPECT_TRUE(common.width() <= tolerance || common.height() <= tolerance)
+                    << (*other)->property("text").toString().toStdString();
+            }
+        }
+        for (const QQuickItem* item : stage.buttons()) {
+            EXPECT_GE(std::min(item->width(), item->height()), 44) << item->property("text").toString().toStdString();
+        }
+    }
+    /// Opens the scenes one after the other and leaves each after a look.
+    template <typename... Input>
+    void visit(const AnyInput& input, Scene<Input>... scene) const
+    {
+        const auto visitOne = [&](auto each) {
+            SCOPED_TRACE(each.identifier);
+            ASSERT_NE(stage.open(each, input), nullptr);
+            ASSERT_TRUE(stage.waitFor([&] { return row(0) != nullptr && stage.items("Spinner").empty(); }));
+            stage.settle(200);
+            expectSound();
+            stage.list().navigationController()->pop();
+            stage.settle(200);
+        };
+        (visitOne(scene), ...);
     }
 
 private:
@@ -107,7 +100,6 @@ private:
 
 TEST_P(GeometryTest, ConsolesMirrorAndKeepTheirHeightAndTheirNames)
 {
-    apply();
     for (const std::vector<ConsoleLook>& consoles : {longNames(), {}}) {
         stage.show(size(), consoles);
         expectSound();
@@ -139,7 +131,6 @@ TEST_P(GeometryTest, ConsolesMirrorAndKeepTheirHeightAndTheirNames)
 
 TEST_P(GeometryTest, Editor)
 {
-    apply();
     stage.show(size(), fleet());
     DeltaCorvelViewController& editor = *stage.openEditor();
     ASSERT_TRUE(waitForSheet());
@@ -165,7 +156,6 @@ TEST_P(GeometryTest, Editor)
 
 TEST_P(GeometryTest, Dashboard)
 {
-    apply();
     std::vector<ConsoleLook> consoles = fleet();
     consoles[2].state = ConsoleLook::State::Offline;
     stage.show(size(), consoles);
@@ -180,16 +170,15 @@ TEST_P(GeometryTest, Dashboard)
 
 TEST_P(GeometryTest, Inventory)
 {
-    apply();
     stage.show(size(), fleet());
     const CorvelRef corvel = demoConsole();
     const auto objectAt = [&](std::string_view type, std::size_t place) {
         return contentOf(feedOfType(*corvel, type).entries().at(place), type);
     };
-    visit({corvel, objectAt(ObjectType::ManagedSystem, 2)}, soundLook, Scenes::corvelTasksViewController,
+    visit({corvel, objectAt(ObjectType::ManagedSystem, 2)}, Scenes::corvelTasksViewController,
           Scenes::managedSystemsView, Scenes::managementConsoleView, Scenes::managedSystemInfo,
           Scenes::managedSystemMenu, Scenes::logicalPartitionsView, Scenes::logicalPartitionsDetail, Scenes::viosView);
-    visit({corvel, objectAt(ObjectType::ServiceableEvent, 0)}, soundLook, Scenes::serviceableEventsView,
+    visit({corvel, objectAt(ObjectType::ServiceableEvent, 0)}, Scenes::serviceableEventsView,
           Scenes::serviceableEventsDetail, Scenes::resourceGroupsView);
 }
 

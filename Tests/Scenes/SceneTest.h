@@ -82,18 +82,6 @@ protected:
     }
     void TearDown() override { EXPECT_EQ(stage.warnings(), QStringList()); }
 
-    /// Opens the scenes one after the other and leaves each after `look`, which is told its identifier.
-    template <typename... Input>
-    void visit(const AnyInput& input, const std::function<void(const char*)>& look, Scene<Input>... scene) const
-    {
-        const auto visitOne = [&](auto each) {
-            ASSERT_NE(stage.open(each, input), nullptr);
-            look(each.identifier);
-            stage.list().navigationController()->pop();
-            stage.settle(200);
-        };
-        (visitOne(scene), ...);
-    }
     QPoint centerOf(const QQuickItem* item) const
     {
         return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
