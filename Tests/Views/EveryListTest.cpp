@@ -55,9 +55,8 @@ const ListKind everyList[] = {
 class EveryListTest : public ListTest, public ::testing::WithParamInterface<ListKind>
 {
 protected:
-    void SetUp() override
+    EveryListTest()
     {
-        ListTest::SetUp();
         simulator::Settings settings;
         settings.systems = 2;
         settings.partitions = 2;
@@ -156,7 +155,7 @@ TEST_P(EveryListTest, EndsInTheLookThatItsAnswerDeserves)
     const auto overtaken = list->fetchNewRESTData();
     const auto last = list->fetchNewRESTData();
     ASSERT_TRUE(runUntil([&] { return overtaken.isFulfilled() && last.isFulfilled(); }));
-    ASSERT_TRUE(runUntil([&] { return list->tableView()->rows() > 0; }));
+    ASSERT_TRUE(runUntil([&] { return list->tableView()->rows() > 0 && !list->refreshControl()->isRefreshing(); }));
     const int rows = list->tableView()->rows();
     EXPECT_EQ(static_cast<std::size_t>(rows), stored());
     EXPECT_EQ(drawAll(*list), rows);
