@@ -117,7 +117,7 @@ TEST_F(ConsoleScreensTest, ConsoleInformationComesFromTheFeedOrSaysThatThereIsNo
     EXPECT_THAT(log(source).back(),
                 AllOf(StartsWith("121 fetchSystemInformation: Error: "), EndsWith(" - > fetchSystemInformation")));
 
-    demoFeeds()["ManagementConsole"] = "<feed>" + entries + "</feed>";
+    demoFeeds["ManagementConsole"] = "<feed>" + entries + "</feed>";
     const CorvelRef lacking = addFetched("ManagementConsole", "");
     setFeedOfType(*lacking, ObjectType::ManagementConsole, Feed::notAvailable());
     const auto failed = open<MCViewController>(lacking);

@@ -19,11 +19,6 @@ constexpr auto listFile = "Shared/Views/Corvels/CorvelListViewController";
 class CorvelListTest : public ListTest
 {
 protected:
-    void TearDown() override
-    {
-        list.reset();
-        ListTest::TearDown();
-    }
     void load()
     {
         list = makeController<CorvelListViewController>();
@@ -64,7 +59,7 @@ TEST_F(CorvelListTest, FirstLaunchSeedsTheDemoConsoleOnceAndAPullFetchesItAnew)
     EXPECT_EQ(demo->version(), "V3R2.4.0.SP1");
     EXPECT_FALSE(StoreStack::shared().managedObjectContext().hasChanges());
 
-    demoFeeds()["ServiceableEvent"] = "<feed><entry/></feed>";
+    demoFeeds["ServiceableEvent"] = "<feed><entry/></feed>";
     list->refreshControl()->pull();
     EXPECT_FALSE(list->refreshControl()->isRefreshing());
     EXPECT_EQ(demo->numMSLEDs, 1) << "values stay until others come";
@@ -185,10 +180,10 @@ TEST_F(CorvelListTest, DeleteTakesTheRecordItsKeyAndItsRowAndEditShowsTheConsole
 class FleetTest : public CorvelListTest
 {
 protected:
-    void start(int consoles)
+    FleetTest()
     {
         simulator::Settings settings;
-        settings.consoles = consoles;
+        settings.consoles = 3;
         fleet.start(settings);
     }
     static bool allFetched()
@@ -203,7 +198,6 @@ protected:
 
 TEST_F(FleetTest, EachConsoleIsJudgedByItsLogonAndCountedByItsFeeds)
 {
-    start(3);
     addConsole(fleet, 0, "Good");
     addConsole(fleet, 1, "Refused");
     addConsole(fleet, 2, "No feeds");
@@ -233,7 +227,6 @@ TEST_F(FleetTest, EachConsoleIsJudgedByItsLogonAndCountedByItsFeeds)
 
 TEST_F(FleetTest, ARefreshWhoseFeedsAPullHasResetStoresNoVersion)
 {
-    start(1);
     const CorvelRef corvel = addConsole(fleet, 0, "Harbour A");
     load();
     // What the refresh does off the main thread comes, and what it does here has to wait.

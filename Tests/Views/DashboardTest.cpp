@@ -36,16 +36,10 @@ constexpr auto content =
 class DashboardTest : public ViewsTest
 {
 protected:
-    void SetUp() override
-    {
-        ViewsTest::SetUp();
-        dashboard = makeController<DashboardTableViewController>();
-        dashboard->loadViewIfNeeded();
-    }
-    void TearDown() override
+    DashboardTest() { dashboard->loadViewIfNeeded(); }
+    ~DashboardTest() override
     {
         dashboard.reset();
-        ViewsTest::TearDown();
         EXPECT_TRUE(runUntil([] { return idleThreads() == 0; }));
     }
     static CorvelRef addFetched(const std::string& address, const std::map<std::string, Feed>& byType = {})
@@ -66,7 +60,7 @@ protected:
         return runUntil([&] { return seen(*dashboard) == look; });
     }
 
-    std::shared_ptr<DashboardTableViewController> dashboard;
+    std::shared_ptr<DashboardTableViewController> dashboard = makeController<DashboardTableViewController>();
 };
 
 TEST_F(DashboardTest, SumsWhatTheConsolesHoldAndLogsWhatTheyLack)

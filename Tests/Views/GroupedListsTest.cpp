@@ -123,9 +123,8 @@ TEST_F(GroupedListsTest, DetailsShowThreeFactsCutAtAColon)
 class GroupingTest : public GroupedListsTest
 {
 protected:
-    void SetUp() override
+    GroupingTest()
     {
-        ListTest::SetUp();
         simulator::Settings settings;
         settings.systems = 3;
         fleet.start(settings);

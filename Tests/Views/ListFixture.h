@@ -35,13 +35,6 @@ Cell cellAt(TableDataSource& list, int row, TableKind kind = TableKind::Main, in
 class ListTest : public ViewsTest
 {
 protected:
-    void TearDown() override
-    {
-        openedWith.reset();
-        navigation.reset();
-        ViewsTest::TearDown();
-    }
-
     template <typename Controller>
     std::shared_ptr<Controller> push(std::shared_ptr<Controller> screen)
     {

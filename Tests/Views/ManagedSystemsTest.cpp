@@ -15,7 +15,7 @@ using ManagedSystemsTest = ListTest;
 TEST_F(ManagedSystemsTest, RowsShowStateAndBadgesByExactWording)
 {
     // What a fetch would bring is another list.
-    demoFeeds()["ManagedSystem"] = "<feed/>";
+    demoFeeds["ManagedSystem"] = "<feed/>";
     const auto list = openFetched<MSListViewController>(
         "ManagedSystem", system("good", "operating") + "<entry><content><Other/></content></entry><entry/>" +
                              system("lamp", "operating", "true") + system("broken", "error") +
@@ -52,7 +52,7 @@ TEST_F(ManagedSystemsTest, RowsShowStateAndBadgesByExactWording)
 
 TEST_F(ManagedSystemsTest, APullEndsAtOnceAndOnlyAFetchClearsTheRowsWhichAnOpenSearchFollows)
 {
-    demoFeeds()["ManagedSystem"] = "<feed><entry><published>yesterday</published></entry></feed>";
+    demoFeeds["ManagedSystem"] = "<feed><entry><published>yesterday</published></entry></feed>";
     const CorvelRef corvel = addCorvel("Demo", "127.0.0.1", true);
     const auto list = open<MSListViewController>(corvel);
     ASSERT_TRUE(hasContent(*list));
@@ -60,7 +60,7 @@ TEST_F(ManagedSystemsTest, APullEndsAtOnceAndOnlyAFetchClearsTheRowsWhichAnOpenS
     EXPECT_FALSE(corvel->completedFetch);
 
     // The pull's control ends with the pull; the list's own indicator runs on.
-    demoFeeds()["ManagedSystem"] = "<feed>" + system("alpha", "operating") + "</feed>";
+    demoFeeds["ManagedSystem"] = "<feed>" + system("alpha", "operating") + "</feed>";
     list->refreshControl()->pull();
     EXPECT_FALSE(list->refreshControl()->isRefreshing());
     ASSERT_TRUE(runUntil([&] { return list->fetchingActivityIndicator()->isAnimating(); }));
@@ -73,7 +73,7 @@ TEST_F(ManagedSystemsTest, APullEndsAtOnceAndOnlyAFetchClearsTheRowsWhichAnOpenS
     // The rows are appended: only a fetch clears what stands there.
     list->createMSList();
     EXPECT_EQ(list->MSList().size(), 2U);
-    demoFeeds()["ManagedSystem"] = "<feed>" + system("sappho", "operating") + "</feed>";
+    demoFeeds["ManagedSystem"] = "<feed>" + system("sappho", "operating") + "</feed>";
     const auto overtaken = list->fetchNewRESTData();
     const auto last = list->fetchNewRESTData();
     ASSERT_TRUE(runUntil([&] { return overtaken.isFulfilled() && last.isFulfilled(); }));

@@ -38,7 +38,7 @@ protected:
     }
     std::shared_ptr<PCMViewController> openDemo(const std::string& document)
     {
-        demoFeeds()["ManagedSystem.json"] = document;
+        demoFeeds["ManagedSystem.json"] = document;
         auto screen = openPerformance(addCorvel("Demo", "127.0.0.1", true));
         EXPECT_TRUE(hasEnded(*screen));
         return screen;
@@ -115,7 +115,7 @@ TEST_F(PerformanceTest, LaterChoiceWinsOverAnEarlierFailure)
 {
     simulator::SimulatorProcess fleet{{}};
     const CorvelRef stopped = addLoggedOn(fleet);
-    demoFeeds()["ManagedSystem.json"] = simulator::writeMetricsDocument(firstSystem(), {});
+    demoFeeds["ManagedSystem.json"] = simulator::writeMetricsDocument(firstSystem(), {});
     fleet.stopConsole(0);
     const auto screen = openPerformance(stopped);
     QStringList shown;

@@ -27,36 +27,31 @@
 namespace lodestar::testing
 {
 
-/// Feeds of the demonstration console by object type, and other files by their whole name, changeable from test to
-/// test.
-inline std::map<std::string, std::string>& demoFeeds()
-{
-    static std::map<std::string, std::string> feeds;
-    return feeds;
-}
-
 /// The screens' surroundings, fresh for each test: an empty store in a folder of its own, the defaults of a second use,
 /// an empty working list, no certificate trusted, the storyboard with the editor only, and every logged line and some
 /// notifications kept.
 class ViewsTest : public ::testing::Test
 {
 protected:
-    void SetUp() override
+    /// Feeds of the demonstration console by object type, and other files by their whole name.
+    static inline std::map<std::string, std::string> demoFeeds;
+
+    ViewsTest()
     {
         // Else whichever thread comes to the queue first is the main one.
         MainQueue::shared().adoptCurrentThread();
         setZone("UTC");
-        demoFeeds() = {{"ManagementConsole",
-                        "<feed><entry><content><ManagementConsole><VersionInfo><Version>3</Version><Release>2</Release>"
-                        "<Maintenance>4</Maintenance><Minor>0</Minor><ServicePackName>SP1</ServicePackName>"
-                        "</VersionInfo></ManagementConsole></content></entry></feed>"},
-                       {"ManagedSystem",
-                        "<feed><entry><content><ManagedSystem><State>operating</State><PhysicalSystemAttentionLEDState>"
-                        "true</PhysicalSystemAttentionLEDState></ManagedSystem></content></entry></feed>"},
-                       {"VirtualIOServer", "<feed/>"},
-                       {"LogicalPartition", "<feed/>"},
-                       {"ServiceableEvent", "<feed><entry/><entry/></feed>"},
-                       {"Group", "<feed/>"}};
+        demoFeeds = {{"ManagementConsole",
+                      "<feed><entry><content><ManagementConsole><VersionInfo><Version>3</Version><Release>2</Release>"
+                      "<Maintenance>4</Maintenance><Minor>0</Minor><ServicePackName>SP1</ServicePackName>"
+                      "</VersionInfo></ManagementConsole></content></entry></feed>"},
+                     {"ManagedSystem",
+                      "<feed><entry><content><ManagedSystem><State>operating</State><PhysicalSystemAttentionLEDState>"
+                      "true</PhysicalSystemAttentionLEDState></ManagedSystem></content></entry></feed>"},
+                     {"VirtualIOServer", "<feed/>"},
+                     {"LogicalPartition", "<feed/>"},
+                     {"ServiceableEvent", "<feed><entry/><entry/></feed>"},
+                     {"Group", "<feed/>"}};
         Resources::install(std::make_unique<DemoResources>());
         StoreStack::shared().setApplicationDocumentsDirectory(m_folder.path());
         for (const std::string& key : UserDefaults::standard().allKeys()) {
@@ -82,7 +77,7 @@ protected:
                 name, [this, name] { m_notifications.emplace_back(name); }));
         }
     }
-    void TearDown() override
+    ~ViewsTest() override
     {
         drain();
         m_observations.clear();
@@ -179,8 +174,8 @@ private:
     public:
         std::optional<std::string> contents(const std::string& name, const std::string& extension) const override
         {
-            const auto feed = demoFeeds().find(extension == "xml" ? name : name + "." + extension);
-            return feed != demoFeeds().end() ? std::optional(feed->second) : std::nullopt;
+            const auto feed = demoFeeds.find(extension == "xml" ? name : name + "." + extension);
+            return feed != demoFeeds.end() ? std::optional(feed->second) : std::nullopt;
         }
     };
 
