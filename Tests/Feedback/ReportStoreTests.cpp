@@ -7,6 +7,7 @@
 
 #include <cerrno>
 #include <unistd.h>
+#include <utility>
 
 namespace lodestar
 {
