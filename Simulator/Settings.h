@@ -47,9 +47,9 @@ struct Settings {
     /// How many requests are kept, after which the oldest are dropped; 0 keeps none.
     std::size_t recordCap = 100000;
     /// The file into which the receiver of reports writes its certificate; empty for no receiver.
-    std::string receiver;
+    std::string receiver{};
     /// Faults from the start on, in the form that `Fault::parse` reads.
-    std::vector<std::string> faults;
+    std::vector<std::string> faults{};
 };
 
 /// The program's command line for these settings.

@@ -194,10 +194,7 @@ void measureHandshakes(bench::Rows& rows, scenes::SceneStage& stage)
 {
     constexpr int systems = 50;
     constexpr int partitions = 4;
-    simulator::Settings settings;
-    settings.systems = systems;
-    settings.partitions = partitions;
-    simulator::SimulatorProcess fleet(settings);
+    simulator::SimulatorProcess fleet({.systems = systems, .partitions = partitions});
     const auto corvel = std::make_shared<Corvel>();
     corvel->setAddress(fleet.address());
     corvel->setUsername(fleet.user());

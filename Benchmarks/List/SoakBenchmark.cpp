@@ -76,11 +76,7 @@ Figures memoryOfPulls()
                                    "cutGzip:ServiceableEvent:1",
                                    "logonWithoutKey:All",
                                    "emptyFeed:ManagementConsole:2"};
-    simulator::Settings settings;
-    settings.consoles = 3;
-    settings.feedBytes = 20'000;
-    settings.recordCap = 0;
-    bench::FleetOnScreen fleet(settings);
+    bench::FleetOnScreen fleet({.consoles = 3, .feedBytes = 20'000, .recordCap = 0});
     std::vector<double> early;
     std::vector<double> late;
     for (int pull = 0; pull < pulls; ++pull) {

@@ -112,9 +112,7 @@ TEST_F(ResetFaultTest, AResetIsFinishedByTheNextStartAtTheLatest)
 
 TEST_F(ResetFaultTest, ConsolesThatAreAskedMeanwhileLeaveNothing)
 {
-    simulator::Settings settings;
-    settings.consoles = 3;
-    const simulator::SimulatorProcess fleet(settings);
+    const simulator::SimulatorProcess fleet({.consoles = 3});
     std::mt19937 random(12); // NOLINT(cert-msc51-cpp): the same moments in every run
     const int tries = rounds(5, 100);
     for (int round = 0; round < tries; ++round) {

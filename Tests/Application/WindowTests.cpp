@@ -148,9 +148,7 @@ TEST_F(LockedWindowTest, ComesBackWhereItStoodAndWithTheButtonThatItsDeviceNeeds
 
 TEST_F(LockedWindowTest, AConsoleThatCannotBeReachedReadsOfflineUntilItAnswers)
 {
-    simulator::Settings settings;
-    settings.consoles = 2;
-    simulator::SimulatorProcess fleet(settings);
+    simulator::SimulatorProcess fleet({.consoles = 2});
     for (const int number : {0, 1}) {
         const CorvelRef corvel = addConsole(fleet.address(number), fleet.user(), fleet.password());
         corvel->setName("Console " + std::to_string(number));

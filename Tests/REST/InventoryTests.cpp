@@ -190,8 +190,7 @@ TEST_F(InventoryTest, WorkingListIsReadOnAnyThreadWhileItChanges)
 
 TEST_F(InventoryTest, FleetWithBadConsolesRefreshesEachForItself)
 {
-    simulator::Settings settings;
-    settings.consoles = 24;
+    const simulator::Settings settings{.consoles = 24};
     simulator.start(settings);
     const std::vector<std::string> faults = {"refuseLogon", "closePort", "cutBody:ManagedSystem", "refuseFeed",
                                              "redirectLoop:Group"};

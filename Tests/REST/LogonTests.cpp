@@ -25,10 +25,7 @@ using LogonTest = ConsoleTest;
 
 TEST_F(LogonTest, FirstLogonGoesOutByteForByteAndItsKeyIsStored)
 {
-    simulator::Settings settings;
-    settings.user = "o'op & \"co\"";
-    settings.password = "p&<w>\"'é";
-    simulator.start(settings);
+    simulator.start({.user = "o'op & \"co\"", .password = "p&<w>\"'é"});
     corvel = corvelOf(simulator);
     const SessionKey sessionKey = key(corvel);
     ASSERT_TRUE(sessionKey);
@@ -135,9 +132,7 @@ TEST_F(LogonTest, FailedLogonsRejectWithTheirErrorAndLeaveTheStoreAlone)
 
 TEST_F(LogonTest, NothingOfALogonGoesToAnotherHost)
 {
-    simulator::Settings settings;
-    settings.consoles = 2;
-    simulator.start(settings);
+    simulator.start({.consoles = 2});
     corvel = corvelOf(simulator);
     simulator.setFault("redirectOtherHost:Logon:0");
     for (const bool renewed : {false, true}) {
@@ -208,9 +203,7 @@ TEST_F(LogonTest, RecordEditedMeanwhileChangesNothingOfTheLogonUnderWay)
 
 TEST_F(LogonTest, ConsolesLogOnSideBySideEachWithItsOwnKey)
 {
-    simulator::Settings settings;
-    settings.consoles = 60;
-    settings.latency = 20;
+    const simulator::Settings settings{.consoles = 60, .latency = 20};
     simulator.start(settings);
     std::vector<RXPromise<SessionKey>> logons;
     for (int i = 0; i < settings.consoles; ++i) {

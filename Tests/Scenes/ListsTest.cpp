@@ -219,9 +219,7 @@ TEST_F(ListsTest, AServersButtonsAreShownAndDoNothing)
 TEST_F(ListsTest, TheScreenLivesWhileGroupsAskForTheirStatesAndTheyTakeNoPressAndNoSearch)
 {
     constexpr int latency = 80; // of each look-up
-    simulator::Settings settings;
-    settings.groups = 14;
-    simulator::SimulatorProcess console(settings);
+    simulator::SimulatorProcess console({.groups = 14});
     stage.show({390, 520}, {});
     ServerTrust::shared().forgetAll();
     const CorvelRef corvel = demoConsole();

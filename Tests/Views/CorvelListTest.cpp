@@ -180,12 +180,7 @@ TEST_F(CorvelListTest, DeleteTakesTheRecordItsKeyAndItsRowAndEditShowsTheConsole
 class FleetTest : public CorvelListTest
 {
 protected:
-    FleetTest()
-    {
-        simulator::Settings settings;
-        settings.consoles = 3;
-        fleet.start(settings);
-    }
+    FleetTest() { fleet.start({.consoles = 3}); }
     static bool allFetched()
     {
         const auto& consoles = RESTHandler::sharedInstance().corvelList();

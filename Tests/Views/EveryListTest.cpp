@@ -57,11 +57,7 @@ class EveryListTest : public ListTest, public ::testing::WithParamInterface<List
 protected:
     EveryListTest()
     {
-        simulator::Settings settings;
-        settings.systems = 2;
-        settings.partitions = 2;
-        settings.vios = settings.events = settings.groups = 3;
-        fleet.start(settings);
+        fleet.start({.systems = 2, .partitions = 2, .vios = 3, .events = 3, .groups = 3});
         corvel = addLoggedOn(fleet);
     }
     std::shared_ptr<FeedListViewController> openList()

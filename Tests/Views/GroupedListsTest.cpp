@@ -125,8 +125,7 @@ class GroupingTest : public GroupedListsTest
 protected:
     GroupingTest()
     {
-        simulator::Settings settings;
-        settings.systems = 3;
+        const simulator::Settings settings{.systems = 3};
         fleet.start(settings);
         corvel = addLoggedOn(fleet);
         for (const simulator::ManagedSystem& system : simulator::makeInventory(settings, 0).systems) {

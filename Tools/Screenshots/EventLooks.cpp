@@ -67,9 +67,7 @@ std::vector<Look> eventLooks()
 /// The demonstration's groups cannot tell their members' states; a simulated console's can.
 simulator::SimulatorProcess& console()
 {
-    simulator::Settings settings;
-    settings.groups = 10;
-    static simulator::SimulatorProcess process(settings);
+    static simulator::SimulatorProcess process({.groups = 10});
     return process;
 }
 
