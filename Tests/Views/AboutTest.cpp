@@ -66,10 +66,9 @@ TEST_F(AboutTest, MarkupEscapesScalesAndStaysReadable)
     const QColor paper(Qt::white);
     const QColor ink("#1A2027");
     ASSERT_EQ(outlet.paragraphs().size(), 1);
-    const QString light = RichDocumentOutlet::markup(outlet.paragraphs()[0], 2, paper, ink);
-    EXPECT_TRUE(light.contains("font-size:34px;color:#133c5b;font-weight:bold\">&lt;i&gt;<br/>"))
-        << light.toStdString();
-    EXPECT_TRUE(light.contains("font-size:24px;color:#1a2027\"> &amp; a")) << light.toStdString();
+    const std::string light = RichDocumentOutlet::markup(outlet.paragraphs()[0], 2, paper, ink).toStdString();
+    EXPECT_THAT(light, HasSubstr("font-size:34px;color:#133c5b;font-weight:bold\">&lt;i&gt;<br/>"));
+    EXPECT_THAT(light, HasSubstr("font-size:24px;color:#1a2027\"> &amp; a"));
 
     const QColor night("#0F1317");
     const QColor lightInk("#ECEFF3");

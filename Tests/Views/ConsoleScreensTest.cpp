@@ -12,11 +12,6 @@ namespace lodestar::testing
 namespace
 {
 
-using ::testing::AllOf;
-using ::testing::ElementsAre;
-using ::testing::EndsWith;
-using ::testing::StartsWith;
-
 class BrowserStub : public QObject
 {
     Q_OBJECT
@@ -31,9 +26,7 @@ protected:
     std::shared_ptr<MSDetailViewController> show(const std::string& xml,
                                                  const char* base = "https://docs.example/reference-codes?code=")
     {
-        const auto detail = makeController<MSDetailViewController>(QString::fromLatin1(base));
-        detail->setRootXML(parse("<s>" + xml + "</s>"));
-        return push(detail);
+        return openDetail(xml, makeController<MSDetailViewController>(QString(base)));
     }
 };
 
@@ -78,8 +71,7 @@ TEST_F(ConsoleScreensTest, OnlyAReferenceCodeLeadsOnToItsDocumentation)
     EXPECT_FALSE(cellAt<DetailCell>(*linked, 1, TableKind::Main, 0).disclosure ||
                  cellAt<DetailCell>(*linked, 2, TableKind::Main, 1).disclosure);
     ASSERT_EQ(browser.opened.size(), 1U);
-    EXPECT_EQ(browser.opened[0].toString(QUrl::FullyEncoded),
-              "https://docs.example/reference-codes?code=X4%2017%26a%2F%C3%BC");
+    EXPECT_EQ(browser.opened[0].toEncoded(), "https://docs.example/reference-codes?code=X4%2017%26a%2F%C3%BC");
     EXPECT_EQ(deselected.size(), 9U);
     QDesktopServices::unsetUrlHandler("https");
 }

@@ -11,8 +11,6 @@ namespace
 {
 
 using ::testing::Contains;
-using ::testing::ElementsAre;
-using ::testing::MatchesRegex;
 
 constexpr auto listFile = "Shared/Views/Corvels/CorvelListViewController";
 
@@ -157,8 +155,7 @@ TEST_F(CorvelListTest, DeleteTakesTheRecordItsKeyAndItsRowAndEditShowsTheConsole
 
     // It stays gone although its refresh was under way, whose logon leaves a key behind.
     UserDefaults::standard().setString("late key", "b.example");
-    ASSERT_TRUE(runUntil(
-        [&] { return kept->completedFetch && !UserDefaults::standard().stringForKey("b.example").has_value(); }));
+    ASSERT_TRUE(runUntil([&] { return kept->completedFetch && !UserDefaults::standard().stringForKey("b.example"); }));
     EXPECT_EQ(deleted->version(), std::nullopt);
     EXPECT_FALSE(list->tableView()->isHidden());
 

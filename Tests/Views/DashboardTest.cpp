@@ -5,14 +5,11 @@
 
 #include <dirent.h>
 #include <sched.h>
-#include <thread>
 
 namespace lodestar::testing
 {
 namespace
 {
-
-using ::testing::ElementsAre;
 
 /// Threads of this process that run at idle priority.
 int idleThreads()
@@ -100,9 +97,8 @@ TEST_F(DashboardTest, SumsWhatTheConsolesHoldAndLogsWhatTheyLack)
                              UIColor::dashboardGrey(), UIColor::dashboardOrange()}));
     EXPECT_EQ(partitionPie.data.dataSet.valueFont.pixelSize(), 10);
 
-    const auto lacks = [](const char* start, const char* what) {
-        return std::string(start) + " createDashboard: " + what +
-               " data isn't available for this Corvel, was it loaded?";
+    const auto lacks = [](const std::string& start, const char* what) {
+        return start + " createDashboard: " + what + " data isn't available for this Corvel, was it loaded?";
     };
     EXPECT_THAT(
         log("Shared/Views/Dashboard/DashboardTableViewController"),

@@ -8,7 +8,6 @@ namespace lodestar::testing
 namespace
 {
 
-using ::testing::ElementsAre;
 using ::testing::Property;
 
 constexpr auto editorFile = "Shared/Views/Corvels/DeltaCorvelViewController";

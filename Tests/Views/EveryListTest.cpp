@@ -13,12 +13,8 @@ namespace lodestar::testing
 namespace
 {
 
-using ::testing::AllOf;
-using ::testing::EndsWith;
-using ::testing::HasSubstr;
-
 struct ListKind {
-    const char* name;
+    std::string name;
     std::string_view type;
     const char* title;
     const char* folder;
@@ -109,8 +105,7 @@ TEST_P(EveryListTest, OpensLoadingAndShowsWhatItFetchedAndThenWhatIsStored)
         const auto isOfFeed = [](const auto& each) { return each.path.ends_with(GetParam().type); };
         EXPECT_EQ(std::ranges::count_if(requests, isOfFeed), fetched ? 0 : 1);
     }
-    EXPECT_EQ(unnumberedLog(GetParam().source()).front(),
-              "viewDidLoad: " + std::string(GetParam().name) + " instantiation");
+    EXPECT_EQ(unnumberedLog(GetParam().source()).front(), "viewDidLoad: " + GetParam().name + " instantiation");
 }
 
 TEST_P(EveryListTest, EndsInTheLookThatItsAnswerDeserves)
@@ -223,8 +218,7 @@ TEST_F(FeedTimeStampTest, ShowsTheWallClockInEveryZoneAndInTheLocalesForm)
     }
     for (const QByteArray& zone : zones) {
         setZone(zone);
-        EXPECT_EQ(mediumDateShortTime(*parseFeedDate("2026-03-08T02:30:00.000Z"), QLocale("en_GB")),
-                  "8 Mar 2026, 02:30");
+        EXPECT_EQ(mediumDateShortTime(*parseFeedDate("2026-03-08T02:30:00.000Z"), QLocale("C")), "8 Mar 2026, 02:30");
     }
     for (const auto& [locale, shown] : {std::pair("C", "3 Jul 2026, 10:25"),
                                         {"en_US", "Jul 3, 2026, 10:25 AM"},

@@ -16,13 +16,8 @@ namespace
 {
 
 using ::testing::_;
-using ::testing::AllOf;
 using ::testing::Each;
-using ::testing::ElementsAre;
-using ::testing::HasSubstr;
-using ::testing::MatchesRegex;
 using ::testing::SizeIs;
-using ::testing::StartsWith;
 
 constexpr auto Main = TableKind::Main;
 constexpr auto Results = TableKind::SearchResults;
@@ -102,9 +97,8 @@ TEST_F(GroupedListsTest, PartitionsAndServersShowTheirStateByExactWording)
 
 TEST_F(GroupedListsTest, DetailsShowThreeFactsCutAtAColon)
 {
-    const auto expectFacts = [&](std::shared_ptr<PartitionDetailViewController> detail, const char* title) {
-        detail->setRootXML(parse("<p><PartitionName>web:01</PartitionName><PartitionID>7</PartitionID></p>"));
-        push(detail);
+    const auto expectFacts = [&](const std::shared_ptr<PartitionDetailViewController>& detail, const char* title) {
+        openDetail("<PartitionName>web:01</PartitionName><PartitionID>7</PartitionID>", detail);
         EXPECT_EQ(detail->title(), title);
         EXPECT_THAT(detail->tableData(), ElementsAre(QStringList({"Name:web:01", "ID:7", "Type:(null)"})));
         EXPECT_EQ(detail->cellForRowAtIndexPath(Main, {0, 0}).value<DetailCell>().detailTextLabel, "web");
@@ -166,8 +160,7 @@ TEST_F(GroupingTest, EveryPartitionAsksForItsSystemInTheThreadThatGroups)
             ++onMain;
         }
     });
-    const std::string feed =
-        partition(1, "LPAR01") + partition(0, "web") + partition(1, "MyLpar2") + partition(2, "mail");
+    const auto feed = partition(1, "LPAR01") + partition(0, "web") + partition(1, "MyLpar2") + partition(2, "mail");
     const auto handshakes = fleet.handshakes(0);
     const auto list = openStored<LPListViewController>("LogicalPartition", feed);
     const QStringList grouped = {systems[1] + ": LPAR01, MyLpar2", systems[0] + ": web", systems[2] + ": mail"};

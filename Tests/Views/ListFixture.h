@@ -51,6 +51,13 @@ protected:
         screen->setCorvel(corvel);
         return push(screen);
     }
+    /// A screen of the details of an element with that content.
+    template <typename Detail>
+    std::shared_ptr<Detail> openDetail(const std::string& xml, const std::shared_ptr<Detail>& detail)
+    {
+        detail->setRootXML(parse("<x>" + xml + "</x>"));
+        return push(detail);
+    }
     /// Bare screens stand where these scenes will.
     template <typename... Input>
     void registerScenes(Scene<Input>... scene)

@@ -5,10 +5,6 @@
 
 namespace lodestar::testing
 {
-namespace
-{
-
-using ::testing::ElementsAre;
 
 using ManagedSystemsTest = ListTest;
 
@@ -128,5 +124,4 @@ TEST_F(ManagedSystemsTest, TheSheetOpensTheSystemOfTheTableThatWasTapped)
     EXPECT_TRUE(runUntil([&] { return fetched.isFulfilled(); }));
 }
 
-} // namespace
 } // namespace lodestar::testing

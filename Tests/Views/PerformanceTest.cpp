@@ -11,11 +11,6 @@ namespace
 {
 
 using ::testing::_;
-using ::testing::AllOf;
-using ::testing::ElementsAre;
-using ::testing::EndsWith;
-using ::testing::HasSubstr;
-using ::testing::StartsWith;
 
 const std::string source = "Shared/Views/ManagedSystems/PCM/PCMViewController";
 

@@ -9,8 +9,6 @@ namespace lodestar::testing
 namespace
 {
 
-using ::testing::ElementsAre;
-
 std::string event(const std::string& number, const std::string& approval, const std::string& lastReported)
 {
     return entry("ServiceableEvent", "<problemNumber>" + number + "</problemNumber><ApprovalState>" + approval +
@@ -68,20 +66,12 @@ TEST_F(ServiceableEventsTest, EventsAreListedInTheFeedsOrderAndATappedRowOpensTh
     EXPECT_EQ(list->numberOfRowsInSection(TableKind::Main, 0), 0);
 }
 
-class EventDetailTest : public ListTest
+TEST_F(ServiceableEventsTest, FactsAndUnitsStandInTheirOrderUnderTwoTitlesAndTimesAreOfTheDevicesZone)
 {
-protected:
-    std::shared_ptr<SEDetailViewController> show(const std::string& xml)
-    {
-        setZone("EAST-9"); // nine hours east of Greenwich
-        const auto detail = makeController<SEDetailViewController>();
-        detail->setRootXML(parse("<e>" + xml + "</e>"));
-        return push(detail);
-    }
-};
-
-TEST_F(EventDetailTest, FactsAndUnitsStandInTheirOrderUnderTwoTitles)
-{
+    setZone("EAST-9"); // nine hours east of Greenwich
+    const auto show = [this](const std::string& xml) {
+        return openDetail(xml, makeController<SEDetailViewController>());
+    };
     const auto detail =
         show("<problemNumber>1042</problemNumber><shortDescription>10:25: fan~1 failed</shortDescription>"
              "<reportingConsoleNode><hostName>corvel-a</hostName><managedTypeModelSerial><Model>K2</Model>"
@@ -111,10 +101,8 @@ TEST_F(EventDetailTest, FactsAndUnitsStandInTheirOrderUnderTwoTitles)
               (DetailCell{"Event Text", "10:25: fan", false}));
     EXPECT_THAT(log("Shared/Views/ServiceableEvents/SEDetailViewController"),
                 ElementsAre("23 viewDidLoad: SEDetailViewController instantiation"));
-}
 
-TEST_F(EventDetailTest, TimesAreAnHourOfTwelveThenMonthAndDate)
-{
+    // An hour of twelve, then month and date.
     const std::pair<const char*, const char*> times[] = {
         {"1798643400", "12:12 31/12"}, // ten past midnight
         {"1767329940", "01:01 02/01"}, // a minute to two in the afternoon
@@ -126,8 +114,8 @@ TEST_F(EventDetailTest, TimesAreAnHourOfTwelveThenMonthAndDate)
         {".", "09:01 01/01"},
         {"1e300", ""}};
     for (const auto& [timestamp, shown] : times) {
-        const auto detail = show("<primaryTimestamp>" + std::string(timestamp) + "</primaryTimestamp>");
-        EXPECT_EQ(detail->tableData()[0][11], QString("Data Event Time~") + shown) << timestamp;
+        const auto timed = show("<primaryTimestamp>" + std::string(timestamp) + "</primaryTimestamp>");
+        EXPECT_EQ(timed->tableData()[0][11], QString("Data Event Time~") + shown) << timestamp;
     }
 }
 

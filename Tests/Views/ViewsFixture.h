@@ -27,6 +27,13 @@
 namespace lodestar::testing
 {
 
+using ::testing::AllOf;
+using ::testing::ElementsAre;
+using ::testing::EndsWith;
+using ::testing::HasSubstr;
+using ::testing::MatchesRegex;
+using ::testing::StartsWith;
+
 /// The screens' surroundings, fresh for each test: an empty store in a folder of its own, the defaults of a second use,
 /// an empty working list, no certificate trusted, the storyboard with the editor only, and every logged line and some
 /// notifications kept.
