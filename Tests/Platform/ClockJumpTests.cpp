@@ -4,8 +4,6 @@
 #include "Platform/Queues/MainQueue.h"
 #include "Tests/Platform/URLLoadingFixture.h"
 
-#include <gmock/gmock.h>
-
 #include <atomic>
 #include <ctime>
 #include <sys/syscall.h>
@@ -31,15 +29,10 @@ int clock_gettime(clockid_t clock, timespec* now) noexcept
 
 namespace lodestar::test
 {
-namespace
-{
 
 using namespace std::chrono_literals;
 using std::chrono::steady_clock;
 using std::chrono::system_clock;
-using testing::AllOf;
-using testing::Ge;
-using testing::Le;
 
 constexpr std::time_t tenYears = 315'000'000;
 
@@ -72,5 +65,4 @@ TEST_F(URLLoadingTest, DeadlinesDoNotFollowTheWallClock)
     jump = 0;
 }
 
-} // namespace
 } // namespace lodestar::test

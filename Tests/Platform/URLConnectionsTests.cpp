@@ -5,7 +5,6 @@
 #include "Tests/Platform/URLLoadingFixture.h"
 #include "Tests/Support/ScratchFolder.h"
 
-#include <algorithm>
 #include <atomic>
 #include <latch>
 #include <sys/resource.h>
@@ -26,8 +25,7 @@ TEST_F(URLLoadingTest, CancelledConnectionsEndOnceWhenever)
     std::vector<std::pair<std::shared_ptr<URLConnection>, std::shared_ptr<RecordingDelegate>>> all;
     for (int i = 0; i < count; ++i) {
         // A third never answers, a third answers at once, and a third is cancelled while it still waits for its turn.
-        const URLRequest request =
-            i % 3 == 1 ? consoleRequest(simulator.address(), "/none") : feedRequest(simulator, key);
+        const auto request = i % 3 == 1 ? consoleRequest(simulator.address(), "/none") : feedRequest(simulator, key);
         const auto delegate = std::make_shared<RecordingDelegate>(Answer::Accept);
         all.emplace_back(start(request, delegate), delegate);
         if (i % 3 == 2) {
@@ -54,7 +52,7 @@ TEST_F(URLLoadingTest, CancelledConnectionsEndOnceWhenever)
 
 TEST_F(URLLoadingTest, DawdlingServerDoesNotHoldUpTheOthers)
 {
-    simulator::SimulatorProcess simulator(settingsOf(2));
+    simulator::SimulatorProcess simulator({.consoles = 2});
     const std::string badKey = logOn(simulator, 0);
     const std::string key = logOn(simulator, 1);
     simulator.setFault("stallFeed:All:0");
@@ -103,7 +101,7 @@ TEST_F(URLLoadingTest, BlockingLookUpsShareOneConnection)
 TEST_F(URLLoadingTest, SixRequestsLeaveTogetherThroughANetworkWithALength)
 {
     constexpr auto roundTrip = 400ms;
-    simulator::SimulatorProcess simulator(settingsOf(5, roundTrip.count()));
+    simulator::SimulatorProcess simulator({.consoles = 5, .roundTrip = roundTrip.count()});
     const auto requests = fleetRequests(simulator, 5);
     const auto refresh = [&] {
         const auto start = Clock::now();
@@ -141,7 +139,7 @@ TEST_F(URLLoadingTest, SixRequestsLeaveTogetherThroughANetworkWithALength)
 TEST_F(URLLoadingTest, AFleetSharesFewConnectionsAndThroughASlowNetworkNoMoreThanTheirLimit)
 {
     const auto handshakes = [this](int consoles, int roundTrip) {
-        simulator::SimulatorProcess simulator(settingsOf(consoles, roundTrip));
+        simulator::SimulatorProcess simulator({.consoles = consoles, .roundTrip = roundTrip});
         const auto requests = fleetRequests(simulator);
         EXPECT_EQ(loadTogether(requests), std::ssize(requests));
         return simulator.handshakes();
@@ -157,7 +155,7 @@ TEST_F(URLLoadingTest, AFleetSharesFewConnectionsAndThroughASlowNetworkNoMoreTha
 
 TEST_F(URLLoadingTest, ConnectionsMadeAheadMayBeOlderThanTheCertificateAndThanTheirServersPatience)
 {
-    simulator::SimulatorProcess simulator(settingsOf(2, 200));
+    simulator::SimulatorProcess simulator({.consoles = 2, .roundTrip = 200});
     fleetRequests(simulator, 5);
     simulator.setFault("swapCertificate:0");
     EXPECT_EQ(loadTogether({6, feedRequest(simulator, logOn(simulator))}), 6)
@@ -167,8 +165,7 @@ TEST_F(URLLoadingTest, ConnectionsMadeAheadMayBeOlderThanTheCertificateAndThanTh
     const std::string key = logOn(simulator, 1);
     simulator.stopConsole(1);
     simulator.startConsole(1);
-    EXPECT_EQ(loadTogether({6, feedRequest(simulator, key, 1)}), 6)
-        << "what is lost before its answer began is made anew";
+    EXPECT_EQ(loadTogether({6, feedRequest(simulator, key, 1)}), 6) << "what is lost before its answer is made anew";
 }
 
 using URLLoadingDeathTest = URLLoadingTest;

@@ -8,7 +8,7 @@
 #include "Platform/URLLoading/URLLoading.h"
 #include "Simulator/SimulatorProcess.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <atomic>
 #include <chrono>
@@ -17,11 +17,15 @@
 #include <latch>
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace lodestar::test
 {
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::Ge;
+using testing::Le;
 
 /// What comes of a request within a minute.
 inline Result<URLLoad> awaited(std::promise<Result<URLLoad>>& outcome)
@@ -33,20 +37,16 @@ inline Result<URLLoad> awaited(std::promise<Result<URLLoad>>& outcome)
     return future.get();
 }
 
-inline URLRequest consoleRequest(const std::string& address, std::string_view path)
+inline URLRequest requestTo(std::string url)
 {
     URLRequest request;
-    request.url = "https://" + address + ":12443" + std::string(path);
+    request.url = std::move(url);
     return request;
 }
 
-inline simulator::Settings settingsOf(int consoles, int roundTrip = 0, std::size_t feedBytes = 0)
+inline URLRequest consoleRequest(const std::string& address, const std::string& path)
 {
-    simulator::Settings settings;
-    settings.consoles = consoles;
-    settings.roundTrip = roundTrip;
-    settings.feedBytes = feedBytes;
-    return settings;
+    return requestTo("https://" + address + ":12443" + path);
 }
 
 /// Collects what a connection tells, and answers challenges as it is told to.

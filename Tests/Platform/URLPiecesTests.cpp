@@ -42,11 +42,10 @@ std::optional<std::string> decoded(std::string_view encoding, const std::string&
     BodyDecoder decoder(BodyDecoder::encodingNamed(encoding));
     std::string text;
     for (std::size_t at = 0; at < bytes.size(); at += step) {
-        if (!decoder.decode(std::span(bytes).subspan(at, std::min(step, bytes.size() - at)),
-                            [&text](std::span<const char> part) {
-                                text.append(part.data(), part.size());
-                                return true;
-                            })) {
+        if (!decoder.decode(std::span(bytes).subspan(at, std::min(step, bytes.size() - at)), [&text](auto part) {
+                text.append(part.data(), part.size());
+                return true;
+            })) {
             return std::nullopt;
         }
     }
@@ -61,8 +60,7 @@ TEST(BodyDecoderTests, EveryFormIsUndoneInAnyPieces)
     std::iota(text.begin(), text.begin() + 256, '\0');
     for (const std::size_t step : {std::size_t{2}, std::size_t{7}, std::size_t{1'000'000}}) {
         EXPECT_EQ(decoded(" GZip ", packed(text, gzipForm), step), text);
-        EXPECT_EQ(decoded("x-gzip", packed(text, gzipForm) + packed("more", gzipForm) + "padding", step),
-                  text + "more");
+        EXPECT_EQ(decoded("x-gzip", packed(text, gzipForm) + packed("more", gzipForm) + "end", step), text + "more");
         EXPECT_EQ(decoded("deflate", packed(text, zlibForm), step), text);
         EXPECT_EQ(decoded("deflate", packed(text, rawForm), step), text);
     }

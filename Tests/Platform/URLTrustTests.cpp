@@ -3,7 +3,6 @@
 #include "Tests/Support/ScratchFolder.h"
 #include "Tests/Support/ScriptedServer.h"
 
-#include <gmock/gmock.h>
 #include <openssl/pem.h>
 
 #include <cstdio>
@@ -11,7 +10,6 @@
 #include <functional>
 #include <mutex>
 
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
@@ -104,9 +102,7 @@ TEST_F(URLTrustTest, SystemsWordCountsUnlessTheCertificateIsStaleOrNamesAnother)
     const auto load = [](const Way& way, const std::string& address, const auto& leaf, const std::string& name) {
         const ScriptedServer server("HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nOK", ScriptedServer::Ending::Notice,
                                     address, leaf);
-        URLRequest request;
-        request.url = server.urlFor(name);
-        return way(request);
+        return way(requestTo(server.urlFor(name)));
     };
     const Way plain = [this](const URLRequest& request) { return loadAsynchronously(request); };
     const Way declining = [this](const URLRequest& request) { return connect(request, Answer::Decline)->outcome(); };
@@ -122,7 +118,7 @@ TEST_F(URLTrustTest, SystemsWordCountsUnlessTheCertificateIsStaleOrNamesAnother)
 
 TEST_F(URLTrustTest, AcceptedCertificateIsGoodForPlainRequestsToThatServerAlone)
 {
-    simulator::SimulatorProcess simulator(settingsOf(2));
+    simulator::SimulatorProcess simulator({.consoles = 2});
     const URLRequest request = consoleRequest(simulator.address(), "/");
     const auto first = connect(request);
     EXPECT_TRUE(first->outcome().ok());

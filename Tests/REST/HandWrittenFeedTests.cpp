@@ -7,8 +7,6 @@
 #include "Inventory/ServiceableEvent.h"
 #include "Tests/REST/RESTHandlerFixture.h"
 
-#include <gmock/gmock.h>
-
 #include <utility>
 
 namespace lodestar::test
@@ -16,8 +14,6 @@ namespace lodestar::test
 namespace
 {
 
-using testing::Each;
-using testing::ElementsAre;
 using testing::SizeIs;
 
 using Text = std::optional<std::string>;

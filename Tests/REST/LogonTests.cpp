@@ -3,17 +3,8 @@
 #include "Platform/URLLoading/URLError.h"
 #include "Tests/REST/RESTHandlerFixture.h"
 
-#include <gmock/gmock.h>
-
 #include <set>
 #include <thread>
-
-using testing::Contains;
-using testing::Each;
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::StartsWith;
 
 namespace lodestar::test
 {
@@ -34,8 +25,7 @@ TEST_F(LogonTest, FirstLogonGoesOutByteForByteAndItsKeyIsStored)
 
     const auto requests = simulator.requests();
     ASSERT_EQ(requests.size(), 1U);
-    EXPECT_EQ(requests[0].method, "PUT");
-    EXPECT_EQ(requests[0].path, "/rest/api/web/Logon");
+    EXPECT_EQ(requests[0].method + " " + requests[0].path, "PUT /rest/api/web/Logon");
     const std::string body =
         "<LogonRequest xmlns=\"http://www.ornis.example/xmlns/systems/web/mc/2012_10/\" "
         "xmlns:ns2=\"http://www.w3.org/XML/1998/namespace/k2\" schemaVersion=\"V1_0\"><Metadata><Atom/></Metadata>"
@@ -63,8 +53,7 @@ TEST_F(LogonTest, StoredKeyIsCheckedAndRenewedWhenTheConsoleRefusesIt)
     EXPECT_EQ(key(corvel), first);
     auto requests = simulator.requests();
     ASSERT_EQ(requests.size(), 1U);
-    EXPECT_EQ(requests[0].method, "GET");
-    EXPECT_EQ(requests[0].path, "/rest/api/uom/ManagementConsole");
+    EXPECT_EQ(requests[0].method + " " + requests[0].path, "GET /rest/api/uom/ManagementConsole");
     EXPECT_THAT(requests[0].headers, ElementsAre("Host: " + host, "X-API-Session: " + *first,
                                                  "Accept: application/atom+xml, application/vnd.ornis.varnex.uom+xml",
                                                  "Accept-Encoding: gzip, deflate"));
@@ -116,8 +105,7 @@ TEST_F(LogonTest, FailedLogonsRejectWithTheirErrorAndLeaveTheStoreAlone)
     defaults().setString("stale", simulator.address());
     const Result<SessionKey> refused = settled(handler().login(corvel, CheckToken::Yes));
     ASSERT_FALSE(refused.ok());
-    EXPECT_EQ(refused.error().domain, "RXPromise");
-    EXPECT_EQ(refused.error().code, -1000);
+    EXPECT_THAT(description(refused.error()), StartsWith("RXPromise -1000"));
     EXPECT_EQ(refused.error().failureReason, "");
     EXPECT_EQ(shownDescription(refused.error()), "The console did not accept user or password.");
     EXPECT_THAT(takeLines(), Contains("Logon failed for Corvel: Console 0: status 401").Times(1));

@@ -10,7 +10,7 @@
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Support/ScratchFolder.h"
 
-#include <gtest/gtest.h>
+#include <gmock/gmock.h>
 
 #include <chrono>
 #include <mutex>
@@ -18,6 +18,13 @@
 
 namespace lodestar::test
 {
+
+using testing::Contains;
+using testing::Each;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
 
 /// The console client on a store in a scratch folder that holds one console, with its log lines collected and nothing
 /// remembered.
