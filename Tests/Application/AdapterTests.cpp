@@ -21,8 +21,6 @@ namespace lodestar
 namespace
 {
 
-using ::testing::UnorderedElementsAreArray;
-
 class FileUserDefaultsTests : public ::testing::Test
 {
 protected:
@@ -54,7 +52,7 @@ TEST_F(FileUserDefaultsTests, EveryKeyAndValueComesBackExactly)
     const FileUserDefaults defaults(path);
     auto keys = texts;
     keys.insert(keys.end(), {"requirePassword", "showedPreview", "was a text"});
-    EXPECT_THAT(defaults.allKeys(), UnorderedElementsAreArray(keys));
+    EXPECT_THAT(defaults.allKeys(), ::testing::UnorderedElementsAreArray(keys));
     for (const std::string& text : texts) {
         EXPECT_EQ(defaults.stringForKey(text), text);
         EXPECT_FALSE(defaults.boolForKey(text));
@@ -71,18 +69,16 @@ TEST_F(FileUserDefaultsTests, TheFileIsPrivateAndAlone)
     FileUserDefaults defaults(path);
     defaults.setString("first-key", "console");
     ASSERT_TRUE(defaults.synchronize());
-    using std::filesystem::perms;
-    const auto permissions = [](const std::string& name) { return std::filesystem::status(name).permissions(); };
-    EXPECT_EQ(permissions(path), perms::owner_read | perms::owner_write);
-    EXPECT_EQ(permissions(folder.file("deeper")), perms::owner_all);
+    EXPECT_EQ(modeOf(path), 0600U);
+    EXPECT_EQ(modeOf(folder.file("deeper")), 0700U);
 
     // What a killed process left: half of a file, and a lock of another machine.
     std::ofstream(path + ".new") << "[Strings]\nfirst-";
     std::ofstream(path + ".lock") << "1\nLodestar\nanother-machine\nid\nboot\n";
-    std::filesystem::permissions(path, perms::all);
+    std::filesystem::permissions(path, std::filesystem::perms::all);
     defaults.setString("second-key", "console");
     ASSERT_TRUE(defaults.synchronize());
-    EXPECT_EQ(permissions(path), perms::owner_read | perms::owner_write);
+    EXPECT_EQ(modeOf(path), 0600U);
     EXPECT_THAT(contents(), ::testing::AllOf(::testing::HasSubstr("second-key"),
                                              ::testing::Not(::testing::HasSubstr("first-key"))));
     std::filesystem::remove(path + ".lock");

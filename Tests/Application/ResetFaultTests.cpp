@@ -14,7 +14,6 @@ namespace lodestar::lock
 namespace
 {
 
-using injection::Call;
 using injection::everyKind;
 using injection::Extent;
 using injection::Failing;
@@ -28,8 +27,8 @@ protected:
     static void SetUpTestSuite() { MemoryReserve::install(); } // as the application does
     /// The log's thread would make calls of its own.
     ResetFaultTest() { VireoLogger::openLogFolder("/dev/null/nowhere"); }
-    /// Allocations are by far the most: a few of them, and all in the long run.
-    static int stepOf(Call call) { return call == Call::Allocation ? rounds(29, 1) : 1; }
+    /// A few allocations, and all in the long run.
+    static inline const int step = rounds(29, 1);
     void startAnew() const
     {
         MemoryReserve::topUp();
@@ -48,8 +47,7 @@ TEST_F(ResetFaultTest, DefaultsKeepTheOldFileOrHaveTheNewOne)
 {
     int tries = 0;
     for (const Kind kind : everyKind) {
-        tries += forEachFailure(stepOf(kind.call), [&](int number) {
-            SCOPED_TRACE(::testing::Message() << "call " << number << " of kind " << static_cast<int>(kind.call));
+        tries += forEachFailure(kind, step, [&](int number) {
             startAnew();
             const std::string before = folder.read("Lodestar.defaults");
             {
@@ -76,8 +74,7 @@ TEST_F(ResetFaultTest, AResetIsFinishedByTheNextStartAtTheLatest)
         if (kind.extent == Extent::Lasting) {
             continue; // nothing can be reset on a disk that takes nothing
         }
-        tries += forEachFailure(stepOf(kind.call), [&](int number) {
-            SCOPED_TRACE(::testing::Message() << "call " << number << " of kind " << static_cast<int>(kind.call));
+        tries += forEachFailure(kind, step, [&](int number) {
             startAnew();
             LoginViewController& login = showLogin();
             bool isEnded = false;

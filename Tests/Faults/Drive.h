@@ -25,11 +25,7 @@ namespace lodestar::faults
 /// Consoles with feeds of a usual size.
 inline simulator::Settings settingsOf(int consoles)
 {
-    simulator::Settings settings;
-    settings.consoles = consoles;
-    settings.feedBytes = 20'000;
-    settings.recordCap = 0;
-    return settings;
+    return {.consoles = consoles, .feedBytes = 20'000, .recordCap = 0};
 }
 
 /// Simulated consoles, the real client, and a folder with store and log. Main thread.
@@ -161,7 +157,7 @@ private:
         }
         std::vector<std::string> wanted;
         std::ranges::transform(m_consoles, std::back_inserter(wanted),
-                               [](const CorvelRef& corvel) { return identityOf(*corvel); });
+                               [](auto& corvel) { return identityOf(*corvel); });
         if (kept != wanted) {
             testing::Test::RecordProperty("lost", "records");
             ADD_FAILURE() << kept.size() << " of " << wanted.size() << " records are stored";

@@ -104,8 +104,7 @@ double memoryOfFleet(int consoles)
     std::ptrdiff_t online = 0;
     for (int pull = 0; pull < 3 && online < consoles; ++pull) {
         drive.refresh(seconds(900));
-        online =
-            std::ranges::count_if(drive.consoles(), [](const CorvelRef& console) { return console->isOnline.load(); });
+        online = std::ranges::count_if(drive.consoles(), [](auto& console) { return console->isOnline.load(); });
     }
     EXPECT_EQ(online, consoles);
     return (memory("VmHWM") - before) / consoles;
@@ -159,10 +158,10 @@ TEST_F(FaultRows, RefusedMemoryLeavesFeedsWholeOrNotAvailable)
     Drive drive(2);
     drive.refresh();
     const auto good = drive.feedTexts(0);
-    const int tries = injection::forEachFailure(rounds(97, 11), [&](int number) {
-        SCOPED_TRACE(number);
+    constexpr injection::Kind allocation{injection::Call::Allocation};
+    const int tries = injection::forEachFailure(allocation, rounds(97, 11), [&](int number) {
         {
-            const injection::Failing failing({injection::Call::Allocation}, number, injection::Threads::All);
+            const injection::Failing failing(allocation, number, injection::Threads::All);
             drive.refresh(seconds(30));
         }
         for (const auto& [type, text] : drive.feedTexts(0)) {

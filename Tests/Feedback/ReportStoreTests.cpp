@@ -14,8 +14,6 @@ namespace lodestar
 
 using testing::ElementsAre;
 using testing::HasSubstr;
-using testing::IsEmpty;
-using testing::SizeIs;
 
 namespace
 {
@@ -51,11 +49,6 @@ protected:
     ReportStore m_store{m_folder.file("Reports")};
 };
 
-unsigned permissions(const std::string& path)
-{
-    return static_cast<unsigned>(fs::status(path).permissions());
-}
-
 } // namespace
 
 TEST_F(ReportStoreTest, WhatIsKeptIsReadBackAndIsNobodyElses)
@@ -66,15 +59,15 @@ TEST_F(ReportStoreTest, WhatIsKeptIsReadBackAndIsNobodyElses)
     EXPECT_EQ(std::exchange(read.system, sample().system), "a system\\nKind: crash");
     EXPECT_EQ(sentText(read), sentText(sample()));
     EXPECT_EQ(read.picture, sample().picture);
-    EXPECT_EQ(permissions(m_store.folder()), 0700U);
-    EXPECT_EQ(permissions(m_store.folder() + "/" + identifier), 0700U);
-    EXPECT_EQ(permissions(m_store.folder() + "/" + identifier + "/picture.png"), 0600U);
+    EXPECT_EQ(modeOf(m_store.folder()), 0700U);
+    EXPECT_EQ(modeOf(m_store.folder() + "/" + identifier), 0700U);
+    EXPECT_EQ(modeOf(m_store.folder() + "/" + identifier + "/picture.png"), 0600U);
     // What is shown before it is sent is what is in it.
     for (const std::string& part : {sample().note, sample().log, std::string("picture.png: 7 bytes")}) {
         EXPECT_THAT(sentText(read), HasSubstr(part));
     }
     EXPECT_TRUE(m_store.remove(identifier).ok());
-    EXPECT_THAT(entries(), IsEmpty());
+    EXPECT_THAT(entries(), testing::IsEmpty());
     EXPECT_FALSE(m_store.read(identifier).ok());
     EXPECT_FALSE(m_store.remove(identifier).ok());
 }
@@ -96,7 +89,7 @@ TEST_F(ReportStoreTest, NothingOutsideTheFolderIsReachedDamageIsPassedOverAndWha
     const std::string mine = ".unfinished-" + std::to_string(::getpid()) + "-1";
     fs::create_directories(m_store.folder() + "/.unfinished-999999999-1/inner");
     fs::create_directories(m_store.folder() + "/" + mine);
-    EXPECT_THAT(m_store.list(), SizeIs(1));
+    EXPECT_THAT(m_store.list(), testing::SizeIs(1));
     m_store.sweep();
     EXPECT_THAT(entries(), testing::UnorderedElementsAre(identifier, mine, "20240101-damaged", "20240101-link"));
 }
@@ -154,7 +147,7 @@ TEST_F(ReportStoreTest, AnArchiveOpensElsewhereAndReplacesNothing)
     const std::string path = m_store.exportTo(identifier, m_folder.file("out")).value();
     const std::string again = m_store.exportTo(identifier, m_folder.file("out")).value();
     EXPECT_NE(path, again);
-    EXPECT_EQ(permissions(path), 0600U);
+    EXPECT_EQ(modeOf(path), 0600U);
     // Another implementation checks the sums and lists what is in it.
     const std::string command = "python3 -c \"import sys, zipfile\n"
                                 "archive = zipfile.ZipFile(sys.argv[1])\n"

@@ -11,13 +11,6 @@ namespace lodestar
 namespace
 {
 
-using std::filesystem::perms;
-
-perms modeOf(const std::filesystem::path& path)
-{
-    return std::filesystem::status(path).permissions();
-}
-
 class RotatingLogFileTest : public testing::Test
 {
 protected:
@@ -45,9 +38,9 @@ TEST_F(RotatingLogFileTest, KeepsTheYoungestFilesWithTheirHeaderAndLosesNoLineIn
     EXPECT_EQ(scratch.read("new/logs/log.1"), "H\na line that is longer than a file\n");
     EXPECT_EQ(scratch.read("new/logs/log"), "H\n8\n");
 
-    EXPECT_EQ(modeOf(made), perms::owner_all);
+    EXPECT_EQ(modeOf(made), 0700U);
     for (const char* name : {"log", "log.1", "log.2"}) {
-        EXPECT_EQ(modeOf(made + "/" + name), perms::owner_read | perms::owner_write) << name;
+        EXPECT_EQ(modeOf(made + "/" + name), 0600U) << name;
     }
 
     file.empty();
@@ -59,12 +52,12 @@ TEST_F(RotatingLogFileTest, KeepsTheYoungestFilesWithTheirHeaderAndLosesNoLineIn
 TEST_F(RotatingLogFileTest, GoesOnWithTheFileOfTheLastRunAndTightensItsMode)
 {
     std::ofstream(scratch.path() / "log") << "whole\ncut in the mid";
-    std::filesystem::permissions(scratch.path() / "log", perms::all);
+    std::filesystem::permissions(scratch.path() / "log", std::filesystem::perms::all);
     file.setHeader("H\n");
     ASSERT_TRUE(file.open(folder, "log", {}));
     file.append("next\n");
     EXPECT_EQ(scratch.read("log"), "whole\ncut in the mid\nH\nnext\n");
-    EXPECT_EQ(modeOf(scratch.path() / "log"), perms::owner_read | perms::owner_write);
+    EXPECT_EQ(modeOf(scratch.path() / "log"), 0600U);
 }
 
 TEST_F(RotatingLogFileTest, RefusesWhatIsNoFolderOrNoFileOfItsOwn)

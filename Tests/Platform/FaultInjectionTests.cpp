@@ -8,32 +8,25 @@
 
 namespace lodestar
 {
-namespace
-{
 
 using injection::Call;
 using injection::everyKind;
 using injection::Failing;
 using injection::forEachFailure;
 using injection::Kind;
-using test::StoreFixture;
 using ::testing::AnyOf;
 using ::testing::ElementsAre;
 
-using FaultInjectionTests = StoreFixture;
+using FaultInjectionTests = test::StoreFixture;
 
-/// Allocations are by far the most: a few of them, and all in the long run.
-int stepOf(Call call)
-{
-    return call == Call::Allocation ? rounds(7, 1) : 1;
-}
+/// A few allocations, and all in the long run.
+const int step = rounds(7, 1);
 
 TEST_F(FaultInjectionTests, ASaveKeepsTheOldStateOrMakesTheNewOne)
 {
     int tries = 0;
     for (const Kind kind : everyKind) {
-        const int count = forEachFailure(stepOf(kind.call), [&](int number) {
-            SCOPED_TRACE(::testing::Message() << "call " << number << " of kind " << static_cast<int>(kind.call));
+        const int count = forEachFailure(kind, step, [&](int number) {
             clear();
             auto context = open();
             const ObjectRef changed = insert(*context, "changed");
@@ -75,14 +68,10 @@ TEST_F(FaultInjectionTests, AStoreIsMadeWholeOrNotAtAllAndReadWholeOrNotAtAll)
     int tries = 0;
     for (const bool exists : {false, true}) {
         for (const Kind kind : everyKind) {
-            tries += forEachFailure(stepOf(kind.call), [&](int number) {
-                SCOPED_TRACE(::testing::Message() << "call " << number << " of kind " << static_cast<int>(kind.call));
+            tries += forEachFailure(kind, step, [&](int number) {
                 clear();
                 if (exists) {
-                    const auto context = open();
-                    insert(*context, "a");
-                    insert(*context, "b");
-                    ASSERT_TRUE(context->save().ok());
+                    makeStore({"a", "b"});
                 }
                 {
                     auto description = model();
@@ -106,5 +95,4 @@ TEST_F(FaultInjectionTests, AStoreIsMadeWholeOrNotAtAllAndReadWholeOrNotAtAll)
     RecordProperty("tries", tries);
 }
 
-} // namespace
 } // namespace lodestar

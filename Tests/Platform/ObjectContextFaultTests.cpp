@@ -16,22 +16,14 @@
 namespace lodestar
 {
 
-namespace
-{
-
-using test::StoreFixture;
 using ::testing::AnyOf;
 using ::testing::ElementsAre;
 
-using ObjectContextFaultTests = StoreFixture;
+using ObjectContextFaultTests = test::StoreFixture;
 
 TEST_F(ObjectContextFaultTests, AStoreThatCannotBeWrittenIsRefusedAndLeftAsItWas)
 {
-    {
-        const auto context = open();
-        insert(*context, "a");
-        ASSERT_TRUE(context->save().ok());
-    }
+    makeStore({"a"});
     const auto before = snapshot();
     const auto openForReading = +[](const char* file, int flags, int mode) {
         errno = EROFS;
@@ -51,12 +43,7 @@ TEST_F(ObjectContextFaultTests, AStoreThatCannotBeWrittenIsRefusedAndLeftAsItWas
 
 TEST_F(ObjectContextFaultTests, AKilledProcessKeepsWhatWasAcknowledged)
 {
-    {
-        const auto context = open();
-        insert(*context, "counter");
-        insert(*context, "long");
-        ASSERT_TRUE(context->save().ok());
-    }
+    makeStore({"counter", "long"});
     std::mt19937 random(20);
     const int tries = rounds(25, 1000);
     RecordProperty("tries", tries);
@@ -164,7 +151,5 @@ TEST_F(ObjectContextFaultTests, DamageIsRefusedOrSurvived)
     EXPECT_GT(refusals, 100);
     EXPECT_GT(survivals, 100);
 }
-
-} // namespace
 
 } // namespace lodestar

@@ -10,16 +10,11 @@
 namespace lodestar
 {
 
-namespace
-{
-
-using test::StoreFixture;
 using ::testing::ElementsAre;
 using ::testing::HasSubstr;
-using ::testing::IsEmpty;
 using ::testing::Not;
 
-using ObjectContextTests = StoreFixture;
+using ObjectContextTests = test::StoreFixture;
 
 TEST_F(ObjectContextTests, ValuesComeBackExactly)
 {
@@ -54,13 +49,7 @@ TEST_F(ObjectContextTests, ValuesComeBackExactly)
 
 TEST_F(ObjectContextTests, FetchGivesSavedThenUnsavedAndTheSameObjects)
 {
-    {
-        const auto context = open();
-        for (const char* const title : {"b", "c", "a"}) {
-            insert(*context, title);
-        }
-        ASSERT_TRUE(context->save().ok());
-    }
+    makeStore({"b", "c", "a"});
     const auto context = open();
     const ObjectRef unsaved = insert(*context, "0 unsaved");
     const auto other = context->insertNewObject("Order");
@@ -156,18 +145,15 @@ TEST_F(ObjectContextTests, ObjectsOutliveTheirDeletionAndTheirContext)
 TEST_F(ObjectContextTests, FilesArePrivateAndRelationsDeclared)
 {
     path = folder / "new" / "deeper" / "Test.sqlite";
-    const auto mode = [](const std::filesystem::path& file) {
-        return static_cast<unsigned>(std::filesystem::status(file).permissions());
-    };
     const mode_t former = ::umask(0);
     const auto context = open();
     insert(*context, "a");
     ASSERT_TRUE(context->save().ok());
     ::umask(former);
-    EXPECT_EQ(mode(folder / "new"), 0700U);
-    EXPECT_EQ(mode(path.parent_path()), 0700U);
+    EXPECT_EQ(modeOf(folder / "new"), 0700U);
+    EXPECT_EQ(modeOf(path.parent_path()), 0700U);
     for (const char* const suffix : {"", "-wal", "-shm"}) {
-        EXPECT_EQ(mode(path.string() + suffix), 0600U) << suffix;
+        EXPECT_EQ(modeOf(path.string() + suffix), 0600U) << suffix;
     }
     SQLite::Database database = plain();
     EXPECT_EQ(database.execAndGet("PRAGMA journal_mode").getString(), "wal");
@@ -264,13 +250,11 @@ TEST_F(ObjectContextTests, WhatIsNoStoreOfTheModelIsRefusedAndLeftAsItWas)
         ASSERT_FALSE(opened.ok());
         EXPECT_EQ(opened.error().domain, storeErrorDomain);
         EXPECT_EQ(opened.error().code & 0xFF, refused.code) << opened.error().localizedDescription;
-        EXPECT_THAT(opened.error().localizedDescription, Not(IsEmpty()));
+        EXPECT_NE(opened.error().localizedDescription, "");
         EXPECT_EQ(snapshot(), before);
     }
     EXPECT_FALSE(ObjectContext::open("", model()).ok());
     EXPECT_FALSE(ObjectContext::open("/proc/none/Test.sqlite", model()).ok());
 }
-
-} // namespace
 
 } // namespace lodestar

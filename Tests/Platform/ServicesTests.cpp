@@ -15,21 +15,8 @@ namespace lodestar
 {
 
 using testing::AllOf;
-using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
-
-namespace
-{
-
-mode_t modeOf(const std::string& path)
-{
-    struct stat status = {};
-    EXPECT_EQ(::stat(path.c_str(), &status), 0) << path;
-    return status.st_mode & 07777U;
-}
-
-} // namespace
 
 TEST(PrivateFile, EveryNewFolderIsPrivateAndThoseThereAreLeftUnlessTheyAreOurs)
 {
@@ -136,7 +123,7 @@ TEST(Services, ObserversThatComeAndGoWhileANotificationIsPostedCountFromTheNext)
     const auto nested = center.addObserver("nested", [&] { calls.emplace_back("nested"); });
     center.postNotification("change");
     center.postNotification("change");
-    EXPECT_THAT(calls, ElementsAre("changer", "nested", "leaving", "changer", "coming"));
+    EXPECT_THAT(calls, testing::ElementsAre("changer", "nested", "leaving", "changer", "coming"));
 }
 
 TEST(ErrorTests, DescriptionsLeaveOutWhatIsEmptyAndAlwaysTellSomething)

@@ -3,6 +3,8 @@
 // allocator and for the system's calls.
 #pragma once
 
+#include <gtest/gtest.h>
+
 #include <array>
 #include <atomic>
 #include <cerrno>
@@ -80,13 +82,16 @@ public:
     static bool happened() { return detail::happened; }
 };
 
-/// Calls the work with number after number, until it had such a call no more: how many calls have failed.
+/// Calls the work with number after number, until it had such a call no more: how many calls have failed. Allocations
+/// are by far the most: of them only one in so many fails.
 template <typename Work>
-int forEachFailure(int step, const Work& work)
+int forEachFailure(Kind kind, int stepOfAllocations, const Work& work)
 {
     constexpr int far = 100'000;
+    const int step = kind.call == Call::Allocation ? stepOfAllocations : 1;
     int number = 0;
     do {
+        SCOPED_TRACE(testing::Message() << "call " << number << " of kind " << static_cast<int>(kind.call));
         detail::happened = false;
         work(number);
         number += step;

@@ -11,6 +11,12 @@
 namespace lodestar
 {
 
+/// The permissions of a file or a folder.
+inline unsigned modeOf(const std::filesystem::path& path)
+{
+    return static_cast<unsigned>(std::filesystem::status(path).permissions());
+}
+
 /// An empty folder that goes away with its owner, in memory where that can be had: thousands of saves would wait for
 /// the disk.
 class ScratchFolder

@@ -62,6 +62,16 @@ protected:
         return object;
     }
 
+    /// A store that holds items of these titles, and that nobody has open.
+    void makeStore(const std::vector<std::string>& titles) const
+    {
+        const auto context = open();
+        for (const std::string& title : titles) {
+            insert(*context, title);
+        }
+        EXPECT_TRUE(context->save().ok());
+    }
+
     static std::vector<ObjectRef> fetch(ObjectContext& context, const std::string& entity = "Item")
     {
         auto objects = context.fetchAll(entity);
