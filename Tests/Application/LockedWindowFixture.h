@@ -31,8 +31,7 @@ protected:
     {
         QAccessible::setActive(true);
         Appearance::shared().overrideReducedMotion(true);
-        registerMainStoryboard(
-            [this](std::shared_ptr<ViewController> shown) { delegate.window()->setRootViewController(shown); });
+        registerMainStoryboard([this](const auto& shown) { delegate.window()->setRootViewController(shown); });
         passcode() = secret.toStdString();
     }
     ~LockedWindowTest() override
@@ -109,6 +108,7 @@ protected:
     void shake() const
     {
         window().motionBegan(FeedbackWindow::EventType::Motion, FeedbackWindow::EventSubtype::MotionShake);
+        ASSERT_NE(feedback(), nullptr);
     }
     /// Sets a property of whatever holds the item with the keyboard.
     void setAround(const char* name, const QVariant& value) const
@@ -136,13 +136,16 @@ protected:
     void reactivate()
     {
         delegate.applicationDidBecomeActive();
+        ASSERT_NE(login(), nullptr);
         EXPECT_TRUE(showsOnlyTheMark(window().grabWindow(), 844 / 3));
         settle(300);
     }
+    /// By the lock's field, which has the keyboard.
     void unlock() const
     {
         type(secret);
         press(Qt::Key_Return);
+        EXPECT_EQ(login(), nullptr);
     }
 
     AppDelegate delegate;
