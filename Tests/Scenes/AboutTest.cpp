@@ -151,8 +151,7 @@ TEST_F(AboutTest, PagesAreSpelledOutWhereTheirPicturesCannotBeRead)
 TEST_F(AboutTest, LongTextsScrollByKeysAndStandOnlyWhereTheyAreSeen)
 {
     stage.show({390, 844}, fleet());
-    TextViewOutlet& notices =
-        *stage.open<OpenSourceViewController>(Scenes::openSourceViewController, {})->licenseText();
+    auto& notices = *stage.open<OpenSourceViewController>(Scenes::openSourceViewController, {})->licenseText();
     ASSERT_TRUE(stage.waitFor([&] { return notices.pieces().size() > 100; }));
     for (const char* library : {"Qt Base\n", "libxml2\n", "SQLite\n", "OpenSSL\n", "Lato\n"}) {
         EXPECT_TRUE(notices.attributedText().contains(library)) << library;

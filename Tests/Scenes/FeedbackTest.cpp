@@ -31,6 +31,7 @@ bool isCovered(const QImage& picture, const QQuickItem* item)
 class FeedbackTest : public SceneTest
 {
 protected:
+    FeedbackTest() { stage.show({390, 844}, fleet()); }
     FeedbackViewController* open()
     {
         stage.feedback().present(grabCovered(stage.window()));
@@ -62,7 +63,6 @@ protected:
 
 TEST_F(FeedbackTest, AddressesAndSecretFieldsAreCoveredAndTheScreenIsLeftAsItWas)
 {
-    stage.show({390, 844}, fleet());
     stage.settle();
     const QImage before = stage.grab();
     const QImage picture = grabCovered(stage.window());
@@ -91,7 +91,6 @@ TEST_F(FeedbackTest, AddressesAndSecretFieldsAreCoveredAndTheScreenIsLeftAsItWas
 
 TEST_F(FeedbackTest, DrawingsAreUndoneAndKeptWithTheNoteButWithoutPasswords)
 {
-    stage.show({390, 844}, fleet());
     FeedbackViewController* feedback = open();
     EXPECT_EQ(button("Undo")->isEnabled(), false);
     draw({0.2, 0.8}, {0.8, 0.8});
@@ -128,7 +127,6 @@ TEST_F(FeedbackTest, DrawingsAreUndoneAndKeptWithTheNoteButWithoutPasswords)
 
 TEST_F(FeedbackTest, ReportsAreReadExportedAndDeletedWithTheKeyboardAlone)
 {
-    stage.show({390, 844}, fleet());
     ReportBundle bundle;
     bundle.note = "It stood still";
     bundle.log = "a line of the log\n";
@@ -157,7 +155,6 @@ TEST_F(FeedbackTest, ReportsAreReadExportedAndDeletedWithTheKeyboardAlone)
 
 TEST_F(FeedbackTest, ACrashReportIsReadAndSentAsOftenAsItFailsAndThenTheNextIsAskedAbout)
 {
-    stage.show({390, 844}, fleet());
     FeedbackSetup setup;
     setup.store = stage.reports();
     setup.crashFolder = stage.reports().folder() + "/../Crashes";
@@ -198,7 +195,6 @@ TEST_F(FeedbackTest, ACrashReportIsReadAndSentAsOftenAsItFailsAndThenTheNextIsAs
 
 TEST_F(FeedbackTest, WhatCannotBeKeptStaysOnScreenAndNothingIsLeftUnasked)
 {
-    stage.show({390, 844}, fleet());
     QFile inTheWay(QString::fromStdString(stage.reports().folder()));
     ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
     FeedbackViewController* feedback = open();
@@ -222,7 +218,6 @@ TEST_F(FeedbackTest, WhatCannotBeKeptStaysOnScreenAndNothingIsLeftUnasked)
 
 TEST_F(FeedbackTest, NothingFromBehindTheLockIsShownWhileItIsUp)
 {
-    stage.show({390, 844}, fleet());
     open()->noteView()->setText("begun before");
     ReportBundle crash;
     crash.kind = Report::Kind::Crash;

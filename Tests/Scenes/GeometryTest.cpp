@@ -182,13 +182,12 @@ TEST_P(GeometryTest, Inventory)
           Scenes::serviceableEventsDetail, Scenes::resourceGroupsView);
 }
 
-INSTANTIATE_TEST_SUITE_P(Sizes, GeometryTest,
-                         ::testing::Values(Setting{360, 640, 1, false, false}, Setting{390, 844, 1, true, false},
-                                           Setting{360, 640, 1.3, false, false}, Setting{390, 844, 2, false, false},
-                                           Setting{360, 640, 2, true, false}, Setting{768, 1024, 1, false, false},
-                                           Setting{768, 1024, 2, false, false}, Setting{1280, 800, 1, false, false},
-                                           Setting{1280, 800, 1, true, false}, Setting{390, 844, 1, false, true},
-                                           Setting{768, 1024, 1, true, true}));
+const Setting settings[] = {{360, 640, 1, false, false},  {390, 844, 1, true, false},   {360, 640, 1.3, false, false},
+                            {390, 844, 2, false, false},  {360, 640, 2, true, false},   {768, 1024, 1, false, false},
+                            {768, 1024, 2, false, false}, {1280, 800, 1, false, false}, {1280, 800, 1, true, false},
+                            {390, 844, 1, false, true},   {768, 1024, 1, true, true}};
+
+INSTANTIATE_TEST_SUITE_P(Sizes, GeometryTest, ::testing::ValuesIn(settings));
 
 } // namespace
 } // namespace lodestar::scenes

@@ -165,12 +165,10 @@ TEST_F(ListsTest, RowsHaveTheirHeightsInANarrowWindowAndWhateverAConsoleAnswers)
         const char* name;
         double height;
     } lists[] = {
-        {[&](const auto& corvel) { stage.openList(Scenes::resourceGroupsView, corvel); }, "Group", "GroupName", 75},
-        {[&](const auto& corvel) { stage.openList(Scenes::managedSystemsView, corvel); }, "ManagedSystem", "SystemName",
-         50},
-        {[&](const auto& corvel) { openPartitions(corvel); }, "LogicalPartition", "PartitionName", 50},
-        {[&](const auto& corvel) { stage.openList(Scenes::viosView, corvel); }, "VirtualIOServer", "PartitionName",
-         50}};
+        {[&](auto& corvel) { stage.openList(Scenes::resourceGroupsView, corvel); }, "Group", "GroupName", 75},
+        {[&](auto& corvel) { stage.openList(Scenes::managedSystemsView, corvel); }, "ManagedSystem", "SystemName", 50},
+        {[&](auto& corvel) { openPartitions(corvel); }, "LogicalPartition", "PartitionName", 50},
+        {[&](auto& corvel) { stage.openList(Scenes::viosView, corvel); }, "VirtualIOServer", "PartitionName", 50}};
     for (const auto& [open, type, name, height] : lists) {
         const QString feed = "<feed><entry><content><%1><%2>Two\nlines\r\nand more</%2></%1></content></entry></feed>";
         for (const std::map<std::string, std::string>& feeds :

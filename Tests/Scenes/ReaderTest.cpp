@@ -123,8 +123,7 @@ protected:
             }
             for (auto found = word.globalMatch(text); found.hasNext();) {
                 const QString left = found.next().captured();
-                EXPECT_TRUE(sent.contains(left))
-                    << scene << ": " << left.toStdString() << " in " << whole.toStdString();
+                EXPECT_TRUE(sent.contains(left)) << scene + ": " << left.toStdString() << " in " << whole.toStdString();
             }
         }
     }
@@ -142,13 +141,11 @@ TEST_F(ReaderTest, WhatIsUnderALayerIsNeitherReadNorPressed)
         std::string below;  ///< a button of the screen that is covered
         std::string inside; ///< a control of the layer
         std::string close;
-        QAccessible::Role role;
+        QAccessible::Role role = QAccessible::Dialog;
     } layers[] = {
-        {"tour", [&] { IntroView::showIntroViewInView(stage.tabs(), {}); }, "Settings", "Page 1 of 6", "Skip",
-         QAccessible::Dialog},
-        {"sheet", [&] { act("Add console"); }, "Add console", "Password", "Cancel", QAccessible::Dialog},
-        {"feedback", [&] { stage.feedback().present(grabCovered(stage.window())); }, "Settings", "Pen", "Cancel",
-         QAccessible::Dialog},
+        {"tour", [&] { IntroView::showIntroViewInView(stage.tabs(), {}); }, "Settings", "Page 1 of 6", "Skip"},
+        {"sheet", [&] { act("Add console"); }, "Add console", "Password", "Cancel"},
+        {"feedback", [&] { stage.feedback().present(grabCovered(stage.window())); }, "Settings", "Pen", "Cancel"},
         {"alert",
          [&] {
              act("Settings");
@@ -156,7 +153,7 @@ TEST_F(ReaderTest, WhatIsUnderALayerIsNeitherReadNorPressed)
              alert->present("Password Saved", {}, {{"Continue"}}, 0, {});
          },
          "Dashboard", "Continue", "Continue", QAccessible::AlertMessage},
-        {"passcode sheet", [&] { act("Require Passcode"); }, "Back", "New passcode", "Cancel", QAccessible::Dialog},
+        {"passcode sheet", [&] { act("Require Passcode"); }, "Back", "New passcode", "Cancel"},
         {"action sheet",
          [&] {
              stage.openList(Scenes::managedSystemsView, demoConsole());

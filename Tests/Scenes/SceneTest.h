@@ -69,11 +69,7 @@ inline std::vector<AnyScene> everyScene(const CorvelRef& corvel)
 class SceneTest : public ::testing::Test
 {
 protected:
-    SceneTest()
-    {
-        // Motion explains; tests need no explanation.
-        Appearance::shared().overrideReducedMotion(true);
-    }
+    SceneTest() { Appearance::shared().overrideReducedMotion(true); }
     ~SceneTest() override
     {
         Appearance::shared().overrideTextScale({});
@@ -112,8 +108,7 @@ protected:
     }
     static QQuickItem* firstWith(const char* property, const QVariant& value, const std::vector<QQuickItem*>& items)
     {
-        const auto found =
-            std::ranges::find_if(items, [&](const QQuickItem* item) { return item->property(property) == value; });
+        const auto found = std::ranges::find_if(items, [&](auto* item) { return item->property(property) == value; });
         return found != items.end() ? *found : nullptr;
     }
     /// In either language.

@@ -12,40 +12,27 @@ namespace lodestar::scenes
 namespace
 {
 
-class SettingsTest : public SceneTest
-{
-protected:
-    SettingsTest()
-    {
-        std::ignore = test::writePassword({});
-        UserDefaults::standard().setBool(false, "requirePassword");
-    }
-    void open()
-    {
-        stage.show({390, 844}, fleet());
-        click(stage.item("settingsButton"));
-        settings = qobject_cast<SettingsViewController*>(top());
-        ASSERT_NE(settings, nullptr);
-        ASSERT_TRUE(stage.waitFor([this] { return stage.item("passwordSwitch") != nullptr; }));
-        stage.settle(200);
-    }
-    static std::string passcode() { return test::readPassword().value(); }
-    /// Up, with its bar on top of that many points.
-    bool waitForSheetOf(double height) const
-    {
-        return stage.waitFor([this, height] {
-            const QQuickItem* const cancel = button(QStringLiteral("Cancel"));
-            return cancel != nullptr && cancel->mapToScene({}).y() == 844 - 44 - height;
-        });
-    }
-    bool isSwitchDrawnOn() const { return stage.item("passwordSwitch")->property("checked").toBool(); }
-
-    SettingsViewController* settings = nullptr;
-};
+using SettingsTest = SceneTest;
 
 TEST_F(SettingsTest, APasscodeIsSetAndChangedByHand)
 {
-    open();
+    std::ignore = test::writePassword({});
+    UserDefaults::standard().setBool(false, "requirePassword");
+    const auto passcode = [] { return test::readPassword().value(); };
+    // Up, with its bar on top of that many points.
+    const auto waitForSheetOf = [this](double height) {
+        return stage.waitFor([this, height] {
+            const QQuickItem* const cancel = button("Cancel");
+            return cancel != nullptr && cancel->mapToScene({}).y() == 844 - 44 - height;
+        });
+    };
+    const auto isSwitchDrawnOn = [this] { return stage.item("passwordSwitch")->property("checked").toBool(); };
+    stage.show({390, 844}, fleet());
+    click(stage.item("settingsButton"));
+    auto* const settings = qobject_cast<SettingsViewController*>(top());
+    ASSERT_NE(settings, nullptr);
+    ASSERT_TRUE(stage.waitFor([this] { return stage.item("passwordSwitch") != nullptr; }));
+    stage.settle(200);
     EXPECT_FALSE(stage.item("passwordCell")->isEnabled());
     // By keyboard, which finds its ring again when the sheet is cancelled.
     press(Qt::Key_Tab);
