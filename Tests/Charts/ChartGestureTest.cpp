@@ -6,8 +6,6 @@
 
 namespace lodestar
 {
-namespace
-{
 
 TEST(ChartGestureTest, APieTellsTurnsFromScrollsAndTaps)
 {
@@ -64,5 +62,4 @@ TEST(ChartGestureTest, APlotFollowsTheFingerAndGoesOnAtItsSpeed)
     EXPECT_LE(gesture.throwSpeed().x(), 4000) << "standing clocks";
 }
 
-} // namespace
 } // namespace lodestar

@@ -130,7 +130,7 @@ TEST(PieChartRendererTest, ValuesWithoutRoomAreMadeSmallerOrLeftOff)
 {
     const PiePicture pie(dashboardPie({2000, 1}));
     EXPECT_EQ(pie.count(white, QRectF(pie.layout.center + QPointF(-116, -8), QSizeF(45, 16))), 0)
-        << "the left of the ring is plain";
+        << "the left is plain";
     EXPECT_GT(inkAround(pie, 180, blue), 50);
     const PieValueText text(chartFont("Nimbus Sans", 12), white);
     PieSlice slice{0, 350, 8, 1, {0, 0}};

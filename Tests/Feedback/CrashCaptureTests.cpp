@@ -14,7 +14,6 @@ namespace lodestar
 
 using testing::HasSubstr;
 using testing::Not;
-using testing::SizeIs;
 
 namespace
 {
@@ -95,7 +94,7 @@ TEST_F(CrashCaptureTest, EverySignalEndsTheProcessAsItWouldHaveAndLeavesAReport)
         const ReportBundle crash = collectOne();
         EXPECT_EQ(crash.kind, Report::Kind::Crash);
         EXPECT_EQ(crash.version, "9.8.7");
-        EXPECT_THAT(crash.session, SizeIs(16));
+        EXPECT_THAT(crash.session, testing::SizeIs(16));
         EXPECT_THAT(crash.note, HasSubstr(std::string("SIG") + ::sigabbrev_np(signal)));
         EXPECT_THAT(crash.crash, HasSubstr(function));
         EXPECT_THAT(crash.crash, HasSubstr("CrashChild+0x"));

@@ -26,9 +26,7 @@ protected:
     {
         folder = std::make_unique<ScratchFolder>();
         const std::string authorities = folder->file("authorities.pem");
-        simulator::Settings settings;
-        settings.receiver = authorities;
-        service = std::make_unique<simulator::SimulatorProcess>(settings);
+        service = std::make_unique<simulator::SimulatorProcess>(simulator::Settings{.receiver = authorities});
         const std::unique_ptr<std::FILE, int (*)(std::FILE*)> file(std::fopen(authorities.c_str(), "a"), std::fclose);
         ASSERT_NE(file, nullptr);
         EXPECT_EQ(PEM_write_X509(file.get(), vouched->certificate.get()), 1); // behind the service's own
@@ -86,8 +84,7 @@ TEST_F(ReportSenderTest, TheServiceKnowsTheSessionAndHowMuchHasGoneIsTold)
     const OperationQueue queue;
     const std::string& address = service->receiver();
     std::promise<bool> started;
-    startFeedbackSession("k\"ey", 2, address, queue,
-                         [&](const Result<void>& outcome) { started.set_value(outcome.ok()); });
+    startFeedbackSession("k\"ey", 2, address, queue, [&](const auto& outcome) { started.set_value(outcome.ok()); });
     EXPECT_TRUE(started.get_future().get());
 
     ReportBundle bundle;

@@ -11,7 +11,6 @@
 namespace lodestar
 {
 
-using testing::EndsWith;
 using testing::HasSubstr;
 using testing::Not;
 
@@ -46,7 +45,7 @@ TEST(LogText, LetsNoMessageLookLikeAnotherLineOrAnotherMessage)
         EXPECT_EQ(escaped(message), expected);
     }
     EXPECT_EQ(escaped(std::string(maximumLogMessage, 'x')).size(), maximumLogMessage);
-    EXPECT_THAT(escaped(std::string(maximumLogMessage + 5, 'x')), EndsWith("xx (5 more bytes)"));
+    EXPECT_THAT(escaped(std::string(maximumLogMessage + 5, 'x')), testing::EndsWith("xx (5 more bytes)"));
 }
 
 TEST(VireoLogger, WritesEveryPartOfACallToTheLogFile)
@@ -98,8 +97,7 @@ TEST(VireoLogger, KeepsAllLinesOfManyThreadsWholeAndInTheirOrder)
 TEST(VireoLogger, SaysThatASessionStartedButNeverItsKey)
 {
     std::vector<std::string> heard;
-    const auto listener =
-        VireoLogger::addListener([&](const VireoLogger::Entry& entry) { heard.emplace_back(entry.message); });
+    const auto listener = VireoLogger::addListener([&](const auto& entry) { heard.emplace_back(entry.message); });
     VireoLogger::settings().reportOnShake = true;
     VireoLogger::startSession("5ecret-key");
     ASSERT_EQ(heard.size(), 1U);

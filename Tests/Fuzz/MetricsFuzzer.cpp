@@ -15,8 +15,7 @@ using fuzz::require;
 
 void checkReduction(const MetricsReduction& reduction)
 {
-    require(reduction.points.size() + reduction.skipped.size() == reduction.sampleCount,
-            "every sample is accounted for");
+    require(reduction.points.size() + reduction.skipped.size() == reduction.sampleCount, "all samples accounted for");
     require(reduction.points.size() == reduction.xLabels.size(), "a label for each charted sample");
     int before = -1;
     for (std::size_t i = 0; i < reduction.points.size(); ++i) {

@@ -3,7 +3,6 @@
 #include "Tests/Fuzz/Require.h"
 #include "Views/About/RichText/RichText.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <utf8proc.h>

@@ -44,8 +44,7 @@ void checkMetricsDate(const std::string& text)
     const year_month_day date(day);
     // A zone may move the moment into a year that no stamp can write.
     if (date.year() >= year(0) && date.year() <= year(9999)) {
-        require(dateFromString(written(date, *read - day) + "Z") == read, "written for the meridian it is the same",
-                text);
+        require(dateFromString(written(date, *read - day) + "Z") == read, "it is the same at the meridian", text);
     }
     constexpr std::size_t zoneFrom = 20;
     const auto unmoved = dateFromString(text.substr(0, zoneFrom) + "Z");

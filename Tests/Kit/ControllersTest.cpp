@@ -68,8 +68,7 @@ TEST_F(ControllersTest, NavigationLoadsOnceAndAlternatesAppearances)
     auto navigation = makeController<NavigationController>(root);
     EXPECT_THAT(take(), IsEmpty());
     {
-        const auto tabs =
-            makeController<TabBarController>(std::vector<TabBarItem>{{"One", "tab_consoles", navigation}});
+        const auto tabs = makeController<TabBarController>(std::vector<TabBarItem>{{"1", "tab_consoles", navigation}});
         EXPECT_EQ(root->tabBarController(), tabs.get());
     }
     EXPECT_EQ(root->tabBarController(), nullptr);

@@ -14,12 +14,6 @@
 namespace lodestar
 {
 
-namespace
-{
-
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 TEST(MainLoopTest, ANestedLoopRunsTheBlocksBehindTheOneThatStartedIt)
 {
     std::vector<std::string> order;
@@ -40,7 +34,7 @@ TEST(MainLoopTest, ANestedLoopRunsTheBlocksBehindTheOneThatStartedIt)
         queue.async([&] { first.quit(); });
     });
     EXPECT_TRUE(waitFor([&] { return order.size() == 5; }));
-    EXPECT_THAT(order, ElementsAre("first begins", "second begins", "third", "second ends", "first ends"));
+    EXPECT_THAT(order, testing::ElementsAre("first begins", "second begins", "third", "second ends", "first ends"));
 }
 
 TEST(OutletsTest, SettersTakeEffectAtOnceOnTheMainThreadAndInOrderLaterFromWorkers)
@@ -81,7 +75,5 @@ TEST(OutletsTest, TheFaceIsTheOneRegularFaceInEveryWeight)
     EXPECT_FALSE(QFontInfo(bold).bold());
     EXPECT_TRUE(QFontInfo(QFont("HelveticaNeue")).family().startsWith("Nimbus Sans"));
 }
-
-} // namespace
 
 } // namespace lodestar

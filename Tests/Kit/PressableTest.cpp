@@ -7,8 +7,6 @@
 
 namespace lodestar
 {
-namespace
-{
 
 TEST(PressableTest, AFingerTheMouseAndTheSpaceBarClickWhereTheyLetGoOfWhatTheyPressed)
 {
@@ -80,5 +78,4 @@ TEST(PressableTest, AFingerTheMouseAndTheSpaceBarClickWhereTheyLetGoOfWhatTheyPr
     EXPECT_EQ(clicks.size(), 1);
 }
 
-} // namespace
 } // namespace lodestar

@@ -3,7 +3,6 @@
 #include "Kit/Core/NavigationController.h"
 #include "Kit/Core/TabBarController.h"
 #include "KitWindow.h"
-#include "Platform/Queues/MainQueue.h"
 
 #include <QAccessible>
 #include <QImage>

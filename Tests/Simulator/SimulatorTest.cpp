@@ -11,13 +11,10 @@
 
 namespace lodestar::simulator
 {
-namespace
-{
 
 TEST(SimulatorInventory, IsTheSameInEveryRunAndLeavesNoStateOut)
 {
-    Settings settings;
-    settings.systems = 24;
+    const Settings settings{.systems = 24};
     const auto feedOf = [&](std::uint64_t number) {
         return filled(writeFeeds(makeInventory(settings, number), 0)["LogicalPartition"], {"127.0.0.9", "", "", ""});
     };
@@ -46,9 +43,7 @@ TEST(SimulatorProtocol, WhatIsMistypedIsRefused)
         EXPECT_THROW(parseArguments(wrong), std::invalid_argument) << wrong.back();
     }
     EventLoop loop;
-    Settings settings;
-    settings.consoles = 2;
-    Simulator simulator(loop, settings);
+    Simulator simulator(loop, {.consoles = 2});
     Control control(loop, simulator);
     EXPECT_EQ(control.feed("latency 5\nlat"), "ok\n");
     EXPECT_EQ(control.feed("ency 6\nfault refuseFeed:ManagedSystem:1\nclear\n"), "ok\nok\nok\n");
@@ -60,5 +55,4 @@ TEST(SimulatorProtocol, WhatIsMistypedIsRefused)
     }
 }
 
-} // namespace
 } // namespace lodestar::simulator

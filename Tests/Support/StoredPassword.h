@@ -6,7 +6,6 @@
 
 #include <optional>
 #include <string>
-#include <utility>
 
 namespace lodestar::test
 {
@@ -15,8 +14,7 @@ inline Result<std::string> readPassword(const std::string& service = "Login", co
                                         Keychain::Prompt prompt = Keychain::Prompt::Allowed)
 {
     std::optional<Result<std::string>> answer;
-    Keychain::standard().readPassword(service, account, prompt,
-                                      [&](Result<std::string> result) { answer = std::move(result); });
+    Keychain::standard().readPassword(service, account, prompt, [&](const auto& told) { answer = told; });
     MainQueue::shared().runUntil([&] { return answer.has_value(); }, std::chrono::seconds(60));
     return *answer;
 }
@@ -26,8 +24,7 @@ inline Result<void> writePassword(const std::string& password, const std::string
                                   Keychain::Prompt prompt = Keychain::Prompt::Allowed)
 {
     std::optional<Result<void>> answer;
-    Keychain::standard().writePassword(password, service, account, prompt,
-                                       [&](Result<void> result) { answer = std::move(result); });
+    Keychain::standard().writePassword(password, service, account, prompt, [&](const auto& told) { answer = told; });
     MainQueue::shared().runUntil([&] { return answer.has_value(); }, std::chrono::seconds(60));
     return *answer;
 }

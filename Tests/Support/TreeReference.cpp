@@ -8,7 +8,6 @@
 #include <libxml/tree.h>
 
 #include <algorithm>
-#include <cstdio>
 #include <map>
 #include <memory>
 #include <set>
@@ -202,8 +201,7 @@ std::string readArena(std::string_view bytes)
     if (!root.value()) {
         return "(none)";
     }
-    const Result<std::shared_ptr<const XMLDocument>> document =
-        XMLDocumentBuilder::parse(std::string(bytes).c_str(), bytes.size());
+    const auto document = XMLDocumentBuilder::parse(std::string(bytes).c_str(), bytes.size());
     std::string all;
     appendElement(*document.value(), 0, root.value(), all);
     return all;
