@@ -158,6 +158,15 @@ double floodTime(const std::string& bytes)
     return bench::processorTime() - start;
 }
 
+std::string tagOf(int attributes)
+{
+    std::string tag = "<a";
+    for (int i = 0; i < attributes; ++i) {
+        tag += fmt::format(" n{}=''", i);
+    }
+    return tag + "/>";
+}
+
 void measureFloods(bench::Rows& rows)
 {
     const auto plain = [bytes = makeFeed(floodBytes, 100)] { return floodTime(bytes); };
@@ -174,14 +183,16 @@ void measureFloods(bench::Rows& rows)
     add("a feed of ten million errors / a plain feed of 10 MB", "<feed>", [](int) { return "&"; });
     add("a feed of a million attributes in one tag / a plain feed of 10 MB", "<feed><a",
         [](int i) { return fmt::format(" n{}=''", i); });
-    add("a feed of a million attributes in tags of 800 / a plain feed of 10 MB", "<feed>", [](int) {
-        std::string tag = "<a";
-        for (int i = 0; i < 800; ++i) {
-            tag += fmt::format(" n{}=''", i);
-        }
-        return tag + "/>";
-    });
+    add("a feed of a million attributes in tags of 800 / a plain feed of 10 MB", "<feed>",
+        [](int) { return tagOf(800); });
     add("a feed of two million elements / a plain feed of 10 MB", "<feed>", [](int) { return "<b/>"; });
+    add("a feed of a million attributes in tags of 100 / a plain feed of 10 MB", "<feed>",
+        [](int) { return tagOf(100); });
+    add("a feed of two million references / a plain feed of 10 MB", "<feed><a>", [](int) { return "&lt;"; });
+    add("a feed of two million references in values / a plain feed of 10 MB", "<feed>",
+        [](int) { return "<a b='&lt;&lt;&lt;&lt;&lt;&lt;&lt;&lt;&lt;&lt;'/>"; });
+    add("a feed of three million declared references / a plain feed of 10 MB",
+        "<!DOCTYPE feed [<!ENTITY a 'b'>]><feed><a>", [](int) { return "&a;"; });
     add("a feed of three million levels / a plain feed of 10 MB", "<feed>", [](int) { return "<a>"; });
 }
 

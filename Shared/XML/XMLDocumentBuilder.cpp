@@ -21,13 +21,14 @@ namespace
 constexpr std::size_t errorsAlways = 2500;
 constexpr std::size_t bytesAnError = 64;
 constexpr std::size_t comparisonsAlways = 1'000'000;
-constexpr std::size_t comparisonsAByte = 8;
+constexpr std::size_t comparisonsAByte = 4;
 // A short element costs the library five times as much as the same number of feed bytes. Feeds have 20 bytes for each
 // part; a feed with attributes at every short element has 10.
 constexpr std::size_t partsAlways = 100'000;
 constexpr std::size_t bytesAPart = 6;
 constexpr std::size_t partsOfAnElement = 2;
 constexpr std::size_t partsOfANameSpace = 4;
+constexpr std::size_t partsOfAReference = 2;
 
 // The number of elements and attributes between two checks of the memory that is left. They take less than half a
 // megabyte.
@@ -134,7 +135,7 @@ void XMLDocumentBuilder::setEvents(xmlSAXHandler& events) const
     // With one function for both, the parser need not look for blank text.
     events.ignorableWhitespace = &characters;
     events.cdataBlock = &characters;
-    events.reference = nullptr;
+    events.reference = &countReference;
     events.comment = nullptr;
     events.processingInstruction = nullptr;
     events.serror = &noteError;
@@ -155,6 +156,7 @@ void XMLDocumentBuilder::startElement(void* context, const xmlChar* localName, c
     if (self == nullptr) {
         return;
     }
+    self->m_isInText = false;
     self->countWork(static_cast<std::size_t>(attributeCount), static_cast<std::size_t>(namespaceCount));
     try {
         self->closeAbandoned();
@@ -172,6 +174,7 @@ void XMLDocumentBuilder::endElement(void* context, const xmlChar* /*localName*/,
     if (self == nullptr) {
         return;
     }
+    self->m_isInText = false;
     try {
         self->close();
     } catch (const std::bad_alloc&) {
@@ -185,6 +188,10 @@ void XMLDocumentBuilder::characters(void* context, const xmlChar* bytes, int len
     if (self == nullptr) {
         return;
     }
+    if (self->m_isInText) {
+        self->countParts(partsOfAReference);
+    }
+    self->m_isInText = true;
     XMLArray<char>& text = self->m_document->m_text;
     const auto count = static_cast<std::size_t>(length);
     if (text.size() + count >= arenaLimit) {
@@ -238,12 +245,29 @@ void XMLDocumentBuilder::countWork(std::size_t attributeCount, std::size_t names
     const std::size_t made =
         (attributeCount * attributeCount + namespaceCount * namespaceCount) / 2 + (attributeCount + 1) * inForce;
     const std::size_t parts = partsOfAnElement + attributeCount + namespaceCount * partsOfANameSpace;
-    if (made > m_comparisonsLeft || parts > m_partsLeft) {
+    if (made > m_comparisonsLeft) {
         fail(tooLarge());
         return;
     }
     m_comparisonsLeft -= made;
+    countParts(parts);
+}
+
+void XMLDocumentBuilder::countParts(std::size_t parts)
+{
+    if (parts > m_partsLeft) {
+        fail(tooLarge());
+        return;
+    }
     m_partsLeft -= parts;
+}
+
+/// References to declared entities are left out of the text, and counted: the parser looks each of them up.
+void XMLDocumentBuilder::countReference(void* context, const xmlChar* /*name*/)
+{
+    if (XMLDocumentBuilder* const self = of(context); self != nullptr) {
+        self->countParts(partsOfAReference);
+    }
 }
 
 void XMLDocumentBuilder::open(const xmlChar* localName, const xmlChar* prefix, const xmlChar** attributes,
@@ -303,6 +327,13 @@ void XMLDocumentBuilder::addAttribute(const xmlChar* localName, const xmlChar* p
         fail(tooLarge());
         return;
     }
+    if (!isAsWritten(raw)) {
+        const auto isUsuallyReference = [](char c) {
+            return std::string_view("<>&'\"").find(c) != std::string_view::npos;
+        };
+        const auto references = std::count_if(raw.begin(), raw.end(), isUsuallyReference);
+        countParts(static_cast<std::size_t>(references) * partsOfAReference);
+    }
     std::size_t reference = raw.find('&');
     while (reference != std::string_view::npos) {
         const std::size_t end = raw.find(';', reference);
@@ -314,6 +345,14 @@ void XMLDocumentBuilder::addAttribute(const xmlChar* localName, const xmlChar* p
     }
     values.append(raw.data(), raw.size());
     m_document->m_attributes.push_back({nameOf(localName, prefix), static_cast<std::uint32_t>(begin)});
+}
+
+/// The parser passes a value without references where it stands in the input, any other as a copy.
+bool XMLDocumentBuilder::isAsWritten(std::string_view value) const
+{
+    const std::less_equal<const char*> isAtOrBefore;
+    return isAtOrBefore(chars(m_parser->input->base), value.data()) &&
+           isAtOrBefore(value.data(), chars(m_parser->input->end));
 }
 
 std::uint16_t XMLDocumentBuilder::listFrom(std::size_t begin)

@@ -71,9 +71,12 @@ private:
 
     void setEvents(xmlSAXHandler& events) const;
     void countWork(std::size_t attributeCount, std::size_t namespaceCount);
+    void countParts(std::size_t parts);
+    static void countReference(void* context, const xmlChar* name);
     void reserve(std::size_t inputSize);
     void open(const xmlChar* localName, const xmlChar* prefix, const xmlChar** attributes, int attributeCount);
     void addAttribute(const xmlChar* localName, const xmlChar* prefix, std::string_view raw);
+    bool isAsWritten(std::string_view value) const;
     /// Makes a list of the attributes from `begin` on and returns its number for a node of the last block. When an
     /// earlier list is equal, the attributes are dropped and that list's number is returned.
     std::uint16_t listFrom(std::size_t begin);
@@ -117,6 +120,7 @@ private:
     std::size_t m_comparisonsLeft = 0;
     std::size_t m_partsLeft = 0;
     std::size_t m_nextLook = 0; ///< the number of nodes and attributes at which `keep` is due
+    bool m_isInText = false;    ///< the last event was text: more of it follows a reference, or a very long stretch
     bool m_over = false;        ///< nothing more is read
     bool m_failed = false;
     Error m_error;
