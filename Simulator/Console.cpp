@@ -40,15 +40,21 @@ bool isStruck(const std::vector<Fault>& faults, std::string_view name, const Req
 
 } // namespace
 
-ServedInventory::ServedInventory(const Settings& settings, std::uint64_t number)
-    : inventory(makeInventory(settings, number)), feeds(writeFeeds(inventory, settings.feedBytes))
+ServedInventory::ServedInventory(Inventory served, std::size_t feedBytes)
+    : inventory(std::move(served)), feeds(writeFeeds(inventory, feedBytes))
 {
     for (const ManagedSystem& system : inventory.systems) {
+        if (system.isGone) {
+            continue;
+        }
         quickValues.emplace(system.id + "/SystemName", jsonText(system.name));
         quickValues.emplace(system.id + "/State", jsonText(system.state));
     }
     for (const auto* list : {&inventory.partitions, &inventory.vios}) {
         for (const Partition& partition : *list) {
+            if (partition.isGone) {
+                continue;
+            }
             quickValues.emplace(partition.id + "/PartitionName", jsonText(partition.name));
             quickValues.emplace(partition.id + "/PartitionState", jsonText(partition.state));
         }
@@ -95,6 +101,14 @@ Response Console::answer(const Request& request, const std::vector<Fault>& fault
 void Console::setFeed(const std::string& type, std::string text)
 {
     m_ownFeeds[type] = std::make_shared<const std::string>(std::move(text));
+}
+
+void Console::changeInventory(const std::function<void(Inventory&)>& change)
+{
+    Inventory changed = m_served->inventory;
+    change(changed);
+    m_served = std::make_shared<const ServedInventory>(std::move(changed), m_settings.feedBytes);
+    m_compressed.clear();
 }
 
 std::shared_ptr<const Leaf> Console::leaf()

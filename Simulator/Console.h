@@ -7,6 +7,7 @@
 #include "Simulator/Inventory.h"
 #include "Simulator/Leaf.h"
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <string>
@@ -25,7 +26,7 @@ struct ServedInventory {
     /// Single values in JSON's quotes, under "identifier/property".
     std::unordered_map<std::string, std::string> quickValues;
 
-    ServedInventory(const Settings& settings, std::uint64_t number);
+    ServedInventory(Inventory served, std::size_t feedBytes);
 };
 
 /// One console: its state and its answers, but no sockets.
@@ -37,6 +38,8 @@ public:
     int index() const { return m_index; }
     const std::string& address() const { return m_address; }
     const Inventory& inventory() const { return m_served->inventory; }
+    /// Lets the function change what this console says from now on, in feeds and look-ups.
+    void changeInventory(const std::function<void(Inventory&)>& change);
 
     /// The answer to the request; `faults` are those that strike the request. A redirect to another host leads to
     /// `nextAddress`.
@@ -44,6 +47,7 @@ public:
 
     /// Makes every session key invalid.
     void expireSessions() { m_sessions.clear(); }
+    RequestKind kindOf(const Request& request) const;
     /// Serves the text in place of the console's own feed from now on. The type may also be "Metrics" or
     /// "MetricsDocument".
     void setFeed(const std::string& type, std::string text);
@@ -55,7 +59,6 @@ public:
     void changeLeaf(Leaf::Kind kind);
 
 private:
-    RequestKind kindOf(const Request& request) const;
     Response logon(const Request& request);
     bool hasSession(const Request& request) const;
     Draft answerOf(const Request& request, const RequestKind& kind, const std::vector<Fault>& faults);

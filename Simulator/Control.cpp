@@ -114,7 +114,9 @@ std::string Control::greeting() const
     std::string lines;
     for (int i = 0; i < m_simulator.consoleCount(); ++i) {
         lines.append("console ").append(std::to_string(i)).append(1, ' ').append(m_simulator.address(i));
-        lines.append(1, ' ').append(user).append(1, ' ').append(password).append(1, '\n');
+        lines.append(1, ' ').append(user).append(1, ' ').append(password);
+        const std::string name = m_story != nullptr ? m_story->nameOf(i) : std::string();
+        lines.append(name.empty() ? "" : " " + encodeWord(name)).append(1, '\n');
     }
     if (m_simulator.receiver() != nullptr) {
         lines.append("receiver ").append(m_simulator.receiver()->url()).append(1, '\n');
@@ -154,6 +156,10 @@ std::string Control::run(const std::vector<std::string>& words)
         m_loop.stop();
         return {};
     }
+    if (words[0] == "advance") {
+        advance(words);
+        return {};
+    }
     if (const auto change = changes.find(words[0]); change != changes.end()) {
         change->second(m_simulator, words);
         return {};
@@ -163,6 +169,14 @@ std::string Control::run(const std::vector<std::string>& words)
         throw std::invalid_argument("unknown command " + words[0]);
     }
     return question->second(m_simulator, words);
+}
+
+void Control::advance(const std::vector<std::string>& words)
+{
+    if (m_story == nullptr) {
+        throw std::invalid_argument("there is no story; --story names one");
+    }
+    m_story->advance(std::chrono::seconds(numberAt(words, 1)));
 }
 
 } // namespace lodestar::simulator

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Simulator/Simulator.h"
+#include "Simulator/StoryTeller.h"
 
 #include <string>
 #include <string_view>
@@ -14,10 +15,14 @@ namespace lodestar::simulator
 class Control
 {
 public:
-    Control(EventLoop& loop, Simulator& simulator) : m_loop(loop), m_simulator(simulator) {}
+    /// The story is null when there is none.
+    Control(EventLoop& loop, Simulator& simulator, StoryTeller* story = nullptr)
+        : m_loop(loop), m_simulator(simulator), m_story(story)
+    {
+    }
 
-    /// The lines that a started simulator prints: addresses and credentials, the receiver's address if there is one,
-    /// "ready".
+    /// The lines that a started simulator prints: addresses, credentials and the names that a story gives,
+    /// the receiver's address if there is one, "ready".
     std::string greeting() const;
     /// Takes input in any pieces and returns the answers to every line that is now complete.
     std::string feed(std::string_view bytes);
@@ -25,9 +30,11 @@ public:
 private:
     std::string answer(std::string_view line);
     std::string run(const std::vector<std::string>& words);
+    void advance(const std::vector<std::string>& words);
 
     EventLoop& m_loop;
     Simulator& m_simulator;
+    StoryTeller* m_story;
     std::string m_input;
 };
 

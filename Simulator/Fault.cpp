@@ -56,6 +56,11 @@ BodyPtr entriesOf(std::uint64_t size)
                              "</feed>");
 }
 
+int statusOf(const Struck& struck, int usual)
+{
+    return struck.fault.status != 0 ? struck.fault.status : usual;
+}
+
 void redirect(Draft& draft, const std::string& address, const std::string& target)
 {
     draft.replace(textResponse("text/html", "<p>It is elsewhere.</p>"));
@@ -85,8 +90,10 @@ void answerNoXML(Draft& draft, const Struck& struck)
 // A row without a function acts on connections, sessions or the metrics document: its name is asked for there.
 const std::vector<Row> rows = {
     {"refuseLogon", Area::Logon,
-     [](Draft& draft, const Struck&) { draft.replace(errorResponse(401, "The user or the password is wrong.")); },
-     "the logon answers 401"},
+     [](Draft& draft, const Struck& struck) {
+         draft.replace(errorResponse(statusOf(struck, 401), "The user or the password is wrong."));
+     },
+     "the logon answers 401; refuseLogon=403 with another status"},
     {"logonWithoutKey", Area::Logon, [](Draft& draft, const Struck&) { draft.replace(logonResponse({})); },
      "the logon answers 200 without a session key"},
     {"logonNotXML", Area::Logon, answerNoXML,
@@ -96,7 +103,10 @@ const std::vector<Row> rows = {
      "the logon answers 200 with a session key of 1 MB"},
     {"expireSession", Area::Feed, nullptr, "every session key becomes invalid; at once and only once"},
     {"refuseFeed", Area::Feed,
-     [](Draft& draft, const Struck&) { draft.replace(errorResponse(500, "The console is busy.")); }, "status 500"},
+     [](Draft& draft, const Struck& struck) {
+         draft.replace(errorResponse(statusOf(struck, 500), "The console is busy."));
+     },
+     "status 500; refuseFeed=503 for another"},
     {"emptyFeed", Area::Feed, [](Draft& draft, const Struck&) { draft.replaceBody(makeBody(std::string())); },
      "status 200 without a body"},
     {"stallFeed", Area::Feed, [](Draft& draft, const Struck&) { draft.response.ending = Ending::Silence; },
@@ -157,8 +167,9 @@ const std::vector<Row> rows = {
     {"misnamedCertificate", Area::Feed, nullptr, "the certificate names another host; connections are closed"},
     {"chunked", Area::Feed, [](Draft& draft, const Struck&) { draft.response.framing = Framing::Chunks; },
      "the body is sent whole, in chunks, which is no fault"},
-    {"failedStatus", Area::Feed, [](Draft& draft, const Struck&) { draft.response.status = 500; },
-     "the usual answer with status 500"},
+    {"failedStatus", Area::Feed,
+     [](Draft& draft, const Struck& struck) { draft.response.status = statusOf(struck, 500); },
+     "the usual answer with status 500; failedStatus=418 with another"},
     {"nullMetrics", Area::MetricsDocument, nullptr, "the metrics have some nulls"},
     {"unprocessedMetrics", Area::MetricsDocument, nullptr, "the metrics say that nothing was processed"},
     {"emptyMetrics", Area::MetricsDocument, nullptr, "the metrics have no samples"},
@@ -194,6 +205,23 @@ bool isKnownTarget(const Fault& fault)
            std::ranges::find(feedTypes, fault.what) != feedTypes.end();
 }
 
+/// Takes a status off the fault's name.
+void takeStatus(Fault& fault)
+{
+    const std::size_t equals = fault.name.find('=');
+    if (equals == std::string::npos) {
+        return;
+    }
+    const std::string text = fault.name.substr(equals + 1);
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), fault.status);
+    const std::string name = fault.name.substr(0, equals);
+    const bool takesOne = name == "refuseFeed" || name == "refuseLogon" || name == "failedStatus";
+    if (!takesOne || error != std::errc() || *end != 0 || fault.status < 200 || fault.status > 599) {
+        throw std::invalid_argument("not a fault with a status: " + fault.name);
+    }
+    fault.name = name;
+}
+
 } // namespace
 
 Fault Fault::parse(std::string_view text)
@@ -201,6 +229,7 @@ Fault Fault::parse(std::string_view text)
     Fault fault;
     fault.name = text.substr(0, text.find(':'));
     std::string_view rest = text.substr(fault.name.size());
+    takeStatus(fault);
     while (!rest.empty()) {
         rest.remove_prefix(1);
         const std::string_view part = rest.substr(0, rest.find(':'));

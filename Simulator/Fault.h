@@ -29,9 +29,11 @@ struct Fault {
     std::string what;
     /// None strikes every console.
     std::optional<int> console;
+    /// The status with which "refuseFeed", "refuseLogon" and "failedStatus" answer; 0 for the usual one.
+    int status = 0;
 
-    /// Reads "name", "name:what", "name:console" or "name:what:console". Throws `std::invalid_argument` for anything
-    /// else.
+    /// Reads "name", "name:what", "name:console" or "name:what:console", where the name may be "name=status". Throws
+    /// `std::invalid_argument` for anything else.
     static Fault parse(std::string_view text);
 
     friend bool operator==(const Fault& a, const Fault& b) = default;

@@ -130,7 +130,9 @@ private:
         m_xml.text("ManagementConsoleName", blank(Blank::ConsoleName));
         m_xml.open("ManagedSystems");
         for (const ManagedSystem& each : m_inventory.systems) {
-            link("ManagedSystem", each.id);
+            if (!each.isGone) {
+                link("ManagedSystem", each.id);
+            }
         }
         m_xml.close();
         m_xml.open("VersionInfo", {{"kb", "CUR"}, {"kxe", "false"}, {"schemaVersion", "V1_0"}});
@@ -141,6 +143,9 @@ private:
 
     void system(const ManagedSystem& system)
     {
+        if (system.isGone) {
+            return;
+        }
         openEntry("ManagedSystem", system.id);
         m_xml.open("AssociatedSystemMemoryConfiguration", {{"kb", "CUR"}, {"kxe", "false"}});
         m_xml.number("ConfigurableSystemMemory", system.memoryMB);
@@ -161,6 +166,9 @@ private:
 
     void partition(std::string_view type, const Partition& partition)
     {
+        if (partition.isGone) {
+            return;
+        }
         openEntry(type, partition.id);
         m_xml.empty("AssociatedManagedSystem",
                     {{"kb", "CUR"},

@@ -275,15 +275,21 @@ ConsoleIdentity makeConsoleIdentity(std::uint64_t seed, int index)
 InventorySummary summaryOf(const Inventory& inventory)
 {
     InventorySummary summary;
-    summary.systems = static_cast<int>(inventory.systems.size());
+    const auto listed = [](const auto& list) {
+        return static_cast<int>(std::ranges::count_if(list, [](const auto& each) { return !each.isGone; }));
+    };
+    summary.systems = listed(inventory.systems);
     for (const ManagedSystem& system : inventory.systems) {
+        if (system.isGone) {
+            continue;
+        }
         const bool failing =
             system.state.find("error") != std::string::npos || system.state.find("incomplete") != std::string::npos;
         summary.systemErrors += failing ? 1 : 0;
         summary.attentionLEDs += system.attentionLED == "true" ? 1 : 0;
     }
-    summary.partitions = static_cast<int>(inventory.partitions.size());
-    summary.vios = static_cast<int>(inventory.vios.size());
+    summary.partitions = listed(inventory.partitions);
+    summary.vios = listed(inventory.vios);
     summary.events = static_cast<int>(inventory.events.size());
     summary.groups = static_cast<int>(inventory.groups.size());
     return summary;

@@ -40,6 +40,8 @@ struct ManagedSystem {
     MachineIdentity machine;
     std::string processorUnits;
     int memoryMB = 0;
+    /// The console does not list it any more. Its place stays, since others refer to objects by their places.
+    bool isGone = false;
 };
 
 /// A logical partition or a virtual I/O server. Only the feed that lists it tells which.
@@ -52,6 +54,7 @@ struct Partition {
     std::optional<std::string> referenceCode;
     /// Index of the owning system.
     std::size_t system = 0;
+    bool isGone = false;
 };
 
 /// The names and texts of elements.

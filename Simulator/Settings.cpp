@@ -42,6 +42,9 @@ constexpr Option options[] = {
     {"--receiver", &Settings::receiver,
      "take feedback reports in as well, on port 12444 of the first address; the\n                    certificate that "
      "vouches for it is written into this file, for SSL_CERT_FILE"},
+    {"--story", &Settings::story, "a file that says what happens to the consoles over time; see below"},
+    {"--story-at", &Settings::storyAt, "begin the story so many seconds in"},
+    {"--story-epoch", &Settings::storyEpoch, "when the story began, in seconds since 1970; 0: at the start"},
 };
 
 /// Where the consoles of a command line begin unless it says otherwise.
@@ -86,6 +89,9 @@ std::vector<std::string> argumentsOf(const Settings& settings)
     if (!settings.gzip) {
         arguments.emplace_back("--no-gzip");
     }
+    if (settings.storyStill) {
+        arguments.emplace_back("--story-still");
+    }
     for (const std::string& fault : settings.faults) {
         arguments.insert(arguments.end(), {"--fault", fault});
     }
@@ -105,6 +111,8 @@ CommandLine parseArguments(const std::vector<std::string>& arguments)
             line.control = true;
         } else if (name == "--no-gzip") {
             line.settings.gzip = false;
+        } else if (name == "--story-still") {
+            line.settings.storyStill = true;
         } else if (option == std::end(options) && name != "--fault") {
             throw std::invalid_argument("unknown option " + name);
         } else if (i + 1 == arguments.size()) {
@@ -129,6 +137,7 @@ std::string helpText()
         help.append(text.empty() ? "\n" : " (" + text + ")\n");
     }
     return help + R"(  --no-gzip         never compress
+  --story-still     the story's clock moves by the command "advance" alone
   --fault NAME[:WHAT][:CONSOLE]
                     a fault from the start, for one console or all; may be repeated
   --control         end when standard input ends
@@ -138,7 +147,7 @@ Commands on standard input, each answered with lines that end in "ok" or "error 
   round-trip MS
   requests    clear-requests      statistics [CONSOLE]              summary CONSOLE
   stop CONSOLE    start CONSOLE   certificate CONSOLE               feed CONSOLE TYPE [BODY]
-  reports
+  reports     advance SECONDS, in the story
   quit
 
 Trying it by hand:

@@ -48,6 +48,14 @@ struct Settings {
     std::size_t recordCap = 100000;
     /// The file into which the receiver of reports writes its certificate; empty for no receiver.
     std::string receiver{};
+    /// A file with a story of what happens to the consoles; empty for none.
+    std::string story{};
+    /// Seconds of the story that have passed when the simulator starts.
+    int storyAt = 0;
+    /// When the story began, in seconds since 1970, as the events' time stamps have it; 0 for the real time.
+    std::size_t storyEpoch = 0;
+    /// Whether the story's clock stands still until it is moved.
+    bool storyStill = false;
     /// Faults from the start on, in the form that `Fault::parse` reads.
     std::vector<std::string> faults{};
 };

@@ -60,7 +60,8 @@ Simulator::Simulator(EventLoop& loop, Settings settings)
     raiseDescriptorLimit();
     const int inventories = std::min(m_settings.consoles, distinctInventories);
     for (int i = 0; i < inventories; ++i) {
-        m_inventories.push_back(std::make_shared<const ServedInventory>(m_settings, static_cast<std::uint64_t>(i)));
+        Inventory made = makeInventory(m_settings, static_cast<std::uint64_t>(i));
+        m_inventories.push_back(std::make_shared<const ServedInventory>(std::move(made), m_settings.feedBytes));
     }
     constexpr int attempts = 64;
     const bool fixed = m_settings.address != "auto";
@@ -199,7 +200,7 @@ int Simulator::farEnd(int descriptor)
 void Simulator::adopt(Station& station, int descriptor)
 {
     SslPtr ssl(SSL_new(m_context.get()));
-    const auto leaf = station.console.leaf();
+    const auto leaf = std::exchange(station.showsOther, false) ? station.other : station.console.leaf();
     SSL_use_certificate(ssl.get(), leaf->certificate.get());
     SSL_use_PrivateKey(ssl.get(), leaf->key.get());
     const std::uint64_t number = ++m_lastConnection;
@@ -230,9 +231,53 @@ Response Simulator::answer(Station& station, std::uint64_t connection, const Req
     const int console = station.console.index();
     ++station.statistics.requests;
     record(console, connection, request);
+    const bool swaps =
+        station.swap != Swap::Never && station.console.kindOf(request).area == RequestKind::Area::SessionCheck;
+    if (swaps) {
+        station.console.expireSessions();
+    }
     Response response = station.console.answer(request, faultsOf(console), address((console + 1) % consoleCount()));
+    if (swaps) {
+        swapLeaf(station, connection, response);
+    }
     response.delay = std::chrono::milliseconds(m_settings.latency);
     return response;
+}
+
+// Leaves the client no other connection to log on over than one that shows the other certificate.
+void Simulator::swapLeaf(Station& station, std::uint64_t connection, Response& response)
+{
+    response.ending = Ending::Close;
+    if (station.swap == Swap::Always) {
+        station.showsOther = true;
+    } else {
+        station.console.changeLeaf(Leaf::Kind::Valid);
+        station.swap = Swap::Never;
+    }
+    std::vector<Connection*> others;
+    for (const auto& [number, each] : station.connections) {
+        if (number != connection) {
+            others.push_back(each.get());
+        }
+    }
+    for (Connection* each : others) {
+        each->close();
+    }
+}
+
+void Simulator::swapAtLogon(int console, Swap swap)
+{
+    Station& swapping = station(console);
+    swapping.swap = swap;
+    swapping.showsOther = false;
+    if (swap == Swap::Always && !swapping.other) {
+        swapping.other = makeLeaf(swapping.console.address(), Leaf::Kind::Valid);
+    }
+}
+
+void Simulator::changeInventory(int console, const std::function<void(Inventory&)>& change)
+{
+    station(console).console.changeInventory(change);
 }
 
 void Simulator::record(int console, std::uint64_t connection, const SentRequest& request)

@@ -9,6 +9,7 @@
 #include "Simulator/Receiver.h"
 
 #include <deque>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -33,11 +34,13 @@ public:
     const Settings& settings() const { return m_settings; }
     int consoleCount() const { return static_cast<int>(m_stations.size()); }
     const std::string& address(int console) const;
+    const Inventory& inventory(int console) const { return station(console).console.inventory(); }
 
     void setFault(const Fault& fault);
     /// Removes the fault that `setFault` was given.
     void clearFault(const Fault& fault);
     void clearFaults();
+    const std::vector<Fault>& faults() const { return m_faults; }
     /// Applies to every request from now on, also on existing connections.
     void setLatency(int milliseconds) { m_settings.latency = milliseconds; }
     /// Applies to connections that are made from now on.
@@ -45,6 +48,14 @@ public:
     /// Serves the text in place of the console's own feed. Without a text, serves the console's own feed again.
     void setFeed(int console, const std::string& type, std::optional<std::string> text);
 
+    /// Lets the function change what the console says from now on.
+    void changeInventory(int console, const std::function<void(Inventory&)>& change);
+    /// Shows another certificate to the logon than to the session check before it, and ends the session so that there
+    /// is a logon. `Once` keeps the new certificate afterwards; `Always` is back to the old one for the next attempt.
+    enum class Swap { Never, Once, Always };
+    void swapAtLogon(int console, Swap swap);
+
+    void closeConnections(int console) { closeConnections(station(console)); }
     /// Stops listening and closes the connections. Does nothing to a stopped console.
     void stopConsole(int console);
     /// Listens on the same address again. Does nothing to a running console.
@@ -67,6 +78,9 @@ private:
         int listener = -1;
         EventLoop::Watch watch = 0;
         std::unordered_map<std::uint64_t, std::unique_ptr<Connection>> connections;
+        Swap swap = Swap::Never;
+        std::shared_ptr<const Leaf> other; ///< what `Swap::Always` shows to logons
+        bool showsOther = false;           ///< to the next connection alone
         Statistics statistics;
     };
 
@@ -81,6 +95,7 @@ private:
     int farEnd(int descriptor);
     void adopt(Station& station, int descriptor);
     void bury(Station& station, std::uint64_t number);
+    void swapLeaf(Station& station, std::uint64_t connection, Response& response);
     Response answer(Station& station, std::uint64_t connection, const Request& request);
     void record(int console, std::uint64_t connection, const SentRequest& request);
     std::vector<Fault> faultsOf(int console) const;

@@ -60,6 +60,9 @@ public:
     void stopConsole(int console) { command("stop " + std::to_string(console)); }
     void startConsole(int console) { command("start " + std::to_string(console)); }
 
+    /// Moves the clock of the settings' story by so many seconds; what was due by then has happened.
+    void advanceStory(int seconds) { command("advance " + std::to_string(seconds)); }
+
     /// The requests of one console or of all, in the order in which they arrived.
     std::vector<RecordedRequest> requests(std::optional<int> console = std::nullopt);
     void clearRequests() { command("clear-requests"); }

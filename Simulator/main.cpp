@@ -6,6 +6,7 @@
 #include <csignal>
 #include <exception>
 #include <iostream>
+#include <optional>
 #include <sys/epoll.h>
 #include <system_error>
 #include <unistd.h>
@@ -46,7 +47,14 @@ int serve(const CommandLine& line)
 {
     EventLoop loop;
     Simulator simulator(loop, line.settings);
-    Control control(loop, simulator);
+    std::optional<StoryTeller> story;
+    if (!line.settings.story.empty()) {
+        story.emplace(loop, simulator);
+    }
+    Control control(loop, simulator, story ? &*story : nullptr);
+    if (story && !line.control) {
+        story->setNarrator([](const std::string& told) { std::cout << told << std::endl; });
+    }
     watchInput(loop, control, line.control);
     std::cout << control.greeting() << std::flush;
     loop.run();
@@ -61,7 +69,7 @@ int main(int argc, char** argv)
     try {
         const CommandLine line = parseArguments(std::vector<std::string>(argv + 1, argv + argc));
         if (line.help) {
-            std::cout << helpText() << faultHelp();
+            std::cout << helpText() << faultHelp() << storyHelp();
             return 0;
         }
         return serve(line);
