@@ -42,13 +42,14 @@ URLRequest withUrgency(URLRequest request, Urgency urgency)
 class Logon : public std::enable_shared_from_this<Logon>
 {
 public:
-    Logon(const RESTHandler& handler, CorvelRef corvel, RXPromise<SessionKey> promise, Urgency urgency)
+    Logon(const RESTHandler& handler, CorvelRef corvel, RXPromise<SessionKey> promise, const Asking& asking)
         : m_queue(handler.queue()),
           m_corvel(std::move(corvel)),
           m_name(shownText(m_corvel->name())),
           m_address(m_corvel->address()),
-          m_logonRequest(withUrgency(handler.loginRequestForCorvel(*m_corvel), urgency)),
+          m_logonRequest(withUrgency(handler.loginRequestForCorvel(*m_corvel), asking.urgency)),
           m_promise(std::move(promise)),
+          m_log(asking.log),
           m_feedsToCome(expectRequests(m_logonRequest.url, connectionsToCome))
     {
     }
@@ -56,10 +57,14 @@ public:
     /// Tries the key. When the console no longer accepts it, logs on again.
     void checkSession(URLRequest checkRequest, std::string key)
     {
+        checkRequest.urgency = m_logonRequest.urgency;
+        const ExchangeEntry entry(m_log, Exchange::Kind::SessionCheck, {}, checkRequest);
         std::make_shared<CorvelRequest>()->sendRequest(
-            withUrgency(std::move(checkRequest), m_logonRequest.urgency), m_queue,
-            [self = shared_from_this(), key = std::move(key)](const URLResponse* response, const std::string*,
-                                                              const Error* error) {
+            std::move(checkRequest), m_queue,
+            [self = shared_from_this(), key = std::move(key), entry](const URLResponse* response,
+                                                                     const std::string* data, const Error* error) {
+                entry.close(response != nullptr ? response->statusCode : 0, data != nullptr ? data->size() : 0,
+                            error != nullptr ? std::optional(*error) : std::nullopt);
                 if (error == nullptr && response->statusCode == 200) {
                     LODESTAR_LOG(sourceFile, loginMethod, "Session is valid for Corvel: {}", self->m_name);
                     self->m_promise.fulfillWithValue(key);
@@ -72,10 +77,13 @@ public:
 
     void logOnAcceptingAnyServer()
     {
+        URLRequest request = m_logonRequest;
+        const ExchangeEntry entry(m_log, Exchange::Kind::Logon, {}, request);
         std::make_shared<CorvelRequest>()->sendRequest(
-            m_logonRequest, m_queue,
-            [self = shared_from_this()](const URLResponse* response, std::string* data, const Error* error) {
-                self->answered(error != nullptr ? Result<URLLoad>(*error) : URLLoad{*response, std::move(*data)});
+            std::move(request), m_queue,
+            [self = shared_from_this(), entry](const URLResponse* response, std::string* data, const Error* error) {
+                self->answered(error != nullptr ? Result<URLLoad>(*error) : URLLoad{*response, std::move(*data)},
+                               entry);
             });
     }
 
@@ -84,13 +92,17 @@ private:
     /// is meant: the session check just made has shown which certificate the console has.
     void logOnPlainly()
     {
-        sendAsynchronousRequest(m_logonRequest, m_queue,
-                                [self = shared_from_this()](const Result<URLLoad>& load) { self->answered(load); });
+        URLRequest request = m_logonRequest;
+        const ExchangeEntry entry(m_log, Exchange::Kind::Logon, {}, request);
+        sendAsynchronousRequest(
+            std::move(request), m_queue,
+            [self = shared_from_this(), entry](const Result<URLLoad>& load) { self->answered(load, entry); });
     }
 
-    void answered(const Result<URLLoad>& load)
+    void answered(const Result<URLLoad>& load, const ExchangeEntry& entry)
     {
         if (!load || load.value().response.statusCode != 200) {
+            entry.close(load);
             logFailure(causeOf(load));
             if (load) {
                 m_promise.rejectWithReason(logonRefusal(load.value().response.statusCode));
@@ -101,10 +113,12 @@ private:
         }
         const Result<SessionKey> key = sessionKeyOfAnswer(load.value().body);
         if (!key) {
+            entry.close(load, key.error());
             logFailure(description(key.error()));
             m_promise.rejectWithReason(key.error());
             return;
         }
+        entry.close(load, key.value() ? std::nullopt : std::optional(missingKeyError()));
         if (!key.value()) {
             logFailure("status 200 without a session key");
         }
@@ -145,6 +159,7 @@ private:
     const std::optional<std::string> m_address;
     const URLRequest m_logonRequest;
     const RXPromise<SessionKey> m_promise;
+    const std::shared_ptr<ExchangeLog> m_log;
     const std::shared_ptr<void> m_feedsToCome;
 };
 
@@ -237,7 +252,7 @@ URLRequest RESTHandler::sessionValidRequestWithToken(const std::string& token, c
     return request;
 }
 
-RXPromise<SessionKey> RESTHandler::login(const CorvelRef& corvel, CheckToken checkToken, Urgency urgency)
+RXPromise<SessionKey> RESTHandler::login(const CorvelRef& corvel, CheckToken checkToken, const Asking& asking)
 {
     RXPromise<SessionKey> promise;
     if (corvel->demo() == 1) {
@@ -252,7 +267,7 @@ RXPromise<SessionKey> RESTHandler::login(const CorvelRef& corvel, CheckToken che
         return promise;
     }
     LODESTAR_LOG(sourceFile, loginMethod, "Corvel: {}, just used firstOpen case", name);
-    const auto logon = std::make_shared<Logon>(*this, corvel, promise, urgency);
+    const auto logon = std::make_shared<Logon>(*this, corvel, promise, asking);
     if (stored) {
         LODESTAR_LOG(sourceFile, loginMethod, "{}'s Corvel's saved token is not nil", name);
         logon->checkSession(sessionValidRequestWithToken(*stored, *corvel), *stored);

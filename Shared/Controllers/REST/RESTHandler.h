@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Application/Model/Corvel.h"
+#include "Controllers/REST/Exchange.h"
 #include "Controllers/REST/RXPromise.h"
 #include "Controllers/REST/SessionKey.h"
 #include "Inventory/Feed.h"
@@ -49,14 +50,14 @@ public:
     URLRequest sessionValidRequestWithToken(const std::string& token, const Corvel& corvel) const;
     /// The session key for the console's requests. Rejected when the logon fails. While the key is checked or fetched,
     /// connections for the console's feeds are made ready.
-    RXPromise<SessionKey> login(const CorvelRef& corvel, CheckToken checkToken, Urgency urgency = Urgency::Person);
+    RXPromise<SessionKey> login(const CorvelRef& corvel, CheckToken checkToken, const Asking& asking = {});
 
     /// The root of one feed. Rejected when the request fails or ends with a status other than 200.
     RXPromise<XMLElement> fetchDataOfType(std::string_view type, const CorvelRef& corvel, std::string_view schema,
-                                          const SessionKey& key, Urgency urgency = Urgency::Person);
+                                          const SessionKey& key, const Asking& asking = {});
     /// Fetches all six feeds in parallel. Never rejected: a feed that failed is "NA".
     RXPromise<std::shared_ptr<const FeedDictionary>>
-    fetchAllDataForCorvel(const CorvelRef& corvel, const SessionKey& key, Urgency urgency = Urgency::Person);
+    fetchAllDataForCorvel(const CorvelRef& corvel, const SessionKey& key, const Asking& asking = {});
     /// Counts the managed systems in error and those with a lit attention LED, and stores both numbers in the record.
     /// Always fulfilled with "OK".
     RXPromise<std::string> processInformationForCorvel(const CorvelRef& corvel);

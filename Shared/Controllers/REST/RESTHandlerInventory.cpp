@@ -53,27 +53,34 @@ std::size_t keptFor(const Corvel& corvel)
 }
 
 /// Settles the promise with the root of a feed's answer. `label` names the feed in the log.
-void settle(const RXPromise<XMLElement>& promise, const Result<URLLoad>& load, const std::string& label)
+void settle(const RXPromise<XMLElement>& promise, const Result<URLLoad>& load, const std::string& label,
+            const ExchangeEntry& entry)
 {
     const auto logFailure = [&label](const std::string& cause) {
         LODESTAR_LOG(sourceFile, "-[RESTHandler fetchDataOfType:corvel:schema:key:]", "Feed failed: {}: {}", label,
                      cause);
     };
     if (!load) {
+        entry.close(load);
         logFailure(causeOf(load));
         promise.rejectWithReason(load.error());
         return;
     }
     if (load.value().response.statusCode != 200) {
+        entry.close(load);
         logFailure(causeOf(load));
         promise.rejectWithReason();
         return;
     }
     Result<XMLElement> root = XMLElement::parse(load.value().body);
     if (!root) {
+        entry.close(load, root.error());
         logFailure(description(root.error()));
         promise.rejectWithReason(root.error());
         return;
+    }
+    if (entry.isWanted()) {
+        entry.close(load, std::nullopt, Feed(root.value()).entryCount());
     }
     promise.fulfillWithValue(std::move(root).value());
 }
@@ -81,7 +88,7 @@ void settle(const RXPromise<XMLElement>& promise, const Result<URLLoad>& load, c
 } // namespace
 
 RXPromise<XMLElement> RESTHandler::fetchDataOfType(std::string_view type, const CorvelRef& corvel,
-                                                   std::string_view schema, const SessionKey& key, Urgency urgency)
+                                                   std::string_view schema, const SessionKey& key, const Asking& asking)
 {
     RXPromise<XMLElement> promise;
     if (corvel->demo() == 1) {
@@ -91,28 +98,29 @@ RXPromise<XMLElement> RESTHandler::fetchDataOfType(std::string_view type, const 
     URLRequest request;
     request.url = consoleURL(*corvel, schema, type);
     request.timeout = feedTimeout;
-    request.urgency = urgency;
+    request.urgency = asking.urgency;
     if (key) {
         request.headers.setValue("X-API-Session", *key);
     }
     request.headers.addValue("Accept", "application/atom+xml");
+    const ExchangeEntry entry(asking.log, Exchange::Kind::Feed, type, request);
     sendAsynchronousRequest(std::move(request), m_queue,
-                            [promise, label = fmt::format("{} of {}", type, shownText(corvel->name()))](
-                                const Result<URLLoad>& load) { settle(promise, load, label); });
+                            [promise, entry, label = fmt::format("{} of {}", type, shownText(corvel->name()))](
+                                const Result<URLLoad>& load) { settle(promise, load, label, entry); });
     return promise;
 }
 
 RXPromise<std::shared_ptr<const FeedDictionary>>
-RESTHandler::fetchAllDataForCorvel(const CorvelRef& corvel, const SessionKey& key, Urgency urgency)
+RESTHandler::fetchAllDataForCorvel(const CorvelRef& corvel, const SessionKey& key, const Asking& asking)
 {
     RXPromise<std::shared_ptr<const FeedDictionary>> promise;
-    const auto fetch = [this, promise, corvel, key, urgency](std::shared_ptr<KeptRoom::Share> room) {
+    const auto fetch = [this, promise, corvel, key, asking](std::shared_ptr<KeptRoom::Share> room) {
         const auto collector = std::make_shared<FeedCollector>(std::move(room));
         std::vector<RXPromise<std::string>> continuations;
         continuations.reserve(feedTable.size());
         for (const auto& [type, schema] : feedTable) {
             // Both handlers return a text, so that one unreachable feed does not fail the whole.
-            continuations.push_back(fetchDataOfType(type, corvel, schema, key, urgency)
+            continuations.push_back(fetchDataOfType(type, corvel, schema, key, asking)
                                         .then(
                                             [collector, type = type](XMLElement root) {
                                                 collector->set(type, Feed(std::move(root)));
@@ -127,7 +135,7 @@ RESTHandler::fetchAllDataForCorvel(const CorvelRef& corvel, const SessionKey& ke
             promise.fulfillWithValue(collector->take());
         });
     };
-    KeptRoom::whenThereIs(keptFor(*corvel), urgency, fetch);
+    KeptRoom::whenThereIs(keptFor(*corvel), asking.urgency, fetch);
     return promise;
 }
 

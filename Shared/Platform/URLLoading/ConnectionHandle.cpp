@@ -24,8 +24,10 @@ ConnectionHandle ConnectionHandle::make(const std::string& url, Handshake handsh
     if (easy == nullptr) {
         return handle;
     }
+    handle.handshake = std::make_unique<HandshakeBeginning>();
     if (handshake == Handshake::Held) {
         handle.hold = std::make_shared<HandshakeHold>();
+        handle.handshake->hold = handle.hold.get();
         curl().easySetopt(easy, CURLOPT_FRESH_CONNECT, 1L);
         curl().easySetopt(easy, CURLOPT_PREREQFUNCTION, &sendNothing);
     }
@@ -47,7 +49,7 @@ ConnectionHandle ConnectionHandle::make(const std::string& url, Handshake handsh
     // Each hop has its own handle, so cached TLS sessions would never be used.
     curl().easySetopt(easy, CURLOPT_SSL_SESSIONID_CACHE, 0L);
     curl().easySetopt(easy, CURLOPT_SSL_CTX_FUNCTION, curl().secureConnection);
-    curl().easySetopt(easy, CURLOPT_SSL_CTX_DATA, handle.hold.get());
+    curl().easySetopt(easy, CURLOPT_SSL_CTX_DATA, handle.handshake.get());
     curl().easySetopt(easy, CURLOPT_CONNECTTIMEOUT, secondsToConnect);
     return handle;
 }

@@ -16,7 +16,8 @@ struct ConnectionHandle {
     enum class Handshake { Whole, Held };
 
     std::shared_ptr<HandshakeHold> hold; ///< null when the handshake is not held
-    CurlEasy easy;                       ///< null when memory is out
+    std::unique_ptr<HandshakeBeginning> handshake;
+    CurlEasy easy; ///< null when memory is out
 
     static ConnectionHandle make(const std::string& url, Handshake handshake);
 };

@@ -47,7 +47,7 @@ std::optional<ConnectionHandle> ConnectionsAhead::take(const std::string& server
     if (open.empty()) {
         m_servers.erase(found);
     }
-    handle.hold->released = true;
+    handle.hold->release();
     return handle;
 }
 
@@ -92,7 +92,7 @@ bool ConnectionsAhead::closeOld(CURLM* multi, Clock::time_point now)
         while (!open.empty() && open.front().closes <= now) {
             ConnectionHandle& handle = open.front().handle;
             if (handle.hold->reached) {
-                handle.hold->released = true;
+                handle.hold->release();
                 m_closing.push_back(std::move(handle));
             } else {
                 curl().multiRemoveHandle(multi, handle.easy.get());

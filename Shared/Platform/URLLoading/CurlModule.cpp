@@ -6,6 +6,7 @@
 #include <openssl/ssl.h>
 
 #include <cstdlib>
+#include <string_view>
 
 namespace
 {
@@ -28,6 +29,13 @@ bool hasCloseNotice(const ssl_st* connection)
 std::uint64_t wireBytes(ssl_st* connection)
 {
     return BIO_number_read(SSL_get_rbio(connection));
+}
+
+std::string tlsVersion(const ssl_st* connection)
+{
+    constexpr std::string_view protocol = "TLSv";
+    const std::string_view version = connection != nullptr ? SSL_get_version(connection) : "";
+    return std::string(version.starts_with(protocol) ? version.substr(protocol.size()) : version);
 }
 
 } // namespace
@@ -63,6 +71,7 @@ const lodestar::CurlModule* lodestar_curl_module()
         .certificateOfConnection = &ServerCertificate::ofConnection,
         .hasCloseNotice = &hasCloseNotice,
         .wireBytesOfConnection = &wireBytes,
+        .tlsVersionOfConnection = &tlsVersion,
         .secureConnection = &HandshakeHold::secureConnection,
     };
     return &module;

@@ -49,6 +49,8 @@ struct CurlModule {
     bool (*hasCloseNotice)(const ssl_st* connection);
     /// Bytes that a TLS connection has received since it was opened, TLS's own bytes included.
     std::uint64_t (*wireBytesOfConnection)(ssl_st* connection);
+    /// TLS's version on a connection: "1.3".
+    std::string (*tlsVersionOfConnection)(const ssl_st* connection);
     decltype(&HandshakeHold::secureConnection) secureConnection;
 };
 

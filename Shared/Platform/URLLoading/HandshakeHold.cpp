@@ -31,6 +31,7 @@ int certificateShown(X509_STORE_CTX* store, void*)
     if (holder != nullptr) {
         const Holder hold = *holder;
         hold->reached = true;
+        hold->reachedAt = HandshakeHold::Clock::now();
         while (!hold->released && ASYNC_get_current_job() != nullptr) {
             ASYNC_pause_job();
         }
@@ -41,15 +42,17 @@ int certificateShown(X509_STORE_CTX* store, void*)
 
 } // namespace
 
-CURLcode HandshakeHold::secureConnection(CURL*, void* context, void* hold)
+CURLcode HandshakeHold::secureConnection(CURL*, void* context, void* beginning)
 {
+    auto& begun = *static_cast<HandshakeBeginning*>(beginning);
+    begun.at = Clock::now();
     auto* const settings = static_cast<SSL_CTX*>(context);
     // Kept connections are mostly idle, and there may be thousands: OpenSSL must not keep buffers for them.
     SSL_CTX_set_mode(settings, SSL_MODE_RELEASE_BUFFERS);
     SSL_CTX_set_cert_verify_callback(settings, &certificateShown, nullptr);
-    if (hold != nullptr && isPossible) {
+    if (begun.hold != nullptr && isPossible) {
         SSL_CTX_set_mode(settings, SSL_MODE_ASYNC);
-        auto holder = std::make_unique<Holder>(static_cast<HandshakeHold*>(hold)->shared_from_this());
+        auto holder = std::make_unique<Holder>(begun.hold->shared_from_this());
         if (SSL_CTX_set_ex_data(settings, holderIndex(), holder.get()) != 1) {
             return CURLE_OUT_OF_MEMORY;
         }

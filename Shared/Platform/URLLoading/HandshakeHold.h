@@ -3,7 +3,9 @@
 
 #include <curl/curl.h>
 
+#include <chrono>
 #include <memory>
+#include <optional>
 
 namespace lodestar
 {
@@ -21,13 +23,37 @@ struct HandshakeHold : std::enable_shared_from_this<HandshakeHold> {
     static constexpr bool isPossible = true;
 #endif
 
+    using Clock = std::chrono::steady_clock;
+
     bool released = false;
     bool reached = false; ///< the handshake is paused at the hold, or has passed it
+    Clock::time_point reachedAt;
+    Clock::time_point releasedAt;
 
-    /// Sets up TLS for a connection that libcurl makes. Pass it to libcurl as CURLOPT_SSL_CTX_FUNCTION. `hold` is a
-    /// `HandshakeHold` that a shared pointer owns, or null for a handshake without a pause. Lives in the module that
-    /// knows OpenSSL; call it through the module's table, see CurlModule.h.
-    static CURLcode secureConnection(CURL* easy, void* context, void* hold);
+    void release()
+    {
+        released = true;
+        releasedAt = Clock::now();
+    }
+    /// How long the handshake stood still; valid once it was released and reached the hold.
+    std::chrono::microseconds heldFor() const
+    {
+        return reached && releasedAt > reachedAt
+                   ? std::chrono::duration_cast<std::chrono::microseconds>(releasedAt - reachedAt)
+                   : std::chrono::microseconds(0);
+    }
+
+    /// Sets up TLS for a connection that libcurl makes. Pass it to libcurl as CURLOPT_SSL_CTX_FUNCTION; `beginning` is
+    /// a `HandshakeBeginning`. Lives in the module that knows OpenSSL; call it through the module's table, see
+    /// CurlModule.h.
+    static CURLcode secureConnection(CURL* easy, void* context, void* beginning);
+};
+
+/// What one connection's handshake begins with.
+struct HandshakeBeginning {
+    HandshakeHold* hold = nullptr; ///< owned by a shared pointer; null for a handshake without a pause
+    /// When the server was reached and the handshake began. libcurl tells it only of handshakes that succeeded.
+    std::optional<HandshakeHold::Clock::time_point> at;
 };
 
 } // namespace lodestar

@@ -67,6 +67,7 @@ std::string Transfer::serverOf(const std::string& url)
 bool Transfer::start(std::optional<ConnectionHandle> ahead)
 {
     m_started = Clock::now();
+    m_recorder.started(m_made, m_started);
     m_clocksStart = urgency() == Urgency::Person ? m_made : m_started;
     m_lastProgress = m_clocksStart;
     return prepareHop(std::move(ahead));
@@ -85,6 +86,7 @@ bool Transfer::prepareHop(std::optional<ConnectionHandle> ahead)
     m_response = {};
     m_inBody = false;
     m_hasCloseNotice = false;
+    m_isOnKeptConnection = false;
     m_origin = Origin::ofURL(m_request.url);
     if (m_origin && ahead) {
         m_connection = std::move(*ahead);
@@ -111,16 +113,19 @@ bool Transfer::prepareHop(std::optional<ConnectionHandle> ahead)
     return true;
 }
 
-/// A server may close a connection made ahead while it is idle. libcurl retries by itself for kept connections only.
-bool Transfer::lostConnectionAhead() const
+/// A server may close a connection made ahead while it is idle. libcurl retries by itself for kept connections only,
+/// and gives up after five of them: a server that was restarted has closed more.
+bool Transfer::lostIdleConnection() const
 {
-    return m_connection.hold != nullptr && m_received == 0 && !m_refusal;
+    const bool lostKept = m_isOnKeptConnection && m_request.method == "GET";
+    return (m_connection.hold != nullptr || lostKept) && m_received == 0 && !m_refusal;
 }
 
 bool Transfer::hopEnded(CURLcode result)
 {
     if (result != CURLE_OK) {
-        if (m_needsFreshConnection || lostConnectionAhead()) {
+        if (m_needsFreshConnection || lostIdleConnection()) {
+            m_needsFreshConnection = m_needsFreshConnection || m_isOnKeptConnection;
             return prepareHop();
         }
         end(errorOf(result));
@@ -163,9 +168,22 @@ void Transfer::end(std::optional<Error> error)
     if (const auto client = std::exchange(m_client, nullptr); client != nullptr) {
         m_paused = false;
         m_held.shrinkTo(m_bodyBytes);
+        tellRecord(error);
         const ThreadPool::UrgentScope forPerson(urgency() == Urgency::Person);
         client->didEnd(std::move(error), std::move(m_held));
     }
+}
+
+void Transfer::tellRecord(const std::optional<Error>& error)
+{
+    if (!m_request.ended) {
+        return;
+    }
+    TransferRecord record = m_recorder.ended(m_connection, m_made, Clock::now());
+    record.status = m_response.statusCode;
+    record.bytes = m_response.statusCode != 0 ? m_bodyBytes : 0;
+    record.error = error;
+    m_request.ended(record);
 }
 
 Error Transfer::errorOf(CURLcode result) const
@@ -207,6 +225,10 @@ bool Transfer::connectionReady()
     }
     m_unseenBefore = wireBytes() - static_cast<std::int64_t>(m_received);
     m_madeConnection = m_madeConnection || connections > 0;
+    m_isOnKeptConnection = connections == 0;
+    m_recorder.connected(m_connection,
+                         connections > 0 ? TransferRecord::Connection::Made : TransferRecord::Connection::Kept,
+                         connection(), *certificate, m_lastProgress);
     const Handshake handshake = connections > 0 ? Handshake::Fresh : Handshake::Reused;
     if (m_client->acceptsServer(*certificate, handshake)) {
         return true;
@@ -234,6 +256,7 @@ bool Transfer::headerLine(std::string_view line)
     if (line.starts_with("HTTP/")) {
         m_response = URLResponse{m_request.url, statusOfLine(line), {}, -1};
         m_answered = m_lastProgress;
+        m_recorder.answered(m_answered);
         m_inHeaders = true;
         return true;
     }
@@ -269,7 +292,11 @@ bool Transfer::headersComplete()
         refuse(URLErrorCode::BadServerResponse, "the body's length is not one number");
         return false;
     }
-    m_next = m_redirects < m_limits.redirects ? requestAfterResponse(m_request, m_response) : std::nullopt;
+    m_next = requestAfterResponse(m_request, m_response);
+    if (m_next && m_redirects >= m_limits.redirects) {
+        m_next.reset();
+        m_recorder.redirectedTooOften();
+    }
     if (number && encoding.empty()) {
         m_response.expectedContentLength = *number;
     }

@@ -5,6 +5,7 @@
 #include "Platform/URLLoading/HeldBytes.h"
 #include "Platform/URLLoading/ServerCertificate.h"
 #include "Platform/URLLoading/TransferLimits.h"
+#include "Platform/URLLoading/TransferRecorder.h"
 #include "Platform/URLLoading/URLError.h"
 #include "Platform/URLLoading/URLRequest.h"
 
@@ -102,13 +103,14 @@ public:
 
 private:
     bool prepareHop(std::optional<ConnectionHandle> ahead = std::nullopt);
-    bool lostConnectionAhead() const;
+    bool lostIdleConnection() const;
     void end(std::optional<Error> error);
     void refuse(URLErrorCode code, std::string reason = {});
     bool bodyIsWhole() const;
     Error errorOf(CURLcode result) const;
 
     bool connectionReady();
+    void tellRecord(const std::optional<Error>& error);
     bool headerLine(std::string_view line);
     bool headersComplete();
     bool bodyBytes(std::span<const char> bytes);
@@ -146,6 +148,7 @@ private:
     bool m_needsFreshConnection = false;
     bool m_retriedFresh = false;
     bool m_madeConnection = false;
+    bool m_isOnKeptConnection = false; ///< from when the hop has its connection
     bool m_leavesConnection = false;
     std::size_t m_headerBytes = 0;
     std::size_t m_bodyBytes = 0; ///< the current response's body bytes, as they came
@@ -162,7 +165,8 @@ private:
     bool m_inBody = false;            ///< true while the hop's last response brings its body
     std::optional<URLRequest> m_next; ///< set when the current response is a redirect to follow
     bool m_hasCloseNotice = false;    ///< the server has said that it sends no more
-    std::optional<Error> m_refusal;   ///< the reason when one of our callbacks stopped libcurl
+    TransferRecorder m_recorder;
+    std::optional<Error> m_refusal; ///< the reason when one of our callbacks stopped libcurl
 };
 
 } // namespace lodestar

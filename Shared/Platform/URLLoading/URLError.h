@@ -17,6 +17,7 @@ enum class URLErrorCode {
     CannotFindHost = -1003,
     CannotConnectToHost = -1004,
     NetworkConnectionLost = -1005,
+    TooManyRedirects = -1007,
     BadServerResponse = -1011,
     DataLengthExceedsMaximum = -1103,
     SecureConnectionFailed = -1200,

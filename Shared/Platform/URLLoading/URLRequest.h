@@ -38,6 +38,8 @@ private:
     std::vector<Field> m_fields;
 };
 
+struct TransferRecord;
+
 /// Who waits for a request's answer. A person in front of a screen goes before a refresh of the fleet.
 enum class Urgency { Fleet, Person };
 
@@ -57,6 +59,9 @@ struct URLRequest {
     /// Called repeatedly with the number of body bytes sent so far, on the thread that drives the transfer; must not
     /// block.
     std::function<void(std::size_t sent)> bodySent;
+    /// Called exactly once, when the transfer has ended and before its completion is told, on the thread that drives
+    /// the transfer; must not block. What fails later, such as the unpacking of the body, is not in the record.
+    std::function<void(const TransferRecord& record)> ended;
 };
 
 /// A server's answer without the body. Status 0 means that there is no response yet.
