@@ -25,13 +25,12 @@ std::optional<std::string> ManagedSystem::identifierAt(const Feed& feed, std::si
     return beside ? beside : recordOfEntry<ManagedSystem>(entries[place]).identifier();
 }
 
-Health ManagedSystem::health() const
+Health ManagedSystem::healthOfState(std::string_view state)
 {
-    const std::string words = state().value_or("");
-    if (words.find("error") != std::string::npos || words.find("incomplete") != std::string::npos) {
+    if (state.find("error") != std::string_view::npos || state.find("incomplete") != std::string_view::npos) {
         return Health::Error;
     }
-    return words == "operating" ? Health::Good : Health::Idle;
+    return state == "operating" ? Health::Good : Health::Idle;
 }
 
 } // namespace lodestar

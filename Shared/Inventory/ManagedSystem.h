@@ -38,7 +38,8 @@ public:
 
     /// Good for "operating"; an error for any state that contains "error" or "incomplete"; idle for all others. Case
     /// counts.
-    Health health() const;
+    Health health() const { return healthOfState(state().value_or("")); }
+    static Health healthOfState(std::string_view state);
     bool isAttentionLEDLit() const { return attentionLEDState() == "true"; }
 };
 

@@ -9,16 +9,15 @@ std::string Partition::systemNameLink() const
     return shownText(element().child("AssociatedManagedSystem").attribute("href")) + "/quick/SystemName";
 }
 
-Health Partition::health() const
+Health Partition::healthOfState(std::string_view state)
 {
-    const auto words = state();
-    if (words == "running") {
+    if (state == "running") {
         return Health::Good;
     }
-    if (words == "not activated") {
+    if (state == "not activated") {
         return Health::Idle;
     }
-    return words == "error" ? Health::Error : Health::Alert;
+    return state == "error" ? Health::Error : Health::Alert;
 }
 
 } // namespace lodestar

@@ -29,7 +29,8 @@ public:
 
     /// Good for "running", idle for "not activated", an error for "error"; any other state needs attention. Case
     /// counts.
-    Health health() const;
+    Health health() const { return healthOfState(state().value_or("")); }
+    static Health healthOfState(std::string_view state);
 };
 
 class LogicalPartition : public Partition

@@ -62,6 +62,12 @@ public:
     EventNode analyzingConsole() const { return EventNode(element().child("analyzingConsoleNode")); }
     std::vector<FieldReplaceableUnit> units() const;
 
+    /// Whether somebody still has to act. Case counts.
+    bool isOpen() const { return isOpenState(problemState().value_or("")); }
+    static bool isOpenState(std::string_view state) { return state == "Open"; }
+    /// Whether the console reports the event to its maker by itself.
+    bool callsHome() const { return callHomeEnabled() == "true"; }
+
     /// The approval state and the number, as in "Approved (#1042)". Lists show and search this text. A missing field is
     /// empty.
     std::string title() const;
