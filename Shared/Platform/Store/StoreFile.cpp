@@ -83,15 +83,15 @@ Result<Identity> readIdentity(const std::string& path)
     return Identity{bigEndian(header, applicationIdOffset), bigEndian(header, userVersionOffset)};
 }
 
-Result<void> checkIdentity(const Identity& identity, const ManagedObjectModel& model)
+Result<void> checkIdentity(const Identity& identity, const StoreLayout& layout)
 {
     if (identity.applicationId != applicationId) {
         return makeError(SQLITE_NOTADB, "The file is a database of another application.");
     }
-    if (identity.userVersion != model.version) {
+    if (identity.userVersion != layout.version) {
         return makeError(SQLITE_SCHEMA, "The store was written by an incompatible model.",
                          "model version " + std::to_string(identity.userVersion) + ", expected " +
-                             std::to_string(model.version));
+                             std::to_string(layout.version));
     }
     return {};
 }
@@ -105,7 +105,7 @@ bool isFilled(const std::string& path)
 
 enum class Presence { Missing, Present };
 
-Result<Presence> checkFile(const std::string& path, const ManagedObjectModel& model)
+Result<Presence> checkFile(const std::string& path, const StoreLayout& layout)
 {
     struct stat status {
     };
@@ -127,7 +127,7 @@ Result<Presence> checkFile(const std::string& path, const ManagedObjectModel& mo
     if (!identity) {
         return identity.error();
     }
-    if (const Result<void> checked = checkIdentity(identity.value(), model); !checked) {
+    if (const Result<void> checked = checkIdentity(identity.value(), layout); !checked) {
         return checked.error();
     }
     return Presence::Present;
@@ -193,7 +193,7 @@ private:
 
 /// Makes the complete store under another name and moves it into place, so that a process that dies in between leaves
 /// either no store or a whole one.
-Result<void> createStore(const std::string& path, const ManagedObjectModel& model)
+Result<void> createStore(const std::string& path, const StoreLayout& layout)
 {
     const std::string folder = fs::path(path).parent_path().string();
     if (const Result<void> made = makePrivateFolder(folder); !made) {
@@ -207,11 +207,11 @@ Result<void> createStore(const std::string& path, const ManagedObjectModel& mode
         SQLite::Database database(scratch.path(), SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX);
         database.exec("PRAGMA synchronous=FULL");
         SQLite::Transaction transaction(database);
-        for (const std::string& statement : schemaStatements(model)) {
+        for (const std::string& statement : layout.statements) {
             database.exec(statement);
         }
         database.exec("PRAGMA application_id=" + std::to_string(applicationId));
-        database.exec("PRAGMA user_version=" + std::to_string(model.version));
+        database.exec("PRAGMA user_version=" + std::to_string(layout.version));
         transaction.commit();
     }
     if (const int number = scratch.moveTo(path); number != 0) {
@@ -221,14 +221,14 @@ Result<void> createStore(const std::string& path, const ManagedObjectModel& mode
     return {};
 }
 
-Result<void> checkSchema(const SQLite::Database& database, const ManagedObjectModel& model)
+Result<void> checkSchema(const SQLite::Database& database, const StoreLayout& layout)
 {
     std::vector<std::string> found;
     SQLite::Statement query(database, "SELECT sql FROM sqlite_master WHERE sql IS NOT NULL ORDER BY rowid");
     while (query.executeStep()) {
         found.push_back(query.getColumn(0).getString());
     }
-    if (found != schemaStatements(model)) {
+    if (found != layout.statements) {
         return makeError(SQLITE_CORRUPT, "The store's tables are not those of its model.");
     }
     return {};
@@ -236,15 +236,15 @@ Result<void> checkSchema(const SQLite::Database& database, const ManagedObjectMo
 
 /// Makes every check that may refuse the store; only reads. The pages are checked at each start because a failed fetch
 /// later would look like an empty registry.
-Result<void> verify(SQLite::Database& database, const ManagedObjectModel& model)
+Result<void> verify(SQLite::Database& database, const StoreLayout& layout)
 {
     database.exec("PRAGMA trusted_schema=OFF; PRAGMA cell_size_check=ON");
     const Identity identity{database.execAndGet("PRAGMA application_id").getInt(),
                             database.execAndGet("PRAGMA user_version").getInt()};
-    if (Result<void> checked = checkIdentity(identity, model); !checked) {
+    if (Result<void> checked = checkIdentity(identity, layout); !checked) {
         return checked;
     }
-    if (Result<void> checked = checkSchema(database, model); !checked) {
+    if (Result<void> checked = checkSchema(database, layout); !checked) {
         return checked;
     }
     if (const std::string damage = database.execAndGet("PRAGMA integrity_check(1)").getString(); damage != "ok") {
@@ -283,7 +283,7 @@ void makePrivate(const std::string& path)
     }
 }
 
-Result<std::unique_ptr<SQLite::Database>> connect(const std::string& path, const ManagedObjectModel& model)
+Result<std::unique_ptr<SQLite::Database>> connect(const std::string& path, const StoreLayout& layout)
 {
     const bool hasLog = isFilled(path + "-wal");
     auto database =
@@ -292,7 +292,7 @@ Result<std::unique_ptr<SQLite::Database>> connect(const std::string& path, const
     // changed that way. Without a log the switch must stay off, because with it closing would leave an empty log
     // behind.
     setCheckpointOnClose(*database, !hasLog);
-    if (const Result<void> verified = verify(*database, model); !verified) {
+    if (const Result<void> verified = verify(*database, layout); !verified) {
         return verified.error();
     }
     if (const Result<void> configured = configure(*database); !configured) {
@@ -327,6 +327,15 @@ Error storeError(const std::bad_alloc& /*exception*/)
 
 Result<std::unique_ptr<SQLite::Database>> openStoreFile(const std::string& path, const ManagedObjectModel& model)
 {
+    try {
+        return openStoreFile(path, StoreLayout{schemaStatements(model), model.version});
+    } catch (const std::bad_alloc& exception) {
+        return storeError(exception);
+    }
+}
+
+Result<std::unique_ptr<SQLite::Database>> openStoreFile(const std::string& path, const StoreLayout& layout)
+{
     sqlite3_initialize();
     try {
         std::error_code code;
@@ -334,16 +343,16 @@ Result<std::unique_ptr<SQLite::Database>> openStoreFile(const std::string& path,
         if (code || path.empty()) {
             return makeError(SQLITE_CANTOPEN, "The store has no place.");
         }
-        const Result<Presence> presence = checkFile(absolute, model);
+        const Result<Presence> presence = checkFile(absolute, layout);
         if (!presence) {
             return presence.error();
         }
         if (presence.value() == Presence::Missing) {
-            if (const Result<void> created = createStore(absolute, model); !created) {
+            if (const Result<void> created = createStore(absolute, layout); !created) {
                 return created.error();
             }
         }
-        return connect(absolute, model);
+        return connect(absolute, layout);
     } catch (const SQLite::Exception& exception) {
         return storeError(exception);
     } catch (const std::bad_alloc& exception) {

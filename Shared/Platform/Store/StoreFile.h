@@ -9,9 +9,16 @@
 #include <memory>
 #include <new>
 #include <string>
+#include <vector>
 
 namespace lodestar
 {
+
+/// What a store's file must hold.
+struct StoreLayout {
+    std::vector<std::string> statements; ///< one for each table and index, in order of creation; compared text by text
+    int version = 1;                     ///< another one is refused with `SQLITE_SCHEMA`
+};
 
 /// Opens the model's store at the path, or makes an empty store when nothing is there: the file 0600, a missing folder
 /// 0700. The connection has passed an integrity check and is set up for one thread.
@@ -20,6 +27,7 @@ namespace lodestar
 /// file, an empty file, a file that is no store of this model, a damaged store, a store that cannot be written, a log
 /// whose main file is missing.
 Result<std::unique_ptr<SQLite::Database>> openStoreFile(const std::string& path, const ManagedObjectModel& model);
+Result<std::unique_ptr<SQLite::Database>> openStoreFile(const std::string& path, const StoreLayout& layout);
 
 /// Moves the write-ahead log into the main file and cuts the log to nothing. Until then the log keeps earlier versions
 /// of pages, deleted passwords included. False when that failed; the store is then as good as before.
