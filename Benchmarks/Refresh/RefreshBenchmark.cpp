@@ -3,6 +3,7 @@
 #include "Benchmarks/Program.h"
 #include "Benchmarks/Refresh/ProgramRun.h"
 #include "Controllers/REST/RESTHandler.h"
+#include "Fleet/Registry.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/URLLoading/ServerTrust.h"
 #include "Platform/UserDefaults.h"
@@ -102,6 +103,37 @@ int refreshAll(const std::string& path)
     getrusage(RUSAGE_SELF, &usage);
     std::ofstream(path + ".memory") << static_cast<double>(usage.ru_maxrss) * 1024 << ' ' << retained << '\n';
     return 0;
+}
+
+/// The chain of a refresh as it was before readings were made of it.
+RXPromise<std::string> fetchWithoutReading(const CorvelRef& corvel)
+{
+    auto& handler = RESTHandler::sharedInstance();
+    return handler.login(corvel, CheckToken::Yes, Urgency::Fleet)
+        .then([corvel, &handler](const SessionKey& key) {
+            return handler.fetchAllDataForCorvel(corvel, key, Urgency::Fleet);
+        })
+        .then([corvel, &handler](const std::shared_ptr<const FeedDictionary>& feeds) {
+            corvel->setRestData(feeds);
+            return handler.processInformationForCorvel(corvel);
+        });
+}
+
+/// Refreshes every console from the session check on, with or without readings.
+int refreshChains(const std::string& path, bool withReadings)
+{
+    std::vector<CorvelRef> corvels;
+    std::vector<RXPromise<std::string>> refreshes;
+    for (const Console& console : readConsoles(path)) {
+        auto corvel = std::make_shared<Corvel>();
+        corvel->setName(console.address);
+        corvel->setAddress(console.address);
+        refreshes.push_back(withReadings ? fetchInventory(corvel, Urgency::Fleet) : fetchWithoutReading(corvel));
+        corvels.push_back(std::move(corvel));
+    }
+    const auto all = RXPromise<std::string>::all(refreshes);
+    MainQueue::shared().runUntil([&all] { return !all.isPending(); }, std::chrono::minutes(10));
+    return all.isFulfilled() ? 0 : 1;
 }
 
 /// Looks a value up again and again on the calling thread, as a list does for its rows.
@@ -235,6 +267,9 @@ void measureRows(bench::Rows& rows)
         rows.add(what + " / curl --parallel", medians.ours, medians.reference, 1.15);
         rows.add(what + ": memory beyond the feeds / 150 MB", excess / 1e6, 150, 1, "MB");
         if (consoles == 50) {
+            const auto chains = bench::medianInterleaved([&] { return fleet.ours("--with-readings"); },
+                                                         [&] { return fleet.ours("--without-readings"); });
+            rows.add(what + ", with readings / without", chains.ours, chains.reference, 1.02);
             const auto lookUpTimes = bench::medianInterleaved([&] { return fleet.ours("--look-ups"); },
                                                               [&] { return fleet.curl("lookups"); });
             rows.add("200 blocking look-ups / curl on one connection", lookUpTimes.ours, lookUpTimes.reference, 1.3);
@@ -259,6 +294,9 @@ int main(int argc, char** argv)
     using namespace lodestar;
     if (argc == 4 && std::string_view(argv[1]) == "--refresh") {
         return refreshAll(argv[2]);
+    }
+    if (argc == 4 && std::string_view(argv[1]).ends_with("-readings")) {
+        return refreshChains(argv[2], std::string_view(argv[1]) == "--with-readings");
     }
     if (argc == 4 && std::string_view(argv[1]) == "--look-ups") {
         return lookUpAll(argv[2], argv[3]);

@@ -3,7 +3,10 @@
 
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
+#include "Fleet/History.h"
+#include "Fleet/Readings.h"
 #include "Inventory/ConsoleInformation.h"
+#include "Platform/NotificationCenter.h"
 #include "Platform/UserDefaults.h"
 
 #include <algorithm>
@@ -19,6 +22,22 @@ void adoptVersion(Corvel& corvel)
     corvel.setVersion(ConsoleInformation::of(feedOfType(corvel, ObjectType::ManagementConsole)).version());
 }
 
+void tellOfChange()
+{
+    NotificationCenter::defaultCenter().postNotification("CorvelsDidChange");
+}
+
+/// Two consoles may have one address, and then share what is remembered of it.
+void forgetHistoryOfUnregistered(const std::string& address)
+{
+    // First, so that the watch takes the address out of its settings: they are in the history, too.
+    tellOfChange();
+    const std::vector<CorvelRef>& corvels = RESTHandler::sharedInstance().corvelList();
+    if (std::ranges::none_of(corvels, [&address](const CorvelRef& other) { return other->address() == address; })) {
+        History::shared().forget(address);
+    }
+}
+
 } // namespace
 
 CorvelRef insertNewCorvel()
@@ -30,6 +49,20 @@ CorvelRef insertNewCorvel()
 void deleteCorvel(const CorvelRef& corvel)
 {
     StoreStack::shared().managedObjectContext().deleteObject(corvel);
+    Readings::shared().forget(*corvel);
+}
+
+void changeAddress(Corvel& corvel, const std::string& address)
+{
+    const auto before = corvel.address();
+    if (before == address) {
+        return;
+    }
+    corvel.setAddress(address);
+    Readings::shared().forget(corvel);
+    if (before) {
+        forgetHistoryOfUnregistered(*before);
+    }
 }
 
 void saveIgnoringErrors()
@@ -64,16 +97,19 @@ void addDemoCorvel()
     demo->setAddress("127.0.0.1");
     demo->setDemo(true);
     RESTHandler::sharedInstance().addCorvel(demo);
+    tellOfChange();
 }
 
 void deleteCorvelAtIndex(std::size_t index)
 {
     RESTHandler& rest = RESTHandler::sharedInstance();
     const CorvelRef corvel = rest.corvelList()[index];
-    UserDefaults::standard().removeObjectForKey(corvel->address().value_or(std::string()));
+    const std::string address = corvel->address().value_or(std::string());
+    UserDefaults::standard().removeObjectForKey(address);
     deleteCorvel(corvel);
     saveIgnoringErrors();
     rest.removeCorvelAtIndex(index);
+    forgetHistoryOfUnregistered(address);
 }
 
 void deleteEveryCorvel()
@@ -91,6 +127,9 @@ void deleteEveryCorvel()
     }
     rest.setCorvelList({});
     saveIgnoringErrors();
+    Readings::shared().forgetAll();
+    History::shared().forgetAll();
+    tellOfChange();
 }
 
 void removeEveryDefault(UserDefaults& defaults)
@@ -107,6 +146,7 @@ void forgetFetchedData()
         corvel->setRestData(nullptr);
         corvel->completedFetch = false;
     }
+    tellOfChange();
 }
 
 void forgetSessionKeyOfUnregistered(const Corvel& corvel)
@@ -119,20 +159,6 @@ void forgetSessionKeyOfUnregistered(const Corvel& corvel)
     if (address && !shared) {
         UserDefaults::standard().removeObjectForKey(*address);
     }
-}
-
-RXPromise<std::string> fetchInventory(const CorvelRef& corvel, Urgency urgency)
-{
-    return RESTHandler::sharedInstance()
-        .login(corvel, CheckToken::Yes, urgency)
-        .then([corvel, urgency](const SessionKey& key) {
-            corvel->isOnline = true;
-            return RESTHandler::sharedInstance().fetchAllDataForCorvel(corvel, key, urgency);
-        })
-        .then([corvel](const std::shared_ptr<const FeedDictionary>& feeds) {
-            corvel->setRestData(feeds);
-            return RESTHandler::sharedInstance().processInformationForCorvel(corvel);
-        });
 }
 
 void finishRefresh(Corvel& corvel)
@@ -154,18 +180,8 @@ void finishAdding(const CorvelRef& corvel)
     corvel->completedFetch = true;
     RESTHandler::sharedInstance().addCorvel(corvel);
     saveIgnoringErrors();
-}
-
-RXPromise<XMLElement> fetchFeedWithStoredKey(const CorvelRef& corvel, std::string_view type)
-{
-    if (!corvel) {
-        RXPromise<XMLElement> promise;
-        promise.rejectWithReason("no console");
-        return promise;
-    }
-    return RESTHandler::sharedInstance().login(corvel, CheckToken::No).then([corvel, type](const SessionKey& key) {
-        return RESTHandler::sharedInstance().fetchDataOfType(type, corvel, schemaOf(type), key);
-    });
+    History::shared().add(corvel, Readings::shared().of(*corvel), corvel->restData());
+    tellOfChange();
 }
 
 std::optional<std::string> fetchLinkedText(const std::string& link, const CorvelRef& corvel)
