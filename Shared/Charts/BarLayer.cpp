@@ -2,6 +2,7 @@
 #include "Charts/BarLayer.h"
 
 #include <QPainter>
+#include <QPainterPath>
 
 #include <algorithm>
 
@@ -10,8 +11,7 @@ namespace lodestar
 namespace
 {
 
-constexpr double groupShare = 0.8; // Share of an x index's place that its bars take together.
-constexpr double barSpace = 0.2;   // Share of a bar's place that stays empty.
+constexpr double barSpace = 0.2; // Share of a bar's place that stays empty.
 
 /// The entries whose bars are in view.
 std::pair<qsizetype, qsizetype> rangeInView(const PlotSeries& series, const PlotInterval& x)
@@ -19,15 +19,32 @@ std::pair<qsizetype, qsizetype> rangeInView(const PlotSeries& series, const Plot
     return {series.lowerBound(x.from - 0.5), series.lowerBound(x.to + 0.5)};
 }
 
+/// The box with the corners of its upper or its lower end rounded.
+QPainterPath roundedAtEnd(const QRectF& box, bool upper, double radius)
+{
+    const double round = std::min({radius, box.width() / 2, box.height()});
+    // The box goes on beyond the end that stays square, and is cut off there.
+    const double beyond = 2 * round;
+    QPainterPath whole;
+    whole.addRoundedRect(box.adjusted(0, upper ? 0 : -beyond, 0, upper ? beyond : 0), round, round);
+    QPainterPath shown;
+    shown.addRect(box);
+    return whole.intersected(shown);
+}
+
 } // namespace
 
 QRectF BarLayer::barOf(qsizetype position, const ChartEntry& entry, const PlotTransform& transform) const
 {
-    const double place = groupShare / static_cast<double>(dataSetCount());
+    const double group = m_style.share / (1 - barSpace);
+    const double place = group / static_cast<double>(m_style.sharesPlace ? 1 : dataSetCount());
     const double gap = place * barSpace;
-    const double start = entry.xIndex - groupShare / 2 + place * static_cast<double>(position) + gap / 2;
-    const QPointF base(transform.toX(start), transform.toY(0));
-    const QPointF end(transform.toX(start + place - gap), transform.toY(entry.value));
+    const double start =
+        entry.xIndex - group / 2 + (m_style.sharesPlace ? 0 : place * static_cast<double>(position)) + gap / 2;
+    // The whole bar keeps off the line, so that equal values stay equally long.
+    const double off = entry.value > 0 ? -m_style.gap : m_style.gap;
+    const QPointF base(transform.toX(start), transform.toY(0) + off);
+    const QPointF end(transform.toX(start + place - gap), transform.toY(entry.value) + off);
     return QRectF(base, end).normalized();
 }
 
@@ -41,7 +58,16 @@ void BarLayer::draw(QPainter& painter, const PlotCanvas& canvas) const
         for (qsizetype e = first; e < last; ++e) {
             ChartEntry entry = entries.at(e);
             entry.value *= static_cast<float>(grown);
-            painter.fillRect(barOf(i, entry, canvas.transform), canvas.colorOf(dataSet(i), i));
+            if (entry.value == 0) {
+                continue;
+            }
+            const QRectF bar = barOf(i, entry, canvas.transform);
+            const QColor color = canvas.colorOf(dataSet(i), i);
+            if (m_style.radius > 0) {
+                painter.fillPath(roundedAtEnd(bar, entry.value > 0, m_style.radius), color);
+            } else {
+                painter.fillRect(bar, color);
+            }
         }
     }
 }

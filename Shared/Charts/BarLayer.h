@@ -6,11 +6,14 @@
 namespace lodestar
 {
 
-/// The bars of a plot. Bars stand on 0 and grow out of it; bars of several data sets share the place of an x index.
+/// The bars of a plot. Bars stand on 0 and grow out of it, upwards and downwards.
 class BarLayer : public SeriesLayer<BarChartDataSet>
 {
 public:
-    using SeriesLayer::SeriesLayer;
+    explicit BarLayer(const QList<BarChartDataSet>& dataSets, const BarStyle& style = {})
+        : SeriesLayer(dataSets), m_style(style)
+    {
+    }
 
     double sideRoom() const override { return dataSetCount() == 0 ? 0 : 0.5; }
     bool standsOnZero() const override { return dataSetCount() > 0; }
@@ -19,6 +22,8 @@ public:
 private:
     /// A bar's box at its full size, in points of the chart.
     QRectF barOf(qsizetype position, const ChartEntry& entry, const PlotTransform& transform) const;
+
+    BarStyle m_style;
 };
 
 } // namespace lodestar

@@ -25,6 +25,7 @@ enum class XAxisLabelPosition : int { Top = 0, Bottom = 1 };
 /// The settings that both kinds of axis have.
 struct ChartAxis {
     bool enabled = true;
+    bool drawAxisLineEnabled = true;
     bool drawGridLinesEnabled = true;
     QList<double> gridLineDashLengths; ///< Lengths of dashes and gaps in turn, in points; empty for solid lines.
     bool drawLimitLinesBehindDataEnabled = false;
@@ -41,6 +42,9 @@ struct ChartAxis {
 struct XAxis : ChartAxis {
     XAxisLabelPosition labelPosition = XAxisLabelPosition::Bottom;
     double spaceBetweenLabels = 1; ///< The least gap between two labels, in steps of 20 points at 100 % text.
+    /// The only indices with a label, in rising order, as long as they find room; empty for as many as fit. These
+    /// labels do not reach beyond the plot.
+    QList<int> labelledIndices;
 
     bool operator==(const XAxis&) const = default;
 };
@@ -49,6 +53,11 @@ struct XAxis : ChartAxis {
 /// lines.
 struct YAxis : ChartAxis {
     bool startAtZeroEnabled = true; ///< The axis includes 0, whatever the data are.
+    bool drawZeroLineEnabled = false;
+    bool drawSignEnabled = true; ///< Labels below 0 have their sign.
+    /// The only values with a label and a grid line, whole numbers in rising order; the axis ends at the outermost.
+    /// Empty for ticks that suit the data.
+    QList<double> labelledValues;
 
     bool operator==(const YAxis&) const = default;
 };

@@ -83,12 +83,23 @@ struct BarChartDataSet : ChartDataSet {
     BarChartDataSet() { valueFormatter.maximumFractionDigits = 2; }
 };
 
+/// How the bars of a chart are drawn.
+struct BarStyle {
+    bool sharesPlace = false; ///< Bars of several data sets stand in one place and not side by side.
+    double share = 0.64;      ///< Share of an x index's place that bars cover.
+    double radius = 0;        ///< Points; rounds the end that does not stand on 0.
+    double gap = 0;           ///< Points by which bars keep off the line at 0.
+
+    bool operator==(const BarStyle&) const = default;
+};
+
 /// What a chart with axes shows: bars, lines, or bars with lines in front of them. Label i belongs to x index i; an
-/// entry whose index is beyond the labels is charted without a label. Bars of several data sets stand side by side.
+/// entry whose index is beyond the labels is charted without a label.
 struct PlotChartData {
     QStringList xVals;
     QList<BarChartDataSet> barDataSets;
     QList<LineChartDataSet> lineDataSets;
+    BarStyle barStyle = {};
 };
 
 } // namespace lodestar

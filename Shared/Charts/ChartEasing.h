@@ -6,7 +6,7 @@ namespace lodestar
 
 /// How a chart's animation moves from its start to its end. Screens name an easing by its number: 0 is linear; then
 /// come the in, out and in-out forms of quad, cubic, quart, quint, sine, expo, circ, elastic, back and bounce.
-enum class ChartEasingOption : int { Linear = 0, EaseInOutQuart = 9, EaseOutBack = 26, Last = 30 };
+enum class ChartEasingOption : int { Linear = 0, EaseOutCubic = 5, EaseInOutQuart = 9, EaseOutBack = 26, Last = 30 };
 
 /// The eased value of a progress from 0 to 1. The result is exactly 0 for a progress of 0 or less, and exactly 1 for a
 /// progress of 1 or more or one that is not a number. In between, the back and elastic families leave the range of 0 to

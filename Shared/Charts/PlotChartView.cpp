@@ -27,6 +27,14 @@ void PlotChartView::setNoDataText(const QString& text)
     }
 }
 
+void PlotChartView::setAccessibleText(const QString& text)
+{
+    if (m_accessibleText != text) {
+        m_accessibleText = text;
+        Q_EMIT dataChanged();
+    }
+}
+
 QSizeF PlotChartView::smallestViewport() const
 {
     return {std::min(1.0, 2 / m_model.wholeX().length()), 0.02};
@@ -36,7 +44,8 @@ void PlotChartView::setData(const PlotChartData& data)
 {
     m_data = data;
     m_model.xVals = data.xVals;
-    m_model.layers = {std::make_shared<BarLayer>(data.barDataSets), std::make_shared<LineLayer>(data.lineDataSets)};
+    m_model.layers = {std::make_shared<BarLayer>(data.barDataSets, data.barStyle),
+                      std::make_shared<LineLayer>(data.lineDataSets)};
     m_model.highlights.clear();
     m_model.viewport = {};
     announceData();
@@ -50,6 +59,9 @@ void PlotChartView::select(const std::optional<Highlight>& highlight)
 
 QString PlotChartView::accessibleText() const
 {
+    if (!m_accessibleText.isEmpty() && !m_model.isEmpty()) {
+        return m_accessibleText;
+    }
     QStringList texts;
     for (const PlotModel::Series& each : m_model.allSeries()) {
         if (!each.series->isEmpty()) {

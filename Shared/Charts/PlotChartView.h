@@ -34,6 +34,7 @@ public:
     void setPinchZoomEnabled(bool on) { assign(m_model.pinchZoomEnabled, on); }
     void setHighlightIndicatorEnabled(bool on) { assign(m_model.highlightIndicatorEnabled, on); }
     void setDrawGridBackgroundEnabled(bool on) { assign(m_model.drawGridBackgroundEnabled, on); }
+    void setCompact(bool on) { assign(m_model.compact, on); }
     const XAxis& xAxis() const { return m_model.xAxis; }
     void setXAxis(const XAxis& axis) { assign(m_model.xAxis, axis); }
     const YAxis& leftAxis() const { return m_model.leftAxis; }
@@ -56,9 +57,11 @@ public:
     /// again selects nothing.
     void select(const std::optional<Highlight>& highlight);
 
-    /// Names and latest values in order, as in "Total Processors 16, Processors Used 6.5"; the no-data text without
-    /// data.
+    /// Names and latest values in order, as in "Total Processors 16, Processors Used 6.5", unless a text was given; the
+    /// no-data text without data.
     QString accessibleText() const override;
+    /// What a screen reader says instead; empty for the usual text.
+    void setAccessibleText(const QString& text);
     /// Data set's name, label and value.
     QString selectedText() const override;
 
@@ -68,6 +71,7 @@ private:
 
     PlotChartData m_data;
     PlotModel m_model;
+    QString m_accessibleText;
 };
 
 } // namespace lodestar

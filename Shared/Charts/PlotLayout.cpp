@@ -14,13 +14,14 @@ namespace
 {
 
 constexpr double axisFontSize = 11;
-constexpr double edge = 12;      // Points between the plot and the chart's edge where no label stands.
-constexpr double top = 18;       // Points between the plot and the chart's upper edge.
-constexpr double tickPitch = 44; // Least distance between value ticks, in points.
-constexpr double mostSteps = 10; // Most steps between value ticks, however tall the plot is.
-constexpr double labelGap = 8;   // Points between an axis and its labels.
-constexpr double spaceStep = 20; // Points per unit of `spaceBetweenLabels`.
-constexpr double smallest = 24;  // In points; a plot that is narrower or lower is not drawn.
+constexpr double edge = 12;         // Points between the plot and the chart's edge where no label stands.
+constexpr double top = 18;          // Points between the plot and the chart's upper edge.
+constexpr double tickPitch = 44;    // Least distance between value ticks, in points.
+constexpr double mostSteps = 10;    // Most steps between value ticks, however tall the plot is.
+constexpr double labelGap = 8;      // Points between an axis and its labels.
+constexpr double spaceStep = 20;    // Points per unit of `spaceBetweenLabels`.
+constexpr double smallest = 24;     // In points; a plot that is narrower or lower is not drawn.
+constexpr double compactStart = 26; // Least distance between the plot and the chart's left edge in a compact chart.
 
 /// Finds room for the axis labels and places them.
 class Placement
@@ -70,25 +71,30 @@ private:
     {
         QRectF plot = m_layout.content;
         const double room = labelGap + lineHeight();
-        plot.setTop(plot.top() + (hasIndicesAt(XAxisLabelPosition::Top) ? edge + room : top));
-        plot.setBottom(plot.bottom() - (hasIndicesAt(XAxisLabelPosition::Bottom) ? room : 0) - edge);
+        const double outside = m_model.compact ? 0 : edge;
+        const double above = m_model.compact ? lineHeight() : top;
+        plot.setTop(plot.top() + (hasIndicesAt(XAxisLabelPosition::Top) ? outside + room : above));
+        plot.setBottom(plot.bottom() - (hasIndicesAt(XAxisLabelPosition::Bottom) ? room : 0) - outside);
         if (plot.height() < smallest) {
             return;
         }
         const double most = std::clamp(plot.height() / (tickPitch * m_scale), 1.0, mostSteps);
         const bool zero = m_model.leftAxis.startAtZeroEnabled ||
                           std::ranges::any_of(m_model.layers, [](const auto& layer) { return layer->standsOnZero(); });
-        m_layout.whole = {m_model.wholeX(), valueAxis(m_model.dataExtent().y, zero, most)};
+        const QList<double>& given = m_model.leftAxis.labelledValues;
+        m_layout.whole = {m_model.wholeX(), given.size() > 1 ? PlotInterval{given.constFirst(), given.constLast()}
+                                                             : valueAxis(m_model.dataExtent().y, zero, most)};
         const PlotExtent visible = m_model.viewport.of(m_layout.whole);
-        const TickStep step = tickStep(visible.y.length(), most);
-        m_layout.valueTicks = ticksWithin(visible.y, step);
+        const TickStep step = given.size() > 1 ? TickStep{1, 0} : tickStep(visible.y.length(), most);
+        m_layout.valueTicks = given.size() > 1 ? given : ticksWithin(visible.y, step);
         double widest = 0;
         for (const double tick : std::as_const(m_layout.valueTicks)) {
-            widest = std::max(widest, m_metrics.horizontalAdvance(step.text(tick)));
+            widest = std::max(widest, m_metrics.horizontalAdvance(textOf(tick, step)));
         }
         const double beside = std::ceil(edge * 0.75 + widest + labelGap);
-        plot.setLeft(plot.left() + (m_model.leftAxis.enabled ? beside : edge));
-        plot.setRight(plot.right() - (m_model.rightAxis.enabled ? beside : edge));
+        const double compactBeside = std::max(compactStart * m_scale, std::ceil(widest + labelGap));
+        plot.setLeft(plot.left() + (!m_model.leftAxis.enabled ? outside : m_model.compact ? compactBeside : beside));
+        plot.setRight(plot.right() - (m_model.rightAxis.enabled ? beside : outside));
         if (plot.width() < smallest) {
             return;
         }
@@ -96,15 +102,24 @@ private:
         placeValues(step);
     }
 
+    QString textOf(double tick, const TickStep& step) const
+    {
+        return step.text(m_model.leftAxis.drawSignEnabled ? tick : std::abs(tick));
+    }
+
     void placeValues(const TickStep& step)
     {
         const QRectF& plot = m_layout.transform.plot;
         for (const double tick : std::as_const(m_layout.valueTicks)) {
-            const QString text = step.text(tick);
+            if (!m_layout.transform.visible.y.contains(tick)) {
+                continue;
+            }
+            const QString text = textOf(tick, step);
             const QSizeF size(m_metrics.horizontalAdvance(text), m_metrics.capHeight());
             const double y = m_layout.transform.toY(tick) - size.height() / 2;
             if (m_model.leftAxis.enabled) {
-                m_layout.leftLabels.push_back({tick, text, {{plot.left() - labelGap - size.width(), y}, size}});
+                const double x = m_model.compact ? m_layout.content.left() : plot.left() - labelGap - size.width();
+                m_layout.leftLabels.push_back({tick, text, {{x, y}, size}});
             }
             if (m_model.rightAxis.enabled) {
                 m_layout.rightLabels.push_back({tick, text, {{plot.right() + labelGap, y}, size}});
@@ -145,6 +160,10 @@ private:
             return;
         }
         const PlotTransform& transform = m_layout.transform;
+        if (!m_model.xAxis.labelledIndices.isEmpty()) {
+            placeGivenIndices();
+            return;
+        }
         const double pitch = transform.plot.width() / transform.visible.x.length();
         // Starting at the narrowest possible label keeps the number of tries small.
         int stride =
@@ -154,13 +173,39 @@ private:
             stride = labelStride(stride + 1.0);
             labels = labelsEvery(stride);
         }
+        takeIndexLabels(std::move(*labels));
+    }
+
+    void takeIndexLabels(std::vector<AxisLabel> labels)
+    {
+        const PlotTransform& transform = m_layout.transform;
         const bool isBelow = m_model.xAxis.labelPosition == XAxisLabelPosition::Bottom;
         const double middle = isBelow ? transform.plot.bottom() + labelGap + lineHeight() / 2
                                       : transform.plot.top() - labelGap - lineHeight() / 2;
-        for (AxisLabel& label : *labels) {
+        for (AxisLabel& label : labels) {
             label.box.moveTop(middle - label.box.height() / 2);
         }
-        m_layout.indexLabels = std::move(*labels);
+        m_layout.indexLabels = std::move(labels);
+    }
+
+    /// The last label is placed first: it matters most, and what does not fit beside it is left out.
+    void placeGivenIndices()
+    {
+        const QRectF& plot = m_layout.transform.plot;
+        std::vector<AxisLabel> labels;
+        double end = plot.right();
+        for (auto each = m_model.xAxis.labelledIndices.crbegin(); each != m_model.xAxis.labelledIndices.crend();
+             ++each) {
+            const QString text = m_model.xVals.value(*each);
+            const double width = m_metrics.horizontalAdvance(text);
+            const double x = std::clamp(m_layout.transform.toX(*each) - width / 2, plot.left(),
+                                        std::max(plot.left(), plot.right() - width));
+            if (labels.empty() || x + width + labelGap <= end) {
+                labels.insert(labels.begin(), {static_cast<double>(*each), text, {x, 0, width, m_metrics.capHeight()}});
+                end = x;
+            }
+        }
+        takeIndexLabels(std::move(labels));
     }
 
     const PlotModel& m_model;

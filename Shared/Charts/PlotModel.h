@@ -24,6 +24,7 @@ struct PlotModel : ChartModel {
     bool pinchZoomEnabled = false; ///< Two fingers zoom both axes alike; otherwise only the axis that they lie along.
     bool highlightIndicatorEnabled = true; ///< Lines cross at the highlighted entry.
     bool drawGridBackgroundEnabled = true; ///< The plot's ground has a tint.
+    bool compact = false; ///< The plot takes the whole chart but for its labels, which begin at the chart's edge.
     XAxis xAxis;
     YAxis leftAxis;
     YAxis rightAxis;

@@ -109,13 +109,17 @@ void PlotRenderer::drawAxes(QPainter& painter, const PlotLayout& layout, const C
     const double upper = crisp(plot.top(), ratio);
     const double lower = crisp(plot.bottom(), ratio);
     painter.setPen(QPen(style.axisColor, 1, Qt::SolidLine, Qt::SquareCap));
-    if (m_model.leftAxis.enabled) {
+    if (m_model.leftAxis.enabled && m_model.leftAxis.drawAxisLineEnabled) {
         painter.drawLine(QPointF(left, upper), QPointF(left, lower));
     }
-    if (m_model.rightAxis.enabled) {
+    if (m_model.rightAxis.enabled && m_model.rightAxis.drawAxisLineEnabled) {
         painter.drawLine(QPointF(right, upper), QPointF(right, lower));
     }
-    if (m_model.xAxis.enabled) {
+    if (m_model.leftAxis.drawZeroLineEnabled && layout.transform.visible.y.contains(0)) {
+        const double y = crisp(layout.transform.toY(0), ratio);
+        painter.drawLine(QPointF(left, y), QPointF(plot.right(), y));
+    }
+    if (m_model.xAxis.enabled && m_model.xAxis.drawAxisLineEnabled) {
         const double y = m_model.xAxis.labelPosition == XAxisLabelPosition::Top ? upper : lower;
         painter.drawLine(QPointF(left, y), QPointF(plot.right(), y));
     }

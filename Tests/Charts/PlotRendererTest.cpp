@@ -243,6 +243,64 @@ TEST_F(PlotRendererTest, BarsStandOnZeroSideBySideAndGrowOutOfIt)
     EXPECT_EQ(growing.at(growing.point(0, 55)), white) << "half of the bar half way";
 }
 
+TEST_F(PlotRendererTest, BarsOfDaysStandAboveAndBelowTheirLineBetweenTheGivenLabels)
+{
+    PlotChartData data{
+        {"11 Feb", "12 Feb", "13 Feb", "today"}, {bars(red, {5, 0, 2, 4}), bars(green, {0, -4, -4, 0})}, {}};
+    data.barStyle = {.sharesPlace = true, .share = 0.7, .radius = 2, .gap = 1.25};
+    view.setData(data);
+    view.setCompact(true);
+    Legend legend;
+    legend.enabled = false;
+    view.setLegend(legend);
+    XAxis x;
+    x.drawGridLinesEnabled = x.drawAxisLineEnabled = false;
+    x.labelledIndices = {0, 1, 3};
+    view.setXAxis(x);
+    YAxis y;
+    y.drawGridLinesEnabled = y.drawAxisLineEnabled = y.drawSignEnabled = false;
+    y.drawZeroLineEnabled = true;
+    y.labelledValues = {-4, 5};
+    view.setLeftAxis(y);
+    const ChartFrame card{QSizeF(326, 118), {}, {}};
+    const PlotPicture picture(view, card);
+    const QRectF plot = picture.layout.transform.plot;
+    EXPECT_EQ(plot.left(), 26);
+    EXPECT_EQ(plot.right(), 326) << "no room beside it";
+    EXPECT_EQ(picture.layout.whole.y, (PlotInterval{-4, 5})) << "it ends at the outermost labels";
+    ASSERT_EQ(picture.layout.leftLabels.size(), 2U);
+    EXPECT_EQ(picture.layout.leftLabels[0].text, "4") << "without a sign";
+    EXPECT_EQ(picture.layout.leftLabels[0].box.left(), 0);
+    ASSERT_EQ(picture.layout.indexLabels.size(), 3U);
+    EXPECT_GE(picture.layout.indexLabels.front().box.left(), plot.left());
+    EXPECT_LE(picture.layout.indexLabels.back().box.right(), plot.right());
+
+    const double line = picture.point(0, 0).y();
+    const auto length = [&](const QColor& color, double index) { return picture.span(color, index).height(); };
+    EXPECT_NEAR(length(red, 0) / 5, length(red, 3) / 4, 0.3) << "as long as the value says, whatever the gap";
+    EXPECT_NEAR(picture.span(red, 2).bottom(), line - 1.25, 0.6);
+    EXPECT_NEAR(picture.span(green, 2).top(), line + 1.25, 0.6) << "in the same place";
+    EXPECT_EQ(length(red, 1), 0) << "nothing for 0";
+    EXPECT_EQ(picture.at({picture.point(0.5, 0).x(), line}), card.style.axisColor) << "the line at 0";
+    const auto topOf = [&](double index) { return picture.span(red, index).top(); };
+    EXPECT_GT(topOf(-0.34), topOf(0) + 0.4) << "round at its end";
+    EXPECT_TRUE(near(picture.at({picture.point(-0.34, 0).x(), line - 2}), red, 12)) << "and square at the line";
+
+    view.setAccessibleText("4 days, today 4 worse");
+    EXPECT_EQ(view.accessibleText(), "4 days, today 4 worse");
+    view.clear();
+    EXPECT_EQ(view.accessibleText(), "No performance data available.");
+    y.labelledValues = {0, 3, 6};
+    view.setLeftAxis(y);
+    x.labelledIndices = {0, 3};
+    view.setXAxis(x);
+    data.xVals = {"a very long name of a day", "", "", "today"};
+    view.setData(data);
+    const PlotLayout narrow = PlotRenderer(view.model()).layout(inLato({QSizeF(90, 118), {}, {}}));
+    ASSERT_EQ(narrow.indexLabels.size(), 1U);
+    EXPECT_EQ(narrow.indexLabels[0].text, "today") << "the last label matters most";
+}
+
 TEST_F(PlotRendererTest, LinesStandInFrontOfBarsLimitLinesWhereToldAndTheNearestEntryIsFound)
 {
     auto line = dataSet<LineChartDataSet>("line", red, {5, 5});

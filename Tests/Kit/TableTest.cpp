@@ -37,12 +37,17 @@ public:
         return QString("%1.%2").arg(indexPath.section).arg(indexPath.row);
     }
     void didSelectRowAtIndexPath(TableKind, IndexPath indexPath) override { selected.push_back(indexPath); }
+    std::size_t keyForRowAtIndexPath(TableKind, IndexPath indexPath) const override
+    {
+        return keys[static_cast<std::size_t>(indexPath.section)][static_cast<std::size_t>(indexPath.row + 1)];
+    }
 
     std::vector<int> rows{1};
     std::vector<std::optional<QString>> titles{std::nullopt};
     mutable int asked = 0;
     int configured = 0;
     std::vector<IndexPath> selected;
+    std::vector<std::vector<std::size_t>> keys; ///< of each section's header and rows
 };
 
 class TableTest : public testing::Test
@@ -99,6 +104,80 @@ TEST_F(TableTest, SectionsBecomeOneListWithHeadersEmptyAndEqualOnesIncluded)
     table.deselectRow({2, 0});
     ASSERT_EQ(deselected.count(), 1);
     EXPECT_EQ(deselected[0][0], 4);
+}
+
+TEST_F(TableTest, KeyedReloadsInsertAndRemoveWhatCameAndWentAndTellOfItStepByStep)
+{
+    // What a view knows that only listens to the signals: keys of the rows that it has, 0 for those that came.
+    std::vector<std::size_t> view;
+    QObject::connect(&table, &QAbstractItemModel::rowsInserted, [&](const QModelIndex&, int first, int last) {
+        view.insert(view.begin() + first, static_cast<std::size_t>(last - first + 1), 0);
+        EXPECT_EQ(table.rowCount(), static_cast<int>(view.size()));
+        table.configureCell(last); // A view may ask at once.
+    });
+    QObject::connect(&table, &QAbstractItemModel::rowsRemoved, [&](const QModelIndex&, int first, int last) {
+        view.erase(view.begin() + first, view.begin() + last + 1);
+        EXPECT_EQ(table.rowCount(), static_cast<int>(view.size()));
+    });
+    const auto show = [&](std::vector<std::vector<std::size_t>> keys) {
+        source.keys = std::move(keys);
+        source.rows.clear();
+        source.titles.clear();
+        for (const auto& section : source.keys) {
+            source.rows.push_back(static_cast<int>(section.size()) - 1);
+            source.titles.emplace_back("T");
+        }
+        table.reloadRows();
+        std::vector<std::size_t> all;
+        for (const auto& section : source.keys) {
+            all.insert(all.end(), section.begin(), section.end());
+        }
+        // What stayed stands where it should; the rest came.
+        ASSERT_EQ(view.size(), all.size());
+        for (std::size_t place = 0; place < all.size(); ++place) {
+            EXPECT_TRUE(view[place] == 0 || view[place] == all[place]) << place;
+        }
+        view = all;
+    };
+    show({{1, 10, 11, 12}, {2, 20}});
+    const auto counts = [&] { return std::pair(inserted.count(), removed.count()); };
+    auto before = counts();
+    show({{1, 10, 12, 13}, {2, 20}});
+    EXPECT_EQ(counts(), std::pair(before.first + 1, before.second + 1)) << "one came, one went";
+    EXPECT_TRUE(table.doRowsFade());
+    before = counts();
+    show({{1, 10, 12, 13}, {2, 20}});
+    EXPECT_EQ(counts(), before);
+    show({{2, 20, 21}, {3, 12, 10}});
+    show({});
+    show({{1, 5, 5, 6}});
+    std::size_t seed = 7;
+    for (int round = 0; round < 200; ++round) {
+        std::vector<std::vector<std::size_t>> keys;
+        for (std::size_t section = 0; section < seed / 8 % 4; ++section) {
+            keys.push_back({100 + section});
+            for (std::size_t key = 1; key < 12; ++key) {
+                seed = seed * 6364136223846793005U + 1442695040888963407U;
+                if ((seed >> 60U) < 8) {
+                    keys.back().push_back(12 * section + (seed >> 59U) % 12 + 200);
+                }
+            }
+        }
+        show(std::move(keys));
+        ASSERT_FALSE(HasFailure()) << round;
+    }
+
+    // Who waits for the end of a touch is called once, after what the touch does.
+    int called = 0;
+    table.setTouched(true);
+    table.whenUntouched([&] { called += 10; });
+    table.whenUntouched([&] { ++called; });
+    table.setTouched(false);
+    EXPECT_EQ(called, 0);
+    announce();
+    EXPECT_EQ(called, 1);
+    table.whenUntouched([&] { ++called; });
+    EXPECT_EQ(called, 2);
 }
 
 TEST_F(TableTest, ReloadsFromAnyThreadChangeTheEndOfTheListOnlyAndAnnounceCellsOnceWithoutAskingForAny)

@@ -19,11 +19,13 @@ struct MenuChoice {
     Q_PROPERTY(QString title MEMBER title)
     Q_PROPERTY(bool destructive MEMBER destructive)
     Q_PROPERTY(QString imageName MEMBER imageName)
+    Q_PROPERTY(QString detail MEMBER detail)
 
 public:
     QString title;
     bool destructive = false;
     QString imageName{}; ///< action sheets only
+    QString detail{};    ///< action sheets only: a count or a state at the row's end
     friend bool operator==(const MenuChoice&, const MenuChoice&) = default;
 };
 

@@ -24,7 +24,9 @@ enum class State {
     Alert,
     Error,
     BadgedError, ///< an error that a badge shows: the word stays as quiet as an idle one's
-    Offline
+    Offline,
+    Incomplete, ///< not all of it is known
+    Waiting     ///< nothing is known yet
 };
 Q_ENUM_NS(State)
 

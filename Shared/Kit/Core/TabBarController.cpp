@@ -67,6 +67,26 @@ ViewController* TabBarController::controllerAt(int index) const
     return index >= 0 && index < count() ? m_items[static_cast<std::size_t>(index)].controller.get() : nullptr;
 }
 
+void TabBarController::setBadge(int index, TabBadge badge)
+{
+    if (controllerAt(index) != nullptr && m_badges[index] != badge) {
+        m_badges[index] = std::move(badge);
+        Q_EMIT badgeChanged(index);
+    }
+}
+
+TabBadge TabBarController::badge(int index) const
+{
+    const auto found = m_badges.find(index);
+    return found != m_badges.end() ? found->second : TabBadge();
+}
+
+QString TabBarController::spokenAt(int index) const
+{
+    const QString spoken = badge(index).spoken;
+    return spoken.isEmpty() ? titleAt(index) : spoken;
+}
+
 TabBarAppearance& TabBarAppearance::appearance()
 {
     static TabBarAppearance appearance;

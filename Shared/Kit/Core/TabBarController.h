@@ -5,6 +5,7 @@
 
 #include <QColor>
 
+#include <map>
 #include <vector>
 
 namespace lodestar
@@ -15,6 +16,13 @@ struct TabBarItem {
     QString title;
     QString imageName;
     std::shared_ptr<ViewController> controller;
+};
+
+/// What a tab's badge counts, for the eye and for the ear.
+struct TabBadge {
+    QString text;   ///< empty for no badge
+    QString spoken; ///< the tab's whole name for screen readers; empty for the tab's title
+    friend bool operator==(const TabBadge&, const TabBadge&) = default;
 };
 
 /// Screens side by side behind a bar of tabs, at least one. The first tab is selected at the start.
@@ -41,9 +49,14 @@ public:
     Q_INVOKABLE QString titleAt(int index) const;
     Q_INVOKABLE QString imageNameAt(int index) const;
     Q_INVOKABLE lodestar::ViewController* controllerAt(int index) const;
+    void setBadge(int index, TabBadge badge);
+    Q_INVOKABLE QString badgeAt(int index) const { return badge(index).text; }
+    /// What a screen reader says for the tab.
+    Q_INVOKABLE QString spokenAt(int index) const;
 
 Q_SIGNALS:
     void selectedIndexChanged();
+    void badgeChanged(int index);
 
 protected:
     void viewDidLoad() override { controllerAt(m_selectedIndex)->loadViewIfNeeded(); }
@@ -51,7 +64,10 @@ protected:
     void viewDidDisappear() override { controllerAt(m_selectedIndex)->endAppearance(); }
 
 private:
+    TabBadge badge(int index) const;
+
     std::vector<TabBarItem> m_items;
+    std::map<int, TabBadge> m_badges;
     int m_selectedIndex = 0;
 };
 

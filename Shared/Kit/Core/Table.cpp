@@ -11,7 +11,6 @@
 
 namespace lodestar
 {
-
 TableOutlet::TableOutlet(TableDataSource& source, TableKind kind, QObject* parent)
     : QAbstractListModel(parent), m_source(source), m_kind(kind)
 {
@@ -58,6 +57,9 @@ std::vector<TableOutlet::SectionInfo> TableOutlet::askForShape(int& count) const
         section.rows = std::max(0, m_source.numberOfRowsInSection(m_kind, number));
         section.hasHeader = title.has_value();
         section.title = title.value_or(QString());
+        section.detail = m_source.detailForHeaderInSection(m_kind, number);
+        section.note = m_source.noteForHeaderInSection(m_kind, number);
+        section.footer = m_source.footerForSection(m_kind, number);
         count += section.rows + (section.hasHeader ? 1 : 0);
         ++number;
     }
@@ -80,6 +82,8 @@ void TableOutlet::reloadOnMain()
         m_count = count;
     };
     // Rows are inserted and removed at the list's end only; every remaining row gets its new content as a cell.
+    m_keys.clear();
+    setRowsFade(false);
     if (count < before) {
         setRemovalAnimated(false);
         beginRemoveRows({}, count, before - 1);
@@ -95,8 +99,13 @@ void TableOutlet::reloadOnMain()
     if (count != before || rows() != rowsBefore) {
         Q_EMIT countChanged();
     }
+    didReload(std::min(before, count));
+}
+
+void TableOutlet::didReload(int cellsKept)
+{
     Q_EMIT reloaded();
-    if (std::min(before, count) > 0 && !std::exchange(m_announcePending, true)) {
+    if (cellsKept > 0 && !std::exchange(m_announcePending, true)) {
         MainQueue::shared().async([guard = QPointer<TableOutlet>(this)] {
             if (guard) {
                 guard->announceCells();
@@ -121,6 +130,14 @@ void TableOutlet::setRemovalAnimated(bool animated)
     }
 }
 
+void TableOutlet::setRowsFade(bool fade)
+{
+    if (m_rowsFade != fade) {
+        m_rowsFade = fade;
+        Q_EMIT rowsFadeChanged();
+    }
+}
+
 void TableOutlet::deleteRow(IndexPath indexPath, RowAnimation animation)
 {
     const int flat = flatIndex(indexPath);
@@ -128,7 +145,11 @@ void TableOutlet::deleteRow(IndexPath indexPath, RowAnimation animation)
         reloadData();
         return;
     }
+    setRowsFade(false);
     setRemovalAnimated(animation == RowAnimation::Left);
+    if (static_cast<std::size_t>(flat) < m_keys.size()) {
+        m_keys.erase(m_keys.begin() + flat);
+    }
     beginRemoveRows({}, flat, flat);
     const auto section = static_cast<std::size_t>(indexPath.section);
     --m_sections[section].rows;
@@ -184,6 +205,12 @@ QVariant TableOutlet::data(const QModelIndex& index, int role) const
         return path->row >= 0 && path->row == section.rows - 1;
     case SectionHasHeader:
         return section.hasHeader;
+    case HeaderDetail:
+        return path->row < 0 ? section.detail : QString();
+    case HeaderNote:
+        return path->row < 0 ? section.note : QString();
+    case SectionFooter:
+        return path->row >= 0 && path->row == section.rows - 1 ? section.footer : QString();
     default:
         return {};
     }
@@ -197,7 +224,10 @@ QHash<int, QByteArray> TableOutlet::roleNames() const
             {Row, "row"},
             {FirstInSection, "firstInSection"},
             {LastInSection, "lastInSection"},
-            {SectionHasHeader, "sectionHasHeader"}};
+            {SectionHasHeader, "sectionHasHeader"},
+            {HeaderDetail, "headerDetail"},
+            {HeaderNote, "headerNote"},
+            {SectionFooter, "sectionFooter"}};
 }
 
 bool TableOutlet::isHeaderAt(int index) const
@@ -238,9 +268,15 @@ std::optional<IndexPath> TableOutlet::pathAt(int index) const
     // next.
     const auto after = std::upper_bound(m_sections.begin(), m_sections.end(), index,
                                         [](int place, const SectionInfo& section) { return place < section.start; });
+    if (after == m_sections.begin()) {
+        return {}; // Only while rows are being removed.
+    }
     const auto section = std::prev(after);
-    return IndexPath{static_cast<int>(section - m_sections.begin()),
-                     index - section->start - (section->hasHeader ? 1 : 0)};
+    const int row = index - section->start - (section->hasHeader ? 1 : 0);
+    if (row >= section->rows) {
+        return {};
+    }
+    return IndexPath{static_cast<int>(section - m_sections.begin()), row};
 }
 
 int TableOutlet::flatIndex(IndexPath indexPath) const

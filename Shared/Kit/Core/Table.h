@@ -9,6 +9,7 @@
 #include <QVariant>
 #include <QtQml/qqmlregistration.h>
 
+#include <functional>
 #include <optional>
 #include <vector>
 
@@ -39,6 +40,15 @@ public:
     virtual int numberOfRowsInSection(TableKind tableView, int section) const = 0;
     /// Nothing means no header; an empty title means an empty header.
     virtual std::optional<QString> titleForHeaderInSection(TableKind, int /*section*/) const { return {}; }
+    /// What stands at the header's end: a count, as a rule.
+    virtual QString detailForHeaderInSection(TableKind, int /*section*/) const { return {}; }
+    /// A second line below the header's title, which is larger then; empty for none.
+    virtual QString noteForHeaderInSection(TableKind, int /*section*/) const { return {}; }
+    /// A note below the section's last row; empty for none.
+    virtual QString footerForSection(TableKind, int /*section*/) const { return {}; }
+    /// What the row, or for row -1 the header, shows, as a number that no other row has: `reloadRows` finds rows again
+    /// by it.
+    virtual std::size_t keyForRowAtIndexPath(TableKind, IndexPath) const { return 0; }
     /// May block. Called once each time a row is configured.
     virtual QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) = 0;
     /// Replaces `cellForRowAtIndexPath` in a table that makes its cells in steps.
@@ -63,6 +73,8 @@ class TableOutlet : public QAbstractListModel
     Q_PROPERTY(int rows READ rows NOTIFY countChanged)
     Q_PROPERTY(bool makesCellsInSteps READ makesCellsInSteps CONSTANT)
     Q_PROPERTY(bool removalAnimated READ isRemovalAnimated NOTIFY removalAnimatedChanged)
+    Q_PROPERTY(bool rowsFade READ doRowsFade NOTIFY rowsFadeChanged)
+    Q_PROPERTY(bool touched READ isTouched WRITE setTouched NOTIFY touchedChanged)
 
 public:
     enum Role {
@@ -72,7 +84,10 @@ public:
         Row, ///< -1 for a header
         FirstInSection,
         LastInSection,
-        SectionHasHeader
+        SectionHasHeader,
+        HeaderDetail,
+        HeaderNote,
+        SectionFooter ///< empty but for the section's last row
     };
 
     TableOutlet(TableDataSource& source, TableKind kind, QObject* parent = nullptr);
@@ -99,6 +114,18 @@ public:
     /// a row configure the visible rows once. A row that keeps its place keeps its delegate, so that an open swipe
     /// stays open. The cost depends on the number of sections, not of rows. May be called from any thread.
     void reloadData();
+    /// Does the same, but rows that come and go fade where they stand, and the others keep their delegates: rows are
+    /// found again by `keyForRowAtIndexPath`. The cost depends on the number of rows. Main thread.
+    void reloadRows();
+    /// Whether the rows that `reloadRows` inserts and removes fade.
+    bool doRowsFade() const { return m_rowsFade; }
+    /// Whether a finger, the mouse or an open swipe holds the rows, so that none may come or go. The drawn list writes
+    /// this.
+    bool isTouched() const { return m_touched; }
+    void setTouched(bool touched);
+    /// Calls the function once no row is touched, on the main thread: at once, or after the press or swipe that ends
+    /// has done what it does to the row that it held. A later call replaces a function that still waits.
+    void whenUntouched(std::function<void()> then);
     /// Removes a row that the source has dropped already. The rows below move up and are not configured again.
     void deleteRow(IndexPath indexPath, RowAnimation animation);
 
@@ -127,6 +154,8 @@ Q_SIGNALS:
     /// The row should return to its unpressed look.
     void deselected(int index);
     void removalAnimatedChanged();
+    void rowsFadeChanged();
+    void touchedChanged();
     /// The source was asked anew; no row is selected any more.
     void reloaded();
 
@@ -139,20 +168,31 @@ private:
         int rows = 0;
         bool hasHeader = false;
         QString title;
+        QString detail;
+        QString note;
+        QString footer;
     };
     std::vector<SectionInfo> askForShape(int& count) const;
     void reloadOnMain();
+    std::vector<std::size_t> askForKeys() const;
+    void didReload(int cellsKept);
     void announceCells();
+    void doWhenUntouched();
     void setRemovalAnimated(bool animated);
+    void setRowsFade(bool fade);
     std::optional<IndexPath> pathAt(int index) const;
     int flatIndex(IndexPath indexPath) const;
 
     TableDataSource& m_source;
     TableKind m_kind;
     std::vector<SectionInfo> m_sections;
+    std::vector<std::size_t> m_keys; ///< of headers and rows, while `reloadRows` is used
     int m_count = 0;
     bool m_announcePending = false;
     bool m_removalAnimated = false;
+    bool m_rowsFade = false;
+    bool m_touched = false;
+    std::function<void()> m_whenUntouched;
     bool m_hidden = false;
     bool m_makesCellsInSteps = false;
     CellSteps m_cellSteps;
@@ -184,7 +224,7 @@ private:
     bool m_refreshing = false;
 };
 
-/// A button that a swiped cell uncovers: a title, or a picture by its resource name.
+/// A button that a swiped cell uncovers: a title, a picture by its resource name, or the title below the picture.
 struct SwipeButton {
     Q_GADGET
     QML_VALUE_TYPE(swipeButton)

@@ -17,6 +17,14 @@ MenuPopup {
     readonly property QtObject presses: LastPress
     property point press
 
+    readonly property bool hasIcons: {
+        for (let i = 0; i < outlet.choices.length; ++i) {
+            if (outlet.choices[i].imageName !== "") {
+                return true;
+            }
+        }
+        return false;
+    }
     readonly property var cancelChoice: outlet.cancelIndex >= 0 ? outlet.choices[outlet.cancelIndex] : undefined
 
     closePolicy: T.Popup.CloseOnReleaseOutside
@@ -107,7 +115,9 @@ MenuPopup {
                     rowHeight: 56
                     chevron: false
                     text: modelData.title
+                    detail: modelData.detail
                     iconName: modelData.imageName
+                    inset: sheet.hasIcons
                     iconColor: modelData.destructive ? Theme.systemRedInk : Theme.accentInk
                     ink: modelData.destructive ? Theme.systemRedInk : Theme.ink
                     Accessible.role: Accessible.MenuItem

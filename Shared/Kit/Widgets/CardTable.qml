@@ -6,7 +6,7 @@ import Lodestar.Kit
 
 /// A table drawn as cards: one rounded card per section holds its rows with hairlines between them, headers stand
 /// above. Give it the outlet and a delegate, a component whose root is a TableCell. Arrows, Home, End and the page keys
-/// move, Enter and Space choose, the menu key swipes, F5 refreshes.
+/// move, Enter and Space choose, Shift+F10 swipes, the menu key swipes or opens the row's menu, F5 refreshes.
 AccessibleScope {
     id: view
 
@@ -18,6 +18,8 @@ AccessibleScope {
     property int measure: Theme.measure
     /// Points above the first card: 8 below a bar of 52, 0 below a tab root's bar of 60.
     property real topSpace: 8
+    /// Points more for a line that the screen itself puts there, in the list's content.
+    property real lineSpace: 0
     property alias header: list.header
     /// Whether a pull uncovers a search field.
     property alias searchOffered: search.offered
@@ -26,7 +28,18 @@ AccessibleScope {
     /// The state of the rows: which are pressed, chosen or swiped open.
     readonly property alias rows: tableState
     signal swipeButtonTapped(int section, int row, int index, bool leading)
+    signal menuRequested(int section, int row)
     signal searchTapped()
+
+    /// The line's height before the last change. A list that was at its top then stays there.
+    property real lineSpaceBefore: 0
+    function keepTop() {
+        const room = topSpace + search.space;
+        if (lineSpaceBefore !== lineSpace && list.contentY <= list.originY - lineSpaceBefore - room + 0.5) {
+            list.contentY = list.originY - lineSpace - room;
+        }
+        lineSpaceBefore = lineSpace;
+    }
 
     visible: !table.hidden
     activeFocusOnTab: true
@@ -75,6 +88,15 @@ AccessibleScope {
             }
         }
     }
+    function menuByKeyboard() {
+        const place = list.currentItem as TableRow;
+        if (place !== null && place.content !== null && place.content.offersMenu) {
+            tableState.keyboardUsed = true;
+            tableState.menuOf(place.section, place.row);
+        } else {
+            swipeByKeyboard();
+        }
+    }
     /// Returns whether the key was one of the table's.
     function handleKey(key: int, modifiers: int): bool {
         const page = Math.max(1, Math.floor(list.height / Math.max(1, table.rowHeight)) - 1);
@@ -109,7 +131,7 @@ AccessibleScope {
             swipeByKeyboard();
             return true;
         case Qt.Key_Menu:
-            swipeByKeyboard();
+            menuByKeyboard();
             return true;
         case Qt.Key_F5:
             pull();
@@ -130,9 +152,13 @@ AccessibleScope {
         onRowTapped: (index) => list.currentIndex = index
         onKeyboardReturned: (list.currentItem ?? list).forceActiveFocus(Qt.OtherFocusReason)
         onSwipeButtonTapped: (section, row, index, leading) => view.swipeButtonTapped(section, row, index, leading)
+        onMenuRequested: (section, row) => view.menuRequested(section, row)
     }
     ListView {
         id: list
+
+        /// Whether a row is held. The state's `pressedIndex` also tells of a row that was chosen.
+        property bool pressedRow: false
 
         /// Makes the row at once by scrolling to it. Nothing moves when the row exists already.
         function bringIn(index: int) {
@@ -151,12 +177,14 @@ AccessibleScope {
         highlightResizeDuration: 0
         // Where cells cost requests, rows out of view must not be made.
         cacheBuffer: view.table.makesCellsInSteps ? 0 : 120
-        topMargin: (header === null ? view.topSpace : 0) + search.space
+        topMargin: (header === null ? view.topSpace : 0) + view.lineSpace + search.space
+        onTopMarginChanged: view.keepTop()
         bottomMargin: Theme.groupGap
         currentIndex: -1
         boundsBehavior: Flickable.DragAndOvershootBounds
-        remove: view.table.removalAnimated ? slideAway : null
-        displaced: view.table.removalAnimated ? closeUp : null
+        add: view.table.rowsFade ? fadeIn : null
+        remove: view.table.removalAnimated ? slideAway : view.table.rowsFade ? fadeOut : null
+        displaced: view.table.removalAnimated || view.table.rowsFade ? closeUp : null
         delegate: TableRow {
             id: place
 
@@ -167,7 +195,7 @@ AccessibleScope {
             pressAction: selectable
             commands: swipeCell.commands
             Accessible.role: isHeader ? Accessible.Heading : Accessible.ListItem
-            Accessible.name: isHeader ? headerTitle : content !== null ? content.accessibleText : ""
+            Accessible.name: isHeader ? header.Accessible.name : content !== null ? content.accessibleText : ""
             Accessible.selectable: selectable
             Accessible.selected: swipeCell.highlighted
             onAccessiblePressed: tableState.activate(index, selectable)
@@ -194,6 +222,7 @@ AccessibleScope {
             ListView.onReused: {
                 visible = true;
                 x = 0; // A list sets only y of its rows, and a row that slid away still lies to the side.
+                opacity = 1; // Likewise one that faded away.
                 host.pooled = false;
                 configure();
             }
@@ -213,6 +242,7 @@ AccessibleScope {
 
             implicitHeight: isHeader ? header.implicitHeight
                                      : gap + Math.max(Math.round(rowHeight * Theme.textScale), host.implicitHeight)
+                                       + foot.height
             height: implicitHeight
 
             function configure() {
@@ -226,6 +256,8 @@ AccessibleScope {
                 visible: place.isHeader
                 Accessible.ignored: true
                 text: place.headerTitle
+                detail: place.headerDetail
+                note: place.headerNote
                 space: place.index === 0 ? 12 - view.topSpace : Theme.sectionGap
                 x: tableState.sideMargin
                 width: place.width - 2 * x
@@ -237,11 +269,12 @@ AccessibleScope {
                 x: tableState.sideMargin
                 y: place.gap
                 width: place.width - 2 * x
-                height: place.height - place.gap
+                height: place.height - place.gap - foot.height
                 buttons: place.content !== null ? place.content.swipeButtons : []
                 leadingButtons: place.content !== null ? place.content.leadingSwipeButtons : []
                 leadingExpansion: place.content !== null ? place.content.leadingSwipeExpansion : -1
                 pressable: place.selectable
+                offersMenu: place.content !== null && place.content.offersMenu
                 highlighted: tableState.selectedIndex === place.index && place.selectable
                 focusShown: place.focused && tableState.keyboardUsed
                 onClicked: {
@@ -254,7 +287,15 @@ AccessibleScope {
                     }
                 }
                 onOpening: tableState.swipeOpens(swipeCell)
-                onPressedLookChanged: tableState.rowPressed(place.index, pressedLook)
+                onMenuRequested: {
+                    tableState.keyboardUsed = false;
+                    tableState.rowTapped(place.index);
+                    tableState.menuOf(place.section, place.row);
+                }
+                onPressedLookChanged: {
+                    tableState.rowPressed(place.index, pressedLook);
+                    list.pressedRow = pressedLook && !highlighted;
+                }
                 onEscaped: tableState.closeSwipes()
                 onButtonTapped: (button, leading) => {
                     tableState.closeSwipes();
@@ -269,6 +310,14 @@ AccessibleScope {
                     index: place.index
                     delegate: tableState.delegate
                 }
+            }
+            SectionFoot {
+                id: foot
+
+                text: place.sectionFooter
+                x: tableState.sideMargin + Theme.rowStart
+                y: place.height - height
+                width: place.width - 2 * x
             }
             CardCorners {
                 visible: !place.isHeader && (place.firstInSection || place.lastInSection)
@@ -318,11 +367,17 @@ AccessibleScope {
         onCountChanged: view.keepCurrent()
         Keys.onPressed: (event) => event.accepted = view.handleKey(event.key, event.modifiers)
     }
+    Binding {
+        target: view.table
+        property: "touched"
+        value: list.moving || tableState.hasOpenSwipe || list.pressedRow
+    }
     PullSearch {
         id: search
 
         list: list
-        topSpace: view.topSpace
+        topSpace: view.topSpace + view.lineSpace
+        lineSpace: view.lineSpace
         x: tableState.sideMargin
         width: list.width - 2 * x
         onTapped: view.searchTapped()
@@ -339,6 +394,25 @@ AccessibleScope {
         refreshing: view.refreshControl !== null && view.refreshControl.refreshing
     }
 
+    Transition {
+        id: fadeIn
+
+        NumberAnimation {
+            property: "opacity"
+            from: 0
+            to: 1
+            duration: Theme.settle
+        }
+    }
+    Transition {
+        id: fadeOut
+
+        NumberAnimation {
+            property: "opacity"
+            to: 0
+            duration: Theme.settle
+        }
+    }
     Transition {
         id: slideAway
 

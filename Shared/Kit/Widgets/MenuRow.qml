@@ -8,6 +8,8 @@ Pressable {
     id: row
 
     property string iconName
+    /// Whether the text leaves room for an icon: a row without one stands in line with its neighbours' texts then.
+    property bool inset: iconName !== ""
     property color iconColor: Theme.accentInk
     property color ink: Theme.ink
     property string detail
@@ -28,7 +30,7 @@ Pressable {
     readonly property bool pressedLook: pressable && down
     readonly property bool stacked: Theme.stacked && detail !== ""
     readonly property bool beside: !Theme.stacked && detail !== ""
-    readonly property real textStart: iconName === "" ? Theme.rowStart : 60
+    readonly property real textStart: inset ? 60 : Theme.rowStart
 
     implicitHeight: Math.max(Math.round(rowHeight * Theme.textScale),
                              titleLabel.implicitHeight + (stacked ? detailLabel.implicitHeight : 0) + 16)

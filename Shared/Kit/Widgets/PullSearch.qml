@@ -10,6 +10,8 @@ AccessibleItem {
     required property ListView list
     /// Points above the first row while the field is out of sight.
     required property real topSpace
+    /// Points of these that a line takes between the field and the first row.
+    property real lineSpace: 0
     property bool offered: false
     signal tapped()
 
@@ -20,7 +22,7 @@ AccessibleItem {
     readonly property real uncovered: list.originY - topSpace - list.contentY
 
     parent: list.contentItem
-    y: list.originY - height - 8
+    y: list.originY - lineSpace - height - 8
     height: Math.max(40, Math.round(40 * Theme.barScale))
     visible: room && uncovered > 0
     pressAction: true

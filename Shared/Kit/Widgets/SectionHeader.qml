@@ -7,12 +7,30 @@ Item {
     id: header
 
     property string text
+    /// What stands at the end, a count as a rule.
+    property string detail
+    /// A second line, below a title that is larger then.
+    property string note
     /// Points above the text; the first header of a page stands 12 below the bar.
     property real space: Theme.sectionGap
 
-    implicitHeight: space + label.implicitHeight + 8
+    readonly property bool wantsMore: detail !== "" || note !== ""
+    /// Set by the SectionHeaderMore.
+    property real detailWidth: 0
+    property real noteHeight: 0
+
+    implicitHeight: space + label.implicitHeight + noteHeight + 8
     Accessible.role: Accessible.Heading
-    Accessible.name: text
+    Accessible.name: text + (note === "" ? "" : ", " + note) + (detail === "" ? "" : ", " + detail)
+
+    function makeMore() {
+        if (wantsMore && loader.status === Loader.Null) {
+            loader.setSource("SectionHeaderMore.qml", {"header": header});
+        }
+    }
+
+    onWantsMoreChanged: makeMore()
+    Component.onCompleted: makeMore()
 
     Label {
         id: label
@@ -20,15 +38,21 @@ Item {
         // A console may send line breaks or a very long name; the header shows one line and no more text than a line
         // can hold.
         text: header.text.slice(0, 300).replace(/\s+/g, " ").trim()
-        size: Theme.captionSize
-        color: Theme.ink2
+        size: header.note !== "" ? Theme.stateSize : Theme.captionSize
+        color: header.note !== "" ? Theme.ink : Theme.ink2
         anchors.left: parent.left
         anchors.leftMargin: Theme.rowStart
         anchors.right: parent.right
-        anchors.rightMargin: Theme.rowEnd
+        anchors.rightMargin: header.detailWidth > 0 ? Theme.rowStart + header.detailWidth + 12 : Theme.rowEnd
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 8
+        anchors.bottomMargin: 8 + header.noteHeight
         elide: Text.ElideMiddle
         Accessible.ignored: true
+    }
+    // Made on first use, because each row of a list has a header, and most have nothing but a title.
+    Loader {
+        id: loader
+
+        anchors.fill: parent
     }
 }

@@ -12,9 +12,11 @@ Rectangle {
     /// The name of the control for screen readers.
     required property string label
     property int currentIndex: 0
+    /// Bars use a smaller factor: they stop growing earlier than other text.
+    property real scaleFactor: Theme.textScale
     signal activated(int index)
 
-    implicitHeight: Math.max(40, Math.round(20 * Theme.textScale) + 16)
+    implicitHeight: Math.max(40, Math.round(20 * scaleFactor) + 16)
     radius: Theme.fieldRadius
     color: Theme.well
     Accessible.role: Accessible.PageTabList
@@ -74,6 +76,7 @@ Rectangle {
                 Label {
                     text: segment.text
                     size: Theme.stateSize
+                    scaleFactor: control.scaleFactor
                     color: segment.chosen ? Theme.ink : Theme.ink2
                     opacity: segment.pressed && !segment.chosen ? 0.55 : 1
                     anchors.verticalCenter: parent.verticalCenter

@@ -138,8 +138,8 @@ OverlayPopup {
         LayoutMirroring.childrenInherit: true
         Accessible.role: Accessible.Dialog
         Accessible.name: titleLabel.text
-        Keys.onEscapePressed: sheet.cancel()
-        Keys.onBackPressed: sheet.cancel()
+        Keys.onEscapePressed: sheet.leave()
+        Keys.onBackPressed: sheet.leave()
 
         PlainButton {
             id: cancelButton
@@ -202,6 +202,13 @@ OverlayPopup {
         }
     }
 
+    function leave() {
+        if (sheetContent !== null && sheetContent.escapeSaves) {
+            sheetContent.saved();
+        } else {
+            cancel();
+        }
+    }
     function cancel() {
         if (sheetContent !== null) {
             sheetContent.cancelled();

@@ -11,6 +11,9 @@ FocusScope {
     property string cancelText: qsTr("Cancel")
     property string saveText: qsTr("Save")
     property bool saveEnabled: true
+    /// Escape and the back key do what the button at the end does: for sheets that change things at once, in which the
+    /// other button does not lead out.
+    property bool escapeSaves: false
     signal cancelled()
     signal saved()
     /// The first field, which gets the keyboard once the sheet is up.

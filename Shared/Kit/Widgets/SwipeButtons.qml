@@ -79,16 +79,20 @@ FocusScope {
                 visible: button.picture !== ""
                 name: button.picture
                 color: button.ink
-                anchors.centerIn: parent
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: Math.round((parent.height - height - (title.visible ? title.height + 6 : 0)) / 2)
             }
             Label {
-                visible: button.picture === ""
+                id: title
+
+                visible: button.picture === "" || button.text !== ""
                 text: button.text
-                size: Theme.stateSize
+                size: button.picture === "" ? Theme.stateSize : Theme.noteSize
                 scaleFactor: Theme.barScale
                 color: button.ink
                 width: parent.width - 8
-                anchors.centerIn: parent
+                anchors.horizontalCenter: parent.horizontalCenter
+                y: Math.round((parent.height - height + (button.picture !== "" ? 30 : 0)) / 2)
                 horizontalAlignment: Text.AlignHCenter
                 fontSizeMode: Text.HorizontalFit
                 minimumPixelSize: 8

@@ -5,7 +5,8 @@ import QtQuick
 import Lodestar.Kit
 
 /// A row that slides aside and uncovers buttons: trailing ones at its end, leading ones at its start. A finger or the
-/// mouse slides the row; a long press, the secondary button or the menu key opens it at once.
+/// mouse slides the row; a long press, the secondary button or the menu key opens it at once, unless they ask for the
+/// row's menu.
 Item {
     id: cell
 
@@ -14,6 +15,7 @@ Item {
     /// The leading button that fills the row after a far drag and is chosen when the finger leaves; -1 for none.
     property int leadingExpansion: -1
     property bool pressable: true
+    property bool offersMenu: false
     /// Makes the row look pressed in any case.
     property bool highlighted: false
     property bool focusShown: false
@@ -21,6 +23,7 @@ Item {
     default property alias content: holder.data
     signal clicked()
     signal buttonTapped(int index, bool leading)
+    signal menuRequested()
     /// The cell is about to uncover buttons, so that others should close.
     signal opening()
     /// Escape closed the cell; the keyboard focus has to go elsewhere.
@@ -47,6 +50,13 @@ Item {
         buttonTapped(leading ? command - buttons.length : command, leading);
     }
 
+    function act() {
+        if (offersMenu) {
+            menuRequested();
+        } else if (hasButtons) {
+            toggle();
+        }
+    }
     function open(leading: bool) {
         const extent = leading ? -leadingWidth : trailingWidth;
         if (extent !== 0) {
@@ -139,14 +149,14 @@ Item {
             onClicked: (mouse) => {
                 if (mouse.button === Qt.LeftButton) {
                     cell.clicked();
-                } else if (cell.hasButtons) {
-                    cell.toggle();
+                } else {
+                    cell.act();
                 }
             }
             onPressAndHold: (mouse) => {
-                if (cell.hasButtons && mouse.button === Qt.LeftButton) {
+                if ((cell.hasButtons || cell.offersMenu) && mouse.button === Qt.LeftButton) {
                     held = true;
-                    cell.toggle();
+                    cell.act();
                 }
             }
             drag.onActiveChanged: {

@@ -67,12 +67,14 @@ Rectangle {
                 required property int index
                 readonly property bool selected: bar.controller.selectedIndex === index
                 readonly property string imageName: bar.controller.imageNameAt(index)
+                property string badge: bar.controller.badgeAt(index)
+                property string spoken: bar.controller.spokenAt(index)
 
                 width: grid.tabWidth
                 height: bar.rail ? 64 : bar.height
                 text: bar.controller.titleAt(index)
                 Accessible.role: Accessible.PageTab
-                Accessible.name: text
+                Accessible.name: spoken
                 Accessible.selected: selected
                 Accessible.selectable: true
                 onClicked: bar.controller.tap(index)
@@ -81,18 +83,31 @@ Rectangle {
                 Keys.onUpPressed: bar.step(bar.rail ? -1 : 0)
                 Keys.onDownPressed: bar.step(bar.rail ? 1 : 0)
 
+                Connections {
+                    target: bar.controller
+                    function onBadgeChanged(index: int) {
+                        if (index === tab.index) {
+                            tab.badge = bar.controller.badgeAt(index);
+                            tab.spoken = bar.controller.spokenAt(index);
+                        }
+                    }
+                }
                 FocusRing {
                     anchors.fill: parent
                     anchors.margins: 3
                     shown: tab.visualFocus
                 }
                 Column {
+                    id: face
+
                     anchors.centerIn: parent
                     width: parent.width
                     spacing: 2
                     opacity: tab.pressed && !tab.selected ? 0.55 : 1
 
                     Icon {
+                        id: glyph
+
                         name: tab.imageName === "" ? "" : tab.selected ? tab.imageName + "_selected" : tab.imageName
                         color: tab.selected ? bar.tint : Theme.ink3
                         anchors.horizontalCenter: parent.horizontalCenter
@@ -107,6 +122,11 @@ Rectangle {
                         elide: Text.ElideRight
                         Accessible.ignored: true
                     }
+                }
+                TabBadge {
+                    text: tab.badge
+                    x: tab.width / 2 + (Theme.mirrored ? -4 - width : 4)
+                    y: face.y + glyph.y - 4
                 }
             }
         }

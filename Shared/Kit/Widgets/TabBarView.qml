@@ -56,4 +56,11 @@ FocusScope {
         x: rail && Theme.mirrored ? parent.width - width : 0
         y: rail ? 0 : parent.height - height
     }
+    // Loaded when there is first something to say, so that it does not slow the start.
+    Loader {
+        // The URL is used because a bound component cannot be made by a loader.
+        source: Toasts.text === "" ? "" : "Toast.qml"
+        x: body.x + (body.width - width) / 2
+        y: body.height - height - 16
+    }
 }

@@ -15,4 +15,6 @@ Item {
     property var leadingSwipeButtons: []
     /// The leading button that fills the row after a far drag and is chosen when the finger leaves; -1 for none.
     property int leadingSwipeExpansion: -1
+    /// Whether a long press, the secondary button and the menu key ask for a menu instead of the buttons.
+    property bool offersMenu: false
 }

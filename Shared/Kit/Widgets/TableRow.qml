@@ -12,6 +12,9 @@ AccessibleItem {
     required property bool firstInSection
     required property bool lastInSection
     required property bool sectionHasHeader
+    required property string headerDetail
+    required property string headerNote
+    required property string sectionFooter
 
     property TableCell content: null
     property SwipeCell swipe: null

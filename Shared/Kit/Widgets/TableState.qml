@@ -23,6 +23,7 @@ QtObject {
     signal rowTapped(int index)
     signal keyboardReturned()
     signal swipeButtonTapped(int section, int row, int index, bool leading)
+    signal menuRequested(int section, int row)
 
     function activate(index: int, selectable: bool) {
         closeSwipes();
@@ -40,6 +41,10 @@ QtObject {
             swipeHasKeyboard = false;
             keyboardReturned();
         }
+    }
+    function menuOf(section: int, row: int) {
+        closeSwipes();
+        menuRequested(section, row);
     }
     function swipeOpens(cell: SwipeCell) {
         if (swiped !== cell) {

@@ -19,6 +19,8 @@ QtObject {
     readonly property color pressed: dark ? "#1C232B" : "#E6EBF0"
     readonly property color hovered: dark ? "#161B21" : "#E2EEF8"
     readonly property color well: dark ? "#1B2128" : "#E4E8ED"
+    /// A well in a sheet, whose ground is lighter in the dark.
+    readonly property color sheetWell: dark ? "#262D36" : well
     readonly property color hairline: dark ? "#262D36" : "#D9DEE5"
     readonly property color scrim: dark ? "#9E000000" : "#6B101821"
     readonly property color shade: dark ? "#000000" : "#101821"
@@ -51,6 +53,8 @@ QtObject {
     readonly property color errorRed: UIColor.errorRed
     readonly property color plate: dark ? "#F2C7C1" : "#FBEAE7"
     readonly property color systemOrange: dark ? UIColor.dashboardOrange : "#B35900"
+    /// The same as text on the ground instead of a card.
+    readonly property color orangeOnGround: dark ? UIColor.dashboardOrange : "#A95300"
     readonly property color systemRed: "#E32226"
     readonly property color systemRedInk: dark ? "#FF7A75" : "#E32226"
     readonly property color systemLightGrey: dark ? "#4A5460" : UIColor.lightGrayColor
@@ -70,7 +74,8 @@ QtObject {
         case Role.State.None: return titleInk;
         case Role.State.Good: return successGreen;
         case Role.State.Off: return failedRed;
-        case Role.State.Alert: return systemOrange;
+        case Role.State.Alert:
+        case Role.State.Incomplete: return systemOrange;
         case Role.State.Error: return errorRed;
         default: return ink3;
         }
@@ -88,6 +93,8 @@ QtObject {
         case Role.State.Error:
         case Role.State.BadgedError: return "error";
         case Role.State.Offline: return "offline";
+        case Role.State.Incomplete: return "incomplete";
+        case Role.State.Waiting: return "waiting";
         default: return "off";
         }
     }

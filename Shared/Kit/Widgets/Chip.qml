@@ -1,0 +1,85 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+
+/// A choice that is on or off, among others in a Flow. It is not told by colour alone: a chip that is on has a ring and
+/// a tick.
+Pressable {
+    id: chip
+
+    property bool on: false
+    /// A number after the text; empty for none.
+    property string count
+    /// The widest that the chip may be; its text elides.
+    property real room: Infinity
+
+    readonly property real scaleFactor: Theme.textScale
+    readonly property color ink: on ? Theme.accentInk : Theme.ink2
+    readonly property real tickSpace: on ? tick.width + 6 : 0
+    readonly property real countSpace: count !== "" ? number.implicitWidth + 6 : 0
+    signal toggled()
+
+    implicitWidth: Math.min(room, 24 + tickSpace + Math.ceil(measure.advanceWidth) + 1 + countSpace)
+    implicitHeight: Math.max(36, Math.round(20 * scaleFactor) + 16)
+    Accessible.role: Accessible.CheckBox
+    Accessible.name: count === "" ? text : text + ", " + count
+    Accessible.checkable: true
+    Accessible.checked: on
+    onClicked: toggled()
+
+    TextMetrics {
+        id: measure
+
+        font: label.font
+        text: chip.text
+    }
+    Rectangle {
+        anchors.fill: parent
+        radius: Theme.segmentRadius
+        color: chip.on ? "transparent" : chip.pressed ? Theme.pressed : Theme.sheetWell
+        border.width: chip.on ? 1.5 : 0
+        border.color: Theme.accentInk
+    }
+    FocusRing {
+        anchors.fill: parent
+        radius: Theme.segmentRadius
+        shown: chip.visualFocus
+    }
+    Row {
+        x: Theme.mirrored ? chip.width - width - 12 : 12
+        spacing: 6
+        anchors.verticalCenter: parent.verticalCenter
+        layoutDirection: Theme.mirrored ? Qt.RightToLeft : Qt.LeftToRight
+        LayoutMirroring.enabled: false
+        opacity: chip.pressed ? 0.55 : 1
+
+        Icon {
+            id: tick
+
+            name: "check"
+            visible: chip.on
+            color: chip.ink
+            size: Math.round(20 * Math.min(1.5, chip.scaleFactor))
+            anchors.verticalCenter: parent.verticalCenter
+        }
+        Label {
+            id: label
+
+            text: chip.text
+            size: Theme.stateSize
+            color: chip.ink
+            width: Math.min(Math.ceil(measure.advanceWidth) + 1, chip.room - 24 - chip.tickSpace - chip.countSpace)
+            elide: Text.ElideMiddle
+            Accessible.ignored: true
+        }
+        Label {
+            id: number
+
+            visible: chip.count !== ""
+            text: chip.count
+            size: Theme.stateSize
+            color: chip.ink
+            Accessible.ignored: true
+        }
+    }
+}
