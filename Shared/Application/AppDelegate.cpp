@@ -6,6 +6,7 @@
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
+#include "Fleet/History.h"
 #include "Kit/Core/TabBarController.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/UserDefaults.h"
@@ -28,6 +29,7 @@ constexpr int feedbackMode = 2;
 bool AppDelegate::didFinishLaunchingWithOptions()
 {
     RESTHandler::sharedInstance();
+    openHistory(applicationDocumentsDirectory());
     TabBarAppearance::appearance().selectedImageTintColor = UIColor::selectedBlue();
     VireoLogger::settings().reportOnShake = true;
     VireoLogger::settings().mode = feedbackMode;
@@ -46,6 +48,7 @@ void AppDelegate::applicationDidBecomeActive()
 void AppDelegate::applicationWillTerminate()
 {
     saveContext();
+    History::shared().close();
 }
 
 FeedbackWindow* AppDelegate::window() const

@@ -9,8 +9,13 @@
 #include "Views/About/OpenSourceViewController.h"
 #include "Views/About/OrnisLicenseViewController.h"
 #include "Views/About/VersionViewController.h"
+#include "Views/Attention/AttentionViewController.h"
+#include "Views/Attention/WatchConsolesViewController.h"
+#include "Views/Attention/WatchViewController.h"
 #include "Views/Common/Scenes.h"
+#include "Views/Connection/ConnectionViewController.h"
 #include "Views/Corvels/CorvelListViewController.h"
+#include "Views/Corvels/CorvelMenu.h"
 #include "Views/Corvels/DeltaCorvelViewController.h"
 #include "Views/Dashboard/CorvelOverviewTableViewController.h"
 #include "Views/Dashboard/DashboardTableViewController.h"
@@ -49,15 +54,20 @@ std::shared_ptr<ViewController> inNavigation(Scene<> scene)
     return makeController<NavigationController>(Storyboard::main().instantiateViewController(scene));
 }
 
-/// The main interface: a tab bar with the console list and the dashboard, each in a navigation stack of its own.
+/// The main interface: a tab bar with the console list, the dashboard and what needs attention, each in a navigation
+/// stack of its own.
 std::shared_ptr<ViewController> makeMainInterface()
 {
-    return makeController<TabBarController>(std::vector<TabBarItem>{
+    const auto tabs = makeController<TabBarController>(std::vector<TabBarItem>{
         {QCoreApplication::translate("MainStoryboard", "Corvels"), QStringLiteral("tab_consoles"),
          inNavigation(Scenes::corvelListView)},
         {QCoreApplication::translate("MainStoryboard", "Dashboard"), QStringLiteral("tab_dashboard"),
          inNavigation(Scenes::dashboardView)},
+        {QCoreApplication::translate("MainStoryboard", "Attention"), QStringLiteral("tab_attention"),
+         inNavigation(Scenes::attentionView)},
     });
+    countAttention(*tabs, tabs->count() - 1);
+    return tabs;
 }
 
 void give(const ViewController& /*screen*/, NoInput /*input*/) {}
@@ -113,6 +123,7 @@ void add(Scene<Input> scene, QUrl file)
 void registerMainStoryboard(LoginViewController::RootSwitch showRoot)
 {
     CorvelListViewController::setIntroPresenter(&IntroView::showIntroViewInView);
+    setAttentionPresenter(&showAttentionOf);
     const auto makeLogin = [showRoot = std::move(showRoot)](NoInput) {
         return makeController<LoginViewController>(showRoot);
     };
@@ -123,6 +134,7 @@ void registerMainStoryboard(LoginViewController::RootSwitch showRoot)
     add<SettingsViewController>(Scenes::settingsViewController, applicationScene("SettingsScene.qml"));
     add<CorvelListViewController>(Scenes::corvelListView, viewsScene("CorvelListScene.qml"));
     add<DeltaCorvelViewController>(Scenes::deltaCorvel, viewsScene("DeltaCorvelScene.qml"));
+    add<ConnectionViewController>(Scenes::connectionView, viewsScene("ConnectionScene.qml"));
     add<DashboardTableViewController>(Scenes::dashboardView, viewsScene("DashboardScene.qml"));
     add<CorvelOverviewTableViewController>(Scenes::corvelTasksViewController, viewsScene("MenuScene.qml"));
     add<MSListViewController>(Scenes::managedSystemsView, viewsScene("MSListScene.qml"));
@@ -139,6 +151,9 @@ void registerMainStoryboard(LoginViewController::RootSwitch showRoot)
     add<SEDetailViewController>(Scenes::serviceableEventsDetail, viewsScene("DetailScene.qml"));
     add<VersionViewController>(Scenes::versionViewController, viewsScene("RichDocumentScene.qml"));
     add<OpenSourceViewController>(Scenes::openSourceViewController, viewsScene("OpenSourceScene.qml"));
+    add<AttentionViewController>(Scenes::attentionView, viewsScene("AttentionScene.qml"));
+    add<WatchViewController>(Scenes::watchView, viewsScene("WatchScene.qml"));
+    add<WatchConsolesViewController>(Scenes::watchConsolesView, viewsScene("WatchConsolesScene.qml"));
     add<OrnisLicenseViewController>(Scenes::OrnisLicenseViewController, viewsScene("RichDocumentScene.qml"));
 }
 

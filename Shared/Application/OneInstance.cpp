@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/OneInstance.h"
 
+#include "Application/WindowPlace.h"
 #include "Feedback/VireoLogger.h"
 #include "Platform/PrivateFile.h"
 
@@ -93,10 +94,7 @@ void OneInstance::showWindow(QLocalSocket& asker)
     if (!line.isEmpty()) {
         qputenv(token, line);
     }
-    m_window->setWindowStates(m_window->windowStates() & ~Qt::WindowMinimized);
-    m_window->setVisible(true);
-    m_window->raise();
-    m_window->requestActivate();
+    bringToFront(*m_window);
 }
 
 } // namespace lodestar

@@ -42,6 +42,14 @@ const QScreen* screenOf(const QRect& place)
 
 } // namespace
 
+void bringToFront(QWindow& window)
+{
+    window.setWindowStates(window.windowStates() & ~Qt::WindowMinimized);
+    window.setVisible(true);
+    window.raise();
+    window.requestActivate();
+}
+
 WindowPlace::WindowPlace(QWindow& window) : m_window(window)
 {
     restore();

@@ -9,6 +9,9 @@ class QWindow;
 namespace lodestar
 {
 
+/// Shows the window above the others, also when it is minimised or hidden, and asks for the keyboard focus.
+void bringToFront(QWindow& window);
+
 /// Gives a window the size and place that it had when the application last ran, as far as today's screens allow, and
 /// remembers later changes in `KeptState`. Of a maximised window it keeps the place to which the window returns. Main
 /// thread.

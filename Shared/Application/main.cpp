@@ -13,6 +13,7 @@
 #include "Application/OneInstance.h"
 #include "Application/PrivacyCover.h"
 #include "Application/TerminationSignals.h"
+#include "Application/WatchSupport.h"
 #include "Application/WindowPlace.h"
 #include "Feedback/ReportSender.h"
 #include "Feedback/VireoLogger.h"
@@ -130,6 +131,7 @@ int main(int argc, char** argv)
     FeedbackWindow* window = delegate.window();
     const OneInstance oneInstance(*window, dataFolder);
     auto feedback = std::make_unique<FeedbackSupport>(*window, dataFolder, QStringLiteral(LODESTAR_VERSION));
+    auto watch = std::make_unique<WatchSupport>(*window);
     if (options.quitAfterFirstFrame) {
         QObject::connect(
             window, &QQuickWindow::frameSwapped, &application,
@@ -170,6 +172,7 @@ int main(int argc, char** argv)
                      &PrivacyCover::applicationStateDidChange);
 
     const int status = QGuiApplication::exec();
+    watch.reset();
     delegate.applicationWillTerminate();
     feedback.reset();
     place.reset();

@@ -1,11 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 // The lock as an attacker meets it: the real window, every way in but the passcode.
+#include "Application/AttentionOpener.h"
 #include "Application/FeedbackSupport.h"
 #include "Application/PrivacyCover.h"
 #include "Feedback/UI/ScreenGrabber.h"
 #include "Tests/Application/LockedWindowFixture.h"
 
 #include <QClipboard>
+#include <qpa/qwindowsysteminterface.h>
 
 #include <algorithm>
 
@@ -222,6 +224,35 @@ TEST_F(LockedWindowTest, FeedbackNeitherPassesTheLockNorTellsWhatIsBehindIt)
     EXPECT_EQ(login(), nullptr);
     EXPECT_EQ(feedback(), nullptr);
     EXPECT_TRUE(reports.list().empty());
+}
+
+TEST_F(LockedWindowTest, ATapOnAMessageShowsAttentionOnceThePasscodeIsGiven)
+{
+    constexpr int attention = 2;
+    const auto tabs = [this]() -> TabBarController& {
+        return dynamic_cast<TabBarController&>(*window().rootViewController());
+    };
+    open(true);
+    AttentionOpener opener(window());
+    opener.open();
+    ASSERT_NE(login(), nullptr);
+    unlock();
+    EXPECT_EQ(tabs().selectedIndex(), attention);
+    reactivate();
+    unlock();
+    EXPECT_EQ(tabs().selectedIndex(), 0) << "the tap is forgotten";
+    opener.open();
+    EXPECT_EQ(tabs().selectedIndex(), attention) << "nothing stands in between";
+
+    window().hide();
+    QWindowSystemInterface::handleApplicationStateChanged(Qt::ApplicationInactive);
+    ASSERT_TRUE(waitFor([] { return QGuiApplication::applicationState() != Qt::ApplicationActive; }));
+    opener.open();
+    EXPECT_TRUE(window().isVisible());
+    reactivate(); // the lock comes with the window
+    settle(300);
+    unlock();
+    EXPECT_EQ(tabs().selectedIndex(), attention);
 }
 
 } // namespace lodestar::lock

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/FeedbackSupport.h"
 #include "Feedback/CrashCollector.h"
+#include "Fleet/History.h"
 #include "Tests/Application/ResetFixture.h"
 
 namespace lodestar::lock
@@ -19,6 +20,26 @@ protected:
         RESTHandler::sharedInstance().setCorvelList(RESTHandler::sharedInstance().fetchCorvels());
     }
 
+    ~ResetTest() override { History::shared().close(); }
+
+    /// A history that names these consoles. They went offline after their first reading.
+    static void fillHistory(const std::string& folder)
+    {
+        openHistory(folder);
+        Reading reading;
+        for (const auto outcome : {Reading::Outcome::Complete, Reading::Outcome::Offline}) {
+            reading.outcome = outcome;
+            for (const CorvelRef& corvel : RESTHandler::sharedInstance().corvelList()) {
+                corvel->setName("secret-name");
+                History::shared().add(corvel, std::make_shared<const Reading>(reading), nullptr);
+            }
+        }
+        History::shared().setSetting("watch", "secret-address");
+        bool written = false;
+        History::shared().whenWritten([&written] { written = true; });
+        MainQueue::shared().runUntil([&written] { return written; }, std::chrono::seconds(20));
+    }
+
     /// What is written late is written.
     static void settle()
     {
@@ -32,7 +53,9 @@ protected:
 TEST_F(ResetTest, LeavesNoSecretInAnyFileAndComesUpAsOnTheFirstDay)
 {
     fill(40);
+    fillHistory(folder.path());
     ASSERT_THAT(filesWith("secret-"), ::testing::Contains("Lodestar.defaults")) << "the search itself works";
+    ASSERT_THAT(filesWith("secret-name"), ::testing::Contains(::testing::StartsWith("History.sqlite")));
     LoginViewController& login = showLogin();
     logInWith("secret-attempt");
     login.alert()->choose(0);
@@ -58,6 +81,7 @@ TEST_F(ResetTest, LeavesNoSecretInAnyFileAndComesUpAsOnTheFirstDay)
     EXPECT_THAT(filesWith("secret-"), ::testing::IsEmpty());
     EXPECT_EQ(UserDefaults::standard().allKeys(), std::vector<std::string>{"initialLoad"});
     EXPECT_THAT(KeptState::shared().allKeys(), ::testing::IsEmpty());
+    EXPECT_EQ(History::shared().setting("watch"), std::nullopt);
 
     root.reset();
     StoreStack::shared().close();

@@ -2,6 +2,7 @@
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Tests/Scenes/SceneTest.h"
+#include "Views/Connection/ConnectionViewController.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -37,7 +38,7 @@ TEST_F(DrivingTest, AListWhoseLastRowSlidAwayDrawsTheNextConsole)
     Appearance::shared().overrideReducedMotion(false);
     stage.show({390, 844}, {fleet().front()});
     press(Qt::Key_Home);
-    press(Qt::Key_Menu);
+    press(Qt::Key_F10, Qt::ShiftModifier);
     ASSERT_TRUE(waitForButton("Delete"));
     stage.settle(300);
     EXPECT_GE(button("Delete")->mapToScene({}).x(), button("Edit")->mapToScene({}).x() + 72);
@@ -66,6 +67,54 @@ TEST_F(DrivingTest, AListWhoseLastRowSlidAwayDrawsTheNextConsole)
     EXPECT_NE(stage.grab().copy(place), empty.copy(place)) << "the row is not drawn";
 }
 
+TEST_F(DrivingTest, AConsolesRowLeadsToItsConnectionByALeadingSwipeAndByItsMenu)
+{
+    stage.show({390, 844}, fleet());
+    const auto isOpen = [this] { return qobject_cast<ConnectionViewController*>(top()) != nullptr; };
+    const auto goBack = [this] {
+        top()->goBack();
+        return stage.waitFor([this] { return top() == &stage.list() && text("My Corvels") != nullptr; });
+    };
+    const std::vector<CorvelRef> consoles = RESTHandler::sharedInstance().corvelList();
+    const QPoint place = centerOf(row(1));
+    pull(place, 100);
+    letGo(place + QPoint(100, 0));
+    ASSERT_TRUE(waitForButton("Connection"));
+    stage.settle(300);
+    EXPECT_EQ(button("Connection")->width(), 72);
+    EXPECT_EQ(button("Delete"), nullptr);
+    click(button("Connection"));
+    ASSERT_TRUE(stage.waitFor(isOpen));
+    EXPECT_EQ(RESTHandler::sharedInstance().corvelList(), consoles) << "the list's rule would have deleted index 0";
+    EXPECT_TRUE(waitForText("Not tried yet"));
+    EXPECT_TRUE(waitForText("Harbour B"));
+    ASSERT_TRUE(goBack());
+
+    press(Qt::Key_Home);
+    press(Qt::Key_Menu);
+    ASSERT_TRUE(waitForButton("Copy Address"));
+    press(Qt::Key_Escape);
+    ASSERT_TRUE(stage.waitFor([this] { return button("Copy Address") == nullptr; }));
+    QTest::mouseClick(&stage.window(), Qt::RightButton, {}, place);
+    ASSERT_TRUE(waitForButton("Copy Address"));
+    stage.settle(300);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    ASSERT_TRUE(stage.waitFor(isOpen));
+    EXPECT_EQ(qobject_cast<ConnectionViewController*>(top())->corvel(), consoles[1]);
+    ASSERT_TRUE(goBack());
+    ASSERT_TRUE(stage.waitFor([this] { return button("Copy Address") == nullptr; }));
+    stage.settle();
+    QTest::mousePress(&stage.window(), Qt::LeftButton, {}, place);
+    ASSERT_TRUE(waitForButton("Copy Address"));
+    QTest::mouseRelease(&stage.window(), Qt::LeftButton, {}, place);
+    stage.settle(300);
+    EXPECT_NE(button("Copy Address"), nullptr) << "letting go closes nothing";
+    QTest::mouseClick(&stage.window(), Qt::LeftButton, {}, place);
+    EXPECT_TRUE(stage.waitFor([this] { return button("Copy Address") == nullptr; })) << "a press beside it does";
+    EXPECT_EQ(top(), &stage.list());
+}
+
 TEST_F(DrivingTest, TabGoesFromTheBarToTheRowsAndOnToTheRailAndKeysRefresh)
 {
     stage.show({1280, 800}, fleet());
@@ -77,7 +126,7 @@ TEST_F(DrivingTest, TabGoesFromTheBarToTheRowsAndOnToTheRailAndKeysRefresh)
         met << (row(0) == now ? QStringLiteral("row") : now->property("text").toString());
     }
     met.removeAll("Feedback"); // not where a shake asks for it
-    EXPECT_EQ(met.join(", ").toStdString(), "Corvels, Dashboard, Settings, Add console, row");
+    EXPECT_EQ(met.join(", ").toStdString(), "Corvels, Dashboard, Attention, Settings, Add console, row");
 
     stage.show({390, 844}, {});
     int pulls = 0;

@@ -57,12 +57,14 @@ inline std::vector<AnyScene> everyScene(const CorvelRef& corvel)
         return {{scene.identifier,
                  [input, scene] { return Storyboard::main().instantiateViewController(scene, input); }}...};
     };
-    return each(Scenes::corvelListView, Scenes::deltaCorvel, Scenes::dashboardView, Scenes::corvelTasksViewController,
-                Scenes::managedSystemsView, Scenes::managedSystemInfo, Scenes::managedSystemMenu, Scenes::pcmDataView,
-                Scenes::managementConsoleView, Scenes::logicalPartitionsView, Scenes::logicalPartitionsDetail,
-                Scenes::viosView, Scenes::viosDetail, Scenes::resourceGroupsView, Scenes::serviceableEventsView,
-                Scenes::serviceableEventsDetail, Scenes::versionViewController, Scenes::openSourceViewController,
-                Scenes::OrnisLicenseViewController, Scenes::settingsViewController, Scenes::passwordCreation);
+    return each(Scenes::corvelListView, Scenes::deltaCorvel, Scenes::dashboardView, Scenes::connectionView,
+                Scenes::corvelTasksViewController, Scenes::managedSystemsView, Scenes::managedSystemInfo,
+                Scenes::managedSystemMenu, Scenes::pcmDataView, Scenes::managementConsoleView,
+                Scenes::logicalPartitionsView, Scenes::logicalPartitionsDetail, Scenes::viosView, Scenes::viosDetail,
+                Scenes::resourceGroupsView, Scenes::serviceableEventsView, Scenes::serviceableEventsDetail,
+                Scenes::versionViewController, Scenes::openSourceViewController, Scenes::OrnisLicenseViewController,
+                Scenes::settingsViewController, Scenes::passwordCreation, Scenes::attentionView, Scenes::watchView,
+                Scenes::watchConsolesView);
 }
 
 /// A stage, and hands to work it with. No test may leave a QML warning behind.

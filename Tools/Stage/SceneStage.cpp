@@ -6,10 +6,12 @@
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/UI/FeedbackUI.h"
+#include "Fleet/History.h"
 #include "Kit/Core/NavigationController.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/Resources.h"
 #include "Platform/UserDefaults.h"
+#include "Views/Attention/AttentionViewController.h"
 #include "Views/Common/Scenes.h"
 #include "Views/Views.h"
 
@@ -194,6 +196,7 @@ CorvelRef demoConsole(const std::map<std::string, std::string>& feeds)
 SceneStage::SceneStage()
 {
     StoreStack::shared().setApplicationDocumentsDirectory(m_folder.path().toStdString());
+    History::shared().open(m_folder.path().toStdString());
     Resources::install(std::make_unique<PackageResources>());
     UserDefaults::standard().setBool(true, "initialLoad");
     UserDefaults::standard().setBool(true, "showedPreview");
@@ -213,6 +216,7 @@ SceneStage::~SceneStage()
 {
     closeWindow();
     RESTHandler::sharedInstance().setCorvelList({});
+    History::shared().close();
     StoreStack::shared().close();
 }
 
@@ -240,11 +244,14 @@ void SceneStage::show(QSize size, const std::vector<ConsoleLook>& consoles)
     RESTHandler::sharedInstance().setCorvelList({});
     m_list = Storyboard::main().instantiate<CorvelListViewController>(Scenes::corvelListView);
     m_dashboard = Storyboard::main().instantiate<DashboardTableViewController>(Scenes::dashboardView);
-    m_tabs = makeController<TabBarController>(
-        std::vector<TabBarItem>{{QCoreApplication::translate("MainStoryboard", "Corvels"), "tab_consoles",
-                                 makeController<NavigationController>(m_list)},
-                                {QCoreApplication::translate("MainStoryboard", "Dashboard"), "tab_dashboard",
-                                 makeController<NavigationController>(m_dashboard)}});
+    m_tabs = makeController<TabBarController>(std::vector<TabBarItem>{
+        {QCoreApplication::translate("MainStoryboard", "Corvels"), "tab_consoles",
+         makeController<NavigationController>(m_list)},
+        {QCoreApplication::translate("MainStoryboard", "Dashboard"), "tab_dashboard",
+         makeController<NavigationController>(m_dashboard)},
+        {QCoreApplication::translate("MainStoryboard", "Attention"), "tab_attention",
+         makeController<NavigationController>(Storyboard::main().instantiateViewController(Scenes::attentionView))}});
+    countAttention(*m_tabs, m_tabs->count() - 1);
     // Loaded before there are records, so that nothing is fetched.
     m_tabs->loadViewIfNeeded();
     m_list->loadViewIfNeeded();

@@ -53,7 +53,7 @@ std::vector<ConsoleLook> longNames();
 /// for a feed that failed. No list holds the console.
 CorvelRef demoConsole(const std::map<std::string, std::string>& feeds = {});
 
-/// A window with the main interface's two tabs, drawn without a display. Nothing is fetched: records look as their
+/// A window with the main interface's three tabs, drawn without a display. Nothing is fetched: records look as their
 /// `ConsoleLook` says. One at a time; needs a QGuiApplication.
 class SceneStage
 {

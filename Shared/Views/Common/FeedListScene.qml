@@ -104,12 +104,26 @@ PageScaffold {
         label: scene.list.header.titleLabel.text
         refreshControl: scene.list.refreshControl
         delegate: scene.delegate
+        lineSpace: consoleLine.height - consoleLine.gap
         visible: scene.contentShown && !scene.resultsShown
         searchOffered: scene.list.rightBarButton.imageName === "search" && !scene.searching
         focus: true
         anchors.fill: parent
         onSwipeButtonTapped: (section, row, index, leading) => scene.swipeButtonTapped(false, section, row, index, leading)
         onSearchTapped: scene.list.rightBarButton.tap()
+
+        // Lies in the margin instead of a header: in Qt 6.4 a list makes no header of a bound component.
+        ConsoleLine {
+            id: consoleLine
+
+            parent: table.flickable.contentItem
+            console: scene.list.consoleName
+            mark: scene.list.readingMark
+            sideMargin: Theme.sideMargin(table.width, table.measure)
+            width: table.width
+            height: implicitHeight
+            y: table.flickable.originY - height
+        }
     }
     CardTable {
         id: results

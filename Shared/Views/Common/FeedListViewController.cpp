@@ -1,11 +1,16 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Common/FeedListViewController.h"
 
+#include "Fleet/Readings.h"
 #include "Fleet/Registry.h"
 #include "Platform/Queues/DispatchQueue.h"
+#include "Views/Common/AgeClock.h"
+#include "Views/Common/CellText.h"
 #include "Views/Common/FeedTimeStamp.h"
 
 #include <QCoreApplication>
+
+#include <utility>
 
 namespace lodestar
 {
@@ -58,6 +63,33 @@ void FeedListViewController::viewDidLoad()
     emptyLists();
     DispatchQueue::globalBackground().async(
         [screen = self<FeedListViewController>(), turn = turn()] { screen->fetchFeed(turn); });
+}
+
+void FeedListViewController::viewDidAppear()
+{
+    m_readingWatch.begin([this] { showReadingMark(); });
+}
+
+void FeedListViewController::viewDidDisappear()
+{
+    m_readingWatch.end();
+}
+
+QString FeedListViewController::consoleName() const
+{
+    return corvel() ? textOf(corvel()->name()) : QString();
+}
+
+void FeedListViewController::showReadingMark()
+{
+    // A console that was deleted meanwhile has no reading any more; its list keeps the mark that it has.
+    if (!corvel() || !isRegistered(corvel())) {
+        return;
+    }
+    ReadingMark mark = markOfFeed(*Readings::shared().of(*corvel()), type(), AgeClock::now());
+    if (std::exchange(m_readingMark, std::move(mark)) != m_readingMark) {
+        Q_EMIT readingMarkChanged();
+    }
 }
 
 Feed FeedListViewController::feed() const

@@ -11,6 +11,8 @@
 #include "Platform/Queues/ThreadPool.h"
 #include "Views/Common/CorvelReceiving.h"
 #include "Views/Common/FeedListTraits.h"
+#include "Views/Common/ReadingMark.h"
+#include "Views/Common/ReadingWatch.h"
 #include "Views/Common/ScreenLog.h"
 #include "Views/Common/TitleHeader.h"
 
@@ -56,6 +58,8 @@ class FeedListViewController : public lodestar::ViewController, public TableData
     Q_PROPERTY(lodestar::LabelOutlet* noDataLabel READ noDataLabel CONSTANT)
     Q_PROPERTY(lodestar::LabelOutlet* noDataHeadline READ noDataHeadline CONSTANT)
     Q_PROPERTY(QString emptyText READ emptyText CONSTANT)
+    Q_PROPERTY(QString consoleName READ consoleName CONSTANT)
+    Q_PROPERTY(lodestar::ReadingMark readingMark READ readingMark NOTIFY readingMarkChanged)
 
 public:
     /// The traits must outlive the screen.
@@ -73,6 +77,9 @@ public:
     /// Its text is empty in lists that have one label only.
     LabelOutlet* noDataHeadline() { return &m_noDataHeadline; }
     QString emptyText() const;
+    QString consoleName() const;
+    /// How old the console's feed is, whoever read it.
+    const ReadingMark& readingMark() const { return m_readingMark; }
 
     void setCustomNavigationBar() { m_header.setCustomNavigationBar(); }
     /// Any thread. Before `setCustomNavigationBar`, a call ends the process.
@@ -99,12 +106,17 @@ public:
     bool shouldReloadTableForSearchString(const QString& searchString);
     void showSearchBar();
 
+Q_SIGNALS:
+    void readingMarkChanged();
+
 protected:
     using Turn = int;
     /// Where a feed that is shown comes from.
     enum class Source { Record, Fetch };
 
     void viewDidLoad() override;
+    void viewDidAppear() override;
+    void viewDidDisappear() override;
     /// The first load, on a background queue: shows the stored feed, or fetches it if the console has not been fetched.
     void fetchFeed(Turn turn);
     /// Shows a given feed: its rows, its time stamp and the content's look, in an order that the subclass chooses.
@@ -157,6 +169,7 @@ private:
     QString translated(const char* text) const;
     void showContentNow();
     void showNoContentNow();
+    void showReadingMark();
 
     const FeedListTraits& m_traits;
     ScreenLog m_log;
@@ -172,6 +185,8 @@ private:
     ImageOutlet m_noDataImage;
     LabelOutlet m_noDataLabel;
     LabelOutlet m_noDataHeadline;
+    ReadingMark m_readingMark;
+    ReadingWatch m_readingWatch;
 };
 
 } // namespace lodestar

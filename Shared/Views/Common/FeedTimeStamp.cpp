@@ -42,15 +42,53 @@ QString mediumDatePattern(const QLocale& locale)
     return found != mediumDates.end() ? QString::fromUtf16(found->pattern) : QStringLiteral("d MMM yyyy");
 }
 
+/// The same without the year and what ties it to the rest.
+QString dayAndMonthPattern(const QLocale& locale)
+{
+    QString pattern = mediumDatePattern(locale);
+    const auto year = pattern.indexOf(QLatin1String("yyyy"));
+    if (year == 0) {
+        return pattern.mid(pattern.indexOf(QLatin1Char('M')));
+    }
+    pattern.truncate(year);
+    pattern = pattern.trimmed();
+    for (const auto* tie : {"'de'", ","}) {
+        if (pattern.endsWith(QLatin1String(tie))) {
+            pattern.chop(QLatin1String(tie).size());
+        }
+    }
+    return pattern.trimmed();
+}
+
+// The C locale's short time has seconds. The system's locale may be C and yet not equal QLocale::c(), so the language
+// is compared.
+QLocale shownLocale(const QLocale& locale)
+{
+    return locale.language() == QLocale::C ? QLocale(QLocale::English, QLocale::UnitedKingdom) : locale;
+}
+
 } // namespace
 
 QString mediumDateShortTime(const WallClock& clock, const QLocale& locale)
 {
-    // The C locale's short time has seconds. The system's locale may be C and yet not equal QLocale::c(), so the
-    // language is compared.
-    const QLocale shown = locale.language() == QLocale::C ? QLocale(QLocale::English, QLocale::UnitedKingdom) : locale;
-    return shown.toString(clock.date, mediumDatePattern(shown)) + QStringLiteral(", ") +
-           shown.toString(clock.time, QLocale::ShortFormat);
+    return mediumDate(clock.date, locale) + QStringLiteral(", ") + shortTime(clock.time, locale);
+}
+
+QString mediumDate(QDate date, const QLocale& locale)
+{
+    const QLocale shown = shownLocale(locale);
+    return shown.toString(date, mediumDatePattern(shown));
+}
+
+QString dayAndMonth(QDate date, const QLocale& locale)
+{
+    const QLocale shown = shownLocale(locale);
+    return shown.toString(date, dayAndMonthPattern(shown));
+}
+
+QString shortTime(QTime time, const QLocale& locale)
+{
+    return shownLocale(locale).toString(time, QLocale::ShortFormat);
 }
 
 QString mediumDateShortTime(const FeedDate& date, const QLocale& locale)

@@ -62,6 +62,10 @@ inline constexpr Scene<> settingsViewController{"settingsViewController"};
 inline constexpr Scene<> loginViewController{"loginViewController"};
 inline constexpr Scene<> passwordCreation{"passwordCreation"};
 inline constexpr Scene<> mainView{"mainView"};
+inline constexpr Scene<> attentionView{"attentionView"};
+inline constexpr Scene<CorvelRef> connectionView{"connectionView"};
+inline constexpr Scene<> watchView{"watchView"};
+inline constexpr Scene<> watchConsolesView{"watchConsolesView"};
 
 } // namespace Scenes
 

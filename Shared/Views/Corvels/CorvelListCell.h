@@ -7,6 +7,8 @@
 #include <QCoreApplication>
 #include <QList>
 
+#include <memory>
+
 namespace lodestar
 {
 
@@ -30,6 +32,7 @@ struct CorvelListCell {
     Q_PROPERTY(lodestar::CellIndicator eventsActivityIndicator MEMBER eventsActivityIndicator)
     Q_PROPERTY(bool highlights MEMBER highlights)
     Q_PROPERTY(QList<lodestar::SwipeButton> rightButtons MEMBER rightButtons)
+    Q_PROPERTY(QList<lodestar::SwipeButton> leftButtons MEMBER leftButtons)
     Q_PROPERTY(QString accessibleText READ accessibleText)
 
 public:
@@ -57,6 +60,8 @@ public:
     CellIndicator eventsActivityIndicator;
     bool highlights = false; ///< whether the row can be pressed and shows it; if not, the row always looks at rest
     QList<SwipeButton> rightButtons; ///< index 0 stands at the row's outer edge
+    QList<SwipeButton> leftButtons;
+    std::weak_ptr<Corvel> record; ///< whose mark the row shows beside what the cell says
 
 private:
     void setAnimating(bool animating);

@@ -12,7 +12,11 @@ TableCell {
     id: row
 
     required property corvelListCell cell
+    required property CorvelListViewController corvels
 
+    property readingMark none
+    // While the scene is torn down, this binding runs once more and finds no controller.
+    readonly property readingMark mark: corvels !== null ? corvels.markOf(cell, corvels.marksTurn) : none
     readonly property bool captioned: !Theme.stacked && Theme.widthClass(Window.width) !== Theme.compactWidth
     /// One value per line: with large text, and where the three do not fit beside each other.
     readonly property bool stacked: Theme.stacked || (!captioned && metrics.neededWidth > width - Theme.rowStart - Theme.rowEnd)
@@ -21,9 +25,11 @@ TableCell {
     /// Points kept free at the end for the chevron, even without one, so that columns of all rows are aligned.
     readonly property real trailing: Theme.rowEnd + 24
 
-    accessibleText: cell.accessibleText
+    accessibleText: cell.accessibleText + (mark.spoken === "" ? "" : ", " + mark.spoken)
     selectable: cell.highlights
     swipeButtons: cell.rightButtons
+    leadingSwipeButtons: cell.leftButtons
+    offersMenu: true
     implicitHeight: stacked ? Math.ceil(content.height + 22 * scale100) : 0
 
     component Metric: Item {
@@ -94,6 +100,7 @@ TableCell {
         id: content
 
         readonly property real identityHeight: name.height + address.height + (version.atEnd ? 0 : version.height)
+                                               + (row.stacked && age.visible ? age.height : 0)
         readonly property real metricsWidth: row.captioned ? 316 : width
 
         anchors {
@@ -160,11 +167,30 @@ TableCell {
             color: Theme.ink2
             elide: Text.ElideMiddle
             anchors.left: parent.left
-            width: Math.min(implicitWidth, content.identityWidth
+            width: Math.min(implicitWidth, content.identityWidth - age.beside
                             - (version.atEnd && !version.besideName ? version.width + 12 : 0))
             y: name.height
             Privacy.covered: true
             Accessible.ignored: true
+        }
+        ReadingLabel {
+            id: age
+
+            /// Points that the mark takes of the address's line.
+            readonly property real beside: visible && version.atEnd ? width + 12 : 0
+            readonly property real below: address.y + address.height
+            readonly property real end: 24 + (version.besideName ? 0 : version.width + 12)
+
+            function place(start: real): real {
+                return Theme.mirrored ? parent.width - start - width : start;
+            }
+
+            mark: row.mark
+            atEnd: version.atEnd
+            room: Math.round(content.identityWidth * (version.besideName ? 0.6 : 0.4))
+            // x and not anchors: see the version.
+            x: place(version.atEnd ? parent.width - end - width : row.stacked ? 0 : version.width + 12)
+            y: version.atEnd ? address.y : below + (row.stacked ? version.height : 0)
         }
 
         Item {

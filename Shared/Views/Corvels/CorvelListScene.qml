@@ -59,11 +59,23 @@ PageScaffold {
         table: scene.corvels.tableView
         label: scene.corvels.title
         refreshControl: scene.corvels.refreshControl
-        delegate: CorvelListDelegate {}
+        delegate: CorvelListDelegate {
+            corvels: scene.corvels
+        }
         topSpace: 0
         focus: true
         anchors.fill: parent
-        onSwipeButtonTapped: (section, row, index) => scene.corvels.swipeTableCell(row, index)
+        onSwipeButtonTapped: (section, row, index, leading) => {
+            if (leading) {
+                scene.corvels.openConnection(row);
+            } else {
+                scene.corvels.swipeTableCell(row, index);
+            }
+        }
+        onMenuRequested: (section, row) => scene.corvels.presentMenu(row)
+    }
+    ActionSheet {
+        outlet: scene.corvels.rowMenu
     }
     NoContent {
         anchors.fill: parent

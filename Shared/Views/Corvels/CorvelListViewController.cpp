@@ -5,11 +5,15 @@
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
+#include "Fleet/Readings.h"
 #include "Fleet/Registry.h"
+#include "Fleet/Watch.h"
 #include "Kit/Core/TabBarController.h"
 #include "Platform/UserDefaults.h"
+#include "Views/Common/AgeClock.h"
 #include "Views/Common/Scenes.h"
 #include "Views/Corvels/CorvelListCell.h"
+#include "Views/Corvels/CorvelMenu.h"
 
 #include <utility>
 
@@ -43,6 +47,11 @@ QList<SwipeButton> makeRightButtons()
 {
     return {{CorvelListViewController::tr("Delete"), Role::Button::Destructive},
             {CorvelListViewController::tr("Edit"), Role::Button::Quiet}};
+}
+
+QList<SwipeButton> makeLeftButtons()
+{
+    return {{CorvelListViewController::tr("Connection"), Role::Button::Standard, QStringLiteral("connection")}};
 }
 
 } // namespace
@@ -87,6 +96,23 @@ void CorvelListViewController::viewDidLoad()
     dataRefresh();
 }
 
+void CorvelListViewController::viewDidAppear()
+{
+    // Other screens refresh consoles, too.
+    if (std::exchange(m_readUnseen, false)) {
+        m_tableView.reloadData();
+    }
+    m_readingWatch.begin([this] {
+        ++m_marksTurn;
+        Q_EMIT marksChanged();
+    });
+}
+
+void CorvelListViewController::viewDidDisappear()
+{
+    m_readingWatch.end();
+}
+
 void CorvelListViewController::observeNotifications()
 {
     NotificationCenter& center = NotificationCenter::defaultCenter();
@@ -94,6 +120,10 @@ void CorvelListViewController::observeNotifications()
     m_observations.push_back(center.addObserver("CorvelAdded", [this] { showCorvels(); }));
     m_observations.push_back(center.addObserver("StatusWillShow", [this] { statusWillShow(); }));
     m_observations.push_back(center.addObserver("StatusShouldHide", [this] { statusShouldHide(); }));
+    m_observations.push_back(center.addObserver("ReadingsDidChange", [this] { m_readUnseen = !isInWindow(); }));
+    for (const char* name : {"WatchDidRefresh", "CorvelDidRefresh"}) {
+        m_observations.push_back(center.addObserver(name, [this] { m_tableView.reloadData(); }));
+    }
     m_observations.push_back(center.addObserver("FeedbackEntryDidChange", [this] { Q_EMIT feedbackHiddenChanged(); }));
 }
 
@@ -119,18 +149,20 @@ void CorvelListViewController::refreshCorvel(const CorvelRef& corvel)
     // The promise keeps the screen until the result is stored, even when the screen was closed.
     const auto screen = self<CorvelListViewController>();
     fetchInventory(corvel, Urgency::Fleet)
-        .thenOnMain([screen, corvel](const std::string&) { screen->didRefreshCorvel(corvel); },
-                    [screen, corvel](const Error& error) { screen->didFailToRefreshCorvel(corvel, error); });
+        .thenOnMain(
+            [screen, corvel, byHand = m_isRefreshedByHand](const std::string&) {
+                screen->didRefreshCorvel(corvel);
+                if (byHand) {
+                    Watch::shared().didRefreshByHand(*corvel);
+                }
+            },
+            [screen, corvel](const Error& error) { screen->didFailToRefreshCorvel(corvel, error); });
 }
 
 void CorvelListViewController::didRefreshCorvel(const CorvelRef& corvel)
 {
-    if (!isRegistered(corvel)) {
-        forgetSessionKeyOfUnregistered(*corvel);
+    if (!mayFinishRefresh(corvel)) {
         return;
-    }
-    if (corvel->restData() == nullptr) {
-        return; // A later pull has reset the record, and that pull's own refresh is running.
     }
     LODESTAR_LOG(fileName, "-[CorvelListViewController dataRefresh]", "CorvelListViewController: Parsing mcvi");
     LODESTAR_LOG(fileName, "-[CorvelListViewController dataRefresh]", "CorvelListViewController: Parsing version");
@@ -152,7 +184,9 @@ void CorvelListViewController::refresh()
         resetFetchData();
     }
     m_tableView.reloadData();
+    m_isRefreshedByHand = true;
     dataRefresh();
+    m_isRefreshedByHand = false;
     m_refreshControl.endRefreshing();
 }
 
@@ -183,6 +217,8 @@ QVariant CorvelListViewController::cellForRowAtIndexPath(TableKind /*tableView*/
     CorvelListCell cell;
     cell.configure(*corvel);
     cell.rightButtons = makeRightButtons();
+    cell.leftButtons = makeLeftButtons();
+    cell.record = corvel;
     return QVariant::fromValue(cell);
 }
 
@@ -207,6 +243,27 @@ bool CorvelListViewController::swipeTableCell(int row, int tappedButtonAtIndex)
         presentEditor({.corvel = corvel, .parentList = {}});
     }
     return true;
+}
+
+ReadingMark CorvelListViewController::markOf(const CorvelListCell& cell, int /*turn*/) const
+{
+    const CorvelRef corvel = cell.record.lock();
+    return corvel ? markOfConsole(*Readings::shared().of(*corvel), AgeClock::now()) : ReadingMark();
+}
+
+void CorvelListViewController::openConnection(int row)
+{
+    if (const CorvelRef corvel = corvelAtRow(row)) {
+        openScene(*this, Scenes::connectionView, corvel);
+    }
+}
+
+void CorvelListViewController::presentMenu(int row)
+{
+    if (const CorvelRef corvel = corvelAtRow(row)) {
+        m_tableView.setEditing(false, true);
+        presentCorvelMenu(m_rowMenu, shared_from_this(), corvel);
+    }
 }
 
 void CorvelListViewController::addCorvel()

@@ -2,11 +2,15 @@
 #pragma once
 
 #include "Application/Model/Corvel.h"
+#include "Kit/Core/Menu.h"
 #include "Kit/Core/PagedIntro.h"
 #include "Kit/Core/SheetHostController.h"
 #include "Kit/Core/Table.h"
 #include "Platform/Error.h"
 #include "Platform/NotificationCenter.h"
+#include "Views/Common/ReadingMark.h"
+#include "Views/Common/ReadingWatch.h"
+#include "Views/Corvels/CorvelListCell.h"
 
 #include <functional>
 #include <vector>
@@ -26,6 +30,8 @@ class CorvelListViewController : public lodestar::SheetHostController, public Ta
     QML_UNCREATABLE("made by the storyboard")
     Q_PROPERTY(lodestar::TableOutlet* tableView READ tableView CONSTANT)
     Q_PROPERTY(lodestar::RefreshControl* refreshControl READ refreshControl CONSTANT)
+    Q_PROPERTY(lodestar::MenuOutlet* rowMenu READ rowMenu CONSTANT)
+    Q_PROPERTY(int marksTurn READ marksTurn NOTIFY marksChanged)
     Q_PROPERTY(bool feedbackHidden READ isFeedbackHidden NOTIFY feedbackHiddenChanged)
 
 public:
@@ -38,6 +44,8 @@ public:
 
     TableOutlet* tableView() { return &m_tableView; }
     RefreshControl* refreshControl() { return &m_refreshControl; }
+    /// The menu of one row: Connection, Attention, Copy Address.
+    MenuOutlet* rowMenu() { return &m_rowMenu; }
     bool viewHasAppearedOnce() const { return m_viewHasAppearedOnce; }
 
     /// Whether the feedback button is hidden. It is shown on devices that cannot be shaken, which is known only after
@@ -63,6 +71,14 @@ public:
     /// Handles a swiped row's button on the right that was tapped or chosen by key. Returns true always, so that the
     /// row closes.
     Q_INVOKABLE bool swipeTableCell(int row, int tappedButtonAtIndex);
+    /// Handles the swiped row's button on the left, which has nothing to do with the index of a button on the right.
+    Q_INVOKABLE void openConnection(int row);
+    Q_INVOKABLE void presentMenu(int row);
+
+    /// How old the cell's console is, or what is missing of it. Asked again at each turn: a mark changes with time
+    /// alone, and its row is not configured anew.
+    Q_INVOKABLE lodestar::ReadingMark markOf(const lodestar::CorvelListCell& cell, int turn) const;
+    int marksTurn() const { return m_marksTurn; }
 
     void hideModalView();
     /// Shows the rows, whether or not there were rows before.
@@ -72,9 +88,12 @@ public:
 
 Q_SIGNALS:
     void feedbackHiddenChanged();
+    void marksChanged();
 
 protected:
     void viewDidLoad() override;
+    void viewDidAppear() override;
+    void viewDidDisappear() override;
     double restingSheetHeight() const override;
 
 private:
@@ -85,9 +104,14 @@ private:
     void presentEditor(EditorInput input);
 
     TableOutlet m_tableView;
+    MenuOutlet m_rowMenu;
+    int m_marksTurn = 0;
+    bool m_readUnseen = false; ///< consoles were read while nobody saw the rows
     RefreshControl m_refreshControl;
     bool m_viewHasAppearedOnce = false;
+    bool m_isRefreshedByHand = false; ///< while a pull asks the consoles
     std::vector<NotificationCenter::Observation> m_observations;
+    ReadingWatch m_readingWatch;
 };
 
 } // namespace lodestar

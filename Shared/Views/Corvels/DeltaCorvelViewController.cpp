@@ -94,7 +94,7 @@ void DeltaCorvelViewController::insertRecordIfNeeded()
 void DeltaCorvelViewController::copyFieldsToRecord()
 {
     m_corvel->setName(m_nameField.text().toStdString());
-    m_corvel->setAddress(m_addressField.text().toStdString());
+    changeAddress(*m_corvel, m_addressField.text().toStdString());
     m_corvel->setUsername(m_usernameField.text().toStdString());
     m_corvel->setPassword(m_passwordField.text().toStdString());
 }

@@ -55,11 +55,16 @@ PageScaffold {
         required property ViewOutlet outlet
         required property string text
         property real space: Theme.sectionGap
+        property readingMark mark
+
+        /// The mark stands below the text where both do not fit.
+        readonly property bool stacked: end.visible && words.implicitWidth + end.wanted + 12 > room
+        readonly property real room: width - 2 * Theme.rowStart
 
         width: parent ? parent.width : 0
-        implicitHeight: space + words.height + 8
+        implicitHeight: space + words.height + (stacked ? end.height : 0) + 8
         Accessible.role: Accessible.Heading
-        Accessible.name: text
+        Accessible.name: text + (mark.spoken === "" ? "" : ", " + mark.spoken)
         Accessible.ignored: outlet.hidden
 
         Label {
@@ -75,6 +80,18 @@ PageScaffold {
             y: heading.space
             wrapMode: Text.Wrap
             Accessible.ignored: true
+        }
+        ReadingLabel {
+            id: end
+
+            visible: !heading.outlet.hidden && mark.text !== ""
+            mark: heading.mark
+            grounded: true
+            atEnd: !heading.stacked
+            quietColor: Theme.ink3
+            room: heading.room
+            x: heading.stacked === Theme.mirrored ? heading.width - width - Theme.rowStart : Theme.rowStart
+            y: heading.space + (heading.stacked ? words.height : 0)
         }
     }
 
@@ -171,6 +188,7 @@ PageScaffold {
         Heading {
             outlet: scene.dashboard.corvelOverviewLabel
             text: qsTr("Corvel Overview")
+            mark: scene.dashboard.marks.answered
             space: 4
         }
         FigureCard {
@@ -211,6 +229,27 @@ PageScaffold {
                 wrapMode: Text.Wrap
             }
         }
+        Item {
+            visible: scene.dashboard.marks.foot !== ""
+            width: parent ? parent.width : 0
+            implicitHeight: foot.height + 8
+
+            Label {
+                id: foot
+
+                text: scene.dashboard.marks.foot
+                visible: !scene.dashboard.corvelOverviewLabel.hidden
+                size: Theme.captionSize
+                color: scene.dashboard.marks.old ? Theme.orangeOnGround : Theme.ink2
+                anchors.left: parent.left
+                anchors.leftMargin: Theme.rowStart
+                y: 8
+                width: parent.width - 2 * Theme.rowStart
+                wrapMode: Text.Wrap
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+            }
+        }
         Grid {
             id: charts
 
@@ -227,6 +266,7 @@ PageScaffold {
                 Heading {
                     outlet: scene.dashboard.managedSystemLabel
                     text: qsTr("Managed Systems")
+                    mark: scene.dashboard.marks.systems
                 }
                 ChartCard {
                     chart: scene.dashboard.manSysPieChartView
@@ -241,6 +281,7 @@ PageScaffold {
                 Heading {
                     outlet: scene.dashboard.lparLabel
                     text: qsTr("Logical Partitions")
+                    mark: scene.dashboard.marks.partitions
                 }
                 ChartCard {
                     chart: scene.dashboard.lparPieChartView
@@ -248,6 +289,22 @@ PageScaffold {
                     emptyText: qsTr("No logical partitions are known.")
                     width: parent.width
                 }
+            }
+            EventBars {
+                id: eventBars
+
+                visible: scene.dashboard.bars.shown
+                bars: scene.dashboard.bars.events
+                width: charts.cell
+                cardHeight: charts.paired ? stateBars.wantedCardHeight : 0
+            }
+            StateBars {
+                id: stateBars
+
+                visible: scene.dashboard.bars.shown && states.length > 0
+                states: scene.dashboard.bars.states
+                width: charts.cell
+                cardHeight: charts.paired ? eventBars.wantedCardHeight : 0
             }
         }
     }

@@ -116,6 +116,7 @@ void DashboardTableViewController::viewDidLoad()
 void DashboardTableViewController::viewDidAppear()
 {
     UILoadingContent();
+    m_marks.begin();
     // Every appearance starts a wait. When the dashboard appears again during a wait, it is drawn twice.
     std::thread([dashboard = weak_from_this(), stop = m_stopWaiting.get_token()] {
         const OwnThread thread("lodestar-wait");
@@ -171,6 +172,8 @@ void DashboardTableViewController::createDashboard()
     applySettings(m_lparPieChartView);
     m_lparPieChartView.setData(pieData(totals.partitions, partitionColors(), 10));
     m_lparPieChartView.highlightValues({});
+    m_bars.show(totals.partitions, partitionColors());
+    m_marks.take();
     UIShowContent();
 }
 
@@ -288,6 +291,7 @@ void DashboardTableViewController::setContentHidden(bool hidden)
     }
     m_manSysPieChartView.setHidden(hidden);
     m_lparPieChartView.setHidden(hidden);
+    m_bars.setShown(!hidden);
 }
 
 void DashboardTableViewController::setViewSize(double width, double shortestSide)

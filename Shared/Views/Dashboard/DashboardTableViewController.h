@@ -5,6 +5,8 @@
 #include "Kit/Core/Outlets.h"
 #include "Kit/Core/Table.h"
 #include "Kit/Core/ViewController.h"
+#include "Views/Dashboard/DashboardBars.h"
+#include "Views/Dashboard/DashboardMarks.h"
 
 #include <memory>
 #include <optional>
@@ -37,6 +39,8 @@ class DashboardTableViewController : public lodestar::ViewController, public Cha
     Q_PROPERTY(lodestar::LabelOutlet* waitingLabel READ waitingLabel CONSTANT)
     Q_PROPERTY(lodestar::PieChartView* manSysPieChartView READ manSysPieChartView CONSTANT)
     Q_PROPERTY(lodestar::PieChartView* lparPieChartView READ lparPieChartView CONSTANT)
+    Q_PROPERTY(lodestar::DashboardBars* bars READ bars CONSTANT)
+    Q_PROPERTY(lodestar::DashboardMarks* marks READ marks CONSTANT)
     Q_PROPERTY(double chartRowHeight READ chartRowHeight NOTIFY viewSizeChanged)
 
 public:
@@ -61,6 +65,9 @@ public:
     LabelOutlet* waitingLabel() { return &m_waitingLabel; }
     PieChartView* manSysPieChartView() { return &m_manSysPieChartView; }
     PieChartView* lparPieChartView() { return &m_lparPieChartView; }
+    /// What stands below the pies.
+    DashboardBars* bars() { return &m_bars; }
+    DashboardMarks* marks() { return &m_marks; }
 
     /// Waits until every console of the working list has been fetched, then schedules `createDashboard` on the main
     /// thread and returns. Returns early when asked to stop. Background thread; while waiting, it holds no strong
@@ -85,6 +92,7 @@ Q_SIGNALS:
 protected:
     void viewDidLoad() override;
     void viewDidAppear() override;
+    void viewDidDisappear() override { m_marks.end(); }
 
 private:
     void showNothing();
@@ -114,6 +122,8 @@ private:
     LabelOutlet m_waitingLabel;
     PieChartView m_manSysPieChartView;
     PieChartView m_lparPieChartView;
+    DashboardBars m_bars;
+    DashboardMarks m_marks;
 };
 
 } // namespace lodestar

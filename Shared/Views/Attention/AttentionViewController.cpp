@@ -1,0 +1,230 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/Attention/AttentionViewController.h"
+
+#include "Controllers/REST/RESTHandler.h"
+#include "Fleet/Readings.h"
+#include "Fleet/Registry.h"
+#include "Fleet/Watch.h"
+#include "Kit/Core/NavigationController.h"
+#include "Views/Attention/AttentionFilterController.h"
+#include "Views/Attention/WatchText.h"
+#include "Views/Common/Scenes.h"
+#include "Views/Corvels/CorvelListViewController.h"
+
+#include <QPointer>
+
+#include <algorithm>
+#include <utility>
+
+namespace lodestar
+{
+namespace
+{
+
+constexpr double filterHeight = 520;
+constexpr std::size_t mostCounted = 99;
+
+/// The first screen of the tab whose first screen is such a controller, and the tab's number; null and -1 for none.
+template <typename Controller>
+std::pair<Controller*, int> rootOf(const TabBarController& tabs)
+{
+    for (int index = 0; index < tabs.count(); ++index) {
+        const auto* const stack = qobject_cast<NavigationController*>(tabs.controllerAt(index));
+        if (auto* const root = qobject_cast<Controller*>(stack != nullptr ? stack->rootViewController() : nullptr)) {
+            return {root, index};
+        }
+    }
+    return {nullptr, -1};
+}
+
+TabBadge badgeOf(const QString& title, std::size_t count)
+{
+    if (count == 0) {
+        return {};
+    }
+    const QString spoken =
+        count == 1 ? AttentionViewController::tr("%1, 1 thing").arg(title)
+                   : AttentionViewController::tr("%1, %Ln things", nullptr, static_cast<int>(count)).arg(title);
+    return {count > mostCounted ? AttentionViewController::tr("99+")
+                                : QLocale().toString(static_cast<qulonglong>(count)),
+            spoken};
+}
+
+} // namespace
+
+AttentionViewController::AttentionViewController()
+    : m_now(makeController<AttentionNowController>()),
+      m_changes(makeController<ChangesViewController>()),
+      m_events(makeController<FleetEventsViewController>())
+{
+    for (AttentionSegment* each :
+         {static_cast<AttentionSegment*>(m_now.get()), static_cast<AttentionSegment*>(m_changes.get()),
+          static_cast<AttentionSegment*>(m_events.get())}) {
+        each->setHost(*this);
+    }
+}
+
+void AttentionViewController::viewDidLoad()
+{
+    setTitle(tr("Attention"));
+    setBackTitle(QStringLiteral(""));
+    connect(&m_refreshControl, &RefreshControl::valueChanged, this, &AttentionViewController::refresh);
+    connect(&m_segmentedControl, &SegmentedControlOutlet::selectedSegmentIndexChanged, this,
+            &AttentionViewController::showSegment);
+    NotificationCenter& center = NotificationCenter::defaultCenter();
+    m_observations.push_back(center.addObserver("WatchDidChange", [this] { showWatch(); }));
+    m_observations.push_back(center.addObserver("CorvelsDidChange", [this] { dropDeletedConsoles(); }));
+    showWatch();
+}
+
+void AttentionViewController::viewDidAppear()
+{
+    showSegment();
+}
+
+void AttentionViewController::viewDidDisappear()
+{
+    if (AttentionSegment* const shown = std::exchange(m_shown, nullptr)) {
+        shown->endAppearance();
+    }
+}
+
+AttentionSegment& AttentionViewController::segment() const
+{
+    switch (static_cast<Segment>(m_segmentedControl.selectedSegmentIndex())) {
+    case Segment::Changes:
+        return *m_changes;
+    case Segment::Events:
+        return *m_events;
+    default:
+        return *m_now;
+    }
+}
+
+void AttentionViewController::showSegment()
+{
+    if (!isInWindow() || m_shown == &segment()) {
+        return;
+    }
+    if (AttentionSegment* const before = std::exchange(m_shown, &segment())) {
+        before->endAppearance();
+    }
+    m_shown->beginAppearance();
+}
+
+void AttentionViewController::setFilter(FindingFilter filter)
+{
+    m_filter = std::move(filter);
+    m_now->setFilter(m_filter);
+    m_changes->setFilter(m_filter);
+    m_events->setFilter(m_filter);
+    Q_EMIT filterChanged();
+}
+
+void AttentionViewController::showAll()
+{
+    setFilter({.grouping = m_filter.grouping, .kinds = {}, .consoles = {}});
+}
+
+void AttentionViewController::dropDeletedConsoles()
+{
+    FindingFilter filter = m_filter;
+    const std::vector<CorvelRef>& corvels = RESTHandler::sharedInstance().corvelList();
+    const auto isDeleted = [&](const Corvel* chosen) {
+        return std::ranges::none_of(corvels, [&](const CorvelRef& each) { return each.get() == chosen; });
+    };
+    if (std::erase_if(filter.consoles, isDeleted) > 0) {
+        setFilter(std::move(filter));
+    }
+}
+
+void AttentionViewController::refresh()
+{
+    // A copy is walked, because a demonstration console may finish, and change the list, before the next one is asked.
+    const std::vector<CorvelRef> corvels = RESTHandler::sharedInstance().corvelList();
+    for (const CorvelRef& corvel : corvels) {
+        if (!Readings::shared().of(*corvel)->isUpdating) {
+            const auto ended = [corvel](const auto&) { Watch::shared().didRefreshByHand(*corvel); };
+            refreshCorvel(corvel, Urgency::Fleet).thenOnMain(ended, ended);
+        }
+    }
+    m_refreshControl.endRefreshing();
+}
+
+void AttentionViewController::showWatch()
+{
+    m_watchLabel.setText(WatchText::state());
+}
+
+void AttentionViewController::openWatch()
+{
+    openScene(*this, Scenes::watchView);
+}
+
+void AttentionViewController::openFilter()
+{
+    // The sheet, which this screen holds, may still be seen when the screen has gone.
+    const QPointer<AttentionViewController> screen(this);
+    AttentionFilterController::Host host{.filter = [screen] { return screen ? screen->filter() : FindingFilter(); },
+                                         .setFilter =
+                                             [screen](FindingFilter filter) {
+                                                 if (screen) {
+                                                     screen->setFilter(std::move(filter));
+                                                 }
+                                             },
+                                         .leave =
+                                             [screen] {
+                                                 if (screen) {
+                                                     screen->dismissSemiModalView();
+                                                 }
+                                             }};
+    presentSemiViewController(makeController<AttentionFilterController>(std::move(host)),
+                              {.pushParentBack = false, .height = filterHeight});
+}
+
+void AttentionViewController::addCorvel()
+{
+    if (TabBarController* const tabs = tabBarController()) {
+        const auto [list, index] = rootOf<CorvelListViewController>(*tabs);
+        if (list != nullptr) {
+            tabs->setSelectedIndex(index);
+            list->addCorvel();
+        }
+    }
+}
+
+AttentionViewController* showAttention(TabBarController& tabs)
+{
+    const auto [attention, index] = rootOf<AttentionViewController>(tabs);
+    if (attention != nullptr) {
+        tabs.setSelectedIndex(index);
+        attention->navigationController()->popToRoot();
+        attention->segmentedControl()->setSelectedSegmentIndex(static_cast<int>(AttentionViewController::Segment::Now));
+    }
+    return attention;
+}
+
+void showAttentionOf(const ViewController& from, const CorvelRef& corvel)
+{
+    if (TabBarController* const tabs = from.tabBarController()) {
+        if (AttentionViewController* const attention = showAttention(*tabs)) {
+            FindingFilter filter;
+            filter.grouping = attention->filter().grouping;
+            filter.consoles = {corvel.get()};
+            attention->setFilter(std::move(filter));
+        }
+    }
+}
+
+void countAttention(TabBarController& tabs, int index)
+{
+    const auto count = [&tabs, index] {
+        tabs.setBadge(index, badgeOf(tabs.titleAt(index), Attention::shared().picture()->findings.needAttention));
+    };
+    // The connection keeps the observation until the tabs are gone.
+    QObject::connect(&tabs, &QObject::destroyed,
+                     [observation = NotificationCenter::defaultCenter().addObserver("AttentionDidChange", count)] {});
+    count();
+}
+
+} // namespace lodestar

@@ -1,0 +1,49 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/Attention/FleetEventList.h"
+
+#include <algorithm>
+
+namespace lodestar
+{
+namespace
+{
+
+/// The events of a console that is offline are old, and what they would be now is not known.
+bool wasRead(const ConsoleSnapshot& console)
+{
+    return console.reading && (console.reading->outcome == Reading::Outcome::Complete ||
+                               console.reading->outcome == Reading::Outcome::Partial);
+}
+
+} // namespace
+
+FleetEventList FleetEventList::of(const std::vector<ConsoleSnapshot>& consoles, const EventChoice& choice, WallTime now)
+{
+    FleetEventList list;
+    std::vector<ConsoleSnapshot> read;
+    for (const ConsoleSnapshot& console : consoles) {
+        if (!wasRead(console)) {
+            list.consolesNotRead.push_back(console.name);
+            continue;
+        }
+        read.push_back(console);
+        if (!console.feeds || console.feeds->feed(ObjectType::ServiceableEvent).isNA()) {
+            list.eventsNotRead.push_back(console.name);
+        }
+    }
+    list.read = read.size();
+    list.events = eventsOf(read);
+    list.groups = groupedEvents(list.events, choice);
+    list.perDay = eventsADay(list.events, now, barDays);
+    list.open = static_cast<std::size_t>(std::ranges::count_if(list.events, &FleetEvent::isOpen));
+    list.callHome = static_cast<std::size_t>(std::ranges::count_if(list.events, &FleetEvent::callsHome));
+    for (const EventGroup& group : list.groups) {
+        for (const std::uint32_t event : group.events) {
+            list.shown.push_back(event);
+            list.titles.add(list.events[event].event.title());
+        }
+    }
+    return list;
+}
+
+} // namespace lodestar

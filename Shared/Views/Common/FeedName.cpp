@@ -1,0 +1,153 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Views/Common/FeedName.h"
+
+#include "Inventory/Feed.h"
+#include "Kit/Core/Appearance.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <array>
+
+namespace lodestar
+{
+namespace
+{
+
+struct Words {
+    Q_DECLARE_TR_FUNCTIONS(lodestar::FeedName)
+};
+
+/// The first of the isolates' controls is as strong as the text's own first letter.
+constexpr char16_t firstStrongIsolate = u'\u2068';
+constexpr char16_t popIsolate = u'\u2069';
+
+struct Name {
+    std::string_view type;
+    const char* within;
+    const char* atStart;
+};
+
+constexpr std::array<Name, feedTable.size()> names = {{
+    {ObjectType::ManagementConsole, QT_TRANSLATE_NOOP("lodestar::FeedName", "console details"),
+     QT_TRANSLATE_NOOP("lodestar::FeedName", "Console details")},
+    {ObjectType::ManagedSystem, QT_TRANSLATE_NOOP("lodestar::FeedName", "systems"),
+     QT_TRANSLATE_NOOP("lodestar::FeedName", "Systems")},
+    {ObjectType::VirtualIOServer, QT_TRANSLATE_NOOP("lodestar::FeedName", "IO servers"),
+     QT_TRANSLATE_NOOP("lodestar::FeedName", "IO servers")},
+    {ObjectType::LogicalPartition, QT_TRANSLATE_NOOP("lodestar::FeedName", "partitions"),
+     QT_TRANSLATE_NOOP("lodestar::FeedName", "Partitions")},
+    {ObjectType::ServiceableEvent, QT_TRANSLATE_NOOP("lodestar::FeedName", "events"),
+     QT_TRANSLATE_NOOP("lodestar::FeedName", "Events")},
+    {ObjectType::Group, QT_TRANSLATE_NOOP("lodestar::FeedName", "resource groups"),
+     QT_TRANSLATE_NOOP("lodestar::FeedName", "Resource groups")},
+}};
+
+const Name* nameOf(std::string_view type)
+{
+    const auto* const found = std::ranges::find(names, type, &Name::type);
+    return found != names.end() ? found : nullptr;
+}
+
+/// A list has no room for the groups' whole name.
+QString nameInList(std::string_view type)
+{
+    return type == ObjectType::Group ? Words::tr("groups") : feedName(type);
+}
+
+bool endsLine(QChar each)
+{
+    return each == u'\n' || each == u'\r' || each == u'\t' || each == u'\v' || each == u'\f' || each == u'\u0085' ||
+           each == QChar::LineSeparator || each == QChar::ParagraphSeparator;
+}
+
+/// Embeddings, overrides and isolates. One without its end would reach into the sentence.
+bool turnsDirection(QChar each)
+{
+    return (each >= u'\u202A' && each <= u'\u202E') || (each >= u'\u2066' && each <= u'\u2069');
+}
+
+bool runsRightToLeft(QChar each)
+{
+    const QChar::Direction direction = each.direction();
+    // A half of a pair may belong to any script.
+    return direction == QChar::DirR || direction == QChar::DirAL || direction == QChar::DirAN || each.isSurrogate();
+}
+
+} // namespace
+
+QString feedName(std::string_view type)
+{
+    const Name* const name = nameOf(type);
+    return name != nullptr ? Words::tr(name->within) : QString();
+}
+
+QString feedNameAtStart(std::string_view type)
+{
+    const Name* const name = nameOf(type);
+    return name != nullptr ? Words::tr(name->atStart) : QString();
+}
+
+QString feedsNotRead(const std::vector<std::string_view>& types)
+{
+    switch (types.size()) {
+    case 0:
+        return {};
+    case 1:
+        //: %1 the name of a feed, as in "Partitions"
+        return Words::tr("%1 not read").arg(feedNameAtStart(types.front()));
+    case 2:
+        //: %1 and %2 names of feeds, as in "Partitions" and "groups"
+        return Words::tr("%1 and %2 not read").arg(feedNameAtStart(types[0]), nameInList(types[1]));
+    case feedTable.size():
+        return Words::tr("Nothing of it could be read");
+    default:
+        //: %n of the six feeds
+        return Words::tr("%n of 6 feeds not read", nullptr, static_cast<int>(types.size()));
+    }
+}
+
+QString joinedList(const QStringList& names)
+{
+    switch (names.size()) {
+    case 0:
+        return {};
+    case 1:
+        return names[0];
+    case 2:
+        return Words::tr("%1 and %2").arg(names[0], names[1]);
+    case 3:
+        return Words::tr("%1, %2 and %3").arg(names[0], names[1], names[2]);
+    default:
+        //: %1 and %2 names, %n how many more there are
+        return Words::tr("%1, %2 and %n more", nullptr, static_cast<int>(names.size()) - 2).arg(names[0], names[1]);
+    }
+}
+
+QString oneLine(const QString& text)
+{
+    QString line;
+    line.reserve(text.size() + 2);
+    for (const QChar each : text) {
+        if (endsLine(each)) {
+            if (!line.endsWith(u' ')) {
+                line.append(u' ');
+            }
+        } else if (each.category() != QChar::Other_Control && !turnsDirection(each)) {
+            line.append(each);
+        }
+    }
+    return line;
+}
+
+QString isolated(const QString& text)
+{
+    const QString line = oneLine(text);
+    // The typeface lacks the controls, and a line with a character of another face sits lower. They are left out where
+    // they would change nothing.
+    const bool needed =
+        !line.isEmpty() && (Appearance::shared().isMirrored() || std::ranges::any_of(line, runsRightToLeft));
+    return needed ? QChar(firstStrongIsolate) + line + QChar(popIsolate) : line;
+}
+
+} // namespace lodestar
