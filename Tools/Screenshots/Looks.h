@@ -40,6 +40,11 @@ std::vector<Look> eventAndGroupLooks();
 /// The performance of a managed system.
 std::vector<Look> performanceLooks();
 
+/// The tab Attention with its three segments and its sheets, and the watch.
+std::vector<Look> attentionLooks();
+/// The connections of consoles, and the marks that tell how old and how complete other screens are.
+std::vector<Look> connectionLooks();
+
 /// The passcode screen, the settings and the passcode sheet.
 std::vector<Look> lockLooks();
 

@@ -3,9 +3,11 @@
 // the pictures whose file name contains it.
 //
 // lodestar-screenshots --tour FOLDER: draws the tour's pictures, which are kept in Resources/tour.
+#include "Fleet/Watch.h"
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/MainLoop.h"
 #include "Tools/Screenshots/Looks.h"
+#include "Tools/Screenshots/NightFleet.h"
 #include "Tools/Screenshots/TourPictures.h"
 
 #include <QDir>
@@ -150,6 +152,8 @@ void take(SceneStage& stage, const Look& look, const Variant& variant, const QSt
     appearance.overrideDark(variant.dark);
     appearance.overrideTextScale(variant.textScale);
     appearance.overrideMirrored(variant.mirrored);
+    setMorningClock(false);
+    Watch::shared().setSettings({});
     stage.show(variant.size, look.consoles);
     look.prepare(stage);
     stage.settle();
@@ -165,6 +169,7 @@ int main(int argc, char** argv)
     qputenv("QT_QPA_PLATFORM", "offscreen");
     qputenv("QT_QUICK_BACKEND", "software");
     qputenv("QT_SCALE_FACTOR", "2");
+    qputenv("TZ", "UTC");
     const QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationVersion(QStringLiteral("1.0"));
     const MainLoop mainLoop;
@@ -180,8 +185,9 @@ int main(int argc, char** argv)
     if (tour) {
         return writeTourPictures(stage, folder) ? 0 : 1;
     }
-    for (const auto& looks : {consoleLooks(), editorLooks(), dashboardLooks(), inventoryLooks(), groupedLooks(),
-                              eventAndGroupLooks(), performanceLooks(), aboutLooks(), lockLooks(), feedbackLooks()}) {
+    for (const auto& looks :
+         {consoleLooks(), editorLooks(), dashboardLooks(), inventoryLooks(), groupedLooks(), eventAndGroupLooks(),
+          performanceLooks(), aboutLooks(), lockLooks(), feedbackLooks(), attentionLooks(), connectionLooks()}) {
         for (const Look& look : looks) {
             for (const Variant& variant : variantsOf(look)) {
                 const QString name = QString::fromLatin1(look.name) + '-' + variant.suffix + ".png";
