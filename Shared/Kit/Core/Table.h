@@ -232,12 +232,14 @@ struct SwipeButton {
     Q_PROPERTY(lodestar::Role::Button role MEMBER role)
     Q_PROPERTY(QString imageName MEMBER imageName)
     Q_PROPERTY(QString spoken MEMBER spoken)
+    Q_PROPERTY(bool captioned MEMBER captioned)
 
 public:
     QString title;
     Role::Button role = Role::Button::Standard;
     QString imageName{};
-    QString spoken{}; ///< what a screen reader says for a picture without a title
+    QString spoken{};       ///< what a screen reader says for a picture without a title
+    bool captioned = false; ///< shows the title below the picture; otherwise the picture stands for the title
     friend bool operator==(const SwipeButton&, const SwipeButton&) = default;
 };
 

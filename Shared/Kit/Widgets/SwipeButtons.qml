@@ -40,6 +40,7 @@ FocusScope {
             readonly property color ground: Theme.buttonGround(modelData.role)
             readonly property color ink: Theme.buttonInk(modelData.role)
             readonly property string picture: modelData.imageName ?? ""
+            readonly property bool captioned: modelData.captioned ?? false
             readonly property real narrow: view.buttonWidth + (index === 0 ? view.spread : 0)
             readonly property real start: (index * view.buttonWidth + (index > 0 ? view.spread : 0)) * (1 - fill)
             property real fill: index === view.expanded ? 1 : 0
@@ -85,7 +86,7 @@ FocusScope {
             Label {
                 id: title
 
-                visible: button.picture === "" || button.text !== ""
+                visible: button.picture === "" || button.captioned
                 text: button.text
                 size: button.picture === "" ? Theme.stateSize : Theme.noteSize
                 scaleFactor: Theme.barScale

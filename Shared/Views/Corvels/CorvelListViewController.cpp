@@ -51,7 +51,8 @@ QList<SwipeButton> makeRightButtons()
 
 QList<SwipeButton> makeLeftButtons()
 {
-    return {{CorvelListViewController::tr("Connection"), Role::Button::Standard, QStringLiteral("connection")}};
+    return {
+        {CorvelListViewController::tr("Connection"), Role::Button::Standard, QStringLiteral("connection"), {}, true}};
 }
 
 } // namespace
