@@ -9,8 +9,8 @@ import subprocess
 import sys
 import tempfile
 
-PROGRAMS = ["PromiseBenchmark", "FeedBenchmark", "MetricsBenchmark", "FindingsBenchmark", "StoreBenchmark", "RefreshBenchmark",
-            "LatencyBenchmark", "ListBenchmark", "ScrollBenchmark", "StartBenchmark", "ChartsBenchmark"]
+PROGRAMS = ["PromiseBenchmark", "FeedBenchmark", "MetricsBenchmark", "FindingsBenchmark", "HistoryBenchmark", "StoreBenchmark",
+            "RefreshBenchmark", "LatencyBenchmark", "ListBenchmark", "ScrollBenchmark", "StartBenchmark", "ChartsBenchmark"]
 # Takes a quarter of an hour or longer, so it runs only when asked for.
 LONG = ["SoakBenchmark"]
 
