@@ -202,7 +202,7 @@ TEST_F(FleetEventsTest, ASearchGoesOnInAListThatChangesUnderIt)
     events->searchBar()->cancel();
     EXPECT_EQ(events->emptyText(), "Nothing was read yet. Refresh first.");
     show({{meadow, Reading::Outcome::Complete, ""}, {northfield, Reading::Outcome::Offline, ""}});
-    runUntil([&] { return events->emptyText().startsWith("No"); }, seconds(10));
+    runUntil([&] { return events->emptyText().startsWith("No "); }, seconds(10));
     EXPECT_EQ(plain(events->emptyText()), "No serviceable events.\nNorthfield was not read.");
 }
 
