@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Tests/Support/LongRun.h"
 #include "Tests/Support/StoreFixture.h"
 
 #include <gmock/gmock.h>
 
 #include <functional>
+#include <random>
+#include <set>
 #include <sqlite3.h>
 #include <sys/stat.h>
 
@@ -200,6 +203,70 @@ TEST_F(ObjectContextTests, NothingOfADeletedRecordStaysInAnyFile)
     ASSERT_TRUE(context->save().ok());
     EXPECT_EQ(asked, 100) << "nothing is left to wipe";
     EXPECT_EQ(storedTitles().size(), 100U);
+}
+
+TEST_F(ObjectContextTests, ChurnAndKillsLeaveNothingOfADeletedRecord)
+{
+    const auto secretsIn = [](const std::string& bytes) {
+        std::set<int> secrets;
+        for (std::size_t at = 0; (at = bytes.find("secret-", at)) != std::string::npos; ++at) {
+            secrets.insert(std::atoi(bytes.c_str() + at + 7));
+        }
+        return secrets;
+    };
+    const int tries = rounds(15, 500);
+    for (int seed = 0; seed < tries; ++seed) {
+        clear();
+        // Rows of all sizes move from page to page, and their old places may be forgotten there.
+        std::mt19937 random(static_cast<unsigned>(seed)); // NOLINT(cert-msc51-cpp): the same moves in every run
+        const auto below = [&random](std::size_t limit) { return random() % limit; };
+        auto context = open();
+        context->setScrubNeeded([] {});
+        std::vector<std::pair<ObjectRef, int>> live;
+        int secrets = 0;
+        for (int step = 0; step < 1500; ++step) {
+            const std::size_t chosen = live.empty() ? 0 : below(live.size());
+            const std::size_t what = live.empty() ? 0 : below(20);
+            const std::string title(1 + below(seed % 2 == 0 ? 5000 : 300), 't');
+            if (what < 8) {
+                live.emplace_back(insert(*context, title), ++secrets);
+                live.back().first->setAttribute(Note, "secret-" + std::to_string(secrets) + ".");
+            } else if (what < 15) {
+                live[chosen].first->setAttribute(Title, title);
+            } else {
+                context->deleteObject(live[chosen].first);
+                live.erase(live.begin() + static_cast<std::ptrdiff_t>(chosen));
+            }
+            ASSERT_TRUE(context->save().ok());
+        }
+        if (seed % 3 == 0) {
+            context->scrub();
+        } else if (seed % 3 == 1) {
+            context.reset();
+        } else {
+            // Killed before the scrub: the next start does it.
+            const std::filesystem::path kept = folder / "kept";
+            std::filesystem::create_directory(kept);
+            for (const char* const suffix : {"", "-wal"}) {
+                std::filesystem::copy_file(path.string() + suffix, (kept / "Test.sqlite").string() + suffix);
+            }
+            context.reset();
+            clear("kept");
+            for (const char* const suffix : {"", "-wal"}) {
+                std::filesystem::rename((kept / "Test.sqlite").string() + suffix, path.string() + suffix);
+            }
+            context = open();
+        }
+        std::set<int> expected;
+        for (const auto& [object, secret] : live) {
+            expected.insert(secret);
+        }
+        std::set<int> found;
+        for (const auto& [name, bytes] : snapshot()) {
+            found.merge(secretsIn(bytes));
+        }
+        EXPECT_EQ(found, expected) << seed;
+    }
 }
 
 TEST_F(ObjectContextTests, WhatIsNoStoreOfTheModelIsRefusedAndLeftAsItWas)

@@ -37,10 +37,13 @@ protected:
         return {{entity("Item"), entity("Order")}, {{"Item", "orders", "Order", "items"}}, version};
     }
 
-    void clear() const
+    /// Removes everything from the folder but what has that name.
+    void clear(const std::string& kept = {}) const
     {
         for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-            std::filesystem::remove_all(entry);
+            if (entry.path().filename() != kept) {
+                std::filesystem::remove_all(entry);
+            }
         }
     }
 

@@ -114,7 +114,7 @@ struct ObjectContext::State {
     std::vector<ManagedObject*> changed; ///< saved objects with dirty bits; owned by `saved`
     std::vector<ObjectRef> deleted;      ///< deleted objects that are still in the store
     std::function<void()> scrubNeeded;
-    bool scrubPending = false; ///< the log still holds deleted records
+    bool scrubPending = false; ///< the files may still hold deleted records
 };
 
 void ManagedObject::setAttribute(std::size_t index, AttributeValue value)
@@ -137,13 +137,17 @@ Result<std::unique_ptr<ObjectContext>> ObjectContext::open(const std::string& pa
 {
     // The dirty mask has one bit for each attribute.
     assert(std::ranges::all_of(model.entities, [](const auto& entity) { return entity.attributes.size() <= 64; }));
-    auto database = openStoreFile(path, model);
-    if (!database) {
-        return database.error();
-    }
     try {
+        const bool wasLeftOpen = hasLog(path);
+        auto database = openStoreFile(path, model);
+        if (!database) {
+            return database.error();
+        }
         auto state = std::make_unique<State>(std::move(model), std::move(database).value());
-        return std::unique_ptr<ObjectContext>(new ObjectContext(std::move(state)));
+        state->scrubPending = wasLeftOpen;
+        std::unique_ptr<ObjectContext> context(new ObjectContext(std::move(state)));
+        context->scrub();
+        return context;
     } catch (const SQLite::Exception& exception) {
         return storeError(exception);
     } catch (const std::bad_alloc& exception) {
@@ -155,6 +159,7 @@ ObjectContext::ObjectContext(std::unique_ptr<State> state) : m_state(std::move(s
 
 ObjectContext::~ObjectContext()
 {
+    scrub();
     for (const auto& entity : m_state->entities) {
         for (const auto& [rowId, object] : entity.saved) {
             detach(*object);
@@ -358,11 +363,12 @@ void ObjectContext::scrubSoon()
     scrub();
 }
 
-// The deletion itself is already committed: a failure here only leaves the wiping to the next save or to closing.
+// The deletion itself is already committed: a failure here only leaves the wiping to the next save or to closing, and
+// an end of the process to the next opening, which finds the log.
 void ObjectContext::scrub()
 {
     if (m_state->scrubPending) {
-        m_state->scrubPending = !emptyLog(*m_state->database);
+        m_state->scrubPending = !wipeDeleted(*m_state->database).ok();
     }
 }
 

@@ -266,6 +266,13 @@ Result<void> configure(SQLite::Database& database)
     return {};
 }
 
+/// Moves the write-ahead log into the main file and cuts the log to nothing. False when that failed.
+bool emptyLog(const SQLite::Database& database)
+{
+    return sqlite3_wal_checkpoint_v2(database.getHandle(), "main", SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr) ==
+           SQLITE_OK;
+}
+
 void setCheckpointOnClose(const SQLite::Database& database, bool on)
 {
     sqlite3_db_config(database.getHandle(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, on ? 0 : 1, nullptr);
@@ -285,13 +292,13 @@ void makePrivate(const std::string& path)
 
 Result<std::unique_ptr<SQLite::Database>> connect(const std::string& path, const StoreLayout& layout)
 {
-    const bool hasLog = isFilled(path + "-wal");
+    const bool wasLeftOpen = hasLog(path);
     auto database =
         std::make_unique<SQLite::Database>(path, SQLite::OPEN_READWRITE | SQLite::OPEN_NOMUTEX, busyTimeoutMs);
     // The last connection that closes moves the log into the main file; a store that is about to be refused must not be
     // changed that way. Without a log the switch must stay off, because with it closing would leave an empty log
     // behind.
-    setCheckpointOnClose(*database, !hasLog);
+    setCheckpointOnClose(*database, !wasLeftOpen);
     if (const Result<void> verified = verify(*database, layout); !verified) {
         return verified.error();
     }
@@ -300,7 +307,7 @@ Result<std::unique_ptr<SQLite::Database>> connect(const std::string& path, const
     }
     setCheckpointOnClose(*database, true);
     makePrivate(path);
-    if (hasLog) {
+    if (wasLeftOpen) {
         emptyLog(*database); // the process that left the log was killed before it could
     }
     return database;
@@ -308,10 +315,24 @@ Result<std::unique_ptr<SQLite::Database>> connect(const std::string& path, const
 
 } // namespace
 
-bool emptyLog(const SQLite::Database& database)
+Result<void> wipeDeleted(SQLite::Database& database)
 {
-    return sqlite3_wal_checkpoint_v2(database.getHandle(), "main", SQLITE_CHECKPOINT_TRUNCATE, nullptr, nullptr) ==
-           SQLITE_OK;
+    try {
+        database.exec("VACUUM");
+        if (!emptyLog(database)) {
+            return makeError(database.getErrorCode(), "The log cannot be emptied.");
+        }
+        return {};
+    } catch (const SQLite::Exception& exception) {
+        return storeError(exception);
+    } catch (const std::bad_alloc& exception) {
+        return storeError(exception);
+    }
+}
+
+bool hasLog(const std::string& path)
+{
+    return isFilled(path + "-wal");
 }
 
 Error storeError(const SQLite::Exception& exception)

@@ -29,9 +29,15 @@ struct StoreLayout {
 Result<std::unique_ptr<SQLite::Database>> openStoreFile(const std::string& path, const ManagedObjectModel& model);
 Result<std::unique_ptr<SQLite::Database>> openStoreFile(const std::string& path, const StoreLayout& layout);
 
-/// Moves the write-ahead log into the main file and cuts the log to nothing. Until then the log keeps earlier versions
-/// of pages, deleted passwords included. False when that failed; the store is then as good as before.
-bool emptyLog(const SQLite::Database& database);
+/// Leaves no byte of what was deleted in the store's files. Deleting zeroes a row where it stands, but a page that was
+/// balanced before may hold an older copy of the row in its gap, and the write-ahead log holds earlier versions of
+/// whole pages. So the file is made anew, which takes as long as writing all of it, and the log is cut to nothing.
+/// After a failure the store is as good as before; an end of the process in between leaves a log.
+Result<void> wipeDeleted(SQLite::Database& database);
+
+/// Whether a log lies beside the store: the process that wrote it did not close the store, or has not yet, and what it
+/// deleted may not be wiped.
+bool hasLog(const std::string& path);
 
 /// An error in `storeErrorDomain` with SQLite's extended code and text.
 Error storeError(const SQLite::Exception& exception);
