@@ -4,6 +4,7 @@
 #include "Fleet/FindingGroups.h"
 #include "Fleet/FleetEvents.h"
 #include "Fleet/SeenObject.h"
+#include "Fleet/SystemNames.h"
 #include "Inventory/Identity.h"
 #include "Inventory/ManagedSystem.h"
 #include "Inventory/Partition.h"
@@ -72,7 +73,7 @@ public:
         addPartitions<VirtualIOServer>(FindingRank::IOServerError, FindingSubject::IOServer);
         addPartitions<LogicalPartition>(FindingRank::PartitionError, FindingSubject::Partition);
         addEvents();
-        if (m_hasForeign) {
+        if (m_hasForeign || m_reading.membersInError != nullptr) {
             addGroups();
         }
     }
@@ -156,8 +157,8 @@ private:
         addConsole(FindingRank::ConsoleOffline, since).error = m_reading.error;
     }
 
-    /// A feed counts as missing when its last attempt failed, and also when the console's feeds say "NA": neither may
-    /// pass for a feed without anything wrong in it.
+    /// A feed counts as missing when its last attempt or a look-up through one of its links failed, and also when the
+    /// console's feeds say "NA": none of these may pass for a feed without anything wrong in it.
     void addMissing()
     {
         const std::vector<std::string_view> failed = m_reading.missingFeeds();
@@ -190,7 +191,13 @@ private:
                 return found->second;
             }
         }
-        return sinceReading(wasReadBefore());
+        Since since = sinceReading(wasReadBefore());
+        // A screen may have tried after the reading, which had the feed.
+        const auto* const feed = std::ranges::find(m_reading.feeds, type, &FeedReading::type);
+        if (feed != m_reading.feeds.end() && feed->error && feed->began && *feed->began > since.time) {
+            since = {*feed->began, feed->readAt.has_value()};
+        }
+        return since;
     }
 
     /// Calls the function with each entry of the type's feed and its record.
@@ -265,11 +272,7 @@ private:
     std::string systemOf(const Partition& partition)
     {
         if (!m_systemNames) {
-            m_systemNames.emplace();
-            for (const XMLElement& entry : m_console.feeds->feed(ManagedSystem::type).entries()) {
-                m_systemNames->emplace(identityOfEntry(entry, ManagedSystem::type),
-                                       recordOfEntry<ManagedSystem>(entry).name().value_or(""));
-            }
+            m_systemNames = systemNamesOf(*m_console.feeds);
         }
         const auto found = m_systemNames->find(identityOfSystem(partition));
         return found != m_systemNames->end() ? found->second : std::string();
@@ -297,14 +300,25 @@ private:
         });
     }
 
+    Since groupSince(const ObjectKey& key, const std::optional<WallTime>& lookedUp) const
+    {
+        if (lookedUp) {
+            return {*lookedUp, false};
+        }
+        const KnownObject* const before = known(key);
+        return before != nullptr && before->state == groupInError
+                   ? before->stateSince
+                   : sinceReading(before != nullptr && !before->state.empty());
+    }
+
     void addGroups()
     {
-        for (GroupInError& each : groupsInError(*m_console.feeds)) {
+        for (GroupInError& each : groupsInError(*m_console.feeds, m_reading.membersInError.get())) {
             Finding& finding = add(FindingRank::GroupError, FindingSubject::Group);
             finding.object = {std::string(ResourceGroup::type), keptText(std::move(each.identity))};
             finding.element = each.group.element();
             finding.name = nameOr(each.group.name(), finding.object.identifier);
-            finding.since = sinceReading(false);
+            finding.since = groupSince(finding.object, each.lookedUp);
             finding.groupColor = each.group.color().value_or("");
             finding.membersInError = each.membersInError;
             finding.members = each.members;

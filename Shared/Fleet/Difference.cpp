@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Fleet/Change.h"
+#include "Fleet/FindingGroups.h"
 #include "Fleet/Findings.h"
 #include "Fleet/SeenObject.h"
 #include "Inventory/ManagedSystem.h"
@@ -30,6 +31,9 @@ int badnessOf(std::string_view type, std::string_view state)
 {
     if (type == ObjectType::ServiceableEvent) {
         return ServiceableEvent::isOpenState(state) ? 1 : 0;
+    }
+    if (type == ObjectType::Group) {
+        return state == groupInError ? 2 : 0;
     }
     if (!isPartition(type) && type != ObjectType::ManagedSystem) {
         return 0;
@@ -137,7 +141,10 @@ private:
     void compareAnswered()
     {
         if (m_memory->offlineSince) {
-            add(ChangeKind::OnlineAgain, ChangeSense::Better, lastSeen()).lasted = lasted(*m_memory->offlineSince);
+            // The first answer of all is no return.
+            if (m_memory->wasRead) {
+                add(ChangeKind::OnlineAgain, ChangeSense::Better, lastSeen()).lasted = lasted(*m_memory->offlineSince);
+            }
             m_memory->offlineSince.reset();
         }
         compareCertificate();
@@ -171,7 +178,9 @@ private:
         const auto missing = m_memory->missingSince.find(reading.type);
         const bool wasMissing = missing != m_memory->missingSince.end();
         const ObjectKey object{std::string(reading.type), {}};
-        if (feed.isNA() || reading.error) {
+        // A look-up that failed since the refresh belongs to the screen that made it.
+        const bool isMissing = feed.isNA() || (reading.error && reading.failedLookUps == 0);
+        if (isMissing) {
             if (!wasMissing) {
                 const bool wasRead = m_memory->wasRead;
                 m_memory->missingSince.emplace(reading.type, sinceNow(wasRead));
@@ -194,7 +203,11 @@ private:
         // At the first reading of a feed all objects are new to us, and none of them is news.
         const bool wasRead = m_memory->readAt.contains(type);
         std::set<ObjectKey> present;
-        for (const SeenObject& seen : seenObjects(type, feed)) {
+        std::vector<SeenObject> objects = seenObjects(type, feed);
+        if (type == ObjectType::Group) {
+            judgeGroups(objects);
+        }
+        for (const SeenObject& seen : objects) {
             const auto known = m_memory->objects.find(seen.key);
             if (known == m_memory->objects.end()) {
                 remember(seen, wasRead);
@@ -210,6 +223,30 @@ private:
             }
             return gone;
         });
+    }
+
+    bool isRead(std::string_view type) const
+    {
+        const auto* const reading = std::ranges::find(m_reading.feeds, type, &FeedReading::type);
+        return !m_feeds->feed(type).isNA() &&
+               (reading == m_reading.feeds.end() || !reading->error || reading->failedLookUps > 0);
+    }
+
+    /// Only by the feeds: what screens looked up is forgotten with each refresh, and a group must not get better by
+    /// that. Without the feeds of all members a group says nothing.
+    void judgeGroups(std::vector<SeenObject>& groups) const
+    {
+        if (!isRead(ObjectType::ManagedSystem) || !isRead(ObjectType::LogicalPartition) ||
+            !isRead(ObjectType::VirtualIOServer)) {
+            return;
+        }
+        std::set<std::string> inError;
+        for (GroupInError& group : groupsInError(*m_feeds)) {
+            inError.insert(keptText(std::move(group.identity)));
+        }
+        for (SeenObject& group : groups) {
+            group.state = inError.contains(group.key.identifier) ? groupInError : groupIsGood;
+        }
     }
 
     void remember(const SeenObject& seen, bool isNews)
@@ -248,6 +285,10 @@ private:
     void changeState(const ObjectKey& key, const std::string& state, KnownObject& object)
     {
         const std::string before = std::exchange(object.state, state);
+        if (key.type == ObjectType::Group && before.empty()) {
+            object.stateSince = sinceNow(false); // judged for the first time
+            return;
+        }
         const Since since = std::exchange(object.stateSince, sinceNow(true));
         if (isOpenEvent(key, state)) {
             tellOpened(key, object);

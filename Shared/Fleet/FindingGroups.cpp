@@ -25,15 +25,22 @@ bool isInError(const XMLElement& object, std::string_view type)
 struct InError {
     std::unordered_set<std::string> all;
     std::unordered_set<std::string> unlisted;
+    LookedUpMembers lookedUp; ///< of those, what no feed shows
 };
 
-InError objectsInError(const FeedDictionary& feeds)
+InError objectsInError(const FeedDictionary& feeds, const LookedUpMembers* lookedUp)
 {
     InError objects;
+    if (lookedUp != nullptr) {
+        objects.lookedUp = *lookedUp;
+    }
     for (const std::string_view feedType : memberTypes) {
         for (const XMLElement& entry : feeds.feed(feedType).entries()) {
             for (const std::string_view type : memberTypes) {
                 const XMLElement object = contentOf(entry, type);
+                if (object && !objects.lookedUp.empty()) {
+                    objects.lookedUp.erase(identityOfEntry(entry, type));
+                }
                 if (object && isInError(object, type)) {
                     std::string identity = identityOfEntry(entry, type);
                     if (type != feedType) {
@@ -44,27 +51,44 @@ InError objectsInError(const FeedDictionary& feeds)
             }
         }
     }
+    for (const auto& [identity, time] : objects.lookedUp) {
+        objects.unlisted.insert(identity);
+        objects.all.insert(identity);
+    }
     return objects;
 }
 
 } // namespace
 
-std::vector<GroupInError> groupsInError(const FeedDictionary& feeds)
+std::vector<GroupInError> groupsInError(const FeedDictionary& feeds, const LookedUpMembers* lookedUp)
 {
     std::vector<GroupInError> found;
-    const InError objects = objectsInError(feeds);
+    const InError objects = objectsInError(feeds, lookedUp);
     if (objects.unlisted.empty()) {
         return found;
     }
     for (const XMLElement& entry : feeds.feed(ResourceGroup::type).entries()) {
         const auto group = recordOfEntry<ResourceGroup>(entry);
-        GroupInError counted{group, identityOfEntry(entry, ResourceGroup::type)};
+        GroupInError counted{group, identityOfEntry(entry, ResourceGroup::type), 0, 0, std::nullopt};
         bool isListedItself = true;
+        bool isOfFeeds = false;
         for (const ResourceGroup::Member& member : group.members()) {
             const std::string identity = identityOfMember(member);
             ++counted.members;
             counted.membersInError += objects.all.count(identity);
-            isListedItself = isListedItself && !objects.unlisted.contains(identity);
+            if (!objects.unlisted.contains(identity)) {
+                continue;
+            }
+            isListedItself = false;
+            const auto time = objects.lookedUp.find(identity);
+            if (time == objects.lookedUp.end()) {
+                isOfFeeds = true;
+            } else {
+                counted.lookedUp = std::min(counted.lookedUp.value_or(time->second), time->second);
+            }
+        }
+        if (isOfFeeds) {
+            counted.lookedUp.reset();
         }
         if (!isListedItself) {
             found.push_back(std::move(counted));

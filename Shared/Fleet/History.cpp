@@ -54,7 +54,16 @@ struct History::State {
         }
         // Readings that come together are written together: each writing waits for the disk.
         if (isLast) {
-            keeper.write();
+            write();
+        }
+    }
+
+    void write()
+    {
+        const bool wasSetAside = keeper.wasSetAside();
+        keeper.write();
+        if (keeper.wasSetAside() != wasSetAside) {
+            didChange();
         }
     }
 };
@@ -110,7 +119,7 @@ void History::expectStop(const std::string& address, const ObjectKey& object)
     m_state->queue.async([state = m_state.get(), address, object] {
         if (state->keeper.expectStop(address, object)) {
             state->didChange();
-            state->keeper.write();
+            state->write();
         }
     });
 }
@@ -172,7 +181,7 @@ std::optional<std::string> History::setting(const std::string& name) const
 void History::setSetting(const std::string& name, std::optional<std::string> value)
 {
     m_state->keeper.setSetting(name, std::move(value));
-    m_state->queue.async([state = m_state.get()] { state->keeper.write(); });
+    m_state->queue.async([state = m_state.get()] { state->write(); });
 }
 
 void History::close()

@@ -34,7 +34,8 @@ public:
     /// Calls the function on the main thread once the memory of the consoles and the settings are known, if `open` was
     /// called before.
     void whenOpen(std::function<void()> known);
-    /// Whether the file was damaged and had to be set aside.
+    /// Whether the file was damaged and had to be set aside, so that changes of the days that are kept are missing.
+    /// True from then on until these days are over, also in later runs; "HistoryDidChange" says when it becomes true.
     bool wasSetAside() const;
 
     /// Compares the console's reading with what is remembered, keeps what changed, and posts "HistoryDidChange" on the

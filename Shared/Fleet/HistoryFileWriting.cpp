@@ -276,14 +276,10 @@ void HistoryFile::removeOldestDay()
 
 Result<void> HistoryFile::scrub()
 {
+    if (Result<void> wiped = wipeDeleted(*m_database); !wiped) {
+        return wiped;
+    }
     try {
-        // Deleting zeroes a row where it stands, but a page that was balanced before may hold an older copy of it in
-        // its gap: only a file that is made anew holds nothing of what was deleted.
-        m_database->exec("VACUUM");
-        if (!emptyLog(*m_database)) {
-            return Error{
-                std::string(storeErrorDomain), m_database->getErrorCode(), "The log cannot be emptied.", {}, {}};
-        }
         m_database->exec(R"(UPDATE "state" SET "needsScrub" = 0)");
         m_needsScrub = false;
         return {};

@@ -4,6 +4,8 @@
 #include "Feedback/VireoLogger.h"
 
 #include <algorithm>
+#include <charconv>
+#include <ctime>
 #include <iterator>
 #include <utility>
 
@@ -13,6 +15,9 @@ namespace
 {
 
 constexpr std::string_view logName = "Shared/Fleet/History";
+
+/// When a damaged file was set aside, in seconds since 1970: the file that takes its place tells it.
+constexpr auto setAsideName = "setAside";
 
 } // namespace
 
@@ -26,6 +31,9 @@ void HistoryKeeper::open(const std::string& folder)
     if (openFile() && m_file->needsScrub()) {
         std::ignore = m_file->scrub(); // the process ended before it could; the next writing tries again
     }
+    if (m_file != nullptr) {
+        write(); // that a damaged file was set aside, say
+    }
 }
 
 void HistoryKeeper::close()
@@ -38,8 +46,6 @@ void HistoryKeeper::close()
     write();
     m_path.clear();
     clear();
-    const std::lock_guard lock(m_mutex);
-    m_wasSetAside = false;
 }
 
 void HistoryKeeper::clear()
@@ -94,7 +100,8 @@ bool HistoryKeeper::setAside(const Error& error)
     }
     LODESTAR_LOG(logName, "-[History open:]", "The history is damaged and was set aside: {}", description(error));
     const std::lock_guard lock(m_mutex);
-    m_wasSetAside = true;
+    setSettingLocked(setAsideName,
+                     std::to_string(std::chrono::system_clock::to_time_t(std::chrono::system_clock::now())));
     return true;
 }
 
@@ -332,8 +339,13 @@ std::shared_ptr<const ConsoleMemory> HistoryKeeper::memoryOf(const std::string& 
 
 bool HistoryKeeper::wasSetAside() const
 {
-    const std::lock_guard lock(m_mutex);
-    return m_wasSetAside;
+    const auto time = setting(setAsideName);
+    std::time_t seconds = 0;
+    if (time) {
+        std::from_chars(time->data(), time->data() + time->size(), seconds);
+    }
+    return time &&
+           std::chrono::system_clock::from_time_t(seconds) >= HistoryFile::oldestKept(std::chrono::system_clock::now());
 }
 
 std::optional<std::string> HistoryKeeper::setting(const std::string& name) const
@@ -346,6 +358,11 @@ std::optional<std::string> HistoryKeeper::setting(const std::string& name) const
 void HistoryKeeper::setSetting(const std::string& name, std::optional<std::string> value)
 {
     const std::lock_guard lock(m_mutex);
+    setSettingLocked(name, std::move(value));
+}
+
+void HistoryKeeper::setSettingLocked(const std::string& name, std::optional<std::string> value)
+{
     const auto known = m_settings.find(name);
     if (value == (known != m_settings.end() ? std::optional(known->second) : std::nullopt)) {
         return;

@@ -52,6 +52,7 @@ public:
 
     /// Any thread.
     std::shared_ptr<const ConsoleMemory> memoryOf(const std::string& address) const;
+    /// Whether changes of the days that are kept are missing because a damaged file was set aside.
     bool wasSetAside() const;
     std::optional<std::string> setting(const std::string& name) const;
     void setSetting(const std::string& name, std::optional<std::string> value);
@@ -68,6 +69,7 @@ private:
     bool openFile();
     void adopt(HistoryFile::Contents&& contents);
     bool setAside(const Error& error);
+    void setSettingLocked(const std::string& name, std::optional<std::string> value);
     Result<void> tryToWrite();
     bool needsWriting() const;
     HistoryFile::Writing writing() const;
@@ -90,7 +92,6 @@ private:
     std::map<std::string, Console> m_consoles;
     std::map<std::string, std::string> m_settings;
     std::set<std::string> m_changedSettings;
-    bool m_wasSetAside = false;
 };
 
 } // namespace lodestar

@@ -8,6 +8,8 @@
 #include <array>
 #include <chrono>
 #include <cstddef>
+#include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -38,7 +40,8 @@ struct Stage {
     std::optional<Error> error;
 };
 
-/// What the last attempt told of one feed.
+/// What the last attempt told of one feed. A look-up through one of the feed's links is an attempt, too, when it fails:
+/// what the link leads to belongs to the feed.
 struct FeedReading {
     std::string_view type;         ///< an `ObjectType`
     std::optional<WallTime> began; ///< none when the attempt did not get so far
@@ -50,6 +53,8 @@ struct FeedReading {
     std::optional<Error> error;
     /// When the feed was last read, by a refresh or by a screen; none when it was never read since the start.
     std::optional<WallTime> readAt;
+    /// How many look-ups of screens failed since the feed was read. `error` then is one look-up's, not the feed's own.
+    std::size_t failedLookUps = 0;
 };
 
 /// A certificate as a console showed it. None of it is secret.
@@ -103,6 +108,9 @@ struct Reading {
     std::string versionThen;                          ///< the console's version at `lastComplete`
     std::string address;                              ///< where the name led, in numbers; empty without a connection
     std::string tlsVersion;                           ///< "1.3"; empty without a connection
+    /// Members of groups, by identity, that a screen looked up and found in error, with the time: until the next
+    /// refresh, which looks nothing up. Null without any.
+    std::shared_ptr<const std::map<std::string, WallTime>> membersInError;
 
     std::chrono::microseconds duration() const
     {

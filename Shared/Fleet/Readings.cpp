@@ -2,10 +2,12 @@
 #include "Fleet/Readings.h"
 
 #include "Controllers/REST/RESTHandler.h"
+#include "Fleet/FailedLookUps.h"
 #include "Platform/NotificationCenter.h"
 #include "Platform/Queues/MainQueue.h"
 
 #include <algorithm>
+#include <array>
 #include <mutex>
 #include <unordered_map>
 #include <utility>
@@ -77,6 +79,12 @@ void compare(CertificateReading& reading, WallTime ended, std::optional<KnownCer
     known = KnownCertificate{shown, ended};
 }
 
+std::optional<std::size_t> indexOf(std::string_view type)
+{
+    const auto* const row = std::ranges::find(feedTable, type, &FeedKind::type);
+    return row != feedTable.end() ? std::optional<std::size_t>(row - feedTable.begin()) : std::nullopt;
+}
+
 Reading::Outcome outcomeOfFeeds(const Reading& reading)
 {
     return reading.missingFeeds().empty() ? Reading::Outcome::Complete : Reading::Outcome::Partial;
@@ -109,6 +117,7 @@ struct Readings::State {
         std::weak_ptr<Corvel> corvel; ///< tells a record from a later one in the same place
         std::shared_ptr<const Reading> reading = neverTried();
         std::optional<KnownCertificate> certificate;
+        std::array<FailedLookUps, feedTable.size()> failedLookUps;
         int underWay = 0;
         bool isOfPresentRefreshes = false; ///< since there was last none under way
     };
@@ -133,6 +142,17 @@ struct Readings::State {
     {
         const auto found = entries.find(&corvel);
         return found != entries.end() && !found->second.corvel.expired() ? &found->second : nullptr;
+    }
+
+    /// Publishes a reading with another feed.
+    static void publish(Entry& entry, std::size_t index, FeedReading feed)
+    {
+        Reading reading = *entry.reading;
+        reading.feeds[index] = std::move(feed);
+        if (reading.outcome == Reading::Outcome::Complete || reading.outcome == Reading::Outcome::Partial) {
+            reading.outcome = outcomeOfFeeds(reading);
+        }
+        publish(entry, std::move(reading));
     }
 
     static void publish(Entry& entry, Reading reading)
@@ -238,6 +258,7 @@ void Readings::end(const CorvelRef& corvel, Reading reading)
     if (reading.certificate) {
         compare(*reading.certificate, reading.ended, entry.certificate);
     }
+    entry.failedLookUps = {};
     State::publish(entry, std::move(reading));
     m_state->settleWhenIdle();
     m_state->didChange();
@@ -246,20 +267,55 @@ void Readings::end(const CorvelRef& corvel, Reading reading)
 void Readings::addFeed(const CorvelRef& corvel, FeedReading feed)
 {
     const std::lock_guard lock(m_state->mutex);
-    State::Entry& entry = m_state->entryOf(corvel);
-    Reading reading = *entry.reading;
-    const auto place = std::ranges::find(reading.feeds, feed.type, &FeedReading::type);
-    if (place == reading.feeds.end()) {
+    const auto index = indexOf(feed.type);
+    if (!index) {
         return;
     }
+    State::Entry& entry = m_state->entryOf(corvel);
     if (!feed.readAt) {
-        feed.readAt = place->readAt;
+        feed.readAt = entry.reading->feeds[*index].readAt;
     }
-    *place = std::move(feed);
-    if (reading.outcome == Reading::Outcome::Complete || reading.outcome == Reading::Outcome::Partial) {
-        reading.outcome = outcomeOfFeeds(reading);
+    entry.failedLookUps[*index] = {};
+    State::publish(entry, *index, std::move(feed));
+    m_state->didChange();
+}
+
+void Readings::addLookUp(const CorvelRef& corvel, const std::string& link, const FeedReading& lookUp)
+{
+    const std::lock_guard lock(m_state->mutex);
+    const auto index = indexOf(lookUp.type);
+    State::Entry* const entry = lookUp.error ? &m_state->entryOf(corvel) : m_state->find(*corvel);
+    if (!index || entry == nullptr) {
+        return;
     }
-    State::publish(entry, std::move(reading));
+    auto becomes = entry->failedLookUps[*index].add(link, lookUp, entry->reading->feeds[*index]);
+    if (becomes) {
+        State::publish(*entry, *index, *std::move(becomes));
+        m_state->didChange();
+    }
+}
+
+void Readings::addMember(const CorvelRef& corvel, const std::string& identity, bool isInError)
+{
+    const std::lock_guard lock(m_state->mutex);
+    State::Entry* const entry = isInError ? &m_state->entryOf(corvel) : m_state->find(*corvel);
+    if (entry == nullptr || identity.empty()) {
+        return;
+    }
+    const auto& known = entry->reading->membersInError;
+    if (isInError == (known != nullptr && known->contains(identity))) {
+        return;
+    }
+    Reading reading = *entry->reading;
+    auto members = known != nullptr ? std::make_shared<std::map<std::string, WallTime>>(*known)
+                                    : std::make_shared<std::map<std::string, WallTime>>();
+    if (isInError) {
+        members->emplace(identity, std::chrono::system_clock::now());
+    } else {
+        members->erase(identity);
+    }
+    reading.membersInError = members->empty() ? nullptr : std::move(members);
+    State::publish(*entry, std::move(reading));
     m_state->didChange();
 }
 

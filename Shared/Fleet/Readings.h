@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <memory>
 #include <optional>
+#include <string>
 
 namespace lodestar
 {
@@ -48,6 +49,11 @@ public:
     void end(const CorvelRef& corvel, Reading reading);
     /// Adds a screen's own attempt at one feed.
     void addFeed(const CorvelRef& corvel, FeedReading feed);
+    /// Adds a screen's look-up through a link of the feed of that type. A failure counts as the feed's until the feed
+    /// or the console is read again or the same link answers; a success is told only for that.
+    void addLookUp(const CorvelRef& corvel, const std::string& link, const FeedReading& lookUp);
+    /// Adds what a screen's look-up told of the state of a group's member.
+    void addMember(const CorvelRef& corvel, const std::string& identity, bool isInError);
     /// Says what the authorities say of a certificate that the console's reading shows.
     void didExamine(const Corvel& corvel, const ShownCertificate& examined);
     /// Gives what earlier runs of the application knew. Does not replace what this run has seen.

@@ -184,9 +184,4 @@ void finishAdding(const CorvelRef& corvel)
     tellOfChange();
 }
 
-std::optional<std::string> fetchLinkedText(const std::string& link, const CorvelRef& corvel)
-{
-    return corvel ? RESTHandler::sharedInstance().fetchDataFromAtomLink(link, *corvel) : std::nullopt;
-}
-
 } // namespace lodestar

@@ -3,6 +3,7 @@
 
 #include "Application/Model/Corvel.h"
 #include "Controllers/REST/RXPromise.h"
+#include "Inventory/ResourceGroup.h"
 #include "Platform/URLLoading/URLRequest.h"
 #include "XML/XMLElement.h"
 
@@ -76,7 +77,12 @@ RXPromise<std::string> refreshCorvel(const CorvelRef& corvel, Urgency urgency = 
 RXPromise<XMLElement> fetchFeedWithStoredKey(const CorvelRef& corvel, std::string_view type);
 
 /// The text that the console answers at the link, without its quotes; nothing when the text cannot be had or there is
-/// no console. Blocks its caller. Any thread.
-std::optional<std::string> fetchLinkedText(const std::string& link, const CorvelRef& corvel);
+/// no console. Blocks its caller. A failure counts in the console's reading as one of the feed that the link was read
+/// from; without a type it counts nowhere. Any thread.
+std::optional<std::string> fetchLinkedText(const std::string& link, const CorvelRef& corvel,
+                                           std::string_view type = {});
+/// Likewise the state of a group's member; nothing, too, when the member has no address. Error counts in the console's
+/// reading.
+std::optional<std::string> fetchMemberState(const ResourceGroup::Member& member, const CorvelRef& corvel);
 
 } // namespace lodestar

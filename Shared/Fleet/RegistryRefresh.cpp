@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Controllers/REST/RESTHandler.h"
 #include "Fleet/AttemptReading.h"
-#include "Fleet/CertificateDetails.h"
-#include "Fleet/History.h"
+#include "Fleet/InventoryFetch.h"
 #include "Fleet/Readings.h"
 #include "Fleet/Registry.h"
 
@@ -15,81 +14,20 @@ namespace lodestar
 namespace
 {
 
-/// One refresh of a console on its way to a reading.
-class Refresh : public std::enable_shared_from_this<Refresh>
+/// On the main thread, where records are deleted: what was forgotten with a record must not come back. A record with
+/// another address by now is another console.
+void publish(const InventoryFetch& fetch)
 {
-public:
-    explicit Refresh(CorvelRef corvel) : m_corvel(std::move(corvel))
-    {
-        m_attempt.address = m_corvel->address().value_or("");
-        m_attempt.began = std::chrono::system_clock::now();
-        Readings::shared().begin(m_corvel);
-    }
-
-    RXPromise<std::string> fetch(Urgency urgency)
-    {
-        const Asking asking(urgency, m_log);
-        return RESTHandler::sharedInstance()
-            .login(m_corvel, CheckToken::Yes, asking)
-            .then([self = shared_from_this(), asking](const SessionKey& key) {
-                self->m_corvel->isOnline = true;
-                return RESTHandler::sharedInstance().fetchAllDataForCorvel(self->m_corvel, key, asking);
-            })
-            .then([self = shared_from_this()](const std::shared_ptr<const FeedDictionary>& feeds) {
-                self->m_attempt.feeds = feeds;
-                self->m_corvel->setRestData(feeds);
-                return RESTHandler::sharedInstance().processInformationForCorvel(self->m_corvel);
-            });
-    }
-
-    void judge(std::optional<Error> rejection)
-    {
-        m_attempt.ended = std::chrono::system_clock::now();
-        m_attempt.exchanges = m_log->take();
-        m_attempt.rejection = std::move(rejection);
-        m_reading = readingOf(m_attempt);
-    }
-
-    /// On the main thread, where records are deleted: what was forgotten with a record must not come back. A record
-    /// with another address by now is another console.
-    void publish()
-    {
-        if (m_corvel->isDeleted()) {
-            Readings::shared().forget(*m_corvel);
-            return;
-        }
-        if (m_corvel->address().value_or("") != m_attempt.address) {
-            return;
-        }
-        Readings::shared().end(m_corvel, std::move(m_reading));
-        for (const Exchange& exchange : m_attempt.exchanges) {
-            if (exchange.transfer.certificate) {
-                examine(*exchange.transfer.certificate);
-            }
-        }
-        if (isRegistered(m_corvel)) {
-            History::shared().add(m_corvel, Readings::shared().of(*m_corvel), m_attempt.feeds);
+    const CorvelRef& corvel = fetch.corvel();
+    if (corvel->isDeleted()) {
+        Readings::shared().forget(*corvel);
+    } else if (corvel->address().value_or("") == fetch.address()) {
+        fetch.publishAs(corvel);
+        if (isRegistered(corvel)) {
+            fetch.addToHistoryAs(corvel);
         }
     }
-
-private:
-    void examine(const ServerCertificate& certificate) const
-    {
-        if (CertificateDetails::of(certificate).objection == CertificateDetails::notExamined) {
-            CertificateDetails::examine(certificate,
-                                        [corvel = std::weak_ptr<Corvel>(m_corvel)](const ShownCertificate& examined) {
-                                            if (const CorvelRef console = corvel.lock()) {
-                                                Readings::shared().didExamine(*console, examined);
-                                            }
-                                        });
-        }
-    }
-
-    const CorvelRef m_corvel;
-    const std::shared_ptr<ExchangeLog> m_log = std::make_shared<ExchangeLog>();
-    Attempt m_attempt;
-    Reading m_reading;
-};
+}
 
 void addAttempt(const CorvelRef& corvel, std::string_view type, const std::vector<Exchange>& exchanges,
                 const Result<XMLElement>& root)
@@ -110,26 +48,17 @@ void addAttempt(const CorvelRef& corvel, std::string_view type, const std::vecto
 
 RXPromise<std::string> fetchInventory(const CorvelRef& corvel, Urgency urgency)
 {
-    const auto refresh = std::make_shared<Refresh>(corvel);
-    return refresh->fetch(urgency)
-        .then(
-            [refresh](const std::string& done) {
-                refresh->judge(std::nullopt);
-                return Result<std::string>(done);
-            },
-            [refresh](const Error& error) {
-                refresh->judge(error);
-                return Result<std::string>(error);
-            })
-        .thenOnMain(
-            [refresh](const std::string& done) {
-                refresh->publish();
-                return Result<std::string>(done);
-            },
-            [refresh](const Error& error) {
-                refresh->publish();
-                return Result<std::string>(error);
-            });
+    Readings::shared().begin(corvel);
+    const auto fetch = std::make_shared<InventoryFetch>(corvel);
+    return fetch->start(urgency).thenOnMain(
+        [fetch](const std::string& done) {
+            publish(*fetch);
+            return Result<std::string>(done);
+        },
+        [fetch](const Error& error) {
+            publish(*fetch);
+            return Result<std::string>(error);
+        });
 }
 
 bool mayFinishRefresh(const CorvelRef& corvel)

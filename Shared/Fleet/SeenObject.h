@@ -20,6 +20,11 @@ struct SeenObject {
     std::optional<std::string> text;
 };
 
+/// The states that are remembered of a group. A console tells none of its groups; these are words of ours for what
+/// `groupsInError` says of the feeds.
+inline constexpr std::string_view groupIsGood = "good";
+inline constexpr std::string_view groupInError = "error";
+
 /// The objects of the type in the feed, in its order, each identifier once; without those that have none. Consoles
 /// themselves are no objects. Any thread.
 std::vector<SeenObject> seenObjects(std::string_view type, const Feed& feed);

@@ -3,7 +3,9 @@
 
 #include "Fleet/WatchLeftOut.h"
 #include "Fleet/WatchNews.h"
+#include "Fleet/WatchSettingName.h"
 #include "Fleet/WatchSurroundings.h"
+#include "Fleet/WatchVoice.h"
 #include "Platform/NetworkState.h"
 #include "Platform/NotificationCenter.h"
 
@@ -15,7 +17,6 @@ namespace lodestar
 namespace
 {
 
-constexpr auto settingsName = "watch";
 constexpr std::chrono::hours oldWithoutWatch{1};
 
 bool isNetworkFree()
@@ -32,12 +33,15 @@ std::string addressOf(const Corvel& corvel)
 } // namespace
 
 struct Watch::State : std::enable_shared_from_this<State> {
-    explicit State(std::shared_ptr<WatchSurroundings> stage) : m_stage(std::move(stage)), m_leftOut(m_stage) {}
+    explicit State(std::shared_ptr<WatchSurroundings> stage)
+        : m_stage(std::move(stage)), m_voice(m_stage), m_leftOut(m_stage)
+    {
+    }
 
     void start();
     void stop();
     void set(WatchSettings settings);
-    void keepSettings() { m_stage->setSetting(settingsName, m_settings.text()); }
+    void keepSettings() { m_stage->setSetting(watchSettingName, m_settings.text()); }
     void tick();
     void tickIn(std::chrono::milliseconds delay);
     std::chrono::milliseconds untilNextTick() const;
@@ -50,7 +54,7 @@ struct Watch::State : std::enable_shared_from_this<State> {
     void fleetWasRead();
     void tell(const std::vector<Change>& changes, const Findings& findings);
     void tellNight();
-    void show(const WatchNews& news);
+    bool isFleetKnown() const;
     std::chrono::seconds reading() const;
     void readingsDidChange();
     void consolesDidChange();
@@ -58,10 +62,8 @@ struct Watch::State : std::enable_shared_from_this<State> {
     const std::shared_ptr<WatchSurroundings> m_stage;
     WatchSettings m_settings;
     WatchSchedule m_schedule;
-    WatchNight m_night;
+    WatchVoice m_voice;
     WatchLeftOut m_leftOut;
-    Words m_words;
-    TestWords m_testWords;
     std::function<void()> m_open;
     std::vector<NotificationCenter::Observation> m_observations;
     int m_tick = 0;                           ///< a tick that was put off by a later one does nothing
@@ -75,8 +77,9 @@ struct Watch::State : std::enable_shared_from_this<State> {
 
 void Watch::State::start()
 {
-    m_settings = WatchSettings::ofText(m_stage->setting(settingsName).value_or(""));
+    m_settings = WatchSettings::ofText(m_stage->setting(watchSettingName).value_or(""));
     m_leftOut.read();
+    m_voice.readNight();
     const auto changed = [weak = weak_from_this()] {
         if (const auto self = weak.lock()) {
             NotificationCenter::defaultCenter().postNotification("WatchDidChange");
@@ -120,7 +123,7 @@ void Watch::State::set(WatchSettings settings)
         m_schedule.setInterval(m_settings.on ? std::optional(m_settings.every) : std::nullopt, m_stage->now());
     }
     if (!m_settings.on) {
-        m_night.clear();
+        m_voice.clearNight();
     }
     NotificationCenter::defaultCenter().postNotification("WatchDidChange");
     tick();
@@ -137,7 +140,7 @@ void Watch::State::tick()
         return;
     }
     m_schedule.notice(m_stage->now());
-    if (!m_isRefreshing && !m_night.empty() && !isQuiet()) {
+    if (!m_isRefreshing && m_voice.hasNight() && !isQuiet() && isFleetKnown()) {
         tellNight();
     }
     if (const auto moment = due(); moment && *moment <= m_stage->now() && m_stage->fleet().updating == 0) {
@@ -164,7 +167,7 @@ std::chrono::milliseconds Watch::State::untilNextTick() const
         const auto left = std::chrono::ceil<milliseconds>(*moment - m_stage->now());
         wait = left.count() > 0 ? std::min(wait, left) : wait;
     }
-    if (!m_night.empty()) {
+    if (m_voice.hasNight()) {
         // Quiet hours begin and end with a minute of the wall clock.
         const auto minute = m_stage->wallNow().time_since_epoch() % std::chrono::minutes(1);
         wait = std::min(wait, std::chrono::ceil<milliseconds>(std::chrono::minutes(1) - minute));
@@ -217,7 +220,7 @@ void Watch::State::endRefresh()
         if (!self) {
             return;
         }
-        if (changes.empty() && self->m_night.empty()) {
+        if (changes.empty() && !self->m_voice.hasNight()) {
             self->tell({}, {});
             return;
         }
@@ -233,15 +236,7 @@ void Watch::State::tell(const std::vector<Change>& changes, const Findings& find
 {
     m_isRefreshing = false;
     const WatchNews news = m_settings.on ? newsOf(changes, findings, m_settings) : WatchNews();
-    // A night that ended during the refresh takes its news, since a message of their own would replace the sum.
-    if (const bool quiet = isQuiet(); quiet || !m_night.empty()) {
-        m_night.add(news.worse);
-        if (!quiet && !m_night.empty()) {
-            show(m_night.sum(findings));
-        }
-    } else if (!news.empty()) {
-        show(news);
-    }
+    m_voice.tell(news, findings, isQuiet());
     NotificationCenter::defaultCenter().postNotification("WatchDidRefresh");
     NotificationCenter::defaultCenter().postNotification("WatchDidChange");
     readingsDidChange(); // somebody else's refresh may have begun meanwhile
@@ -251,17 +246,17 @@ void Watch::State::tell(const std::vector<Change>& changes, const Findings& find
 void Watch::State::tellNight()
 {
     m_stage->findings([weak = weak_from_this()](const Findings& findings) {
-        if (const auto self = weak.lock(); self && !self->m_night.empty()) {
-            self->show(self->m_night.sum(findings));
+        if (const auto self = weak.lock()) {
+            self->m_voice.tellNight(findings);
         }
     });
 }
 
-void Watch::State::show(const WatchNews& news)
+/// A night of the run before says how much of it is still so, and that is not known before the start has read them all.
+bool Watch::State::isFleetKnown() const
 {
-    if (m_words) {
-        MessageService::standard().show(m_words(news, m_stage->requiresPasscode()));
-    }
+    const FleetReading fleet = m_stage->fleet();
+    return fleet.updating == 0 && fleet.notTried == 0;
 }
 
 /// Between the first console of the last refresh and the last one of the next, beyond the interval.
@@ -297,7 +292,7 @@ void Watch::State::readingsDidChange()
 
 void Watch::State::consolesDidChange()
 {
-    const auto kept = m_stage->setting(settingsName);
+    const auto kept = m_stage->setting(watchSettingName);
     if (!kept && m_settings != WatchSettings()) {
         set({}); // the reset removed the history
     }
@@ -306,7 +301,7 @@ void Watch::State::consolesDidChange()
         registered.insert(addressOf(*corvel));
     }
     m_leftOut.keepOnly(registered);
-    m_night.keepOnly(registered);
+    m_voice.keepOnly(registered);
     WatchSettings settings = m_settings;
     if (std::erase_if(settings.without, [&](const auto& address) { return !registered.contains(address); }) > 0) {
         set(std::move(settings));
@@ -377,15 +372,12 @@ bool Watch::showsMessages() const
 
 void Watch::sendTestMessage()
 {
-    if (m_state->m_testWords) {
-        MessageService::standard().show(m_state->m_testWords());
-    }
+    m_state->m_voice.sendTest();
 }
 
 void Watch::setWords(Words words, TestWords testWords)
 {
-    m_state->m_words = std::move(words);
-    m_state->m_testWords = std::move(testWords);
+    m_state->m_voice.setWords(std::move(words), std::move(testWords));
 }
 
 void Watch::setOpen(std::function<void()> open)

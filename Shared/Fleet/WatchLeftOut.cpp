@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Fleet/WatchLeftOut.h"
 
+#include "Fleet/TextFields.h"
 #include "Fleet/WatchSurroundings.h"
 #include "Platform/NotificationCenter.h"
 
@@ -19,17 +20,18 @@ bool sawCertificateChange(const Reading& reading)
     const auto isChange = [](const std::optional<Error>& error) {
         return error && reasonOf(*error) == ReadingReason::CertificateChanged;
     };
-    return isChange(reading.error) ||
-           std::ranges::any_of(reading.feeds, [&](const FeedReading& feed) { return isChange(feed.error); });
+    return isChange(reading.error) || std::ranges::any_of(reading.feeds, [&](const FeedReading& feed) {
+               // A look-up asks whatever server the link names.
+               return feed.failedLookUps == 0 && isChange(feed.error);
+           });
 }
 
 } // namespace
 
 void WatchLeftOut::read()
 {
-    std::string lines = m_stage->setting(settingName).value_or("");
-    for (std::size_t end = 0; (end = lines.find('\n')) != std::string::npos; lines.erase(0, end + 1)) {
-        m_addresses.insert(lines.substr(0, end));
+    for (const auto& fields : linesOfFields(m_stage->setting(settingName).value_or(""))) {
+        m_addresses.insert(fields.front());
     }
 }
 
@@ -78,7 +80,7 @@ void WatchLeftOut::set(std::set<std::string> addresses)
     m_addresses = std::move(addresses);
     std::string lines;
     for (const std::string& address : m_addresses) {
-        lines.append(address).append("\n");
+        lines += lineOfFields({address});
     }
     m_stage->setSetting(settingName, lines.empty() ? std::nullopt : std::optional(lines));
     NotificationCenter::defaultCenter().postNotification("WatchDidChange");

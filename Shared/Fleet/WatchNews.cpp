@@ -2,6 +2,8 @@
 #include "Fleet/WatchNews.h"
 
 #include <algorithm>
+#include <map>
+#include <set>
 #include <utility>
 
 namespace lodestar
@@ -118,31 +120,18 @@ WatchNews newsOf(const std::vector<Change>& changes, const Findings& findings, c
     return news;
 }
 
-void WatchNight::add(const std::vector<Change>& worse)
-{
-    for (const Change& change : worse) {
-        m_worse.insert_or_assign(thingOf(change), change);
-    }
-}
-
-void WatchNight::keepOnly(const std::set<std::string>& addresses)
-{
-    std::erase_if(m_worse, [&addresses](const auto& entry) { return !addresses.contains(entry.first.address); });
-}
-
-WatchNews WatchNight::sum(const Findings& findings)
+WatchNews newsOfNight(std::vector<Change> worse, const Findings& findings)
 {
     WatchNews news;
     news.ofTheNight = true;
     news.needAttention = findings.needAttention;
     const FindingOfThing found = byThing(findings);
-    for (auto& [thing, change] : m_worse) {
-        if (const auto finding = found.find(thing); finding != found.end()) {
+    for (const Change& change : worse) {
+        if (const auto finding = found.find(thingOf(change)); finding != found.end()) {
             news.worseNow.push_back(*finding->second);
         }
-        news.worse.push_back(std::move(change));
     }
-    m_worse.clear();
+    news.worse = std::move(worse);
     news.consoles = consolesOf(news.worse);
     return news;
 }

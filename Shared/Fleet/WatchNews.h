@@ -7,8 +7,6 @@
 
 #include <compare>
 #include <cstddef>
-#include <map>
-#include <set>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -47,20 +45,7 @@ WatchedThing thingOf(const Finding& finding);
 /// What a refresh has to tell by the settings. Worse is only what has a row in Attention now. Pure; any thread.
 WatchNews newsOf(const std::vector<Change>& changes, const Findings& findings, const WatchSettings& settings);
 
-/// Collects what got worse in quiet hours. A thing that changes all night is one, so this does not grow with time.
-class WatchNight
-{
-public:
-    bool empty() const { return m_worse.empty(); }
-    void add(const std::vector<Change>& worse);
-    void clear() { m_worse.clear(); }
-    /// Keeps only what is about a console with one of the addresses.
-    void keepOnly(const std::set<std::string>& addresses);
-    /// The sum, and no more of it afterwards.
-    WatchNews sum(const Findings& findings);
-
-private:
-    std::map<WatchedThing, Change> m_worse;
-};
+/// The sum of quiet hours. Pure; any thread.
+WatchNews newsOfNight(std::vector<Change> worse, const Findings& findings);
 
 } // namespace lodestar

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Fleet/WatchSettings.h"
 
+#include "Fleet/TextFields.h"
+
 #include <algorithm>
 #include <charconv>
 #include <iterator>
@@ -13,30 +15,6 @@ namespace
 
 constexpr int minutesOfDay = 24 * 60;
 constexpr std::string_view newEventsNames[] = {"none", "open", "home"};
-
-/// A line of the text ends at a line end, so one within an address must not look like it.
-std::string escaped(std::string_view address)
-{
-    std::string text;
-    for (const char letter : address) {
-        if (letter == '\\' || letter == '\n') {
-            text += '\\';
-        }
-        text += letter == '\n' ? 'n' : letter;
-    }
-    return text;
-}
-
-std::string unescaped(std::string_view text)
-{
-    std::string address;
-    for (std::size_t at = 0; at < text.size(); ++at) {
-        const bool isEscape = text[at] == '\\' && at + 1 < text.size();
-        const char letter = isEscape ? text[++at] : text[at];
-        address += isEscape && letter == 'n' ? '\n' : letter;
-    }
-    return address;
-}
 
 std::optional<int> numberOf(std::string_view text)
 {
@@ -83,7 +61,7 @@ void readPart(WatchSettings& settings, std::string_view name, std::string_view v
     } else if (name == "until") {
         readTimeOfDay(settings.quietUntil, value);
     } else if (name == "without") {
-        settings.without.insert(unescaped(value));
+        settings.without.insert(unescapedField(value));
     }
 }
 
@@ -104,7 +82,7 @@ std::string WatchSettings::text() const
     add("from", std::to_string(quietFrom.count()));
     add("until", std::to_string(quietUntil.count()));
     for (const std::string& address : without) {
-        add("without", escaped(address));
+        add("without", escapedField(address));
     }
     return text;
 }

@@ -178,6 +178,36 @@ TEST(FindingsTests, NothingIsHealthyBecauseItWasNotRead)
     EXPECT_THAT(findings.list[2].missing, ElementsAre(ObjectType::LogicalPartition, ObjectType::Group));
 }
 
+TEST(FindingsTests, WhatScreensLookedUpCountsUntilTheConsoleIsReadAgain)
+{
+    HandMadeConsole console("c");
+    console.addPartition(ObjectType::LogicalPartition, "p", "running");
+    console.remember(ObjectType::Group, "g", "good", now - 3h);
+    const auto group = [&console](const std::string& id, const std::string& members) {
+        console.add(ObjectType::Group, id,
+                    "<GroupName>" + id + "</GroupName><AssociatedLogicalPartitions>" + members +
+                        "</AssociatedLogicalPartitions>");
+    };
+    const std::string p = "<link href='https://c/LogicalPartition/p'/>";
+    group("g", p + "<link href='https://c/LogicalPartition/lost'/><link href='https://c/LogicalPartition/later'/>");
+    group("h", p + "<link href='https://c/LogicalPartition/unknown'/>");
+    EXPECT_THAT(findingsOf({console.snapshot()}, now).list, IsEmpty());
+
+    console.reading.membersInError = std::make_shared<const std::map<std::string, WallTime>>(
+        std::map<std::string, WallTime>{{"later", now - 10s}, {"lost", now - 1min}, {"p", now - 1min}});
+    FeedReading& partitions = console.reading.feeds[3];
+    partitions.error = Error{"URLError", -1001, {}, {}, nullptr};
+    partitions.failedLookUps = 2;
+    partitions.began = now - 30s;
+    partitions.readAt = console.reading.ended;
+    const std::vector<Finding> list = findingsOf({console.snapshot()}, now).list;
+    ASSERT_THAT(list, SizeIs(2)) << "the partition is shown by its feed, which says that it runs";
+    EXPECT_THAT(list[0].missing, ElementsAre(ObjectType::LogicalPartition));
+    EXPECT_EQ(list[0].since, (Since{now - 30s, true})) << "the reading itself had the feed";
+    EXPECT_THAT(list[1], AllOf(Field(&Finding::name, "g"), Field(&Finding::membersInError, 2U),
+                               Field(&Finding::members, 3U), Field(&Finding::since, Since{now - 1min, false})));
+}
+
 TEST(FindingsTests, TellWhatTheirRowsAndScreensNeed)
 {
     HandMadeConsole console("c");

@@ -124,7 +124,7 @@ TEST_F(HistoryDifferenceTests, WhatIsNoNews)
     console.reading.outcome = Reading::Outcome::Partial;
     fill("operating", false, "running");
     console.entries[ObjectType::LogicalPartition] = "NA";
-    EXPECT_THAT(read(), ElementsAre("online -   >"));
+    EXPECT_THAT(read(), IsEmpty()) << "the first answer of all is no return";
 
     // The partitions are read for the first time; the system is renamed, tells no state, and comes twice.
     console.entries.clear();
@@ -138,6 +138,11 @@ TEST_F(HistoryDifferenceTests, WhatIsNoNews)
     EXPECT_TRUE(last.memoryChanged);
     EXPECT_EQ(known(ObjectType::ManagedSystem, "s1").name, "renamed");
     EXPECT_EQ(known(ObjectType::ManagedSystem, "s1").state, "operating");
+
+    console.reading.outcome = Reading::Outcome::Offline;
+    EXPECT_THAT(read(), ElementsAre("offline +   >"));
+    console.reading.outcome = Reading::Outcome::Complete;
+    EXPECT_THAT(read(), ElementsAre("online -   >"));
 
     // A renewed certificate is news, the first one is not, and none at all says nothing.
     CertificateReading certificate;
@@ -164,6 +169,44 @@ TEST_F(HistoryDifferenceTests, WhatIsNoNews)
     fill("operating", false, "running");
     read();
     EXPECT_EQ(last.changes.front().before, last.changes.front().seen);
+}
+
+TEST_F(HistoryDifferenceTests, AGroupIsAsGoodAsItsMembersThatNoListShows)
+{
+    const auto fillGroup = [this](const std::string& unlisted) {
+        fill("operating", false, "running");
+        console.entries[ObjectType::Group].clear();
+        console.add(ObjectType::VirtualIOServer, "w", HandMadeConsole::field("PartitionState", unlisted),
+                    ObjectType::LogicalPartition);
+        console.add(ObjectType::Group, "g",
+                    "<GroupName>Payroll</GroupName><AssociatedVirtualIOServers>"
+                    "<link href='https://c/VirtualIOServer/w'/></AssociatedVirtualIOServers>");
+    };
+    fillGroup("running");
+    read();
+    fillGroup("error");
+    EXPECT_THAT(read(), ElementsAre("state + Group g good>error"));
+    EXPECT_EQ(last.changes.front().name, "Payroll");
+    const WallTime broke = ended();
+    EXPECT_EQ(last.memory->neededAttention, 1U);
+    EXPECT_THAT(read(), IsEmpty());
+    EXPECT_FALSE(last.memoryChanged);
+    console.memory = *last.memory;
+    EXPECT_EQ(findingsOf({console.snapshot()}, now).list.front().since, (Since{broke, true}));
+
+    fillGroup("running");
+    console.entries[ObjectType::LogicalPartition] = "NA";
+    EXPECT_THAT(read(), ElementsAre("missing + LogicalPartition  >")) << "nobody knows what the member does";
+    // What a screen looked up since the refresh makes no news: the next refresh would take it back.
+    fillGroup("running");
+    console.reading.membersInError =
+        std::make_shared<const std::map<std::string, WallTime>>(std::map<std::string, WallTime>{{"elsewhere", now}});
+    for (FeedReading& feed : console.reading.feeds) {
+        feed.failedLookUps = 1;
+        feed.error = Error{"HTTPStatus", 404, {}, {}, nullptr};
+    }
+    EXPECT_THAT(read(), ElementsAre("read - LogicalPartition  >", "state - Group g error>good"));
+    EXPECT_EQ(last.changes.back().lasted, 15min);
 }
 
 TEST_F(HistoryDifferenceTests, EveryDifferenceOfTwoInventoriesAndNoOther)

@@ -9,6 +9,7 @@
 
 #include <gmock/gmock.h>
 
+#include <future>
 #include <malloc.h>
 #include <random>
 
@@ -247,9 +248,13 @@ TEST_F(HistoryTests, OneHistoryServesTheProcessFromAQueueOfItsOwn)
     int posts = 0;
     const auto observation = NotificationCenter::defaultCenter().addObserver("HistoryDidChange", [&posts] { ++posts; });
     std::vector<Change> news;
-    history.setListener([&news](const std::vector<Change>& changes) {
+    std::promise<void> allNews;
+    history.setListener([&](const std::vector<Change>& changes) {
         EXPECT_FALSE(MainQueue::shared().isCurrent());
         news.insert(news.end(), changes.begin(), changes.end());
+        if (news.size() == 50) {
+            allNews.set_value();
+        }
     });
     std::vector<HandMadeConsole> consoles;
     for (int i = 0; i < 50; ++i) {
@@ -264,6 +269,7 @@ TEST_F(HistoryTests, OneHistoryServesTheProcessFromAQueueOfItsOwn)
             history.add(snapshot.corvel, snapshot.reading, snapshot.feeds);
         }
     }
+    ASSERT_EQ(allNews.get_future().wait_for(20s), std::future_status::ready) << "while the main thread is busy";
     history.forget("console-7.example");
     history.forgetAllBut({"console-1.example", "console-2.example"});
     std::shared_ptr<const ChangeList> list;

@@ -3,7 +3,7 @@
 #include "Fleet/Registry.h"
 #include "Platform/NotificationCenter.h"
 #include "Platform/URLLoading/URLError.h"
-#include "Tests/REST/RESTHandlerFixture.h"
+#include "Tests/Fleet/ReadingFixture.h"
 #include "Tests/Support/ScratchFolder.h"
 
 #include <fmt/core.h>
@@ -42,29 +42,6 @@ const Stage& stageOf(const Reading& reading, StageKind kind)
 {
     return reading.stages[static_cast<std::size_t>(kind)];
 }
-
-const FeedReading& feedOf(const Reading& reading, std::string_view type)
-{
-    return *std::ranges::find(reading.feeds, type, &FeedReading::type);
-}
-
-class ReadingTest : public ConsoleTest
-{
-protected:
-    void TearDown() override
-    {
-        Readings::shared().forgetAll();
-        ConsoleTest::TearDown();
-    }
-    static std::shared_ptr<const Reading> readingOf(const CorvelRef& corvel) { return Readings::shared().of(*corvel); }
-    /// Refreshes the console and returns its reading.
-    static std::shared_ptr<const Reading> refreshed(const CorvelRef& corvel)
-    {
-        const auto done = fetchInventory(corvel, Urgency::Fleet);
-        MainQueue::shared().runUntil([&done] { return !done.isPending(); }, 60s);
-        return readingOf(corvel);
-    }
-};
 
 } // namespace
 

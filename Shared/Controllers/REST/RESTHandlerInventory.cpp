@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Controllers/REST/LinkedText.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Controllers/REST/RESTSupport.h"
 #include "Feedback/VireoLogger.h"
 #include "Inventory/ManagedSystem.h"
 #include "Platform/Resources.h"
+#include "Platform/URLLoading/URLError.h"
 #include "Platform/URLLoading/URLLoading.h"
 #include "XML/KeptRoom.h"
 
@@ -163,12 +165,17 @@ RXPromise<std::string> RESTHandler::processInformationForCorvel(const CorvelRef&
 
 std::optional<std::string> RESTHandler::fetchDataFromAtomLink(const std::string& link, const Corvel& corvel) const
 {
+    return lookUpLink(link, corvel).text;
+}
+
+LinkedText lookUpLink(const std::string& link, const Corvel& corvel)
+{
     if (corvel.demo() == 1) {
-        return "demo placeholder";
+        return {"demo placeholder", std::nullopt};
     }
     const SessionKey key = storedSessionKey(corvel);
     if (!key) {
-        return std::nullopt;
+        return {std::nullopt, missingKeyError()};
     }
     URLRequest request;
     // The link may point anywhere, and the key still goes with it: the console that gave the key may name itself, or
@@ -180,14 +187,15 @@ std::optional<std::string> RESTHandler::fetchDataFromAtomLink(const std::string&
     if (!load) {
         LODESTAR_LOG(sourceFile, "-[RESTHandler fetchDataFromAtomLink:corvel:]", "Error: {}",
                      description(load.error()));
-        return std::nullopt;
+        return {std::nullopt, load.error()};
     }
     std::string text = std::move(load.value().body);
     if (!simdjson::validate_utf8(text)) {
-        return std::nullopt;
+        return {std::nullopt, urlError(URLErrorCode::BadServerResponse)};
     }
     std::erase(text, '"');
-    return text;
+    const int status = load.value().response.statusCode;
+    return {std::move(text), status == 200 ? std::nullopt : std::optional(statusError(status))};
 }
 
 XMLElement RESTHandler::getDemoDataForContentType(std::string_view type) const

@@ -108,9 +108,7 @@ void RGListViewController::processStates(const std::vector<XMLElement>& links, R
     // The states are fetched one after another on the thread that configures the row, and are not cached, so that they
     // are current.
     for (const XMLElement& link : links) {
-        const auto address = ResourceGroup::stateLinkOf({link, kind});
-        const auto state = address ? fetchLinkedText(*address, corvel()) : std::nullopt;
-        counters.add(state.value_or(""));
+        counters.add(fetchMemberState({link, kind}, corvel()).value_or(""));
     }
 }
 
