@@ -18,6 +18,7 @@ public:
     using Record::Record;
     std::optional<std::string> hostName() const { return text("hostName"); }
     std::optional<std::string> model() const { return text({"managedTypeModelSerial", "Model"}); }
+    MachineIdentity identity() const { return MachineIdentity(element().child("managedTypeModelSerial")); }
 };
 
 /// A part that may have to be replaced because of an event.
