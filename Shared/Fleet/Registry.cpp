@@ -3,8 +3,10 @@
 
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
+#include "Fleet/Attention.h"
 #include "Fleet/History.h"
 #include "Fleet/Readings.h"
+#include "Fleet/RecentSearches.h"
 #include "Inventory/ConsoleInformation.h"
 #include "Platform/NotificationCenter.h"
 #include "Platform/UserDefaults.h"
@@ -106,6 +108,7 @@ void deleteCorvelAtIndex(std::size_t index)
     const CorvelRef corvel = rest.corvelList()[index];
     const std::string address = corvel->address().value_or(std::string());
     UserDefaults::standard().removeObjectForKey(address);
+    RecentSearches::forgetThoseOf(snapshotOf(corvel));
     deleteCorvel(corvel);
     saveIgnoringErrors();
     rest.removeCorvelAtIndex(index);

@@ -1,0 +1,71 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Fleet/RecentSearches.h"
+
+#include "Fleet/FleetSearch.h"
+#include "Fleet/History.h"
+
+#include <algorithm>
+
+namespace lodestar
+{
+namespace
+{
+
+constexpr auto setting = "RecentSearches";
+/// A longer text is not worth keeping.
+constexpr std::size_t longest = 200;
+
+void keep(const std::vector<std::string>& texts)
+{
+    std::string lines;
+    for (const std::string& text : texts) {
+        lines += text + '\n';
+    }
+    History::shared().setSetting(setting, lines.empty() ? std::nullopt : std::optional(lines));
+}
+
+} // namespace
+
+std::vector<std::string> RecentSearches::list()
+{
+    std::vector<std::string> texts;
+    const std::string lines = History::shared().setting(setting).value_or("");
+    for (std::size_t begin = 0, end = 0; (end = lines.find('\n', begin)) != std::string::npos; begin = end + 1) {
+        texts.push_back(lines.substr(begin, end - begin));
+    }
+    return texts;
+}
+
+void RecentSearches::add(const std::string& text)
+{
+    const std::string wanted = FleetSearch::wanted(text);
+    if (wanted.empty() || text.size() > longest || text.find('\n') != std::string::npos) {
+        return;
+    }
+    std::vector<std::string> texts = list();
+    std::erase_if(texts, [&](const std::string& known) { return FleetSearch::wanted(known) == wanted; });
+    texts.insert(texts.begin(), text);
+    texts.resize(std::min(texts.size(), most));
+    keep(texts);
+}
+
+void RecentSearches::clear()
+{
+    keep({});
+}
+
+void RecentSearches::forgetThoseOf(const ConsoleSnapshot& console)
+{
+    std::vector<std::string> texts = list();
+    if (texts.empty()) {
+        return;
+    }
+    const FleetSearch search({console}, nullptr);
+    const auto forgotten =
+        std::erase_if(texts, [&search](const std::string& text) { return countOf(search.find(text)) > 0; });
+    if (forgotten > 0) {
+        keep(texts);
+    }
+}
+
+} // namespace lodestar
