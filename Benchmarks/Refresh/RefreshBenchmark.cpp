@@ -3,6 +3,7 @@
 #include "Benchmarks/Program.h"
 #include "Benchmarks/Refresh/ProgramRun.h"
 #include "Controllers/REST/RESTHandler.h"
+#include "Fleet/FleetSheet.h"
 #include "Fleet/Registry.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/URLLoading/ServerTrust.h"
@@ -136,6 +137,23 @@ int refreshChains(const std::string& path, bool withReadings)
     return all.isFulfilled() ? 0 : 1;
 }
 
+/// Verifies every console as a fleet sheet that names them all does, from the logon on.
+int verifyAll(const std::string& path)
+{
+    const simulator::Settings account;
+    FleetSheet sheet;
+    for (const Console& console : readConsoles(path)) {
+        UserDefaults::standard().removeObjectForKey(console.address);
+        sheet.rows.push_back(
+            {.line = sheet.rows.size() + 2, .name = console.address, .address = console.address, .user = account.user});
+    }
+    const auto fleet =
+        std::make_shared<FleetImport>(sheet, std::map<std::string, std::string>{{account.user, account.password}});
+    fleet->verify(nullptr);
+    MainQueue::shared().runUntil([&fleet] { return !fleet->isRunning(); }, std::chrono::minutes(10));
+    return fleet->verified() == sheet.rows.size() ? 0 : 1;
+}
+
 /// Looks a value up again and again on the calling thread, as a list does for its rows.
 int lookUpAll(const std::string& path, const std::string& link)
 {
@@ -266,6 +284,11 @@ void measureRows(bench::Rows& rows)
         const std::string what = "refresh of " + std::to_string(consoles) + " consoles x 6 feeds";
         rows.add(what + " / curl --parallel", medians.ours, medians.reference, 1.15);
         rows.add(what + ": memory beyond the feeds / 150 MB", excess / 1e6, 150, 1, "MB");
+        if (consoles == 500) {
+            const auto checks = bench::medianInterleaved([&] { return fleet.ours("--verify"); },
+                                                         [&] { return fleet.ours("--with-readings"); });
+            rows.add("fleet sheet of 500 consoles verified / their refresh", checks.ours, checks.reference, 1.15);
+        }
         if (consoles == 50) {
             const auto chains = bench::medianInterleaved([&] { return fleet.ours("--with-readings"); },
                                                          [&] { return fleet.ours("--without-readings"); });
@@ -297,6 +320,9 @@ int main(int argc, char** argv)
     }
     if (argc == 4 && std::string_view(argv[1]).ends_with("-readings")) {
         return refreshChains(argv[2], std::string_view(argv[1]) == "--with-readings");
+    }
+    if (argc == 4 && std::string_view(argv[1]) == "--verify") {
+        return verifyAll(argv[2]);
     }
     if (argc == 4 && std::string_view(argv[1]) == "--look-ups") {
         return lookUpAll(argv[2], argv[3]);
