@@ -360,6 +360,98 @@ TEST_F(WidgetsTest, AlertsAndActionSheetsAnswerToPressesAndKeys)
     EXPECT_THAT(list->selected, IsEmpty());
 }
 
+TEST_F(WidgetsTest, AGridMenuIsWalkedByKeysAndWithLargeTextStandsInRows)
+{
+    std::vector<int> answers;
+    const std::vector<MenuChoice> choices{{"Connection", false, "connection", "Offline"},
+                                          {"Attention", false, "tab_attention"},
+                                          {"Copy Address", false, "copy"},
+                                          {"Delete", true, "delete"},
+                                          {"Move", false, "sort"},
+                                          {"Cancel"}};
+    const auto present = [&] {
+        list->grid()->present("Harbour B", {}, choices, 5, [&](int index) { answers.push_back(index); });
+    };
+    for (const bool mirrored : {false, true}) {
+        Appearance::shared().overrideMirrored(mirrored);
+        KitWindow window(list);
+        const auto focused = [&]() -> QString {
+            QQuickItem* const item = window.view().activeFocusItem();
+            return item != nullptr ? item->property("text").toString() : QString();
+        };
+        const auto comesTo = [&](Qt::Key key, const char* title) {
+            window.key(key);
+            EXPECT_EQ(focused(), title);
+        };
+        const Qt::Key forward = mirrored ? Qt::Key_Left : Qt::Key_Right;
+        const Qt::Key back = mirrored ? Qt::Key_Right : Qt::Key_Left;
+        present();
+        ASSERT_TRUE(waitFor([&] { return window.find("ChoiceGrid") != nullptr && focused().isEmpty(); }));
+        QTest::qWait(400); // the keyboard is the sheet's once it has come up
+        comesTo(forward, "Connection");
+        comesTo(forward, "Attention");
+        comesTo(Qt::Key_Down, "Move");
+        comesTo(Qt::Key_Up, "Attention");
+        comesTo(back, "Connection");
+        comesTo(Qt::Key_End, "Move");
+        comesTo(forward, "Cancel");
+        comesTo(back, "Move");
+        comesTo(Qt::Key_Home, "Connection");
+        QAccessibleInterface* const tile = QAccessible::queryAccessibleInterface(window.view().activeFocusItem());
+        EXPECT_EQ(tile->text(QAccessible::Name), "Connection, Offline");
+        EXPECT_EQ(tile->role(), QAccessible::MenuItem);
+        window.key(Qt::Key_Return);
+        EXPECT_THAT(std::exchange(answers, {}), ElementsAre(0));
+        present();
+        window.key(Qt::Key_Escape);
+        EXPECT_THAT(std::exchange(answers, {}), ElementsAre(5));
+    }
+    Appearance::shared().overrideTextScale(2);
+    KitWindow window(list);
+    present();
+    const auto isSeen = [&](const char* part) {
+        QQuickItem* const item = KitWindow::find(window.view().contentItem(), part);
+        return item != nullptr && item->isVisible();
+    };
+    ASSERT_TRUE(waitFor([&] { return isSeen("ChoiceRows"); }));
+    EXPECT_FALSE(isSeen("ChoiceGrid"));
+}
+
+TEST_F(WidgetsTest, ACountingLabelEndsWithItsTextAndTellsReadersNothingElse)
+{
+    const auto board = gallery("Gallery");
+    KitWindow window(board, {1200, 1400});
+    QQuickItem* const label = window.find("CountingLabel");
+    QStringList seen;
+    const auto text = [label] { return label->property("text").toString(); };
+    const auto follow = [&](const QString& end) {
+        seen.clear();
+        board->count()->setText(end);
+        return waitFor([&] {
+            seen << text();
+            EXPECT_EQ(QAccessible::queryAccessibleInterface(label)->text(QAccessible::Name), end);
+            return text() == end;
+        });
+    };
+    ASSERT_TRUE(waitFor([&] { return text() == "4 / 6"; }));
+    ASSERT_TRUE(follow("4 / 600"));
+    seen.removeDuplicates();
+    EXPECT_GT(seen.size(), 3) << "both ends and something between";
+    for (const QString& each : std::as_const(seen)) {
+        EXPECT_TRUE(each.startsWith("4 / ")) << "a number that stays does not count";
+    }
+    // Other words count from 0, a fraction and a number with groups not at all.
+    ASSERT_TRUE(follow("900 %"));
+    EXPECT_EQ(seen.front(), "0 %");
+    for (const char* whole : {"12.5", "1,234", "no number", ""}) {
+        ASSERT_TRUE(follow(whole));
+        EXPECT_EQ(seen.size(), 1) << whole;
+    }
+    Appearance::shared().overrideReducedMotion(true);
+    ASSERT_TRUE(follow("7"));
+    EXPECT_EQ(seen.size(), 1);
+}
+
 TEST_F(WidgetsTest, EveryWidgetIsDrawnInEveryAppearanceWithoutAWarning)
 {
     for (const bool other : {false, true}) {

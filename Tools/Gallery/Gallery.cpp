@@ -23,6 +23,7 @@ void GalleryController::viewDidLoad()
     m_tableView.reloadData();
     m_status.setText(QStringLiteral("Please enter all fields"));
     m_status.setState(Role::State::Error);
+    m_count.setText(QStringLiteral("4 / 6"));
     m_nameField.setText(QStringLiteral("Harbour C"));
     m_userField.setText(QStringLiteral("oversight"));
     m_userField.setEnabled(false);

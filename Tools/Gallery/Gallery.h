@@ -40,6 +40,8 @@ class GalleryController : public lodestar::ViewController, public TableDataSourc
     Q_PROPERTY(lodestar::SwitchOutlet* flip READ flip CONSTANT)
     Q_PROPERTY(lodestar::MenuOutlet* alert READ alert CONSTANT)
     Q_PROPERTY(lodestar::MenuOutlet* actions READ actions CONSTANT)
+    Q_PROPERTY(lodestar::MenuOutlet* grid READ grid CONSTANT)
+    Q_PROPERTY(lodestar::LabelOutlet* count READ count CONSTANT)
 
 public:
     GalleryController();
@@ -54,6 +56,8 @@ public:
     SwitchOutlet* flip() { return &m_flip; }
     MenuOutlet* alert() { return &m_alert; }
     MenuOutlet* actions() { return &m_actions; }
+    MenuOutlet* grid() { return &m_grid; }
+    LabelOutlet* count() { return &m_count; }
 
     int numberOfSections(TableKind) const override { return 2; }
     int numberOfRowsInSection(TableKind, int section) const override { return static_cast<int>(rows[section].size()); }
@@ -87,6 +91,8 @@ private:
     SwitchOutlet m_flip;
     MenuOutlet m_alert;
     MenuOutlet m_actions;
+    MenuOutlet m_grid;
+    LabelOutlet m_count;
 };
 
 } // namespace lodestar

@@ -79,6 +79,7 @@ Rectangle {
 
             Box {
                 title: "Type: one face, one weight"
+                CountingLabel { value: board.controller.count.text; size: 34 }
                 TypeLine { sample: "4 / 6"; use: "Figure 34 / 40"; size: 34 }
                 TypeLine { sample: "My Corvels"; use: "Screen 28 / 36"; size: 28 }
                 TypeLine { sample: "16.00"; use: "Value 24 / 32"; size: 24 }

@@ -41,4 +41,7 @@ PageScaffold {
     ActionSheet {
         outlet: scene.controller.actions
     }
+    GridMenu {
+        outlet: scene.controller.grid
+    }
 }

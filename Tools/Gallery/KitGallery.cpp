@@ -107,6 +107,15 @@ void run(const QString& folder)
                                     {QStringLiteral("Cancel")}},
                                    2, {});
     };
+    const auto grid = [](GalleryController& gallery) {
+        gallery.grid()->present(
+            QStringLiteral("Northfield Recovery Site"), {},
+            {{QStringLiteral("Connection"), false, QStringLiteral("connection"), QStringLiteral("Offline")},
+             {QStringLiteral("Attention"), false, QStringLiteral("tab_attention"), QStringLiteral("1")},
+             {QStringLiteral("Copy Address"), false, QStringLiteral("copy")},
+             {QStringLiteral("Cancel")}},
+            3, {});
+    };
     const auto push = [](GalleryController& gallery) {
         auto detail = makeController<GalleryController>();
         detail->setScene(QUrl(QStringLiteral("qrc:/kit/GalleryDetail.qml")));
@@ -120,6 +129,7 @@ void run(const QString& folder)
         studio.picture(QStringLiteral("detail"), {390, 844}, look, "GalleryScene", push);
         studio.picture(QStringLiteral("alert"), {390, 844}, look, "GalleryScene", alert);
         studio.picture(QStringLiteral("actions"), {390, 844}, look, "GalleryScene", actions);
+        studio.picture(QStringLiteral("grid"), {390, 844}, look, "GalleryScene", grid);
     }
     studio.picture(QStringLiteral("wide"), {1280, 800}, light, "GalleryScene", nothing);
     studio.picture(QStringLiteral("wide"), {1280, 800}, rtl, "GalleryScene", sheet);

@@ -47,6 +47,14 @@ void TabBarController::tap(int index)
     }
 }
 
+void TabBarController::setBarHidden(bool hidden)
+{
+    if (m_isBarHidden != hidden) {
+        m_isBarHidden = hidden;
+        Q_EMIT barHiddenChanged();
+    }
+}
+
 QColor TabBarController::selectedImageTintColor() const
 {
     return TabBarAppearance::appearance().selectedImageTintColor;

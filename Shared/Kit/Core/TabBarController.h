@@ -34,6 +34,7 @@ class TabBarController : public lodestar::ViewController
     Q_PROPERTY(int count READ count CONSTANT)
     Q_PROPERTY(int selectedIndex READ selectedIndex WRITE setSelectedIndex NOTIFY selectedIndexChanged)
     Q_PROPERTY(QColor selectedImageTintColor READ selectedImageTintColor CONSTANT)
+    Q_PROPERTY(bool barHidden READ isBarHidden NOTIFY barHiddenChanged)
 
 public:
     explicit TabBarController(std::vector<TabBarItem> items);
@@ -50,6 +51,9 @@ public:
     Q_INVOKABLE QString imageNameAt(int index) const;
     Q_INVOKABLE lodestar::ViewController* controllerAt(int index) const;
     void setBadge(int index, TabBadge badge);
+    /// Leaves the whole window to the selected screen, which takes care that the bar comes back.
+    bool isBarHidden() const { return m_isBarHidden; }
+    void setBarHidden(bool hidden);
     Q_INVOKABLE QString badgeAt(int index) const { return badge(index).text; }
     /// What a screen reader says for the tab.
     Q_INVOKABLE QString spokenAt(int index) const;
@@ -57,6 +61,7 @@ public:
 Q_SIGNALS:
     void selectedIndexChanged();
     void badgeChanged(int index);
+    void barHiddenChanged();
 
 protected:
     void viewDidLoad() override { controllerAt(m_selectedIndex)->loadViewIfNeeded(); }
@@ -69,6 +74,7 @@ private:
     std::vector<TabBarItem> m_items;
     std::map<int, TabBadge> m_badges;
     int m_selectedIndex = 0;
+    bool m_isBarHidden = false;
 };
 
 /// The look of every tab bar.

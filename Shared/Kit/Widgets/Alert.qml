@@ -71,9 +71,10 @@ MenuPopup {
                 wrapMode: Text.Wrap
                 Accessible.ignored: true
             }
-            Label {
-                visible: text !== ""
-                text: alert.outlet.message
+            CountingLabel {
+                visible: value !== ""
+                value: alert.outlet.message
+                fromZero: false
                 size: Theme.stateSize
                 color: Theme.ink2
                 width: parent.width

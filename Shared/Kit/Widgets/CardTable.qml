@@ -20,6 +20,8 @@ AccessibleScope {
     property real topSpace: 8
     /// Points more for a line that the screen itself puts there, in the list's content.
     property real lineSpace: 0
+    /// Points more below the last card for what the screen puts there, likewise.
+    property real endSpace: 0
     property alias header: list.header
     /// Whether a pull uncovers a search field.
     property alias searchOffered: search.offered
@@ -179,7 +181,7 @@ AccessibleScope {
         cacheBuffer: view.table.makesCellsInSteps ? 0 : 120
         topMargin: (header === null ? view.topSpace : 0) + view.lineSpace + search.space
         onTopMarginChanged: view.keepTop()
-        bottomMargin: Theme.groupGap
+        bottomMargin: Theme.groupGap + view.endSpace
         currentIndex: -1
         boundsBehavior: Flickable.DragAndOvershootBounds
         add: view.table.rowsFade ? fadeIn : null

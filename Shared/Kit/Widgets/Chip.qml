@@ -10,16 +10,19 @@ Pressable {
     property bool on: false
     /// A number after the text; empty for none.
     property string count
+    /// Colour of a stroke before the text, for a chip that stands for a line of a chart; transparent for none.
+    property color stroke: "transparent"
     /// The widest that the chip may be; its text elides.
     property real room: Infinity
 
     readonly property real scaleFactor: Theme.textScale
     readonly property color ink: on ? Theme.accentInk : Theme.ink2
     readonly property real tickSpace: on ? tick.width + 6 : 0
+    readonly property real strokeSpace: stroke.a > 0 ? line.width + 6 : 0
     readonly property real countSpace: count !== "" ? number.implicitWidth + 6 : 0
     signal toggled()
 
-    implicitWidth: Math.min(room, 24 + tickSpace + Math.ceil(measure.advanceWidth) + 1 + countSpace)
+    implicitWidth: Math.min(room, 24 + tickSpace + strokeSpace + Math.ceil(measure.advanceWidth) + 1 + countSpace)
     implicitHeight: Math.max(36, Math.round(20 * scaleFactor) + 16)
     Accessible.role: Accessible.CheckBox
     Accessible.name: count === "" ? text : text + ", " + count
@@ -62,13 +65,23 @@ Pressable {
             size: Math.round(20 * Math.min(1.5, chip.scaleFactor))
             anchors.verticalCenter: parent.verticalCenter
         }
+        Rectangle {
+            id: line
+
+            visible: chip.stroke.a > 0
+            width: 16
+            height: 2
+            radius: 1
+            color: chip.stroke
+            anchors.verticalCenter: parent.verticalCenter
+        }
         Label {
             id: label
 
             text: chip.text
             size: Theme.stateSize
             color: chip.ink
-            width: Math.min(Math.ceil(measure.advanceWidth) + 1, chip.room - 24 - chip.tickSpace - chip.countSpace)
+            width: Math.min(Math.ceil(measure.advanceWidth) + 1, chip.room - 24 - chip.tickSpace - chip.strokeSpace - chip.countSpace)
             elide: Text.ElideMiddle
             Accessible.ignored: true
         }

@@ -15,6 +15,8 @@ Item {
     property int inputMethodHints: Qt.ImhNoPredictiveText | Qt.ImhNoAutoUppercase
     property int rowHeight: 56
     property real labelWidth: 112
+    /// A second line below the name; empty for none.
+    property string labelDetail
     /// A remark below the field's text; empty for none.
     property string hint
     /// The field to which Return leads; null makes Return end editing.
@@ -22,8 +24,10 @@ Item {
     signal returnPressed()
 
     readonly property bool stacked: Theme.stacked
+    readonly property real detailHeight: labelDetail !== "" ? Math.round(16 * Theme.textScale) : 0
 
     implicitHeight: Math.round(rowHeight * (stacked ? Theme.textScale * 1.3 : Theme.textScale))
+                    + (stacked ? detailHeight : 0)
     width: parent !== null ? parent.width : implicitWidth
     visible: !outlet.hidden
     enabled: outlet.enabled
@@ -50,25 +54,39 @@ Item {
 
         text: field.label
         size: Theme.stateSize
-        color: Theme.ink2
+        color: detail.visible ? Theme.ink : Theme.ink2
         anchors.left: parent.left
         anchors.leftMargin: Theme.rowStart
-        y: field.stacked ? 8 : (parent.height - height) / 2
+        y: field.stacked ? 8 : (parent.height - height - field.detailHeight) / 2
         width: field.stacked ? parent.width - Theme.rowStart - Theme.rowEnd : field.labelWidth
+        elide: Text.ElideRight
+        Accessible.ignored: true
+    }
+    Label {
+        id: detail
+
+        visible: text !== ""
+        text: field.labelDetail
+        size: Theme.captionSize
+        line: 16
+        color: Theme.ink3
+        anchors.left: name.left
+        y: name.y + name.height
+        width: name.width
         elide: Text.ElideRight
         Accessible.ignored: true
     }
     InputField {
         id: input
 
-        label: field.label
+        label: field.label + (field.labelDetail === "" ? "" : ", " + field.labelDetail)
         outlet: field.outlet
         secretSwitch: field.secure ? eye : null
         anchors.left: parent.left
         anchors.leftMargin: Theme.rowStart + (field.stacked ? 0 : field.labelWidth)
         anchors.right: eye.visible ? eye.left : parent.right
         anchors.rightMargin: eye.visible ? 0 : Theme.rowEnd
-        y: field.stacked ? name.y + name.height : 0
+        y: field.stacked ? name.y + name.height + field.detailHeight : 0
         height: parent.height - y - (hintLabel.visible ? hintLabel.height : 0)
         topPadding: Appearance.textDrop(font.pixelSize, height, Screen.devicePixelRatio)
         verticalAlignment: TextInput.AlignTop

@@ -2,8 +2,8 @@
 import QtQuick
 import Lodestar.Kit
 
-/// A name with the searched-for part marked. A name that does not fit is elided in the middle, or wraps. A match in the
-/// elided part is not marked.
+/// A name with the searched-for part marked. A name that does not fit is elided, in the middle as a rule, or wraps. A
+/// match in the elided part is not marked.
 Label {
     id: label
 
@@ -21,7 +21,7 @@ Label {
 
         font: label.font
         text: label.text
-        elide: Text.ElideMiddle
+        elide: label.elide
         elideWidth: label.width
     }
     TextMetrics {
@@ -45,7 +45,8 @@ Label {
     Rectangle {
         // The label's effectiveHorizontalAlignment cannot be used: it may change before the label is complete, without
         // a signal. contentWidth cannot either: for a right-aligned label it is the whole width.
-        readonly property real textStart: Theme.mirrored ? label.width - whole.advanceWidth : 0
+        readonly property bool atEnd: Theme.mirrored !== (label.horizontalAlignment === Text.AlignRight)
+        readonly property real textStart: atEnd ? label.width - whole.advanceWidth : 0
 
         z: -1
         visible: label.matchStart >= 0

@@ -13,10 +13,25 @@ Item {
     /// Greatest width of the content below.
     property int measure: Theme.measure
 
+    /// The title was held or clicked with the right button: offers what the bar has no room for.
+    signal titleHeld()
+
     readonly property real margin: Theme.sideMargin(width, measure)
 
     implicitHeight: Theme.rootBarHeight
 
+    /// Whether so many buttons leave the title its size.
+    function fits(buttons: int): bool {
+        return margin + Theme.rowStart - 2 + titleMeasure.advanceWidth + 8 + buttons * Theme.target + ends.anchors.rightMargin <= width;
+    }
+
+    TextMetrics {
+        id: titleMeasure
+
+        font.family: Theme.family
+        font.pixelSize: Math.round(Theme.rootTitleSize * Theme.barScale)
+        text: bar.title
+    }
     Label {
         // Large letters start a little inside their box; 2 points less put them on the edge.
         anchors.left: parent.left
@@ -32,6 +47,14 @@ Item {
         elide: Text.ElideMiddle
         Accessible.role: Accessible.Heading
         Accessible.name: text
+
+        TapHandler {
+            onLongPressed: bar.titleHeld()
+        }
+        TapHandler {
+            acceptedButtons: Qt.RightButton
+            onTapped: bar.titleHeld()
+        }
     }
     Row {
         id: ends

@@ -36,6 +36,23 @@ Flickable {
         }
     }
 
+    /// Scrolls by a key that nothing on the page has used.
+    function scrollByKey(event: var) {
+        switch (event.key) {
+        case Qt.Key_Down: scrollBy(44); break;
+        case Qt.Key_Up: scrollBy(-44); break;
+        case Qt.Key_PageDown: scrollBy(height - 44); break;
+        case Qt.Key_PageUp: scrollBy(44 - height); break;
+        case Qt.Key_Home: scrollBy(-contentHeight); break;
+        case Qt.Key_End: scrollBy(contentHeight); break;
+        default: return;
+        }
+        event.accepted = true;
+    }
+    function scrollBy(by: real) {
+        contentY = Math.max(0, Math.min(contentHeight - height, contentY + by));
+    }
+
     readonly property Item keyboardItem: Window.activeFocusItem
     onKeyboardItemChanged: revealKeyboardItem()
     onShownHeightChanged: {

@@ -22,9 +22,9 @@ FocusScope {
         id: body
 
         focus: true
-        x: view.rail && !Theme.mirrored ? bar.width : 0
-        width: parent.width - (view.rail ? bar.width : 0)
-        height: parent.height - (view.rail ? 0 : bar.height)
+        x: view.rail && !Theme.mirrored && bar.visible ? bar.width : 0
+        width: parent.width - (view.rail && bar.visible ? bar.width : 0)
+        height: parent.height - (!view.rail && bar.visible ? bar.height : 0)
 
         Repeater {
             model: view.controller.count
@@ -50,6 +50,7 @@ FocusScope {
         id: bar
 
         controller: view.controller
+        visible: !view.controller.barHidden
         rail: view.rail
         width: rail ? implicitWidth : parent.width
         height: rail ? parent.height : implicitHeight

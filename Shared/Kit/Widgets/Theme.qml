@@ -199,4 +199,5 @@ QtObject {
     readonly property int settle: reducedMotion ? 120 : 200
     readonly property int rowDelete: reducedMotion ? 120 : 240
     readonly property int spinnerTurn: 900
+    readonly property int counting: 600
 }
