@@ -226,6 +226,79 @@ void addMillion(bench::Rows& rows)
     rows.add("line chart 1,000,000 x 3, moved / 240 x 3", moved.ours, moved.reference, 2.0);
 }
 
+QString secondsText(const TimeTick& tick)
+{
+    return QString::number(tick.time);
+}
+
+/// The large chart of a tablet: bars and two lines over time, which a pointer reads.
+class TimeChart
+{
+public:
+    explicit TimeChart(int count) : m_count(count)
+    {
+        XAxis axis;
+        axis.time = TimeScale{1'773'273'600, step, &secondsText};
+        m_view.setXAxis(axis);
+        PlotChartData data;
+        data.barStyle = {.share = 0.8, .place = step};
+        data.barDataSets.emplaceBack().entries = entries(0);
+        for (int series = 1; series < 3; ++series) {
+            LineChartDataSet& line = data.lineDataSets.emplaceBack();
+            line.circleRadius = 0;
+            line.entries = entries(series);
+        }
+        m_view.setData(data);
+    }
+    void draw()
+    {
+        m_view.setViewport({m_view.viewport().x > 0.2 ? 0.1 : m_view.viewport().x + 0.001, 0, 0.5, 1});
+        m_image.fill(Qt::white);
+        QPainter painter(&m_image);
+        m_renderer.draw(painter, {size, {}, {}});
+    }
+    /// What a step of the pointer costs before the scene draws its marks, which the chart is not drawn for.
+    void read()
+    {
+        m_at = (m_at + 7919) % m_count;
+        m_view.setReadIndex(m_at * double{step});
+        const PlotLayout layout = m_renderer.layout({size, {}, {}});
+        bench::require(layout.hasPlot() && m_view.readIndex() == m_at * step, "nothing was read");
+    }
+    const QImage& image() const { return m_image; }
+
+private:
+    static constexpr int step = 180;
+    static constexpr QSizeF size{1280, 700};
+
+    QList<ChartEntry> entries(int series) const
+    {
+        QList<ChartEntry> made;
+        for (int i = 0; i < m_count; ++i) {
+            made << ChartEntry{sample(series, i, m_count), i * step};
+        }
+        return made;
+    }
+
+    int m_count;
+    int m_at = 0;
+    PlotChartView m_view;
+    PlotRenderer m_renderer{m_view.model()};
+    QImage m_image{(size * pixelRatio).toSize(), QImage::Format_ARGB32_Premultiplied};
+};
+
+/// Both against the time that a frame has.
+void addTimeChart(bench::Rows& rows)
+{
+    constexpr double frame = 1e9 / 60; // Nanoseconds.
+    TimeChart chart(24'000);
+    const bench::Medians times =
+        bench::medianInterleaved(measured([&] { chart.draw(); }), measured([&] { chart.read(); }), 51);
+    requireInk(chart.image());
+    rows.add("time chart 24,000 x 3 with bars, moved / a frame", times.ours, frame, 1.0);
+    rows.add("time chart 24,000 x 3 with bars, read / a frame", times.reference, frame, 0.1);
+}
+
 void redraw(benchmark::State& state)
 {
     Ours ours(static_cast<int>(state.range(0)));
@@ -240,6 +313,7 @@ void measureRows(bench::Rows& rows)
     addRow(rows, 240, 1.0);
     addRow(rows, 24'000, 0.15);
     addMillion(rows);
+    addTimeChart(rows);
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <QPainterPath>
 
 #include <algorithm>
+#include <cmath>
 
 namespace lodestar
 {
@@ -14,9 +15,9 @@ namespace
 constexpr double barSpace = 0.2; // Share of a bar's place that stays empty.
 
 /// The entries whose bars are in view.
-std::pair<qsizetype, qsizetype> rangeInView(const PlotSeries& series, const PlotInterval& x)
+std::pair<qsizetype, qsizetype> rangeInView(const PlotSeries& series, const PlotInterval& x, double place)
 {
-    return {series.lowerBound(x.from - 0.5), series.lowerBound(x.to + 0.5)};
+    return {series.lowerBound(x.from - place / 2), series.lowerBound(x.to + place / 2)};
 }
 
 /// The box with the corners of its upper or its lower end rounded.
@@ -36,7 +37,7 @@ QPainterPath roundedAtEnd(const QRectF& box, bool upper, double radius)
 
 QRectF BarLayer::barOf(qsizetype position, const ChartEntry& entry, const PlotTransform& transform) const
 {
-    const double group = m_style.share / (1 - barSpace);
+    const double group = m_style.place * m_style.share / (1 - barSpace);
     const double place = group / static_cast<double>(m_style.sharesPlace ? 1 : dataSetCount());
     const double gap = place * barSpace;
     const double start =
@@ -54,7 +55,11 @@ void BarLayer::draw(QPainter& painter, const PlotCanvas& canvas) const
     const double grown = std::clamp(canvas.phases.x, 0.0, 1.0) * std::max(canvas.phases.y, 0.0);
     for (qsizetype i = 0; i < dataSetCount(); ++i) {
         const PlotSeries& entries = series(i);
-        const auto [first, last] = rangeInView(entries, canvas.transform.visible.x);
+        const auto [first, last] = rangeInView(entries, canvas.transform.visible.x, m_style.place);
+        if (static_cast<double>(last - first) > canvas.transform.plot.width() * canvas.pixelRatio) {
+            drawColumns(painter, canvas, i, grown);
+            continue;
+        }
         for (qsizetype e = first; e < last; ++e) {
             ChartEntry entry = entries.at(e);
             entry.value *= static_cast<float>(grown);
@@ -69,6 +74,27 @@ void BarLayer::draw(QPainter& painter, const PlotCanvas& canvas) const
                 painter.fillRect(bar, color);
             }
         }
+    }
+}
+
+void BarLayer::drawColumns(QPainter& painter, const PlotCanvas& canvas, qsizetype position, double grown) const
+{
+    const PlotSeries& entries = series(position);
+    const PlotTransform& transform = canvas.transform;
+    const QColor color = canvas.colorOf(dataSet(position), position);
+    const double step = 1 / canvas.pixelRatio;
+    qsizetype first = entries.lowerBound(transform.visible.x.from);
+    for (double x = std::round(transform.plot.left() / step) * step; x < transform.plot.right(); x += step) {
+        const qsizetype last = entries.lowerBound(transform.toIndex(x + step));
+        PlotInterval values = entries.values(first, last);
+        first = last;
+        if (values.isEmpty()) {
+            continue;
+        }
+        values.include(0.0);
+        const QPointF upper(x, transform.toY(values.to * grown));
+        const QPointF lower(x + step, transform.toY(values.from * grown));
+        painter.fillRect(QRectF(upper, lower), color);
     }
 }
 

@@ -1,9 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Charts/TimeTicks.h"
+
 #include <QColor>
 #include <QList>
 #include <QString>
+
+#include <optional>
 
 namespace lodestar
 {
@@ -37,6 +41,15 @@ struct ChartAxis {
     bool operator==(const ChartAxis&) const = default;
 };
 
+/// Makes the x axis one of time: an index counts seconds, and the labels are of local time.
+struct TimeScale {
+    qint64 origin = 0;                               ///< When index 0 was, in seconds since 1970, UTC.
+    int step = 60;                                   ///< Seconds that neighbouring entries are usually apart; above 0.
+    QString (*text)(const TimeTick& tick) = nullptr; ///< Writes a tick's label; never null.
+
+    bool operator==(const TimeScale&) const = default;
+};
+
 /// The axis of the x labels. Label i stands at x index i. Where labels would come too close to each other, only every
 /// second, fourth, fifth, tenth … is shown.
 struct XAxis : ChartAxis {
@@ -45,6 +58,7 @@ struct XAxis : ChartAxis {
     /// The only indices with a label, in rising order, as long as they find room; empty for as many as fit. These
     /// labels do not reach beyond the plot.
     QList<int> labelledIndices;
+    std::optional<TimeScale> time; ///< None for an axis of labels. An axis of time needs no x labels.
 
     bool operator==(const XAxis&) const = default;
 };

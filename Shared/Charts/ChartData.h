@@ -89,6 +89,7 @@ struct BarStyle {
     double share = 0.64;      ///< Share of an x index's place that bars cover.
     double radius = 0;        ///< Points; rounds the end that does not stand on 0.
     double gap = 0;           ///< Points by which bars keep off the line at 0.
+    double place = 1;         ///< X indices that a bar's place takes.
 
     bool operator==(const BarStyle&) const = default;
 };

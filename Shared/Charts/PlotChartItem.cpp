@@ -80,9 +80,9 @@ ChartStyle PlotChartItem::style() const
     return style;
 }
 
-QRectF PlotChartItem::plot() const
+PlotLayout PlotChartItem::completeLayout() const
 {
-    return m_outlet != nullptr ? m_renderer->layout(completeFrame()).transform.plot : QRectF();
+    return m_outlet != nullptr ? m_renderer->layout(completeFrame()) : PlotLayout();
 }
 
 PlotFreedom PlotChartItem::freedom() const
@@ -253,13 +253,18 @@ bool PlotChartItem::event(QEvent* event)
     return ChartItem::event(event);
 }
 
-bool PlotChartItem::pressKey(const QKeyEvent& event)
+void PlotChartItem::endZoom()
 {
-    // A key that is pressed during a zoom starts from where that zoom would end.
     if (m_zoom.state() == QAbstractAnimation::Running) {
         m_zoom.stop();
         m_outlet->setViewport(m_zoomTo);
     }
+}
+
+bool PlotChartItem::pressKey(const QKeyEvent& event)
+{
+    // A key that is pressed during a zoom starts from where that zoom would end.
+    endZoom();
     switch (event.key()) {
     case Qt::Key_Left:
         return moveByKey(freedom().x, -keyboardShare, 0);

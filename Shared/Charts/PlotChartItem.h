@@ -51,10 +51,18 @@ protected:
     bool event(QEvent* event) override;
     void wheelEvent(QWheelEvent* event) override;
 
+    /// The complete chart's layout; one without a plot while there is no view.
+    PlotLayout completeLayout() const;
+    PlotFreedom freedom() const;
+    void glideTo(const PlotViewport& viewport);
+    /// Ends a zoom by key or double tap where it would have ended.
+    void endZoom();
+    /// Returns whether the plot uses the key.
+    bool moveByKey(bool free, double sharesX, double sharesY);
+
 private:
     /// The plot's box within the item; empty without a plot.
-    QRectF plot() const;
-    PlotFreedom freedom() const;
+    QRectF plot() const { return completeLayout().transform.plot; }
     /// Shows a hand as the pointer over a plot that can be moved.
     void showHand();
     /// A point of the chart in shares of the plot, counted from the plot's lower left.
@@ -64,10 +72,8 @@ private:
     /// Returns whether anything changed.
     bool zoomAt(QPointF position, double factorX, double factorY);
     void tapTwice(QPointF position);
-    void glideTo(const PlotViewport& viewport);
     void glideOn(QPointF pointsPerSecond);
-    /// `moveByKey` and `zoomByKey` return whether the plot uses the key.
-    bool moveByKey(bool free, double sharesX, double sharesY);
+    /// Returns whether the plot uses the key.
     bool zoomByKey(double factor);
 
     QPointer<PlotChartView> m_outlet;

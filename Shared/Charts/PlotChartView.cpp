@@ -4,6 +4,9 @@
 #include "Charts/BarLayer.h"
 #include "Charts/LineLayer.h"
 
+#include <algorithm>
+#include <cmath>
+
 namespace lodestar
 {
 namespace
@@ -37,7 +40,8 @@ void PlotChartView::setAccessibleText(const QString& text)
 
 QSizeF PlotChartView::smallestViewport() const
 {
-    return {std::min(1.0, 2 / m_model.wholeX().length()), 0.02};
+    const double step = m_model.xAxis.time ? m_model.xAxis.time->step : 1;
+    return {std::min(1.0, 2 * step / m_model.wholeX().length()), 0.02};
 }
 
 void PlotChartView::setData(const PlotChartData& data)
@@ -48,7 +52,45 @@ void PlotChartView::setData(const PlotChartData& data)
                       std::make_shared<LineLayer>(data.lineDataSets)};
     m_model.highlights.clear();
     m_model.viewport = {};
+    read(std::nullopt);
     announceData();
+}
+
+void PlotChartView::setReadIndex(std::optional<double> index)
+{
+    std::optional<int> found;
+    for (const PlotModel::Series& each : m_model.allSeries()) {
+        const std::optional<ChartEntry> entry = index ? each.series->nearest(*index) : std::nullopt;
+        if (entry && (!found || std::abs(entry->xIndex - *index) < std::abs(*found - *index))) {
+            found = entry->xIndex;
+        }
+    }
+    read(found);
+}
+
+void PlotChartView::stepReading(bool forward)
+{
+    const PlotInterval all = m_model.dataExtent().x;
+    std::optional<int> found;
+    for (const PlotModel::Series& each : m_model.allSeries()) {
+        const double from = m_readIndex ? *m_readIndex : forward ? all.from - 1 : all.to + 1;
+        const qsizetype position = each.series->lowerBound(forward ? from + 1 : from) - (forward ? 0 : 1);
+        if (position >= 0 && position < each.series->size()) {
+            const int index = each.series->at(position).xIndex;
+            found = !found ? index : forward ? std::min(*found, index) : std::max(*found, index);
+        }
+    }
+    if (found) {
+        read(found);
+    }
+}
+
+void PlotChartView::read(std::optional<int> index)
+{
+    if (m_readIndex != index) {
+        m_readIndex = index;
+        Q_EMIT readIndexChanged();
+    }
 }
 
 void PlotChartView::select(const std::optional<Highlight>& highlight)

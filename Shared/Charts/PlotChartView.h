@@ -15,6 +15,7 @@ class PlotChartView : public lodestar::ChartView
     Q_OBJECT
     QML_NAMED_ELEMENT(PlotChartView)
     QML_UNCREATABLE("made by controllers")
+    Q_PROPERTY(bool zoomed READ isZoomed NOTIFY changed)
 
 public:
     explicit PlotChartView(QObject* parent = nullptr);
@@ -49,6 +50,7 @@ public:
     {
         assign(m_model.viewport, viewport.zoomed(1, 1, {0, 0}, smallestViewport()));
     }
+    bool isZoomed() const { return m_model.viewport.isZoomed(); }
     /// The smallest part that a zoom can show, in shares of the whole: two steps of the x axis, a fiftieth of the
     /// values.
     QSizeF smallestViewport() const;
@@ -56,6 +58,14 @@ public:
     /// Applies the user's selection of an entry, or of nothing, and tells the delegate. Selecting the selected entry
     /// again selects nothing.
     void select(const std::optional<Highlight>& highlight);
+
+    /// The x index at which the chart is read, always one with an entry; nothing while it is not read. New data end the
+    /// reading. A view only keeps the index: the marks and the values at it are for the scene to show.
+    std::optional<int> readIndex() const { return m_readIndex; }
+    /// Reads at the entry nearest to the index.
+    void setReadIndex(std::optional<double> index);
+    /// Reads at the next entry after the one that is read, or before it; from no entry, at the first or the last.
+    void stepReading(bool forward);
 
     /// Names and latest values in order, as in "Total Processors 16, Processors Used 6.5", unless a text was given; the
     /// no-data text without data.
@@ -65,13 +75,18 @@ public:
     /// Data set's name, label and value.
     QString selectedText() const override;
 
+Q_SIGNALS:
+    void readIndexChanged();
+
 private:
+    void read(std::optional<int> index);
     const ChartModel& common() const override { return m_model; }
     ChartModel& common() override { return m_model; }
 
     PlotChartData m_data;
     PlotModel m_model;
     QString m_accessibleText;
+    std::optional<int> m_readIndex;
 };
 
 } // namespace lodestar

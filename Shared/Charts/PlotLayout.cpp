@@ -156,6 +156,10 @@ private:
 
     void placeIndices()
     {
+        if (m_model.xAxis.enabled && m_model.xAxis.time) {
+            placeTimes(*m_model.xAxis.time);
+            return;
+        }
         if (!m_model.xAxis.enabled || m_model.xVals.isEmpty()) {
             return;
         }
@@ -174,6 +178,51 @@ private:
             labels = labelsEvery(stride);
         }
         takeIndexLabels(std::move(*labels));
+    }
+
+    /// The ticks of the smallest step whose labels stand apart from each other.
+    void placeTimes(const TimeScale& scale)
+    {
+        const PlotTransform& transform = m_layout.transform;
+        const PlotInterval& visible = transform.visible.x;
+        const double origin = static_cast<double>(scale.origin);
+        const double gap = std::max(m_model.xAxis.spaceBetweenLabels, 0.0) * spaceStep * m_scale;
+        const double pitch = transform.plot.width() / visible.length(); // Points per second.
+        TimeStep step;
+        std::vector<AxisLabel> labels;
+        // Starting at the width of a usual label keeps the number of tries small.
+        double least = (gap + m_metrics.horizontalAdvance(scale.text({scale.origin, TimeTick::Unit::Minute}))) / pitch;
+        do {
+            step = timeStep(least);
+            labels = timeLabels(scale, timeTicks(origin + visible.from, origin + visible.to, step));
+            double widest = 0;
+            for (const AxisLabel& label : labels) {
+                widest = std::max(widest, label.box.width());
+            }
+            least = std::max((widest + gap) / pitch, least);
+        } while (timeStep(least) != step);
+        // Where clocks change, ticks may be closer than a step, and the second label goes.
+        std::vector<AxisLabel> shown;
+        for (AxisLabel& label : labels) {
+            if (shown.empty() || label.box.left() >= shown.back().box.right() + gap / 2) {
+                shown.push_back(std::move(label));
+            }
+        }
+        takeIndexLabels(std::move(shown));
+    }
+
+    std::vector<AxisLabel> timeLabels(const TimeScale& scale, const QList<TimeTick>& ticks) const
+    {
+        std::vector<AxisLabel> labels;
+        for (const TimeTick& tick : ticks) {
+            const auto index = static_cast<double>(tick.time - scale.origin);
+            const QString text = scale.text(tick);
+            const double width = m_metrics.horizontalAdvance(text);
+            const double x =
+                std::clamp(m_layout.transform.toX(index) - width / 2, 1.0, std::max(m_size.width() - width - 1, 1.0));
+            labels.push_back({index, text, {x, 0, width, m_metrics.capHeight()}});
+        }
+        return labels;
     }
 
     void takeIndexLabels(std::vector<AxisLabel> labels)

@@ -26,6 +26,9 @@ PlotInterval PlotModel::wholeX() const
     PlotInterval whole{0, std::max(0.0, static_cast<double>(xVals.size() - 1))};
     whole.include(dataExtent().x);
     double room = whole.length() > 0 ? 0.0 : 0.5;
+    if (xAxis.time) {
+        room = std::max(0.0, xAxis.time->step - whole.length() / 2); // One sample stands among labelled times too.
+    }
     for (const auto& layer : layers) {
         room = std::max(room, layer->sideRoom());
     }
