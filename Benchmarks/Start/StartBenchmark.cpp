@@ -1,5 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Application/Adapters/FileUserDefaults.h"
+#include "Application/Model/FileUserDefaults.h"
 #include "Benchmarks/Rows.h"
 #include "Tests/Support/ScratchFolder.h"
 

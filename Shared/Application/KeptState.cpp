@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/KeptState.h"
 
-#include "Application/Adapters/FileUserDefaults.h"
+#include "Application/Model/FileUserDefaults.h"
 
 namespace lodestar
 {

@@ -1,9 +1,9 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/OneInstance.h"
 
+#include "Application/Model/DataFolder.h"
 #include "Application/WindowPlace.h"
 #include "Feedback/VireoLogger.h"
-#include "Platform/PrivateFile.h"
 
 #include <QLocalSocket>
 
@@ -38,7 +38,7 @@ void askForWindow(const QString& folder)
 
 bool claimDataFolder(const QString& folder)
 {
-    switch (claimFolder(folder.toStdString())) {
+    switch (DataFolder::claim(folder.toStdString())) {
     case FolderClaim::Ours:
         return true;
     case FolderClaim::Taken:

@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Adapters/DesktopSettings.h"
-#include "Application/Adapters/FileUserDefaults.h"
 #include "Application/Adapters/PackageResources.h"
 #include "Application/Adapters/SessionBus.h"
 #include "Application/Adapters/SystemKeychain.h"
@@ -9,6 +8,8 @@
 #include "Application/FeedbackWindow.h"
 #include "Application/KeptState.h"
 #include "Application/MainStoryboard.h"
+#include "Application/Model/DataFolder.h"
+#include "Application/Model/FileUserDefaults.h"
 #include "Application/Model/StoreStack.h"
 #include "Application/OneInstance.h"
 #include "Application/PrivacyCover.h"
@@ -21,18 +22,15 @@
 #include "Kit/Core/MainLoop.h"
 #include "Kit/Core/UIFont+System.h"
 #include "Platform/MemoryReserve.h"
-#include "Platform/PrivateFile.h"
 
 #include <QCommandLineParser>
 #include <QDir>
 #include <QGuiApplication>
 #include <QScreen>
-#include <QStandardPaths>
 
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
-#include <tuple>
 
 using namespace lodestar;
 
@@ -70,28 +68,23 @@ Options parseOptions(const QGuiApplication& application)
     return {parser.value(data), parser.value(reportsTo), parser.isSet(fullScreen), parser.isSet(firstFrame)};
 }
 
-/// Makes the folder below which everything is kept.
-QString makeDataFolder(const QString& asked)
+/// The folder below which everything is kept.
+QString dataFolderOf(const QString& asked)
 {
-    QString folder = asked.isEmpty() ? QStandardPaths::writableLocation(QStandardPaths::AppDataLocation)
-                                     : QDir(asked).absolutePath();
-    // A failure shows later, when something is to be kept in the folder.
-    std::ignore = makePrivateFolder(folder.toStdString());
-    return folder;
+    return asked.isEmpty() ? QString::fromStdString(DataFolder::standard()) : QDir(asked).absolutePath();
 }
 
 SystemKeychain& installPlatform(const QString& folder)
 {
-    VireoLogger::openLogFolder((folder + QStringLiteral("/Logs")).toStdString());
+    VireoLogger::openLogFolder(DataFolder::logs(folder.toStdString()));
     FeedbackSupport::captureCrashes(folder, QStringLiteral(LODESTAR_VERSION));
-    UserDefaults::install(
-        std::make_unique<FileUserDefaults>((folder + QStringLiteral("/Lodestar.defaults")).toStdString()));
+    UserDefaults::install(std::make_unique<FileUserDefaults>(DataFolder::defaults(folder.toStdString())));
     KeptState::openFolder(folder.toStdString());
     auto keychain = std::make_unique<SystemKeychain>();
     SystemKeychain& installed = *keychain;
     Keychain::install(std::move(keychain));
     Resources::install(std::make_unique<PackageResources>());
-    StoreStack::shared().setApplicationDocumentsDirectory((folder + QStringLiteral("/Documents")).toStdString());
+    StoreStack::shared().setApplicationDocumentsDirectory(DataFolder::documents(folder.toStdString()));
     return installed;
 }
 
@@ -114,12 +107,10 @@ int main(int argc, char** argv)
 
     const MainLoop mainLoop;
     const TerminationSignals terminationSignals([] { QGuiApplication::quit(); });
-    const QString dataFolder = makeDataFolder(options.dataFolder);
+    const QString dataFolder = dataFolderOf(options.dataFolder);
     if (!claimDataFolder(dataFolder)) {
         return 1;
     }
-    // Only after the claim: a folder of another user must keep its permissions.
-    std::ignore = makePrivateFolder(dataFolder.toStdString(), FolderThere::Tightened);
     SystemKeychain& keychain = installPlatform(dataFolder);
 
     AppDelegate delegate;

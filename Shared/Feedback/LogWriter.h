@@ -33,6 +33,8 @@ public:
     void flush();
     /// Deletes everything logged so far, on the disk too.
     void forget();
+    /// Debug builds copy each line to standard error, unless a program has words of its own to write there.
+    std::atomic<bool> mayCopyToStandardError = true;
     /// The lines logged last, for a crash.
     const LastLines& lastLines() const { return m_lastLines; }
 

@@ -189,11 +189,12 @@ void VireoLogger::write(const Entry& entry)
             }
         }
         LogWriter& writer = LogWriter::shared();
-        if (!copiesToStandardError && !writer.isOpen()) {
+        const bool copies = copiesToStandardError && writer.mayCopyToStandardError;
+        if (!copies && !writer.isOpen()) {
             return;
         }
         std::string text = formatted(entry);
-        if (copiesToStandardError) {
+        if (copies) {
             std::fprintf(stderr, "%s\n", text.c_str());
         }
         appendStack(text, entry.stacktrace);

@@ -1,6 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Application/Adapters/FileUserDefaults.h"
 #include "Application/Adapters/SystemKeychain.h"
+#include "Application/Model/FileUserDefaults.h"
 #include "Feedback/VireoLogger.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Tests/Support/FullDisk.h"

@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Application/Adapters/FileUserDefaults.h"
+#include "Application/Model/FileUserDefaults.h"
 #include "Tests/Application/LockFixture.h"
 
 namespace lodestar::lock

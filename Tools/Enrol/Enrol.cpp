@@ -3,13 +3,13 @@
 // has one console a line: ADDRESS USER PASSWORD NAME, percent-encoded words, as lodestar-simulator prints them. A
 // password never comes on the command line, where every process of the machine could read it. A console whose address
 // is registered already is left alone.
-#include "Application/Adapters/FileUserDefaults.h"
+#include "Application/Model/DataFolder.h"
+#include "Application/Model/FileUserDefaults.h"
 #include "Application/Model/Setting.h"
 #include "Application/Model/StoreStack.h"
 #include "Application/OneInstance.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Fleet/Registry.h"
-#include "Platform/PrivateFile.h"
 #include "Simulator/Protocol.h"
 
 #include <QCoreApplication>
@@ -20,7 +20,6 @@
 #include <iostream>
 #include <stdexcept>
 #include <string>
-#include <tuple>
 
 using namespace lodestar;
 
@@ -69,13 +68,11 @@ std::size_t enrolAll()
 
 int run(const QString& folder)
 {
-    std::ignore = makePrivateFolder(folder.toStdString());
     if (!claimDataFolder(folder)) {
         return 1;
     }
-    std::ignore = makePrivateFolder(folder.toStdString(), FolderThere::Tightened);
-    FileUserDefaults defaults((folder + QStringLiteral("/Lodestar.defaults")).toStdString());
-    StoreStack::shared().setApplicationDocumentsDirectory((folder + QStringLiteral("/Documents")).toStdString());
+    FileUserDefaults defaults(DataFolder::defaults(folder.toStdString()));
+    StoreStack::shared().setApplicationDocumentsDirectory(DataFolder::documents(folder.toStdString()));
     const std::size_t count = enrolAll();
     // A first start would add the demonstration console and show the tour.
     defaults.setBool(true, Setting::initialLoad);

@@ -47,25 +47,33 @@ ManagedObjectModel StoreStack::managedObjectModel()
             1};
 }
 
-std::unique_ptr<ObjectContext> StoreStack::persistentStoreCoordinator() const
+Result<std::unique_ptr<ObjectContext>> StoreStack::persistentStoreCoordinator() const
 {
     // Without a folder the path is left empty, which `open` refuses; a path made here would lie at the file system's
     // root.
     const std::string path = m_documentsDirectory.empty() ? std::string() : m_documentsDirectory + "/Lodestar.sqlite";
-    auto opened = ObjectContext::open(path, managedObjectModel());
-    if (!opened) {
+    return ObjectContext::open(path, managedObjectModel());
+}
+
+ObjectContext& StoreStack::managedObjectContext()
+{
+    if (const Result<void> opened = open(); !opened) {
         endProcess("-[AppDelegate persistentStoreCoordinator]",
                    {"YOUR_ERROR_DOMAIN", 9999, "Failed to initialize the application's saved data",
                     "There was an error creating or loading the application's saved data.",
                     std::make_shared<Error>(opened.error())});
     }
-    return std::move(opened).value();
+    return *m_context;
 }
 
-ObjectContext& StoreStack::managedObjectContext()
+Result<void> StoreStack::open()
 {
     if (m_context == nullptr) {
-        m_context = persistentStoreCoordinator();
+        auto opened = persistentStoreCoordinator();
+        if (!opened) {
+            return opened.error();
+        }
+        m_context = std::move(opened).value();
         // Scrubs after the running work: a reset deletes and saves console by console on the main thread, and one scrub
         // at its end is enough.
         m_context->setScrubNeeded([] {
@@ -76,7 +84,7 @@ ObjectContext& StoreStack::managedObjectContext()
             });
         });
     }
-    return *m_context;
+    return {};
 }
 
 void StoreStack::saveContext()

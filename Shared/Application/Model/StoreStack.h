@@ -22,14 +22,16 @@ public:
     static ManagedObjectModel managedObjectModel();
     /// Opens "Lodestar.sqlite" on first use.
     ObjectContext& managedObjectContext();
+    /// The first use for a program that says itself why the store cannot be opened: a failure does not end the process.
+    Result<void> open();
     /// Saves the context if it exists and has changes.
     void saveContext();
     /// Closes the store and forgets the context, so that the next use opens it anew. For tests and the reset.
     void close();
 
 private:
-    /// Opens or creates "Lodestar.sqlite", or ends the process.
-    std::unique_ptr<ObjectContext> persistentStoreCoordinator() const;
+    /// Opens or creates "Lodestar.sqlite".
+    Result<std::unique_ptr<ObjectContext>> persistentStoreCoordinator() const;
 
     std::string m_documentsDirectory;
     std::unique_ptr<ObjectContext> m_context;
