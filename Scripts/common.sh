@@ -25,6 +25,10 @@ install_packages() {
     # shellcheck disable=SC2086
     DEBIAN_FRONTEND=noninteractive "${as_root[@]}" apt-get install -y -qq --no-install-recommends $missing >/dev/null ||
         die "these packages could not be installed: $(printf '%s ' $missing)"
+    # The tests start a Prometheus of their own; the system's need not listen on the machine because of them.
+    if grep -qx prometheus <<<"$missing" && [ -d /run/systemd/system ]; then
+        "${as_root[@]}" systemctl disable --now --quiet prometheus || say "the service prometheus could not be stopped"
+    fi
 }
 
 # configure PRESET [ARGUMENT...]

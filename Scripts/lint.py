@@ -23,6 +23,7 @@ BELOW = {
     "Inventory": PLATFORM | {"Feedback", "Application/Model", "XML"},
     "Controllers/REST": PLATFORM | {"Feedback", "Application/Model", "XML", "Inventory"},
     "Fleet": PLATFORM | {"Feedback", "Application/Model", "XML", "Inventory", "Controllers/REST"},
+    "CommandLine": PLATFORM | {"Feedback", "Application/Model", "XML", "Inventory", "Controllers/REST", "Fleet"},
     "Views/About/RichText": set(),
     "Kit": PLATFORM | {"Feedback"},
     "Feedback/UI": PLATFORM | {"Feedback", "Kit"},
@@ -31,7 +32,7 @@ BELOW = {
     "Application": PLATFORM | {"Feedback", "Application/Model", "XML", "Inventory", "Controllers/REST", "Fleet", "Kit", "Feedback/UI", "Charts", "Views"},
 }
 # Every module whose files must compile without Qt.
-QT_FREE = {"Platform", "Feedback", "Application/Model", "XML", "Inventory", "Controllers/REST", "Fleet", "Views/About/RichText"}
+QT_FREE = {"Platform", "Feedback", "Application/Model", "XML", "Inventory", "Controllers/REST", "Fleet", "CommandLine", "Views/About/RichText"}
 
 TEXT_ENDINGS = {".h", ".cpp", ".qml", ".cmake", ".txt", ".py", ".sh", ".md", ".json", ""}
 LICENSED_ENDINGS = {".h", ".cpp", ".qml", ".cmake", ".py", ".sh"}

@@ -1,0 +1,54 @@
+# SPDX-License-Identifier: Apache-2.0
+# Completion of lodestar-cli for bash.
+_lodestar_cli() {
+    local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command= second= each
+    local index=1
+    while [ "$index" -lt "$COMP_CWORD" ]; do
+        each=${COMP_WORDS[index]}
+        case $each in
+        --console | --data | --every | --listen | --name | --openmetrics | --order | --password-fd | --system | --times | --user) index=$((index + 1)) ;;
+        -*) ;;
+        *) if [ -z "$command" ]; then command=$each; elif [ -z "$second" ]; then second=$each; fi ;;
+        esac
+        index=$((index + 1))
+    done
+    COMPREPLY=()
+    case $before in
+    --order)
+        COMPREPLY=($(compgen -W "sent newest status code" -- "$word"))
+        return
+        ;;
+    --data)
+        COMPREPLY=($(compgen -d -- "$word"))
+        return
+        ;;
+    --openmetrics)
+        COMPREPLY=($(compgen -f -- "$word"))
+        return
+        ;;
+    --console | --every | --listen | --name | --password-fd | --system | --times | --user) return ;;
+    esac
+    if [[ $word == -* ]]; then
+        local options="--console --json --csv --data --help --version"
+        case "$command $second" in
+        "list "*) options+=" --all" ;;
+        "events "*) options+=" --open --call-home --order" ;;
+        "metrics "*) options+=" --memory" ;;
+        "watch "*) options+=" --every --times" ;;
+        "export "*) options+=" --openmetrics --listen --every --system" ;;
+        "consoles add") options+=" --user --name --password-fd" ;;
+        "consoles import") options+=" --password-fd --all-or-none" ;;
+        esac
+        COMPREPLY=($(compgen -W "$options" -- "$word"))
+        return
+    fi
+    case "$command $second" in
+    " ") COMPREPLY=($(compgen -W "status attention list show events metrics watch export consoles" -- "$word")) ;;
+    "list " | "show ")
+        COMPREPLY=($(compgen -W "consoles systems io-servers partitions events groups" -- "$word"))
+        ;;
+    "consoles ") COMPREPLY=($(compgen -W "list add remove import export" -- "$word")) ;;
+    "consoles import" | "consoles export") COMPREPLY=($(compgen -f -- "$word")) ;;
+    esac
+}
+complete -F _lodestar_cli lodestar-cli

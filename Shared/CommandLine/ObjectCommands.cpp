@@ -1,0 +1,133 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CommandLine/Commands.h"
+#include "CommandLine/Failure.h"
+#include "CommandLine/Json.h"
+#include "CommandLine/ObjectKind.h"
+#include "CommandLine/Words.h"
+#include "Fleet/EventTable.h"
+#include "Fleet/FleetEvents.h"
+
+#include <algorithm>
+#include <array>
+#include <nlohmann/json.hpp>
+#include <vector>
+
+namespace lodestar
+{
+namespace
+{
+
+Result<Verdict> say(CommandContext& context, std::string_view command, const FleetPicture& picture, const Table& table,
+                    const std::vector<std::string_view>& usualTitles, std::string_view type)
+{
+    const Terminal& terminal = context.output.terminal();
+    if (context.arguments.has("--json")) {
+        Json::Value answer = Json::answer(command, picture);
+        answer["type"] = type;
+        answer["objects"] = Json::rows(table);
+        context.output.write(Json::document(answer));
+    } else if (context.arguments.has("--csv")) {
+        context.output.writeCsv(table);
+    } else {
+        const bool all = context.arguments.has("--all");
+        context.output.write(tableText(all ? table : columnsOf(table, usualTitles), terminal, &inkOfState));
+    }
+    complainOfGaps(picture);
+    return picture.hasAll(type) ? Verdict::Good : Verdict::Unknown;
+}
+
+struct OrderName {
+    std::string_view name;
+    EventOrder order;
+};
+constexpr std::array orders = {OrderName{"sent", EventOrder::AsSent}, OrderName{"newest", EventOrder::NewestFirst},
+                               OrderName{"status", EventOrder::ByStatus},
+                               OrderName{"code", EventOrder::ByReferenceCode}};
+
+Result<EventChoice> choiceOf(const Arguments& arguments)
+{
+    EventChoice choice;
+    const std::string name = arguments.value("--order").value_or("newest");
+    const auto* const order = std::ranges::find(orders, name, &OrderName::name);
+    if (order == orders.end()) {
+        return misuse("--order takes sent, newest, status or code, not " + name + ".");
+    }
+    choice.order = order->order;
+    choice.openOnly = arguments.has("--open");
+    choice.callHomeOnly = arguments.has("--call-home");
+    return choice;
+}
+
+} // namespace
+
+Result<Verdict> listObjects(CommandContext& context)
+{
+    const ObjectKind* const kind = objectKindOf(context.arguments.operands[0]);
+    if (kind == nullptr) {
+        return misuse(noSuchKind(context.arguments.operands[0]));
+    }
+    const Result<FleetPicture> picture = readFleet(context);
+    if (!picture) {
+        return picture.error();
+    }
+    return say(context, "list", picture.value(), tableOf(*kind, picture.value().consoles), kind->usualTitles,
+               kind->type);
+}
+
+Result<Verdict> showObject(CommandContext& context)
+{
+    const ObjectKind* const kind = objectKindOf(context.arguments.operands[0]);
+    if (kind == nullptr) {
+        return misuse(noSuchKind(context.arguments.operands[0]));
+    }
+    const Result<FleetPicture> picture = readFleet(context);
+    if (!picture) {
+        return picture.error();
+    }
+    const Table table = tableOf(*kind, picture.value().consoles);
+    const std::vector<std::size_t> found = rowsCalled(*kind, table, context.arguments.operands[1]);
+    if (found.empty()) {
+        complainOfGaps(picture.value());
+        return failure("Nothing of that kind is called " + context.arguments.operands[1] + ".");
+    }
+    Table chosen{table.titles, {}};
+    for (const std::size_t row : found) {
+        chosen.rows.push_back(table.rows[row]);
+    }
+    if (context.arguments.has("--json")) {
+        Json::Value answer = Json::answer("show", picture.value());
+        answer["type"] = kind->type;
+        answer["objects"] = Json::rows(chosen);
+        context.output.write(Json::document(answer));
+    } else if (context.arguments.has("--csv")) {
+        context.output.writeCsv(chosen);
+    } else {
+        std::string text;
+        for (const auto& row : chosen.rows) {
+            text += (text.empty() ? "" : "\n") + recordText(chosen.titles, row, context.output.terminal(), &inkOfState);
+        }
+        context.output.write(text);
+    }
+    return Verdict::Good;
+}
+
+Result<Verdict> listEvents(CommandContext& context)
+{
+    const Result<EventChoice> choice = choiceOf(context.arguments);
+    if (!choice) {
+        return choice.error();
+    }
+    const Result<FleetPicture> picture = readFleet(context);
+    if (!picture) {
+        return picture.error();
+    }
+    const std::vector<FleetEvent> events = eventsOf(picture.value().consoles);
+    std::vector<std::uint32_t> shown;
+    for (const EventGroup& group : groupedEvents(events, choice.value())) {
+        shown.insert(shown.end(), group.events.begin(), group.events.end());
+    }
+    return say(context, "events", picture.value(), tableOfEvents(events, shown), objectKindOf("events")->usualTitles,
+               ObjectType::ServiceableEvent);
+}
+
+} // namespace lodestar

@@ -1,0 +1,140 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CommandLine/Session.h"
+
+#include "Application/Model/DataFolder.h"
+#include "Application/Model/FileUserDefaults.h"
+#include "Application/Model/Setting.h"
+#include "Application/Model/StoreStack.h"
+#include "CommandLine/BundledResources.h"
+#include "CommandLine/Failure.h"
+#include "Controllers/REST/RESTHandler.h"
+#include "Feedback/LogWriter.h"
+#include "Feedback/VireoLogger.h"
+#include "Fleet/History.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <filesystem>
+#include <system_error>
+
+namespace lodestar
+{
+namespace
+{
+
+std::optional<Error> objectionTo(FolderClaim claim, const std::string& folder)
+{
+    switch (claim) {
+    case FolderClaim::Ours:
+        return std::nullopt;
+    case FolderClaim::Taken:
+        return failure("Lodestar is open, or another command is at work, in " + folder +
+                       ". Close it, or name another folder with --data.");
+    case FolderClaim::Foreign:
+        return failure("Lodestar keeps nothing in a folder of another user: " + folder);
+    case FolderClaim::NoLock:
+        break;
+    }
+    return failure("Lodestar cannot lock its folder: Lodestar.lock in " + folder + " is no file of yours.");
+}
+
+/// The error with its causes, in words for a person.
+std::string causesOf(const Error& error)
+{
+    std::string text = shownDescription(error);
+    for (const Error* cause = error.underlying.get(); cause != nullptr; cause = cause->underlying.get()) {
+        text += " " + shownDescription(*cause);
+    }
+    return text;
+}
+
+/// The store needs room even for reading, and says of a full disk only that it failed.
+bool isDiskFull(const std::string& folder)
+{
+    constexpr std::uintmax_t needed = std::uintmax_t{64} << 10;
+    std::error_code error;
+    const std::filesystem::space_info space = std::filesystem::space(folder, error);
+    return !error && space.available < needed;
+}
+
+} // namespace
+
+Result<std::unique_ptr<Session>> Session::open(const std::string& asked)
+{
+    const std::string folder = asked.empty() ? DataFolder::standard() : std::filesystem::absolute(asked).string();
+    if (folder.empty()) {
+        return failure("There is no home folder. Name a data folder with --data.");
+    }
+    if (const Result<void> made = makePrivateFolder(folder); !made) {
+        return failure("There is no data folder. " + causesOf(made.error()));
+    }
+    if (auto objection = objectionTo(DataFolder::claim(folder), folder)) {
+        return *std::move(objection);
+    }
+    LogWriter::shared().mayCopyToStandardError = false;
+    VireoLogger::openLogFolder(DataFolder::logs(folder));
+    UserDefaults::install(std::make_unique<FileUserDefaults>(DataFolder::defaults(folder)));
+    if (UserDefaults::standard().boolForKey(Setting::resetUnderWay)) {
+        return failure("A reset of Lodestar was cut short. Open Lodestar once to finish it.");
+    }
+    Resources::install(std::make_unique<BundledResources>());
+    StoreStack::shared().setApplicationDocumentsDirectory(DataFolder::documents(folder));
+    if (const Result<void> opened = StoreStack::shared().open(); !opened) {
+        return failure("The consoles in " + folder + " cannot be read. " +
+                       (isDiskFull(folder) ? "The disk is full." : causesOf(opened.error())));
+    }
+    std::unique_ptr<Session> session(new Session);
+    openHistory(DataFolder::documents(folder));
+    if (const Result<void> known = session->awaitHistory(); !known) {
+        return known.error();
+    }
+    return session;
+}
+
+Session::~Session()
+{
+    History::shared().close();
+    UserDefaults::standard().synchronize();
+    StoreStack::shared().close();
+    VireoLogger::flush();
+}
+
+Result<std::vector<CorvelRef>> Session::consoles(const std::vector<std::string>& named) const
+{
+    const std::vector<CorvelRef>& all = RESTHandler::sharedInstance().corvelList();
+    const auto isCalled = [](const CorvelRef& corvel, const std::string& name) {
+        return corvel->name() == name || corvel->address() == name;
+    };
+    for (const std::string& name : named) {
+        if (std::ranges::none_of(all, [&](const CorvelRef& corvel) { return isCalled(corvel, name); })) {
+            return failure("No console is called " + name + ".");
+        }
+    }
+    std::vector<CorvelRef> chosen = all;
+    std::erase_if(chosen, [&](const CorvelRef& corvel) {
+        return !named.empty() &&
+               std::ranges::none_of(named, [&](const std::string& name) { return isCalled(corvel, name); });
+    });
+    return chosen;
+}
+
+Result<void> Session::awaitHistory()
+{
+    const auto isKnown = std::make_shared<bool>(false);
+    History::shared().whenWritten([isKnown] { *isKnown = true; });
+    return m_loop.runUntil([isKnown] { return *isKnown; }) == Loop::End::Met ? Result<void>() : interrupted();
+}
+
+Result<void> Session::save()
+{
+    const Result<void> saved = StoreStack::shared().managedObjectContext().save();
+    return saved ? Result<void>() : failure("Nothing was stored. " + causesOf(saved.error()));
+}
+
+std::string calledName(const Corvel& corvel)
+{
+    const std::string name = corvel.name().value_or("");
+    return name.empty() ? corvel.address().value_or("") : name;
+}
+
+} // namespace lodestar

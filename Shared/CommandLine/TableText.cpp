@@ -1,0 +1,214 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "CommandLine/TableText.h"
+
+#include "CommandLine/PlainText.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <numeric>
+
+namespace lodestar
+{
+namespace
+{
+
+using Cells = std::vector<std::string>;
+constexpr std::size_t gap = 2;           ///< between columns
+constexpr std::size_t narrowest = 8;     ///< a column of fewer tells nothing
+constexpr std::size_t anything = 10'000; ///< columns of a "line" that nothing limits
+
+std::size_t lineOf(const Terminal& terminal)
+{
+    return terminal.width > 0 ? terminal.width : anything;
+}
+
+/// Titles are words joined by underscores, for scripts.
+std::string titleText(std::string_view title)
+{
+    std::string text(title);
+    std::ranges::replace(text, '_', ' ');
+    return text;
+}
+
+Cells plainRow(const Cells& row, std::size_t count)
+{
+    Cells cells;
+    for (std::size_t i = 0; i < count; ++i) {
+        cells.push_back(i < row.size() ? plainText(row[i]) : std::string());
+    }
+    return cells;
+}
+
+Table withoutEmptyColumns(const Table& table)
+{
+    std::vector<std::string_view> titles;
+    for (std::size_t i = 0; i < table.titles.size(); ++i) {
+        if (std::ranges::any_of(table.rows, [i](const Cells& row) { return i < row.size() && !row[i].empty(); })) {
+            titles.emplace_back(table.titles[i]);
+        }
+    }
+    Table shown = columnsOf(table, titles);
+    for (Cells& row : shown.rows) {
+        row = plainRow(row, shown.titles.size());
+    }
+    return shown;
+}
+
+std::size_t totalOf(const std::vector<std::size_t>& widths)
+{
+    return std::accumulate(widths.begin(), widths.end(), gap * (widths.size() - 1));
+}
+
+/// How wide each column is; empty when the line has no room for them side by side.
+std::vector<std::size_t> widthsOf(const Table& table, std::size_t line)
+{
+    std::vector<std::size_t> widths;
+    for (std::size_t i = 0; i < table.titles.size(); ++i) {
+        std::size_t width = columnsOf(table.titles[i]);
+        for (const Cells& row : table.rows) {
+            width = std::max(width, columnsOf(row[i]));
+        }
+        widths.push_back(width);
+    }
+    while (totalOf(widths) > line) {
+        const auto widest = std::ranges::max_element(widths);
+        if (*widest <= narrowest) {
+            return {};
+        }
+        --*widest;
+    }
+    return widths;
+}
+
+bool isNumber(std::string_view text)
+{
+    return text.find_first_not_of("0123456789.") == std::string_view::npos;
+}
+
+class SideBySide
+{
+public:
+    SideBySide(const Table& table, std::vector<std::size_t> widths, const Terminal& terminal)
+        : m_table(table), m_widths(std::move(widths)), m_terminal(terminal)
+    {
+        for (std::size_t i = 0; i < table.titles.size(); ++i) {
+            m_isNumbers.push_back(std::ranges::all_of(table.rows, [i](const Cells& row) { return isNumber(row[i]); }));
+        }
+    }
+
+    std::string line(const Cells& cells, InkOf inkOf) const
+    {
+        std::string text;
+        std::size_t owed = 0; // blanks, which no line ends with
+        for (std::size_t i = 0; i < cells.size(); ++i) {
+            const std::string cell = cutTo(cells[i], m_widths[i]);
+            const std::size_t blanks = m_widths[i] - std::min(m_widths[i], columnsOf(cell));
+            owed += m_isNumbers[i] ? blanks : 0;
+            if (!cell.empty()) {
+                text.append(owed, ' ');
+                text += m_terminal.inked(cell, inkOf != nullptr ? inkOf(m_table.titles[i], cells[i]) : Ink::None);
+                owed = 0;
+            }
+            owed += gap + (m_isNumbers[i] ? 0 : blanks);
+        }
+        return text + "\n";
+    }
+
+private:
+    const Table& m_table;
+    const std::vector<std::size_t> m_widths;
+    const Terminal& m_terminal;
+    std::vector<bool> m_isNumbers;
+};
+
+} // namespace
+
+std::string tableText(const Table& table, const Terminal& terminal, InkOf inkOf)
+{
+    const Table shown = withoutEmptyColumns(table);
+    if (shown.rows.empty() || shown.titles.empty()) {
+        return {};
+    }
+    Table titled = shown;
+    std::ranges::transform(titled.titles, titled.titles.begin(), titleText);
+    std::vector<std::size_t> widths = widthsOf(titled, lineOf(terminal));
+    std::string text;
+    if (widths.empty()) {
+        for (const Cells& row : shown.rows) {
+            text.append(text.empty() ? "" : "\n").append(recordText(shown.titles, row, terminal, inkOf));
+        }
+        return text;
+    }
+    const SideBySide lines(shown, std::move(widths), terminal);
+    text = lines.line(titled.titles, nullptr);
+    for (const Cells& row : shown.rows) {
+        text += lines.line(row, inkOf);
+    }
+    return text;
+}
+
+std::string recordText(const Cells& titles, const Cells& cells, const Terminal& terminal, InkOf inkOf)
+{
+    const Cells plain = plainRow(cells, titles.size());
+    std::size_t label = 0;
+    for (std::size_t i = 0; i < titles.size(); ++i) {
+        label = std::max(label, plain[i].empty() ? 0 : titles[i].size());
+    }
+    const std::size_t line = lineOf(terminal);
+    // Where label and value do not fit beside each other, the value stands below its label.
+    const bool isBeside = label + gap + 2 * narrowest <= line;
+    const std::size_t indent = isBeside ? label + gap : 1;
+    std::string text;
+    for (std::size_t i = 0; i < titles.size(); ++i) {
+        if (plain[i].empty()) {
+            continue;
+        }
+        std::string lead = cutTo(titleText(titles[i]), line);
+        lead.append(isBeside ? indent - lead.size() : 0, ' ');
+        if (!isBeside) {
+            text += lead + "\n";
+            lead = " ";
+        }
+        for (const std::string& part : wrapped(plain[i], std::max<std::size_t>(line - indent, 1))) {
+            text += lead + terminal.inked(part, inkOf != nullptr ? inkOf(titles[i], cells[i]) : Ink::None) + "\n";
+            lead.assign(indent, ' ');
+        }
+    }
+    return text;
+}
+
+std::string sentenceText(std::string_view sentence, const Terminal& terminal)
+{
+    std::string text;
+    for (const std::string& line : wrapped(plainText(sentence), lineOf(terminal))) {
+        text += line + "\n";
+    }
+    return text;
+}
+
+Table columnsOf(const Table& table, const std::vector<std::string_view>& titles)
+{
+    std::vector<std::size_t> places;
+    Table chosen;
+    for (const std::string_view title : titles) {
+        if (const auto found = std::ranges::find(table.titles, title); found != table.titles.end()) {
+            places.push_back(static_cast<std::size_t>(found - table.titles.begin()));
+            chosen.titles.emplace_back(title);
+        }
+    }
+    for (const Cells& row : table.rows) {
+        Cells& cells = chosen.rows.emplace_back();
+        for (const std::size_t place : places) {
+            cells.push_back(place < row.size() ? row[place] : std::string());
+        }
+    }
+    return chosen;
+}
+
+std::string_view cellOf(const Table& table, const Cells& row, std::string_view title)
+{
+    const auto place = static_cast<std::size_t>(std::ranges::find(table.titles, title) - table.titles.begin());
+    return place < row.size() ? std::string_view(row[place]) : std::string_view();
+}
+
+} // namespace lodestar

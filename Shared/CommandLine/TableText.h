@@ -1,0 +1,31 @@
+// SPDX-License-Identifier: Apache-2.0
+#pragma once
+
+#include "CommandLine/Terminal.h"
+#include "Fleet/Csv.h"
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace lodestar
+{
+
+/// How a cell is inked, by its column's title and its text.
+using InkOf = Ink (*)(std::string_view title, std::string_view cell);
+
+/// The table for a person: columns side by side, cut where the terminal is narrow; one below the other, whole, where it
+/// is too narrow for that. Every cell is plain text. Empty columns are left out.
+std::string tableText(const Table& table, const Terminal& terminal, InkOf inkOf = nullptr);
+/// One object: a line a field, without empty ones.
+std::string recordText(const std::vector<std::string>& titles, const std::vector<std::string>& cells,
+                       const Terminal& terminal, InkOf inkOf = nullptr);
+/// A sentence in the terminal's width, with its line end.
+std::string sentenceText(std::string_view sentence, const Terminal& terminal);
+
+/// The columns with these titles, in their order; titles that the table lacks are left out.
+Table columnsOf(const Table& table, const std::vector<std::string_view>& titles);
+/// The row's cell below the title; empty when there is none.
+std::string_view cellOf(const Table& table, const std::vector<std::string>& row, std::string_view title);
+
+} // namespace lodestar
