@@ -1,0 +1,16 @@
+// SPDX-License-Identifier: Apache-2.0
+import QtQuick
+import Lodestar.Kit
+import Lodestar.Views
+
+/// Opens Find over a tab's first screen.
+IconButton {
+    id: button
+
+    required property ViewController screen
+
+    objectName: "findButton"
+    iconName: "search"
+    text: qsTr("Find anywhere")
+    onClicked: FindOpener.openOver(button.screen)
+}
