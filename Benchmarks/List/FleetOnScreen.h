@@ -21,8 +21,9 @@ public:
     explicit FleetOnScreen(const simulator::Settings& settings);
 
     simulator::SimulatorProcess& simulator() { return m_simulator; }
+    void openList() { m_stage.tabs().setSelectedIndex(0); }
     void openDashboard() { m_stage.tabs().setSelectedIndex(1); }
-    void closeDashboard() { m_stage.tabs().setSelectedIndex(0); }
+    void openAttention() { m_stage.tabs().setSelectedIndex(2); }
     /// Pulls the list to refresh it and waits until every console has settled. Throws after ten minutes.
     Refresh refresh();
 
