@@ -20,10 +20,16 @@
 #include "Views/Dashboard/CorvelOverviewTableViewController.h"
 #include "Views/Dashboard/DashboardTableViewController.h"
 #include "Views/Dashboard/MSOverViewController.h"
+#include "Views/Find/FindViewController.h"
+#include "Views/FleetSheet/FleetChooseViewController.h"
+#include "Views/FleetSheet/FleetSheetViewController.h"
+#include "Views/FleetSheet/FleetUnusableViewController.h"
+#include "Views/FleetSheet/FleetVerifyViewController.h"
 #include "Views/LogicalPartitions/LPDetailViewController.h"
 #include "Views/LogicalPartitions/LPListViewController.h"
 #include "Views/ManagedSystems/MSDetailViewController.h"
 #include "Views/ManagedSystems/MSListViewController.h"
+#include "Views/ManagedSystems/PCM/LargeChartViewController.h"
 #include "Views/ManagedSystems/PCM/PCMViewController.h"
 #include "Views/ManagementConsole/MCViewController.h"
 #include "Views/ResourceGroups/RGListViewController.h"
@@ -100,11 +106,38 @@ void give(MSOverViewController& screen, SystemMenuInput input)
     screen.setSystem(std::move(input.system));
 }
 
+void give(FindViewController& screen, const FindInput& input)
+{
+    screen.look(input.text);
+}
+
 void give(PCMViewController& screen, PerformanceInput input)
 {
     screen.setCorvel(std::move(input.corvel));
     screen.setSysName(std::move(input.sysName));
     screen.setSystemID(std::move(input.systemID));
+}
+
+void give(LargeChartViewController& screen, LargeChartInput input)
+{
+    screen.setSysName(std::move(input.sysName));
+    screen.setMetrics(std::move(input.metrics));
+    screen.setSegment(input.segment);
+}
+
+void give(FleetChooseViewController& screen, FleetFileInput input)
+{
+    screen.setFile(std::move(input));
+}
+
+void give(FleetUnusableViewController& screen, std::shared_ptr<const FleetSheet> input)
+{
+    screen.setSheet(std::move(input));
+}
+
+void give(FleetVerifyViewController& screen, std::shared_ptr<FleetImport> input)
+{
+    screen.setImport(std::move(input));
 }
 
 template <typename Controller, typename Input>
@@ -141,6 +174,7 @@ void registerMainStoryboard(LoginViewController::RootSwitch showRoot)
     add<MSDetailViewController>(Scenes::managedSystemInfo, viewsScene("DetailScene.qml"));
     add<MSOverViewController>(Scenes::managedSystemMenu, viewsScene("MSOverScene.qml"));
     add<PCMViewController>(Scenes::pcmDataView, viewsScene("PCMScene.qml"));
+    add<LargeChartViewController>(Scenes::largeChartView, viewsScene("LargeChartScene.qml"));
     add<MCViewController>(Scenes::managementConsoleView, viewsScene("MCScene.qml"));
     add<LPListViewController>(Scenes::logicalPartitionsView, viewsScene("GroupedListScene.qml"));
     add<LPDetailViewController>(Scenes::logicalPartitionsDetail, viewsScene("DetailScene.qml"));
@@ -152,8 +186,13 @@ void registerMainStoryboard(LoginViewController::RootSwitch showRoot)
     add<VersionViewController>(Scenes::versionViewController, viewsScene("RichDocumentScene.qml"));
     add<OpenSourceViewController>(Scenes::openSourceViewController, viewsScene("OpenSourceScene.qml"));
     add<AttentionViewController>(Scenes::attentionView, viewsScene("AttentionScene.qml"));
+    add<FindViewController>(Scenes::findView, viewsScene("FindScene.qml"));
     add<WatchViewController>(Scenes::watchView, viewsScene("WatchScene.qml"));
     add<WatchConsolesViewController>(Scenes::watchConsolesView, viewsScene("WatchConsolesScene.qml"));
+    add<FleetSheetViewController>(Scenes::fleetSheetView, viewsScene("FleetSheetScene.qml"));
+    add<FleetChooseViewController>(Scenes::fleetChooseView, viewsScene("FleetChooseScene.qml"));
+    add<FleetUnusableViewController>(Scenes::fleetUnusableView, viewsScene("FleetUnusableScene.qml"));
+    add<FleetVerifyViewController>(Scenes::fleetVerifyView, viewsScene("FleetVerifyScene.qml"));
     add<OrnisLicenseViewController>(Scenes::OrnisLicenseViewController, viewsScene("RichDocumentScene.qml"));
 }
 

@@ -5,6 +5,7 @@
 #include "Platform/NotificationCenter.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Application/LockedWindowFixture.h"
+#include "Views/Find/FindViewController.h"
 
 #include <QScopedValueRollback>
 #include <QScreen>
@@ -105,6 +106,37 @@ TEST_F(LockedWindowTest, FieldsAreSeenOverAKeyboardOnAPhoneThatIsHeldAcross)
         const double noteTop = window().activeFocusItem()->mapToScene({0, 0}).y();
         return noteTop >= 40 && noteTop <= top - 60;
     }));
+}
+
+TEST_F(LockedWindowTest, FindOpensFromAnywhereButNotBehindTheLock)
+{
+    open(true);
+    press(Qt::Key_K, Qt::ControlModifier);
+    ASSERT_NE(login(), nullptr);
+    unlock();
+    settle(300);
+    const NavigationController& stack = *list().navigationController();
+    ASSERT_EQ(stack.depth(), 1);
+    list().addCorvel();
+    settle(300);
+    press(Qt::Key_K, Qt::ControlModifier);
+    EXPECT_EQ(stack.depth(), 1) << "a sheet is up";
+    list().dismissSemiModalView();
+    settle(300);
+
+    list().openSettings();
+    settle(300);
+    press(Qt::Key_K, Qt::ControlModifier);
+    settle(400);
+    auto* const find = qobject_cast<FindViewController*>(stack.topViewController());
+    ASSERT_NE(find, nullptr);
+    type(QStringLiteral("ab"));
+    EXPECT_EQ(find->searchBar()->text(), QStringLiteral("ab"));
+    press(Qt::Key_K, Qt::ControlModifier);
+    EXPECT_EQ(stack.topViewController(), find) << "is there already";
+    press(Qt::Key_Escape);
+    settle(300);
+    EXPECT_EQ(stack.depth(), 2);
 }
 
 TEST_F(LockedWindowTest, ComesBackWhereItStoodAndWithTheButtonThatItsDeviceNeeds)

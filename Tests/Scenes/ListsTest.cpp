@@ -2,6 +2,7 @@
 #include "Fleet/Registry.h"
 #include "Inventory/ResourceGroup.h"
 #include "Kit/Core/CellHost.h"
+#include "Kit/Core/FileSaver.h"
 #include "Platform/URLLoading/ServerTrust.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tests/Scenes/SceneTest.h"
@@ -75,6 +76,34 @@ TEST_F(ListsTest, SearchByKeyboardMarksWhatItFinds)
     EXPECT_TRUE(waitForText("helios-01"));
     press(Qt::Key_Escape);
     EXPECT_TRUE(stage.waitFor([&] { return top() == &stage.list(); }));
+}
+
+TEST_F(ListsTest, ItsRowsAreSavedByKeyAndFromTheBarWhileThereAreAny)
+{
+    QStringList names;
+    FileSaver::answerWith([&names](const QString& name) {
+        names << name;
+        return QString();
+    });
+    MSListViewController* const list = openSystems();
+    press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(names.join('/').toStdString(), "Managed Systems, Harbour B.csv") << "once, of the list that is seen";
+    list->showSearchBar();
+    type("LED");
+    press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(names.size(), 2);
+    list->searchBar()->cancel();
+    click(button("Save list as CSV"));
+    ASSERT_TRUE(waitForButton("Save as File"));
+    stage.settle(400);
+    click(button("Save as File"));
+    EXPECT_TRUE(stage.waitFor([&] { return names.size() == 3; }));
+
+    openSystems({{"ManagedSystem", "<feed/>"}});
+    press(Qt::Key_S, Qt::ControlModifier);
+    EXPECT_EQ(names.size(), 3);
+    EXPECT_EQ(button("Save list as CSV"), nullptr);
+    FileSaver::answerWith({});
 }
 
 TEST_F(ListsTest, TheThreeLooksShowNothingOfEachOther)

@@ -259,6 +259,8 @@ TEST_F(ReaderTest, EverySceneReadsFromItsTitleDownNamesEveryControlAndIsTranslat
     const PseudoLanguage language;
     // Unit, mark and placeholder are the same in every language; the month stands in a date.
     QString sent = "MB (null) demo placeholder Mar ";
+    sent += "name,address,user oversight Millpond monitor fleet.csv "; // an example and a file
+    sent += AnyInput::sheet;
     for (const FeedKind& kind : feedTable) {
         sent += QString::fromStdString(feedOfType(*demoConsole(), kind.type).root().text().value());
     }

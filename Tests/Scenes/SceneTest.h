@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Fleet/FleetSheet.h"
+#include "Inventory/Metrics/MetricsTimeline.h"
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/NavigationController.h"
 #include "Tools/Stage/SceneStage.h"
@@ -30,6 +32,7 @@ public:
 
 /// What any scene can be opened with.
 struct AnyInput {
+    static constexpr const char* sheet = "name,address,user,rack\nHarbour,a.example,ops,1\nNone,,ops,2\n";
     CorvelRef corvel;
     XMLElement root;
 
@@ -40,6 +43,23 @@ struct AnyInput {
     operator SystemMenuInput() const { return {corvel, root}; }
     operator PartitionsInput() const { return {corvel, {}}; }
     operator PerformanceInput() const { return {corvel, "helios-01", "any"}; }
+    operator FleetFileInput() const
+    {
+        return {QStringLiteral("fleet.csv"), std::make_shared<const Result<QByteArray>>(QByteArray(sheet))};
+    }
+    operator std::shared_ptr<const FleetSheet>() const
+    {
+        return std::make_shared<const FleetSheet>(readFleetSheet(sheet, {}).value());
+    }
+    operator std::shared_ptr<FleetImport>() const
+    {
+        return std::make_shared<FleetImport>(FleetSheet(), std::map<std::string, std::string>());
+    }
+    operator FindInput() const { return {QStringLiteral("1")}; }
+    operator LargeChartInput() const
+    {
+        return {"helios-01", std::make_shared<const PerformanceMetrics>(), MetricsSegment::Processors};
+    }
 };
 
 struct AnyScene {
@@ -59,12 +79,13 @@ inline std::vector<AnyScene> everyScene(const CorvelRef& corvel)
     };
     return each(Scenes::corvelListView, Scenes::deltaCorvel, Scenes::dashboardView, Scenes::connectionView,
                 Scenes::corvelTasksViewController, Scenes::managedSystemsView, Scenes::managedSystemInfo,
-                Scenes::managedSystemMenu, Scenes::pcmDataView, Scenes::managementConsoleView,
+                Scenes::managedSystemMenu, Scenes::pcmDataView, Scenes::largeChartView, Scenes::managementConsoleView,
                 Scenes::logicalPartitionsView, Scenes::logicalPartitionsDetail, Scenes::viosView, Scenes::viosDetail,
                 Scenes::resourceGroupsView, Scenes::serviceableEventsView, Scenes::serviceableEventsDetail,
                 Scenes::versionViewController, Scenes::openSourceViewController, Scenes::OrnisLicenseViewController,
                 Scenes::settingsViewController, Scenes::passwordCreation, Scenes::attentionView, Scenes::watchView,
-                Scenes::watchConsolesView);
+                Scenes::watchConsolesView, Scenes::findView, Scenes::fleetSheetView, Scenes::fleetChooseView,
+                Scenes::fleetUnusableView, Scenes::fleetVerifyView);
 }
 
 /// A stage, and hands to work it with. No test may leave a QML warning behind.

@@ -18,6 +18,8 @@ struct Look {
     std::function<void(SceneStage&)> prepare;
     /// Whether the screen is also drawn wide, dark, in large text and mirrored.
     bool isMain = false;
+    /// Whether the screen is also drawn on a phone that lies, as above.
+    bool lies = false;
 };
 
 /// A simulated console with the demonstration's name, which is logged on and has fetched no feeds yet. No list holds
@@ -42,9 +44,16 @@ std::vector<Look> performanceLooks();
 
 /// The tab Attention with its three segments and its sheets, and the watch.
 std::vector<Look> attentionLooks();
+/// Find, with and without a text.
+std::vector<Look> findLooks();
 /// The connections of consoles, and the marks that tell how old and how complete other screens are.
 std::vector<Look> connectionLooks();
 
+/// What is copied, and the service report.
+std::vector<Look> copyLooks();
+
+/// The first run, and fleet sheets from the file to the results.
+std::vector<Look> fleetSheetLooks();
 /// The passcode screen, the settings and the passcode sheet.
 std::vector<Look> lockLooks();
 

@@ -3,7 +3,11 @@
 #include "Inventory/ManagedSystem.h"
 #include "Simulator/SimulatorProcess.h"
 #include "Tools/Screenshots/Looks.h"
+#include "Views/ManagedSystems/PCM/LargeChartViewController.h"
 #include "Views/ManagedSystems/PCM/PCMViewController.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
 
 namespace lodestar::scenes
 {
@@ -34,6 +38,21 @@ void showMemory(SceneStage& stage)
     waitForChart(stage, performance);
 }
 
+LargeChartViewController& openLargeChart(SceneStage& stage)
+{
+    PCMViewController& performance = openPerformance(stage, demoConsole());
+    stage.waitFor([&] { return !performance.chartView()->isHidden(); });
+    performance.openLargeChart();
+    stage.settle();
+    return *qobject_cast<LargeChartViewController*>(stage.list().navigationController()->topViewController());
+}
+
+void read(LargeChartViewController& chart, double share)
+{
+    const PlotInterval whole = chart.chartView()->model().wholeX();
+    chart.chartView()->setReadIndex(whole.from + share * whole.length());
+}
+
 /// Shows the metrics of a simulated console that has the fault.
 void showSimulated(SceneStage& stage, const char* fault)
 {
@@ -62,6 +81,23 @@ std::vector<Look> performanceLooks()
          true},
         {"performance-processors", fleet(),
          [](SceneStage& stage) { waitForChart(stage, openPerformance(stage, demoConsole())); }, true},
+        {"performance-summary", fleet(),
+         [](SceneStage& stage) {
+             waitForChart(stage, openPerformance(stage, demoConsole()));
+             QKeyEvent end(QEvent::KeyPress, Qt::Key_End, Qt::NoModifier);
+             QCoreApplication::sendEvent(&stage.window(), &end);
+             stage.settle(100);
+         },
+         true},
+        {"large-chart", fleet(), [](SceneStage& stage) { read(openLargeChart(stage), 0.62); }, true, true},
+        {"large-chart-bars", fleet(),
+         [](SceneStage& stage) {
+             LargeChartViewController& chart = openLargeChart(stage);
+             chart.setBarsShown(true);
+             chart.chartView()->setViewport({0.55, 0, 0.2, 1});
+             read(chart, 0.62);
+         },
+         true, true},
         {"performance-memory", fleet(), showMemory, true},
         {"performance-nulls", fleet(), [](SceneStage& stage) { showSimulated(stage, "nullMetrics"); }},
         {"performance-failed", fleet(), [](SceneStage& stage) { showSimulated(stage, "unprocessedMetrics"); }, true},

@@ -143,6 +143,13 @@ std::vector<Variant> variantsOf(const Look& look)
         }
         variants.push_back({{360, 640}, "360-text130", false, 1.3});
     }
+    if (look.lies) {
+        const QSize lying(844, 390);
+        variants.insert(variants.end(), {{lying, "844"},
+                                         {lying, "844-dark", true},
+                                         {lying, "844-text200", false, 2},
+                                         {lying, "844-rtl", false, 1, true}});
+    }
     return variants;
 }
 
@@ -185,9 +192,9 @@ int main(int argc, char** argv)
     if (tour) {
         return writeTourPictures(stage, folder) ? 0 : 1;
     }
-    for (const auto& looks :
-         {consoleLooks(), editorLooks(), dashboardLooks(), inventoryLooks(), groupedLooks(), eventAndGroupLooks(),
-          performanceLooks(), aboutLooks(), lockLooks(), feedbackLooks(), attentionLooks(), connectionLooks()}) {
+    for (const auto& looks : {consoleLooks(), editorLooks(), dashboardLooks(), inventoryLooks(), groupedLooks(),
+                              eventAndGroupLooks(), performanceLooks(), aboutLooks(), lockLooks(), feedbackLooks(),
+                              attentionLooks(), findLooks(), connectionLooks(), copyLooks(), fleetSheetLooks()}) {
         for (const Look& look : looks) {
             for (const Variant& variant : variantsOf(look)) {
                 const QString name = QString::fromLatin1(look.name) + '-' + variant.suffix + ".png";

@@ -14,12 +14,18 @@ ReadingPage {
     model: screen.licenseText.pieces
     delegate: Item {
         required property string modelData
+        required property int index
 
         width: ListView.view?.width ?? 0
         height: Math.ceil(body.height)
         Accessible.role: Accessible.StaticText
         Accessible.name: modelData
 
+        SelectionMark {
+            textStart: scene.textStart
+            textWidth: scene.textWidth
+            visible: parent.index >= scene.firstSelected && parent.index <= scene.lastSelected
+        }
         Label {
             id: body
 

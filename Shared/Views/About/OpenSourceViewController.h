@@ -1,14 +1,14 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Kit/Core/ViewController.h"
+#include "Views/About/ReadingController.h"
 #include "Views/About/TextViewOutlet.h"
 
 namespace lodestar
 {
 
 /// Shows the notices of the libraries that the application uses. Main thread.
-class OpenSourceViewController : public lodestar::ViewController
+class OpenSourceViewController : public lodestar::ReadingController
 {
     Q_OBJECT
     QML_ELEMENT
@@ -25,6 +25,7 @@ public:
 
 protected:
     void viewDidLoad() override;
+    QStringList pieces() const override { return m_licenseText.pieces(); }
 
 private:
     TextViewOutlet m_licenseText;

@@ -3,9 +3,11 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Lodestar.Kit
+import Lodestar.Views
 
 /// A screen for reading: one card from top to bottom. Its text is in pieces, which exist only while they are in view.
-/// Arrows, the page keys, Space, Home and End scroll.
+/// Arrows, the page keys, Space, Home and End scroll. A long press or the secondary button selects a piece and offers to
+/// copy it; with the shift key, the secondary button selects up to another piece.
 PageScaffold {
     id: page
 
@@ -14,12 +16,27 @@ PageScaffold {
     required property Component delegate
     readonly property real textStart: sideMargin + Theme.rowStart
     readonly property real textWidth: width - 2 * textStart
+    readonly property ReadingController reading: controller as ReadingController
+    /// The selected pieces; -1 for none.
+    property int firstSelected: -1
+    property int lastSelected: -1
 
     bar: NavigationBar {
         controller: page.controller
     }
     scrollView: list
 
+    function select(first: int, last: int) {
+        firstSelected = first;
+        lastSelected = last;
+    }
+    function askToCopy(piece: int, onward: bool) {
+        if (piece >= 0) {
+            const from = onward && firstSelected >= 0 ? firstSelected : piece;
+            select(Math.min(from, piece), onward ? Math.max(lastSelected, piece) : piece);
+            reading.presentCopyMenu(firstSelected, lastSelected);
+        }
+    }
     function scrollTo(y: real) {
         list.cancelFlick();
         const first = list.originY - list.topMargin;
@@ -62,8 +79,27 @@ PageScaffold {
         case Qt.Key_End:
             scrollToEnd();
             return true;
+        case Qt.Key_Menu:
+            askToCopy(firstSelected >= 0 ? firstSelected : list.indexAt(list.width / 2, list.contentY + 24), true);
+            return true;
+        case Qt.Key_A:
+            if (event.modifiers & Qt.ControlModifier) {
+                select(0, list.count - 1);
+                return true;
+            }
+            return false;
+        case Qt.Key_C:
+            if (event.modifiers & Qt.ControlModifier) {
+                reading.copy(firstSelected, firstSelected < 0 ? -1 : lastSelected);
+                return true;
+            }
+            return false;
         }
         return false;
+    }
+
+    ActionSheet {
+        outlet: page.reading.copyMenu
     }
 
     ListView {
@@ -99,6 +135,24 @@ PageScaffold {
             height: list.contentHeight + 16 + 24
             radius: Theme.cardRadius
             color: Theme.card
+        }
+        // Above the text, which takes no press; a finger or the mouse that moves scrolls.
+        MouseArea {
+            parent: list.contentItem
+            z: 1
+            y: list.originY
+            width: list.width
+            height: list.contentHeight
+            // A sum, because QML compiles + but interprets |.
+            acceptedButtons: Qt.LeftButton + Qt.RightButton
+            onClicked: (mouse) => {
+                if (mouse.button === Qt.RightButton) {
+                    page.askToCopy(list.indexAt(mouse.x, mouse.y + y), mouse.modifiers & Qt.ShiftModifier);
+                } else {
+                    page.select(-1, -1);
+                }
+            }
+            onPressAndHold: (mouse) => page.askToCopy(list.indexAt(mouse.x, mouse.y + y), false)
         }
     }
 }

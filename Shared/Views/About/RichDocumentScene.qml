@@ -16,6 +16,7 @@ ReadingPage {
         id: row
 
         required property richParagraph modelData
+        required property int index
         readonly property real scaled: Theme.textScale
         // The indent shrinks where the text is large for the width.
         readonly property real start: Math.min(modelData.left * scaled, scene.textWidth / 4)
@@ -25,6 +26,11 @@ ReadingPage {
         Accessible.role: Accessible.StaticText
         Accessible.name: modelData.marker === "" ? modelData.text : modelData.marker + " " + modelData.text
 
+        SelectionMark {
+            textStart: scene.textStart
+            textWidth: scene.textWidth
+            visible: row.index >= scene.firstSelected && row.index <= scene.lastSelected
+        }
         Text {
             id: marker
 

@@ -16,4 +16,13 @@ void RichDocumentViewController::setupWebView()
     });
 }
 
+QStringList RichDocumentViewController::pieces() const
+{
+    QStringList texts;
+    for (const RichParagraph& paragraph : m_webview.paragraphs()) {
+        texts << (paragraph.marker.isEmpty() ? paragraph.text : paragraph.marker + QLatin1Char(' ') + paragraph.text);
+    }
+    return texts;
+}
+
 } // namespace lodestar

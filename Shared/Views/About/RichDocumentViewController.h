@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
-#include "Kit/Core/ViewController.h"
+#include "Views/About/ReadingController.h"
 #include "Views/About/RichDocumentOutlet.h"
 
 #include <string>
@@ -10,7 +10,7 @@ namespace lodestar
 {
 
 /// A screen that shows one rich text of the application's package. Main thread.
-class RichDocumentViewController : public lodestar::ViewController
+class RichDocumentViewController : public lodestar::ReadingController
 {
     Q_OBJECT
     QML_ELEMENT
@@ -29,6 +29,7 @@ protected:
         setTitle(title);
     }
     void viewDidLoad() override { setupWebView(); }
+    QStringList pieces() const override;
 
 private:
     std::string m_resource;

@@ -15,6 +15,7 @@ TableCell {
 
     accessibleText: cell.textLabel + ", " + cell.detailTextLabel
     selectable: cell.disclosure
+    offersMenu: true
     implicitHeight: Math.max(Math.round((wide ? 50 : 60) * Theme.textScale), facts.height + Math.round(16 * Theme.textScale))
 
     Item {

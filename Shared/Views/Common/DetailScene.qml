@@ -20,9 +20,18 @@ PageScaffold {
     bar: NavigationBar {
         controller: scene.controller
         titleView: scene.titleView
-        trailing: OutletButton {
-            outlet: scene.rightBarButton
-        }
+        trailing: [
+            IconButton {
+                objectName: "reportButton"
+                visible: scene.details.offersReport
+                iconName: "report"
+                text: qsTr("Service report")
+                onClicked: scene.details.openReport()
+            },
+            OutletButton {
+                outlet: scene.rightBarButton
+            }
+        ]
     }
     scrollView: table.flickable
 
@@ -34,5 +43,19 @@ PageScaffold {
         delegate: DetailDelegate {}
         focus: true
         anchors.fill: parent
+        onMenuRequested: (section, row) => scene.details.presentMenu(section, row)
+    }
+    ActionSheet {
+        outlet: scene.details.rowMenu
+    }
+    Shortcut {
+        sequences: [StandardKey.Copy] // qmllint disable unqualified
+        enabled: scene.visible && scene.details.semiModal === null
+        onActivated: {
+            const current = (table.flickable as ListView).currentItem as TableRow;
+            if (current !== null) {
+                scene.details.copyValue(current.section, current.row);
+            }
+        }
     }
 }

@@ -64,9 +64,16 @@ PageScaffold {
                 titleOutlet: scene.list.header.titleLabel
                 subtitleOutlet: scene.list.header.subtitleLabel
             }
-            trailing: OutletButton {
-                outlet: scene.list.rightBarButton
-            }
+            trailing: [
+                ListShareButton {
+                    share: scene.list.share
+                    offered: scene.visible && scene.contentShown
+                             && (scene.resultsShown ? results.table.rows : table.table.rows) > 0
+                },
+                OutletButton {
+                    outlet: scene.list.rightBarButton
+                }
+            ]
         }
         SearchBar {
             id: search

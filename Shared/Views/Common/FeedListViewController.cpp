@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Common/FeedListViewController.h"
 
+#include "Fleet/Attention.h"
+#include "Fleet/ObjectTable.h"
 #include "Fleet/Readings.h"
 #include "Fleet/Registry.h"
 #include "Platform/Queues/DispatchQueue.h"
@@ -78,6 +80,20 @@ void FeedListViewController::viewDidDisappear()
 QString FeedListViewController::consoleName() const
 {
     return corvel() ? textOf(corvel()->name()) : QString();
+}
+
+QString FeedListViewController::shareName() const
+{
+    //: The name of a file: what is listed, such as "Managed Systems", and a console's name
+    return tr("%1, %2").arg(translated(m_traits.title), consoleName());
+}
+
+Table FeedListViewController::shownTable() const
+{
+    const bool isSearched = m_searchBar.isActive() && !m_searchBar.text().isEmpty();
+    return corvel() ? tableOfElements(type(), snapshotOf(corvel()),
+                                      elementsOfTable(isSearched ? TableKind::SearchResults : TableKind::Main))
+                    : Table();
 }
 
 void FeedListViewController::showReadingMark()

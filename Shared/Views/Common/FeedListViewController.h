@@ -11,6 +11,7 @@
 #include "Platform/Queues/ThreadPool.h"
 #include "Views/Common/CorvelReceiving.h"
 #include "Views/Common/FeedListTraits.h"
+#include "Views/Common/ListShare.h"
 #include "Views/Common/ReadingMark.h"
 #include "Views/Common/ReadingWatch.h"
 #include "Views/Common/ScreenLog.h"
@@ -19,6 +20,7 @@
 #include <atomic>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace lodestar
 {
@@ -31,7 +33,7 @@ namespace lodestar
 /// A subclass gives its traits and overrides
 ///  - `showFeed`: has the rows of a feed made and taken over, and then shows the content;
 ///  - `emptyLists`: called before each fresh fetch;
-///  - `filterContentForSearchText` and the functions of TableDataSource.
+///  - `filterContentForSearchText`, `elementsOfTable` and the functions of TableDataSource.
 /// Its scene is a FeedListScene with the delegate of a row.
 ///
 /// Threads: rows are made in two steps (`makeRows`). A function that knows no screen makes a value of the feed on a
@@ -60,6 +62,7 @@ class FeedListViewController : public lodestar::ViewController, public TableData
     Q_PROPERTY(QString emptyText READ emptyText CONSTANT)
     Q_PROPERTY(QString consoleName READ consoleName CONSTANT)
     Q_PROPERTY(lodestar::ReadingMark readingMark READ readingMark NOTIFY readingMarkChanged)
+    Q_PROPERTY(lodestar::ListShare* share READ share CONSTANT)
 
 public:
     /// The traits must outlive the screen.
@@ -80,6 +83,7 @@ public:
     QString consoleName() const;
     /// How old the console's feed is, whoever read it.
     const ReadingMark& readingMark() const { return m_readingMark; }
+    ListShare* share() { return &m_share; }
 
     void setCustomNavigationBar() { m_header.setCustomNavigationBar(); }
     /// Any thread. Before `setCustomNavigationBar`, a call ends the process.
@@ -140,6 +144,8 @@ protected:
     {
         return kind == TableKind::SearchResults ? m_searchResultsTableView : m_tableView;
     }
+    /// The elements behind a table's rows, in the order of the rows.
+    virtual std::vector<XMLElement> elementsOfTable(TableKind tableView) const = 0;
     /// The searched text for the table of search results; empty for the screen's own table.
     QString matchFor(TableKind tableView) const;
     const ScreenLog& log() const { return m_log; }
@@ -167,6 +173,8 @@ protected:
 private:
     RXPromise<std::string> storeAndShow(const XMLElement& feedRoot, Turn turn);
     QString translated(const char* text) const;
+    QString shareName() const;
+    Table shownTable() const;
     void showContentNow();
     void showNoContentNow();
     void showReadingMark();
@@ -187,6 +195,7 @@ private:
     LabelOutlet m_noDataHeadline;
     ReadingMark m_readingMark;
     ReadingWatch m_readingWatch;
+    ListShare m_share{[this] { return shareName(); }, [this] { return shownTable(); }};
 };
 
 } // namespace lodestar

@@ -2,7 +2,6 @@
 #include "Views/Common/FeedName.h"
 
 #include "Inventory/Feed.h"
-#include "Kit/Core/Appearance.h"
 
 #include <QCoreApplication>
 
@@ -18,9 +17,8 @@ struct Words {
     Q_DECLARE_TR_FUNCTIONS(lodestar::FeedName)
 };
 
-/// The first of the isolates' controls is as strong as the text's own first letter.
-constexpr char16_t firstStrongIsolate = u'\u2068';
-constexpr char16_t popIsolate = u'\u2069';
+/// Of names and texts in a row, no more than a row can show is laid out.
+constexpr qsizetype longestRowText = 300;
 
 struct Name {
     std::string_view type;
@@ -53,25 +51,6 @@ const Name* nameOf(std::string_view type)
 QString nameInList(std::string_view type)
 {
     return type == ObjectType::Group ? Words::tr("groups") : feedName(type);
-}
-
-bool endsLine(QChar each)
-{
-    return each == u'\n' || each == u'\r' || each == u'\t' || each == u'\v' || each == u'\f' || each == u'\u0085' ||
-           each == QChar::LineSeparator || each == QChar::ParagraphSeparator;
-}
-
-/// Embeddings, overrides and isolates. One without its end would reach into the sentence.
-bool turnsDirection(QChar each)
-{
-    return (each >= u'\u202A' && each <= u'\u202E') || (each >= u'\u2066' && each <= u'\u2069');
-}
-
-bool runsRightToLeft(QChar each)
-{
-    const QChar::Direction direction = each.direction();
-    // A half of a pair may belong to any script.
-    return direction == QChar::DirR || direction == QChar::DirAL || direction == QChar::DirAN || each.isSurrogate();
 }
 
 } // namespace
@@ -124,30 +103,13 @@ QString joinedList(const QStringList& names)
     }
 }
 
-QString oneLine(const QString& text)
+QString rowText(const std::string& text)
 {
-    QString line;
-    line.reserve(text.size() + 2);
-    for (const QChar each : text) {
-        if (endsLine(each)) {
-            if (!line.endsWith(u' ')) {
-                line.append(u' ');
-            }
-        } else if (each.category() != QChar::Other_Control && !turnsDirection(each)) {
-            line.append(each);
-        }
+    QString start = QString::fromStdString(text).left(longestRowText);
+    if (!start.isEmpty() && start.back().isHighSurrogate()) {
+        start.chop(1);
     }
-    return line;
-}
-
-QString isolated(const QString& text)
-{
-    const QString line = oneLine(text);
-    // The typeface lacks the controls, and a line with a character of another face sits lower. They are left out where
-    // they would change nothing.
-    const bool needed =
-        !line.isEmpty() && (Appearance::shared().isMirrored() || std::ranges::any_of(line, runsRightToLeft));
-    return needed ? QChar(firstStrongIsolate) + line + QChar(popIsolate) : line;
+    return oneLine(start);
 }
 
 } // namespace lodestar

@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Kit/Core/LineText.h"
+
 #include <QString>
 #include <QStringList>
 
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -17,10 +20,7 @@ QString feedNameAtStart(std::string_view type);
 QString feedsNotRead(const std::vector<std::string_view>& types);
 /// "A and B", "A, B and C", from four "A, B and 2 more".
 QString joinedList(const QStringList& names);
-/// The text as one line without control characters. For names and texts of a console that stand alone.
-QString oneLine(const QString& text);
-/// The same, isolated where it or the language runs from right to left, so that
-/// its direction and line ends stay its own. For names and texts of a console within a sentence.
-QString isolated(const QString& text);
+/// The text as one line, no longer than a row can show.
+QString rowText(const std::string& text);
 
 } // namespace lodestar

@@ -37,6 +37,17 @@ int FlatListViewController::numberOfRowsInSection(TableKind tableView, int /*sec
     return static_cast<int>(tableView == TableKind::SearchResults ? m_filteredList.size() : m_list.size());
 }
 
+std::vector<XMLElement> FlatListViewController::elementsOfTable(TableKind tableView) const
+{
+    std::vector<XMLElement> rows;
+    const int count = numberOfRowsInSection(tableView, 0);
+    rows.reserve(static_cast<std::size_t>(count));
+    for (int row = 0; row < count; ++row) {
+        rows.push_back(elementAtRow(tableView, row));
+    }
+    return rows;
+}
+
 XMLElement FlatListViewController::elementAtRow(TableKind tableView, int row) const
 {
     return tableView == TableKind::SearchResults ? elementAt(elements(), m_filteredList, row)

@@ -29,6 +29,7 @@ public:
     int numberOfRowsInSection(TableKind tableView, int section) const override;
 
 protected:
+    std::vector<XMLElement> elementsOfTable(TableKind tableView) const override;
     void emptyLists() override;
     RXPromise<std::string> showFeed(const Feed& feed, Turn turn, Source source) override;
     /// Takes over the rows that were made of the feed and shows it. Main thread.

@@ -101,7 +101,7 @@ RXPromise<std::string> GroupedListViewController::group(const std::shared_ptr<co
 
 std::optional<std::string> GroupedListViewController::systemOf(const XMLElement& partition) const
 {
-    std::optional<std::string> name = fetchLinkedText(Partition(partition).systemNameLink(), corvel());
+    std::optional<std::string> name = fetchLinkedText(Partition(partition).systemNameLink(), corvel(), type());
     if (m_grouping.nameless == Nameless::LeftOut) {
         return name;
     }
@@ -147,6 +147,18 @@ std::optional<QString> GroupedListViewController::titleForHeaderInSection(TableK
 XMLElement GroupedListViewController::partitionAt(TableKind tableView, IndexPath indexPath) const
 {
     return elementAt(groupAt(tableView, indexPath.section), indexPath.row);
+}
+
+std::vector<XMLElement> GroupedListViewController::elementsOfTable(TableKind tableView) const
+{
+    std::vector<XMLElement> rows;
+    for (int section = 0; section < numberOfSections(tableView); ++section) {
+        for (int row = 0; row < numberOfRowsInSection(tableView, section); ++row) {
+            rows.push_back(partitionAt(tableView, {section, row}));
+        }
+    }
+    std::erase_if(rows, [](const XMLElement& element) { return !element; });
+    return rows;
 }
 
 QVariant GroupedListViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)

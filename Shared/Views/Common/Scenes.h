@@ -3,7 +3,11 @@
 
 #include "Application/Model/Corvel.h"
 #include "Kit/Core/Storyboard.h"
+#include "Platform/Result.h"
 #include "XML/XMLElement.h"
+
+#include <QByteArray>
+#include <QString>
 
 #include <memory>
 #include <optional>
@@ -11,6 +15,9 @@
 
 namespace lodestar
 {
+
+enum class MetricsSegment : int;
+struct PerformanceMetrics;
 
 /// What scenes are opened with. No member has a default: an opener that leaves one out is not compiled.
 
@@ -35,6 +42,26 @@ struct PerformanceInput {
     std::optional<std::string> systemID; ///< what the system's metrics go by
 };
 
+struct LargeChartInput {
+    std::optional<std::string> sysName; ///< none when the opener has none to give
+    std::shared_ptr<const PerformanceMetrics> metrics;
+    MetricsSegment segment; ///< what is charted first
+};
+
+/// The text that the screen begins with; empty for its recent texts.
+struct FindInput {
+    QString text;
+};
+
+/// A file that may be a fleet sheet, or why it could not be read.
+struct FleetFileInput {
+    QString name;
+    std::shared_ptr<const Result<QByteArray>> bytes;
+};
+
+struct FleetSheet;
+class FleetImport;
+
 /// The scenes that screens open, each with what it is opened with.
 namespace Scenes
 {
@@ -47,6 +74,7 @@ inline constexpr Scene<CorvelRef> managedSystemsView{"managedSystemsView"};
 inline constexpr Scene<XMLElement> managedSystemInfo{"managedSystemInfo"};
 inline constexpr Scene<SystemMenuInput> managedSystemMenu{"managedSystemMenu"};
 inline constexpr Scene<PerformanceInput> pcmDataView{"pcmDataView"};
+inline constexpr Scene<LargeChartInput> largeChartView{"largeChartView"};
 inline constexpr Scene<CorvelRef> managementConsoleView{"managementConsoleView"};
 inline constexpr Scene<PartitionsInput> logicalPartitionsView{"logicalPartitionsView"};
 inline constexpr Scene<XMLElement> logicalPartitionsDetail{"logicalPartitionsDetail"};
@@ -66,6 +94,11 @@ inline constexpr Scene<> attentionView{"attentionView"};
 inline constexpr Scene<CorvelRef> connectionView{"connectionView"};
 inline constexpr Scene<> watchView{"watchView"};
 inline constexpr Scene<> watchConsolesView{"watchConsolesView"};
+inline constexpr Scene<FindInput> findView{"findView"};
+inline constexpr Scene<> fleetSheetView{"fleetSheetView"};
+inline constexpr Scene<FleetFileInput> fleetChooseView{"fleetChooseView"};
+inline constexpr Scene<std::shared_ptr<const FleetSheet>> fleetUnusableView{"fleetUnusableView"};
+inline constexpr Scene<std::shared_ptr<FleetImport>> fleetVerifyView{"fleetVerifyView"};
 
 } // namespace Scenes
 

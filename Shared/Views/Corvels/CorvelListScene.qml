@@ -17,14 +17,27 @@ PageScaffold {
     }
 
     bar: RootBar {
+        id: rootBar
+
         controller: scene.controller
+        onTitleHeld: share.offer()
         trailing: [
+            ListShareButton {
+                id: share
+
+                share: scene.corvels.share
+                offered: scene.visible && !scene.sheetUp && table.table.rows > 0
+                hasRoom: rootBar.fits(scene.corvels.feedbackHidden ? 4 : 5)
+            },
             IconButton {
                 objectName: "feedbackButton"
                 iconName: "feedback"
                 text: qsTr("Feedback")
                 visible: !scene.corvels.feedbackHidden
                 onClicked: scene.corvels.openFeedback()
+            },
+            FindButton {
+                screen: scene.controller
             },
             IconButton {
                 objectName: "settingsButton"
@@ -73,16 +86,31 @@ PageScaffold {
             }
         }
         onMenuRequested: (section, row) => scene.corvels.presentMenu(row)
+        endSpace: sheetCard.height + Theme.groupGap
     }
-    ActionSheet {
+    // Scrolls with the list and is none of its rows, so that it comes after them for the keyboard and for readers.
+    GroupCard {
+        id: sheetCard
+
+        visible: table.visible
+        x: Theme.sideMargin(table.width, Theme.measure)
+        y: table.flickable.originY + table.flickable.contentHeight + Theme.groupGap - table.flickable.contentY
+        width: table.width - 2 * x
+
+        MenuRow {
+            objectName: "fleetSheetRow"
+            iconName: "fleet_sheet"
+            text: qsTr("Fleet Sheet")
+            detail: scene.corvels.countLabel.text
+            onClicked: scene.corvels.openFleetSheet()
+        }
+    }
+    GridMenu {
         outlet: scene.corvels.rowMenu
     }
-    NoContent {
+    FirstRun {
+        corvels: scene.corvels
         anchors.fill: parent
         visible: scene.corvels.tableView.hidden
-        picture: "no_data_consoles"
-        text: qsTr("No consoles yet.")
-        actionText: qsTr("Add Corvel")
-        onAction: scene.corvels.addCorvel()
     }
 }

@@ -5,6 +5,8 @@
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
+#include "Fleet/Attention.h"
+#include "Fleet/ObjectTable.h"
 #include "Fleet/Readings.h"
 #include "Fleet/Registry.h"
 #include "Fleet/Watch.h"
@@ -14,6 +16,7 @@
 #include "Views/Common/Scenes.h"
 #include "Views/Corvels/CorvelListCell.h"
 #include "Views/Corvels/CorvelMenu.h"
+#include "Views/FleetSheet/FleetSheetText.h"
 
 #include <utility>
 
@@ -87,6 +90,8 @@ void CorvelListViewController::viewDidLoad()
         ViewController* over = tabBarController();
         introPresenter()(over != nullptr ? *over : *this, self<CorvelListViewController>());
     }
+    connect(&m_tableView, &TableOutlet::countChanged, this, &CorvelListViewController::showCount);
+    showCount();
     connect(&m_refreshControl, &RefreshControl::valueChanged, this, &CorvelListViewController::refresh);
     observeNotifications();
     m_tableView.reloadData();
@@ -114,11 +119,21 @@ void CorvelListViewController::viewDidDisappear()
     m_readingWatch.end();
 }
 
+Table CorvelListViewController::shownTable()
+{
+    std::vector<ConsoleSnapshot> consoles;
+    for (const CorvelRef& corvel : RESTHandler::sharedInstance().corvelList()) {
+        consoles.push_back(snapshotOf(corvel));
+    }
+    return tableOfConsoles(consoles);
+}
+
 void CorvelListViewController::observeNotifications()
 {
     NotificationCenter& center = NotificationCenter::defaultCenter();
     m_observations.push_back(center.addObserver("CloseDeltaCorvel", [this] { hideModalView(); }));
     m_observations.push_back(center.addObserver("CorvelAdded", [this] { showCorvels(); }));
+    m_observations.push_back(center.addObserver("FleetWasAdded", [this] { showFleet(); }));
     m_observations.push_back(center.addObserver("StatusWillShow", [this] { statusWillShow(); }));
     m_observations.push_back(center.addObserver("StatusShouldHide", [this] { statusShouldHide(); }));
     m_observations.push_back(center.addObserver("ReadingsDidChange", [this] { m_readUnseen = !isInWindow(); }));
@@ -287,6 +302,33 @@ void CorvelListViewController::openFeedback()
 void CorvelListViewController::openSettings()
 {
     openScene(*this, Scenes::settingsViewController);
+}
+
+void CorvelListViewController::openFleetSheet()
+{
+    openScene(*this, Scenes::fleetSheetView);
+}
+
+void CorvelListViewController::lookAtDemo()
+{
+    // The button can be pressed while the picture fades.
+    if (RESTHandler::sharedInstance().corvelList().empty()) {
+        addDemoCorvel();
+        saveIgnoringErrors();
+        showFleet();
+        dataRefresh();
+    }
+}
+
+void CorvelListViewController::showFleet()
+{
+    m_tableView.setHidden(RESTHandler::sharedInstance().corvelList().empty());
+    m_tableView.reloadData();
+}
+
+void CorvelListViewController::showCount()
+{
+    m_countLabel.setText(FleetSheetText::consoles(static_cast<std::size_t>(m_tableView.rows())));
 }
 
 double CorvelListViewController::restingSheetHeight() const

@@ -3,11 +3,13 @@
 
 #include "Application/Model/Corvel.h"
 #include "Kit/Core/Menu.h"
+#include "Kit/Core/Outlets.h"
 #include "Kit/Core/PagedIntro.h"
 #include "Kit/Core/SheetHostController.h"
 #include "Kit/Core/Table.h"
 #include "Platform/Error.h"
 #include "Platform/NotificationCenter.h"
+#include "Views/Common/ListShare.h"
 #include "Views/Common/ReadingMark.h"
 #include "Views/Common/ReadingWatch.h"
 #include "Views/Corvels/CorvelListCell.h"
@@ -31,6 +33,8 @@ class CorvelListViewController : public lodestar::SheetHostController, public Ta
     Q_PROPERTY(lodestar::TableOutlet* tableView READ tableView CONSTANT)
     Q_PROPERTY(lodestar::RefreshControl* refreshControl READ refreshControl CONSTANT)
     Q_PROPERTY(lodestar::MenuOutlet* rowMenu READ rowMenu CONSTANT)
+    Q_PROPERTY(lodestar::LabelOutlet* countLabel READ countLabel CONSTANT)
+    Q_PROPERTY(lodestar::ListShare* share READ share CONSTANT)
     Q_PROPERTY(int marksTurn READ marksTurn NOTIFY marksChanged)
     Q_PROPERTY(bool feedbackHidden READ isFeedbackHidden NOTIFY feedbackHiddenChanged)
 
@@ -46,6 +50,9 @@ public:
     RefreshControl* refreshControl() { return &m_refreshControl; }
     /// The menu of one row: Connection, Attention, Copy Address.
     MenuOutlet* rowMenu() { return &m_rowMenu; }
+    ListShare* share() { return &m_share; }
+    /// "6 consoles".
+    LabelOutlet* countLabel() { return &m_countLabel; }
     bool viewHasAppearedOnce() const { return m_viewHasAppearedOnce; }
 
     /// Whether the feedback button is hidden. It is shown on devices that cannot be shaken, which is known only after
@@ -55,6 +62,9 @@ public:
     Q_INVOKABLE void addCorvel();
     Q_INVOKABLE void openSettings();
     Q_INVOKABLE void openFeedback();
+    Q_INVOKABLE void openFleetSheet();
+    /// Adds the demonstration console to a list that has none.
+    Q_INVOKABLE void lookAtDemo();
     /// Adds the demonstration console, at most once per installation. The next save stores it.
     void addTestCorvel();
     /// Fetches all consoles of the list at the same time. Each result is shown when it arrives.
@@ -97,14 +107,18 @@ protected:
     double restingSheetHeight() const override;
 
 private:
+    static Table shownTable();
     void observeNotifications();
     void refreshCorvel(const CorvelRef& corvel);
     void didRefreshCorvel(const CorvelRef& corvel);
     void didFailToRefreshCorvel(const CorvelRef& corvel, const Error& error);
     void presentEditor(EditorInput input);
+    void showFleet();
+    void showCount();
 
     TableOutlet m_tableView;
     MenuOutlet m_rowMenu;
+    LabelOutlet m_countLabel;
     int m_marksTurn = 0;
     bool m_readUnseen = false; ///< consoles were read while nobody saw the rows
     RefreshControl m_refreshControl;
@@ -112,6 +126,7 @@ private:
     bool m_isRefreshedByHand = false; ///< while a pull asks the consoles
     std::vector<NotificationCenter::Observation> m_observations;
     ReadingWatch m_readingWatch;
+    ListShare m_share{[this] { return title(); }, [] { return shownTable(); }};
 };
 
 } // namespace lodestar

@@ -3,7 +3,7 @@
 
 #include "Fleet/Attention.h"
 #include "Fleet/Readings.h"
-#include "Kit/Core/Toasts.h"
+#include "Kit/Core/Clipboard.h"
 #include "Views/Common/AgeClock.h"
 #include "Views/Common/CellText.h"
 #include "Views/Common/CellViews.h"
@@ -11,9 +11,7 @@
 #include "Views/Common/ReadingMark.h"
 #include "Views/Common/Scenes.h"
 
-#include <QClipboard>
 #include <QCoreApplication>
-#include <QGuiApplication>
 
 #include <algorithm>
 #include <utility>
@@ -59,14 +57,6 @@ QString attentionCount(const Corvel& corvel)
     return count == 0 ? QString() : QString::number(count);
 }
 
-void copyAddress(const Corvel& corvel)
-{
-    const QString address = textOf(corvel.address());
-    QGuiApplication::clipboard()->setText(address);
-    //: %1 what was copied
-    Toasts::shared().show(Words::tr("Copied %1").arg(isolated(address)));
-}
-
 } // namespace
 
 void setAttentionPresenter(AttentionPresenter presenter)
@@ -92,7 +82,7 @@ void presentCorvelMenu(MenuOutlet& menu, const std::shared_ptr<ViewController>& 
             }
             break;
         case CopyAddressChoice:
-            copyAddress(*corvel);
+            Clipboard::copy(textOf(corvel->address()));
             break;
         default:
             break;

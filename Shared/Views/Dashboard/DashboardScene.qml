@@ -45,6 +45,9 @@ PageScaffold {
     bar: RootBar {
         controller: scene.controller
         measure: scene.measure
+        trailing: FindButton {
+            screen: scene.controller
+        }
     }
     scrollView: page
 
@@ -107,10 +110,11 @@ PageScaffold {
         Accessible.name: caption + ", " + count.text
         Accessible.ignored: count.hidden
 
-        OutletLabel {
+        CountingLabel {
             id: number
 
-            outlet: figure.count
+            value: figure.count.text
+            visible: !figure.count.hidden
             size: Theme.figureSize
             width: parent.width
             height: lineHeight

@@ -4,6 +4,7 @@
 #include "Inventory/ManagedSystem.h"
 #include "Views/Common/CellText.h"
 #include "Views/Common/ScreenLog.h"
+#include "Views/Report/ServiceReportController.h"
 
 #include <QDesktopServices>
 
@@ -33,7 +34,13 @@ void MSDetailViewController::viewDidLoad()
     screenLog.write(23, "viewDidLoad", "MSDetailViewController instantiation");
     setTitle(textOf(ManagedSystem(rootXML()).name()));
     setBackTitle(QStringLiteral(""));
+    m_source = reportSource(rootXML(), ManagedSystem::type);
     populateSystemDetails();
+}
+
+void MSDetailViewController::openReport()
+{
+    ServiceReportController::present(reportOf(ManagedSystem(rootXML()), m_source), shared_from_this());
 }
 
 void MSDetailViewController::populateSystemDetails()

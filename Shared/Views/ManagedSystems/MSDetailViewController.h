@@ -3,6 +3,7 @@
 
 #include "Views/Common/DetailViewController.h"
 #include "Views/Common/RootXMLReceiving.h"
+#include "Views/Report/ReportContent.h"
 
 namespace lodestar
 {
@@ -20,6 +21,8 @@ public:
     explicit MSDetailViewController(QString documentationBase = builtDocumentationBase());
 
     void populateSystemDetails();
+    bool offersReport() const override { return true; }
+    void openReport() override;
 
 protected:
     void viewDidLoad() override;
@@ -30,6 +33,7 @@ private:
     static QString builtDocumentationBase();
 
     QString m_documentationBase;
+    ReportSource m_source;
 };
 
 } // namespace lodestar

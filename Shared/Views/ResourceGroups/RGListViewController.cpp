@@ -66,6 +66,17 @@ int RGListViewController::numberOfRowsInSection(TableKind /*tableView*/, int /*s
     return static_cast<int>(entries().size());
 }
 
+std::vector<XMLElement> RGListViewController::elementsOfTable(TableKind /*tableView*/) const
+{
+    std::vector<XMLElement> groups;
+    for (const XMLElement& entry : entries()) {
+        if (XMLElement group = contentOf(entry, ResourceGroup::type)) {
+            groups.push_back(std::move(group));
+        }
+    }
+    return groups;
+}
+
 QVariant RGListViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)
 {
     const CellInSteps making = cellInStepsForRowAtIndexPath(tableView, indexPath);

@@ -42,6 +42,7 @@ public:
     void processStates(const std::vector<XMLElement>& links, RGStateCounts& counters, LinkKind kind) const;
 
 protected:
+    std::vector<XMLElement> elementsOfTable(TableKind tableView) const override;
     RXPromise<std::string> showFeed(const Feed& feed, Turn turn, Source source) override;
     void emptyLists() override { m_resources.clear(); }
 

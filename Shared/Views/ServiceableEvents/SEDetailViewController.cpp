@@ -4,6 +4,7 @@
 #include "Inventory/ServiceableEvent.h"
 #include "Views/Common/CellText.h"
 #include "Views/Common/ScreenLog.h"
+#include "Views/Report/ServiceReportController.h"
 
 #include <QDateTime>
 #include <QLocale>
@@ -67,8 +68,14 @@ void SEDetailViewController::viewDidLoad()
 {
     screenLog.write(23, "viewDidLoad", "SEDetailViewController instantiation");
     setTitle(tr("Event Details"));
+    m_source = reportSource(rootXML(), ServiceableEvent::type);
     populateEventDetails();
     setBackTitle(QStringLiteral(""));
+}
+
+void SEDetailViewController::openReport()
+{
+    ServiceReportController::present(reportOf(ServiceableEvent(rootXML()), m_source), shared_from_this());
 }
 
 void SEDetailViewController::populateEventDetails()

@@ -3,6 +3,7 @@
 
 #include "Views/Common/DetailViewController.h"
 #include "Views/Common/RootXMLReceiving.h"
+#include "Views/Report/ReportContent.h"
 
 namespace lodestar
 {
@@ -21,6 +22,8 @@ public:
     SEDetailViewController();
 
     void populateEventDetails();
+    bool offersReport() const override { return true; }
+    void openReport() override;
 
 protected:
     void viewDidLoad() override;
@@ -28,6 +31,8 @@ protected:
 private:
     DetailSection mainInformation() const;
     DetailSection unitInformation(const FieldReplaceableUnit& unit) const;
+
+    ReportSource m_source;
 };
 
 } // namespace lodestar

@@ -14,6 +14,8 @@ PageScaffold {
     readonly property PCMViewController performance: controller as PCMViewController
     readonly property string unit: performance.typeSegmentedControl.selectedSegmentIndex === 0 ? qsTr("units") : qsTr("GB")
 
+    Keys.onPressed: event => page.scrollByKey(event)
+
     bar: NavigationBar {
         controller: scene.controller
         titleView: TitleView {
@@ -21,9 +23,19 @@ PageScaffold {
             subtitleOutlet: scene.performance.header.subtitleLabel
             fallback: qsTr("Performance Monitoring")
         }
-        trailing: OutletButton {
-            outlet: scene.performance.rightBarButton
-        }
+        // Never both: the one shows after a failure, the other once there is something to chart.
+        trailing: [
+            OutletButton {
+                outlet: scene.performance.rightBarButton
+            },
+            IconButton {
+                objectName: "largeChartButton"
+                iconName: "performance"
+                text: qsTr("Large Chart")
+                visible: scene.performance.hasLargeChart && !scene.performance.chartView.hidden
+                onClicked: scene.performance.openLargeChart()
+            }
+        ]
     }
     scrollView: page
 
@@ -213,6 +225,19 @@ PageScaffold {
                     wrapMode: Text.Wrap
                 }
             }
+        }
+        Item {
+            width: 1
+            height: 12
+            visible: summary.visible
+        }
+        PerformanceSummary {
+            id: summary
+
+            objectName: "summary"
+            rows: scene.performance.chartView.hidden ? [] : scene.performance.summary
+            foot: scene.performance.leftOut
+            width: parent.width
         }
     }
 }

@@ -2,12 +2,10 @@
 #include "Views/ManagedSystems/PCM/PCMViewController.h"
 
 #include "Controllers/REST/RESTHandler.h"
+#include "Kit/Core/NavigationController.h"
 #include "Kit/Core/UIColor+Tessel.h"
-#include "Views/Common/FeedTimeStamp.h"
+#include "Views/Common/Scenes.h"
 #include "Views/Common/ScreenLog.h"
-
-#include <QDateTime>
-#include <fmt/format.h>
 
 #include <algorithm>
 #include <array>
@@ -29,30 +27,6 @@ constexpr double openingSeconds = 2.5;
 
 /// Orange, green and blue as charts have them on a light card; the scene knows their dark counterparts.
 constexpr std::array<QColor, 3> seriesColors = {UIColor::chartOrange(), UIColor::successGreen(), UIColor::ornisBlue()};
-constexpr std::array<double MetricsFigures::*, 3> seriesFigures = {&MetricsFigures::total, &MetricsFigures::allocated,
-                                                                   &MetricsFigures::used};
-
-/// The number with a decimal point in every language, because the figures are the console's. Ties go to the even digit,
-/// as in C; Qt's own functions would round them up.
-QString twoDecimals(double value)
-{
-    return QString::fromStdString(fmt::format("{:.2f}", value));
-}
-
-QString shown(const std::optional<MetricsDate>& date)
-{
-    if (!date) {
-        return {};
-    }
-    const QDateTime local = QDateTime::fromSecsSinceEpoch(date->time_since_epoch().count());
-    return mediumDateShortTime({local.date(), local.time()});
-}
-
-/// If one date cannot be read, the other stands alone.
-QString period(const QString& start, const QString& end)
-{
-    return start.isEmpty() || end.isEmpty() ? start + end : QStringLiteral("%1 - %2").arg(start, end);
-}
 
 void logSkipped(const MetricsReduction& reduction, MetricsSegment segment)
 {
@@ -173,7 +147,7 @@ void PCMViewController::fetchPCMData()
 void PCMViewController::showMetrics(const MetricsDocument& document)
 {
     const MetricsPeriod dates = periodOf(document);
-    m_header.setHeaderTitle(name(), period(shown(dates.start), shown(dates.end)));
+    m_header.setHeaderTitle(name(), PerformanceText::period(dates.start, dates.end));
     calculateGraphValuesFromJSON(samplesOf(document));
 }
 
@@ -183,6 +157,7 @@ void PCMViewController::showFailure()
         label->setText(QStringLiteral("-"));
     }
     m_chartView.clear();
+    setMetrics(nullptr);
     stopLoadingIndicators();
     m_header.setHeaderTitle(name(), {});
     m_rightBarButton.setItem(BarButtonOutlet::SystemItem::Refresh, [this] {
@@ -194,9 +169,8 @@ void PCMViewController::showFailure()
 
 void PCMViewController::calculateGraphValuesFromJSON(const MetricsValue& samples)
 {
-    const auto segment = MetricsSegment{m_typeSegmentedControl.selectedSegmentIndex()};
-    const MetricsReduction reduction = reduceMetrics(samples, segment);
-    logSkipped(reduction, segment);
+    const MetricsReduction reduction = reduceMetrics(samples, segment());
+    logSkipped(reduction, segment());
     if (reduction.first) {
         m_startDate = reduction.first->date;
     }
@@ -205,44 +179,69 @@ void PCMViewController::calculateGraphValuesFromJSON(const MetricsValue& samples
         setLatest(reduction.last->figures);
         m_endDate = reduction.last->date;
     }
-    setChartData(reduction, segment);
+    setChartData(reduction, segment());
+    setMetrics(std::make_shared<const PerformanceMetrics>(PerformanceMetrics{
+        timelineOf(samples, MetricsSegment::Processors), timelineOf(samples, MetricsSegment::Memory)}));
     stopLoadingIndicators();
 }
 
 void PCMViewController::setLatest(const MetricsFigures& figures)
 {
-    m_totalLabel.setText(twoDecimals(figures.total));
-    m_allocatedLabel.setText(twoDecimals(figures.allocated));
-    m_usedLabel.setText(twoDecimals(figures.used));
+    m_totalLabel.setText(PerformanceText::twoDecimals(figures.total));
+    m_allocatedLabel.setText(PerformanceText::twoDecimals(figures.allocated));
+    m_usedLabel.setText(PerformanceText::twoDecimals(figures.used));
 }
 
 void PCMViewController::setChartData(const MetricsReduction& reduction, MetricsSegment segment)
 {
-    std::array<QString, 3> names;
-    if (reduction.sampleCount > 0 && segment == MetricsSegment::Processors) {
-        names = {tr("Total Processors"), tr("Processors Allocated"), tr("Processors Used")};
-    } else if (reduction.sampleCount > 0 && segment == MetricsSegment::Memory) {
-        names = {tr("Total Memory"), tr("Memory Allocated"), tr("Memory Used")};
+    QStringList names{QString(), QString(), QString()};
+    if (reduction.sampleCount > 0) {
+        names = PerformanceText::seriesNames(segment);
     }
     PlotChartData data;
     data.xVals.reserve(static_cast<qsizetype>(reduction.xLabels.size()));
     for (const std::string& label : reduction.xLabels) {
         data.xVals << QString::fromStdString(label);
     }
-    for (std::size_t series = 0; series < names.size(); ++series) {
+    for (std::size_t series = 0; series < metricsSeries.size(); ++series) {
         LineChartDataSet set;
-        set.label = names.at(series);
+        set.label = names.at(static_cast<qsizetype>(series));
         set.colors = {seriesColors.at(series)};
         set.lineWidth = 1;
         set.circleRadius = 0;
         set.drawCircleHoleEnabled = false;
         set.entries.reserve(static_cast<qsizetype>(reduction.points.size()));
         for (const MetricsPoint& point : reduction.points) {
-            set.entries << ChartEntry{static_cast<float>(point.figures.*seriesFigures.at(series)), point.xIndex};
+            set.entries << ChartEntry{static_cast<float>(point.figures.*metricsSeries.at(series)), point.xIndex};
         }
         data.lineDataSets << set;
     }
     m_chartView.setData(data);
+}
+
+MetricsSegment PCMViewController::segment() const
+{
+    return MetricsSegment{m_typeSegmentedControl.selectedSegmentIndex()};
+}
+
+void PCMViewController::setMetrics(std::shared_ptr<const PerformanceMetrics> metrics)
+{
+    m_metrics = std::move(metrics);
+    static const MetricsTimeline nothing;
+    const MetricsTimeline& shown = m_metrics ? m_metrics->of(segment()) : nothing;
+    m_summary = PerformanceText::summary(shown);
+    m_leftOut = PerformanceText::leftOut(shown.withoutValues);
+    m_hasLargeChart = std::ranges::any_of(shown.moments, [](const auto& moment) { return moment.time.has_value(); });
+    Q_EMIT summaryChanged();
+}
+
+void PCMViewController::openLargeChart()
+{
+    if (m_hasLargeChart && navigationController() != nullptr) {
+        navigationController()->pushViewController(
+            Storyboard::main().instantiateViewController(Scenes::largeChartView, {m_sysName, m_metrics, segment()}),
+            Animated::Yes);
+    }
 }
 
 void PCMViewController::startLoadingIndicators()

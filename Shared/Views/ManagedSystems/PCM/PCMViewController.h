@@ -3,13 +3,16 @@
 
 #include "Charts/PlotChartView.h"
 #include "Inventory/Metrics/MetricsReduction.h"
+#include "Inventory/Metrics/MetricsTimeline.h"
 #include "Kit/Core/Bars.h"
 #include "Kit/Core/Outlets.h"
 #include "Kit/Core/ViewController.h"
 #include "Views/Common/CorvelReceiving.h"
 #include "Views/Common/TitleHeader.h"
+#include "Views/ManagedSystems/PCM/PerformanceText.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -35,6 +38,9 @@ class PCMViewController : public lodestar::ViewController, public CorvelReceivin
     Q_PROPERTY(lodestar::IndicatorOutlet* totalIndicator READ totalIndicator CONSTANT)
     Q_PROPERTY(lodestar::IndicatorOutlet* allocatedIndicator READ allocatedIndicator CONSTANT)
     Q_PROPERTY(lodestar::IndicatorOutlet* usedIndicator READ usedIndicator CONSTANT)
+    Q_PROPERTY(QList<lodestar::PerformanceSummaryRow> summary READ summary NOTIFY summaryChanged)
+    Q_PROPERTY(QString leftOut READ leftOut NOTIFY summaryChanged)
+    Q_PROPERTY(bool hasLargeChart READ hasLargeChart NOTIFY summaryChanged)
 
 public:
     PCMViewController();
@@ -64,6 +70,15 @@ public:
     IndicatorOutlet* allocatedIndicator() { return &m_allocatedIndicator; }
     IndicatorOutlet* usedIndicator() { return &m_usedIndicator; }
 
+    /// What the charted series were over all samples; empty before there are any.
+    const QList<PerformanceSummaryRow>& summary() const { return m_summary; }
+    /// How many samples are not in the summary, as a sentence; empty for none.
+    const QString& leftOut() const { return m_leftOut; }
+    /// Whether any sample has a time, so that it can be charted over time.
+    bool hasLargeChart() const { return m_hasLargeChart; }
+    /// Opens the large chart over what was fetched; nothing is fetched again.
+    Q_INVOKABLE void openLargeChart();
+
     /// Handles a choice in the segmented control.
     Q_INVOKABLE void selectedSegmentedIndex(int index);
     /// Starts a fetch. An earlier fetch that still runs continues, but its result is not shown.
@@ -72,6 +87,9 @@ public:
     void calculateGraphValuesFromJSON(const MetricsValue& samples);
     void startLoadingIndicators();
     void stopLoadingIndicators();
+
+Q_SIGNALS:
+    void summaryChanged();
 
 protected:
     void viewDidLoad() override;
@@ -83,6 +101,9 @@ private:
     void showFailure();
     void setLatest(const MetricsFigures& figures);
     void setChartData(const MetricsReduction& reduction, MetricsSegment segment);
+    /// Null after a failure.
+    void setMetrics(std::shared_ptr<const PerformanceMetrics> metrics);
+    MetricsSegment segment() const;
     QString name() const;
 
     std::optional<std::string> m_sysName;
@@ -91,6 +112,10 @@ private:
     std::optional<MetricsDate> m_endDate;
     /// Number of fetches so far; only the latest fetch is shown.
     std::uint64_t m_fetch = 0;
+    std::shared_ptr<const PerformanceMetrics> m_metrics;
+    QList<PerformanceSummaryRow> m_summary;
+    QString m_leftOut;
+    bool m_hasLargeChart = false;
 
     TitleHeader m_header;
     PlotChartView m_chartView;
