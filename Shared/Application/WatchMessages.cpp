@@ -74,15 +74,7 @@ Fault faultOf(const Finding& finding)
 
 QString shortened(const std::string& text, qsizetype length = longestName)
 {
-    QString shown = QString::fromStdString(text);
-    if (shown.size() > length) {
-        shown.truncate(length - 1);
-        if (shown.back().isHighSurrogate()) {
-            shown.chop(1);
-        }
-        shown += QChar(0x2026);
-    }
-    return isolated(shown);
+    return isolated(lodestar::shortened(QString::fromStdString(text), length));
 }
 
 /// The parts that there are, as sentences one after the other.
@@ -111,12 +103,16 @@ Message message(const QString& summary, const QString& body)
     return {summary.toStdString(), body.toStdString()};
 }
 
-/// "Harbour B, between 02:57 and 03:12": nobody was there when it happened.
-QString placeAndTime(const Change& change, WallTime now)
+/// "Harbour B, between 02:57 and 03:12": nobody was there when it happened. What begins with the console's name needs
+/// the time alone.
+QString placeAndTime(const Change& change, const Finding& finding, WallTime now)
 {
-    //: %1 a console, %2 and %3 times of day
-    return Words::tr("%1, between %2 and %3")
-        .arg(shortened(change.console), AgeText::moment(change.before, now), AgeText::moment(change.seen, now));
+    const QString before = AgeText::moment(change.before, now);
+    const QString seen = AgeText::moment(change.seen, now);
+    //: Times of day, as a sentence or with a console before it.
+    return finding.subject == FindingSubject::Console
+               ? Words::tr("Between %1 and %2").arg(before, seen)
+               : Words::tr("%1, between %2 and %3").arg(shortened(change.console), before, seen);
 }
 
 Message ofOffline(const Finding& finding)
@@ -176,7 +172,8 @@ Message ofOne(const Change& change, const Finding& finding, WallTime now)
     case Fault::NewEvent:
         return ofEvent(finding);
     default:
-        return message(summaryOfOne(finding), joined({shortened(finding.referenceCode), placeAndTime(change, now)}));
+        return message(summaryOfOne(finding),
+                       joined({shortened(finding.referenceCode), placeAndTime(change, finding, now)}));
     }
 }
 
@@ -196,7 +193,7 @@ QString namesOf(Fault fault, const QStringList& names)
     case Fault::PartitionStopped:
         return Words::tr("%1 stopped").arg(list);
     case Fault::LEDLit:
-        return Words::tr("%1 LED on").arg(list);
+        return Words::tr("LED on at %1").arg(list);
     case Fault::NewEvent:
         return count == 1 ? Words::tr("1 new event") : Words::tr("%Ln new events", nullptr, count);
     default:
@@ -343,7 +340,7 @@ Message ofNight(const WatchNews& news)
     const std::size_t still = news.worseNow.size();
     //: %1 as in "5 things got worse"
     return message(Words::tr("In the night, %1").arg(gotWorse(news.worse.size())),
-                   still == 0   ? Words::tr("None of them still needs attention")
+                   still == 0   ? Words::tr("None of them needs attention any more")
                    : still == 1 ? Words::tr("1 of them still needs attention")
                                 : Words::tr("%Ln of them still need attention", nullptr, static_cast<int>(still)));
 }

@@ -1,19 +1,15 @@
 // SPDX-License-Identifier: Apache-2.0
 // The passcode in a real secret service. The program starts itself anew in a session bus with a service of its own.
 #include "Application/Adapters/SystemKeychain.h"
-#include "Kit/Core/MainLoop.h"
-#include "Tests/Support/ScratchFolder.h"
+#include "Tests/Support/OwnSession.h"
 #include "Tests/Support/StoredPassword.h"
 
-#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusVirtualObject>
 #include <QProcess>
 #include <QTest>
-#include <gtest/gtest.h>
 
 #include <csignal>
-#include <string_view>
 #include <sys/wait.h>
 
 namespace lodestar
@@ -25,18 +21,6 @@ using Prompt = Keychain::Prompt;
 
 constexpr auto keyringProcess = "LODESTAR_TEST_KEYRING";
 constexpr std::chrono::milliseconds deadline{1500};
-constexpr auto busConfiguration = R"(<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
- "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
-<busconfig>
-  <type>session</type>
-  <listen>unix:tmpdir=/tmp</listen>
-  <policy context="default">
-    <allow send_destination="*" eavesdrop="true"/>
-    <allow eavesdrop="true"/>
-    <allow own="*"/>
-  </policy>
-</busconfig>
-)";
 
 /// Stands in for the desktop's prompt: takes every question and never answers. Goes as if the person had sent it away.
 class SilentPrompter final : public QDBusVirtualObject
@@ -113,14 +97,8 @@ TEST(PasscodeServiceTest, APasscodeIsKeptWholeAndALockedKeyringIsToldFromAnEmpty
 int runInSession(int argc, char** argv)
 {
     const ScratchFolder scratch;
-    const QString home = QString::fromStdString(scratch.path());
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("HOME", home);
-    environment.insert("XDG_RUNTIME_DIR", home);
     environment.remove("XDG_DATA_HOME");
-    // A bus that starts nothing by itself: another service would come for a question before ours is there, and in the
-    // place of ours when that is gone, locked and with nobody to unlock it.
-    std::ofstream(scratch.file("bus.conf")) << busConfiguration;
     const QString script =
         QStringLiteral(
             "gnome-keyring-daemon --foreground --unlock --components=secrets < <(printf '\\n') >/dev/null 2>&1 & "
@@ -128,16 +106,7 @@ int runInSession(int argc, char** argv)
             "--dest=org.freedesktop.DBus / org.freedesktop.DBus.NameHasOwner "
             "string:org.freedesktop.secrets | grep -q true && break; sleep 0.1; done; exec \"$0\" \"$@\"")
             .arg(QLatin1String(keyringProcess));
-    QStringList arguments{"--config-file", home + "/bus.conf", "--", "bash", "-c", script};
-    for (int index = 0; index < argc; ++index) {
-        arguments << QString::fromLocal8Bit(argv[index]);
-    }
-    QProcess session;
-    session.setProcessEnvironment(environment);
-    session.setProcessChannelMode(QProcess::ForwardedChannels);
-    session.start("dbus-run-session", arguments);
-    const bool finished = session.waitForFinished(90'000);
-    return finished && session.exitStatus() == QProcess::NormalExit ? session.exitCode() : 1;
+    return test::runInOwnSession(argc, argv, scratch, environment, {}, {"bash", "-c", script});
 }
 
 } // namespace
@@ -145,12 +114,5 @@ int runInSession(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    const bool lists = argc > 1 && std::string_view(argv[1]).starts_with("--gtest_list_tests");
-    if (!lists && !qEnvironmentVariableIsSet(lodestar::keyringProcess)) {
-        return lodestar::runInSession(argc, argv);
-    }
-    testing::InitGoogleTest(&argc, argv);
-    const QCoreApplication application(argc, argv);
-    const lodestar::MainLoop mainLoop;
-    return RUN_ALL_TESTS();
+    return lodestar::test::mainInOwnSession(argc, argv, lodestar::keyringProcess, &lodestar::runInSession);
 }

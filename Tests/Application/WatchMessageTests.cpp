@@ -5,10 +5,8 @@
 #include "Application/Adapters/DBusNetworkState.h"
 #include "Application/WatchMessages.h"
 #include "Inventory/Feed.h"
-#include "Kit/Core/MainLoop.h"
-#include "Tests/Support/ScratchFolder.h"
+#include "Tests/Support/OwnSession.h"
 
-#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
@@ -18,10 +16,6 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QTest>
-#include <gmock/gmock.h>
-
-#include <fstream>
-#include <string_view>
 
 namespace lodestar
 {
@@ -33,19 +27,6 @@ using testing::ElementsAre;
 using Connectivity = NetworkState::Connectivity;
 
 constexpr auto sessionVariable = "LODESTAR_TEST_MESSAGES";
-/// Starts no service by itself, so that a test says when there is one.
-constexpr auto busConfiguration = R"(<!DOCTYPE busconfig PUBLIC "-//freedesktop//DTD D-Bus Bus Configuration 1.0//EN"
- "http://www.freedesktop.org/standards/dbus/1.0/busconfig.dtd">
-<busconfig>
-  <type>session</type>
-  <listen>unix:tmpdir=/tmp</listen>
-  <policy context="default">
-    <allow send_destination="*" eavesdrop="true"/>
-    <allow eavesdrop="true"/>
-    <allow own="*"/>
-  </policy>
-</busconfig>
-)";
 const WallTime now(1'773'308'460s); // 12 March 2026, 09:41 UTC
 
 /// Without the controls around each name and text of a console.
@@ -68,7 +49,10 @@ public:
         corvel->setAddress(console);
         Finding finding;
         finding.rank = rank;
-        finding.subject = rank == FindingRank::IOServerError ? FindingSubject::IOServer : FindingSubject::System;
+        finding.subject = rank == FindingRank::IOServerError ? FindingSubject::IOServer
+                          : rank == FindingRank::ConsoleOffline || rank == FindingRank::FeedsMissing
+                              ? FindingSubject::Console
+                              : FindingSubject::System;
         finding.corvel = corvel;
         finding.console = console;
         finding.name = name;
@@ -144,7 +128,7 @@ TEST(WatchMessageTests, EveryMessageInItsWords)
     News missing;
     missing.worse(Rank::FeedsMissing, "Harbour B").on(1);
     missing.news.worseNow[0].missing = {ObjectType::LogicalPartition};
-    EXPECT_EQ(shown(missing.words()), "Harbour B: Partitions not read — Harbour B, between 03:01 and 03:12");
+    EXPECT_EQ(shown(missing.words()), "Harbour B: Partitions not read — Between 03:01 and 03:12");
 
     EXPECT_EQ(shown(News().better(ChangeKind::State, "helios-03", "operating", 42min).remain(7).words()),
               "helios-03 is operating again — Harbour B, after 42 min. 7 things remain");
@@ -307,24 +291,11 @@ int runInSession(int argc, char** argv)
 {
     const ScratchFolder scratch;
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    environment.insert("HOME", QString::fromStdString(scratch.path()));
-    environment.insert("XDG_RUNTIME_DIR", QString::fromStdString(scratch.path()));
     environment.insert("TZ", "UTC");
     environment.insert(sessionVariable, QString::fromStdString(scratch.path()));
     std::ofstream(scratch.file("markup")) << "[global]\nmarkup = full\n";
     std::ofstream(scratch.file("plain")) << "[global]\nmarkup = no\n";
-    std::ofstream(scratch.file("bus.conf")) << busConfiguration;
-    QStringList arguments{"--auto-servernum", "dbus-run-session", "--config-file",
-                          QString::fromStdString(scratch.file("bus.conf")), "--"};
-    for (int index = 0; index < argc; ++index) {
-        arguments << QString::fromLocal8Bit(argv[index]);
-    }
-    QProcess session;
-    session.setProcessEnvironment(environment);
-    session.setProcessChannelMode(QProcess::ForwardedChannels);
-    session.start("xvfb-run", arguments);
-    const bool finished = session.waitForFinished(90'000);
-    return finished && session.exitStatus() == QProcess::NormalExit ? session.exitCode() : 1;
+    return test::runInOwnSession(argc, argv, scratch, environment, {"xvfb-run", "--auto-servernum"}, {});
 }
 
 } // namespace
@@ -332,12 +303,5 @@ int runInSession(int argc, char** argv)
 
 int main(int argc, char** argv)
 {
-    const bool lists = argc > 1 && std::string_view(argv[1]).starts_with("--gtest_list_tests");
-    if (!lists && !qEnvironmentVariableIsSet(lodestar::sessionVariable)) {
-        return lodestar::runInSession(argc, argv);
-    }
-    testing::InitGoogleMock(&argc, argv);
-    const QCoreApplication application(argc, argv);
-    const lodestar::MainLoop mainLoop;
-    return RUN_ALL_TESTS();
+    return lodestar::test::mainInOwnSession(argc, argv, lodestar::sessionVariable, &lodestar::runInSession);
 }

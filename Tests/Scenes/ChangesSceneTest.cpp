@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Controllers/REST/RESTHandler.h"
 #include "Fleet/History.h"
+#include "Kit/Core/NavigationController.h"
 #include "Tests/Scenes/SceneTest.h"
 #include "Tests/Support/ScratchFolder.h"
 #include "Views/Attention/AttentionViewController.h"
@@ -96,6 +97,18 @@ TEST_F(ChangesSceneTest, ABarLeadsToItsDayByFingerAndByKeys)
     press(Qt::Key_Right);
     press(Qt::Key_Return);
     EXPECT_TRUE(isAtTop("Today"));
+
+    FindingFilter filter;
+    filter.kinds = {FindingSubject::System};
+    attention->setFilter(filter);
+    ASSERT_TRUE(stage.waitFor([this] { return text("Today") == nullptr; }));
+    click(button("Show all"));
+    EXPECT_TRUE(waitForText("Today")) << "a filter that leaves nothing offers the way out";
+    filter.kinds = {FindingSubject::Partition};
+    attention->setFilter(filter);
+    ASSERT_TRUE(waitForText("Partitions"));
+    click(button("Show all"));
+    EXPECT_TRUE(stage.waitFor([this] { return button("Show all") == nullptr; }));
 }
 
 TEST_F(ChangesSceneTest, EventsAreOrderedInASheetAndSearchedInPlaceOfTheBar)
@@ -118,16 +131,16 @@ TEST_F(ChangesSceneTest, EventsAreOrderedInASheetAndSearchedInPlaceOfTheBar)
     Attention::shared().adopt(picture);
     choose(AttentionViewController::Segment::Events);
     ASSERT_TRUE(waitForText("Approved (#1042)"));
-    EXPECT_LT(text("Approved (#1041)")->mapToScene({}).y(), text("Approved (#1042)")->mapToScene({}).y());
+    EXPECT_GT(text("Approved (#1041)")->mapToScene({}).y(), text("Approved (#1042)")->mapToScene({}).y());
 
     click(button("Order"));
     ASSERT_TRUE(waitForButton("Done"));
     stage.settle(400);
-    click(button("Newest first"));
+    click(button("As the console sends them"));
     press(Qt::Key_Escape);
     ASSERT_TRUE(stage.waitFor([this] { return button("Done") == nullptr; }));
-    ASSERT_TRUE(waitForText("Newest first: 3 of 3")) << "Escape keeps what was chosen";
-    EXPECT_GT(text("Approved (#1041)")->mapToScene({}).y(), text("Approved (#1042)")->mapToScene({}).y());
+    ASSERT_TRUE(waitForText("As the console sends them: 3 of 3")) << "Escape keeps what was chosen";
+    EXPECT_LT(text("Approved (#1041)")->mapToScene({}).y(), text("Approved (#1042)")->mapToScene({}).y());
     click(button("Reset"));
     EXPECT_TRUE(stage.waitFor([this] { return button("Reset") == nullptr; }));
 
@@ -136,6 +149,13 @@ TEST_F(ChangesSceneTest, EventsAreOrderedInASheetAndSearchedInPlaceOfTheBar)
     type("#104");
     EXPECT_TRUE(stage.waitFor([this] { return text("Approved (#1029)") == nullptr; }));
     EXPECT_TRUE(waitForText("Approved (#1041)"));
+    const NavigationController& stack = *attention->navigationController();
+    click(text("Approved (#1041)"));
+    ASSERT_TRUE(stage.waitFor([&] { return stack.topViewController() != attention; }));
+    stack.topViewController()->goBack();
+    const auto field = [this] { return stage.items("FleetEventsSearch"); };
+    ASSERT_TRUE(stage.waitFor([&] { return !field().empty() && waitForText("Approved (#1042)"); }));
+    EXPECT_EQ(field().front()->property("text"), "#104") << "a search goes on after a look at an event";
     press(Qt::Key_Escape);
     EXPECT_TRUE(waitForText("Approved (#1029)"));
     EXPECT_TRUE(waitForButton("Order"));

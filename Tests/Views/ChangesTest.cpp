@@ -8,6 +8,8 @@
 
 #include <QRegularExpression>
 
+#include <fstream>
+
 namespace lodestar::testing
 {
 namespace
@@ -195,8 +197,18 @@ TEST_F(ChangesTest, FollowsConsolesThatAreLostFoundFilteredAndDeleted)
     filter.consoles = {harbour.get()};
     changes->setFilter(filter);
     comesTo({"Today 1", both[1]});
+    EXPECT_EQ(changes->footerForSection(TableKind::Main, 0), "2 more changes are not shown.");
+    filter.kinds = {FindingSubject::Console, FindingSubject::Event};
+    changes->setFilter(filter);
+    comesTo({"Nothing left to show\n3 more changes are not shown."});
+    EXPECT_EQ(changes->filterText().split(", ").first(), "Consoles") << "the way out stands there, too";
+    filter.consoles.clear();
+    changes->setFilter(filter);
+    comesTo({"Today 2", both[2], both[3]});
+    EXPECT_EQ(changes->footerForSection(TableKind::Main, 0), "1 more change is not shown.");
     changes->setFilter({});
     comesTo(both);
+    EXPECT_EQ(changes->footerForSection(TableKind::Main, 0) + changes->filterText(), "");
 
     // Out of sight, nothing is asked for; what happened meanwhile is there on return.
     changes->endAppearance();
@@ -211,6 +223,21 @@ TEST_F(ChangesTest, FollowsConsolesThatAreLostFoundFilteredAndDeleted)
     History::shared().forget("b");
     comesTo({"Changes show after the second reading."});
     EXPECT_TRUE(changes->bars()->isHidden());
+}
+
+TEST_F(ChangesTest, AHistoryThatWasSetAsideIsSaidAndNamesOfAnyKindStayInTheirRow)
+{
+    History::shared().close();
+    std::ofstream(m_documents.file("History.sqlite")) << std::string(5000, 'x');
+    History::shared().open(m_documents.path());
+    const std::string note = "What changed before could not be read. The damaged file was set aside.";
+    comesTo({"Changes show after the second reading.\n" + note});
+    const CorvelRef corvel = addCorvel("Harbour\nB", "b");
+    for (const char* const state : {"operating", "error"}) {
+        read(corvel, now, {{"ManagedSystem", system("&lt;b&gt;x&lt;/b&gt;\n" + std::string(400, 'y'), state)}});
+    }
+    comesTo({"Today 1", "at_worse|<b>x</b> " + std::string(291, 'y') + "|operating → error|09:41|Harbour B >"});
+    EXPECT_EQ(changes->footerForSection(TableKind::Main, 0).toStdString(), note);
 }
 
 } // namespace

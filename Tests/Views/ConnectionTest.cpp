@@ -57,6 +57,7 @@ TEST_F(ConnectionTest, AConsoleThatAnsweredInFullShowsWhereTheTimeWent)
     report(corvel, complete());
     EXPECT_EQ(verdict(), "Online, Everything was read 2 min ago, in 0.94 s.");
     EXPECT_EQ(titles(), "|Last attempt|Feeds|Certificate");
+    EXPECT_TRUE(section("").refreshes);
     EXPECT_THAT(rows("Last attempt"), ElementsAre("Name, 192.0.2.12, 4 ms", "Connect, port 12443, 12 ms",
                                                   "TLS, 1.3, certificate as before, 31 ms",
                                                   "Session check, 200, key accepted, 48 ms", "Logon, not needed"));

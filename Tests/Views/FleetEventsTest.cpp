@@ -27,14 +27,15 @@ std::string secondsBefore(seconds ago)
 }
 
 std::string event(const std::string& number, const std::string& state, const std::string& callHome,
-                  const std::string& code, seconds ago, const std::string& text)
+                  const std::string& code, seconds ago, const std::string& text, const std::string& system = "")
 {
     return entry("ServiceableEvent",
                  fmt::format("<problemNumber>{}</problemNumber><ApprovalState>Approved</ApprovalState><problemState>{}"
                              "</problemState><callHomeEnabled>{}</callHomeEnabled><referenceCode>{}</referenceCode>"
                              "<firstReportedTimestamp>{}</firstReportedTimestamp><lastReportedTimestamp>{}"
-                             "</lastReportedTimestamp><shortDescription>{}</shortDescription>",
-                             number, state, callHome, code, secondsBefore(ago), secondsBefore(ago), text));
+                             "</lastReportedTimestamp><shortDescription>{}</shortDescription><failingManagedSystemNode>"
+                             "<hostName>{}</hostName></failingManagedSystemNode>",
+                             number, state, callHome, code, secondsBefore(ago), secondsBefore(ago), text, system));
 }
 
 class FleetEventsTest : public ListTest
@@ -49,7 +50,7 @@ protected:
         events->setHost(*host);
         events->loadViewIfNeeded();
         show({{harbour, Reading::Outcome::Complete,
-               event("1042", "Open", "true", "X417-2208", minutes(2), "Power supply") +
+               event("1042", "Open", "true", "X417-2208", minutes(2), "Power supply", "helios-03") +
                    event("1019", "Closed", "false", "", hours(24 * 40), "Fan")},
               {ridgeway, Reading::Outcome::Partial, "NA"},
               {meadow, Reading::Outcome::Complete,
@@ -57,7 +58,7 @@ protected:
                    event("1029", "Open", "true", "X417-2208", hours(44), "Supply")},
               {northfield, Reading::Outcome::Offline, event("7", "Open", "true", "X1", hours(1), "Old")}});
         events->beginAppearance();
-        comesTo({"Approved (#1042)", "Approved (#1019)", "Approved (#1041)", "Approved (#1029)"});
+        comesTo({"Approved (#1042)", "Approved (#1041)", "Approved (#1029)", "Approved (#1019)"});
     }
     ~FleetEventsTest() override
     {
@@ -131,12 +132,12 @@ TEST_F(FleetEventsTest, ShowsWhatAnsweringConsolesHaveAndSaysWhatIsMissing)
     EXPECT_EQ(cell.seconds.toStdString(), secondsBefore(minutes(2)));
     EXPECT_EQ(plain(cell.status), "Open, call home");
     EXPECT_EQ(cell.console, "Harbour B");
-    EXPECT_EQ(cellAt<FleetEventCell>(*events, 2).moment, "yesterday 19:43");
+    EXPECT_EQ(cellAt<FleetEventCell>(*events, 1).moment, "yesterday 19:43");
     EXPECT_EQ(events->bars()->days().size(), 14);
     EXPECT_EQ(events->bars()->chart()->accessibleText(), "New Events a Day, 14 days, today 1");
     EXPECT_EQ(events->bars()->days().at(12), "11 Mar 1");
 
-    events->didSelectRowAtIndexPath(TableKind::Main, {0, 3});
+    events->didSelectRowAtIndexPath(TableKind::Main, {0, 2});
     EXPECT_EQ(openedScene, "serviceableEventsDetail");
     EXPECT_EQ(input<XMLElement>().path({"problemNumber"}).text(), "1029");
 }
@@ -149,8 +150,6 @@ TEST_F(FleetEventsTest, TheSheetOrdersAndChoosesAtOnceAndAResetShowsAllAgain)
     ASSERT_TRUE(sheet);
     EXPECT_EQ(sheet->openCount(), 3);
     EXPECT_EQ(sheet->callHomeCount(), 2);
-    EXPECT_EQ(sheet->allConsoles(), "All 4 consoles");
-    EXPECT_FALSE(sheet->isSearchable());
     sheet->setOrder(3);
     sheet->setOpenOnly(true);
     choiceComesTo("By reference code, open: 3 of 4");
@@ -159,24 +158,28 @@ TEST_F(FleetEventsTest, TheSheetOrdersAndChoosesAtOnceAndAResetShowsAllAgain)
     sheet->setOpenOnly(false);
     choiceComesTo("By reference code: 4 of 4");
     EXPECT_EQ(lines().at(5), "no reference code/Fan/1");
-    sheet->setOrder(1);
-    sheet->chooseConsole(2);
-    choiceComesTo("Newest first, Meadow: 2 of 4");
-    EXPECT_THAT(lines(), ElementsAre("Approved (#1041)", "Approved (#1029)"));
-    EXPECT_EQ(sheet->console(), 2);
-    sheet->searchConsoles("EAD");
-    EXPECT_EQ(sheet->consoles(), QStringList("Meadow"));
-    EXPECT_EQ(sheet->console(), 0) << "its place among those found";
+    sheet->setOrder(0);
+    choiceComesTo("As the console sends them: 4 of 4");
+    comesTo({"Approved (#1042)", "Approved (#1019)", "Approved (#1041)", "Approved (#1029)"});
+    sheet->reset();
+    choiceComesTo("");
 
-    // The chosen console is deleted: the choice goes with it.
+    // What the tab's filter leaves out is said here, too.
+    FindingFilter filter;
+    filter.consoles = {meadow.get()};
+    events->setFilter(filter);
+    choiceComesTo("Newest first, Meadow: 2 of 4");
+    comesTo({"Approved (#1041)", "Approved (#1029)"});
+    events->setFilter({});
     show({{harbour, Reading::Outcome::Complete, event("1042", "Open", "true", "", minutes(2), "Power supply")}});
-    choiceComesTo("Newest first: 1 of 1");
-    EXPECT_THAT(lines(), ElementsAre("Approved (#1042)"));
     events->setChoice({.order = EventOrder::AsSent, .openOnly = false, .callHomeOnly = true, .consoles = {}});
     choiceComesTo("As the console sends them, call home: 1 of 1");
     show({{harbour, Reading::Outcome::Complete, event("1042", "Open", "false", "", minutes(2), "Power supply")}});
     comesTo({});
     EXPECT_EQ(events->emptyText(), "Nothing left to show");
+    AgeClock::setNow(now + hours(20)); // yesterday from now on
+    runUntil([&] { return events->bars()->days().at(12) == "12 Mar 1"; }, seconds(10));
+    EXPECT_EQ(events->bars()->days().at(12), "12 Mar 1");
     sheet->reset();
     sheet->done();
     comesTo({"Approved (#1042)"});
@@ -191,6 +194,23 @@ TEST_F(FleetEventsTest, ASearchGoesOnInAListThatChangesUnderIt)
     events->searchBar()->setText("#104");
     EXPECT_THAT(lines(TableKind::SearchResults), ElementsAre("Approved (#1042)", "Approved (#1041)"));
     EXPECT_EQ(cellAt<FleetEventCell>(*events, 1, TableKind::SearchResults).title.match, "#104");
+    const std::pair<const char*, const char*> fields[] = {{"x417-22", "X417-2208"},
+                                                          {"power", "Power supply"},
+                                                          {"HELIOS", "helios-03"},
+                                                          {"harbour", ""},
+                                                          {"zephyr", "nothing"}};
+    for (const auto& [searched, found] : fields) {
+        SCOPED_TRACE(searched);
+        events->searchBar()->setText(searched);
+        if (lines(TableKind::SearchResults).empty()) {
+            EXPECT_STREQ(found, "nothing");
+            continue;
+        }
+        const auto cell = cellAt<FleetEventCell>(*events, 0, TableKind::SearchResults);
+        EXPECT_EQ(cell.title.text, "Approved (#1042)");
+        EXPECT_EQ(cell.found.text, found) << "what matched, where the row does not say it anyway";
+    }
+    events->searchBar()->setText("#104");
     show({{meadow, Reading::Outcome::Complete,
            event("1040", "Open", "true", "", hours(1), "Fan") + event("99", "Open", "true", "", hours(1), "Fan")}});
     comesTo({"Approved (#1040)"}, TableKind::SearchResults);

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Fleet/Watch.h"
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/Toasts.h"
 #include "Tests/Views/ReadingFixture.h"
@@ -251,6 +252,20 @@ TEST_F(MarksTest, TheDashboardTellsHowCompleteItsFiguresAreAndNotWhatWasReadLate
     EXPECT_EQ(marks.foot(), "Read 09:41 to 09:43.");
     AgeClock::setNow(morning + 2h);
     EXPECT_TRUE(marks.isOld());
+
+    // The watch goes by the device's clock.
+    AgeClock::setNow({});
+    WatchSettings settings;
+    settings.on = true;
+    Watch::shared().setSettings(settings);
+    Watch::shared().start();
+    AgeClock::setNow({});
+    EXPECT_THAT(marks.foot().toStdString(), EndsWith(". Next in 15 min."));
+    AgeClock::setNow(std::chrono::system_clock::now() + 14min + 30s);
+    EXPECT_THAT(marks.foot().toStdString(), EndsWith(". Next in 1 min."));
+    Watch::shared().stop();
+    Watch::shared().setSettings({});
+    EXPECT_THAT(marks.foot().toStdString(), ::testing::Not(HasSubstr("Next")));
 }
 
 TEST_F(MarksTest, ARowsMenuSaysWhatIsWrongAndCopiesTheAddress)

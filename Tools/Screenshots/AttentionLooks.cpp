@@ -113,7 +113,7 @@ Prepare changes(Night night)
     };
 }
 
-Prepare events(EventChoice choice = {})
+Prepare events(EventChoice choice = wholeList)
 {
     return [choice = std::move(choice)](SceneStage& stage) {
         showNight(stage, Night::Morning);
@@ -127,6 +127,13 @@ std::vector<Look> segmentLooks()
     return {
         {"changes", {}, changes(Night::Morning), true},
         {"changes-end", {}, atEnd(changes(Night::Morning))},
+        {"changes-filtered",
+         {},
+         [](SceneStage& stage) {
+             changes(Night::Morning)(stage);
+             showAttention(stage.tabs())->setFilter(systemsAndTheirs());
+             openAttention(stage, Segment::Changes);
+         }},
         {"changes-empty",
          {},
          [](SceneStage& stage) {
@@ -143,6 +150,15 @@ std::vector<Look> segmentLooks()
              list.search();
              list.searchBar()->setText("104");
          }},
+        {"triage-search-code",
+         {},
+         [](SceneStage& stage) {
+             showNight(stage, Night::Morning);
+             FleetEventsViewController& list = *openAttention(stage, Segment::Events).events();
+             list.search();
+             list.searchBar()->setText("x417");
+         },
+         true},
         {"triage-menu",
          {},
          [byCode](SceneStage& stage) {

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Controllers/REST/RESTHandler.h"
 #include "Fleet/Registry.h"
+#include "Fleet/Watch.h"
 #include "Tools/Screenshots/Looks.h"
 #include "Tools/Screenshots/NightFleet.h"
 
@@ -41,6 +42,20 @@ void openDashboard(SceneStage& stage)
     stage.settle(1900);
 }
 
+/// The dashboard while the watch is on, which says when it reads again.
+void openWatchedDashboard(SceneStage& stage)
+{
+    showNight(stage, Night::Morning);
+    WatchSettings settings;
+    settings.on = true;
+    Watch::shared().setSettings(settings);
+    Watch::shared().start();
+    stage.showDashboard();
+    stage.waitFor([&] { return !stage.dashboard().corvelOnlineCount()->isHidden(); });
+    stage.settle(1900);
+    Watch::shared().stop(); // nothing is read behind the pictures; what is written stays until the clock ticks
+}
+
 } // namespace
 
 std::vector<Look> connectionLooks()
@@ -73,6 +88,7 @@ std::vector<Look> connectionLooks()
         {"consoles-menu", {}, menu, true},
         {"dashboard-age", {}, openDashboard, true},
         {"dashboard-age-end", {}, atEnd(openDashboard)},
+        {"dashboard-age-watched", {}, openWatchedDashboard},
         {"list-age",
          {},
          [](SceneStage& stage) {

@@ -6,6 +6,7 @@
 #include "Fleet/History.h"
 #include "Fleet/Readings.h"
 #include "Fleet/Registry.h"
+#include "Fleet/Watch.h"
 #include "Simulator/FeedWriter.h"
 #include "Simulator/Story.h"
 #include "Tools/Screenshots/NightReading.h"
@@ -251,6 +252,7 @@ void showFleet(SceneStage& stage, int fleet, const std::function<std::vector<Cor
     static std::optional<int> shown;
     static std::vector<CorvelRef> records;
     setMorningClock(true);
+    Watch::shared().setSettings({});
     if (shown != fleet) {
         History::shared().forgetAll();
         Readings::shared().forgetAll();

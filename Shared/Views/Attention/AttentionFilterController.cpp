@@ -3,12 +3,13 @@
 
 #include "Controllers/REST/RESTHandler.h"
 #include "Views/Attention/FindingText.h"
-#include "Views/Common/CellText.h"
+#include "Views/Common/FeedName.h"
 
 #include <QLocale>
 
 #include <algorithm>
 #include <array>
+#include <set>
 #include <utility>
 
 namespace lodestar
@@ -113,7 +114,8 @@ void AttentionFilterController::count()
 void AttentionFilterController::show()
 {
     const std::vector<CorvelRef>& corvels = RESTHandler::sharedInstance().corvelList();
-    std::erase_if(m_order, [&](const CorvelRef& each) { return std::ranges::find(corvels, each) == corvels.end(); });
+    const std::set<CorvelRef> registered(corvels.begin(), corvels.end());
+    std::erase_if(m_order, [&](const CorvelRef& each) { return !registered.contains(each); });
     const std::set<const Corvel*> chosen = m_host.filter().consoles;
     const QString searched = m_searchText.trimmed();
     m_found.clear();
@@ -124,7 +126,7 @@ void AttentionFilterController::show()
         rows.push_back({all, number(Attention::shared().picture()->findings.list.size()), chosen.empty()});
     }
     for (const CorvelRef& each : m_order) {
-        const QString name = textOf(each->name());
+        const QString name = rowText(each->name().value_or(""));
         if (searched.isEmpty() || name.contains(searched, Qt::CaseInsensitive)) {
             m_found.push_back(each);
             rows.push_back({name, number(m_consoleCounts[each.get()]), chosen.contains(each.get())});

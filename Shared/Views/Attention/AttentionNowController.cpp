@@ -2,7 +2,10 @@
 #include "Views/Attention/AttentionNowController.h"
 
 #include "Controllers/REST/RESTHandler.h"
+#include "Fleet/AttentionTable.h"
 #include "Kit/Core/NavigationController.h"
+#include "Platform/Queues/DispatchQueue.h"
+#include "Platform/Queues/MainQueue.h"
 #include "Views/Attention/FindingRows.h"
 #include "Views/Attention/FindingText.h"
 #include "Views/Attention/FoldedListController.h"
@@ -24,6 +27,9 @@ namespace
 constexpr double rowHeight = 44;
 constexpr double separatorLeft = 10;
 constexpr double separatorRight = 15;
+
+/// So many findings are put into rows within a frame, so that a filter works at once. More are, elsewhere.
+constexpr std::size_t mostAtOnce = 2000;
 
 bool isComplete(const FleetReading& fleet)
 {
@@ -77,7 +83,7 @@ void AttentionNowController::viewDidDisappear()
 void AttentionNowController::filterDidChange()
 {
     if (isInWindow()) {
-        rebuild();
+        rebuild(m_picture);
     }
 }
 
@@ -85,15 +91,36 @@ void AttentionNowController::follow()
 {
     m_tableView.whenUntouched([this] {
         if (isInWindow()) { // Else it follows when it appears.
-            m_picture = Attention::shared().picture();
-            rebuild();
+            rebuild(Attention::shared().picture());
         }
     });
 }
 
-void AttentionNowController::rebuild()
+void AttentionNowController::rebuild(const std::shared_ptr<const Attention::Picture>& picture)
 {
-    m_view = viewOf(m_picture->findings, filter(), m_picture->consoles.size(), m_whole);
+    const int turn = ++m_turn;
+    const auto make = [picture, filter = filter(), whole = m_whole] {
+        return viewOf(picture->findings, filter, picture->consoles.size(), whole);
+    };
+    if (picture->findings.list.size() <= mostAtOnce) {
+        adopt(picture, make());
+        return;
+    }
+    DispatchQueue::globalBackground().async([screen = self<AttentionNowController>(), turn, picture, make] {
+        MainQueue::shared().async([screen, turn, picture, view = make()]() mutable {
+            screen->m_tableView.whenUntouched([screen, turn, picture, view = std::move(view)]() mutable {
+                if (screen->m_turn == turn) {
+                    screen->adopt(picture, std::move(view));
+                }
+            });
+        });
+    });
+}
+
+void AttentionNowController::adopt(std::shared_ptr<const Attention::Picture> picture, FindingView view)
+{
+    m_picture = std::move(picture);
+    m_view = std::move(view);
     showTexts();
     m_tableView.reloadRows();
 }
@@ -201,6 +228,37 @@ bool AttentionNowController::groupsByConsole() const
     return !m_view.groups.empty() && m_view.groups.front().corvel != nullptr;
 }
 
+Table AttentionNowController::shownTable() const
+{
+    if (m_picture == nullptr) {
+        return {};
+    }
+    // What stands behind "Show all" is part of the list, too.
+    std::set<std::uintptr_t> all;
+    for (const FindingGroup& each : m_view.groups) {
+        all.insert(identityOf(each));
+    }
+    const Findings& findings = m_picture->findings;
+    const FindingView whole = viewOf(findings, filter(), m_picture->consoles.size(), all);
+    std::vector<std::uint32_t> rows;
+    std::vector<bool> isListed(findings.list.size());
+    const auto list = [&](std::uint32_t finding) {
+        rows.push_back(finding);
+        isListed[finding] = true;
+    };
+    for (const FindingGroup& each : whole.groups) {
+        for (const FindingRow& row : each.rows) {
+            std::ranges::for_each(row.findings, list);
+        }
+    }
+    for (std::uint32_t i = 0; whole.moreConsoles > 0 && i < findings.list.size(); ++i) {
+        if (!isListed[i] && filter().shows(findings.list[i])) {
+            list(i);
+        }
+    }
+    return tableOfFindings(findings, rows);
+}
+
 int AttentionNowController::numberOfSections(TableKind /*tableView*/) const
 {
     return static_cast<int>(m_view.groups.size());
@@ -213,7 +271,7 @@ int AttentionNowController::numberOfRowsInSection(TableKind /*tableView*/, int s
 
 std::optional<QString> AttentionNowController::titleForHeaderInSection(TableKind /*tableView*/, int section) const
 {
-    return groupsByConsole() ? QString::fromStdString(group(section).console) : FindingText::band(group(section).band);
+    return groupsByConsole() ? rowText(group(section).console) : FindingText::band(group(section).band);
 }
 
 QString AttentionNowController::detailForHeaderInSection(TableKind /*tableView*/, int section) const
@@ -280,7 +338,7 @@ void AttentionNowController::didSelectRowAtIndexPath(TableKind /*tableView*/, In
         m_tableView.deselectRow(indexPath);
     } else {
         m_whole.insert(identityOf(group(indexPath.section)));
-        rebuild();
+        rebuild(m_picture);
     }
 }
 

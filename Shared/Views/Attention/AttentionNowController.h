@@ -63,6 +63,7 @@ public:
     const QString& announcement() const { return m_announcement; }
     Look look() const { return m_look; }
 
+    Table shownTable() const override;
     int numberOfSections(TableKind tableView) const override;
     int numberOfRowsInSection(TableKind tableView, int section) const override;
     std::optional<QString> titleForHeaderInSection(TableKind tableView, int section) const override;
@@ -92,7 +93,9 @@ private:
     const FindingRow* rowAt(IndexPath indexPath) const;
     void openRow(const FindingRow& row);
     void follow();
-    void rebuild();
+    /// Makes the rows of the picture, here or elsewhere, and adopts both together.
+    void rebuild(const std::shared_ptr<const Attention::Picture>& picture);
+    void adopt(std::shared_ptr<const Attention::Picture> picture, FindingView view);
     void showTexts();
     void showNothing();
     Look lookNow() const;
@@ -101,6 +104,7 @@ private:
 
     std::shared_ptr<const Attention::Picture> m_picture;
     FindingView m_view;
+    int m_turn = 0;                   ///< of the last rebuilding, the only one that is shown
     std::set<std::uintptr_t> m_whole; ///< groups of which a person wanted to see all
     /// Keys of the errors and of consoles that do not answer, at the last reading that ended.
     std::optional<std::set<std::size_t>> m_known;

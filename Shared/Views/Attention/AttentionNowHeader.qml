@@ -38,7 +38,7 @@ Column {
         visible: header.summed && !label.hidden
         x: header.side
         width: header.width - 2 * x
-        height: line.height + 2
+        height: words.height + 2
         Accessible.role: Accessible.StaticText
         Accessible.name: label.text
 
@@ -47,9 +47,9 @@ Column {
 
             visible: !header.controller.completenessMark.hidden
             name: header.controller.completenessMark.imageName
-            color: line.color
+            color: words.color
             x: Theme.mirrored ? parent.width - width : 0
-            y: 2 + (line.lineHeight - height) / 2
+            y: 2 + (words.lineHeight - height) / 2
         }
         Spinner {
             id: spinner
@@ -57,11 +57,11 @@ Column {
             outlet: header.controller.updatingIndicator
             size: Math.round(16 * Theme.badgeScale)
             x: Theme.mirrored ? parent.width - width : 0
-            y: 2 + (line.lineHeight - height) / 2
+            y: 2 + (words.lineHeight - height) / 2
             Accessible.ignored: true
         }
         Label {
-            id: line
+            id: words
 
             text: completeness.label.text
             size: Theme.captionSize
@@ -76,33 +76,14 @@ Column {
     Item {
         visible: header.filtered
         width: header.width
-        height: Math.max(Theme.target, chosen.height) - 8
+        height: line.height - 8
 
-        Label {
-            id: chosen
+        ChosenLine {
+            id: line
 
             text: header.controller.filterLabel.text
-            size: Theme.captionSize
-            color: Theme.ink2
-            anchors.left: parent.left
-            anchors.leftMargin: header.side
-            anchors.right: all.left
-            anchors.rightMargin: 8
-            y: Math.max(0, (Theme.target - height) / 2)
-            wrapMode: Text.Wrap
-            Accessible.role: Accessible.StaticText
-            Accessible.name: text
-        }
-        PlainButton {
-            id: all
-
-            text: qsTr("Show all")
-            size: Theme.stateSize
-            leftPadding: 8
-            rightPadding: 8
-            anchors.right: parent.right
-            anchors.rightMargin: Theme.sideMargin(header.width, Theme.measure)
-            onClicked: header.attention.showAll()
+            width: parent.width
+            onAction: header.attention.showAll()
         }
     }
     // Below the last card it would be, if there were a card.
@@ -127,7 +108,7 @@ Column {
         Column {
             id: nothing
 
-            y: 20
+            y: 32
             width: Math.min(280 * Theme.textScale, parent.width - 80)
             anchors.horizontalCenter: parent.horizontalCenter
 

@@ -12,6 +12,12 @@ PageScaffold {
     readonly property AttentionViewController attention: controller as AttentionViewController
     readonly property int segment: attention.segmentedControl.selectedSegmentIndex
     readonly property bool sheetUp: attention.semiModal !== null
+    /// Rows that are seen, headings included.
+    readonly property int rows: segment === 0 ? attention.now.tableView.rows
+                                              : segment === 1 ? attention.changes.tableView.rows
+                                                              : (searching && attention.events.searchBar.text !== ""
+                                                                 ? attention.events.searchResultsTableView
+                                                                 : attention.events.tableView).rows
     readonly property bool searching: segment === 2 && events.content !== null && events.content.searching
 
     bar: Item {
@@ -28,14 +34,29 @@ PageScaffold {
             height: scene.searching ? Theme.barHeight : Theme.rootBarHeight
 
             RootBar {
+                id: rootBar
+
                 anchors.fill: parent
                 visible: !scene.searching
                 controller: scene.controller
+                onTitleHeld: share.offer()
                 trailing: [
+                    ListShareButton {
+                        id: share
+
+                        share: scene.attention.share
+                        offered: scene.visible && !scene.sheetUp && scene.rows > 0
+                        hasRoom: rootBar.fits(scene.segment === 2 ? 5 : 4)
+                    },
                     Loader {
                         id: eventsBar
 
                         visible: scene.segment === 2
+                    },
+                    // Beside the events' own search, the same picture would mean two things.
+                    FindButton {
+                        screen: scene.controller
+                        visible: scene.segment !== 2
                     },
                     AttentionWatchButton {
                         outlet: scene.attention.watchLabel
@@ -52,7 +73,6 @@ PageScaffold {
 
                 anchors.fill: parent
                 visible: scene.searching
-                // Each search begins with an empty field that has the keyboard.
                 onVisibleChanged: {
                     if (visible) {
                         setSource("FleetEventsSearch.qml", {"controller": scene.attention.events});

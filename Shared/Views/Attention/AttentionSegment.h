@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Fleet/Csv.h"
 #include "Fleet/FindingBands.h"
 #include "Kit/Core/ViewController.h"
 
@@ -20,6 +21,9 @@ public:
     /// The screen to open other screens from and to present sheets on; outlives the segment's use. Set once.
     ViewController& host() { return *m_host; }
     void setHost(ViewController& host) { m_host = &host; }
+
+    /// The rows, as a table for scripts and spreadsheets.
+    virtual Table shownTable() const = 0;
 
     /// What a person chose to see in the segments; by default everything.
     const FindingFilter& filter() const { return m_filter; }

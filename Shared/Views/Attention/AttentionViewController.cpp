@@ -9,6 +9,7 @@
 #include "Views/Attention/AttentionFilterController.h"
 #include "Views/Attention/WatchText.h"
 #include "Views/Common/Scenes.h"
+#include "Views/Common/TabRoot.h"
 #include "Views/Corvels/CorvelListViewController.h"
 
 #include <QPointer>
@@ -23,19 +24,6 @@ namespace
 
 constexpr double filterHeight = 520;
 constexpr std::size_t mostCounted = 99;
-
-/// The first screen of the tab whose first screen is such a controller, and the tab's number; null and -1 for none.
-template <typename Controller>
-std::pair<Controller*, int> rootOf(const TabBarController& tabs)
-{
-    for (int index = 0; index < tabs.count(); ++index) {
-        const auto* const stack = qobject_cast<NavigationController*>(tabs.controllerAt(index));
-        if (auto* const root = qobject_cast<Controller*>(stack != nullptr ? stack->rootViewController() : nullptr)) {
-            return {root, index};
-        }
-    }
-    return {nullptr, -1};
-}
 
 TabBadge badgeOf(const QString& title, std::size_t count)
 {
@@ -101,6 +89,13 @@ AttentionSegment& AttentionViewController::segment() const
     }
 }
 
+QString AttentionViewController::shareName() const
+{
+    // The first segment is the tab itself.
+    //: The name of a file: the tab "Attention" and what of it
+    return &segment() == m_now.get() ? title() : tr("%1, %2").arg(title(), segment().title());
+}
+
 void AttentionViewController::showSegment()
 {
     if (!isInWindow() || m_shown == &segment()) {
@@ -108,6 +103,7 @@ void AttentionViewController::showSegment()
     }
     if (AttentionSegment* const before = std::exchange(m_shown, &segment())) {
         before->endAppearance();
+        m_events->searchBar()->cancel();
     }
     m_shown->beginAppearance();
 }
@@ -124,6 +120,14 @@ void AttentionViewController::setFilter(FindingFilter filter)
 void AttentionViewController::showAll()
 {
     setFilter({.grouping = m_filter.grouping, .kinds = {}, .consoles = {}});
+}
+
+void AttentionViewController::showAllEvents()
+{
+    m_events->resetChoice();
+    FindingFilter filter = m_filter;
+    filter.consoles.clear();
+    setFilter(std::move(filter));
 }
 
 void AttentionViewController::dropDeletedConsoles()

@@ -8,6 +8,7 @@
 #include "Views/Attention/AttentionNowController.h"
 #include "Views/Attention/ChangesViewController.h"
 #include "Views/Attention/FleetEventsViewController.h"
+#include "Views/Common/ListShare.h"
 
 #include <array>
 #include <memory>
@@ -29,6 +30,7 @@ class AttentionViewController : public lodestar::ViewController
     Q_PROPERTY(lodestar::AttentionNowController* now READ now CONSTANT)
     Q_PROPERTY(lodestar::ChangesViewController* changes READ changes CONSTANT)
     Q_PROPERTY(lodestar::FleetEventsViewController* events READ events CONSTANT)
+    Q_PROPERTY(lodestar::ListShare* share READ share CONSTANT)
     Q_PROPERTY(bool filtered READ isFiltered NOTIFY filterChanged)
 
 public:
@@ -40,6 +42,8 @@ public:
     RefreshControl* refreshControl() { return &m_refreshControl; }
     /// "off", or how often the watch reads.
     LabelOutlet* watchLabel() { return &m_watchLabel; }
+    /// The rows of the segment that is seen.
+    ListShare* share() { return &m_share; }
     AttentionNowController* now() const { return m_now.get(); }
     ChangesViewController* changes() const { return m_changes.get(); }
     FleetEventsViewController* events() const { return m_events.get(); }
@@ -49,6 +53,8 @@ public:
     bool isFiltered() const { return m_filter.isSet(); }
     /// Shows all again; the grouping stays.
     Q_INVOKABLE void showAll();
+    /// Shows the events of all consoles again, the newest first.
+    Q_INVOKABLE void showAllEvents();
 
     /// Handles a pull to refresh: reads every console again. Rows stay as they are until a reading has ended.
     void refresh();
@@ -67,6 +73,7 @@ protected:
 
 private:
     AttentionSegment& segment() const;
+    QString shareName() const;
     void showSegment();
     void showWatch();
     void dropDeletedConsoles();
@@ -80,6 +87,7 @@ private:
     RefreshControl m_refreshControl;
     LabelOutlet m_watchLabel;
     std::vector<NotificationCenter::Observation> m_observations;
+    ListShare m_share{[this] { return shareName(); }, [this] { return segment().shownTable(); }};
 };
 
 /// Shows the tab Attention of these tabs, its segment Now, as its first screen. Null when the tabs have none.

@@ -23,7 +23,7 @@ struct Words {
 
 QString isolatedText(const std::string& text)
 {
-    return isolated(QString::fromStdString(text));
+    return isolated(rowText(text));
 }
 
 /// An event's title says its number and what became of it, its sentence what it is about.
@@ -34,7 +34,9 @@ bool isOfEvent(const Change& change)
 
 QString nameOf(const Change& change)
 {
-    const QString number = isolatedText(change.name);
+    // Digits keep their way by themselves, and the typeface lacks the isolates' controls.
+    const bool digits = std::ranges::all_of(change.name, [](char each) { return each >= '0' && each <= '9'; });
+    const QString number = digits ? rowText(change.name) : isolatedText(change.name);
     switch (change.kind) {
     case ChangeKind::EventOpened:
         return Words::tr("#%1 opened").arg(number);
@@ -46,7 +48,7 @@ QString nameOf(const Change& change)
     if (change.object.type == ObjectType::ServiceableEvent && !isOfConsole(change)) {
         return Words::tr("#%1").arg(number);
     }
-    return QString::fromStdString(isOfConsole(change) ? change.console : change.name);
+    return rowText(isOfConsole(change) ? change.console : change.name);
 }
 
 /// The arrow keeps its way in every language: what was stands at its blunt end. Nothing is isolated where that would
@@ -177,7 +179,7 @@ FindingCell ChangeText::cellOf(const std::vector<Change>& changes, const ChangeR
     cell.name = row.isFolded() ? countOf(first, static_cast<int>(row.changes.size())) : nameOf(first);
     cell.sentence = sameWords ? sentenceOf(first) : QString();
     cell.age = AgeText::clock(first.seen);
-    cell.console = isOfConsole(first) ? QString() : QString::fromStdString(first.console);
+    cell.console = isOfConsole(first) ? QString() : rowText(first.console);
     cell.leadsOn = leadsOn;
     if (first.sense != ChangeSense::Neutral) {
         const bool worse = first.sense == ChangeSense::Worse;

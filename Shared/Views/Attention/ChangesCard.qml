@@ -23,8 +23,8 @@ Item {
         spacing: 6
 
         Rectangle {
-            width: 9
-            height: 9
+            width: Math.round(9 * Theme.badgeScale)
+            height: width
             radius: 2
             color: key.color
             anchors.verticalCenter: parent.verticalCenter

@@ -5,7 +5,8 @@ import QtQuick
 import Lodestar.Kit
 import Lodestar.Views
 
-/// The segment Changes: bars of 30 days over the changes by day. A bar leads to its day.
+/// The segment Changes: bars of 30 days over the changes by day, as far as the tab's filter shows them. A bar leads to
+/// its day.
 FocusScope {
     id: content
 
@@ -24,17 +25,27 @@ FocusScope {
         visible: content.controller.emptyText === ""
         focus: true
         anchors.fill: parent
-        lineSpace: card.height
+        lineSpace: header.height
 
         // Lies in the margin instead of a header: in Qt 6.4 a list makes no header of a bound component.
-        ChangesCard {
-            id: card
+        Column {
+            id: header
 
             parent: table.flickable.contentItem
-            bars: content.controller.bars
-            sideMargin: Theme.sideMargin(width, Theme.measure)
             width: table.width
             y: table.flickable.originY - height
+
+            ChangesCard {
+                bars: content.controller.bars
+                sideMargin: Theme.sideMargin(width, Theme.measure)
+                width: parent.width
+            }
+            ChosenLine {
+                visible: content.controller.filterText !== ""
+                text: content.controller.filterText
+                width: parent.width
+                onAction: content.attention.showAll()
+            }
         }
     }
     Connections {
@@ -48,5 +59,7 @@ FocusScope {
         visible: content.controller.emptyText !== ""
         picture: "no_data_changes"
         text: content.controller.emptyText
+        actionText: content.controller.filterText !== "" ? qsTr("Show all") : ""
+        onAction: content.attention.showAll()
     }
 }

@@ -2,14 +2,19 @@
 #include "Views/Attention/ChangesViewController.h"
 
 #include "Controllers/REST/RESTHandler.h"
+#include "Fleet/ChangeTable.h"
+#include "Inventory/Feed.h"
 #include "Kit/Core/NavigationController.h"
 #include "Platform/Queues/DispatchQueue.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Views/Attention/ChangeText.h"
+#include "Views/Attention/FindingText.h"
 #include "Views/Attention/FoldedChangesViewController.h"
+#include "Views/Attention/RowKey.h"
 #include "Views/Common/AgeClock.h"
 
 #include <algorithm>
+#include <optional>
 #include <set>
 
 namespace lodestar
@@ -19,18 +24,52 @@ namespace
 
 constexpr double rowHeight = 60;
 
-/// The addresses of the chosen consoles; empty for all.
-std::set<std::string> addressesOf(const FindingFilter& filter)
+FindingSubject subjectOf(const Change& change)
 {
-    std::set<std::string> addresses;
+    const std::string& type = change.object.type;
+    return isOfConsole(change)                     ? FindingSubject::Console
+           : type == ObjectType::ManagedSystem     ? FindingSubject::System
+           : type == ObjectType::VirtualIOServer   ? FindingSubject::IOServer
+           : type == ObjectType::Group             ? FindingSubject::Group
+           : type == ObjectType::ServiceableEvent  ? FindingSubject::Event
+           : type == ObjectType::ManagementConsole ? FindingSubject::Console
+                                                   : FindingSubject::Partition;
+}
+
+/// What a person chose, as changes tell it: they outlive the records of their consoles.
+struct Chosen {
+    std::set<FindingSubject> kinds;
+    std::optional<std::set<std::string>> addresses; ///< none for all
+
+    bool shows(const Change& change) const
+    {
+        return (kinds.empty() || kinds.contains(subjectOf(change))) &&
+               (!addresses || addresses->contains(change.address));
+    }
+};
+
+std::shared_ptr<const ChangeList> leftBy(const Chosen& chosen, std::shared_ptr<const ChangeList> list)
+{
+    if (chosen.kinds.empty() && !chosen.addresses) {
+        return list;
+    }
+    auto left = std::make_shared<ChangeList>(*list);
+    std::erase_if(left->changes, [&](const Change& change) { return !chosen.shows(change); });
+    return left;
+}
+
+Chosen chosenBy(const FindingFilter& filter)
+{
+    Chosen chosen{.kinds = filter.kinds, .addresses = {}};
     if (!filter.consoles.empty()) {
+        chosen.addresses.emplace();
         for (const CorvelRef& corvel : RESTHandler::sharedInstance().corvelList()) {
             if (filter.consoles.contains(corvel.get())) {
-                addresses.insert(corvel->address().value_or(""));
+                chosen.addresses->insert(corvel->address().value_or(""));
             }
         }
     }
-    return addresses;
+    return chosen;
 }
 
 } // namespace
@@ -79,45 +118,66 @@ void ChangesViewController::update()
 {
     const int turn = ++m_turn;
     const auto screen = self<ChangesViewController>();
-    History::shared().changes([screen, turn](std::shared_ptr<const ChangeList> list) {
+    History::shared().changes([screen, turn](const std::shared_ptr<const ChangeList>& list) {
         if (screen->m_turn != turn) {
             return;
         }
-        DispatchQueue::globalBackground().async(
-            [screen, turn, list = std::move(list), addresses = addressesOf(screen->filter())]() mutable {
-                std::vector<ChangeDay> days = daysOf(list->changes, addresses);
-                MainQueue::shared().async([screen, turn, list = std::move(list), days = std::move(days)]() mutable {
+        DispatchQueue::globalBackground().async([screen, turn, list, chosen = chosenBy(screen->filter())] {
+            Shown shown{.list = leftBy(chosen, list)};
+            shown.notShown = list->changes.size() - shown.list->changes.size();
+            shown.days = daysOf(shown.list->changes, {});
+            MainQueue::shared().async([screen, turn, shown = std::move(shown)]() mutable {
+                screen->m_tableView.whenUntouched([screen, turn, shown = std::move(shown)]() mutable {
                     if (screen->m_turn == turn) {
-                        screen->adopt(std::move(list), std::move(days));
+                        screen->adopt(std::move(shown));
                     }
                 });
             });
+        });
     });
 }
 
-void ChangesViewController::adopt(std::shared_ptr<const ChangeList> list, std::vector<ChangeDay> days)
+void ChangesViewController::adopt(Shown shown)
 {
-    m_list = std::move(list);
-    m_days = std::move(days);
+    m_shown = std::move(shown);
     m_targets.forget();
-    const QString text = !m_days.empty()            ? QString()
-                         : !m_list->changes.empty() ? tr("Nothing left to show")
-                         : m_list->mayShow          ? tr("Nothing changed in 30 days.")
-                                                    : tr("Changes show after the second reading.");
-    if (m_emptyText != text) {
-        m_emptyText = text;
-        Q_EMIT emptyTextChanged();
+    m_filterText =
+        filter().isSet() ? FindingText::filtered(filter(), Attention::shared().picture()->consoles) : QString();
+    m_emptyText.clear();
+    if (m_shown.days.empty()) {
+        m_emptyText = m_shown.notShown > 0    ? tr("Nothing left to show")
+                      : m_shown.list->mayShow ? tr("Nothing changed in 30 days.")
+                                              : tr("Changes show after the second reading.");
+        m_emptyText = (QStringList(m_emptyText) + notes()).join(u'\n');
     }
     showCounts();
-    m_tableView.reloadData();
+    m_tableView.reloadRows();
+    Q_EMIT shownChanged();
+}
+
+QStringList ChangesViewController::notes() const
+{
+    QStringList notes;
+    if (m_shown.notShown == 1) {
+        notes << tr("1 more change is not shown.");
+    } else if (m_shown.notShown > 1) {
+        notes << tr("%Ln more changes are not shown.", nullptr, static_cast<int>(m_shown.notShown));
+    }
+    if (m_shown.list->leftOut) {
+        notes << tr("Older changes were left out");
+    }
+    if (History::shared().wasSetAside()) {
+        notes << tr("What changed before could not be read. The damaged file was set aside.");
+    }
+    return notes;
 }
 
 void ChangesViewController::showCounts()
 {
     m_today = localDayOf(AgeClock::now());
-    m_bars.showChanges(countsOf(m_days, m_today, barDays), m_today);
+    m_bars.showChanges(countsOf(m_shown.days, m_today, barDays), m_today);
     const bool wasHidden = m_bars.isHidden();
-    m_bars.setHidden(m_days.empty());
+    m_bars.setHidden(m_shown.days.empty());
     if (wasHidden && !m_bars.isHidden()) {
         m_bars.grow();
     }
@@ -126,9 +186,9 @@ void ChangesViewController::showCounts()
 void ChangesViewController::tick()
 {
     // At midnight, today becomes yesterday.
-    if (m_list && localDayOf(AgeClock::now()) != m_today) {
+    if (m_shown.list && localDayOf(AgeClock::now()) != m_today) {
         showCounts();
-        m_tableView.reloadData();
+        m_tableView.reloadRows();
     }
 }
 
@@ -136,7 +196,7 @@ void ChangesViewController::goToDay(int bar)
 {
     const std::chrono::local_days day = m_today - std::chrono::days(barDays - 1 - bar);
     int index = 0;
-    for (const ChangeDay& each : m_days) {
+    for (const ChangeDay& each : m_shown.days) {
         if (each.date == day) {
             Q_EMIT scrollRequested(index);
             return;
@@ -147,22 +207,34 @@ void ChangesViewController::goToDay(int bar)
 
 const ChangeRow& ChangesViewController::rowAt(IndexPath indexPath) const
 {
-    return m_days.at(static_cast<std::size_t>(indexPath.section)).rows.at(static_cast<std::size_t>(indexPath.row));
+    return m_shown.days.at(static_cast<std::size_t>(indexPath.section))
+        .rows.at(static_cast<std::size_t>(indexPath.row));
+}
+
+Table ChangesViewController::shownTable() const
+{
+    std::vector<std::uint32_t> rows;
+    for (const ChangeDay& day : m_shown.days) {
+        for (const ChangeRow& row : day.rows) {
+            rows.insert(rows.end(), row.changes.begin(), row.changes.end());
+        }
+    }
+    return m_shown.list != nullptr ? tableOfChanges(m_shown.list->changes, rows) : Table();
 }
 
 int ChangesViewController::numberOfSections(TableKind /*tableView*/) const
 {
-    return static_cast<int>(m_days.size());
+    return static_cast<int>(m_shown.days.size());
 }
 
 int ChangesViewController::numberOfRowsInSection(TableKind /*tableView*/, int section) const
 {
-    return static_cast<int>(m_days.at(static_cast<std::size_t>(section)).rows.size());
+    return static_cast<int>(m_shown.days.at(static_cast<std::size_t>(section)).rows.size());
 }
 
 std::optional<QString> ChangesViewController::titleForHeaderInSection(TableKind /*tableView*/, int section) const
 {
-    return ChangeText::dayTitle(m_days.at(static_cast<std::size_t>(section)).date, m_today);
+    return ChangeText::dayTitle(m_shown.days.at(static_cast<std::size_t>(section)).date, m_today);
 }
 
 QString ChangesViewController::detailForHeaderInSection(TableKind tableView, int section) const
@@ -172,15 +244,25 @@ QString ChangesViewController::detailForHeaderInSection(TableKind tableView, int
 
 QString ChangesViewController::footerForSection(TableKind tableView, int section) const
 {
-    const bool cut = m_list && m_list->leftOut && section == numberOfSections(tableView) - 1;
-    return cut ? tr("Older changes were left out") : QString();
+    return section == numberOfSections(tableView) - 1 ? notes().join(u'\n') : QString();
+}
+
+std::size_t ChangesViewController::keyForRowAtIndexPath(TableKind /*tableView*/, IndexPath indexPath) const
+{
+    if (indexPath.row < 0) {
+        return rowKey(m_shown.days.at(static_cast<std::size_t>(indexPath.section)).date.time_since_epoch().count());
+    }
+    const ChangeRow& row = rowAt(indexPath);
+    const Change& first = m_shown.list->changes[row.changes.front()];
+    return rowKey(row.isFolded(), first.seen.time_since_epoch().count(), first.address, first.kind, first.object.type,
+                  first.object.identifier, first.name);
 }
 
 QVariant ChangesViewController::cellForRowAtIndexPath(TableKind /*tableView*/, IndexPath indexPath)
 {
     const ChangeRow& row = rowAt(indexPath);
-    const bool leadsOn = row.isFolded() || m_targets.leadsOn(m_list->changes[row.changes.front()]);
-    return QVariant::fromValue(ChangeText::cellOf(m_list->changes, row, leadsOn));
+    const bool leadsOn = row.isFolded() || m_targets.leadsOn(m_shown.list->changes[row.changes.front()]);
+    return QVariant::fromValue(ChangeText::cellOf(m_shown.list->changes, row, leadsOn));
 }
 
 void ChangesViewController::didSelectRowAtIndexPath(TableKind /*tableView*/, IndexPath indexPath)
@@ -188,10 +270,10 @@ void ChangesViewController::didSelectRowAtIndexPath(TableKind /*tableView*/, Ind
     const ChangeRow& row = rowAt(indexPath);
     if (row.isFolded()) {
         if (NavigationController* const stack = host().navigationController()) {
-            stack->pushViewController(makeController<FoldedChangesViewController>(m_list, row), Animated::Yes);
+            stack->pushViewController(makeController<FoldedChangesViewController>(m_shown.list, row), Animated::Yes);
         }
     } else {
-        m_targets.open(m_list->changes[row.changes.front()], host());
+        m_targets.open(m_shown.list->changes[row.changes.front()], host());
     }
     m_tableView.deselectRow(indexPath);
 }

@@ -8,6 +8,7 @@
 #include "Views/Attention/ChangeTargets.h"
 #include "Views/Common/DayBarsOutlet.h"
 
+#include <cstddef>
 #include <memory>
 #include <vector>
 
@@ -15,7 +16,8 @@ namespace lodestar
 {
 
 /// The segment Changes: what successive readings of the last 30 days found different, by day, below bars that count
-/// each day's rows. It follows the history while it is seen. Days are made of changes off the main thread.
+/// each day's rows, as far as the tab's filter shows them. It follows the history while it is seen. Days are made of
+/// changes off the main thread.
 class ChangesViewController : public lodestar::AttentionSegment, public TableDataSource
 {
     Q_OBJECT
@@ -23,7 +25,8 @@ class ChangesViewController : public lodestar::AttentionSegment, public TableDat
     QML_UNCREATABLE("made by its host")
     Q_PROPERTY(lodestar::TableOutlet* tableView READ tableView CONSTANT)
     Q_PROPERTY(lodestar::DayBarsOutlet* bars READ bars CONSTANT)
-    Q_PROPERTY(QString emptyText READ emptyText NOTIFY emptyTextChanged)
+    Q_PROPERTY(QString emptyText READ emptyText NOTIFY shownChanged)
+    Q_PROPERTY(QString filterText READ filterText NOTIFY shownChanged)
 
 public:
     static constexpr int barDays = 30;
@@ -35,17 +38,21 @@ public:
     DayBarsOutlet* bars() { return &m_bars; }
     /// What stands in place of rows; empty while there are rows, or nothing is known yet.
     const QString& emptyText() const { return m_emptyText; }
+    /// What the tab's filter shows of the changes; empty while that is all.
+    const QString& filterText() const { return m_filterText; }
 
+    Table shownTable() const override;
     int numberOfSections(TableKind tableView) const override;
     int numberOfRowsInSection(TableKind tableView, int section) const override;
     std::optional<QString> titleForHeaderInSection(TableKind tableView, int section) const override;
     QString detailForHeaderInSection(TableKind tableView, int section) const override;
     QString footerForSection(TableKind tableView, int section) const override;
+    std::size_t keyForRowAtIndexPath(TableKind tableView, IndexPath indexPath) const override;
     QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
     void didSelectRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
 
 Q_SIGNALS:
-    void emptyTextChanged();
+    void shownChanged();
     /// The list should scroll to the row of this flat index.
     void scrollRequested(int index);
 
@@ -56,8 +63,16 @@ protected:
     void filterDidChange() override;
 
 private:
+    /// The changes that the filter leaves, by day.
+    struct Shown {
+        std::shared_ptr<const ChangeList> list{};
+        std::vector<ChangeDay> days{};
+        std::size_t notShown = 0;
+    };
     void update();
-    void adopt(std::shared_ptr<const ChangeList> list, std::vector<ChangeDay> days);
+    void adopt(Shown shown);
+    /// What stands below the changes, or below the text in their place.
+    QStringList notes() const;
     void showCounts();
     void goToDay(int bar);
     void tick();
@@ -66,8 +81,8 @@ private:
     TableOutlet m_tableView;
     DayBarsOutlet m_bars;
     QString m_emptyText;
-    std::shared_ptr<const ChangeList> m_list;
-    std::vector<ChangeDay> m_days;
+    QString m_filterText;
+    Shown m_shown;
     std::chrono::local_days m_today;
     ChangeTargets m_targets;
     int m_turn = 0;                                              ///< of the last update, the only one that is shown

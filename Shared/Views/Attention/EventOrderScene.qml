@@ -15,6 +15,7 @@ SheetContent {
     cancelText: qsTr("Reset")
     saveText: qsTr("Done")
     escapeSaves: true
+    extraHeight: Math.max(0, choices.height + 16 - statedHeight)
     onCancelled: order.reset()
     onSaved: order.done()
 
@@ -41,36 +42,18 @@ SheetContent {
         }
     }
 
-    ListView {
+    Flickable {
         id: list
 
         anchors.fill: parent
-        model: scene.order.consoles
-        reuseItems: true
-        focus: true
-        keyNavigationEnabled: false
-        boundsBehavior: Flickable.StopAtBounds
-        topMargin: choices.height
-        // The sheet opens with the orders in view, whenever their height is known.
-        onTopMarginChanged: contentY = originY - topMargin
+        contentHeight: choices.height
         bottomMargin: Math.max(16, height - scene.restingHeight)
-        delegate: Choice {
-            required property int index
-            required property string modelData
+        boundsBehavior: Flickable.StopAtBounds
 
-            width: list.width
-            text: modelData
-            separator: true
-            chosen: scene.order.console === index
-            onClicked: scene.order.chooseConsole(index)
-        }
-        // Lies in the margin instead of a header: in Qt 6.4 a list makes no header of a bound component.
         Column {
             id: choices
 
-            parent: list.contentItem
             width: list.width
-            y: list.originY - height
             topPadding: 8
 
             Repeater {
@@ -111,22 +94,6 @@ SheetContent {
                     room: chips.width
                     onToggled: scene.order.callHomeOnly = !scene.order.callHomeOnly
                 }
-            }
-            SectionHeader {
-                text: qsTr("Consoles")
-                width: parent.width
-            }
-            SearchField {
-                visible: scene.order.searchable
-                placeholder: qsTr("Find a console")
-                x: Theme.rowStart
-                width: parent.width - 2 * x
-                onTextChanged: scene.order.searchConsoles(text)
-            }
-            Choice {
-                text: scene.order.allConsoles
-                chosen: scene.order.allChosen
-                onClicked: scene.order.chooseConsole(-1)
             }
         }
         ScrollMark {

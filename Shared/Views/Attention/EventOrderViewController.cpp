@@ -1,9 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Attention/EventOrderViewController.h"
 
-#include "Fleet/Attention.h"
-#include "Views/Common/CellText.h"
-
 #include <algorithm>
 #include <array>
 #include <utility>
@@ -13,8 +10,7 @@ namespace lodestar
 namespace
 {
 
-constexpr double sheetHeight = 476;    // With its bar of 44 the sheet has 520.
-constexpr std::size_t namesAtHand = 8; // More consoles are searched.
+constexpr double sheetHeight = 306; // With its bar of 44 the sheet has 350.
 
 constexpr std::array<EventOrder, 4> allOrders{EventOrder::AsSent, EventOrder::NewestFirst, EventOrder::ByStatus,
                                               EventOrder::ByReferenceCode};
@@ -25,10 +21,6 @@ EventOrderViewController::EventOrderViewController(std::shared_ptr<EventChoosing
 {
     setTitle(tr("Order"));
     setScene(QUrl(QStringLiteral("qrc:/Lodestar/Views/EventOrderScene.qml")));
-    for (const ConsoleSnapshot& console : Attention::shared().picture()->consoles) {
-        m_all.push_back(console.corvel);
-    }
-    searchConsoles(QString());
 }
 
 QString EventOrderViewController::nameOf(EventOrder order)
@@ -109,58 +101,9 @@ int EventOrderViewController::callHomeCount() const
     return static_cast<int>(m_events->list().callHome);
 }
 
-QString EventOrderViewController::allConsoles() const
-{
-    return m_all.size() == 1 ? textOf(m_all.front()->name())
-                             : tr("All %n consoles", nullptr, static_cast<int>(m_all.size()));
-}
-
-bool EventOrderViewController::isSearchable() const
-{
-    return m_all.size() > namesAtHand;
-}
-
-void EventOrderViewController::searchConsoles(const QString& text)
-{
-    m_shown.clear();
-    m_names.clear();
-    for (const CorvelRef& corvel : m_all) {
-        const QString name = textOf(corvel->name());
-        if (name.contains(text, Qt::CaseInsensitive)) {
-            m_shown.push_back(corvel);
-            m_names << name;
-        }
-    }
-    Q_EMIT consolesChanged();
-    Q_EMIT choiceChanged();
-}
-
-bool EventOrderViewController::areAllChosen() const
-{
-    return m_events->choice().consoles.empty();
-}
-
-int EventOrderViewController::console() const
-{
-    const auto& chosen = m_events->choice().consoles;
-    const auto found =
-        std::ranges::find_if(m_shown, [&](const CorvelRef& corvel) { return chosen.contains(corvel.get()); });
-    return found != m_shown.end() ? static_cast<int>(found - m_shown.begin()) : -1;
-}
-
-void EventOrderViewController::chooseConsole(int index)
-{
-    change([&](EventChoice& choice) {
-        choice.consoles.clear();
-        if (index >= 0) {
-            choice.consoles.insert(m_shown.at(static_cast<std::size_t>(index)).get());
-        }
-    });
-}
-
 void EventOrderViewController::reset()
 {
-    m_events->setChoice({});
+    m_events->setChoice(wholeList);
     Q_EMIT choiceChanged();
 }
 

@@ -7,12 +7,14 @@
 #include <QStringList>
 
 #include <memory>
-#include <vector>
 
 namespace lodestar
 {
 
-/// What the sheet chooses from, and where its choices go.
+/// All events, the newest first.
+inline const EventChoice wholeList{.order = EventOrder::NewestFirst};
+
+/// What the sheet chooses from, and where its choices go. Which consoles are shown is the tab's filter's.
 class EventChoosing
 {
 public:
@@ -23,7 +25,7 @@ public:
     virtual void endChoosing() = 0;
 };
 
-/// The sheet Order of the events: their order, what to leave out, and which console alone. Each choice works at once.
+/// The sheet Order of the events: their order, and what to leave out. Each choice works at once.
 class EventOrderViewController : public lodestar::ViewController
 {
     Q_OBJECT
@@ -35,11 +37,6 @@ class EventOrderViewController : public lodestar::ViewController
     Q_PROPERTY(bool callHomeOnly READ callHomeOnly WRITE setCallHomeOnly NOTIFY choiceChanged)
     Q_PROPERTY(int openCount READ openCount NOTIFY choiceChanged)
     Q_PROPERTY(int callHomeCount READ callHomeCount NOTIFY choiceChanged)
-    Q_PROPERTY(QString allConsoles READ allConsoles CONSTANT)
-    Q_PROPERTY(QStringList consoles READ consoles NOTIFY consolesChanged)
-    Q_PROPERTY(bool searchable READ isSearchable CONSTANT)
-    Q_PROPERTY(bool allChosen READ areAllChosen NOTIFY choiceChanged)
-    Q_PROPERTY(int console READ console NOTIFY choiceChanged)
 
 public:
     explicit EventOrderViewController(std::shared_ptr<EventChoosing> events);
@@ -57,31 +54,17 @@ public:
     void setCallHomeOnly(bool on);
     int openCount() const;
     int callHomeCount() const;
-    /// "All 6 consoles".
-    QString allConsoles() const;
-    /// The names of the consoles that the search finds.
-    const QStringList& consoles() const { return m_names; }
-    bool isSearchable() const;
-    bool areAllChosen() const;
-    /// The chosen one among `consoles`; -1 when all are chosen, or another one.
-    int console() const;
-    Q_INVOKABLE void chooseConsole(int index);
-    Q_INVOKABLE void searchConsoles(const QString& text);
     Q_INVOKABLE void reset();
     Q_INVOKABLE void done();
 
 Q_SIGNALS:
     void choiceChanged();
-    void consolesChanged();
 
 private:
     template <typename Change>
     void change(Change how);
 
     const std::shared_ptr<EventChoosing> m_events;
-    std::vector<CorvelRef> m_all;
-    std::vector<CorvelRef> m_shown; ///< those of `m_names`
-    QStringList m_names;
 };
 
 } // namespace lodestar

@@ -14,7 +14,8 @@ TableCell {
     required property findingCell cell
 
     readonly property bool stacked: Theme.stacked
-    readonly property real trailing: Theme.rowEnd + (cell.leadsOn ? 22 : 0)
+    // Ends stand one below the other whether or not a row has a chevron.
+    readonly property real trailing: Theme.rowEnd + 22
     readonly property real textStart: Theme.rowStart + badge.width + 12
     readonly property real room: Math.max(0, width - textStart - trailing)
     readonly property int gap: 12
@@ -129,6 +130,7 @@ TableCell {
             size: Theme.captionSize
             color: Theme.ink2
             elide: Text.ElideMiddle
+            horizontalAlignment: row.stacked ? Text.AlignLeft : Text.AlignRight
             width: Math.min(wanted, row.stacked ? row.room : Math.round(row.room * 0.45))
             x: row.stacked ? (Theme.mirrored ? parent.width - start - width : start) : Theme.mirrored ? 0 : parent.width - width
             y: words.consoleY + (row.stacked && !words.together ? age.height : 0)

@@ -6,13 +6,12 @@
 #include "Kit/Core/Toasts.h"
 #include "Views/Attention/FindingText.h"
 #include "Views/Attention/ObjectScenes.h"
+#include "Views/Attention/RowKey.h"
 #include "Views/Common/AgeText.h"
 #include "Views/Common/Scenes.h"
 #include "Views/ResourceGroups/RGListCell.h"
 
 #include <QCoreApplication>
-
-#include <functional>
 
 namespace lodestar
 {
@@ -56,11 +55,6 @@ Badge badgeOf(const Finding& finding)
     return {};
 }
 
-void mix(std::size_t& seed, std::size_t value)
-{
-    seed ^= value + 0x9e3779b97f4a7c15U + (seed << 6U) + (seed >> 2U);
-}
-
 } // namespace
 
 FindingCell cellOf(const Findings& findings, const FindingRow& row, ConsoleShown console, WallTime now)
@@ -86,20 +80,13 @@ FindingCell cellOf(const Findings& findings, const FindingRow& row, ConsoleShown
 
 std::size_t keyOf(const Finding& finding)
 {
-    std::size_t key = static_cast<std::size_t>(finding.rank);
-    mix(key, std::hash<const Corvel*>()(finding.corvel.get()));
-    mix(key, std::hash<std::string>()(finding.object.type));
-    mix(key, std::hash<std::string>()(finding.object.identifier));
-    return key;
+    return rowKey(finding.rank, finding.corvel.get(), finding.object.type, finding.object.identifier);
 }
 
 std::size_t keyOf(const Findings& findings, const FindingRow& row)
 {
-    std::size_t key = keyOf(findings.list[row.findings.front()]);
-    if (row.isFolded()) {
-        mix(key, 1);
-    }
-    return key;
+    const std::size_t key = keyOf(findings.list[row.findings.front()]);
+    return row.isFolded() ? rowKey(key, 1) : key;
 }
 
 void openFinding(const ViewController& from, const Finding& finding)

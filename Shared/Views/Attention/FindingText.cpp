@@ -21,22 +21,14 @@ struct Words {
     Q_DECLARE_TR_FUNCTIONS(lodestar::FindingText)
 };
 
-/// Of names and texts in a row, no more than a row can show is laid out.
-constexpr qsizetype longestText = 300;
-
 QString count(std::size_t number)
 {
     return QLocale().toString(static_cast<qulonglong>(number));
 }
 
-QString plain(const std::string& text)
-{
-    return QString::fromStdString(text).left(longestText);
-}
-
 QString quoted(const std::string& text)
 {
-    return isolated(plain(text));
+    return isolated(rowText(text));
 }
 
 QString withPart(const QString& sentence, const QString& part)
@@ -69,7 +61,7 @@ QString stopped(const Finding& finding, bool folded, WallTime now)
 
 QString ofEvent(const Finding& event)
 {
-    QString sentence = isolated(QStringLiteral("#") + plain(event.eventNumber));
+    QString sentence = isolated(QStringLiteral("#") + rowText(event.eventNumber));
     if (event.eventNumber.empty()) {
         sentence.clear();
     }
@@ -300,19 +292,24 @@ QString FindingText::filtered(const FindingFilter& filter, const std::vector<Con
     for (const FindingSubject kind : filter.kinds) {
         parts << (parts.isEmpty() ? subject(kind) : subjectWithin(kind));
     }
+    return lodestar::spoken(parts << chosenConsoles(filter, consoles));
+}
+
+QString FindingText::chosenConsoles(const FindingFilter& filter, const std::vector<ConsoleSnapshot>& consoles)
+{
     QStringList names;
     for (const ConsoleSnapshot& console : consoles) {
         if (filter.consoles.contains(console.corvel.get())) {
             names << quoted(console.name);
         }
     }
-    return lodestar::spoken(parts << joinedList(names));
+    return joinedList(names);
 }
 
 QString FindingText::name(const Findings& findings, const FindingRow& row)
 {
     const Finding& first = firstOf(findings, row);
-    return row.isFolded() ? several(first.subject, row.findings.size()) : oneLine(plain(first.name));
+    return row.isFolded() ? several(first.subject, row.findings.size()) : rowText(first.name);
 }
 
 QString FindingText::sentence(const Findings& findings, const FindingRow& row, WallTime now)
@@ -330,7 +327,7 @@ QString FindingText::console(const Findings& findings, const FindingRow& row)
     for (const std::uint32_t each : row.findings) {
         consoles.insert(findings.list[each].corvel.get());
     }
-    return consoles.size() > 1 ? several(FindingSubject::Console, consoles.size()) : oneLine(plain(first.console));
+    return consoles.size() > 1 ? several(FindingSubject::Console, consoles.size()) : rowText(first.console);
 }
 
 QString FindingText::spoken(const Findings& findings, const FindingRow& row, WallTime now)

@@ -38,6 +38,8 @@ QString subjectWithin(FindingSubject subject);
 
 /// "Systems, IO servers, partitions, Harbour B": what the filter shows.
 QString filtered(const FindingFilter& filter, const std::vector<ConsoleSnapshot>& consoles);
+/// The consoles among it: "Harbour B"; empty for all.
+QString chosenConsoles(const FindingFilter& filter, const std::vector<ConsoleSnapshot>& consoles);
 
 /// Whether a system in error is incomplete and nothing worse.
 bool isIncomplete(const Finding& system);

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Attention/FleetEventCell.h"
 
+#include "Views/Attention/FleetEventList.h"
 #include "Views/Common/AgeText.h"
 #include "Views/Common/CellText.h"
 #include "Views/Common/FeedName.h"
@@ -20,21 +21,28 @@ struct Words {
 
 FleetEventCell::FleetEventCell(const FleetEvent& event, WallTime now, const QString& match)
 {
-    title.text = QString::fromStdString(event.event.title());
+    title.text = rowText(event.event.title());
     title.match = match;
+    console = rowText(event.console);
+    const auto holdsMatch = [&match](const QString& text) { return text.contains(match, Qt::CaseInsensitive); };
+    if (!match.isEmpty() && !holdsMatch(title.text) && !holdsMatch(console)) {
+        for (const std::string& text : searchedDetails(event)) {
+            if (found.text.isEmpty() && holdsMatch(QString::fromStdString(text))) {
+                found = {.text = rowText(text), .match = match};
+            }
+        }
+    }
     if (event.lastReported) {
         moment = AgeText::moment(WallTime(std::chrono::seconds(*event.lastReported)), now);
     }
-    seconds = textOf(event.event.lastReported());
-    console = QString::fromStdString(event.console);
-    const QString state = isolated(textOf(event.event.problemState()));
+    seconds = rowText(event.event.lastReported().value_or(""));
     const QString callsHome = event.callsHome ? Words::tr("call home") : QString();
-    status = spoken({textOf(event.event.problemState()).isEmpty() ? QString() : state, callsHome});
+    status = spoken({isolated(rowText(event.event.problemState().value_or(""))), callsHome});
 }
 
 QString FleetEventCell::accessibleText() const
 {
-    return spoken({title.text, status, moment.isEmpty() ? seconds : moment, console});
+    return spoken({title.text, found.text, status, moment.isEmpty() ? seconds : moment, console});
 }
 
 } // namespace lodestar

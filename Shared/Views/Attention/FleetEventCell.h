@@ -17,6 +17,7 @@ struct FleetEventCell {
     Q_PROPERTY(lodestar::CellLabel title MEMBER title)
     Q_PROPERTY(QString moment MEMBER moment)
     Q_PROPERTY(QString seconds MEMBER seconds)
+    Q_PROPERTY(lodestar::CellLabel found MEMBER found)
     Q_PROPERTY(QString console MEMBER console)
     Q_PROPERTY(QString status MEMBER status)
     Q_PROPERTY(QString accessibleText READ accessibleText)
@@ -31,6 +32,8 @@ public:
     CellLabel title;
     QString moment;  ///< "09:41"; empty when the console's time is no number
     QString seconds; ///< as the console has them
+    /// What else of a found event holds the searched text; empty where the title or the console does.
+    CellLabel found;
     QString console;
     QString status; ///< "Open, call home"
 };

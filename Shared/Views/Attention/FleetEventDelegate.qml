@@ -5,8 +5,8 @@ import QtQuick
 import Lodestar.Kit
 import Lodestar.Views
 
-/// A row of the events of all consoles: the title over its time and the console's own seconds; at the end the console
-/// over the event's status. With large text what stands at the end moves below.
+/// A row of the events of all consoles: the title over its time and the console's own seconds, or over what a search
+/// found; at the end the console over the event's status. With large text what stands at the end moves below.
 TableCell {
     id: row
 
@@ -57,13 +57,14 @@ TableCell {
             x: Theme.mirrored ? parent.width - width : 0
             Accessible.ignored: true
         }
-        Label {
+        MatchLabel {
             id: owner
 
             text: row.cell.console
+            match: row.cell.title.match
             size: Theme.captionSize
             color: Theme.ink2
-            elide: Text.ElideMiddle
+            horizontalAlignment: row.stacked ? Text.AlignLeft : Text.AlignRight
             // The title has precedence, up to a point.
             width: Math.min(Math.ceil(consoleMeasure.advanceWidth) + 1,
                             row.stacked ? row.room : Math.max(Math.round(row.room * 0.3),
@@ -75,6 +76,7 @@ TableCell {
         Row {
             id: times
 
+            visible: row.cell.found.text === ""
             y: title.height
             x: Theme.mirrored ? parent.width - width : 0
             height: moment.height
@@ -105,6 +107,17 @@ TableCell {
                 Accessible.ignored: true
             }
         }
+        MatchLabel {
+            visible: !times.visible
+            text: row.cell.found.text
+            match: row.cell.found.match
+            size: Theme.captionSize
+            color: Theme.ink2
+            width: row.stacked ? row.room : row.room - status.width - row.gap
+            x: Theme.mirrored ? parent.width - width : 0
+            y: times.y
+            Accessible.ignored: true
+        }
         Label {
             id: status
 
@@ -114,7 +127,8 @@ TableCell {
             elide: Text.ElideRight
             width: Math.min(Math.ceil(statusMeasure.advanceWidth) + 1, row.stacked ? row.room : Math.round(row.room * 0.45))
             x: row.stacked !== Theme.mirrored ? 0 : parent.width - width
-            y: row.stacked ? times.y + times.height : title.height
+            // From right to left, the marks around the state come from another face, which would push the line down.
+            y: row.stacked ? times.y + times.height : title.height + moment.baselineOffset - baselineOffset
             Accessible.ignored: true
         }
     }

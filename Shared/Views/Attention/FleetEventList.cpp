@@ -8,6 +8,18 @@ namespace lodestar
 namespace
 {
 
+/// Stands between the texts of an event, and cannot be typed.
+constexpr char separator = '\x1F';
+
+std::string searchedText(const FleetEvent& event)
+{
+    std::string text = event.event.title() + separator + event.console;
+    for (const std::string& detail : searchedDetails(event)) {
+        text += separator + detail;
+    }
+    return text;
+}
+
 /// The events of a console that is offline are old, and what they would be now is not known.
 bool wasRead(const ConsoleSnapshot& console)
 {
@@ -16,6 +28,19 @@ bool wasRead(const ConsoleSnapshot& console)
 }
 
 } // namespace
+
+std::vector<std::string> searchedDetails(const FleetEvent& event)
+{
+    const ServiceableEvent& record = event.event;
+    std::vector<std::string> details;
+    for (const auto& field : {record.referenceCode(), record.systemReferenceCode(), record.shortDescription(),
+                              record.failingSystem().hostName()}) {
+        if (field) {
+            details.push_back(*field);
+        }
+    }
+    return details;
+}
 
 FleetEventList FleetEventList::of(const std::vector<ConsoleSnapshot>& consoles, const EventChoice& choice, WallTime now)
 {
@@ -40,7 +65,7 @@ FleetEventList FleetEventList::of(const std::vector<ConsoleSnapshot>& consoles, 
     for (const EventGroup& group : list.groups) {
         for (const std::uint32_t event : group.events) {
             list.shown.push_back(event);
-            list.titles.add(list.events[event].event.title());
+            list.texts.add(searchedText(list.events[event]));
         }
     }
     return list;

@@ -11,6 +11,10 @@
 namespace lodestar
 {
 
+/// What a search looks at besides an event's title and console: its codes, its text and the system that
+/// fails.
+std::vector<std::string> searchedDetails(const FleetEvent& event);
+
 /// The events of the consoles that were read, made of a picture of them. A value.
 struct FleetEventList {
     static constexpr std::size_t barDays = 14;
@@ -18,7 +22,7 @@ struct FleetEventList {
     std::vector<FleetEvent> events;
     std::vector<EventGroup> groups;
     std::vector<std::uint32_t> shown; ///< the groups' events, one after the other; a search finds rows of it
-    SearchIndex titles;               ///< of `shown`
+    SearchIndex texts;                ///< of `shown`: all that a search looks at
     std::vector<int> perDay;
     std::size_t open = 0; ///< of all events
     std::size_t callHome = 0;

@@ -57,6 +57,7 @@ FocusScope {
 
             parent: table.flickable.contentItem
             controller: content.controller
+            attention: content.attention
             width: table.width
             y: table.flickable.originY - height
         }
@@ -82,6 +83,6 @@ FocusScope {
         picture: "no_data_events"
         text: content.controller.emptyText
         actionText: content.controller.choiceText !== "" ? qsTr("Reset") : ""
-        onAction: content.controller.resetChoice()
+        onAction: content.attention.showAllEvents()
     }
 }

@@ -8,6 +8,7 @@ Column {
     id: header
 
     required property FleetEventsViewController controller
+    required property AttentionViewController attention
     readonly property real sideMargin: Theme.sideMargin(width, Theme.measure)
     readonly property bool chosen: controller.choiceText !== ""
 
@@ -20,34 +21,11 @@ Column {
         sideMargin: header.sideMargin
         space: 0
     }
-    Item {
+    ChosenLine {
         visible: header.chosen
-        x: header.sideMargin
-        width: header.width - 2 * x
-        height: Math.max(words.height + 12, resetButton.height)
-
-        Label {
-            id: words
-
-            text: header.controller.choiceText
-            size: Theme.captionSize
-            color: Theme.ink2
-            anchors.left: parent.left
-            anchors.leftMargin: Theme.rowStart
-            anchors.right: resetButton.left
-            anchors.verticalCenter: parent.verticalCenter
-            wrapMode: Text.Wrap
-        }
-        PlainButton {
-            id: resetButton
-
-            text: qsTr("Reset")
-            size: Theme.stateSize
-            leftPadding: 8
-            rightPadding: 8
-            anchors.right: parent.right
-            anchors.verticalCenter: parent.verticalCenter
-            onClicked: header.controller.resetChoice()
-        }
+        text: header.controller.choiceText
+        actionText: qsTr("Reset")
+        width: header.width
+        onAction: header.attention.showAllEvents()
     }
 }

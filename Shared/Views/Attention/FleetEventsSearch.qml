@@ -16,7 +16,13 @@ SearchBar {
     Keys.onDownPressed: entered()
     Keys.onReturnPressed: entered()
     Keys.onEnterPressed: entered()
-    Component.onCompleted: start()
+    // Made anew when the screen is seen again: a search that goes on keeps its words, and the rows the keyboard.
+    Component.onCompleted: {
+        text = controller.searchBar.text;
+        if (text === "") {
+            start();
+        }
+    }
 
     Connections {
         target: bar.controller.searchBar

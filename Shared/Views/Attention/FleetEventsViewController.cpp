@@ -1,14 +1,18 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Attention/FleetEventsViewController.h"
 
+#include "Fleet/EventTable.h"
 #include "Platform/Queues/DispatchQueue.h"
 #include "Platform/Queues/MainQueue.h"
+#include "Views/Attention/FindingText.h"
 #include "Views/Attention/FleetEventCell.h"
 #include "Views/Attention/ObjectScenes.h"
+#include "Views/Attention/RowKey.h"
 #include "Views/Common/AgeClock.h"
+#include "Views/Common/CellText.h"
 #include "Views/Common/FeedName.h"
 
-#include <algorithm>
+#include <QLocale>
 
 namespace lodestar
 {
@@ -19,9 +23,14 @@ QStringList isolatedNames(const std::vector<std::string>& names)
 {
     QStringList list;
     for (const std::string& name : names) {
-        list << isolated(QString::fromStdString(name));
+        list << isolated(rowText(name));
     }
     return list;
+}
+
+QString number(std::size_t count)
+{
+    return QLocale().toString(static_cast<qulonglong>(count));
 }
 
 } // namespace
@@ -46,12 +55,22 @@ void FleetEventsViewController::viewDidAppear()
 {
     m_observations.push_back(
         NotificationCenter::defaultCenter().addObserver("AttentionDidChange", [this] { update(); }));
+    connect(&AgeClock::shared(), &AgeClock::ticked, this, &FleetEventsViewController::tick);
     update();
 }
 
 void FleetEventsViewController::viewDidDisappear()
 {
     m_observations.clear();
+    AgeClock::shared().disconnect(this);
+}
+
+void FleetEventsViewController::tick()
+{
+    // At midnight, today becomes yesterday.
+    if (localDayOf(AgeClock::now()) != m_today) {
+        update();
+    }
 }
 
 void FleetEventsViewController::filterDidChange()
@@ -59,15 +78,6 @@ void FleetEventsViewController::filterDidChange()
     if (isInWindow()) {
         update();
     }
-}
-
-EventChoice FleetEventsViewController::effectiveChoice() const
-{
-    EventChoice choice = m_choice;
-    if (choice.consoles.empty()) {
-        choice.consoles = filter().consoles;
-    }
-    return choice;
 }
 
 void FleetEventsViewController::setChoice(EventChoice choice)
@@ -81,41 +91,47 @@ void FleetEventsViewController::setChoice(EventChoice choice)
 void FleetEventsViewController::update()
 {
     const auto picture = Attention::shared().picture();
-    // A console that was deleted can be chosen no more; its address in memory may soon be another's.
-    std::erase_if(m_choice.consoles, [&](const Corvel* chosen) {
-        return std::ranges::none_of(picture->consoles,
-                                    [&](const ConsoleSnapshot& each) { return each.corvel.get() == chosen; });
-    });
+    m_today = localDayOf(AgeClock::now());
+    EventChoice choice = m_choice;
+    choice.consoles = filter().consoles;
     const int turn = ++m_turn;
     DispatchQueue::globalBackground().async(
-        [screen = self<FleetEventsViewController>(), turn, picture, choice = effectiveChoice(), now = AgeClock::now()] {
+        [screen = self<FleetEventsViewController>(), turn, picture, choice = std::move(choice), now = AgeClock::now()] {
             auto list = std::make_shared<const FleetEventList>(FleetEventList::of(picture->consoles, choice, now));
             MainQueue::shared().async([screen, turn, list = std::move(list)]() mutable {
-                if (screen->m_turn == turn) {
-                    screen->adopt(std::move(list));
-                }
+                screen->whenUntouched([screen, turn, list = std::move(list)]() mutable {
+                    if (screen->m_turn == turn) {
+                        screen->adopt(std::move(list));
+                    }
+                });
             });
         });
+}
+
+void FleetEventsViewController::whenUntouched(std::function<void()> then)
+{
+    m_tableView.whenUntouched(
+        [this, then = std::move(then)]() mutable { m_searchResultsTableView.whenUntouched(std::move(then)); });
 }
 
 void FleetEventsViewController::adopt(std::shared_ptr<const FleetEventList> list)
 {
     m_list = std::move(list);
     m_isKnown = true;
-    m_bars.showEvents(m_list->perDay, localDayOf(AgeClock::now()));
+    m_bars.showEvents(m_list->perDay, m_today);
     const bool wasHidden = m_bars.isHidden();
     m_bars.setHidden(m_list->read == m_list->eventsNotRead.size());
     if (wasHidden && !m_bars.isHidden()) {
         m_bars.grow();
     }
     findAgain();
-    m_tableView.reloadData();
+    m_tableView.reloadRows();
     Q_EMIT listChanged();
 }
 
 void FleetEventsViewController::findAgain()
 {
-    m_found = m_searchBar.isActive() ? m_list->titles.rowsContaining(m_searchBar.text().toStdString())
+    m_found = m_searchBar.isActive() ? m_list->texts.rowsContaining(m_searchBar.text().toStdString())
                                      : std::vector<std::uint32_t>();
     m_searchResultsTableView.reloadData();
 }
@@ -152,7 +168,7 @@ QString FleetEventsViewController::emptyText() const
 
 QString FleetEventsViewController::choiceText() const
 {
-    if (m_choice == EventChoice()) {
+    if (m_choice == wholeList && filter().consoles.empty()) {
         return {};
     }
     QStringList parts{EventOrderViewController::nameOf(m_choice.order)};
@@ -162,16 +178,9 @@ QString FleetEventsViewController::choiceText() const
     if (m_choice.callHomeOnly) {
         parts << tr("call home");
     }
-    for (const ConsoleSnapshot& console : Attention::shared().picture()->consoles) {
-        if (m_choice.consoles.contains(console.corvel.get())) {
-            parts << isolated(QString::fromStdString(console.name));
-        }
-    }
+    parts << FindingText::chosenConsoles(filter(), Attention::shared().picture()->consoles);
     //: What is chosen, how many events that are, and how many there are.
-    return tr("%1: %2 of %3")
-        .arg(parts.join(tr(", ")))
-        .arg(static_cast<qulonglong>(m_list->shown.size()))
-        .arg(static_cast<qulonglong>(m_list->events.size()));
+    return tr("%1: %2 of %3").arg(spoken(parts), number(m_list->shown.size()), number(m_list->events.size()));
 }
 
 void FleetEventsViewController::showOrder()
@@ -184,6 +193,18 @@ void FleetEventsViewController::showOrder()
 void FleetEventsViewController::endChoosing()
 {
     host().dismissSemiModalView();
+}
+
+Table FleetEventsViewController::shownTable() const
+{
+    if (!m_searchBar.isActive() || m_searchBar.text().isEmpty()) {
+        return tableOfEvents(m_list->events, m_list->shown);
+    }
+    std::vector<std::uint32_t> rows;
+    for (const std::uint32_t found : m_found) {
+        rows.push_back(m_list->shown.at(found));
+    }
+    return tableOfEvents(m_list->events, rows);
 }
 
 int FleetEventsViewController::numberOfSections(TableKind tableView) const
@@ -205,20 +226,19 @@ std::optional<QString> FleetEventsViewController::titleForHeaderInSection(TableK
         return {};
     }
     const std::string& title = m_list->groups.at(static_cast<std::size_t>(section)).title;
-    return title.empty() && m_choice.order == EventOrder::ByReferenceCode ? tr("no reference code")
-                                                                          : QString::fromStdString(title);
+    return title.empty() && m_choice.order == EventOrder::ByReferenceCode ? tr("no reference code") : rowText(title);
 }
 
 QString FleetEventsViewController::noteForHeaderInSection(TableKind tableView, int section) const
 {
     return titleForHeaderInSection(tableView, section)
-               ? QString::fromStdString(m_list->groups.at(static_cast<std::size_t>(section)).newestText)
+               ? rowText(m_list->groups.at(static_cast<std::size_t>(section)).newestText)
                : QString();
 }
 
 QString FleetEventsViewController::detailForHeaderInSection(TableKind tableView, int section) const
 {
-    return QLocale().toString(numberOfRowsInSection(tableView, section));
+    return number(static_cast<std::size_t>(numberOfRowsInSection(tableView, section)));
 }
 
 QString FleetEventsViewController::footerForSection(TableKind tableView, int section) const
@@ -232,6 +252,15 @@ const FleetEvent& FleetEventsViewController::eventAt(TableKind tableView, IndexP
     return m_list->events.at(tableView == TableKind::SearchResults
                                  ? m_list->shown.at(m_found.at(row))
                                  : m_list->groups.at(static_cast<std::size_t>(indexPath.section)).events.at(row));
+}
+
+std::size_t FleetEventsViewController::keyForRowAtIndexPath(TableKind tableView, IndexPath indexPath) const
+{
+    if (indexPath.row < 0) {
+        return rowKey(m_list->groups.at(static_cast<std::size_t>(indexPath.section)).title);
+    }
+    const FleetEvent& event = eventAt(tableView, indexPath);
+    return rowKey(event.corvel.get(), event.event.title(), event.referenceCode, event.firstReported.value_or(0));
 }
 
 QVariant FleetEventsViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Attention/FoldedChangesViewController.h"
 
+#include "Fleet/ChangeTable.h"
 #include "Views/Attention/ChangeText.h"
 
 #include <utility>
@@ -33,6 +34,11 @@ void FoldedChangesViewController::viewDidLoad()
 const Change& FoldedChangesViewController::changeAt(int row) const
 {
     return m_list->changes.at(m_row.changes.at(static_cast<std::size_t>(row)));
+}
+
+Table FoldedChangesViewController::shownTable() const
+{
+    return tableOfChanges(m_list->changes, m_row.changes);
 }
 
 int FoldedChangesViewController::numberOfRowsInSection(TableKind /*tableView*/, int /*section*/) const

@@ -7,6 +7,7 @@
 #include "Kit/Core/ViewController.h"
 #include "Platform/NotificationCenter.h"
 #include "Views/Attention/ChangeTargets.h"
+#include "Views/Common/ListShare.h"
 #include "Views/Common/TitleHeader.h"
 
 #include <memory>
@@ -23,12 +24,14 @@ class FoldedChangesViewController : public lodestar::ViewController, public Tabl
     QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(lodestar::TitleHeader* header READ header CONSTANT)
     Q_PROPERTY(lodestar::TableOutlet* tableView READ tableView CONSTANT)
+    Q_PROPERTY(lodestar::ListShare* share READ share CONSTANT)
 
 public:
     FoldedChangesViewController(std::shared_ptr<const ChangeList> list, ChangeRow row);
 
     TitleHeader* header() { return &m_header; }
     TableOutlet* tableView() { return &m_tableView; }
+    ListShare* share() { return &m_share; }
 
     int numberOfRowsInSection(TableKind tableView, int section) const override;
     QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
@@ -38,6 +41,7 @@ protected:
     void viewDidLoad() override;
 
 private:
+    Table shownTable() const;
     const Change& changeAt(int row) const;
 
     const std::shared_ptr<const ChangeList> m_list;
@@ -46,6 +50,7 @@ private:
     TableOutlet m_tableView;
     ChangeTargets m_targets;
     NotificationCenter::Observation m_observation;
+    ListShare m_share{[this] { return title(); }, [this] { return shownTable(); }};
 };
 
 } // namespace lodestar

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Attention/FoldedListController.h"
 
+#include "Fleet/AttentionTable.h"
 #include "Views/Attention/FindingRows.h"
 #include "Views/Attention/FindingText.h"
 #include "Views/Common/AgeClock.h"
@@ -68,6 +69,15 @@ void FoldedListController::adopt()
         }
     }
     m_tableView.reloadRows();
+}
+
+Table FoldedListController::shownTable() const
+{
+    std::vector<std::uint32_t> rows;
+    for (const FindingRow& row : m_rows) {
+        rows.insert(rows.end(), row.findings.begin(), row.findings.end());
+    }
+    return tableOfFindings(m_picture->findings, rows);
 }
 
 int FoldedListController::numberOfRowsInSection(TableKind /*tableView*/, int /*section*/) const

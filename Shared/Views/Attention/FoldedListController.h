@@ -6,6 +6,7 @@
 #include "Kit/Core/Table.h"
 #include "Kit/Core/ViewController.h"
 #include "Platform/NotificationCenter.h"
+#include "Views/Common/ListShare.h"
 #include "Views/Common/TitleHeader.h"
 
 #include <cstddef>
@@ -25,12 +26,14 @@ class FoldedListController : public lodestar::ViewController, public TableDataSo
     QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(lodestar::TitleHeader* header READ header CONSTANT)
     Q_PROPERTY(lodestar::TableOutlet* tableView READ tableView CONSTANT)
+    Q_PROPERTY(lodestar::ListShare* share READ share CONSTANT)
 
 public:
     FoldedListController(std::shared_ptr<const Attention::Picture> picture, const FindingRow& row);
 
     TitleHeader* header() { return &m_header; }
     TableOutlet* tableView() { return &m_tableView; }
+    ListShare* share() { return &m_share; }
 
     int numberOfRowsInSection(TableKind tableView, int section) const override;
     std::size_t keyForRowAtIndexPath(TableKind tableView, IndexPath indexPath) const override;
@@ -44,6 +47,7 @@ protected:
     void viewDidDisappear() override;
 
 private:
+    Table shownTable() const;
     void follow();
     void adopt();
 
@@ -54,6 +58,7 @@ private:
     TableOutlet m_tableView;
     NotificationCenter::Observation m_observation;
     QMetaObject::Connection m_clock;
+    ListShare m_share{[this] { return title(); }, [this] { return shownTable(); }};
 };
 
 } // namespace lodestar

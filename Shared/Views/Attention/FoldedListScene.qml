@@ -17,6 +17,10 @@ PageScaffold {
             titleOutlet: scene.list.header.titleLabel
             subtitleOutlet: scene.list.header.subtitleLabel
         }
+        trailing: ListShareButton {
+            share: scene.list.share
+            offered: scene.visible && table.table.rows > 0
+        }
     }
     scrollView: table.flickable
 
@@ -33,7 +37,7 @@ PageScaffold {
     NoContent {
         anchors.fill: parent
         visible: scene.list.tableView.rows === 0
-        picture: "attention_clear"
+        picture: "no_data_changes" // not the calm one: what is over here says nothing of the rest
         text: qsTr("Nothing left to show")
     }
 }

@@ -15,7 +15,7 @@ TableCell {
     Label {
         id: name
 
-        text: row.cell.name.slice(0, 300).replace(/\s+/g, " ")
+        text: row.cell.name
         anchors.left: parent.left
         anchors.leftMargin: Theme.rowStart
         anchors.right: tick.left

@@ -4,31 +4,26 @@
 #include "Controllers/REST/RESTHandler.h"
 #include "Fleet/Registry.h"
 #include "Fleet/Watch.h"
+#include "Views/Common/FeedName.h"
 
 #include <utility>
 
 namespace lodestar
 {
-namespace
-{
-
-constexpr double rowHeight = 52;
-constexpr double separatorLeft = 10;
-constexpr double separatorRight = 15;
-
-} // namespace
 
 WatchConsolesViewController::WatchConsolesViewController() : m_tableView(*this, TableKind::Main)
 {
-    m_tableView.setRowHeight(rowHeight);
-    m_tableView.setSeparatorInset(separatorLeft, separatorRight);
+    m_tableView.setRowHeight(52);
+    m_tableView.setSeparatorInset(10, 15);
 }
 
 void WatchConsolesViewController::viewDidLoad()
 {
     setTitle(tr("Consoles"));
-    m_observation =
-        NotificationCenter::defaultCenter().addObserver("WatchDidChange", [this] { m_tableView.reloadData(); });
+    for (const char* name : {"WatchDidChange", "CorvelsDidChange"}) {
+        m_observations.push_back(
+            NotificationCenter::defaultCenter().addObserver(name, [this] { m_tableView.reloadData(); }));
+    }
     m_tableView.reloadData();
 }
 
@@ -41,7 +36,7 @@ QVariant WatchConsolesViewController::cellForRowAtIndexPath(TableKind /*tableVie
 {
     WatchConsoleCell cell;
     if (const CorvelRef corvel = corvelAtRow(indexPath.row)) {
-        cell.name = QString::fromStdString(corvel->name().value_or(""));
+        cell.name = rowText(corvel->name().value_or(""));
         cell.watched = !Watch::shared().settings().without.contains(corvel->address().value_or(""));
     }
     return QVariant::fromValue(cell);

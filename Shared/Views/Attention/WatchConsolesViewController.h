@@ -5,6 +5,8 @@
 #include "Kit/Core/ViewController.h"
 #include "Platform/NotificationCenter.h"
 
+#include <vector>
+
 namespace lodestar
 {
 
@@ -42,7 +44,7 @@ protected:
 
 private:
     TableOutlet m_tableView;
-    NotificationCenter::Observation m_observation;
+    std::vector<NotificationCenter::Observation> m_observations;
 };
 
 } // namespace lodestar

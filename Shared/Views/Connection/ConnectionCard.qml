@@ -12,6 +12,7 @@ Column {
     enum Kind { Verdict, Steps, Stages, Feeds, Facts }
 
     required property connectionSection section
+    required property ConnectionViewController connection
     property real space: Theme.sectionGap
 
     SectionHeader {
@@ -39,6 +40,19 @@ Column {
                 number: index + 1
                 width: card.width
             }
+        }
+
+        MenuRow {
+            objectName: "refreshRow"
+            visible: card.section.refreshes && (card.connection.refreshable || card.connection.updating)
+            enabled: card.connection.refreshable
+            greyed: false
+            text: qsTr("Refresh This Console")
+            detail: card.connection.updating ? qsTr("updating...") : ""
+            ink: enabled ? Theme.accentInk : Theme.ink2
+            chevron: false
+            rowHeight: 44
+            onClicked: card.connection.refresh()
         }
 
         // Lies on the first row, which leaves room for it, because no hairline parts the two.

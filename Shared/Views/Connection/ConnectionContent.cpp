@@ -156,6 +156,8 @@ ConnectionContent connectionContent(const QString& address, const Reading& readi
     if (!steps.empty()) {
         content << stepsSection(steps);
     }
+    // After what is known and what to look at first: a refresh takes a new certificate and sends it the password.
+    (steps.empty() ? content.front() : content.back()).refreshes = true;
     if (outcome != Outcome::NotTried) {
         content << stagesSection(address, reading, now);
     }

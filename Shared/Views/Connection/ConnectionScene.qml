@@ -11,27 +11,13 @@ PageScaffold {
 
     readonly property ConnectionViewController connection: controller as ConnectionViewController
 
-    function scroll(by: real) {
-        page.contentY = Math.max(0, Math.min(page.contentHeight - page.height, page.contentY + by));
-    }
     function refresh() {
         if (connection.refreshable) {
             connection.refresh();
         }
     }
 
-    Keys.onPressed: event => {
-        switch (event.key) {
-        case Qt.Key_Down: scroll(44); break;
-        case Qt.Key_Up: scroll(-44); break;
-        case Qt.Key_PageDown: scroll(page.height - 44); break;
-        case Qt.Key_PageUp: scroll(44 - page.height); break;
-        case Qt.Key_Home: scroll(-page.contentHeight); break;
-        case Qt.Key_End: scroll(page.contentHeight); break;
-        default: return;
-        }
-        event.accepted = true;
-    }
+    Keys.onPressed: event => page.scrollByKey(event)
     Shortcut {
         sequences: ["F5", "Ctrl+R"]
         enabled: scene.visible
@@ -50,24 +36,6 @@ PageScaffold {
             subtitleOutlet: scene.connection.header.subtitleLabel
         }
         trailing: [
-            Item {
-                implicitWidth: Theme.target
-                implicitHeight: Theme.target
-
-                IconButton {
-                    objectName: "refreshButton"
-                    iconName: "refresh"
-                    text: qsTr("Refresh this console")
-                    visible: !scene.connection.updating
-                    enabled: scene.connection.refreshable
-                    onClicked: scene.refresh()
-                }
-                Spinner {
-                    size: 20
-                    running: scene.connection.updating
-                    anchors.centerIn: parent
-                }
-            },
             IconButton {
                 objectName: "copyButton"
                 iconName: "copy"
@@ -90,6 +58,7 @@ PageScaffold {
                 required property int index
                 property connectionSection blank
 
+                connection: scene.connection
                 section: index < scene.connection.sections.length ? scene.connection.sections[index] : blank
                 space: section.kind === ConnectionCard.Verdict ? 0 : Theme.sectionGap
                 width: parent ? parent.width : 0

@@ -46,6 +46,7 @@ struct ConnectionSection {
     Q_PROPERTY(QString title MEMBER title)
     Q_PROPERTY(QString detail MEMBER detail)
     Q_PROPERTY(QList<lodestar::ConnectionRow> rows MEMBER rows)
+    Q_PROPERTY(bool refreshes MEMBER refreshes)
     Q_PROPERTY(QString foot MEMBER foot)
     Q_PROPERTY(QList<double> parts MEMBER parts)
     Q_PROPERTY(QString partsNames MEMBER partsNames)
@@ -59,6 +60,7 @@ public:
     QString title{};
     QString detail{}; ///< at the title's end
     QList<ConnectionRow> rows{};
+    bool refreshes = false; ///< ends with the row that refreshes the console
     QString foot{};
     QList<double> parts{}; ///< shares of the attempt's time, in order; empty for no bar
     QString partsNames{};

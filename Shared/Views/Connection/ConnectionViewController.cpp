@@ -4,13 +4,11 @@
 #include "Fleet/Readings.h"
 #include "Fleet/Registry.h"
 #include "Fleet/Watch.h"
-#include "Kit/Core/Toasts.h"
+#include "Kit/Core/Clipboard.h"
 #include "Views/Common/AgeClock.h"
 #include "Views/Common/CellText.h"
+#include "Views/Common/FeedName.h"
 #include "Views/Common/ScreenLog.h"
-
-#include <QClipboard>
-#include <QGuiApplication>
 
 #include <utility>
 
@@ -27,7 +25,7 @@ void ConnectionViewController::viewDidLoad()
 {
     screenLog.write(__LINE__, "viewDidLoad", "ConnectionViewController instantiation");
     m_header.setCustomNavigationBar();
-    m_header.setHeaderTitle(tr("Connection"), corvel() ? textOf(corvel()->name()) : QString());
+    m_header.setHeaderTitle(tr("Connection"), corvel() ? rowText(corvel()->name().value_or("")) : QString());
     setTitle(tr("Connection"));
     setBackTitle(QStringLiteral(""));
     show();
@@ -69,22 +67,19 @@ void ConnectionViewController::refresh()
 {
     if (m_refreshable) {
         // The console list shows the record, too.
-        const auto tell = [] { NotificationCenter::defaultCenter().postNotification("CorvelDidRefresh"); };
-        refreshCorvel(corvel()).thenOnMain(
-            [corvel = corvel(), tell](const std::string&) {
-                Watch::shared().didRefreshByHand(*corvel);
-                tell();
-            },
-            [tell](const Error&) { tell(); });
+        const auto ended = [corvel = corvel()](const auto&) {
+            Watch::shared().didRefreshByHand(*corvel);
+            NotificationCenter::defaultCenter().postNotification("CorvelDidRefresh");
+        };
+        refreshCorvel(corvel()).thenOnMain(ended, ended);
     }
 }
 
 void ConnectionViewController::copyAll()
 {
-    QGuiApplication::clipboard()->setText(m_header.titleLabel()->text() + QLatin1Char('\n') +
-                                          m_header.subtitleLabel()->text() + QLatin1Char('\n') +
-                                          connectionText(m_sections));
-    Toasts::shared().show(tr("Copied %n rows", nullptr, rowCount(m_sections)));
+    Clipboard::copy(m_header.titleLabel()->text() + QLatin1Char('\n') + m_header.subtitleLabel()->text() +
+                        QLatin1Char('\n') + connectionText(m_sections),
+                    tr("%n rows", nullptr, rowCount(m_sections)));
 }
 
 } // namespace lodestar

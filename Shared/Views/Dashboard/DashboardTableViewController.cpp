@@ -4,12 +4,13 @@
 #include "Controllers/REST/RESTHandler.h"
 #include "Inventory/Feed.h"
 #include "Inventory/Totals.h"
-#include "Kit/Core/NavigationController.h"
 #include "Kit/Core/TabBarController.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/Queues/OwnThread.h"
+#include "Views/Common/FeedName.h"
 #include "Views/Common/ScreenLog.h"
+#include "Views/Common/TabRoot.h"
 #include "Views/Corvels/CorvelListViewController.h"
 
 #include <algorithm>
@@ -236,7 +237,7 @@ QString DashboardTableViewController::waitingText()
     }
     if (count == 1) {
         return tr("Waiting for %1")
-            .arg(QString::fromStdString((*std::ranges::find_if(corvels, isWaitedFor))->name().value_or("")));
+            .arg(isolated(rowText((*std::ranges::find_if(corvels, isWaitedFor))->name().value_or(""))));
     }
     return tr("Waiting for %1 of %2 consoles").arg(count).arg(corvels.size());
 }
@@ -258,15 +259,11 @@ void DashboardTableViewController::showNothing()
 
 void DashboardTableViewController::addConsole()
 {
-    const TabBarController* const tabs = tabBarController();
-    for (int index = 0; tabs != nullptr && index < tabs->count(); ++index) {
-        const auto* const navigation = qobject_cast<NavigationController*>(tabs->controllerAt(index));
-        auto* const list =
-            navigation != nullptr ? qobject_cast<CorvelListViewController*>(navigation->rootViewController()) : nullptr;
+    if (TabBarController* const tabs = tabBarController()) {
+        const auto [list, index] = rootOf<CorvelListViewController>(*tabs);
         if (list != nullptr) {
-            tabBarController()->setSelectedIndex(index);
+            tabs->setSelectedIndex(index);
             list->addCorvel();
-            return;
         }
     }
 }
