@@ -3,7 +3,7 @@
 #include "CommandLine/Json.h"
 #include "CommandLine/Words.h"
 #include "Fleet/ObjectTable.h"
-#include "Platform/UtcStamp.h"
+#include "Fleet/TableCells.h"
 
 #include <algorithm>
 #include <nlohmann/json.hpp>
@@ -114,12 +114,10 @@ Table attentionTable(const FleetPicture& picture)
                  "id", "since_utc"},
                 {}};
     for (const Finding& each : picture.findings.list) {
-        const auto since = each.since ? std::optional(each.since->time) : std::nullopt;
         table.rows.push_back({each.console, each.corvel->address().value_or(""), bandText(each),
                               std::to_string(static_cast<int>(each.rank)), each.name,
                               Words::sentence(each, picture.made), each.state, each.system, each.referenceCode,
-                              each.object.type, each.object.identifier,
-                              since ? utcStamp(std::chrono::system_clock::to_time_t(*since)) : ""});
+                              each.object.type, each.object.identifier, each.since ? utcCell(each.since->time) : ""});
     }
     return table;
 }

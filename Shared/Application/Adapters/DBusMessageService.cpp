@@ -118,7 +118,10 @@ void DBusMessageService::show(const Message& message)
 
 void DBusMessageService::send(const Message& message)
 {
-    const QStringList actions = m_takesActions ? QStringList{openAction, tr("Open")} : QStringList();
+    QStringList actions;
+    if (m_takesActions) {
+        actions << openAction << tr("Open");
+    }
     const QVariantMap hints{{QStringLiteral("desktop-entry"), QStringLiteral("org.ornis.Lodestar")}};
     QDBusMessage call = QDBusMessage::createMethodCall(service, path, service, QStringLiteral("Notify"));
     call.setArguments({QStringLiteral("Lodestar"), m_shown, QStringLiteral("org.ornis.Lodestar"),
