@@ -2,6 +2,8 @@
 #include "CommandLine/Json.h"
 
 #include "CommandLine/Words.h"
+#include "Fleet/AttentionTable.h"
+#include "Fleet/ChangeTable.h"
 #include "Platform/UtcStamp.h"
 
 #include <algorithm>
@@ -15,24 +17,9 @@ namespace
 {
 
 /// Titles of tables below which we ourselves write numbers.
-constexpr std::array<std::string_view, 9> numberTitles = {"systems_in_error", "attention_leds", "systems",
-                                                          "io_servers",       "partitions",     "events",
-                                                          "groups",           "members",        "open_events"};
-
-std::string_view wordOf(FindingBand band)
-{
-    switch (band) {
-    case FindingBand::Errors:
-        return "errors";
-    case FindingBand::NotAnswering:
-        return "not_answering";
-    case FindingBand::Warnings:
-        return "warnings";
-    case FindingBand::OpenEvents:
-        break;
-    }
-    return "open_events";
-}
+constexpr std::array<std::string_view, 10> numberTitles = {
+    "systems_in_error", "attention_leds", "systems", "io_servers",  "partitions",
+    "events",           "groups",         "members", "open_events", "row"};
 
 std::string_view wordOf(FindingSubject subject)
 {
@@ -51,19 +38,6 @@ std::string_view wordOf(FindingSubject subject)
         break;
     }
     return "event";
-}
-
-std::string_view wordOf(ChangeKind kind)
-{
-    constexpr std::array words = {"state",           "led_on",  "led_off", "event_opened",
-                                  "event_gone",      "offline", "online",  "feed_missing",
-                                  "feed_read_again", "new",     "gone",    "certificate"};
-    return words.at(static_cast<std::size_t>(kind));
-}
-
-std::string_view wordOf(ChangeSense sense)
-{
-    return sense == ChangeSense::Worse ? "worse" : sense == ChangeSense::Better ? "better" : "neutral";
 }
 
 Json::Value numberOf(std::string_view text)
@@ -157,7 +131,7 @@ Json::Value Json::rows(const Table& table)
 
 Json::Value Json::finding(const Finding& finding, WallTime now)
 {
-    Value object = {{"band", wordOf(bandOf(finding.rank))},
+    Value object = {{"band", lodestar::wordOf(bandOf(finding.rank))},
                     {"rank", static_cast<int>(finding.rank)},
                     {"kind", wordOf(finding.subject)},
                     {"name", finding.name},
@@ -179,8 +153,8 @@ Json::Value Json::change(const Change& change)
     const bool hasLasted = change.kind == ChangeKind::OnlineAgain;
     return {{"seen", time(change.seen)},
             {"before", time(change.before)},
-            {"sense", wordOf(change.sense)},
-            {"change", wordOf(change.kind)},
+            {"sense", lodestar::wordOf(change.sense)},
+            {"change", lodestar::wordOf(change.kind)},
             {"console", change.console},
             {"address", change.address},
             {"type", text(change.object.type)},

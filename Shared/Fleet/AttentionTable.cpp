@@ -11,21 +11,6 @@ namespace lodestar
 namespace
 {
 
-std::string_view wordOf(FindingBand band)
-{
-    switch (band) {
-    case FindingBand::Errors:
-        return "errors";
-    case FindingBand::NotAnswering:
-        return "not_answering";
-    case FindingBand::Warnings:
-        return "warnings";
-    case FindingBand::OpenEvents:
-        break;
-    }
-    return "open_events";
-}
-
 /// As the feed table names types; "Console" for a console itself.
 std::string_view wordOf(FindingSubject subject)
 {
@@ -59,8 +44,8 @@ std::vector<std::string> cellsOf(const Finding& finding)
         finding.console,
         finding.corvel != nullptr ? finding.corvel->address().value_or("") : "",
         std::to_string(static_cast<int>(finding.rank)),
-        std::string(wordOf(bandOf(finding.rank))),
-        std::string(wordOf(finding.rank)),
+        std::string(lodestar::wordOf(bandOf(finding.rank))),
+        std::string(lodestar::wordOf(finding.rank)),
         std::string(wordOf(finding.subject)),
         finding.name,
         finding.state,
@@ -82,6 +67,21 @@ std::vector<std::string> cellsOf(const Finding& finding)
 }
 
 } // namespace
+
+std::string_view wordOf(FindingBand band)
+{
+    switch (band) {
+    case FindingBand::Errors:
+        return "errors";
+    case FindingBand::NotAnswering:
+        return "not_answering";
+    case FindingBand::Warnings:
+        return "warnings";
+    case FindingBand::OpenEvents:
+        break;
+    }
+    return "open_events";
+}
 
 std::string_view wordOf(FindingRank rank)
 {

@@ -11,7 +11,8 @@
 namespace lodestar
 {
 
-/// The words under which tables name findings: "system_error_lit", "open_event". They never change.
+/// The words under which scripts know bands and findings: "not_answering", "system_error_lit". They never change.
+std::string_view wordOf(FindingBand band);
 std::string_view wordOf(FindingRank rank);
 
 /// The findings of these indexes, in this order, one a row. Titles follow the rule of `tableOfObjects`; "rank" is 1 for

@@ -10,7 +10,28 @@ namespace lodestar
 namespace
 {
 
-std::string wordOf(ChangeSense sense)
+std::vector<std::string> cellsOf(const Change& change)
+{
+    return {
+        change.console,
+        change.address,
+        utcCell(change.seen),
+        // Before the first reading of all there is no other, and the time is zero.
+        change.before > WallTime() ? utcCell(change.before) : "",
+        std::string(wordOf(change.kind)),
+        std::string(wordOf(change.sense)),
+        change.object.type,
+        change.name,
+        change.from,
+        change.to,
+        change.kind == ChangeKind::OnlineAgain ? std::to_string(change.lasted.count()) : "",
+        change.object.identifier,
+    };
+}
+
+} // namespace
+
+std::string_view wordOf(ChangeSense sense)
 {
     switch (sense) {
     case ChangeSense::Worse:
@@ -22,27 +43,6 @@ std::string wordOf(ChangeSense sense)
     }
     return "neutral";
 }
-
-std::vector<std::string> cellsOf(const Change& change)
-{
-    return {
-        change.console,
-        change.address,
-        utcCell(change.seen),
-        // Before the first reading of all there is no other, and the time is zero.
-        change.before > WallTime() ? utcCell(change.before) : "",
-        std::string(lodestar::wordOf(change.kind)),
-        wordOf(change.sense),
-        change.object.type,
-        change.name,
-        change.from,
-        change.to,
-        change.kind == ChangeKind::OnlineAgain ? std::to_string(change.lasted.count()) : "",
-        change.object.identifier,
-    };
-}
-
-} // namespace
 
 std::string_view wordOf(ChangeKind kind)
 {

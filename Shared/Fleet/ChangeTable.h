@@ -11,7 +11,8 @@
 namespace lodestar
 {
 
-/// The words under which tables name changes: "state", "led_on", "event_opened". They never change.
+/// The words under which scripts know changes: "worse", "led_on", "event_opened". They never change.
+std::string_view wordOf(ChangeSense sense);
 std::string_view wordOf(ChangeKind kind);
 
 /// The changes of these indexes, in this order, one a row. Titles follow the rule of `tableOfObjects`. Any thread.
