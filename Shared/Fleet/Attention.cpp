@@ -67,7 +67,7 @@ struct Attention::State {
     bool isMaking = false;
     bool isAskedAgain = false; ///< while a picture is made
     bool isAdopted = false;
-    bool hasEndedReading = false; ///< the picture was made when a reading had ended
+    bool hasRows = false; ///< something needed attention when the last reading had ended
     Clock::time_point began;
     Clock::duration took{}; ///< the last picture's making
 };
@@ -131,7 +131,7 @@ void Attention::make(const FleetReading& fleet)
     state.isAsked = false;
     state.isMaking = true;
     state.began = Clock::now();
-    const bool keeps = fleet.underWay > 0 && state.hasEndedReading;
+    const bool keeps = fleet.underWay > 0 && state.hasRows;
     state.queue.async([this, before = keeps ? m_picture : nullptr, fleet,
                        list = RESTHandler::sharedInstance().corvelListSnapshot(),
                        now = std::chrono::system_clock::now()] {
@@ -148,7 +148,9 @@ void Attention::make(const FleetReading& fleet)
             m_state->isMaking = false;
             if (!m_state->isAdopted) {
                 const FleetReading& of = picture->fleet;
-                m_state->hasEndedReading |= of.underWay == 0 && of.notTried < of.consoles;
+                if (of.underWay == 0) {
+                    m_state->hasRows = picture->findings.needAttention > 0;
+                }
                 show(picture);
             }
             if (std::exchange(m_state->isAskedAgain, false)) {
@@ -169,7 +171,7 @@ void Attention::adopt(std::shared_ptr<const Picture> picture)
 {
     m_state->isAdopted = picture != nullptr;
     m_state->isAsked = false;
-    m_state->hasEndedReading = false;
+    m_state->hasRows = false;
     if (picture != nullptr) {
         show(std::move(picture));
     } else {

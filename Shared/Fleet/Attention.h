@@ -17,8 +17,8 @@ ConsoleSnapshot snapshotOf(const CorvelRef& corvel);
 /// list of consoles changes or memory does. One for the process. Main thread. A new picture posts "AttentionDidChange".
 ///
 /// While consoles are read again, pictures keep the findings that there were before, so that rows stand still, and tell
-/// only how far the reading is; things of deleted consoles and stops that a person expects leave at once. Only before
-/// the first reading has ended there is nothing to keep, and each console's findings come as soon as it was read.
+/// only how far the reading is; things of deleted consoles and stops that a person expects leave at once. A calm is not
+/// kept: each console's findings come as soon as it was read, however long another one does not answer.
 class Attention
 {
 public:

@@ -89,6 +89,20 @@ TEST_F(AttentionTest, FollowsReadingsAndTheListOfConsolesInFewPictures)
     readings.end(second, offline);
     ASSERT_TRUE(becomes([] { return picture().findings.needAttention == 1; }));
 
+    // A calm does not stand still: what the first console has is seen before the second one has answered.
+    readings.begin(second);
+    readings.end(second, complete);
+    ASSERT_TRUE(becomes([] { return picture().findings.list.empty() && picture().fleet.underWay == 0; }));
+    readings.begin(first);
+    readings.begin(second);
+    readings.end(first, offline);
+    ASSERT_TRUE(becomes([] { return picture().findings.needAttention == 1 && picture().fleet.updating == 1; }));
+    readings.end(second, offline);
+    ASSERT_TRUE(becomes([] { return picture().findings.needAttention == 2; }));
+    readings.begin(first);
+    readings.end(first, complete);
+    ASSERT_TRUE(becomes([] { return picture().findings.needAttention == 1; }));
+
     // Findings that a test shows stay whatever is read, until it takes them back.
     Attention::shared().adopt(std::make_shared<const Attention::Picture>());
     Attention::shared().update();
