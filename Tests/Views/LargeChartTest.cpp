@@ -63,7 +63,7 @@ protected:
             return m_folder.filePath(name);
         });
         screen.share();
-        screen.actionSheet()->choose(choice);
+        screen.shareMenu()->choose(choice);
         QFile file(m_folder.filePath(m_name));
         EXPECT_TRUE(runUntil([&] { return file.exists(); }));
         return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();

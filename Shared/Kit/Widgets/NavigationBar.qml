@@ -16,10 +16,12 @@ Item {
     property bool scrolled: false
     property bool canGoBack: false
     property string backTitle
+    /// The widest that the content below may be; the buttons stand above its ends.
+    property real measure: Theme.measure
     signal back()
 
     readonly property int edge: width < 600 ? 4 : 12
-    readonly property real content: Math.min(width, Theme.measure + 48)
+    readonly property real content: Math.min(width, measure + 48)
     readonly property real side: (width - content) / 2 + (width > content ? 24 : edge)
     /// Points that the title leaves on either side.
     readonly property real beside: side + Math.max(backButton.visible ? backButton.width : 0, ends.width, Theme.target)

@@ -23,6 +23,7 @@ PageScaffold {
 
     bar: NavigationBar {
         controller: scene.controller
+        measure: page.measure
         titleView: TitleView {
             titleOutlet: scene.large.header.titleLabel
             subtitleOutlet: scene.large.header.subtitleLabel
@@ -202,7 +203,12 @@ PageScaffold {
         }
     }
 
-    ActionSheet {
-        outlet: scene.large.actionSheet
+    Shortcut {
+        sequences: ["Ctrl+S"]
+        enabled: scene.visible
+        onActivated: scene.large.savePoints()
+    }
+    GridMenu {
+        outlet: scene.large.shareMenu
     }
 }

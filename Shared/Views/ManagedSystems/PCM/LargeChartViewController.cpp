@@ -208,15 +208,23 @@ void LargeChartViewController::showReading()
 void LargeChartViewController::share()
 {
     const auto screen = self<LargeChartViewController>();
-    m_actionSheet.present(m_header.titleLabel()->text(), {},
-                          {{tr("Save points as CSV")}, {tr("Save picture")}, {tr("Cancel")}}, Cancel,
-                          [screen](int choice) {
-                              if (choice == SavePoints) {
-                                  FileSaver::save(screen->fileName("csv"), [screen] { return screen->points(); });
-                              } else if (choice == SavePicture) {
-                                  FileSaver::save(screen->fileName("png"), [screen] { return screen->picture(); });
-                              }
-                          });
+    m_shareMenu.present(m_header.titleLabel()->text(), {},
+                        {{.title = tr("Save points as CSV"), .imageName = QStringLiteral("file")},
+                         {.title = tr("Save picture"), .imageName = QStringLiteral("performance")},
+                         {.title = tr("Cancel")}},
+                        Cancel, [screen](int choice) {
+                            if (choice == SavePoints) {
+                                screen->savePoints();
+                            } else if (choice == SavePicture) {
+                                FileSaver::save(screen->fileName("png"), [screen] { return screen->picture(); });
+                            }
+                        });
+}
+
+void LargeChartViewController::savePoints()
+{
+    const auto screen = self<LargeChartViewController>();
+    FileSaver::save(fileName("csv"), [screen] { return screen->points(); });
 }
 
 QByteArray LargeChartViewController::points() const

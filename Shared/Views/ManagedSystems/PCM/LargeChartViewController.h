@@ -31,7 +31,7 @@ class LargeChartViewController : public lodestar::ViewController
     Q_PROPERTY(lodestar::TitleHeader* header READ header CONSTANT)
     Q_PROPERTY(lodestar::PlotChartView* chartView READ chartView CONSTANT)
     Q_PROPERTY(lodestar::SegmentedControlOutlet* typeSegmentedControl READ typeSegmentedControl CONSTANT)
-    Q_PROPERTY(lodestar::MenuOutlet* actionSheet READ actionSheet CONSTANT)
+    Q_PROPERTY(lodestar::MenuOutlet* shareMenu READ shareMenu CONSTANT)
     Q_PROPERTY(QStringList seriesNames READ seriesNames CONSTANT)
     Q_PROPERTY(QStringList latest READ latest NOTIFY chartChanged)
     Q_PROPERTY(QList<bool> shown READ shown NOTIFY chartChanged)
@@ -55,7 +55,7 @@ public:
     PlotChartView* chartView() { return &m_chartView; }
     /// Segment 0 is processors, segment 1 memory.
     SegmentedControlOutlet* typeSegmentedControl() { return &m_typeSegmentedControl; }
-    MenuOutlet* actionSheet() { return &m_actionSheet; }
+    MenuOutlet* shareMenu() { return &m_shareMenu; }
     /// Of total, allocated and used: the names, the latest values, and which are shown.
     static QStringList seriesNames() { return PerformanceText::shortNames(); }
     const QStringList& latest() const { return m_latest; }
@@ -79,6 +79,7 @@ public:
     Q_INVOKABLE void toggleSeries(int series);
     /// Asks what to save.
     Q_INVOKABLE void share();
+    Q_INVOKABLE void savePoints();
 
     /// All samples of the segment, whatever is in view, as comma-separated values.
     QByteArray points() const;
@@ -120,7 +121,7 @@ private:
     TitleHeader m_header;
     PlotChartView m_chartView;
     SegmentedControlOutlet m_typeSegmentedControl;
-    MenuOutlet m_actionSheet;
+    MenuOutlet m_shareMenu;
     QPointer<TabBarController> m_tabs; ///< whose bar is hidden
 };
 
