@@ -14,6 +14,8 @@ install(FILES completions/lodestar-cli.bash RENAME lodestar-cli
 install(FILES completions/_lodestar-cli DESTINATION ${CMAKE_INSTALL_DATADIR}/zsh/vendor-completions COMPONENT cli)
 install(FILES lodestar-cli.copyright RENAME copyright
   DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/lodestar-cli COMPONENT cli)
+install(FILES ../docs/command-line.md ../docs/monitoring.md
+  DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/lodestar-cli COMPONENT cli)
 
 # For monitoring: units that an administrator enables, the user whom they run as, alerts.
 install(FILES systemd/lodestar-consoles.service systemd/lodestar-export.service systemd/lodestar-textfile.service

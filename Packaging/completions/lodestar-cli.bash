@@ -1,12 +1,25 @@
 # SPDX-License-Identifier: Apache-2.0
 # Completion of lodestar-cli for bash.
+_lodestar_cli_files() {
+    compopt -o filenames
+    mapfile -t COMPREPLY < <(compgen "$1" -- "$2")
+}
 _lodestar_cli() {
     local word=${COMP_WORDS[COMP_CWORD]} before=${COMP_WORDS[COMP_CWORD - 1]} command= second= each
+    # The shell takes "--option=value" apart at the sign.
+    if [ "$word" = = ]; then
+        word=
+    elif [ "$before" = = ]; then
+        before=${COMP_WORDS[COMP_CWORD - 2]}
+    fi
     local index=1
     while [ "$index" -lt "$COMP_CWORD" ]; do
         each=${COMP_WORDS[index]}
         case $each in
-        --console | --data | --every | --listen | --name | --openmetrics | --order | --password-fd | --system | --times | --user) index=$((index + 1)) ;;
+        --console | --data | --every | --listen | --name | --openmetrics | --order | --password-fd | --system | --times | --user)
+            index=$((index + 1))
+            [ "${COMP_WORDS[index]}" = = ] && index=$((index + 1))
+            ;;
         -*) ;;
         *) if [ -z "$command" ]; then command=$each; elif [ -z "$second" ]; then second=$each; fi ;;
         esac
@@ -19,11 +32,11 @@ _lodestar_cli() {
         return
         ;;
     --data)
-        COMPREPLY=($(compgen -d -- "$word"))
+        _lodestar_cli_files -d "$word"
         return
         ;;
     --openmetrics)
-        COMPREPLY=($(compgen -f -- "$word"))
+        _lodestar_cli_files -f "$word"
         return
         ;;
     --console | --every | --listen | --name | --password-fd | --system | --times | --user) return ;;
@@ -48,7 +61,7 @@ _lodestar_cli() {
         COMPREPLY=($(compgen -W "consoles systems io-servers partitions events groups" -- "$word"))
         ;;
     "consoles ") COMPREPLY=($(compgen -W "list add remove import export" -- "$word")) ;;
-    "consoles import" | "consoles export") COMPREPLY=($(compgen -f -- "$word")) ;;
+    "consoles import" | "consoles export") _lodestar_cli_files -f "$word" ;;
     esac
 }
 complete -F _lodestar_cli lodestar-cli

@@ -157,6 +157,10 @@ private:
                 return misuse(name + " needs a value: " + std::string(option->placeholder) + ".");
             }
             value = equals == std::string::npos ? *word : word->substr(equals + 1);
+            // A script's variable that is not set must not lead to the person's own folder.
+            if (value.empty()) {
+                return misuse(name + " needs a value: " + std::string(option->placeholder) + ".");
+            }
         }
         m_arguments.m_values.emplace(name, std::move(value));
         return {};
@@ -179,6 +183,9 @@ private:
             if (optionOf(commonOptions(), name) == nullptr && optionOf(syntax->options, name) == nullptr) {
                 return misuse(std::string(syntax->name) + " takes no option " + name + ".");
             }
+        }
+        if (syntax->most == 0 && !operands.empty()) {
+            return misuse("There is no command " + std::string(syntax->name) + " " + operands.front() + ".");
         }
         if (operands.size() < syntax->fewest || operands.size() > syntax->most) {
             return misuse("It is used so: lodestar-cli " + usageOf(*syntax));

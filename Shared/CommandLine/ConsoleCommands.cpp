@@ -74,12 +74,22 @@ Result<Verdict> removeConsole(CommandContext& context)
     if (const Result<void> saved = context.session.save(); !saved) {
         return saved.error();
     }
-    context.output.write(sentenceText(calledName(*corvel) + " was removed.", context.output.terminal()));
+    if (context.arguments.has("--json")) {
+        Json::Value answer = Json::answer("consoles remove");
+        answer["console"] = calledName(*corvel);
+        answer["address"] = corvel->address().value_or("");
+        context.output.write(Json::document(answer));
+    } else {
+        context.output.write(sentenceText(calledName(*corvel) + " was removed.", context.output.terminal()));
+    }
     return Verdict::Good;
 }
 
 Result<Verdict> exportConsoles(CommandContext& context)
 {
+    if (context.arguments.has("--json")) {
+        return misuse("consoles export writes a fleet sheet; consoles list --json writes JSON.");
+    }
     const Result<std::vector<CorvelRef>> consoles = context.session.consoles(context.arguments.values("--console"));
     if (!consoles) {
         return consoles.error();

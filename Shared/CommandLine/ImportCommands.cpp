@@ -53,7 +53,7 @@ std::string sentenceOf(const Error& error)
     if (error.domain == sheetErrorDomain) {
         return "There is no first line with name, address and user.";
     }
-    return error.domain == csvErrorDomain ? "This is not a CSV file: " + shownDescription(error)
+    return error.domain == csvErrorDomain ? "This is not a CSV file: " + error.failureReason + "."
                                           : shownDescription(error);
 }
 
@@ -254,7 +254,7 @@ Result<Verdict> importConsoles(CommandContext& context)
         }
     }
     tell(context, sheet.value(), outcomeTable(sheet.value(), *import, adds), adds ? import->verified() : 0);
-    return areAllGood ? Verdict::Good : adds ? Verdict::Warnings : Verdict::Errors;
+    return !adds ? Verdict::Errors : areAllGood ? Verdict::Good : Verdict::Warnings;
 }
 
 } // namespace lodestar

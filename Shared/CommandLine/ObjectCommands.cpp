@@ -18,22 +18,23 @@ namespace
 {
 
 Result<Verdict> say(CommandContext& context, std::string_view command, const FleetPicture& picture, const Table& table,
-                    const std::vector<std::string_view>& usualTitles, std::string_view type)
+                    const ObjectKind& kind)
 {
     const Terminal& terminal = context.output.terminal();
     if (context.arguments.has("--json")) {
         Json::Value answer = Json::answer(command, picture);
-        answer["type"] = type;
+        answer["type"] = kind.type;
         answer["objects"] = Json::rows(table);
         context.output.write(Json::document(answer));
     } else if (context.arguments.has("--csv")) {
         context.output.writeCsv(table);
     } else {
         const bool all = context.arguments.has("--all");
-        context.output.write(tableText(all ? table : columnsOf(table, usualTitles), terminal, &inkOfState));
+        context.output.write(all ? tableText(table, terminal, &inkOfState)
+                                 : tableText(table, kind.usualTitles, kind.spareTitles, terminal, &inkOfState));
     }
     complainOfGaps(picture);
-    return picture.hasAll(type) ? Verdict::Good : Verdict::Unknown;
+    return picture.hasAll(kind.type) ? Verdict::Good : Verdict::Unknown;
 }
 
 struct OrderName {
@@ -70,8 +71,7 @@ Result<Verdict> listObjects(CommandContext& context)
     if (!picture) {
         return picture.error();
     }
-    return say(context, "list", picture.value(), tableOf(*kind, picture.value().consoles), kind->usualTitles,
-               kind->type);
+    return say(context, "list", picture.value(), tableOf(*kind, picture.value().consoles), *kind);
 }
 
 Result<Verdict> showObject(CommandContext& context)
@@ -126,8 +126,7 @@ Result<Verdict> listEvents(CommandContext& context)
     for (const EventGroup& group : groupedEvents(events, choice.value())) {
         shown.insert(shown.end(), group.events.begin(), group.events.end());
     }
-    return say(context, "events", picture.value(), tableOfEvents(events, shown), objectKindOf("events")->usualTitles,
-               ObjectType::ServiceableEvent);
+    return say(context, "events", picture.value(), tableOfEvents(events, shown), *objectKindOf("events"));
 }
 
 } // namespace lodestar

@@ -17,6 +17,7 @@ struct ObjectKind {
     std::string_view name;                       ///< "io-servers"
     std::string_view type;                       ///< an `ObjectType`
     std::vector<std::string_view> usualTitles;   ///< columns that a person wants at first
+    std::vector<std::string_view> spareTitles;   ///< of those, what a narrow terminal does without, in this order
     std::vector<std::string_view> callingTitles; ///< those by which an object is called
 };
 

@@ -13,9 +13,12 @@
 #include "Fleet/History.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdint>
 #include <filesystem>
+#include <string_view>
 #include <system_error>
+#include <unistd.h>
 
 namespace lodestar
 {
@@ -48,13 +51,16 @@ std::string causesOf(const Error& error)
     return text;
 }
 
-/// The store needs room even for reading, and says of a full disk only that it failed.
-bool isDiskFull(const std::string& folder)
+/// The store needs room even for reading, and says of a disk without it only that it failed. Empty when it has room.
+std::string_view diskTrouble(const std::string& folder)
 {
+    if (::access(folder.c_str(), W_OK) != 0 && errno == EROFS) {
+        return "The disk can only be read.";
+    }
     constexpr std::uintmax_t needed = std::uintmax_t{64} << 10;
     std::error_code error;
     const std::filesystem::space_info space = std::filesystem::space(folder, error);
-    return !error && space.available < needed;
+    return !error && space.available < needed ? "The disk is full." : "";
 }
 
 } // namespace
@@ -80,8 +86,9 @@ Result<std::unique_ptr<Session>> Session::open(const std::string& asked)
     Resources::install(std::make_unique<BundledResources>());
     StoreStack::shared().setApplicationDocumentsDirectory(DataFolder::documents(folder));
     if (const Result<void> opened = StoreStack::shared().open(); !opened) {
+        const std::string_view trouble = diskTrouble(folder);
         return failure("The consoles in " + folder + " cannot be read. " +
-                       (isDiskFull(folder) ? "The disk is full." : causesOf(opened.error())));
+                       (trouble.empty() ? causesOf(opened.error()) : std::string(trouble)));
     }
     std::unique_ptr<Session> session(new Session);
     openHistory(DataFolder::documents(folder));

@@ -6,6 +6,7 @@
 #include "Fleet/TableCells.h"
 
 #include <algorithm>
+#include <array>
 #include <nlohmann/json.hpp>
 #include <vector>
 
@@ -51,7 +52,8 @@ std::string statusText(const FleetPicture& picture, const Terminal& terminal)
     for (std::size_t i = 0; i < table.rows.size(); ++i) {
         table.rows[i].push_back(noteOf(picture.consoles[i], picture.made));
     }
-    text += "\n" + tableText(table, terminal, &inkOfState);
+    constexpr std::array<std::string_view, 3> spare = {"io_servers", "partitions", "systems"};
+    text += "\n" + tableText(table, {table.titles.begin(), table.titles.end()}, spare, terminal, &inkOfState);
     for (const std::string& sentence : picture.leftOutSentences()) {
         text += "\n" + sentenceText(sentence, terminal);
     }

@@ -14,7 +14,7 @@ namespace
 
 using Cells = std::vector<std::string>;
 constexpr std::size_t gap = 2;           ///< between columns
-constexpr std::size_t narrowest = 8;     ///< a column of fewer tells nothing
+constexpr std::size_t narrowest = 8;     ///< a value of fewer below its label tells nothing
 constexpr std::size_t anything = 10'000; ///< columns of a "line" that nothing limits
 
 std::size_t lineOf(const Terminal& terminal)
@@ -59,36 +59,73 @@ std::size_t totalOf(const std::vector<std::size_t>& widths)
     return std::accumulate(widths.begin(), widths.end(), gap * (widths.size() - 1));
 }
 
-/// How wide each column is; empty when the line has no room for them side by side.
-std::vector<std::size_t> widthsOf(const Table& table, std::size_t line)
+using Widths = std::vector<std::size_t>;
+
+/// How wide a column is, without what its title has more than its cells, and at least.
+struct ColumnWidth {
+    std::size_t full;
+    std::size_t ofCells;
+    std::size_t least;
+};
+
+/// Of words the beginning tells something; a code, a time or a name of a machine that is cut does not.
+ColumnWidth widthOf(const Table& table, std::size_t column)
 {
-    std::vector<std::size_t> widths;
-    for (std::size_t i = 0; i < table.titles.size(); ++i) {
-        std::size_t width = columnsOf(table.titles[i]);
-        for (const Cells& row : table.rows) {
-            width = std::max(width, columnsOf(row[i]));
-        }
-        widths.push_back(width);
+    constexpr std::size_t leastOfTitle = 8;
+    constexpr std::size_t leastOfWords = 12;
+    constexpr std::size_t leastOfCode = 20;
+    const std::size_t title = columnsOf(table.titles[column]);
+    const std::size_t cutTitle = std::min(title, leastOfTitle);
+    std::size_t widest = 0;
+    bool hasWords = false;
+    for (const Cells& row : table.rows) {
+        widest = std::max(widest, columnsOf(row[column]));
+        hasWords = hasWords || row[column].find(' ') != std::string::npos;
     }
-    while (totalOf(widths) > line) {
-        const auto widest = std::ranges::max_element(widths);
-        if (*widest <= narrowest) {
-            return {};
-        }
-        --*widest;
-    }
-    return widths;
+    return {std::max(title, widest), std::max(cutTitle, widest),
+            std::max(cutTitle, std::min(widest, hasWords ? leastOfWords : leastOfCode))};
 }
 
+/// Makes the widest columns narrower until all fit the line or are as narrow as they may be.
+void narrow(Widths& widths, const Widths& least, std::size_t line)
+{
+    while (totalOf(widths) > line && widths != least) {
+        std::size_t widest = 0;
+        for (std::size_t i = 0; i < widths.size(); ++i) {
+            const bool isWider = widths[widest] == least[widest] || widths[i] > widths[widest];
+            widest = widths[i] > least[i] && isWider ? i : widest;
+        }
+        --widths[widest];
+    }
+}
+
+/// How wide each column is; empty when the line has no room for them side by side. Titles are cut before cells are.
+Widths widthsOf(const Table& table, std::size_t line)
+{
+    Widths widths;
+    Widths ofCells;
+    Widths least;
+    for (std::size_t i = 0; i < table.titles.size(); ++i) {
+        const ColumnWidth column = widthOf(table, i);
+        widths.push_back(column.full);
+        ofCells.push_back(column.ofCells);
+        least.push_back(column.least);
+    }
+    narrow(widths, ofCells, line);
+    narrow(widths, least, line);
+    return totalOf(widths) > line ? Widths() : widths;
+}
+
+/// An address in numbers is none.
 bool isNumber(std::string_view text)
 {
-    return text.find_first_not_of("0123456789.") == std::string_view::npos;
+    return text.find_first_not_of("0123456789.") == std::string_view::npos && std::ranges::count(text, '.') <= 1;
 }
 
 class SideBySide
 {
 public:
-    SideBySide(const Table& table, std::vector<std::size_t> widths, const Terminal& terminal)
+    SideBySide(const Table& table, Widths widths, const Terminal& terminal)
         : m_table(table), m_widths(std::move(widths)), m_terminal(terminal)
     {
         for (std::size_t i = 0; i < table.titles.size(); ++i) {
@@ -116,7 +153,7 @@ public:
 
 private:
     const Table& m_table;
-    const std::vector<std::size_t> m_widths;
+    const Widths m_widths;
     const Terminal& m_terminal;
     std::vector<bool> m_isNumbers;
 };
@@ -131,7 +168,7 @@ std::string tableText(const Table& table, const Terminal& terminal, InkOf inkOf)
     }
     Table titled = shown;
     std::ranges::transform(titled.titles, titled.titles.begin(), titleText);
-    std::vector<std::size_t> widths = widthsOf(titled, lineOf(terminal));
+    Widths widths = widthsOf(titled, lineOf(terminal));
     std::string text;
     if (widths.empty()) {
         for (const Cells& row : shown.rows) {
@@ -145,6 +182,24 @@ std::string tableText(const Table& table, const Terminal& terminal, InkOf inkOf)
         text += lines.line(row, inkOf);
     }
     return text;
+}
+
+std::string tableText(const Table& table, std::vector<std::string_view> titles,
+                      std::span<const std::string_view> spareTitles, const Terminal& terminal, InkOf inkOf)
+{
+    const Table whole = columnsOf(table, titles);
+    for (auto spare = spareTitles.begin();; ++spare) {
+        const Table chosen = columnsOf(table, titles);
+        Table titled = withoutEmptyColumns(chosen);
+        std::ranges::transform(titled.titles, titled.titles.begin(), titleText);
+        if (titled.titles.empty() || !widthsOf(titled, lineOf(terminal)).empty()) {
+            return tableText(chosen, terminal, inkOf);
+        }
+        if (spare == spareTitles.end()) {
+            return tableText(whole, terminal, inkOf);
+        }
+        std::erase(titles, *spare);
+    }
 }
 
 std::string recordText(const Cells& titles, const Cells& cells, const Terminal& terminal, InkOf inkOf)

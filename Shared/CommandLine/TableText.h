@@ -4,6 +4,7 @@
 #include "CommandLine/Terminal.h"
 #include "Fleet/Csv.h"
 
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -17,6 +18,10 @@ using InkOf = Ink (*)(std::string_view title, std::string_view cell);
 /// The table for a person: columns side by side, cut where the terminal is narrow; one below the other, whole, where it
 /// is too narrow for that. Every cell is plain text. Empty columns are left out.
 std::string tableText(const Table& table, const Terminal& terminal, InkOf inkOf = nullptr);
+/// The same of the columns with these titles. Where they do not fit side by side, the spare ones go, the first ones
+/// first; all stay when the others do not fit either.
+std::string tableText(const Table& table, std::vector<std::string_view> titles,
+                      std::span<const std::string_view> spareTitles, const Terminal& terminal, InkOf inkOf = nullptr);
 /// One object: a line a field, without empty ones.
 std::string recordText(const std::vector<std::string>& titles, const std::vector<std::string>& cells,
                        const Terminal& terminal, InkOf inkOf = nullptr);

@@ -44,6 +44,9 @@ Result<Plan> planOf(const Arguments& arguments)
         return times.error();
     }
     plan.times = times.value();
+    if (plan.times == 0) {
+        return misuse("--times takes a number from 1 on.");
+    }
     if (arguments.has("--csv")) {
         return misuse("watch writes lines of text, or of JSON with --json.");
     }
@@ -80,6 +83,9 @@ public:
         const Result<FleetPicture> picture = readFleet(m_context.session, choice);
         if (!picture) {
             return picture.error();
+        }
+        if (picture.value().consoles.empty()) {
+            return failure("There are no consoles to watch.");
         }
         const auto changes = std::make_shared<std::optional<std::vector<Change>>>();
         m_surroundings->endCollecting([changes](std::vector<Change> all) { *changes = std::move(all); });

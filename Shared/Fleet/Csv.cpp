@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <cctype>
+#include <utf8proc.h>
 #include <utility>
 
 namespace lodestar
@@ -94,6 +95,21 @@ void appendCell(std::string& text, std::string_view cell)
         cell.remove_prefix(quote + 1);
     }
     text.append(cell) += '"';
+}
+
+/// The text, for bytes that are no UTF-8 with U+FFFD: a reader would refuse the whole file because of one of them.
+std::string readable(std::string_view text)
+{
+    std::string whole;
+    while (!text.empty()) {
+        std::int32_t code = 0;
+        const auto length = utf8proc_iterate(reinterpret_cast<const utf8proc_uint8_t*>(text.data()),
+                                             static_cast<utf8proc_ssize_t>(text.size()), &code);
+        const std::size_t taken = length > 0 ? static_cast<std::size_t>(length) : 1;
+        whole.append(length > 0 ? text.substr(0, taken) : "\uFFFD");
+        text.remove_prefix(taken);
+    }
+    return whole;
 }
 
 void appendLine(std::string& text, const std::vector<std::string>& cells, std::size_t columns)
@@ -265,7 +281,7 @@ std::string csvOf(const Table& table)
     for (const auto& row : table.rows) {
         appendLine(text, row, table.titles.size());
     }
-    return text;
+    return simdjson::validate_utf8(text) ? text : readable(text);
 }
 
 Result<Table> readCsv(std::string_view bytes, std::vector<std::size_t>* lines)

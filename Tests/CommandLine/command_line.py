@@ -362,7 +362,10 @@ class Ending(Case):
                                 (("status", "--every", "5"), "status takes no option --every."),
                                 (("events", "--order", "odd"), "--order takes"),
                                 (("status", "--console", "nobody"), "No console is called nobody."),
-                                (("watch", "--every", "soon"), "--every takes")):
+                                (("watch", "--every", "soon"), "--every takes"),
+                                (("watch", "--times", "0"), "--times takes"),
+                                (("status", "--data="), "--data needs a value"),
+                                (("consoles", "odd"), "There is no command consoles odd.")):
             self.assertIn(sentence, self.expect(UNKNOWN, *words).stderr)
         (self.data / "Documents" / "Lodestar.sqlite").write_bytes(b"x" * 4096)
         self.assertIn("cannot be read", self.expect(UNKNOWN, "consoles").stderr)
@@ -391,7 +394,7 @@ class Watching(Case):
         self.consoles.tell("stop 1")
         self.assertEqual(line()[:3], ("Harbour 1", "worse", "offline"))
         self.consoles.tell("start 1")
-        self.assertEqual(line()[:3], ("Harbour 1", "better", "online"))
+        self.assertEqual(line()[:3], ("Harbour 1", "better", "online_again"))
         watching.send_signal(signal.SIGINT)
         self.assertEqual(watching.wait(30), GOOD)
         watching.stdout.close()
@@ -451,6 +454,7 @@ class Packaging(unittest.TestCase):
             self.assertIn(option, zsh)
             self.assertIn(option, manual)
         self.assertEqual(completed("list", "io"), {"io-servers"})
+        self.assertEqual(completed("--data", "=", "/a", "events", "--order", "=", "n"), {"newest"})
 
 
 if __name__ == "__main__":

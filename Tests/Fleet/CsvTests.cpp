@@ -118,6 +118,7 @@ TEST(CsvTests, AnotherReaderGetsEveryCellAndNoFormula)
     for (std::size_t row = 0; row < table.rows.size(); ++row) {
         ASSERT_EQ(again.value().rows[row], table.rows[row]);
     }
+    EXPECT_EQ(csvOf({{"a"}, {{"M\xFCller"}, {"\xE2\x82"}}}), "a\r\nM\uFFFDller\r\n\uFFFD\uFFFD\r\n");
 }
 
 TEST(CsvTests, ReadsWhatSpreadsheetsWrite)
