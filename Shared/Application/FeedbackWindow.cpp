@@ -139,6 +139,8 @@ void FeedbackWindow::tearDown()
     if (theWindow()) {
         // The scenes bind to their controllers, so the scenes are destroyed first.
         theWindow()->setSource({});
+        // Repeaters only hand their items to the application, whose own destruction would be too late for a text.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         theWindow()->setRootViewController(nullptr);
         theWindow().reset();
     }
