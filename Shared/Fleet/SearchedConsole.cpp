@@ -130,7 +130,11 @@ private:
         addShared(event.approvalState());
         const std::string state = event.problemState().value_or("");
         addShared(state);
-        addShared(event.failingSystem().hostName());
+        const EventNode failing = event.failingSystem();
+        addShared(failing.hostName());
+        // Many events may be those of one system.
+        addShared(failing.identity().serialNumber());
+        addShared(typeAndModelOf(failing.identity()));
         for (const FieldReplaceableUnit& unit : event.units()) {
             addShared(unit.partNumber());
             addOwn(unit.locationCode());

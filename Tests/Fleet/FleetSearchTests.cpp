@@ -85,6 +85,8 @@ TEST(FleetSearchTests, FindsEachKindByItsOwnTextsErrorsFirst)
     harbour.addEvent("1042", "Closed", test::now);
     harbour.addEvent("1043", "Open", test::now,
                      field("referenceCode", "X417-2208") +
+                         "<failingManagedSystemNode><managedTypeModelSerial><SerialNumber>06A1999</SerialNumber>"
+                         "</managedTypeModelSerial></failingManagedSystemNode>"
                          "<fieldReplaceableUnits><FieldReplaceableUnit><partNumber>00FV7A9</partNumber>"
                          "<locationCode>U4210.M16-P1-C4</locationCode></FieldReplaceableUnit>"
                          "<FieldReplaceableUnit><partNumber>00FV7B0</partNumber></FieldReplaceableUnit>"
@@ -99,6 +101,7 @@ TEST(FleetSearchTests, FindsEachKindByItsOwnTextsErrorsFirst)
                 ElementsAre("ManagedSystem:s2", "LogicalPartition:p2", "ServiceableEvent:1043"));
     EXPECT_THAT(find(search, "4210-m16"), ElementsAre("ManagedSystem:s2"));
     EXPECT_THAT(find(search, "06a17"), ElementsAre("ManagedSystem:s2"));
+    EXPECT_THAT(find(search, "06a1999"), ElementsAre("ServiceableEvent:1043"));
     EXPECT_THAT(find(search, "192.0.2."), ElementsAre("ManagedSystem:s2", "console:Harbour"));
     EXPECT_THAT(find(search, "harbour.example"), ElementsAre("console:Harbour"));
     EXPECT_THAT(find(search, "#1042"), ElementsAre("ServiceableEvent:1042"));
@@ -225,6 +228,7 @@ std::vector<std::string> fieldsOf(std::string_view type)
                 named("ApprovalState"),
                 named("problemState"),
                 named("failingManagedSystemNode") + "/" + named("hostName"),
+                named("failingManagedSystemNode") + "/" + named("managedTypeModelSerial") + "/*",
                 named("fieldReplaceableUnits") + "//" + named("partNumber"),
                 named("fieldReplaceableUnits") + "//" + named("locationCode")};
     }

@@ -67,6 +67,12 @@ TableCell {
         font: owner.font
         text: row.cell.console
     }
+    TextMetrics {
+        id: lineMeasure
+
+        font: line.font
+        text: row.cell.line.text
+    }
     Item {
         id: words
 
@@ -142,7 +148,12 @@ TableCell {
             color: Theme.ink2
             elide: row.stacked ? Text.ElideNone : Text.ElideMiddle
             wrapMode: row.stacked ? Text.Wrap : Text.NoWrap
-            width: row.stacked ? row.room : Math.min(Math.ceil(consoleMeasure.advanceWidth) + 1, Math.round(row.room * 0.45))
+            horizontalAlignment: row.stacked ? Text.AlignLeft : Text.AlignRight
+            // Next to a short line, a long console's name is whole.
+            width: row.stacked ? row.room
+                               : Math.min(Math.ceil(consoleMeasure.advanceWidth) + 1,
+                                          Math.max(Math.round(row.room * 0.45),
+                                                   Math.floor(row.room - lineMeasure.advanceWidth) - row.gap))
             x: row.placeWithin(row.stacked ? 0 : row.room - width, width)
             y: row.stacked ? words.consoleY : name.height
             Accessible.ignored: true

@@ -77,7 +77,8 @@ FoundFields fields(const ResourceGroup& group, std::size_t inError)
 FoundFields fields(const ServiceableEvent& event)
 {
     QStringList others{part(event.referenceCode()), part(event.referenceCodeExtension()),
-                       part(event.systemReferenceCode()), part(event.failingSystem().hostName())};
+                       part(event.systemReferenceCode()), part(event.failingSystem().hostName()),
+                       machine(event.failingSystem().identity())};
     for (const FieldReplaceableUnit& unit : event.units()) {
         others << spoken({part(unit.partNumber()), part(unit.locationCode())});
     }
