@@ -38,6 +38,7 @@ protected:
                         <problemNumber>1042</problemNumber><callHomeEnabled>true</callHomeEnabled>
                         <ApprovalState>Pending approval</ApprovalState><referenceCode>X417-2208</referenceCode>
                         <referenceCodeExtension>0000A3C1</referenceCodeExtension><problemState>Open</problemState>
+                        <firmwareFix>Level 2.4.1</firmwareFix>
                         <firstReportedTimestamp>1773301260</firstReportedTimestamp>
                         <lastReportedTimestamp>soon</lastReportedTimestamp><duplicateCount>3</duplicateCount>
                         <failingManagedSystemNode><hostName>helios-03</hostName><managedTypeModelSerial>
@@ -85,7 +86,7 @@ TEST_F(ReportTest, AnEventsReportTellsAllThatIsKnownAndNoAddressUnlessAsked)
               "Serviceable event #1042\n\n"
               "<b>fan~1</b> [x](https://evil.example) *lost*: see [address left out] # now @all, www.evil.example\n\n"
               "Status: Open, Pending approval\nSeverity: not known\nCall home: intended\n"
-              "Reference code: X417-2208, extension 0000A3C1\n"
+              "Reference code: X417-2208, extension 0000A3C1\nFirmware fix: Level 2.4.1\n"
               "First reported: 12 Mar 2026, 13:11 UTC+5:30 (07:41 UTC)\nLast reported: soon\n"
               "Reported: 3 more times\n\n"
               "System: helios-03, error\nType and model: 4210-M16\nSerial: 06A17C2\n\n"

@@ -109,6 +109,9 @@ Block eventFacts(const ServiceableEvent& event)
         code += Words::tr(", extension %1").arg(QString::fromStdString(*extension)).toStdString();
     }
     facts.push_back(line(Words::tr("Reference code"), code));
+    if (const Field fix = event.firmwareFix(); fix && !fix->empty()) {
+        facts.push_back(line(Words::tr("Firmware fix"), *fix));
+    }
     facts.push_back(line(Words::tr("First reported"), timeText(event.firstReported())));
     facts.push_back(line(Words::tr("Last reported"), timeText(event.lastReported())));
     if (const Field duplicates = event.duplicateCount(); duplicates && !duplicates->empty() && duplicates != "0") {
