@@ -2,6 +2,7 @@
 #include "Fleet/TimeLeft.h"
 
 #include <cmath>
+#include <utility>
 
 namespace lodestar
 {
@@ -21,6 +22,9 @@ double secondsBetween(TimeLeft::Clock::time_point from, TimeLeft::Clock::time_po
 
 std::optional<std::chrono::seconds> TimeLeft::look(std::size_t done, std::size_t parts, Clock::time_point now)
 {
+    if (std::exchange(m_done, done) != done) {
+        m_lastDone = now;
+    }
     if (done == 0 || done >= parts || now - m_begin < tooEarly) {
         return std::nullopt;
     }
@@ -34,7 +38,8 @@ std::optional<std::chrono::seconds> TimeLeft::look(std::size_t done, std::size_t
     }
     m_lastLook = now;
     const double step = *m_seconds > 60 ? 60 : 5;
-    return std::chrono::seconds(std::lround(std::ceil(*m_seconds / step) * step));
+    const std::chrono::seconds left(std::lround(std::ceil(*m_seconds / step) * step));
+    return now - m_lastDone > left ? std::nullopt : std::optional(left);
 }
 
 } // namespace lodestar

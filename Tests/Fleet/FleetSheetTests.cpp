@@ -94,7 +94,8 @@ TEST(FleetSheetTest, TheTimeLeftComesSmoothlyToItsEnd)
     ASSERT_TRUE(afterBurst);
     EXPECT_GT(*afterBurst, 15s);
     EXPECT_LT(*afterBurst, 35s);
-    EXPECT_EQ(left.look(80, 100, begin + 60s), 20s) << "it promises no less than it knows";
+    EXPECT_EQ(left.look(80, 100, begin + 16s), 10s) << "it promises no less than it knows";
+    EXPECT_FALSE(left.look(80, 100, begin + 60s)) << "the last ones wait for something else";
     EXPECT_EQ(left.look(1, 100, begin + 600s), 59'400s);
     EXPECT_FALSE(left.look(100, 100, begin + 601s));
 }

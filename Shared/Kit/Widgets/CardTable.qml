@@ -25,6 +25,8 @@ AccessibleScope {
     property alias header: list.header
     /// Whether a pull uncovers a search field.
     property alias searchOffered: search.offered
+    /// Whether a row's menu is up: its row looks pressed meanwhile.
+    property bool menuShown: false
     property alias currentIndex: list.currentIndex
     readonly property alias flickable: list
     /// The state of the rows: which are pressed, chosen or swiped open.
@@ -278,6 +280,7 @@ AccessibleScope {
                 pressable: place.selectable
                 offersMenu: place.content !== null && place.content.offersMenu
                 highlighted: tableState.selectedIndex === place.index && place.selectable
+                menuShown: view.menuShown && offersMenu && list.currentIndex === place.index
                 focusShown: place.focused && tableState.keyboardUsed
                 onClicked: {
                     tableState.keyboardUsed = false;
@@ -296,7 +299,7 @@ AccessibleScope {
                 }
                 onPressedLookChanged: {
                     tableState.rowPressed(place.index, pressedLook);
-                    list.pressedRow = pressedLook && !highlighted;
+                    list.pressedRow = pressedLook && !highlighted && !menuShown;
                 }
                 onEscaped: tableState.closeSwipes()
                 onButtonTapped: (button, leading) => {

@@ -18,6 +18,8 @@ Item {
     property bool offersMenu: false
     /// Makes the row look pressed in any case.
     property bool highlighted: false
+    /// Likewise, as long as the row's menu is up.
+    property bool menuShown: false
     property bool focusShown: false
     property color surface: Theme.card
     default property alias content: holder.data
@@ -36,7 +38,7 @@ Item {
     property bool keyboardWanted: false
     readonly property bool isOpen: reveal !== 0
     readonly property bool hovered: area.containsMouse
-    readonly property bool pressedLook: highlighted || (pressable && area.pressed && area.containsMouse && !area.held && !isOpen)
+    readonly property bool pressedLook: highlighted || menuShown || (pressable && area.pressed && area.containsMouse && !area.held && !isOpen)
     readonly property int buttonWidth: 72
     readonly property real trailingWidth: buttons.length * buttonWidth
     readonly property real leadingWidth: leadingButtons.length * buttonWidth

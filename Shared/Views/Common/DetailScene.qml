@@ -42,6 +42,7 @@ PageScaffold {
         label: scene.label
         delegate: DetailDelegate {}
         focus: true
+        menuShown: scene.details.rowMenu.presented
         anchors.fill: parent
         onMenuRequested: (section, row) => scene.details.presentMenu(section, row)
     }

@@ -76,6 +76,7 @@ PageScaffold {
             corvels: scene.corvels
         }
         topSpace: 0
+        menuShown: scene.corvels.rowMenu.presented
         focus: true
         anchors.fill: parent
         onSwipeButtonTapped: (section, row, index, leading) => {
