@@ -53,8 +53,11 @@ std::string sentenceOf(const Error& error)
     if (error.domain == sheetErrorDomain) {
         return "There is no first line with name, address and user.";
     }
-    return error.domain == csvErrorDomain ? "This is not a CSV file: " + error.failureReason + "."
-                                          : shownDescription(error);
+    if (error.domain == csvErrorDomain) {
+        return error.code == csvTooLarge ? "This file is too large for a fleet sheet."
+                                         : "This is not a CSV file: " + error.failureReason + ".";
+    }
+    return shownDescription(error);
 }
 
 /// Why the row is none that can be tried; empty for one that can.
