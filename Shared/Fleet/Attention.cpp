@@ -162,9 +162,13 @@ void Attention::make(const FleetReading& fleet)
 
 void Attention::show(std::shared_ptr<const Picture> picture)
 {
-    // The old picture may hold the last share of many feeds: the queue lets go of them.
-    m_state->queue.async([old = std::exchange(m_picture, std::move(picture))] {});
+    release(std::exchange(m_picture, std::move(picture)));
     NotificationCenter::defaultCenter().postNotification("AttentionDidChange");
+}
+
+void Attention::release(std::shared_ptr<const Picture> picture)
+{
+    shared().m_state->queue.async([picture = std::move(picture)] {});
 }
 
 void Attention::adopt(std::shared_ptr<const Picture> picture)

@@ -36,6 +36,8 @@ public:
     /// Asks for a new picture. Several calls in a row make one. While consoles are read, pictures take no more than a
     /// small part of a processor's time, and at most one a second is made while more than 1,000 are.
     void update();
+    /// Lets go of a picture elsewhere: its last holder frees many findings, and feeds that have been read anew since.
+    static void release(std::shared_ptr<const Picture> picture);
     /// For tests and pictures: shows these findings instead of the fleet's. Null: the fleet's again.
     void adopt(std::shared_ptr<const Picture> picture);
 

@@ -108,18 +108,21 @@ void AttentionNowController::rebuild(const std::shared_ptr<const Attention::Pict
     }
     DispatchQueue::globalBackground().async([screen = self<AttentionNowController>(), turn, picture, make] {
         MainQueue::shared().async([screen, turn, picture, view = make()]() mutable {
-            screen->m_tableView.whenUntouched([screen, turn, picture, view = std::move(view)]() mutable {
-                if (screen->m_turn == turn) {
-                    screen->adopt(picture, std::move(view));
-                }
-            });
+            screen->m_tableView.whenUntouched(
+                [screen, turn, picture = std::move(picture), view = std::move(view)]() mutable {
+                    if (screen->m_turn == turn) {
+                        screen->adopt(picture, std::move(view));
+                    } else {
+                        Attention::release(std::move(picture));
+                    }
+                });
         });
     });
 }
 
 void AttentionNowController::adopt(std::shared_ptr<const Attention::Picture> picture, FindingView view)
 {
-    m_picture = std::move(picture);
+    Attention::release(std::exchange(m_picture, std::move(picture)));
     m_view = std::move(view);
     showTexts();
     m_tableView.reloadRows();

@@ -60,7 +60,7 @@ void FoldedListController::follow()
 
 void FoldedListController::adopt()
 {
-    m_picture = Attention::shared().picture();
+    Attention::release(std::exchange(m_picture, Attention::shared().picture()));
     m_rows.clear();
     const std::vector<Finding>& list = m_picture->findings.list;
     for (std::uint32_t place = 0; place < list.size(); ++place) {
