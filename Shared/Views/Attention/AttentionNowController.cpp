@@ -107,7 +107,7 @@ void AttentionNowController::rebuild(const std::shared_ptr<const Attention::Pict
         return;
     }
     DispatchQueue::globalBackground().async([screen = self<AttentionNowController>(), turn, picture, make] {
-        MainQueue::shared().async([screen, turn, picture, view = make()]() mutable {
+        MainQueue::shared().async([screen, turn, picture = picture, view = make()]() mutable {
             screen->m_tableView.whenUntouched(
                 [screen, turn, picture = std::move(picture), view = std::move(view)]() mutable {
                     if (screen->m_turn == turn) {
