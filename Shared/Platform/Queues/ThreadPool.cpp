@@ -197,6 +197,8 @@ void ThreadPool::State::startThread()
 void ThreadPool::State::work()
 {
     const OwnThread thread("lodestar-pool");
+    // The main thread draws and takes input: it goes first where the processor is short.
+    OwnThread::takeLowPriority();
     std::unique_lock lock(mutex);
     Job job;
     while (nextJob(job, lock)) {
