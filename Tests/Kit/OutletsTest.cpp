@@ -7,8 +7,10 @@
 
 #include <QEventLoop>
 #include <QFontInfo>
+#include <QTimer>
 #include <gmock/gmock.h>
 
+#include <chrono>
 #include <thread>
 
 namespace lodestar
@@ -35,6 +37,22 @@ TEST(MainLoopTest, ANestedLoopRunsTheBlocksBehindTheOneThatStartedIt)
     });
     EXPECT_TRUE(waitFor([&] { return order.size() == 5; }));
     EXPECT_THAT(order, testing::ElementsAre("first begins", "second begins", "third", "second ends", "first ends"));
+}
+
+TEST(MainLoopTest, ABurstOfBlocksLeavesRoomForTheLoop)
+{
+    constexpr int burst = 100;
+    int blocksRun = 0;
+    for (int i = 0; i < burst; ++i) {
+        MainQueue::shared().async([&] {
+            std::this_thread::sleep_for(std::chrono::milliseconds(2));
+            ++blocksRun;
+        });
+    }
+    int blocksRunAtTimer = burst;
+    QTimer::singleShot(std::chrono::milliseconds(20), [&] { blocksRunAtTimer = blocksRun; });
+    EXPECT_TRUE(waitFor([&] { return blocksRun == burst; }));
+    EXPECT_LT(blocksRunAtTimer, burst);
 }
 
 TEST(OutletsTest, SettersTakeEffectAtOnceOnTheMainThreadAndInOrderLaterFromWorkers)

@@ -133,6 +133,30 @@ TEST_F(MainQueueTests, DrainsInOrderWhatWasQueuedBeforeAlsoFromWithinABlock)
     EXPECT_FALSE(queue.drain());
 }
 
+TEST_F(MainQueueTests, ATimeLimitLeavesBlocksToAHostThatComesBackUnwoken)
+{
+    int wakes = 0;
+    queue.setWake([&] { ++wakes; });
+    for (int i = 1; i <= 3; ++i) {
+        queue.async([&, i] {
+            std::this_thread::sleep_for(20ms);
+            order.push_back(i);
+            queue.async([&, i] { order.push_back(10 * i); });
+        });
+    }
+    EXPECT_EQ(wakes, 1);
+    EXPECT_TRUE(queue.drainFor(10ms)) << "the first block used up the time";
+    EXPECT_EQ(order, std::vector{1});
+    while (queue.drainFor(10ms)) {
+    }
+    EXPECT_EQ(order, (std::vector{1, 2, 3, 10, 20, 30}));
+    EXPECT_EQ(wakes, 1) << "a host that comes back by itself is not woken";
+    queue.async([] {});
+    EXPECT_EQ(wakes, 2);
+    queue.setWake(nullptr);
+    queue.drain();
+}
+
 TEST_F(MainQueueTests, NobodyIsInARemovedWakeFunction)
 {
     std::jthread other([&](const std::stop_token& stop) {

@@ -3,15 +3,22 @@
 
 #include "Platform/Queues/MainQueue.h"
 
+#include <QBasicTimer>
 #include <QCoreApplication>
 #include <QEvent>
 #include <QObject>
+#include <QTimerEvent>
+
+#include <chrono>
 
 namespace lodestar
 {
 
 namespace
 {
+
+/// Half a frame: blocks of hundreds of consoles that come at once leave room for input and drawing.
+constexpr std::chrono::milliseconds drainLimit{8};
 
 QEvent::Type wakeType()
 {
@@ -37,11 +44,33 @@ public:
         if (event->type() != wakeType() && event->type() != nestedType()) {
             return QObject::event(event);
         }
-        QCoreApplication::postEvent(this, new QEvent(nestedType()));
-        MainQueue::shared().drain();
-        QCoreApplication::removePostedEvents(this, nestedType());
+        drain();
         return true;
     }
+
+protected:
+    void timerEvent(QTimerEvent* event) override
+    {
+        if (event->timerId() == m_rest.timerId()) {
+            m_rest.stop();
+            drain();
+        }
+    }
+
+private:
+    void drain()
+    {
+        QCoreApplication::postEvent(this, new QEvent(nestedType()));
+        const bool blocksAreLeft = MainQueue::shared().drainFor(drainLimit);
+        QCoreApplication::removePostedEvents(this, nestedType());
+        if (blocksAreLeft) {
+            // Not zero: the loop would run a zero timer only when it has nothing else to do, so never under an
+            // animation.
+            m_rest.start(1, Qt::PreciseTimer, this);
+        }
+    }
+
+    QBasicTimer m_rest; ///< comes back for blocks that the time limit left
 };
 
 MainLoop::MainLoop() : m_receiver(std::make_unique<Receiver>())

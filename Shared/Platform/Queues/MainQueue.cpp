@@ -31,6 +31,7 @@ constexpr std::chrono::milliseconds pollInterval{2};
 struct MainQueue::State {
     void push(Task block, std::unique_lock<std::mutex>& lock);
     void callWake(std::unique_lock<std::mutex>& lock);
+    bool runBlocks(Clock::time_point deadline, std::unique_lock<std::mutex>& lock);
     void runTimers();
 
     std::mutex mutex;
@@ -38,7 +39,7 @@ struct MainQueue::State {
     std::deque<Task> blocks;
     std::uint64_t pushed = 0;
     std::uint64_t popped = 0;
-    bool woken = false; ///< the host was woken for the waiting blocks and has not begun to drain
+    bool woken = false; ///< the host was woken for the waiting blocks, or comes back for them by itself
 
     Wake wake;
     std::size_t wakesRunning = 0;
@@ -153,18 +154,16 @@ void MainQueue::setWake(std::function<void()> wake)
     }
 }
 
-bool MainQueue::drain()
+/// Call with the lock held. Runs the blocks that wait now. Takes them one at a time and counts them, so that a block
+/// that drains the queue itself (a modal loop) runs the blocks behind it in order. Returns whether any block ran.
+bool MainQueue::State::runBlocks(Clock::time_point deadline, std::unique_lock<std::mutex>& lock)
 {
-    std::unique_lock lock(m_state->mutex);
-    m_state->woken = false;
-    // Takes blocks one at a time and counts them, so that a block that drains itself (a modal loop) runs the blocks
-    // behind it in order.
-    const std::uint64_t end = m_state->pushed;
+    const std::uint64_t end = pushed;
     bool ran = false;
-    while (m_state->popped < end) {
-        Task block = std::move(m_state->blocks.front());
-        m_state->blocks.pop_front();
-        ++m_state->popped;
+    while (popped < end && (!ran || Clock::now() < deadline)) {
+        Task block = std::move(blocks.front());
+        blocks.pop_front();
+        ++popped;
         lock.unlock();
         block();
         block.reset();
@@ -172,6 +171,23 @@ bool MainQueue::drain()
         lock.lock();
     }
     return ran;
+}
+
+bool MainQueue::drain()
+{
+    std::unique_lock lock(m_state->mutex);
+    m_state->woken = false;
+    return m_state->runBlocks(Clock::time_point::max(), lock);
+}
+
+bool MainQueue::drainFor(std::chrono::milliseconds limit)
+{
+    std::unique_lock lock(m_state->mutex);
+    // A block that comes meanwhile wakes nobody: a loop that handles wakes until none is left would never get on.
+    m_state->woken = true;
+    m_state->runBlocks(Clock::now() + limit, lock);
+    m_state->woken = !m_state->blocks.empty();
+    return m_state->woken;
 }
 
 bool MainQueue::runUntil(const std::function<bool()>& predicate, std::chrono::milliseconds limit)

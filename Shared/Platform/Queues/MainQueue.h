@@ -33,6 +33,9 @@ public:
     /// Main thread. Runs the blocks that were queued before the call. Blocks queued during the call wait for the next
     /// wake, so that a loop stays responsive. Returns whether any block ran.
     bool drain();
+    /// Like `drain`, but begins no block once the time is over. Returns whether blocks are left: the host then calls
+    /// again after a pass of its loop, and is not woken for them.
+    bool drainFor(std::chrono::milliseconds limit);
     /// Main thread, for hosts without an event loop. Drains and waits until the predicate holds or the time is over;
     /// returns the predicate's last answer.
     bool runUntil(const std::function<bool()>& predicate, std::chrono::milliseconds limit);
