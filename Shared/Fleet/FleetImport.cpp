@@ -89,6 +89,7 @@ struct FleetImport::Trying : public std::enable_shared_from_this<Trying> {
     std::vector<Row> rows;
     std::vector<std::shared_ptr<InventoryFetch>> fetches; ///< one a row: under way or verified, else null
     std::map<std::string, std::string> passwords;         ///< by user
+    std::chrono::seconds feedTimeout{};
     std::function<void()> changed;
     std::size_t next = 0; ///< the first row that was not looked at for starting
     std::size_t underWay = 0;
@@ -150,14 +151,16 @@ struct FleetImport::Trying : public std::enable_shared_from_this<Trying> {
             }
         };
         fetch
-            ->start(Urgency::Fleet,
-                    [self = shared_from_this(), index, now = turn] {
-                        MainQueue::shared().async([self, index, now] {
-                            if (self->turn == now) {
-                                self->didLogOn(index);
-                            }
-                        });
-                    })
+            ->start(
+                Urgency::Fleet,
+                [self = shared_from_this(), index, now = turn] {
+                    MainQueue::shared().async([self, index, now] {
+                        if (self->turn == now) {
+                            self->didLogOn(index);
+                        }
+                    });
+                },
+                feedTimeout)
             .thenOnMain(ended, ended);
     }
 
@@ -191,7 +194,8 @@ struct FleetImport::Trying : public std::enable_shared_from_this<Trying> {
     }
 };
 
-FleetImport::FleetImport(const FleetSheet& sheet, const std::map<std::string, std::string>& passwords)
+FleetImport::FleetImport(const FleetSheet& sheet, const std::map<std::string, std::string>& passwords,
+                         std::chrono::seconds feedTimeout)
     : m_trying(std::make_shared<Trying>())
 {
     for (const SheetRow& row : sheet.rows) {
@@ -201,6 +205,7 @@ FleetImport::FleetImport(const FleetSheet& sheet, const std::map<std::string, st
     }
     m_trying->fetches.resize(m_trying->rows.size());
     m_trying->passwords = passwords;
+    m_trying->feedTimeout = feedTimeout;
 }
 
 FleetImport::~FleetImport()

@@ -16,7 +16,7 @@
 
 namespace lodestar
 {
-
+/// @file
 /// A fleet sheet: comma-separated values whose first line names the columns "name", "address" and "user" (in any
 /// order and case). Never holds a password.
 
@@ -88,7 +88,10 @@ public:
     };
 
     /// The new rows of a sheet, with the password of each user.
-    FleetImport(const FleetSheet& sheet, const std::map<std::string, std::string>& passwords);
+    /// A feed that is not there after its time-out is missing, as one that the console refuses: a person waits for the
+    /// end of all, and the first refresh reads it.
+    FleetImport(const FleetSheet& sheet, const std::map<std::string, std::string>& passwords,
+                std::chrono::seconds feedTimeout = std::chrono::seconds(60));
     ~FleetImport();
     FleetImport(const FleetImport&) = delete;
     FleetImport& operator=(const FleetImport&) = delete;

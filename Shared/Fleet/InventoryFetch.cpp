@@ -34,9 +34,10 @@ InventoryFetch::InventoryFetch(CorvelRef corvel) : m_corvel(std::move(corvel))
     m_attempt.began = std::chrono::system_clock::now();
 }
 
-RXPromise<std::string> InventoryFetch::start(Urgency urgency, std::function<void()> loggedOn)
+RXPromise<std::string> InventoryFetch::start(Urgency urgency, std::function<void()> loggedOn,
+                                             std::chrono::seconds feedTimeout)
 {
-    return fetch(urgency, std::move(loggedOn))
+    return fetch(Asking(urgency, m_log, feedTimeout), std::move(loggedOn))
         .then(
             [self = shared_from_this()](const std::string& done) {
                 self->judge(std::nullopt);
@@ -48,9 +49,8 @@ RXPromise<std::string> InventoryFetch::start(Urgency urgency, std::function<void
             });
 }
 
-RXPromise<std::string> InventoryFetch::fetch(Urgency urgency, std::function<void()> loggedOn)
+RXPromise<std::string> InventoryFetch::fetch(const Asking& asking, std::function<void()> loggedOn)
 {
-    const Asking asking(urgency, m_log);
     return RESTHandler::sharedInstance()
         .login(m_corvel, CheckToken::Yes, asking)
         .then([self = shared_from_this(), asking, loggedOn = std::move(loggedOn)](const SessionKey& key) {

@@ -8,6 +8,7 @@
 #include "Platform/URLLoading/URLRequest.h"
 
 #include <atomic>
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <string>
@@ -24,7 +25,8 @@ public:
 
     /// Logs on, marks the record online, fetches the feeds into it and counts them. Rejected when the logon fails. When
     /// the promise settles, the functions below have their answers. `loggedOn` is called on a worker.
-    RXPromise<std::string> start(Urgency urgency, std::function<void()> loggedOn = nullptr);
+    RXPromise<std::string> start(Urgency urgency, std::function<void()> loggedOn = nullptr,
+                                 std::chrono::seconds feedTimeout = patientFeedTimeout);
     /// Asks nothing more of the console once it has answered what was asked already. Any thread.
     void stop() { m_isStopped = true; }
 
@@ -41,7 +43,7 @@ public:
     void addToHistoryAs(const CorvelRef& corvel) const;
 
 private:
-    RXPromise<std::string> fetch(Urgency urgency, std::function<void()> loggedOn);
+    RXPromise<std::string> fetch(const Asking& asking, std::function<void()> loggedOn);
     void judge(std::optional<Error> rejection);
 
     const CorvelRef m_corvel;

@@ -234,6 +234,34 @@ TEST_F(FleetImportTest, GoodOnesAreAddedAtOnceBesideSomeThatRefuseStallOrLie)
     EXPECT_THAT(csvOf(exported), testing::Not(HasSubstr(simulator.password())));
 }
 
+TEST_F(FleetImportTest, NoConsoleThatStallsAfterItsLogonHoldsUpTheRest)
+{
+    simulator.start({.consoles = 4,
+                     .faults = {"stallFeed:Group:1", "trickle:LogicalPartition:2", "stallFeed:ManagedSystem:3",
+                                "trickle:ServiceableEvent:3"}});
+    fleet = std::make_shared<FleetImport>(sheetOf(4), passwords(), 2s);
+    fleet->verify(nullptr);
+    ASSERT_TRUE(MainQueue::shared().runUntil([this] { return !fleet->isRunning(); }, 20s));
+    EXPECT_THAT(states(), Each(State::Verified));
+    std::vector<std::size_t> missing;
+    for (const auto& row : fleet->rows()) {
+        missing.push_back(row.missingFeeds);
+    }
+    EXPECT_THAT(missing, ElementsAre(0U, 1U, 1U, 2U));
+    expectNoTrace();
+    simulator.clearRequests();
+    ASSERT_TRUE(fleet->add().ok());
+    const auto reading = Readings::shared().of(*handler().corvelList()[1]);
+    EXPECT_THAT(reading->missingFeeds(), ElementsAre(ObjectType::Group));
+    EXPECT_EQ(reasonOf(*reading->feeds.back().error), ReadingReason::TimedOut);
+    EXPECT_EQ(simulator.requests().size(), 0U);
+
+    // The refresh after it waits as long as every refresh, and gets what came too late.
+    simulator.clearFault("stallFeed:Group:1");
+    EXPECT_TRUE(settled(refreshCorvel(handler().corvelList()[1], Urgency::Fleet)).ok());
+    EXPECT_EQ(Readings::shared().of(*handler().corvelList()[1])->outcome, Reading::Outcome::Complete);
+}
+
 TEST_F(FleetImportTest, StoppingAndFailingLeaveNothing)
 {
     simulator.start({.consoles = 6, .latency = 150, .faults = {"stallFeed:All:5"}});

@@ -6,6 +6,7 @@
 #include "Platform/URLLoading/TransferRecord.h"
 #include "Platform/URLLoading/URLRequest.h"
 
+#include <chrono>
 #include <cstddef>
 #include <memory>
 #include <mutex>
@@ -44,15 +45,20 @@ private:
     std::vector<Exchange> m_exchanges;
 };
 
+/// A large console needs minutes for its inventory.
+inline constexpr std::chrono::seconds patientFeedTimeout{500};
+
 /// On whose behalf the client is asked, and who wants to know of its exchanges. The log may be null.
 struct Asking {
-    Asking(Urgency who = Urgency::Person, std::shared_ptr<ExchangeLog> told = nullptr)
-        : urgency(who), log(std::move(told))
+    Asking(Urgency who = Urgency::Person, std::shared_ptr<ExchangeLog> told = nullptr,
+           std::chrono::seconds timeoutOfFeeds = patientFeedTimeout)
+        : urgency(who), log(std::move(told)), feedTimeout(timeoutOfFeeds)
     {
     }
 
     Urgency urgency;
     std::shared_ptr<ExchangeLog> log;
+    std::chrono::seconds feedTimeout; ///< of each feed's request
 };
 
 /// A request's entry in the log until its answer has been read. Does nothing without a log. Copies are the same entry.

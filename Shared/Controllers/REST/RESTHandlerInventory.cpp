@@ -21,7 +21,6 @@ namespace
 {
 
 constexpr std::string_view sourceFile = "Shared/Controllers/REST/RESTHandler";
-constexpr std::chrono::seconds feedTimeout{500};
 
 /// Collects one console's feeds as they come in, from several threads.
 class FeedCollector
@@ -99,7 +98,7 @@ RXPromise<XMLElement> RESTHandler::fetchDataOfType(std::string_view type, const 
     }
     URLRequest request;
     request.url = consoleURL(*corvel, schema, type);
-    request.timeout = feedTimeout;
+    request.timeout = asking.feedTimeout;
     request.urgency = asking.urgency;
     if (key) {
         request.headers.setValue("X-API-Session", *key);
