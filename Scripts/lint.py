@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 # SPDX-License-Identifier: Apache-2.0
-"""The style checks of ./test (format, elements, includes, circles, licences, texts, claims), and the analyser of ./test --tidy."""
+"""The checks of ./test on files alone (format, elements, includes, circles, licences, texts, claims, pictures, api), and the
+analyser of ./test --tidy."""
 
 import argparse
 import concurrent.futures
@@ -164,6 +165,43 @@ def check_claims(source, _build):
     return faults
 
 
+# A picture within a page: Markdown's, or an element that says how wide it is drawn.
+PICTURE = re.compile(r'!\[[^]]*\]\(([^)\s]+)\)|<img [^>]*?src="([^"]+)"')
+PICTURE_BYTES = 2_000_000
+
+
+def check_pictures(source, _build):
+    """Holds the pages' pictures against the looks that `lodestar-screenshots` draws, and the other way round."""
+    looks = {name for path in tracked(source, ".cpp") if path.parts[:2] == ("Tools", "Screenshots")
+             for name in re.findall(r'\{"([a-z0-9-]+)",', (source / path).read_text())}
+    kept = {path for path in tracked(source, ".png") if path.parts[0] == "docs"}
+    named, faults = set(), []
+    for path in tracked(source, ".md"):
+        for number, row in enumerate((source / path).read_text().splitlines(), 1):
+            for name in (a or b for a, b in PICTURE.findall(row)):
+                picture = pathlib.Path(os.path.normpath(path.parent / name))
+                named.add(picture)
+                if picture not in kept:
+                    faults.append(f"{path}:{number}: there is no picture {picture}; ./run --guide makes it")
+                if re.sub(r"-\d+(-[a-z0-9]+)?$", "", picture.stem) not in looks:
+                    faults.append(f"{path}:{number}: no look is called {picture.stem}")
+    faults += [f"{picture}: no page shows it" for picture in sorted(kept - named)]
+    size = sum((source / picture).stat().st_size for picture in kept)
+    if size > PICTURE_BYTES:
+        faults.append(f"docs: the pictures take {size} bytes, more than {PICTURE_BYTES}")
+    return faults
+
+
+def check_api(source, build):
+    """Makes the API documentation of the core, and finds what doxygen warns about."""
+    pages = build / "api"
+    pages.mkdir(parents=True, exist_ok=True)
+    done = subprocess.run(["doxygen", "docs/Doxyfile"], cwd=source, env={**os.environ, "LODESTAR_API": str(pages)},
+                          stderr=subprocess.PIPE, text=True)
+    rows = [row.removeprefix(f"{source}/") for row in done.stderr.splitlines() if row]
+    return rows or ([f"doxygen ended with {done.returncode}"] if done.returncode != 0 else [])
+
+
 def dependencies(build):
     """For each object file the files from which it was built, as ninja recorded them."""
     done = subprocess.run(["ninja", "-C", build, "-t", "deps"], check=True, stdout=subprocess.PIPE, text=True)
@@ -214,7 +252,7 @@ def check_tidy(source, build):
 def main():
     checks = {"format": check_format, "elements": check_elements, "includes": check_includes, "circles": check_circles,
               "licences": check_licences, "texts": check_texts,
-              "claims": check_claims, "tidy": check_tidy}
+              "claims": check_claims, "pictures": check_pictures, "api": check_api, "tidy": check_tidy}
     parser = argparse.ArgumentParser()
     parser.add_argument("--source", type=pathlib.Path, required=True)
     parser.add_argument("--build", type=pathlib.Path, required=True)

@@ -16,7 +16,7 @@ namespace lodestar
 {
 
 class UserDefaults;
-
+/// @file
 /// The registry of consoles: screens and others use it to change records and to fetch into them. Main thread, unless a
 /// function says otherwise. Adding to the working list, removing from it and forgetting what was fetched post
 /// "CorvelsDidChange".

@@ -11,7 +11,7 @@
 
 namespace lodestar
 {
-
+/// @file
 /// How the tables write what is no text by itself. Any thread.
 
 /// "2026-03-12T09:41:00Z"; empty for no time.

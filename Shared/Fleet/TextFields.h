@@ -7,7 +7,7 @@
 
 namespace lodestar
 {
-
+/// @file
 /// How lists are kept as one text among the settings: an entry a line, its fields between tabs. Fields may hold any
 /// text: addresses and names are as somebody typed them.
 

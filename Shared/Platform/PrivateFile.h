@@ -9,7 +9,7 @@
 
 namespace lodestar
 {
-
+/// @file
 /// Files and folders for this user only: files 0600, folders 0700. No state: any thread may call, and each call waits
 /// for the disk. Error texts name a file without its folders: a folder's name may be a person's name, and the text may
 /// end up in a log.
