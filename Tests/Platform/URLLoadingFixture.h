@@ -111,7 +111,10 @@ protected:
     void TearDown() override
     {
         m_queue.waitUntilAllOperationsAreFinished();
-        TransferLimits::shared() = m_limits;
+        // The network's thread may still read the limits for a transfer that is expected: most tests leave them alone.
+        if (TransferLimits::shared() != m_limits) {
+            TransferLimits::shared() = m_limits;
+        }
         ServerTrust::shared().setRefusalHandler(nullptr);
     }
 

@@ -35,6 +35,7 @@ struct TransferLimits {
 
     static TransferLimits ofDevice(std::size_t memory);
     static TransferLimits& shared();
+    bool operator==(const TransferLimits&) const = default;
 };
 
 } // namespace lodestar
