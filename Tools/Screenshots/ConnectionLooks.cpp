@@ -74,6 +74,7 @@ std::vector<Look> connectionLooks()
         showNight(stage, Night::Morning);
         stage.settle();
         stage.list().presentMenu(1);
+        pressRow(stage, 1);
     };
     return {
         {"connection", {}, connectionOf(1), true},

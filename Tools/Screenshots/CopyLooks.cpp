@@ -59,7 +59,13 @@ void showSelection(SceneStage& stage)
 std::vector<Look> copyLooks()
 {
     return {
-        {"copy-menu", {}, [](SceneStage& stage) { openEvent(stage).presentMenu(0, 4); }, true},
+        {"copy-menu",
+         {},
+         [](SceneStage& stage) {
+             openEvent(stage).presentMenu(0, 4);
+             pressRow(stage, 4);
+         },
+         true},
         {"copy-menu-long", {}, [](SceneStage& stage) { openEvent(stage).presentMenu(0, 15); }},
         {"copied",
          {},

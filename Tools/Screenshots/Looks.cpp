@@ -26,6 +26,15 @@ void search(FeedListViewController& list, const char* text)
     list.searchBar()->setText(QString::fromLatin1(text));
 }
 
+void pressRow(const SceneStage& stage, int belowFirst)
+{
+    stage.settle();
+    for (QQuickItem* table : stage.items(QStringLiteral("CardTable"))) {
+        // A table that gets the focus has chosen its first row.
+        table->setProperty("currentIndex", table->property("currentIndex").toInt() + belowFirst);
+    }
+}
+
 std::string entryOf(const std::string& type, const std::string& content)
 {
     return "<entry><published>2026-03-12T09:41:00.000Z</published><content><" + type + ">" + content + "</" + type +

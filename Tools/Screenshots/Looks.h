@@ -26,6 +26,8 @@ struct Look {
 /// it.
 CorvelRef simulatedConsole(const SceneStage& stage, const simulator::SimulatorProcess& simulated);
 void search(FeedListViewController& list, const char* text);
+/// Makes the row so many below the first one look pressed, as a press does that brings up the row's menu.
+void pressRow(const SceneStage& stage, int belowFirst);
 /// One entry of a feed, with an object of the type.
 std::string entryOf(const std::string& type, const std::string& content);
 

@@ -3,6 +3,9 @@
 // the pictures whose file name contains it.
 //
 // lodestar-screenshots --tour FOLDER: draws the tour's pictures, which are kept in Resources/tour.
+//
+// lodestar-screenshots --guide FOLDER: draws the pictures that the folder's pages show, in few colours. The user's
+// guide is kept in docs/guide.
 #include "Fleet/Watch.h"
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/MainLoop.h"
@@ -11,7 +14,10 @@
 #include "Tools/Screenshots/TourPictures.h"
 
 #include <QDir>
+#include <QFile>
 #include <QGuiApplication>
+#include <QRegularExpression>
+#include <QSet>
 
 #include <cstdio>
 #include <optional>
@@ -153,18 +159,54 @@ std::vector<Variant> variantsOf(const Look& look)
     return variants;
 }
 
-void take(SceneStage& stage, const Look& look, const Variant& variant, const QString& file)
+/// The names of the pictures that the folder's pages show.
+QSet<QString> picturesOfPages(const QDir& folder)
+{
+    static const QRegularExpression picture(QStringLiteral("[a-z0-9-]+\\.png"));
+    QSet<QString> names;
+    for (const QString& page : folder.entryList({QStringLiteral("*.md")}, QDir::Files)) {
+        QFile file(folder.filePath(page));
+        if (file.open(QIODevice::ReadOnly)) {
+            for (const QRegularExpressionMatch& found : picture.globalMatch(QString::fromUtf8(file.readAll()))) {
+                names.insert(found.captured());
+            }
+        }
+    }
+    return names;
+}
+
+/// What is drawn, and where to.
+struct Order {
+    QDir folder;
+    bool isGuide = false;
+    QSet<QString> names; ///< of the guide's pictures
+    QString part;        ///< of the names of all others
+
+    bool wants(const QString& name) const { return isGuide ? names.contains(name) : name.contains(part); }
+};
+
+/// False when a page shows a picture that was not drawn: one of no look, or of a look that is not drawn so.
+bool finishGuide(const Order& order, const QSet<QString>& drawn)
+{
+    for (const QString& name : order.names - drawn) {
+        std::fprintf(stderr, "no screen looks like %s\n", qPrintable(name));
+    }
+    return drawn.contains(order.names);
+}
+
+void take(SceneStage& stage, const Look& look, const Variant& variant, const Order& order, const QString& name)
 {
     Appearance& appearance = Appearance::shared();
     appearance.overrideDark(variant.dark);
     appearance.overrideTextScale(variant.textScale);
-    appearance.overrideMirrored(variant.mirrored);
+    appearance.overrideMirrored(variant.mirrored ? std::optional(true) : std::nullopt);
     setMorningClock(false);
     Watch::shared().setSettings({});
     stage.show(variant.size, look.consoles);
     look.prepare(stage);
     stage.settle();
-    if (!stage.grab().save(file)) {
+    const QString file = order.folder.filePath(name);
+    if (!(order.isGuide ? withPalette(stage.grab()).save(file, "PNG", 0) : stage.grab().save(file))) {
         std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
     }
 }
@@ -182,24 +224,31 @@ int main(int argc, char** argv)
     const MainLoop mainLoop;
     const QStringList arguments = QGuiApplication::arguments();
     const bool tour = arguments.size() > 2 && arguments[1] == QLatin1String("--tour");
-    if (arguments.size() < 2 || (arguments[1].startsWith('-') && !tour)) {
-        std::fprintf(stderr, "lodestar-screenshots FOLDER [TEXT]\nlodestar-screenshots --tour FOLDER\n");
+    const bool guide = arguments.size() > 2 && arguments[1] == QLatin1String("--guide");
+    if (arguments.size() < 2 || (arguments[1].startsWith('-') && !tour && !guide)) {
+        std::fprintf(stderr, "lodestar-screenshots FOLDER [TEXT]\nlodestar-screenshots --tour FOLDER\n"
+                             "lodestar-screenshots --guide FOLDER\n");
         return 2;
     }
-    const QDir folder(arguments[tour ? 2 : 1]);
-    folder.mkpath(QStringLiteral("."));
+    Order order{QDir(arguments[tour || guide ? 2 : 1]), guide, {}, arguments.value(2)};
+    order.folder.mkpath(QStringLiteral("."));
     SceneStage stage;
     if (tour) {
-        return writeTourPictures(stage, folder) ? 0 : 1;
+        return writeTourPictures(stage, order.folder) ? 0 : 1;
     }
+    if (guide) {
+        order.names = picturesOfPages(order.folder);
+    }
+    QSet<QString> drawn;
     for (const auto& looks : {consoleLooks(), editorLooks(), dashboardLooks(), inventoryLooks(), groupedLooks(),
                               eventAndGroupLooks(), performanceLooks(), aboutLooks(), lockLooks(), feedbackLooks(),
                               attentionLooks(), findLooks(), connectionLooks(), copyLooks(), fleetSheetLooks()}) {
         for (const Look& look : looks) {
             for (const Variant& variant : variantsOf(look)) {
                 const QString name = QString::fromLatin1(look.name) + '-' + variant.suffix + ".png";
-                if (arguments.size() < 3 || name.contains(arguments[2])) {
-                    take(stage, look, variant, folder.filePath(name));
+                if (order.wants(name)) {
+                    take(stage, look, variant, order, name);
+                    drawn.insert(name);
                 }
             }
         }
@@ -207,5 +256,5 @@ int main(int argc, char** argv)
     for (const QString& warning : stage.warnings()) {
         std::fprintf(stderr, "%s\n", qPrintable(warning));
     }
-    return stage.warnings().isEmpty() ? 0 : 1;
+    return stage.warnings().isEmpty() && (!guide || finishGuide(order, drawn)) ? 0 : 1;
 }

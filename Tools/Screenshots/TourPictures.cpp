@@ -154,8 +154,8 @@ QImage makePage(const QImage& screen, const IntroPage& page)
     return image;
 }
 
-/// The picture in 256 colours, which takes a third of the space. Takes the most frequent colours that are not too close
-/// to one another: screens are flat, so that only the edges of letters lose their own colour.
+} // namespace
+
 QImage withPalette(const QImage& image)
 {
     std::map<QRgb, int> counts;
@@ -180,8 +180,6 @@ QImage withPalette(const QImage& image)
     }
     return image.convertToFormat(QImage::Format_Indexed8, palette, Qt::ThresholdDither);
 }
-
-} // namespace
 
 bool writeTourPictures(SceneStage& stage, const QDir& folder)
 {
