@@ -6,17 +6,12 @@
 #include "Application/WindowPlace.h"
 #include "Kit/Core/TabBarController.h"
 #include "Platform/UserDefaults.h"
+#include "Views/Attention/AttentionViewController.h"
 
 #include <QGuiApplication>
 
 namespace lodestar
 {
-namespace
-{
-
-constexpr int attentionTab = 2;
-
-} // namespace
 
 AttentionOpener::AttentionOpener(FeedbackWindow& window) : m_window(window)
 {
@@ -53,9 +48,8 @@ void AttentionOpener::becameActive()
 
 void AttentionOpener::select()
 {
-    if (TabBarController* const tabs = mainInterface(); tabs != nullptr && tabs->count() > attentionTab) {
+    if (TabBarController* const tabs = mainInterface(); tabs != nullptr && showAttention(*tabs) != nullptr) {
         m_isWanted = false;
-        tabs->setSelectedIndex(attentionTab);
     }
 }
 

@@ -9,8 +9,8 @@ namespace lodestar
 class FeedbackWindow;
 class TabBarController;
 
-/// Brings the window to the front with the Attention tab, as a tap on a message wants it. Behind the passcode screen,
-/// the tab is shown once the passcode was given. Main thread.
+/// Brings the window to the front with the first screen of the Attention tab, as a tap on a message wants it. Behind
+/// the passcode screen, it is shown once the passcode was given. Main thread.
 class AttentionOpener : public QObject
 {
     Q_OBJECT

@@ -5,6 +5,8 @@
 #include "Application/PrivacyCover.h"
 #include "Feedback/UI/ScreenGrabber.h"
 #include "Tests/Application/LockedWindowFixture.h"
+#include "Views/Attention/AttentionViewController.h"
+#include "Views/Common/TabRoot.h"
 
 #include <QClipboard>
 #include <qpa/qwindowsysteminterface.h>
@@ -241,8 +243,12 @@ TEST_F(LockedWindowTest, ATapOnAMessageShowsAttentionOnceThePasscodeIsGiven)
     reactivate();
     unlock();
     EXPECT_EQ(tabs().selectedIndex(), 0) << "the tap is forgotten";
+    AttentionViewController* const screen = rootOf<AttentionViewController>(tabs()).first;
+    screen->openWatch();
     opener.open();
     EXPECT_EQ(tabs().selectedIndex(), attention) << "nothing stands in between";
+    EXPECT_EQ(screen->navigationController()->topViewController(), screen)
+        << "a screen opened from it does not cover it";
 
     window().hide();
     QWindowSystemInterface::handleApplicationStateChanged(Qt::ApplicationInactive);
