@@ -4,9 +4,11 @@
 #include "CommandLine/Failure.h"
 #include "Platform/PrivateFile.h"
 #include "Platform/Queues/MainQueue.h"
+#include "Platform/URLLoading/URLRequest.h"
 
 #include <fmt/format.h>
 
+#include <algorithm>
 #include <arpa/inet.h>
 #include <cerrno>
 #include <charconv>
@@ -113,6 +115,25 @@ MHD_Response* metricsResponse(std::shared_ptr<const std::string> text)
     return response;
 }
 
+/// Whether a request's Host names this machine, on any port: it may have come through a tunnel. A page of the web that
+/// had its own name lead here would name itself. Who sends no Host is no browser.
+bool isOwnHost(const char* header)
+{
+    if (header == nullptr) {
+        return true;
+    }
+    const std::string_view text(header);
+    const bool isBracketed = text.starts_with('[');
+    const std::size_t end = isBracketed ? text.find(']') : std::min(text.find(':'), text.size());
+    if (end == std::string_view::npos) {
+        return false;
+    }
+    std::string host(isBracketed ? text.substr(1, end - 1) : text.substr(0, end));
+    std::ranges::transform(host, host.begin(), lowered);
+    const SocketAddress address({.host = host});
+    return host == "localhost" || (address.isAddress() && address.isLoopback());
+}
+
 } // namespace
 
 Result<ListenAddress> ListenAddress::of(const std::string& text)
@@ -159,6 +180,10 @@ struct Listener::State : std::enable_shared_from_this<Listener::State> {
                                  const char* /*version*/, const char* /*body*/, std::size_t* /*bodySize*/,
                                  void** /*context*/)
     {
+        if (!isOwnHost(MHD_lookup_connection_value(connection, MHD_HEADER_KIND, MHD_HTTP_HEADER_HOST))) {
+            return answer(connection, MHD_HTTP_MISDIRECTED_REQUEST,
+                          plainResponse("This is for requests to localhost or an address such as 127.0.0.1.\n"));
+        }
         if (std::string_view(url) != "/metrics") {
             return answer(connection, MHD_HTTP_NOT_FOUND, plainResponse("There is only /metrics here.\n"));
         }

@@ -4,6 +4,7 @@
 reader of OpenMetrics, by promtool and by a real Prometheus."""
 
 import collections
+import fcntl
 import json
 import os
 import pathlib
@@ -155,6 +156,20 @@ class Text(Exposing):
         self.consoles.tell("clear")
         self.assertEqual((file.read_bytes(), os.listdir(folder)), (before, [file.name]))
 
+        # What a killed one left goes at the next writing; what somebody writes now, and what is not ours, stays.
+        left, held = (folder / f".{file.name}.lodestar-{end}" for end in ("aB3dE6", "held00"))
+        others = {".other.prom.lodestar-aB3dE6", f".{file.name}.backup", f".{file.name}.lodestar-aB3dE67"}
+        for name in (left.name, held.name, *others):
+            (folder / name).write_text("")
+        with open(held) as holder:
+            fcntl.flock(holder, fcntl.LOCK_EX)
+            self.expect(GOOD, "export", "--openmetrics", file)
+        self.assertEqual(set(os.listdir(folder)), {file.name, held.name} | others)
+        self.expect(GOOD, "export", "--openmetrics", file)
+        self.assertEqual(set(os.listdir(folder)), {file.name} | others)
+        for name in others:
+            (folder / name).unlink()
+
         os.mkfifo(folder / "pipe")
         for bad, sentence in (("pipe", "no file that could be replaced"), (".", "no file that could be replaced"),
                               ("none/x.prom", "No such file or directory"), ("x" * 300, "File name too long")):
@@ -181,8 +196,8 @@ class Left(LeftOutCase, Exposing):
 class Listening(Exposing):
     count = 1
 
-    def get(self, port, path="/metrics", method="GET"):
-        request = urllib.request.Request(f"http://127.0.0.1:{port}{path}", method=method)
+    def get(self, port, path="/metrics", method="GET", **headers):
+        request = urllib.request.Request(f"http://127.0.0.1:{port}{path}", method=method, headers=headers)
         try:
             with urllib.request.urlopen(request, timeout=20) as answer:
                 return answer.status, answer.headers, answer.read().decode("utf-8")
@@ -214,6 +229,11 @@ class Listening(Exposing):
             status, headers, _ = self.get(port, method=method)
             self.assertEqual((status, headers["Allow"]), (405, "GET, HEAD"))
         self.assertEqual(self.get(port, method="HEAD")[2], "")
+        # A page of the web whose name was made to lead here reads nothing.
+        for host, expected in (("localhost", 200), ("LOCALHOST:80", 200), ("[::1]:9750", 200), ("127.0.0.5", 200),
+                               ("evil.example", 421), (f"localhost.evil.example:{port}", 421), ("[::1", 421),
+                               ("192.0.2.1", 421), ("127.0.0.1.evil.example", 421), ("", 421)):
+            self.assertEqual(self.get(port, Host=host)[0], expected, host)
         with socket.create_connection(("127.0.0.1", port), 10) as greedy:
             greedy.sendall(b"GET /metrics HTTP/1.1\r\nHost: x\r\n" + b"X: " + b"y" * 60000)
             self.assertRegex(greedy.recv(100).decode(), r"^HTTP/1\.[01] 4\d\d ")
