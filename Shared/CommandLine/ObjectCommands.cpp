@@ -7,6 +7,8 @@
 #include "Fleet/EventTable.h"
 #include "Fleet/FleetEvents.h"
 
+#include <fmt/format.h>
+
 #include <algorithm>
 #include <array>
 #include <nlohmann/json.hpp>
@@ -17,8 +19,24 @@ namespace lodestar
 namespace
 {
 
+/// On a terminal a sentence; elsewhere, where the next program takes it for a row, the titles.
+std::string emptyText(const CommandContext& context, const FleetPicture& picture, const Table& table,
+                      const ObjectKind& kind, std::string_view such)
+{
+    const Terminal& terminal = context.output.terminal();
+    if (!terminal.isTerminal) {
+        return titlesText(context.arguments.has("--all") ? table : columnsOf(table, kind.usualTitles), terminal);
+    }
+    if (picture.consoles.empty()) {
+        return sentenceText("No consoles yet.", terminal);
+    }
+    const std::string_view no = picture.hasAll(kind.type) ? "No" : "No known";
+    return sentenceText(fmt::format("{} {}{}.", no, such, Words::feed(kind.type)), terminal);
+}
+
+/// `such` tells of which of them a choice was made: "open ".
 Result<Verdict> say(CommandContext& context, std::string_view command, const FleetPicture& picture, const Table& table,
-                    const ObjectKind& kind)
+                    const ObjectKind& kind, std::string_view such = {})
 {
     const Terminal& terminal = context.output.terminal();
     if (context.arguments.has("--json")) {
@@ -28,6 +46,8 @@ Result<Verdict> say(CommandContext& context, std::string_view command, const Fle
         context.output.write(Json::document(answer));
     } else if (context.arguments.has("--csv")) {
         context.output.writeCsv(table);
+    } else if (table.rows.empty()) {
+        context.output.write(emptyText(context, picture, table, kind, such));
     } else {
         const bool all = context.arguments.has("--all");
         context.output.write(all ? tableText(table, terminal, &inkOfState)
@@ -126,7 +146,10 @@ Result<Verdict> listEvents(CommandContext& context)
     for (const EventGroup& group : groupedEvents(events, choice.value())) {
         shown.insert(shown.end(), group.events.begin(), group.events.end());
     }
-    return say(context, "events", picture.value(), tableOfEvents(events, shown), *objectKindOf("events"));
+    return say(context, "events", picture.value(), tableOfEvents(events, shown), *objectKindOf("events"),
+               choice.value().callHomeOnly ? "such "
+               : choice.value().openOnly   ? "open "
+                                           : "");
 }
 
 } // namespace lodestar

@@ -7,18 +7,22 @@
 #include "Application/Model/StoreStack.h"
 #include "CommandLine/BundledResources.h"
 #include "CommandLine/Failure.h"
+#include "CommandLine/Terminal.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/LogWriter.h"
 #include "Feedback/VireoLogger.h"
 #include "Fleet/History.h"
+#include "Fleet/HistoryFile.h"
 
 #include <algorithm>
 #include <cerrno>
 #include <cstdint>
 #include <filesystem>
 #include <string_view>
+#include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
+#include <utility>
 
 namespace lodestar
 {
@@ -49,6 +53,12 @@ std::string causesOf(const Error& error)
         text += " " + shownDescription(*cause);
     }
     return text;
+}
+
+ino_t damagedHistoryIn(const std::string& folder)
+{
+    struct stat status = {};
+    return ::stat((folder + "/" + std::string(HistoryFile::damagedName)).c_str(), &status) == 0 ? status.st_ino : 0;
 }
 
 /// The store needs room even for reading, and says of a disk without it only that it failed. Empty when it has room.
@@ -90,13 +100,15 @@ Result<std::unique_ptr<Session>> Session::open(const std::string& asked)
         return failure("The consoles in " + folder + " cannot be read. " +
                        (trouble.empty() ? causesOf(opened.error()) : std::string(trouble)));
     }
-    std::unique_ptr<Session> session(new Session);
+    std::unique_ptr<Session> session(new Session(DataFolder::documents(folder)));
     openHistory(DataFolder::documents(folder));
     if (const Result<void> known = session->awaitHistory(); !known) {
         return known.error();
     }
     return session;
 }
+
+Session::Session(std::string folder) : m_folder(std::move(folder)), m_damagedFile(damagedHistoryIn(m_folder)) {}
 
 Session::~Session()
 {
@@ -129,7 +141,21 @@ Result<void> Session::awaitHistory()
 {
     const auto isKnown = std::make_shared<bool>(false);
     History::shared().whenWritten([isKnown] { *isKnown = true; });
-    return m_loop.runUntil([isKnown] { return *isKnown; }) == Loop::End::Met ? Result<void>() : interrupted();
+    if (m_loop.runUntil([isKnown] { return *isKnown; }) != Loop::End::Met) {
+        return interrupted();
+    }
+    tellOfDamage();
+    return {};
+}
+
+/// Only the command that met the damage tells of it: one that runs every five minutes would tell it for 30 days.
+void Session::tellOfDamage()
+{
+    const ino_t before = std::exchange(m_damagedFile, damagedHistoryIn(m_folder));
+    if (m_damagedFile != 0 && m_damagedFile != before) {
+        complain("The history was damaged. It was set aside as " + m_folder + "/" +
+                 std::string(HistoryFile::damagedName) + ", and a new one was begun. Earlier changes are missing.");
+    }
 }
 
 Result<void> Session::save()

@@ -7,6 +7,7 @@
 
 #include <memory>
 #include <string>
+#include <sys/types.h>
 #include <vector>
 
 namespace lodestar
@@ -27,13 +28,18 @@ public:
     /// The registered consoles with these names or addresses, in their order; all for none. Fails for a name that no
     /// console has.
     Result<std::vector<CorvelRef>> consoles(const std::vector<std::string>& named = {}) const;
-    /// Runs until everything that was read is compared and kept. Fails when a signal came.
+    /// Runs until everything that was read is compared and kept, and says so when the history was damaged. Fails when a
+    /// signal came.
     Result<void> awaitHistory();
     /// Stores what changed of the consoles.
     Result<void> save();
 
 private:
-    Session() = default;
+    explicit Session(std::string folder);
+    void tellOfDamage();
+
+    const std::string m_folder;
+    ino_t m_damagedFile; ///< the history that was set aside; 0 for none
     Loop m_loop;
 };
 

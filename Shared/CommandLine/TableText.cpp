@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <numeric>
 
 namespace lodestar
@@ -200,6 +201,15 @@ std::string tableText(const Table& table, std::vector<std::string_view> titles,
         }
         std::erase(titles, *spare);
     }
+}
+
+std::string titlesText(const Table& table, const Terminal& terminal)
+{
+    Table titled{table.titles, {}};
+    std::ranges::transform(titled.titles, titled.titles.begin(), titleText);
+    Widths widths;
+    std::ranges::transform(titled.titles, std::back_inserter(widths), [](const auto& each) { return columnsOf(each); });
+    return SideBySide(titled, std::move(widths), terminal).line(titled.titles, nullptr);
 }
 
 std::string recordText(const Cells& titles, const Cells& cells, const Terminal& terminal, InkOf inkOf)

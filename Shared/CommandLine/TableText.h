@@ -22,6 +22,8 @@ std::string tableText(const Table& table, const Terminal& terminal, InkOf inkOf 
 /// first; all stay when the others do not fit either.
 std::string tableText(const Table& table, std::vector<std::string_view> titles,
                       std::span<const std::string_view> spareTitles, const Terminal& terminal, InkOf inkOf = nullptr);
+/// The titles alone: what a table without rows is where no person reads it.
+std::string titlesText(const Table& table, const Terminal& terminal);
 /// One object: a line a field, without empty ones.
 std::string recordText(const std::vector<std::string>& titles, const std::vector<std::string>& cells,
                        const Terminal& terminal, InkOf inkOf = nullptr);

@@ -22,7 +22,6 @@ namespace lodestar
 namespace
 {
 
-constexpr std::string_view damagedName = "History.damaged.sqlite";
 
 /// The log first: where the process ends in between, a main file alone is as good as both, and a log alone is not.
 constexpr const char* suffixes[] = {"-wal", "-shm", ""};
@@ -173,7 +172,7 @@ Change changeOf(const SQLite::Statement& query)
 
 std::string damagedPath(const std::string& path)
 {
-    return (std::filesystem::path(path).parent_path() / damagedName).string();
+    return (std::filesystem::path(path).parent_path() / HistoryFile::damagedName).string();
 }
 
 bool removeFiles(const std::string& path)

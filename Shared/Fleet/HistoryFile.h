@@ -29,6 +29,7 @@ class HistoryFile
 {
 public:
     static constexpr std::string_view fileName = "History.sqlite";
+    static constexpr std::string_view damagedName = "History.damaged.sqlite"; ///< of one that was set aside
 
     /// Opens the file or makes an empty one; refuses the same as `openStoreFile`.
     static Result<std::unique_ptr<HistoryFile>> open(const std::string& path);

@@ -145,6 +145,10 @@ class Reading(Case):
         said = self.json(GOOD, "status")
         self.assertEqual((said["schema"], said["verdict"], said["needs_attention"]), (1, "good", 0))
         self.assertIn("Nothing needs attention", self.expect(GOOD, "attention").stdout)
+        # Nothing is told, too: to a person in words, to the next program as a table without rows.
+        self.assertIn("No open events.", self.on_terminal(80, "events", "--open")[1])
+        self.assertRegex(self.expect(GOOD, "list", "partitions").stdout, "^name +state .*console\n$")
+        self.assertEqual((self.json(GOOD, "events")["objects"], self.csv(GOOD, "events")), ([], []))
 
         self.consoles.feed(0, "ServiceableEvent", entry("ServiceableEvent", 7, {
             "problemNumber": "7", "problemState": "Open", "shortDescription": "Fan"}))
@@ -367,6 +371,11 @@ class Ending(Case):
                                 (("status", "--data="), "--data needs a value"),
                                 (("consoles", "odd"), "There is no command consoles odd.")):
             self.assertIn(sentence, self.expect(UNKNOWN, *words).stderr)
+        (self.data / "Documents" / "History.sqlite").write_bytes(b"x" * 4096)
+        done = self.expect(GOOD, "consoles")
+        self.assertRegex(done.stderr, r"^lodestar-cli: The history was damaged\. .*Earlier changes are missing\.\n$")
+        self.assertIn("Harbour 0", done.stdout)
+        self.assertEqual(self.expect(GOOD, "consoles").stderr, "")  # not for 30 days
         (self.data / "Documents" / "Lodestar.sqlite").write_bytes(b"x" * 4096)
         self.assertIn("cannot be read", self.expect(UNKNOWN, "consoles").stderr)
         self.assertEqual((self.data / "Documents" / "Lodestar.sqlite").read_bytes(), b"x" * 4096)
