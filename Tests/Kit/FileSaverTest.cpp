@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Kit/Core/FileSaver.h"
-
 #include "Kit/Core/Clipboard.h"
 #include "Kit/Core/ErrorText.h"
+#include "Kit/Core/FileSaver.h"
 #include "Kit/Core/Toasts.h"
 #include "Kit/Core/WindowDialogs.h"
 #include "Tests/Kit/KitWindow.h"
@@ -51,6 +50,8 @@ TEST_F(FileSaverTest, AFileIsReplacedWholeOrStaysAsItWas)
         const test::FullDisk disk(50'000);
         EXPECT_EQ(whyNot(file, large), "the file is too large for the disk.");
         EXPECT_NE(whyNot(path("other.txt"), large), "");
+        const test::FullDisk wholly(2);
+        EXPECT_EQ(whyNot(file), "the file is too large for the disk.") << "few bytes, too";
     }
     EXPECT_EQ(contentOf(file), "old");
     EXPECT_EQ(QDir(QString::fromStdString(folder.path())).entryList(QDir::Files), QStringList("report.txt"));
@@ -82,14 +83,17 @@ TEST_F(FileSaverTest, AToastNamesTheFileAndAnAlertTellsWhyThereIsNone)
     EXPECT_EQ(suggested[0].find('/'), std::string::npos);
     EXPECT_TRUE(suggested[0].starts_with("-.event 1042-yyy") && suggested[0].ends_with("\u2026.md")) << suggested[0];
     answer = path("event.md");
-    FileSaver::save("event.md", bytes);
+    int saved = 0;
+    FileSaver::save("event.md", bytes, [&saved] { ++saved; });
+    EXPECT_EQ(saved, 1);
     EXPECT_EQ(contentOf(answer), "x");
     EXPECT_EQ(Toasts::shared().text(), "Saved as event.md");
     EXPECT_FALSE(WindowDialogs::shared().alert().isPresented());
 
     Toasts::shared().dismiss();
     answer = path("none/event.md");
-    FileSaver::save("event.md", bytes);
+    FileSaver::save("event.md", bytes, [&saved] { ++saved; });
+    EXPECT_EQ(saved, 1);
     EXPECT_EQ(WindowDialogs::shared().alert().title(), "Could not be saved: the folder does not exist.");
     EXPECT_FALSE(Toasts::shared().isPresented());
 }

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Kit/Core/FileSaver.h"
 #include "Kit/Core/Toasts.h"
+#include "Kit/Core/WindowDialogs.h"
 #include "Tests/Views/ReadingFixture.h"
 #include "Views/ManagedSystems/MSDetailViewController.h"
 #include "Views/Report/ServiceReportController.h"
@@ -110,6 +111,13 @@ TEST_F(ReportTest, AnEventsReportTellsAllThatIsKnownAndNoAddressUnlessAsked)
     EXPECT_THAT(read, AllOf(StartsWith("Serviceable event #1042\n<b>fan~1</b> [x](https://evil.example) *lost*: see"),
                             HasSubstr("# now @all, www.evil.example\n"), HasSubstr("Status: Open, Pending approval")));
     EXPECT_FALSE(document.toHtml().contains("href"));
+
+    // What cannot be saved is not lost: another place may have room.
+    FileSaver::answerWith([](const QString&) { return QStringLiteral("/sys/event-1042.md"); });
+    sheet->save();
+    EXPECT_EQ(WindowDialogs::shared().alert().title(), "Could not be saved: you may not write there.");
+    WindowDialogs::shared().alert().dismiss();
+    ASSERT_NE(detail->semiModal(), nullptr);
 
     const QString name = QString::fromStdString(saved.file("event-1042.md"));
     FileSaver::answerWith([&](const QString& suggested) { return suggested == "event-1042.md" ? name : QString(); });

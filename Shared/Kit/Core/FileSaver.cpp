@@ -1,8 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
-#include "Kit/Core/FileSaver.h"
-
 #include "Kit/Core/ErrorText.h"
 #include "Kit/Core/FileChoice.h"
+#include "Kit/Core/FileSaver.h"
 #include "Kit/Core/LineText.h"
 #include "Kit/Core/Toasts.h"
 #include "Kit/Core/WindowDialogs.h"
@@ -161,14 +160,23 @@ void tellNotSaved(const Error& error)
     WindowDialogs::shared().tell(Words::tr("Could not be saved: %1").arg(errorText(error)));
 }
 
-void saveAs(const QString& path, const std::function<QByteArray()>& bytes)
+/// What is saved, and what is done then.
+struct Saving {
+    std::function<QByteArray()> bytes;
+    std::function<void()> saved;
+};
+
+void saveAs(const QString& path, const Saving& saving)
 {
     if (path.isEmpty()) {
         tellNotSaved(fileFailure(QT_TRANSLATE_NOOP("ErrorWords", "this place is not on this device.")));
-    } else if (const Result<void> written = FileSaver::writeWhole(path, bytes()); written) {
+    } else if (const Result<void> written = FileSaver::writeWhole(path, saving.bytes()); written) {
         //: %1 a file's name
         Toasts::shared().show(
             Words::tr("Saved as %1").arg(isolated(shortened(QFileInfo(path).fileName(), longestSaid))));
+        if (saving.saved) {
+            saving.saved();
+        }
     } else {
         tellNotSaved(written.error());
     }
@@ -176,29 +184,29 @@ void saveAs(const QString& path, const std::function<QByteArray()>& bytes)
 
 } // namespace
 
-void FileSaver::save(const QString& suggestedName, std::function<QByteArray()> bytes)
+void FileSaver::save(const QString& suggestedName, std::function<QByteArray()> bytes, std::function<void()> saved)
 {
+    const Saving saving{std::move(bytes), std::move(saved)};
     const QString name = fileName(suggestedName);
     if (answer()) {
         if (const QString path = answer()(name); !path.isEmpty()) {
-            saveAs(path, bytes);
+            saveAs(path, saving);
         }
         return;
     }
     auto choice = std::make_unique<FileChoice>();
     choice->saves = true;
     choice->name = name;
-    const bool shown = openDialogue(
-        Words::tr("Save as File"), std::move(choice),
-        [bytes = std::move(bytes)](const QString& path, bool replaceAsked) {
+    const bool shown =
+        openDialogue(Words::tr("Save as File"), std::move(choice), [saving](const QString& path, bool replaceAsked) {
             if (replaceAsked || !QFileInfo(path).isFile()) {
-                saveAs(path, bytes);
+                saveAs(path, saving);
                 return;
             }
             WindowDialogs::shared().ask(
                 //: %1 a file's name
                 Words::tr("There is already a file named %1.").arg(isolated(QFileInfo(path).fileName())), {},
-                {.title = Words::tr("Replace"), .destructive = true}, [path, bytes] { saveAs(path, bytes); });
+                {.title = Words::tr("Replace"), .destructive = true}, [path, saving] { saveAs(path, saving); });
         });
     if (!shown) {
         tellNotSaved(fileFailure(QT_TRANSLATE_NOOP("ErrorWords", "this system shows no dialogue for files.")));
@@ -212,7 +220,8 @@ Result<void> FileSaver::writeWhole(const QString& path, const QByteArray& bytes)
     if (info.exists() && !info.isFile()) {
         return writeFailure(file);
     }
-    if (file.open(QIODevice::WriteOnly) && writeAll(file, bytes) && file.commit()) {
+    // What is left in a buffer is written by `commit`, which does not notice when the disk takes none of it.
+    if (file.open(QIODevice::WriteOnly | QIODevice::Unbuffered) && writeAll(file, bytes) && file.commit()) {
         return {};
     }
     return writeFailure(file);

@@ -17,8 +17,10 @@ namespace lodestar
 class FileSaver
 {
 public:
-    /// Bytes are asked for after the person has chosen, so that they are those of that moment.
-    static void save(const QString& suggestedName, std::function<QByteArray()> bytes);
+    /// Bytes are asked for after the person has chosen, so that they are those of that moment. `saved` is called only
+    /// when the file is written.
+    static void save(const QString& suggestedName, std::function<QByteArray()> bytes,
+                     std::function<void()> saved = nullptr);
     /// Writes a whole file in place of what is there, or leaves that as it was. Any thread.
     static Result<void> writeWhole(const QString& path, const QByteArray& bytes);
     /// For tests and pictures: answers with this path instead of a dialogue; an empty path is Cancel. Null: the

@@ -101,12 +101,12 @@ void ServiceReportController::copy()
 
 void ServiceReportController::save()
 {
-    // The sheet stays until a place is chosen. What is saved is what it showed then, also when it was closed meanwhile.
-    FileSaver::save(m_content.fileName + (m_markdown ? QStringLiteral(".md") : QStringLiteral(".txt")),
-                    [sheet = self<ServiceReportController>()] {
-                        sheet->cancel();
-                        return sheet->text().toUtf8();
-                    });
+    // The sheet stays until there is a file. What is saved is what it showed when the place was chosen, also when it
+    // was closed meanwhile.
+    const auto sheet = self<ServiceReportController>();
+    FileSaver::save(
+        m_content.fileName + (m_markdown ? QStringLiteral(".md") : QStringLiteral(".txt")),
+        [sheet] { return sheet->text().toUtf8(); }, [sheet] { sheet->cancel(); });
 }
 
 void ServiceReportController::cancel()
