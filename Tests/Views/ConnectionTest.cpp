@@ -55,7 +55,7 @@ TEST_F(ConnectionTest, AConsoleThatAnsweredInFullShowsWhereTheTimeWent)
     EXPECT_EQ(rows("Last success"), std::vector<std::string>{"Read in full, never"});
 
     report(corvel, complete());
-    EXPECT_EQ(verdict(), "Online, Everything was read 2 min ago, in 0.94 s.");
+    EXPECT_EQ(verdict(), "Online, Everything was read 2 min ago, in 0.94\u00a0s.");
     EXPECT_EQ(titles(), "|Last attempt|Feeds|Certificate");
     EXPECT_TRUE(section("").refreshes);
     EXPECT_THAT(rows("Last attempt"), ElementsAre("Name, 192.0.2.12, 4 ms", "Connect, port 12443, 12 ms",
@@ -64,7 +64,7 @@ TEST_F(ConnectionTest, AConsoleThatAnsweredInFullShowsWhereTheTimeWent)
     const ConnectionSection& attempt = section("Last attempt");
     EXPECT_EQ(attempt.detail, "today, 09:41");
     EXPECT_EQ(attempt.partsNames, "name, connect, TLS, session, feeds");
-    EXPECT_EQ(attempt.partsSum, "0.94 s");
+    EXPECT_EQ(attempt.partsSum, "0.94\u00a0s");
     ASSERT_EQ(attempt.parts.size(), 5);
     EXPECT_NEAR(attempt.parts.back(), 0.9, 0.01);
     EXPECT_EQ(section("Feeds").detail, "6 of 6");
@@ -81,7 +81,7 @@ TEST_F(ConnectionTest, AConsoleThatAnsweredInFullShowsWhereTheTimeWent)
     EXPECT_EQ(changes, 0);
     AgeClock::setNow(morning + 2h);
     EXPECT_EQ(changes, 1);
-    EXPECT_EQ(verdict(), "Online, Everything was read at 09:41, in 0.94 s.");
+    EXPECT_EQ(verdict(), "Online, Everything was read at 09:41, in 0.94\u00a0s.");
 }
 
 TEST_F(ConnectionTest, MissingFeedsComeFirstWithWhatMayBeTried)

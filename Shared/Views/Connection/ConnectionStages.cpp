@@ -293,7 +293,9 @@ QString durationText(microseconds duration)
 QString attemptText(microseconds duration)
 {
     const double time = std::chrono::duration<double>(duration).count();
-    return Words::tr("%1 s").arg(QLocale().toString(time, 'f', time < 1 ? 2 : 1));
+    const QString text = Words::tr("%1 s").arg(QLocale().toString(time, 'f', time < 1 ? 2 : 1));
+    // It stands at the end of sentences, which must not break between the number and its unit.
+    return QString(text).replace(QLatin1Char(' '), QChar(QChar::Nbsp));
 }
 
 QString atMoment(WallTime then, WallTime now)
