@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/FileSaver.h"
+
 #include "Kit/Core/ErrorText.h"
 #include "Kit/Core/FileChoice.h"
-#include "Kit/Core/FileSaver.h"
 #include "Kit/Core/LineText.h"
 #include "Kit/Core/Toasts.h"
 #include "Kit/Core/WindowDialogs.h"
@@ -13,6 +14,7 @@
 #include <QPointer>
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <QQmlProperty>
 #include <QQuickWindow>
 #include <QSaveFile>
 #include <QStandardPaths>
@@ -116,6 +118,24 @@ bool isQtsOwn(const QObject& dialog)
                                [](const QObject* part) { return part->inherits("QQuickPlatformFileDialog"); });
 }
 
+/// Qt's own dialogue puts its folder before a name that was typed, even before a whole path, and leaves out the scheme.
+QString pathOf(const QUrl& url)
+{
+    if (!url.scheme().isEmpty()) {
+        return url.toLocalFile();
+    }
+    const QString path = url.path();
+    return path.mid(path.lastIndexOf(QLatin1String("//")) + 1);
+}
+
+/// Qt's own dialogue writes the chosen file in the colour for text on the highlight, over a ground that is nearly
+/// white.
+void darkenHighlightedText(QQuickWindow& window)
+{
+    QQmlProperty(&window, QStringLiteral("palette.highlightedText"))
+        .write(QQmlProperty(&window, QStringLiteral("palette.text")).read());
+}
+
 using Chosen = std::function<void(const QString& path, bool replaceAsked)>;
 
 /// Shows the dialogue. `chosen` gets the path and whether the dialogue asks by itself before a file is replaced.
@@ -143,13 +163,15 @@ bool openDialogue(const QString& title, std::unique_ptr<FileChoice> choice, Chos
     shown->setParent(window);
     choice->chosen = [dialog = shown, chosen = std::move(chosen)](const QUrl& url) {
         const bool asks = !isQtsOwn(*dialog);
+        const QString path = pathOf(url);
         shown = nullptr;
         dialog->deleteLater();
         if (!url.isEmpty()) {
-            chosen(url.toLocalFile(), asks);
+            chosen(path, asks);
         }
     };
     choice.release()->setParent(shown);
+    darkenHighlightedText(*window);
     QMetaObject::invokeMethod(shown, "open");
     return true;
 }
@@ -197,6 +219,7 @@ void FileSaver::save(const QString& suggestedName, std::function<QByteArray()> b
     auto choice = std::make_unique<FileChoice>();
     choice->saves = true;
     choice->name = name;
+    choice->filter = QStringLiteral("*.") + QFileInfo(name).suffix();
     const bool shown =
         openDialogue(Words::tr("Save as File"), std::move(choice), [saving](const QString& path, bool replaceAsked) {
             if (replaceAsked || !QFileInfo(path).isFile()) {
