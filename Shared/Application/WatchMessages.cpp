@@ -195,7 +195,7 @@ QString namesOf(Fault fault, const QStringList& names)
     case Fault::LEDLit:
         return Words::tr("LED on at %1").arg(list);
     case Fault::NewEvent:
-        return count == 1 ? Words::tr("1 new event") : Words::tr("%Ln new events", nullptr, count);
+        return Words::tr("%Ln new events", nullptr, count);
     default:
         return Words::tr("%1 in error").arg(list);
     }
@@ -203,30 +203,29 @@ QString namesOf(Fault fault, const QStringList& names)
 
 QString countOf(Fault fault, int n)
 {
-    const bool one = n == 1;
     switch (fault) {
     case Fault::ConsoleOffline:
-        return one ? Words::tr("1 console offline") : Words::tr("%Ln consoles offline", nullptr, n);
+        return Words::tr("%Ln consoles offline", nullptr, n);
     case Fault::SystemError:
-        return one ? Words::tr("1 system in error") : Words::tr("%Ln systems in error", nullptr, n);
+        return Words::tr("%Ln systems in error", nullptr, n);
     case Fault::SystemIncomplete:
-        return one ? Words::tr("1 system incomplete") : Words::tr("%Ln systems incomplete", nullptr, n);
+        return Words::tr("%Ln systems incomplete", nullptr, n);
     case Fault::IOServerError:
-        return one ? Words::tr("1 IO server in error") : Words::tr("%Ln IO servers in error", nullptr, n);
+        return Words::tr("%Ln IO servers in error", nullptr, n);
     case Fault::PartitionError:
-        return one ? Words::tr("1 partition in error") : Words::tr("%Ln partitions in error", nullptr, n);
+        return Words::tr("%Ln partitions in error", nullptr, n);
     case Fault::FeedsMissing:
-        return one ? Words::tr("1 console not read in full") : Words::tr("%Ln consoles not read in full", nullptr, n);
+        return Words::tr("%Ln consoles not read in full", nullptr, n);
     case Fault::IOServerStopped:
-        return one ? Words::tr("1 IO server stopped") : Words::tr("%Ln IO servers stopped", nullptr, n);
+        return Words::tr("%Ln IO servers stopped", nullptr, n);
     case Fault::PartitionStopped:
-        return one ? Words::tr("1 partition stopped") : Words::tr("%Ln partitions stopped", nullptr, n);
+        return Words::tr("%Ln partitions stopped", nullptr, n);
     case Fault::LEDLit:
-        return one ? Words::tr("1 LED on") : Words::tr("%Ln LEDs on", nullptr, n);
+        return Words::tr("%Ln LEDs on", nullptr, n);
     case Fault::GroupError:
-        return one ? Words::tr("1 group in error") : Words::tr("%Ln groups in error", nullptr, n);
+        return Words::tr("%Ln groups in error", nullptr, n);
     case Fault::NewEvent:
-        return one ? Words::tr("1 new event") : Words::tr("%Ln new events", nullptr, n);
+        return Words::tr("%Ln new events", nullptr, n);
     }
     return {};
 }
@@ -269,8 +268,7 @@ QString bodyOfSeveral(const std::vector<Finding>& findings, bool withNames)
 
 QString gotWorse(std::size_t count)
 {
-    return count == 1 ? Words::tr("1 thing got worse")
-                      : Words::tr("%Ln things got worse", nullptr, static_cast<int>(count));
+    return Words::tr("%Ln things got worse", nullptr, static_cast<int>(count));
 }
 
 Message ofSeveral(const WatchNews& news)
@@ -293,7 +291,7 @@ QString remaining(std::size_t count)
     if (count == 0) {
         return {};
     }
-    return count == 1 ? Words::tr("1 thing remains") : Words::tr("%Ln things remain", nullptr, static_cast<int>(count));
+    return Words::tr("%Ln things remain", nullptr, static_cast<int>(count));
 }
 
 QString summaryOfBetter(const Change& change)
@@ -315,8 +313,7 @@ QString summaryOfBetter(const Change& change)
 
 QString gotBetter(std::size_t count)
 {
-    return count == 1 ? Words::tr("1 thing got better")
-                      : Words::tr("%Ln things got better", nullptr, static_cast<int>(count));
+    return Words::tr("%Ln things got better", nullptr, static_cast<int>(count));
 }
 
 Message ofBetter(const WatchNews& news)
@@ -340,16 +337,14 @@ Message ofNight(const WatchNews& news)
     const std::size_t still = news.worseNow.size();
     //: %1 as in "5 things got worse"
     return message(Words::tr("In the night, %1").arg(gotWorse(news.worse.size())),
-                   still == 0   ? Words::tr("None of them needs attention any more")
-                   : still == 1 ? Words::tr("1 of them still needs attention")
-                                : Words::tr("%Ln of them still need attention", nullptr, static_cast<int>(still)));
+                   still == 0 ? Words::tr("None of them needs attention any more")
+                              : Words::tr("%Ln of them still need attention", nullptr, static_cast<int>(still)));
 }
 
 Message ofCounts(const WatchNews& news)
 {
     const int count = static_cast<int>(news.consoles);
-    const QString summary = count > 1                ? Words::tr("%Ln consoles need attention", nullptr, count)
-                            : count == 1             ? Words::tr("1 console needs attention")
+    const QString summary = count > 0                ? Words::tr("%Ln consoles need attention", nullptr, count)
                             : news.needAttention > 0 ? FindingText::needAttention(news.needAttention)
                                                      : Words::tr("Nothing known needs attention");
     return message(summary, Words::tr("Open Lodestar to see more"));

@@ -19,6 +19,7 @@
 #include "Feedback/ReportSender.h"
 #include "Feedback/VireoLogger.h"
 #include "Kit/Core/Appearance.h"
+#include "Kit/Core/Languages.h"
 #include "Kit/Core/MainLoop.h"
 #include "Kit/Core/UIFont+System.h"
 #include "Platform/MemoryReserve.h"
@@ -26,6 +27,7 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QScreen>
 
 #include <cstdio>
@@ -40,6 +42,7 @@ namespace
 struct Options {
     QString dataFolder;
     QString reportsTo;
+    QString language;
     bool fullScreen = false;
     bool quitAfterFirstFrame = false;
 };
@@ -58,14 +61,20 @@ Options parseOptions(const QGuiApplication& application)
         QStringLiteral("reports-to"),
         QCoreApplication::translate("main", "Offer to send feedback and crash reports to this https address."),
         QStringLiteral("address"));
+    const QCommandLineOption language(
+        QStringLiteral("language"),
+        //: In brackets codes, which stay as they are
+        QCoreApplication::translate("main", "Speak this language instead of the system's (en, de, fr, es, ja, ar)."),
+        QStringLiteral("code"));
     const QCommandLineOption fullScreen(QStringLiteral("full-screen"),
                                         QCoreApplication::translate("main", "Fill the screen."));
     const QCommandLineOption firstFrame(
         QStringLiteral("quit-after-first-frame"),
         QCoreApplication::translate("main", "Leave once the first screen is drawn, for measuring."));
-    parser.addOptions({data, reportsTo, fullScreen, firstFrame});
+    parser.addOptions({data, reportsTo, language, fullScreen, firstFrame});
     parser.process(application);
-    return {parser.value(data), parser.value(reportsTo), parser.isSet(fullScreen), parser.isSet(firstFrame)};
+    return {parser.value(data), parser.value(reportsTo), parser.value(language), parser.isSet(fullScreen),
+            parser.isSet(firstFrame)};
 }
 
 /// The folder below which everything is kept.
@@ -98,7 +107,11 @@ int main(int argc, char** argv)
     QGuiApplication::setApplicationName(QStringLiteral("Lodestar"));
     QGuiApplication::setApplicationVersion(QStringLiteral(LODESTAR_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.ornis.Lodestar"));
+    Languages::use(QLocale::system().uiLanguages()); // for the help that parsing may write
     const Options options = parseOptions(application);
+    if (!options.language.isEmpty()) {
+        Languages::use({options.language});
+    }
     UIFont::install();
 
     if (!options.reportsTo.isEmpty()) {

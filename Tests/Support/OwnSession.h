@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Kit/Core/Languages.h"
 #include "Kit/Core/MainLoop.h"
 #include "Tests/Support/ScratchFolder.h"
 
@@ -62,6 +63,7 @@ inline int mainInOwnSession(int argc, char** argv, const char* variable, int (*b
     }
     ::testing::InitGoogleMock(&argc, argv);
     const QCoreApplication application(argc, argv);
+    Languages::use({QStringLiteral("en")});
     const MainLoop mainLoop;
     return RUN_ALL_TESTS();
 }

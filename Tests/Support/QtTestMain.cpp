@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/Languages.h"
 #include "Kit/Core/MainLoop.h"
 
 #include <QGuiApplication>
@@ -20,6 +21,7 @@ int main(int argc, char** argv)
     QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.*=false"));
     testing::InitGoogleTest(&argc, argv);
     const QGuiApplication application(argc, argv);
+    lodestar::Languages::use({QStringLiteral("en")});
     const lodestar::MainLoop mainLoop;
     return RUN_ALL_TESTS();
 }

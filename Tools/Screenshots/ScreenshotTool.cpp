@@ -2,12 +2,15 @@
 // lodestar-screenshots FOLDER [TEXT]: draws one picture per screen and look, without a display. With TEXT, draws only
 // the pictures whose file name contains it.
 //
+// With --language CODE before or after: in this language.
+//
 // lodestar-screenshots --tour FOLDER: draws the tour's pictures, which are kept in Resources/tour.
 //
 // lodestar-screenshots --guide FOLDER: draws the pictures that the folder's pages show, in few colours. The user's
 // guide is kept in docs/guide.
 #include "Fleet/Watch.h"
 #include "Kit/Core/Appearance.h"
+#include "Kit/Core/Languages.h"
 #include "Kit/Core/MainLoop.h"
 #include "Tools/Screenshots/Looks.h"
 #include "Tools/Screenshots/NightFleet.h"
@@ -222,7 +225,12 @@ int main(int argc, char** argv)
     const QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationVersion(QStringLiteral("1.0"));
     const MainLoop mainLoop;
-    const QStringList arguments = QGuiApplication::arguments();
+    QStringList arguments = QGuiApplication::arguments();
+    const qsizetype language = arguments.indexOf(QStringLiteral("--language"));
+    Languages::use({language > 0 ? arguments.value(language + 1) : QStringLiteral("en")});
+    if (language > 0) {
+        arguments.remove(language, qMin<qsizetype>(2, arguments.size() - language));
+    }
     const bool tour = arguments.size() > 2 && arguments[1] == QLatin1String("--tour");
     const bool guide = arguments.size() > 2 && arguments[1] == QLatin1String("--guide");
     if (arguments.size() < 2 || (arguments[1].startsWith('-') && !tour && !guide)) {

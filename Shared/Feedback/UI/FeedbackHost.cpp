@@ -126,10 +126,8 @@ void FeedbackHost::askAboutCrashes()
     const int keep = sends ? 1 : 0;
     m_alert->present(
         tr("Lodestar ended unexpectedly"),
-        count == 1
-            ? tr("A report was made on this device. It holds no passwords and is sent nowhere by itself.")
-            : tr("%1 reports were made on this device. They hold no passwords and are sent nowhere by themselves.")
-                  .arg(count),
+        tr("%Ln reports were made on this device. They hold no passwords and are sent nowhere by themselves.", nullptr,
+           count),
         choices, keep, [this, keep](int index) {
             if (index < keep && m_screen == nullptr) {
                 reviewFirstCrash();

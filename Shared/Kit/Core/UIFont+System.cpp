@@ -3,6 +3,7 @@
 
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QLocale>
 #include <QLoggingCategory>
 
 #include <cmath>
@@ -58,10 +59,12 @@ void UIFont::install()
         return;
     }
     // Lato has no Arabic, Hebrew, Thai or East Asian letters. These faces supply them where they are installed;
-    // elsewhere the system's fallback does.
-    QFont::insertSubstitutions(systemFamily, {QStringLiteral("Lato"), QStringLiteral("Noto Sans Arabic"),
-                                              QStringLiteral("Noto Sans Hebrew"), QStringLiteral("Noto Sans Thai"),
-                                              QStringLiteral("Noto Sans CJK SC")});
+    // elsewhere the system's fallback does. China and Japan write many letters of one code differently.
+    const bool isJapanese = QLocale().language() == QLocale::Japanese;
+    QFont::insertSubstitutions(systemFamily,
+                               {QStringLiteral("Lato"), QStringLiteral("Noto Sans Arabic"),
+                                QStringLiteral("Noto Sans Hebrew"), QStringLiteral("Noto Sans Thai"),
+                                isJapanese ? QStringLiteral("Noto Sans CJK JP") : QStringLiteral("Noto Sans CJK SC")});
     QFont::insertSubstitution(QStringLiteral("HelveticaNeue"), QStringLiteral("Nimbus Sans"));
     QGuiApplication::setFont(named(systemFamily, 17));
     // An application that ends at once must wait for the reading thread before it destroys the platform's faces.

@@ -121,8 +121,7 @@ void AttentionFilterController::show()
     m_found.clear();
     std::vector<ConsoleChoices::Row> rows;
     if (searched.isEmpty()) {
-        const QString all = m_order.size() == 1 ? tr("All 1 console")
-                                                : tr("All %Ln consoles", nullptr, static_cast<int>(m_order.size()));
+        const QString all = tr("All %Ln consoles", nullptr, static_cast<int>(m_order.size()));
         rows.push_back({all, number(Attention::shared().picture()->findings.list.size()), chosen.empty()});
     }
     for (const CorvelRef& each : m_order) {

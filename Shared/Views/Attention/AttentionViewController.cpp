@@ -23,19 +23,16 @@ namespace
 {
 
 constexpr double filterHeight = 520;
-constexpr std::size_t mostCounted = 99;
+constexpr int mostCounted = 99;
 
-TabBadge badgeOf(const QString& title, std::size_t count)
+TabBadge badgeOf(const QString& title, int count)
 {
     if (count == 0) {
         return {};
     }
-    const QString spoken =
-        count == 1 ? AttentionViewController::tr("%1, 1 thing").arg(title)
-                   : AttentionViewController::tr("%1, %Ln things", nullptr, static_cast<int>(count)).arg(title);
-    return {count > mostCounted ? AttentionViewController::tr("99+")
-                                : QLocale().toString(static_cast<qulonglong>(count)),
-            spoken};
+    //: %1 the name of a tab
+    return {count > mostCounted ? AttentionViewController::tr("99+") : QLocale().toString(count),
+            AttentionViewController::tr("%1, %Ln things", nullptr, count).arg(title)};
 }
 
 } // namespace
@@ -223,7 +220,8 @@ void showAttentionOf(const ViewController& from, const CorvelRef& corvel)
 void countAttention(TabBarController& tabs, int index)
 {
     const auto count = [&tabs, index] {
-        tabs.setBadge(index, badgeOf(tabs.titleAt(index), Attention::shared().picture()->findings.needAttention));
+        tabs.setBadge(index, badgeOf(tabs.titleAt(index),
+                                     static_cast<int>(Attention::shared().picture()->findings.needAttention)));
     };
     // The connection keeps the observation until the tabs are gone.
     QObject::connect(&tabs, &QObject::destroyed,

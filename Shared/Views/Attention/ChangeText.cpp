@@ -119,22 +119,22 @@ QString senseOf(const Change& change)
 QString countOf(const Change& change, int count)
 {
     if (isOfConsole(change)) {
-        return Words::tr("%n consoles", nullptr, count);
+        return Words::tr("%Ln consoles", nullptr, count);
     }
     switch (change.kind) {
     case ChangeKind::EventOpened:
-        return Words::tr("%n events opened", nullptr, count);
+        return Words::tr("%Ln events opened", nullptr, count);
     case ChangeKind::EventGone:
-        return Words::tr("%n events gone", nullptr, count);
+        return Words::tr("%Ln events gone", nullptr, count);
     default:
         break;
     }
     const std::string& type = change.object.type;
-    return type == ObjectType::ManagedSystem      ? Words::tr("%n systems", nullptr, count)
-           : type == ObjectType::VirtualIOServer  ? Words::tr("%n IO servers", nullptr, count)
-           : type == ObjectType::Group            ? Words::tr("%n groups", nullptr, count)
-           : type == ObjectType::ServiceableEvent ? Words::tr("%n events", nullptr, count)
-                                                  : Words::tr("%n partitions", nullptr, count);
+    return type == ObjectType::ManagedSystem      ? Words::tr("%Ln systems", nullptr, count)
+           : type == ObjectType::VirtualIOServer  ? Words::tr("%Ln IO servers", nullptr, count)
+           : type == ObjectType::Group            ? Words::tr("%Ln groups", nullptr, count)
+           : type == ObjectType::ServiceableEvent ? Words::tr("%Ln events", nullptr, count)
+                                                  : Words::tr("%Ln partitions", nullptr, count);
 }
 
 } // namespace
@@ -146,14 +146,14 @@ QString ChangeText::duration(std::chrono::seconds lasted)
     constexpr int hour = 60;
     constexpr int day = 24 * hour;
     if (count < hour) {
-        return Words::tr("%n min", nullptr, count);
+        return Words::tr("%Ln min", nullptr, count);
     }
     if (count >= 2 * day) {
-        return Words::tr("%n days", nullptr, count / day);
+        return Words::tr("%Ln days", nullptr, count / day);
     }
-    const QString hours = Words::tr("%n h", nullptr, count / hour);
+    const QString hours = Words::tr("%Ln h", nullptr, count / hour);
     //: Hours and minutes.
-    return count % hour == 0 ? hours : Words::tr("%1 %2").arg(hours, Words::tr("%n min", nullptr, count % hour));
+    return count % hour == 0 ? hours : Words::tr("%1 %2").arg(hours, Words::tr("%Ln min", nullptr, count % hour));
 }
 
 QString ChangeText::dayTitle(std::chrono::local_days day, std::chrono::local_days today)

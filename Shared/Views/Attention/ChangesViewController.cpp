@@ -158,9 +158,7 @@ void ChangesViewController::adopt(Shown shown)
 QStringList ChangesViewController::notes() const
 {
     QStringList notes;
-    if (m_shown.notShown == 1) {
-        notes << tr("1 more change is not shown.");
-    } else if (m_shown.notShown > 1) {
+    if (m_shown.notShown > 0) {
         notes << tr("%Ln more changes are not shown.", nullptr, static_cast<int>(m_shown.notShown));
     }
     if (m_shown.list->leftOut) {
@@ -270,7 +268,7 @@ void ChangesViewController::didSelectRowAtIndexPath(TableKind /*tableView*/, Ind
     const ChangeRow& row = rowAt(indexPath);
     if (row.isFolded()) {
         if (NavigationController* const stack = host().navigationController()) {
-            stack->pushViewController(makeController<FoldedChangesViewController>(m_shown.list, row), Animated::Yes);
+            stack->open(host(), makeController<FoldedChangesViewController>(m_shown.list, row));
         }
     } else {
         m_targets.open(m_shown.list->changes[row.changes.front()], host());

@@ -71,7 +71,7 @@ QString ofEvent(const Finding& event)
     }
     if (event.duplicates > 0) {
         // Further reports, and the first one.
-        parts << Words::tr("%n times", nullptr, event.duplicates + 1);
+        parts << Words::tr("%Ln times", nullptr, event.duplicates + 1);
     }
     return spoken(parts);
 }
@@ -102,7 +102,8 @@ QString oneOf(const Finding& finding, WallTime now)
         //: %1 the console's word for a system's state
         return Words::tr("LED on, system %1").arg(quoted(finding.state));
     case FindingRank::GroupError:
-        return Words::tr("%1 of %2 resources in error").arg(count(finding.membersInError), count(finding.members));
+        return Words::tr("%1 of %Ln resources in error", nullptr, static_cast<int>(finding.members))
+            .arg(count(finding.membersInError));
     case FindingRank::OpenEvent:
         return ofEvent(finding);
     }
@@ -175,16 +176,13 @@ bool FindingText::isIncomplete(const Finding& system)
 
 QString FindingText::needAttention(std::size_t number)
 {
-    return number == 1 ? Words::tr("1 thing needs attention")
-                       : Words::tr("%Ln things need attention", nullptr, static_cast<int>(number));
+    return Words::tr("%Ln things need attention", nullptr, static_cast<int>(number));
 }
 
 QString FindingText::openEvents(const Findings& findings)
 {
     return findings.openEvents == 0 ? QString()
-           : findings.openEvents == 1
-               ? Words::tr("1 event is open")
-               : Words::tr("%Ln events are open", nullptr, static_cast<int>(findings.openEvents));
+                                    : Words::tr("%Ln events are open", nullptr, static_cast<int>(findings.openEvents));
 }
 
 QString FindingText::summary(const Findings& findings)
@@ -195,10 +193,8 @@ QString FindingText::summary(const Findings& findings)
 
 QString FindingText::completeness(const FleetReading& fleet, WallTime now)
 {
-    QString answered =
-        fleet.consoles == 1
-            ? Words::tr("%1 of 1 console answered in full").arg(count(fleet.answeredInFull))
-            : Words::tr("%1 of %2 consoles answered in full").arg(count(fleet.answeredInFull), count(fleet.consoles));
+    QString answered = Words::tr("%1 of %Ln consoles answered in full", nullptr, static_cast<int>(fleet.consoles))
+                           .arg(count(fleet.answeredInFull));
     if (!fleet.from) {
         return answered;
     }
@@ -215,22 +211,20 @@ QString FindingText::updating(const FleetReading& fleet)
 QString FindingText::didNotAnswer(const FleetReading& fleet)
 {
     return fleet.consoles == 1 ? Words::tr("The console did not answer. What it would report is not known.")
-                               : Words::tr("%1 of %2 consoles did not answer. What they would report is not known.")
-                                     .arg(count(fleet.offline), count(fleet.consoles));
+                               : Words::tr("%1 of %Ln consoles did not answer. What they would report is not known.",
+                                           nullptr, static_cast<int>(fleet.consoles))
+                                     .arg(count(fleet.offline));
 }
 
 QString FindingText::beforeOffline(std::size_t number)
 {
-    return number == 0   ? QString()
-           : number == 1 ? Words::tr("1 thing needed attention there before.")
-                         : Words::tr("%Ln things needed attention there before.", nullptr, static_cast<int>(number));
+    return number == 0 ? QString()
+                       : Words::tr("%Ln things needed attention there before.", nullptr, static_cast<int>(number));
 }
 
 QString FindingText::notShown(std::size_t number)
 {
-    return number == 0   ? QString()
-           : number == 1 ? Words::tr("1 more thing is not shown.")
-                         : Words::tr("%Ln more things are not shown.", nullptr, static_cast<int>(number));
+    return number == 0 ? QString() : Words::tr("%Ln more things are not shown.", nullptr, static_cast<int>(number));
 }
 
 QString FindingText::band(FindingBand band)

@@ -141,8 +141,8 @@ QString FleetEventsViewController::notReadText() const
     QStringList sentences;
     const auto offline = isolatedNames(m_list->consolesNotRead);
     if (!offline.isEmpty()) {
-        //: Names of consoles.
-        sentences << (offline.size() == 1 ? tr("%1 was not read.") : tr("%1 were not read.")).arg(joinedList(offline));
+        //: %1 the names of so many consoles
+        sentences << tr("%1 were not read.", nullptr, static_cast<int>(offline.size())).arg(joinedList(offline));
     }
     const auto missing = isolatedNames(m_list->eventsNotRead);
     if (!missing.isEmpty()) {

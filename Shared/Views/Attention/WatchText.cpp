@@ -33,8 +33,8 @@ QString WatchText::interval(std::chrono::minutes interval)
 {
     constexpr std::chrono::minutes hour{60};
     const auto count = static_cast<int>(interval.count());
-    return interval % hour == std::chrono::minutes(0) ? Words::tr("%n h", nullptr, count / 60)
-                                                      : Words::tr("%n min", nullptr, count);
+    return interval % hour == std::chrono::minutes(0) ? Words::tr("%Ln h", nullptr, count / 60)
+                                                      : Words::tr("%Ln min", nullptr, count);
 }
 
 QString WatchText::newEvents(WatchSettings::NewEvents choice)
@@ -77,12 +77,9 @@ QString WatchText::leftOut(const std::vector<CorvelRef>& consoles)
     if (names.isEmpty()) {
         return {};
     }
-    if (names.size() == 1) {
-        //: %1 a console
-        return Words::tr("%1 is left out until you refresh it by hand: its certificate changed.").arg(names.front());
-    }
-    //: %1 several consoles
-    return Words::tr("%1 are left out until you refresh them by hand: their certificates changed.")
+    //: %1 the names of so many consoles
+    return Words::tr("%1 are left out until you refresh them by hand: their certificates changed.", nullptr,
+                     static_cast<int>(names.size()))
         .arg(joinedList(names));
 }
 

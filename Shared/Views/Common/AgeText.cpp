@@ -35,7 +35,7 @@ QString shortAge(seconds age)
         return {};
     }
     return age < minutes(1) ? Words::tr("just now")
-                            : Words::tr("%n min ago", nullptr, static_cast<int>(age / minutes(1)));
+                            : Words::tr("%Ln min ago", nullptr, static_cast<int>(age / minutes(1)));
 }
 
 enum class Clock { Shown, Left };
@@ -106,7 +106,7 @@ QString AgeText::readAgo(WallTime then, WallTime now)
         //: %1 as in "2 min ago" or "yesterday 21:40"
         return Words::tr("read %1").arg(of(then, now));
     }
-    return Words::tr("read %n h ago", nullptr, static_cast<int>(age / hours(1)));
+    return Words::tr("read %Ln h ago", nullptr, static_cast<int>(age / hours(1)));
 }
 
 QString AgeText::clock(WallTime time)

@@ -97,7 +97,7 @@ void DayBarsOutlet::showChanges(const std::vector<ChangeCount>& counts, std::chr
     y.labelledValues = {-static_cast<double>(most.better), static_cast<double>(most.worse)};
     m_chart.setLeftAxis(y);
     //: How many days a chart has, and what it tells of the last.
-    show(data, days, tr("%n days, %1", nullptr, static_cast<int>(counts.size())).arg(days.value(last)));
+    show(data, days, tr("%Ln days, %1", nullptr, static_cast<int>(counts.size())).arg(days.value(last)));
 }
 
 void DayBarsOutlet::showEvents(const std::vector<int>& counts, std::chrono::local_days today)
@@ -128,7 +128,7 @@ void DayBarsOutlet::showEvents(const std::vector<int>& counts, std::chrono::loca
     m_chart.setLeftAxis(y);
     const QString name = tr("New Events a Day");
     //: A chart's name, how many days it has, and what it tells of the last.
-    show(data, days, tr("%1, %n days, %2", nullptr, static_cast<int>(counts.size())).arg(name, days.value(last)));
+    show(data, days, tr("%1, %Ln days, %2", nullptr, static_cast<int>(counts.size())).arg(name, days.value(last)));
 }
 
 void DayBarsOutlet::show(const PlotChartData& data, const QStringList& days, const QString& spoken)

@@ -124,7 +124,7 @@ void DetailViewController::presentMenu(int section, int row)
     add({.title = tr("Copy All"), .imageName = QStringLiteral("release_notes")}, [this] { copyAll(); });
     if (!value.isEmpty() && value != absent && navigationController() != nullptr) {
         add({.title = tr("Find on All Consoles"), .imageName = QStringLiteral("search")},
-            [this, value] { openFind(navigationController(), value); });
+            [this, value] { openFind(*this, value); });
     }
     choices.push_back({.title = tr("Cancel")});
     const int cancel = static_cast<int>(actions.size());
@@ -155,7 +155,7 @@ void DetailViewController::copyAll() const
         rows += count;
     }
     if (rows > 0) {
-        Clipboard::copy(lines.join(QLatin1Char('\n')), rows == 1 ? tr("1 row") : tr("%n rows", nullptr, rows));
+        Clipboard::copy(lines.join(QLatin1Char('\n')), tr("%Ln rows", nullptr, rows));
     }
 }
 

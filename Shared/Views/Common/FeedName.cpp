@@ -82,7 +82,7 @@ QString feedsNotRead(const std::vector<std::string_view>& types)
         return Words::tr("Nothing of it could be read");
     default:
         //: %n of the six feeds
-        return Words::tr("%n of 6 feeds not read", nullptr, static_cast<int>(types.size()));
+        return Words::tr("%Ln of 6 feeds not read", nullptr, static_cast<int>(types.size()));
     }
 }
 
@@ -99,7 +99,7 @@ QString joinedList(const QStringList& names)
         return Words::tr("%1, %2 and %3").arg(names[0], names[1], names[2]);
     default:
         //: %1 and %2 names, %n how many more there are
-        return Words::tr("%1, %2 and %n more", nullptr, static_cast<int>(names.size()) - 2).arg(names[0], names[1]);
+        return Words::tr("%1, %2 and %Ln more", nullptr, static_cast<int>(names.size()) - 2).arg(names[0], names[1]);
     }
 }
 

@@ -47,7 +47,7 @@ void ListShare::copy()
 {
     const Table table = m_table();
     const auto rows = static_cast<int>(table.rows.size());
-    Clipboard::copy(QString::fromStdString(csvOf(table)), rows == 1 ? tr("1 row") : tr("%Ln rows", nullptr, rows));
+    Clipboard::copy(QString::fromStdString(csvOf(table)), tr("%Ln rows", nullptr, rows));
 }
 
 } // namespace lodestar

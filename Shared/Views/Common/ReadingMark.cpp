@@ -32,7 +32,7 @@ ReadingMark missingMark(const std::vector<std::string_view>& missing)
     //: %1 the name of a feed, as in "partitions"
     const QString text = count == 1 ? Words::tr("%1 missing").arg(feedName(missing.front()))
                                     //: %n of the six feeds
-                                    : Words::tr("%n of 6 missing", nullptr, count);
+                                    : Words::tr("%Ln of 6 missing", nullptr, count);
     return {.text = text, .state = Role::State::Incomplete, .spoken = text};
 }
 

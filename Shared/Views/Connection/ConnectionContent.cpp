@@ -38,7 +38,7 @@ QString restText(WallTime then, WallTime now)
         return Words::tr("The rest was read %1.").arg(atMoment(then, now));
     }
     const int count = static_cast<int>(age.count());
-    return count < 1 ? Words::tr("The rest was read just now.") : Words::tr("The rest is %n min old.", nullptr, count);
+    return count < 1 ? Words::tr("The rest was read just now.") : Words::tr("The rest is %Ln min old.", nullptr, count);
 }
 
 /// When the oldest of the feeds that are not missing was read.
@@ -57,7 +57,7 @@ ConnectionRow partialVerdict(const Reading& reading, const std::vector<std::stri
 {
     ConnectionRow row{.mark = Role::State::Incomplete,
                       //: %n of the six feeds
-                      .title = Words::tr("Online, %n of 6 feeds missing", nullptr, static_cast<int>(missing.size()))};
+                      .title = Words::tr("Online, %Ln of 6 feeds missing", nullptr, static_cast<int>(missing.size()))};
     if (missing.size() == feedTable.size()) {
         row.detail = Words::tr("Nothing of it could be read.");
         return row;

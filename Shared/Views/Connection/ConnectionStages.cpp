@@ -214,7 +214,7 @@ QString feedTitle(std::string_view type)
 QString sizeText(std::size_t bytes)
 {
     if (static_cast<double>(bytes) < bytesInKB) {
-        return Words::tr("%n bytes", nullptr, static_cast<int>(bytes));
+        return Words::tr("%Ln bytes", nullptr, static_cast<int>(bytes));
     }
     const QLocale locale;
     const double size = static_cast<double>(bytes) / bytesInKB;
@@ -224,7 +224,7 @@ QString sizeText(std::size_t bytes)
 
 QString entriesText(std::size_t entries)
 {
-    return entries == 1 ? Words::tr("1 entry") : Words::tr("%Ln entries", nullptr, static_cast<int>(entries));
+    return Words::tr("%Ln entries", nullptr, static_cast<int>(entries));
 }
 
 QString feedFailure(const FeedReading& feed)
@@ -232,9 +232,8 @@ QString feedFailure(const FeedReading& feed)
     const Error& error = *feed.error;
     switch (reasonOf(error)) {
     case ReadingReason::TimedOut:
-        //: %1 a number of seconds
-        return reasonWithCode(
-            error, Words::tr("no answer within %1 s").arg(std::chrono::round<seconds>(feed.duration).count()));
+        return reasonWithCode(error, Words::tr("no answer within %Ln s", nullptr,
+                                               static_cast<int>(std::chrono::round<seconds>(feed.duration).count())));
     case ReadingReason::ServerError:
         //: %1 an HTTP status
         return Words::tr("%1, the console failed to answer").arg(statusOf(error));

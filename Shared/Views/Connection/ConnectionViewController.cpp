@@ -79,7 +79,7 @@ void ConnectionViewController::copyAll()
 {
     Clipboard::copy(m_header.titleLabel()->text() + QLatin1Char('\n') + m_header.subtitleLabel()->text() +
                         QLatin1Char('\n') + connectionText(m_sections),
-                    tr("%n rows", nullptr, rowCount(m_sections)));
+                    tr("%Ln rows", nullptr, rowCount(m_sections)));
 }
 
 } // namespace lodestar

@@ -65,7 +65,7 @@ QString nextText(WallTime now)
         return {};
     }
     const auto left = std::max(std::chrono::ceil<minutes>(*next - now), minutes(1));
-    return DashboardMarks::tr("Next in %n min.", nullptr, static_cast<int>(left.count()));
+    return DashboardMarks::tr("Next in %Ln min.", nullptr, static_cast<int>(left.count()));
 }
 
 } // namespace

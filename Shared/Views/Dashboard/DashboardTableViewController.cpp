@@ -239,7 +239,7 @@ QString DashboardTableViewController::waitingText()
         return tr("Waiting for %1")
             .arg(isolated(rowText((*std::ranges::find_if(corvels, isWaitedFor))->name().value_or(""))));
     }
-    return tr("Waiting for %1 of %2 consoles").arg(count).arg(corvels.size());
+    return tr("Waiting for %1 of %Ln consoles", nullptr, static_cast<int>(corvels.size())).arg(count);
 }
 
 void DashboardTableViewController::UIShowContent()

@@ -21,7 +21,7 @@ Item {
         id: heading
 
         text: qsTr("New Events a Day")
-        detail: place.bars.days.length > 0 ? qsTr("%n days", "", place.bars.days.length) : ""
+        detail: place.bars.days.length > 0 ? qsTr("%Ln days", "", place.bars.days.length) : ""
         x: place.sideMargin
         width: place.width - 2 * x
     }

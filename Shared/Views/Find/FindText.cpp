@@ -107,10 +107,9 @@ QString FindText::searched(const FleetSearch& search)
     if (search.consolesRead() == 0) {
         return nothingRead();
     }
-    const QString consoles = search.consoles().size() == 1
-                                 ? Words::tr("%1 of 1 console was searched.").arg(shown(search.consolesRead()))
-                                 : Words::tr("%1 of %2 consoles were searched.")
-                                       .arg(shown(search.consolesRead()), shown(search.consoles().size()));
+    const QString consoles =
+        Words::tr("%1 of %Ln consoles were searched.", nullptr, static_cast<int>(search.consoles().size()))
+            .arg(shown(search.consolesRead()));
     return joined({consoles, notRead(search)});
 }
 
@@ -119,14 +118,12 @@ QString FindText::things(const FleetSearch& search, WallTime now)
     if (search.consolesRead() == 0) {
         return nothingRead();
     }
-    //: %1 as in "2,318 things", %2 of %3 consoles, %4 as in "09:41" or "09:41 to 09:43"
-    const QString sentence =
-        Words::tr("%1 on %2 of %3, read %4.")
-            .arg(search.objects() == 1 ? Words::tr("1 thing") : Words::tr("%1 things").arg(shown(search.objects())),
-                 shown(search.consolesRead()),
-                 search.consoles().size() == 1 ? Words::tr("1 console")
-                                               : Words::tr("%1 consoles").arg(shown(search.consoles().size())),
-                 span(search, now));
+    const QString things = Words::tr("%Ln things", nullptr, static_cast<int>(search.objects()));
+    //: Within "2,318 things on 5 of 6 consoles, read 09:41."
+    const QString consoles = Words::tr("%1 of %Ln consoles", nullptr, static_cast<int>(search.consoles().size()))
+                                 .arg(shown(search.consolesRead()));
+    //: %1 as in "2,318 things", %2 as in "5 of 6 consoles", %3 as in "09:41" or "09:41 to 09:43"
+    const QString sentence = Words::tr("%1 on %2, read %3.").arg(things, consoles, span(search, now));
     return joined({sentence, notRead(search)});
 }
 
@@ -134,8 +131,8 @@ QString FindText::notRead(const FleetSearch& search)
 {
     QStringList sentences;
     if (const auto consoles = search.notRead(); !consoles.empty()) {
-        //: Names of consoles.
-        sentences << (consoles.size() == 1 ? Words::tr("%1 was not read.") : Words::tr("%1 were not read."))
+        //: %1 the names of so many consoles
+        sentences << Words::tr("%1 were not read.", nullptr, static_cast<int>(consoles.size()))
                          .arg(namesOf(search, consoles));
     }
     // What is missing on the same consoles is said in one sentence.

@@ -65,7 +65,7 @@ FoundFields fields(const ResourceGroup& group, std::size_t inError)
     const auto members = static_cast<int>(group.members().size());
     RGListCell cell;
     cell.setGroupColor(group.color().value_or(""));
-    const QString resources = members == 1 ? Words::tr("1 resource") : Words::tr("%Ln resources", nullptr, members);
+    const QString resources = Words::tr("%Ln resources", nullptr, members);
     //: How many of a group's resources are in error, as in "16 resources, 1 in error"
     const QString errors = inError == 0 ? QString() : Words::tr("%Ln in error", nullptr, static_cast<int>(inError));
     return {.name = textOf(group.name()),

@@ -77,7 +77,7 @@ void FleetChooseViewController::show(const Result<FleetSheet>& sheet)
         return;
     }
     const std::size_t rows = m_sheet->rows.size();
-    m_rowsLabel.setText(rows == 1 ? tr("1 row") : tr("%1 rows").arg(number(rows)));
+    m_rowsLabel.setText(tr("%Ln rows", nullptr, static_cast<int>(rows)));
     const QString notRead = FleetSheetText::notRead(*m_sheet);
     m_notReadLabel.setText(notRead);
     m_notReadLabel.setHidden(notRead.isEmpty());
@@ -86,7 +86,7 @@ void FleetChooseViewController::show(const Result<FleetSheet>& sheet)
     m_registeredLabel.setText(number(m_sheet->count(SheetRowKind::RegisteredAlready)));
     m_unusableLabel.setText(number(m_sheet->unusable()));
     m_unusableLabel.setState(m_sheet->unusable() > 0 ? Role::State::Alert : Role::State::None);
-    m_verifyLabel.setText(added == 1 ? tr("Verify 1 Console") : tr("Verify %1 Consoles").arg(number(added)));
+    m_verifyLabel.setText(tr("Verify %Ln Consoles", nullptr, static_cast<int>(added)));
     m_verifyLabel.setHidden(added == 0);
     m_verifyLabel.setEnabled(false);
 }

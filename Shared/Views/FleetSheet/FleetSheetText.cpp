@@ -43,8 +43,8 @@ QString listOf(const std::vector<std::string>& titles)
         list = Words::tr("%1, %2").arg(list, quoted(i));
     }
     return titles.size() > mostTitles
-               //: %1 names, %2 a number
-               ? Words::tr("%1 and %2 more").arg(list, number(titles.size() - named))
+               //: %1 names, %n how many more there are
+               ? Words::tr("%1 and %Ln more", nullptr, static_cast<int>(titles.size() - named)).arg(list)
                //: %1 and %2 names
                : Words::tr("%1 and %2").arg(list, quoted(named));
 }
@@ -58,7 +58,7 @@ QString withCapital(const QString& text)
 
 QString consoles(std::size_t count)
 {
-    return count == 1 ? Words::tr("1 console") : Words::tr("%1 consoles").arg(number(count));
+    return Words::tr("%Ln consoles", nullptr, static_cast<int>(count));
 }
 
 QString refusal(const Error& error)
@@ -78,7 +78,9 @@ QString notRead(const FleetSheet& sheet)
     QString text;
     if (!sheet.passwordColumns.empty()) {
         //: %1 titles of columns
-        text = Words::tr("Passwords are never read from a sheet: %1 is left out.").arg(listOf(sheet.passwordColumns));
+        text = Words::tr("Passwords are never read from a sheet: %1 are left out.", nullptr,
+                         static_cast<int>(sheet.passwordColumns.size()))
+                   .arg(listOf(sheet.passwordColumns));
     }
     if (!sheet.unknownColumns.empty()) {
         //: %1 titles of columns
@@ -147,7 +149,7 @@ QString note(const FleetImport::Row& row)
     if (row.error) {
         return withCapital(reasonText(*row.error));
     }
-    return row.missingFeeds > 0 ? Words::tr("%n of 6 missing", nullptr, static_cast<int>(row.missingFeeds))
+    return row.missingFeeds > 0 ? Words::tr("%Ln of 6 missing", nullptr, static_cast<int>(row.missingFeeds))
                                 : textOf(row.version);
 }
 
@@ -157,9 +159,8 @@ QString timeLeft(std::optional<std::chrono::seconds> left)
     if (!left) {
         return Words::tr("tried");
     }
-    return *left <= minute
-               ? Words::tr("tried, about %1 s left").arg(number(static_cast<std::size_t>(left->count())))
-               : Words::tr("tried, about %1 min left").arg(number(static_cast<std::size_t>(*left / minute)));
+    return *left <= minute ? Words::tr("tried, about %Ln s left", nullptr, static_cast<int>(left->count()))
+                           : Words::tr("tried, about %Ln min left", nullptr, static_cast<int>(*left / minute));
 }
 
 } // namespace lodestar::FleetSheetText

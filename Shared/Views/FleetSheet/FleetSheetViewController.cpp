@@ -32,9 +32,7 @@ void FleetSheetViewController::viewDidAppear()
 void FleetSheetViewController::show()
 {
     const auto count = fleetSheetOf(RESTHandler::sharedInstance().corvelList()).rows.size();
-    m_exportLabel.setText(count == 1
-                              ? tr("Export 1 Console")
-                              : tr("Export %1 Consoles").arg(QLocale().toString(static_cast<qulonglong>(count))));
+    m_exportLabel.setText(tr("Export %Ln Consoles", nullptr, static_cast<int>(count)));
     m_exportLabel.setEnabled(count > 0);
 }
 

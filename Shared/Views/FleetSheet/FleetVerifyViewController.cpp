@@ -110,9 +110,9 @@ void FleetVerifyViewController::showTexts()
     m_goodLabel.setText(number(good));
     m_badLabel.setText(number(tried - good));
     m_waitingLabel.setText(number(all - tried));
-    m_addLabel.setText(good == 1 ? tr("Add 1 Console") : tr("Add %1 Consoles").arg(number(good)));
+    m_addLabel.setText(tr("Add %Ln Consoles", nullptr, static_cast<int>(good)));
     m_addLabel.setHidden(m_isRunning || good == 0);
-    m_addNote.setText(tr("All %1 are added together, or none.").arg(number(good)));
+    m_addNote.setText(tr("All %Ln are added together, or none.", nullptr, static_cast<int>(good)));
     m_addNote.setHidden(m_isRunning || good < 2);
     m_progress = all == 0 ? 1 : static_cast<double>(tried) / static_cast<double>(all);
     Q_EMIT progressed();
@@ -227,11 +227,11 @@ QString FleetVerifyViewController::actionText(const Section& section, Action act
         return m_fleet->rows().size() > many ? tr("Show %1 More").arg(number(rowsAtATime))
                                              : tr("Show all %1").arg(number(section.total));
     case Action::TryAgain:
-        return section.total == 1 ? tr("Try This One Again") : tr("Try These %1 Again").arg(number(section.total));
+        return tr("Try These %Ln Again", nullptr, static_cast<int>(section.total));
     case Action::Save:
         break;
     }
-    return section.total == 1 ? tr("Save It as a Sheet") : tr("Save Them as a Sheet");
+    return tr("Save Them as a Sheet", nullptr, static_cast<int>(section.total));
 }
 
 void FleetVerifyViewController::didSelectRowAtIndexPath(TableKind /*tableView*/, IndexPath path)
@@ -324,7 +324,7 @@ void FleetVerifyViewController::add()
     // Fewer than were verified when somebody added one of them meanwhile.
     const std::size_t good = registeredAddresses().size() - before;
     NotificationCenter::defaultCenter().postNotification("FleetWasAdded");
-    Toasts::shared().show(good == 1 ? tr("Added 1 console") : tr("Added %1 consoles").arg(number(good)));
+    Toasts::shared().show(tr("Added %Ln consoles", nullptr, static_cast<int>(good)));
     if (NavigationController* const stack = navigationController()) {
         stack->popToRoot();
     }

@@ -40,10 +40,22 @@ Line line(const QString& label, const QString& value)
     return line(label, value.toStdString());
 }
 
+QString moreTimes(const QString& duplicates)
+{
+    bool isNumber = false;
+    const int count = duplicates.toInt(&isNumber);
+    return isNumber && count >= 0 ? Words::tr("%Ln more times", nullptr, count) : duplicates;
+}
+
+QString notKnown()
+{
+    return Words::tr("not known");
+}
+
 /// Empty counts as not told.
 std::string known(const Field& field)
 {
-    return field && !field->empty() ? *field : Words::tr("not known").toStdString();
+    return field && !field->empty() ? *field : notKnown().toStdString();
 }
 
 /// The fields that there are, one after the other.
@@ -115,9 +127,7 @@ Block eventFacts(const ServiceableEvent& event)
     facts.push_back(line(Words::tr("First reported"), timeText(event.firstReported())));
     facts.push_back(line(Words::tr("Last reported"), timeText(event.lastReported())));
     if (const Field duplicates = event.duplicateCount(); duplicates && !duplicates->empty() && duplicates != "0") {
-        facts.push_back(line(Words::tr("Reported"),
-                             duplicates == "1" ? Words::tr("1 more time")
-                                               : Words::tr("%1 more times").arg(QString::fromStdString(*duplicates))));
+        facts.push_back(line(Words::tr("Reported"), moreTimes(QString::fromStdString(*duplicates))));
     }
     return facts;
 }

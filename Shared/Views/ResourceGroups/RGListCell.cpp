@@ -60,7 +60,7 @@ void RGListCell::setStateCounts(const RGStateCounts& counts)
 
 void RGListCell::setResourceCount(int count)
 {
-    resourceCountLabel.text = count == 1 ? tr("1 Resource") : tr("%1 Resources").arg(count);
+    resourceCountLabel.text = tr("%n Resources", nullptr, count);
 }
 
 QString RGListCell::accessibleText() const

@@ -161,14 +161,11 @@ QString PerformanceText::leftOut(std::size_t withoutValues, std::size_t withoutT
 {
     QStringList sentences;
     if (withoutValues > 0) {
-        sentences << (withoutValues == 1 ? Words::tr("1 sample had no values and is left out")
-                                         : Words::tr("%Ln samples had no values and are left out", nullptr,
-                                                     static_cast<int>(withoutValues)));
+        sentences << Words::tr("%Ln samples had no values and are left out", nullptr, static_cast<int>(withoutValues));
     }
     if (withoutTime > 0) {
-        sentences << (withoutTime == 1 ? Words::tr("1 sample had no time and is left out of the chart")
-                                       : Words::tr("%Ln samples had no time and are left out of the chart", nullptr,
-                                                   static_cast<int>(withoutTime)));
+        sentences << Words::tr("%Ln samples had no time and are left out of the chart", nullptr,
+                               static_cast<int>(withoutTime));
     }
     return sentences.join(QLatin1Char('\n'));
 }
