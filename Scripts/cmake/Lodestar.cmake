@@ -64,6 +64,7 @@ endfunction()
 # that a test gives the same result for everybody. The check of strndup is off: in its strict form it reports the X11
 # keyboard library, which copies pieces of a text that has no end of its own.
 set(LODESTAR_TEST_ENVIRONMENT
+  LC_ALL=C.UTF-8
   QT_QPA_PLATFORM=offscreen
   QT_QUICK_BACKEND=software
   ASAN_OPTIONS=detect_stack_use_after_return=1:strict_string_checks=1:intercept_strndup=0

@@ -12,6 +12,8 @@ namespace lodestar
 namespace
 {
 
+using Texts::say;
+
 const Option* optionOf(const std::vector<Option>& options, std::string_view name)
 {
     const auto found = std::ranges::find(options, name, &Option::name);
@@ -39,13 +41,19 @@ std::string usageOf(const Syntax& syntax)
     return std::string(syntax.name) + (syntax.operands.empty() ? "" : " ") + std::string(syntax.operands);
 }
 
+Error needsValue(const std::string& name, const Option& option)
+{
+    //: %1 an option, %2 a word for what it takes
+    return misuse(say(TEXT("CommandLine", "%1 needs a value: %2."), {name, option.placeholder}));
+}
+
 std::string optionLine(const Option& option)
 {
     constexpr std::size_t column = 26;
     std::string line = "  " + std::string(option.name);
     line.append(option.placeholder.empty() ? "" : " ").append(option.placeholder);
     line.append(line.size() < column ? column - line.size() : 1, ' ');
-    return line.append(option.help).append("\n");
+    return line.append(say(option.help)).append("\n");
 }
 
 } // namespace
@@ -53,12 +61,12 @@ std::string optionLine(const Option& option)
 const std::vector<Option>& commonOptions()
 {
     static const std::vector<Option> options = {
-        {"--console", "CONSOLE", "Only this console, by name or address; may be repeated."},
-        {"--json", "", "Write JSON."},
-        {"--csv", "", "Write comma-separated values."},
-        {"--data", "FOLDER", "Use this data folder instead of Lodestar's own."},
-        {"--help", "", "Say how the command is used."},
-        {"--version", "", "Say which version this is."},
+        {"--console", "CONSOLE", TEXT("CommandLine", "Only this console, by name or address; may be repeated.")},
+        {"--json", "", TEXT("CommandLine", "Write JSON.")},
+        {"--csv", "", TEXT("CommandLine", "Write comma-separated values.")},
+        {"--data", "FOLDER", TEXT("CommandLine", "Use this data folder instead of Lodestar's own.")},
+        {"--help", "", TEXT("CommandLine", "Say how the command is used.")},
+        {"--version", "", TEXT("CommandLine", "Say which version this is.")},
     };
     return options;
 }
@@ -86,7 +94,8 @@ Result<std::optional<int>> Arguments::number(std::string_view option) const
     int number = 0;
     const auto [end, error] = std::from_chars(text->data(), text->data() + text->size(), number);
     if (error != std::errc() || end != text->data() + text->size() || number < 0) {
-        return misuse(std::string(option) + " takes a number, not " + *text + ".");
+        //: %1 an option, %2 what was given
+        return misuse(say(TEXT("CommandLine", "%1 takes a number, not %2."), {option, *text}));
     }
     return std::optional(number);
 }
@@ -107,8 +116,9 @@ Result<std::optional<std::chrono::seconds>> Arguments::time(std::string_view opt
                       : unit.empty() || unit == "m" ? Time(std::chrono::minutes(number))
                       : unit == "h"                 ? Time(std::chrono::hours(number))
                                                     : std::nullopt;
-    return isTime && time ? Result<Time>(time)
-                          : misuse(std::string(option) + " takes minutes, or a time as 30s or 2h, not " + *text + ".");
+    return isTime && time
+               ? Result<Time>(time)
+               : misuse(say(TEXT("CommandLine", "%1 takes minutes, or a time as 30s or 2h, not %2."), {option, *text}));
 }
 
 /// One command line on its way.
@@ -146,20 +156,20 @@ private:
             option = option != nullptr ? option : optionOf(syntax.options, name);
         }
         if (option == nullptr) {
-            return misuse("There is no option " + name + ".");
+            return misuse(say(TEXT("CommandLine", "There is no option %1."), {name}));
         }
         std::string value;
         if (option->placeholder.empty() && equals != std::string::npos) {
-            return misuse(name + " takes no value.");
+            return misuse(say(TEXT("CommandLine", "%1 takes no value."), {name}));
         }
         if (!option->placeholder.empty()) {
             if (equals == std::string::npos && ++word == end) {
-                return misuse(name + " needs a value: " + std::string(option->placeholder) + ".");
+                return needsValue(name, *option);
             }
             value = equals == std::string::npos ? *word : word->substr(equals + 1);
             // A script's variable that is not set must not lead to the person's own folder.
             if (value.empty()) {
-                return misuse(name + " needs a value: " + std::string(option->placeholder) + ".");
+                return needsValue(name, *option);
             }
         }
         m_arguments.m_values.emplace(name, std::move(value));
@@ -176,22 +186,24 @@ private:
             return {};
         }
         if (syntax == nullptr) {
-            return misuse(first.empty() ? "No command was given." : "There is no command " + first + ".");
+            return misuse(first.empty() ? say(TEXT("CommandLine", "No command was given."))
+                                        : say(TEXT("CommandLine", "There is no command %1."), {first}));
         }
         m_arguments.command = static_cast<std::size_t>(syntax - m_syntaxes.data());
         for (const auto& [name, value] : m_arguments.m_values) {
             if (optionOf(commonOptions(), name) == nullptr && optionOf(syntax->options, name) == nullptr) {
-                return misuse(std::string(syntax->name) + " takes no option " + name + ".");
+                return misuse(say(TEXT("CommandLine", "%1 takes no option %2."), {syntax->name, name}));
             }
         }
         if (syntax->most == 0 && !operands.empty()) {
-            return misuse("There is no command " + std::string(syntax->name) + " " + operands.front() + ".");
+            return misuse(say(TEXT("CommandLine", "There is no command %1."),
+                              {std::string(syntax->name) + " " + operands.front()}));
         }
         if (operands.size() < syntax->fewest || operands.size() > syntax->most) {
-            return misuse("It is used so: lodestar-cli " + usageOf(*syntax));
+            return misuse(say(TEXT("CommandLine", "It is used so: %1"), {"lodestar-cli " + usageOf(*syntax)}));
         }
         if (m_arguments.has("--json") && m_arguments.has("--csv")) {
-            return misuse("--json and --csv exclude one another.");
+            return misuse(say(TEXT("CommandLine", "--json and --csv exclude one another.")));
         }
         return {};
     }
@@ -207,21 +219,24 @@ Result<Arguments> parseArguments(const std::vector<std::string>& words, const st
 
 std::string helpText(const std::vector<Syntax>& syntaxes, std::string_view word)
 {
-    std::string text = "Watches Corvel consoles and changes nothing.\n\n";
+    std::string text = say(TEXT("CommandLine", "Watches Corvel consoles and changes nothing.")) + "\n\n";
     for (const Syntax& syntax : syntaxes) {
         if (!syntax.name.starts_with(word)) {
             continue;
         }
-        text.append("lodestar-cli ").append(usageOf(syntax)).append("\n    ").append(syntax.summary).append("\n");
+        text.append("lodestar-cli ").append(usageOf(syntax)).append("\n    ").append(say(syntax.summary)).append("\n");
         for (const Option& option : syntax.options) {
             text.append("  ").append(optionLine(option));
         }
     }
-    text += "\nWith every command:\n";
+    text += "\n" + say(TEXT("CommandLine", "With every command:")) + "\n";
     for (const Option& option : commonOptions()) {
         text += optionLine(option);
     }
-    return text + "\nEnds with 0 when all is well, 1 after warnings, 2 after errors, and 3 when that is not known.\n";
+    return text + "\n" +
+           say(TEXT("CommandLine",
+                    "Ends with 0 when all is well, 1 after warnings, 2 after errors, and 3 when that is not known.")) +
+           "\n";
 }
 
 } // namespace lodestar

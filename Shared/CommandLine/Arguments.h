@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "CommandLine/Texts.h"
 #include "Platform/Result.h"
 
 #include <chrono>
@@ -18,7 +19,7 @@ namespace lodestar
 struct Option {
     std::string_view name; ///< "--every"
     std::string_view placeholder;
-    std::string_view help;
+    Text help;
 };
 
 /// How a command line looks: a command's words, its operands, its options.
@@ -27,7 +28,7 @@ struct Syntax {
     std::string_view operands; ///< as the help shows them
     std::size_t fewest = 0;    ///< operands
     std::size_t most = 0;
-    std::string_view summary;
+    Text summary;
     std::vector<Option> options; ///< beside those that all commands take
 };
 

@@ -2,6 +2,7 @@
 #include "CommandLine/Commands.h"
 #include "CommandLine/Failure.h"
 #include "CommandLine/Json.h"
+#include "CommandLine/Texts.h"
 #include "CommandLine/Words.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Fleet/FleetSheet.h"
@@ -17,6 +18,8 @@ namespace lodestar
 {
 namespace
 {
+
+using Texts::say;
 
 /// What is known without asking. Never a password.
 Table registryTable(const std::vector<CorvelRef>& consoles)
@@ -51,7 +54,7 @@ Result<Verdict> listConsoles(CommandContext& context)
     } else if (context.arguments.has("--csv")) {
         context.output.writeCsv(table);
     } else if (table.rows.empty()) {
-        context.output.write(sentenceText("No consoles yet.", context.output.terminal()));
+        context.output.write(sentenceText(say(TEXT("CommandLine", "No consoles yet.")), context.output.terminal()));
     } else {
         context.output.write(tableText(table, context.output.terminal()));
     }
@@ -65,7 +68,8 @@ Result<Verdict> removeConsole(CommandContext& context)
         return called.error();
     }
     if (called.value().size() > 1) {
-        return failure("Several consoles are called " + context.arguments.operands[0] + ". Name one by its address.");
+        return failure(say(TEXT("CommandLine", "Several consoles are called %1. Name one by its address."),
+                           {context.arguments.operands[0]}));
     }
     const CorvelRef corvel = called.value().front();
     const std::vector<CorvelRef>& list = RESTHandler::sharedInstance().corvelList();
@@ -80,7 +84,8 @@ Result<Verdict> removeConsole(CommandContext& context)
         answer["address"] = corvel->address().value_or("");
         context.output.write(Json::document(answer));
     } else {
-        context.output.write(sentenceText(calledName(*corvel) + " was removed.", context.output.terminal()));
+        context.output.write(sentenceText(say(TEXT("CommandLine", "%1 was removed."), {calledName(*corvel)}),
+                                          context.output.terminal()));
     }
     return Verdict::Good;
 }
@@ -88,7 +93,8 @@ Result<Verdict> removeConsole(CommandContext& context)
 Result<Verdict> exportConsoles(CommandContext& context)
 {
     if (context.arguments.has("--json")) {
-        return misuse("consoles export writes a fleet sheet; consoles list --json writes JSON.");
+        return misuse(
+            say(TEXT("CommandLine", "consoles export writes a fleet sheet; consoles list --json writes JSON.")));
     }
     const Result<std::vector<CorvelRef>> consoles = context.session.consoles(context.arguments.values("--console"));
     if (!consoles) {
@@ -101,10 +107,12 @@ Result<Verdict> exportConsoles(CommandContext& context)
         return Verdict::Good;
     }
     if (const Result<void> written = writePrivateFile(file, csvOf(sheet)); !written) {
-        return failure("Could not be saved: " + shownDescription(written.error()));
+        return failure(say(TEXT("CommandLine", "Could not be saved: %1"), {Words::errorText(written.error())}));
     }
-    context.output.write(sentenceText("Saved " + Words::count(sheet.rows.size(), "console", "consoles") + " as " + file,
-                                      context.output.terminal()));
+    context.output.write(sentenceText(
+        //: %1 the name of a file
+        Texts::count(TEXTS("CommandLine", "Saved %Ln consoles as %1"), sheet.rows.size(), {file}),
+        context.output.terminal()));
     return Verdict::Good;
 }
 

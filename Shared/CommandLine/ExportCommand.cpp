@@ -4,6 +4,7 @@
 #include "CommandLine/Failure.h"
 #include "CommandLine/Listener.h"
 #include "CommandLine/SystemMetrics.h"
+#include "CommandLine/Texts.h"
 #include "CommandLine/Words.h"
 #include "Fleet/Exposition.h"
 #include "Fleet/History.h"
@@ -22,6 +23,8 @@ namespace lodestar
 namespace
 {
 
+using Texts::say;
+
 constexpr std::size_t mostSystems = 100;
 
 /// What a command line asks for: a file, or a place to listen.
@@ -39,7 +42,7 @@ Result<Plan> planOf(const Arguments& arguments)
     plan.file = arguments.value("--openmetrics").value_or("");
     const auto listen = arguments.value("--listen");
     if (plan.file.empty() != listen.has_value()) {
-        return misuse("export takes either --openmetrics FILE or --listen PORT.");
+        return misuse(say(TEXT("CommandLine", "export takes either --openmetrics FILE or --listen PORT.")));
     }
     if (listen) {
         const Result<ListenAddress> address = ListenAddress::of(*listen);
@@ -53,18 +56,18 @@ Result<Plan> planOf(const Arguments& arguments)
         return every.error();
     }
     if (every.value() && !listen) {
-        return misuse("--every goes with --listen; a file is written once.");
+        return misuse(say(TEXT("CommandLine", "--every goes with --listen; a file is written once.")));
     }
     plan.every =
         every.value().value_or(WatchSettings::ofText(History::shared().setting(watchSettingName).value_or("")).every);
     if (arguments.has("--json") || arguments.has("--csv")) {
-        return misuse("export writes OpenMetrics.");
+        return misuse(say(TEXT("CommandLine", "export writes OpenMetrics.")));
     }
     // Nobody is there who could say that a changed certificate is good, also when consoles are named.
     plan.choice = {arguments.values("--console"), {}, false};
     plan.systems = arguments.values("--system");
     if (plan.systems.size() > mostSystems) {
-        return misuse("export takes --system at most " + std::to_string(mostSystems) + " times.");
+        return misuse(Texts::count(TEXTS("CommandLine", "export takes --system at most %Ln times."), mostSystems));
     }
     return plan;
 }
@@ -165,7 +168,9 @@ private:
             if (answer) {
                 systems[places[i]].metrics = std::move(answer.value());
             } else {
-                tell("The metrics of " + asked[i].name + " cannot be had: " + Words::reason(answer.error()) + ".");
+                //: %1 a system, %2 why, as in "connection refused"
+                tell(say(TEXT("CommandLine", "The metrics of %1 cannot be had: %2."),
+                         {asked[i].name, Words::reason(answer.error())}));
             }
         }
         return systems;
@@ -189,7 +194,9 @@ Result<Verdict> serve(CommandContext& context, const Plan& plan)
     if (!listener) {
         return listener.error();
     }
-    context.output.write("Listening on http://" + listener.value()->address().text() + "/metrics\n");
+    context.output.write(
+        say(TEXT("CommandLine", "Listening on %1"), {"http://" + listener.value()->address().text() + "/metrics"}) +
+        "\n");
     Exporter exporter(context.session, plan);
     while (true) {
         const Result<Exposition> exposition = exporter.read();

@@ -2,6 +2,7 @@
 #include "CommandLine/ExportFile.h"
 
 #include "CommandLine/Failure.h"
+#include "CommandLine/Texts.h"
 #include "Platform/PrivateFile.h"
 
 #include <algorithm>
@@ -21,6 +22,8 @@ namespace lodestar
 {
 namespace
 {
+
+using Texts::say;
 
 constexpr std::string_view wildcard = "XXXXXX"; // as `mkostemp` wants it
 
@@ -130,7 +133,7 @@ Result<void> replaceFile(const std::string& path, std::string_view text)
 {
     struct stat status = {};
     if (::lstat(path.c_str(), &status) == 0 && !S_ISREG(status.st_mode)) {
-        return failure(path + " is no file that could be replaced.");
+        return failure(say(TEXT("CommandLine", "%1 is no file that could be replaced."), {path}));
     }
     FreshFile fresh{std::filesystem::path(path)};
     fresh.removeLeftOnes();
@@ -139,7 +142,7 @@ Result<void> replaceFile(const std::string& path, std::string_view text)
         error = fresh.renameTo(path);
     }
     if (error != 0) {
-        return failure(shownDescription(fileError(path + " cannot be written", error)));
+        return failure(shownDescription(fileError(say(TEXT("CommandLine", "%1 cannot be written"), {path}), error)));
     }
     syncFolder(fresh.folder());
     return {};

@@ -3,6 +3,7 @@
 
 #include "CommandLine/Failure.h"
 #include "CommandLine/Terminal.h"
+#include "CommandLine/Texts.h"
 #include "CommandLine/Words.h"
 #include "Fleet/Attention.h"
 #include "Fleet/WatchLeftOut.h"
@@ -19,6 +20,8 @@ namespace lodestar
 namespace
 {
 
+using Texts::say;
+
 /// Refreshes the consoles at once and waits for all of them.
 Result<void> refresh(Session& session, WatchSurroundings& surroundings, const std::vector<CorvelRef>& corvels)
 {
@@ -28,7 +31,9 @@ Result<void> refresh(Session& session, WatchSurroundings& surroundings, const st
     }
     ProgressLine progress;
     const Loop::End end = session.loop().runUntil([&] {
-        progress.show(fmt::format("reading {} of {}", *ended, corvels.size()));
+        //: numbers of consoles
+        progress.show(
+            say(TEXT("CommandLine", "reading %1 of %2"), {std::to_string(*ended), std::to_string(corvels.size())}));
         return *ended == corvels.size();
     });
     return end == Loop::End::Met      ? session.awaitHistory()
@@ -61,15 +66,18 @@ Verdict FleetPicture::verdict() const
 
 std::string FleetPicture::completeness() const
 {
-    return fmt::format("{} of {} answered in full", complete, Words::count(consoles.size(), "console", "consoles"));
+    return Texts::count(TEXTS("lodestar::FindingText", "%1 of %Ln consoles answered in full"), consoles.size(),
+                        {std::to_string(complete)});
 }
 
 std::vector<std::string> FleetPicture::leftOutSentences() const
 {
     std::vector<std::string> sentences;
     std::ranges::transform(leftOut, std::back_inserter(sentences), [](const CorvelRef& corvel) {
-        return calledName(*corvel) + " was left out: its certificate changed within an attempt. To take the new one, "
-                                     "name the console with --console.";
+        return say(TEXT("CommandLine",
+                        "%1 was left out: its certificate changed within an attempt. To take the new one, "
+                        "name the console with --console."),
+                   {calledName(*corvel)});
     });
     return sentences;
 }

@@ -3,11 +3,10 @@
 #include "CommandLine/Failure.h"
 #include "CommandLine/Json.h"
 #include "CommandLine/Passwords.h"
+#include "CommandLine/Texts.h"
 #include "CommandLine/Words.h"
 #include "Fleet/FleetSheet.h"
 #include "Platform/PrivateFile.h"
-
-#include <fmt/format.h>
 
 #include <algorithm>
 #include <cerrno>
@@ -23,6 +22,8 @@ namespace lodestar
 namespace
 {
 
+using Texts::say;
+
 Result<Passwords> passwordsOf(const Arguments& arguments)
 {
     const Result<std::optional<int>> descriptor = arguments.number("--password-fd");
@@ -33,7 +34,7 @@ Result<std::string> contentsOf(const std::string& file)
 {
     const int descriptor = file == "-" ? ::dup(STDIN_FILENO) : ::open(file.c_str(), O_RDONLY | O_CLOEXEC);
     if (descriptor < 0) {
-        return fileError(file + " cannot be opened", errno);
+        return fileError(say(TEXT("CommandLine", "%1 cannot be opened"), {file}), errno);
     }
     std::string bytes;
     std::string piece(std::size_t{64} << 10, '\0');
@@ -44,20 +45,21 @@ Result<std::string> contentsOf(const std::string& file)
     }
     const int error = errno;
     ::close(descriptor);
-    return count < 0 ? Result<std::string>(fileError(file + " cannot be read", error))
+    return count < 0 ? Result<std::string>(fileError(say(TEXT("CommandLine", "%1 cannot be read"), {file}), error))
                      : Result<std::string>(std::move(bytes));
 }
 
 std::string sentenceOf(const Error& error)
 {
     if (error.domain == sheetErrorDomain) {
-        return "There is no first line with name, address and user.";
+        return say(TEXT("lodestar::FleetSheetText", "There is no first line with name, address and user."));
     }
     if (error.domain == csvErrorDomain) {
-        return error.code == csvTooLarge ? "This file is too large for a fleet sheet."
-                                         : "This is not a CSV file: " + error.failureReason + ".";
+        return error.code == csvTooLarge
+                   ? say(TEXT("lodestar::FleetSheetText", "This file is too large for a fleet sheet."))
+                   : say(TEXT("CommandLine", "This is not a CSV file: %1."), {error.failureReason});
     }
-    return shownDescription(error);
+    return Words::errorText(error);
 }
 
 /// Why the row is none that can be tried; empty for one that can.
@@ -67,24 +69,24 @@ std::string objectionTo(const SheetRow& row)
     case SheetRowKind::New:
         return {};
     case SheetRowKind::RegisteredAlready:
-        return "registered already, left alone";
+        return say(TEXT("CommandLine", "registered already, left alone"));
     case SheetRowKind::NoAddress:
-        return "no address";
+        return say(TEXT("CommandLine", "no address"));
     case SheetRowKind::NoUser:
-        return "no user";
+        return say(TEXT("CommandLine", "no user"));
     case SheetRowKind::BadAddress:
-        return "no address of a console: " + row.address;
+        return say(TEXT("CommandLine", "no address of a console: %1"), {row.address});
     case SheetRowKind::SameAddress:
         break;
     }
-    return fmt::format("the same address as row {}", row.sameAs);
+    return say(TEXT("CommandLine", "the same address as row %1"), {std::to_string(row.sameAs)});
 }
 
 Result<std::map<std::string, std::string>> ask(const Passwords& passwords, const std::vector<std::string>& users)
 {
     std::map<std::string, std::string> answers;
     for (const std::string& user : users) {
-        Result<std::string> answer = passwords.next("Password of " + user);
+        Result<std::string> answer = passwords.next(say(TEXT("CommandLine", "Password of %1"), {user}));
         if (!answer) {
             return answer.error();
         }
@@ -100,8 +102,11 @@ Result<void> verify(CommandContext& context, FleetImport& import)
     import.verify(nullptr);
     const Loop::End end = context.session.loop().runUntil([&] {
         const auto left = import.timeLeft();
-        progress.show(fmt::format("verifying {} of {}", import.tried(), import.rows().size()) +
-                      (left ? fmt::format(", about {} s left", left->count()) : ""));
+        const std::string tried = std::to_string(import.tried());
+        const std::string all = std::to_string(import.rows().size());
+        progress.show(left ? Texts::count(TEXTS("CommandLine", "verifying %1 of %2, about %Ln s left"),
+                                          static_cast<std::size_t>(left->count()), {tried, all})
+                           : say(TEXT("CommandLine", "verifying %1 of %2"), {tried, all}));
         return !import.isRunning();
     });
     if (end != Loop::End::Met) {
@@ -113,13 +118,13 @@ Result<void> verify(CommandContext& context, FleetImport& import)
 
 std::string missingText(std::size_t feeds)
 {
-    return feeds == 0 ? std::string() : fmt::format("{} of 6 feeds not read", feeds);
+    return feeds == 0 ? std::string() : Words::feedsNotRead(feeds);
 }
 
 Result<void> store(CommandContext& context, FleetImport& import)
 {
     if (const Result<void> added = import.add(); !added) {
-        return failure("Nothing was added. " + shownDescription(added.error()));
+        return failure(say(TEXT("CommandLine", "Nothing was added.")) + " " + Words::errorText(added.error()));
     }
     return context.session.awaitHistory();
 }
@@ -147,10 +152,10 @@ Table outcomeTable(const FleetSheet& sheet, const FleetImport& import, bool wasA
 void tell(CommandContext& context, const FleetSheet& sheet, const Table& outcome, std::size_t added)
 {
     for (const std::string& column : sheet.passwordColumns) {
-        complain("The column " + column + " was not read: passwords do not belong in a sheet.");
+        complain(say(TEXT("CommandLine", "The column %1 was not read: passwords do not belong in a sheet."), {column}));
     }
     for (const std::string& column : sheet.unknownColumns) {
-        complain("The column " + column + " is not used.");
+        complain(say(TEXT("CommandLine", "The column %1 is not used."), {column}));
     }
     if (context.arguments.has("--json")) {
         Json::Value answer = Json::answer(context.arguments.has("--user") ? "consoles add" : "consoles import");
@@ -163,8 +168,8 @@ void tell(CommandContext& context, const FleetSheet& sheet, const Table& outcome
         const Terminal& terminal = context.output.terminal();
         context.output.write(tableText(outcome, terminal) +
                              sentenceText(added == 0
-                                              ? std::string("Nothing was added.")
-                                              : Words::count(added, "console was added.", "consoles were added."),
+                                              ? say(TEXT("CommandLine", "Nothing was added."))
+                                              : Texts::count(TEXTS("CommandLine", "%Ln consoles were added."), added),
                                           terminal));
     }
 }
@@ -182,7 +187,7 @@ Result<Verdict> addConsole(CommandContext& context)
     const std::string& address = context.arguments.operands[0];
     const auto user = context.arguments.value("--user");
     if (!user) {
-        return misuse("Say as whom to log on with --user.");
+        return misuse(say(TEXT("CommandLine", "Say as whom to log on with --user.")));
     }
     // As a sheet of one row, so that the same rules hold.
     const std::string name = context.arguments.value("--name").value_or(address);
@@ -191,11 +196,11 @@ Result<Verdict> addConsole(CommandContext& context)
         return sheet.error();
     }
     if (sheet.value().rows.empty()) {
-        return misuse("The address is empty.");
+        return misuse(say(TEXT("CommandLine", "The address is empty.")));
     }
     const SheetRow& row = sheet.value().rows.front();
     if (const std::string objection = objectionTo(row); !objection.empty()) {
-        return failure("Nothing was added: " + objection + ".");
+        return failure(say(TEXT("CommandLine", "Nothing was added: %1."), {objection}));
     }
     const Result<Passwords> passwords = passwordsOf(context.arguments);
     if (!passwords) {
@@ -211,8 +216,10 @@ Result<Verdict> addConsole(CommandContext& context)
     }
     const FleetImport::Row& tried = import->rows().front();
     if (tried.state != FleetImport::State::Verified) {
-        return failure("Nothing was added. " + row.address + ": " +
-                       (tried.error ? Words::reason(*tried.error) : std::string("not verified")) + ".");
+        return failure(say(
+            //: %1 an address, %2 why, as in "connection refused"
+            TEXT("CommandLine", "Nothing was added. %1: %2."),
+            {row.address, tried.error ? Words::reason(*tried.error) : say(TEXT("CommandLine", "not verified"))}));
     }
     if (const Result<void> added = store(context, *import); !added) {
         return added.error();
@@ -222,7 +229,10 @@ Result<Verdict> addConsole(CommandContext& context)
         return Verdict::Good;
     }
     const std::string missing = missingText(tried.missingFeeds);
-    context.output.write(sentenceText(row.name + " was added" + (missing.empty() ? "." : ", " + missing + "."),
+    context.output.write(sentenceText(missing.empty()
+                                          ? say(TEXT("CommandLine", "%1 was added."), {row.name})
+                                          //: %1 a console, %2 as in "4 of 6 feeds not read"
+                                          : say(TEXT("CommandLine", "%1 was added, %2."), {row.name, missing}),
                                       context.output.terminal()));
     return Verdict::Good;
 }
@@ -231,7 +241,7 @@ Result<Verdict> importConsoles(CommandContext& context)
 {
     const Result<std::string> bytes = contentsOf(context.arguments.operands[0]);
     if (!bytes) {
-        return failure(shownDescription(bytes.error()) + ".");
+        return failure(Words::errorText(bytes.error()) + ".");
     }
     const Result<FleetSheet> sheet = sheetOf(bytes.value());
     if (!sheet) {

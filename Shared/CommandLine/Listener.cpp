@@ -2,6 +2,7 @@
 #include "CommandLine/Listener.h"
 
 #include "CommandLine/Failure.h"
+#include "CommandLine/Texts.h"
 #include "Platform/PrivateFile.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/URLLoading/URLRequest.h"
@@ -27,6 +28,8 @@ namespace lodestar
 {
 namespace
 {
+
+using Texts::say;
 
 using Clock = std::chrono::steady_clock;
 using namespace std::chrono_literals;
@@ -143,7 +146,8 @@ Result<ListenAddress> ListenAddress::of(const std::string& text)
     const std::string port = colon == std::string::npos ? text : text.substr(colon + 1);
     const auto [end, error] = std::from_chars(port.data(), port.data() + port.size(), address.port);
     if (error != std::errc() || end != port.data() + port.size()) {
-        return misuse("--listen takes a port, or an address and a port as 127.0.0.1:9750, not " + text + ".");
+        return misuse(say(
+            TEXT("CommandLine", "--listen takes a port, or an address and a port as 127.0.0.1:9750, not %1."), {text}));
     }
     if (colon != std::string::npos) {
         const std::string host = text.substr(0, colon);
@@ -152,11 +156,13 @@ Result<ListenAddress> ListenAddress::of(const std::string& text)
     }
     const SocketAddress known(address);
     if (!known.isAddress()) {
-        return misuse("--listen takes an address in numbers, not " + address.host + ".");
+        return misuse(say(TEXT("CommandLine", "--listen takes an address in numbers, not %1."), {address.host}));
     }
     if (!known.isLoopback()) {
-        return misuse("--listen takes no address that other machines reach, such as " + address.host +
-                      ": what it serves is neither encrypted nor guarded. Put a server in front of it that is.");
+        return misuse(say(TEXT("CommandLine",
+                               "--listen takes no address that other machines reach, such as %1: what it serves is "
+                               "neither encrypted nor guarded. Put a server in front of it that is."),
+                          {address.host}));
     }
     return address;
 }
@@ -247,7 +253,7 @@ Listener::~Listener()
 
 Result<std::unique_ptr<Listener>> Listener::open(const ListenAddress& asked, Text text)
 {
-    const std::string attempt = "Cannot listen on " + asked.text();
+    const std::string attempt = say(TEXT("CommandLine", "Cannot listen on %1"), {asked.text()});
     ListenAddress address = asked;
     const int descriptor = openSocket(address);
     if (descriptor < 0) {

@@ -3,6 +3,7 @@
 #include "CommandLine/Failure.h"
 #include "CommandLine/Json.h"
 #include "CommandLine/SystemMetrics.h"
+#include "CommandLine/Texts.h"
 #include "CommandLine/Words.h"
 #include "Fleet/MetricsTable.h"
 
@@ -16,6 +17,8 @@ namespace lodestar
 namespace
 {
 
+using Texts::say;
+
 std::string figure(double value)
 {
     return fmt::format("{:.2f}", value);
@@ -23,27 +26,37 @@ std::string figure(double value)
 
 std::string figureAt(const MetricsSummary::Value& value)
 {
-    return figure(value.value) + (value.time ? " at " + Words::clock(*value.time) : "");
+    return value.time
+               ? say(TEXT("lodestar::PerformanceText", "%1 at %2"), {figure(value.value), Words::clock(*value.time)})
+               : figure(value.value);
 }
 
 std::string summaryText(const PerformanceMetrics& metrics, const Terminal& terminal)
 {
     Table table{{"figure", "lowest", "mean", "highest", "last"}, {}};
     for (const MetricsSegment segment : {MetricsSegment::Processors, MetricsSegment::Memory}) {
-        constexpr std::array names = {"total", "allocated", "used"};
-        const std::string unit = segment == MetricsSegment::Memory ? " memory, GB" : " processors";
+        constexpr std::array processors = {TEXT("CommandLine", "total processors"),
+                                           TEXT("CommandLine", "allocated processors"),
+                                           TEXT("CommandLine", "used processors")};
+        constexpr std::array memory = {TEXT("CommandLine", "total memory, GB"),
+                                       TEXT("CommandLine", "allocated memory, GB"),
+                                       TEXT("CommandLine", "used memory, GB")};
+        const auto& names = segment == MetricsSegment::Memory ? memory : processors;
         for (std::size_t i = 0; i < names.size(); ++i) {
             if (const auto summary = summaryOf(metrics.of(segment), metricsSeries.at(i))) {
-                table.rows.push_back({names.at(i) + unit, figureAt(summary->lowest), figure(summary->mean),
+                table.rows.push_back({say(names.at(i)), figureAt(summary->lowest), figure(summary->mean),
                                       figureAt(summary->highest), figureAt(summary->last)});
             }
         }
     }
-    std::string text = table.rows.empty() ? std::string("No sample had values.\n") : tableText(table, terminal);
+    std::string text =
+        table.rows.empty() ? say(TEXT("CommandLine", "No sample had values.")) + "\n" : tableText(table, terminal);
     if (const std::size_t without = metrics.processors.withoutValues; without > 0) {
-        text += "\n" + sentenceText(Words::count(without, "sample had no values and is left out",
-                                                 "samples had no values and are left out"),
-                                    terminal);
+        text +=
+            "\n" +
+            sentenceText(
+                Texts::count(TEXTS("lodestar::PerformanceText", "%Ln samples had no values and are left out"), without),
+                terminal);
     }
     return text;
 }
@@ -79,8 +92,8 @@ Result<Verdict> showMetrics(CommandContext& context)
     }
     const Result<PerformanceMetrics>& answer = answers.value().front();
     if (!answer) {
-        return failure("The metrics of " + system.value().name + " cannot be had: " + Words::reason(answer.error()) +
-                       ".");
+        return failure(say(TEXT("CommandLine", "The metrics of %1 cannot be had: %2."),
+                           {system.value().name, Words::reason(answer.error())}));
     }
     const PerformanceMetrics& metrics = answer.value();
     if (context.arguments.has("--json")) {

@@ -3,11 +3,10 @@
 #include "CommandLine/Failure.h"
 #include "CommandLine/Json.h"
 #include "CommandLine/ObjectKind.h"
+#include "CommandLine/Texts.h"
 #include "CommandLine/Words.h"
 #include "Fleet/EventTable.h"
 #include "Fleet/FleetEvents.h"
-
-#include <fmt/format.h>
 
 #include <algorithm>
 #include <array>
@@ -19,24 +18,36 @@ namespace lodestar
 namespace
 {
 
+/// Which of them a choice was made of.
+enum class Chosen { All, Open, Such };
+
+/// "No open events.", or as far as is known.
+std::string noneText(Chosen chosen, bool isKnown, std::string_view type)
+{
+    constexpr std::array texts = {
+        TEXT("CommandLine", "No %1."),      TEXT("CommandLine", "No known %1."),
+        TEXT("CommandLine", "No open %1."), TEXT("CommandLine", "No known open %1."),
+        TEXT("CommandLine", "No such %1."), TEXT("CommandLine", "No known such %1."),
+    };
+    return Texts::say(texts.at(static_cast<std::size_t>(chosen) * 2 + (isKnown ? 0 : 1)), {Words::feed(type)});
+}
+
 /// On a terminal a sentence; elsewhere, where the next program takes it for a row, the titles.
 std::string emptyText(const CommandContext& context, const FleetPicture& picture, const Table& table,
-                      const ObjectKind& kind, std::string_view such)
+                      const ObjectKind& kind, Chosen chosen)
 {
     const Terminal& terminal = context.output.terminal();
     if (!terminal.isTerminal) {
         return titlesText(context.arguments.has("--all") ? table : columnsOf(table, kind.usualTitles), terminal);
     }
     if (picture.consoles.empty()) {
-        return sentenceText("No consoles yet.", terminal);
+        return sentenceText(Texts::say(TEXT("CommandLine", "No consoles yet.")), terminal);
     }
-    const std::string_view no = picture.hasAll(kind.type) ? "No" : "No known";
-    return sentenceText(fmt::format("{} {}{}.", no, such, Words::feed(kind.type)), terminal);
+    return sentenceText(noneText(chosen, picture.hasAll(kind.type), kind.type), terminal);
 }
 
-/// `such` tells of which of them a choice was made: "open ".
 Result<Verdict> say(CommandContext& context, std::string_view command, const FleetPicture& picture, const Table& table,
-                    const ObjectKind& kind, std::string_view such = {})
+                    const ObjectKind& kind, Chosen chosen = Chosen::All)
 {
     const Terminal& terminal = context.output.terminal();
     if (context.arguments.has("--json")) {
@@ -47,7 +58,7 @@ Result<Verdict> say(CommandContext& context, std::string_view command, const Fle
     } else if (context.arguments.has("--csv")) {
         context.output.writeCsv(table);
     } else if (table.rows.empty()) {
-        context.output.write(emptyText(context, picture, table, kind, such));
+        context.output.write(emptyText(context, picture, table, kind, chosen));
     } else {
         const bool all = context.arguments.has("--all");
         context.output.write(all ? tableText(table, terminal, &inkOfState)
@@ -71,7 +82,7 @@ Result<EventChoice> choiceOf(const Arguments& arguments)
     const std::string name = arguments.value("--order").value_or("newest");
     const auto* const order = std::ranges::find(orders, name, &OrderName::name);
     if (order == orders.end()) {
-        return misuse("--order takes sent, newest, status or code, not " + name + ".");
+        return misuse(Texts::say(TEXT("CommandLine", "--order takes sent, newest, status or code, not %1."), {name}));
     }
     choice.order = order->order;
     choice.openOnly = arguments.has("--open");
@@ -108,7 +119,8 @@ Result<Verdict> showObject(CommandContext& context)
     const std::vector<std::size_t> found = rowsCalled(*kind, table, context.arguments.operands[1]);
     if (found.empty()) {
         complainOfGaps(picture.value());
-        return failure("Nothing of that kind is called " + context.arguments.operands[1] + ".");
+        return failure(
+            Texts::say(TEXT("CommandLine", "Nothing of that kind is called %1."), {context.arguments.operands[1]}));
     }
     Table chosen{table.titles, {}};
     for (const std::size_t row : found) {
@@ -147,9 +159,9 @@ Result<Verdict> listEvents(CommandContext& context)
         shown.insert(shown.end(), group.events.begin(), group.events.end());
     }
     return say(context, "events", picture.value(), tableOfEvents(events, shown), *objectKindOf("events"),
-               choice.value().callHomeOnly ? "such "
-               : choice.value().openOnly   ? "open "
-                                           : "");
+               choice.value().callHomeOnly ? Chosen::Such
+               : choice.value().openOnly   ? Chosen::Open
+                                           : Chosen::All);
 }
 
 } // namespace lodestar

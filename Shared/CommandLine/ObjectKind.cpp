@@ -2,6 +2,7 @@
 #include "CommandLine/ObjectKind.h"
 
 #include "CommandLine/TableText.h"
+#include "CommandLine/Texts.h"
 #include "Fleet/ObjectTable.h"
 
 #include <algorithm>
@@ -58,7 +59,10 @@ const ObjectKind* objectKindOf(std::string_view word)
 
 std::string noSuchKind(const std::string& word)
 {
-    return "There is no kind " + word + ": consoles, systems, io-servers, partitions, events or groups.";
+    //: The kinds are words of the command, which stay as they are
+    return Texts::say(
+        TEXT("CommandLine", "There is no kind %1: consoles, systems, io-servers, partitions, events or groups."),
+        {word});
 }
 
 Table tableOf(const ObjectKind& kind, const std::vector<ConsoleSnapshot>& consoles)

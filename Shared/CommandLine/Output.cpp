@@ -3,6 +3,7 @@
 
 #include "CommandLine/Failure.h"
 #include "CommandLine/PlainText.h"
+#include "CommandLine/Texts.h"
 #include "Platform/PrivateFile.h"
 
 #include <cerrno>
@@ -45,7 +46,8 @@ void Output::write(std::string_view text)
         return;
     }
     const int error = errno;
-    m_result = error == EPIPE ? failure({}, commandOutputClosed) : fileError("The output cannot be written", error);
+    m_result = error == EPIPE ? failure({}, commandOutputClosed)
+                              : fileError(Texts::say(TEXT("CommandLine", "The output cannot be written")), error);
 }
 
 void Output::writeCsv(const Table& table)

@@ -4,6 +4,7 @@
 #include "CommandLine/Failure.h"
 #include "CommandLine/Loop.h"
 #include "CommandLine/PlainText.h"
+#include "CommandLine/Texts.h"
 #include "Platform/PrivateFile.h"
 
 #include <cerrno>
@@ -16,6 +17,8 @@ namespace lodestar
 {
 namespace
 {
+
+using Texts::say;
 
 constexpr std::size_t longest = 4096;
 
@@ -32,7 +35,7 @@ Result<std::string> readLine(int descriptor)
             return interrupted();
         }
         if (count < 0) {
-            return fileError("The password cannot be read", errno);
+            return fileError(say(TEXT("CommandLine", "The password cannot be read")), errno);
         }
         if (count == 0 || letter == '\n') {
             break;
@@ -42,7 +45,8 @@ Result<std::string> readLine(int descriptor)
     if (line.ends_with('\r')) {
         line.pop_back();
     }
-    return line.empty() ? Result<std::string>(failure("There is no password.")) : Result<std::string>(std::move(line));
+    return line.empty() ? Result<std::string>(failure(say(TEXT("CommandLine", "There is no password."))))
+                        : Result<std::string>(std::move(line));
 }
 
 /// A terminal that does not show what is typed, as long as this lives.
@@ -93,8 +97,9 @@ Result<std::string> Passwords::next(const std::string& words) const
     }
     const SilentTerminal terminal;
     return terminal.isSilent() ? terminal.ask(words)
-                               : Result<std::string>(failure("There is no terminal to ask for the password. Give "
-                                                             "--password-fd N to read it from descriptor N."));
+                               : Result<std::string>(failure(
+                                     say(TEXT("CommandLine", "There is no terminal to ask for the password. Give "
+                                                             "--password-fd N to read it from descriptor N."))));
 }
 
 } // namespace lodestar

@@ -8,6 +8,7 @@
 #include "CommandLine/BundledResources.h"
 #include "CommandLine/Failure.h"
 #include "CommandLine/Terminal.h"
+#include "CommandLine/Texts.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/LogWriter.h"
 #include "Feedback/VireoLogger.h"
@@ -29,20 +30,25 @@ namespace lodestar
 namespace
 {
 
+using Texts::say;
+
 std::optional<Error> objectionTo(FolderClaim claim, const std::string& folder)
 {
     switch (claim) {
     case FolderClaim::Ours:
         return std::nullopt;
     case FolderClaim::Taken:
-        return failure("Lodestar is open, or another command is at work, in " + folder +
-                       ". Close it, or name another folder with --data.");
+        return failure(
+            say(TEXT("CommandLine", "Lodestar is open, or another command is at work, in %1. Close it, or name "
+                                    "another folder with --data."),
+                {folder}));
     case FolderClaim::Foreign:
-        return failure("Lodestar keeps nothing in a folder of another user: " + folder);
+        return failure(say(TEXT("CommandLine", "Lodestar keeps nothing in a folder of another user: %1"), {folder}));
     case FolderClaim::NoLock:
         break;
     }
-    return failure("Lodestar cannot lock its folder: Lodestar.lock in " + folder + " is no file of yours.");
+    return failure(say(TEXT("CommandLine", "Lodestar cannot lock its folder: Lodestar.lock in %1 is no file of yours."),
+                       {folder}));
 }
 
 /// The error with its causes, in words for a person.
@@ -62,15 +68,15 @@ ino_t damagedHistoryIn(const std::string& folder)
 }
 
 /// The store needs room even for reading, and says of a disk without it only that it failed. Empty when it has room.
-std::string_view diskTrouble(const std::string& folder)
+std::string diskTrouble(const std::string& folder)
 {
     if (::access(folder.c_str(), W_OK) != 0 && errno == EROFS) {
-        return "The disk can only be read.";
+        return say(TEXT("CommandLine", "The disk can only be read."));
     }
     constexpr std::uintmax_t needed = std::uintmax_t{64} << 10;
     std::error_code error;
     const std::filesystem::space_info space = std::filesystem::space(folder, error);
-    return !error && space.available < needed ? "The disk is full." : "";
+    return !error && space.available < needed ? say(TEXT("CommandLine", "The disk is full.")) : std::string();
 }
 
 } // namespace
@@ -79,10 +85,10 @@ Result<std::unique_ptr<Session>> Session::open(const std::string& asked)
 {
     const std::string folder = asked.empty() ? DataFolder::standard() : std::filesystem::absolute(asked).string();
     if (folder.empty()) {
-        return failure("There is no home folder. Name a data folder with --data.");
+        return failure(say(TEXT("CommandLine", "There is no home folder. Name a data folder with --data.")));
     }
     if (const Result<void> made = makePrivateFolder(folder); !made) {
-        return failure("There is no data folder. " + causesOf(made.error()));
+        return failure(say(TEXT("CommandLine", "There is no data folder. %1"), {causesOf(made.error())}));
     }
     if (auto objection = objectionTo(DataFolder::claim(folder), folder)) {
         return *std::move(objection);
@@ -91,14 +97,15 @@ Result<std::unique_ptr<Session>> Session::open(const std::string& asked)
     VireoLogger::openLogFolder(DataFolder::logs(folder));
     UserDefaults::install(std::make_unique<FileUserDefaults>(DataFolder::defaults(folder)));
     if (UserDefaults::standard().boolForKey(Setting::resetUnderWay)) {
-        return failure("A reset of Lodestar was cut short. Open Lodestar once to finish it.");
+        return failure(say(TEXT("CommandLine", "A reset of Lodestar was cut short. Open Lodestar once to finish it.")));
     }
     Resources::install(std::make_unique<BundledResources>());
     StoreStack::shared().setApplicationDocumentsDirectory(DataFolder::documents(folder));
     if (const Result<void> opened = StoreStack::shared().open(); !opened) {
-        const std::string_view trouble = diskTrouble(folder);
-        return failure("The consoles in " + folder + " cannot be read. " +
-                       (trouble.empty() ? causesOf(opened.error()) : std::string(trouble)));
+        const std::string trouble = diskTrouble(folder);
+        //: %1 a folder, %2 a sentence that tells why
+        return failure(say(TEXT("CommandLine", "The consoles in %1 cannot be read. %2"),
+                           {folder, trouble.empty() ? causesOf(opened.error()) : trouble}));
     }
     std::unique_ptr<Session> session(new Session(DataFolder::documents(folder)));
     openHistory(DataFolder::documents(folder));
@@ -126,7 +133,7 @@ Result<std::vector<CorvelRef>> Session::consoles(const std::vector<std::string>&
     };
     for (const std::string& name : named) {
         if (std::ranges::none_of(all, [&](const CorvelRef& corvel) { return isCalled(corvel, name); })) {
-            return failure("No console is called " + name + ".");
+            return failure(say(TEXT("CommandLine", "No console is called %1."), {name}));
         }
     }
     std::vector<CorvelRef> chosen = all;
@@ -153,15 +160,17 @@ void Session::tellOfDamage()
 {
     const ino_t before = std::exchange(m_damagedFile, damagedHistoryIn(m_folder));
     if (m_damagedFile != 0 && m_damagedFile != before) {
-        complain("The history was damaged. It was set aside as " + m_folder + "/" +
-                 std::string(HistoryFile::damagedName) + ", and a new one was begun. Earlier changes are missing.");
+        complain(say(TEXT("CommandLine", "The history was damaged. It was set aside as %1, and a new one was begun. "
+                                         "Earlier changes are missing."),
+                     {m_folder + "/" + std::string(HistoryFile::damagedName)}));
     }
 }
 
 Result<void> Session::save()
 {
     const Result<void> saved = StoreStack::shared().managedObjectContext().save();
-    return saved ? Result<void>() : failure("Nothing was stored. " + causesOf(saved.error()));
+    return saved ? Result<void>()
+                 : failure(say(TEXT("CommandLine", "Nothing was stored. %1"), {causesOf(saved.error())}));
 }
 
 std::string calledName(const Corvel& corvel)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CommandLine/Commands.h"
 #include "CommandLine/Json.h"
+#include "CommandLine/Texts.h"
 #include "CommandLine/Words.h"
 #include "Fleet/ObjectTable.h"
 #include "Fleet/TableCells.h"
@@ -15,7 +16,13 @@ namespace lodestar
 namespace
 {
 
-constexpr std::string_view noConsoles = "No consoles yet. Add one with: lodestar-cli consoles add ADDRESS --user USER";
+using Texts::say;
+
+std::string noConsoles()
+{
+    return say(TEXT("CommandLine", "No consoles yet. Add one with: %1"),
+               {"lodestar-cli consoles add ADDRESS --user USER"});
+}
 
 /// What a console's row says behind its numbers.
 std::string noteOf(const ConsoleSnapshot& console, WallTime now)
@@ -23,7 +30,7 @@ std::string noteOf(const ConsoleSnapshot& console, WallTime now)
     const Reading& reading = *console.reading;
     switch (reading.outcome) {
     case Reading::Outcome::NotTried:
-        return "left out, its certificate changed";
+        return say(TEXT("CommandLine", "left out, its certificate changed"));
     case Reading::Outcome::Complete:
         return {};
     case Reading::Outcome::Partial:
@@ -31,14 +38,18 @@ std::string noteOf(const ConsoleSnapshot& console, WallTime now)
     case Reading::Outcome::Offline:
         break;
     }
-    const std::string since = reading.offlineSince ? " since " + Words::moment(*reading.offlineSince, now) : "";
-    return "offline" + since + (reading.error ? ", " + Words::reason(*reading.error) : std::string());
+    const std::string offline =
+        reading.offlineSince
+            //: %1 as in "09:41", "yesterday 21:40" or "3 Mar"
+            ? say(TEXT("CommandLine", "offline since %1"), {Words::moment(*reading.offlineSince, now)})
+            : say(TEXT("CommandLine", "offline"));
+    return reading.error ? offline + ", " + Words::reason(*reading.error) : offline;
 }
 
 std::string statusText(const FleetPicture& picture, const Terminal& terminal)
 {
     if (picture.consoles.empty()) {
-        return sentenceText(noConsoles, terminal);
+        return sentenceText(noConsoles(), terminal);
     }
     std::string text =
         sentenceText(Words::summary(picture.findings), terminal) + sentenceText(picture.completeness(), terminal);
@@ -81,18 +92,20 @@ Json::Value statusJson(const FleetPicture& picture)
 
 std::string bandText(const Finding& finding)
 {
-    return std::string(Words::band(bandOf(finding.rank)));
+    return Words::band(bandOf(finding.rank));
 }
 
 /// An event is called by its text.
 std::string attentionText(const FleetPicture& picture, const Terminal& terminal)
 {
     if (picture.consoles.empty()) {
-        return sentenceText(noConsoles, terminal);
+        return sentenceText(noConsoles(), terminal);
     }
     const bool nothing = picture.findings.list.empty();
-    const std::string_view calm = picture.isComplete() ? "Nothing needs attention" : "Nothing known needs attention";
-    std::string text = sentenceText(nothing ? std::string(calm) : Words::summary(picture.findings), terminal) +
+    const std::string calm = picture.isComplete()
+                                 ? say(TEXT("lodestar::AttentionNowController", "Nothing needs attention"))
+                                 : say(TEXT("lodestar::AttentionNowController", "Nothing known needs attention"));
+    std::string text = sentenceText(nothing ? calm : Words::summary(picture.findings), terminal) +
                        sentenceText(picture.completeness(), terminal);
     if (picture.findings.beforeOffline > 0) {
         text += sentenceText(Words::beforeOffline(picture.findings.beforeOffline), terminal);

@@ -4,6 +4,7 @@
 #include "CommandLine/Failure.h"
 #include "CommandLine/ObjectKind.h"
 #include "CommandLine/TableText.h"
+#include "CommandLine/Texts.h"
 #include "Controllers/REST/RESTHandler.h"
 
 #include <memory>
@@ -14,6 +15,8 @@ namespace lodestar
 {
 namespace
 {
+
+using Texts::say;
 
 /// Reduced at once: the document takes ten times the room of its text.
 PerformanceMetrics reduced(const MetricsDocument& document)
@@ -32,8 +35,10 @@ Result<ChosenSystem> systemCalled(const FleetPicture& picture, const std::string
         const Table table = tableOf(kind, {console});
         for (const std::size_t row : rowsCalled(kind, table, name)) {
             if (chosen) {
-                return failure("Several systems are called " + name +
-                               ". Name one by its identifier, or its console with --console.");
+                return failure(say(
+                    TEXT("CommandLine",
+                         "Several systems are called %1. Name one by its identifier, or its console with --console."),
+                    {name}));
             }
             const auto cell = [&](std::string_view title) {
                 return std::string(cellOf(table, table.rows[row], title));
@@ -41,7 +46,8 @@ Result<ChosenSystem> systemCalled(const FleetPicture& picture, const std::string
             chosen = {console.corvel, cell("name"), cell("id"), calledName(*console.corvel)};
         }
     }
-    return chosen ? Result<ChosenSystem>(*chosen) : Result<ChosenSystem>(failure("No system is called " + name + "."));
+    return chosen ? Result<ChosenSystem>(*chosen)
+                  : Result<ChosenSystem>(failure(say(TEXT("CommandLine", "No system is called %1."), {name})));
 }
 
 Result<std::vector<Result<PerformanceMetrics>>> fetchMetrics(Session& session, const std::vector<ChosenSystem>& systems)

@@ -3,6 +3,7 @@
 #include "CommandLine/Failure.h"
 #include "CommandLine/Json.h"
 #include "CommandLine/PlainText.h"
+#include "CommandLine/Texts.h"
 #include "CommandLine/Words.h"
 #include "Fleet/History.h"
 #include "Fleet/WatchSettingName.h"
@@ -17,6 +18,8 @@ namespace lodestar
 {
 namespace
 {
+
+using Texts::say;
 
 /// What a person asked for; what was not said is as the store's Watch has it.
 struct Plan {
@@ -45,17 +48,23 @@ Result<Plan> planOf(const Arguments& arguments)
     }
     plan.times = times.value();
     if (plan.times == 0) {
-        return misuse("--times takes a number from 1 on.");
+        return misuse(say(TEXT("CommandLine", "--times takes a number from 1 on.")));
     }
     if (arguments.has("--csv")) {
-        return misuse("watch writes lines of text, or of JSON with --json.");
+        return misuse(say(TEXT("CommandLine", "watch writes lines of text, or of JSON with --json.")));
     }
     return plan;
 }
 
-std::string_view wordOf(ChangeSense sense)
+/// As wide as the wider of the two words, so that what follows stands in a column.
+std::string wordOf(ChangeSense sense)
 {
-    return sense == ChangeSense::Worse ? "worse  " : sense == ChangeSense::Better ? "better " : "       ";
+    const std::string worse = say(TEXT("lodestar::ChangeText", "worse"));
+    const std::string better = say(TEXT("lodestar::ChangeText", "better"));
+    const std::string word = sense == ChangeSense::Worse    ? worse
+                             : sense == ChangeSense::Better ? better
+                                                            : std::string();
+    return word + std::string(std::max(columnsOf(worse), columnsOf(better)) - columnsOf(word) + 1, ' ');
 }
 
 std::string lineOf(const Change& change, const Terminal& terminal)
@@ -85,7 +94,7 @@ public:
             return picture.error();
         }
         if (picture.value().consoles.empty()) {
-            return failure("There are no consoles to watch.");
+            return failure(say(TEXT("CommandLine", "There are no consoles to watch.")));
         }
         const auto changes = std::make_shared<std::optional<std::vector<Change>>>();
         m_surroundings->endCollecting([changes](std::vector<Change> all) { *changes = std::move(all); });

@@ -1,13 +1,13 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CommandLine/Words.h"
 
+#include "CommandLine/Texts.h"
 #include "Fleet/ChangeDays.h"
 #include "Inventory/Feed.h"
 
-#include <fmt/format.h>
-
 #include <algorithm>
 #include <array>
+#include <cstdint>
 #include <ctime>
 
 namespace lodestar
@@ -15,18 +15,21 @@ namespace lodestar
 namespace
 {
 
+using Texts::say;
+
 struct FeedName {
     std::string_view type;
-    std::string_view within;
-    std::string_view atStart;
+    Text within;
+    Text atStart;
 };
 constexpr std::array<FeedName, feedTable.size()> feedNames = {{
-    {ObjectType::ManagementConsole, "console details", "Console details"},
-    {ObjectType::ManagedSystem, "systems", "Systems"},
-    {ObjectType::VirtualIOServer, "IO servers", "IO servers"},
-    {ObjectType::LogicalPartition, "partitions", "Partitions"},
-    {ObjectType::ServiceableEvent, "events", "Events"},
-    {ObjectType::Group, "resource groups", "Resource groups"},
+    {ObjectType::ManagementConsole, TEXT("lodestar::FeedName", "console details"),
+     TEXT("lodestar::FeedName", "Console details")},
+    {ObjectType::ManagedSystem, TEXT("lodestar::FeedName", "systems"), TEXT("lodestar::FeedName", "Systems")},
+    {ObjectType::VirtualIOServer, TEXT("lodestar::FeedName", "IO servers"), TEXT("lodestar::FeedName", "IO servers")},
+    {ObjectType::LogicalPartition, TEXT("lodestar::FeedName", "partitions"), TEXT("lodestar::FeedName", "Partitions")},
+    {ObjectType::ServiceableEvent, TEXT("lodestar::FeedName", "events"), TEXT("lodestar::FeedName", "Events")},
+    {ObjectType::Group, TEXT("lodestar::FeedName", "resource groups"), TEXT("lodestar::FeedName", "Resource groups")},
 }};
 
 const FeedName* nameOf(std::string_view type)
@@ -47,15 +50,18 @@ std::string joined(std::initializer_list<std::string> parts)
 
 std::string ofSystem(const Finding& finding)
 {
-    return finding.isIncomplete() ? "System incomplete" : "System in error";
+    return finding.isIncomplete() ? say(TEXT("lodestar::FindingText", "System incomplete"))
+                                  : say(TEXT("lodestar::FindingText", "System in error"));
 }
 
 std::string ofEvent(const Finding& event)
 {
     // Further reports, and the first one.
     return joined({event.eventNumber.empty() ? std::string() : "#" + event.eventNumber, event.referenceCode,
-                   event.callsHome ? "call home" : "",
-                   event.duplicates > 0 ? fmt::format("{} times", event.duplicates + 1) : ""});
+                   event.callsHome ? say(TEXT("lodestar::FindingText", "call home")) : "",
+                   event.duplicates > 0 ? Texts::count(TEXTS("lodestar::FindingText", "%Ln times"),
+                                                       static_cast<std::size_t>(event.duplicates) + 1)
+                                        : ""});
 }
 
 std::string stopped(const Finding& finding, WallTime now)
@@ -64,8 +70,9 @@ std::string stopped(const Finding& finding, WallTime now)
                               : now - *finding.ranUntil < std::chrono::hours(24)
                                   ? Words::clock(*finding.ranUntil)
                                   : Words::moment(*finding.ranUntil, now);
-    return fmt::format("{} stopped, ran until {}",
-                       finding.subject == FindingSubject::IOServer ? "IO server" : "Partition", until);
+    return finding.subject == FindingSubject::IOServer
+               ? say(TEXT("lodestar::FindingText", "IO server stopped, ran until %1"), {until})
+               : say(TEXT("lodestar::FindingText", "Partition stopped, ran until %1"), {until});
 }
 
 std::tm localTime(WallTime time)
@@ -92,61 +99,62 @@ std::chrono::sys_days dayOf(const std::tm& time)
 
 } // namespace
 
-std::string Words::count(std::size_t number, std::string_view one, std::string_view several)
-{
-    return fmt::format("{} {}", number, number == 1 ? one : several);
-}
-
 std::string Words::summary(const Findings& findings)
 {
     return joined(
-        {findings.needAttention == 0 ? std::string("No faults")
-                                     : count(findings.needAttention, "thing needs attention", "things need attention"),
-         findings.openEvents == 0 ? std::string() : count(findings.openEvents, "event is open", "events are open")});
+        {findings.needAttention == 0
+             ? say(TEXT("lodestar::FindingText", "No faults"))
+             : Texts::count(TEXTS("lodestar::FindingText", "%Ln things need attention"), findings.needAttention),
+         findings.openEvents == 0
+             ? std::string()
+             : Texts::count(TEXTS("lodestar::FindingText", "%Ln events are open"), findings.openEvents)});
 }
 
 std::string Words::beforeOffline(std::size_t number)
 {
-    return number == 0 ? std::string()
-                       : count(number, "thing needed attention there before.", "things needed attention there before.");
+    return number == 0
+               ? std::string()
+               : Texts::count(TEXTS("lodestar::FindingText", "%Ln things needed attention there before."), number);
 }
 
-std::string_view Words::band(FindingBand band)
+std::string Words::band(FindingBand band)
 {
     switch (band) {
     case FindingBand::Errors:
-        return "Errors";
+        return say(TEXT("lodestar::FindingText", "Errors"));
     case FindingBand::NotAnswering:
-        return "Not answering";
+        return say(TEXT("lodestar::FindingText", "Not answering"));
     case FindingBand::Warnings:
-        return "Warnings";
+        return say(TEXT("lodestar::FindingText", "Warnings"));
     case FindingBand::OpenEvents:
         break;
     }
-    return "Open events";
+    return say(TEXT("lodestar::FindingText", "Open events"));
 }
 
 std::string Words::sentence(const Finding& finding, WallTime now)
 {
     switch (finding.rank) {
     case FindingRank::SystemErrorLit:
-        return joined({ofSystem(finding), "LED on"});
+        return joined({ofSystem(finding), say(TEXT("lodestar::FindingText", "LED on"))});
     case FindingRank::SystemError:
         return joined({ofSystem(finding), finding.referenceCode});
     case FindingRank::IOServerError:
-        return joined({"IO server in error", finding.referenceCode});
+        return joined({say(TEXT("lodestar::FindingText", "IO server in error")), finding.referenceCode});
     case FindingRank::PartitionError:
-        return joined({"Partition in error", finding.referenceCode});
+        return joined({say(TEXT("lodestar::FindingText", "Partition in error")), finding.referenceCode});
     case FindingRank::ConsoleOffline:
-        return joined({"Offline", finding.error ? reason(*finding.error) : std::string()});
+        return finding.error ? say(TEXT("lodestar::FindingText", "Offline, %1"), {reason(*finding.error)})
+                             : say(TEXT("lodestar::FindingText", "Offline"));
     case FindingRank::FeedsMissing:
         return feedsNotRead(finding.missing);
     case FindingRank::Stopped:
         return stopped(finding, now);
     case FindingRank::LEDLit:
-        return "LED on, system " + finding.state;
+        return say(TEXT("lodestar::FindingText", "LED on, system %1"), {finding.state});
     case FindingRank::GroupError:
-        return fmt::format("{} of {} resources in error", finding.membersInError, finding.members);
+        return Texts::count(TEXTS("lodestar::FindingText", "%1 of %Ln resources in error"), finding.members,
+                            {std::to_string(finding.membersInError)});
     case FindingRank::OpenEvent:
         break;
     }
@@ -157,47 +165,53 @@ std::string Words::reason(const Error& error)
 {
     switch (reasonOf(error)) {
     case ReadingReason::TimedOut:
-        return "nothing within 10 s";
+        return say(TEXT("lodestar::ReasonText", "nothing within 10 s"));
     case ReadingReason::NameNotFound:
-        return "name not found";
+        return say(TEXT("lodestar::ReasonText", "name not found"));
     case ReadingReason::ConnectionRefused:
-        return "connection refused";
+        return say(TEXT("lodestar::ReasonText", "connection refused"));
     case ReadingReason::ConnectionLost:
-        return "connection broke off";
+        return say(TEXT("lodestar::ReasonText", "connection broke off"));
     case ReadingReason::TooManyRedirects:
-        return "redirected too often";
+        return say(TEXT("lodestar::ReasonText", "redirected too often"));
     case ReadingReason::NotUnderstood:
-        return "answer not understood";
+        return say(TEXT("lodestar::ReasonText", "answer not understood"));
     case ReadingReason::TooLarge:
-        return "answer too large";
+        return say(TEXT("lodestar::ReasonText", "answer too large"));
     case ReadingReason::NoSecureConnection:
-        return "no secure connection";
+        return say(TEXT("lodestar::ReasonText", "no secure connection"));
     case ReadingReason::CertificateChanged:
-        return "its certificate changed";
+        return say(TEXT("lodestar::ReasonText", "its certificate changed"));
     case ReadingReason::WrongCredentials:
-        return "wrong user or password";
+        return say(TEXT("lodestar::ReasonText", "wrong user or password"));
     case ReadingReason::ServerError:
-        return fmt::format("the console failed to answer ({})", statusOf(error));
+        return say(TEXT("lodestar::ReasonText", "the console failed to answer (%1)"),
+                   {std::to_string(statusOf(error))});
     case ReadingReason::OtherStatus:
-        return fmt::format("answered {}", statusOf(error));
+        return say(TEXT("lodestar::ReasonText", "answered %1"), {std::to_string(statusOf(error))});
     case ReadingReason::NoSessionKey:
-        return "no session key";
+        return say(TEXT("lodestar::ReasonText", "no session key"));
     case ReadingReason::Unknown:
         break;
     }
-    return shownDescription(error);
+    return errorText(error);
 }
 
-std::string_view Words::feed(std::string_view type)
+std::string Words::errorText(const Error& error)
 {
-    const FeedName* const name = nameOf(type);
-    return name != nullptr ? name->within : std::string_view();
+    return say({"ErrorWords", shownDescription(error)});
 }
 
-std::string_view Words::feedAtStart(std::string_view type)
+std::string Words::feed(std::string_view type)
 {
     const FeedName* const name = nameOf(type);
-    return name != nullptr ? name->atStart : std::string_view();
+    return name != nullptr ? say(name->within) : std::string();
+}
+
+std::string Words::feedAtStart(std::string_view type)
+{
+    const FeedName* const name = nameOf(type);
+    return name != nullptr ? say(name->atStart) : std::string();
 }
 
 std::string Words::feedsNotRead(const std::vector<std::string_view>& types)
@@ -206,24 +220,30 @@ std::string Words::feedsNotRead(const std::vector<std::string_view>& types)
     case 0:
         return {};
     case 1:
-        return fmt::format("{} not read", feedAtStart(types[0]));
+        return say(TEXT("lodestar::FeedName", "%1 not read"), {feedAtStart(types[0])});
     case 2:
-        return fmt::format("{} and {} not read", feedAtStart(types[0]),
-                           types[1] == ObjectType::Group ? "groups" : feed(types[1]));
+        return say(TEXT("lodestar::FeedName", "%1 and %2 not read"),
+                   {feedAtStart(types[0]),
+                    types[1] == ObjectType::Group ? say(TEXT("lodestar::FeedName", "groups")) : feed(types[1])});
     case feedTable.size():
-        return "Nothing of it could be read";
+        return say(TEXT("lodestar::FeedName", "Nothing of it could be read"));
     default:
-        return fmt::format("{} of 6 feeds not read", types.size());
+        return feedsNotRead(types.size());
     }
+}
+
+std::string Words::feedsNotRead(std::size_t feeds)
+{
+    return Texts::count(TEXTS("lodestar::FeedName", "%Ln of 6 feeds not read"), feeds);
 }
 
 std::string Words::name(const Change& change)
 {
     switch (change.kind) {
     case ChangeKind::EventOpened:
-        return "#" + change.name + " opened";
+        return say(TEXT("lodestar::ChangeText", "#%1 opened"), {change.name});
     case ChangeKind::EventGone:
-        return "#" + change.name + " gone";
+        return say(TEXT("lodestar::ChangeText", "#%1 gone"), {change.name});
     default:
         break;
     }
@@ -239,42 +259,47 @@ std::string Words::sentence(const Change& change)
     case ChangeKind::State:
         return change.from + " → " + change.to;
     case ChangeKind::LEDOn:
-        return "LED on";
+        return say(TEXT("lodestar::ChangeText", "LED on"));
     case ChangeKind::LEDOff:
-        return "LED off";
+        return say(TEXT("lodestar::ChangeText", "LED off"));
     case ChangeKind::EventOpened:
     case ChangeKind::EventGone:
         return change.to.empty() ? change.from : change.to;
     case ChangeKind::Offline:
-        return "Offline";
+        return say(TEXT("lodestar::ChangeText", "Offline"));
     case ChangeKind::OnlineAgain:
-        return "Online again after " + duration(change.lasted);
+        return say(TEXT("lodestar::ChangeText", "Online again after %1"), {duration(change.lasted)});
     case ChangeKind::FeedMissing:
-        return fmt::format("{} not read", feedAtStart(change.object.type));
+        return say(TEXT("lodestar::ChangeText", "%1 not read"), {feedAtStart(change.object.type)});
     case ChangeKind::FeedReadAgain:
-        return fmt::format("{} read again", feedAtStart(change.object.type));
+        return say(TEXT("lodestar::ChangeText", "%1 read again"), {feedAtStart(change.object.type)});
     case ChangeKind::ObjectNew:
-        return "New";
+        return say(TEXT("lodestar::ChangeText", "New"));
     case ChangeKind::ObjectGone:
-        return "Gone";
+        return say(TEXT("lodestar::ChangeText", "Gone"));
     case ChangeKind::CertificateChanged:
         break;
     }
-    return "Certificate changed";
+    return say(TEXT("lodestar::ChangeText", "Certificate changed"));
 }
 
 std::string Words::duration(std::chrono::seconds lasted)
 {
-    constexpr long hour = 60;
-    constexpr long day = 24 * hour;
-    const long minutes = std::max(1L, static_cast<long>(std::chrono::round<std::chrono::minutes>(lasted).count()));
+    constexpr std::size_t hour = 60;
+    constexpr std::size_t day = 24 * hour;
+    const auto minutes =
+        static_cast<std::size_t>(std::max<std::int64_t>(1, std::chrono::round<std::chrono::minutes>(lasted).count()));
+    const auto inMinutes = [](std::size_t count) {
+        return Texts::count(TEXTS("lodestar::ChangeText", "%Ln min"), count);
+    };
     if (minutes < hour) {
-        return fmt::format("{} min", minutes);
+        return inMinutes(minutes);
     }
     if (minutes >= 2 * day) {
-        return fmt::format("{} days", minutes / day);
+        return Texts::count(TEXTS("lodestar::ChangeText", "%Ln days"), minutes / day);
     }
-    return fmt::format("{} h", minutes / hour) + (minutes % hour == 0 ? "" : fmt::format(" {} min", minutes % hour));
+    const std::string hours = Texts::count(TEXTS("lodestar::ChangeText", "%Ln h"), minutes / hour);
+    return minutes % hour == 0 ? hours : say(TEXT("lodestar::ChangeText", "%1 %2"), {hours, inMinutes(minutes % hour)});
 }
 
 std::string Words::clock(WallTime time)
@@ -295,18 +320,25 @@ std::string Words::moment(WallTime then, WallTime now)
         return clock(then);
     }
     if (days == 1 && !isAhead) {
-        return "yesterday " + clock(then);
+        return say(TEXT("lodestar::AgeText", "%1 %2"), {say(TEXT("lodestar::AgeText", "yesterday")), clock(then)});
     }
     if (days > 1 && days < daysOfWeek) {
-        return formatted(stamp, "%a %H:%M");
+        return say(TEXT("lodestar::AgeText", "%1 %2"), {formatted(stamp, "%a"), clock(then)});
     }
-    const std::string date = std::to_string(stamp.tm_mday) + formatted(stamp, " %b");
-    return stamp.tm_year == today.tm_year && days > 0 && !isAhead ? date : date + formatted(stamp, " %Y");
+    const std::string day = std::to_string(stamp.tm_mday);
+    const std::string month = formatted(stamp, "%b");
+    return stamp.tm_year == today.tm_year && days > 0 && !isAhead
+               //: %1 the day of a month, %2 the short name of the month
+               ? say(TEXT("CommandLine", "%1 %2"), {day, month})
+               //: %1 the day of a month, %2 the short name of the month, %3 a year
+               : say(TEXT("CommandLine", "%1 %2 %3"), {day, month, std::to_string(stamp.tm_year + 1900)});
 }
 
 std::string Words::since(const Since& since, WallTime now)
 {
-    return (since.exact ? "since " : "at least since ") + moment(since.time, now);
+    const std::string time = moment(since.time, now);
+    return since.exact ? say(TEXT("lodestar::AgeText", "since %1"), {time})
+                       : say(TEXT("lodestar::AgeText", "at least since %1"), {time});
 }
 
 } // namespace lodestar

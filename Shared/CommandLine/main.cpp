@@ -1,9 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "CommandLine/Commands.h"
 #include "CommandLine/Failure.h"
+#include "CommandLine/Texts.h"
+#include "CommandLine/Words.h"
 #include "Platform/MemoryReserve.h"
 
 #include <algorithm>
+#include <clocale>
 #include <csignal>
 #include <exception>
 #include <iterator>
@@ -26,10 +29,10 @@ int codeOf(const Error& error)
     const bool isSilent = error.domain == commandLineErrorDomain &&
                           (error.code == commandInterrupted || error.code == commandOutputClosed);
     if (!isSilent) {
-        complain(shownDescription(error));
+        complain(Words::errorText(error));
     }
     if (error.domain == commandLineErrorDomain && error.code == commandMisused) {
-        complain("lodestar-cli --help lists all commands.");
+        complain(Texts::say(TEXT("CommandLine", "lodestar-cli --help lists all commands.")));
     }
     return static_cast<int>(Verdict::Unknown);
 }
@@ -45,8 +48,27 @@ int runCommand(const Arguments& arguments, Output& output)
     return verdict ? static_cast<int>(verdict.value()) : codeOf(verdict.error());
 }
 
+/// What a script reads is the same everywhere, and so is all that is said beside it.
+bool isForScripts(const std::vector<std::string>& words)
+{
+    return std::ranges::count(words, "--json") > 0 || std::ranges::count(words, "--csv") > 0;
+}
+
+/// The names of days and months are the system's, where it has them in this language.
+void speakTheLanguageOfTheEnvironment()
+{
+    const std::string language = Texts::languageOfEnvironment();
+    Texts::speak(language);
+    if (Texts::spokenLanguage() != "en" && std::setlocale(LC_MESSAGES, "") != nullptr) {
+        std::setlocale(LC_TIME, std::setlocale(LC_MESSAGES, nullptr));
+    }
+}
+
 int run(const std::vector<std::string>& words)
 {
+    if (!isForScripts(words)) {
+        speakTheLanguageOfTheEnvironment();
+    }
     const Result<Arguments> arguments = parseArguments(words, syntaxes());
     if (!arguments) {
         return codeOf(arguments.error());

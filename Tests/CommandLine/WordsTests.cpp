@@ -1,5 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "CommandLine/Texts.h"
 #include "CommandLine/Words.h"
+#include "Kit/Core/Languages.h"
 #include "Views/Attention/ChangeText.h"
 #include "Views/Attention/FindingText.h"
 #include "Views/Common/AgeText.h"
@@ -7,6 +9,7 @@
 #include "Views/Common/ReasonText.h"
 
 #include <QLocale>
+#include <QRegularExpression>
 #include <gtest/gtest.h>
 
 #include <vector>
@@ -23,7 +26,24 @@ class WordsTests : public ::testing::Test
 {
 protected:
     WordsTests() { QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedKingdom)); }
-    ~WordsTests() override { QLocale::setDefault(m_before); }
+    ~WordsTests() override
+    {
+        speak("en");
+        QLocale::setDefault(m_before);
+    }
+
+    /// Both at once.
+    static void speak(const QString& language)
+    {
+        Languages::use({language});
+        Texts::speak(language.toStdString());
+    }
+    /// Without the controls that hold names apart from a sentence of another direction.
+    static std::string plain(const QString& text)
+    {
+        static const QRegularExpression controls(QStringLiteral("[\\x{2066}-\\x{2069}]"));
+        return QString(text).remove(controls).toStdString();
+    }
 
     static Error errorOf(std::string_view domain, int code)
     {
@@ -89,19 +109,26 @@ TEST_F(WordsTests, OfFindingsAndReasonsAreThoseOfTheScreens)
         each.callsHome = true;
         each.duplicates = 5;
     });
-    for (std::uint32_t i = 0; i < findings.list.size(); ++i) {
-        EXPECT_EQ(Words::sentence(findings.list[i], now),
-                  FindingText::sentence(findings, FindingRow{{i}}, now).toStdString());
-        EXPECT_EQ(Words::band(bandOf(findings.list[i].rank)),
-                  FindingText::band(bandOf(findings.list[i].rank)).toStdString());
-    }
-    for (const std::size_t count : {0U, 1U, 8U}) {
-        findings.needAttention = findings.openEvents = count;
-        EXPECT_EQ(Words::summary(findings), FindingText::summary(findings).toStdString());
-        EXPECT_EQ(Words::beforeOffline(count), FindingText::beforeOffline(count).toStdString());
-    }
-    for (const Error& error : errors()) {
-        EXPECT_EQ(Words::reason(error), reasonText(error).toStdString());
+    for (const QString& language : Languages::all()) {
+        SCOPED_TRACE(language.toStdString());
+        speak(language);
+        for (std::uint32_t i = 0; i < findings.list.size(); ++i) {
+            // Days older than yesterday are told by the system's names.
+            if (findings.list[i].rank != FindingRank::Stopped) {
+                EXPECT_EQ(Words::sentence(findings.list[i], now),
+                          plain(FindingText::sentence(findings, FindingRow{{i}}, now)));
+            }
+            EXPECT_EQ(Words::band(bandOf(findings.list[i].rank)),
+                      plain(FindingText::band(bandOf(findings.list[i].rank))));
+        }
+        for (const std::size_t count : {0U, 1U, 2U, 8U, 11U, 100U, 103U, 111U}) {
+            findings.needAttention = findings.openEvents = count;
+            EXPECT_EQ(Words::summary(findings), plain(FindingText::summary(findings)));
+            EXPECT_EQ(Words::beforeOffline(count), plain(FindingText::beforeOffline(count)));
+        }
+        for (const Error& error : errors()) {
+            EXPECT_EQ(Words::reason(error), plain(reasonText(error)));
+        }
     }
 }
 

@@ -82,7 +82,7 @@ class Case(unittest.TestCase):
         self.addCleanup(folder.cleanup)
         self.folder = pathlib.Path(folder.name)
         self.data = self.folder / "data"
-        self.environment = {**os.environ, "TZ": "UTC", "TERM": "xterm", "HOME": folder.name}
+        self.environment = {**os.environ, "TZ": "UTC", "TERM": "xterm", "HOME": folder.name, "LC_ALL": "C.UTF-8"}
         self.environment.pop("NO_COLOR", None)
 
     def arguments(self, *words):
@@ -384,6 +384,30 @@ class Ending(Case):
         self.data = self.folder / "file"
         self.data.write_text("")
         self.assertIn("There is no data folder.", self.expect(UNKNOWN, "consoles").stderr)
+
+
+class Speaking(Case):
+    count = 1
+
+    def test_a_person_is_told_in_their_language_and_a_script_in_its_own(self):
+        self.register()
+        self.consoles.calm(0)
+        self.consoles.feed(0, "ManagedSystem", system("error", lit=True))
+        english = self.expect(ERRORS, "status").stdout
+        scripts = [self.csv(ERRORS, "attention"), self.json(ERRORS, "attention")["findings"]]
+        self.environment.pop("LC_ALL")
+        told = {}
+        for locale in ("de_DE.UTF-8", "fr_FR.UTF-8", "es_ES.UTF-8", "ja_JP.UTF-8", "ar_EG.UTF-8", "pt_BR.UTF-8", "C"):
+            # A locale need not be installed for its language to be spoken.
+            self.environment["LANG"] = locale
+            told[locale] = self.expect(ERRORS, "status").stdout
+            self.assertIn("Harbour 0", told[locale])
+            self.assertEqual([self.csv(ERRORS, "attention"), self.json(ERRORS, "attention")["findings"]], scripts)
+        self.assertEqual((told.pop("C"), told.pop("pt_BR.UTF-8")), (english, english))
+        self.assertEqual(len({english, *told.values()}), 6)
+        self.environment["LC_MESSAGES"] = "de_AT"
+        self.assertEqual(self.expect(ERRORS, "status").stdout, told["de_DE.UTF-8"])
+        self.assertRegex(self.run_cli("status", "--frob").stderr, "(?s)^lodestar-cli: .*--frob.*\nlodestar-cli: .*--help")
 
 
 class Watching(Case):
