@@ -165,8 +165,9 @@ int main(int argc, char** argv)
         place = std::make_unique<WindowPlace>(*window);
         window->show();
     }
-    DesktopSettings desktop([](bool reduced) { Appearance::shared().setSystemReducedMotion(reduced); },
-                            [](double scale) { Appearance::shared().setSystemTextScale(scale); });
+    DesktopSettings desktop({[](bool reduced) { Appearance::shared().setSystemReducedMotion(reduced); },
+                             [](bool high) { Appearance::shared().setSystemHighContrast(high); },
+                             [](double scale) { Appearance::shared().setSystemTextScale(scale); }});
     // Asks the desktop only after the first frame, which must wait for nobody.
     QObject::connect(
         window, &QQuickWindow::frameSwapped, &desktop, [&desktop] { desktop.follow(); }, Qt::SingleShotConnection);

@@ -8,6 +8,7 @@
 #include <QDBusMetaType>
 #include <QDBusVariant>
 #include <QDBusVirtualObject>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -28,12 +29,13 @@ public:
     QString introspect(const QString& /*path*/) const override { return {}; }
     bool handleMessage(const QDBusMessage& message, const QDBusConnection& connection) override
     {
-        return connection.send(message.createReply(QVariant::fromValue(groups)));
+        return !answers || connection.send(message.createReply(QVariant::fromValue(groups)));
     }
     Groups groups;
+    bool answers = true;
 };
 
-TEST(DesktopSettingsTests, MotionAndTextSizeFollowWhatTheDesktopSays)
+TEST(DesktopSettingsTests, MotionContrastAndTextSizeFollowWhatTheDesktopSays)
 {
     qDBusRegisterMetaType<Groups>();
     QProcess daemon;
@@ -45,16 +47,22 @@ TEST(DesktopSettingsTests, MotionAndTextSizeFollowWhatTheDesktopSays)
     Portal portal;
     portal.groups["org.gnome.desktop.interface"]["enable-animations"] = false;
     portal.groups["org.gnome.desktop.interface"]["text-scaling-factor"] = 1.5;
+    portal.groups["org.gnome.desktop.interface"]["gtk-theme"] = "Adwaita";
+    portal.groups["org.gnome.desktop.a11y.interface"]["high-contrast"] = true;
+    portal.groups["org.freedesktop.appearance"]["contrast"] = 0U;
     const QString path = "/org/freedesktop/portal/desktop";
     ASSERT_TRUE(desktop.registerVirtualObject(path, &portal));
     ASSERT_TRUE(desktop.registerService("org.freedesktop.portal.Desktop"));
 
     std::vector<bool> told;
+    std::vector<bool> contrasts;
     std::vector<double> scales;
-    DesktopSettings settings([&](bool reduced) { told.push_back(reduced); },
-                             [&](double scale) { scales.push_back(scale); });
+    DesktopSettings settings({[&](bool reduced) { told.push_back(reduced); },
+                              [&](bool high) { contrasts.push_back(high); },
+                              [&](double scale) { scales.push_back(scale); }});
     settings.follow(QDBusConnection::connectToBus(address, "program"));
-    ASSERT_TRUE(QTest::qWaitFor([&] { return told.size() == 1; }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return contrasts.size() == 3; }));
+    EXPECT_TRUE(contrasts.back()); // although the settings told before and after are off
 
     const auto change = [&](const char* group, const char* key, const QVariant& value) {
         QDBusMessage changed = QDBusMessage::createSignal(path, "org.freedesktop.portal.Settings", "SettingChanged");
@@ -65,10 +73,27 @@ TEST(DesktopSettingsTests, MotionAndTextSizeFollowWhatTheDesktopSays)
     change("org.gnome.desktop.interface", "cursor-size", 24);
     change("org.gnome.desktop.interface", "text-scaling-factor", 2.0);
     change("org.kde.kdeglobals.KDE", "AnimationDurationFactor", "0");
-    change("org.freedesktop.appearance", "reduced-motion", 0U);
-    ASSERT_TRUE(QTest::qWaitFor([&] { return told.size() == 4; }));
-    EXPECT_THAT(told, testing::ElementsAre(true, false, true, false));
+    change("org.kde.kdeglobals.KDE", "AnimationDurationFactor", "1");
+    change("org.gnome.desktop.a11y.interface", "high-contrast", false);
+    change("org.gnome.desktop.interface", "gtk-theme", "HighContrastInverse");
+    change("org.freedesktop.appearance", "reduced-motion", 1U);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return told.size() == 5; }));
+    EXPECT_THAT(told, testing::ElementsAre(true, false, true, false, true));
+    contrasts.erase(contrasts.begin(), contrasts.begin() + 3);
+    EXPECT_THAT(contrasts, testing::ElementsAre(false, true));
     EXPECT_THAT(scales, testing::ElementsAre(1.5, 2.0));
+
+    // A portal that never answers holds nobody up, and what it says of itself is heard.
+    portal.answers = false;
+    bool isHigh = false;
+    DesktopSettings patient({[](bool) {}, [&](bool high) { isHigh = high; }, [](double) {}});
+    QElapsedTimer time;
+    time.start();
+    patient.follow(QDBusConnection::connectToBus(address, "patient"));
+    EXPECT_LT(time.elapsed(), 1000);
+    QTest::qWait(100);
+    change("org.gnome.desktop.a11y.interface", "high-contrast", true);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isHigh; }));
     daemon.terminate();
     daemon.waitForFinished();
 }

@@ -138,6 +138,38 @@ TEST_F(ThemeTest, TextsKeepTheirContrastInBothAppearances)
     }
 }
 
+TEST_F(ThemeTest, HighContrastRaisesInksToSevenAndLinesAndChartsToFour)
+{
+    Appearance::shared().setSystemHighContrast(true);
+    for (const bool dark : {false, true}) {
+        Appearance::shared().overrideDark(dark);
+        const auto expect = [&](const char* drawn, const char* ground, double least) {
+            EXPECT_GE(contrast(color(drawn), color(ground)), least)
+                << drawn << " on " << ground << (dark ? ", dark" : ", light");
+        };
+        for (const char* ground : {"ground", "card", "raised", "pressed", "well", "match"}) {
+            for (const char* ink : {"ink", "ink2", "titleInk"}) {
+                expect(ink, ground, 7);
+            }
+        }
+        for (const char* ground : {"ground", "card", "raised"}) {
+            for (const char* ink : {"ink3", "accentInk", "tabSelected", "successGreen", "failedRed", "systemOrange",
+                                    "orangeOnGround", "systemRedInk"}) {
+                expect(ink, ground, 7);
+            }
+            for (const char* line :
+                 {"hairline", "outline", "track", "faint", "chartOrange", "chartGreen", "chartBlue"}) {
+                expect(line, ground, 4);
+            }
+        }
+        expect("fillInk", "fill", 7);
+        expect("errorRed", "plate", 7);
+        EXPECT_EQ(theme("outlineWidth").toInt(), 1);
+    }
+    Appearance::shared().setSystemHighContrast(false);
+    EXPECT_EQ(theme("outlineWidth").toInt(), 0);
+}
+
 TEST_F(ThemeTest, ScaleStopsWhereItShouldAndDirectionFollows)
 {
     const auto with = [&](double scale) {

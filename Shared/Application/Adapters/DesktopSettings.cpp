@@ -14,7 +14,9 @@
 #include <QPointer>
 #include <QVariantMap>
 
+#include <algorithm>
 #include <array>
+#include <tuple>
 #include <utility>
 
 namespace lodestar
@@ -26,21 +28,32 @@ const QString portal = QStringLiteral("org.freedesktop.portal.Desktop");
 const QString path = QStringLiteral("/org/freedesktop/portal/desktop");
 const QString settings = QStringLiteral("org.freedesktop.portal.Settings");
 
-/// Desktops name the setting for reduced motion differently; there is one row for each name.
-struct MotionSetting {
+enum class Wish { LessMotion, MoreContrast };
+
+/// Desktops name these settings differently; there is one row for each name.
+struct Switch {
+    Wish wish;
     const char* group;
     const char* key;
-    bool (*isReduced)(const QVariant&);
+    bool (*isOn)(const QVariant&);
 };
-constexpr std::array<MotionSetting, 3> motionSettings = {{
-    {"org.freedesktop.appearance", "reduced-motion", [](const QVariant& value) { return value.toUInt() == 1; }},
-    {"org.gnome.desktop.interface", "enable-animations", [](const QVariant& value) { return !value.toBool(); }},
-    {"org.kde.kdeglobals.KDE", "AnimationDurationFactor",
+constexpr std::array<Switch, 6> switches = {{
+    {Wish::LessMotion, "org.freedesktop.appearance", "reduced-motion",
+     [](const QVariant& value) { return value.toUInt() == 1; }},
+    {Wish::LessMotion, "org.gnome.desktop.interface", "enable-animations",
+     [](const QVariant& value) { return !value.toBool(); }},
+    {Wish::LessMotion, "org.kde.kdeglobals.KDE", "AnimationDurationFactor",
      [](const QVariant& value) {
          bool isNumber = false;
          const double factor = value.toDouble(&isNumber);
          return isNumber && factor <= 0;
      }},
+    {Wish::MoreContrast, "org.freedesktop.appearance", "contrast",
+     [](const QVariant& value) { return value.toUInt() == 1; }},
+    {Wish::MoreContrast, "org.gnome.desktop.a11y.interface", "high-contrast",
+     [](const QVariant& value) { return value.toBool(); }},
+    {Wish::MoreContrast, "org.gnome.desktop.interface", "gtk-theme",
+     [](const QVariant& value) { return value.toString().startsWith(QLatin1String("HighContrast")); }},
 }};
 
 /// Only some desktops have this setting in their portal. It scales text alone, not what else is drawn.
@@ -49,9 +62,9 @@ constexpr QLatin1String textKey("text-scaling-factor");
 
 } // namespace
 
-DesktopSettings::DesktopSettings(MotionHandler motionReduced, TextHandler textScaled, QObject* parent)
-    : QObject(parent), m_motionReduced(std::move(motionReduced)), m_textScaled(std::move(textScaled))
+DesktopSettings::DesktopSettings(Handlers handlers, QObject* parent) : QObject(parent), m_handlers(std::move(handlers))
 {
+    static_assert(std::tuple_size_v<decltype(m_isOn)> == switches.size());
 }
 
 void DesktopSettings::follow()
@@ -83,9 +96,10 @@ void DesktopSettings::follow(const QDBusConnection& bus)
         qWarning("Changes of the desktop's settings will not be heard");
     }
     QStringList groups;
-    for (const MotionSetting& each : motionSettings) {
+    for (const Switch& each : switches) {
         groups << QString::fromLatin1(each.group);
     }
+    groups.removeDuplicates();
     QDBusMessage ask = QDBusMessage::createMethodCall(portal, path, settings, QStringLiteral("ReadAll"));
     ask.setArguments({groups});
     auto* const answer = new QDBusPendingCallWatcher(connection.asyncCall(ask), this);
@@ -111,15 +125,21 @@ void DesktopSettings::settingChanged(const QString& group, const QString& key, c
 
 void DesktopSettings::take(const QString& group, const QString& key, const QVariant& value)
 {
-    for (const MotionSetting& each : motionSettings) {
-        if (group == QLatin1String(each.group) && key == QLatin1String(each.key)) {
-            m_motionReduced(each.isReduced(value));
+    const auto* const changed = std::find_if(switches.begin(), switches.end(), [&](const Switch& each) {
+        return group == QLatin1String(each.group) && key == QLatin1String(each.key);
+    });
+    if (changed != switches.end()) {
+        m_isOn[static_cast<std::size_t>(changed - switches.begin())] = changed->isOn(value);
+        bool isOn = false;
+        for (std::size_t index = 0; index < switches.size(); ++index) {
+            isOn = isOn || (switches[index].wish == changed->wish && m_isOn[index]);
         }
+        (changed->wish == Wish::LessMotion ? m_handlers.motionReduced : m_handlers.contrastRaised)(isOn);
     }
     bool isNumber = false;
     const double scale = group == textGroup && key == textKey ? value.toDouble(&isNumber) : 0;
     if (isNumber) {
-        m_textScaled(scale);
+        m_handlers.textScaled(scale);
     }
 }
 

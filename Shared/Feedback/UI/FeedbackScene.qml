@@ -101,6 +101,7 @@ PageScaffold {
             height: Theme.target + 8
             radius: Theme.cardRadius
             color: Theme.card
+            border { width: Theme.outlineWidth; color: Theme.outline }
 
             Row {
                 anchors.verticalCenter: parent.verticalCenter
@@ -168,6 +169,7 @@ PageScaffold {
             height: Math.max(119, note.contentHeight + 32)
             radius: Theme.cardRadius
             color: Theme.card
+            border { width: Theme.outlineWidth; color: Theme.outline }
 
             T.TextArea {
                 id: note

@@ -70,6 +70,11 @@ double Appearance::textScale() const
     return std::clamp(m_textScale.value_or(std::max(textScaleOfScreen(), ofDesktop)), 1.0, 2.0);
 }
 
+bool Appearance::isHighContrast() const
+{
+    return m_highContrast.value_or(m_systemHighContrast);
+}
+
 bool Appearance::isMirrored() const
 {
     return m_mirrored.value_or(QGuiApplication::layoutDirection() == Qt::RightToLeft);

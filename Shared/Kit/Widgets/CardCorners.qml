@@ -15,6 +15,8 @@ Item {
     property color color: Theme.ground
     property int radius: Theme.cardRadius
 
+    clip: Theme.strong
+
     Repeater {
         model: 4
 
@@ -33,5 +35,16 @@ Item {
             rotation: index * 90
             LayoutMirroring.enabled: false
         }
+    }
+    // Of a card that goes on above or below, the outline's sides alone.
+    Rectangle {
+        visible: Theme.strong
+        anchors.fill: parent
+        anchors.topMargin: corners.roundTop ? 0 : -2 * radius
+        anchors.bottomMargin: corners.roundBottom ? 0 : -2 * radius
+        radius: corners.radius
+        color: "transparent"
+        border.width: Theme.outlineWidth
+        border.color: Theme.outline
     }
 }

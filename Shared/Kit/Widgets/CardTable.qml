@@ -325,7 +325,7 @@ AccessibleScope {
                 width: place.width - 2 * x
             }
             CardCorners {
-                visible: !place.isHeader && (place.firstInSection || place.lastInSection)
+                visible: !place.isHeader && (Theme.strong || place.firstInSection || place.lastInSection)
                 x: swipeCell.x
                 y: swipeCell.y
                 width: swipeCell.width

@@ -11,6 +11,6 @@ Rectangle {
     visible: shown
     color: "transparent"
     radius: Theme.cardRadius
-    border.width: 2
+    border.width: Theme.strong ? 3 : 2
     border.color: Theme.accentInk
 }

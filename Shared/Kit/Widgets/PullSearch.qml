@@ -90,6 +90,8 @@ AccessibleItem {
         anchors.fill: parent
         radius: Theme.fieldRadius
         color: Theme.well
+        border.width: Theme.outlineWidth
+        border.color: Theme.outline
     }
     Icon {
         id: glass

@@ -17,5 +17,7 @@ Item {
         anchors.fill: parent
         radius: card.radius
         color: card.color
+        border.width: Theme.outlineWidth
+        border.color: Theme.outline
     }
 }

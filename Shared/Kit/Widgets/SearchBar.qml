@@ -26,6 +26,8 @@ Item {
         height: 40
         radius: Theme.fieldRadius
         color: Theme.well
+        border.width: Theme.outlineWidth
+        border.color: Theme.outline
 
         Icon {
             id: glass

@@ -7,11 +7,15 @@ Rectangle {
     id: search
 
     property alias text: field.text
+    /// Whether the field has the keyboard within the sheet or page.
+    property alias hasKeyboard: field.focus
     property alias placeholder: placeholderLabel.text
 
     implicitHeight: Math.max(40, Math.round(40 * Theme.barScale))
     radius: Theme.fieldRadius
     color: Theme.sheetWell
+    border.width: Theme.outlineWidth
+    border.color: Theme.outline
 
     Icon {
         id: glass

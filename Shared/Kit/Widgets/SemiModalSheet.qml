@@ -130,6 +130,8 @@ OverlayPopup {
             height: parent.height + Theme.sheetRadius
             radius: Theme.sheetRadius
             color: Theme.raised
+            border.width: Theme.outlineWidth
+            border.color: Theme.outline
         }
     }
     contentItem: ModalLayer {

@@ -10,63 +10,70 @@ QtObject {
 
     readonly property bool dark: Appearance.dark
     readonly property bool mirrored: Appearance.mirrored
+    /// High contrast: pure inks, darker or lighter states, and an outline around whatever else only its ground tells apart.
+    readonly property bool strong: Appearance.highContrast
     readonly property bool reducedMotion: Appearance.reducedMotion
 
     // Surfaces
-    readonly property color ground: dark ? "#050709" : "#F2F4F7"
-    readonly property color card: dark ? "#0F1317" : "#FFFFFF"
-    readonly property color raised: dark ? "#191F26" : "#FFFFFF"
-    readonly property color pressed: dark ? "#1C232B" : "#E6EBF0"
-    readonly property color hovered: dark ? "#161B21" : "#E2EEF8"
+    readonly property color ground: strong ? (dark ? "#000000" : "#FFFFFF") : dark ? "#050709" : "#F2F4F7"
+    readonly property color card: strong ? (dark ? "#000000" : "#FFFFFF") : dark ? "#0F1317" : "#FFFFFF"
+    readonly property color raised: strong ? (dark ? "#000000" : "#FFFFFF") : dark ? "#191F26" : "#FFFFFF"
+    readonly property color pressed: strong ? (dark ? "#2E3742" : "#CDD6DF") : dark ? "#1C232B" : "#E6EBF0"
+    readonly property color hovered: dark ? "#19252D" : "#E2EEF8"
+    /// Makes any ground look hovered: laid over a card it gives `hovered`.
+    readonly property color wash: dark ? "#1A71C7F4" : "#1C0072AD"
     readonly property color well: dark ? "#1B2128" : "#E4E8ED"
     /// A well in a sheet, whose ground is lighter in the dark.
     readonly property color sheetWell: dark ? "#262D36" : well
-    readonly property color hairline: dark ? "#262D36" : "#D9DEE5"
+    readonly property color hairline: strong ? (dark ? "#C9D0D8" : "#1A2027") : dark ? "#262D36" : "#D9DEE5"
+    /// Around cards, sheets, wells and chips; none unless contrast is high.
+    readonly property color outline: hairline
+    readonly property int outlineWidth: strong ? 1 : 0
     readonly property color scrim: dark ? "#9E000000" : "#6B101821"
     readonly property color shade: dark ? "#000000" : "#101821"
     readonly property color night: "#0B2236"
 
     // Ink
-    readonly property color ink: dark ? "#ECEFF3" : "#1A2027"
-    readonly property color ink2: dark ? "#A9B3BF" : "#545E6B"
-    readonly property color ink3: dark ? "#95A0AD" : "#66707E"
-    readonly property color titleInk: dark ? "#C9D0D8" : "#555555"
-    readonly property color faint: dark ? "#5C6773" : "#A9B3BF"
+    readonly property color ink: strong ? (dark ? "#FFFFFF" : "#000000") : dark ? "#ECEFF3" : "#1A2027"
+    readonly property color ink2: strong ? (dark ? "#FFFFFF" : "#000000") : dark ? "#A9B3BF" : "#545E6B"
+    readonly property color ink3: strong ? (dark ? "#D9DEE5" : "#333A43") : dark ? "#95A0AD" : "#66707E"
+    readonly property color titleInk: strong ? (dark ? "#FFFFFF" : "#000000") : dark ? "#C9D0D8" : "#555555"
+    readonly property color faint: strong ? (dark ? "#A9B3BF" : "#545E6B") : dark ? "#5C6773" : "#A9B3BF"
     readonly property color nightInk: "#FFFFFF"
     readonly property color nightInk2: "#BFD3E3"
     readonly property color match: dark ? "#0B3D58" : "#CDEBFB"
 
     // Blue: the accent only fills, beside a change of shape; whatever is text or line is accentInk.
     readonly property color accent: UIColor.selectedBlue
-    readonly property color accentInk: dark ? UIColor.tesselLightBlue : "#0072AD"
+    readonly property color accentInk: strong ? (dark ? "#A9DDF8" : "#004B73") : dark ? UIColor.tesselLightBlue : "#0072AD"
     readonly property color fill: accentInk
     readonly property color fillInk: dark ? "#04121B" : "#FFFFFF"
-    readonly property color tabSelected: dark ? accent : accentInk
-    readonly property color track: dark ? "#5C6773" : "#8A95A3"
+    readonly property color tabSelected: dark && !strong ? accent : accentInk
+    readonly property color track: strong ? (dark ? "#95A0AD" : "#545E6B") : dark ? "#5C6773" : "#8A95A3"
     readonly property color knob: "#FFFFFF"
     readonly property color knobEdge: "#29101821"
     readonly property color segment: dark ? "#39434F" : "#FFFFFF"
 
     // State
-    readonly property color successGreen: UIColor.successGreen
-    readonly property color failedRed: UIColor.failedRed
+    readonly property color successGreen: strong ? (dark ? "#7BE07F" : "#00570B") : UIColor.successGreen
+    readonly property color failedRed: strong ? ink3 : UIColor.failedRed
     readonly property color errorRed: UIColor.errorRed
-    readonly property color plate: dark ? "#F2C7C1" : "#FBEAE7"
-    readonly property color systemOrange: dark ? UIColor.dashboardOrange : "#B35900"
+    readonly property color plate: dark ? (strong ? "#FFE9E6" : "#F2C7C1") : "#FBEAE7"
+    readonly property color systemOrange: strong ? (dark ? "#FFC266" : "#733900") : dark ? UIColor.dashboardOrange : "#B35900"
     /// The same as text on the ground instead of a card.
-    readonly property color orangeOnGround: dark ? UIColor.dashboardOrange : "#A95300"
-    readonly property color systemRed: "#E32226"
-    readonly property color systemRedInk: dark ? "#FF7A75" : "#E32226"
+    readonly property color orangeOnGround: strong ? systemOrange : dark ? UIColor.dashboardOrange : "#A95300"
+    readonly property color systemRed: strong ? "#B3000F" : "#E32226"
+    readonly property color systemRedInk: strong ? (dark ? "#FFB3B0" : "#A3000D") : dark ? "#FF7A75" : "#E32226"
     readonly property color systemLightGrey: dark ? "#4A5460" : UIColor.lightGrayColor
     readonly property color lightGreyInk: dark ? "#ECEFF3" : "#1A2027"
     readonly property color tesselBlue: UIColor.tesselBlue
     readonly property color tesselLightGreen: UIColor.tesselLightGreen
 
     // Charts
-    readonly property color chartOrange: dark ? UIColor.dashboardOrange : UIColor.chartOrange
-    readonly property color chartGreen: dark ? UIColor.dashboardGreen : UIColor.successGreen
+    readonly property color chartOrange: strong ? (dark ? "#FFC266" : "#A85F00") : dark ? UIColor.dashboardOrange : UIColor.chartOrange
+    readonly property color chartGreen: strong ? successGreen : dark ? UIColor.dashboardGreen : UIColor.successGreen
     readonly property color chartBlue: dark ? "#A9DDF8" : UIColor.ornisBlue
-    readonly property color chartGrid: dark ? "#333C47" : "#C4CCD5"
+    readonly property color chartGrid: strong ? (dark ? "#95A0AD" : "#66707E") : dark ? "#333C47" : "#C4CCD5"
 
     /// The ink of a state's word and mark.
     function stateInk(state: int): color {
@@ -82,7 +89,7 @@ QtObject {
     }
     /// The ink of a mark without a word: no plate lifts the dark red of errors off its card.
     function loneMarkInk(state: int): color {
-        return state === Role.State.Error ? systemRed : stateInk(state);
+        return state !== Role.State.Error ? stateInk(state) : strong ? systemRedInk : systemRed;
     }
     /// The shape of a state, see StateMark; empty for none.
     function stateMark(state: int): string {

@@ -135,6 +135,7 @@ PageScaffold {
             height: list.contentHeight + 16 + 24
             radius: Theme.cardRadius
             color: Theme.card
+            border { width: Theme.outlineWidth; color: Theme.outline }
         }
         // Above the text, which takes no press; a finger or the mouse that moves scrolls.
         MouseArea {

@@ -45,6 +45,7 @@ Item {
         height: days.y + days.height + 12
         radius: Theme.cardRadius
         color: Theme.card
+        border { width: Theme.outlineWidth; color: Theme.outline }
 
         Flow {
             id: keys

@@ -25,6 +25,7 @@ Rectangle {
     implicitHeight: grid.height + 2 * topPadding - 2
     radius: Theme.cardRadius
     color: Theme.card
+    border { width: Theme.outlineWidth; color: Theme.outline }
 
     Grid {
         id: grid

@@ -150,6 +150,7 @@ PageScaffold {
                                             : scene.dashboard.chartRowHeight
         radius: Theme.cardRadius
         color: Theme.card
+        border { width: Theme.outlineWidth; color: Theme.outline }
 
         PieChart {
             id: pie

@@ -33,6 +33,7 @@ Item {
         height: Math.max(place.cardHeight, place.wantedCardHeight)
         radius: Theme.cardRadius
         color: Theme.card
+        border { width: Theme.outlineWidth; color: Theme.outline }
 
         Column {
             id: rows

@@ -46,6 +46,7 @@ Column {
         height: content.height + 34
         radius: Theme.cardRadius
         color: Theme.card
+        border { width: Theme.outlineWidth; color: Theme.outline }
 
         Column {
             id: content

@@ -102,6 +102,7 @@ PageScaffold {
                                       : Math.max(320, Math.min(640, free - summary.height - 12 - Theme.groupGap))
             radius: Theme.cardRadius
             color: Theme.card
+            border { width: Theme.outlineWidth; color: Theme.outline }
 
             // Time runs to the right in every language, and what lies on it goes with it.
             LayoutMirroring.enabled: false

@@ -192,6 +192,7 @@ PageScaffold {
             color: Theme.card
 
             PlotChart {
+            border { width: Theme.outlineWidth; color: Theme.outline }
                 outlet: scene.performance.chartView
                 visible: !scene.performance.chartView.hidden
                 anchors.fill: parent

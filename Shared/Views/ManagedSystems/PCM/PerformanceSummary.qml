@@ -84,6 +84,7 @@ Column {
         implicitHeight: lines.height
         radius: Theme.cardRadius
         color: Theme.card
+        border { width: Theme.outlineWidth; color: Theme.outline }
 
         Column {
             id: lines
@@ -183,6 +184,7 @@ Column {
             implicitHeight: facts.height + 24
             radius: Theme.cardRadius
             color: Theme.card
+            border { width: Theme.outlineWidth; color: Theme.outline }
             Accessible.role: Accessible.StaticText
             Accessible.name: row.spoken
 
