@@ -7,6 +7,7 @@ when F5 is pressed, and draws the list of consoles: both must draw nearly the sa
 
 import pathlib
 import shutil
+import signal
 import struct
 import subprocess
 import sys
@@ -15,6 +16,7 @@ import time
 import zlib
 
 PATIENCE = 180  # seconds; the emulated program takes some twenty times as long as a phone's
+SLEEP = 20
 SIZE = (390, 844)
 
 
@@ -99,29 +101,47 @@ def different_share(one, other):
     return count / (SIZE[0] * SIZE[1])
 
 
+def of_both(asked):
+    """Whether the last feed of both consoles was asked for."""
+    return sum("ServiceableEvent" in line for line in asked) >= 2
+
+
+def refreshed(display, consoles):
+    """Refreshes and returns what was asked of the consoles."""
+    consoles.requests()
+    display.press("F5")
+    end = time.monotonic() + PATIENCE
+    asked = []
+    while time.monotonic() < end and not of_both(asked):
+        time.sleep(0.5)
+        asked += consoles.requests()
+    return asked
+
+
 def drawn_by(program, folder, seen_as, display, consoles):
-    """Starts the program on the data folder, refreshes, and returns the picture of the list."""
+    """Starts the program on the data folder and refreshes, also after a sleep. Returns the picture of the list, and
+    whether both consoles were read both times."""
     begun = time.monotonic()
     process = subprocess.Popen([*program, "--full-screen", "--data", seen_as])
     try:
         display.wait_until_still()
         shown = time.monotonic() - begun
-        consoles.requests()
-        display.press("F5")
-        end = time.monotonic() + PATIENCE
-        asked = []
-        while time.monotonic() < end and sum("ServiceableEvent" in line for line in asked) < 2:
-            time.sleep(0.5)
-            asked += consoles.requests()
+        asked = refreshed(display, consoles)
         picture = display.wait_until_still()
+        # A phone that sleeps: everything stands still, and goes on.
+        process.send_signal(signal.SIGSTOP)
+        time.sleep(SLEEP)
+        process.send_signal(signal.SIGCONT)
+        again = refreshed(display, consoles)
         process.terminate()
         if process.wait(PATIENCE) != 0:
             sys.exit(f"{program[-1]} ended with {process.returncode}")
     finally:
         process.kill()
     log = (folder / "Logs/lodestar.log").read_text()
-    print(f"  first picture at rest after {shown:.0f} s, {len(asked)} requests, {log.count(chr(10))} lines of log")
-    return picture, asked
+    print(f"  first picture at rest after {shown:.0f} s, {len(asked)} and {len(again)} requests, "
+          f"{log.count(chr(10))} lines of log")
+    return picture, all(of_both(each) for each in (asked, again))
 
 
 def main(build, root, folder):
@@ -144,11 +164,10 @@ def main(build, root, folder):
                 print(name, flush=True)
                 subprocess.run([build / "bin/lodestar-enrol", data], input="\n".join(consoles.lines) + "\n", text=True,
                                check=True, stdout=subprocess.DEVNULL)
-                pictures[name], asked = drawn_by(program, data, seen_as, display, consoles)
+                pictures[name], read = drawn_by(program, data, seen_as, display, consoles)
                 write_png(folder / f"{name.replace(' ', '-')}.png", pictures[name])
-                feeds = sum("ServiceableEvent" in line for line in asked)
-                if feeds < 2:
-                    failed.append(f"{name}: two consoles were to be read, {feeds} were")
+                if not read:
+                    failed.append(f"{name}: two consoles were to be read, before a sleep and after it")
         finally:
             display.server.terminate()
             consoles.program.stdin.close()
