@@ -48,6 +48,11 @@ std::string joined(std::initializer_list<std::string> parts)
     return text;
 }
 
+std::string withPart(const std::string& sentence, const std::string& part)
+{
+    return part.empty() ? sentence : say(TEXT("lodestar::FindingText", "%1, %2"), {sentence, part});
+}
+
 std::string ofSystem(const Finding& finding)
 {
     return finding.isIncomplete() ? say(TEXT("lodestar::FindingText", "System incomplete"))
@@ -101,13 +106,13 @@ std::chrono::sys_days dayOf(const std::tm& time)
 
 std::string Words::summary(const Findings& findings)
 {
-    return joined(
-        {findings.needAttention == 0
-             ? say(TEXT("lodestar::FindingText", "No faults"))
-             : Texts::count(TEXTS("lodestar::FindingText", "%Ln things need attention"), findings.needAttention),
-         findings.openEvents == 0
-             ? std::string()
-             : Texts::count(TEXTS("lodestar::FindingText", "%Ln events are open"), findings.openEvents)});
+    return withPart(
+        findings.needAttention == 0
+            ? say(TEXT("lodestar::FindingText", "No faults"))
+            : Texts::count(TEXTS("lodestar::FindingText", "%Ln things need attention"), findings.needAttention),
+        findings.openEvents == 0
+            ? std::string()
+            : Texts::count(TEXTS("lodestar::FindingText", "%Ln events are open"), findings.openEvents));
 }
 
 std::string Words::beforeOffline(std::size_t number)
@@ -136,13 +141,13 @@ std::string Words::sentence(const Finding& finding, WallTime now)
 {
     switch (finding.rank) {
     case FindingRank::SystemErrorLit:
-        return joined({ofSystem(finding), say(TEXT("lodestar::FindingText", "LED on"))});
+        return withPart(ofSystem(finding), say(TEXT("lodestar::FindingText", "LED on")));
     case FindingRank::SystemError:
-        return joined({ofSystem(finding), finding.referenceCode});
+        return withPart(ofSystem(finding), finding.referenceCode);
     case FindingRank::IOServerError:
-        return joined({say(TEXT("lodestar::FindingText", "IO server in error")), finding.referenceCode});
+        return withPart(say(TEXT("lodestar::FindingText", "IO server in error")), finding.referenceCode);
     case FindingRank::PartitionError:
-        return joined({say(TEXT("lodestar::FindingText", "Partition in error")), finding.referenceCode});
+        return withPart(say(TEXT("lodestar::FindingText", "Partition in error")), finding.referenceCode);
     case FindingRank::ConsoleOffline:
         return finding.error ? say(TEXT("lodestar::FindingText", "Offline, %1"), {reason(*finding.error)})
                              : say(TEXT("lodestar::FindingText", "Offline"));
