@@ -92,11 +92,11 @@
     <name>ChangesCard</name>
     <message>
         <source>Worse, above</source>
-        <translation>الأسوأ في الأعلى</translation>
+        <translation>أسوأ، في الأعلى</translation>
     </message>
     <message>
         <source>Better, below</source>
-        <translation>الأفضل في الأسفل</translation>
+        <translation>أفضل، في الأسفل</translation>
     </message>
 </context>
 <context>
@@ -133,7 +133,7 @@
         <translation>اكتب قيمًا مفصولة بفواصل.</translation>
     </message>
     <message>
-        <source>Use this data folder instead of Lodestar's own.</source>
+        <source>Use this data folder instead of Lodestar&apos;s own.</source>
         <translation>استخدم مجلد البيانات هذا بدل مجلد Lodestar.</translation>
     </message>
     <message>
@@ -231,7 +231,7 @@
     </message>
     <message>
         <source>sent, newest (as at first), status or code.</source>
-        <translation>sent أو newest (ابتداءً) أو status أو code.</translation>
+        <translation>‏sent أو newest (الافتراضي) أو status أو code.</translation>
     </message>
     <message>
         <source>Show processors and memory of a system over the last half day.</source>
@@ -246,8 +246,8 @@
         <translation>اقرأ الوحدات مرارًا واكتب سطرًا لكل تغيير.</translation>
     </message>
     <message>
-        <source>Minutes between readings, or 30s, 2h; at first as Lodestar's Watch has it.</source>
-        <translation>الدقائق بين القراءات، أو 30s أو 2h؛ ابتداءً كما في مراقبة Lodestar.</translation>
+        <source>Minutes between readings, or 30s, 2h; at first as Lodestar&apos;s Watch has it.</source>
+        <translation>الدقائق بين القراءات، أو 30s أو 2h؛ الافتراضي كما في مراقبة Lodestar.</translation>
     </message>
     <message>
         <source>End after so many readings.</source>
@@ -263,7 +263,7 @@
     </message>
     <message>
         <source>Serve it at /metrics instead, on this machine only; ADDRESS:PORT, too.</source>
-        <translation>قدّمه على ‎/metrics بدلاً من ذلك، على هذه الآلة فقط؛ ADDRESS:PORT أيضًا.</translation>
+        <translation>قدّمه على ‎/metrics بدلاً من ذلك، على هذا الجهاز فقط؛ ADDRESS:PORT أيضًا.</translation>
     </message>
     <message>
         <source>With --listen: minutes between readings, or 30s, 2h.</source>
@@ -283,11 +283,11 @@
     </message>
     <message>
         <source>Log on as this user.</source>
-        <translation>ادخل بهذا المستخدم.</translation>
+        <translation>سجّل الدخول بهذا المستخدم.</translation>
     </message>
     <message>
         <source>Call it so; the address at first.</source>
-        <translation>سمّها هكذا؛ ابتداءً بعنوانها.</translation>
+        <translation>سمّها بهذا الاسم؛ الافتراضي عنوانها.</translation>
     </message>
     <message>
         <source>Remove a console and what is remembered of it.</source>
@@ -311,7 +311,7 @@
     </message>
     <message>
         <source>%1 did not answer: %2.</source>
-        <extracomment>%1 a console, %2 why, as in "connection refused"</extracomment>
+        <extracomment>%1 a console, %2 why, as in &quot;connection refused&quot;</extracomment>
         <translation>لم تجب %1: %2.</translation>
     </message>
     <message>
@@ -320,7 +320,7 @@
     </message>
     <message>
         <source>%1: %2.</source>
-        <extracomment>%1 a console, %2 as in "Partitions not read"</extracomment>
+        <extracomment>%1 a console, %2 as in &quot;Partitions not read&quot;</extracomment>
         <translation>%1: %2.</translation>
     </message>
     <message>
@@ -347,7 +347,7 @@
         <source>Saved %Ln consoles as %1</source>
         <extracomment>%1 the name of a file</extracomment>
         <translation>
-            <numerusform>حُفظت لا وحدات تحكم في %1</numerusform>
+            <numerusform>لم تُحفظ أي وحدة تحكم في %1</numerusform>
             <numerusform>حُفظت وحدة تحكم واحدة في %1</numerusform>
             <numerusform>حُفظت وحدتا تحكم في %1</numerusform>
             <numerusform>حُفظت %Ln وحدات تحكم في %1</numerusform>
@@ -370,17 +370,17 @@
     <message numerus="yes">
         <source>export takes --system at most %Ln times.</source>
         <translation>
-            <numerusform>يأخذ export الخيار ‎--system هذا العدد من المرات على الأكثر: %Ln.</numerusform>
-            <numerusform>يأخذ export الخيار ‎--system هذا العدد من المرات على الأكثر: %Ln.</numerusform>
-            <numerusform>يأخذ export الخيار ‎--system هذا العدد من المرات على الأكثر: %Ln.</numerusform>
-            <numerusform>يأخذ export الخيار ‎--system هذا العدد من المرات على الأكثر: %Ln.</numerusform>
-            <numerusform>يأخذ export الخيار ‎--system هذا العدد من المرات على الأكثر: %Ln.</numerusform>
-            <numerusform>يأخذ export الخيار ‎--system هذا العدد من المرات على الأكثر: %Ln.</numerusform>
+            <numerusform>لا يأخذ export الخيار ‎--system.</numerusform>
+            <numerusform>يأخذ export الخيار ‎--system مرة واحدة على الأكثر.</numerusform>
+            <numerusform>يأخذ export الخيار ‎--system مرتين على الأكثر.</numerusform>
+            <numerusform>يأخذ export الخيار ‎--system %Ln مرات على الأكثر.</numerusform>
+            <numerusform>يأخذ export الخيار ‎--system %Ln مرة على الأكثر.</numerusform>
+            <numerusform>يأخذ export الخيار ‎--system %Ln مرة على الأكثر.</numerusform>
         </translation>
     </message>
     <message>
         <source>The metrics of %1 cannot be had: %2.</source>
-        <extracomment>%1 a system, %2 why, as in "connection refused"</extracomment>
+        <extracomment>%1 a system, %2 why, as in &quot;connection refused&quot;</extracomment>
         <translation>تعذر الحصول على مقاييس %1: %2.</translation>
     </message>
     <message>
@@ -443,12 +443,12 @@
     <message numerus="yes">
         <source>verifying %1 of %2, about %Ln s left</source>
         <translation>
-            <numerusform>جارٍ التحقق من %1 من %2، يبقى نحو %Ln ث</numerusform>
-            <numerusform>جارٍ التحقق من %1 من %2، يبقى نحو %Ln ث</numerusform>
-            <numerusform>جارٍ التحقق من %1 من %2، يبقى نحو %Ln ث</numerusform>
-            <numerusform>جارٍ التحقق من %1 من %2، يبقى نحو %Ln ث</numerusform>
-            <numerusform>جارٍ التحقق من %1 من %2، يبقى نحو %Ln ث</numerusform>
-            <numerusform>جارٍ التحقق من %1 من %2، يبقى نحو %Ln ث</numerusform>
+            <numerusform>جارٍ التحقق من %1 من %2، يبقى نحو %Ln&#xa0;ث</numerusform>
+            <numerusform>جارٍ التحقق من %1 من %2، يبقى نحو %Ln&#xa0;ث</numerusform>
+            <numerusform>جارٍ التحقق من %1 من %2، يبقى نحو %Ln&#xa0;ث</numerusform>
+            <numerusform>جارٍ التحقق من %1 من %2، يبقى نحو %Ln&#xa0;ث</numerusform>
+            <numerusform>جارٍ التحقق من %1 من %2، يبقى نحو %Ln&#xa0;ث</numerusform>
+            <numerusform>جارٍ التحقق من %1 من %2، يبقى نحو %Ln&#xa0;ث</numerusform>
         </translation>
     </message>
     <message>
@@ -470,7 +470,7 @@
     <message numerus="yes">
         <source>%Ln consoles were added.</source>
         <translation>
-            <numerusform>أُضيفت لا وحدات تحكم.</numerusform>
+            <numerusform>لم تُضف أي وحدة تحكم.</numerusform>
             <numerusform>أُضيفت وحدة تحكم واحدة.</numerusform>
             <numerusform>أُضيفت وحدتا تحكم.</numerusform>
             <numerusform>أُضيفت %Ln وحدات تحكم.</numerusform>
@@ -480,7 +480,7 @@
     </message>
     <message>
         <source>Say as whom to log on with --user.</source>
-        <translation>اذكر بـ ‎--user من يدخل.</translation>
+        <translation>اذكر بـ ‎--user المستخدم الذي يسجّل الدخول.</translation>
     </message>
     <message>
         <source>The address is empty.</source>
@@ -492,7 +492,7 @@
     </message>
     <message>
         <source>Nothing was added. %1: %2.</source>
-        <extracomment>%1 an address, %2 why, as in "connection refused"</extracomment>
+        <extracomment>%1 an address, %2 why, as in &quot;connection refused&quot;</extracomment>
         <translation>لم يُضف شيء. %1: %2.</translation>
     </message>
     <message>
@@ -517,7 +517,7 @@
     </message>
     <message>
         <source>--listen takes no address that other machines reach, such as %1: what it serves is neither encrypted nor guarded. Put a server in front of it that is.</source>
-        <translation>لا يأخذ ‎--listen عنوانًا تصل إليه آلات أخرى، مثل %1: ما يقدمه غير مشفر ولا محمي. ضع أمامه خادمًا كذلك.</translation>
+        <translation>لا يأخذ ‎--listen عنوانًا تصل إليه أجهزة أخرى، مثل %1: ما يقدمه غير مشفر ولا محمي. ضع أمامه خادمًا مشفرًا ومحميًا.</translation>
     </message>
     <message>
         <source>Cannot listen on %1</source>
@@ -557,27 +557,27 @@
     </message>
     <message>
         <source>No %1.</source>
-        <translation>لا توجد %1.</translation>
+        <translation>%1: لا شيء.</translation>
     </message>
     <message>
         <source>No known %1.</source>
-        <translation>لا تُعرف %1.</translation>
+        <translation>%1: لا شيء معروف.</translation>
     </message>
     <message>
         <source>No open %1.</source>
-        <translation>لا توجد %1 مفتوحة.</translation>
+        <translation>%1: لا شيء مفتوح.</translation>
     </message>
     <message>
         <source>No known open %1.</source>
-        <translation>لا تُعرف %1 مفتوحة.</translation>
+        <translation>%1: لا شيء معروف مفتوح.</translation>
     </message>
     <message>
         <source>No such %1.</source>
-        <translation>لا توجد %1 كهذه.</translation>
+        <translation>%1: لا شيء كهذا.</translation>
     </message>
     <message>
         <source>No known such %1.</source>
-        <translation>لا تُعرف %1 كهذه.</translation>
+        <translation>%1: لا شيء معروف كهذا.</translation>
     </message>
     <message>
         <source>--order takes sent, newest, status or code, not %1.</source>
@@ -610,7 +610,7 @@
     </message>
     <message>
         <source>Lodestar is open, or another command is at work, in %1. Close it, or name another folder with --data.</source>
-        <translation>Lodestar مفتوح، أو أمر آخر يعمل، في %1. أغلقه، أو سمّ مجلدًا آخر بـ ‎--data.</translation>
+        <translation>‏Lodestar مفتوح، أو أمر آخر يعمل، في %1. أغلقه، أو سمّ مجلدًا آخر بـ ‎--data.</translation>
     </message>
     <message>
         <source>Lodestar keeps nothing in a folder of another user: %1</source>
@@ -630,7 +630,7 @@
     </message>
     <message>
         <source>There is no home folder. Name a data folder with --data.</source>
-        <translation>لا يوجد مجلد منزل. سمّ مجلد بيانات بـ ‎--data.</translation>
+        <translation>لا يوجد مجلد رئيسي للمستخدم. سمّ مجلد بيانات بـ ‎--data.</translation>
     </message>
     <message>
         <source>There is no data folder. %1</source>
@@ -801,12 +801,12 @@
 <context>
     <name>DeltaCorvelScene</name>
     <message>
-        <source>Leave out "%1".</source>
-        <translation>احذف "%1".</translation>
+        <source>Leave out &quot;%1&quot;.</source>
+        <translation>احذف «%1».</translation>
     </message>
     <message>
-        <source>Leave out "/" and what follows it.</source>
-        <translation>احذف "/" وما بعدها.</translation>
+        <source>Leave out &quot;/&quot; and what follows it.</source>
+        <translation>احذف «/» وما بعدها.</translation>
     </message>
     <message>
         <source>The address contains a blank.</source>
@@ -1012,7 +1012,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation>مفتوح</translation>
+        <translation>مفتوحة</translation>
     </message>
     <message>
         <source>Call home</source>
@@ -1187,7 +1187,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation>مفتوح</translation>
+        <translation>فتح</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1556,11 +1556,15 @@
         <source>Attention</source>
         <translation>الانتباه</translation>
     </message>
+    <message>
+        <source>The other column</source>
+        <translation>العمود الآخر</translation>
+    </message>
 </context>
 <context>
     <name>KeychainWait</name>
     <message>
-        <source>Waiting for the system's keychain...</source>
+        <source>Waiting for the system&apos;s keychain...</source>
         <translation>في انتظار سلسلة مفاتيح النظام...</translation>
     </message>
 </context>
@@ -1715,13 +1719,13 @@
     </message>
     <message>
         <source>Skip</source>
-        <translation>تخطٍّ</translation>
+        <translation>تخطي</translation>
     </message>
 </context>
 <context>
     <name>Passcode</name>
     <message>
-        <source>The system's keychain is locked</source>
+        <source>The system&apos;s keychain is locked</source>
         <translation>سلسلة مفاتيح النظام مقفلة</translation>
     </message>
     <message>
@@ -1729,19 +1733,19 @@
         <translation>لا تعمل سلسلة مفاتيح على هذا النظام</translation>
     </message>
     <message>
-        <source>The system's keychain does not answer</source>
+        <source>The system&apos;s keychain does not answer</source>
         <translation>سلسلة مفاتيح النظام لا تجيب</translation>
     </message>
     <message>
-        <source>The system's keychain cannot keep this text</source>
+        <source>The system&apos;s keychain cannot keep this text</source>
         <translation>لا يمكن لسلسلة مفاتيح النظام حفظ هذا النص</translation>
     </message>
     <message>
-        <source>The system's keychain reported an error</source>
+        <source>The system&apos;s keychain reported an error</source>
         <translation>أبلغت سلسلة مفاتيح النظام عن خطأ</translation>
     </message>
     <message>
-        <source>The passcode is not asked for any more: the system's keychain was locked.</source>
+        <source>The passcode is not asked for any more: the system&apos;s keychain was locked.</source>
         <translation>لم يعد رمز المرور مطلوبًا: كانت سلسلة مفاتيح النظام مقفلة.</translation>
     </message>
     <message>
@@ -1749,11 +1753,11 @@
         <translation>لم يعد رمز المرور مطلوبًا: لم تكن سلسلة مفاتيح تعمل.</translation>
     </message>
     <message>
-        <source>The passcode is not asked for any more: the system's keychain did not answer.</source>
+        <source>The passcode is not asked for any more: the system&apos;s keychain did not answer.</source>
         <translation>لم يعد رمز المرور مطلوبًا: لم تجب سلسلة مفاتيح النظام.</translation>
     </message>
     <message>
-        <source>The passcode is not asked for any more: the system's keychain could not be read.</source>
+        <source>The passcode is not asked for any more: the system&apos;s keychain could not be read.</source>
         <translation>لم يعد رمز المرور مطلوبًا: تعذرت قراءة سلسلة مفاتيح النظام.</translation>
     </message>
 </context>
@@ -1865,7 +1869,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Report Sent</source>
@@ -2015,7 +2019,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>and since yesterday</source>
-        <translation>ومنذ أمس</translation>
+        <translation>والتغيّر منذ أمس</translation>
     </message>
 </context>
 <context>
@@ -2059,7 +2063,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Every</source>
-        <translation>كل</translation>
+        <translation>الفاصل الزمني</translation>
     </message>
     <message>
         <source>Tell me</source>
@@ -2110,11 +2114,11 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1, earlier</source>
-        <translation>%1، أبكر</translation>
+        <translation>%1، وقت أبكر</translation>
     </message>
     <message>
         <source>%1, later</source>
-        <translation>%1، متأخر</translation>
+        <translation>%1، وقت لاحق</translation>
     </message>
 </context>
 <context>
@@ -2129,7 +2133,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 %2</source>
-        <extracomment>%1 a day as in "yesterday" or "Mon", %2 a time of day</extracomment>
+        <extracomment>%1 a day as in &quot;yesterday&quot; or &quot;Mon&quot;, %2 a time of day</extracomment>
         <translation>%1 %2</translation>
     </message>
     <message>
@@ -2139,7 +2143,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>since %1</source>
-        <extracomment>%1 as in "09:41", "yesterday 21:40" or "3 Mar"</extracomment>
+        <extracomment>%1 as in &quot;09:41&quot;, &quot;yesterday 21:40&quot; or &quot;3 Mar&quot;</extracomment>
         <translation>منذ %1</translation>
     </message>
     <message>
@@ -2148,29 +2152,29 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>read %1</source>
-        <extracomment>%1 as in "2 min ago" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 as in &quot;2 min ago&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>قُرئ %1</translation>
     </message>
     <message numerus="yes">
         <source>%Ln min ago</source>
         <translation>
-            <numerusform>قبل %Ln د</numerusform>
-            <numerusform>قبل %Ln د</numerusform>
-            <numerusform>قبل %Ln د</numerusform>
-            <numerusform>قبل %Ln د</numerusform>
-            <numerusform>قبل %Ln د</numerusform>
-            <numerusform>قبل %Ln د</numerusform>
+            <numerusform>قبل %Ln&#xa0;د</numerusform>
+            <numerusform>قبل %Ln&#xa0;د</numerusform>
+            <numerusform>قبل %Ln&#xa0;د</numerusform>
+            <numerusform>قبل %Ln&#xa0;د</numerusform>
+            <numerusform>قبل %Ln&#xa0;د</numerusform>
+            <numerusform>قبل %Ln&#xa0;د</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>read %Ln h ago</source>
         <translation>
-            <numerusform>قُرئ قبل %Ln س</numerusform>
-            <numerusform>قُرئ قبل %Ln س</numerusform>
-            <numerusform>قُرئ قبل %Ln س</numerusform>
-            <numerusform>قُرئ قبل %Ln س</numerusform>
-            <numerusform>قُرئ قبل %Ln س</numerusform>
-            <numerusform>قُرئ قبل %Ln س</numerusform>
+            <numerusform>قُرئ قبل %Ln&#xa0;س</numerusform>
+            <numerusform>قُرئ قبل %Ln&#xa0;س</numerusform>
+            <numerusform>قُرئ قبل %Ln&#xa0;س</numerusform>
+            <numerusform>قُرئ قبل %Ln&#xa0;س</numerusform>
+            <numerusform>قُرئ قبل %Ln&#xa0;س</numerusform>
+            <numerusform>قُرئ قبل %Ln&#xa0;س</numerusform>
         </translation>
     </message>
 </context>
@@ -2217,7 +2221,7 @@ It is kept in the list of reports.</source>
     <message>
         <source>99+</source>
         <extracomment>%1 the name of a tab</extracomment>
-        <translation>+99</translation>
+        <translation>‎+99</translation>
     </message>
     <message numerus="yes">
         <source>%1, %Ln things</source>
@@ -2236,7 +2240,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1, %2</source>
-        <extracomment>The name of a file: the tab "Attention" and what of it</extracomment>
+        <extracomment>The name of a file: the tab &quot;Attention&quot; and what of it</extracomment>
         <translation>%1، %2</translation>
     </message>
 </context>
@@ -2267,11 +2271,11 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>LED on</source>
-        <translation>LED مضاء</translation>
+        <translation>‏LED مضاء</translation>
     </message>
     <message>
         <source>LED off</source>
-        <translation>LED مطفأ</translation>
+        <translation>‏LED مطفأ</translation>
     </message>
     <message>
         <source>Offline</source>
@@ -2291,7 +2295,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>New</source>
-        <translation>جديدة</translation>
+        <translation>جديد</translation>
     </message>
     <message>
         <source>Gone</source>
@@ -2341,23 +2345,23 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>%Ln events opened</source>
         <translation>
-            <numerusform>فُتح: لا أحداث</numerusform>
-            <numerusform>فُتح: حدث واحد</numerusform>
-            <numerusform>فُتح: حدثان</numerusform>
-            <numerusform>فُتح: %Ln أحداث</numerusform>
-            <numerusform>فُتح: %Ln حدثًا</numerusform>
-            <numerusform>فُتح: %Ln حدث</numerusform>
+            <numerusform>لم يُفتح أي حدث</numerusform>
+            <numerusform>فُتح حدث واحد</numerusform>
+            <numerusform>فُتح حدثان</numerusform>
+            <numerusform>فُتحت %Ln أحداث</numerusform>
+            <numerusform>فُتح %Ln حدثًا</numerusform>
+            <numerusform>فُتح %Ln حدث</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln events gone</source>
         <translation>
-            <numerusform>اختفى: لا أحداث</numerusform>
-            <numerusform>اختفى: حدث واحد</numerusform>
-            <numerusform>اختفى: حدثان</numerusform>
-            <numerusform>اختفى: %Ln أحداث</numerusform>
-            <numerusform>اختفى: %Ln حدثًا</numerusform>
-            <numerusform>اختفى: %Ln حدث</numerusform>
+            <numerusform>لم يختف أي حدث</numerusform>
+            <numerusform>اختفى حدث واحد</numerusform>
+            <numerusform>اختفى حدثان</numerusform>
+            <numerusform>اختفت %Ln أحداث</numerusform>
+            <numerusform>اختفى %Ln حدثًا</numerusform>
+            <numerusform>اختفى %Ln حدث</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2418,12 +2422,12 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>%Ln min</source>
         <translation>
-            <numerusform>%Ln د</numerusform>
-            <numerusform>%Ln د</numerusform>
-            <numerusform>%Ln د</numerusform>
-            <numerusform>%Ln د</numerusform>
-            <numerusform>%Ln د</numerusform>
-            <numerusform>%Ln د</numerusform>
+            <numerusform>%Ln&#xa0;د</numerusform>
+            <numerusform>%Ln&#xa0;د</numerusform>
+            <numerusform>%Ln&#xa0;د</numerusform>
+            <numerusform>%Ln&#xa0;د</numerusform>
+            <numerusform>%Ln&#xa0;د</numerusform>
+            <numerusform>%Ln&#xa0;د</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2440,12 +2444,12 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>%Ln h</source>
         <translation>
-            <numerusform>%Ln س</numerusform>
-            <numerusform>%Ln س</numerusform>
-            <numerusform>%Ln س</numerusform>
-            <numerusform>%Ln س</numerusform>
-            <numerusform>%Ln س</numerusform>
-            <numerusform>%Ln س</numerusform>
+            <numerusform>%Ln&#xa0;س</numerusform>
+            <numerusform>%Ln&#xa0;س</numerusform>
+            <numerusform>%Ln&#xa0;س</numerusform>
+            <numerusform>%Ln&#xa0;س</numerusform>
+            <numerusform>%Ln&#xa0;س</numerusform>
+            <numerusform>%Ln&#xa0;س</numerusform>
         </translation>
     </message>
 </context>
@@ -2470,12 +2474,12 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>%Ln more changes are not shown.</source>
         <translation>
-            <numerusform>لا يُعرض أيضًا: لا تغييرات.</numerusform>
-            <numerusform>لا يُعرض أيضًا: تغيير واحد.</numerusform>
-            <numerusform>لا يُعرض أيضًا: تغييران.</numerusform>
-            <numerusform>لا يُعرض أيضًا: %Ln تغييرات.</numerusform>
-            <numerusform>لا يُعرض أيضًا: %Ln تغييرًا.</numerusform>
-            <numerusform>لا يُعرض أيضًا: %Ln تغيير.</numerusform>
+            <numerusform>لا توجد تغييرات أخرى لا تُعرض.</numerusform>
+            <numerusform>تغيير واحد آخر لا يُعرض.</numerusform>
+            <numerusform>تغييران آخران لا يُعرضان.</numerusform>
+            <numerusform>%Ln تغييرات أخرى لا تُعرض.</numerusform>
+            <numerusform>%Ln تغييرًا آخر لا يُعرض.</numerusform>
+            <numerusform>%Ln تغيير آخر لا يُعرض.</numerusform>
         </translation>
     </message>
     <message>
@@ -2517,10 +2521,6 @@ It is kept in the list of reports.</source>
         <source>Bring back the demo</source>
         <translation>إعادة العرض التجريبي</translation>
     </message>
-    <message>
-        <source>Feedback</source>
-        <translation>ملاحظات</translation>
-    </message>
 </context>
 <context>
     <name>lodestar::ConnectionContent</name>
@@ -2531,17 +2531,17 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1, ended %2</source>
-        <extracomment>%1 as in "1 Sep 2025 to 31 Aug 2027", %2 a date</extracomment>
+        <extracomment>%1 as in &quot;1 Sep 2025 to 31 Aug 2027&quot;, %2 a date</extracomment>
         <translation>%1، انتهت %2</translation>
     </message>
     <message>
         <source>%1, begins %2</source>
-        <extracomment>%1 as in "1 Sep 2025 to 31 Aug 2027", %2 a date</extracomment>
+        <extracomment>%1 as in &quot;1 Sep 2025 to 31 Aug 2027&quot;, %2 a date</extracomment>
         <translation>%1، تبدأ %2</translation>
     </message>
     <message>
         <source>changed %1</source>
-        <extracomment>%1 as in "today, 02:58" or "3 Mar"</extracomment>
+        <extracomment>%1 as in &quot;today, 02:58&quot; or &quot;3 Mar&quot;</extracomment>
         <translation>تغيّرت %1</translation>
     </message>
     <message>
@@ -2594,7 +2594,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>itself</source>
-        <translation>نفسه</translation>
+        <translation>موقّعة ذاتيًا</translation>
     </message>
     <message>
         <source>Valid</source>
@@ -2614,7 +2614,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>The rest was read %1.</source>
-        <extracomment>%1 as in "at 09:26" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 as in &quot;at 09:26&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>قُرئ الباقي %1.</translation>
     </message>
     <message>
@@ -2627,7 +2627,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 could not be read.</source>
-        <extracomment>%1 names of feeds, as in "Partitions and resource groups"</extracomment>
+        <extracomment>%1 names of feeds, as in &quot;Partitions and resource groups&quot;</extracomment>
         <translation>تعذرت قراءة %1.</translation>
     </message>
     <message>
@@ -2636,7 +2636,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Offline since %1</source>
-        <extracomment>%1 as in "02:58" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 as in &quot;02:58&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>غير متصلة منذ %1</translation>
     </message>
     <message>
@@ -2645,7 +2645,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Everything was read %1, in %2.</source>
-        <extracomment>%1 as in "2 min ago" or "at 09:41", %2 a time in seconds</extracomment>
+        <extracomment>%1 as in &quot;2 min ago&quot; or &quot;at 09:41&quot;, %2 a time in seconds</extracomment>
         <translation>قُرئ كل شيء %1، خلال %2.</translation>
     </message>
     <message>
@@ -2662,7 +2662,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1, in %2</source>
-        <extracomment>%1 as in "today, 02:43", %2 a time in seconds</extracomment>
+        <extracomment>%1 as in &quot;today, 02:43&quot;, %2 a time in seconds</extracomment>
         <translation>%1، خلال %2</translation>
     </message>
     <message>
@@ -2703,7 +2703,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Logon</source>
-        <translation>الدخول</translation>
+        <translation>تسجيل الدخول</translation>
     </message>
     <message>
         <source>logon</source>
@@ -2765,7 +2765,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>not reached</source>
-        <translation>لم يُبلغ</translation>
+        <translation>لم يُوصَل إليه</translation>
     </message>
     <message>
         <source>Management Console</source>
@@ -2793,11 +2793,11 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1&#xa0;KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message numerus="yes">
         <source>%Ln entries</source>
@@ -2817,13 +2817,13 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 were last read %2</source>
-        <extracomment>%1 the name of a feed, %2 as in "at 09:26" or "yesterday 21:40"</extracomment>
-        <translation>%1، آخر قراءة %2</translation>
+        <extracomment>%1 the name of a feed, %2 as in &quot;at 09:26&quot; or &quot;yesterday 21:40&quot;</extracomment>
+        <translation>%1: آخر قراءة %2</translation>
     </message>
     <message>
         <source>%1, %2 %3</source>
         <extracomment>%1 the same for another feed, which %2 and %3 add</extracomment>
-        <translation>%1، %2 %3</translation>
+        <translation>%1، %2: %3</translation>
     </message>
     <message>
         <source>%1.</source>
@@ -2832,16 +2832,16 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation>%1 ms</translation>
+        <translation>%1&#xa0;ms</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 ث</translation>
+        <translation>%1&#xa0;ث</translation>
     </message>
     <message>
         <source>at %1</source>
         <extracomment>%1 a time of day</extracomment>
-        <translation>في %1</translation>
+        <translation>الساعة %1</translation>
     </message>
     <message>
         <source>Last attempt</source>
@@ -2859,12 +2859,12 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>The rest is %Ln min old.</source>
         <translation>
-            <numerusform>عمر الباقي %Ln د.</numerusform>
-            <numerusform>عمر الباقي %Ln د.</numerusform>
-            <numerusform>عمر الباقي %Ln د.</numerusform>
-            <numerusform>عمر الباقي %Ln د.</numerusform>
-            <numerusform>عمر الباقي %Ln د.</numerusform>
-            <numerusform>عمر الباقي %Ln د.</numerusform>
+            <numerusform>عمر الباقي %Ln&#xa0;د.</numerusform>
+            <numerusform>عمر الباقي %Ln&#xa0;د.</numerusform>
+            <numerusform>عمر الباقي %Ln&#xa0;د.</numerusform>
+            <numerusform>عمر الباقي %Ln&#xa0;د.</numerusform>
+            <numerusform>عمر الباقي %Ln&#xa0;د.</numerusform>
+            <numerusform>عمر الباقي %Ln&#xa0;د.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2893,12 +2893,12 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>no answer within %Ln s</source>
         <translation>
-            <numerusform>لا إجابة خلال %Ln ث</numerusform>
-            <numerusform>لا إجابة خلال %Ln ث</numerusform>
-            <numerusform>لا إجابة خلال %Ln ث</numerusform>
-            <numerusform>لا إجابة خلال %Ln ث</numerusform>
-            <numerusform>لا إجابة خلال %Ln ث</numerusform>
-            <numerusform>لا إجابة خلال %Ln ث</numerusform>
+            <numerusform>لا إجابة خلال %Ln&#xa0;ث</numerusform>
+            <numerusform>لا إجابة خلال %Ln&#xa0;ث</numerusform>
+            <numerusform>لا إجابة خلال %Ln&#xa0;ث</numerusform>
+            <numerusform>لا إجابة خلال %Ln&#xa0;ث</numerusform>
+            <numerusform>لا إجابة خلال %Ln&#xa0;ث</numerusform>
+            <numerusform>لا إجابة خلال %Ln&#xa0;ث</numerusform>
         </translation>
     </message>
 </context>
@@ -2936,7 +2936,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Good</source>
-        <translation>جيد</translation>
+        <translation>جيدة</translation>
     </message>
     <message>
         <source>%1, updating</source>
@@ -3026,7 +3026,7 @@ It is kept in the list of reports.</source>
     <name>lodestar::DBusMessageService</name>
     <message>
         <source>Open</source>
-        <translation>مفتوح</translation>
+        <translation>فتح</translation>
     </message>
 </context>
 <context>
@@ -3046,26 +3046,26 @@ It is kept in the list of reports.</source>
     <message>
         <source>%1 of %2 answered in full</source>
         <extracomment>%1 of %2 consoles</extracomment>
-        <translation>أجابت كاملة %1 من %2</translation>
+        <translation>أجابت %1 من %2 بالكامل</translation>
     </message>
     <message>
         <source>Read %1.</source>
-        <extracomment>%1 and %2 as in "09:41" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 and %2 as in &quot;09:41&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>قُرئ %1.</translation>
     </message>
     <message>
         <source>Read %1 to %2.</source>
-        <translation>قُرئ %1 إلى %2.</translation>
+        <translation>قُرئ بين %1 و%2.</translation>
     </message>
     <message numerus="yes">
         <source>Next in %Ln min.</source>
         <translation>
-            <numerusform>التالية خلال %Ln د.</numerusform>
-            <numerusform>التالية خلال %Ln د.</numerusform>
-            <numerusform>التالية خلال %Ln د.</numerusform>
-            <numerusform>التالية خلال %Ln د.</numerusform>
-            <numerusform>التالية خلال %Ln د.</numerusform>
-            <numerusform>التالية خلال %Ln د.</numerusform>
+            <numerusform>التالية خلال %Ln&#xa0;د.</numerusform>
+            <numerusform>التالية خلال %Ln&#xa0;د.</numerusform>
+            <numerusform>التالية خلال %Ln&#xa0;د.</numerusform>
+            <numerusform>التالية خلال %Ln&#xa0;د.</numerusform>
+            <numerusform>التالية خلال %Ln&#xa0;د.</numerusform>
+            <numerusform>التالية خلال %Ln&#xa0;د.</numerusform>
         </translation>
     </message>
 </context>
@@ -3082,12 +3082,12 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>Waiting for %1 of %Ln consoles</source>
         <translation>
-            <numerusform>في انتظار وحدات التحكم: %1 من %Ln</numerusform>
-            <numerusform>في انتظار وحدات التحكم: %1 من %Ln</numerusform>
-            <numerusform>في انتظار وحدات التحكم: %1 من %Ln</numerusform>
-            <numerusform>في انتظار وحدات التحكم: %1 من %Ln</numerusform>
-            <numerusform>في انتظار وحدات التحكم: %1 من %Ln</numerusform>
-            <numerusform>في انتظار وحدات التحكم: %1 من %Ln</numerusform>
+            <numerusform>في انتظار %1 من %Ln وحدة</numerusform>
+            <numerusform>في انتظار %1 من وحدة واحدة</numerusform>
+            <numerusform>في انتظار %1 من وحدتين</numerusform>
+            <numerusform>في انتظار %1 من %Ln وحدات</numerusform>
+            <numerusform>في انتظار %1 من %Ln وحدة</numerusform>
+            <numerusform>في انتظار %1 من %Ln وحدة</numerusform>
         </translation>
     </message>
 </context>
@@ -3099,16 +3099,16 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Worse, above</source>
-        <translation>الأسوأ في الأعلى</translation>
+        <translation>أسوأ، في الأعلى</translation>
     </message>
     <message>
         <source>Better, below</source>
-        <translation>الأفضل في الأسفل</translation>
+        <translation>أفضل، في الأسفل</translation>
     </message>
     <message>
         <source>%1 %2 worse, %3 better</source>
         <extracomment>A day, and what a chart tells of it.</extracomment>
-        <translation>%1 %2 أسوأ، %3 أفضل</translation>
+        <translation>%1: أسوأ %2، أفضل %3</translation>
     </message>
     <message>
         <source>%1 %2</source>
@@ -3133,7 +3133,7 @@ It is kept in the list of reports.</source>
     </message>
     <message numerus="yes">
         <source>%1, %Ln days, %2</source>
-        <extracomment>A chart's name, how many days it has, and what it tells of the last.</extracomment>
+        <extracomment>A chart&apos;s name, how many days it has, and what it tells of the last.</extracomment>
         <translation>
             <numerusform>%1، لا أيام، %2</numerusform>
             <numerusform>%1، يوم واحد، %2</numerusform>
@@ -3244,7 +3244,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1, %2</source>
-        <extracomment>The name of a file: what is listed, such as "Managed Systems", and a console's name</extracomment>
+        <extracomment>The name of a file: what is listed, such as &quot;Managed Systems&quot;, and a console&apos;s name</extracomment>
         <translation>%1، %2</translation>
     </message>
 </context>
@@ -3300,12 +3300,12 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 not read</source>
-        <extracomment>%1 the name of a feed, as in "Partitions"</extracomment>
+        <extracomment>%1 the name of a feed, as in &quot;Partitions&quot;</extracomment>
         <translation>لم تُقرأ %1</translation>
     </message>
     <message>
         <source>%1 and %2 not read</source>
-        <extracomment>%1 and %2 names of feeds, as in "Partitions" and "groups"</extracomment>
+        <extracomment>%1 and %2 names of feeds, as in &quot;Partitions&quot; and &quot;groups&quot;</extracomment>
         <translation>لم تُقرأ %1 و%2</translation>
     </message>
     <message>
@@ -3366,12 +3366,12 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>%Ln reports were made on this device. They hold no passwords and are sent nowhere by themselves.</source>
         <translation>
-            <numerusform>أُعد على هذا الجهاز: لا تقارير. دون كلمات مرور، ولا يُرسل شيء من تلقاء نفسه.</numerusform>
-            <numerusform>أُعد على هذا الجهاز: تقرير واحد. دون كلمات مرور، ولا يُرسل شيء من تلقاء نفسه.</numerusform>
-            <numerusform>أُعد على هذا الجهاز: تقريران. دون كلمات مرور، ولا يُرسل شيء من تلقاء نفسه.</numerusform>
-            <numerusform>أُعد على هذا الجهاز: %Ln تقارير. دون كلمات مرور، ولا يُرسل شيء من تلقاء نفسه.</numerusform>
-            <numerusform>أُعد على هذا الجهاز: %Ln تقريرًا. دون كلمات مرور، ولا يُرسل شيء من تلقاء نفسه.</numerusform>
-            <numerusform>أُعد على هذا الجهاز: %Ln تقرير. دون كلمات مرور، ولا يُرسل شيء من تلقاء نفسه.</numerusform>
+            <numerusform>لم يُعد أي تقرير على هذا الجهاز. لا تتضمن التقارير كلمات مرور، ولا تُرسل تلقائيًا.</numerusform>
+            <numerusform>أُعد تقرير واحد على هذا الجهاز. لا يتضمن كلمات مرور، ولا يُرسل تلقائيًا.</numerusform>
+            <numerusform>أُعد تقريران على هذا الجهاز. لا يتضمنان كلمات مرور، ولا يُرسلان تلقائيًا.</numerusform>
+            <numerusform>أُعدت %Ln تقارير على هذا الجهاز. لا تتضمن كلمات مرور، ولا تُرسل تلقائيًا.</numerusform>
+            <numerusform>أُعد %Ln تقريرًا على هذا الجهاز. لا تتضمن كلمات مرور، ولا تُرسل تلقائيًا.</numerusform>
+            <numerusform>أُعد %Ln تقرير على هذا الجهاز. لا تتضمن كلمات مرور، ولا تُرسل تلقائيًا.</numerusform>
         </translation>
     </message>
 </context>
@@ -3426,12 +3426,12 @@ It is kept in the list of reports.</source>
     <name>lodestar::FileSaver</name>
     <message>
         <source>Could not be saved: %1</source>
-        <extracomment>%1 a reason, such as "the disk is full."</extracomment>
+        <extracomment>%1 a reason, such as &quot;the disk is full.&quot;</extracomment>
         <translation>تعذر الحفظ: %1</translation>
     </message>
     <message>
         <source>Saved as %1</source>
-        <extracomment>%1 a file's name</extracomment>
+        <extracomment>%1 a file&apos;s name</extracomment>
         <translation>حُفظ باسم %1</translation>
     </message>
     <message>
@@ -3440,7 +3440,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>There is already a file named %1.</source>
-        <extracomment>%1 a file's name</extracomment>
+        <extracomment>%1 a file&apos;s name</extracomment>
         <translation>يوجد ملف باسم %1.</translation>
     </message>
     <message>
@@ -3480,13 +3480,13 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 to %2</source>
-        <extracomment>%1 and %2 as in "09:41" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 and %2 as in &quot;09:41&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>%1 إلى %2</translation>
     </message>
     <message>
         <source>%1+</source>
         <extracomment>More than can be counted at a glance</extracomment>
-        <translation>+%1</translation>
+        <translation>‎+%1</translation>
     </message>
     <message>
         <source>Show all %1</source>
@@ -3499,41 +3499,41 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>%1 of %Ln consoles were searched.</source>
         <translation>
-            <numerusform>جرى البحث في %1 من %Ln من الوحدات.</numerusform>
-            <numerusform>جرى البحث في %1 من %Ln من الوحدات.</numerusform>
-            <numerusform>جرى البحث في %1 من %Ln من الوحدات.</numerusform>
-            <numerusform>جرى البحث في %1 من %Ln من الوحدات.</numerusform>
-            <numerusform>جرى البحث في %1 من %Ln من الوحدات.</numerusform>
-            <numerusform>جرى البحث في %1 من %Ln من الوحدات.</numerusform>
+            <numerusform>جرى البحث في %1 من %Ln وحدة.</numerusform>
+            <numerusform>جرى البحث في %1 من وحدة واحدة.</numerusform>
+            <numerusform>جرى البحث في %1 من وحدتين.</numerusform>
+            <numerusform>جرى البحث في %1 من %Ln وحدات.</numerusform>
+            <numerusform>جرى البحث في %1 من %Ln وحدة.</numerusform>
+            <numerusform>جرى البحث في %1 من %Ln وحدة.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln things</source>
         <translation>
-            <numerusform>لا أمور</numerusform>
-            <numerusform>أمر واحد</numerusform>
-            <numerusform>أمران</numerusform>
-            <numerusform>%Ln أمور</numerusform>
-            <numerusform>%Ln أمرًا</numerusform>
-            <numerusform>%Ln أمر</numerusform>
+            <numerusform>لا عناصر</numerusform>
+            <numerusform>عنصر واحد</numerusform>
+            <numerusform>عنصران</numerusform>
+            <numerusform>%Ln عناصر</numerusform>
+            <numerusform>%Ln عنصرًا</numerusform>
+            <numerusform>%Ln عنصر</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %Ln consoles</source>
-        <extracomment>Within "2,318 things on 5 of 6 consoles, read 09:41."</extracomment>
+        <extracomment>Within &quot;2,318 things on 5 of 6 consoles, read 09:41.&quot;</extracomment>
         <translation>
-            <numerusform>%1 من %Ln من الوحدات</numerusform>
-            <numerusform>%1 من %Ln من الوحدات</numerusform>
-            <numerusform>%1 من %Ln من الوحدات</numerusform>
-            <numerusform>%1 من %Ln من الوحدات</numerusform>
-            <numerusform>%1 من %Ln من الوحدات</numerusform>
-            <numerusform>%1 من %Ln من الوحدات</numerusform>
+            <numerusform>%1 من %Ln وحدة</numerusform>
+            <numerusform>%1 من وحدة واحدة</numerusform>
+            <numerusform>%1 من وحدتين</numerusform>
+            <numerusform>%1 من %Ln وحدات</numerusform>
+            <numerusform>%1 من %Ln وحدة</numerusform>
+            <numerusform>%1 من %Ln وحدة</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 on %2, read %3.</source>
-        <extracomment>%1 as in "2,318 things", %2 as in "5 of 6 consoles", %3 as in "09:41" or "09:41 to 09:43"</extracomment>
-        <translation>%1 على %2، قُرئ %3.</translation>
+        <extracomment>%1 as in &quot;2,318 things&quot;, %2 as in &quot;5 of 6 consoles&quot;, %3 as in &quot;09:41&quot; or &quot;09:41 to 09:43&quot;</extracomment>
+        <translation>%1 على %2، وقت القراءة %3.</translation>
     </message>
     <message numerus="yes">
         <source>%1 were not read.</source>
@@ -3577,7 +3577,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>X417-2208, or just X417</source>
-        <translation>X417-2208 أو X417 فقط</translation>
+        <translation>‏X417-2208 أو X417 فقط</translation>
     </message>
     <message>
         <source>Event numbers and texts</source>
@@ -3615,7 +3615,7 @@ It is kept in the list of reports.</source>
     <name>lodestar::FindingText</name>
     <message>
         <source>%1, %2</source>
-        <extracomment>A sentence and a further part of it: "System in error" and "X417-2208"</extracomment>
+        <extracomment>A sentence and a further part of it: &quot;System in error&quot; and &quot;X417-2208&quot;</extracomment>
         <translation>%1، %2</translation>
     </message>
     <message>
@@ -3646,7 +3646,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>LED on</source>
-        <translation>LED مضاء</translation>
+        <translation>‏LED مضاء</translation>
     </message>
     <message>
         <source>IO server in error</source>
@@ -3658,7 +3658,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Offline, %1</source>
-        <extracomment>%1 why, as in "connection refused"</extracomment>
+        <extracomment>%1 why, as in &quot;connection refused&quot;</extracomment>
         <translation>غير متصلة، %1</translation>
     </message>
     <message>
@@ -3667,18 +3667,18 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>LED on, system %1</source>
-        <extracomment>%1 the console's word for a system's state</extracomment>
-        <translation>LED مضاء، النظام %1</translation>
+        <extracomment>%1 the console&apos;s word for a system&apos;s state</extracomment>
+        <translation>‏LED مضاء، النظام %1</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %Ln resources in error</source>
         <translation>
-            <numerusform>خطأ في %1 من %Ln من الموارد</numerusform>
-            <numerusform>خطأ في %1 من %Ln من الموارد</numerusform>
-            <numerusform>خطأ في %1 من %Ln من الموارد</numerusform>
-            <numerusform>خطأ في %1 من %Ln من الموارد</numerusform>
-            <numerusform>خطأ في %1 من %Ln من الموارد</numerusform>
-            <numerusform>خطأ في %1 من %Ln من الموارد</numerusform>
+            <numerusform>خطأ في %1 من %Ln مورد</numerusform>
+            <numerusform>خطأ في %1 من مورد واحد</numerusform>
+            <numerusform>خطأ في %1 من موردين</numerusform>
+            <numerusform>خطأ في %1 من %Ln موارد</numerusform>
+            <numerusform>خطأ في %1 من %Ln موردًا</numerusform>
+            <numerusform>خطأ في %1 من %Ln مورد</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3762,8 +3762,8 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>attention LED on</source>
-        <extracomment>%1 the console's word for a system's state</extracomment>
-        <translation>LED الانتباه مضاء</translation>
+        <extracomment>%1 the console&apos;s word for a system&apos;s state</extracomment>
+        <translation>‏LED الانتباه مضاء</translation>
     </message>
     <message>
         <source>system %1</source>
@@ -3772,23 +3772,23 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>%Ln things need attention</source>
         <translation>
-            <numerusform>بحاجة إلى انتباه: لا أمور</numerusform>
-            <numerusform>بحاجة إلى انتباه: أمر واحد</numerusform>
-            <numerusform>بحاجة إلى انتباه: أمران</numerusform>
-            <numerusform>بحاجة إلى انتباه: %Ln أمور</numerusform>
-            <numerusform>بحاجة إلى انتباه: %Ln أمرًا</numerusform>
-            <numerusform>بحاجة إلى انتباه: %Ln أمر</numerusform>
+            <numerusform>لا شيء يحتاج إلى انتباه</numerusform>
+            <numerusform>أمر واحد يحتاج إلى انتباه</numerusform>
+            <numerusform>أمران يحتاجان إلى انتباه</numerusform>
+            <numerusform>%Ln أمور تحتاج إلى انتباه</numerusform>
+            <numerusform>%Ln أمرًا يحتاج إلى انتباه</numerusform>
+            <numerusform>%Ln أمر يحتاج إلى انتباه</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln events are open</source>
         <translation>
-            <numerusform>مفتوح: لا أحداث</numerusform>
-            <numerusform>مفتوح: حدث واحد</numerusform>
-            <numerusform>مفتوح: حدثان</numerusform>
-            <numerusform>مفتوح: %Ln أحداث</numerusform>
-            <numerusform>مفتوح: %Ln حدثًا</numerusform>
-            <numerusform>مفتوح: %Ln حدث</numerusform>
+            <numerusform>لا أحداث مفتوحة</numerusform>
+            <numerusform>حدث واحد مفتوح</numerusform>
+            <numerusform>حدثان مفتوحان</numerusform>
+            <numerusform>%Ln أحداث مفتوحة</numerusform>
+            <numerusform>%Ln حدثًا مفتوحًا</numerusform>
+            <numerusform>%Ln حدث مفتوح</numerusform>
         </translation>
     </message>
     <message>
@@ -3798,12 +3798,12 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>%1 of %Ln consoles answered in full</source>
         <translation>
-            <numerusform>أجابت كاملة %1 من %Ln من الوحدات</numerusform>
-            <numerusform>أجابت كاملة %1 من %Ln من الوحدات</numerusform>
-            <numerusform>أجابت كاملة %1 من %Ln من الوحدات</numerusform>
-            <numerusform>أجابت كاملة %1 من %Ln من الوحدات</numerusform>
-            <numerusform>أجابت كاملة %1 من %Ln من الوحدات</numerusform>
-            <numerusform>أجابت كاملة %1 من %Ln من الوحدات</numerusform>
+            <numerusform>أجابت %1 من %Ln وحدة بالكامل</numerusform>
+            <numerusform>أجابت %1 من وحدة واحدة بالكامل</numerusform>
+            <numerusform>أجابت %1 من وحدتين بالكامل</numerusform>
+            <numerusform>أجابت %1 من %Ln وحدات بالكامل</numerusform>
+            <numerusform>أجابت %1 من %Ln وحدة بالكامل</numerusform>
+            <numerusform>أجابت %1 من %Ln وحدة بالكامل</numerusform>
         </translation>
     </message>
     <message>
@@ -3817,34 +3817,34 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>%1 of %Ln consoles did not answer. What they would report is not known.</source>
         <translation>
-            <numerusform>لم تجب %1 من %Ln من الوحدات. لا يُعرف ما كانت ستبلغ عنه.</numerusform>
-            <numerusform>لم تجب %1 من %Ln من الوحدات. لا يُعرف ما كانت ستبلغ عنه.</numerusform>
-            <numerusform>لم تجب %1 من %Ln من الوحدات. لا يُعرف ما كانت ستبلغ عنه.</numerusform>
-            <numerusform>لم تجب %1 من %Ln من الوحدات. لا يُعرف ما كانت ستبلغ عنه.</numerusform>
-            <numerusform>لم تجب %1 من %Ln من الوحدات. لا يُعرف ما كانت ستبلغ عنه.</numerusform>
-            <numerusform>لم تجب %1 من %Ln من الوحدات. لا يُعرف ما كانت ستبلغ عنه.</numerusform>
+            <numerusform>لم تجب %1 من %Ln وحدة. لا يُعرف ما كانت ستبلغ عنه.</numerusform>
+            <numerusform>لم تجب %1 من وحدة واحدة. لا يُعرف ما كانت ستبلغ عنه.</numerusform>
+            <numerusform>لم تجب %1 من وحدتين. لا يُعرف ما كانت ستبلغ عنه.</numerusform>
+            <numerusform>لم تجب %1 من %Ln وحدات. لا يُعرف ما كانت ستبلغ عنه.</numerusform>
+            <numerusform>لم تجب %1 من %Ln وحدة. لا يُعرف ما كانت ستبلغ عنه.</numerusform>
+            <numerusform>لم تجب %1 من %Ln وحدة. لا يُعرف ما كانت ستبلغ عنه.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln things needed attention there before.</source>
         <translation>
-            <numerusform>كان بحاجة إلى انتباه هناك من قبل: لا أمور.</numerusform>
-            <numerusform>كان بحاجة إلى انتباه هناك من قبل: أمر واحد.</numerusform>
-            <numerusform>كان بحاجة إلى انتباه هناك من قبل: أمران.</numerusform>
-            <numerusform>كان بحاجة إلى انتباه هناك من قبل: %Ln أمور.</numerusform>
-            <numerusform>كان بحاجة إلى انتباه هناك من قبل: %Ln أمرًا.</numerusform>
-            <numerusform>كان بحاجة إلى انتباه هناك من قبل: %Ln أمر.</numerusform>
+            <numerusform>لم يكن شيء هناك يحتاج إلى انتباه من قبل.</numerusform>
+            <numerusform>كان أمر واحد هناك يحتاج إلى انتباه من قبل.</numerusform>
+            <numerusform>كان أمران هناك يحتاجان إلى انتباه من قبل.</numerusform>
+            <numerusform>كانت %Ln أمور هناك تحتاج إلى انتباه من قبل.</numerusform>
+            <numerusform>كان %Ln أمرًا هناك يحتاج إلى انتباه من قبل.</numerusform>
+            <numerusform>كان %Ln أمر هناك يحتاج إلى انتباه من قبل.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln more things are not shown.</source>
         <translation>
-            <numerusform>لا يُعرض أيضًا: لا أمور.</numerusform>
-            <numerusform>لا يُعرض أيضًا: أمر واحد.</numerusform>
-            <numerusform>لا يُعرض أيضًا: أمران.</numerusform>
-            <numerusform>لا يُعرض أيضًا: %Ln أمور.</numerusform>
-            <numerusform>لا يُعرض أيضًا: %Ln أمرًا.</numerusform>
-            <numerusform>لا يُعرض أيضًا: %Ln أمر.</numerusform>
+            <numerusform>لا توجد أمور أخرى لا تُعرض.</numerusform>
+            <numerusform>أمر واحد آخر لا يُعرض.</numerusform>
+            <numerusform>أمران آخران لا يُعرضان.</numerusform>
+            <numerusform>%Ln أمور أخرى لا تُعرض.</numerusform>
+            <numerusform>%Ln أمرًا آخر لا يُعرض.</numerusform>
+            <numerusform>%Ln أمر آخر لا يُعرض.</numerusform>
         </translation>
     </message>
     <message>
@@ -4003,7 +4003,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>open</source>
-        <translation>مفتوح</translation>
+        <translation>مفتوحة</translation>
     </message>
     <message>
         <source>call home</source>
@@ -4077,7 +4077,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>This file is too large for a fleet sheet.</source>
-        <translation>هذا الملف أكبر من جدول وحدات.</translation>
+        <translation>هذا الملف أكبر مما يُقبل لجدول الوحدات.</translation>
     </message>
     <message>
         <source>This is not a CSV file.</source>
@@ -4088,8 +4088,8 @@ It is kept in the list of reports.</source>
         <extracomment>%1 titles of columns</extracomment>
         <translation>
             <numerusform>لا تُقرأ كلمات المرور من جدول أبدًا: تُركت %1.</numerusform>
-            <numerusform>لا تُقرأ كلمات المرور من جدول أبدًا: تُركت %1.</numerusform>
-            <numerusform>لا تُقرأ كلمات المرور من جدول أبدًا: تُركت %1.</numerusform>
+            <numerusform>لا تُقرأ كلمات المرور من جدول أبدًا: تُرك %1.</numerusform>
+            <numerusform>لا تُقرأ كلمات المرور من جدول أبدًا: تُرك %1.</numerusform>
             <numerusform>لا تُقرأ كلمات المرور من جدول أبدًا: تُركت %1.</numerusform>
             <numerusform>لا تُقرأ كلمات المرور من جدول أبدًا: تُركت %1.</numerusform>
             <numerusform>لا تُقرأ كلمات المرور من جدول أبدًا: تُركت %1.</numerusform>
@@ -4155,23 +4155,23 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>tried, about %Ln s left</source>
         <translation>
-            <numerusform>جُرّبت، يبقى نحو %Ln ث</numerusform>
-            <numerusform>جُرّبت، يبقى نحو %Ln ث</numerusform>
-            <numerusform>جُرّبت، يبقى نحو %Ln ث</numerusform>
-            <numerusform>جُرّبت، يبقى نحو %Ln ث</numerusform>
-            <numerusform>جُرّبت، يبقى نحو %Ln ث</numerusform>
-            <numerusform>جُرّبت، يبقى نحو %Ln ث</numerusform>
+            <numerusform>جُرّبت، يبقى نحو %Ln&#xa0;ث</numerusform>
+            <numerusform>جُرّبت، يبقى نحو %Ln&#xa0;ث</numerusform>
+            <numerusform>جُرّبت، يبقى نحو %Ln&#xa0;ث</numerusform>
+            <numerusform>جُرّبت، يبقى نحو %Ln&#xa0;ث</numerusform>
+            <numerusform>جُرّبت، يبقى نحو %Ln&#xa0;ث</numerusform>
+            <numerusform>جُرّبت، يبقى نحو %Ln&#xa0;ث</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>tried, about %Ln min left</source>
         <translation>
-            <numerusform>جُرّبت، يبقى نحو %Ln د</numerusform>
-            <numerusform>جُرّبت، يبقى نحو %Ln د</numerusform>
-            <numerusform>جُرّبت، يبقى نحو %Ln د</numerusform>
-            <numerusform>جُرّبت، يبقى نحو %Ln د</numerusform>
-            <numerusform>جُرّبت، يبقى نحو %Ln د</numerusform>
-            <numerusform>جُرّبت، يبقى نحو %Ln د</numerusform>
+            <numerusform>جُرّبت، يبقى نحو %Ln&#xa0;د</numerusform>
+            <numerusform>جُرّبت، يبقى نحو %Ln&#xa0;د</numerusform>
+            <numerusform>جُرّبت، يبقى نحو %Ln&#xa0;د</numerusform>
+            <numerusform>جُرّبت، يبقى نحو %Ln&#xa0;د</numerusform>
+            <numerusform>جُرّبت، يبقى نحو %Ln&#xa0;د</numerusform>
+            <numerusform>جُرّبت، يبقى نحو %Ln&#xa0;د</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4248,12 +4248,12 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>All %Ln are added together, or none.</source>
         <translation>
-            <numerusform>تُضاف كلها معًا (%Ln) أو لا شيء.</numerusform>
-            <numerusform>تُضاف كلها معًا (%Ln) أو لا شيء.</numerusform>
-            <numerusform>تُضاف كلها معًا (%Ln) أو لا شيء.</numerusform>
-            <numerusform>تُضاف كلها معًا (%Ln) أو لا شيء.</numerusform>
-            <numerusform>تُضاف كلها معًا (%Ln) أو لا شيء.</numerusform>
-            <numerusform>تُضاف كلها معًا (%Ln) أو لا شيء.</numerusform>
+            <numerusform>تُضاف كلها معًا (%Ln)، أو لا يُضاف شيء.</numerusform>
+            <numerusform>تُضاف كلها معًا (%Ln)، أو لا يُضاف شيء.</numerusform>
+            <numerusform>تُضاف كلها معًا (%Ln)، أو لا يُضاف شيء.</numerusform>
+            <numerusform>تُضاف كلها معًا (%Ln)، أو لا يُضاف شيء.</numerusform>
+            <numerusform>تُضاف كلها معًا (%Ln)، أو لا يُضاف شيء.</numerusform>
+            <numerusform>تُضاف كلها معًا (%Ln)، أو لا يُضاف شيء.</numerusform>
         </translation>
     </message>
     <message>
@@ -4321,7 +4321,7 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>Added %Ln consoles</source>
         <translation>
-            <numerusform>أُضيفت لا وحدات تحكم</numerusform>
+            <numerusform>لم تُضف أي وحدة تحكم</numerusform>
             <numerusform>أُضيفت وحدة تحكم واحدة</numerusform>
             <numerusform>أُضيفت وحدتا تحكم</numerusform>
             <numerusform>أُضيفت %Ln وحدات تحكم</numerusform>
@@ -4349,14 +4349,14 @@ It is kept in the list of reports.</source>
     </message>
     <message numerus="yes">
         <source>%Ln in error</source>
-        <extracomment>How many of a group's resources are in error, as in "16 resources, 1 in error"</extracomment>
+        <extracomment>How many of a group&apos;s resources are in error, as in &quot;16 resources, 1 in error&quot;</extracomment>
         <translation>
-            <numerusform>بها خطأ: %Ln</numerusform>
-            <numerusform>بها خطأ: %Ln</numerusform>
-            <numerusform>بها خطأ: %Ln</numerusform>
-            <numerusform>بها خطأ: %Ln</numerusform>
-            <numerusform>بها خطأ: %Ln</numerusform>
-            <numerusform>بها خطأ: %Ln</numerusform>
+            <numerusform>بلا أخطاء</numerusform>
+            <numerusform>خطأ في واحد</numerusform>
+            <numerusform>خطأ في اثنين</numerusform>
+            <numerusform>خطأ في %Ln</numerusform>
+            <numerusform>خطأ في %Ln</numerusform>
+            <numerusform>خطأ في %Ln</numerusform>
         </translation>
     </message>
     <message>
@@ -4365,7 +4365,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Good</source>
-        <translation>جيد</translation>
+        <translation>جيدة</translation>
     </message>
     <message>
         <source>Offline</source>
@@ -4410,7 +4410,7 @@ It is kept in the list of reports.</source>
     <name>lodestar::KeyTable</name>
     <message>
         <source>%1 (%2)</source>
-        <extracomment>A button's tip: what the button does, and the keys that do it</extracomment>
+        <extracomment>A button&apos;s tip: what the button does, and the keys that do it</extracomment>
         <translation>%1 (%2)</translation>
     </message>
 </context>
@@ -4580,7 +4580,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Attention LED On</source>
-        <translation>LED الانتباه مضاء</translation>
+        <translation>‏LED الانتباه مضاء</translation>
     </message>
     <message>
         <source>Available Processing Units</source>
@@ -4599,7 +4599,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>attention LED on</source>
-        <translation>LED الانتباه مضاء</translation>
+        <translation>‏LED الانتباه مضاء</translation>
     </message>
 </context>
 <context>
@@ -4744,8 +4744,8 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 at %2</source>
-        <extracomment>%1 as in "lowest 2.80", %2 a time of day</extracomment>
-        <translation>%1 في %2</translation>
+        <extracomment>%1 as in &quot;lowest 2.80&quot;, %2 a time of day</extracomment>
+        <translation>%1، الساعة %2</translation>
     </message>
     <message>
         <source>%1 all along</source>
@@ -4811,23 +4811,23 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>%Ln samples had no values and are left out</source>
         <translation>
-            <numerusform>تُركت لخلوها من القيم: لا عينات</numerusform>
-            <numerusform>تُركت لخلوها من القيم: عينة واحدة</numerusform>
-            <numerusform>تُركت لخلوها من القيم: عينتان</numerusform>
-            <numerusform>تُركت لخلوها من القيم: %Ln عينات</numerusform>
-            <numerusform>تُركت لخلوها من القيم: %Ln عينة</numerusform>
-            <numerusform>تُركت لخلوها من القيم: %Ln عينة</numerusform>
+            <numerusform>لا عينات بلا قيم</numerusform>
+            <numerusform>عينة واحدة بلا قيم تُركت</numerusform>
+            <numerusform>عينتان بلا قيم تُركتا</numerusform>
+            <numerusform>%Ln عينات بلا قيم تُركت</numerusform>
+            <numerusform>%Ln عينة بلا قيم تُركت</numerusform>
+            <numerusform>%Ln عينة بلا قيم تُركت</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln samples had no time and are left out of the chart</source>
         <translation>
-            <numerusform>تُركت من المخطط لخلوها من الوقت: لا عينات</numerusform>
-            <numerusform>تُركت من المخطط لخلوها من الوقت: عينة واحدة</numerusform>
-            <numerusform>تُركت من المخطط لخلوها من الوقت: عينتان</numerusform>
-            <numerusform>تُركت من المخطط لخلوها من الوقت: %Ln عينات</numerusform>
-            <numerusform>تُركت من المخطط لخلوها من الوقت: %Ln عينة</numerusform>
-            <numerusform>تُركت من المخطط لخلوها من الوقت: %Ln عينة</numerusform>
+            <numerusform>لا عينات بلا وقت</numerusform>
+            <numerusform>عينة واحدة بلا وقت تُركت من المخطط</numerusform>
+            <numerusform>عينتان بلا وقت تُركتا من المخطط</numerusform>
+            <numerusform>%Ln عينات بلا وقت تُركت من المخطط</numerusform>
+            <numerusform>%Ln عينة بلا وقت تُركت من المخطط</numerusform>
+            <numerusform>%Ln عينة بلا وقت تُركت من المخطط</numerusform>
         </translation>
     </message>
     <message>
@@ -4847,7 +4847,7 @@ It is kept in the list of reports.</source>
     <name>lodestar::PlotChartView</name>
     <message>
         <source>%1 %2</source>
-        <extracomment>A data set's name and its latest value, as in "Processors Used 6.5".</extracomment>
+        <extracomment>A data set&apos;s name and its latest value, as in &quot;Processors Used 6.5&quot;.</extracomment>
         <translation>%1 %2</translation>
     </message>
     <message>
@@ -4857,7 +4857,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1, %2: %3</source>
-        <extracomment>A data set's name, the label of one of its values, and the value.</extracomment>
+        <extracomment>A data set&apos;s name, the label of one of its values, and the value.</extracomment>
         <translation>%1، %2: %3</translation>
     </message>
 </context>
@@ -4916,7 +4916,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 good, %2 off, %3 alert, %4 error</source>
-        <extracomment>A resource group's states, read aloud: counts</extracomment>
+        <extracomment>A resource group&apos;s states, read aloud: counts</extracomment>
         <translation>جيد %1، متوقف %2، تنبيه %3، خطأ %4</translation>
     </message>
 </context>
@@ -4939,12 +4939,12 @@ It is kept in the list of reports.</source>
     <name>lodestar::ReadingMark</name>
     <message>
         <source>%1 missing</source>
-        <extracomment>%1 the name of a feed, as in "partitions"</extracomment>
+        <extracomment>%1 the name of a feed, as in &quot;partitions&quot;</extracomment>
         <translation>تنقص %1</translation>
     </message>
     <message>
         <source>offline %1</source>
-        <extracomment>%1 as in "since 02:58"</extracomment>
+        <extracomment>%1 as in &quot;since 02:58&quot;</extracomment>
         <translation>غير متصلة %1</translation>
     </message>
     <message numerus="yes">
@@ -4988,7 +4988,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>nothing within 10 s</source>
-        <translation>لا شيء خلال 10 ث</translation>
+        <translation>لا شيء خلال 10&#xa0;ث</translation>
     </message>
     <message>
         <source>name not found</source>
@@ -5042,7 +5042,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>It did not answer within 10 s.</source>
-        <translation>لم تجب خلال 10 ث.</translation>
+        <translation>لم تجب خلال 10&#xa0;ث.</translation>
     </message>
     <message>
         <source>Its name has no address.</source>
@@ -5109,7 +5109,7 @@ It is kept in the list of reports.</source>
         <translation>تحقق من كتابة العنوان.</translation>
     </message>
     <message>
-        <source>Check this device's network.</source>
+        <source>Check this device&apos;s network.</source>
         <translation>تحقق من شبكة هذا الجهاز.</translation>
     </message>
     <message>
@@ -5239,7 +5239,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Serviceable event #%1</source>
-        <extracomment>%1 the event's number</extracomment>
+        <extracomment>%1 the event&apos;s number</extracomment>
         <translation>حدث صيانة #%1</translation>
     </message>
     <message>
@@ -5249,7 +5249,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Attention LED On</source>
-        <translation>LED الانتباه مضاء</translation>
+        <translation>‏LED الانتباه مضاء</translation>
     </message>
     <message>
         <source>Available Processing Units</source>
@@ -5268,7 +5268,7 @@ It is kept in the list of reports.</source>
         <translation>
             <numerusform>ولا مرة أخرى</numerusform>
             <numerusform>مرة واحدة أخرى</numerusform>
-            <numerusform>مرتان أخرى</numerusform>
+            <numerusform>مرتان أخريان</numerusform>
             <numerusform>%Ln مرات أخرى</numerusform>
             <numerusform>%Ln مرة أخرى</numerusform>
             <numerusform>%Ln مرة أخرى</numerusform>
@@ -5341,7 +5341,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Prob Mgmt Hardware Record</source>
-        <translation>سجل عتاد المشكلة</translation>
+        <translation>سجل عتاد إدارة المشكلات</translation>
     </message>
     <message>
         <source>Approval State</source>
@@ -5385,11 +5385,11 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Reporting MTMS</source>
-        <translation>MTMS المبلغ</translation>
+        <translation>‏MTMS المبلغ</translation>
     </message>
     <message>
         <source>Failing MTMS</source>
-        <translation>MTMS المعطل</translation>
+        <translation>‏MTMS المعطل</translation>
     </message>
     <message>
         <source>Event Text</source>
@@ -5413,7 +5413,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Mgmt Console MTMS</source>
-        <translation>MTMS وحدة الإدارة</translation>
+        <translation>‏MTMS وحدة الإدارة</translation>
     </message>
     <message>
         <source>Part Number</source>
@@ -5491,7 +5491,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Favourite</source>
-        <translation>مفضلة</translation>
+        <translation>المفضلة</translation>
     </message>
 </context>
 <context>
@@ -5526,7 +5526,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Last read in full at %1</source>
-        <translation>آخر قراءة كاملة في %1</translation>
+        <translation>آخر قراءة كاملة: %1</translation>
     </message>
     <message>
         <source>%1 is offline</source>
@@ -5552,9 +5552,9 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1: %2</source>
-        <extracomment>%1 a console, %2 as in "Partitions not read"
+        <extracomment>%1 a console, %2 as in &quot;Partitions not read&quot;
 ----------
-%1 a console, %2 as in "3 things got worse"</extracomment>
+%1 a console, %2 as in &quot;3 things got worse&quot;</extracomment>
         <translation>%1: %2</translation>
     </message>
     <message>
@@ -5575,7 +5575,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 incomplete</source>
-        <translation>%1 غير مكتمل</translation>
+        <translation>غير مكتمل: %1</translation>
     </message>
     <message>
         <source>not read in full</source>
@@ -5583,17 +5583,17 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>LED on at %1</source>
-        <translation>LED مضاء على %1</translation>
+        <translation>‏LED مضاء: %1</translation>
     </message>
     <message numerus="yes">
         <source>%Ln new events</source>
         <translation>
-            <numerusform>أحداث جديدة: %Ln</numerusform>
-            <numerusform>أحداث جديدة: %Ln</numerusform>
-            <numerusform>أحداث جديدة: %Ln</numerusform>
-            <numerusform>أحداث جديدة: %Ln</numerusform>
-            <numerusform>أحداث جديدة: %Ln</numerusform>
-            <numerusform>أحداث جديدة: %Ln</numerusform>
+            <numerusform>لا أحداث جديدة</numerusform>
+            <numerusform>حدث جديد</numerusform>
+            <numerusform>حدثان جديدان</numerusform>
+            <numerusform>%Ln أحداث جديدة</numerusform>
+            <numerusform>%Ln حدثًا جديدًا</numerusform>
+            <numerusform>%Ln حدث جديد</numerusform>
         </translation>
     </message>
     <message>
@@ -5603,131 +5603,131 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>%Ln consoles offline</source>
         <translation>
-            <numerusform>وحدات غير متصلة: %Ln</numerusform>
-            <numerusform>وحدات غير متصلة: %Ln</numerusform>
-            <numerusform>وحدات غير متصلة: %Ln</numerusform>
-            <numerusform>وحدات غير متصلة: %Ln</numerusform>
-            <numerusform>وحدات غير متصلة: %Ln</numerusform>
-            <numerusform>وحدات غير متصلة: %Ln</numerusform>
+            <numerusform>لا وحدات غير متصلة</numerusform>
+            <numerusform>وحدة غير متصلة</numerusform>
+            <numerusform>وحدتان غير متصلتين</numerusform>
+            <numerusform>%Ln وحدات غير متصلة</numerusform>
+            <numerusform>%Ln وحدة غير متصلة</numerusform>
+            <numerusform>%Ln وحدة غير متصلة</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln systems in error</source>
         <translation>
-            <numerusform>أنظمة بها خطأ: %Ln</numerusform>
-            <numerusform>أنظمة بها خطأ: %Ln</numerusform>
-            <numerusform>أنظمة بها خطأ: %Ln</numerusform>
-            <numerusform>أنظمة بها خطأ: %Ln</numerusform>
-            <numerusform>أنظمة بها خطأ: %Ln</numerusform>
-            <numerusform>أنظمة بها خطأ: %Ln</numerusform>
+            <numerusform>لا أنظمة بها خطأ</numerusform>
+            <numerusform>نظام به خطأ</numerusform>
+            <numerusform>نظامان بهما خطأ</numerusform>
+            <numerusform>%Ln أنظمة بها خطأ</numerusform>
+            <numerusform>%Ln نظامًا به خطأ</numerusform>
+            <numerusform>%Ln نظام به خطأ</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln systems incomplete</source>
         <translation>
-            <numerusform>أنظمة غير مكتملة: %Ln</numerusform>
-            <numerusform>أنظمة غير مكتملة: %Ln</numerusform>
-            <numerusform>أنظمة غير مكتملة: %Ln</numerusform>
-            <numerusform>أنظمة غير مكتملة: %Ln</numerusform>
-            <numerusform>أنظمة غير مكتملة: %Ln</numerusform>
-            <numerusform>أنظمة غير مكتملة: %Ln</numerusform>
+            <numerusform>لا أنظمة غير مكتملة</numerusform>
+            <numerusform>نظام غير مكتمل</numerusform>
+            <numerusform>نظامان غير مكتملين</numerusform>
+            <numerusform>%Ln أنظمة غير مكتملة</numerusform>
+            <numerusform>%Ln نظامًا غير مكتمل</numerusform>
+            <numerusform>%Ln نظام غير مكتمل</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln IO servers in error</source>
         <translation>
-            <numerusform>خوادم I/O بها خطأ: %Ln</numerusform>
-            <numerusform>خوادم I/O بها خطأ: %Ln</numerusform>
-            <numerusform>خوادم I/O بها خطأ: %Ln</numerusform>
-            <numerusform>خوادم I/O بها خطأ: %Ln</numerusform>
-            <numerusform>خوادم I/O بها خطأ: %Ln</numerusform>
-            <numerusform>خوادم I/O بها خطأ: %Ln</numerusform>
+            <numerusform>لا خوادم I/O بها خطأ</numerusform>
+            <numerusform>خادم I/O به خطأ</numerusform>
+            <numerusform>خادما I/O بهما خطأ</numerusform>
+            <numerusform>%Ln خوادم I/O بها خطأ</numerusform>
+            <numerusform>%Ln خادم I/O به خطأ</numerusform>
+            <numerusform>%Ln خادم I/O به خطأ</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln partitions in error</source>
         <translation>
-            <numerusform>أقسام بها خطأ: %Ln</numerusform>
-            <numerusform>أقسام بها خطأ: %Ln</numerusform>
-            <numerusform>أقسام بها خطأ: %Ln</numerusform>
-            <numerusform>أقسام بها خطأ: %Ln</numerusform>
-            <numerusform>أقسام بها خطأ: %Ln</numerusform>
-            <numerusform>أقسام بها خطأ: %Ln</numerusform>
+            <numerusform>لا أقسام بها خطأ</numerusform>
+            <numerusform>قسم به خطأ</numerusform>
+            <numerusform>قسمان بهما خطأ</numerusform>
+            <numerusform>%Ln أقسام بها خطأ</numerusform>
+            <numerusform>%Ln قسمًا به خطأ</numerusform>
+            <numerusform>%Ln قسم به خطأ</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln consoles not read in full</source>
         <translation>
-            <numerusform>وحدات لم تُقرأ كاملة: %Ln</numerusform>
-            <numerusform>وحدات لم تُقرأ كاملة: %Ln</numerusform>
-            <numerusform>وحدات لم تُقرأ كاملة: %Ln</numerusform>
-            <numerusform>وحدات لم تُقرأ كاملة: %Ln</numerusform>
-            <numerusform>وحدات لم تُقرأ كاملة: %Ln</numerusform>
-            <numerusform>وحدات لم تُقرأ كاملة: %Ln</numerusform>
+            <numerusform>لا وحدات لم تُقرأ كاملة</numerusform>
+            <numerusform>وحدة لم تُقرأ كاملة</numerusform>
+            <numerusform>وحدتان لم تُقرآ كاملتين</numerusform>
+            <numerusform>%Ln وحدات لم تُقرأ كاملة</numerusform>
+            <numerusform>%Ln وحدة لم تُقرأ كاملة</numerusform>
+            <numerusform>%Ln وحدة لم تُقرأ كاملة</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln IO servers stopped</source>
         <translation>
-            <numerusform>خوادم I/O متوقفة: %Ln</numerusform>
-            <numerusform>خوادم I/O متوقفة: %Ln</numerusform>
-            <numerusform>خوادم I/O متوقفة: %Ln</numerusform>
-            <numerusform>خوادم I/O متوقفة: %Ln</numerusform>
-            <numerusform>خوادم I/O متوقفة: %Ln</numerusform>
-            <numerusform>خوادم I/O متوقفة: %Ln</numerusform>
+            <numerusform>لا خوادم I/O متوقفة</numerusform>
+            <numerusform>خادم I/O متوقف</numerusform>
+            <numerusform>خادما I/O متوقفان</numerusform>
+            <numerusform>%Ln خوادم I/O متوقفة</numerusform>
+            <numerusform>%Ln خادم I/O متوقفًا</numerusform>
+            <numerusform>%Ln خادم I/O متوقف</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln partitions stopped</source>
         <translation>
-            <numerusform>أقسام متوقفة: %Ln</numerusform>
-            <numerusform>أقسام متوقفة: %Ln</numerusform>
-            <numerusform>أقسام متوقفة: %Ln</numerusform>
-            <numerusform>أقسام متوقفة: %Ln</numerusform>
-            <numerusform>أقسام متوقفة: %Ln</numerusform>
-            <numerusform>أقسام متوقفة: %Ln</numerusform>
+            <numerusform>لا أقسام متوقفة</numerusform>
+            <numerusform>قسم متوقف</numerusform>
+            <numerusform>قسمان متوقفان</numerusform>
+            <numerusform>%Ln أقسام متوقفة</numerusform>
+            <numerusform>%Ln قسمًا متوقفًا</numerusform>
+            <numerusform>%Ln قسم متوقف</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln LEDs on</source>
         <translation>
-            <numerusform>مصابيح LED مضاءة: %Ln</numerusform>
-            <numerusform>مصابيح LED مضاءة: %Ln</numerusform>
-            <numerusform>مصابيح LED مضاءة: %Ln</numerusform>
-            <numerusform>مصابيح LED مضاءة: %Ln</numerusform>
-            <numerusform>مصابيح LED مضاءة: %Ln</numerusform>
-            <numerusform>مصابيح LED مضاءة: %Ln</numerusform>
+            <numerusform>لا مصابيح LED مضاءة</numerusform>
+            <numerusform>مصباح LED مضاء</numerusform>
+            <numerusform>مصباحا LED مضاءان</numerusform>
+            <numerusform>%Ln مصابيح LED مضاءة</numerusform>
+            <numerusform>%Ln مصباح LED مضاء</numerusform>
+            <numerusform>%Ln مصباح LED مضاء</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln groups in error</source>
         <translation>
-            <numerusform>مجموعات بها خطأ: %Ln</numerusform>
-            <numerusform>مجموعات بها خطأ: %Ln</numerusform>
-            <numerusform>مجموعات بها خطأ: %Ln</numerusform>
-            <numerusform>مجموعات بها خطأ: %Ln</numerusform>
-            <numerusform>مجموعات بها خطأ: %Ln</numerusform>
-            <numerusform>مجموعات بها خطأ: %Ln</numerusform>
+            <numerusform>لا مجموعات بها خطأ</numerusform>
+            <numerusform>مجموعة بها خطأ</numerusform>
+            <numerusform>مجموعتان بهما خطأ</numerusform>
+            <numerusform>%Ln مجموعات بها خطأ</numerusform>
+            <numerusform>%Ln مجموعة بها خطأ</numerusform>
+            <numerusform>%Ln مجموعة بها خطأ</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln things got worse</source>
         <translation>
-            <numerusform>ساء: لا أمور</numerusform>
-            <numerusform>ساء: أمر واحد</numerusform>
-            <numerusform>ساء: أمران</numerusform>
-            <numerusform>ساء: %Ln أمور</numerusform>
-            <numerusform>ساء: %Ln أمرًا</numerusform>
-            <numerusform>ساء: %Ln أمر</numerusform>
+            <numerusform>لم يسؤ شيء</numerusform>
+            <numerusform>ساء أمر واحد</numerusform>
+            <numerusform>ساء أمران</numerusform>
+            <numerusform>ساءت %Ln أمور</numerusform>
+            <numerusform>ساء %Ln أمرًا</numerusform>
+            <numerusform>ساء %Ln أمر</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 on %Ln consoles</source>
-        <extracomment>%1 as in "7 things got worse", %n consoles</extracomment>
+        <extracomment>%1 as in &quot;7 things got worse&quot;, %n consoles</extracomment>
         <translation>
-            <numerusform>%1 على لا وحدات تحكم</numerusform>
+            <numerusform>%1 على %Ln وحدة تحكم</numerusform>
             <numerusform>%1 على وحدة تحكم واحدة</numerusform>
-            <numerusform>%1 على وحدتا تحكم</numerusform>
+            <numerusform>%1 على وحدتي تحكم</numerusform>
             <numerusform>%1 على %Ln وحدات تحكم</numerusform>
             <numerusform>%1 على %Ln وحدة تحكم</numerusform>
             <numerusform>%1 على %Ln وحدة تحكم</numerusform>
@@ -5736,12 +5736,12 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>%Ln things remain</source>
         <translation>
-            <numerusform>يبقى: لا أمور</numerusform>
-            <numerusform>يبقى: أمر واحد</numerusform>
-            <numerusform>يبقى: أمران</numerusform>
-            <numerusform>يبقى: %Ln أمور</numerusform>
-            <numerusform>يبقى: %Ln أمرًا</numerusform>
-            <numerusform>يبقى: %Ln أمر</numerusform>
+            <numerusform>لم يبق شيء</numerusform>
+            <numerusform>يبقى أمر واحد</numerusform>
+            <numerusform>يبقى أمران</numerusform>
+            <numerusform>تبقى %Ln أمور</numerusform>
+            <numerusform>يبقى %Ln أمرًا</numerusform>
+            <numerusform>يبقى %Ln أمر</numerusform>
         </translation>
     </message>
     <message>
@@ -5750,7 +5750,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1: %2 read again</source>
-        <extracomment>%1 a console, %2 the name of a feed, as in "Partitions"</extracomment>
+        <extracomment>%1 a console, %2 the name of a feed, as in &quot;Partitions&quot;</extracomment>
         <translation>%1: قُرئت %2 مجددًا</translation>
     </message>
     <message>
@@ -5759,23 +5759,23 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 is %2 again</source>
-        <extracomment>%1 a name, %2 the console's word for a state</extracomment>
+        <extracomment>%1 a name, %2 the console&apos;s word for a state</extracomment>
         <translation>%1 مجددًا في حالة %2</translation>
     </message>
     <message numerus="yes">
         <source>%Ln things got better</source>
         <translation>
-            <numerusform>تحسّن: لا أمور</numerusform>
-            <numerusform>تحسّن: أمر واحد</numerusform>
-            <numerusform>تحسّن: أمران</numerusform>
-            <numerusform>تحسّن: %Ln أمور</numerusform>
-            <numerusform>تحسّن: %Ln أمرًا</numerusform>
-            <numerusform>تحسّن: %Ln أمر</numerusform>
+            <numerusform>لم يتحسّن شيء</numerusform>
+            <numerusform>تحسّن أمر واحد</numerusform>
+            <numerusform>تحسّن أمران</numerusform>
+            <numerusform>تحسّنت %Ln أمور</numerusform>
+            <numerusform>تحسّن %Ln أمرًا</numerusform>
+            <numerusform>تحسّن %Ln أمر</numerusform>
         </translation>
     </message>
     <message>
         <source>After %1</source>
-        <extracomment>%1 a console, %2 as in "42 min"</extracomment>
+        <extracomment>%1 a console, %2 as in &quot;42 min&quot;</extracomment>
         <translation>بعد %1</translation>
     </message>
     <message>
@@ -5784,7 +5784,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>In the night, %1</source>
-        <extracomment>%1 as in "5 things got worse"</extracomment>
+        <extracomment>%1 as in &quot;5 things got worse&quot;</extracomment>
         <translation>خلال الليل، %1</translation>
     </message>
     <message>
@@ -5794,23 +5794,23 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>%Ln of them still need attention</source>
         <translation>
-            <numerusform>ما زال يحتاج إلى انتباه: %Ln</numerusform>
-            <numerusform>ما زال يحتاج إلى انتباه: %Ln</numerusform>
-            <numerusform>ما زال يحتاج إلى انتباه: %Ln</numerusform>
-            <numerusform>ما زال يحتاج إلى انتباه: %Ln</numerusform>
-            <numerusform>ما زال يحتاج إلى انتباه: %Ln</numerusform>
-            <numerusform>ما زال يحتاج إلى انتباه: %Ln</numerusform>
+            <numerusform>لم يعد أي منها يحتاج إلى انتباه</numerusform>
+            <numerusform>ما زال أحدها يحتاج إلى انتباه</numerusform>
+            <numerusform>ما زال اثنان منها يحتاجان إلى انتباه</numerusform>
+            <numerusform>ما زالت %Ln منها تحتاج إلى انتباه</numerusform>
+            <numerusform>ما زالت %Ln منها تحتاج إلى انتباه</numerusform>
+            <numerusform>ما زالت %Ln منها تحتاج إلى انتباه</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln consoles need attention</source>
         <translation>
-            <numerusform>تحتاج إلى انتباه: لا وحدات تحكم</numerusform>
-            <numerusform>تحتاج إلى انتباه: وحدة تحكم واحدة</numerusform>
-            <numerusform>تحتاج إلى انتباه: وحدتا تحكم</numerusform>
-            <numerusform>تحتاج إلى انتباه: %Ln وحدات تحكم</numerusform>
-            <numerusform>تحتاج إلى انتباه: %Ln وحدة تحكم</numerusform>
-            <numerusform>تحتاج إلى انتباه: %Ln وحدة تحكم</numerusform>
+            <numerusform>لا تحتاج أي وحدة تحكم إلى انتباه</numerusform>
+            <numerusform>وحدة تحكم واحدة تحتاج إلى انتباه</numerusform>
+            <numerusform>وحدتا تحكم تحتاجان إلى انتباه</numerusform>
+            <numerusform>%Ln وحدات تحكم تحتاج إلى انتباه</numerusform>
+            <numerusform>%Ln وحدة تحكم تحتاج إلى انتباه</numerusform>
+            <numerusform>%Ln وحدة تحكم تحتاج إلى انتباه</numerusform>
         </translation>
     </message>
     <message>
@@ -5823,7 +5823,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Lodestar can reach you</source>
-        <translation>يستطيع Lodestar الوصول إليك</translation>
+        <translation>يستطيع Lodestar إعلامك</translation>
     </message>
     <message>
         <source>This is how a message looks</source>
@@ -5834,7 +5834,7 @@ It is kept in the list of reports.</source>
     <name>lodestar::WatchText</name>
     <message>
         <source>every %1</source>
-        <extracomment>%1 as in "15 min"</extracomment>
+        <extracomment>%1 as in &quot;15 min&quot;</extracomment>
         <translation>كل %1</translation>
     </message>
     <message>
@@ -5847,11 +5847,11 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>open</source>
-        <translation>مفتوح</translation>
+        <translation>المفتوحة</translation>
     </message>
     <message>
         <source>open, call home</source>
-        <translation>مفتوحة، إبلاغ الصانع</translation>
+        <translation>المفتوحة، إبلاغ الصانع</translation>
     </message>
     <message>
         <source>all %1</source>
@@ -5865,34 +5865,34 @@ It is kept in the list of reports.</source>
         <source>%1 are left out until you refresh them by hand: their certificates changed.</source>
         <extracomment>%1 the names of so many consoles</extracomment>
         <translation>
-            <numerusform>تبقى %1 خارجًا حتى تحدّث بيدك: تغيّرت الشهادة.</numerusform>
-            <numerusform>تبقى %1 خارجًا حتى تحدّث بيدك: تغيّرت الشهادة.</numerusform>
-            <numerusform>تبقى %1 خارجًا حتى تحدّث بيدك: تغيّرت الشهادة.</numerusform>
-            <numerusform>تبقى %1 خارجًا حتى تحدّث بيدك: تغيّرت الشهادة.</numerusform>
-            <numerusform>تبقى %1 خارجًا حتى تحدّث بيدك: تغيّرت الشهادة.</numerusform>
-            <numerusform>تبقى %1 خارجًا حتى تحدّث بيدك: تغيّرت الشهادة.</numerusform>
+            <numerusform>تُستبعد %1 حتى تحدّثها يدويًا: تغيّرت شهاداتها.</numerusform>
+            <numerusform>تُستبعد %1 حتى تحدّثها يدويًا: تغيّرت شهادتها.</numerusform>
+            <numerusform>تُستبعد %1 حتى تحدّثهما يدويًا: تغيّرت شهادتاهما.</numerusform>
+            <numerusform>تُستبعد %1 حتى تحدّثها يدويًا: تغيّرت شهاداتها.</numerusform>
+            <numerusform>تُستبعد %1 حتى تحدّثها يدويًا: تغيّرت شهاداتها.</numerusform>
+            <numerusform>تُستبعد %1 حتى تحدّثها يدويًا: تغيّرت شهاداتها.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln h</source>
         <translation>
-            <numerusform>%Ln س</numerusform>
-            <numerusform>%Ln س</numerusform>
-            <numerusform>%Ln س</numerusform>
-            <numerusform>%Ln س</numerusform>
-            <numerusform>%Ln س</numerusform>
-            <numerusform>%Ln س</numerusform>
+            <numerusform>%Ln&#xa0;س</numerusform>
+            <numerusform>%Ln&#xa0;س</numerusform>
+            <numerusform>%Ln&#xa0;س</numerusform>
+            <numerusform>%Ln&#xa0;س</numerusform>
+            <numerusform>%Ln&#xa0;س</numerusform>
+            <numerusform>%Ln&#xa0;س</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln min</source>
         <translation>
-            <numerusform>%Ln د</numerusform>
-            <numerusform>%Ln د</numerusform>
-            <numerusform>%Ln د</numerusform>
-            <numerusform>%Ln د</numerusform>
-            <numerusform>%Ln د</numerusform>
-            <numerusform>%Ln د</numerusform>
+            <numerusform>%Ln&#xa0;د</numerusform>
+            <numerusform>%Ln&#xa0;د</numerusform>
+            <numerusform>%Ln&#xa0;د</numerusform>
+            <numerusform>%Ln&#xa0;د</numerusform>
+            <numerusform>%Ln&#xa0;د</numerusform>
+            <numerusform>%Ln&#xa0;د</numerusform>
         </translation>
     </message>
 </context>
@@ -5904,12 +5904,12 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>This system shows no messages. Attention still counts.</source>
-        <translation>هذا النظام لا يعرض رسائل. يبقى الانتباه يعدّ.</translation>
+        <translation>هذا النظام لا يعرض رسائل. يستمر العدّ في «الانتباه».</translation>
     </message>
     <message>
         <source>Reading goes on. At %1 one message sums up the night, if anything got worse.</source>
         <extracomment>%1 a time of day</extracomment>
-        <translation>تستمر القراءة. في %1 تلخص رسالة واحدة الليل إن ساء شيء.</translation>
+        <translation>تستمر القراءة. عند الساعة %1 تلخص رسالة واحدة ما جرى ليلاً، إن ساء شيء.</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -5917,7 +5917,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Every</source>
-        <translation>كل</translation>
+        <translation>الفاصل الزمني</translation>
     </message>
     <message>
         <source>New Events</source>
@@ -5958,9 +5958,9 @@ It is kept in the list of reports.</source>
         <translation>الخروج بعد رسم أول شاشة، للقياس.</translation>
     </message>
     <message>
-        <source>Speak this language instead of the system's (en, de, fr, es, ja, ar).</source>
+        <source>Speak this language instead of the system&apos;s (en, de, fr, es, ja, ar).</source>
         <extracomment>In brackets codes, which stay as they are</extracomment>
-        <translation>التحدث بهذه اللغة بدل لغة النظام (en، de، fr، es، ja، ar).</translation>
+        <translation>استخدام هذه اللغة بدل لغة النظام (en، de، fr، es، ja، ar).</translation>
     </message>
 </context>
 </TS>

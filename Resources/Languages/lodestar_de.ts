@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>Severity</source>
-        <translation>Schwere</translation>
+        <translation>Schweregrad</translation>
     </message>
     <message>
         <source>Console</source>
@@ -78,14 +78,14 @@
     </message>
     <message>
         <source>Attention</source>
-        <translation>Achtung</translation>
+        <translation>Auffälliges</translation>
     </message>
 </context>
 <context>
     <name>AttentionWatchButton</name>
     <message>
         <source>Watch</source>
-        <translation>Wache</translation>
+        <translation>Überwachung</translation>
     </message>
 </context>
 <context>
@@ -133,7 +133,7 @@
         <translation>Durch Kommas getrennte Werte schreiben.</translation>
     </message>
     <message>
-        <source>Use this data folder instead of Lodestar's own.</source>
+        <source>Use this data folder instead of Lodestar&apos;s own.</source>
         <translation>Diesen Datenordner statt des eigenen von Lodestar benutzen.</translation>
     </message>
     <message>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>Watches Corvel consoles and changes nothing.</source>
-        <translation>Beobachtet Corvel-Konsolen und ändert nichts.</translation>
+        <translation>Überwacht Corvel-Konsolen und ändert nichts.</translation>
     </message>
     <message>
         <source>With every command:</source>
@@ -203,11 +203,11 @@
     </message>
     <message>
         <source>List everything that needs attention. The exit code as with status.</source>
-        <translation>Alles aufzählen, was Aufmerksamkeit verlangt. Exit-Code wie bei status.</translation>
+        <translation>Alles auflisten, was Aufmerksamkeit erfordert. Exit-Code wie bei status.</translation>
     </message>
     <message>
         <source>List consoles, systems, io-servers, partitions, events or groups.</source>
-        <translation>consoles, systems, io-servers, partitions, events oder groups aufzählen.</translation>
+        <translation>consoles, systems, io-servers, partitions, events oder groups auflisten.</translation>
     </message>
     <message>
         <source>Show every field as a column, not only the usual ones.</source>
@@ -219,7 +219,7 @@
     </message>
     <message>
         <source>List serviceable events.</source>
-        <translation>Serviceereignisse aufzählen.</translation>
+        <translation>Serviceereignisse auflisten.</translation>
     </message>
     <message>
         <source>Only open ones.</source>
@@ -231,7 +231,7 @@
     </message>
     <message>
         <source>sent, newest (as at first), status or code.</source>
-        <translation>sent, newest (von vornherein), status oder code.</translation>
+        <translation>sent, newest (ohne Angabe), status oder code.</translation>
     </message>
     <message>
         <source>Show processors and memory of a system over the last half day.</source>
@@ -246,12 +246,12 @@
         <translation>Die Konsolen immer wieder lesen und je Änderung eine Zeile schreiben.</translation>
     </message>
     <message>
-        <source>Minutes between readings, or 30s, 2h; at first as Lodestar's Watch has it.</source>
-        <translation>Minuten zwischen dem Lesen, oder 30s, 2h; von vornherein wie Lodestars Wache.</translation>
+        <source>Minutes between readings, or 30s, 2h; at first as Lodestar&apos;s Watch has it.</source>
+        <translation>Minuten zwischen den Lesevorgängen, oder 30s, 2h; ohne Angabe wie in Lodestars Überwachung.</translation>
     </message>
     <message>
         <source>End after so many readings.</source>
-        <translation>Nach so vielen Malen Lesen enden.</translation>
+        <translation>Nach so vielen Lesevorgängen enden.</translation>
     </message>
     <message>
         <source>Write how all consoles are as OpenMetrics, for Prometheus.</source>
@@ -267,7 +267,7 @@
     </message>
     <message>
         <source>With --listen: minutes between readings, or 30s, 2h.</source>
-        <translation>Mit --listen: Minuten zwischen dem Lesen, oder 30s, 2h.</translation>
+        <translation>Mit --listen: Minuten zwischen den Lesevorgängen, oder 30s, 2h.</translation>
     </message>
     <message>
         <source>Also its processors and memory; may be repeated.</source>
@@ -275,7 +275,7 @@
     </message>
     <message>
         <source>List the registered consoles without asking them.</source>
-        <translation>Die eingetragenen Konsolen aufzählen, ohne sie zu fragen.</translation>
+        <translation>Die eingetragenen Konsolen auflisten, ohne sie zu fragen.</translation>
     </message>
     <message>
         <source>Verify a console and register it.</source>
@@ -287,7 +287,7 @@
     </message>
     <message>
         <source>Call it so; the address at first.</source>
-        <translation>Sie so nennen; von vornherein wie die Adresse.</translation>
+        <translation>Sie so nennen; ohne Angabe nach der Adresse.</translation>
     </message>
     <message>
         <source>Remove a console and what is remembered of it.</source>
@@ -311,7 +311,7 @@
     </message>
     <message>
         <source>%1 did not answer: %2.</source>
-        <extracomment>%1 a console, %2 why, as in "connection refused"</extracomment>
+        <extracomment>%1 a console, %2 why, as in &quot;connection refused&quot;</extracomment>
         <translation>%1 antwortete nicht: %2.</translation>
     </message>
     <message>
@@ -320,7 +320,7 @@
     </message>
     <message>
         <source>%1: %2.</source>
-        <extracomment>%1 a console, %2 as in "Partitions not read"</extracomment>
+        <extracomment>%1 a console, %2 as in &quot;Partitions not read&quot;</extracomment>
         <translation>%1: %2.</translation>
     </message>
     <message>
@@ -372,12 +372,12 @@
     </message>
     <message>
         <source>The metrics of %1 cannot be had: %2.</source>
-        <extracomment>%1 a system, %2 why, as in "connection refused"</extracomment>
-        <translation>Die Messwerte von %1 sind nicht zu haben: %2.</translation>
+        <extracomment>%1 a system, %2 why, as in &quot;connection refused&quot;</extracomment>
+        <translation>Die Messwerte von %1 sind nicht verfügbar: %2.</translation>
     </message>
     <message>
         <source>Listening on %1</source>
-        <translation>Bereit auf %1</translation>
+        <translation>Lauscht auf %1</translation>
     </message>
     <message>
         <source>%1 is no file that could be replaced.</source>
@@ -394,7 +394,7 @@
     </message>
     <message>
         <source>%1 was left out: its certificate changed within an attempt. To take the new one, name the console with --console.</source>
-        <translation>%1 wurde ausgelassen: Ihr Zertifikat änderte sich während eines Versuchs. Um das neue anzunehmen, nennen Sie die Konsole mit --console.</translation>
+        <translation>%1 wurde ausgelassen: Das Zertifikat änderte sich während eines Versuchs. Um das neue anzunehmen, nennen Sie die Konsole mit --console.</translation>
     </message>
     <message>
         <source>%1 cannot be opened</source>
@@ -435,8 +435,8 @@
     <message numerus="yes">
         <source>verifying %1 of %2, about %Ln s left</source>
         <translation>
-            <numerusform>prüft %1 von %2, noch etwa %Ln s</numerusform>
-            <numerusform>prüft %1 von %2, noch etwa %Ln s</numerusform>
+            <numerusform>prüft %1 von %2, noch etwa %Ln&#xa0;s</numerusform>
+            <numerusform>prüft %1 von %2, noch etwa %Ln&#xa0;s</numerusform>
         </translation>
     </message>
     <message>
@@ -476,12 +476,12 @@
     </message>
     <message>
         <source>Nothing was added. %1: %2.</source>
-        <extracomment>%1 an address, %2 why, as in "connection refused"</extracomment>
+        <extracomment>%1 an address, %2 why, as in &quot;connection refused&quot;</extracomment>
         <translation>Nichts wurde hinzugefügt. %1: %2.</translation>
     </message>
     <message>
         <source>not verified</source>
-        <translation>nicht geprüft</translation>
+        <translation>nicht bestätigt</translation>
     </message>
     <message>
         <source>%1 was added.</source>
@@ -505,11 +505,11 @@
     </message>
     <message>
         <source>Cannot listen on %1</source>
-        <translation>%1 lässt sich nicht belegen</translation>
+        <translation>Auf %1 lässt sich nicht lauschen</translation>
     </message>
     <message>
         <source>lodestar-cli --help lists all commands.</source>
-        <translation>lodestar-cli --help zählt alle Befehle auf.</translation>
+        <translation>lodestar-cli --help listet alle Befehle auf.</translation>
     </message>
     <message>
         <source>total processors</source>
@@ -517,7 +517,7 @@
     </message>
     <message>
         <source>allocated processors</source>
-        <translation>Prozessoren zugewiesen</translation>
+        <translation>Prozessoren zugeteilt</translation>
     </message>
     <message>
         <source>used processors</source>
@@ -529,7 +529,7 @@
     </message>
     <message>
         <source>allocated memory, GB</source>
-        <translation>Speicher zugewiesen, GB</translation>
+        <translation>Speicher zugeteilt, GB</translation>
     </message>
     <message>
         <source>used memory, GB</source>
@@ -545,7 +545,7 @@
     </message>
     <message>
         <source>No known %1.</source>
-        <translation>Keine bekannten %1.</translation>
+        <translation>Keine %1 bekannt.</translation>
     </message>
     <message>
         <source>No open %1.</source>
@@ -553,7 +553,7 @@
     </message>
     <message>
         <source>No known open %1.</source>
-        <translation>Keine bekannten offenen %1.</translation>
+        <translation>Keine offenen %1 bekannt.</translation>
     </message>
     <message>
         <source>No such %1.</source>
@@ -561,7 +561,7 @@
     </message>
     <message>
         <source>No known such %1.</source>
-        <translation>Keine bekannten solchen %1.</translation>
+        <translation>Keine solchen %1 bekannt.</translation>
     </message>
     <message>
         <source>--order takes sent, newest, status or code, not %1.</source>
@@ -671,7 +671,7 @@
     </message>
     <message>
         <source>There are no consoles to watch.</source>
-        <translation>Es gibt keine Konsolen zu bewachen.</translation>
+        <translation>Es gibt keine Konsolen zu überwachen.</translation>
     </message>
     <message>
         <source>%1 %2</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Attention</source>
-        <translation>Achtung</translation>
+        <translation>Warn-LEDs</translation>
     </message>
     <message>
         <source>Events</source>
@@ -785,11 +785,11 @@
 <context>
     <name>DeltaCorvelScene</name>
     <message>
-        <source>Leave out "%1".</source>
+        <source>Leave out &quot;%1&quot;.</source>
         <translation>„%1“ weglassen.</translation>
     </message>
     <message>
-        <source>Leave out "/" and what follows it.</source>
+        <source>Leave out &quot;/&quot; and what follows it.</source>
         <translation>„/“ und alles danach weglassen.</translation>
     </message>
     <message>
@@ -840,7 +840,7 @@
     </message>
     <message>
         <source>Paste</source>
-        <translation>Einsetzen</translation>
+        <translation>Einfügen</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -1132,7 +1132,7 @@
     </message>
     <message>
         <source>Undo</source>
-        <translation>Widerrufen</translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>What happened?</source>
@@ -1167,7 +1167,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation>Offen</translation>
+        <translation>Öffnen</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1185,7 +1185,7 @@
     <name>FindScene</name>
     <message>
         <source>Find on all consoles</source>
-        <translation>Auf allen Konsolen suchen</translation>
+        <translation>Überall suchen</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -1264,7 +1264,7 @@
     <name>FleetEventsBar</name>
     <message>
         <source>Order</source>
-        <translation>Reihenfolge</translation>
+        <translation>Sortierung</translation>
     </message>
     <message>
         <source>Search</source>
@@ -1331,11 +1331,11 @@
     <name>FleetVerifyHeader</name>
     <message>
         <source>Verified</source>
-        <translation>Geprüft</translation>
+        <translation>Bestätigt</translation>
     </message>
     <message>
         <source>Not verified</source>
-        <translation>Nicht geprüft</translation>
+        <translation>Nicht bestätigt</translation>
     </message>
     <message>
         <source>waiting</source>
@@ -1400,11 +1400,11 @@
     </message>
     <message>
         <source>Processors and memory of a system, total, allocated and used, as lines.</source>
-        <translation>Prozessoren und Speicher eines Systems als Linien: gesamt, zugewiesen, genutzt.</translation>
+        <translation>Prozessoren und Speicher eines Systems als Linien: gesamt, zugeteilt, genutzt.</translation>
     </message>
     <message>
         <source>Behind a passcode</source>
-        <translation>Hinter einem Code</translation>
+        <translation>Durch Code geschützt</translation>
     </message>
     <message>
         <source>Lock Lodestar if you like. It reads only and changes nothing on a console.</source>
@@ -1454,7 +1454,7 @@
     </message>
     <message>
         <source>Undo</source>
-        <translation>Widerrufen</translation>
+        <translation>Rückgängig</translation>
     </message>
     <message>
         <source>Keyboard help</source>
@@ -1534,13 +1534,17 @@
     </message>
     <message>
         <source>Attention</source>
-        <translation>Achtung</translation>
+        <translation>Auffälliges</translation>
+    </message>
+    <message>
+        <source>The other column</source>
+        <translation>Die andere Spalte</translation>
     </message>
 </context>
 <context>
     <name>KeychainWait</name>
     <message>
-        <source>Waiting for the system's keychain...</source>
+        <source>Waiting for the system&apos;s keychain...</source>
         <translation>Warten auf den Schlüsselbund des Systems...</translation>
     </message>
 </context>
@@ -1572,7 +1576,7 @@
     </message>
     <message>
         <source>Allocated as bars</source>
-        <translation>Zugewiesen als Balken</translation>
+        <translation>Zugeteilt als Balken</translation>
     </message>
     <message>
         <source>Show all</source>
@@ -1620,7 +1624,7 @@
     </message>
     <message>
         <source>Attention</source>
-        <translation>Achtung</translation>
+        <translation>Auffälliges</translation>
     </message>
 </context>
 <context>
@@ -1673,7 +1677,7 @@
     </message>
     <message>
         <source>Allocated</source>
-        <translation>Zugewiesen</translation>
+        <translation>Zugeteilt</translation>
     </message>
     <message>
         <source>Used</source>
@@ -1701,7 +1705,7 @@
 <context>
     <name>Passcode</name>
     <message>
-        <source>The system's keychain is locked</source>
+        <source>The system&apos;s keychain is locked</source>
         <translation>Der Schlüsselbund des Systems ist gesperrt</translation>
     </message>
     <message>
@@ -1709,19 +1713,19 @@
         <translation>Auf diesem System läuft kein Schlüsselbund</translation>
     </message>
     <message>
-        <source>The system's keychain does not answer</source>
+        <source>The system&apos;s keychain does not answer</source>
         <translation>Der Schlüsselbund des Systems antwortet nicht</translation>
     </message>
     <message>
-        <source>The system's keychain cannot keep this text</source>
+        <source>The system&apos;s keychain cannot keep this text</source>
         <translation>Der Schlüsselbund des Systems kann diesen Text nicht aufbewahren</translation>
     </message>
     <message>
-        <source>The system's keychain reported an error</source>
+        <source>The system&apos;s keychain reported an error</source>
         <translation>Der Schlüsselbund des Systems meldet einen Fehler</translation>
     </message>
     <message>
-        <source>The passcode is not asked for any more: the system's keychain was locked.</source>
+        <source>The passcode is not asked for any more: the system&apos;s keychain was locked.</source>
         <translation>Nach dem Code wird nicht mehr gefragt: Der Schlüsselbund des Systems war gesperrt.</translation>
     </message>
     <message>
@@ -1729,11 +1733,11 @@
         <translation>Nach dem Code wird nicht mehr gefragt: Es lief kein Schlüsselbund.</translation>
     </message>
     <message>
-        <source>The passcode is not asked for any more: the system's keychain did not answer.</source>
+        <source>The passcode is not asked for any more: the system&apos;s keychain did not answer.</source>
         <translation>Nach dem Code wird nicht mehr gefragt: Der Schlüsselbund des Systems antwortete nicht.</translation>
     </message>
     <message>
-        <source>The passcode is not asked for any more: the system's keychain could not be read.</source>
+        <source>The passcode is not asked for any more: the system&apos;s keychain could not be read.</source>
         <translation>Nach dem Code wird nicht mehr gefragt: Der Schlüsselbund des Systems ließ sich nicht lesen.</translation>
     </message>
 </context>
@@ -1756,7 +1760,7 @@
     <name>PerformanceSummary</name>
     <message>
         <source>Lowest</source>
-        <translation>Tiefster</translation>
+        <translation>Min.</translation>
     </message>
     <message>
         <source>Mean</source>
@@ -1764,11 +1768,11 @@
     </message>
     <message>
         <source>Highest</source>
-        <translation>Höchster</translation>
+        <translation>Max.</translation>
     </message>
     <message>
         <source>Last</source>
-        <translation>Letzter</translation>
+        <translation>Zuletzt</translation>
     </message>
 </context>
 <context>
@@ -1845,7 +1849,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Report Sent</source>
@@ -2016,18 +2020,18 @@ Er bleibt in der Liste der Berichte.</translation>
     <name>WatchConsoleDelegate</name>
     <message>
         <source>watched</source>
-        <translation>bewacht</translation>
+        <translation>überwacht</translation>
     </message>
     <message>
         <source>not watched</source>
-        <translation>nicht bewacht</translation>
+        <translation>nicht überwacht</translation>
     </message>
 </context>
 <context>
     <name>WatchScene</name>
     <message>
         <source>Watch While Lodestar Runs</source>
-        <translation>Wachen, solange Lodestar läuft</translation>
+        <translation>Überwachen, solange Lodestar läuft</translation>
     </message>
     <message>
         <source>Reads every console again by itself and tells you what changed. It stops when Lodestar is closed.</source>
@@ -2039,7 +2043,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Every</source>
-        <translation>Alle</translation>
+        <translation>Intervall</translation>
     </message>
     <message>
         <source>Tell me</source>
@@ -2109,7 +2113,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <extracomment>%1 a day as in "yesterday" or "Mon", %2 a time of day</extracomment>
+        <extracomment>%1 a day as in &quot;yesterday&quot; or &quot;Mon&quot;, %2 a time of day</extracomment>
         <translation>%1 %2</translation>
     </message>
     <message>
@@ -2119,7 +2123,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>since %1</source>
-        <extracomment>%1 as in "09:41", "yesterday 21:40" or "3 Mar"</extracomment>
+        <extracomment>%1 as in &quot;09:41&quot;, &quot;yesterday 21:40&quot; or &quot;3 Mar&quot;</extracomment>
         <translation>seit %1</translation>
     </message>
     <message>
@@ -2128,21 +2132,21 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>read %1</source>
-        <extracomment>%1 as in "2 min ago" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 as in &quot;2 min ago&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>gelesen %1</translation>
     </message>
     <message numerus="yes">
         <source>%Ln min ago</source>
         <translation>
-            <numerusform>vor %Ln min</numerusform>
-            <numerusform>vor %Ln min</numerusform>
+            <numerusform>vor %Ln&#xa0;min</numerusform>
+            <numerusform>vor %Ln&#xa0;min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>read %Ln h ago</source>
         <translation>
-            <numerusform>vor %Ln h gelesen</numerusform>
-            <numerusform>vor %Ln h gelesen</numerusform>
+            <numerusform>vor %Ln&#xa0;h gelesen</numerusform>
+            <numerusform>vor %Ln&#xa0;h gelesen</numerusform>
         </translation>
     </message>
 </context>
@@ -2164,11 +2168,11 @@ Er bleibt in der Liste der Berichte.</translation>
     <name>lodestar::AttentionNowController</name>
     <message>
         <source>Nothing needs attention</source>
-        <translation>Nichts verlangt Aufmerksamkeit</translation>
+        <translation>Nichts erfordert Aufmerksamkeit</translation>
     </message>
     <message>
         <source>Nothing known needs attention</source>
-        <translation>Nichts Bekanntes verlangt Aufmerksamkeit</translation>
+        <translation>Nichts Bekanntes erfordert Aufmerksamkeit</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -2196,11 +2200,11 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Attention</source>
-        <translation>Achtung</translation>
+        <translation>Auffälliges</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <extracomment>The name of a file: the tab "Attention" and what of it</extracomment>
+        <extracomment>The name of a file: the tab &quot;Attention&quot; and what of it</extracomment>
         <translation>%1, %2</translation>
     </message>
 </context>
@@ -2223,7 +2227,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>#%1 gone</source>
-        <translation>#%1 weg</translation>
+        <translation>#%1 verschwunden</translation>
     </message>
     <message>
         <source>#%1</source>
@@ -2259,7 +2263,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Gone</source>
-        <translation>Weg</translation>
+        <translation>Verschwunden</translation>
     </message>
     <message>
         <source>Certificate changed</source>
@@ -2308,8 +2312,8 @@ Er bleibt in der Liste der Berichte.</translation>
     <message numerus="yes">
         <source>%Ln events gone</source>
         <translation>
-            <numerusform>%Ln Ereignis weg</numerusform>
-            <numerusform>%Ln Ereignisse weg</numerusform>
+            <numerusform>%Ln Ereignis verschwunden</numerusform>
+            <numerusform>%Ln Ereignisse verschwunden</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2350,8 +2354,8 @@ Er bleibt in der Liste der Berichte.</translation>
     <message numerus="yes">
         <source>%Ln min</source>
         <translation>
-            <numerusform>%Ln min</numerusform>
-            <numerusform>%Ln min</numerusform>
+            <numerusform>%Ln&#xa0;min</numerusform>
+            <numerusform>%Ln&#xa0;min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2364,8 +2368,8 @@ Er bleibt in der Liste der Berichte.</translation>
     <message numerus="yes">
         <source>%Ln h</source>
         <translation>
-            <numerusform>%Ln h</numerusform>
-            <numerusform>%Ln h</numerusform>
+            <numerusform>%Ln&#xa0;h</numerusform>
+            <numerusform>%Ln&#xa0;h</numerusform>
         </translation>
     </message>
 </context>
@@ -2419,7 +2423,7 @@ Er bleibt in der Liste der Berichte.</translation>
     <name>lodestar::Commands</name>
     <message>
         <source>Watch</source>
-        <translation>Wache</translation>
+        <translation>Überwachung</translation>
     </message>
     <message>
         <source>Fleet sheet</source>
@@ -2433,10 +2437,6 @@ Er bleibt in der Liste der Berichte.</translation>
         <source>Bring back the demo</source>
         <translation>Demo zurückholen</translation>
     </message>
-    <message>
-        <source>Feedback</source>
-        <translation>Rückmeldung</translation>
-    </message>
 </context>
 <context>
     <name>lodestar::ConnectionContent</name>
@@ -2447,17 +2447,17 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1, ended %2</source>
-        <extracomment>%1 as in "1 Sep 2025 to 31 Aug 2027", %2 a date</extracomment>
-        <translation>%1, endete %2</translation>
+        <extracomment>%1 as in &quot;1 Sep 2025 to 31 Aug 2027&quot;, %2 a date</extracomment>
+        <translation>%1, abgelaufen am %2</translation>
     </message>
     <message>
         <source>%1, begins %2</source>
-        <extracomment>%1 as in "1 Sep 2025 to 31 Aug 2027", %2 a date</extracomment>
-        <translation>%1, beginnt %2</translation>
+        <extracomment>%1 as in &quot;1 Sep 2025 to 31 Aug 2027&quot;, %2 a date</extracomment>
+        <translation>%1, gilt ab %2</translation>
     </message>
     <message>
         <source>changed %1</source>
-        <extracomment>%1 as in "today, 02:58" or "3 Mar"</extracomment>
+        <extracomment>%1 as in &quot;today, 02:58&quot; or &quot;3 Mar&quot;</extracomment>
         <translation>geändert %1</translation>
     </message>
     <message>
@@ -2482,7 +2482,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Not vouched for by this device’s authorities. Consoles sign their own, so Lodestar takes what it is shown and says here when it changes.</source>
-        <translation>Keine Zertifizierungsstelle dieses Geräts bürgt dafür. Konsolen signieren selbst; deshalb nimmt Lodestar an, was ihm gezeigt wird, und sagt hier, wenn es sich ändert.</translation>
+        <translation>Keine Zertifizierungsstelle dieses Geräts bürgt dafür. Konsolen signieren ihr eigenes; deshalb nimmt Lodestar an, was ihm gezeigt wird, und sagt hier, wenn es sich ändert.</translation>
     </message>
     <message>
         <source>Certificate</source>
@@ -2510,7 +2510,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>itself</source>
-        <translation>selbst</translation>
+        <translation>selbst ausgestellt</translation>
     </message>
     <message>
         <source>Valid</source>
@@ -2530,7 +2530,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>The rest was read %1.</source>
-        <extracomment>%1 as in "at 09:26" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 as in &quot;at 09:26&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>Der Rest wurde %1 gelesen.</translation>
     </message>
     <message>
@@ -2543,8 +2543,8 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1 could not be read.</source>
-        <extracomment>%1 names of feeds, as in "Partitions and resource groups"</extracomment>
-        <translation>%1 nicht lesbar.</translation>
+        <extracomment>%1 names of feeds, as in &quot;Partitions and resource groups&quot;</extracomment>
+        <translation>%1 ließen sich nicht lesen.</translation>
     </message>
     <message>
         <source>Not tried yet</source>
@@ -2552,7 +2552,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Offline since %1</source>
-        <extracomment>%1 as in "02:58" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 as in &quot;02:58&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>Offline seit %1</translation>
     </message>
     <message>
@@ -2561,7 +2561,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Everything was read %1, in %2.</source>
-        <extracomment>%1 as in "2 min ago" or "at 09:41", %2 a time in seconds</extracomment>
+        <extracomment>%1 as in &quot;2 min ago&quot; or &quot;at 09:41&quot;, %2 a time in seconds</extracomment>
         <translation>Alles wurde %1 gelesen, in %2.</translation>
     </message>
     <message>
@@ -2578,12 +2578,12 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1, in %2</source>
-        <extracomment>%1 as in "today, 02:43", %2 a time in seconds</extracomment>
+        <extracomment>%1 as in &quot;today, 02:43&quot;, %2 a time in seconds</extracomment>
         <translation>%1, in %2</translation>
     </message>
     <message>
         <source>Read in full</source>
-        <translation>Ganz gelesen</translation>
+        <translation>Vollständig gelesen</translation>
     </message>
     <message>
         <source>Version then</source>
@@ -2709,11 +2709,11 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1&#xa0;KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message numerus="yes">
         <source>%Ln entries</source>
@@ -2729,7 +2729,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1 were last read %2</source>
-        <extracomment>%1 the name of a feed, %2 as in "at 09:26" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 the name of a feed, %2 as in &quot;at 09:26&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>%1 zuletzt gelesen %2</translation>
     </message>
     <message>
@@ -2744,11 +2744,11 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation>%1 ms</translation>
+        <translation>%1&#xa0;ms</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 s</translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>at %1</source>
@@ -2771,8 +2771,8 @@ Er bleibt in der Liste der Berichte.</translation>
     <message numerus="yes">
         <source>The rest is %Ln min old.</source>
         <translation>
-            <numerusform>Der Rest ist %Ln min alt.</numerusform>
-            <numerusform>Der Rest ist %Ln min alt.</numerusform>
+            <numerusform>Der Rest ist %Ln&#xa0;min alt.</numerusform>
+            <numerusform>Der Rest ist %Ln&#xa0;min alt.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2793,8 +2793,8 @@ Er bleibt in der Liste der Berichte.</translation>
     <message numerus="yes">
         <source>no answer within %Ln s</source>
         <translation>
-            <numerusform>keine Antwort binnen %Ln s</numerusform>
-            <numerusform>keine Antwort binnen %Ln s</numerusform>
+            <numerusform>keine Antwort binnen %Ln&#xa0;s</numerusform>
+            <numerusform>keine Antwort binnen %Ln&#xa0;s</numerusform>
         </translation>
     </message>
 </context>
@@ -2816,7 +2816,7 @@ Er bleibt in der Liste der Berichte.</translation>
     <name>lodestar::CorvelListCell</name>
     <message>
         <source>N/A</source>
-        <translation>k. A.</translation>
+        <translation>k.&#xa0;A.</translation>
     </message>
     <message>
         <source>Offline</source>
@@ -2838,7 +2838,7 @@ Er bleibt in der Liste der Berichte.</translation>
     <message>
         <source>%1, %2, attention %3, events %4</source>
         <extracomment>A console in the list, read aloud: %1 name, %2 status word, %3 and %4 counts</extracomment>
-        <translation>%1, %2, Achtung %3, Ereignisse %4</translation>
+        <translation>%1, %2, Warn-LEDs %3, Ereignisse %4</translation>
     </message>
 </context>
 <context>
@@ -2872,7 +2872,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Attention</source>
-        <translation>Achtung</translation>
+        <translation>Auffälliges</translation>
     </message>
     <message>
         <source>Copy Address</source>
@@ -2918,7 +2918,7 @@ Er bleibt in der Liste der Berichte.</translation>
     <name>lodestar::DBusMessageService</name>
     <message>
         <source>Open</source>
-        <translation>Offen</translation>
+        <translation>Öffnen</translation>
     </message>
 </context>
 <context>
@@ -2938,11 +2938,11 @@ Er bleibt in der Liste der Berichte.</translation>
     <message>
         <source>%1 of %2 answered in full</source>
         <extracomment>%1 of %2 consoles</extracomment>
-        <translation>%1 von %2 ganz beantwortet</translation>
+        <translation>%1 von %2 antworteten vollständig</translation>
     </message>
     <message>
         <source>Read %1.</source>
-        <extracomment>%1 and %2 as in "09:41" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 and %2 as in &quot;09:41&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>Gelesen %1.</translation>
     </message>
     <message>
@@ -2952,8 +2952,8 @@ Er bleibt in der Liste der Berichte.</translation>
     <message numerus="yes">
         <source>Next in %Ln min.</source>
         <translation>
-            <numerusform>Nächstes Mal in %Ln min.</numerusform>
-            <numerusform>Nächstes Mal in %Ln min.</numerusform>
+            <numerusform>Nächstes Mal in %Ln&#xa0;min.</numerusform>
+            <numerusform>Nächstes Mal in %Ln&#xa0;min.</numerusform>
         </translation>
     </message>
 </context>
@@ -3013,7 +3013,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message numerus="yes">
         <source>%1, %Ln days, %2</source>
-        <extracomment>A chart's name, how many days it has, and what it tells of the last.</extracomment>
+        <extracomment>A chart&apos;s name, how many days it has, and what it tells of the last.</extracomment>
         <translation>
             <numerusform>%1, %Ln Tag, %2</numerusform>
             <numerusform>%1, %Ln Tage, %2</numerusform>
@@ -3089,7 +3089,7 @@ Er bleibt in der Liste der Berichte.</translation>
     <name>lodestar::EventOrderViewController</name>
     <message>
         <source>Order</source>
-        <translation>Reihenfolge</translation>
+        <translation>Sortierung</translation>
     </message>
     <message>
         <source>As the console sends them</source>
@@ -3116,7 +3116,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <extracomment>The name of a file: what is listed, such as "Managed Systems", and a console's name</extracomment>
+        <extracomment>The name of a file: what is listed, such as &quot;Managed Systems&quot;, and a console&apos;s name</extracomment>
         <translation>%1, %2</translation>
     </message>
 </context>
@@ -3172,12 +3172,12 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1 not read</source>
-        <extracomment>%1 the name of a feed, as in "Partitions"</extracomment>
+        <extracomment>%1 the name of a feed, as in &quot;Partitions&quot;</extracomment>
         <translation>%1 nicht gelesen</translation>
     </message>
     <message>
         <source>%1 and %2 not read</source>
-        <extracomment>%1 and %2 names of feeds, as in "Partitions" and "groups"</extracomment>
+        <extracomment>%1 and %2 names of feeds, as in &quot;Partitions&quot; and &quot;groups&quot;</extracomment>
         <translation>%1 und %2 nicht gelesen</translation>
     </message>
     <message>
@@ -3286,12 +3286,12 @@ Er bleibt in der Liste der Berichte.</translation>
     <name>lodestar::FileSaver</name>
     <message>
         <source>Could not be saved: %1</source>
-        <extracomment>%1 a reason, such as "the disk is full."</extracomment>
+        <extracomment>%1 a reason, such as &quot;the disk is full.&quot;</extracomment>
         <translation>Konnte nicht gespeichert werden: %1</translation>
     </message>
     <message>
         <source>Saved as %1</source>
-        <extracomment>%1 a file's name</extracomment>
+        <extracomment>%1 a file&apos;s name</extracomment>
         <translation>Gespeichert als %1</translation>
     </message>
     <message>
@@ -3300,7 +3300,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>There is already a file named %1.</source>
-        <extracomment>%1 a file's name</extracomment>
+        <extracomment>%1 a file&apos;s name</extracomment>
         <translation>Es gibt schon eine Datei namens %1.</translation>
     </message>
     <message>
@@ -3340,7 +3340,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <extracomment>%1 and %2 as in "09:41" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 and %2 as in &quot;09:41&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>%1 bis %2</translation>
     </message>
     <message>
@@ -3366,13 +3366,13 @@ Er bleibt in der Liste der Berichte.</translation>
     <message numerus="yes">
         <source>%Ln things</source>
         <translation>
-            <numerusform>%Ln Treffer</numerusform>
-            <numerusform>%Ln Treffer</numerusform>
+            <numerusform>%Ln Objekt</numerusform>
+            <numerusform>%Ln Objekte</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %Ln consoles</source>
-        <extracomment>Within "2,318 things on 5 of 6 consoles, read 09:41."</extracomment>
+        <extracomment>Within &quot;2,318 things on 5 of 6 consoles, read 09:41.&quot;</extracomment>
         <translation>
             <numerusform>%1 von %Ln Konsole</numerusform>
             <numerusform>%1 von %Ln Konsolen</numerusform>
@@ -3380,7 +3380,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1 on %2, read %3.</source>
-        <extracomment>%1 as in "2,318 things", %2 as in "5 of 6 consoles", %3 as in "09:41" or "09:41 to 09:43"</extracomment>
+        <extracomment>%1 as in &quot;2,318 things&quot;, %2 as in &quot;5 of 6 consoles&quot;, %3 as in &quot;09:41&quot; or &quot;09:41 to 09:43&quot;</extracomment>
         <translation>%1 auf %2, gelesen %3.</translation>
     </message>
     <message numerus="yes">
@@ -3425,7 +3425,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Event numbers and texts</source>
-        <translation>Nummern und Texte von Ereignissen</translation>
+        <translation>Ereignisnummern und -texte</translation>
     </message>
     <message>
         <source>#1042, power supply</source>
@@ -3433,7 +3433,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Find on all consoles</source>
-        <translation>Auf allen Konsolen suchen</translation>
+        <translation>Überall suchen</translation>
     </message>
     <message>
         <source>Recent</source>
@@ -3459,7 +3459,7 @@ Er bleibt in der Liste der Berichte.</translation>
     <name>lodestar::FindingText</name>
     <message>
         <source>%1, %2</source>
-        <extracomment>A sentence and a further part of it: "System in error" and "X417-2208"</extracomment>
+        <extracomment>A sentence and a further part of it: &quot;System in error&quot; and &quot;X417-2208&quot;</extracomment>
         <translation>%1, %2</translation>
     </message>
     <message>
@@ -3486,7 +3486,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>System in error</source>
-        <translation>System im Fehler</translation>
+        <translation>System mit Fehler</translation>
     </message>
     <message>
         <source>LED on</source>
@@ -3494,15 +3494,15 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>IO server in error</source>
-        <translation>E/A-Server im Fehler</translation>
+        <translation>E/A-Server mit Fehler</translation>
     </message>
     <message>
         <source>Partition in error</source>
-        <translation>Partition im Fehler</translation>
+        <translation>Partition mit Fehler</translation>
     </message>
     <message>
         <source>Offline, %1</source>
-        <extracomment>%1 why, as in "connection refused"</extracomment>
+        <extracomment>%1 why, as in &quot;connection refused&quot;</extracomment>
         <translation>Offline, %1</translation>
     </message>
     <message>
@@ -3511,14 +3511,14 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>LED on, system %1</source>
-        <extracomment>%1 the console's word for a system's state</extracomment>
+        <extracomment>%1 the console&apos;s word for a system&apos;s state</extracomment>
         <translation>LED an, System %1</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %Ln resources in error</source>
         <translation>
-            <numerusform>%1 von %Ln Ressource im Fehler</numerusform>
-            <numerusform>%1 von %Ln Ressourcen im Fehler</numerusform>
+            <numerusform>%1 von %Ln Ressource mit Fehler</numerusform>
+            <numerusform>%1 von %Ln Ressourcen mit Fehler</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3566,7 +3566,7 @@ Er bleibt in der Liste der Berichte.</translation>
     <message>
         <source>In error on %1</source>
         <extracomment>%1 the name of a system</extracomment>
-        <translation>Im Fehler auf %1</translation>
+        <translation>Mit Fehler auf %1</translation>
     </message>
     <message>
         <source>system incomplete</source>
@@ -3574,11 +3574,11 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>system in error</source>
-        <translation>System im Fehler</translation>
+        <translation>System mit Fehler</translation>
     </message>
     <message>
         <source>attention LED on</source>
-        <extracomment>%1 the console's word for a system's state</extracomment>
+        <extracomment>%1 the console&apos;s word for a system&apos;s state</extracomment>
         <translation>Warn-LED an</translation>
     </message>
     <message>
@@ -3588,8 +3588,8 @@ Er bleibt in der Liste der Berichte.</translation>
     <message numerus="yes">
         <source>%Ln things need attention</source>
         <translation>
-            <numerusform>%Ln Punkt verlangt Aufmerksamkeit</numerusform>
-            <numerusform>%Ln Punkte verlangen Aufmerksamkeit</numerusform>
+            <numerusform>%Ln Punkt erfordert Aufmerksamkeit</numerusform>
+            <numerusform>%Ln Punkte erfordern Aufmerksamkeit</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3606,8 +3606,8 @@ Er bleibt in der Liste der Berichte.</translation>
     <message numerus="yes">
         <source>%1 of %Ln consoles answered in full</source>
         <translation>
-            <numerusform>%1 von %Ln Konsole antwortete ganz</numerusform>
-            <numerusform>%1 von %Ln Konsolen antworteten ganz</numerusform>
+            <numerusform>%1 von %Ln Konsole antwortete vollständig</numerusform>
+            <numerusform>%1 von %Ln Konsolen antworteten vollständig</numerusform>
         </translation>
     </message>
     <message>
@@ -3628,8 +3628,8 @@ Er bleibt in der Liste der Berichte.</translation>
     <message numerus="yes">
         <source>%Ln things needed attention there before.</source>
         <translation>
-            <numerusform>Dort verlangte zuvor %Ln Punkt Aufmerksamkeit.</numerusform>
-            <numerusform>Dort verlangten zuvor %Ln Punkte Aufmerksamkeit.</numerusform>
+            <numerusform>Dort erforderte zuvor %Ln Punkt Aufmerksamkeit.</numerusform>
+            <numerusform>Dort erforderten zuvor %Ln Punkte Aufmerksamkeit.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3855,8 +3855,8 @@ Er bleibt in der Liste der Berichte.</translation>
         <source>Passwords are never read from a sheet: %1 are left out.</source>
         <extracomment>%1 titles of columns</extracomment>
         <translation>
-            <numerusform>Passwörter werden nie aus einer Tabelle gelesen: %1 wird ausgelassen.</numerusform>
-            <numerusform>Passwörter werden nie aus einer Tabelle gelesen: %1 werden ausgelassen.</numerusform>
+            <numerusform>Passwörter werden nie aus einer Tabelle gelesen: Die Spalte %1 wird ausgelassen.</numerusform>
+            <numerusform>Passwörter werden nie aus einer Tabelle gelesen: Die Spalten %1 werden ausgelassen.</numerusform>
         </translation>
     </message>
     <message>
@@ -3894,7 +3894,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>verified</source>
-        <translation>geprüft</translation>
+        <translation>bestätigt</translation>
     </message>
     <message>
         <source>refused</source>
@@ -3910,24 +3910,24 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>not verified</source>
-        <translation>nicht geprüft</translation>
+        <translation>nicht bestätigt</translation>
     </message>
     <message>
         <source>tried</source>
-        <translation>versucht</translation>
+        <translation>geprüft</translation>
     </message>
     <message numerus="yes">
         <source>tried, about %Ln s left</source>
         <translation>
-            <numerusform>versucht, noch etwa %Ln s</numerusform>
-            <numerusform>versucht, noch etwa %Ln s</numerusform>
+            <numerusform>geprüft, noch etwa %Ln&#xa0;s</numerusform>
+            <numerusform>geprüft, noch etwa %Ln&#xa0;s</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>tried, about %Ln min left</source>
         <translation>
-            <numerusform>versucht, noch etwa %Ln min</numerusform>
-            <numerusform>versucht, noch etwa %Ln min</numerusform>
+            <numerusform>geprüft, noch etwa %Ln&#xa0;min</numerusform>
+            <numerusform>geprüft, noch etwa %Ln&#xa0;min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3980,7 +3980,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>verified and ready to be added</source>
-        <translation>geprüft und bereit</translation>
+        <translation>bestätigt und bereit</translation>
     </message>
     <message numerus="yes">
         <source>Add %Ln Consoles</source>
@@ -3992,21 +3992,21 @@ Er bleibt in der Liste der Berichte.</translation>
     <message numerus="yes">
         <source>All %Ln are added together, or none.</source>
         <translation>
-            <numerusform>Sie wird hinzugefügt oder keine.</numerusform>
+            <numerusform>Nur diese Konsole wird hinzugefügt.</numerusform>
             <numerusform>Alle %Ln werden zusammen hinzugefügt oder keine.</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 of %2 verified and ready to be added</source>
-        <translation>%1 von %2 geprüft und bereit</translation>
+        <translation>%1 von %2 bestätigt und bereit</translation>
     </message>
     <message>
         <source>%1 of %2 tried</source>
-        <translation>%1 von %2 versucht</translation>
+        <translation>%1 von %2 geprüft</translation>
     </message>
     <message>
         <source>Not verified</source>
-        <translation>Nicht geprüft</translation>
+        <translation>Nicht bestätigt</translation>
     </message>
     <message>
         <source>Not added</source>
@@ -4018,7 +4018,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Verified</source>
-        <translation>Geprüft</translation>
+        <translation>Bestätigt</translation>
     </message>
     <message>
         <source>Show %1 More</source>
@@ -4031,8 +4031,8 @@ Er bleibt in der Liste der Berichte.</translation>
     <message numerus="yes">
         <source>Try These %Ln Again</source>
         <translation>
-            <numerusform>Diese noch einmal</numerusform>
-            <numerusform>Diese %Ln noch einmal</numerusform>
+            <numerusform>Diese noch einmal versuchen</numerusform>
+            <numerusform>Diese %Ln noch einmal versuchen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4073,10 +4073,10 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln in error</source>
-        <extracomment>How many of a group's resources are in error, as in "16 resources, 1 in error"</extracomment>
+        <extracomment>How many of a group&apos;s resources are in error, as in &quot;16 resources, 1 in error&quot;</extracomment>
         <translation>
-            <numerusform>%Ln im Fehler</numerusform>
-            <numerusform>%Ln im Fehler</numerusform>
+            <numerusform>%Ln mit Fehler</numerusform>
+            <numerusform>%Ln mit Fehler</numerusform>
         </translation>
     </message>
     <message>
@@ -4130,7 +4130,7 @@ Er bleibt in der Liste der Berichte.</translation>
     <name>lodestar::KeyTable</name>
     <message>
         <source>%1 (%2)</source>
-        <extracomment>A button's tip: what the button does, and the keys that do it</extracomment>
+        <extracomment>A button&apos;s tip: what the button does, and the keys that do it</extracomment>
         <translation>%1 (%2)</translation>
     </message>
 </context>
@@ -4249,7 +4249,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>N/A</source>
-        <translation>k. A.</translation>
+        <translation>k.&#xa0;A.</translation>
     </message>
     <message>
         <source>Console Name</source>
@@ -4460,17 +4460,17 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1 at %2</source>
-        <extracomment>%1 as in "lowest 2.80", %2 a time of day</extracomment>
+        <extracomment>%1 as in &quot;lowest 2.80&quot;, %2 a time of day</extracomment>
         <translation>%1 um %2</translation>
     </message>
     <message>
         <source>%1 all along</source>
         <extracomment>%1 a number</extracomment>
-        <translation>durchgehend %1</translation>
+        <translation>konstant %1</translation>
     </message>
     <message>
         <source>lowest %1</source>
-        <translation>tiefster %1</translation>
+        <translation>Minimum %1</translation>
     </message>
     <message>
         <source>mean %1</source>
@@ -4478,15 +4478,15 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>highest %1</source>
-        <translation>höchster %1</translation>
+        <translation>Maximum %1</translation>
     </message>
     <message>
         <source>last %1</source>
-        <translation>letzter %1</translation>
+        <translation>zuletzt %1</translation>
     </message>
     <message>
         <source>all along</source>
-        <translation>durchgehend</translation>
+        <translation>konstant</translation>
     </message>
     <message>
         <source>Total Processors</source>
@@ -4494,7 +4494,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Processors Allocated</source>
-        <translation>Prozessoren zugewiesen</translation>
+        <translation>Prozessoren zugeteilt</translation>
     </message>
     <message>
         <source>Processors Used</source>
@@ -4506,7 +4506,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Memory Allocated</source>
-        <translation>Speicher zugewiesen</translation>
+        <translation>Speicher zugeteilt</translation>
     </message>
     <message>
         <source>Memory Used</source>
@@ -4518,7 +4518,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Allocated</source>
-        <translation>Zugewiesen</translation>
+        <translation>Zugeteilt</translation>
     </message>
     <message>
         <source>Used</source>
@@ -4544,7 +4544,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>allocated %1</source>
-        <translation>zugewiesen %1</translation>
+        <translation>zugeteilt %1</translation>
     </message>
     <message>
         <source>used %1</source>
@@ -4555,7 +4555,7 @@ Er bleibt in der Liste der Berichte.</translation>
     <name>lodestar::PlotChartView</name>
     <message>
         <source>%1 %2</source>
-        <extracomment>A data set's name and its latest value, as in "Processors Used 6.5".</extracomment>
+        <extracomment>A data set&apos;s name and its latest value, as in &quot;Processors Used 6.5&quot;.</extracomment>
         <translation>%1 %2</translation>
     </message>
     <message>
@@ -4565,7 +4565,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1, %2: %3</source>
-        <extracomment>A data set's name, the label of one of its values, and the value.</extracomment>
+        <extracomment>A data set&apos;s name, the label of one of its values, and the value.</extracomment>
         <translation>%1, %2: %3</translation>
     </message>
 </context>
@@ -4620,7 +4620,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1 good, %2 off, %3 alert, %4 error</source>
-        <extracomment>A resource group's states, read aloud: counts</extracomment>
+        <extracomment>A resource group&apos;s states, read aloud: counts</extracomment>
         <translation>%1 gut, %2 aus, %3 Warnung, %4 Fehler</translation>
     </message>
 </context>
@@ -4643,12 +4643,12 @@ Er bleibt in der Liste der Berichte.</translation>
     <name>lodestar::ReadingMark</name>
     <message>
         <source>%1 missing</source>
-        <extracomment>%1 the name of a feed, as in "partitions"</extracomment>
-        <translation>%1 fehlt</translation>
+        <extracomment>%1 the name of a feed, as in &quot;partitions&quot;</extracomment>
+        <translation>%1 fehlen</translation>
     </message>
     <message>
         <source>offline %1</source>
-        <extracomment>%1 as in "since 02:58"</extracomment>
+        <extracomment>%1 as in &quot;since 02:58&quot;</extracomment>
         <translation>offline %1</translation>
     </message>
     <message numerus="yes">
@@ -4676,7 +4676,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Tell us through feedback.</source>
-        <translation>Schreiben Sie uns über Rückmeldung.</translation>
+        <translation>Schreiben Sie uns eine Rückmeldung.</translation>
     </message>
     <message>
         <source>Refresh once more. A busy console often answers the second time.</source>
@@ -4688,7 +4688,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>nothing within 10 s</source>
-        <translation>nichts binnen 10 s</translation>
+        <translation>nichts binnen 10&#xa0;s</translation>
     </message>
     <message>
         <source>name not found</source>
@@ -4742,7 +4742,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>It did not answer within 10 s.</source>
-        <translation>Sie antwortete nicht binnen 10 s.</translation>
+        <translation>Sie antwortete nicht binnen 10&#xa0;s.</translation>
     </message>
     <message>
         <source>Its name has no address.</source>
@@ -4754,7 +4754,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>It broke off while answering.</source>
-        <translation>Sie brach beim Antworten ab.</translation>
+        <translation>Sie brach die Antwort ab.</translation>
     </message>
     <message>
         <source>It sent Lodestar from one address to the next.</source>
@@ -4809,12 +4809,12 @@ Er bleibt in der Liste der Berichte.</translation>
         <translation>Prüfen Sie die Schreibweise der Adresse.</translation>
     </message>
     <message>
-        <source>Check this device's network.</source>
+        <source>Check this device&apos;s network.</source>
         <translation>Prüfen Sie das Netz dieses Geräts.</translation>
     </message>
     <message>
         <source>Try the number instead of the name.</source>
-        <translation>Versuchen Sie die Nummer statt des Namens.</translation>
+        <translation>Versuchen Sie die IP-Adresse statt des Namens.</translation>
     </message>
     <message>
         <source>The console may be starting; refresh in some minutes.</source>
@@ -4861,7 +4861,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Severity</source>
-        <translation>Schwere</translation>
+        <translation>Schweregrad</translation>
     </message>
     <message>
         <source>Call home</source>
@@ -4918,7 +4918,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Serial</source>
-        <translation>Seriennummer</translation>
+        <translation>Seriennr.</translation>
     </message>
     <message>
         <source>Read</source>
@@ -4939,7 +4939,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Serviceable event #%1</source>
-        <extracomment>%1 the event's number</extracomment>
+        <extracomment>%1 the event&apos;s number</extracomment>
         <translation>Serviceereignis #%1</translation>
     </message>
     <message>
@@ -5041,7 +5041,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Approval State</source>
-        <translation>Freigabe</translation>
+        <translation>Freigabestatus</translation>
     </message>
     <message>
         <source>Reference Code</source>
@@ -5093,7 +5093,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Event Severity</source>
-        <translation>Schwere</translation>
+        <translation>Schweregrad</translation>
     </message>
     <message>
         <source>Notification Type</source>
@@ -5144,7 +5144,7 @@ Er bleibt in der Liste der Berichte.</translation>
     <name>lodestar::SEListViewController</name>
     <message>
         <source>N/A</source>
-        <translation>k. A.</translation>
+        <translation>k.&#xa0;A.</translation>
     </message>
 </context>
 <context>
@@ -5222,7 +5222,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Last read in full at %1</source>
-        <translation>Zuletzt ganz gelesen um %1</translation>
+        <translation>Zuletzt vollständig gelesen: %1</translation>
     </message>
     <message>
         <source>%1 is offline</source>
@@ -5248,14 +5248,14 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <extracomment>%1 a console, %2 as in "Partitions not read"
+        <extracomment>%1 a console, %2 as in &quot;Partitions not read&quot;
 ----------
-%1 a console, %2 as in "3 things got worse"</extracomment>
+%1 a console, %2 as in &quot;3 things got worse&quot;</extracomment>
         <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1 stopped</source>
-        <translation>%1 wurde angehalten</translation>
+        <translation>%1 angehalten</translation>
     </message>
     <message>
         <source>%1: LED on</source>
@@ -5263,7 +5263,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1 is in error</source>
-        <translation>%1 ist im Fehler</translation>
+        <translation>%1 hat einen Fehler</translation>
     </message>
     <message>
         <source>offline</source>
@@ -5275,7 +5275,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>not read in full</source>
-        <translation>nicht ganz gelesen</translation>
+        <translation>nicht vollständig gelesen</translation>
     </message>
     <message>
         <source>LED on at %1</source>
@@ -5290,7 +5290,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1 in error</source>
-        <translation>%1 im Fehler</translation>
+        <translation>%1 mit Fehler</translation>
     </message>
     <message numerus="yes">
         <source>%Ln consoles offline</source>
@@ -5302,8 +5302,8 @@ Er bleibt in der Liste der Berichte.</translation>
     <message numerus="yes">
         <source>%Ln systems in error</source>
         <translation>
-            <numerusform>%Ln System im Fehler</numerusform>
-            <numerusform>%Ln Systeme im Fehler</numerusform>
+            <numerusform>%Ln System mit Fehler</numerusform>
+            <numerusform>%Ln Systeme mit Fehler</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -5316,22 +5316,22 @@ Er bleibt in der Liste der Berichte.</translation>
     <message numerus="yes">
         <source>%Ln IO servers in error</source>
         <translation>
-            <numerusform>%Ln E/A-Server im Fehler</numerusform>
-            <numerusform>%Ln E/A-Server im Fehler</numerusform>
+            <numerusform>%Ln E/A-Server mit Fehler</numerusform>
+            <numerusform>%Ln E/A-Server mit Fehler</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln partitions in error</source>
         <translation>
-            <numerusform>%Ln Partition im Fehler</numerusform>
-            <numerusform>%Ln Partitionen im Fehler</numerusform>
+            <numerusform>%Ln Partition mit Fehler</numerusform>
+            <numerusform>%Ln Partitionen mit Fehler</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln consoles not read in full</source>
         <translation>
-            <numerusform>%Ln Konsole nicht ganz gelesen</numerusform>
-            <numerusform>%Ln Konsolen nicht ganz gelesen</numerusform>
+            <numerusform>%Ln Konsole nicht vollständig gelesen</numerusform>
+            <numerusform>%Ln Konsolen nicht vollständig gelesen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -5358,20 +5358,20 @@ Er bleibt in der Liste der Berichte.</translation>
     <message numerus="yes">
         <source>%Ln groups in error</source>
         <translation>
-            <numerusform>%Ln Gruppe im Fehler</numerusform>
-            <numerusform>%Ln Gruppen im Fehler</numerusform>
+            <numerusform>%Ln Gruppe mit Fehler</numerusform>
+            <numerusform>%Ln Gruppen mit Fehler</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln things got worse</source>
         <translation>
-            <numerusform>%Ln Punkt wurde schlechter</numerusform>
-            <numerusform>%Ln Punkte wurden schlechter</numerusform>
+            <numerusform>%Ln Verschlechterung</numerusform>
+            <numerusform>%Ln Verschlechterungen</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 on %Ln consoles</source>
-        <extracomment>%1 as in "7 things got worse", %n consoles</extracomment>
+        <extracomment>%1 as in &quot;7 things got worse&quot;, %n consoles</extracomment>
         <translation>
             <numerusform>%1 auf %Ln Konsole</numerusform>
             <numerusform>%1 auf %Ln Konsolen</numerusform>
@@ -5390,7 +5390,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1: %2 read again</source>
-        <extracomment>%1 a console, %2 the name of a feed, as in "Partitions"</extracomment>
+        <extracomment>%1 a console, %2 the name of a feed, as in &quot;Partitions&quot;</extracomment>
         <translation>%1: %2 wieder gelesen</translation>
     </message>
     <message>
@@ -5399,19 +5399,19 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>%1 is %2 again</source>
-        <extracomment>%1 a name, %2 the console's word for a state</extracomment>
+        <extracomment>%1 a name, %2 the console&apos;s word for a state</extracomment>
         <translation>%1 ist wieder %2</translation>
     </message>
     <message numerus="yes">
         <source>%Ln things got better</source>
         <translation>
-            <numerusform>%Ln Punkt wurde besser</numerusform>
-            <numerusform>%Ln Punkte wurden besser</numerusform>
+            <numerusform>%Ln Verbesserung</numerusform>
+            <numerusform>%Ln Verbesserungen</numerusform>
         </translation>
     </message>
     <message>
         <source>After %1</source>
-        <extracomment>%1 a console, %2 as in "42 min"</extracomment>
+        <extracomment>%1 a console, %2 as in &quot;42 min&quot;</extracomment>
         <translation>Nach %1</translation>
     </message>
     <message>
@@ -5420,30 +5420,30 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>In the night, %1</source>
-        <extracomment>%1 as in "5 things got worse"</extracomment>
-        <translation>In der Nacht %1</translation>
+        <extracomment>%1 as in &quot;5 things got worse&quot;</extracomment>
+        <translation>In der Nacht: %1</translation>
     </message>
     <message>
         <source>None of them needs attention any more</source>
-        <translation>Nichts davon verlangt noch Aufmerksamkeit</translation>
+        <translation>Nichts davon erfordert noch Aufmerksamkeit</translation>
     </message>
     <message numerus="yes">
         <source>%Ln of them still need attention</source>
         <translation>
-            <numerusform>%Ln davon verlangt noch Aufmerksamkeit</numerusform>
-            <numerusform>%Ln davon verlangen noch Aufmerksamkeit</numerusform>
+            <numerusform>%Ln davon erfordert noch Aufmerksamkeit</numerusform>
+            <numerusform>%Ln davon erfordern noch Aufmerksamkeit</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln consoles need attention</source>
         <translation>
-            <numerusform>%Ln Konsole verlangt Aufmerksamkeit</numerusform>
-            <numerusform>%Ln Konsolen verlangen Aufmerksamkeit</numerusform>
+            <numerusform>%Ln Konsole erfordert Aufmerksamkeit</numerusform>
+            <numerusform>%Ln Konsolen erfordern Aufmerksamkeit</numerusform>
         </translation>
     </message>
     <message>
         <source>Nothing known needs attention</source>
-        <translation>Nichts Bekanntes verlangt Aufmerksamkeit</translation>
+        <translation>Nichts Bekanntes erfordert Aufmerksamkeit</translation>
     </message>
     <message>
         <source>Open Lodestar to see more</source>
@@ -5462,7 +5462,7 @@ Er bleibt in der Liste der Berichte.</translation>
     <name>lodestar::WatchText</name>
     <message>
         <source>every %1</source>
-        <extracomment>%1 as in "15 min"</extracomment>
+        <extracomment>%1 as in &quot;15 min&quot;</extracomment>
         <translation>alle %1</translation>
     </message>
     <message>
@@ -5475,11 +5475,11 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>open</source>
-        <translation>offen</translation>
+        <translation>offene</translation>
     </message>
     <message>
         <source>open, call home</source>
-        <translation>offen, Call-Home</translation>
+        <translation>offene, Call-Home</translation>
     </message>
     <message>
         <source>all %1</source>
@@ -5493,22 +5493,22 @@ Er bleibt in der Liste der Berichte.</translation>
         <source>%1 are left out until you refresh them by hand: their certificates changed.</source>
         <extracomment>%1 the names of so many consoles</extracomment>
         <translation>
-            <numerusform>%1 bleibt aus, bis Sie selbst aktualisieren: Das Zertifikat hat sich geändert.</numerusform>
-            <numerusform>%1 bleiben aus, bis Sie selbst aktualisieren: Die Zertifikate haben sich geändert.</numerusform>
+            <numerusform>%1 wird ausgelassen, bis Sie von Hand aktualisieren: Das Zertifikat hat sich geändert.</numerusform>
+            <numerusform>%1 werden ausgelassen, bis Sie von Hand aktualisieren: Die Zertifikate haben sich geändert.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln h</source>
         <translation>
-            <numerusform>%Ln h</numerusform>
-            <numerusform>%Ln h</numerusform>
+            <numerusform>%Ln&#xa0;h</numerusform>
+            <numerusform>%Ln&#xa0;h</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln min</source>
         <translation>
-            <numerusform>%Ln min</numerusform>
-            <numerusform>%Ln min</numerusform>
+            <numerusform>%Ln&#xa0;min</numerusform>
+            <numerusform>%Ln&#xa0;min</numerusform>
         </translation>
     </message>
 </context>
@@ -5516,11 +5516,11 @@ Er bleibt in der Liste der Berichte.</translation>
     <name>lodestar::WatchViewController</name>
     <message>
         <source>Watch</source>
-        <translation>Wache</translation>
+        <translation>Überwachung</translation>
     </message>
     <message>
         <source>This system shows no messages. Attention still counts.</source>
-        <translation>Dieses System zeigt keine Meldungen. Achtung zählt weiter.</translation>
+        <translation>Dieses System zeigt keine Meldungen. „Auffälliges“ zählt weiter.</translation>
     </message>
     <message>
         <source>Reading goes on. At %1 one message sums up the night, if anything got worse.</source>
@@ -5533,7 +5533,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Every</source>
-        <translation>Alle</translation>
+        <translation>Intervall</translation>
     </message>
     <message>
         <source>New Events</source>
@@ -5555,7 +5555,7 @@ Er bleibt in der Liste der Berichte.</translation>
     <name>main</name>
     <message>
         <source>Watches Corvel consoles and changes nothing.</source>
-        <translation>Beobachtet Corvel-Konsolen und ändert nichts.</translation>
+        <translation>Überwacht Corvel-Konsolen und ändert nichts.</translation>
     </message>
     <message>
         <source>Keep everything in this folder.</source>
@@ -5574,7 +5574,7 @@ Er bleibt in der Liste der Berichte.</translation>
         <translation>Nach dem ersten gezeichneten Bildschirm enden, zum Messen.</translation>
     </message>
     <message>
-        <source>Speak this language instead of the system's (en, de, fr, es, ja, ar).</source>
+        <source>Speak this language instead of the system&apos;s (en, de, fr, es, ja, ar).</source>
         <extracomment>In brackets codes, which stay as they are</extracomment>
         <translation>Diese Sprache statt der des Systems sprechen (en, de, fr, es, ja, ar).</translation>
     </message>

@@ -133,12 +133,12 @@
         <translation>Escribir valores separados por comas.</translation>
     </message>
     <message>
-        <source>Use this data folder instead of Lodestar's own.</source>
+        <source>Use this data folder instead of Lodestar&apos;s own.</source>
         <translation>Usar esta carpeta de datos en vez de la de Lodestar.</translation>
     </message>
     <message>
         <source>Say how the command is used.</source>
-        <translation>Decir cómo se usa la orden.</translation>
+        <translation>Decir cómo se usa el comando.</translation>
     </message>
     <message>
         <source>Say which version this is.</source>
@@ -163,11 +163,11 @@
     </message>
     <message>
         <source>No command was given.</source>
-        <translation>No se dio ninguna orden.</translation>
+        <translation>No se dio ningún comando.</translation>
     </message>
     <message>
         <source>There is no command %1.</source>
-        <translation>No hay ninguna orden %1.</translation>
+        <translation>No hay ningún comando %1.</translation>
     </message>
     <message>
         <source>%1 takes no option %2.</source>
@@ -183,11 +183,11 @@
     </message>
     <message>
         <source>Watches Corvel consoles and changes nothing.</source>
-        <translation>Observa consolas Corvel y no cambia nada.</translation>
+        <translation>Vigila consolas Corvel y no cambia nada.</translation>
     </message>
     <message>
         <source>With every command:</source>
-        <translation>Con cada orden:</translation>
+        <translation>Con cada comando:</translation>
     </message>
     <message>
         <source>Ends with 0 when all is well, 1 after warnings, 2 after errors, and 3 when that is not known.</source>
@@ -203,7 +203,7 @@
     </message>
     <message>
         <source>List everything that needs attention. The exit code as with status.</source>
-        <translation>Listar todo lo que pide atención. Código de salida como status.</translation>
+        <translation>Listar todo lo que requiere atención. Código de salida como status.</translation>
     </message>
     <message>
         <source>List consoles, systems, io-servers, partitions, events or groups.</source>
@@ -227,11 +227,11 @@
     </message>
     <message>
         <source>Only those that are reported to the maker.</source>
-        <translation>Solo los que se avisan al fabricante.</translation>
+        <translation>Solo los que se comunican al fabricante.</translation>
     </message>
     <message>
         <source>sent, newest (as at first), status or code.</source>
-        <translation>sent, newest (de entrada), status o code.</translation>
+        <translation>sent, newest (por defecto), status o code.</translation>
     </message>
     <message>
         <source>Show processors and memory of a system over the last half day.</source>
@@ -246,8 +246,8 @@
         <translation>Leer las consolas una y otra vez, y escribir una línea por cambio.</translation>
     </message>
     <message>
-        <source>Minutes between readings, or 30s, 2h; at first as Lodestar's Watch has it.</source>
-        <translation>Minutos entre lecturas, o 30s, 2h; de entrada como la vigilancia de Lodestar.</translation>
+        <source>Minutes between readings, or 30s, 2h; at first as Lodestar&apos;s Watch has it.</source>
+        <translation>Minutos entre lecturas, o 30s, 2h; por defecto, como la vigilancia de Lodestar.</translation>
     </message>
     <message>
         <source>End after so many readings.</source>
@@ -287,7 +287,7 @@
     </message>
     <message>
         <source>Call it so; the address at first.</source>
-        <translation>Llamarla así; de entrada, la dirección.</translation>
+        <translation>Llamarla así; por defecto, como la dirección.</translation>
     </message>
     <message>
         <source>Remove a console and what is remembered of it.</source>
@@ -311,7 +311,7 @@
     </message>
     <message>
         <source>%1 did not answer: %2.</source>
-        <extracomment>%1 a console, %2 why, as in "connection refused"</extracomment>
+        <extracomment>%1 a console, %2 why, as in &quot;connection refused&quot;</extracomment>
         <translation>%1 no respondió: %2.</translation>
     </message>
     <message>
@@ -320,7 +320,7 @@
     </message>
     <message>
         <source>%1: %2.</source>
-        <extracomment>%1 a console, %2 as in "Partitions not read"</extracomment>
+        <extracomment>%1 a console, %2 as in &quot;Partitions not read&quot;</extracomment>
         <translation>%1: %2.</translation>
     </message>
     <message>
@@ -333,7 +333,7 @@
     </message>
     <message>
         <source>%1 was removed.</source>
-        <translation>%1 se quitó.</translation>
+        <translation>Se quitó %1.</translation>
     </message>
     <message>
         <source>consoles export writes a fleet sheet; consoles list --json writes JSON.</source>
@@ -372,7 +372,7 @@
     </message>
     <message>
         <source>The metrics of %1 cannot be had: %2.</source>
-        <extracomment>%1 a system, %2 why, as in "connection refused"</extracomment>
+        <extracomment>%1 a system, %2 why, as in &quot;connection refused&quot;</extracomment>
         <translation>No se pueden obtener las métricas de %1: %2.</translation>
     </message>
     <message>
@@ -435,8 +435,8 @@
     <message numerus="yes">
         <source>verifying %1 of %2, about %Ln s left</source>
         <translation>
-            <numerusform>verificando %1 de %2, quedan unos %Ln s</numerusform>
-            <numerusform>verificando %1 de %2, quedan unos %Ln s</numerusform>
+            <numerusform>verificando %1 de %2, quedan unos %Ln&#xa0;s</numerusform>
+            <numerusform>verificando %1 de %2, quedan unos %Ln&#xa0;s</numerusform>
         </translation>
     </message>
     <message>
@@ -476,7 +476,7 @@
     </message>
     <message>
         <source>Nothing was added. %1: %2.</source>
-        <extracomment>%1 an address, %2 why, as in "connection refused"</extracomment>
+        <extracomment>%1 an address, %2 why, as in &quot;connection refused&quot;</extracomment>
         <translation>No se añadió nada. %1: %2.</translation>
     </message>
     <message>
@@ -485,11 +485,11 @@
     </message>
     <message>
         <source>%1 was added.</source>
-        <translation>%1 se añadió.</translation>
+        <translation>Se añadió %1.</translation>
     </message>
     <message>
         <source>%1 was added, %2.</source>
-        <translation>%1 se añadió, %2.</translation>
+        <translation>Se añadió %1, %2.</translation>
     </message>
     <message>
         <source>--listen takes a port, or an address and a port as 127.0.0.1:9750, not %1.</source>
@@ -509,7 +509,7 @@
     </message>
     <message>
         <source>lodestar-cli --help lists all commands.</source>
-        <translation>lodestar-cli --help lista todas las órdenes.</translation>
+        <translation>lodestar-cli --help lista todos los comandos.</translation>
     </message>
     <message>
         <source>total processors</source>
@@ -594,7 +594,7 @@
     </message>
     <message>
         <source>Lodestar is open, or another command is at work, in %1. Close it, or name another folder with --data.</source>
-        <translation>Lodestar está abierto, u otra orden trabaja, en %1. Ciérrelo, o nombre otra carpeta con --data.</translation>
+        <translation>Lodestar está abierto, u otro comando está en marcha, en %1. Ciérrelo, o nombre otra carpeta con --data.</translation>
     </message>
     <message>
         <source>Lodestar keeps nothing in a folder of another user: %1</source>
@@ -622,7 +622,7 @@
     </message>
     <message>
         <source>A reset of Lodestar was cut short. Open Lodestar once to finish it.</source>
-        <translation>Un restablecimiento de Lodestar se interrumpió. Abra Lodestar una vez para terminarlo.</translation>
+        <translation>Se interrumpió un restablecimiento de Lodestar. Abra Lodestar una vez para terminarlo.</translation>
     </message>
     <message>
         <source>The consoles in %1 cannot be read. %2</source>
@@ -785,11 +785,11 @@
 <context>
     <name>DeltaCorvelScene</name>
     <message>
-        <source>Leave out "%1".</source>
+        <source>Leave out &quot;%1&quot;.</source>
         <translation>Quite «%1».</translation>
     </message>
     <message>
-        <source>Leave out "/" and what follows it.</source>
+        <source>Leave out &quot;/&quot; and what follows it.</source>
         <translation>Quite «/» y lo que sigue.</translation>
     </message>
     <message>
@@ -1167,7 +1167,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation>Abiertos</translation>
+        <translation>Abrir</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1185,7 +1185,7 @@
     <name>FindScene</name>
     <message>
         <source>Find on all consoles</source>
-        <translation>Buscar en todas las consolas</translation>
+        <translation>Buscar en todo</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -1404,7 +1404,7 @@
     </message>
     <message>
         <source>Behind a passcode</source>
-        <translation>Tras un código</translation>
+        <translation>Protegido con código</translation>
     </message>
     <message>
         <source>Lock Lodestar if you like. It reads only and changes nothing on a console.</source>
@@ -1423,7 +1423,7 @@
     </message>
     <message>
         <source>Find a command</source>
-        <translation>Buscar una orden</translation>
+        <translation>Buscar un comando</translation>
     </message>
 </context>
 <context>
@@ -1462,7 +1462,7 @@
     </message>
     <message>
         <source>Commands</source>
-        <translation>Órdenes</translation>
+        <translation>Comandos</translation>
     </message>
     <message>
         <source>Back</source>
@@ -1536,11 +1536,15 @@
         <source>Attention</source>
         <translation>Atención</translation>
     </message>
+    <message>
+        <source>The other column</source>
+        <translation>La otra columna</translation>
+    </message>
 </context>
 <context>
     <name>KeychainWait</name>
     <message>
-        <source>Waiting for the system's keychain...</source>
+        <source>Waiting for the system&apos;s keychain...</source>
         <translation>Esperando al llavero del sistema...</translation>
     </message>
 </context>
@@ -1701,7 +1705,7 @@
 <context>
     <name>Passcode</name>
     <message>
-        <source>The system's keychain is locked</source>
+        <source>The system&apos;s keychain is locked</source>
         <translation>El llavero del sistema está bloqueado</translation>
     </message>
     <message>
@@ -1709,19 +1713,19 @@
         <translation>No hay un llavero en marcha en este sistema</translation>
     </message>
     <message>
-        <source>The system's keychain does not answer</source>
+        <source>The system&apos;s keychain does not answer</source>
         <translation>El llavero del sistema no responde</translation>
     </message>
     <message>
-        <source>The system's keychain cannot keep this text</source>
+        <source>The system&apos;s keychain cannot keep this text</source>
         <translation>El llavero del sistema no puede guardar este texto</translation>
     </message>
     <message>
-        <source>The system's keychain reported an error</source>
+        <source>The system&apos;s keychain reported an error</source>
         <translation>El llavero del sistema dio un error</translation>
     </message>
     <message>
-        <source>The passcode is not asked for any more: the system's keychain was locked.</source>
+        <source>The passcode is not asked for any more: the system&apos;s keychain was locked.</source>
         <translation>Ya no se pide el código: el llavero del sistema estaba bloqueado.</translation>
     </message>
     <message>
@@ -1729,11 +1733,11 @@
         <translation>Ya no se pide el código: no había un llavero en marcha.</translation>
     </message>
     <message>
-        <source>The passcode is not asked for any more: the system's keychain did not answer.</source>
+        <source>The passcode is not asked for any more: the system&apos;s keychain did not answer.</source>
         <translation>Ya no se pide el código: el llavero del sistema no respondió.</translation>
     </message>
     <message>
-        <source>The passcode is not asked for any more: the system's keychain could not be read.</source>
+        <source>The passcode is not asked for any more: the system&apos;s keychain could not be read.</source>
         <translation>Ya no se pide el código: no se pudo leer el llavero del sistema.</translation>
     </message>
 </context>
@@ -1756,7 +1760,7 @@
     <name>PerformanceSummary</name>
     <message>
         <source>Lowest</source>
-        <translation>Mínimo</translation>
+        <translation>Mín.</translation>
     </message>
     <message>
         <source>Mean</source>
@@ -1764,7 +1768,7 @@
     </message>
     <message>
         <source>Highest</source>
-        <translation>Máximo</translation>
+        <translation>Máx.</translation>
     </message>
     <message>
         <source>Last</source>
@@ -1845,7 +1849,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Report Sent</source>
@@ -2039,7 +2043,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Every</source>
-        <translation>Cada</translation>
+        <translation>Intervalo</translation>
     </message>
     <message>
         <source>Tell me</source>
@@ -2109,7 +2113,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <extracomment>%1 a day as in "yesterday" or "Mon", %2 a time of day</extracomment>
+        <extracomment>%1 a day as in &quot;yesterday&quot; or &quot;Mon&quot;, %2 a time of day</extracomment>
         <translation>%1 %2</translation>
     </message>
     <message>
@@ -2119,7 +2123,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>since %1</source>
-        <extracomment>%1 as in "09:41", "yesterday 21:40" or "3 Mar"</extracomment>
+        <extracomment>%1 as in &quot;09:41&quot;, &quot;yesterday 21:40&quot; or &quot;3 Mar&quot;</extracomment>
         <translation>desde %1</translation>
     </message>
     <message>
@@ -2128,21 +2132,21 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>read %1</source>
-        <extracomment>%1 as in "2 min ago" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 as in &quot;2 min ago&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>leído %1</translation>
     </message>
     <message numerus="yes">
         <source>%Ln min ago</source>
         <translation>
-            <numerusform>hace %Ln min</numerusform>
-            <numerusform>hace %Ln min</numerusform>
+            <numerusform>hace %Ln&#xa0;min</numerusform>
+            <numerusform>hace %Ln&#xa0;min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>read %Ln h ago</source>
         <translation>
-            <numerusform>leído hace %Ln h</numerusform>
-            <numerusform>leído hace %Ln h</numerusform>
+            <numerusform>leído hace %Ln&#xa0;h</numerusform>
+            <numerusform>leído hace %Ln&#xa0;h</numerusform>
         </translation>
     </message>
 </context>
@@ -2164,11 +2168,11 @@ Queda en la lista de informes.</translation>
     <name>lodestar::AttentionNowController</name>
     <message>
         <source>Nothing needs attention</source>
-        <translation>Nada pide atención</translation>
+        <translation>Nada requiere atención</translation>
     </message>
     <message>
         <source>Nothing known needs attention</source>
-        <translation>Nada conocido pide atención</translation>
+        <translation>Nada conocido requiere atención</translation>
     </message>
     <message>
         <source>%1: %2</source>
@@ -2177,7 +2181,7 @@ Queda en la lista de informes.</translation>
     <message>
         <source>Show all %1</source>
         <extracomment>%1 a number of rows</extracomment>
-        <translation>Mostrar los %1</translation>
+        <translation>Mostrar todo (%1)</translation>
     </message>
 </context>
 <context>
@@ -2200,7 +2204,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <extracomment>The name of a file: the tab "Attention" and what of it</extracomment>
+        <extracomment>The name of a file: the tab &quot;Attention&quot; and what of it</extracomment>
         <translation>%1, %2</translation>
     </message>
 </context>
@@ -2251,11 +2255,11 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1 read again</source>
-        <translation>%1 leídos de nuevo</translation>
+        <translation>%1 de nuevo disponibles</translation>
     </message>
     <message>
         <source>New</source>
-        <translation>Nuevas</translation>
+        <translation>Nuevo</translation>
     </message>
     <message>
         <source>Gone</source>
@@ -2350,8 +2354,8 @@ Queda en la lista de informes.</translation>
     <message numerus="yes">
         <source>%Ln min</source>
         <translation>
-            <numerusform>%Ln min</numerusform>
-            <numerusform>%Ln min</numerusform>
+            <numerusform>%Ln&#xa0;min</numerusform>
+            <numerusform>%Ln&#xa0;min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2364,8 +2368,8 @@ Queda en la lista de informes.</translation>
     <message numerus="yes">
         <source>%Ln h</source>
         <translation>
-            <numerusform>%Ln h</numerusform>
-            <numerusform>%Ln h</numerusform>
+            <numerusform>%Ln&#xa0;h</numerusform>
+            <numerusform>%Ln&#xa0;h</numerusform>
         </translation>
     </message>
 </context>
@@ -2433,10 +2437,6 @@ Queda en la lista de informes.</translation>
         <source>Bring back the demo</source>
         <translation>Recuperar la demo</translation>
     </message>
-    <message>
-        <source>Feedback</source>
-        <translation>Comentarios</translation>
-    </message>
 </context>
 <context>
     <name>lodestar::ConnectionContent</name>
@@ -2447,17 +2447,17 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1, ended %2</source>
-        <extracomment>%1 as in "1 Sep 2025 to 31 Aug 2027", %2 a date</extracomment>
-        <translation>%1, terminó %2</translation>
+        <extracomment>%1 as in &quot;1 Sep 2025 to 31 Aug 2027&quot;, %2 a date</extracomment>
+        <translation>%1, caducó el %2</translation>
     </message>
     <message>
         <source>%1, begins %2</source>
-        <extracomment>%1 as in "1 Sep 2025 to 31 Aug 2027", %2 a date</extracomment>
-        <translation>%1, empieza %2</translation>
+        <extracomment>%1 as in &quot;1 Sep 2025 to 31 Aug 2027&quot;, %2 a date</extracomment>
+        <translation>%1, válido desde el %2</translation>
     </message>
     <message>
         <source>changed %1</source>
-        <extracomment>%1 as in "today, 02:58" or "3 Mar"</extracomment>
+        <extracomment>%1 as in &quot;today, 02:58&quot; or &quot;3 Mar&quot;</extracomment>
         <translation>cambió %1</translation>
     </message>
     <message>
@@ -2530,7 +2530,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>The rest was read %1.</source>
-        <extracomment>%1 as in "at 09:26" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 as in &quot;at 09:26&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>El resto se leyó %1.</translation>
     </message>
     <message>
@@ -2543,7 +2543,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1 could not be read.</source>
-        <extracomment>%1 names of feeds, as in "Partitions and resource groups"</extracomment>
+        <extracomment>%1 names of feeds, as in &quot;Partitions and resource groups&quot;</extracomment>
         <translation>%1: no se pudo leer.</translation>
     </message>
     <message>
@@ -2552,7 +2552,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Offline since %1</source>
-        <extracomment>%1 as in "02:58" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 as in &quot;02:58&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>Sin conexión desde %1</translation>
     </message>
     <message>
@@ -2561,7 +2561,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Everything was read %1, in %2.</source>
-        <extracomment>%1 as in "2 min ago" or "at 09:41", %2 a time in seconds</extracomment>
+        <extracomment>%1 as in &quot;2 min ago&quot; or &quot;at 09:41&quot;, %2 a time in seconds</extracomment>
         <translation>Todo se leyó %1, en %2.</translation>
     </message>
     <message>
@@ -2578,7 +2578,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1, in %2</source>
-        <extracomment>%1 as in "today, 02:43", %2 a time in seconds</extracomment>
+        <extracomment>%1 as in &quot;today, 02:43&quot;, %2 a time in seconds</extracomment>
         <translation>%1, en %2</translation>
     </message>
     <message>
@@ -2709,11 +2709,11 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1&#xa0;KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message numerus="yes">
         <source>%Ln entries</source>
@@ -2729,8 +2729,8 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1 were last read %2</source>
-        <extracomment>%1 the name of a feed, %2 as in "at 09:26" or "yesterday 21:40"</extracomment>
-        <translation>%1, leídos por última vez %2</translation>
+        <extracomment>%1 the name of a feed, %2 as in &quot;at 09:26&quot; or &quot;yesterday 21:40&quot;</extracomment>
+        <translation>%1, última lectura %2</translation>
     </message>
     <message>
         <source>%1, %2 %3</source>
@@ -2744,11 +2744,11 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation>%1 ms</translation>
+        <translation>%1&#xa0;ms</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 s</translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>at %1</source>
@@ -2771,8 +2771,8 @@ Queda en la lista de informes.</translation>
     <message numerus="yes">
         <source>The rest is %Ln min old.</source>
         <translation>
-            <numerusform>El resto es de hace %Ln min.</numerusform>
-            <numerusform>El resto es de hace %Ln min.</numerusform>
+            <numerusform>El resto es de hace %Ln&#xa0;min.</numerusform>
+            <numerusform>El resto es de hace %Ln&#xa0;min.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2793,8 +2793,8 @@ Queda en la lista de informes.</translation>
     <message numerus="yes">
         <source>no answer within %Ln s</source>
         <translation>
-            <numerusform>sin respuesta en %Ln s</numerusform>
-            <numerusform>sin respuesta en %Ln s</numerusform>
+            <numerusform>sin respuesta en %Ln&#xa0;s</numerusform>
+            <numerusform>sin respuesta en %Ln&#xa0;s</numerusform>
         </translation>
     </message>
 </context>
@@ -2918,7 +2918,7 @@ Queda en la lista de informes.</translation>
     <name>lodestar::DBusMessageService</name>
     <message>
         <source>Open</source>
-        <translation>Abiertos</translation>
+        <translation>Abrir</translation>
     </message>
 </context>
 <context>
@@ -2942,18 +2942,18 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Read %1.</source>
-        <extracomment>%1 and %2 as in "09:41" or "yesterday 21:40"</extracomment>
-        <translation>Leído %1.</translation>
+        <extracomment>%1 and %2 as in &quot;09:41&quot; or &quot;yesterday 21:40&quot;</extracomment>
+        <translation>Lectura: %1.</translation>
     </message>
     <message>
         <source>Read %1 to %2.</source>
-        <translation>Leído de %1 a %2.</translation>
+        <translation>Lectura: %1 a %2.</translation>
     </message>
     <message numerus="yes">
         <source>Next in %Ln min.</source>
         <translation>
-            <numerusform>Siguiente en %Ln min.</numerusform>
-            <numerusform>Siguiente en %Ln min.</numerusform>
+            <numerusform>Siguiente en %Ln&#xa0;min.</numerusform>
+            <numerusform>Siguiente en %Ln&#xa0;min.</numerusform>
         </translation>
     </message>
 </context>
@@ -3013,7 +3013,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message numerus="yes">
         <source>%1, %Ln days, %2</source>
-        <extracomment>A chart's name, how many days it has, and what it tells of the last.</extracomment>
+        <extracomment>A chart&apos;s name, how many days it has, and what it tells of the last.</extracomment>
         <translation>
             <numerusform>%1, %Ln día, %2</numerusform>
             <numerusform>%1, %Ln días, %2</numerusform>
@@ -3116,7 +3116,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <extracomment>The name of a file: what is listed, such as "Managed Systems", and a console's name</extracomment>
+        <extracomment>The name of a file: what is listed, such as &quot;Managed Systems&quot;, and a console&apos;s name</extracomment>
         <translation>%1, %2</translation>
     </message>
 </context>
@@ -3140,7 +3140,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>IO servers</source>
-        <translation>servidores E/S</translation>
+        <translation>Servidores E/S</translation>
     </message>
     <message>
         <source>partitions</source>
@@ -3172,12 +3172,12 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1 not read</source>
-        <extracomment>%1 the name of a feed, as in "Partitions"</extracomment>
+        <extracomment>%1 the name of a feed, as in &quot;Partitions&quot;</extracomment>
         <translation>%1 sin leer</translation>
     </message>
     <message>
         <source>%1 and %2 not read</source>
-        <extracomment>%1 and %2 names of feeds, as in "Partitions" and "groups"</extracomment>
+        <extracomment>%1 and %2 names of feeds, as in &quot;Partitions&quot; and &quot;groups&quot;</extracomment>
         <translation>%1 y %2 sin leer</translation>
     </message>
     <message>
@@ -3286,12 +3286,12 @@ Queda en la lista de informes.</translation>
     <name>lodestar::FileSaver</name>
     <message>
         <source>Could not be saved: %1</source>
-        <extracomment>%1 a reason, such as "the disk is full."</extracomment>
+        <extracomment>%1 a reason, such as &quot;the disk is full.&quot;</extracomment>
         <translation>No se pudo guardar: %1</translation>
     </message>
     <message>
         <source>Saved as %1</source>
-        <extracomment>%1 a file's name</extracomment>
+        <extracomment>%1 a file&apos;s name</extracomment>
         <translation>Guardado como %1</translation>
     </message>
     <message>
@@ -3300,7 +3300,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>There is already a file named %1.</source>
-        <extracomment>%1 a file's name</extracomment>
+        <extracomment>%1 a file&apos;s name</extracomment>
         <translation>Ya hay un archivo llamado %1.</translation>
     </message>
     <message>
@@ -3340,7 +3340,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <extracomment>%1 and %2 as in "09:41" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 and %2 as in &quot;09:41&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>%1 a %2</translation>
     </message>
     <message>
@@ -3350,7 +3350,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Show all %1</source>
-        <translation>Mostrar los %1</translation>
+        <translation>Mostrar todo (%1)</translation>
     </message>
     <message>
         <source>Nothing found for “%1”</source>
@@ -3366,13 +3366,13 @@ Queda en la lista de informes.</translation>
     <message numerus="yes">
         <source>%Ln things</source>
         <translation>
-            <numerusform>%Ln resultado</numerusform>
-            <numerusform>%Ln resultados</numerusform>
+            <numerusform>%Ln objeto</numerusform>
+            <numerusform>%Ln objetos</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %Ln consoles</source>
-        <extracomment>Within "2,318 things on 5 of 6 consoles, read 09:41."</extracomment>
+        <extracomment>Within &quot;2,318 things on 5 of 6 consoles, read 09:41.&quot;</extracomment>
         <translation>
             <numerusform>%1 de %Ln consola</numerusform>
             <numerusform>%1 de %Ln consolas</numerusform>
@@ -3380,8 +3380,8 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1 on %2, read %3.</source>
-        <extracomment>%1 as in "2,318 things", %2 as in "5 of 6 consoles", %3 as in "09:41" or "09:41 to 09:43"</extracomment>
-        <translation>%1 en %2, leído %3.</translation>
+        <extracomment>%1 as in &quot;2,318 things&quot;, %2 as in &quot;5 of 6 consoles&quot;, %3 as in &quot;09:41&quot; or &quot;09:41 to 09:43&quot;</extracomment>
+        <translation>%1 en %2, lectura: %3.</translation>
     </message>
     <message numerus="yes">
         <source>%1 were not read.</source>
@@ -3394,7 +3394,7 @@ Queda en la lista de informes.</translation>
     <message>
         <source>%1 of %2 are missing.</source>
         <extracomment>What was not read, and the names of its consoles.</extracomment>
-        <translation>Faltan %1 de %2.</translation>
+        <translation>%1 de %2 sin leer.</translation>
     </message>
 </context>
 <context>
@@ -3433,7 +3433,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Find on all consoles</source>
-        <translation>Buscar en todas las consolas</translation>
+        <translation>Buscar en todo</translation>
     </message>
     <message>
         <source>Recent</source>
@@ -3459,7 +3459,7 @@ Queda en la lista de informes.</translation>
     <name>lodestar::FindingText</name>
     <message>
         <source>%1, %2</source>
-        <extracomment>A sentence and a further part of it: "System in error" and "X417-2208"</extracomment>
+        <extracomment>A sentence and a further part of it: &quot;System in error&quot; and &quot;X417-2208&quot;</extracomment>
         <translation>%1, %2</translation>
     </message>
     <message>
@@ -3502,7 +3502,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Offline, %1</source>
-        <extracomment>%1 why, as in "connection refused"</extracomment>
+        <extracomment>%1 why, as in &quot;connection refused&quot;</extracomment>
         <translation>Sin conexión, %1</translation>
     </message>
     <message>
@@ -3511,7 +3511,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>LED on, system %1</source>
-        <extracomment>%1 the console's word for a system's state</extracomment>
+        <extracomment>%1 the console&apos;s word for a system&apos;s state</extracomment>
         <translation>LED encendido, sistema %1</translation>
     </message>
     <message numerus="yes">
@@ -3578,7 +3578,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>attention LED on</source>
-        <extracomment>%1 the console's word for a system's state</extracomment>
+        <extracomment>%1 the console&apos;s word for a system&apos;s state</extracomment>
         <translation>LED de atención encendido</translation>
     </message>
     <message>
@@ -3588,8 +3588,8 @@ Queda en la lista de informes.</translation>
     <message numerus="yes">
         <source>%Ln things need attention</source>
         <translation>
-            <numerusform>%Ln asunto pide atención</numerusform>
-            <numerusform>%Ln asuntos piden atención</numerusform>
+            <numerusform>%Ln asunto requiere atención</numerusform>
+            <numerusform>%Ln asuntos requieren atención</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3628,8 +3628,8 @@ Queda en la lista de informes.</translation>
     <message numerus="yes">
         <source>%Ln things needed attention there before.</source>
         <translation>
-            <numerusform>Antes %Ln asunto pedía atención ahí.</numerusform>
-            <numerusform>Antes %Ln asuntos pedían atención ahí.</numerusform>
+            <numerusform>Antes %Ln asunto requería atención ahí.</numerusform>
+            <numerusform>Antes %Ln asuntos requerían atención ahí.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3665,7 +3665,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>IO servers</source>
-        <translation>servidores E/S</translation>
+        <translation>Servidores E/S</translation>
     </message>
     <message>
         <source>Partitions</source>
@@ -3763,7 +3763,7 @@ Queda en la lista de informes.</translation>
     <message>
         <source>%1 of %2 are missing.</source>
         <extracomment>What was not read, and the names of its consoles.</extracomment>
-        <translation>Faltan %1 de %2.</translation>
+        <translation>%1 de %2 sin leer.</translation>
     </message>
     <message>
         <source>Nothing was read yet. Refresh first.</source>
@@ -3779,7 +3779,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>open</source>
-        <translation>abierto</translation>
+        <translation>abiertos</translation>
     </message>
     <message>
         <source>call home</source>
@@ -3855,8 +3855,8 @@ Queda en la lista de informes.</translation>
         <source>Passwords are never read from a sheet: %1 are left out.</source>
         <extracomment>%1 titles of columns</extracomment>
         <translation>
-            <numerusform>Las contraseñas nunca se leen de una hoja: %1 se omite.</numerusform>
-            <numerusform>Las contraseñas nunca se leen de una hoja: %1 se omiten.</numerusform>
+            <numerusform>Las contraseñas nunca se leen de una hoja: la columna %1 se omite.</numerusform>
+            <numerusform>Las contraseñas nunca se leen de una hoja: las columnas %1 se omiten.</numerusform>
         </translation>
     </message>
     <message>
@@ -3914,20 +3914,20 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>tried</source>
-        <translation>probada</translation>
+        <translation>probadas</translation>
     </message>
     <message numerus="yes">
         <source>tried, about %Ln s left</source>
         <translation>
-            <numerusform>probadas, quedan unos %Ln s</numerusform>
-            <numerusform>probadas, quedan unos %Ln s</numerusform>
+            <numerusform>probadas, quedan unos %Ln&#xa0;s</numerusform>
+            <numerusform>probadas, quedan unos %Ln&#xa0;s</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>tried, about %Ln min left</source>
         <translation>
-            <numerusform>probadas, quedan unos %Ln min</numerusform>
-            <numerusform>probadas, quedan unos %Ln min</numerusform>
+            <numerusform>probadas, quedan unos %Ln&#xa0;min</numerusform>
+            <numerusform>probadas, quedan unos %Ln&#xa0;min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3992,7 +3992,7 @@ Queda en la lista de informes.</translation>
     <message numerus="yes">
         <source>All %Ln are added together, or none.</source>
         <translation>
-            <numerusform>Se añade %Ln o ninguna.</numerusform>
+            <numerusform>Solo se añade esta consola.</numerusform>
             <numerusform>Se añaden las %Ln juntas o ninguna.</numerusform>
         </translation>
     </message>
@@ -4014,7 +4014,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation>Ahora</translation>
+        <translation>En curso</translation>
     </message>
     <message>
         <source>Verified</source>
@@ -4026,12 +4026,12 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Show all %1</source>
-        <translation>Mostrar los %1</translation>
+        <translation>Mostrar las %1</translation>
     </message>
     <message numerus="yes">
         <source>Try These %Ln Again</source>
         <translation>
-            <numerusform>Reintentar %Ln</numerusform>
+            <numerusform>Reintentar esta</numerusform>
             <numerusform>Reintentar estas %Ln</numerusform>
         </translation>
     </message>
@@ -4073,7 +4073,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln in error</source>
-        <extracomment>How many of a group's resources are in error, as in "16 resources, 1 in error"</extracomment>
+        <extracomment>How many of a group&apos;s resources are in error, as in &quot;16 resources, 1 in error&quot;</extracomment>
         <translation>
             <numerusform>%Ln con error</numerusform>
             <numerusform>%Ln con error</numerusform>
@@ -4119,7 +4119,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Commands</source>
-        <translation>Órdenes</translation>
+        <translation>Comandos</translation>
     </message>
     <message>
         <source>Keyboard</source>
@@ -4130,7 +4130,7 @@ Queda en la lista de informes.</translation>
     <name>lodestar::KeyTable</name>
     <message>
         <source>%1 (%2)</source>
-        <extracomment>A button's tip: what the button does, and the keys that do it</extracomment>
+        <extracomment>A button&apos;s tip: what the button does, and the keys that do it</extracomment>
         <translation>%1 (%2)</translation>
     </message>
 </context>
@@ -4460,13 +4460,13 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1 at %2</source>
-        <extracomment>%1 as in "lowest 2.80", %2 a time of day</extracomment>
+        <extracomment>%1 as in &quot;lowest 2.80&quot;, %2 a time of day</extracomment>
         <translation>%1 a las %2</translation>
     </message>
     <message>
         <source>%1 all along</source>
         <extracomment>%1 a number</extracomment>
-        <translation>%1 todo el tiempo</translation>
+        <translation>siempre %1</translation>
     </message>
     <message>
         <source>lowest %1</source>
@@ -4486,7 +4486,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>all along</source>
-        <translation>todo el tiempo</translation>
+        <translation>siempre</translation>
     </message>
     <message>
         <source>Total Processors</source>
@@ -4555,7 +4555,7 @@ Queda en la lista de informes.</translation>
     <name>lodestar::PlotChartView</name>
     <message>
         <source>%1 %2</source>
-        <extracomment>A data set's name and its latest value, as in "Processors Used 6.5".</extracomment>
+        <extracomment>A data set&apos;s name and its latest value, as in &quot;Processors Used 6.5&quot;.</extracomment>
         <translation>%1 %2</translation>
     </message>
     <message>
@@ -4565,7 +4565,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1, %2: %3</source>
-        <extracomment>A data set's name, the label of one of its values, and the value.</extracomment>
+        <extracomment>A data set&apos;s name, the label of one of its values, and the value.</extracomment>
         <translation>%1, %2: %3</translation>
     </message>
 </context>
@@ -4620,7 +4620,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1 good, %2 off, %3 alert, %4 error</source>
-        <extracomment>A resource group's states, read aloud: counts</extracomment>
+        <extracomment>A resource group&apos;s states, read aloud: counts</extracomment>
         <translation>%1 bien, %2 apagados, %3 en alerta, %4 con error</translation>
     </message>
 </context>
@@ -4643,12 +4643,12 @@ Queda en la lista de informes.</translation>
     <name>lodestar::ReadingMark</name>
     <message>
         <source>%1 missing</source>
-        <extracomment>%1 the name of a feed, as in "partitions"</extracomment>
+        <extracomment>%1 the name of a feed, as in &quot;partitions&quot;</extracomment>
         <translation>faltan %1</translation>
     </message>
     <message>
         <source>offline %1</source>
-        <extracomment>%1 as in "since 02:58"</extracomment>
+        <extracomment>%1 as in &quot;since 02:58&quot;</extracomment>
         <translation>sin conexión %1</translation>
     </message>
     <message numerus="yes">
@@ -4688,7 +4688,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>nothing within 10 s</source>
-        <translation>nada en 10 s</translation>
+        <translation>nada en 10&#xa0;s</translation>
     </message>
     <message>
         <source>name not found</source>
@@ -4742,7 +4742,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>It did not answer within 10 s.</source>
-        <translation>No respondió en 10 s.</translation>
+        <translation>No respondió en 10&#xa0;s.</translation>
     </message>
     <message>
         <source>Its name has no address.</source>
@@ -4754,7 +4754,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>It broke off while answering.</source>
-        <translation>Se cortó al responder.</translation>
+        <translation>Interrumpió su respuesta.</translation>
     </message>
     <message>
         <source>It sent Lodestar from one address to the next.</source>
@@ -4809,12 +4809,12 @@ Queda en la lista de informes.</translation>
         <translation>Compruebe cómo está escrita la dirección.</translation>
     </message>
     <message>
-        <source>Check this device's network.</source>
+        <source>Check this device&apos;s network.</source>
         <translation>Compruebe la red de este dispositivo.</translation>
     </message>
     <message>
         <source>Try the number instead of the name.</source>
-        <translation>Pruebe con el número en vez del nombre.</translation>
+        <translation>Pruebe con la dirección IP en vez del nombre.</translation>
     </message>
     <message>
         <source>The console may be starting; refresh in some minutes.</source>
@@ -4890,15 +4890,15 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>First reported</source>
-        <translation>Primer aviso</translation>
+        <translation>Primera notificación</translation>
     </message>
     <message>
         <source>Last reported</source>
-        <translation>Último aviso</translation>
+        <translation>Última notificación</translation>
     </message>
     <message>
         <source>Reported</source>
-        <translation>Avisado</translation>
+        <translation>Notificado</translation>
     </message>
     <message>
         <source>Part %1</source>
@@ -4918,7 +4918,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Serial</source>
-        <translation>Serie</translation>
+        <translation>N.º de serie</translation>
     </message>
     <message>
         <source>Read</source>
@@ -4939,7 +4939,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Serviceable event #%1</source>
-        <extracomment>%1 the event's number</extracomment>
+        <extracomment>%1 the event&apos;s number</extracomment>
         <translation>Evento de servicio #%1</translation>
     </message>
     <message>
@@ -5065,11 +5065,11 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>First Reported Time</source>
-        <translation>Primera vez avisado</translation>
+        <translation>Primera notificación</translation>
     </message>
     <message>
         <source>Last Reported Time</source>
-        <translation>Última vez avisado</translation>
+        <translation>Última notificación</translation>
     </message>
     <message>
         <source>Data Event Time</source>
@@ -5077,11 +5077,11 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Reporting Console Name</source>
-        <translation>Nombre de la consola que avisa</translation>
+        <translation>Nombre de la consola que notifica</translation>
     </message>
     <message>
         <source>Reporting MTMS</source>
-        <translation>MTMS que avisa</translation>
+        <translation>MTMS que notifica</translation>
     </message>
     <message>
         <source>Failing MTMS</source>
@@ -5097,7 +5097,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Notification Type</source>
-        <translation>Tipo de aviso</translation>
+        <translation>Tipo de notificación</translation>
     </message>
     <message>
         <source>Duplicate Count</source>
@@ -5222,7 +5222,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Last read in full at %1</source>
-        <translation>Leído por completo por última vez a las %1</translation>
+        <translation>Última lectura completa: %1</translation>
     </message>
     <message>
         <source>%1 is offline</source>
@@ -5248,14 +5248,14 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <extracomment>%1 a console, %2 as in "Partitions not read"
+        <extracomment>%1 a console, %2 as in &quot;Partitions not read&quot;
 ----------
-%1 a console, %2 as in "3 things got worse"</extracomment>
+%1 a console, %2 as in &quot;3 things got worse&quot;</extracomment>
         <translation>%1: %2</translation>
     </message>
     <message>
         <source>%1 stopped</source>
-        <translation>%1 se paró</translation>
+        <translation>%1 sin funcionar</translation>
     </message>
     <message>
         <source>%1: LED on</source>
@@ -5271,7 +5271,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1 incomplete</source>
-        <translation>%1 incompleto</translation>
+        <translation>%1 en estado incompleto</translation>
     </message>
     <message>
         <source>not read in full</source>
@@ -5371,7 +5371,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message numerus="yes">
         <source>%1 on %Ln consoles</source>
-        <extracomment>%1 as in "7 things got worse", %n consoles</extracomment>
+        <extracomment>%1 as in &quot;7 things got worse&quot;, %n consoles</extracomment>
         <translation>
             <numerusform>%1 en %Ln consola</numerusform>
             <numerusform>%1 en %Ln consolas</numerusform>
@@ -5390,8 +5390,8 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1: %2 read again</source>
-        <extracomment>%1 a console, %2 the name of a feed, as in "Partitions"</extracomment>
-        <translation>%1: %2 leídos de nuevo</translation>
+        <extracomment>%1 a console, %2 the name of a feed, as in &quot;Partitions&quot;</extracomment>
+        <translation>%1: %2 de nuevo disponibles</translation>
     </message>
     <message>
         <source>%1: LED off</source>
@@ -5399,7 +5399,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>%1 is %2 again</source>
-        <extracomment>%1 a name, %2 the console's word for a state</extracomment>
+        <extracomment>%1 a name, %2 the console&apos;s word for a state</extracomment>
         <translation>%1 vuelve a estar %2</translation>
     </message>
     <message numerus="yes">
@@ -5411,7 +5411,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>After %1</source>
-        <extracomment>%1 a console, %2 as in "42 min"</extracomment>
+        <extracomment>%1 a console, %2 as in &quot;42 min&quot;</extracomment>
         <translation>Tras %1</translation>
     </message>
     <message>
@@ -5420,30 +5420,30 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>In the night, %1</source>
-        <extracomment>%1 as in "5 things got worse"</extracomment>
+        <extracomment>%1 as in &quot;5 things got worse&quot;</extracomment>
         <translation>Por la noche, %1</translation>
     </message>
     <message>
         <source>None of them needs attention any more</source>
-        <translation>Ya nada de eso pide atención</translation>
+        <translation>Ya nada de eso requiere atención</translation>
     </message>
     <message numerus="yes">
         <source>%Ln of them still need attention</source>
         <translation>
-            <numerusform>%Ln de ellos aún pide atención</numerusform>
-            <numerusform>%Ln de ellos aún piden atención</numerusform>
+            <numerusform>%Ln de ellos aún requiere atención</numerusform>
+            <numerusform>%Ln de ellos aún requieren atención</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln consoles need attention</source>
         <translation>
-            <numerusform>%Ln consola pide atención</numerusform>
-            <numerusform>%Ln consolas piden atención</numerusform>
+            <numerusform>%Ln consola requiere atención</numerusform>
+            <numerusform>%Ln consolas requieren atención</numerusform>
         </translation>
     </message>
     <message>
         <source>Nothing known needs attention</source>
-        <translation>Nada conocido pide atención</translation>
+        <translation>Nada conocido requiere atención</translation>
     </message>
     <message>
         <source>Open Lodestar to see more</source>
@@ -5462,12 +5462,12 @@ Queda en la lista de informes.</translation>
     <name>lodestar::WatchText</name>
     <message>
         <source>every %1</source>
-        <extracomment>%1 as in "15 min"</extracomment>
+        <extracomment>%1 as in &quot;15 min&quot;</extracomment>
         <translation>cada %1</translation>
     </message>
     <message>
         <source>off</source>
-        <translation>desactivada</translation>
+        <translation>inactiva</translation>
     </message>
     <message>
         <source>none</source>
@@ -5475,15 +5475,15 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>open</source>
-        <translation>abierto</translation>
+        <translation>abiertos</translation>
     </message>
     <message>
         <source>open, call home</source>
-        <translation>abiertos, aviso al fabricante</translation>
+        <translation>abiertos con aviso</translation>
     </message>
     <message>
         <source>all %1</source>
-        <translation>las %1</translation>
+        <translation>todas (%1)</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -5500,15 +5500,15 @@ Queda en la lista de informes.</translation>
     <message numerus="yes">
         <source>%Ln h</source>
         <translation>
-            <numerusform>%Ln h</numerusform>
-            <numerusform>%Ln h</numerusform>
+            <numerusform>%Ln&#xa0;h</numerusform>
+            <numerusform>%Ln&#xa0;h</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln min</source>
         <translation>
-            <numerusform>%Ln min</numerusform>
-            <numerusform>%Ln min</numerusform>
+            <numerusform>%Ln&#xa0;min</numerusform>
+            <numerusform>%Ln&#xa0;min</numerusform>
         </translation>
     </message>
 </context>
@@ -5520,7 +5520,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>This system shows no messages. Attention still counts.</source>
-        <translation>Este sistema no muestra mensajes. Atención sigue contando.</translation>
+        <translation>Este sistema no muestra mensajes. «Atención» sigue contando.</translation>
     </message>
     <message>
         <source>Reading goes on. At %1 one message sums up the night, if anything got worse.</source>
@@ -5533,7 +5533,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Every</source>
-        <translation>Cada</translation>
+        <translation>Intervalo</translation>
     </message>
     <message>
         <source>New Events</source>
@@ -5555,7 +5555,7 @@ Queda en la lista de informes.</translation>
     <name>main</name>
     <message>
         <source>Watches Corvel consoles and changes nothing.</source>
-        <translation>Observa consolas Corvel y no cambia nada.</translation>
+        <translation>Vigila consolas Corvel y no cambia nada.</translation>
     </message>
     <message>
         <source>Keep everything in this folder.</source>
@@ -5574,7 +5574,7 @@ Queda en la lista de informes.</translation>
         <translation>Salir al dibujar la primera pantalla, para medir.</translation>
     </message>
     <message>
-        <source>Speak this language instead of the system's (en, de, fr, es, ja, ar).</source>
+        <source>Speak this language instead of the system&apos;s (en, de, fr, es, ja, ar).</source>
         <extracomment>In brackets codes, which stay as they are</extracomment>
         <translation>Hablar este idioma en vez del del sistema (en, de, fr, es, ja, ar).</translation>
     </message>

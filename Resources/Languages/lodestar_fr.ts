@@ -5,7 +5,7 @@
     <name>AttentionFilterButton</name>
     <message>
         <source>Show, filtered</source>
-        <translation>Afficher, filtré</translation>
+        <translation>Afficher (filtré)</translation>
     </message>
     <message>
         <source>Show</source>
@@ -44,7 +44,7 @@
     </message>
     <message>
         <source>Find a console</source>
-        <translation>Chercher une console</translation>
+        <translation>Rechercher une console</translation>
     </message>
 </context>
 <context>
@@ -85,7 +85,7 @@
     <name>AttentionWatchButton</name>
     <message>
         <source>Watch</source>
-        <translation>Veille</translation>
+        <translation>Surveillance</translation>
     </message>
 </context>
 <context>
@@ -118,11 +118,11 @@
     <message>
         <source>%1 needs a value: %2.</source>
         <extracomment>%1 an option, %2 a word for what it takes</extracomment>
-        <translation>%1 demande une valeur : %2.</translation>
+        <translation>%1 demande une valeur&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Only this console, by name or address; may be repeated.</source>
-        <translation>Seulement cette console, par nom ou adresse ; répétable.</translation>
+        <translation>Seulement cette console, par nom ou adresse&#xa0;; répétable.</translation>
     </message>
     <message>
         <source>Write JSON.</source>
@@ -133,7 +133,7 @@
         <translation>Écrire des valeurs séparées par des virgules.</translation>
     </message>
     <message>
-        <source>Use this data folder instead of Lodestar's own.</source>
+        <source>Use this data folder instead of Lodestar&apos;s own.</source>
         <translation>Utiliser ce dossier de données au lieu de celui de Lodestar.</translation>
     </message>
     <message>
@@ -175,7 +175,7 @@
     </message>
     <message>
         <source>It is used so: %1</source>
-        <translation>Elle s’utilise ainsi : %1</translation>
+        <translation>Elle s’utilise ainsi&#xa0;: %1</translation>
     </message>
     <message>
         <source>--json and --csv exclude one another.</source>
@@ -187,7 +187,7 @@
     </message>
     <message>
         <source>With every command:</source>
-        <translation>Avec chaque commande :</translation>
+        <translation>Avec chaque commande&#xa0;:</translation>
     </message>
     <message>
         <source>Ends with 0 when all is well, 1 after warnings, 2 after errors, and 3 when that is not known.</source>
@@ -203,7 +203,7 @@
     </message>
     <message>
         <source>List everything that needs attention. The exit code as with status.</source>
-        <translation>Lister tout ce qui demande attention. Code de sortie comme status.</translation>
+        <translation>Lister tout ce qui demande votre attention. Code de sortie comme status.</translation>
     </message>
     <message>
         <source>List consoles, systems, io-servers, partitions, events or groups.</source>
@@ -239,15 +239,15 @@
     </message>
     <message>
         <source>With --csv: memory instead of processors.</source>
-        <translation>Avec --csv : la mémoire au lieu des processeurs.</translation>
+        <translation>Avec --csv&#xa0;: la mémoire au lieu des processeurs.</translation>
     </message>
     <message>
         <source>Read the consoles again and again, and write a line for each change.</source>
         <translation>Lire les consoles encore et encore, et écrire une ligne par changement.</translation>
     </message>
     <message>
-        <source>Minutes between readings, or 30s, 2h; at first as Lodestar's Watch has it.</source>
-        <translation>Minutes entre les lectures, ou 30s, 2h ; par défaut comme la veille de Lodestar.</translation>
+        <source>Minutes between readings, or 30s, 2h; at first as Lodestar&apos;s Watch has it.</source>
+        <translation>Minutes entre les lectures, ou 30s, 2h&#xa0;; par défaut comme la surveillance de Lodestar.</translation>
     </message>
     <message>
         <source>End after so many readings.</source>
@@ -259,19 +259,19 @@
     </message>
     <message>
         <source>Replace this file, for a collector of text files; - is standard output.</source>
-        <translation>Remplacer ce fichier, pour un collecteur de fichiers texte ; - est la sortie standard.</translation>
+        <translation>Remplacer ce fichier, pour un collecteur de fichiers texte&#xa0;; - est la sortie standard.</translation>
     </message>
     <message>
         <source>Serve it at /metrics instead, on this machine only; ADDRESS:PORT, too.</source>
-        <translation>Le servir plutôt à /metrics, sur cette machine seulement ; ADRESSE:PORT aussi.</translation>
+        <translation>Le servir plutôt à /metrics, sur cette machine seulement&#xa0;; ADRESSE:PORT aussi.</translation>
     </message>
     <message>
         <source>With --listen: minutes between readings, or 30s, 2h.</source>
-        <translation>Avec --listen : minutes entre les lectures, ou 30s, 2h.</translation>
+        <translation>Avec --listen&#xa0;: minutes entre les lectures, ou 30s, 2h.</translation>
     </message>
     <message>
         <source>Also its processors and memory; may be repeated.</source>
-        <translation>Aussi ses processeurs et sa mémoire ; répétable.</translation>
+        <translation>Aussi ses processeurs et sa mémoire&#xa0;; répétable.</translation>
     </message>
     <message>
         <source>List the registered consoles without asking them.</source>
@@ -287,7 +287,7 @@
     </message>
     <message>
         <source>Call it so; the address at first.</source>
-        <translation>La nommer ainsi ; l’adresse par défaut.</translation>
+        <translation>La nommer ainsi&#xa0;; l’adresse par défaut.</translation>
     </message>
     <message>
         <source>Remove a console and what is remembered of it.</source>
@@ -295,7 +295,7 @@
     </message>
     <message>
         <source>Verify the consoles of a fleet sheet and register them together; - reads standard input.</source>
-        <translation>Vérifier les consoles d’une feuille et les enregistrer ensemble ; - lit l’entrée standard.</translation>
+        <translation>Vérifier les consoles d’une feuille et les enregistrer ensemble&#xa0;; - lit l’entrée standard.</translation>
     </message>
     <message>
         <source>Register none unless all can be.</source>
@@ -303,7 +303,7 @@
     </message>
     <message>
         <source>Write the consoles as a fleet sheet, without secrets; - writes standard output.</source>
-        <translation>Écrire les consoles en feuille, sans secrets ; - écrit sur la sortie standard.</translation>
+        <translation>Écrire les consoles en feuille, sans secrets&#xa0;; - écrit sur la sortie standard.</translation>
     </message>
     <message>
         <source>The same as consoles list.</source>
@@ -311,8 +311,8 @@
     </message>
     <message>
         <source>%1 did not answer: %2.</source>
-        <extracomment>%1 a console, %2 why, as in "connection refused"</extracomment>
-        <translation>%1 n’a pas répondu : %2.</translation>
+        <extracomment>%1 a console, %2 why, as in &quot;connection refused&quot;</extracomment>
+        <translation>%1 n’a pas répondu&#xa0;: %2.</translation>
     </message>
     <message>
         <source>offline</source>
@@ -320,8 +320,8 @@
     </message>
     <message>
         <source>%1: %2.</source>
-        <extracomment>%1 a console, %2 as in "Partitions not read"</extracomment>
-        <translation>%1 : %2.</translation>
+        <extracomment>%1 a console, %2 as in &quot;Partitions not read&quot;</extracomment>
+        <translation>%1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>No consoles yet.</source>
@@ -337,11 +337,11 @@
     </message>
     <message>
         <source>consoles export writes a fleet sheet; consoles list --json writes JSON.</source>
-        <translation>consoles export écrit une feuille ; consoles list --json écrit du JSON.</translation>
+        <translation>consoles export écrit une feuille&#xa0;; consoles list --json écrit du JSON.</translation>
     </message>
     <message>
         <source>Could not be saved: %1</source>
-        <translation>Enregistrement impossible : %1</translation>
+        <translation>Enregistrement impossible&#xa0;: %1</translation>
     </message>
     <message numerus="yes">
         <source>Saved %Ln consoles as %1</source>
@@ -357,7 +357,7 @@
     </message>
     <message>
         <source>--every goes with --listen; a file is written once.</source>
-        <translation>--every va avec --listen ; un fichier est écrit une fois.</translation>
+        <translation>--every va avec --listen&#xa0;; un fichier est écrit une fois.</translation>
     </message>
     <message>
         <source>export writes OpenMetrics.</source>
@@ -372,8 +372,8 @@
     </message>
     <message>
         <source>The metrics of %1 cannot be had: %2.</source>
-        <extracomment>%1 a system, %2 why, as in "connection refused"</extracomment>
-        <translation>Les mesures de %1 ne peuvent pas être lues : %2.</translation>
+        <extracomment>%1 a system, %2 why, as in &quot;connection refused&quot;</extracomment>
+        <translation>Les mesures de %1 ne peuvent pas être lues&#xa0;: %2.</translation>
     </message>
     <message>
         <source>Listening on %1</source>
@@ -394,7 +394,7 @@
     </message>
     <message>
         <source>%1 was left out: its certificate changed within an attempt. To take the new one, name the console with --console.</source>
-        <translation>%1 a été laissée de côté : son certificat a changé pendant un essai. Pour prendre le nouveau, nommez la console avec --console.</translation>
+        <translation>%1 a été laissée de côté&#xa0;: son certificat a changé pendant une tentative. Pour prendre le nouveau, nommez la console avec --console.</translation>
     </message>
     <message>
         <source>%1 cannot be opened</source>
@@ -406,7 +406,7 @@
     </message>
     <message>
         <source>This is not a CSV file: %1.</source>
-        <translation>Ce n’est pas un fichier CSV : %1.</translation>
+        <translation>Ce n’est pas un fichier CSV&#xa0;: %1.</translation>
     </message>
     <message>
         <source>registered already, left alone</source>
@@ -422,7 +422,7 @@
     </message>
     <message>
         <source>no address of a console: %1</source>
-        <translation>pas une adresse de console : %1</translation>
+        <translation>pas une adresse de console&#xa0;: %1</translation>
     </message>
     <message>
         <source>the same address as row %1</source>
@@ -435,8 +435,8 @@
     <message numerus="yes">
         <source>verifying %1 of %2, about %Ln s left</source>
         <translation>
-            <numerusform>vérification de %1 sur %2, encore environ %Ln s</numerusform>
-            <numerusform>vérification de %1 sur %2, encore environ %Ln s</numerusform>
+            <numerusform>vérification de %1 sur %2, encore environ %Ln&#xa0;s</numerusform>
+            <numerusform>vérification de %1 sur %2, encore environ %Ln&#xa0;s</numerusform>
         </translation>
     </message>
     <message>
@@ -449,7 +449,7 @@
     </message>
     <message>
         <source>The column %1 was not read: passwords do not belong in a sheet.</source>
-        <translation>La colonne %1 n’a pas été lue : les mots de passe n’ont pas leur place dans une feuille.</translation>
+        <translation>La colonne %1 n’a pas été lue&#xa0;: les mots de passe n’ont pas leur place dans une feuille.</translation>
     </message>
     <message>
         <source>The column %1 is not used.</source>
@@ -472,12 +472,12 @@
     </message>
     <message>
         <source>Nothing was added: %1.</source>
-        <translation>Rien n’a été ajouté : %1.</translation>
+        <translation>Rien n’a été ajouté&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Nothing was added. %1: %2.</source>
-        <extracomment>%1 an address, %2 why, as in "connection refused"</extracomment>
-        <translation>Rien n’a été ajouté. %1 : %2.</translation>
+        <extracomment>%1 an address, %2 why, as in &quot;connection refused&quot;</extracomment>
+        <translation>Rien n’a été ajouté. %1&#xa0;: %2.</translation>
     </message>
     <message>
         <source>not verified</source>
@@ -501,7 +501,7 @@
     </message>
     <message>
         <source>--listen takes no address that other machines reach, such as %1: what it serves is neither encrypted nor guarded. Put a server in front of it that is.</source>
-        <translation>--listen ne prend pas d’adresse que d’autres machines atteignent, comme %1 : ce qu’il sert n’est ni chiffré ni protégé. Placez devant un serveur qui l’est.</translation>
+        <translation>--listen ne prend pas d’adresse que d’autres machines atteignent, comme %1&#xa0;: ce qu’il sert n’est ni chiffré ni protégé. Placez devant un serveur qui l’est.</translation>
     </message>
     <message>
         <source>Cannot listen on %1</source>
@@ -541,27 +541,27 @@
     </message>
     <message>
         <source>No %1.</source>
-        <translation>Pas de %1.</translation>
+        <translation>Liste vide&#xa0;: %1.</translation>
     </message>
     <message>
         <source>No known %1.</source>
-        <translation>Pas de %1 connus.</translation>
+        <translation>Liste vide, sous réserve de ce qui n’a pas été lu&#xa0;: %1.</translation>
     </message>
     <message>
         <source>No open %1.</source>
-        <translation>Pas de %1 ouverts.</translation>
+        <translation>Pas d’%1 ouverts.</translation>
     </message>
     <message>
         <source>No known open %1.</source>
-        <translation>Pas de %1 ouverts connus.</translation>
+        <translation>Pas d’%1 ouverts connus.</translation>
     </message>
     <message>
         <source>No such %1.</source>
-        <translation>Pas de tels %1.</translation>
+        <translation>Rien de tel&#xa0;: %1.</translation>
     </message>
     <message>
         <source>No known such %1.</source>
-        <translation>Pas de tels %1 connus.</translation>
+        <translation>Rien de tel, sous réserve de ce qui n’a pas été lu&#xa0;: %1.</translation>
     </message>
     <message>
         <source>--order takes sent, newest, status or code, not %1.</source>
@@ -574,7 +574,7 @@
     <message>
         <source>There is no kind %1: consoles, systems, io-servers, partitions, events or groups.</source>
         <extracomment>The kinds are words of the command, which stay as they are</extracomment>
-        <translation>Il n’y a pas de type %1 : consoles, systems, io-servers, partitions, events ou groups.</translation>
+        <translation>Il n’y a pas de type %1&#xa0;: consoles, systems, io-servers, partitions, events ou groups.</translation>
     </message>
     <message>
         <source>The output cannot be written</source>
@@ -598,11 +598,11 @@
     </message>
     <message>
         <source>Lodestar keeps nothing in a folder of another user: %1</source>
-        <translation>Lodestar ne garde rien dans le dossier d’un autre utilisateur : %1</translation>
+        <translation>Lodestar ne garde rien dans le dossier d’un autre utilisateur&#xa0;: %1</translation>
     </message>
     <message>
         <source>Lodestar cannot lock its folder: Lodestar.lock in %1 is no file of yours.</source>
-        <translation>Lodestar ne peut pas verrouiller son dossier : Lodestar.lock dans %1 n’est pas un fichier à vous.</translation>
+        <translation>Lodestar ne peut pas verrouiller son dossier&#xa0;: Lodestar.lock dans %1 n’est pas un fichier à vous.</translation>
     </message>
     <message>
         <source>The disk can only be read.</source>
@@ -635,7 +635,7 @@
     </message>
     <message>
         <source>The history was damaged. It was set aside as %1, and a new one was begun. Earlier changes are missing.</source>
-        <translation>L’historique était abîmé. Il a été mis de côté sous %1 et un nouveau commencé. Les changements précédents manquent.</translation>
+        <translation>L’historique était endommagé. Il a été mis de côté sous %1 et un nouveau commencé. Les changements précédents manquent.</translation>
     </message>
     <message>
         <source>Nothing was stored. %1</source>
@@ -643,7 +643,7 @@
     </message>
     <message>
         <source>No consoles yet. Add one with: %1</source>
-        <translation>Aucune console pour l’instant. Ajoutez-en une avec : %1</translation>
+        <translation>Aucune console pour l’instant. Ajoutez-en une avec&#xa0;: %1</translation>
     </message>
     <message>
         <source>left out, its certificate changed</source>
@@ -671,7 +671,7 @@
     </message>
     <message>
         <source>There are no consoles to watch.</source>
-        <translation>Il n’y a pas de consoles à veiller.</translation>
+        <translation>Il n’y a pas de consoles à surveiller.</translation>
     </message>
     <message>
         <source>%1 %2</source>
@@ -785,16 +785,16 @@
 <context>
     <name>DeltaCorvelScene</name>
     <message>
-        <source>Leave out "%1".</source>
-        <translation>Retirez « %1 ».</translation>
+        <source>Leave out &quot;%1&quot;.</source>
+        <translation>Retirez «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
-        <source>Leave out "/" and what follows it.</source>
-        <translation>Retirez « / » et ce qui suit.</translation>
+        <source>Leave out &quot;/&quot; and what follows it.</source>
+        <translation>Retirez «&#xa0;/&#xa0;» et ce qui suit.</translation>
     </message>
     <message>
         <source>The address contains a blank.</source>
-        <translation>L’adresse contient une espace.</translation>
+        <translation>L’adresse contient un espace.</translation>
     </message>
     <message>
         <source>Name</source>
@@ -871,7 +871,7 @@
     </message>
     <message>
         <source>the file is too large for the disk.</source>
-        <translation>le fichier est trop gros pour le disque.</translation>
+        <translation>le fichier est trop volumineux pour le disque.</translation>
     </message>
     <message>
         <source>the name is too long.</source>
@@ -883,7 +883,7 @@
     </message>
     <message>
         <source>this system shows no dialogue for files.</source>
-        <translation>ce système n’a pas de dialogue de fichiers.</translation>
+        <translation>ce système n’a pas de sélecteur de fichiers.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
@@ -899,11 +899,11 @@
     </message>
     <message>
         <source>This file is too large.</source>
-        <translation>Ce fichier est trop gros.</translation>
+        <translation>Ce fichier est trop volumineux.</translation>
     </message>
     <message>
         <source>This system shows no dialogue for files.</source>
-        <translation>Ce système n’a pas de dialogue de fichiers.</translation>
+        <translation>Ce système n’a pas de sélecteur de fichiers.</translation>
     </message>
     <message>
         <source>The request was cancelled.</source>
@@ -911,7 +911,7 @@
     </message>
     <message>
         <source>The address is not valid.</source>
-        <translation>L’adresse n’est pas valable.</translation>
+        <translation>L’adresse n’est pas valide.</translation>
     </message>
     <message>
         <source>No answer came in time. Check the network.</source>
@@ -939,11 +939,11 @@
     </message>
     <message>
         <source>No secure connection can be made.</source>
-        <translation>Aucune connexion sûre n’est possible.</translation>
+        <translation>Aucune connexion sécurisée n’est possible.</translation>
     </message>
     <message>
         <source>The certificate is not trusted.</source>
-        <translation>Le certificat n’est pas approuvé.</translation>
+        <translation>Le certificat n’est pas reconnu.</translation>
     </message>
     <message>
         <source>The request failed.</source>
@@ -955,7 +955,7 @@
     </message>
     <message>
         <source>The console has an error. Try again.</source>
-        <translation>La console a une erreur. Réessayez.</translation>
+        <translation>La console est en erreur. Réessayez.</translation>
     </message>
     <message>
         <source>The address does not answer as a console.</source>
@@ -1136,7 +1136,7 @@
     </message>
     <message>
         <source>What happened?</source>
-        <translation>Que s’est-il passé ?</translation>
+        <translation>Que s’est-il passé&#xa0;?</translation>
     </message>
     <message>
         <source>Addresses are covered before the picture is shown. Passwords are never part of it.</source>
@@ -1167,7 +1167,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation>Ouverts</translation>
+        <translation>Ouvrir</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1178,14 +1178,14 @@
     <name>FindButton</name>
     <message>
         <source>Find anywhere</source>
-        <translation>Chercher partout</translation>
+        <translation>Rechercher partout</translation>
     </message>
 </context>
 <context>
     <name>FindScene</name>
     <message>
         <source>Find on all consoles</source>
-        <translation>Chercher sur toutes les consoles</translation>
+        <translation>Rechercher partout</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -1203,7 +1203,7 @@
     <name>FirstSteps</name>
     <message>
         <source>Give the address, user and password of one. Lodestar only reads; nothing on a console is ever changed.</source>
-        <translation>Indiquez l’adresse, l’utilisateur et le mot de passe d’une console. Lodestar ne fait que lire ; rien n’y est jamais modifié.</translation>
+        <translation>Indiquez l’adresse, l’utilisateur et le mot de passe d’une console. Lodestar ne fait que lire&#xa0;; rien n’y est jamais modifié.</translation>
     </message>
     <message>
         <source>Add Corvel</source>
@@ -1264,11 +1264,11 @@
     <name>FleetEventsBar</name>
     <message>
         <source>Order</source>
-        <translation>Ordre</translation>
+        <translation>Tri</translation>
     </message>
     <message>
         <source>Search</source>
-        <translation>Chercher</translation>
+        <translation>Rechercher</translation>
     </message>
 </context>
 <context>
@@ -1312,7 +1312,7 @@
     </message>
     <message>
         <source>A sheet is a CSV file with a first line, for example:</source>
-        <translation>Une feuille est un fichier CSV avec une ligne de titres, par exemple :</translation>
+        <translation>Une feuille est un fichier CSV avec une ligne de titres, par exemple&#xa0;:</translation>
     </message>
     <message>
         <source>Passwords are asked once a user. They are never read from a sheet nor written to one.</source>
@@ -1372,7 +1372,7 @@
     </message>
     <message>
         <source>The sum of it all</source>
-        <translation>Le tout en somme</translation>
+        <translation>L’ensemble en chiffres</translation>
     </message>
     <message>
         <source>The dashboard adds up managed systems and partitions by their state.</source>
@@ -1404,7 +1404,7 @@
     </message>
     <message>
         <source>Behind a passcode</source>
-        <translation>Derrière un code</translation>
+        <translation>Protégé par un code</translation>
     </message>
     <message>
         <source>Lock Lodestar if you like. It reads only and changes nothing on a console.</source>
@@ -1423,7 +1423,7 @@
     </message>
     <message>
         <source>Find a command</source>
-        <translation>Chercher une commande</translation>
+        <translation>Rechercher une commande</translation>
     </message>
 </context>
 <context>
@@ -1434,7 +1434,7 @@
     </message>
     <message>
         <source>Search</source>
-        <translation>Chercher</translation>
+        <translation>Rechercher</translation>
     </message>
     <message>
         <source>Save list as CSV</source>
@@ -1514,7 +1514,7 @@
     </message>
     <message>
         <source>Find anywhere</source>
-        <translation>Chercher partout</translation>
+        <translation>Rechercher partout</translation>
     </message>
     <message>
         <source>Settings</source>
@@ -1536,11 +1536,15 @@
         <source>Attention</source>
         <translation>Attention</translation>
     </message>
+    <message>
+        <source>The other column</source>
+        <translation>L’autre colonne</translation>
+    </message>
 </context>
 <context>
     <name>KeychainWait</name>
     <message>
-        <source>Waiting for the system's keychain...</source>
+        <source>Waiting for the system&apos;s keychain...</source>
         <translation>Attente du trousseau du système...</translation>
     </message>
 </context>
@@ -1701,7 +1705,7 @@
 <context>
     <name>Passcode</name>
     <message>
-        <source>The system's keychain is locked</source>
+        <source>The system&apos;s keychain is locked</source>
         <translation>Le trousseau du système est verrouillé</translation>
     </message>
     <message>
@@ -1709,32 +1713,32 @@
         <translation>Aucun trousseau ne tourne sur ce système</translation>
     </message>
     <message>
-        <source>The system's keychain does not answer</source>
+        <source>The system&apos;s keychain does not answer</source>
         <translation>Le trousseau du système ne répond pas</translation>
     </message>
     <message>
-        <source>The system's keychain cannot keep this text</source>
+        <source>The system&apos;s keychain cannot keep this text</source>
         <translation>Le trousseau du système ne peut pas garder ce texte</translation>
     </message>
     <message>
-        <source>The system's keychain reported an error</source>
+        <source>The system&apos;s keychain reported an error</source>
         <translation>Le trousseau du système a signalé une erreur</translation>
     </message>
     <message>
-        <source>The passcode is not asked for any more: the system's keychain was locked.</source>
-        <translation>Le code n’est plus demandé : le trousseau du système était verrouillé.</translation>
+        <source>The passcode is not asked for any more: the system&apos;s keychain was locked.</source>
+        <translation>Le code n’est plus demandé&#xa0;: le trousseau du système était verrouillé.</translation>
     </message>
     <message>
         <source>The passcode is not asked for any more: no keychain was running.</source>
-        <translation>Le code n’est plus demandé : aucun trousseau ne tournait.</translation>
+        <translation>Le code n’est plus demandé&#xa0;: aucun trousseau ne tournait.</translation>
     </message>
     <message>
-        <source>The passcode is not asked for any more: the system's keychain did not answer.</source>
-        <translation>Le code n’est plus demandé : le trousseau du système n’a pas répondu.</translation>
+        <source>The passcode is not asked for any more: the system&apos;s keychain did not answer.</source>
+        <translation>Le code n’est plus demandé&#xa0;: le trousseau du système n’a pas répondu.</translation>
     </message>
     <message>
-        <source>The passcode is not asked for any more: the system's keychain could not be read.</source>
-        <translation>Le code n’est plus demandé : le trousseau du système n’a pas pu être lu.</translation>
+        <source>The passcode is not asked for any more: the system&apos;s keychain could not be read.</source>
+        <translation>Le code n’est plus demandé&#xa0;: le trousseau du système n’a pas pu être lu.</translation>
     </message>
 </context>
 <context>
@@ -1756,15 +1760,15 @@
     <name>PerformanceSummary</name>
     <message>
         <source>Lowest</source>
-        <translation>Minimum</translation>
+        <translation>Min.</translation>
     </message>
     <message>
         <source>Mean</source>
-        <translation>Moyenne</translation>
+        <translation>Moy.</translation>
     </message>
     <message>
         <source>Highest</source>
-        <translation>Maximum</translation>
+        <translation>Max.</translation>
     </message>
     <message>
         <source>Last</source>
@@ -1793,7 +1797,7 @@
     <name>PullSearch</name>
     <message>
         <source>Search</source>
-        <translation>Chercher</translation>
+        <translation>Rechercher</translation>
     </message>
 </context>
 <context>
@@ -1845,7 +1849,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Report Sent</source>
@@ -1886,7 +1890,7 @@ Il reste dans la liste des rapports.</translation>
     <name>SearchBar</name>
     <message>
         <source>Search</source>
-        <translation>Chercher</translation>
+        <translation>Rechercher</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -2016,18 +2020,18 @@ Il reste dans la liste des rapports.</translation>
     <name>WatchConsoleDelegate</name>
     <message>
         <source>watched</source>
-        <translation>veillée</translation>
+        <translation>surveillée</translation>
     </message>
     <message>
         <source>not watched</source>
-        <translation>non veillée</translation>
+        <translation>non surveillée</translation>
     </message>
 </context>
 <context>
     <name>WatchScene</name>
     <message>
         <source>Watch While Lodestar Runs</source>
-        <translation>Veiller tant que Lodestar tourne</translation>
+        <translation>Surveiller tant que Lodestar tourne</translation>
     </message>
     <message>
         <source>Reads every console again by itself and tells you what changed. It stops when Lodestar is closed.</source>
@@ -2039,11 +2043,11 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Every</source>
-        <translation>Toutes les</translation>
+        <translation>Intervalle</translation>
     </message>
     <message>
         <source>Tell me</source>
-        <translation>Prévenir</translation>
+        <translation>Me prévenir</translation>
     </message>
     <message>
         <source>When Something Gets Worse</source>
@@ -2109,7 +2113,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>%1 %2</source>
-        <extracomment>%1 a day as in "yesterday" or "Mon", %2 a time of day</extracomment>
+        <extracomment>%1 a day as in &quot;yesterday&quot; or &quot;Mon&quot;, %2 a time of day</extracomment>
         <translation>%1 %2</translation>
     </message>
     <message>
@@ -2119,7 +2123,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>since %1</source>
-        <extracomment>%1 as in "09:41", "yesterday 21:40" or "3 Mar"</extracomment>
+        <extracomment>%1 as in &quot;09:41&quot;, &quot;yesterday 21:40&quot; or &quot;3 Mar&quot;</extracomment>
         <translation>depuis %1</translation>
     </message>
     <message>
@@ -2128,21 +2132,21 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>read %1</source>
-        <extracomment>%1 as in "2 min ago" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 as in &quot;2 min ago&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>lu %1</translation>
     </message>
     <message numerus="yes">
         <source>%Ln min ago</source>
         <translation>
-            <numerusform>il y a %Ln min</numerusform>
-            <numerusform>il y a %Ln min</numerusform>
+            <numerusform>il y a %Ln&#xa0;min</numerusform>
+            <numerusform>il y a %Ln&#xa0;min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>read %Ln h ago</source>
         <translation>
-            <numerusform>lu il y a %Ln h</numerusform>
-            <numerusform>lu il y a %Ln h</numerusform>
+            <numerusform>lu il y a %Ln&#xa0;h</numerusform>
+            <numerusform>lu il y a %Ln&#xa0;h</numerusform>
         </translation>
     </message>
 </context>
@@ -2164,15 +2168,15 @@ Il reste dans la liste des rapports.</translation>
     <name>lodestar::AttentionNowController</name>
     <message>
         <source>Nothing needs attention</source>
-        <translation>Rien ne demande attention</translation>
+        <translation>Rien ne demande votre attention</translation>
     </message>
     <message>
         <source>Nothing known needs attention</source>
-        <translation>Rien de connu ne demande attention</translation>
+        <translation>Rien de connu ne demande votre attention</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <translation>%1 : %2</translation>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Show all %1</source>
@@ -2200,7 +2204,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <extracomment>The name of a file: the tab "Attention" and what of it</extracomment>
+        <extracomment>The name of a file: the tab &quot;Attention&quot; and what of it</extracomment>
         <translation>%1, %2</translation>
     </message>
 </context>
@@ -2208,7 +2212,7 @@ Il reste dans la liste des rapports.</translation>
     <name>lodestar::BarButtonOutlet</name>
     <message>
         <source>Search</source>
-        <translation>Chercher</translation>
+        <translation>Rechercher</translation>
     </message>
     <message>
         <source>Refresh</source>
@@ -2247,15 +2251,15 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>%1 not read</source>
-        <translation>%1 non lus</translation>
+        <translation>%1 illisibles</translation>
     </message>
     <message>
         <source>%1 read again</source>
-        <translation>%1 lus à nouveau</translation>
+        <translation>%1 de nouveau lisibles</translation>
     </message>
     <message>
         <source>New</source>
-        <translation>Nouvelles</translation>
+        <translation>Nouveau</translation>
     </message>
     <message>
         <source>Gone</source>
@@ -2350,8 +2354,8 @@ Il reste dans la liste des rapports.</translation>
     <message numerus="yes">
         <source>%Ln min</source>
         <translation>
-            <numerusform>%Ln min</numerusform>
-            <numerusform>%Ln min</numerusform>
+            <numerusform>%Ln&#xa0;min</numerusform>
+            <numerusform>%Ln&#xa0;min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2364,8 +2368,8 @@ Il reste dans la liste des rapports.</translation>
     <message numerus="yes">
         <source>%Ln h</source>
         <translation>
-            <numerusform>%Ln h</numerusform>
-            <numerusform>%Ln h</numerusform>
+            <numerusform>%Ln&#xa0;h</numerusform>
+            <numerusform>%Ln&#xa0;h</numerusform>
         </translation>
     </message>
 </context>
@@ -2400,14 +2404,14 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>What changed before could not be read. The damaged file was set aside.</source>
-        <translation>Les changements précédents n’ont pas pu être lus. Le fichier abîmé a été mis de côté.</translation>
+        <translation>Les changements précédents n’ont pas pu être lus. Le fichier endommagé a été mis de côté.</translation>
     </message>
 </context>
 <context>
     <name>lodestar::Clipboard</name>
     <message>
         <source>Could not be copied: the clipboard is in use by another program.</source>
-        <translation>Copie impossible : un autre programme utilise le presse-papiers.</translation>
+        <translation>Copie impossible&#xa0;: un autre programme utilise le presse-papiers.</translation>
     </message>
     <message>
         <source>Copied %1</source>
@@ -2419,7 +2423,7 @@ Il reste dans la liste des rapports.</translation>
     <name>lodestar::Commands</name>
     <message>
         <source>Watch</source>
-        <translation>Veille</translation>
+        <translation>Surveillance</translation>
     </message>
     <message>
         <source>Fleet sheet</source>
@@ -2433,10 +2437,6 @@ Il reste dans la liste des rapports.</translation>
         <source>Bring back the demo</source>
         <translation>Retrouver la démo</translation>
     </message>
-    <message>
-        <source>Feedback</source>
-        <translation>Commentaires</translation>
-    </message>
 </context>
 <context>
     <name>lodestar::ConnectionContent</name>
@@ -2447,17 +2447,17 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>%1, ended %2</source>
-        <extracomment>%1 as in "1 Sep 2025 to 31 Aug 2027", %2 a date</extracomment>
-        <translation>%1, terminé %2</translation>
+        <extracomment>%1 as in &quot;1 Sep 2025 to 31 Aug 2027&quot;, %2 a date</extracomment>
+        <translation>%1, expiré le %2</translation>
     </message>
     <message>
         <source>%1, begins %2</source>
-        <extracomment>%1 as in "1 Sep 2025 to 31 Aug 2027", %2 a date</extracomment>
-        <translation>%1, débute %2</translation>
+        <extracomment>%1 as in &quot;1 Sep 2025 to 31 Aug 2027&quot;, %2 a date</extracomment>
+        <translation>%1, valide dès le %2</translation>
     </message>
     <message>
         <source>changed %1</source>
-        <extracomment>%1 as in "today, 02:58" or "3 Mar"</extracomment>
+        <extracomment>%1 as in &quot;today, 02:58&quot; or &quot;3 Mar&quot;</extracomment>
         <translation>changé %1</translation>
     </message>
     <message>
@@ -2482,7 +2482,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Not vouched for by this device’s authorities. Consoles sign their own, so Lodestar takes what it is shown and says here when it changes.</source>
-        <translation>Non garanti par les autorités de cet appareil. Les consoles signent elles-mêmes ; Lodestar prend donc ce qu’on lui montre et dit ici quand cela change.</translation>
+        <translation>Non garanti par les autorités de cet appareil. Les consoles signent elles-mêmes le leur&#xa0;; Lodestar prend donc ce qu’on lui montre et dit ici quand cela change.</translation>
     </message>
     <message>
         <source>Certificate</source>
@@ -2490,7 +2490,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>At the logon, new</source>
-        <translation>À la connexion, nouveau</translation>
+        <translation>À l’identification, nouveau</translation>
     </message>
     <message>
         <source>At the session check, known since %1</source>
@@ -2530,7 +2530,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>The rest was read %1.</source>
-        <extracomment>%1 as in "at 09:26" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 as in &quot;at 09:26&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>Le reste a été lu %1.</translation>
     </message>
     <message>
@@ -2539,12 +2539,12 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Nothing of it could be read.</source>
-        <translation>Rien n’a pu en être lu.</translation>
+        <translation>Rien n’a pu être lu.</translation>
     </message>
     <message>
         <source>%1 could not be read.</source>
-        <extracomment>%1 names of feeds, as in "Partitions and resource groups"</extracomment>
-        <translation>%1 : lecture impossible.</translation>
+        <extracomment>%1 names of feeds, as in &quot;Partitions and resource groups&quot;</extracomment>
+        <translation>%1&#xa0;: lecture impossible.</translation>
     </message>
     <message>
         <source>Not tried yet</source>
@@ -2552,7 +2552,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Offline since %1</source>
-        <extracomment>%1 as in "02:58" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 as in &quot;02:58&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>Hors ligne depuis %1</translation>
     </message>
     <message>
@@ -2561,7 +2561,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Everything was read %1, in %2.</source>
-        <extracomment>%1 as in "2 min ago" or "at 09:41", %2 a time in seconds</extracomment>
+        <extracomment>%1 as in &quot;2 min ago&quot; or &quot;at 09:41&quot;, %2 a time in seconds</extracomment>
         <translation>Tout a été lu %1, en %2.</translation>
     </message>
     <message>
@@ -2578,7 +2578,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>%1, in %2</source>
-        <extracomment>%1 as in "today, 02:43", %2 a time in seconds</extracomment>
+        <extracomment>%1 as in &quot;today, 02:43&quot;, %2 a time in seconds</extracomment>
         <translation>%1, en %2</translation>
     </message>
     <message>
@@ -2709,11 +2709,11 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 Ko</translation>
+        <translation>%1&#xa0;Ko</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 Mo</translation>
+        <translation>%1&#xa0;Mo</translation>
     </message>
     <message numerus="yes">
         <source>%Ln entries</source>
@@ -2729,7 +2729,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>%1 were last read %2</source>
-        <extracomment>%1 the name of a feed, %2 as in "at 09:26" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 the name of a feed, %2 as in &quot;at 09:26&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>%1, dernière lecture %2</translation>
     </message>
     <message>
@@ -2744,11 +2744,11 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation>%1 ms</translation>
+        <translation>%1&#xa0;ms</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 s</translation>
+        <translation>%1&#xa0;s</translation>
     </message>
     <message>
         <source>at %1</source>
@@ -2757,7 +2757,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Last attempt</source>
-        <translation>Dernier essai</translation>
+        <translation>Dernière tentative</translation>
     </message>
     <message>
         <source>Feeds</source>
@@ -2771,8 +2771,8 @@ Il reste dans la liste des rapports.</translation>
     <message numerus="yes">
         <source>The rest is %Ln min old.</source>
         <translation>
-            <numerusform>Le reste date de %Ln min.</numerusform>
-            <numerusform>Le reste date de %Ln min.</numerusform>
+            <numerusform>Le reste date de %Ln&#xa0;min.</numerusform>
+            <numerusform>Le reste date de %Ln&#xa0;min.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2793,8 +2793,8 @@ Il reste dans la liste des rapports.</translation>
     <message numerus="yes">
         <source>no answer within %Ln s</source>
         <translation>
-            <numerusform>pas de réponse en %Ln s</numerusform>
-            <numerusform>pas de réponse en %Ln s</numerusform>
+            <numerusform>pas de réponse en %Ln&#xa0;s</numerusform>
+            <numerusform>pas de réponse en %Ln&#xa0;s</numerusform>
         </translation>
     </message>
 </context>
@@ -2918,7 +2918,7 @@ Il reste dans la liste des rapports.</translation>
     <name>lodestar::DBusMessageService</name>
     <message>
         <source>Open</source>
-        <translation>Ouverts</translation>
+        <translation>Ouvrir</translation>
     </message>
 </context>
 <context>
@@ -2933,27 +2933,27 @@ Il reste dans la liste des rapports.</translation>
     <message>
         <source>missing from %1 of %2</source>
         <extracomment>%1 of %2 consoles</extracomment>
-        <translation>manque sur %1 de %2</translation>
+        <translation>manque sur %1 des %2</translation>
     </message>
     <message>
         <source>%1 of %2 answered in full</source>
         <extracomment>%1 of %2 consoles</extracomment>
-        <translation>%1 sur %2 ont tout répondu</translation>
+        <translation>%1 sur %2 ont répondu en entier</translation>
     </message>
     <message>
         <source>Read %1.</source>
-        <extracomment>%1 and %2 as in "09:41" or "yesterday 21:40"</extracomment>
-        <translation>Lu %1.</translation>
+        <extracomment>%1 and %2 as in &quot;09:41&quot; or &quot;yesterday 21:40&quot;</extracomment>
+        <translation>Lecture&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Read %1 to %2.</source>
-        <translation>Lu de %1 à %2.</translation>
+        <translation>Lecture&#xa0;: %1 à %2.</translation>
     </message>
     <message numerus="yes">
         <source>Next in %Ln min.</source>
         <translation>
-            <numerusform>Suivante dans %Ln min.</numerusform>
-            <numerusform>Suivante dans %Ln min.</numerusform>
+            <numerusform>Suivante dans %Ln&#xa0;min.</numerusform>
+            <numerusform>Suivante dans %Ln&#xa0;min.</numerusform>
         </translation>
     </message>
 </context>
@@ -3013,7 +3013,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message numerus="yes">
         <source>%1, %Ln days, %2</source>
-        <extracomment>A chart's name, how many days it has, and what it tells of the last.</extracomment>
+        <extracomment>A chart&apos;s name, how many days it has, and what it tells of the last.</extracomment>
         <translation>
             <numerusform>%1, %Ln jour, %2</numerusform>
             <numerusform>%1, %Ln jours, %2</numerusform>
@@ -3071,7 +3071,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Find on All Consoles</source>
-        <translation>Chercher sur toutes les consoles</translation>
+        <translation>Rechercher sur toutes les consoles</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -3089,7 +3089,7 @@ Il reste dans la liste des rapports.</translation>
     <name>lodestar::EventOrderViewController</name>
     <message>
         <source>Order</source>
-        <translation>Ordre</translation>
+        <translation>Tri</translation>
     </message>
     <message>
         <source>As the console sends them</source>
@@ -3116,7 +3116,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>%1, %2</source>
-        <extracomment>The name of a file: what is listed, such as "Managed Systems", and a console's name</extracomment>
+        <extracomment>The name of a file: what is listed, such as &quot;Managed Systems&quot;, and a console&apos;s name</extracomment>
         <translation>%1, %2</translation>
     </message>
 </context>
@@ -3140,7 +3140,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>IO servers</source>
-        <translation>serveurs E/S</translation>
+        <translation>Serveurs E/S</translation>
     </message>
     <message>
         <source>partitions</source>
@@ -3172,17 +3172,17 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>%1 not read</source>
-        <extracomment>%1 the name of a feed, as in "Partitions"</extracomment>
-        <translation>%1 non lus</translation>
+        <extracomment>%1 the name of a feed, as in &quot;Partitions&quot;</extracomment>
+        <translation>%1 illisibles</translation>
     </message>
     <message>
         <source>%1 and %2 not read</source>
-        <extracomment>%1 and %2 names of feeds, as in "Partitions" and "groups"</extracomment>
-        <translation>%1 et %2 non lus</translation>
+        <extracomment>%1 and %2 names of feeds, as in &quot;Partitions&quot; and &quot;groups&quot;</extracomment>
+        <translation>%1 et %2 illisibles</translation>
     </message>
     <message>
         <source>Nothing of it could be read</source>
-        <translation>Rien n’a pu en être lu</translation>
+        <translation>Rien n’a pu être lu</translation>
     </message>
     <message>
         <source>%1 and %2</source>
@@ -3243,7 +3243,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Discard this feedback?</source>
-        <translation>Abandonner ces commentaires ?</translation>
+        <translation>Abandonner ces commentaires&#xa0;?</translation>
     </message>
     <message>
         <source>Keep Editing</source>
@@ -3286,12 +3286,12 @@ Il reste dans la liste des rapports.</translation>
     <name>lodestar::FileSaver</name>
     <message>
         <source>Could not be saved: %1</source>
-        <extracomment>%1 a reason, such as "the disk is full."</extracomment>
-        <translation>Enregistrement impossible : %1</translation>
+        <extracomment>%1 a reason, such as &quot;the disk is full.&quot;</extracomment>
+        <translation>Enregistrement impossible&#xa0;: %1</translation>
     </message>
     <message>
         <source>Saved as %1</source>
-        <extracomment>%1 a file's name</extracomment>
+        <extracomment>%1 a file&apos;s name</extracomment>
         <translation>Enregistré sous %1</translation>
     </message>
     <message>
@@ -3300,7 +3300,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>There is already a file named %1.</source>
-        <extracomment>%1 a file's name</extracomment>
+        <extracomment>%1 a file&apos;s name</extracomment>
         <translation>Il y a déjà un fichier nommé %1.</translation>
     </message>
     <message>
@@ -3340,7 +3340,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>%1 to %2</source>
-        <extracomment>%1 and %2 as in "09:41" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 and %2 as in &quot;09:41&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>%1 à %2</translation>
     </message>
     <message>
@@ -3354,7 +3354,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Nothing found for “%1”</source>
-        <translation>Rien trouvé pour « %1 »</translation>
+        <translation>Rien trouvé pour «&#xa0;%1&#xa0;»</translation>
     </message>
     <message numerus="yes">
         <source>%1 of %Ln consoles were searched.</source>
@@ -3366,22 +3366,22 @@ Il reste dans la liste des rapports.</translation>
     <message numerus="yes">
         <source>%Ln things</source>
         <translation>
-            <numerusform>%Ln résultat</numerusform>
-            <numerusform>%Ln résultats</numerusform>
+            <numerusform>%Ln objet</numerusform>
+            <numerusform>%Ln objets</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%1 of %Ln consoles</source>
-        <extracomment>Within "2,318 things on 5 of 6 consoles, read 09:41."</extracomment>
+        <extracomment>Within &quot;2,318 things on 5 of 6 consoles, read 09:41.&quot;</extracomment>
         <translation>
-            <numerusform>%1 sur %Ln console</numerusform>
-            <numerusform>%1 sur %Ln consoles</numerusform>
+            <numerusform>%1 console sur %Ln</numerusform>
+            <numerusform>%1 des %Ln consoles</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 on %2, read %3.</source>
-        <extracomment>%1 as in "2,318 things", %2 as in "5 of 6 consoles", %3 as in "09:41" or "09:41 to 09:43"</extracomment>
-        <translation>%1 sur %2, lu %3.</translation>
+        <extracomment>%1 as in &quot;2,318 things&quot;, %2 as in &quot;5 of 6 consoles&quot;, %3 as in &quot;09:41&quot; or &quot;09:41 to 09:43&quot;</extracomment>
+        <translation>%1 sur %2, lecture&#xa0;: %3.</translation>
     </message>
     <message numerus="yes">
         <source>%1 were not read.</source>
@@ -3433,7 +3433,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Find on all consoles</source>
-        <translation>Chercher sur toutes les consoles</translation>
+        <translation>Rechercher partout</translation>
     </message>
     <message>
         <source>Recent</source>
@@ -3459,7 +3459,7 @@ Il reste dans la liste des rapports.</translation>
     <name>lodestar::FindingText</name>
     <message>
         <source>%1, %2</source>
-        <extracomment>A sentence and a further part of it: "System in error" and "X417-2208"</extracomment>
+        <extracomment>A sentence and a further part of it: &quot;System in error&quot; and &quot;X417-2208&quot;</extracomment>
         <translation>%1, %2</translation>
     </message>
     <message>
@@ -3502,7 +3502,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Offline, %1</source>
-        <extracomment>%1 why, as in "connection refused"</extracomment>
+        <extracomment>%1 why, as in &quot;connection refused&quot;</extracomment>
         <translation>Hors ligne, %1</translation>
     </message>
     <message>
@@ -3511,7 +3511,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>LED on, system %1</source>
-        <extracomment>%1 the console's word for a system's state</extracomment>
+        <extracomment>%1 the console&apos;s word for a system&apos;s state</extracomment>
         <translation>LED allumée, système %1</translation>
     </message>
     <message numerus="yes">
@@ -3578,7 +3578,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>attention LED on</source>
-        <extracomment>%1 the console's word for a system's state</extracomment>
+        <extracomment>%1 the console&apos;s word for a system&apos;s state</extracomment>
         <translation>LED d’attention allumée</translation>
     </message>
     <message>
@@ -3588,8 +3588,8 @@ Il reste dans la liste des rapports.</translation>
     <message numerus="yes">
         <source>%Ln things need attention</source>
         <translation>
-            <numerusform>%Ln point demande attention</numerusform>
-            <numerusform>%Ln points demandent attention</numerusform>
+            <numerusform>%Ln point demande votre attention</numerusform>
+            <numerusform>%Ln points demandent votre attention</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3606,8 +3606,8 @@ Il reste dans la liste des rapports.</translation>
     <message numerus="yes">
         <source>%1 of %Ln consoles answered in full</source>
         <translation>
-            <numerusform>%1 sur %Ln console a tout répondu</numerusform>
-            <numerusform>%1 sur %Ln consoles ont tout répondu</numerusform>
+            <numerusform>%1 sur %Ln console a répondu en entier</numerusform>
+            <numerusform>%1 sur %Ln consoles ont répondu en entier</numerusform>
         </translation>
     </message>
     <message>
@@ -3628,8 +3628,8 @@ Il reste dans la liste des rapports.</translation>
     <message numerus="yes">
         <source>%Ln things needed attention there before.</source>
         <translation>
-            <numerusform>%Ln point y demandait attention avant.</numerusform>
-            <numerusform>%Ln points y demandaient attention avant.</numerusform>
+            <numerusform>%Ln point y demandait votre attention avant.</numerusform>
+            <numerusform>%Ln points y demandaient votre attention avant.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3665,7 +3665,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>IO servers</source>
-        <translation>serveurs E/S</translation>
+        <translation>Serveurs E/S</translation>
     </message>
     <message>
         <source>Partitions</source>
@@ -3779,7 +3779,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>open</source>
-        <translation>ouvert</translation>
+        <translation>ouverts</translation>
     </message>
     <message>
         <source>call home</source>
@@ -3788,7 +3788,7 @@ Il reste dans la liste des rapports.</translation>
     <message>
         <source>%1: %2 of %3</source>
         <extracomment>What is chosen, how many events that are, and how many there are.</extracomment>
-        <translation>%1 : %2 sur %3</translation>
+        <translation>%1&#xa0;: %2 sur %3</translation>
     </message>
     <message>
         <source>no reference code</source>
@@ -3812,7 +3812,7 @@ Il reste dans la liste des rapports.</translation>
     <message>
         <source>“%1”</source>
         <extracomment>%1 a name</extracomment>
-        <translation>« %1 »</translation>
+        <translation>«&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>%1, %2</source>
@@ -3845,7 +3845,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>This file is too large for a fleet sheet.</source>
-        <translation>Ce fichier est trop gros pour une feuille de consoles.</translation>
+        <translation>Ce fichier est trop volumineux pour une feuille de consoles.</translation>
     </message>
     <message>
         <source>This is not a CSV file.</source>
@@ -3855,30 +3855,30 @@ Il reste dans la liste des rapports.</translation>
         <source>Passwords are never read from a sheet: %1 are left out.</source>
         <extracomment>%1 titles of columns</extracomment>
         <translation>
-            <numerusform>Les mots de passe ne sont jamais lus dans une feuille : %1 est omise.</numerusform>
-            <numerusform>Les mots de passe ne sont jamais lus dans une feuille : %1 sont omises.</numerusform>
+            <numerusform>Les mots de passe ne sont jamais lus dans une feuille&#xa0;: la colonne %1 est omise.</numerusform>
+            <numerusform>Les mots de passe ne sont jamais lus dans une feuille&#xa0;: les colonnes %1 sont omises.</numerusform>
         </translation>
     </message>
     <message>
         <source>Not used: %1.</source>
         <extracomment>%1 titles of columns</extracomment>
-        <translation>Non utilisé : %1.</translation>
+        <translation>Non utilisé&#xa0;: %1.</translation>
     </message>
     <message>
         <source>Row %1: no address</source>
-        <translation>Ligne %1 : sans adresse</translation>
+        <translation>Ligne %1&#xa0;: sans adresse</translation>
     </message>
     <message>
         <source>Row %1: no user</source>
-        <translation>Ligne %1 : sans utilisateur</translation>
+        <translation>Ligne %1&#xa0;: sans utilisateur</translation>
     </message>
     <message>
         <source>Row %1: the same address as row %2</source>
-        <translation>Ligne %1 : même adresse que la ligne %2</translation>
+        <translation>Ligne %1&#xa0;: même adresse que la ligne %2</translation>
     </message>
     <message>
         <source>Row %1: not an address</source>
-        <translation>Ligne %1 : adresse non valable</translation>
+        <translation>Ligne %1&#xa0;: adresse non valide</translation>
     </message>
     <message>
         <source>waiting</source>
@@ -3914,20 +3914,20 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>tried</source>
-        <translation>essayée</translation>
+        <translation>essayées</translation>
     </message>
     <message numerus="yes">
         <source>tried, about %Ln s left</source>
         <translation>
-            <numerusform>essayées, encore environ %Ln s</numerusform>
-            <numerusform>essayées, encore environ %Ln s</numerusform>
+            <numerusform>essayées, encore environ %Ln&#xa0;s</numerusform>
+            <numerusform>essayées, encore environ %Ln&#xa0;s</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>tried, about %Ln min left</source>
         <translation>
-            <numerusform>essayées, encore environ %Ln min</numerusform>
-            <numerusform>essayées, encore environ %Ln min</numerusform>
+            <numerusform>essayées, encore environ %Ln&#xa0;min</numerusform>
+            <numerusform>essayées, encore environ %Ln&#xa0;min</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -3992,7 +3992,7 @@ Il reste dans la liste des rapports.</translation>
     <message numerus="yes">
         <source>All %Ln are added together, or none.</source>
         <translation>
-            <numerusform>%Ln console est ajoutée, ou aucune.</numerusform>
+            <numerusform>Une seule console est ajoutée.</numerusform>
             <numerusform>Les %Ln sont ajoutées ensemble, ou aucune.</numerusform>
         </translation>
     </message>
@@ -4014,7 +4014,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation>Maintenant</translation>
+        <translation>En cours</translation>
     </message>
     <message>
         <source>Verified</source>
@@ -4031,8 +4031,8 @@ Il reste dans la liste des rapports.</translation>
     <message numerus="yes">
         <source>Try These %Ln Again</source>
         <translation>
-            <numerusform>Réessayer (%Ln)</numerusform>
-            <numerusform>Réessayer ces %Ln</numerusform>
+            <numerusform>Réessayer celle-ci</numerusform>
+            <numerusform>Réessayer ces %Ln consoles</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -4073,7 +4073,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message numerus="yes">
         <source>%Ln in error</source>
-        <extracomment>How many of a group's resources are in error, as in "16 resources, 1 in error"</extracomment>
+        <extracomment>How many of a group&apos;s resources are in error, as in &quot;16 resources, 1 in error&quot;</extracomment>
         <translation>
             <numerusform>%Ln en erreur</numerusform>
             <numerusform>%Ln en erreur</numerusform>
@@ -4130,7 +4130,7 @@ Il reste dans la liste des rapports.</translation>
     <name>lodestar::KeyTable</name>
     <message>
         <source>%1 (%2)</source>
-        <extracomment>A button's tip: what the button does, and the keys that do it</extracomment>
+        <extracomment>A button&apos;s tip: what the button does, and the keys that do it</extracomment>
         <translation>%1 (%2)</translation>
     </message>
 </context>
@@ -4206,7 +4206,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Reset Application?</source>
-        <translation>Réinitialiser Lodestar ?</translation>
+        <translation>Réinitialiser Lodestar&#xa0;?</translation>
     </message>
     <message>
         <source>Resetting your password will clear all application data</source>
@@ -4460,13 +4460,13 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>%1 at %2</source>
-        <extracomment>%1 as in "lowest 2.80", %2 a time of day</extracomment>
+        <extracomment>%1 as in &quot;lowest 2.80&quot;, %2 a time of day</extracomment>
         <translation>%1 à %2</translation>
     </message>
     <message>
         <source>%1 all along</source>
         <extracomment>%1 a number</extracomment>
-        <translation>%1 constamment</translation>
+        <translation>constant %1</translation>
     </message>
     <message>
         <source>lowest %1</source>
@@ -4486,7 +4486,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>all along</source>
-        <translation>constamment</translation>
+        <translation>constant</translation>
     </message>
     <message>
         <source>Total Processors</source>
@@ -4555,7 +4555,7 @@ Il reste dans la liste des rapports.</translation>
     <name>lodestar::PlotChartView</name>
     <message>
         <source>%1 %2</source>
-        <extracomment>A data set's name and its latest value, as in "Processors Used 6.5".</extracomment>
+        <extracomment>A data set&apos;s name and its latest value, as in &quot;Processors Used 6.5&quot;.</extracomment>
         <translation>%1 %2</translation>
     </message>
     <message>
@@ -4565,8 +4565,8 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>%1, %2: %3</source>
-        <extracomment>A data set's name, the label of one of its values, and the value.</extracomment>
-        <translation>%1, %2 : %3</translation>
+        <extracomment>A data set&apos;s name, the label of one of its values, and the value.</extracomment>
+        <translation>%1, %2&#xa0;: %3</translation>
     </message>
 </context>
 <context>
@@ -4620,7 +4620,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>%1 good, %2 off, %3 alert, %4 error</source>
-        <extracomment>A resource group's states, read aloud: counts</extracomment>
+        <extracomment>A resource group&apos;s states, read aloud: counts</extracomment>
         <translation>%1 bons, %2 arrêtés, %3 en alerte, %4 en erreur</translation>
     </message>
 </context>
@@ -4643,12 +4643,12 @@ Il reste dans la liste des rapports.</translation>
     <name>lodestar::ReadingMark</name>
     <message>
         <source>%1 missing</source>
-        <extracomment>%1 the name of a feed, as in "partitions"</extracomment>
-        <translation>%1 manquants</translation>
+        <extracomment>%1 the name of a feed, as in &quot;partitions&quot;</extracomment>
+        <translation>%1 illisibles</translation>
     </message>
     <message>
         <source>offline %1</source>
-        <extracomment>%1 as in "since 02:58"</extracomment>
+        <extracomment>%1 as in &quot;since 02:58&quot;</extracomment>
         <translation>hors ligne %1</translation>
     </message>
     <message numerus="yes">
@@ -4672,11 +4672,11 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Check the address; it may be another service.</source>
-        <translation>Vérifiez l’adresse ; c’est peut-être un autre service.</translation>
+        <translation>Vérifiez l’adresse&#xa0;; c’est peut-être un autre service.</translation>
     </message>
     <message>
         <source>Tell us through feedback.</source>
-        <translation>Dites-le-nous par les commentaires.</translation>
+        <translation>Signalez-le-nous dans les commentaires.</translation>
     </message>
     <message>
         <source>Refresh once more. A busy console often answers the second time.</source>
@@ -4688,7 +4688,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>nothing within 10 s</source>
-        <translation>rien en 10 s</translation>
+        <translation>rien en 10&#xa0;s</translation>
     </message>
     <message>
         <source>name not found</source>
@@ -4716,7 +4716,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>no secure connection</source>
-        <translation>pas de connexion sûre</translation>
+        <translation>pas de connexion sécurisée</translation>
     </message>
     <message>
         <source>its certificate changed</source>
@@ -4742,7 +4742,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>It did not answer within 10 s.</source>
-        <translation>Elle n’a pas répondu en 10 s.</translation>
+        <translation>Elle n’a pas répondu en 10&#xa0;s.</translation>
     </message>
     <message>
         <source>Its name has no address.</source>
@@ -4754,7 +4754,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>It broke off while answering.</source>
-        <translation>Elle s’est coupée en répondant.</translation>
+        <translation>Elle a interrompu sa réponse.</translation>
     </message>
     <message>
         <source>It sent Lodestar from one address to the next.</source>
@@ -4770,11 +4770,11 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>It offers no secure connection that this device accepts.</source>
-        <translation>Elle n’offre aucune connexion sûre que cet appareil accepte.</translation>
+        <translation>Elle n’offre aucune connexion sécurisée que cet appareil accepte.</translation>
     </message>
     <message>
         <source>Its certificate changed in the middle of the attempt. No password was sent.</source>
-        <translation>Son certificat a changé pendant l’essai. Aucun mot de passe n’a été envoyé.</translation>
+        <translation>Son certificat a changé pendant la tentative. Aucun mot de passe n’a été envoyé.</translation>
     </message>
     <message>
         <source>It refused the user or the password.</source>
@@ -4782,7 +4782,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>It answered with an error of its own.</source>
-        <translation>Elle a répondu par une erreur à elle.</translation>
+        <translation>Elle a répondu par une erreur interne.</translation>
     </message>
     <message>
         <source>It gave an answer that was not expected.</source>
@@ -4802,23 +4802,23 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Refresh in some minutes; the console may be starting.</source>
-        <translation>Actualisez dans quelques minutes ; la console démarre peut-être.</translation>
+        <translation>Actualisez dans quelques minutes&#xa0;; la console démarre peut-être.</translation>
     </message>
     <message>
         <source>Check the spelling of the address.</source>
         <translation>Vérifiez l’orthographe de l’adresse.</translation>
     </message>
     <message>
-        <source>Check this device's network.</source>
+        <source>Check this device&apos;s network.</source>
         <translation>Vérifiez le réseau de cet appareil.</translation>
     </message>
     <message>
         <source>Try the number instead of the name.</source>
-        <translation>Essayez le numéro au lieu du nom.</translation>
+        <translation>Essayez l’adresse IP au lieu du nom.</translation>
     </message>
     <message>
         <source>The console may be starting; refresh in some minutes.</source>
-        <translation>La console démarre peut-être ; actualisez dans quelques minutes.</translation>
+        <translation>La console démarre peut-être&#xa0;; actualisez dans quelques minutes.</translation>
     </message>
     <message>
         <source>If it stays so, look at what lies between here and the console.</source>
@@ -4826,7 +4826,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Update the console: its TLS may be too old.</source>
-        <translation>Mettez la console à jour : son TLS est peut-être trop ancien.</translation>
+        <translation>Mettez la console à jour&#xa0;: son TLS est peut-être trop ancien.</translation>
     </message>
     <message>
         <source>Before you refresh, compare the new fingerprint below with the one that the console shows.</source>
@@ -4838,11 +4838,11 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>If not, something else answers at this address. Do not refresh; ask those who run the network.</source>
-        <translation>Sinon, autre chose répond à cette adresse. N’actualisez pas ; demandez aux responsables du réseau.</translation>
+        <translation>Sinon, autre chose répond à cette adresse. N’actualisez pas&#xa0;; demandez aux responsables du réseau.</translation>
     </message>
     <message>
         <source>Check the user on the console; it may be locked.</source>
-        <translation>Vérifiez l’utilisateur sur la console ; il est peut-être verrouillé.</translation>
+        <translation>Vérifiez l’utilisateur sur la console&#xa0;; il est peut-être verrouillé.</translation>
     </message>
     <message>
         <source>Delete the console and add it with the new password.</source>
@@ -4890,11 +4890,11 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>First reported</source>
-        <translation>Première signalisation</translation>
+        <translation>Premier signalement</translation>
     </message>
     <message>
         <source>Last reported</source>
-        <translation>Dernière signalisation</translation>
+        <translation>Dernier signalement</translation>
     </message>
     <message>
         <source>Reported</source>
@@ -4918,7 +4918,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Serial</source>
-        <translation>Série</translation>
+        <translation>N° de série</translation>
     </message>
     <message>
         <source>Read</source>
@@ -4939,7 +4939,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Serviceable event #%1</source>
-        <extracomment>%1 the event's number</extracomment>
+        <extracomment>%1 the event&apos;s number</extracomment>
         <translation>Événement de service #%1</translation>
     </message>
     <message>
@@ -4998,7 +4998,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Delete this report?</source>
-        <translation>Supprimer ce rapport ?</translation>
+        <translation>Supprimer ce rapport&#xa0;?</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -5065,11 +5065,11 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>First Reported Time</source>
-        <translation>Première signalisation</translation>
+        <translation>Premier signalement</translation>
     </message>
     <message>
         <source>Last Reported Time</source>
-        <translation>Dernière signalisation</translation>
+        <translation>Dernier signalement</translation>
     </message>
     <message>
         <source>Data Event Time</source>
@@ -5077,11 +5077,11 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Reporting Console Name</source>
-        <translation>Nom de la console signalante</translation>
+        <translation>Nom de la console émettrice</translation>
     </message>
     <message>
         <source>Reporting MTMS</source>
-        <translation>MTMS signalant</translation>
+        <translation>MTMS émetteur</translation>
     </message>
     <message>
         <source>Failing MTMS</source>
@@ -5222,7 +5222,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Last read in full at %1</source>
-        <translation>Dernière lecture complète à %1</translation>
+        <translation>Dernière lecture complète&#xa0;: %1</translation>
     </message>
     <message>
         <source>%1 is offline</source>
@@ -5236,7 +5236,7 @@ Il reste dans la liste des rapports.</translation>
     <message>
         <source>%1: #%2 opened</source>
         <extracomment>%1 a console, %2 the number of an event</extracomment>
-        <translation>%1 : #%2 ouvert</translation>
+        <translation>%1&#xa0;: #%2 ouvert</translation>
     </message>
     <message>
         <source>, </source>
@@ -5248,18 +5248,18 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>%1: %2</source>
-        <extracomment>%1 a console, %2 as in "Partitions not read"
+        <extracomment>%1 a console, %2 as in &quot;Partitions not read&quot;
 ----------
-%1 a console, %2 as in "3 things got worse"</extracomment>
-        <translation>%1 : %2</translation>
+%1 a console, %2 as in &quot;3 things got worse&quot;</extracomment>
+        <translation>%1&#xa0;: %2</translation>
     </message>
     <message>
         <source>%1 stopped</source>
-        <translation>%1 s’est arrêté</translation>
+        <translation>%1 à l’arrêt</translation>
     </message>
     <message>
         <source>%1: LED on</source>
-        <translation>%1 : LED allumée</translation>
+        <translation>%1&#xa0;: LED allumée</translation>
     </message>
     <message>
         <source>%1 is in error</source>
@@ -5271,7 +5271,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>%1 incomplete</source>
-        <translation>%1 incomplet</translation>
+        <translation>%1 en état incomplet</translation>
     </message>
     <message>
         <source>not read in full</source>
@@ -5371,7 +5371,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message numerus="yes">
         <source>%1 on %Ln consoles</source>
-        <extracomment>%1 as in "7 things got worse", %n consoles</extracomment>
+        <extracomment>%1 as in &quot;7 things got worse&quot;, %n consoles</extracomment>
         <translation>
             <numerusform>%1 sur %Ln console</numerusform>
             <numerusform>%1 sur %Ln consoles</numerusform>
@@ -5390,16 +5390,16 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>%1: %2 read again</source>
-        <extracomment>%1 a console, %2 the name of a feed, as in "Partitions"</extracomment>
-        <translation>%1 : %2 lus à nouveau</translation>
+        <extracomment>%1 a console, %2 the name of a feed, as in &quot;Partitions&quot;</extracomment>
+        <translation>%1&#xa0;: %2 de nouveau lisibles</translation>
     </message>
     <message>
         <source>%1: LED off</source>
-        <translation>%1 : LED éteinte</translation>
+        <translation>%1&#xa0;: LED éteinte</translation>
     </message>
     <message>
         <source>%1 is %2 again</source>
-        <extracomment>%1 a name, %2 the console's word for a state</extracomment>
+        <extracomment>%1 a name, %2 the console&apos;s word for a state</extracomment>
         <translation>%1 est de nouveau %2</translation>
     </message>
     <message numerus="yes">
@@ -5411,7 +5411,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>After %1</source>
-        <extracomment>%1 a console, %2 as in "42 min"</extracomment>
+        <extracomment>%1 a console, %2 as in &quot;42 min&quot;</extracomment>
         <translation>Après %1</translation>
     </message>
     <message>
@@ -5420,30 +5420,30 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>In the night, %1</source>
-        <extracomment>%1 as in "5 things got worse"</extracomment>
+        <extracomment>%1 as in &quot;5 things got worse&quot;</extracomment>
         <translation>Cette nuit, %1</translation>
     </message>
     <message>
         <source>None of them needs attention any more</source>
-        <translation>Plus rien n’y demande attention</translation>
+        <translation>Plus rien n’y demande votre attention</translation>
     </message>
     <message numerus="yes">
         <source>%Ln of them still need attention</source>
         <translation>
-            <numerusform>%Ln demande encore attention</numerusform>
-            <numerusform>%Ln demandent encore attention</numerusform>
+            <numerusform>%Ln demande encore votre attention</numerusform>
+            <numerusform>%Ln demandent encore votre attention</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln consoles need attention</source>
         <translation>
-            <numerusform>%Ln console demande attention</numerusform>
-            <numerusform>%Ln consoles demandent attention</numerusform>
+            <numerusform>%Ln console demande votre attention</numerusform>
+            <numerusform>%Ln consoles demandent votre attention</numerusform>
         </translation>
     </message>
     <message>
         <source>Nothing known needs attention</source>
-        <translation>Rien de connu ne demande attention</translation>
+        <translation>Rien de connu ne demande votre attention</translation>
     </message>
     <message>
         <source>Open Lodestar to see more</source>
@@ -5462,12 +5462,12 @@ Il reste dans la liste des rapports.</translation>
     <name>lodestar::WatchText</name>
     <message>
         <source>every %1</source>
-        <extracomment>%1 as in "15 min"</extracomment>
+        <extracomment>%1 as in &quot;15 min&quot;</extracomment>
         <translation>toutes les %1</translation>
     </message>
     <message>
         <source>off</source>
-        <translation>désactivée</translation>
+        <translation>inactive</translation>
     </message>
     <message>
         <source>none</source>
@@ -5475,15 +5475,15 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>open</source>
-        <translation>ouvert</translation>
+        <translation>ouverts</translation>
     </message>
     <message>
         <source>open, call home</source>
-        <translation>ouverts, appel au fabricant</translation>
+        <translation>ouverts avec appel</translation>
     </message>
     <message>
         <source>all %1</source>
-        <translation>les %1</translation>
+        <translation>toutes (%1)</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -5493,22 +5493,22 @@ Il reste dans la liste des rapports.</translation>
         <source>%1 are left out until you refresh them by hand: their certificates changed.</source>
         <extracomment>%1 the names of so many consoles</extracomment>
         <translation>
-            <numerusform>%1 est laissée de côté jusqu’à une actualisation à la main : son certificat a changé.</numerusform>
-            <numerusform>%1 sont laissées de côté jusqu’à une actualisation à la main : leurs certificats ont changé.</numerusform>
+            <numerusform>%1 est laissée de côté jusqu’à une actualisation à la main&#xa0;: son certificat a changé.</numerusform>
+            <numerusform>%1 sont laissées de côté jusqu’à une actualisation à la main&#xa0;: leurs certificats ont changé.</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln h</source>
         <translation>
-            <numerusform>%Ln h</numerusform>
-            <numerusform>%Ln h</numerusform>
+            <numerusform>%Ln&#xa0;h</numerusform>
+            <numerusform>%Ln&#xa0;h</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln min</source>
         <translation>
-            <numerusform>%Ln min</numerusform>
-            <numerusform>%Ln min</numerusform>
+            <numerusform>%Ln&#xa0;min</numerusform>
+            <numerusform>%Ln&#xa0;min</numerusform>
         </translation>
     </message>
 </context>
@@ -5516,11 +5516,11 @@ Il reste dans la liste des rapports.</translation>
     <name>lodestar::WatchViewController</name>
     <message>
         <source>Watch</source>
-        <translation>Veille</translation>
+        <translation>Surveillance</translation>
     </message>
     <message>
         <source>This system shows no messages. Attention still counts.</source>
-        <translation>Ce système n’affiche pas de messages. Attention compte toujours.</translation>
+        <translation>Ce système n’affiche pas de messages. «&#xa0;Attention&#xa0;» continue de compter.</translation>
     </message>
     <message>
         <source>Reading goes on. At %1 one message sums up the night, if anything got worse.</source>
@@ -5533,7 +5533,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Every</source>
-        <translation>Toutes les</translation>
+        <translation>Intervalle</translation>
     </message>
     <message>
         <source>New Events</source>
@@ -5574,7 +5574,7 @@ Il reste dans la liste des rapports.</translation>
         <translation>Quitter une fois le premier écran dessiné, pour mesurer.</translation>
     </message>
     <message>
-        <source>Speak this language instead of the system's (en, de, fr, es, ja, ar).</source>
+        <source>Speak this language instead of the system&apos;s (en, de, fr, es, ja, ar).</source>
         <extracomment>In brackets codes, which stay as they are</extracomment>
         <translation>Parler cette langue au lieu de celle du système (en, de, fr, es, ja, ar).</translation>
     </message>

@@ -28,7 +28,7 @@
     </message>
     <message>
         <source>Severity</source>
-        <translation>深刻度</translation>
+        <translation>重大度</translation>
     </message>
     <message>
         <source>Console</source>
@@ -85,18 +85,18 @@
     <name>AttentionWatchButton</name>
     <message>
         <source>Watch</source>
-        <translation>見張り</translation>
+        <translation>監視</translation>
     </message>
 </context>
 <context>
     <name>ChangesCard</name>
     <message>
         <source>Worse, above</source>
-        <translation>上は悪化</translation>
+        <translation>悪化（上）</translation>
     </message>
     <message>
         <source>Better, below</source>
-        <translation>下は改善</translation>
+        <translation>改善（下）</translation>
     </message>
 </context>
 <context>
@@ -122,27 +122,27 @@
     </message>
     <message>
         <source>Only this console, by name or address; may be repeated.</source>
-        <translation>このコンソールだけ（名前またはアドレス）。繰り返せます。</translation>
+        <translation>このコンソールだけ（名前またはアドレス）。複数回指定できます。</translation>
     </message>
     <message>
         <source>Write JSON.</source>
-        <translation>JSONを書きます。</translation>
+        <translation>JSONで出力します。</translation>
     </message>
     <message>
         <source>Write comma-separated values.</source>
-        <translation>カンマ区切りの値を書きます。</translation>
+        <translation>カンマ区切りで出力します。</translation>
     </message>
     <message>
-        <source>Use this data folder instead of Lodestar's own.</source>
-        <translation>Lodestar自身のものではなく、このデータフォルダーを使います。</translation>
+        <source>Use this data folder instead of Lodestar&apos;s own.</source>
+        <translation>Lodestar標準のものではなく、このデータフォルダーを使います。</translation>
     </message>
     <message>
         <source>Say how the command is used.</source>
-        <translation>コマンドの使い方を示します。</translation>
+        <translation>コマンドの使い方を表示します。</translation>
     </message>
     <message>
         <source>Say which version this is.</source>
-        <translation>バージョンを示します。</translation>
+        <translation>バージョンを表示します。</translation>
     </message>
     <message>
         <source>%1 takes a number, not %2.</source>
@@ -183,7 +183,7 @@
     </message>
     <message>
         <source>Watches Corvel consoles and changes nothing.</source>
-        <translation>Corvelコンソールを見守り、何も変更しません。</translation>
+        <translation>Corvelコンソールを監視し、何も変更しません。</translation>
     </message>
     <message>
         <source>With every command:</source>
@@ -199,27 +199,27 @@
     </message>
     <message>
         <source>Tell how all consoles are. The exit code says how the fleet is.</source>
-        <translation>すべてのコンソールの状況を示します。終了コードも状況を表します。</translation>
+        <translation>すべてのコンソールの状況を表示します。終了コードも状況を表します。</translation>
     </message>
     <message>
         <source>List everything that needs attention. The exit code as with status.</source>
-        <translation>注意すべきものをすべて列挙します。終了コードはstatusと同じです。</translation>
+        <translation>注意すべきものをすべて一覧表示します。終了コードはstatusと同じです。</translation>
     </message>
     <message>
         <source>List consoles, systems, io-servers, partitions, events or groups.</source>
-        <translation>consoles、systems、io-servers、partitions、events、groupsを列挙します。</translation>
+        <translation>consoles、systems、io-servers、partitions、events、groupsのいずれかを一覧表示します。</translation>
     </message>
     <message>
         <source>Show every field as a column, not only the usual ones.</source>
-        <translation>普段の列だけでなく、すべての項目を列として示します。</translation>
+        <translation>普段の列だけでなく、すべての項目を列として表示します。</translation>
     </message>
     <message>
         <source>Show one object, by identifier, name or number.</source>
-        <translation>識別子、名前、番号で1つを示します。</translation>
+        <translation>識別子、名前、番号のいずれかで1つを表示します。</translation>
     </message>
     <message>
         <source>List serviceable events.</source>
-        <translation>サービスイベントを列挙します。</translation>
+        <translation>サービスイベントを一覧表示します。</translation>
     </message>
     <message>
         <source>Only open ones.</source>
@@ -235,7 +235,7 @@
     </message>
     <message>
         <source>Show processors and memory of a system over the last half day.</source>
-        <translation>システムのプロセッサーとメモリーの過去半日を示します。</translation>
+        <translation>システムのプロセッサーとメモリーの過去半日を表示します。</translation>
     </message>
     <message>
         <source>With --csv: memory instead of processors.</source>
@@ -243,11 +243,11 @@
     </message>
     <message>
         <source>Read the consoles again and again, and write a line for each change.</source>
-        <translation>コンソールを繰り返し読み、変化ごとに1行書きます。</translation>
+        <translation>コンソールを繰り返し読み、変化ごとに1行出力します。</translation>
     </message>
     <message>
-        <source>Minutes between readings, or 30s, 2h; at first as Lodestar's Watch has it.</source>
-        <translation>読み取りの間隔（分、または30s、2h）。初期値はLodestarの見張りの設定です。</translation>
+        <source>Minutes between readings, or 30s, 2h; at first as Lodestar&apos;s Watch has it.</source>
+        <translation>読み取りの間隔（分、または30s、2h）。初期値はLodestarの監視の設定です。</translation>
     </message>
     <message>
         <source>End after so many readings.</source>
@@ -255,7 +255,7 @@
     </message>
     <message>
         <source>Write how all consoles are as OpenMetrics, for Prometheus.</source>
-        <translation>すべてのコンソールの状況をPrometheus用のOpenMetricsで書きます。</translation>
+        <translation>すべてのコンソールの状況をPrometheus用のOpenMetricsで出力します。</translation>
     </message>
     <message>
         <source>Replace this file, for a collector of text files; - is standard output.</source>
@@ -263,7 +263,7 @@
     </message>
     <message>
         <source>Serve it at /metrics instead, on this machine only; ADDRESS:PORT, too.</source>
-        <translation>代わりに/metricsで提供します（この端末のみ）。アドレス:ポートも可。</translation>
+        <translation>代わりに/metricsで提供します（このマシンのみ）。アドレス:ポートも指定できます。</translation>
     </message>
     <message>
         <source>With --listen: minutes between readings, or 30s, 2h.</source>
@@ -271,11 +271,11 @@
     </message>
     <message>
         <source>Also its processors and memory; may be repeated.</source>
-        <translation>そのプロセッサーとメモリーも。繰り返せます。</translation>
+        <translation>そのプロセッサーとメモリーも。複数回指定できます。</translation>
     </message>
     <message>
         <source>List the registered consoles without asking them.</source>
-        <translation>登録済みのコンソールを、問い合わせずに列挙します。</translation>
+        <translation>登録済みのコンソールを、問い合わせずに一覧表示します。</translation>
     </message>
     <message>
         <source>Verify a console and register it.</source>
@@ -287,11 +287,11 @@
     </message>
     <message>
         <source>Call it so; the address at first.</source>
-        <translation>この名前で呼びます。初期値はアドレスです。</translation>
+        <translation>表示名です。初期値はアドレスです。</translation>
     </message>
     <message>
         <source>Remove a console and what is remembered of it.</source>
-        <translation>コンソールと、それについて覚えているものを取り除きます。</translation>
+        <translation>コンソールと、その記録を削除します。</translation>
     </message>
     <message>
         <source>Verify the consoles of a fleet sheet and register them together; - reads standard input.</source>
@@ -303,7 +303,7 @@
     </message>
     <message>
         <source>Write the consoles as a fleet sheet, without secrets; - writes standard output.</source>
-        <translation>コンソールを秘密なしのコンソール表として書きます。-は標準出力です。</translation>
+        <translation>コンソールをパスワードなしのコンソール表として書き出します。-は標準出力です。</translation>
     </message>
     <message>
         <source>The same as consoles list.</source>
@@ -311,7 +311,7 @@
     </message>
     <message>
         <source>%1 did not answer: %2.</source>
-        <extracomment>%1 a console, %2 why, as in "connection refused"</extracomment>
+        <extracomment>%1 a console, %2 why, as in &quot;connection refused&quot;</extracomment>
         <translation>%1は応答しませんでした：%2。</translation>
     </message>
     <message>
@@ -320,7 +320,7 @@
     </message>
     <message>
         <source>%1: %2.</source>
-        <extracomment>%1 a console, %2 as in "Partitions not read"</extracomment>
+        <extracomment>%1 a console, %2 as in &quot;Partitions not read&quot;</extracomment>
         <translation>%1：%2。</translation>
     </message>
     <message>
@@ -333,11 +333,11 @@
     </message>
     <message>
         <source>%1 was removed.</source>
-        <translation>%1を取り除きました。</translation>
+        <translation>%1を削除しました。</translation>
     </message>
     <message>
         <source>consoles export writes a fleet sheet; consoles list --json writes JSON.</source>
-        <translation>consoles exportはコンソール表を、consoles list --jsonはJSONを書きます。</translation>
+        <translation>consoles exportはコンソール表を、consoles list --jsonはJSONを出力します。</translation>
     </message>
     <message>
         <source>Could not be saved: %1</source>
@@ -347,7 +347,7 @@
         <source>Saved %Ln consoles as %1</source>
         <extracomment>%1 the name of a file</extracomment>
         <translation>
-            <numerusform>%Lnのコンソールを%1に保存しました</numerusform>
+            <numerusform>コンソール%Ln台を%1に保存しました</numerusform>
         </translation>
     </message>
     <message>
@@ -356,11 +356,11 @@
     </message>
     <message>
         <source>--every goes with --listen; a file is written once.</source>
-        <translation>--everyは--listenと使います。ファイルは一度だけ書きます。</translation>
+        <translation>--everyは--listenと使います。ファイルは一度だけ書き出します。</translation>
     </message>
     <message>
         <source>export writes OpenMetrics.</source>
-        <translation>exportはOpenMetricsを書きます。</translation>
+        <translation>exportはOpenMetricsを出力します。</translation>
     </message>
     <message numerus="yes">
         <source>export takes --system at most %Ln times.</source>
@@ -370,7 +370,7 @@
     </message>
     <message>
         <source>The metrics of %1 cannot be had: %2.</source>
-        <extracomment>%1 a system, %2 why, as in "connection refused"</extracomment>
+        <extracomment>%1 a system, %2 why, as in &quot;connection refused&quot;</extracomment>
         <translation>%1の指標は得られません：%2。</translation>
     </message>
     <message>
@@ -392,7 +392,7 @@
     </message>
     <message>
         <source>%1 was left out: its certificate changed within an attempt. To take the new one, name the console with --console.</source>
-        <translation>%1は除かれました：試みの途中で証明書が変わりました。新しいものを受け入れるには、--consoleでこのコンソールを指定してください。</translation>
+        <translation>%1は除かれました：試行の途中で証明書が変わりました。新しいものを受け入れるには、--consoleでこのコンソールを指定してください。</translation>
     </message>
     <message>
         <source>%1 cannot be opened</source>
@@ -455,12 +455,12 @@
     <message numerus="yes">
         <source>%Ln consoles were added.</source>
         <translation>
-            <numerusform>%Lnのコンソールを追加しました。</numerusform>
+            <numerusform>コンソール%Ln台を追加しました。</numerusform>
         </translation>
     </message>
     <message>
         <source>Say as whom to log on with --user.</source>
-        <translation>誰としてログオンするかを--userで指定してください。</translation>
+        <translation>ログオンするユーザーを--userで指定してください。</translation>
     </message>
     <message>
         <source>The address is empty.</source>
@@ -472,7 +472,7 @@
     </message>
     <message>
         <source>Nothing was added. %1: %2.</source>
-        <extracomment>%1 an address, %2 why, as in "connection refused"</extracomment>
+        <extracomment>%1 an address, %2 why, as in &quot;connection refused&quot;</extracomment>
         <translation>何も追加していません。%1：%2。</translation>
     </message>
     <message>
@@ -485,7 +485,7 @@
     </message>
     <message>
         <source>%1 was added, %2.</source>
-        <translation>%1を追加しました、%2。</translation>
+        <translation>%1を追加しました（%2）。</translation>
     </message>
     <message>
         <source>--listen takes a port, or an address and a port as 127.0.0.1:9750, not %1.</source>
@@ -497,7 +497,7 @@
     </message>
     <message>
         <source>--listen takes no address that other machines reach, such as %1: what it serves is neither encrypted nor guarded. Put a server in front of it that is.</source>
-        <translation>--listenには%1のような、他の端末から届くアドレスは使えません。提供する内容は暗号化も保護もされません。それを備えたサーバーを前に置いてください。</translation>
+        <translation>--listenには%1のような、他のマシンから届くアドレスは使えません。提供する内容は暗号化も保護もされません。それを備えたサーバーを前に置いてください。</translation>
     </message>
     <message>
         <source>Cannot listen on %1</source>
@@ -505,7 +505,7 @@
     </message>
     <message>
         <source>lodestar-cli --help lists all commands.</source>
-        <translation>lodestar-cli --helpですべてのコマンドを示します。</translation>
+        <translation>lodestar-cli --helpですべてのコマンドを表示します。</translation>
     </message>
     <message>
         <source>total processors</source>
@@ -533,7 +533,7 @@
     </message>
     <message>
         <source>No sample had values.</source>
-        <translation>値のある標本はありませんでした。</translation>
+        <translation>値のあるサンプルはありませんでした。</translation>
     </message>
     <message>
         <source>No %1.</source>
@@ -586,7 +586,7 @@
     </message>
     <message>
         <source>There is no terminal to ask for the password. Give --password-fd N to read it from descriptor N.</source>
-        <translation>パスワードを尋ねる端末がありません。--password-fd Nで記述子Nから読ませてください。</translation>
+        <translation>パスワードを尋ねるターミナルがありません。--password-fd Nで記述子Nから読ませてください。</translation>
     </message>
     <message>
         <source>Lodestar is open, or another command is at work, in %1. Close it, or name another folder with --data.</source>
@@ -631,7 +631,7 @@
     </message>
     <message>
         <source>The history was damaged. It was set aside as %1, and a new one was begun. Earlier changes are missing.</source>
-        <translation>履歴が壊れていました。%1として取り置き、新しい履歴を始めました。以前の変化はありません。</translation>
+        <translation>履歴が壊れていました。%1として別に保存し、新しい履歴を始めました。以前の変化はありません。</translation>
     </message>
     <message>
         <source>Nothing was stored. %1</source>
@@ -663,11 +663,11 @@
     </message>
     <message>
         <source>watch writes lines of text, or of JSON with --json.</source>
-        <translation>watchはテキストの行を、--jsonならJSONの行を書きます。</translation>
+        <translation>watchはテキストの行を、--jsonならJSONの行を出力します。</translation>
     </message>
     <message>
         <source>There are no consoles to watch.</source>
-        <translation>見張るコンソールがありません。</translation>
+        <translation>監視するコンソールがありません。</translation>
     </message>
     <message>
         <source>%1 %2</source>
@@ -759,7 +759,7 @@
     </message>
     <message>
         <source>No managed systems are known.</source>
-        <translation>管理対象システムは不明です。</translation>
+        <translation>既知の管理対象システムはありません。</translation>
     </message>
     <message>
         <source>Logical Partitions</source>
@@ -767,7 +767,7 @@
     </message>
     <message>
         <source>No logical partitions are known.</source>
-        <translation>論理区画は不明です。</translation>
+        <translation>既知の論理区画はありません。</translation>
     </message>
     <message>
         <source>No consoles yet.</source>
@@ -781,11 +781,11 @@
 <context>
     <name>DeltaCorvelScene</name>
     <message>
-        <source>Leave out "%1".</source>
+        <source>Leave out &quot;%1&quot;.</source>
         <translation>「%1」は不要です。</translation>
     </message>
     <message>
-        <source>Leave out "/" and what follows it.</source>
+        <source>Leave out &quot;/&quot; and what follows it.</source>
         <translation>「/」以降は不要です。</translation>
     </message>
     <message>
@@ -806,7 +806,7 @@
     </message>
     <message>
         <source>User ID</source>
-        <translation>ユーザー</translation>
+        <translation>ユーザーID</translation>
     </message>
     <message>
         <source>Password</source>
@@ -1162,7 +1162,7 @@
     </message>
     <message>
         <source>Open</source>
-        <translation>未解決</translation>
+        <translation>開く</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -1531,11 +1531,15 @@
         <source>Attention</source>
         <translation>要注意</translation>
     </message>
+    <message>
+        <source>The other column</source>
+        <translation>もう一方の列</translation>
+    </message>
 </context>
 <context>
     <name>KeychainWait</name>
     <message>
-        <source>Waiting for the system's keychain...</source>
+        <source>Waiting for the system&apos;s keychain...</source>
         <translation>システムのキーチェーンを待っています...</translation>
     </message>
 </context>
@@ -1543,7 +1547,7 @@
     <name>LargeChartScene</name>
     <message>
         <source>Performance Monitoring</source>
-        <translation>性能の監視</translation>
+        <translation>パフォーマンス監視</translation>
     </message>
     <message>
         <source>Share</source>
@@ -1636,7 +1640,7 @@
     <name>PCMScene</name>
     <message>
         <source>units</source>
-        <translation>単位</translation>
+        <translation>ユニット</translation>
     </message>
     <message>
         <source>GB</source>
@@ -1644,7 +1648,7 @@
     </message>
     <message>
         <source>Performance Monitoring</source>
-        <translation>性能の監視</translation>
+        <translation>パフォーマンス監視</translation>
     </message>
     <message>
         <source>Large Chart</source>
@@ -1696,7 +1700,7 @@
 <context>
     <name>Passcode</name>
     <message>
-        <source>The system's keychain is locked</source>
+        <source>The system&apos;s keychain is locked</source>
         <translation>システムのキーチェーンがロックされています</translation>
     </message>
     <message>
@@ -1704,19 +1708,19 @@
         <translation>このシステムではキーチェーンが動いていません</translation>
     </message>
     <message>
-        <source>The system's keychain does not answer</source>
+        <source>The system&apos;s keychain does not answer</source>
         <translation>システムのキーチェーンが応答しません</translation>
     </message>
     <message>
-        <source>The system's keychain cannot keep this text</source>
+        <source>The system&apos;s keychain cannot keep this text</source>
         <translation>システムのキーチェーンはこのテキストを保存できません</translation>
     </message>
     <message>
-        <source>The system's keychain reported an error</source>
+        <source>The system&apos;s keychain reported an error</source>
         <translation>システムのキーチェーンがエラーを報告しました</translation>
     </message>
     <message>
-        <source>The passcode is not asked for any more: the system's keychain was locked.</source>
+        <source>The passcode is not asked for any more: the system&apos;s keychain was locked.</source>
         <translation>パスコードは今後尋ねません：システムのキーチェーンがロックされていました。</translation>
     </message>
     <message>
@@ -1724,11 +1728,11 @@
         <translation>パスコードは今後尋ねません：キーチェーンが動いていませんでした。</translation>
     </message>
     <message>
-        <source>The passcode is not asked for any more: the system's keychain did not answer.</source>
+        <source>The passcode is not asked for any more: the system&apos;s keychain did not answer.</source>
         <translation>パスコードは今後尋ねません：システムのキーチェーンが応答しませんでした。</translation>
     </message>
     <message>
-        <source>The passcode is not asked for any more: the system's keychain could not be read.</source>
+        <source>The passcode is not asked for any more: the system&apos;s keychain could not be read.</source>
         <translation>パスコードは今後尋ねません：システムのキーチェーンを読めませんでした。</translation>
     </message>
 </context>
@@ -1840,7 +1844,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1%</translation>
     </message>
     <message>
         <source>Report Sent</source>
@@ -1990,7 +1994,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>and since yesterday</source>
-        <translation>と昨日からの変化</translation>
+        <translation>昨日からの変化</translation>
     </message>
 </context>
 <context>
@@ -2011,18 +2015,18 @@ It is kept in the list of reports.</source>
     <name>WatchConsoleDelegate</name>
     <message>
         <source>watched</source>
-        <translation>見張り中</translation>
+        <translation>監視中</translation>
     </message>
     <message>
         <source>not watched</source>
-        <translation>見張りなし</translation>
+        <translation>監視なし</translation>
     </message>
 </context>
 <context>
     <name>WatchScene</name>
     <message>
         <source>Watch While Lodestar Runs</source>
-        <translation>Lodestarの実行中に見張る</translation>
+        <translation>Lodestarの実行中に監視</translation>
     </message>
     <message>
         <source>Reads every console again by itself and tells you what changed. It stops when Lodestar is closed.</source>
@@ -2085,11 +2089,11 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1, earlier</source>
-        <translation>%1、早く</translation>
+        <translation>%1を早める</translation>
     </message>
     <message>
         <source>%1, later</source>
-        <translation>%1、遅く</translation>
+        <translation>%1を遅らせる</translation>
     </message>
 </context>
 <context>
@@ -2104,7 +2108,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 %2</source>
-        <extracomment>%1 a day as in "yesterday" or "Mon", %2 a time of day</extracomment>
+        <extracomment>%1 a day as in &quot;yesterday&quot; or &quot;Mon&quot;, %2 a time of day</extracomment>
         <translation>%1 %2</translation>
     </message>
     <message>
@@ -2114,7 +2118,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>since %1</source>
-        <extracomment>%1 as in "09:41", "yesterday 21:40" or "3 Mar"</extracomment>
+        <extracomment>%1 as in &quot;09:41&quot;, &quot;yesterday 21:40&quot; or &quot;3 Mar&quot;</extracomment>
         <translation>%1から</translation>
     </message>
     <message>
@@ -2123,8 +2127,8 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>read %1</source>
-        <extracomment>%1 as in "2 min ago" or "yesterday 21:40"</extracomment>
-        <translation>%1に読み取り</translation>
+        <extracomment>%1 as in &quot;2 min ago&quot; or &quot;yesterday 21:40&quot;</extracomment>
+        <translation>読み取り：%1</translation>
     </message>
     <message numerus="yes">
         <source>%Ln min ago</source>
@@ -2191,7 +2195,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1, %2</source>
-        <extracomment>The name of a file: the tab "Attention" and what of it</extracomment>
+        <extracomment>The name of a file: the tab &quot;Attention&quot; and what of it</extracomment>
         <translation>%1、%2</translation>
     </message>
 </context>
@@ -2214,7 +2218,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>#%1 gone</source>
-        <translation>#%1 消滅</translation>
+        <translation>#%1 消失</translation>
     </message>
     <message>
         <source>#%1</source>
@@ -2297,7 +2301,7 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>%Ln events gone</source>
         <translation>
-            <numerusform>イベント%Ln件消滅</numerusform>
+            <numerusform>イベント%Ln件消失</numerusform>
         </translation>
     </message>
     <message numerus="yes">
@@ -2379,7 +2383,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>What changed before could not be read. The damaged file was set aside.</source>
-        <translation>以前の変化を読めませんでした。壊れたファイルは別に取り置きました。</translation>
+        <translation>以前の変化を読めませんでした。壊れたファイルは別に保存しました。</translation>
     </message>
 </context>
 <context>
@@ -2398,7 +2402,7 @@ It is kept in the list of reports.</source>
     <name>lodestar::Commands</name>
     <message>
         <source>Watch</source>
-        <translation>見張り</translation>
+        <translation>監視</translation>
     </message>
     <message>
         <source>Fleet sheet</source>
@@ -2412,10 +2416,6 @@ It is kept in the list of reports.</source>
         <source>Bring back the demo</source>
         <translation>デモを戻す</translation>
     </message>
-    <message>
-        <source>Feedback</source>
-        <translation>フィードバック</translation>
-    </message>
 </context>
 <context>
     <name>lodestar::ConnectionContent</name>
@@ -2426,17 +2426,17 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1, ended %2</source>
-        <extracomment>%1 as in "1 Sep 2025 to 31 Aug 2027", %2 a date</extracomment>
+        <extracomment>%1 as in &quot;1 Sep 2025 to 31 Aug 2027&quot;, %2 a date</extracomment>
         <translation>%1、%2に終了</translation>
     </message>
     <message>
         <source>%1, begins %2</source>
-        <extracomment>%1 as in "1 Sep 2025 to 31 Aug 2027", %2 a date</extracomment>
+        <extracomment>%1 as in &quot;1 Sep 2025 to 31 Aug 2027&quot;, %2 a date</extracomment>
         <translation>%1、%2に開始</translation>
     </message>
     <message>
         <source>changed %1</source>
-        <extracomment>%1 as in "today, 02:58" or "3 Mar"</extracomment>
+        <extracomment>%1 as in &quot;today, 02:58&quot; or &quot;3 Mar&quot;</extracomment>
         <translation>%1に変更</translation>
     </message>
     <message>
@@ -2461,7 +2461,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Not vouched for by this device’s authorities. Consoles sign their own, so Lodestar takes what it is shown and says here when it changes.</source>
-        <translation>この端末の認証局は保証していません。コンソールは自ら署名するため、Lodestarは示されたものを受け入れ、変わったときにここで知らせます。</translation>
+        <translation>この端末の認証局は保証していません。コンソールは自己署名の証明書を使うため、Lodestarは示されたものを受け入れ、変わったときにここで知らせます。</translation>
     </message>
     <message>
         <source>Certificate</source>
@@ -2489,7 +2489,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>itself</source>
-        <translation>自身</translation>
+        <translation>自己署名</translation>
     </message>
     <message>
         <source>Valid</source>
@@ -2509,7 +2509,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>The rest was read %1.</source>
-        <extracomment>%1 as in "at 09:26" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 as in &quot;at 09:26&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>残りは%1に読み取りました。</translation>
     </message>
     <message>
@@ -2522,16 +2522,16 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 could not be read.</source>
-        <extracomment>%1 names of feeds, as in "Partitions and resource groups"</extracomment>
+        <extracomment>%1 names of feeds, as in &quot;Partitions and resource groups&quot;</extracomment>
         <translation>%1を読めませんでした。</translation>
     </message>
     <message>
         <source>Not tried yet</source>
-        <translation>まだ試していません</translation>
+        <translation>未試行</translation>
     </message>
     <message>
         <source>Offline since %1</source>
-        <extracomment>%1 as in "02:58" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 as in &quot;02:58&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>%1からオフライン</translation>
     </message>
     <message>
@@ -2540,8 +2540,8 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Everything was read %1, in %2.</source>
-        <extracomment>%1 as in "2 min ago" or "at 09:41", %2 a time in seconds</extracomment>
-        <translation>すべて%1に読み取りました（%2）。</translation>
+        <extracomment>%1 as in &quot;2 min ago&quot; or &quot;at 09:41&quot;, %2 a time in seconds</extracomment>
+        <translation>すべて読み取りました（%1、所要%2）。</translation>
     </message>
     <message>
         <source>What to try</source>
@@ -2557,8 +2557,8 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1, in %2</source>
-        <extracomment>%1 as in "today, 02:43", %2 a time in seconds</extracomment>
-        <translation>%1（%2）</translation>
+        <extracomment>%1 as in &quot;today, 02:43&quot;, %2 a time in seconds</extracomment>
+        <translation>%1（所要%2）</translation>
     </message>
     <message>
         <source>Read in full</source>
@@ -2618,7 +2618,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>first contact</source>
-        <translation>初回の接触</translation>
+        <translation>初回接続</translation>
     </message>
     <message>
         <source>certificate changed</source>
@@ -2688,11 +2688,11 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 KB</source>
-        <translation>%1 KB</translation>
+        <translation>%1&#xa0;KB</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation>%1 MB</translation>
+        <translation>%1&#xa0;MB</translation>
     </message>
     <message numerus="yes">
         <source>%Ln entries</source>
@@ -2707,13 +2707,13 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 were last read %2</source>
-        <extracomment>%1 the name of a feed, %2 as in "at 09:26" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 the name of a feed, %2 as in &quot;at 09:26&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>%1の前回の読み取りは%2</translation>
     </message>
     <message>
         <source>%1, %2 %3</source>
         <extracomment>%1 the same for another feed, which %2 and %3 add</extracomment>
-        <translation>%1、%2 %3</translation>
+        <translation>%1、%2は%3</translation>
     </message>
     <message>
         <source>%1.</source>
@@ -2722,11 +2722,11 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 ms</source>
-        <translation>%1 ms</translation>
+        <translation>%1&#xa0;ms</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation>%1 s</translation>
+        <translation>%1秒</translation>
     </message>
     <message>
         <source>at %1</source>
@@ -2735,7 +2735,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Last attempt</source>
-        <translation>前回の試み</translation>
+        <translation>前回の試行</translation>
     </message>
     <message>
         <source>Feeds</source>
@@ -2744,7 +2744,7 @@ It is kept in the list of reports.</source>
     <message>
         <source>%1 of 6</source>
         <extracomment>%1 how many of the six feeds were read</extracomment>
-        <translation>6中%1</translation>
+        <translation>6件中%1件</translation>
     </message>
     <message numerus="yes">
         <source>The rest is %Ln min old.</source>
@@ -2891,7 +2891,7 @@ It is kept in the list of reports.</source>
     <name>lodestar::DBusMessageService</name>
     <message>
         <source>Open</source>
-        <translation>未解決</translation>
+        <translation>開く</translation>
     </message>
 </context>
 <context>
@@ -2906,16 +2906,16 @@ It is kept in the list of reports.</source>
     <message>
         <source>missing from %1 of %2</source>
         <extracomment>%1 of %2 consoles</extracomment>
-        <translation>%2中%1で欠落</translation>
+        <translation>%2台中%1台で欠落</translation>
     </message>
     <message>
         <source>%1 of %2 answered in full</source>
         <extracomment>%1 of %2 consoles</extracomment>
-        <translation>%2中%1が完全に応答</translation>
+        <translation>%2台中%1台が完全に応答</translation>
     </message>
     <message>
         <source>Read %1.</source>
-        <extracomment>%1 and %2 as in "09:41" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 and %2 as in &quot;09:41&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>%1に読み取り。</translation>
     </message>
     <message>
@@ -2954,11 +2954,11 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Worse, above</source>
-        <translation>上は悪化</translation>
+        <translation>悪化（上）</translation>
     </message>
     <message>
         <source>Better, below</source>
-        <translation>下は改善</translation>
+        <translation>改善（下）</translation>
     </message>
     <message>
         <source>%1 %2 worse, %3 better</source>
@@ -2983,7 +2983,7 @@ It is kept in the list of reports.</source>
     </message>
     <message numerus="yes">
         <source>%1, %Ln days, %2</source>
-        <extracomment>A chart's name, how many days it has, and what it tells of the last.</extracomment>
+        <extracomment>A chart&apos;s name, how many days it has, and what it tells of the last.</extracomment>
         <translation>
             <numerusform>%1、%Ln日、%2</numerusform>
         </translation>
@@ -3024,7 +3024,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Machine Type</source>
-        <translation>機種タイプ</translation>
+        <translation>マシンタイプ</translation>
     </message>
     <message>
         <source>Model</source>
@@ -3084,7 +3084,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1, %2</source>
-        <extracomment>The name of a file: what is listed, such as "Managed Systems", and a console's name</extracomment>
+        <extracomment>The name of a file: what is listed, such as &quot;Managed Systems&quot;, and a console&apos;s name</extracomment>
         <translation>%1、%2</translation>
     </message>
 </context>
@@ -3140,12 +3140,12 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 not read</source>
-        <extracomment>%1 the name of a feed, as in "Partitions"</extracomment>
+        <extracomment>%1 the name of a feed, as in &quot;Partitions&quot;</extracomment>
         <translation>%1を読めません</translation>
     </message>
     <message>
         <source>%1 and %2 not read</source>
-        <extracomment>%1 and %2 names of feeds, as in "Partitions" and "groups"</extracomment>
+        <extracomment>%1 and %2 names of feeds, as in &quot;Partitions&quot; and &quot;groups&quot;</extracomment>
         <translation>%1と%2を読めません</translation>
     </message>
     <message>
@@ -3251,12 +3251,12 @@ It is kept in the list of reports.</source>
     <name>lodestar::FileSaver</name>
     <message>
         <source>Could not be saved: %1</source>
-        <extracomment>%1 a reason, such as "the disk is full."</extracomment>
+        <extracomment>%1 a reason, such as &quot;the disk is full.&quot;</extracomment>
         <translation>保存できませんでした：%1</translation>
     </message>
     <message>
         <source>Saved as %1</source>
-        <extracomment>%1 a file's name</extracomment>
+        <extracomment>%1 a file&apos;s name</extracomment>
         <translation>%1として保存しました</translation>
     </message>
     <message>
@@ -3265,7 +3265,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>There is already a file named %1.</source>
-        <extracomment>%1 a file's name</extracomment>
+        <extracomment>%1 a file&apos;s name</extracomment>
         <translation>%1という名前のファイルがすでにあります。</translation>
     </message>
     <message>
@@ -3305,7 +3305,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 to %2</source>
-        <extracomment>%1 and %2 as in "09:41" or "yesterday 21:40"</extracomment>
+        <extracomment>%1 and %2 as in &quot;09:41&quot; or &quot;yesterday 21:40&quot;</extracomment>
         <translation>%1〜%2</translation>
     </message>
     <message>
@@ -3335,14 +3335,14 @@ It is kept in the list of reports.</source>
     </message>
     <message numerus="yes">
         <source>%1 of %Ln consoles</source>
-        <extracomment>Within "2,318 things on 5 of 6 consoles, read 09:41."</extracomment>
+        <extracomment>Within &quot;2,318 things on 5 of 6 consoles, read 09:41.&quot;</extracomment>
         <translation>
             <numerusform>コンソール%Ln台中%1台</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 on %2, read %3.</source>
-        <extracomment>%1 as in "2,318 things", %2 as in "5 of 6 consoles", %3 as in "09:41" or "09:41 to 09:43"</extracomment>
+        <extracomment>%1 as in &quot;2,318 things&quot;, %2 as in &quot;5 of 6 consoles&quot;, %3 as in &quot;09:41&quot; or &quot;09:41 to 09:43&quot;</extracomment>
         <translation>%2に%1、%3に読み取り。</translation>
     </message>
     <message numerus="yes">
@@ -3420,7 +3420,7 @@ It is kept in the list of reports.</source>
     <name>lodestar::FindingText</name>
     <message>
         <source>%1, %2</source>
-        <extracomment>A sentence and a further part of it: "System in error" and "X417-2208"</extracomment>
+        <extracomment>A sentence and a further part of it: &quot;System in error&quot; and &quot;X417-2208&quot;</extracomment>
         <translation>%1、%2</translation>
     </message>
     <message>
@@ -3463,7 +3463,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Offline, %1</source>
-        <extracomment>%1 why, as in "connection refused"</extracomment>
+        <extracomment>%1 why, as in &quot;connection refused&quot;</extracomment>
         <translation>オフライン、%1</translation>
     </message>
     <message>
@@ -3472,7 +3472,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>LED on, system %1</source>
-        <extracomment>%1 the console's word for a system's state</extracomment>
+        <extracomment>%1 the console&apos;s word for a system&apos;s state</extracomment>
         <translation>LED点灯、システム%1</translation>
     </message>
     <message numerus="yes">
@@ -3532,7 +3532,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>attention LED on</source>
-        <extracomment>%1 the console's word for a system's state</extracomment>
+        <extracomment>%1 the console&apos;s word for a system&apos;s state</extracomment>
         <translation>注意LED点灯</translation>
     </message>
     <message>
@@ -3732,7 +3732,7 @@ It is kept in the list of reports.</source>
     <message>
         <source>%1: %2 of %3</source>
         <extracomment>What is chosen, how many events that are, and how many there are.</extracomment>
-        <translation>%1：%3中%2</translation>
+        <translation>%1：%3件中%2件</translation>
     </message>
     <message>
         <source>no reference code</source>
@@ -3872,7 +3872,7 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>%Ln of 6 missing</source>
         <translation>
-            <numerusform>6中%Ln件欠落</numerusform>
+            <numerusform>6件中%Ln件欠落</numerusform>
         </translation>
     </message>
 </context>
@@ -3933,11 +3933,11 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 of %2 verified and ready to be added</source>
-        <translation>%2中%1を確認済み、追加できます</translation>
+        <translation>%2台中%1台を確認済み、追加できます</translation>
     </message>
     <message>
         <source>%1 of %2 tried</source>
-        <translation>%2中%1を試行</translation>
+        <translation>%2台中%1台を試行</translation>
     </message>
     <message>
         <source>Not verified</source>
@@ -3945,7 +3945,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Not added</source>
-        <translation>追加しません</translation>
+        <translation>追加なし</translation>
     </message>
     <message>
         <source>Now</source>
@@ -4004,7 +4004,7 @@ It is kept in the list of reports.</source>
     </message>
     <message numerus="yes">
         <source>%Ln in error</source>
-        <extracomment>How many of a group's resources are in error, as in "16 resources, 1 in error"</extracomment>
+        <extracomment>How many of a group&apos;s resources are in error, as in &quot;16 resources, 1 in error&quot;</extracomment>
         <translation>
             <numerusform>エラー%Ln件</numerusform>
         </translation>
@@ -4060,7 +4060,7 @@ It is kept in the list of reports.</source>
     <name>lodestar::KeyTable</name>
     <message>
         <source>%1 (%2)</source>
-        <extracomment>A button's tip: what the button does, and the keys that do it</extracomment>
+        <extracomment>A button&apos;s tip: what the button does, and the keys that do it</extracomment>
         <translation>%1（%2）</translation>
     </message>
 </context>
@@ -4075,7 +4075,7 @@ It is kept in the list of reports.</source>
     <name>lodestar::LargeChartViewController</name>
     <message>
         <source>No performance data available.</source>
-        <translation>性能データがありません。</translation>
+        <translation>パフォーマンスデータがありません。</translation>
     </message>
     <message>
         <source>Save points as CSV</source>
@@ -4229,7 +4229,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Available Processing Units</source>
-        <translation>使用可能な処理装置</translation>
+        <translation>使用可能な処理ユニット</translation>
     </message>
     <message>
         <source>Available Memory</source>
@@ -4263,7 +4263,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Performance Monitoring</source>
-        <translation>性能の監視</translation>
+        <translation>パフォーマンス監視</translation>
     </message>
     <message>
         <source>Logical Partitions</source>
@@ -4282,7 +4282,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Performance Monitoring</source>
-        <translation>性能の監視</translation>
+        <translation>パフォーマンス監視</translation>
     </message>
     <message>
         <source>Logical Partitions</source>
@@ -4311,7 +4311,7 @@ It is kept in the list of reports.</source>
     <name>lodestar::PCMViewController</name>
     <message>
         <source>Fetching performance data...</source>
-        <translation>性能データを取得中...</translation>
+        <translation>パフォーマンスデータを取得中...</translation>
     </message>
     <message>
         <source>updating...</source>
@@ -4319,7 +4319,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>No performance data available.</source>
-        <translation>性能データがありません。</translation>
+        <translation>パフォーマンスデータがありません。</translation>
     </message>
 </context>
 <context>
@@ -4389,7 +4389,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 at %2</source>
-        <extracomment>%1 as in "lowest 2.80", %2 a time of day</extracomment>
+        <extracomment>%1 as in &quot;lowest 2.80&quot;, %2 a time of day</extracomment>
         <translation>%2に%1</translation>
     </message>
     <message>
@@ -4456,13 +4456,13 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>%Ln samples had no values and are left out</source>
         <translation>
-            <numerusform>値のない標本%Ln件は省かれます</numerusform>
+            <numerusform>値のないサンプル%Ln件は省かれます</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln samples had no time and are left out of the chart</source>
         <translation>
-            <numerusform>時刻のない標本%Ln件はグラフから省かれます</numerusform>
+            <numerusform>時刻のないサンプル%Ln件はグラフから省かれます</numerusform>
         </translation>
     </message>
     <message>
@@ -4482,7 +4482,7 @@ It is kept in the list of reports.</source>
     <name>lodestar::PlotChartView</name>
     <message>
         <source>%1 %2</source>
-        <extracomment>A data set's name and its latest value, as in "Processors Used 6.5".</extracomment>
+        <extracomment>A data set&apos;s name and its latest value, as in &quot;Processors Used 6.5&quot;.</extracomment>
         <translation>%1 %2</translation>
     </message>
     <message>
@@ -4492,7 +4492,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1, %2: %3</source>
-        <extracomment>A data set's name, the label of one of its values, and the value.</extracomment>
+        <extracomment>A data set&apos;s name, the label of one of its values, and the value.</extracomment>
         <translation>%1、%2：%3</translation>
     </message>
 </context>
@@ -4546,7 +4546,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 good, %2 off, %3 alert, %4 error</source>
-        <extracomment>A resource group's states, read aloud: counts</extracomment>
+        <extracomment>A resource group&apos;s states, read aloud: counts</extracomment>
         <translation>良好%1、停止%2、注意%3、エラー%4</translation>
     </message>
 </context>
@@ -4569,19 +4569,19 @@ It is kept in the list of reports.</source>
     <name>lodestar::ReadingMark</name>
     <message>
         <source>%1 missing</source>
-        <extracomment>%1 the name of a feed, as in "partitions"</extracomment>
+        <extracomment>%1 the name of a feed, as in &quot;partitions&quot;</extracomment>
         <translation>%1が欠落</translation>
     </message>
     <message>
         <source>offline %1</source>
-        <extracomment>%1 as in "since 02:58"</extracomment>
-        <translation>オフライン%1</translation>
+        <extracomment>%1 as in &quot;since 02:58&quot;</extracomment>
+        <translation>%1オフライン</translation>
     </message>
     <message numerus="yes">
         <source>%Ln of 6 missing</source>
         <extracomment>%n of the six feeds</extracomment>
         <translation>
-            <numerusform>6中%Ln件欠落</numerusform>
+            <numerusform>6件中%Ln件欠落</numerusform>
         </translation>
     </message>
 </context>
@@ -4699,7 +4699,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Its certificate changed in the middle of the attempt. No password was sent.</source>
-        <translation>試みの途中で証明書が変わりました。パスワードは送っていません。</translation>
+        <translation>試行の途中で証明書が変わりました。パスワードは送っていません。</translation>
     </message>
     <message>
         <source>It refused the user or the password.</source>
@@ -4734,12 +4734,12 @@ It is kept in the list of reports.</source>
         <translation>アドレスのつづりを確認してください。</translation>
     </message>
     <message>
-        <source>Check this device's network.</source>
+        <source>Check this device&apos;s network.</source>
         <translation>この端末のネットワークを確認してください。</translation>
     </message>
     <message>
         <source>Try the number instead of the name.</source>
-        <translation>名前の代わりに数字のアドレスを試してください。</translation>
+        <translation>名前の代わりにIPアドレスを試してください。</translation>
     </message>
     <message>
         <source>The console may be starting; refresh in some minutes.</source>
@@ -4786,7 +4786,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Severity</source>
-        <translation>深刻度</translation>
+        <translation>重大度</translation>
     </message>
     <message>
         <source>Call home</source>
@@ -4864,7 +4864,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Serviceable event #%1</source>
-        <extracomment>%1 the event's number</extracomment>
+        <extracomment>%1 the event&apos;s number</extracomment>
         <translation>サービスイベント #%1</translation>
     </message>
     <message>
@@ -4878,7 +4878,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Available Processing Units</source>
-        <translation>使用可能な処理装置</translation>
+        <translation>使用可能な処理ユニット</translation>
     </message>
     <message>
         <source>Available Memory</source>
@@ -5017,7 +5017,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Event Severity</source>
-        <translation>イベントの深刻度</translation>
+        <translation>イベントの重大度</translation>
     </message>
     <message>
         <source>Notification Type</source>
@@ -5160,7 +5160,7 @@ It is kept in the list of reports.</source>
     <message>
         <source>%1: #%2 opened</source>
         <extracomment>%1 a console, %2 the number of an event</extracomment>
-        <translation>%1：#%2発生</translation>
+        <translation>%1：#%2が発生</translation>
     </message>
     <message>
         <source>, </source>
@@ -5172,9 +5172,9 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1: %2</source>
-        <extracomment>%1 a console, %2 as in "Partitions not read"
+        <extracomment>%1 a console, %2 as in &quot;Partitions not read&quot;
 ----------
-%1 a console, %2 as in "3 things got worse"</extracomment>
+%1 a console, %2 as in &quot;3 things got worse&quot;</extracomment>
         <translation>%1：%2</translation>
     </message>
     <message>
@@ -5283,7 +5283,7 @@ It is kept in the list of reports.</source>
     </message>
     <message numerus="yes">
         <source>%1 on %Ln consoles</source>
-        <extracomment>%1 as in "7 things got worse", %n consoles</extracomment>
+        <extracomment>%1 as in &quot;7 things got worse&quot;, %n consoles</extracomment>
         <translation>
             <numerusform>コンソール%Ln台で%1</numerusform>
         </translation>
@@ -5300,8 +5300,8 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1: %2 read again</source>
-        <extracomment>%1 a console, %2 the name of a feed, as in "Partitions"</extracomment>
-        <translation>%1：%2を再び読み取り</translation>
+        <extracomment>%1 a console, %2 the name of a feed, as in &quot;Partitions&quot;</extracomment>
+        <translation>%1：%2を再び読み取りました</translation>
     </message>
     <message>
         <source>%1: LED off</source>
@@ -5309,7 +5309,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 is %2 again</source>
-        <extracomment>%1 a name, %2 the console's word for a state</extracomment>
+        <extracomment>%1 a name, %2 the console&apos;s word for a state</extracomment>
         <translation>%1は再び%2です</translation>
     </message>
     <message numerus="yes">
@@ -5320,7 +5320,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>After %1</source>
-        <extracomment>%1 a console, %2 as in "42 min"</extracomment>
+        <extracomment>%1 a console, %2 as in &quot;42 min&quot;</extracomment>
         <translation>%1後</translation>
     </message>
     <message>
@@ -5329,8 +5329,8 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>In the night, %1</source>
-        <extracomment>%1 as in "5 things got worse"</extracomment>
-        <translation>夜の間に%1</translation>
+        <extracomment>%1 as in &quot;5 things got worse&quot;</extracomment>
+        <translation>夜間に%1</translation>
     </message>
     <message>
         <source>None of them needs attention any more</source>
@@ -5369,7 +5369,7 @@ It is kept in the list of reports.</source>
     <name>lodestar::WatchText</name>
     <message>
         <source>every %1</source>
-        <extracomment>%1 as in "15 min"</extracomment>
+        <extracomment>%1 as in &quot;15 min&quot;</extracomment>
         <translation>%1ごと</translation>
     </message>
     <message>
@@ -5394,7 +5394,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>%1 of %2</source>
-        <translation>%2中%1</translation>
+        <translation>%2台中%1台</translation>
     </message>
     <message numerus="yes">
         <source>%1 are left out until you refresh them by hand: their certificates changed.</source>
@@ -5420,16 +5420,16 @@ It is kept in the list of reports.</source>
     <name>lodestar::WatchViewController</name>
     <message>
         <source>Watch</source>
-        <translation>見張り</translation>
+        <translation>監視</translation>
     </message>
     <message>
         <source>This system shows no messages. Attention still counts.</source>
-        <translation>このシステムは通知を表示できません。要注意の数は出ます。</translation>
+        <translation>このシステムは通知を表示できません。「要注意」の件数は引き続き出ます。</translation>
     </message>
     <message>
         <source>Reading goes on. At %1 one message sums up the night, if anything got worse.</source>
         <extracomment>%1 a time of day</extracomment>
-        <translation>読み取りは続きます。悪化があれば、%1に一つの通知で夜の出来事をまとめます。</translation>
+        <translation>読み取りは続きます。悪化があれば、%1に夜間の出来事を1件の通知にまとめます。</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -5459,7 +5459,7 @@ It is kept in the list of reports.</source>
     <name>main</name>
     <message>
         <source>Watches Corvel consoles and changes nothing.</source>
-        <translation>Corvelコンソールを見守り、何も変更しません。</translation>
+        <translation>Corvelコンソールを監視し、何も変更しません。</translation>
     </message>
     <message>
         <source>Keep everything in this folder.</source>
@@ -5478,7 +5478,7 @@ It is kept in the list of reports.</source>
         <translation>最初の画面を描いたら終了します（測定用）。</translation>
     </message>
     <message>
-        <source>Speak this language instead of the system's (en, de, fr, es, ja, ar).</source>
+        <source>Speak this language instead of the system&apos;s (en, de, fr, es, ja, ar).</source>
         <extracomment>In brackets codes, which stay as they are</extracomment>
         <translation>システムの言語ではなく、この言語を使います（en、de、fr、es、ja、ar）。</translation>
     </message>
