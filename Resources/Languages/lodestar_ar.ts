@@ -2259,15 +2259,15 @@ It is kept in the list of reports.</source>
     <name>lodestar::ChangeText</name>
     <message>
         <source>#%1 opened</source>
-        <translation>فُتح #%1</translation>
+        <translation>فُتح ⁦#%1⁩</translation>
     </message>
     <message>
         <source>#%1 gone</source>
-        <translation>اختفى #%1</translation>
+        <translation>اختفى ⁦#%1⁩</translation>
     </message>
     <message>
         <source>#%1</source>
-        <translation>#%1</translation>
+        <translation>⁦#%1⁩</translation>
     </message>
     <message>
         <source>LED on</source>
@@ -4745,7 +4745,7 @@ It is kept in the list of reports.</source>
     <message>
         <source>%1 at %2</source>
         <extracomment>%1 as in &quot;lowest 2.80&quot;, %2 a time of day</extracomment>
-        <translation>%1، الساعة %2</translation>
+        <translation>%1 في %2</translation>
     </message>
     <message>
         <source>%1 all along</source>
@@ -5240,7 +5240,7 @@ It is kept in the list of reports.</source>
     <message>
         <source>Serviceable event #%1</source>
         <extracomment>%1 the event&apos;s number</extracomment>
-        <translation>حدث صيانة #%1</translation>
+        <translation>حدث صيانة ⁦#%1⁩</translation>
     </message>
     <message>
         <source>System %1</source>
@@ -5540,7 +5540,7 @@ It is kept in the list of reports.</source>
     <message>
         <source>%1: #%2 opened</source>
         <extracomment>%1 a console, %2 the number of an event</extracomment>
-        <translation>%1: فُتح #%2</translation>
+        <translation>%1: فُتح ⁦#%2⁩</translation>
     </message>
     <message>
         <source>, </source>

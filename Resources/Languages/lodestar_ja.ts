@@ -962,7 +962,7 @@
     <name>EventBars</name>
     <message>
         <source>New Events a Day</source>
-        <translation>1日の新しいイベント</translation>
+        <translation>1日の新規イベント</translation>
     </message>
     <message numerus="yes">
         <source>%Ln days</source>
@@ -2054,7 +2054,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>New Events</source>
-        <translation>新しいイベント</translation>
+        <translation>新規イベント</translation>
     </message>
     <message>
         <source>Consoles</source>
@@ -2152,7 +2152,7 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>All %Ln consoles</source>
         <translation>
-            <numerusform>すべてのコンソール（%Ln）</numerusform>
+            <numerusform>全コンソール（%Ln台）</numerusform>
         </translation>
     </message>
 </context>
@@ -2541,7 +2541,7 @@ It is kept in the list of reports.</source>
     <message>
         <source>Everything was read %1, in %2.</source>
         <extracomment>%1 as in &quot;2 min ago&quot; or &quot;at 09:41&quot;, %2 a time in seconds</extracomment>
-        <translation>すべて読み取りました（%1、所要%2）。</translation>
+        <translation>すべて読み取りました（%1、%2）。</translation>
     </message>
     <message>
         <source>What to try</source>
@@ -2558,7 +2558,7 @@ It is kept in the list of reports.</source>
     <message>
         <source>%1, in %2</source>
         <extracomment>%1 as in &quot;today, 02:43&quot;, %2 a time in seconds</extracomment>
-        <translation>%1（所要%2）</translation>
+        <translation>%1（%2）</translation>
     </message>
     <message>
         <source>Read in full</source>
@@ -2972,7 +2972,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>New Events a Day</source>
-        <translation>1日の新しいイベント</translation>
+        <translation>1日の新規イベント</translation>
     </message>
     <message numerus="yes">
         <source>%Ln days, %1</source>
@@ -3542,13 +3542,13 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>%Ln things need attention</source>
         <translation>
-            <numerusform>%Ln件に注意が必要です</numerusform>
+            <numerusform>要注意%Ln件</numerusform>
         </translation>
     </message>
     <message numerus="yes">
         <source>%Ln events are open</source>
         <translation>
-            <numerusform>未解決のイベントが%Ln件あります</numerusform>
+            <numerusform>未解決のイベント%Ln件</numerusform>
         </translation>
     </message>
     <message>
@@ -5208,7 +5208,7 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>%Ln new events</source>
         <translation>
-            <numerusform>新しいイベント%Ln件</numerusform>
+            <numerusform>新規イベント%Ln件</numerusform>
         </translation>
     </message>
     <message>
@@ -5390,7 +5390,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>all %1</source>
-        <translation>すべて（%1）</translation>
+        <translation>全%1台</translation>
     </message>
     <message>
         <source>%1 of %2</source>
@@ -5441,7 +5441,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>New Events</source>
-        <translation>新しいイベント</translation>
+        <translation>新規イベント</translation>
     </message>
 </context>
 <context>
