@@ -75,6 +75,12 @@ SheetContent {
                 width: parent.width - Theme.rowStart - Theme.rowEnd
                 anchors.verticalCenter: parent.verticalCenter
                 wrapMode: Text.Wrap
+                Accessible.role: Accessible.StaticText
+                Accessible.name: text
+                onTextChanged: announcement.say(text)
+            }
+            Announcement {
+                id: announcement
             }
             InsetHairline {
                 separatorLeft: scene.sheet.separatorLeft

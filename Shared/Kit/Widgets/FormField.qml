@@ -133,7 +133,7 @@ Item {
         anchors.rightMargin: Theme.rowEnd
         y: parent.height - height - (field.stacked ? 0 : 6)
         elide: Text.ElideRight
-        Accessible.role: Accessible.AlertMessage
+        Accessible.role: Accessible.Notification
         Accessible.name: text
     }
     SecretSwitch {

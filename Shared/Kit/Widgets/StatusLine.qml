@@ -11,14 +11,19 @@ Item {
 
     readonly property bool failed: outlet.state === Role.State.Error
 
+    readonly property string spoken: visible ? outlet.text : ""
     /// The height with a single line of text.
     readonly property int leastHeight: 42
 
     implicitHeight: Math.max(leastHeight, word.implicitHeight + 18)
     visible: !outlet.hidden
-    Accessible.role: Accessible.AlertMessage
+    Accessible.role: Accessible.StaticText
     Accessible.name: outlet.text
+    onSpokenChanged: announcement.say(spoken)
 
+    Announcement {
+        id: announcement
+    }
     Spinner {
         id: spinner
 

@@ -7,6 +7,7 @@ Rectangle {
     id: toast
 
     readonly property bool shown: Toasts.presented
+    readonly property string spoken: shown ? Toasts.text : ""
     /// Points that the plate may take at most.
     readonly property real room: Math.min(Theme.actionSheetMaxWidth, Window.width - 32)
 
@@ -16,12 +17,16 @@ Rectangle {
     color: Theme.ink
     opacity: shown ? 1 : 0
     visible: opacity > 0
-    Accessible.role: Accessible.AlertMessage
+    Accessible.role: Accessible.StaticText
     Accessible.name: Toasts.text
+    onSpokenChanged: announcement.say(spoken)
     Behavior on opacity {
         NumberAnimation { duration: Theme.settle }
     }
 
+    Announcement {
+        id: announcement
+    }
     Icon {
         id: tick
 

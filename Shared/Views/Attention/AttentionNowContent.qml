@@ -54,21 +54,13 @@ FocusScope {
         actionText: qsTr("Add Corvel")
         onAction: content.attention.addCorvel()
     }
-    // Says aloud what a reading found; there is nothing to see of it. A screen reader speaks an alert that appears.
-    Item {
+    Announcement {
         id: announcement
-
-        width: 1
-        height: 1
-        visible: false
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: content.controller.announcement
     }
     Connections {
         target: content.controller
         function onAnnounced() {
-            announcement.visible = false;
-            announcement.visible = true;
+            announcement.say(content.controller.announcement);
         }
     }
 }

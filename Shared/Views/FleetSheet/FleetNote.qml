@@ -12,6 +12,6 @@ Label {
     width: parent !== null ? parent.width - 2 * Theme.rowStart : 0
     topPadding: 8 + drop
     wrapMode: Text.Wrap
-    Accessible.role: alert ? Accessible.AlertMessage : Accessible.StaticText
+    Accessible.role: alert ? Accessible.Notification : Accessible.StaticText
     Accessible.name: text
 }

@@ -61,21 +61,13 @@ PageScaffold {
     Alert {
         outlet: scene.fleet.alert
     }
-    // Says aloud how far it is; there is nothing to see of it. A screen reader speaks an alert that appears.
-    Item {
+    Announcement {
         id: announcement
-
-        width: 1
-        height: 1
-        visible: false
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: scene.fleet.announcement
     }
     Connections {
         target: scene.fleet
         function onAnnounced() {
-            announcement.visible = false;
-            announcement.visible = true;
+            announcement.say(scene.fleet.announcement);
         }
     }
 }

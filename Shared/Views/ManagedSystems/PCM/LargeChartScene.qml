@@ -128,6 +128,15 @@ PageScaffold {
                 reducedMotion: Theme.reducedMotion
                 focusColor: Theme.accentInk
                 readText: scene.large.readText
+                // What is read step by step is heard: readers do not follow a description.
+                onReadTextChanged: {
+                    if (activeFocus) {
+                        announcement.say(readText);
+                    }
+                }
+            }
+            Announcement {
+                id: announcement
             }
             Item {
                 id: marks
