@@ -5479,7 +5479,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>open, call home</source>
-        <translation>ouverts avec appel</translation>
+        <translation>ouverts, signalés</translation>
     </message>
     <message>
         <source>all %1</source>

@@ -45,7 +45,8 @@ QLocale localeOf(const QString& language)
     const QLocale::Language spoken = QLocale(language).language();
     const bool isPlain = system.language() == QLocale::C && spoken == QLocale::English;
     const QLocale locale = isPlain || system.language() == spoken ? system : QLocale(spoken, system.territory());
-    // What consoles send, and most of what stands beside it, has European digits. A screen with two kinds is hard to read.
+    // What consoles send, and most of what stands beside it, has European digits. A screen with two kinds is hard to
+    // read.
     return locale.zeroDigit() == QLatin1String("0") ? locale : QLocale(spoken, QLocale::UnitedArabEmirates);
 }
 
