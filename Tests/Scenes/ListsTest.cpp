@@ -184,6 +184,16 @@ TEST_F(ListsTest, AHundredThousandRowsMakeDelegatesForTheVisibleOnes)
     list->searchBar()->setText("NODE-9999");
     EXPECT_EQ(list->searchResultsTableView()->count(), 11);
     EXPECT_TRUE(waitForText("node-9999"));
+    // The last result can be scrolled above a keyboard on the screen.
+    for (QQuickItem* const table : stage.items("CardTable")) {
+        table->setProperty("coveredHeight", 500);
+        QMetaObject::invokeMethod(table->property("flickable").value<QQuickItem*>(), "flick", Q_ARG(qreal, 0),
+                                  Q_ARG(qreal, -9000));
+    }
+    EXPECT_TRUE(stage.waitFor([&] {
+        const QQuickItem* const last = text("node-99999");
+        return last != nullptr && last->mapToScene({0, last->height()}).y() < 844 - 500;
+    }));
 }
 
 TEST_F(ListsTest, RowsHaveTheirHeightsInANarrowWindowAndWhateverAConsoleAnswers)

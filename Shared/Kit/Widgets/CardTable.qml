@@ -22,6 +22,9 @@ AccessibleScope {
     property real lineSpace: 0
     /// Points more below the last card for what the screen puts there, likewise.
     property real endSpace: 0
+    readonly property var inputMethod: Qt.inputMethod
+    /// Points that a keyboard on the screen covers: the last rows can be scrolled above it.
+    property real coveredHeight: inputMethod.visible ? inputMethod.keyboardRectangle.height : 0
     property alias header: list.header
     /// Whether a pull uncovers a search field.
     property alias searchOffered: search.offered
@@ -183,7 +186,7 @@ AccessibleScope {
         cacheBuffer: view.table.makesCellsInSteps ? 0 : 120
         topMargin: (header === null ? view.topSpace : 0) + view.lineSpace + search.space
         onTopMarginChanged: view.keepTop()
-        bottomMargin: Theme.groupGap + view.endSpace
+        bottomMargin: Theme.groupGap + view.endSpace + view.coveredHeight
         currentIndex: -1
         boundsBehavior: Flickable.DragAndOvershootBounds
         add: view.table.rowsFade ? fadeIn : null
