@@ -7,6 +7,7 @@
 #include "Views/ManagedSystems/PCM/PCMViewController.h"
 
 #include <QRegularExpression>
+#include <QTextDocumentFragment>
 
 #include <algorithm>
 
@@ -101,6 +102,35 @@ protected:
                 for (int index = 1; index < node->childCount(); ++index) {
                     EXPECT_GE(node->child(index)->rect().top(), node->child(index - 1)->rect().bottom());
                 }
+            }
+        }
+    }
+    /// Whoever only hears the scene misses no word that is drawn: whatever is drawn at a height is told there. A
+    /// field's placeholder is left aside, which is there for the eye.
+    void expectAllIsTold(const std::string& scene) const
+    {
+        static const QRegularExpression word("[\\p{L}\\p{N}]+", QRegularExpression::UseUnicodePropertiesOption);
+        const std::vector<Node> all = tree();
+        const QRectF window(0, 0, stage.window().width(), stage.window().height());
+        for (const QQuickItem* text : stage.items("QQuickText")) {
+            const QPointF middle = text->mapToScene({text->width() / 2, text->height() / 2});
+            QString told;
+            for (Node const node : all) {
+                const int height = stage.window().mapToGlobal(middle.toPoint()).y();
+                if (node->rect().top() <= height && height <= node->rect().bottom()) {
+                    told += ' ' + node->text(QAccessible::Name) + ' ' + node->text(QAccessible::Description) + ' ' +
+                            node->text(QAccessible::Value);
+                }
+            }
+            const QString written = text->property("text").toString();
+            const QString drawn =
+                Qt::mightBeRichText(written) ? QTextDocumentFragment::fromHtml(written).toPlainText() : written;
+            const bool isPlaceholder = text->parentItem()->inherits("QQuickTextInput");
+            for (auto found = word.globalMatch(drawn); !isPlaceholder && window.contains(middle) && found.hasNext();) {
+                const QString each = found.next().captured();
+                EXPECT_TRUE(told.contains(each, Qt::CaseInsensitive))
+                    << scene << ": " << each.toStdString() << " of “" << drawn.toStdString() << "” is not told in"
+                    << told.toStdString();
             }
         }
     }
@@ -269,6 +299,7 @@ TEST_F(ReaderTest, EverySceneReadsFromItsTitleDownNamesEveryControlAndIsTranslat
     }
     const auto look = [&](const std::string& scene) {
         expectReadable(scene);
+        expectAllIsTold(scene);
         // Documents are shown as they are shipped.
         if (stage.items("ReadingPage").empty()) {
             expectTranslated(scene, sent);

@@ -46,7 +46,8 @@ void collect(const QQuickItem& from, Items& found)
 
 QRect placeOf(const QQuickItem& item)
 {
-    const QRect inWindow = item.mapRectToScene(item.boundingRect()).toRect();
+    // A field's bounding rectangle is that of its text alone.
+    const QRect inWindow = item.mapRectToScene(QRectF({}, item.size())).toRect();
     return item.window() == nullptr ? inWindow : QRect(item.window()->mapToGlobal(inWindow.topLeft()), inWindow.size());
 }
 

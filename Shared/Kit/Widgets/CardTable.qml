@@ -264,6 +264,7 @@ AccessibleScope {
                 Accessible.ignored: true
                 text: place.headerTitle
                 detail: place.headerDetail
+            Accessible.description: content !== null ? content.accessibleDetail : ""
                 note: place.headerNote
                 space: place.index === 0 ? 12 - view.topSpace : Theme.sectionGap
                 x: tableState.sideMargin

@@ -26,6 +26,7 @@ TableCell {
     readonly property real trailing: Theme.rowEnd + 24
 
     accessibleText: cell.accessibleText + (mark.spoken === "" ? "" : ", " + mark.spoken)
+    accessibleDetail: cell.addressLabel.text + (cell.versionLabel.text === "" ? "" : ", " + cell.versionLabel.text)
     selectable: cell.highlights
     swipeButtons: cell.rightButtons
     leadingSwipeButtons: cell.leftButtons
