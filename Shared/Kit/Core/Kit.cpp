@@ -5,6 +5,7 @@
 #include "Kit/Core/IconProvider.h"
 #include "Kit/Core/ShadowProvider.h"
 #include "Kit/Core/UIFont+System.h"
+#include "Kit/Core/WheelScroll.h"
 
 #include <QQmlEngine>
 #include <QtGlobal>
@@ -20,6 +21,7 @@ void installKit(QQmlEngine& engine)
     [[maybe_unused]] static volatile auto registration = &qml_register_types_Lodestar_Kit;
     UIFont::install();
     installAccessibleTree();
+    WheelScroll::install();
     if (engine.imageProvider(QStringLiteral("icon")) != nullptr) {
         return; // another module that uses the kit has installed the rest
     }
