@@ -16,7 +16,8 @@ Pressable {
     property real room: Infinity
 
     readonly property real scaleFactor: Theme.textScale
-    readonly property color ink: on ? Theme.accentInk : Theme.ink2
+    readonly property color restingInk: on ? Theme.accentInk : Theme.ink2
+    readonly property color ink: hovered ? Theme.hoverInk(restingInk) : restingInk
     readonly property real tickSpace: on ? tick.width + 6 : 0
     readonly property real strokeSpace: stroke.a > 0 ? line.width + 6 : 0
     readonly property real countSpace: count !== "" ? number.implicitWidth + 6 : 0
@@ -42,6 +43,11 @@ Pressable {
         color: chip.on ? "transparent" : chip.pressed ? Theme.pressed : Theme.sheetWell
         border.width: chip.on ? 1.5 : 0
         border.color: Theme.accentInk
+    }
+    HoverWash {
+        anchors.fill: parent
+        radius: Theme.segmentRadius
+        shown: chip.hovered
     }
     FocusRing {
         anchors.fill: parent

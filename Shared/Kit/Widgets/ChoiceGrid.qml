@@ -70,7 +70,7 @@ Item {
             anchors.fill: parent
             anchors.margins: 4
             radius: Theme.cardRadius
-            color: tile.pressed ? Theme.pressed : tile.hovered ? Theme.hovered : "transparent"
+            color: tile.pressed ? Theme.pressed : tile.hovered ? Theme.wash : "transparent"
 
             Behavior on color {
                 ColorAnimation { duration: tile.pressed ? Theme.pressIn : Theme.pressOut }

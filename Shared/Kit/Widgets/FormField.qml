@@ -47,6 +47,7 @@ Item {
     // A press anywhere on the row edits the field.
     MouseArea {
         anchors.fill: parent
+        cursorShape: Qt.IBeamCursor
         onClicked: input.forceActiveFocus(Qt.MouseFocusReason)
     }
     Label {

@@ -41,7 +41,7 @@ Pressable {
     Rectangle {
         anchors.fill: parent
         visible: row.surfaced
-        color: row.pressedLook ? Theme.pressed : row.pressable && row.hovered && row.enabled ? Theme.hovered : "transparent"
+        color: row.pressedLook ? Theme.pressed : row.pressable && row.hovered && row.enabled ? Theme.wash : "transparent"
         radius: row.pressedLook ? 0 : Theme.cardRadius
 
         Behavior on color {

@@ -80,7 +80,8 @@ Item {
             anchors.left: parent.left
             anchors.leftMargin: 10
             anchors.verticalCenter: parent.verticalCenter
-            opacity: backButton.pressed ? 0.55 : backButton.hovered ? 0.8 : 1
+            color: backButton.hovered ? backButton.hoverInk : backButton.ink
+            opacity: backButton.pressed ? 0.55 : 1
         }
     }
     Item {

@@ -189,6 +189,7 @@ T.Popup {
                 objectName: "introSkipButton"
                 text: pages.currentIndex === pages.count - 1 ? qsTr("Done") : qsTr("Skip")
                 ink: view.intro !== null ? view.intro.skipButton.titleColor : Theme.accent
+                hoverInk: Theme.nightInk
                 scaleFactor: Theme.barScale
                 anchors.right: parent.right
                 anchors.rightMargin: 12

@@ -7,6 +7,7 @@ Pressable {
     id: button
 
     property color ink: Theme.accentInk
+    property color hoverInk: Theme.hoverInk(ink)
     property int size: Theme.bodySize
     property real scaleFactor: Theme.textScale
     property real leftPadding: 12
@@ -21,6 +22,10 @@ Pressable {
     Accessible.role: Accessible.Button
     Accessible.name: text
 
+    HoverWash {
+        anchors.fill: parent
+        shown: button.hovered && button.enabled
+    }
     FocusRing {
         anchors.fill: parent
         shown: button.visualFocus
@@ -31,8 +36,8 @@ Pressable {
         text: button.text
         size: button.size
         scaleFactor: button.scaleFactor
-        color: button.ink
-        opacity: button.pressed ? 0.55 : button.hovered ? 0.8 : 1
+        color: button.hovered ? button.hoverInk : button.ink
+        opacity: button.pressed ? 0.55 : 1
         anchors.verticalCenter: parent.verticalCenter
         x: button.leftPadding
         width: parent.width - button.leftPadding - button.rightPadding

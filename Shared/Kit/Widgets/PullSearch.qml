@@ -115,6 +115,7 @@ AccessibleItem {
     }
     MouseArea {
         anchors.fill: parent
+        cursorShape: Qt.IBeamCursor
         onClicked: bar.tapped()
     }
 }

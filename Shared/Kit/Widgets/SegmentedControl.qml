@@ -68,6 +68,11 @@ Rectangle {
                     radius: Theme.segmentRadius
                     color: Theme.segment
                 }
+                HoverWash {
+                    anchors.fill: parent
+                    radius: Theme.segmentRadius
+                    shown: segment.hovered && !segment.chosen
+                }
                 FocusRing {
                     anchors.fill: parent
                     radius: Theme.segmentRadius

@@ -65,9 +65,14 @@ FocusScope {
 
             Rectangle {
                 anchors.fill: parent
-                color: button.pressed ? Qt.darker(button.ground, 1.163)
-                                      : button.hovered ? Qt.darker(button.ground, 1.075) : button.ground
+                color: button.pressed ? Qt.darker(button.ground, 1.163) : button.ground
 
+                HoverWash {
+                    anchors.fill: parent
+                    radius: 0
+                    color: Qt.alpha(button.ink, 0.14)
+                    shown: button.hovered && !button.pressed
+                }
                 FocusRing {
                     anchors.fill: parent
                     anchors.margins: 3

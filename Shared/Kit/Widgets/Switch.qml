@@ -29,6 +29,14 @@ Pressable {
         toggled();
     }
 
+    HoverWash {
+        x: -4
+        y: (control.height - height) / 2
+        width: 58
+        height: 38
+        radius: 19
+        shown: control.hovered && control.enabled
+    }
     FocusRing {
         x: -4
         y: (control.height - height) / 2

@@ -92,6 +92,11 @@ Rectangle {
                         }
                     }
                 }
+                HoverWash {
+                    anchors.fill: parent
+                    anchors.margins: 3
+                    shown: tab.hovered
+                }
                 FocusRing {
                     anchors.fill: parent
                     anchors.margins: 3

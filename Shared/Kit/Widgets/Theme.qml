@@ -75,6 +75,10 @@ QtObject {
     readonly property color chartBlue: dark ? "#A9DDF8" : UIColor.ornisBlue
     readonly property color chartGrid: strong ? (dark ? "#95A0AD" : "#66707E") : dark ? "#333C47" : "#C4CCD5"
 
+    /// An ink that keeps its contrast on a hovered ground.
+    function hoverInk(ink: color): color {
+        return dark ? ink : Qt.darker(ink, 1.2);
+    }
     /// The ink of a state's word and mark.
     function stateInk(state: int): color {
         switch (state) {

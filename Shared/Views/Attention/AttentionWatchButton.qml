@@ -14,13 +14,17 @@ Pressable {
     Accessible.role: Accessible.Button
     Accessible.name: text + ", " + outlet.text
 
+    HoverWash {
+        anchors.fill: parent
+        shown: button.hovered
+    }
     FocusRing {
         anchors.fill: parent
         shown: button.visualFocus
     }
     Column {
         anchors.centerIn: parent
-        opacity: button.pressed ? 0.55 : button.hovered ? 0.8 : 1
+        opacity: button.pressed ? 0.55 : 1
 
         Icon {
             name: "watch"
