@@ -87,7 +87,7 @@ PageScaffold {
             }
         }
         onMenuRequested: (section, row) => scene.corvels.presentMenu(row)
-        endSpace: sheetCard.height + Theme.groupGap
+        endSpace: sheetCard.height + Theme.groupGap + (steps.visible ? steps.height + 40 + Theme.groupGap : 0)
     }
     // Scrolls with the list and is none of its rows, so that it comes after them for the keyboard and for readers.
     GroupCard {
@@ -105,6 +105,17 @@ PageScaffold {
             detail: scene.corvels.countLabel.text
             onClicked: scene.corvels.openFleetSheet()
         }
+    }
+    // Likewise, while there is only the demonstration console.
+    FirstSteps {
+        id: steps
+
+        visible: table.visible && !scene.corvels.nextSteps.hidden
+        corvels: scene.corvels
+        headline: qsTr("No console of your own yet.")
+        x: Math.round((table.width - width) / 2)
+        y: sheetCard.y + sheetCard.height + 40
+        width: Math.min(280 * Theme.textScale, table.width - 80)
     }
     GridMenu {
         outlet: scene.corvels.rowMenu

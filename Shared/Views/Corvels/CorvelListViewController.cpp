@@ -10,14 +10,17 @@
 #include "Fleet/Readings.h"
 #include "Fleet/Registry.h"
 #include "Fleet/Watch.h"
+#include "Kit/Core/NavigationController.h"
 #include "Kit/Core/TabBarController.h"
 #include "Platform/UserDefaults.h"
 #include "Views/Common/AgeClock.h"
 #include "Views/Common/Scenes.h"
+#include "Views/Common/TabRoot.h"
 #include "Views/Corvels/CorvelListCell.h"
 #include "Views/Corvels/CorvelMenu.h"
 #include "Views/FleetSheet/FleetSheetText.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace lodestar
@@ -309,10 +312,16 @@ void CorvelListViewController::openFleetSheet()
     openScene(*this, Scenes::fleetSheetView);
 }
 
+bool CorvelListViewController::hasDemo()
+{
+    const std::vector<CorvelRef>& corvels = RESTHandler::sharedInstance().corvelList();
+    return std::ranges::any_of(corvels, [](const CorvelRef& corvel) { return corvel->demo() == 1; });
+}
+
 void CorvelListViewController::lookAtDemo()
 {
     // The button can be pressed while the picture fades.
-    if (RESTHandler::sharedInstance().corvelList().empty()) {
+    if (!hasDemo()) {
         addDemoCorvel();
         saveIgnoringErrors();
         showFleet();
@@ -329,6 +338,7 @@ void CorvelListViewController::showFleet()
 void CorvelListViewController::showCount()
 {
     m_countLabel.setText(FleetSheetText::consoles(static_cast<std::size_t>(m_tableView.rows())));
+    m_nextSteps.setHidden(m_tableView.rows() != 1 || !hasDemo());
 }
 
 double CorvelListViewController::restingSheetHeight() const
@@ -358,6 +368,16 @@ void CorvelListViewController::statusWillShow()
 void CorvelListViewController::statusShouldHide()
 {
     resizeSemiView(sheetHeightAfterStatus);
+}
+
+void bringBackDemo(TabBarController& tabs)
+{
+    const auto [list, index] = rootOf<CorvelListViewController>(tabs);
+    if (list != nullptr) {
+        tabs.setSelectedIndex(index);
+        list->navigationController()->popToRoot();
+        list->lookAtDemo();
+    }
 }
 
 } // namespace lodestar

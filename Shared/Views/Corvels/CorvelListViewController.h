@@ -34,6 +34,7 @@ class CorvelListViewController : public lodestar::SheetHostController, public Ta
     Q_PROPERTY(lodestar::RefreshControl* refreshControl READ refreshControl CONSTANT)
     Q_PROPERTY(lodestar::MenuOutlet* rowMenu READ rowMenu CONSTANT)
     Q_PROPERTY(lodestar::LabelOutlet* countLabel READ countLabel CONSTANT)
+    Q_PROPERTY(lodestar::ViewOutlet* nextSteps READ nextSteps CONSTANT)
     Q_PROPERTY(lodestar::ListShare* share READ share CONSTANT)
     Q_PROPERTY(int marksTurn READ marksTurn NOTIFY marksChanged)
     Q_PROPERTY(bool feedbackHidden READ isFeedbackHidden NOTIFY feedbackHiddenChanged)
@@ -53,6 +54,8 @@ public:
     ListShare* share() { return &m_share; }
     /// "6 consoles".
     LabelOutlet* countLabel() { return &m_countLabel; }
+    /// What to do next, below a list that has the demonstration console alone.
+    ViewOutlet* nextSteps() { return &m_nextSteps; }
     bool viewHasAppearedOnce() const { return m_viewHasAppearedOnce; }
 
     /// Whether the feedback button is hidden. It is shown on devices that cannot be shaken, which is known only after
@@ -63,7 +66,9 @@ public:
     Q_INVOKABLE void openSettings();
     Q_INVOKABLE void openFeedback();
     Q_INVOKABLE void openFleetSheet();
-    /// Adds the demonstration console to a list that has none.
+    /// Whether the working list has a demonstration console.
+    static bool hasDemo();
+    /// Adds the demonstration console to a list that has none, and asks it.
     Q_INVOKABLE void lookAtDemo();
     /// Adds the demonstration console, at most once per installation. The next save stores it.
     void addTestCorvel();
@@ -119,6 +124,7 @@ private:
     TableOutlet m_tableView;
     MenuOutlet m_rowMenu;
     LabelOutlet m_countLabel;
+    ViewOutlet m_nextSteps;
     int m_marksTurn = 0;
     bool m_readUnseen = false; ///< consoles were read while nobody saw the rows
     RefreshControl m_refreshControl;
@@ -128,5 +134,8 @@ private:
     ReadingWatch m_readingWatch;
     ListShare m_share{[this] { return title(); }, [] { return shownTable(); }};
 };
+
+/// Goes to the console list and adds the demonstration console there, if it has none.
+void bringBackDemo(TabBarController& tabs);
 
 } // namespace lodestar

@@ -33,55 +33,11 @@ Item {
                 width: 1
                 height: 20
             }
-            Label {
-                id: headline
-
-                text: qsTr("No consoles yet.")
+            FirstSteps {
+                corvels: view.corvels
+                headline: qsTr("No consoles yet.")
+                offersDemo: true
                 width: parent.width
-                bottomPadding: 4 - drop
-                horizontalAlignment: Text.AlignHCenter
-                wrapMode: Text.Wrap
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
-            }
-            Label {
-                text: qsTr("Give the address, user and password of one. Lodestar only reads; nothing on a console is ever changed.")
-                size: Theme.stateSize
-                color: Theme.ink2
-                width: parent.width
-                horizontalAlignment: Text.AlignHCenter
-                wrapMode: Text.Wrap
-                Accessible.role: Accessible.StaticText
-                Accessible.name: text
-            }
-            Item {
-                width: 1
-                height: 24
-            }
-            FilledButton {
-                text: qsTr("Add Corvel")
-                width: parent.width
-                onClicked: view.corvels.addCorvel()
-            }
-            Item {
-                width: 1
-                height: 4
-            }
-            PlainButton {
-                text: qsTr("Import Fleet Sheet")
-                wraps: true
-                width: parent.width
-                onClicked: view.corvels.openFleetSheet()
-            }
-            Item {
-                width: 1
-                height: 4
-            }
-            PlainButton {
-                text: qsTr("Look at the Demo First")
-                wraps: true
-                width: parent.width
-                onClicked: view.corvels.lookAtDemo()
             }
         }
     }

@@ -78,6 +78,24 @@ PageScaffold {
         }
         FleetNote {
             text: qsTr("Passwords are asked once a user. They are never read from a sheet nor written to one.")
+            bottomPadding: demo.visible ? 24 - drop : 0
+        }
+        GroupCard {
+            id: demo
+
+            visible: !scene.sheet.demoRow.hidden
+            width: parent.width
+
+            MenuRow {
+                objectName: "demoRow"
+                iconName: "tab_consoles"
+                text: qsTr("Look at the Demo")
+                onClicked: scene.sheet.lookAtDemo()
+            }
+        }
+        FleetNote {
+            visible: demo.visible
+            text: qsTr("A console that is part of Lodestar. It needs no network.")
         }
     }
     FleetDropArea {

@@ -5,6 +5,7 @@
 #include "Fleet/FleetSheet.h"
 #include "Kit/Core/FileSaver.h"
 #include "Views/Common/Scenes.h"
+#include "Views/Corvels/CorvelListViewController.h"
 #include "Views/FleetSheet/FleetFile.h"
 
 #include <QLocale>
@@ -34,6 +35,7 @@ void FleetSheetViewController::show()
     const auto count = fleetSheetOf(RESTHandler::sharedInstance().corvelList()).rows.size();
     m_exportLabel.setText(tr("Export %Ln Consoles", nullptr, static_cast<int>(count)));
     m_exportLabel.setEnabled(count > 0);
+    m_demoRow.setHidden(CorvelListViewController::hasDemo());
 }
 
 void FleetSheetViewController::importSheet()
@@ -56,6 +58,13 @@ void FleetSheetViewController::exportSheet()
     FileSaver::save(QStringLiteral("fleet.csv"), [] {
         return QByteArray::fromStdString(csvOf(fleetSheetOf(RESTHandler::sharedInstance().corvelList())));
     });
+}
+
+void FleetSheetViewController::lookAtDemo()
+{
+    if (TabBarController* const tabs = tabBarController()) {
+        bringBackDemo(*tabs);
+    }
 }
 
 } // namespace lodestar
