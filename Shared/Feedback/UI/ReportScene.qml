@@ -95,6 +95,18 @@ PageScaffold {
         }
         Component.onCompleted: contentY = start
 
+        FocusRing {
+            parent: list
+            anchors.fill: parent
+            anchors.margins: 4
+            shown: keyboard.visual
+
+            KeyboardFocus {
+                id: keyboard
+
+                item: list
+            }
+        }
         // Lies in the margin instead of a header: in Qt 6.4 a list makes no header of a bound component.
         SketchPicture {
             parent: list.contentItem

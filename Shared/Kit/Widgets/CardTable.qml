@@ -49,7 +49,7 @@ AccessibleScope {
     }
 
     visible: !table.hidden
-    activeFocusOnTab: true
+    activeFocusOnTab: table.rows > 0
     readsDownwards: true
     Accessible.role: Accessible.List
     Accessible.name: label

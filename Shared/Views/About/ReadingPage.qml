@@ -137,6 +137,18 @@ PageScaffold {
             color: Theme.card
             border { width: Theme.outlineWidth; color: Theme.outline }
         }
+        FocusRing {
+            parent: list
+            anchors.fill: parent
+            anchors.margins: 4
+            shown: keyboard.visual
+
+            KeyboardFocus {
+                id: keyboard
+
+                item: list
+            }
+        }
         // Above the text, which takes no press; a finger or the mouse that moves scrolls.
         MouseArea {
             parent: list.contentItem
