@@ -1,9 +1,11 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/FeedbackWindow.h"
 
+#include "Application/Commands.h"
 #include "Application/Model/Setting.h"
 #include "Feedback/UI/FeedbackUI.h"
 #include "Feedback/VireoLogger.h"
+#include "Kit/Core/KeyTable.h"
 #include "Kit/Core/Kit.h"
 #include "Kit/Core/NavigationController.h"
 #include "Kit/Core/TabBarController.h"
@@ -31,6 +33,7 @@ void installApplicationScenes(QQmlEngine& engine)
     installKit(engine);
     installViews(engine);
     installFeedbackUI(engine);
+    Commands::addKeys();
 }
 
 /// Whether the controller keeps people out: anything but the main interface does, while a passcode is required. Without
@@ -178,8 +181,7 @@ void FeedbackWindow::motionBegan(EventType type, EventSubtype subtype)
 void FeedbackWindow::keyPressEvent(QKeyEvent* event)
 {
     // Keyboard in place of a shake: nobody shakes a computer on a desk.
-    constexpr auto shakeModifiers = Qt::ControlModifier | Qt::ShiftModifier;
-    if (event->key() == Qt::Key_F && event->modifiers() == shakeModifiers && !event->isAutoRepeat()) {
+    if (!event->isAutoRepeat() && KeyTable::shared().matches("feedback", *event)) {
         motionBegan(EventType::Motion, EventSubtype::MotionShake);
         event->accept();
         return;

@@ -16,10 +16,42 @@ SceneView {
     LayoutMirroring.enabled: Theme.mirrored
     LayoutMirroring.childrenInherit: true
 
-    Shortcut {
-        sequences: ["Ctrl+K"]
-        enabled: scene.window.feedbackHost.screen === null
+    readonly property bool inFront: scene.window.feedbackHost.screen === null && scene.controller instanceof TabBarController
+
+    KeyAction {
+        name: "find"
+        enabled: scene.inFront
         onActivated: FindOpener.openIn(scene.controller)
+    }
+    KeyAction {
+        name: "help"
+        enabled: scene.inFront
+        onActivated: Commands.showHelp(scene.controller)
+    }
+    KeyAction {
+        name: "commands"
+        enabled: scene.inFront
+        onActivated: Commands.showCommands(scene.controller)
+    }
+    KeyAction {
+        name: "settings"
+        enabled: scene.inFront
+        onActivated: Commands.openSettings(scene.controller)
+    }
+    KeyAction {
+        name: "consoles"
+        enabled: scene.inFront
+        onActivated: Commands.selectTab(scene.controller, 0)
+    }
+    KeyAction {
+        name: "dashboard"
+        enabled: scene.inFront
+        onActivated: Commands.selectTab(scene.controller, 1)
+    }
+    KeyAction {
+        name: "attention"
+        enabled: scene.inFront
+        onActivated: Commands.selectTab(scene.controller, 2)
     }
     // Loaded when feedback is first needed, so that it does not slow the start.
     Loader {

@@ -57,8 +57,8 @@ PageScaffold {
         }
     }
 
-    Shortcut {
-        sequences: ["Ctrl+Z"]
+    KeyAction {
+        name: "undo"
         enabled: !note.activeFocus && scene.visible
         onActivated: scene.feedback.sketch.undo()
     }

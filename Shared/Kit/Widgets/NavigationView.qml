@@ -22,8 +22,8 @@ FocusScope {
         }
     }
 
-    Shortcut {
-        sequences: ["Alt+Left"]
+    KeyAction {
+        name: "back"
         enabled: view.visible && view.controller.depth > 1
         onActivated: view.controller.pop()
     }

@@ -17,8 +17,10 @@ IconButton {
     text: outlet !== null ? outlet.title : ""
     onClicked: outlet.tap()
 
-    Shortcut {
-        sequences: ["F5", "Ctrl+R"]
+    action: iconName === "refresh" || iconName === "search" ? iconName : ""
+
+    KeyAction {
+        name: "refresh"
         enabled: button.visible && button.iconName === "refresh"
         onActivated: button.outlet.tap()
     }

@@ -146,6 +146,7 @@ OverlayPopup {
         PlainButton {
             id: cancelButton
 
+            visible: text !== ""
             text: sheet.sheetContent !== null ? sheet.sheetContent.cancelText : ""
             scaleFactor: Theme.barScale
             leftPadding: 20

@@ -57,7 +57,12 @@ FocusScope {
         x: rail && Theme.mirrored ? parent.width - width : 0
         y: rail ? 0 : parent.height - height
     }
-    // Loaded when there is first something to say, so that it does not slow the start.
+    // Both loaded when there is first something to say, so that they do not slow the start.
+    Loader {
+        source: Tips.text === "" ? "" : "Tip.qml"
+        width: view.width
+        height: view.height
+    }
     Loader {
         // The URL is used because a bound component cannot be made by a loader.
         source: Toasts.text === "" ? "" : "Toast.qml"

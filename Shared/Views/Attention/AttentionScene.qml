@@ -109,8 +109,8 @@ PageScaffold {
 
     onSegmentChanged: control.currentIndex = segment
 
-    Shortcut {
-        sequences: ["F5", "Ctrl+R"]
+    KeyAction {
+        name: "refresh"
         enabled: scene.visible && !scene.sheetUp
         onActivated: scene.attention.refreshControl.pull()
     }

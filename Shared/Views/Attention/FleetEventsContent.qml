@@ -33,8 +33,8 @@ FocusScope {
         }
     }
 
-    Shortcut {
-        sequences: ["Ctrl+F"]
+    KeyAction {
+        name: "search"
         enabled: content.visible
         onActivated: content.controller.search()
     }

@@ -49,8 +49,8 @@ PageScaffold {
     ActionSheet {
         outlet: scene.details.rowMenu
     }
-    Shortcut {
-        sequences: [StandardKey.Copy] // qmllint disable unqualified
+    KeyAction {
+        name: "copyValue"
         enabled: scene.visible && scene.details.semiModal === null
         onActivated: {
             const current = (table.flickable as ListView).currentItem as TableRow;

@@ -37,13 +37,13 @@ PageScaffold {
     Keys.onEscapePressed: (event) => scene.cancelSearch(event)
     Keys.onBackPressed: (event) => scene.cancelSearch(event)
 
-    Shortcut {
-        sequences: ["Ctrl+F"]
+    KeyAction {
+        name: "search"
         enabled: scene.visible && scene.list.rightBarButton.imageName === "search"
         onActivated: scene.list.rightBarButton.tap()
     }
-    Shortcut {
-        sequences: ["F5", "Ctrl+R"]
+    KeyAction {
+        name: "refresh"
         enabled: scene.visible && !scene.searching && scene.contentShown
         onActivated: scene.list.refreshControl.pull()
     }

@@ -16,6 +16,7 @@ IconButton {
     objectName: "shareButton"
     iconName: "share"
     text: qsTr("Save list as CSV")
+    action: "saveList"
     visible: offered && hasRoom
     onClicked: offer()
 
@@ -25,8 +26,8 @@ IconButton {
         }
     }
 
-    Shortcut {
-        sequences: ["Ctrl+S"]
+    KeyAction {
+        name: "saveList"
         enabled: button.offered
         onActivated: button.share.save()
     }

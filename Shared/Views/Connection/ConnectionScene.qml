@@ -18,13 +18,13 @@ PageScaffold {
     }
 
     Keys.onPressed: event => page.scrollByKey(event)
-    Shortcut {
-        sequences: ["F5", "Ctrl+R"]
+    KeyAction {
+        name: "refresh"
         enabled: scene.visible
         onActivated: scene.refresh()
     }
-    Shortcut {
-        sequences: ["Ctrl+C"]
+    KeyAction {
+        name: "copyAll"
         enabled: scene.visible
         onActivated: scene.connection.copyAll()
     }

@@ -33,6 +33,7 @@ PageScaffold {
                 objectName: "feedbackButton"
                 iconName: "feedback"
                 text: qsTr("Feedback")
+                action: "feedback"
                 visible: !scene.corvels.feedbackHidden
                 onClicked: scene.corvels.openFeedback()
             },
@@ -43,25 +44,27 @@ PageScaffold {
                 objectName: "settingsButton"
                 iconName: "settings"
                 text: qsTr("Settings")
+                action: "settings"
                 onClicked: scene.corvels.openSettings()
             },
             IconButton {
                 objectName: "addButton"
                 iconName: "add"
                 text: qsTr("Add console")
+                action: "add"
                 onClicked: scene.corvels.addCorvel()
             }
         ]
     }
     scrollView: table.flickable
 
-    Shortcut {
-        sequences: ["Ctrl+N"]
+    KeyAction {
+        name: "add"
         enabled: scene.visible && !scene.sheetUp
         onActivated: scene.corvels.addCorvel()
     }
-    Shortcut {
-        sequences: ["F5", "Ctrl+R"]
+    KeyAction {
+        name: "refresh"
         enabled: scene.visible && !scene.sheetUp
         onActivated: scene.corvels.refreshControl.pull()
     }

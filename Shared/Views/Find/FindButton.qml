@@ -12,5 +12,6 @@ IconButton {
     objectName: "findButton"
     iconName: "search"
     text: qsTr("Find anywhere")
+    action: "find"
     onClicked: FindOpener.openOver(button.screen)
 }

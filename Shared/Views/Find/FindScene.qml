@@ -65,8 +65,8 @@ PageScaffold {
     }
     scrollView: table.flickable
 
-    Shortcut {
-        sequences: ["Ctrl+F"]
+    KeyAction {
+        name: "search"
         enabled: scene.visible
         onActivated: search.start()
     }

@@ -213,8 +213,8 @@ PageScaffold {
         }
     }
 
-    Shortcut {
-        sequences: ["Ctrl+S"]
+    KeyAction {
+        name: "savePoints"
         enabled: scene.visible
         onActivated: scene.large.savePoints()
     }
