@@ -41,8 +41,8 @@ Pressable {
         anchors.fill: parent
         radius: Theme.segmentRadius
         color: chip.on ? "transparent" : chip.pressed ? Theme.pressed : Theme.sheetWell
-        border.width: chip.on ? 1.5 : 0
-        border.color: Theme.accentInk
+        border.width: chip.on ? 1.5 : Theme.outlineWidth
+        border.color: chip.on ? Theme.accentInk : Theme.outline
     }
     HoverWash {
         anchors.fill: parent

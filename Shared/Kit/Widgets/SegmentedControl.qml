@@ -19,6 +19,8 @@ Rectangle {
     implicitHeight: Math.max(40, Math.round(20 * scaleFactor) + 16)
     radius: Theme.fieldRadius
     color: Theme.well
+    border.width: Theme.outlineWidth
+    border.color: Theme.outline
     Accessible.role: Accessible.PageTabList
     Accessible.name: label
 
@@ -67,6 +69,8 @@ Rectangle {
                     visible: segment.chosen
                     radius: Theme.segmentRadius
                     color: Theme.segment
+                    border.width: Theme.strong ? 2 : 0
+                    border.color: Theme.ink
                 }
                 HoverWash {
                     anchors.fill: parent
