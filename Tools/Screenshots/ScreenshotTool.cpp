@@ -37,8 +37,8 @@ struct Variant {
     bool dark = false;
     double textScale = 1;
     bool mirrored = false;
-};
     bool highContrast = false;
+};
 
 DeltaCorvelViewController& filledEditor(SceneStage& stage)
 {
@@ -152,10 +152,10 @@ std::vector<Variant> variantsOf(const Look& look)
             variants.push_back({size, width + "-rtl", false, 1, true});
         }
         variants.push_back({{360, 640}, "360-text130", false, 1.3});
-    }
         for (const bool dark : {false, true}) {
             variants.push_back({{390, 844}, dark ? "390-contrast-dark" : "390-contrast", dark, 1, false, true});
         }
+    }
     if (look.lies) {
         const QSize lying(844, 390);
         variants.insert(variants.end(), {{lying, "844"},
@@ -205,6 +205,7 @@ void take(SceneStage& stage, const Look& look, const Variant& variant, const Ord
 {
     Appearance& appearance = Appearance::shared();
     appearance.overrideDark(variant.dark);
+    appearance.overrideHighContrast(variant.highContrast);
     appearance.overrideTextScale(variant.textScale);
     appearance.overrideMirrored(variant.mirrored ? std::optional(true) : std::nullopt);
     setMorningClock(false);
@@ -215,7 +216,6 @@ void take(SceneStage& stage, const Look& look, const Variant& variant, const Ord
     const QString file = order.folder.filePath(name);
     if (!(order.isGuide ? withPalette(stage.grab()).save(file, "PNG", 0) : stage.grab().save(file))) {
         std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
-    appearance.overrideHighContrast(variant.highContrast);
     }
 }
 

@@ -203,6 +203,7 @@ AccessibleScope {
             commands: swipeCell.commands
             Accessible.role: isHeader ? Accessible.Heading : Accessible.ListItem
             Accessible.name: isHeader ? header.Accessible.name : content !== null ? content.accessibleText : ""
+            Accessible.description: content !== null ? content.accessibleDetail : ""
             Accessible.selectable: selectable
             Accessible.selected: swipeCell.highlighted
             onAccessiblePressed: tableState.activate(index, selectable)
@@ -264,7 +265,6 @@ AccessibleScope {
                 Accessible.ignored: true
                 text: place.headerTitle
                 detail: place.headerDetail
-            Accessible.description: content !== null ? content.accessibleDetail : ""
                 note: place.headerNote
                 space: place.index === 0 ? 12 - view.topSpace : Theme.sectionGap
                 x: tableState.sideMargin

@@ -121,6 +121,20 @@ Item {
         anchors.rightMargin: bar.side
         anchors.verticalCenter: parent.verticalCenter
     }
+    // Readers say what has the keyboard. A new screen on which nothing has it says its title instead.
+    Announcement {
+        id: announcement
+    }
+    Timer {
+        interval: 600
+        running: true
+        onTriggered: {
+            const item = bar.Window.activeFocusItem;
+            if (!(item instanceof AccessibleItem) && !(item instanceof TextInput)) {
+                announcement.say(bar.titleView !== null ? bar.titleView.Accessible.name : bar.title);
+            }
+        }
+    }
     Hairline {
         visible: bar.scrolled
         width: parent.width

@@ -71,28 +71,3 @@ FocusScope {
         }
     }
 }
-    // Readers say what has the keyboard. A new screen on which nothing has it says its title instead.
-    Announcement {
-        id: announcement
-    }
-    Timer {
-        id: arrival
-
-        property string title
-
-        interval: 600
-        onTriggered: {
-            const item = view.Window.activeFocusItem;
-            if (!(item instanceof AccessibleItem) && !(item instanceof TextInput)) {
-                announcement.say(title);
-            }
-        }
-    }
-    Connections {
-        target: view.controller
-        function onPushed(controller: ViewController) {
-            arrival.title = controller.title;
-            arrival.restart();
-        }
-    }
-

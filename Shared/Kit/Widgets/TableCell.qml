@@ -7,9 +7,9 @@ import QtQuick
 Item {
     /// The row's text for screen readers, as one sentence: name, state, counts.
     property string accessibleText
-    /// Whether the row can be pressed. Screen readers read a row that cannot.
     /// What else is drawn, told after the sentence.
     property string accessibleDetail
+    /// Whether the row can be pressed. Screen readers read a row that cannot.
     property bool selectable: true
     /// Buttons as values with `title`, `role` (one of Role.Button) and, for a picture, `imageName`; the first stands at
     /// the outer edge.
