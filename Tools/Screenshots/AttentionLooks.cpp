@@ -87,7 +87,7 @@ std::vector<Look> nowLooks()
         {"attention-unknown", {}, nowOf(Night::Unknown), true},
         {"attention-updating", {}, nowOf(Night::Updating), true},
         {"attention-by-console", {}, groupByConsole},
-        {"attention-filter", {}, openFilter, true},
+        {"attention-filter", {}, openFilter, true, true},
         {"attention-filtered", {}, filter, true},
         {"attention-many",
          {},
@@ -206,7 +206,7 @@ std::vector<Look> attentionLooks()
     for (Look& look : segmentLooks()) {
         looks.push_back(std::move(look));
     }
-    looks.push_back({"watch", {}, watch(true), true});
+    looks.push_back({"watch", {}, watch(true), true, true});
     looks.push_back({"watch-end", {}, atEnd(watch(true))});
     looks.push_back({"watch-off", {}, watch(false)});
     return looks;

@@ -74,7 +74,7 @@ std::vector<Look> copyLooks()
              stage.settle();
          },
          true},
-        {"service-report", {}, [](SceneStage& stage) { openReport(openEvent(stage)); }, true},
+        {"service-report", {}, [](SceneStage& stage) { openReport(openEvent(stage)); }, true, true},
         {"service-report-markdown", {}, [](SceneStage& stage) { openReport(openEvent(stage)).setMarkdown(true); }},
         {"service-report-system",
          {},

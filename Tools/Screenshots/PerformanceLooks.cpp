@@ -80,7 +80,7 @@ std::vector<Look> performanceLooks()
          },
          true},
         {"performance-processors", fleet(),
-         [](SceneStage& stage) { waitForChart(stage, openPerformance(stage, demoConsole())); }, true},
+         [](SceneStage& stage) { waitForChart(stage, openPerformance(stage, demoConsole())); }, true, true},
         {"performance-summary", fleet(),
          [](SceneStage& stage) {
              waitForChart(stage, openPerformance(stage, demoConsole()));

@@ -11,11 +11,13 @@ Rectangle {
 
     required property TabBarController controller
     property bool rail: false
+    /// Whether height is scarce: titles stand beside their pictures then.
+    property bool low: false
 
     readonly property color tint: controller.selectedImageTintColor.valid ? controller.selectedImageTintColor : Theme.accent
 
     implicitWidth: rail ? Theme.railWidth : 0
-    implicitHeight: rail ? 0 : Theme.tabBarHeight
+    implicitHeight: rail ? 0 : low ? Theme.lowTabBarHeight : Theme.tabBarHeight
     color: Theme.card
     Accessible.role: Accessible.PageTabList
     Accessible.name: qsTr("Screens")
@@ -102,12 +104,23 @@ Rectangle {
                     anchors.margins: 3
                     shown: tab.visualFocus
                 }
-                Column {
+                TextMetrics {
+                    id: titleMeasure
+
+                    font: title.font
+                    text: title.text
+                }
+                Item {
                     id: face
 
+                    /// Points between picture and title, enough for the badge; and the title's width beside the picture.
+                    readonly property int gap: 14
+                    readonly property real besideWidth: Math.min(Math.ceil(titleMeasure.advanceWidth) + 1,
+                                                                 tab.width - glyph.width - gap - 16)
+
                     anchors.centerIn: parent
-                    width: parent.width
-                    spacing: 2
+                    width: bar.low ? glyph.width + gap + besideWidth : tab.width
+                    height: bar.low ? glyph.height : glyph.height + 2 + title.height
                     opacity: tab.pressed && !tab.selected ? 0.55 : 1
 
                     Icon {
@@ -115,22 +128,28 @@ Rectangle {
 
                         name: tab.imageName === "" ? "" : tab.selected ? tab.imageName + "_selected" : tab.imageName
                         color: tab.selected ? bar.tint : Theme.ink3
-                        anchors.horizontalCenter: parent.horizontalCenter
+                        x: !bar.low ? Math.round((parent.width - width) / 2) : Theme.mirrored ? parent.width - width : 0
                     }
                     Label {
+                        id: title
+
                         text: tab.text
                         size: Theme.axisSize
                         scaleFactor: Theme.barScale
                         color: tab.selected ? Theme.tabSelected : tab.hovered ? Theme.ink2 : Theme.ink3
-                        width: parent.width
+                        width: bar.low ? face.besideWidth : tab.width
+                        x: !bar.low || Theme.mirrored ? 0 : glyph.width + face.gap
+                        y: bar.low ? Math.round((parent.height - height) / 2) : glyph.height + 2
                         horizontalAlignment: Text.AlignHCenter
+                        fontSizeMode: Text.HorizontalFit
+                        minimumPixelSize: 8
                         elide: Text.ElideRight
                         Accessible.ignored: true
                     }
                 }
                 TabBadge {
                     text: tab.badge
-                    x: tab.width / 2 + (Theme.mirrored ? -4 - width : 4)
+                    x: face.x + glyph.x + glyph.width / 2 + (Theme.mirrored ? -4 - width : 4)
                     y: face.y + glyph.y - 4
                 }
             }

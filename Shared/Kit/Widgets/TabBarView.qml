@@ -50,8 +50,10 @@ FocusScope {
         id: bar
 
         controller: view.controller
-        visible: !view.controller.barHidden
+        // Beside a second column, a screen has no need of the bar's room.
+        visible: !view.controller.barHidden || view.width >= Theme.columnsFrom
         rail: view.rail
+        low: !view.rail && view.height < Theme.lowBelow && view.width > view.height
         width: rail ? implicitWidth : parent.width
         height: rail ? parent.height : implicitHeight
         x: rail && Theme.mirrored ? parent.width - width : 0

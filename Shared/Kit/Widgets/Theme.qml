@@ -178,7 +178,13 @@ QtObject {
     readonly property int rootBarHeight: 60
     readonly property int barHeight: 52
     readonly property int tabBarHeight: 56
+    /// The tab bar's height in windows that are lower than this and wider than high, as a phone that lies.
+    readonly property int lowTabBarHeight: 44
+    readonly property int lowBelow: 480
     readonly property int railWidth: 88
+    /// From this width of the window on, screens stand side by side; and the width of the column at the start.
+    readonly property int columnsFrom: 1000
+    readonly property int startColumn: 400
     readonly property int measure: 720
     readonly property int dashboardMeasure: 1072
     readonly property int sheetMaxWidth: 560

@@ -76,7 +76,9 @@ PageScaffold {
                 text: figure.caption
                 size: Theme.noteSize
                 color: Theme.ink2
-                width: Math.min(implicitWidth, key.width - 22)
+                width: Math.min(captionMeasure.advanceWidth + 1, key.width - 22)
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 10
                 elide: Text.ElideRight
                 Accessible.ignored: true
             }
@@ -96,6 +98,13 @@ PageScaffold {
             minimumPixelSize: 12
             elide: Text.ElideRight
             Accessible.ignored: true
+        }
+        TextMetrics {
+            id: captionMeasure
+
+            font.family: Theme.family
+            font.pixelSize: Math.round(Theme.noteSize * Theme.textScale)
+            text: figure.caption
         }
         TextMetrics {
             id: measure
@@ -187,12 +196,14 @@ PageScaffold {
 
             objectName: "chartCard"
             width: parent.width
-            implicitHeight: legend + Math.max(320, Math.min(640, page.height - above - Theme.groupGap - legend))
+            /// At least 320, or in lower windows what is seen at once when the page is scrolled to it.
+            readonly property real least: Math.min(320, Math.max(160, page.height - legend - 24))
+            implicitHeight: legend + Math.max(least, Math.min(640, page.height - above - Theme.groupGap - legend))
             radius: Theme.cardRadius
             color: Theme.card
+            border { width: Theme.outlineWidth; color: Theme.outline }
 
             PlotChart {
-            border { width: Theme.outlineWidth; color: Theme.outline }
                 outlet: scene.performance.chartView
                 visible: !scene.performance.chartView.hidden
                 anchors.fill: parent
