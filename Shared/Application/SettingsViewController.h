@@ -6,6 +6,7 @@
 #include "Kit/Core/Outlets.h"
 #include "Kit/Core/PagedIntro.h"
 #include "Kit/Core/SheetHostController.h"
+#include "Kit/Core/SpansColumns.h"
 #include "Kit/Core/Storyboard.h"
 #include "Kit/Core/Table.h"
 #include "Platform/NotificationCenter.h"
@@ -18,7 +19,7 @@ namespace lodestar
 
 /// The settings: whether a passcode is required, which is the application's only preference, and ways to the tour and
 /// the about screens. Main thread.
-class SettingsViewController : public lodestar::SheetHostController, public PagedIntroDelegate
+class SettingsViewController : public lodestar::SheetHostController, public PagedIntroDelegate, public SpansColumns
 {
     Q_OBJECT
     QML_ELEMENT

@@ -105,6 +105,37 @@ TEST_F(ControllersTest, NavigationLoadsOnceAndAlternatesAppearances)
     EXPECT_THAT(take(), ElementsAre("root disappear", "root appear", "root disappear", "next appear"));
 }
 
+TEST_F(ControllersTest, OfTwoColumnsTheStartStaysWhileTheEndIsReplaced)
+{
+    const auto root = screen("root");
+    const auto navigation = makeController<NavigationController>(root);
+    const auto tabs = makeController<TabBarController>(std::vector<TabBarItem>{{"1", "tab_consoles", navigation}});
+    tabs->beginAppearance();
+    navigation->setRoomForTwo(true);
+    EXPECT_THAT(take(), ElementsAre("root load", "root appear"));
+    const auto first = screen("first");
+    navigation->open(*root, first);
+    const auto second = screen("second");
+    navigation->open(*root, second);
+    EXPECT_THAT(take(), ElementsAre("first load", "first appear", "first disappear", "second load", "second appear"));
+    EXPECT_EQ(navigation->depth(), 2);
+    EXPECT_EQ(first->navigationController(), nullptr);
+
+    navigation->open(*second, first);
+    EXPECT_THAT(take(), ElementsAre("root disappear", "first appear"));
+    second->goBack();
+    EXPECT_EQ(navigation->topViewController(), second.get()) << "back from the start column leaves the end";
+    EXPECT_THAT(take(), ElementsAre("first disappear", "root appear"));
+    navigation->setRoomForTwo(false);
+    navigation->setRoomForTwo(true);
+    EXPECT_THAT(take(), ElementsAre("root disappear", "root appear"));
+
+    navigation->open(*second, first);
+    take();
+    navigation->popToRoot();
+    EXPECT_THAT(take(), ElementsAre("second disappear", "first disappear", "root appear"));
+}
+
 TEST_F(ControllersTest, APoppedScreenOutlivesTheCallThatPopsItAndGoesOnTheMainThread)
 {
     auto navigation = makeController<NavigationController>(screen("root"));

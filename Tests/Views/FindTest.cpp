@@ -153,7 +153,7 @@ protected:
         navigation = makeController<NavigationController>(makeController<ViewController>());
         navigation->loadViewIfNeeded();
         navigation->beginAppearance();
-        openFind(navigation.get(), QString::fromUtf8(text));
+        openFind(*navigation->topViewController(), QString::fromUtf8(text));
         auto& screen = dynamic_cast<FindViewController&>(*navigation->topViewController());
         runUntil([&] { return !foot(screen).empty() || !screen.noDataLabel()->isHidden(); }, seconds(10));
         return screen;

@@ -20,6 +20,8 @@ struct Look {
     bool isMain = false;
     /// Whether the screen is also drawn on a phone that lies, as above.
     bool lies = false;
+    /// Whether the screen is also drawn in wide windows, as above, where two screens stand side by side.
+    bool isWide = false;
 };
 
 /// A simulated console with the demonstration's name, which is logged on and has fetched no feeds yet. No list holds
@@ -56,6 +58,8 @@ std::vector<Look> copyLooks();
 
 /// The first run, and fleet sheets from the file to the results.
 std::vector<Look> fleetSheetLooks();
+/// Two screens side by side.
+std::vector<Look> wideLooks();
 /// The passcode screen, the settings and the passcode sheet.
 std::vector<Look> lockLooks();
 

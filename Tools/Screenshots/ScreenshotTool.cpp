@@ -99,7 +99,7 @@ std::vector<Look> editorLooks()
     };
     return {
         {"console-editor-empty", five, [](SceneStage& stage) { stage.openEditor(); }},
-        {"console-editor-filled", five, [](SceneStage& stage) { filledEditor(stage); }, true},
+        {"console-editor-filled", five, [](SceneStage& stage) { filledEditor(stage); }, true, true},
         {"console-editor-verifying", five, [](SceneStage& stage) { showBusyEditor(stage, "verifying..."); }, true},
         {"console-editor-gathering", five, [](SceneStage& stage) { showBusyEditor(stage, "gathering data..."); }},
         {"console-editor-error-fields", five, [](SceneStage& stage) { stage.openEditor()->saveCorvel(); }},
@@ -162,6 +162,14 @@ std::vector<Variant> variantsOf(const Look& look)
                                          {lying, "844-dark", true},
                                          {lying, "844-text200", false, 2},
                                          {lying, "844-rtl", false, 1, true}});
+    if (look.isWide) {
+        const QSize wide(1280, 800);
+        variants.insert(variants.end(), {{wide, "1280"},
+                                         {wide, "1280-dark", true},
+                                         {wide, "1280-text200", false, 2},
+                                         {wide, "1280-rtl", false, 1, true},
+                                         {{1000, 700}, "1000"},
+                                         {{2560, 1000}, "2560"}});
     }
     return variants;
 }
@@ -255,7 +263,7 @@ int main(int argc, char** argv)
     QSet<QString> drawn;
     for (const auto& looks : {consoleLooks(), editorLooks(), dashboardLooks(), inventoryLooks(), groupedLooks(),
                               eventAndGroupLooks(), performanceLooks(), aboutLooks(), lockLooks(), feedbackLooks(),
-                              attentionLooks(), findLooks(), connectionLooks(), copyLooks(), fleetSheetLooks()}) {
+                              attentionLooks(), findLooks(), connectionLooks(), copyLooks(), fleetSheetLooks(), wideLooks()}) {
         for (const Look& look : looks) {
             for (const Variant& variant : variantsOf(look)) {
                 const QString name = QString::fromLatin1(look.name) + '-' + variant.suffix + ".png";

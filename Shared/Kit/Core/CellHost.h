@@ -22,6 +22,8 @@ class CellHost : public QQuickItem
     Q_PROPERTY(bool pooled MEMBER m_pooled NOTIFY pooledChanged)
     Q_PROPERTY(QQmlComponent* delegate MEMBER m_delegate NOTIFY delegateChanged)
     Q_PROPERTY(QQuickItem* item READ item NOTIFY itemChanged)
+    /// The list's width in points, for what the item cannot tell by its own.
+    Q_PROPERTY(qreal listWidth MEMBER m_listWidth NOTIFY listWidthChanged)
 
 public:
     using QQuickItem::QQuickItem;
@@ -40,6 +42,7 @@ Q_SIGNALS:
     void pooledChanged();
     void delegateChanged();
     void itemChanged();
+    void listWidthChanged();
 
 protected:
     void componentComplete() override;
@@ -56,6 +59,7 @@ private:
     QMetaObject::Connection m_connection;
     QPointer<QQmlComponent> m_delegate;
     QPointer<QQuickItem> m_item;
+    qreal m_listWidth = 0;
     int m_index = -1;
     /// waits for its next use; a pooled row ignores reloads, since asking for a cell may cost a request
     bool m_pooled = false;

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Kit/Core/NavigationController.h"
 
+#include "Kit/Core/SpansColumns.h"
 #include "Platform/Queues/MainQueue.h"
 
 #include <algorithm>
@@ -8,6 +9,15 @@
 
 namespace lodestar
 {
+namespace
+{
+
+bool spansColumns(const ViewController& screen)
+{
+    return dynamic_cast<const SpansColumns*>(&screen) != nullptr;
+}
+
+} // namespace
 
 void NavigationController::setStackOf(ViewController& screen, NavigationController* stack)
 {
@@ -40,6 +50,31 @@ void NavigationController::pushViewController(std::shared_ptr<ViewController> co
     updateAppearance();
 }
 
+void NavigationController::open(const ViewController& from, std::shared_ptr<ViewController> controller)
+{
+    const int start = startColumn();
+    if (start >= 0 && start < depth() - 1 && viewControllerAt(start) == &from && !spansColumns(*controller)) {
+        replaceTop(std::move(controller));
+    } else {
+        pushViewController(std::move(controller), Animated::Yes);
+    }
+}
+
+void NavigationController::replaceTop(std::shared_ptr<ViewController> controller)
+{
+    ViewController* const shown = controller.get();
+    const std::shared_ptr<ViewController> previous = std::exchange(m_stack.back(), std::move(controller));
+    previous->endAppearance();
+    setStackOf(*previous, nullptr);
+    setStackOf(*shown, this);
+    shown->loadViewIfNeeded();
+    Q_EMIT replaced(shown);
+    Q_EMIT stackChanged();
+    updateAppearance();
+    // As for a popped screen.
+    MainQueue::shared().async([keep = previous] {});
+}
+
 std::shared_ptr<ViewController> NavigationController::popViewController(Animated animated)
 {
     if (m_stack.size() < 2) {
@@ -63,6 +98,7 @@ void NavigationController::popToRoot()
         const auto covered = m_stack.end() - 2;
         const std::shared_ptr<ViewController> controller = *covered;
         m_stack.erase(covered);
+        controller->endAppearance(); // it may have been seen in the start column
         setStackOf(*controller, nullptr);
         Q_EMIT removed(depth() - 1);
         MainQueue::shared().async([keep = controller] {});
@@ -78,7 +114,9 @@ const ViewController* NavigationController::screenBelow(const ViewController& sc
 
 void NavigationController::goBackFrom(const ViewController& screen)
 {
-    if (topViewController() == &screen) {
+    // The way back of both columns stands in the start column.
+    const int start = startColumn();
+    if (topViewController() == &screen || (start >= 0 && viewControllerAt(start) == &screen)) {
         pop();
     }
 }
@@ -88,18 +126,42 @@ ViewController* NavigationController::viewControllerAt(int index) const
     return index >= 0 && index < depth() ? m_stack[static_cast<std::size_t>(index)].get() : nullptr;
 }
 
+void NavigationController::setRoomForTwo(bool hasRoom)
+{
+    if (std::exchange(m_hasRoomForTwo, hasRoom) != hasRoom) {
+        Q_EMIT columnsChanged();
+        updateAppearance();
+    }
+}
+
+int NavigationController::startColumn() const
+{
+    // Stacks outside the tabs, such as feedback's, are no choice among things to look at.
+    if (!m_hasRoomForTwo || tabBarController() == nullptr || spansColumns(*m_stack.back())) {
+        return -1;
+    }
+    const int below = depth() - 2;
+    return below < 0 ? 0 : spansColumns(*m_stack[static_cast<std::size_t>(below)]) ? -1 : below;
+}
+
+bool NavigationController::isSeen(const ViewController& screen) const
+{
+    return &screen == topViewController() || (startColumn() >= 0 && viewControllerAt(startColumn()) == &screen);
+}
+
 void NavigationController::updateAppearance()
 {
     // A screen may push or pop in its callbacks; the nested call has then already brought the stack up to date.
     const std::vector<std::shared_ptr<ViewController>> stack = m_stack;
     for (const auto& controller : stack) {
-        if (!isInWindow() || controller != m_stack.back()) {
+        if (!isInWindow() || !isSeen(*controller)) {
             controller->endAppearance();
         }
     }
-    if (isInWindow()) {
-        const std::shared_ptr<ViewController> top = m_stack.back();
-        top->beginAppearance();
+    for (const auto& controller : stack) {
+        if (isInWindow() && isSeen(*controller)) {
+            controller->beginAppearance();
+        }
     }
 }
 

@@ -12,9 +12,10 @@
 namespace lodestar
 {
 
-/// Draws the screens of a navigation controller one over the other, each as large as this item. Only the last is
-/// visible, except while screens slide. The user of this item animates `progress` from 0 to 1 while `busy`. Qt's own
-/// stack is not used because it loads the templates of all controls, which would delay the start.
+/// Draws the screens of a navigation controller one over the other, each as large as this item, or the last two side by
+/// side in a wide item. Others are visible only while screens slide. The user of this item animates `progress` from 0
+/// to 1 while `busy`. Qt's own stack is not used because it loads the templates of all controls, which would delay the
+/// start.
 class NavigationStack : public QQuickItem
 {
     Q_OBJECT
@@ -28,6 +29,11 @@ class NavigationStack : public QQuickItem
     Q_PROPERTY(bool busy READ isBusy NOTIFY busyChanged FINAL)
     /// Whether screens come from the left.
     Q_PROPERTY(bool mirrored MEMBER m_mirrored NOTIFY mirroredChanged FINAL)
+    /// Width in points of the start column, where there are two.
+    Q_PROPERTY(qreal startWidth MEMBER m_startWidth NOTIFY startWidthChanged FINAL)
+    /// Whether there are two columns; and whether the end column has no screen.
+    Q_PROPERTY(bool split READ isSplit NOTIFY placesChanged FINAL)
+    Q_PROPERTY(bool endEmpty READ isEndEmpty NOTIFY placesChanged FINAL)
     /// Whether screens fade in place of sliding.
     Q_PROPERTY(bool fades MEMBER m_fades NOTIFY fadesChanged FINAL)
 
@@ -40,6 +46,22 @@ public:
     qreal progress() const { return m_progress; }
     void setProgress(qreal progress);
     bool isBusy() const { return m_progress < 1; }
+    bool isSplit() const { return m_controller && m_controller->startColumn() >= 0; }
+    bool isEndEmpty() const { return isSplit() && m_controller->depth() == 1; }
+
+    /// The page in the start column, null for none; and the last page.
+    QQuickItem* startPage() const;
+    QQuickItem* lastPage() const { return m_pages.empty() ? nullptr : m_pages.back(); }
+    /// The page, of those of this stack, that the item is part of; null for none.
+    QQuickItem* pageOf(const QQuickItem& item) const;
+    /// The controller of the page above; null above the last.
+    ViewController* screenAbove(const QQuickItem& page) const;
+    /// The next screen that is opened from this page in the start column leaves the keyboard to it. Without a page, the
+    /// next screen takes the keyboard.
+    void leaveKeyboardTo(QQuickItem* page) { m_keyboardStays = page; }
+    /// Gives the keyboard to the column at the start or at the end. False when that column has it already, or no
+    /// screen.
+    Q_INVOKABLE bool enter(bool end);
 
 Q_SIGNALS:
     void controllerChanged();
@@ -48,6 +70,9 @@ Q_SIGNALS:
     void busyChanged();
     void mirroredChanged();
     void fadesChanged();
+    void startWidthChanged();
+    /// Screens came, went or changed their columns.
+    void placesChanged();
 
 protected:
     void componentComplete() override;
@@ -56,21 +81,40 @@ protected:
     bool childMouseEventFilter(QQuickItem* item, QEvent* event) override;
 
 private:
+    /// A visible page and where it slides, in points from the side where text starts.
+    struct Slide {
+        QPointer<QQuickItem> page;
+        qreal from = 0;
+        qreal to = 0;
+        bool isUpper = false; ///< the page that was pushed or popped
+        bool leaves = false;
+    };
+    QQuickItem* makePage(ViewController* shown);
     void push(ViewController* shown, bool animated);
     void pop(bool animated);
+    void replace(ViewController* shown);
     void remove(int index);
-    void slide(QQuickItem* coming, QQuickItem* going, bool isPop, bool animated);
+    std::vector<QQuickItem*> seenPages() const;
+    void slide(const std::vector<QQuickItem*>& before, QQuickItem* upper, bool animated);
+    void giveKeyboard(QQuickItem* page);
+    bool isToBeSeen(const QQuickItem& page) const;
+    qreal restWidth(std::size_t index) const;
+    qreal restStart(std::size_t index) const;
+    void putAt(QQuickItem& page, qreal start) const;
+    void arrange();
     void place();
     void settle();
 
     QPointer<NavigationController> m_controller;
     QPointer<QQmlComponent> m_page;
     std::vector<QQuickItem*> m_pages; ///< children of this item
-    QPointer<QQuickItem> m_coming;
-    QPointer<QQuickItem> m_going;
-    bool m_isPop = false;
+    std::vector<Slide> m_slides;
+    QPointer<QQuickItem> m_popped;
+    QPointer<QQuickItem> m_keyboardStays;
+    bool m_wasSplit = false;
     bool m_mirrored = false;
     bool m_fades = false;
+    qreal m_startWidth = 400;
     qreal m_progress = 1;
 };
 

@@ -77,7 +77,7 @@ template <typename Input>
 void openScene(const ViewController& from, Scene<Input> scene, std::type_identity_t<Input> input)
 {
     if (NavigationController* const stack = from.navigationController()) {
-        stack->pushViewController(Storyboard::main().instantiateViewController(scene, std::move(input)), Animated::Yes);
+        stack->open(from, Storyboard::main().instantiateViewController(scene, std::move(input)));
     }
 }
 inline void openScene(const ViewController& from, Scene<> scene)

@@ -6,7 +6,8 @@ import Lodestar.Kit
 
 /// A table drawn as cards: one rounded card per section holds its rows with hairlines between them, headers stand
 /// above. Give it the outlet and a delegate, a component whose root is a TableCell. Arrows, Home, End and the page keys
-/// move, Enter and Space choose, Shift+F10 swipes, the menu key swipes or opens the row's menu, F5 refreshes.
+/// move, Enter and Space choose, Shift+F10 swipes, the menu key swipes or opens the row's menu, F5 refreshes. In the
+/// start column, those that move also move the choice, and the arrow towards the end column enters it.
 AccessibleScope {
     id: view
 
@@ -50,6 +51,11 @@ AccessibleScope {
 
     visible: !table.hidden
     activeFocusOnTab: table.rows > 0
+    onFocusChanged: {
+        if (!focus) {
+            choice.forget();
+        }
+    }
     readsDownwards: true
     Accessible.role: Accessible.List
     Accessible.name: label
@@ -66,12 +72,36 @@ AccessibleScope {
         const target = tableState.rowFrom(from, direction, rows);
         tableState.keyboardUsed = true;
         if (target >= 0) {
-            list.currentIndex = target;
+            list.turnTo(target);
+            if (choice.splits) {
+                following.restart();
+            }
         }
     }
-    /// While no ring shows, the first arrow only shows the ring; the next one moves it.
+    /// While no ring shows, the first arrow only shows the ring; the next one moves it. A chosen row shows as well.
     function arrow(direction: int, rows: int) {
-        step(list.currentIndex, direction, tableState.keyboardUsed ? rows : 0);
+        step(list.currentIndex, direction, tableState.keyboardUsed || choice.index === list.currentIndex ? rows : 0);
+    }
+    /// Lets the choice, if there is one, follow the keyboard. A row that does not lead on but offers a menu or more rows
+    /// is left alone until it is chosen.
+    function follow() {
+        const place = list.currentItem as TableRow;
+        if (choice.index >= 0 && place !== null && place.selectable && place.content.leadsOn) {
+            activateCurrent();
+        }
+    }
+    /// Enters the end column, with the current row's screen in it. False outside the start column.
+    function enter(): bool {
+        const place = list.currentItem as TableRow;
+        following.stop();
+        if (!choice.splits || place === null || place.isHeader) {
+            return false;
+        }
+        activateCurrent();
+        if (isShownBeside(place)) {
+            choice.enter();
+        }
+        return true;
     }
     function keepCurrent() {
         if (list.currentIndex < 0) {
@@ -80,9 +110,13 @@ AccessibleScope {
     }
     function activateCurrent() {
         const place = list.currentItem as TableRow;
-        if (place !== null && !place.isHeader) {
+        if (place !== null && !place.isHeader && !isShownBeside(place)) {
             tableState.activate(place.index, place.selectable);
         }
+    }
+    /// Whether choosing the row would only open anew what stands beside the table.
+    function isShownBeside(place: TableRow): bool {
+        return place.index === choice.index && place.content.leadsOn;
     }
     function swipeByKeyboard() {
         const place = list.currentItem as TableRow;
@@ -129,8 +163,14 @@ AccessibleScope {
         case Qt.Key_Return:
         case Qt.Key_Enter:
         case Qt.Key_Space:
-            activateCurrent();
+            if (!enter()) {
+                activateCurrent();
+            }
             return true;
+        case Qt.Key_Left:
+            return Theme.mirrored && enter();
+        case Qt.Key_Right:
+            return !Theme.mirrored && enter();
         case Qt.Key_F10:
             if (!(modifiers & Qt.ShiftModifier)) {
                 return false;
@@ -153,19 +193,39 @@ AccessibleScope {
 
         table: view.table
         delegate: view.delegate
+        choice: choice
         sideMargin: Theme.sideMargin(view.width, view.measure)
         currentIndex: list.currentIndex
         listHasKeyboard: list.activeFocus && !swipeHasKeyboard
-        onRowTapped: (index) => list.currentIndex = index
+        onRowTapped: (index) => list.turnTo(index)
         onKeyboardReturned: (list.currentItem ?? list).forceActiveFocus(Qt.OtherFocusReason)
         onSwipeButtonTapped: (section, row, index, leading) => view.swipeButtonTapped(section, row, index, leading)
         onMenuRequested: (section, row) => view.menuRequested(section, row)
+    }
+    RowChoice {
+        id: choice
+
+        table: view.table
+    }
+    Timer {
+        id: following
+
+        interval: 150 // so that what a held key runs over is not opened
+        onTriggered: view.follow()
     }
     ListView {
         id: list
 
         /// Whether a row is held. The state's `pressedIndex` also tells of a row that was chosen.
         property bool pressedRow: false
+
+        /// Whether a person has turned to a row.
+        property bool turned: false
+
+        function turnTo(index: int) {
+            turned = true;
+            currentIndex = index;
+        }
 
         /// Makes the row at once by scrolling to it. Nothing moves when the row exists already.
         function bringIn(index: int) {
@@ -179,7 +239,8 @@ AccessibleScope {
         reuseItems: true
         focus: true
         keyNavigationEnabled: false
-        highlightFollowsCurrentItem: true
+        // A list opens at its beginning, with the heading above its current row.
+        highlightFollowsCurrentItem: turned
         highlightMoveDuration: Theme.settle
         highlightResizeDuration: 0
         // Where cells cost requests, rows out of view must not be made.
@@ -212,7 +273,7 @@ AccessibleScope {
                 // A screen reader that focuses a row asks for its neighbours at once, so the list makes them now, not
                 // when idle.
                 if (activeFocus) {
-                    list.currentIndex = index;
+                    list.turnTo(index);
                     if (visualFocus) {
                         list.bringIn(index - 1);
                     }
@@ -244,6 +305,8 @@ AccessibleScope {
             /// A gap separates sections without a header.
             readonly property real gap: firstInSection && section > 0 && !sectionHasHeader ? Theme.groupGap : 0
             readonly property bool besidePressed: index === tableState.pressedIndex || index - 1 === tableState.pressedIndex
+                                                  || chosen || index - 1 === choice.index
+            readonly property bool chosen: choice.index === index
 
             // While the table is torn down, this binding runs once more and finds no state.
             readonly property real rowHeight: tableState !== null ? tableState.table.rowHeight : 0
@@ -253,6 +316,14 @@ AccessibleScope {
                                        + foot.height
             height: implicitHeight
 
+            onChosenChanged: showChosen()
+            onContentChanged: showChosen()
+
+            function showChosen() {
+                if (content !== null) {
+                    content.chosen = chosen;
+                }
+            }
             function configure() {
                 swipeCell.reset();
                 host.configure();
@@ -283,15 +354,18 @@ AccessibleScope {
                 leadingExpansion: place.content !== null ? place.content.leadingSwipeExpansion : -1
                 pressable: place.selectable
                 offersMenu: place.content !== null && place.content.offersMenu
-                highlighted: tableState.selectedIndex === place.index && place.selectable
+                highlighted: (tableState.selectedIndex === place.index && place.selectable) || place.chosen
                 menuShown: view.menuShown && offersMenu && list.currentIndex === place.index
                 focusShown: place.focused && tableState.keyboardUsed
                 onClicked: {
                     tableState.keyboardUsed = false;
                     tableState.rowTapped(place.index);
+                    if (choice.splits) {
+                        list.forceActiveFocus(Qt.MouseFocusReason);
+                    }
                     if (tableState.hasOpenSwipe) {
                         tableState.closeSwipes();
-                    } else {
+                    } else if (!view.isShownBeside(place)) {
                         tableState.activate(place.index, place.selectable);
                     }
                 }
@@ -299,6 +373,7 @@ AccessibleScope {
                 onMenuRequested: {
                     tableState.keyboardUsed = false;
                     tableState.rowTapped(place.index);
+                    choice.act(place.index);
                     tableState.menuOf(place.section, place.row);
                 }
                 onPressedLookChanged: {
@@ -308,6 +383,7 @@ AccessibleScope {
                 onEscaped: tableState.closeSwipes()
                 onButtonTapped: (button, leading) => {
                     tableState.closeSwipes();
+                    choice.act(place.index);
                     tableState.swipeButtonTapped(place.section, place.row, button, leading);
                 }
 
@@ -317,7 +393,15 @@ AccessibleScope {
                     anchors.fill: parent
                     table: tableState.table
                     index: place.index
+                    listWidth: place.width
                     delegate: tableState.delegate
+                }
+                Loader {
+                    active: place.chosen
+                    source: active ? "ChosenMark.qml" : ""
+                    x: Theme.mirrored ? parent.width - width : 0
+                    y: 10
+                    height: parent.height - 20
                 }
             }
             SectionFoot {

@@ -11,5 +11,12 @@ Shortcut {
 
     sequences: KeyTable.sequencesOf(name)
     readonly property bool keyed: StackPlace.keyed
+    // Of two screens side by side, the one with the keyboard acts: the same keys on both would do nothing.
+    readonly property Binding stilled: Binding {
+        target: action
+        property: "enabled"
+        value: false
+        when: !action.keyed
+    }
     Component.onCompleted: KeyTable.offer(action)
 }

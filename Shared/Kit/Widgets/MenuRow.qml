@@ -14,6 +14,8 @@ Pressable {
     property color ink: Theme.ink
     property string detail
     property bool chevron: true
+    /// Whether what the row leads to is shown beside it.
+    property bool chosen: false
     /// Draws the row as one that cannot be chosen; by default while it is disabled. A table's row sets this and takes
     /// the press itself.
     property bool greyed: !enabled
@@ -127,6 +129,7 @@ Pressable {
                 id: arrow
 
                 visible: row.chevron && !row.greyed
+                chosen: row.chosen
                 anchors.right: parent.right
                 anchors.verticalCenter: parent.verticalCenter
             }

@@ -15,6 +15,8 @@ Item {
     /// Content has slid beneath the bar.
     property bool scrolled: false
     property bool canGoBack: false
+    /// Whether the screen stands in the end column: the way back is the start column's.
+    readonly property bool atEnd: StackPlace.column === StackPlace.End
     property string backTitle
     /// The widest that the content below may be; the buttons stand above its ends.
     property real measure: Theme.measure
@@ -60,7 +62,7 @@ Item {
     PlainButton {
         id: backButton
 
-        visible: bar.canGoBack
+        visible: bar.canGoBack && !bar.atEnd
         readonly property real wantedWidth: backMeasure.advanceWidth + 44
 
         text: bar.backTitleFits ? bar.backTitle : ""

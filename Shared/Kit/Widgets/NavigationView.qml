@@ -5,7 +5,8 @@ import QtQuick
 import Lodestar.Kit
 
 /// Shows a navigation controller and slides its screens in and out. Escape, Alt with the left arrow, the back key and a
-/// swipe from the edge where text starts go back.
+/// swipe from the edge where text starts go back. Of two columns, the arrows that nothing on the screen uses enter the
+/// other.
 FocusScope {
     id: view
 
@@ -14,6 +15,8 @@ FocusScope {
     focus: true
     Keys.onEscapePressed: (event) => view.goBack(event)
     Keys.onBackPressed: (event) => view.goBack(event)
+    Keys.onLeftPressed: (event) => event.accepted = stack.enter(Theme.mirrored)
+    Keys.onRightPressed: (event) => event.accepted = stack.enter(!Theme.mirrored)
 
     function goBack(event: var) {
         event.accepted = view.controller.depth > 1;
@@ -27,6 +30,11 @@ FocusScope {
         enabled: view.visible && view.controller.depth > 1
         onActivated: view.controller.pop()
     }
+    Binding {
+        target: view.controller
+        property: "roomForTwo"
+        value: view.Window.width >= Theme.columnsFrom
+    }
     NavigationStack {
         id: stack
 
@@ -34,9 +42,25 @@ FocusScope {
         page: SceneView {}
         mirrored: Theme.mirrored
         fades: Theme.reducedMotion
+        startWidth: Theme.startColumn
         anchors.fill: parent
         focus: true
         clip: busy
+    }
+    NoContent {
+        visible: stack.endEmpty
+        z: -1
+        x: Theme.mirrored ? 0 : stack.startWidth
+        width: parent.width - stack.startWidth
+        height: parent.height
+        picture: "attention_clear"
+        text: qsTr("Choose what to look at.")
+    }
+    Hairline {
+        visible: stack.split
+        vertical: true
+        height: parent.height
+        x: Theme.mirrored ? parent.width - stack.startWidth : stack.startWidth - width
     }
     NumberAnimation {
         target: stack

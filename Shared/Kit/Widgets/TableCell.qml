@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
+import Lodestar.Kit
 
 /// The root of a table's delegate: the content of one row. Declare `required property var cell` (or a closer type) and
 /// draw; the table adds surface, hairline, press, focus and swipe. A row is as high as the table's row height at the
@@ -17,6 +18,12 @@ Item {
     property var leadingSwipeButtons: []
     /// The leading button that fills the row after a far drag and is chosen when the finger leaves; -1 for none.
     property int leadingSwipeExpansion: -1
+    /// Whether a press opens a screen at once, so that the keys which move through the list in the start column may do so.
+    property bool leadsOn: false
+    /// Whether the row's screen is shown beside the list. The table writes this.
+    property bool chosen: false
+    /// The width of the list, which may be that of a column of the window.
+    readonly property real listWidth: (parent as CellHost)?.listWidth ?? width
     /// Whether a long press, the secondary button and the menu key ask for a menu instead of the buttons.
     property bool offersMenu: false
 }

@@ -9,6 +9,7 @@ QtObject {
     required property TableOutlet table
     required property Component delegate
     required property real sideMargin
+    required property RowChoice choice
     /// The list's current row, and whether the list has the keyboard focus.
     required property int currentIndex
     required property bool listHasKeyboard
@@ -29,6 +30,7 @@ QtObject {
         closeSwipes();
         if (selectable) {
             selectedIndex = index;
+            choice.act(index);
         }
         table.select(index);
     }

@@ -351,7 +351,7 @@ void AttentionNowController::openRow(const FindingRow& row)
     if (!row.isFolded()) {
         openFinding(host(), m_picture->findings.list[row.findings.front()]);
     } else if (stack != nullptr) {
-        stack->pushViewController(makeController<FoldedListController>(m_picture, row), Animated::Yes);
+        stack->open(host(), makeController<FoldedListController>(m_picture, row));
     }
 }
 

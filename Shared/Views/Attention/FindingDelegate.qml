@@ -22,6 +22,7 @@ TableCell {
 
     accessibleText: cell.accessibleText
     selectable: cell.leadsOn || cell.more !== ""
+    leadsOn: cell.leadsOn && cell.more === ""
     swipeButtons: cell.rightButtons
     implicitHeight: cell.more !== "" ? Math.round(44 * Theme.textScale)
                                      : Math.max(Math.round(60 * Theme.textScale), words.height + Math.round(16 * Theme.textScale))
@@ -112,6 +113,8 @@ TableCell {
             text: row.cell.sentence
             size: Theme.captionSize
             color: Theme.ink2
+            fontSizeMode: row.stacked ? Text.FixedSize : Text.HorizontalFit
+            minimumPixelSize: 11
             elide: row.stacked ? Text.ElideNone : Text.ElideRight
             wrapMode: row.stacked ? Text.Wrap : Text.NoWrap
             width: row.stacked ? row.room : row.room - (owner.width > 0 ? owner.width + row.gap : 0)
@@ -138,7 +141,8 @@ TableCell {
         }
     }
     Chevron {
-        visible: row.cell.leadsOn && row.cell.more === ""
+        visible: row.leadsOn
+        chosen: row.chosen
         x: row.place(row.width - Theme.rowEnd - width, width)
         anchors.verticalCenter: parent.verticalCenter
     }

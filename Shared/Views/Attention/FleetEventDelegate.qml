@@ -17,6 +17,7 @@ TableCell {
     readonly property int gap: 12
 
     accessibleText: cell.accessibleText
+    leadsOn: true
     implicitHeight: Math.max(Math.round(60 * Theme.textScale), words.height + Math.round(16 * Theme.textScale))
 
     // Measured separately: an implicit width depends on the width, which depends on these. One point is added because
@@ -133,6 +134,7 @@ TableCell {
         }
     }
     Chevron {
+        chosen: row.chosen
         x: Theme.mirrored ? Theme.rowEnd : row.width - Theme.rowEnd - width
         anchors.verticalCenter: parent.verticalCenter
     }

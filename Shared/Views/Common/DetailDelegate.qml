@@ -3,13 +3,13 @@ import QtQuick
 import Lodestar.Kit
 import Lodestar.Views
 
-/// Draws a fact: the label over its value, or before it where the window is wide.
+/// Draws a fact: the label over its value, or before it where the list is wide.
 TableCell {
     id: row
 
     required property detailCell cell
 
-    readonly property bool wide: !Theme.stacked && Theme.widthClass(Window.width) !== Theme.compactWidth
+    readonly property bool wide: !Theme.stacked && Theme.widthClass(listWidth) !== Theme.compactWidth
     readonly property real column: 240
     readonly property real room: width - Theme.rowStart - Theme.rowEnd - (cell.disclosure ? 24 : 0)
 
@@ -53,6 +53,7 @@ TableCell {
     }
     Chevron {
         visible: row.cell.disclosure
+        chosen: row.chosen
         anchors.right: parent.right
         anchors.rightMargin: Theme.rowEnd
         anchors.verticalCenter: parent.verticalCenter

@@ -11,6 +11,7 @@ TableCell {
 
     accessibleText: cell.title + (cell.detail === "" ? "" : ", " + cell.detail)
     selectable: !cell.rests
+    leadsOn: !cell.rests
     implicitHeight: content.implicitHeight
 
     MenuRow {
@@ -22,6 +23,7 @@ TableCell {
         iconColor: row.cell.rests ? Theme.ink3 : Theme.accentInk
         detail: row.cell.detail
         chevron: !row.cell.rests
+        chosen: row.chosen
         enabled: false
         greyed: false
         pressable: false

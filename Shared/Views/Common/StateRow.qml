@@ -17,6 +17,7 @@ TableCell {
     property cellLabel state
     property string note
     property bool chevron: false
+    leadsOn: chevron
 
     readonly property bool stacked: Theme.stacked
     readonly property real textStart: Theme.rowStart + Math.round((nameStart - Theme.rowStart) * Theme.badgeScale)
@@ -122,6 +123,7 @@ TableCell {
     }
     Chevron {
         visible: row.chevron
+        chosen: row.chosen
         anchors.right: parent.right
         anchors.rightMargin: Theme.rowEnd
         anchors.verticalCenter: parent.verticalCenter

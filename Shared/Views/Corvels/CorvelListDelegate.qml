@@ -17,10 +17,10 @@ TableCell {
     property readingMark none
     // While the scene is torn down, this binding runs once more and finds no controller.
     readonly property readingMark mark: corvels !== null ? corvels.markOf(cell, corvels.marksTurn) : none
-    readonly property bool captioned: !Theme.stacked && Theme.widthClass(Window.width) !== Theme.compactWidth
+    readonly property bool captioned: !Theme.stacked && Theme.widthClass(listWidth) !== Theme.compactWidth
     /// One value per line: with large text, and where the three do not fit beside each other.
     readonly property bool stacked: Theme.stacked || (!captioned && metrics.neededWidth > width - Theme.rowStart - Theme.rowEnd)
-    readonly property bool narrow: Window.width < 375
+    readonly property bool narrow: listWidth < 375
     readonly property real scale100: Theme.textScale
     /// Points kept free at the end for the chevron, even without one, so that columns of all rows are aligned.
     readonly property real trailing: Theme.rowEnd + 24
@@ -28,6 +28,7 @@ TableCell {
     accessibleText: cell.accessibleText + (mark.spoken === "" ? "" : ", " + mark.spoken)
     accessibleDetail: cell.addressLabel.text + (cell.versionLabel.text === "" ? "" : ", " + cell.versionLabel.text)
     selectable: cell.highlights
+    leadsOn: cell.highlights
     swipeButtons: cell.rightButtons
     leadingSwipeButtons: cell.leftButtons
     offersMenu: true
@@ -251,6 +252,7 @@ TableCell {
 
     Chevron {
         visible: !row.cell.selectionArrow.hidden
+        chosen: row.chosen
         anchors.right: parent.right
         anchors.rightMargin: Theme.rowEnd
         anchors.verticalCenter: parent.verticalCenter

@@ -3,6 +3,7 @@
 
 #include "Charts/PieChartView.h"
 #include "Kit/Core/Outlets.h"
+#include "Kit/Core/SpansColumns.h"
 #include "Kit/Core/Table.h"
 #include "Kit/Core/ViewController.h"
 #include "Views/Dashboard/DashboardBars.h"
@@ -19,7 +20,7 @@ namespace lodestar
 /// pies of states, in which tapping a slice only makes it stand out. The dashboard fetches nothing. Each time it
 /// appears, it waits until every console of the working list has been fetched and then shows what the records contain.
 /// Main thread, except for the wait.
-class DashboardTableViewController : public lodestar::ViewController, public ChartViewDelegate
+class DashboardTableViewController : public lodestar::ViewController, public ChartViewDelegate, public SpansColumns
 {
     Q_OBJECT
     QML_ELEMENT

@@ -24,6 +24,7 @@ TableCell {
 
     accessibleText: cell.accessibleText
     selectable: cell.selectable
+    leadsOn: cell.leadsOn
     implicitHeight: cell.more !== "" ? Math.round(44 * Theme.textScale)
                                      : Math.max(Math.round((cell.count !== "" || cell.quiet ? 52 : 50) * Theme.textScale),
                                                 words.height + Math.round((stacked ? 18 : 10) * Theme.textScale))
@@ -161,6 +162,7 @@ TableCell {
     }
     Chevron {
         visible: row.cell.leadsOn
+        chosen: row.chosen
         x: row.place(row.width - Theme.rowEnd - width, width)
         anchors.verticalCenter: parent.verticalCenter
     }

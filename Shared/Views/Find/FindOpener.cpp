@@ -19,7 +19,9 @@ bool isCovered(const ViewController& screen)
 
 void FindOpener::openOver(ViewController* screen)
 {
-    openFind(screen != nullptr ? screen->navigationController() : nullptr, {});
+    if (screen != nullptr) {
+        openFind(*screen, {});
+    }
 }
 
 void FindOpener::openIn(ViewController* root)
@@ -30,7 +32,7 @@ void FindOpener::openIn(ViewController* root)
     }
     auto* const stack = qobject_cast<NavigationController*>(tabs->controllerAt(tabs->selectedIndex()));
     if (stack != nullptr && !isCovered(*stack) && !isCovered(*stack->topViewController())) {
-        openFind(stack, {});
+        openFind(*stack->topViewController(), {});
     }
 }
 

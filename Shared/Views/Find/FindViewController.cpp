@@ -242,22 +242,21 @@ void FindViewController::didSelectRowAtIndexPath(TableKind /*tableView*/, IndexP
     if (!kind.isMore(indexPath.row)) {
         openFound(*this, *m_search, kind.found.at(row));
     } else if (NavigationController* const stack = navigationController()) {
-        stack->pushViewController(makeController<FindListController>(kind.kind, m_searchBar.text().trimmed()),
-                                  Animated::Yes);
+        stack->open(*this, makeController<FindListController>(kind.kind, m_searchBar.text().trimmed()));
     }
     m_tableView.deselectRow(indexPath);
 }
 
-void openFind(NavigationController* stack, const QString& text)
+void openFind(const ViewController& from, const QString& text)
 {
+    NavigationController* const stack = from.navigationController();
     if (stack == nullptr) {
         return;
     }
     if (auto* const shown = qobject_cast<FindViewController*>(stack->topViewController())) {
         shown->look(text);
     } else {
-        stack->pushViewController(Storyboard::main().instantiateViewController(Scenes::findView, {text}),
-                                  Animated::Yes);
+        openScene(from, Scenes::findView, {text});
     }
 }
 

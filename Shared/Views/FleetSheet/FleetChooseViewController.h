@@ -3,6 +3,7 @@
 
 #include "Fleet/FleetSheet.h"
 #include "Kit/Core/Outlets.h"
+#include "Kit/Core/SpansColumns.h"
 #include "Kit/Core/ViewController.h"
 #include "Views/Common/Scenes.h"
 #include "Views/FleetSheet/FleetPasswords.h"
@@ -13,7 +14,7 @@ namespace lodestar
 {
 
 /// What is in a sheet, told before anything is asked; then the passwords. Main thread.
-class FleetChooseViewController : public lodestar::ViewController
+class FleetChooseViewController : public lodestar::ViewController, public SpansColumns
 {
     Q_OBJECT
     QML_ELEMENT

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Kit/Core/Outlets.h"
+#include "Kit/Core/SpansColumns.h"
 #include "Kit/Core/ViewController.h"
 #include "Platform/NotificationCenter.h"
 
@@ -9,7 +10,7 @@ namespace lodestar
 {
 
 /// The entry to fleet sheets: consoles from a sheet, and consoles to one. Main thread.
-class FleetSheetViewController : public lodestar::ViewController
+class FleetSheetViewController : public lodestar::ViewController, public SpansColumns
 {
     Q_OBJECT
     QML_ELEMENT

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "Fleet/FleetSheet.h"
+#include "Kit/Core/SpansColumns.h"
 #include "Kit/Core/Table.h"
 #include "Kit/Core/ViewController.h"
 
@@ -12,7 +13,7 @@ namespace lodestar
 {
 
 /// The rows of a sheet that cannot be used, and why. Main thread.
-class FleetUnusableViewController : public lodestar::ViewController, public TableDataSource
+class FleetUnusableViewController : public lodestar::ViewController, public TableDataSource, public SpansColumns
 {
     Q_OBJECT
     QML_ELEMENT

@@ -4,6 +4,7 @@
 #include "Fleet/FleetSheet.h"
 #include "Kit/Core/Menu.h"
 #include "Kit/Core/Outlets.h"
+#include "Kit/Core/SpansColumns.h"
 #include "Kit/Core/Table.h"
 #include "Kit/Core/ViewController.h"
 
@@ -21,7 +22,7 @@ namespace lodestar
 
 /// Tries the consoles of a sheet, tells how far it is, and then adds all good ones or none. Leaving the screen in any
 /// way stops the trying and adds nothing. Main thread.
-class FleetVerifyViewController : public lodestar::ViewController, public TableDataSource
+class FleetVerifyViewController : public lodestar::ViewController, public TableDataSource, public SpansColumns
 {
     Q_OBJECT
     QML_ELEMENT

@@ -237,10 +237,8 @@ void PCMViewController::setMetrics(std::shared_ptr<const PerformanceMetrics> met
 
 void PCMViewController::openLargeChart()
 {
-    if (m_hasLargeChart && navigationController() != nullptr) {
-        navigationController()->pushViewController(
-            Storyboard::main().instantiateViewController(Scenes::largeChartView, {m_sysName, m_metrics, segment()}),
-            Animated::Yes);
+    if (m_hasLargeChart) {
+        openScene(*this, Scenes::largeChartView, {m_sysName, m_metrics, segment()});
     }
 }
 

@@ -1,0 +1,110 @@
+// SPDX-License-Identifier: Apache-2.0
+#include "Inventory/ManagedSystem.h"
+#include "Kit/Core/NavigationController.h"
+#include "Tools/Screenshots/Looks.h"
+#include "Tools/Screenshots/NightFleet.h"
+#include "Views/Attention/AttentionViewController.h"
+#include "Views/ManagedSystems/MSListViewController.h"
+#include "Views/ManagedSystems/PCM/PCMViewController.h"
+
+namespace lodestar::scenes
+{
+namespace
+{
+
+/// Chooses the row that shows the text, as a press does.
+void choose(SceneStage& stage, const char* text)
+{
+    for (QQuickItem* item : stage.items("QQuickText")) {
+        if (item->property("text") != QString::fromLatin1(text)) {
+            continue;
+        }
+        while (item != nullptr && !QByteArray(item->metaObject()->className()).startsWith("TableRow")) {
+            item = item->parentItem();
+        }
+        if (item != nullptr) {
+            QMetaObject::invokeMethod(item, "accessiblePressed");
+            stage.settle();
+            return;
+        }
+    }
+    qWarning("No row shows %s", text);
+}
+
+void openAttention(SceneStage& stage)
+{
+    showNight(stage, Night::Morning);
+    showAttention(stage.tabs());
+    stage.settle();
+}
+
+/// The systems of the night's second console, by its menu.
+MSListViewController& openSystems(SceneStage& stage)
+{
+    showNight(stage, Night::Morning);
+    stage.settle();
+    choose(stage, "Harbour B");
+    choose(stage, "Managed Systems");
+    return *qobject_cast<MSListViewController*>(stage.list().navigationController()->topViewController());
+}
+
+void openChart(SceneStage& stage)
+{
+    const CorvelRef corvel = demoConsole();
+    const auto id = ManagedSystem::identifierAt(feedOfType(*corvel, ObjectType::ManagedSystem), 0);
+    auto& performance = *stage.open<PCMViewController>(
+        Scenes::pcmDataView, {.corvel = corvel, .sysName = std::string("helios-01"), .systemID = id});
+    stage.waitFor([&] { return !performance.chartView()->isHidden(); });
+    performance.openLargeChart();
+    stage.settle(3300); // a little more than the chart takes to grow in
+}
+
+} // namespace
+
+std::vector<Look> wideLooks()
+{
+    return {
+        {.name = "wide-empty", .consoles = {}, .prepare = &openAttention, .lies = true, .isWide = true},
+        {.name = "wide-attention",
+         .consoles = {},
+         .prepare =
+             [](SceneStage& stage) {
+                 openAttention(stage);
+                 choose(stage, "Northfield Recovery Site");
+             },
+         .lies = true,
+         .isWide = true},
+        {.name = "wide-consoles",
+         .consoles = {},
+         .prepare =
+             [](SceneStage& stage) {
+                 showNight(stage, Night::Morning);
+                 stage.settle();
+                 choose(stage, "Harbour B");
+             },
+         .lies = true,
+         .isWide = true},
+        {.name = "wide-systems",
+         .consoles = {},
+         .prepare =
+             [](SceneStage& stage) {
+                 MSListViewController& systems = openSystems(stage);
+                 choose(stage, "helios-03");
+                 systems.actionSheet()->choose(0);
+             },
+         .lies = true,
+         .isWide = true},
+        {.name = "wide-partitions",
+         .consoles = fleet(),
+         .prepare =
+             [](SceneStage& stage) {
+                 stage.openList(Scenes::logicalPartitionsView, {.corvel = demoConsole(), .partitionName = {}});
+                 choose(stage, "mail-relay");
+             },
+         .lies = true,
+         .isWide = true},
+        {.name = "wide-chart", .consoles = fleet(), .prepare = &openChart, .lies = true, .isWide = true},
+    };
+}
+
+} // namespace lodestar::scenes
