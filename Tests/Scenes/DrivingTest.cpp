@@ -243,15 +243,25 @@ TEST_F(DrivingTest, AFieldsMenuPastesAndASecretIsShownOnDemandAloneAndNeverCopie
 
 TEST_F(DrivingTest, AWideWindowsChoicesComeUpByThePress)
 {
-    stage.show({1280, 800}, fleet());
+    stage.show({900, 800}, fleet());
     stage.openList(Scenes::managedSystemsView, demoConsole());
     const QPoint at = centerOf(row(1));
     click(row(1));
     ASSERT_TRUE(waitForButton("System Information"));
     stage.settle(300);
-    const QRectF first = button("System Information")->mapRectToScene(button("System Information")->boundingRect());
-    EXPECT_LT(std::abs(first.top() - at.y()), 80);
-    EXPECT_TRUE(first.left() < at.x() && at.x() < first.right());
+    const auto expectBeside = [&](const char* asked) {
+        const QQuickItem* const choice = button("System Information");
+        const QRectF first = choice->mapRectToScene(choice->boundingRect());
+        EXPECT_LT(std::abs(first.top() - at.y()), 80) << asked;
+        EXPECT_TRUE(first.left() < at.x() && at.x() < first.right()) << asked;
+    };
+    expectBeside("by the pointer");
+    press(Qt::Key_Escape);
+    ASSERT_TRUE(stage.waitFor([this] { return button("System Information") == nullptr; }));
+    press(Qt::Key_Return);
+    ASSERT_TRUE(waitForButton("System Information"));
+    stage.settle(300);
+    expectBeside("by a key, beside its row");
 }
 
 TEST_F(DrivingTest, TheDashboardLoadsAndReadsFromTheSideWhereReadingBegins)

@@ -55,8 +55,11 @@ MenuPopup {
     opacity: nearPress ? slide : 1
 
     onAboutToShow: {
-        nearPress = LastPress.isRecent() && parent.width >= 600;
-        press = LastPress.position();
+        // Asked for by a key, they come up at the row or the button that has the keyboard.
+        const asked = keyboard.before as AccessibleItem;
+        nearPress = parent.width >= 600 && (LastPress.isRecent() || asked !== null);
+        press = LastPress.isRecent() || asked === null ? LastPress.position()
+                                                       : asked.mapToItem(null, asked.width / 2, asked.height / 2);
     }
     onAboutToHide: {
         // A press beside the sheet closed it.
