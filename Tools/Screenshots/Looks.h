@@ -60,6 +60,8 @@ std::vector<Look> copyLooks();
 std::vector<Look> fleetSheetLooks();
 /// Two screens side by side.
 std::vector<Look> wideLooks();
+/// The help for the keyboard, the commands, what the pointer and the keyboard point out, and the demonstration alone.
+std::vector<Look> keyLooks();
 /// The passcode screen, the settings and the passcode sheet.
 std::vector<Look> lockLooks();
 

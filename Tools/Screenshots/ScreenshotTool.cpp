@@ -21,6 +21,7 @@
 #include <QGuiApplication>
 #include <QRegularExpression>
 #include <QSet>
+#include <QStyleHints>
 
 #include <cstdio>
 #include <optional>
@@ -162,6 +163,7 @@ std::vector<Variant> variantsOf(const Look& look)
                                          {lying, "844-dark", true},
                                          {lying, "844-text200", false, 2},
                                          {lying, "844-rtl", false, 1, true}});
+    }
     if (look.isWide) {
         const QSize wide(1280, 800);
         variants.insert(variants.end(), {{wide, "1280"},
@@ -237,6 +239,7 @@ int main(int argc, char** argv)
     qputenv("TZ", "UTC");
     const QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationVersion(QStringLiteral("1.0"));
+    QGuiApplication::styleHints()->setUseHoverEffects(true); // as where there is a pointer
     const MainLoop mainLoop;
     QStringList arguments = QGuiApplication::arguments();
     const qsizetype language = arguments.indexOf(QStringLiteral("--language"));
@@ -261,9 +264,10 @@ int main(int argc, char** argv)
         order.names = picturesOfPages(order.folder);
     }
     QSet<QString> drawn;
-    for (const auto& looks : {consoleLooks(), editorLooks(), dashboardLooks(), inventoryLooks(), groupedLooks(),
-                              eventAndGroupLooks(), performanceLooks(), aboutLooks(), lockLooks(), feedbackLooks(),
-                              attentionLooks(), findLooks(), connectionLooks(), copyLooks(), fleetSheetLooks(), wideLooks()}) {
+    for (const auto& looks :
+         {consoleLooks(), editorLooks(), dashboardLooks(), inventoryLooks(), groupedLooks(), eventAndGroupLooks(),
+          performanceLooks(), aboutLooks(), lockLooks(), feedbackLooks(), attentionLooks(), findLooks(),
+          connectionLooks(), copyLooks(), fleetSheetLooks(), keyLooks(), wideLooks()}) {
         for (const Look& look : looks) {
             for (const Variant& variant : variantsOf(look)) {
                 const QString name = QString::fromLatin1(look.name) + '-' + variant.suffix + ".png";
