@@ -139,6 +139,38 @@ TEST_F(LockedWindowTest, FindOpensFromAnywhereButNotBehindTheLock)
     EXPECT_EQ(stack.depth(), 2);
 }
 
+TEST_F(LockedWindowTest, KeysOpenHelpCommandsSettingsAndTabsButNotBehindTheLock)
+{
+    open(true);
+    press(Qt::Key_F1);
+    ASSERT_NE(login(), nullptr);
+    EXPECT_EQ(login()->semiModal(), nullptr);
+    unlock();
+    settle(300);
+    auto& tabs = *qobject_cast<TabBarController*>(window().rootViewController());
+    press(Qt::Key_Question);
+    ASSERT_NE(tabs.semiModal(), nullptr);
+    EXPECT_EQ(tabs.semiModal()->controller()->title(), QStringLiteral("Keyboard"));
+    settle(300);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(tabs.semiModal(), nullptr);
+    settle(300);
+    press(Qt::Key_P, Qt::ControlModifier | Qt::ShiftModifier);
+    ASSERT_NE(tabs.semiModal(), nullptr);
+    settle(300);
+    type(QStringLiteral("settings?"));
+    press(Qt::Key_Backspace);
+    press(Qt::Key_Return);
+    EXPECT_EQ(tabs.semiModal(), nullptr);
+    settle(300);
+    const NavigationController& stack = *list().navigationController();
+    EXPECT_NE(qobject_cast<SettingsViewController*>(stack.topViewController()), nullptr);
+    press(Qt::Key_Comma, Qt::ControlModifier);
+    EXPECT_EQ(stack.depth(), 2) << "is there already";
+    press(Qt::Key_3, Qt::ControlModifier);
+    EXPECT_EQ(tabs.selectedIndex(), 2);
+}
+
 TEST_F(LockedWindowTest, ComesBackWhereItStoodAndWithTheButtonThatItsDeviceNeeds)
 {
     std::unique_ptr<WindowPlace> place;
