@@ -3,6 +3,7 @@
 
 #include "Application/KeptState.h"
 
+#include <QCryptographicHash>
 #include <QGuiApplication>
 #include <QScreen>
 #include <QStringList>
@@ -10,22 +11,60 @@
 
 #include <algorithm>
 #include <chrono>
+#include <optional>
+#include <string>
+#include <utility>
 
 namespace lodestar
 {
 namespace
 {
 
-constexpr auto placeKey = "window"; ///< x, y, width and height, in points
+/// The last place of all: x, y, width and height, in points, and whether the window filled the screen. For screens that
+/// were never met before.
+constexpr auto lastKey = "window";
 constexpr auto maximizedKey = "windowIsMaximized";
 
-/// Empty when no place is kept.
-QRect keptPlace()
+struct Place {
+    QRect rect;
+    bool isMaximized = false;
+};
+
+std::optional<Place> keptPlace(const std::string& key, bool isMaximized)
 {
-    const std::string kept = KeptState::shared().stringForKey(placeKey).value_or("");
+    const std::string kept = KeptState::shared().stringForKey(key).value_or("");
     const QStringList numbers = QString::fromStdString(kept).split(u' ');
-    return numbers.size() == 4 ? QRect(numbers[0].toInt(), numbers[1].toInt(), numbers[2].toInt(), numbers[3].toInt())
-                               : QRect();
+    if (numbers.size() < 4) {
+        return {};
+    }
+    const QRect rect(numbers[0].toInt(), numbers[1].toInt(), numbers[2].toInt(), numbers[3].toInt());
+    return rect.isEmpty() ? std::nullopt : std::optional(Place{rect, isMaximized || numbers.size() > 4});
+}
+
+/// The key of the place on the screens that are there now. Their names and geometries are told apart, not kept.
+std::string setUpKey()
+{
+    QStringList screens;
+    for (const QScreen* screen : QGuiApplication::screens()) {
+        const QRect area = screen->geometry();
+        screens << QStringLiteral("%1 %2 %3 %4 %5")
+                       .arg(screen->name())
+                       .arg(area.x())
+                       .arg(area.y())
+                       .arg(area.width())
+                       .arg(area.height());
+    }
+    screens.sort();
+    constexpr int enough = 12; // hexadecimal digits
+    const QByteArray hash =
+        QCryptographicHash::hash(screens.join(u'\n').toUtf8(), QCryptographicHash::Sha256).toHex().left(enough);
+    return std::string(lastKey) + "." + hash.toStdString();
+}
+
+/// Whether windows know where they stand. On Wayland they do not, and are not asked.
+bool arePlacesKnown()
+{
+    return !QGuiApplication::platformName().startsWith(QLatin1String("wayland"));
 }
 
 /// The screen on which enough of the window's upper edge lies to move the window by it; null when there is none.
@@ -50,14 +89,20 @@ void bringToFront(QWindow& window)
     window.requestActivate();
 }
 
-WindowPlace::WindowPlace(QWindow& window) : m_window(window)
+WindowPlace::WindowPlace(QWindow& window) : m_window(window), m_resting(window.geometry())
 {
     restore();
     // A maximised window is told its new size before its new state; the timer lets both arrive.
     constexpr std::chrono::milliseconds settling{500};
     m_settled.setSingleShot(true);
     m_settled.setInterval(settling);
-    connect(&m_settled, &QTimer::timeout, this, &WindowPlace::remember);
+    connect(&m_settled, &QTimer::timeout, this, &WindowPlace::settle);
+    const auto screensChanged = [this] {
+        m_screensChanged = true;
+        m_settled.start();
+    };
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, screensChanged);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, screensChanged);
     const auto changed = [this] { m_settled.start(); };
     connect(&window, &QWindow::xChanged, this, changed);
     connect(&window, &QWindow::yChanged, this, changed);
@@ -69,41 +114,60 @@ WindowPlace::WindowPlace(QWindow& window) : m_window(window)
 WindowPlace::~WindowPlace()
 {
     if (m_settled.isActive()) {
-        remember();
+        settle();
     }
 }
 
 void WindowPlace::restore()
 {
-    const QRect place = keptPlace();
-    if (place.isEmpty()) {
+    std::optional<Place> kept = keptPlace(setUpKey(), false);
+    if (!kept) {
+        kept = keptPlace(lastKey, KeptState::shared().boolForKey(maximizedKey));
+    }
+    if (!kept) {
         return;
     }
-    const QScreen* const screen = screenOf(place);
+    const QScreen* const screen = screenOf(kept->rect);
     const QScreen& sizeOf = screen != nullptr ? *screen : *m_window.screen();
-    m_window.resize(place.size().boundedTo(sizeOf.availableSize()));
-    if (screen != nullptr) {
-        m_window.setFramePosition(place.topLeft());
+    m_window.resize(kept->rect.size().boundedTo(sizeOf.availableSize()));
+    if (screen != nullptr && arePlacesKnown()) {
+        m_window.setFramePosition(kept->rect.topLeft());
     }
-    if (KeptState::shared().boolForKey(maximizedKey)) {
-        m_window.setWindowStates(Qt::WindowMaximized);
-    }
+    m_window.setWindowStates(kept->isMaximized ? Qt::WindowMaximized : Qt::WindowNoState);
+    m_resting = kept->rect;
 }
 
-void WindowPlace::remember()
+void WindowPlace::settle()
 {
     const Qt::WindowStates states = m_window.windowStates();
     if (states.testFlag(Qt::WindowMinimized) || states.testFlag(Qt::WindowFullScreen)) {
         return;
     }
-    const bool maximized = states.testFlag(Qt::WindowMaximized);
-    KeptState::shared().setBool(maximized, maximizedKey);
-    if (!maximized) {
-        const QPoint place = m_window.framePosition();
-        const QString kept = QStringLiteral("%1 %2 %3 %4");
-        KeptState::shared().setString(
-            kept.arg(place.x()).arg(place.y()).arg(m_window.width()).arg(m_window.height()).toStdString(), placeKey);
+    // With screens that are known, the window goes back to where it stood on them; with others, it stays where the
+    // system has put it.
+    if (std::exchange(m_screensChanged, false) && keptPlace(setUpKey(), false)) {
+        restore();
+    } else {
+        remember();
     }
+}
+
+void WindowPlace::remember()
+{
+    const bool isMaximized = m_window.windowStates().testFlag(Qt::WindowMaximized);
+    if (!isMaximized) {
+        const QPoint place = arePlacesKnown() ? m_window.framePosition() : m_resting.topLeft();
+        m_resting = QRect(place, m_window.size());
+    }
+    const QString rect = QStringLiteral("%1 %2 %3 %4")
+                             .arg(m_resting.x())
+                             .arg(m_resting.y())
+                             .arg(m_resting.width())
+                             .arg(m_resting.height());
+    UserDefaults& kept = KeptState::shared();
+    kept.setString((isMaximized ? rect + QStringLiteral(" maximized") : rect).toStdString(), setUpKey());
+    kept.setString(rect.toStdString(), lastKey);
+    kept.setBool(isMaximized, maximizedKey);
 }
 
 } // namespace lodestar

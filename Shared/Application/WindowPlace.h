@@ -2,6 +2,7 @@
 #pragma once
 
 #include <QObject>
+#include <QRect>
 #include <QTimer>
 
 class QWindow;
@@ -12,9 +13,9 @@ namespace lodestar
 /// Shows the window above the others, also when it is minimised or hidden, and asks for the keyboard focus.
 void bringToFront(QWindow& window);
 
-/// Gives a window the size and place that it had when the application last ran, as far as today's screens allow, and
-/// remembers later changes in `KeptState`. Of a maximised window it keeps the place to which the window returns. Main
-/// thread.
+/// Gives a window the size and place that it last had on the screens that are there now, or on any when these are new,
+/// as far as they allow, and remembers later changes in `KeptState`. Of a maximised window it keeps the place to which
+/// the window returns; where windows do not know their place, as on Wayland, only the size. Main thread.
 class WindowPlace : public QObject
 {
 public:
@@ -26,10 +27,13 @@ public:
 
 private:
     void restore();
+    void settle();
     void remember();
 
     QWindow& m_window;
     QTimer m_settled;
+    QRect m_resting; ///< the place when not maximised
+    bool m_screensChanged = false;
 };
 
 } // namespace lodestar

@@ -197,9 +197,16 @@ TEST_F(LockedWindowTest, ComesBackWhereItStoodAndWithTheButtonThatItsDeviceNeeds
     EXPECT_EQ(window().size(), QSize(500, 600)) << "what it goes back to";
     EXPECT_EQ(window().framePosition(), stood);
 
-    // A screen that is not there any more, and was larger.
+    // With other screens it stood elsewhere since; with these it is back where it was.
     place.reset();
     KeptState::shared().setString("5000 40 3000 600", "window");
+    start();
+    EXPECT_EQ(window().size(), QSize(500, 600));
+    EXPECT_EQ(window().framePosition(), stood);
+
+    // Screens that are new, after one that is not there any more and was larger.
+    place.reset();
+    std::ofstream(folder.file("Lodestar.state")) << "[Strings]\nwindow=5000 40 3000 600\n";
     start();
     EXPECT_TRUE(window().screen()->availableGeometry().contains(window().geometry()));
     EXPECT_EQ(window().height(), 600);
