@@ -4,6 +4,7 @@
 #include "Application/Model/StoreStack.h"
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
+#include "Fleet/History.h"
 #include "Fleet/Registry.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Platform/UserDefaults.h"
@@ -28,7 +29,7 @@ inline simulator::Settings settingsOf(int consoles)
     return {.consoles = consoles, .feedBytes = 20'000, .recordCap = 0};
 }
 
-/// Simulated consoles, the real client, and a folder with store and log. Main thread.
+/// Simulated consoles, the real client, and a folder with store, history and log. Main thread.
 class Drive
 {
 public:
@@ -37,6 +38,8 @@ public:
     {
         MainQueue::shared().adoptCurrentThread();
         StoreStack::shared().setApplicationDocumentsDirectory(m_folder.file("Documents"));
+        // Without its file the history keeps up to 10,000 changes in memory, which would look like a leak.
+        History::shared().open(m_folder.file("Documents"));
         VireoLogger::openLogFolder(m_folder.file("Logs"));
         m_listener = VireoLogger::addListener([this](const VireoLogger::Entry& entry) {
             const std::lock_guard lock(m_mutex);
@@ -67,6 +70,7 @@ public:
         saveIgnoringErrors();
         RESTHandler::sharedInstance().setCorvelList({});
         StoreStack::shared().close();
+        History::shared().close();
         checkStored();
         m_listener.reset();
         VireoLogger::openLogFolder("/dev/null/nowhere");
