@@ -176,6 +176,7 @@ class Walk(unittest.TestCase):
                            ("list item", "helios-01, .*"), ("menu item", "Performance Monitoring"),
                            ("push button", "Large Chart")):
             screen.press(role, name)
+        screen.hears("helios-01, .* - .*")  # where nothing has the keyboard
         screen.one("chart", "Total, .*").focus()
         screen.key(HOME)
         screen.hears(r"21:44:00, total 16, allocated 11, used 4\.72")
