@@ -231,6 +231,7 @@ TEST_F(FleetSheetScreensTest, WhatIsNoSheetIsSaidAndLeavingAddsNothing)
     list->lookAtDemo();
     EXPECT_FALSE(list->tableView()->isHidden());
     EXPECT_THAT(storedNames(), ElementsAre("Demo Corvel"));
+    EXPECT_EQ(list->countLabel()->text(), "") << "a sheet of the demonstration alone has no row";
 }
 
 } // namespace

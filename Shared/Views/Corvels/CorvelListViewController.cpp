@@ -6,6 +6,7 @@
 #include "Controllers/REST/RESTHandler.h"
 #include "Feedback/VireoLogger.h"
 #include "Fleet/Attention.h"
+#include "Fleet/FleetSheet.h"
 #include "Fleet/ObjectTable.h"
 #include "Fleet/Readings.h"
 #include "Fleet/Registry.h"
@@ -337,7 +338,9 @@ void CorvelListViewController::showFleet()
 
 void CorvelListViewController::showCount()
 {
-    m_countLabel.setText(FleetSheetText::consoles(static_cast<std::size_t>(m_tableView.rows())));
+    // What a sheet of this list would hold: the demonstration console is in none.
+    const std::size_t count = fleetSheetOf(RESTHandler::sharedInstance().corvelList()).rows.size();
+    m_countLabel.setText(count == 0 ? QString() : FleetSheetText::consoles(count));
     m_nextSteps.setHidden(m_tableView.rows() != 1 || !hasDemo());
 }
 

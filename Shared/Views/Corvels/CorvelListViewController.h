@@ -52,7 +52,7 @@ public:
     /// The menu of one row: Connection, Attention, Copy Address.
     MenuOutlet* rowMenu() { return &m_rowMenu; }
     ListShare* share() { return &m_share; }
-    /// "6 consoles".
+    /// "6 consoles": how many a fleet sheet of the list holds. Empty when it would hold none.
     LabelOutlet* countLabel() { return &m_countLabel; }
     /// What to do next, below a list that has the demonstration console alone.
     ViewOutlet* nextSteps() { return &m_nextSteps; }
