@@ -170,7 +170,10 @@ TEST_P(GeometryTest, Dashboard)
 
 TEST_P(GeometryTest, Inventory)
 {
-    stage.show(size(), fleet());
+    // A wide window shows the list of consoles beside the first screen, and none of them must turn a spinner.
+    std::vector<ConsoleLook> consoles = fleet();
+    consoles[2].state = ConsoleLook::State::Online;
+    stage.show(size(), consoles);
     const CorvelRef corvel = demoConsole();
     const auto objectAt = [&](std::string_view type, std::size_t place) {
         return contentOf(feedOfType(*corvel, type).entries().at(place), type);
