@@ -159,6 +159,11 @@ TEST_F(AttentionSceneTest, TheSheetIsWorkedByKeysAndSegmentsAndTabsSayWhatTheyAr
     }
     EXPECT_EQ(attention->segmentedControl()->selectedSegmentIndex(), 0);
     EXPECT_TRUE(waitForText("6 partitions"));
+    // What a segment shows leaves the keyboard with the segment.
+    press(Qt::Key_Right);
+    press(Qt::Key_Right);
+    EXPECT_EQ(attention->segmentedControl()->selectedSegmentIndex(), 2);
+    EXPECT_TRUE(button("Events")->hasActiveFocus());
 }
 
 } // namespace

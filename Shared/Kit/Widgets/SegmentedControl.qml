@@ -24,10 +24,12 @@ Rectangle {
     Accessible.role: Accessible.PageTabList
     Accessible.name: label
 
-    function choose(index: int) {
+    /// The keyboard goes to the chosen segment, also where what it shows would take it: Tab and the arrows go on here.
+    function choose(index: int, byKeys: bool) {
         if (index !== currentIndex && index >= 0 && index < titles.length) {
             currentIndex = index;
             activated(index);
+            segments.itemAt(index)?.forceActiveFocus(byKeys ? Qt.TabFocusReason : Qt.MouseFocusReason);
         }
     }
 
@@ -36,6 +38,8 @@ Rectangle {
         anchors.margins: 2
 
         Repeater {
+            id: segments
+
             model: control.titles
 
             Pressable {
@@ -52,9 +56,9 @@ Rectangle {
                 Accessible.name: text
                 Accessible.selectable: true
                 Accessible.selected: chosen
-                onClicked: control.choose(index)
-                Keys.onLeftPressed: control.choose(control.currentIndex + (Theme.mirrored ? 1 : -1))
-                Keys.onRightPressed: control.choose(control.currentIndex + (Theme.mirrored ? -1 : 1))
+                onClicked: control.choose(index, visualFocus)
+                Keys.onLeftPressed: control.choose(index + (Theme.mirrored ? 1 : -1), true)
+                Keys.onRightPressed: control.choose(index + (Theme.mirrored ? -1 : 1), true)
 
                 BoxShadow {
                     visible: segment.chosen && !Theme.dark
