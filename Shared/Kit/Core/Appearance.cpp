@@ -6,9 +6,11 @@
 #include <QEvent>
 #include <QFontMetricsF>
 #include <QGuiApplication>
+#include <QHash>
 #include <QPalette>
 #include <QQmlEngine>
 #include <QScreen>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cmath>
@@ -37,6 +39,34 @@ double textScaleOfScreen()
 bool isTextScaledByPlatform()
 {
     return QGuiApplication::platformName() == QLatin1String("xcb");
+}
+
+/// Whether the application's own face lacks the letter, as far as scripts tell; what lies between them are signs.
+bool isOfAnotherFace(QChar letter)
+{
+    constexpr char16_t firstForeign = 0x0590;
+    constexpr char16_t firstSign = 0x2000;
+    constexpr char16_t lastSign = 0x2bff;
+    const char16_t code = letter.unicode();
+    return code >= firstForeign && (code < firstSign || code > lastSign) && !letter.isSurrogate();
+}
+
+/// How far above its line the face begins that supplies the letter. Scripts have one face each, and are measured once.
+double ascentOf(QChar letter, const QFont& font)
+{
+    static QHash<std::pair<int, int>, double> known;
+    const std::pair<int, int> key(font.pixelSize(), letter.script());
+    if (const auto found = known.constFind(key); found != known.constEnd()) {
+        return *found;
+    }
+    QTextLayout layout(QString(letter), font);
+    layout.beginLayout();
+    QTextLine line = layout.createLine();
+    line.setLineWidth(font.pixelSize() * 2); // a line has no height before
+    const double ascent = line.ascent();
+    layout.endLayout();
+    known.insert(key, ascent);
+    return ascent;
 }
 
 } // namespace
@@ -85,12 +115,16 @@ bool Appearance::isReducedMotion() const
     return m_reducedMotion.value_or(m_systemReducedMotion);
 }
 
-double Appearance::textDrop(int pixelSize, double lineHeight, double devicePixelRatio) const
+double Appearance::textDrop(int pixelSize, double lineHeight, double devicePixelRatio, const QString& text) const
 {
-    const QFontMetricsF metrics(UIFont::systemFontOfSize(pixelSize));
+    const QFont font = UIFont::systemFontOfSize(pixelSize);
+    const QFontMetricsF metrics(font);
     const double baseline = (lineHeight + metrics.capHeight()) / 2;
     const double ratio = std::max(1.0, devicePixelRatio);
-    return std::round(baseline * ratio) / ratio - metrics.ascent();
+    const auto* const foreign = std::ranges::find_if(text, &isOfAnotherFace);
+    const double ascent =
+        foreign != text.end() ? std::max(metrics.ascent(), ascentOf(*foreign, font)) : metrics.ascent();
+    return std::round(baseline * ratio) / ratio - ascent;
 }
 
 bool Appearance::eventFilter(QObject* watched, QEvent* event)

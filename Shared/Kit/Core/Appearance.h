@@ -41,8 +41,10 @@ public:
     bool isReducedMotion() const;
 
     /// How far below the top of a line a text of this size starts, so that its capitals are centred in the line and
-    /// stand on a device pixel. In points.
-    Q_INVOKABLE double textDrop(int pixelSize, double lineHeight, double devicePixelRatio) const;
+    /// stand on a device pixel. In points. A text with letters that another face supplies stands on the same line: such
+    /// a face, of Japanese or Arabic, begins higher above it.
+    Q_INVOKABLE double textDrop(int pixelSize, double lineHeight, double devicePixelRatio,
+                                const QString& text = {}) const;
 
     /// Takes a setting of the desktop, once the desktop has told it.
     void setSystemReducedMotion(bool reduced) { set(m_systemReducedMotion, reduced); }

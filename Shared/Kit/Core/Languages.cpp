@@ -29,7 +29,7 @@ QString firstOf(const QStringList& wanted)
 {
     const QStringList all = Languages::all();
     for (const QString& each : wanted) {
-        const QString language = each.section(QLatin1Char('-'), 0, 0).section(QLatin1Char('_'), 0, 0).toLower();
+        QString language = each.section(QLatin1Char('-'), 0, 0).section(QLatin1Char('_'), 0, 0).toLower();
         if (all.contains(language)) {
             return language;
         }

@@ -88,6 +88,8 @@ Pressable {
             size: Theme.stateSize
             color: chip.ink
             width: Math.min(Math.ceil(measure.advanceWidth) + 1, chip.room - 24 - chip.tickSpace - chip.strokeSpace - chip.countSpace)
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 10
             elide: Text.ElideMiddle
             Accessible.ignored: true
         }

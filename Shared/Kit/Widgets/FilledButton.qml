@@ -38,7 +38,10 @@ Pressable {
         // The same colour as if the whole button were drawn at 40 % on a card.
         color: button.enabled ? Theme.fillInk : Qt.tint(Theme.card, Qt.rgba(Theme.fillInk.r, Theme.fillInk.g, Theme.fillInk.b, 0.4))
         anchors.centerIn: parent
-        width: Math.min(implicitWidth, parent.width)
+        width: parent.width
+        horizontalAlignment: Text.AlignHCenter
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 10
         elide: Text.ElideRight
         Accessible.ignored: true
     }

@@ -14,7 +14,7 @@ Text {
 
     readonly property bool shrinks: fontSizeMode !== Text.FixedSize
     readonly property int drawnSize: shrinks ? fittedSize() : font.pixelSize
-    readonly property real drop: Appearance.textDrop(drawnSize, lineHeight, Screen.devicePixelRatio)
+    readonly property real drop: Appearance.textDrop(drawnSize, lineHeight, Screen.devicePixelRatio, text)
 
     /// A function of its own, so that the binding around it is still compiled.
     function fittedSize(): int {

@@ -17,9 +17,12 @@ Item {
     readonly property bool wantsMore: detail !== "" || note !== ""
     /// Set by the SectionHeaderMore.
     property real detailWidth: 0
+    property real detailHeight: 0
     property real noteHeight: 0
+    readonly property alias shownText: label.text
+    readonly property alias shownFont: label.font
 
-    implicitHeight: space + label.implicitHeight + noteHeight + 8
+    implicitHeight: space + label.implicitHeight + detailHeight + noteHeight + 8
     Accessible.role: Accessible.Heading
     Accessible.name: text + (note === "" ? "" : ", " + note) + (detail === "" ? "" : ", " + detail)
 
@@ -35,8 +38,8 @@ Item {
     Label {
         id: label
 
-        // A console may send line breaks or a very long name; the header shows one line and no more text than a line
-        // can hold.
+        // A console may send line breaks or a very long name; the header shows one line, or two of large text, and no
+        // more text than a line can hold.
         text: header.text.slice(0, 300).replace(/\s+/g, " ").trim()
         size: header.note !== "" ? Theme.stateSize : Theme.captionSize
         color: header.note !== "" ? Theme.ink : Theme.ink2
@@ -45,8 +48,10 @@ Item {
         anchors.right: parent.right
         anchors.rightMargin: header.detailWidth > 0 ? Theme.rowStart + header.detailWidth + 12 : Theme.rowEnd
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 8 + header.noteHeight
-        elide: Text.ElideMiddle
+        anchors.bottomMargin: 8 + header.detailHeight + header.noteHeight
+        wrapMode: Theme.stacked ? Text.Wrap : Text.NoWrap
+        maximumLineCount: Theme.stacked ? 2 : 1
+        elide: Theme.stacked ? Text.ElideRight : Text.ElideMiddle
         Accessible.ignored: true
     }
     // Made on first use, because each row of a list has a header, and most have nothing but a title.

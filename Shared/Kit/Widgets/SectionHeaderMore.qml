@@ -2,16 +2,37 @@
 import QtQuick
 import Lodestar.Kit
 
-/// What a SectionHeader may have beside its title: a detail at the end, and a note below.
+/// What a SectionHeader may have beside its title: a detail at the end, and a note below. A detail that large text leaves
+/// no room for stands on a line of its own.
 Item {
     id: more
 
     required property SectionHeader header
 
+    readonly property bool below: Theme.stacked && detail.visible
+                                  && title.advanceWidth + 12 + words.advanceWidth > width - 2 * Theme.rowStart
+
+    TextMetrics {
+        id: title
+
+        font: more.header.shownFont
+        text: more.header.shownText
+    }
+    TextMetrics {
+        id: words
+
+        font: detail.font
+        text: detail.text
+    }
     Binding {
         target: more.header
         property: "detailWidth"
-        value: detail.text !== "" ? detail.implicitWidth : 0
+        value: detail.visible && !more.below ? detail.implicitWidth : 0
+    }
+    Binding {
+        target: more.header
+        property: "detailHeight"
+        value: more.below ? detail.height : 0
     }
     Binding {
         target: more.header
@@ -29,6 +50,8 @@ Item {
         anchors.rightMargin: Theme.rowStart
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 8 + more.header.noteHeight
+        width: more.below ? parent.width - 2 * Theme.rowStart : implicitWidth
+        wrapMode: more.below ? Text.Wrap : Text.NoWrap
         Accessible.ignored: true
     }
     Label {

@@ -95,6 +95,9 @@ Rectangle {
                     anchors.verticalCenter: parent.verticalCenter
                     width: parent.width
                     horizontalAlignment: Text.AlignHCenter
+                    // A segment cannot grow; a long word is drawn smaller.
+                    fontSizeMode: Text.HorizontalFit
+                    minimumPixelSize: 10
                     elide: Text.ElideMiddle
                     Accessible.ignored: true
                 }

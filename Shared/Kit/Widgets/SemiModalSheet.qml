@@ -159,6 +159,8 @@ OverlayPopup {
             id: titleLabel
 
             readonly property real side: Math.max(cancelButton.width, saveButton.width)
+            /// Off the middle where a long word at one side would leave too little there.
+            readonly property bool centred: parent.width - 2 * side >= titleMeasure.advanceWidth + 1
 
             text: sheet.sheetContent !== null && sheet.sheetContent.title !== "" ? sheet.sheetContent.title
                                                                                  : host.controller?.title ?? ""
@@ -168,10 +170,16 @@ OverlayPopup {
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: 8
             elide: Text.ElideMiddle
-            x: side
-            width: parent.width - 2 * side
+            x: centred ? side : Theme.mirrored ? saveButton.width : cancelButton.width
+            width: parent.width - (centred ? 2 * side : cancelButton.width + saveButton.width)
             y: (sheet.barHeight - height) / 2
             Accessible.ignored: true
+        }
+        TextMetrics {
+            id: titleMeasure
+
+            font: titleLabel.font
+            text: titleLabel.text
         }
         PlainButton {
             id: saveButton

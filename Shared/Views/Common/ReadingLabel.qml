@@ -13,7 +13,7 @@ Item {
     property bool grounded: false
     /// Stands at a line's end and not at its start.
     property bool atEnd: true
-    /// The greatest width; a longer text is elided.
+    /// The greatest width; a longer text is drawn smaller, and elided at last.
     property real room: Infinity
 
     readonly property bool urgent: mark.state === Role.State.Alert || mark.state === Role.State.Incomplete
@@ -56,6 +56,8 @@ Item {
         anchors.leftMargin: label.urgent ? shape.width + label.gap : 0
         width: Math.max(0, label.width - (label.urgent ? shape.width + label.gap : 0))
         horizontalAlignment: label.atEnd ? Text.AlignRight : Text.AlignLeft
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 10
         elide: Text.ElideMiddle
         Accessible.ignored: true
     }

@@ -121,6 +121,8 @@ TableCell {
             text: row.cell.note
             size: Theme.captionSize
             color: row.cell.incomplete ? Theme.systemOrange : Theme.ink2
+            fontSizeMode: row.stacked ? Text.FixedSize : Text.HorizontalFit
+            minimumPixelSize: 10
             elide: row.stacked ? Text.ElideNone : Text.ElideRight
             wrapMode: row.stacked ? Text.Wrap : Text.NoWrap
             horizontalAlignment: row.stacked ? Text.AlignLeft : Text.AlignRight

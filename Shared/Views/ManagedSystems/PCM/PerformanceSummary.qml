@@ -38,7 +38,9 @@ Column {
         Label {
             text: key.name
             size: Theme.captionSize
-            width: Math.min(implicitWidth, key.width - 22)
+            width: key.width - 22
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 10
             elide: Text.ElideRight
             Accessible.ignored: true
         }
@@ -220,6 +222,8 @@ Column {
                             color: Theme.ink2
                             anchors.left: parent.left
                             width: parent.width / 2
+                            fontSizeMode: Text.HorizontalFit
+                            minimumPixelSize: 10
                             elide: Text.ElideRight
                             Accessible.ignored: true
                         }
