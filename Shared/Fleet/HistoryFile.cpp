@@ -22,7 +22,6 @@ namespace lodestar
 namespace
 {
 
-
 /// The log first: where the process ends in between, a main file alone is as good as both, and a log alone is not.
 constexpr const char* suffixes[] = {"-wal", "-shm", ""};
 

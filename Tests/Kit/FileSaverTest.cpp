@@ -1,7 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/FileSaver.h"
+
 #include "Kit/Core/Clipboard.h"
 #include "Kit/Core/ErrorText.h"
-#include "Kit/Core/FileSaver.h"
 #include "Kit/Core/Toasts.h"
 #include "Kit/Core/WindowDialogs.h"
 #include "Tests/Kit/KitWindow.h"
