@@ -1,6 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
 import QtQuick
-import Lodestar.Kit
 
 /// Says words aloud; there is nothing to see. Screen readers speak a notification when it appears and hear nothing of
 /// one whose words change. It goes again after a while, so that nobody finds it who reads the screen.
