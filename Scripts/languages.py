@@ -127,7 +127,7 @@ def table(source):
     for language in FORMS:
         texts = {(message.context.encode(), message.source.encode()): message
                  for message in messages_of(source / file_of(FOLDER, language))
-                 if message.context in contexts and not message.state and all(message.forms)}
+                 if message.context in contexts and not message.comment and not message.state and all(message.forms)}
         lines.append(f"constexpr TranslatedText {language}[] = {{")
         for _, message in sorted(texts.items()):
             forms = BETWEEN_FORMS.join(quoted(form) for form in message.forms)

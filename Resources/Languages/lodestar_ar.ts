@@ -2901,6 +2901,11 @@ It is kept in the list of reports.</source>
             <numerusform>لا إجابة خلال %Ln&#xa0;ث</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>what was said so far, and one part more</extracomment>
+        <translation>%1، %2</translation>
+    </message>
 </context>
 <context>
     <name>lodestar::ConnectionViewController</name>
@@ -3343,6 +3348,11 @@ It is kept in the list of reports.</source>
             <numerusform>%1 و%2 و%Ln غيرها</numerusform>
             <numerusform>%1 و%2 و%Ln غيرها</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>IO servers</source>
+        <comment>within a sentence</comment>
+        <translation>خوادم I/O</translation>
     </message>
 </context>
 <context>
@@ -3917,6 +3927,11 @@ It is kept in the list of reports.</source>
             <numerusform>%Ln مرة</numerusform>
             <numerusform>%Ln مرة</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>IO servers</source>
+        <comment>within a sentence</comment>
+        <translation>خوادم I/O</translation>
     </message>
 </context>
 <context>

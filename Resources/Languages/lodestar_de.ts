@@ -2797,6 +2797,11 @@ Er bleibt in der Liste der Berichte.</translation>
             <numerusform>keine Antwort binnen %Ln&#xa0;s</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>what was said so far, and one part more</extracomment>
+        <translation>%1, %2</translation>
+    </message>
 </context>
 <context>
     <name>lodestar::ConnectionViewController</name>
@@ -3207,6 +3212,11 @@ Er bleibt in der Liste der Berichte.</translation>
             <numerusform>%1, %2 und %Ln weitere</numerusform>
             <numerusform>%1, %2 und %Ln weitere</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>IO servers</source>
+        <comment>within a sentence</comment>
+        <translation>E/A-Server</translation>
     </message>
 </context>
 <context>
@@ -3705,6 +3715,11 @@ Er bleibt in der Liste der Berichte.</translation>
             <numerusform>%Ln-mal</numerusform>
             <numerusform>%Ln-mal</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>IO servers</source>
+        <comment>within a sentence</comment>
+        <translation>E/A-Server</translation>
     </message>
 </context>
 <context>

@@ -2797,6 +2797,11 @@ Queda en la lista de informes.</translation>
             <numerusform>sin respuesta en %Ln&#xa0;s</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>what was said so far, and one part more</extracomment>
+        <translation>%1, %2</translation>
+    </message>
 </context>
 <context>
     <name>lodestar::ConnectionViewController</name>
@@ -3207,6 +3212,11 @@ Queda en la lista de informes.</translation>
             <numerusform>%1, %2 y %Ln más</numerusform>
             <numerusform>%1, %2 y %Ln más</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>IO servers</source>
+        <comment>within a sentence</comment>
+        <translation>servidores E/S</translation>
     </message>
 </context>
 <context>
@@ -3705,6 +3715,11 @@ Queda en la lista de informes.</translation>
             <numerusform>%Ln vez</numerusform>
             <numerusform>%Ln veces</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>IO servers</source>
+        <comment>within a sentence</comment>
+        <translation>servidores E/S</translation>
     </message>
 </context>
 <context>

@@ -2797,6 +2797,11 @@ Il reste dans la liste des rapports.</translation>
             <numerusform>pas de réponse en %Ln&#xa0;s</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>what was said so far, and one part more</extracomment>
+        <translation>%1, %2</translation>
+    </message>
 </context>
 <context>
     <name>lodestar::ConnectionViewController</name>
@@ -3207,6 +3212,11 @@ Il reste dans la liste des rapports.</translation>
             <numerusform>%1, %2 et %Ln autre</numerusform>
             <numerusform>%1, %2 et %Ln autres</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>IO servers</source>
+        <comment>within a sentence</comment>
+        <translation>serveurs E/S</translation>
     </message>
 </context>
 <context>
@@ -3705,6 +3715,11 @@ Il reste dans la liste des rapports.</translation>
             <numerusform>%Ln fois</numerusform>
             <numerusform>%Ln fois</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>IO servers</source>
+        <comment>within a sentence</comment>
+        <translation>serveurs E/S</translation>
     </message>
 </context>
 <context>

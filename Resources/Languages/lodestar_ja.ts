@@ -2771,6 +2771,11 @@ It is kept in the list of reports.</source>
             <numerusform>%Ln秒以内に応答なし</numerusform>
         </translation>
     </message>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>what was said so far, and one part more</extracomment>
+        <translation>%1、%2</translation>
+    </message>
 </context>
 <context>
     <name>lodestar::ConnectionViewController</name>
@@ -3173,6 +3178,11 @@ It is kept in the list of reports.</source>
         <translation>
             <numerusform>%1、%2ほか%Ln件</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>IO servers</source>
+        <comment>within a sentence</comment>
+        <translation>I/Oサーバー</translation>
     </message>
 </context>
 <context>
@@ -3652,6 +3662,11 @@ It is kept in the list of reports.</source>
         <translation>
             <numerusform>%Ln回</numerusform>
         </translation>
+    </message>
+    <message>
+        <source>IO servers</source>
+        <comment>within a sentence</comment>
+        <translation>I/Oサーバー</translation>
     </message>
 </context>
 <context>

@@ -269,7 +269,7 @@ QString FindingText::subjectWithin(FindingSubject subject)
     case FindingSubject::System:
         return Words::tr("systems");
     case FindingSubject::IOServer:
-        return Words::tr("IO servers");
+        return Words::tr("IO servers", "within a sentence");
     case FindingSubject::Partition:
         return Words::tr("partitions");
     case FindingSubject::Group:

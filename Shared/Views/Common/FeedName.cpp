@@ -20,24 +20,33 @@ struct Words {
 /// Of names and texts in a row, no more than a row can show is laid out.
 constexpr qsizetype longestRowText = 300;
 
+struct Within {
+    const char* text;
+    const char* comment = nullptr;
+};
 struct Name {
     std::string_view type;
-    const char* within;
+    Within within;
     const char* atStart;
 };
 
 constexpr std::array<Name, feedTable.size()> names = {{
-    {ObjectType::ManagementConsole, QT_TRANSLATE_NOOP("lodestar::FeedName", "console details"),
+    {ObjectType::ManagementConsole,
+     {QT_TRANSLATE_NOOP("lodestar::FeedName", "console details")},
      QT_TRANSLATE_NOOP("lodestar::FeedName", "Console details")},
-    {ObjectType::ManagedSystem, QT_TRANSLATE_NOOP("lodestar::FeedName", "systems"),
+    {ObjectType::ManagedSystem,
+     {QT_TRANSLATE_NOOP("lodestar::FeedName", "systems")},
      QT_TRANSLATE_NOOP("lodestar::FeedName", "Systems")},
-    {ObjectType::VirtualIOServer, QT_TRANSLATE_NOOP("lodestar::FeedName", "IO servers"),
+    {ObjectType::VirtualIOServer, QT_TRANSLATE_NOOP3("lodestar::FeedName", "IO servers", "within a sentence"),
      QT_TRANSLATE_NOOP("lodestar::FeedName", "IO servers")},
-    {ObjectType::LogicalPartition, QT_TRANSLATE_NOOP("lodestar::FeedName", "partitions"),
+    {ObjectType::LogicalPartition,
+     {QT_TRANSLATE_NOOP("lodestar::FeedName", "partitions")},
      QT_TRANSLATE_NOOP("lodestar::FeedName", "Partitions")},
-    {ObjectType::ServiceableEvent, QT_TRANSLATE_NOOP("lodestar::FeedName", "events"),
+    {ObjectType::ServiceableEvent,
+     {QT_TRANSLATE_NOOP("lodestar::FeedName", "events")},
      QT_TRANSLATE_NOOP("lodestar::FeedName", "Events")},
-    {ObjectType::Group, QT_TRANSLATE_NOOP("lodestar::FeedName", "resource groups"),
+    {ObjectType::Group,
+     {QT_TRANSLATE_NOOP("lodestar::FeedName", "resource groups")},
      QT_TRANSLATE_NOOP("lodestar::FeedName", "Resource groups")},
 }};
 
@@ -58,7 +67,7 @@ QString nameInList(std::string_view type)
 QString feedName(std::string_view type)
 {
     const Name* const name = nameOf(type);
-    return name != nullptr ? Words::tr(name->within) : QString();
+    return name != nullptr ? Words::tr(name->within.text, name->within.comment) : QString();
 }
 
 QString feedNameAtStart(std::string_view type)

@@ -89,10 +89,14 @@ bool isNumeric(const QString& address)
     return address.contains(u':') || std::ranges::all_of(address, isPart);
 }
 
-QString joinedDetail(QStringList parts)
+QString joined(const QStringList& parts)
 {
-    parts.removeAll(QString());
-    return parts.join(QStringLiteral(", "));
+    QString text;
+    for (const QString& part : parts) {
+        //: what was said so far, and one part more
+        text = text.isEmpty() || part.isEmpty() ? text + part : Words::tr("%1, %2").arg(text, part);
+    }
+    return text;
 }
 
 QString detailOf(const Stage& stage, const QString& address, const Reading& reading)
@@ -103,7 +107,7 @@ QString detailOf(const Stage& stage, const QString& address, const Reading& read
     case StageKind::Connect:
         return Words::tr("port 12443");
     case StageKind::TLS:
-        return joinedDetail({QString::fromStdString(reading.tlsVersion), certificateWords(reading)});
+        return joined({QString::fromStdString(reading.tlsVersion), certificateWords(reading)});
     case StageKind::SessionCheck:
         if (stage.status == 0) {
             return {};
@@ -189,7 +193,7 @@ void addParts(ConnectionSection& section, const Reading& reading)
         }
     }
     if (!names.empty()) {
-        section.partsNames = names.join(QStringLiteral(", "));
+        section.partsNames = joined(names);
         section.partsSum = attemptText(reading.duration());
     }
 }
@@ -254,7 +258,7 @@ ConnectionRow feedRow(const FeedReading& feed)
         row.detail = Words::tr("not reached");
     } else {
         row.mark = Role::State::Good;
-        row.detail = joinedDetail({feed.status == 0 ? QString() : QString::number(feed.status),
+        row.detail = joined({feed.status == 0 ? QString() : QString::number(feed.status),
                                    entriesText(feed.entries), sizeText(feed.bytes)});
     }
     return row;
