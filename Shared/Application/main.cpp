@@ -30,9 +30,11 @@
 #include <QLocale>
 #include <QScreen>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <string_view>
 
 using namespace lodestar;
 
@@ -47,7 +49,7 @@ struct Options {
     bool quitAfterFirstFrame = false;
 };
 
-Options parseOptions(const QGuiApplication& application)
+Options parseOptions(const QCoreApplication& application)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(
@@ -77,6 +79,14 @@ Options parseOptions(const QGuiApplication& application)
             parser.isSet(firstFrame)};
 }
 
+/// Whether the answer is only words, for which no display is needed.
+bool isQuestion(int argc, char** argv)
+{
+    return std::any_of(argv + 1, argv + argc, [](std::string_view each) {
+        return each == "--version" || each == "-v" || each == "--help" || each == "-h" || each == "--help-all";
+    });
+}
+
 /// The folder below which everything is kept.
 QString dataFolderOf(const QString& asked)
 {
@@ -103,9 +113,14 @@ int main(int argc, char** argv)
 {
     MemoryReserve::install();
     leaveAbsentSessionBus();
+    QCoreApplication::setApplicationName(QStringLiteral("Lodestar"));
+    QCoreApplication::setApplicationVersion(QStringLiteral(LODESTAR_VERSION));
+    if (isQuestion(argc, argv)) {
+        const QCoreApplication answering(argc, argv);
+        Languages::use(QLocale::system().uiLanguages());
+        parseOptions(answering); // writes the answer and ends the program
+    }
     QGuiApplication application(argc, argv);
-    QGuiApplication::setApplicationName(QStringLiteral("Lodestar"));
-    QGuiApplication::setApplicationVersion(QStringLiteral(LODESTAR_VERSION));
     QGuiApplication::setDesktopFileName(QStringLiteral("org.ornis.Lodestar"));
     Languages::use(QLocale::system().uiLanguages()); // for the help that parsing may write
     const Options options = parseOptions(application);

@@ -74,7 +74,10 @@ void Languages::use(const QStringList& wanted)
         qWarning("The texts in the language %s cannot be read", qPrintable(language));
     }
     translators() = std::move(next);
-    QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
+    // Without windows there is no direction to set, and Qt would take the application for one that has them.
+    if (qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr) {
+        QGuiApplication::setLayoutDirection(QLocale(language).textDirection());
+    }
 }
 
 } // namespace lodestar
