@@ -258,8 +258,8 @@ ConnectionRow feedRow(const FeedReading& feed)
         row.detail = Words::tr("not reached");
     } else {
         row.mark = Role::State::Good;
-        row.detail = joined({feed.status == 0 ? QString() : QString::number(feed.status),
-                                   entriesText(feed.entries), sizeText(feed.bytes)});
+        row.detail = joined({feed.status == 0 ? QString() : QString::number(feed.status), entriesText(feed.entries),
+                             sizeText(feed.bytes)});
     }
     return row;
 }
