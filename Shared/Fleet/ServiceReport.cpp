@@ -58,11 +58,6 @@ std::string asLine(std::string_view text)
     return isolates ? std::string(firstStrongIsolate) + line + std::string(popIsolate) : line;
 }
 
-bool isWord(char c)
-{
-    return std::isalnum(static_cast<unsigned char>(c)) != 0 || c == '_' || c == '-' || (c & 0x80) != 0;
-}
-
 bool isDigit(char c)
 {
     return c >= '0' && c <= '9';
@@ -97,29 +92,64 @@ std::size_t numericAddress(std::string_view text)
     return at;
 }
 
-/// The length of the address that begins the text; 0 for none.
-std::size_t addressLength(std::string_view text, const std::vector<std::string>& known)
+/// -1 without one.
+utf8proc_int32_t firstLetter(std::string_view text)
 {
-    std::size_t longest = numericAddress(text);
+    utf8proc_int32_t letter = -1;
+    utf8proc_iterate(reinterpret_cast<const utf8proc_uint8_t*>(text.data()), static_cast<utf8proc_ssize_t>(text.size()),
+                     &letter);
+    return letter;
+}
+
+utf8proc_int32_t lastLetter(std::string_view text)
+{
+    std::size_t begin = text.empty() ? 0 : text.size() - 1;
+    while (begin > 0 && (static_cast<unsigned char>(text[begin]) & 0xC0U) == 0x80U) {
+        --begin;
+    }
+    return firstLetter(text.substr(begin));
+}
+
+/// Whether an address with this letter at its end is only a part of a word that has the other letter beside it. Letters
+/// of another alphabet begin a word of their own: Japanese puts no blanks around an address.
+bool goesOn(utf8proc_int32_t end, utf8proc_int32_t beside)
+{
+    constexpr utf8proc_int32_t plainLetters = 0x80;
+    const auto category = utf8proc_category(beside);
+    return category >= UTF8PROC_CATEGORY_LU && category <= UTF8PROC_CATEGORY_NO &&
+           (end < plainLetters) == (beside < plainLetters);
+}
+
+/// Whether the address is no part of something longer. A number with more than four parts is none.
+bool standsAlone(std::string_view before, std::string_view address, std::string_view behind)
+{
+    const bool numberGoesOn =
+        (isDigit(address.front()) && before.size() > 1 && before.back() == '.' && isDigit(before[before.size() - 2])) ||
+        (isDigit(address.back()) && behind.size() > 1 && behind[0] == '.' && isDigit(behind[1]));
+    return !numberGoesOn && !goesOn(firstLetter(address), lastLetter(before)) &&
+           !goesOn(lastLetter(address), firstLetter(behind));
+}
+
+/// The length of the address that stands at this place; 0 for none.
+std::size_t addressLength(std::string_view text, std::size_t at, const std::vector<std::string>& known)
+{
+    const std::string_view rest = text.substr(at);
+    const auto lengthIfAlone = [&](std::size_t length) {
+        return length > 0 && standsAlone(text.substr(0, at), rest.substr(0, length), rest.substr(length)) ? length : 0;
+    };
+    std::size_t longest = lengthIfAlone(numericAddress(rest));
     for (const std::string& address : known) {
-        const bool isThere = address.size() <= text.size() &&
-                             std::ranges::equal(address, text.substr(0, address.size()), {}, lower, lower);
-        if (isThere) {
-            longest = std::max(longest, address.size());
+        if (std::ranges::equal(address, rest.substr(0, address.size()), {}, lower, lower)) {
+            longest = std::max(longest, lengthIfAlone(address.size()));
         }
     }
-    const std::string_view rest = text.substr(longest);
-    const bool goesOn = !rest.empty() && (isWord(rest[0]) || (rest.size() > 1 && rest[0] == '.' && isDigit(rest[1])));
-    return goesOn ? 0 : longest;
+    return longest;
 }
 
 void removeAddresses(std::string& text, const std::vector<std::string>& known, std::string_view mark)
 {
     for (std::size_t at = 0; at < text.size();) {
-        // A number with more than four parts is none.
-        const bool isWithin =
-            at > 0 && (isWord(text[at - 1]) || (at > 1 && text[at - 1] == '.' && isDigit(text[at - 2])));
-        const std::size_t length = isWithin ? 0 : addressLength(std::string_view(text).substr(at), known);
+        const std::size_t length = addressLength(text, at, known);
         if (length > 0) {
             text.replace(at, length, mark);
             at += mark.size();

@@ -34,15 +34,24 @@ TEST(ServiceReportTests, ValuesStayWholeAndWithinTheirLinesInBothTexts)
 
 TEST(ServiceReportTests, AddressesAreTakenOutOfEveryTextAndNothingElseIs)
 {
-    const std::string kept = "V3R2.4.0.1, 07:41:12, 1.2.3, 1.2.3.4.5, 300.1.1.1, 5B:0E:41:C7, harbour-base, std::x";
+    const std::string kept = "V3R2.4.0.1, 07:41:12, 1.2.3, 1.2.3.4.5, 300.1.1.1, 5B:0E:41:C7, harbour-base, std::x, "
+                             "harbour-b.examples, \u0443\u0437\u0435\u043B\u043E\u043A";
     ServiceReport report{.title = "System 10.24.8.61",
                          .text = "No answer of 10.24.8.62: HARBOUR-B.example:12443 (fe80::1, 2001:db8::7:1).",
-                         .blocks = {{{"Kept", kept}, {"Console", "harbour-b.example, 192.0.2.1."}}}};
-    report = withoutAddresses(std::move(report), {"harbour-b.example", ""}, "[-]");
+                         .blocks = {{{"Kept", kept},
+                                     {"Console", "harbour-b.example, 192.0.2.1."},
+                                     {"Beside", "10.0.0.1-10.0.0.9 eth0_10.0.0.1 \u201C10.0.0.1\u201D \uFF1A10.0.0.1 "
+                                                "10.0.0.1\u060C \u30A2\u30C9\u30EC\u30B910.0.0.1\u306B"},
+                                     {"Names", "vm-harbour-b.example_1 \u201Charbour-b.example\u201D "
+                                               "\u306Fharbour-b.example\u306B \u0443\u0437\u0435\u043B\u060C"}}}};
+    report = withoutAddresses(std::move(report), {"harbour-b.example", "", "\u0443\u0437\u0435\u043B"}, "[-]");
     EXPECT_EQ(report.title, "System [-]");
     EXPECT_EQ(report.text, "No answer of [-]: [-]:12443 ([-], [-]).");
     EXPECT_EQ(report.blocks[0][0].value, kept);
     EXPECT_EQ(report.blocks[0][1].value, "[-], [-].");
+    EXPECT_EQ(report.blocks[0][2].value, "[-]-[-] eth0_[-] \u201C[-]\u201D \uFF1A[-] [-]\u060C "
+                                         "\u30A2\u30C9\u30EC\u30B9[-]\u306B");
+    EXPECT_EQ(report.blocks[0][3].value, "vm-[-]_1 \u201C[-]\u201D \u306F[-]\u306B [-]\u060C");
 }
 
 } // namespace
