@@ -3,8 +3,8 @@
 #include "CommandLine/Json.h"
 #include "CommandLine/Texts.h"
 #include "CommandLine/Words.h"
+#include "Fleet/AttentionTable.h"
 #include "Fleet/ObjectTable.h"
-#include "Fleet/TableCells.h"
 
 #include <algorithm>
 #include <array>
@@ -123,20 +123,6 @@ std::string attentionText(const FleetPicture& picture, const Terminal& terminal)
     return text;
 }
 
-Table attentionTable(const FleetPicture& picture)
-{
-    Table table{{"console", "address", "severity", "rank", "name", "what", "state", "system", "reference_code", "type",
-                 "id", "since_utc"},
-                {}};
-    for (const Finding& each : picture.findings.list) {
-        table.rows.push_back({each.console, each.corvel->address().value_or(""), bandText(each),
-                              std::to_string(static_cast<int>(each.rank)), each.name,
-                              Words::sentence(each, picture.made), each.state, each.system, each.referenceCode,
-                              each.object.type, each.object.identifier, each.since ? utcCell(each.since->time) : ""});
-    }
-    return table;
-}
-
 Json::Value attentionJson(const FleetPicture& picture)
 {
     Json::Value answer = Json::answer("attention", picture);
@@ -177,7 +163,7 @@ Result<Verdict> showAttention(CommandContext& context)
     if (context.arguments.has("--json")) {
         context.output.write(Json::document(attentionJson(picture.value())));
     } else if (context.arguments.has("--csv")) {
-        context.output.writeCsv(attentionTable(picture.value()));
+        context.output.writeCsv(tableOfFindings(picture.value().findings));
     } else {
         context.output.write(attentionText(picture.value(), context.output.terminal()));
     }
