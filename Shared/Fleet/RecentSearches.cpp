@@ -3,8 +3,10 @@
 
 #include "Fleet/FleetSearch.h"
 #include "Fleet/History.h"
+#include "Inventory/FoldedText.h"
 
 #include <algorithm>
+#include <string_view>
 
 namespace lodestar
 {
@@ -22,6 +24,21 @@ void keep(const std::vector<std::string>& texts)
         lines += text + '\n';
     }
     History::shared().setSetting(setting, lines.empty() ? std::nullopt : std::optional(lines));
+}
+
+/// Of a console that this run has not read, the search knows no more than its name and its address.
+bool isRemembered(const ConsoleMemory& memory, std::string_view wanted)
+{
+    std::string folded;
+    return std::ranges::any_of(memory.objects, [&](const auto& known) {
+        const auto& [key, object] = known;
+        folded = key.type == ObjectType::ServiceableEvent ? "#" : "";
+        for (const std::string* const text : {&object.name, &object.state, &object.text}) {
+            appendFolded(folded, *text);
+            folded += '\n';
+        }
+        return folded.find(wanted) != std::string::npos;
+    });
 }
 
 } // namespace
@@ -61,8 +78,10 @@ void RecentSearches::forgetThoseOf(const ConsoleSnapshot& console)
         return;
     }
     const FleetSearch search({console}, nullptr);
-    const auto forgotten =
-        std::erase_if(texts, [&search](const std::string& text) { return countOf(search.find(text)) > 0; });
+    const auto forgotten = std::erase_if(texts, [&](const std::string& text) {
+        return countOf(search.find(text)) > 0 ||
+               (console.memory != nullptr && isRemembered(*console.memory, FleetSearch::wanted(text)));
+    });
     if (forgotten > 0) {
         keep(texts);
     }

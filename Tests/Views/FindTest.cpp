@@ -287,6 +287,15 @@ TEST_F(FindTest, KeepsTheLastFiveTextsThatWereOfUse)
     ridgeway->setName("Zephyr Point");
     deleteCorvelAtIndex(0);
     EXPECT_THAT(RecentSearches::list(), ElementsAre("atlas", "1029", "LEDGER"));
+    // Of a console that this run has not read, what is remembered tells.
+    const auto memory = std::make_shared<ConsoleMemory>();
+    memory->objects[{"ServiceableEvent", "7"}].name = "1029";
+    memory->objects[{"ManagedSystem", "s"}].name = "Atlas-03";
+    ConsoleSnapshot snapshot;
+    snapshot.corvel = northfield;
+    snapshot.memory = memory;
+    RecentSearches::forgetThoseOf(snapshot);
+    EXPECT_THAT(RecentSearches::list(), ElementsAre("LEDGER"));
     screen.clearRecents();
     EXPECT_TRUE(RecentSearches::list().empty());
     RecentSearches::add("kept");
