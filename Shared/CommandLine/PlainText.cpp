@@ -105,9 +105,9 @@ std::string cutTo(std::string_view text, std::size_t columns)
 std::vector<std::string> wrapped(std::string_view text, std::size_t columns)
 {
     std::vector<std::string> lines;
-    while (columnsOf(text) > columns) {
-        std::string_view line = beginningOf(text, columns);
-        const bool endsWord = line.size() < text.size() && text[line.size()] == ' ';
+    for (std::string_view line = beginningOf(text, columns); line.size() < text.size();
+         line = beginningOf(text, columns)) {
+        const bool endsWord = text[line.size()] == ' ';
         if (const std::size_t blank = line.rfind(' '); !endsWord && blank != std::string_view::npos && blank > 0) {
             line = line.substr(0, blank);
         }

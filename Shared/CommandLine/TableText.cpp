@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
+#include <limits>
 #include <numeric>
 
 namespace lodestar
@@ -14,9 +15,10 @@ namespace
 {
 
 using Cells = std::vector<std::string>;
-constexpr std::size_t gap = 2;           ///< between columns
-constexpr std::size_t narrowest = 8;     ///< a value of fewer below its label tells nothing
-constexpr std::size_t anything = 10'000; ///< columns of a "line" that nothing limits
+constexpr std::size_t gap = 2;          ///< between columns
+constexpr std::size_t narrowest = 8;    ///< a value of fewer below its label tells nothing
+constexpr std::size_t mostPadded = 120; ///< where nothing limits a line, one long cell must not widen all rows
+constexpr std::size_t anything = std::numeric_limits<std::size_t>::max() / 2; ///< columns of such a line
 
 std::size_t lineOf(const Terminal& terminal)
 {
@@ -129,6 +131,9 @@ public:
     SideBySide(const Table& table, Widths widths, const Terminal& terminal)
         : m_table(table), m_widths(std::move(widths)), m_terminal(terminal)
     {
+        for (std::size_t& width : m_widths) {
+            width = isLimited() ? width : std::min(width, mostPadded);
+        }
         for (std::size_t i = 0; i < table.titles.size(); ++i) {
             m_isNumbers.push_back(std::ranges::all_of(table.rows, [i](const Cells& row) { return isNumber(row[i]); }));
         }
@@ -139,7 +144,7 @@ public:
         std::string text;
         std::size_t owed = 0; // blanks, which no line ends with
         for (std::size_t i = 0; i < cells.size(); ++i) {
-            const std::string cell = cutTo(cells[i], m_widths[i]);
+            const std::string cell = isLimited() ? cutTo(cells[i], m_widths[i]) : cells[i];
             const std::size_t blanks = m_widths[i] - std::min(m_widths[i], columnsOf(cell));
             owed += m_isNumbers[i] ? blanks : 0;
             if (!cell.empty()) {
@@ -153,8 +158,10 @@ public:
     }
 
 private:
+    bool isLimited() const { return m_terminal.width > 0; }
+
     const Table& m_table;
-    const Widths m_widths;
+    Widths m_widths;
     const Terminal& m_terminal;
     std::vector<bool> m_isNumbers;
 };
