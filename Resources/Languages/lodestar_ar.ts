@@ -698,6 +698,15 @@
         <extracomment>%1 the day of a month, %2 the short name of the month, %3 a year</extracomment>
         <translation>%1 %2 %3</translation>
     </message>
+    <message>
+        <source>Row %1: %2.</source>
+        <extracomment>%1 the number of a sheet&apos;s row, %2 what is wrong with it</extracomment>
+        <translation>الصف %1: %2.</translation>
+    </message>
+    <message>
+        <source>The password is too long.</source>
+        <translation>كلمة المرور طويلة جدًا.</translation>
+    </message>
 </context>
 <context>
     <name>ConnectionCard</name>
@@ -1559,6 +1568,14 @@
     <message>
         <source>The other column</source>
         <translation>العمود الآخر</translation>
+    </message>
+    <message>
+        <source>First or last value</source>
+        <translation>القيمة الأولى أو الأخيرة</translation>
+    </message>
+    <message>
+        <source>Move the enlarged chart</source>
+        <translation>تحريك المخطط المكبّر</translation>
     </message>
 </context>
 <context>
@@ -2901,11 +2918,6 @@ It is kept in the list of reports.</source>
             <numerusform>لا إجابة خلال %Ln&#xa0;ث</numerusform>
         </translation>
     </message>
-    <message>
-        <source>%1, %2</source>
-        <extracomment>what was said so far, and one part more</extracomment>
-        <translation>%1، %2</translation>
-    </message>
 </context>
 <context>
     <name>lodestar::ConnectionViewController</name>
@@ -4033,6 +4045,10 @@ It is kept in the list of reports.</source>
         <source>no reference code</source>
         <translation>بلا رمز مرجعي</translation>
     </message>
+    <message>
+        <source>no status</source>
+        <translation>بلا حالة</translation>
+    </message>
 </context>
 <context>
     <name>lodestar::FleetFile</name>
@@ -4859,6 +4875,14 @@ It is kept in the list of reports.</source>
     </message>
 </context>
 <context>
+    <name>lodestar::PieChartView</name>
+    <message>
+        <source>, </source>
+        <extracomment>Between the parts of a chart as they are read out.</extracomment>
+        <translation>، </translation>
+    </message>
+</context>
+<context>
     <name>lodestar::PlotChartView</name>
     <message>
         <source>%1 %2</source>
@@ -5474,6 +5498,14 @@ It is kept in the list of reports.</source>
     </message>
 </context>
 <context>
+    <name>lodestar::Sentence</name>
+    <message>
+        <source>, </source>
+        <extracomment>Between the parts of a sentence or of a list</extracomment>
+        <translation>، </translation>
+    </message>
+</context>
+<context>
     <name>lodestar::ServiceReportController</name>
     <message>
         <source>Service Report</source>
@@ -5556,10 +5588,6 @@ It is kept in the list of reports.</source>
         <source>%1: #%2 opened</source>
         <extracomment>%1 a console, %2 the number of an event</extracomment>
         <translation>%1: فُتح ⁦#%2⁩</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>، </translation>
     </message>
     <message>
         <source>%1 is incomplete</source>

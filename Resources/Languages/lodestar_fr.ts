@@ -682,6 +682,15 @@
         <extracomment>%1 the day of a month, %2 the short name of the month, %3 a year</extracomment>
         <translation>%1 %2 %3</translation>
     </message>
+    <message>
+        <source>Row %1: %2.</source>
+        <extracomment>%1 the number of a sheet&apos;s row, %2 what is wrong with it</extracomment>
+        <translation>Ligne %1&#xa0;: %2.</translation>
+    </message>
+    <message>
+        <source>The password is too long.</source>
+        <translation>Le mot de passe est trop long.</translation>
+    </message>
 </context>
 <context>
     <name>ConnectionCard</name>
@@ -1539,6 +1548,14 @@
     <message>
         <source>The other column</source>
         <translation>L’autre colonne</translation>
+    </message>
+    <message>
+        <source>First or last value</source>
+        <translation>Première ou dernière valeur</translation>
+    </message>
+    <message>
+        <source>Move the enlarged chart</source>
+        <translation>Déplacer le graphique agrandi</translation>
     </message>
 </context>
 <context>
@@ -2797,11 +2814,6 @@ Il reste dans la liste des rapports.</translation>
             <numerusform>pas de réponse en %Ln&#xa0;s</numerusform>
         </translation>
     </message>
-    <message>
-        <source>%1, %2</source>
-        <extracomment>what was said so far, and one part more</extracomment>
-        <translation>%1, %2</translation>
-    </message>
 </context>
 <context>
     <name>lodestar::ConnectionViewController</name>
@@ -3809,6 +3821,10 @@ Il reste dans la liste des rapports.</translation>
         <source>no reference code</source>
         <translation>sans code de référence</translation>
     </message>
+    <message>
+        <source>no status</source>
+        <translation>sans état</translation>
+    </message>
 </context>
 <context>
     <name>lodestar::FleetFile</name>
@@ -4567,6 +4583,14 @@ Il reste dans la liste des rapports.</translation>
     </message>
 </context>
 <context>
+    <name>lodestar::PieChartView</name>
+    <message>
+        <source>, </source>
+        <extracomment>Between the parts of a chart as they are read out.</extracomment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>lodestar::PlotChartView</name>
     <message>
         <source>%1 %2</source>
@@ -5170,6 +5194,14 @@ Il reste dans la liste des rapports.</translation>
     </message>
 </context>
 <context>
+    <name>lodestar::Sentence</name>
+    <message>
+        <source>, </source>
+        <extracomment>Between the parts of a sentence or of a list</extracomment>
+        <translation>, </translation>
+    </message>
+</context>
+<context>
     <name>lodestar::ServiceReportController</name>
     <message>
         <source>Service Report</source>
@@ -5252,10 +5284,6 @@ Il reste dans la liste des rapports.</translation>
         <source>%1: #%2 opened</source>
         <extracomment>%1 a console, %2 the number of an event</extracomment>
         <translation>%1&#xa0;: #%2 ouvert</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>, </translation>
     </message>
     <message>
         <source>%1 is incomplete</source>

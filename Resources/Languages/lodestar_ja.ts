@@ -678,6 +678,15 @@
         <extracomment>%1 the day of a month, %2 the short name of the month, %3 a year</extracomment>
         <translation>%1 %2 %3</translation>
     </message>
+    <message>
+        <source>Row %1: %2.</source>
+        <extracomment>%1 the number of a sheet&apos;s row, %2 what is wrong with it</extracomment>
+        <translation>%1行：%2。</translation>
+    </message>
+    <message>
+        <source>The password is too long.</source>
+        <translation>パスワードが長すぎます。</translation>
+    </message>
 </context>
 <context>
     <name>ConnectionCard</name>
@@ -1534,6 +1543,14 @@
     <message>
         <source>The other column</source>
         <translation>もう一方の列</translation>
+    </message>
+    <message>
+        <source>First or last value</source>
+        <translation>最初または最後の値</translation>
+    </message>
+    <message>
+        <source>Move the enlarged chart</source>
+        <translation>拡大したグラフを動かす</translation>
     </message>
 </context>
 <context>
@@ -2771,11 +2788,6 @@ It is kept in the list of reports.</source>
             <numerusform>%Ln秒以内に応答なし</numerusform>
         </translation>
     </message>
-    <message>
-        <source>%1, %2</source>
-        <extracomment>what was said so far, and one part more</extracomment>
-        <translation>%1、%2</translation>
-    </message>
 </context>
 <context>
     <name>lodestar::ConnectionViewController</name>
@@ -3753,6 +3765,10 @@ It is kept in the list of reports.</source>
         <source>no reference code</source>
         <translation>参照コードなし</translation>
     </message>
+    <message>
+        <source>no status</source>
+        <translation>状態なし</translation>
+    </message>
 </context>
 <context>
     <name>lodestar::FleetFile</name>
@@ -4494,6 +4510,14 @@ It is kept in the list of reports.</source>
     </message>
 </context>
 <context>
+    <name>lodestar::PieChartView</name>
+    <message>
+        <source>, </source>
+        <extracomment>Between the parts of a chart as they are read out.</extracomment>
+        <translation>、</translation>
+    </message>
+</context>
+<context>
     <name>lodestar::PlotChartView</name>
     <message>
         <source>%1 %2</source>
@@ -5094,6 +5118,14 @@ It is kept in the list of reports.</source>
     </message>
 </context>
 <context>
+    <name>lodestar::Sentence</name>
+    <message>
+        <source>, </source>
+        <extracomment>Between the parts of a sentence or of a list</extracomment>
+        <translation>、</translation>
+    </message>
+</context>
+<context>
     <name>lodestar::ServiceReportController</name>
     <message>
         <source>Service Report</source>
@@ -5176,10 +5208,6 @@ It is kept in the list of reports.</source>
         <source>%1: #%2 opened</source>
         <extracomment>%1 a console, %2 the number of an event</extracomment>
         <translation>%1：#%2が発生</translation>
-    </message>
-    <message>
-        <source>, </source>
-        <translation>、</translation>
     </message>
     <message>
         <source>%1 is incomplete</source>

@@ -14,7 +14,9 @@
 #include <map>
 #include <memory>
 #include <nlohmann/json.hpp>
+#include <string_view>
 #include <unistd.h>
+#include <unordered_set>
 #include <utility>
 
 namespace lodestar
@@ -82,10 +84,23 @@ std::string objectionTo(const SheetRow& row)
     return say(TEXT("CommandLine", "the same address as row %1"), {std::to_string(row.sameAs)});
 }
 
-Result<std::map<std::string, std::string>> ask(const Passwords& passwords, const std::vector<std::string>& users)
+/// A descriptor has a line for every user whom the sheet names, so that the same lines fit when some consoles are
+/// registered already.
+Result<std::map<std::string, std::string>> ask(const Passwords& passwords, const FleetSheet& sheet)
 {
+    const std::vector<std::string> users = sheet.users();
+    const std::unordered_set<std::string_view> needed(users.begin(), users.end());
     std::map<std::string, std::string> answers;
-    for (const std::string& user : users) {
+    for (const std::string& user : sheet.allUsers()) {
+        if (answers.size() == needed.size()) {
+            break;
+        }
+        if (!needed.contains(user)) {
+            if (const Result<void> skipped = passwords.skip(); !skipped) {
+                return skipped.error();
+            }
+            continue;
+        }
         Result<std::string> answer = passwords.next(say(TEXT("CommandLine", "Password of %1"), {user}));
         if (!answer) {
             return answer.error();
@@ -133,15 +148,15 @@ Result<void> store(CommandContext& context, FleetImport& import)
 Table outcomeTable(const FleetSheet& sheet, const FleetImport& import, bool wasAdded)
 {
     Table table{{"row", "name", "address", "user", "result", "note"}, {}};
+    auto tried = import.rows().begin(); // those of the new rows, in their order
     for (const SheetRow& row : sheet.rows) {
-        const auto tried = std::ranges::find_if(
-            import.rows(), [&row](const FleetImport::Row& each) { return each.sheet.line == row.line; });
         std::string result = row.kind == SheetRowKind::RegisteredAlready ? "registered" : "not_added";
         std::string note = objectionTo(row);
-        if (tried != import.rows().end()) {
+        if (row.kind == SheetRowKind::New) {
             const bool isGood = tried->state == FleetImport::State::Verified;
             result = isGood && wasAdded ? "added" : isGood ? "verified" : "not_added";
             note = isGood ? missingText(tried->missingFeeds) : tried->error ? Words::reason(*tried->error) : "";
+            ++tried;
         }
         table.rows.push_back(
             {std::to_string(row.line), row.name, row.address, row.user, std::move(result), std::move(note)});
@@ -149,7 +164,8 @@ Table outcomeTable(const FleetSheet& sheet, const FleetImport& import, bool wasA
     return table;
 }
 
-void tell(CommandContext& context, const FleetSheet& sheet, const Table& outcome, std::size_t added)
+/// What is not read and cannot be used, before a person is asked anything.
+void complainOf(const FleetSheet& sheet)
 {
     for (const std::string& column : sheet.passwordColumns) {
         complain(say(TEXT("CommandLine", "The column %1 was not read: passwords do not belong in a sheet."), {column}));
@@ -157,6 +173,16 @@ void tell(CommandContext& context, const FleetSheet& sheet, const Table& outcome
     for (const std::string& column : sheet.unknownColumns) {
         complain(say(TEXT("CommandLine", "The column %1 is not used."), {column}));
     }
+    for (const SheetRow& row : sheet.rows) {
+        if (row.kind != SheetRowKind::New && row.kind != SheetRowKind::RegisteredAlready) {
+            //: %1 the number of a sheet's row, %2 what is wrong with it
+            complain(say(TEXT("CommandLine", "Row %1: %2."), {std::to_string(row.line), objectionTo(row)}));
+        }
+    }
+}
+
+void tell(CommandContext& context, const Table& outcome, std::size_t added)
+{
     if (context.arguments.has("--json")) {
         Json::Value answer = Json::answer(context.arguments.has("--user") ? "consoles add" : "consoles import");
         answer["added"] = added;
@@ -206,7 +232,7 @@ Result<Verdict> addConsole(CommandContext& context)
     if (!passwords) {
         return passwords.error();
     }
-    const auto answers = ask(passwords.value(), {row.user});
+    const auto answers = ask(passwords.value(), sheet.value());
     if (!answers) {
         return answers.error();
     }
@@ -225,7 +251,7 @@ Result<Verdict> addConsole(CommandContext& context)
         return added.error();
     }
     if (context.arguments.has("--json") || context.arguments.has("--csv")) {
-        tell(context, sheet.value(), outcomeTable(sheet.value(), *import, true), 1);
+        tell(context, outcomeTable(sheet.value(), *import, true), 1);
         return Verdict::Good;
     }
     const std::string missing = missingText(tried.missingFeeds);
@@ -251,7 +277,8 @@ Result<Verdict> importConsoles(CommandContext& context)
     if (!passwords) {
         return passwords.error();
     }
-    const auto answers = ask(passwords.value(), sheet.value().users());
+    complainOf(sheet.value());
+    const auto answers = ask(passwords.value(), sheet.value());
     if (!answers) {
         return answers.error();
     }
@@ -266,8 +293,10 @@ Result<Verdict> importConsoles(CommandContext& context)
             return added.error();
         }
     }
-    tell(context, sheet.value(), outcomeTable(sheet.value(), *import, adds), adds ? import->verified() : 0);
-    return !adds ? Verdict::Errors : areAllGood ? Verdict::Good : Verdict::Warnings;
+    tell(context, outcomeTable(sheet.value(), *import, adds), adds ? import->verified() : 0);
+    // A sheet whose consoles are all registered leaves nothing to do; one without rows is a mistake.
+    const bool isDone = areAllGood && !sheet.value().rows.empty();
+    return isDone ? Verdict::Good : adds ? Verdict::Warnings : Verdict::Errors;
 }
 
 } // namespace lodestar

@@ -26,7 +26,7 @@ constexpr std::size_t longest = 4096;
 Result<std::string> readLine(int descriptor)
 {
     std::string line;
-    for (char letter = 0; line.size() < longest;) {
+    for (char letter = 0;;) {
         const ssize_t count = ::read(descriptor, &letter, 1);
         if (count < 0 && errno == EINTR && Loop::signal() == 0) {
             continue;
@@ -40,13 +40,24 @@ Result<std::string> readLine(int descriptor)
         if (count == 0 || letter == '\n') {
             break;
         }
+        // Its rest would be the next user's password.
+        if (line.size() == longest) {
+            return failure(say(TEXT("CommandLine", "The password is too long.")));
+        }
         line += letter;
     }
     if (line.ends_with('\r')) {
         line.pop_back();
     }
-    return line.empty() ? Result<std::string>(failure(say(TEXT("CommandLine", "There is no password."))))
-                        : Result<std::string>(std::move(line));
+    return line;
+}
+
+Result<std::string> readPassword(int descriptor)
+{
+    Result<std::string> line = readLine(descriptor);
+    return line && line.value().empty()
+               ? Result<std::string>(failure(say(TEXT("CommandLine", "There is no password."))))
+               : line;
 }
 
 /// A terminal that does not show what is typed, as long as this lives.
@@ -59,6 +70,8 @@ public:
             termios silent = m_before;
             silent.c_lflag &= ~static_cast<tcflag_t>(ECHO);
             silent.c_lflag |= ICANON | ISIG;
+            // These keys would end or halt the process before it could make the terminal as it was.
+            silent.c_cc[VQUIT] = silent.c_cc[VSUSP] = _POSIX_VDISABLE;
             m_isSilent = ::tcsetattr(m_descriptor, TCSAFLUSH, &silent) == 0;
         }
     }
@@ -79,7 +92,7 @@ public:
     Result<std::string> ask(const std::string& words) const
     {
         writeFully(m_descriptor, plainText(words) + ": ");
-        return readLine(m_descriptor);
+        return readPassword(m_descriptor);
     }
 
 private:
@@ -93,13 +106,22 @@ private:
 Result<std::string> Passwords::next(const std::string& words) const
 {
     if (m_descriptor) {
-        return readLine(*m_descriptor);
+        return readPassword(*m_descriptor);
     }
     const SilentTerminal terminal;
     return terminal.isSilent() ? terminal.ask(words)
                                : Result<std::string>(failure(
                                      say(TEXT("CommandLine", "There is no terminal to ask for the password. Give "
                                                              "--password-fd N to read it from descriptor N."))));
+}
+
+Result<void> Passwords::skip() const
+{
+    if (!m_descriptor) {
+        return {};
+    }
+    const Result<std::string> line = readLine(*m_descriptor);
+    return line ? Result<void>() : Result<void>(line.error());
 }
 
 } // namespace lodestar

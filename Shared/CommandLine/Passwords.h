@@ -19,6 +19,9 @@ public:
 
     /// The next password. A terminal asks with the words; a descriptor gives its next line, the lines' ends left out.
     Result<std::string> next(const std::string& words) const;
+    /// Passes over a password that is not needed: a descriptor's next line, which may be empty or missing. A terminal
+    /// asks nobody.
+    Result<void> skip() const;
 
 private:
     const std::optional<int> m_descriptor;

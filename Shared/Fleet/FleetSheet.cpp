@@ -117,6 +117,18 @@ private:
     std::unordered_map<std::string, std::size_t> m_lines;
 };
 
+std::vector<std::string> usersOf(const std::vector<SheetRow>& rows, bool (*counts)(const SheetRow&))
+{
+    std::vector<std::string> users;
+    std::unordered_set<std::string_view> known;
+    for (const SheetRow& row : rows) {
+        if (counts(row) && known.insert(row.user).second) {
+            users.push_back(row.user);
+        }
+    }
+    return users;
+}
+
 } // namespace
 
 std::size_t FleetSheet::count(SheetRowKind kind) const
@@ -131,14 +143,12 @@ std::size_t FleetSheet::unusable() const
 
 std::vector<std::string> FleetSheet::users() const
 {
-    std::vector<std::string> users;
-    std::unordered_set<std::string_view> known;
-    for (const SheetRow& row : rows) {
-        if (row.kind == SheetRowKind::New && known.insert(row.user).second) {
-            users.push_back(row.user);
-        }
-    }
-    return users;
+    return usersOf(rows, [](const SheetRow& row) { return row.kind == SheetRowKind::New; });
+}
+
+std::vector<std::string> FleetSheet::allUsers() const
+{
+    return usersOf(rows, [](const SheetRow& row) { return !row.user.empty(); });
 }
 
 Result<FleetSheet> readFleetSheet(std::string_view bytes, const std::vector<std::string>& registeredAddresses)

@@ -48,6 +48,8 @@ struct FleetSheet {
     std::size_t unusable() const;
     /// The users of the new rows, each once, in the order of the sheet.
     std::vector<std::string> users() const;
+    /// Those of all rows, also of rows that are registered or cannot be used.
+    std::vector<std::string> allUsers() const;
 };
 
 inline constexpr std::string_view sheetErrorDomain = "FleetSheet";

@@ -220,7 +220,8 @@ class Registering(Case):
     def test_consoles_are_added_by_prompt_or_descriptor_and_never_half(self):
         address = self.consoles.addresses[0]
         add = ("consoles", "add", address, "--user", "operator", "--name", "Quay")
-        code, shown = self.on_terminal(80, *add, answers=[(b"Password of operator: ", b"wrong\n")])
+        # Keys that would end or halt the program before it could show again what is typed are a password's letters.
+        code, shown = self.on_terminal(80, *add, answers=[(b"Password of operator: ", b"\x1c\x1awrong\n")])
         self.assertEqual(code, UNKNOWN)
         self.assertIn("wrong user or password", shown)
         code, shown = self.on_terminal(80, *add, answers=[(b"Password of operator: ", PASSWORD.encode() + b"\n")])
@@ -268,6 +269,15 @@ class Registering(Case):
         self.assertEqual([(row["result"], row["note"]) for row in said["rows"]],
                          [("added", None), ("not_added", "wrong user or password"), ("not_added", "no address")])
         self.assertIn("The column colour is not used.", done.stderr)
+        self.assertIn("Row 4: no address.", done.stderr)
+
+        # Once more: lines of users who have nothing left to do are passed over, and no line is cut in two.
+        head = "name,address,user\r\n"
+        sheet.write_text(f"{head}One,{one},first\r\nTwo,{two},operator\r\n")
+        self.expect(GOOD, *arguments, input=f"\n{PASSWORD}\n")
+        self.assertIn("registered already", self.expect(GOOD, *arguments, input="").stdout)
+        self.expect(GOOD, "consoles", "remove", two)
+        self.assertIn("too long", self.expect(UNKNOWN, *arguments, input=f"\n{'x' * 5000}\n").stderr)
         self.register(2, name="=Three, \"south\"")
 
         exported = self.folder / "out.csv"
@@ -323,6 +333,19 @@ class Terminals(Case):
         done = self.expect(ERRORS, "status")
         self.assertNotIn("\x1b", done.stdout)
         self.assertEqual(done.stderr, "")
+
+    def test_an_endless_text_is_shown_whole_and_holds_up_nothing(self):
+        self.register()
+        endless = "x" * 1_000_000
+        self.consoles.feed(0, "ManagedSystem", system("error", name=endless), entry("ManagedSystem", 2, {
+            "SystemName": "helios", "State": "operating"}))
+        begin = time.monotonic()
+        shown = self.plain(self.on_terminal(80, "show", "system", "ManagedSystem-1")[1], 80)
+        self.assertEqual(shown.count("x") // 1_000_000, 1)
+        self.assertLess(time.monotonic() - begin, 15)
+        lines = self.expect(GOOD, "list", "systems").stdout.splitlines()
+        self.assertTrue(any(endless in line for line in lines))
+        self.assertLess(min(map(len, lines)), 1_000)
 
 
 class Ending(Case):

@@ -58,6 +58,10 @@ TEST(FleetSheetTest, EveryRowIsJudgedBeforeAnythingIsAsked)
     EXPECT_EQ(sheet.value().rows[0].name, "Harbour; \"A\"");
     EXPECT_EQ(sheet.value().rows[1].name, "b.example") << "a console needs a name";
     EXPECT_THAT(sheet.value().users(), ElementsAre("ops", "monitor"));
+    const auto again =
+        readFleetSheet("name,address,user\n,a,first\n,b c,second\n,d,\n,e,third\n,f,first\n", {"a", "f"});
+    EXPECT_THAT(again.value().users(), ElementsAre("third"));
+    EXPECT_THAT(again.value().allUsers(), ElementsAre("first", "second", "third")) << "each has its line";
     EXPECT_THAT(sheet.value().unknownColumns, ElementsAre("Site", "address"));
     EXPECT_THAT(sheet.value().passwordColumns, ElementsAre("Pass phrase"));
     EXPECT_EQ(sheet.value().unusable(), 8U);
