@@ -43,7 +43,8 @@ def update(source, folder):
         plurals = ["-pluralonly"] if language == SOURCE else []
         done = subprocess.run(
             [tool("lupdate"), "-silent", "-locations", "none", "-no-obsolete", *plurals, "-I", "Shared",
-             "-tr-function-alias", "QT_TRANSLATE_NOOP+=TEXT,QT_TRANSLATE_N_NOOP+=TEXTS",
+             "-tr-function-alias", "QT_TRANSLATE_NOOP+=TEXT,QT_TRANSLATE_N_NOOP+=TEXTS,"
+             "QT_TRANSLATE_NOOP3+=COMMENTED_TEXT",
              "-source-language", SOURCE, "-target-language", language, "Shared", "-ts", file_of(folder, language)],
             cwd=source, check=True, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
         complaints += done.stdout.splitlines()
@@ -125,15 +126,16 @@ def table(source):
     lines = ["// Made by Scripts/languages.py of Resources/Languages.", '#include "CommandLine/Texts.h"', "",
              "namespace lodestar", "{", "namespace", "{", ""]
     for language in FORMS:
-        texts = {(message.context.encode(), message.source.encode()): message
+        texts = {tuple(part.encode() for part in (message.context, message.source, message.comment)): message
                  for message in messages_of(source / file_of(FOLDER, language))
-                 if message.context in contexts and not message.comment and not message.state and all(message.forms)}
+                 if message.context in contexts and not message.state and all(message.forms)}
         lines.append(f"constexpr TranslatedText {language}[] = {{")
         for _, message in sorted(texts.items()):
             forms = BETWEEN_FORMS.join(quoted(form) for form in message.forms)
-            lines.append(f"    {{{quoted(message.context)}, {quoted(message.source)}, {forms}}},")
+            key = ", ".join(map(quoted, (message.context, message.source, message.comment)))
+            lines.append(f"    {{{key}, {forms}}},")
         # An array may not be empty; no text has this context.
-        lines += ['    {"~", "", ""},', "};", ""]
+        lines += ['    {"~", "", "", ""},', "};", ""]
     lines += ["} // namespace", "", "const std::vector<TranslatedLanguage>& translatedLanguages()", "{",
               "    static const std::vector<TranslatedLanguage> all = {"]
     lines += [f'        {{"{language}", {language}, sizeof({language}) / sizeof(*{language})}},' for language in FORMS]

@@ -25,6 +25,11 @@ const TranslatedLanguage*& spoken()
     return language;
 }
 
+std::tuple<std::string_view, std::string_view, std::string_view> keyOf(const auto& text)
+{
+    return {text.context, text.source, text.comment};
+}
+
 /// The text's forms in the language that is spoken; empty when there are none.
 std::string_view formsOf(const Text& text)
 {
@@ -33,11 +38,9 @@ std::string_view formsOf(const Text& text)
     }
     const TranslatedText* const end = spoken()->texts + spoken()->count;
     const TranslatedText* const found =
-        std::lower_bound(spoken()->texts, end, text, [](const TranslatedText& each, const Text& sought) {
-            return std::tie(each.context, each.source) < std::tie(sought.context, sought.source);
-        });
-    return found != end && found->context == text.context && found->source == text.source ? found->forms
-                                                                                          : std::string_view();
+        std::lower_bound(spoken()->texts, end, text,
+                         [](const TranslatedText& each, const Text& sought) { return keyOf(each) < keyOf(sought); });
+    return found != end && keyOf(*found) == keyOf(text) ? found->forms : std::string_view();
 }
 
 /// Which form the language has for the number: the rules of CLDR for whole numbers.

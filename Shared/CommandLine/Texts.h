@@ -15,11 +15,13 @@ namespace lodestar
 struct Text {
     std::string_view context;
     std::string_view source;
+    std::string_view comment = {}; ///< tells it from another text of the same words
 };
 
 /// The tool that collects texts knows these names; a TEXTS has plural forms and shows its number as %Ln.
 #define TEXT(context, source) (::lodestar::Text{context, source})
 #define TEXTS(context, source) (::lodestar::Text{context, source})
+#define COMMENTED_TEXT(context, source, comment) (::lodestar::Text{context, source, comment})
 
 /// The program's sentences in the language of the person. What a script reads is English, whatever the language is.
 namespace Texts
@@ -43,11 +45,12 @@ inline constexpr char betweenForms = '\x1f';
 struct TranslatedText {
     std::string_view context;
     std::string_view source;
+    std::string_view comment;
     std::string_view forms;
 };
 struct TranslatedLanguage {
     std::string_view code;
-    const TranslatedText* texts; ///< in the order of context and source
+    const TranslatedText* texts; ///< in the order of context, source and comment
     std::size_t count;
 };
 /// Made of the files of Resources/Languages.

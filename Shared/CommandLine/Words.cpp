@@ -26,7 +26,8 @@ constexpr std::array<FeedName, feedTable.size()> feedNames = {{
     {ObjectType::ManagementConsole, TEXT("lodestar::FeedName", "console details"),
      TEXT("lodestar::FeedName", "Console details")},
     {ObjectType::ManagedSystem, TEXT("lodestar::FeedName", "systems"), TEXT("lodestar::FeedName", "Systems")},
-    {ObjectType::VirtualIOServer, TEXT("lodestar::FeedName", "IO servers"), TEXT("lodestar::FeedName", "IO servers")},
+    {ObjectType::VirtualIOServer, COMMENTED_TEXT("lodestar::FeedName", "IO servers", "within a sentence"),
+     TEXT("lodestar::FeedName", "IO servers")},
     {ObjectType::LogicalPartition, TEXT("lodestar::FeedName", "partitions"), TEXT("lodestar::FeedName", "Partitions")},
     {ObjectType::ServiceableEvent, TEXT("lodestar::FeedName", "events"), TEXT("lodestar::FeedName", "Events")},
     {ObjectType::Group, TEXT("lodestar::FeedName", "resource groups"), TEXT("lodestar::FeedName", "Resource groups")},
@@ -38,12 +39,13 @@ const FeedName* nameOf(std::string_view type)
     return found != feedNames.end() ? found : nullptr;
 }
 
-/// The parts that are there, with commas.
+/// The parts that are there, with the language's comma.
 std::string joined(std::initializer_list<std::string> parts)
 {
+    const std::string comma = say(TEXT("lodestar::Sentence", ", "));
     std::string text;
     for (const std::string& part : parts) {
-        text.append(text.empty() || part.empty() ? "" : ", ").append(part);
+        text.append(text.empty() || part.empty() ? "" : comma).append(part);
     }
     return text;
 }

@@ -87,6 +87,9 @@ TEST_F(WordsTests, OfFindingsAndReasonsAreThoseOfTheScreens)
     std::vector<std::string_view> missing;
     for (const FeedKind& kind : feedTable) {
         add(FindingRank::FeedsMissing, [&](Finding& each) { each.missing = {kind.type}; });
+        add(FindingRank::FeedsMissing, [&](Finding& each) {
+            each.missing = {ObjectType::ManagementConsole, kind.type};
+        });
         missing.push_back(kind.type);
         add(FindingRank::FeedsMissing, [&](Finding& each) { each.missing = missing; });
     }
