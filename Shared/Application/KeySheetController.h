@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Kit/Core/Sentence.h"
 #include "Kit/Core/ViewController.h"
 
 #include <QStringList>
@@ -33,7 +34,7 @@ public:
     QString title{};
     QStringList keys{};
     /// All keys in one line, for large text and for readers.
-    QString line() const { return keys.join(QStringLiteral(", ")); }
+    QString line() const { return Sentence::joined(keys); }
     friend bool operator==(const KeyRow&, const KeyRow&) = default;
 };
 

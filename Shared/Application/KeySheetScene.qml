@@ -126,7 +126,7 @@ SheetContent {
                         text: place.modelData.title
                         detail: Theme.stacked ? place.modelData.line : ""
                         separator: place.index > 0 && place.modelData.header === ""
-                        Accessible.name: place.modelData.line === "" ? text : text + ", " + place.modelData.line
+                        Accessible.name: Sentence.joined([text, place.modelData.line])
                         onClicked: scene.sheet.run(place.index)
 
                         Row {

@@ -3,6 +3,7 @@
 
 #include "Fleet/Readings.h"
 #include "Fleet/WatchNews.h"
+#include "Kit/Core/Sentence.h"
 #include "Views/Attention/ChangeText.h"
 #include "Views/Attention/FindingText.h"
 #include "Views/Common/AgeText.h"
@@ -139,10 +140,9 @@ Message ofEvent(const Finding& event)
     if (event.callsHome) {
         parts << Words::tr("call home");
     }
-    parts.removeAll(QString());
     //: %1 a console, %2 the number of an event
     return message(Words::tr("%1: #%2 opened").arg(shortened(event.console), shortened(event.eventNumber)),
-                   parts.join(Words::tr(", ")));
+                   Sentence::joined(parts));
 }
 
 QString summaryOfOne(const Finding& finding)
@@ -263,7 +263,7 @@ QString bodyOfSeveral(const std::vector<Finding>& findings, bool withNames)
             parts << (isOwnWord && parts.isEmpty() ? capitalised(std::move(part)) : part);
         }
     }
-    return parts.join(Words::tr(", "));
+    return Sentence::joined(parts);
 }
 
 QString gotWorse(std::size_t count)

@@ -42,7 +42,8 @@ QString PieChartView::accessibleText() const
     for (const ChartEntry& entry : m_model.data.dataSet.entries) {
         texts << textOf(entry);
     }
-    return texts.join(QStringLiteral(", "));
+    //: Between the parts of a chart as they are read out.
+    return texts.join(tr(", "));
 }
 
 QString PieChartView::selectedText() const

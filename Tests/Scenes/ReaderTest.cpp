@@ -149,7 +149,7 @@ protected:
         for (QString text : shown) {
             const QString whole = text;
             while (text.contains(ours)) {
-                text.remove(ours);
+                text.replace(ours, QStringLiteral(" ")); // the comma between a console's words is ours
             }
             for (auto found = word.globalMatch(text); found.hasNext();) {
                 const QString left = found.next().captured();

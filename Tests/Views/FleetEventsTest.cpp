@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/Languages.h"
 #include "Tests/Views/ListFixture.h"
 #include "Views/Attention/EventOrderViewController.h"
 #include "Views/Attention/FleetEventCell.h"
@@ -131,6 +132,9 @@ TEST_F(FleetEventsTest, ShowsWhatAnsweringConsolesHaveAndSaysWhatIsMissing)
     EXPECT_EQ(cell.moment, "09:41");
     EXPECT_EQ(cell.seconds.toStdString(), secondsBefore(minutes(2)));
     EXPECT_EQ(plain(cell.status), "Open, call home");
+    Languages::use({QStringLiteral("ja")});
+    EXPECT_THAT(plain(cellAt<FleetEventCell>(*events, 0).status), StartsWith("Open、"));
+    Languages::use({QStringLiteral("en")});
     EXPECT_EQ(cell.console, "Harbour B");
     EXPECT_EQ(cellAt<FleetEventCell>(*events, 1).moment, "yesterday 19:43");
     EXPECT_EQ(events->bars()->days().size(), 14);

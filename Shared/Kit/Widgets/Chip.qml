@@ -26,7 +26,7 @@ Pressable {
     implicitWidth: Math.min(room, 24 + tickSpace + strokeSpace + Math.ceil(measure.advanceWidth) + 1 + countSpace)
     implicitHeight: Math.max(36, Math.round(20 * scaleFactor) + 16)
     Accessible.role: Accessible.CheckBox
-    Accessible.name: count === "" ? text : text + ", " + count
+    Accessible.name: Sentence.joined([text, count])
     Accessible.checkable: true
     Accessible.checked: on
     onClicked: toggled()

@@ -63,7 +63,7 @@ Item {
         width: tiles.column
         height: tiles.tileHeight
         Accessible.role: Accessible.MenuItem
-        Accessible.name: text + (modelData.detail === "" ? "" : ", " + modelData.detail)
+        Accessible.name: Sentence.joined([text, modelData.detail])
         onClicked: tiles.outlet.choose(index)
 
         Rectangle {

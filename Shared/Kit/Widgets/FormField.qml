@@ -80,7 +80,7 @@ Item {
     InputField {
         id: input
 
-        label: field.label + (field.labelDetail === "" ? "" : ", " + field.labelDetail)
+        label: Sentence.joined([field.label, field.labelDetail])
         outlet: field.outlet
         secretSwitch: field.secure ? eye : null
         anchors.left: parent.left

@@ -38,7 +38,7 @@ Pressable {
                              titleLabel.implicitHeight + (stacked ? detailLabel.implicitHeight : 0) + 16)
     width: parent !== null ? parent.width : implicitWidth
     Accessible.role: pressable ? Accessible.Button : Accessible.StaticText
-    Accessible.name: text + (detail === "" ? "" : ", " + detail)
+    Accessible.name: Sentence.joined([text, detail])
 
     Rectangle {
         anchors.fill: parent

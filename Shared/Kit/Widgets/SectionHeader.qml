@@ -24,7 +24,7 @@ Item {
 
     implicitHeight: space + label.implicitHeight + detailHeight + noteHeight + 8
     Accessible.role: Accessible.Heading
-    Accessible.name: text + (note === "" ? "" : ", " + note) + (detail === "" ? "" : ", " + detail)
+    Accessible.name: Sentence.joined([text, note, detail])
 
     function makeMore() {
         if (wantsMore && loader.status === Loader.Null) {

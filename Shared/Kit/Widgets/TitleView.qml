@@ -16,7 +16,7 @@ Item {
     implicitWidth: 200
     implicitHeight: 44
     Accessible.role: Accessible.Heading
-    Accessible.name: titleLabel.text + (subtitleLabel.text === "" ? "" : ", " + subtitleLabel.text)
+    Accessible.name: Sentence.joined([titleLabel.text, subtitleLabel.text])
 
     Label {
         id: titleLabel

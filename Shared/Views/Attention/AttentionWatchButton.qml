@@ -12,7 +12,7 @@ Pressable {
     implicitWidth: Math.max(Theme.target, state.implicitWidth + 8)
     implicitHeight: Theme.target
     Accessible.role: Accessible.Button
-    Accessible.name: text + ", " + outlet.text
+    Accessible.name: Sentence.joined([text, outlet.text])
 
     HoverWash {
         anchors.fill: parent

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Attention/FindingText.h"
 
+#include "Kit/Core/Sentence.h"
 #include "Views/Common/AgeText.h"
 #include "Views/Common/CellText.h"
 #include "Views/Common/FeedName.h"
@@ -73,7 +74,7 @@ QString ofEvent(const Finding& event)
         // Further reports, and the first one.
         parts << Words::tr("%Ln times", nullptr, event.duplicates + 1);
     }
-    return spoken(parts);
+    return Sentence::joined(parts);
 }
 
 QString oneOf(const Finding& finding, WallTime now)
@@ -286,7 +287,7 @@ QString FindingText::filtered(const FindingFilter& filter, const std::vector<Con
     for (const FindingSubject kind : filter.kinds) {
         parts << (parts.isEmpty() ? subject(kind) : subjectWithin(kind));
     }
-    return lodestar::spoken(parts << chosenConsoles(filter, consoles));
+    return Sentence::joined(parts << chosenConsoles(filter, consoles));
 }
 
 QString FindingText::chosenConsoles(const FindingFilter& filter, const std::vector<ConsoleSnapshot>& consoles)

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Attention/FleetEventCell.h"
 
+#include "Kit/Core/Sentence.h"
 #include "Views/Attention/FleetEventList.h"
 #include "Views/Common/AgeText.h"
 #include "Views/Common/CellText.h"
@@ -37,7 +38,7 @@ FleetEventCell::FleetEventCell(const FleetEvent& event, WallTime now, const QStr
     }
     seconds = rowText(event.event.lastReported().value_or(""));
     const QString callsHome = event.callsHome ? Words::tr("call home") : QString();
-    status = spoken({isolated(rowText(event.event.problemState().value_or(""))), callsHome});
+    status = Sentence::joined({isolated(rowText(event.event.problemState().value_or(""))), callsHome});
 }
 
 QString FleetEventCell::accessibleText() const

@@ -2,6 +2,7 @@
 #include "Views/Attention/FleetEventsViewController.h"
 
 #include "Fleet/EventTable.h"
+#include "Kit/Core/Sentence.h"
 #include "Platform/Queues/DispatchQueue.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Views/Attention/FindingText.h"
@@ -9,7 +10,6 @@
 #include "Views/Attention/ObjectScenes.h"
 #include "Views/Attention/RowKey.h"
 #include "Views/Common/AgeClock.h"
-#include "Views/Common/CellText.h"
 #include "Views/Common/FeedName.h"
 
 #include <QLocale>
@@ -180,7 +180,7 @@ QString FleetEventsViewController::choiceText() const
     }
     parts << FindingText::chosenConsoles(filter(), Attention::shared().picture()->consoles);
     //: What is chosen, how many events that are, and how many there are.
-    return tr("%1: %2 of %3").arg(spoken(parts), number(m_list->shown.size()), number(m_list->events.size()));
+    return tr("%1: %2 of %3").arg(Sentence::joined(parts), number(m_list->shown.size()), number(m_list->events.size()));
 }
 
 void FleetEventsViewController::showOrder()

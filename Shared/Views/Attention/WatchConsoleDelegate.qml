@@ -9,7 +9,7 @@ TableCell {
 
     required property watchConsoleCell cell
 
-    accessibleText: cell.name + ", " + (cell.watched ? qsTr("watched") : qsTr("not watched"))
+    accessibleText: Sentence.joined([cell.name, cell.watched ? qsTr("watched") : qsTr("not watched")])
     implicitHeight: name.implicitHeight + 16
 
     Label {

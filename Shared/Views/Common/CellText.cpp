@@ -1,6 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Common/CellText.h"
 
+#include "Kit/Core/Sentence.h"
+
+#include <utility>
+
 namespace lodestar
 {
 
@@ -11,8 +15,7 @@ QString textOf(const std::optional<std::string>& field)
 
 QString spoken(QStringList words)
 {
-    words.removeAll(QString());
-    return words.join(QStringLiteral(", "));
+    return Sentence::joined(std::move(words));
 }
 
 } // namespace lodestar

@@ -20,7 +20,7 @@ Item {
 
     implicitHeight: !shown ? gap : 2 + (stacked ? name.height + age.height : Math.max(name.height, age.height)) + 8
     Accessible.role: Accessible.StaticText
-    Accessible.name: console + ", " + mark.spoken
+    Accessible.name: Sentence.joined([console, mark.spoken])
     Accessible.ignored: !shown
 
     Label {

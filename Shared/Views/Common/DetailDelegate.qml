@@ -13,7 +13,7 @@ TableCell {
     readonly property real column: 240
     readonly property real room: width - Theme.rowStart - Theme.rowEnd - (cell.disclosure ? 24 : 0)
 
-    accessibleText: cell.textLabel + ", " + cell.detailTextLabel
+    accessibleText: Sentence.joined([cell.textLabel, cell.detailTextLabel])
     selectable: cell.disclosure
     offersMenu: true
     implicitHeight: Math.max(Math.round((wide ? 50 : 60) * Theme.textScale), facts.height + Math.round(16 * Theme.textScale))

@@ -9,7 +9,7 @@ TableCell {
 
     required property menuCell cell
 
-    accessibleText: cell.title + (cell.detail === "" ? "" : ", " + cell.detail)
+    accessibleText: Sentence.joined([cell.title, cell.detail])
     selectable: !cell.rests
     leadsOn: !cell.rests
     implicitHeight: content.implicitHeight

@@ -116,7 +116,7 @@ Column {
                 anchors.rightMargin: Theme.rowStart
                 y: words.y
                 Accessible.role: Accessible.StaticText
-                Accessible.name: card.section.partsNames + ", " + text
+                Accessible.name: Sentence.joined([card.section.partsNames, text])
             }
         }
     }

@@ -25,8 +25,8 @@ TableCell {
     /// Points kept free at the end for the chevron, even without one, so that columns of all rows are aligned.
     readonly property real trailing: Theme.rowEnd + 24
 
-    accessibleText: cell.accessibleText + (mark.spoken === "" ? "" : ", " + mark.spoken)
-    accessibleDetail: cell.addressLabel.text + (cell.versionLabel.text === "" ? "" : ", " + cell.versionLabel.text)
+    accessibleText: Sentence.joined([cell.accessibleText, mark.spoken])
+    accessibleDetail: Sentence.joined([cell.addressLabel.text, cell.versionLabel.text])
     selectable: cell.highlights
     leadsOn: cell.highlights
     swipeButtons: cell.rightButtons

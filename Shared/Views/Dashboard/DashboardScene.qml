@@ -67,7 +67,7 @@ PageScaffold {
         width: parent ? parent.width : 0
         implicitHeight: space + words.height + (stacked ? end.height : 0) + 8
         Accessible.role: Accessible.Heading
-        Accessible.name: text + (mark.spoken === "" ? "" : ", " + mark.spoken)
+        Accessible.name: Sentence.joined([text, mark.spoken])
         Accessible.ignored: outlet.hidden
 
         Label {
@@ -107,7 +107,7 @@ PageScaffold {
 
         implicitHeight: number.height + words.height
         Accessible.role: Accessible.StaticText
-        Accessible.name: caption + ", " + count.text
+        Accessible.name: Sentence.joined([caption, count.text])
         Accessible.ignored: count.hidden
 
         CountingLabel {

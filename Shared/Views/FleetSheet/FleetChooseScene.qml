@@ -72,7 +72,7 @@ PageScaffold {
                 detail: any ? "" : scene.sheet.unusableLabel.text
                 chevron: any
                 pressable: any
-                Accessible.name: text + ", " + scene.sheet.unusableLabel.text
+                Accessible.name: Sentence.joined([text, scene.sheet.unusableLabel.text])
                 onClicked: scene.sheet.openUnusable()
 
                 StateWord {

@@ -52,7 +52,7 @@ PageScaffold {
 
         implicitHeight: words.height + number.height
         Accessible.role: Accessible.StaticText
-        Accessible.name: caption + (value.hidden || value.text === "" ? "" : ", " + value.text + (unitLabel.visible ? " " + unit : ""))
+        Accessible.name: value.hidden || value.text === "" ? caption : Sentence.joined([caption, value.text + (unitLabel.visible ? " " + unit : "")])
 
         Row {
             id: key
