@@ -12,7 +12,6 @@
 
 #include <algorithm>
 #include <charconv>
-#include <cstdlib>
 #include <map>
 #include <utility>
 
@@ -30,13 +29,6 @@ const Reading notTried;
 std::string nameOr(const std::optional<std::string>& name, const std::string& identity)
 {
     return name && !name->empty() ? *name : identity;
-}
-
-std::optional<WallTime> wallTimeOf(const std::optional<std::string>& seconds)
-{
-    constexpr std::int64_t last = 9'000'000'000; // the clock counts nanoseconds in 64 bits
-    const auto time = reportedSeconds(seconds);
-    return time && std::abs(*time) <= last ? std::optional(WallTime(std::chrono::seconds(*time))) : std::nullopt;
 }
 
 int countOf(const std::optional<std::string>& text)
@@ -295,7 +287,7 @@ private:
             finding.callsHome = event.callsHome();
             finding.duplicates = countOf(event.duplicateCount());
             // An event tells its own time, which is older and better than that of any reading.
-            const auto reported = wallTimeOf(event.lastReported());
+            const auto reported = wallTimeOf(reportedSeconds(event.lastReported()));
             finding.since = reported ? Since{*reported} : stateSince(finding);
         });
     }

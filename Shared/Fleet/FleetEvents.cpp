@@ -74,6 +74,13 @@ std::optional<std::int64_t> reportedSeconds(const std::optional<std::string>& te
     return error == std::errc() && (rest.empty() || isFraction) ? std::optional(seconds) : std::nullopt;
 }
 
+std::optional<WallTime> wallTimeOf(std::optional<std::int64_t> seconds)
+{
+    constexpr std::int64_t last = 9'000'000'000; // the clock counts nanoseconds in 64 bits
+    const bool isTime = seconds && *seconds >= -last && *seconds <= last;
+    return isTime ? std::optional(WallTime(std::chrono::seconds(*seconds))) : std::nullopt;
+}
+
 std::vector<FleetEvent> eventsOf(const std::vector<ConsoleSnapshot>& consoles)
 {
     std::vector<FleetEvent> events;

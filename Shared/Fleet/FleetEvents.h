@@ -47,6 +47,8 @@ struct EventGroup {
 
 /// Seconds since 1970, as events tell them; none for a text that is no number.
 std::optional<std::int64_t> reportedSeconds(const std::optional<std::string>& text);
+/// The moment that these seconds tell; none for one that no clock shows, as a console's milliseconds would.
+std::optional<WallTime> wallTimeOf(std::optional<std::int64_t> seconds);
 
 /// The events of all consoles that were read, in the consoles' order. Those of a console that is offline are left out:
 /// what is old is not known. Pure; any thread.

@@ -144,6 +144,16 @@ TEST_F(FleetEventsTest, ShowsWhatAnsweringConsolesHaveAndSaysWhatIsMissing)
     events->didSelectRowAtIndexPath(TableKind::Main, {0, 2});
     EXPECT_EQ(openedScene, "serviceableEventsDetail");
     EXPECT_EQ(input<XMLElement>().path({"problemNumber"}).text(), "1029");
+
+    // A console that counts milliseconds, and has an event without a status.
+    show({{harbour, Reading::Outcome::Complete,
+           entry("ServiceableEvent", "<problemNumber>7</problemNumber><ApprovalState>Approved</ApprovalState>"
+                                     "<lastReportedTimestamp>1773304860000</lastReportedTimestamp>")}});
+    comesTo({"Approved (#7)"});
+    EXPECT_EQ(cellAt<FleetEventCell>(*events, 0).moment, "");
+    EXPECT_EQ(cellAt<FleetEventCell>(*events, 0).seconds, "1773304860000");
+    events->setChoice({.order = EventOrder::ByStatus, .openOnly = false, .callHomeOnly = false, .consoles = {}});
+    comesTo({"no status//1", "Approved (#7)"});
 }
 
 TEST_F(FleetEventsTest, TheSheetOrdersAndChoosesAtOnceAndAResetShowsAllAgain)

@@ -33,8 +33,8 @@ FleetEventCell::FleetEventCell(const FleetEvent& event, WallTime now, const QStr
             }
         }
     }
-    if (event.lastReported) {
-        moment = AgeText::moment(WallTime(std::chrono::seconds(*event.lastReported)), now);
+    if (const auto reported = wallTimeOf(event.lastReported)) {
+        moment = AgeText::moment(*reported, now);
     }
     seconds = rowText(event.event.lastReported().value_or(""));
     const QString callsHome = event.callsHome ? Words::tr("call home") : QString();

@@ -30,7 +30,7 @@ public:
     QString accessibleText() const;
 
     CellLabel title;
-    QString moment;  ///< "09:41"; empty when the console's time is no number
+    QString moment;  ///< "09:41"; empty when the console's time is none
     QString seconds; ///< as the console has them
     /// What else of a found event holds the searched text; empty where the title or the console does.
     CellLabel found;

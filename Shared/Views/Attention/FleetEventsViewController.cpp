@@ -226,7 +226,10 @@ std::optional<QString> FleetEventsViewController::titleForHeaderInSection(TableK
         return {};
     }
     const std::string& title = m_list->groups.at(static_cast<std::size_t>(section)).title;
-    return title.empty() && m_choice.order == EventOrder::ByReferenceCode ? tr("no reference code") : rowText(title);
+    if (!title.empty()) {
+        return rowText(title);
+    }
+    return m_choice.order == EventOrder::ByReferenceCode ? tr("no reference code") : tr("no status");
 }
 
 QString FleetEventsViewController::noteForHeaderInSection(TableKind tableView, int section) const

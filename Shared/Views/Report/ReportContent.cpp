@@ -77,12 +77,8 @@ std::string typeAndModel(const MachineIdentity& machine)
 
 std::string timeText(const Field& seconds)
 {
-    constexpr std::int64_t last = 9'000'000'000; // the clock counts nanoseconds in 64 bits
-    const auto time = reportedSeconds(seconds);
-    if (!time) {
-        return known(seconds);
-    }
-    return std::abs(*time) <= last ? reportTime(WallTime(std::chrono::seconds(*time))).toStdString() : *seconds;
+    const auto time = wallTimeOf(reportedSeconds(seconds));
+    return time ? reportTime(*time).toStdString() : known(seconds);
 }
 
 QString offsetText(int seconds)
