@@ -3,6 +3,7 @@
 
 #include "Fleet/Attention.h"
 #include "Platform/Queues/DispatchQueue.h"
+#include "Platform/Queues/FreedElsewhere.h"
 #include "Platform/Queues/MainQueue.h"
 
 #include <new>
@@ -13,18 +14,10 @@ namespace lodestar
 namespace
 {
 
-/// Lets go elsewhere: the last share of many feeds takes a while to be freed.
-void release(std::shared_ptr<const FleetSearch> search)
-{
-    if (search != nullptr) {
-        DispatchQueue::globalBackground().async([search = std::move(search)] {});
-    }
-}
-
 std::shared_ptr<const FleetSearch> make(const std::vector<ConsoleSnapshot>& consoles, const FleetSearch* before)
 {
     try {
-        return std::make_shared<const FleetSearch>(consoles, before);
+        return freedElsewhere(std::make_unique<const FleetSearch>(consoles, before));
     } catch (const std::bad_alloc&) {
         return nullptr;
     }
@@ -46,11 +39,6 @@ std::shared_ptr<FleetSearchKeeper> FleetSearchKeeper::shared()
     return keeper;
 }
 
-FleetSearchKeeper::~FleetSearchKeeper()
-{
-    release(std::move(m_search));
-}
-
 void FleetSearchKeeper::update()
 {
     if (std::exchange(m_isMaking, true)) {
@@ -63,8 +51,6 @@ void FleetSearchKeeper::update()
             MainQueue::shared().async([weak, search = std::move(search)]() mutable {
                 if (const auto keeper = weak.lock()) {
                     keeper->show(std::move(search));
-                } else {
-                    release(std::move(search));
                 }
             });
         });
@@ -73,7 +59,7 @@ void FleetSearchKeeper::update()
 void FleetSearchKeeper::show(std::shared_ptr<const FleetSearch> search)
 {
     m_isMaking = false;
-    release(std::exchange(m_search, std::move(search)));
+    m_search = std::move(search);
     NotificationCenter::defaultCenter().postNotification("FleetSearchDidChange");
     if (std::exchange(m_isAskedAgain, false)) {
         update();

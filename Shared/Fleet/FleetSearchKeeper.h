@@ -21,7 +21,6 @@ public:
     /// The one of the process.
     static std::shared_ptr<FleetSearchKeeper> shared();
     explicit FleetSearchKeeper(Only /*made by shared()*/) {}
-    ~FleetSearchKeeper();
     FleetSearchKeeper(const FleetSearchKeeper&) = delete;
     FleetSearchKeeper& operator=(const FleetSearchKeeper&) = delete;
 

@@ -4,6 +4,7 @@
 #include "Fleet/EventTable.h"
 #include "Kit/Core/Sentence.h"
 #include "Platform/Queues/DispatchQueue.h"
+#include "Platform/Queues/FreedElsewhere.h"
 #include "Platform/Queues/MainQueue.h"
 #include "Views/Attention/FindingText.h"
 #include "Views/Attention/FleetEventCell.h"
@@ -97,8 +98,8 @@ void FleetEventsViewController::update()
     const int turn = ++m_turn;
     DispatchQueue::globalBackground().async(
         [screen = self<FleetEventsViewController>(), turn, picture, choice = std::move(choice), now = AgeClock::now()] {
-            auto list = std::make_shared<const FleetEventList>(FleetEventList::of(picture->consoles, choice, now));
-            MainQueue::shared().async([screen, turn, list = std::move(list)]() mutable {
+            auto list = std::make_unique<const FleetEventList>(FleetEventList::of(picture->consoles, choice, now));
+            MainQueue::shared().async([screen, turn, list = freedElsewhere(std::move(list))]() mutable {
                 screen->whenUntouched([screen, turn, list = std::move(list)]() mutable {
                     if (screen->m_turn == turn) {
                         screen->adopt(std::move(list));
