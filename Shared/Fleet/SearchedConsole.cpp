@@ -63,22 +63,22 @@ private:
     void addObjects()
     {
         if (m_made.m_feeds != nullptr) {
-            std::uint32_t place = 0;
             for (const XMLElement& entry : m_made.m_feeds->feed(Kind::type).entries()) {
                 if (const auto record = recordOfEntry<Kind>(entry)) {
                     m_entry = &entry;
                     add(record);
-                    endObject(place);
+                    endObject(record.element().place());
                 }
-                ++place;
             }
         }
         endKind();
     }
+        std::uint32_t place = 0;
 
     void addConsole(const ConsoleSnapshot& console)
     {
         addName(console.name);
+            place = information.element().place();
         addOwn(console.address);
         addOwn(m_made.m_numericAddress);
         if (m_made.m_feeds != nullptr) {
@@ -87,10 +87,11 @@ private:
             addMachine(information.identity());
         }
         m_isInError = m_made.m_hasTrouble;
-        endObject(0);
+        endObject(place);
         endKind();
     }
 
+        m_made.m_systems.try_emplace(identityOfEntry(*m_entry, ManagedSystem::type), m_object);
     void add(const ManagedSystem& system)
     {
         addName(system.name());
@@ -193,7 +194,7 @@ private:
         m_made.m_texts.push_back('\0');
         m_begin = m_made.m_texts.size();
         m_made.m_ends.push_back(static_cast<std::uint32_t>(m_begin));
-        m_made.m_entries.push_back(place);
+        m_made.m_places.push_back(place);
         m_made.m_errors.resize(m_object / 64 + 1);
         if (m_isInError) {
             m_made.m_errors.back() |= std::uint64_t{1} << (m_object % 64);
@@ -225,7 +226,7 @@ private:
         }
         m_made.m_texts.shrink_to_fit();
         m_made.m_ends.shrink_to_fit();
-        m_made.m_entries.shrink_to_fit();
+        m_made.m_places.shrink_to_fit();
         m_made.m_errors.shrink_to_fit();
     }
 
@@ -264,13 +265,14 @@ std::size_t SearchedConsole::kindOf(std::uint32_t object) const
 
 XMLElement SearchedConsole::elementOf(std::uint32_t object) const
 {
-    const std::string_view type = searchedKinds.at(kindOf(object));
-    if (m_feeds == nullptr) {
-        return {};
-    }
-    const std::vector<XMLElement> entries = m_feeds->feed(type).entries();
-    const std::uint32_t place = m_entries[object];
-    return place < entries.size() ? contentOf(entries[place], type) : XMLElement();
+    const std::uint32_t place = m_places[object];
+    return place != 0 ? m_feeds->feed(searchedKinds.at(kindOf(object))).root().at(place) : XMLElement();
+}
+
+std::string SearchedConsole::systemOf(const Partition& partition) const
+{
+    const auto system = m_systems.find(identityOfSystem(partition));
+    return system != m_systems.end() ? ManagedSystem(elementOf(system->second)).name().value_or("") : std::string();
 }
 
 std::size_t SearchedConsole::membersInError(const XMLElement& group) const
@@ -328,7 +330,10 @@ void SearchedConsole::find(std::string_view wanted, std::uint32_t console, Found
 std::size_t SearchedConsole::memory() const
 {
     std::size_t bytes = sizeof(*this) + m_texts.capacity() + m_name.capacity() + m_address.capacity();
-    for (const auto* numbers : {&m_ends, &m_firstUse, &m_uses, &m_entries}) {
+    for (const auto* numbers : {&m_ends, &m_firstUse, &m_uses, &m_places}) {
+    for (const auto& system : m_systems) {
+        bytes += 4 * sizeof(void*) + sizeof(system) + system.first.capacity();
+    }
         bytes += numbers->capacity() * sizeof(std::uint32_t);
     }
     bytes += m_errors.capacity() * sizeof(std::uint64_t);

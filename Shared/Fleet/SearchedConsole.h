@@ -7,6 +7,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <memory>
 #include <set>
 #include <string>
@@ -15,6 +16,8 @@
 
 namespace lodestar
 {
+
+class Partition;
 
 /// The kinds of objects that are searched, as types of their feeds, in the order of a console's overview.
 inline constexpr std::array<std::string_view, 6> searchedKinds = {
@@ -49,9 +52,11 @@ public:
     /// Whether the texts would be the same for this console as it is now.
     bool holdsFor(const ConsoleSnapshot& console) const;
 
-    std::size_t objects() const { return m_entries.size(); }
+    std::size_t objects() const { return m_places.size(); }
     std::size_t kindOf(std::uint32_t object) const;
     /// The object in its feed, as its detail screen shows it. For the console itself what it reports about itself, if
+    /// The name of the partition's system; empty when the console's feeds do not tell it.
+    std::string systemOf(const Partition& partition) const;
     /// that was read.
     XMLElement elementOf(std::uint32_t object) const;
     bool isInError(std::uint32_t object) const { return (m_errors[object / 64] >> (object % 64) & 1U) != 0; }
@@ -82,7 +87,8 @@ private:
     std::vector<std::uint32_t> m_ends;     ///< of each text, after its NUL
     std::vector<std::uint32_t> m_firstUse; ///< of each shared text and of one more, in `m_uses`
     std::vector<std::uint32_t> m_uses;     ///< objects
-    std::vector<std::uint32_t> m_entries;  ///< each object's place in its feed
+    std::vector<std::uint32_t> m_places;   ///< each object's in its feed's document; 0 for none
+    std::map<std::string, std::uint32_t> m_systems;         ///< objects by identity
     std::vector<std::uint64_t> m_errors;   ///< a bit for each object
     std::array<std::uint32_t, searchedKinds.size()> m_kindEnds{};
     std::set<std::string, std::less<>> m_identitiesInError; ///< as groups count them

@@ -56,6 +56,11 @@ public:
     /// Follows first children by name: `path({"entry", "content"})`.
     XMLElement path(std::initializer_list<std::string_view> names) const;
 
+    /// Where the element stands in its document; 0 for the root. Who holds the document anyway can keep this instead of
+    /// an element, and have the element back from any other one of the same document.
+    std::uint32_t place() const { return m_index; }
+    XMLElement at(std::uint32_t place) const { return exists() ? XMLElement(m_document, place) : XMLElement(); }
+
     /// The number of bytes that the element's whole document takes.
     std::size_t documentMemory() const;
 

@@ -1,13 +1,12 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Find/FoundFields.h"
 
-#include "Fleet/SystemNames.h"
 #include "Inventory/ConsoleInformation.h"
-#include "Inventory/Identity.h"
 #include "Inventory/ManagedSystem.h"
 #include "Inventory/Partition.h"
 #include "Inventory/ResourceGroup.h"
 #include "Inventory/ServiceableEvent.h"
+#include "Kit/Core/Sentence.h"
 #include "Views/Common/CellText.h"
 #include "Views/Common/FeedName.h"
 #include "Views/Common/PartitionCell.h"
@@ -28,16 +27,20 @@ struct Words {
 
 constexpr int tagSize = 24; // points
 
+/// Of a text without end, so much is looked through for what can be marked.
+constexpr qsizetype longestField = 10'000;
+
 QString part(const std::optional<std::string>& text)
 {
-    return isolated(textOf(text));
+    return isolated(shortened(textOf(text), longestField));
 }
 
 /// "4210-M16, serial 06A17C2".
 QString machine(const MachineIdentity& identity)
 {
     const QString serial = part(identity.serialNumber());
-    return spoken({part(typeAndModelOf(identity)), serial.isEmpty() ? QString() : Words::tr("serial %1").arg(serial)});
+    return Sentence::joined(
+        {part(typeAndModelOf(identity)), serial.isEmpty() ? QString() : Words::tr("serial %1").arg(serial)});
 }
 
 FoundFields fields(const ManagedSystem& system)
@@ -50,13 +53,10 @@ FoundFields fields(const ManagedSystem& system)
             .picture = cell.statusImage.imageName};
 }
 
-FoundFields fields(const Partition& partition, const ConsoleSnapshot& console)
+FoundFields fields(const Partition& partition, const SearchedConsole& console)
 {
-    const auto systems = systemNamesOf(*console.feeds);
-    const auto system = systems.find(identityOfSystem(partition));
     return {.name = textOf(partition.name()),
-            .usual =
-                spoken({system != systems.end() ? part(system->second) : QString(), part(partition.referenceCode())}),
+            .usual = Sentence::joined({part(console.systemOf(partition)), part(partition.referenceCode())}),
             .state = PartitionCell(partition, {}).stateLabel};
 }
 
@@ -69,7 +69,7 @@ FoundFields fields(const ResourceGroup& group, std::size_t inError)
     //: How many of a group's resources are in error, as in "16 resources, 1 in error"
     const QString errors = inError == 0 ? QString() : Words::tr("%Ln in error", nullptr, static_cast<int>(inError));
     return {.name = textOf(group.name()),
-            .usual = spoken({resources, errors}),
+            .usual = Sentence::joined({resources, errors}),
             .picture = cell.groupTag.imageName,
             .pictureSize = tagSize};
 }
@@ -80,10 +80,10 @@ FoundFields fields(const ServiceableEvent& event)
                        part(event.systemReferenceCode()), part(event.failingSystem().hostName()),
                        machine(event.failingSystem().identity())};
     for (const FieldReplaceableUnit& unit : event.units()) {
-        others << spoken({part(unit.partNumber()), part(unit.locationCode())});
+        others << Sentence::joined({part(unit.partNumber()), part(unit.locationCode())});
     }
     others << part(event.problemState());
-    const QString text = oneLine(textOf(event.shortDescription()));
+    const QString text = oneLine(shortened(textOf(event.shortDescription()), longestField));
     return {.name = textOf(event.title()), .usual = text.isEmpty() ? others.front() : text, .others = others};
 }
 
@@ -127,7 +127,7 @@ FoundFields fieldsOf(const FleetSearch& search, const FoundObject& found)
         return fields(ServiceableEvent(element));
     }
     return type == ConsoleInformation::type ? fields(console, ConsoleInformation(element))
-                                            : fields(Partition(element), console);
+                                            : fields(Partition(element), searched);
 }
 
 } // namespace lodestar
