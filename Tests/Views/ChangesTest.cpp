@@ -167,6 +167,31 @@ TEST_F(ChangesTest, SaysWhenNothingCanBeKnownYetAndShowsWhatEachReadingFoundByDa
     changes->bars()->choose(29);
     EXPECT_EQ(scrolledTo, (std::vector<int>{4, 0}));
 
+    // Rows are asked anew only for what has changed; while one is touched, both what it leads to and new rows wait.
+    int reloads = 0;
+    QObject::connect(changes->tableView(), &TableOutlet::reloaded, [&] { ++reloads; });
+    const auto tell = [] { NotificationCenter::defaultCenter().postNotification("AttentionDidChange"); };
+    tell();
+    EXPECT_EQ(reloads, 0);
+    changes->tableView()->setTouched(true);
+    corvel->setRestData(nullptr);
+    tell();
+    EXPECT_EQ(reloads, 0);
+    EXPECT_EQ(lines().at(2), "at_worse|helios-03|LED on|09:41|Harbour B >");
+    changes->tableView()->setTouched(false);
+    EXPECT_TRUE(runUntil([&] { return reloads == 1; }));
+    EXPECT_EQ(lines().at(2), "at_worse|helios-03|LED on|09:41|Harbour B");
+    changes->tableView()->setTouched(true);
+    read(corvel, now, {{"ManagedSystem", broken}, {"LogicalPartition", partitions("running")}});
+    bool written = false;
+    History::shared().whenWritten([&] { written = true; });
+    EXPECT_TRUE(runUntil([&] { return written; }));
+    drain();
+    tell();
+    changes->tableView()->setTouched(false);
+    runUntil([&] { return lines().front() == "Today 4"; }, seconds(10));
+    EXPECT_EQ(lines().front(), "Today 4") << "the event is gone";
+
     AgeClock::setNow(now + hours(20));
     EXPECT_THAT(lines().front(), StartsWith("Yesterday")) << "after midnight, without a reading";
 }

@@ -3,10 +3,12 @@
 
 #include "Application/Model/Corvel.h"
 #include "Fleet/Change.h"
+#include "Inventory/Feed.h"
 #include "XML/XMLElement.h"
 
 #include <map>
 #include <memory>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <utility>
@@ -30,15 +32,21 @@ public:
     /// Opens the object's details, or the connection of a console that changed itself. Returns whether there was
     /// something to open.
     bool open(const Change& change, const ViewController& from);
-    /// Forgets what was found. To be called when the list of consoles or their feeds may have changed.
-    void forget();
+    /// Forgets what was found at consoles that have come, gone or been read since. Returns whether there are any.
+    bool follow();
 
 private:
-    using Objects = std::unordered_map<std::string, XMLElement>;
+    struct Objects {
+        std::shared_ptr<const FeedDictionary> feeds; ///< in which they are
+        std::unordered_map<std::string, XMLElement> byIdentity{};
+    };
+    using ConsolesByAddress = std::map<std::string, CorvelRef>;
+    static ConsolesByAddress registeredConsoles();
     const Objects& objectsOf(const Corvel& corvel, const std::string& type);
 
-    std::map<std::string, CorvelRef> m_consoles; ///< by address
-    std::map<std::pair<const Corvel*, std::string>, Objects> m_objects;
+    std::optional<ConsolesByAddress> m_consoles; ///< none before the first change asks
+    /// Shared only for the sake of `freedElsewhere`.
+    std::map<std::pair<const Corvel*, std::string>, std::shared_ptr<const Objects>> m_objects;
 };
 
 } // namespace lodestar

@@ -16,6 +16,7 @@
 #include <algorithm>
 #include <optional>
 #include <set>
+#include <utility>
 
 namespace lodestar
 {
@@ -93,10 +94,7 @@ void ChangesViewController::viewDidAppear()
     NotificationCenter& center = NotificationCenter::defaultCenter();
     m_observations.push_back(center.addObserver("HistoryDidChange", [this] { update(); }));
     // What rows lead to comes and goes with consoles and their feeds.
-    m_observations.push_back(center.addObserver("AttentionDidChange", [this] {
-        m_targets.forget();
-        m_tableView.reloadData();
-    }));
+    m_observations.push_back(center.addObserver("AttentionDidChange", [this] { catchUp(); }));
     connect(&AgeClock::shared(), &AgeClock::ticked, this, &ChangesViewController::tick);
     update();
 }
@@ -117,6 +115,7 @@ void ChangesViewController::filterDidChange()
 void ChangesViewController::update()
 {
     const int turn = ++m_turn;
+    m_next.reset();
     const auto screen = self<ChangesViewController>();
     History::shared().changes([screen, turn](const std::shared_ptr<const ChangeList>& list) {
         if (screen->m_turn != turn) {
@@ -127,20 +126,31 @@ void ChangesViewController::update()
             shown.notShown = list->changes.size() - shown.list->changes.size();
             shown.days = daysOf(shown.list->changes, {});
             MainQueue::shared().async([screen, turn, shown = std::move(shown)]() mutable {
-                screen->m_tableView.whenUntouched([screen, turn, shown = std::move(shown)]() mutable {
-                    if (screen->m_turn == turn) {
-                        screen->adopt(std::move(shown));
-                    }
-                });
+                if (screen->m_turn == turn) {
+                    screen->m_next = std::move(shown);
+                    screen->catchUp();
+                }
             });
         });
+    });
+}
+
+void ChangesViewController::catchUp()
+{
+    // One function for both, since the table keeps only the last one that waits.
+    m_tableView.whenUntouched([this] {
+        const bool isOld = m_targets.follow();
+        if (m_next) {
+            adopt(*std::exchange(m_next, {}));
+        } else if (isOld) {
+            m_tableView.reloadData();
+        }
     });
 }
 
 void ChangesViewController::adopt(Shown shown)
 {
     m_shown = std::move(shown);
-    m_targets.forget();
     m_filterText =
         filter().isSet() ? FindingText::filtered(filter(), Attention::shared().picture()->consoles) : QString();
     m_emptyText.clear();

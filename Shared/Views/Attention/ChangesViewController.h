@@ -10,6 +10,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace lodestar
@@ -70,6 +71,8 @@ private:
         std::size_t notShown = 0;
     };
     void update();
+    /// Shows what has come, once no row is touched.
+    void catchUp();
     void adopt(Shown shown);
     /// What stands below the changes, or below the text in their place.
     QStringList notes() const;
@@ -83,6 +86,7 @@ private:
     QString m_emptyText;
     QString m_filterText;
     Shown m_shown;
+    std::optional<Shown> m_next; ///< waits until no row is touched
     std::chrono::local_days m_today;
     ChangeTargets m_targets;
     int m_turn = 0;                                              ///< of the last update, the only one that is shown

@@ -25,8 +25,11 @@ FoldedChangesViewController::FoldedChangesViewController(std::shared_ptr<const C
 void FoldedChangesViewController::viewDidLoad()
 {
     m_observation = NotificationCenter::defaultCenter().addObserver("AttentionDidChange", [this] {
-        m_targets.forget();
-        m_tableView.reloadData();
+        m_tableView.whenUntouched([this] {
+            if (m_targets.follow()) {
+                m_tableView.reloadData();
+            }
+        });
     });
     m_tableView.reloadData();
 }
