@@ -200,6 +200,22 @@ TEST_F(FleetSheetScreensTest, WhatIsNoSheetIsSaidAndLeavingAddsNothing)
     ASSERT_TRUE(
         runUntil([this] { return top<FleetChooseViewController>().foundLabel()->text() == "There is no such file."; }));
 
+    std::string many = "name,address,user\n";
+    for (int i = 0; i < 21; ++i) {
+        many += fmt::format("C,c{}.example,ops{}\n", i, i);
+    }
+    auto& large = choose(many);
+    const auto type = [&large] {
+        for (int i = 0; i < large.passwords()->count(); ++i) {
+            large.passwords()->at(i)->field()->setText(QStringLiteral("secret"));
+        }
+        return large.verifyLabel()->isEnabled();
+    };
+    EXPECT_FALSE(type()) << "the last user has no field yet";
+    large.passwords()->showMore();
+    EXPECT_TRUE(type());
+    EXPECT_FALSE(large.passwords()->hasMore());
+
     fleet.setFault("stallFeed:Group");
     const auto start = [this] {
         auto& screen = choose("name,address,user\n" + console(0) + console(2));

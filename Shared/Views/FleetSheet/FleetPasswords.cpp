@@ -5,6 +5,7 @@
 #include "Views/FleetSheet/FleetSheetText.h"
 
 #include <algorithm>
+#include <string_view>
 #include <unordered_map>
 #include <utility>
 
@@ -13,7 +14,7 @@ namespace lodestar
 namespace
 {
 
-constexpr int mostMore = 20;
+constexpr std::size_t mostMore = 20;
 
 } // namespace
 
@@ -34,22 +35,20 @@ QString FleetPassword::consoles() const
 
 void FleetPasswords::setRows(const std::vector<SheetRow>& rows)
 {
-    std::unordered_map<std::string, std::size_t> counts;
-    std::vector<std::string> users;
+    std::unordered_map<std::string_view, std::size_t> places;
+    m_users.clear();
     for (const SheetRow& row : rows) {
-        if (++counts[row.user] == 1) {
-            users.push_back(row.user);
+        const auto [place, isNew] = places.try_emplace(row.user, m_users.size());
+        if (isNew) {
+            m_users.push_back({row.user});
         }
+        ++m_users[place->second].consoles;
     }
-    m_shown = 0;
+    const auto before = std::exchange(m_passwords, {});
     Q_EMIT countChanged();
     // Later, as the scene lets go of its fields later, too.
-    for (FleetPassword* const before : std::exchange(m_passwords, {})) {
-        before->deleteLater();
-    }
-    for (const std::string& user : users) {
-        m_passwords.push_back(new FleetPassword(user, counts[user], this));
-        connect(m_passwords.back()->field(), &FieldOutlet::textChanged, this, &FleetPasswords::typedChanged);
+    for (FleetPassword* const each : before) {
+        each->deleteLater();
     }
     showMore();
 }
@@ -63,13 +62,18 @@ FleetPassword* FleetPasswords::at(int index) const
 
 void FleetPasswords::showMore()
 {
-    m_shown = std::min(m_shown + mostMore, static_cast<int>(m_passwords.size()));
+    const std::size_t end = std::min(m_passwords.size() + mostMore, m_users.size());
+    while (m_passwords.size() < end) {
+        const User& user = m_users[m_passwords.size()];
+        m_passwords.push_back(new FleetPassword(user.name, user.consoles, this));
+        connect(m_passwords.back()->field(), &FieldOutlet::textChanged, this, &FleetPasswords::typedChanged);
+    }
     Q_EMIT countChanged();
 }
 
 bool FleetPasswords::areWhole() const
 {
-    return !m_passwords.empty() &&
+    return !m_passwords.empty() && !hasMore() &&
            std::ranges::none_of(m_passwords, [](FleetPassword* each) { return each->field()->text().isEmpty(); });
 }
 

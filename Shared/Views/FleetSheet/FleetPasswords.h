@@ -35,7 +35,7 @@ private:
     FieldOutlet m_field;
 };
 
-/// One password a user. The first fields are shown, twenty more at a time. Main thread.
+/// One password a user. The first fields are there, twenty more at a time. Main thread.
 class FleetPasswords : public QObject
 {
     Q_OBJECT
@@ -47,8 +47,8 @@ class FleetPasswords : public QObject
 public:
     /// How many consoles each of the rows' users has, users in the order of the rows.
     void setRows(const std::vector<SheetRow>& rows);
-    int count() const { return m_shown; }
-    bool hasMore() const { return static_cast<std::size_t>(m_shown) < m_passwords.size(); }
+    int count() const { return static_cast<int>(m_passwords.size()); }
+    bool hasMore() const { return m_passwords.size() < m_users.size(); }
     Q_INVOKABLE lodestar::FleetPassword* at(int index) const;
     Q_INVOKABLE void showMore();
     /// Whether there is a user, and every one has a password.
@@ -61,8 +61,12 @@ Q_SIGNALS:
     void typedChanged();
 
 private:
-    std::vector<FleetPassword*> m_passwords; ///< children of this, else QML would delete what `at` returns
-    int m_shown = 0;
+    struct User {
+        std::string name;
+        std::size_t consoles = 0;
+    };
+    std::vector<User> m_users;
+    std::vector<FleetPassword*> m_passwords; ///< of the first users; children of this, or QML would delete them
 };
 
 } // namespace lodestar
