@@ -1,8 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/KeySheetController.h"
 
+#include "Inventory/FoldedText.h"
 #include "Kit/Core/KeyTable.h"
 
+#include <string>
 #include <utility>
 
 namespace lodestar
@@ -59,9 +61,10 @@ QVariantList KeySheetController::keyRows()
 
 std::vector<const Command*> KeySheetController::found() const
 {
+    const std::string wanted = foldedText(m_searchText.trimmed().toStdString());
     std::vector<const Command*> found;
     for (const Command& command : m_commands) {
-        if (command.title.contains(m_searchText.trimmed(), Qt::CaseInsensitive)) {
+        if (foldedText(command.title.toStdString()).find(wanted) != std::string::npos) {
             found.push_back(&command);
         }
     }

@@ -58,7 +58,7 @@ public:
     /// Of KeyRow.
     QVariantList rows() const;
     const QString& searchText() const { return m_searchText; }
-    /// Narrows the commands to those whose title has the text.
+    /// Narrows the commands to those whose title has the text; case and diacritics do not matter.
     void setSearchText(const QString& text);
     /// Takes the sheet down and does what the row says.
     Q_INVOKABLE void run(int row);

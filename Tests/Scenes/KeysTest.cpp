@@ -144,7 +144,9 @@ TEST_F(KeysTest, TheSheetTellsTheKeysOfTheScreenAndRunsWhatIsChosen)
     ASSERT_TRUE(waitForButton("Cancel"));
     stage.settle(300);
     type("ADD CON");
-    const auto& commands = *qobject_cast<KeySheetController*>(stage.tabs().semiModal()->controller());
+    auto& commands = *qobject_cast<KeySheetController*>(stage.tabs().semiModal()->controller());
+    EXPECT_EQ(titlesOf(commands), QStringList({"Add console"}));
+    commands.setSearchText(QStringLiteral("âdd côn"));
     EXPECT_EQ(titlesOf(commands), QStringList({"Add console"}));
     press(Qt::Key_Down);
     EXPECT_EQ(focused()->property("text"), "Add console");
