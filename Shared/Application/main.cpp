@@ -1,5 +1,6 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/Adapters/DesktopSettings.h"
+#include "Application/Adapters/LocaleNameOrder.h"
 #include "Application/Adapters/PackageResources.h"
 #include "Application/Adapters/SessionBus.h"
 #include "Application/Adapters/SystemKeychain.h"
@@ -103,6 +104,7 @@ SystemKeychain& installPlatform(const QString& folder)
     SystemKeychain& installed = *keychain;
     Keychain::install(std::move(keychain));
     Resources::install(std::make_unique<PackageResources>());
+    NameOrder::install(std::make_unique<LocaleNameOrder>());
     StoreStack::shared().setApplicationDocumentsDirectory(DataFolder::documents(folder.toStdString()));
     return installed;
 }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Fleet/FindingBands.h"
 
+#include "Platform/NameOrder.h"
+
 #include <fmt/format.h>
 
 #include <algorithm>
@@ -199,8 +201,11 @@ void rank(std::vector<Indexes>& consoles, const std::vector<Finding>& list)
         places.push_back({list[indexes.front()].rank, things, std::move(indexes)});
     }
     std::ranges::stable_sort(places, [&list](const Place& a, const Place& b) {
-        return std::tie(a.worst, b.things, list[a.indexes.front()].console) <
-               std::tie(b.worst, a.things, list[b.indexes.front()].console);
+        const auto first = std::tie(a.worst, b.things);
+        const auto second = std::tie(b.worst, a.things);
+        return first != second ? first < second
+                               : NameOrder::standard().compare(list[a.indexes.front()].console,
+                                                               list[b.indexes.front()].console) < 0;
     });
     std::ranges::transform(places, consoles.begin(), [](Place& place) { return std::move(place.indexes); });
 }

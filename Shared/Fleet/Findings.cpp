@@ -2,6 +2,7 @@
 #include "Fleet/Findings.h"
 
 #include "Fleet/ConsoleFindings.h"
+#include "Platform/NameOrder.h"
 #include "Platform/Queues/ConcurrentPerform.h"
 
 #include <algorithm>
@@ -32,16 +33,18 @@ int rankOf(const Finding& finding)
     return 2 * static_cast<int>(finding.rank) + (isLater ? 1 : 0);
 }
 
-/// A number for each console by the order of their names. Equal names have equal numbers.
+/// A number for each console by the order of their names. Names that are equal in that order have equal numbers.
 std::vector<std::uint32_t> numbersOf(const std::vector<ConsoleSnapshot>& consoles)
 {
     std::vector<std::uint32_t> order(consoles.size());
     std::iota(order.begin(), order.end(), 0U);
-    const auto name = [&consoles](std::uint32_t each) -> const std::string& { return consoles[each].name; };
-    std::ranges::sort(order, {}, name);
+    const auto isBefore = [&consoles, &names = NameOrder::standard()](std::uint32_t a, std::uint32_t b) {
+        return names.compare(consoles[a].name, consoles[b].name) < 0;
+    };
+    std::ranges::sort(order, isBefore);
     std::vector<std::uint32_t> numbers(consoles.size());
     for (std::uint32_t i = 1; i < order.size(); ++i) {
-        numbers[order[i]] = numbers[order[i - 1]] + (name(order[i]) != name(order[i - 1]) ? 1 : 0);
+        numbers[order[i]] = numbers[order[i - 1]] + (isBefore(order[i - 1], order[i]) ? 1 : 0);
     }
     return numbers;
 }
@@ -81,7 +84,7 @@ std::vector<Finding> sorted(std::vector<Part>& parts)
         if (first != second) {
             return first < second;
         }
-        const int names = at(a).name.compare(at(b).name);
+        const int names = NameOrder::standard().compare(at(a).name, at(b).name);
         return names != 0 ? names < 0 : std::tie(a.part, a.index) < std::tie(b.part, b.index);
     });
     std::vector<Finding> list;

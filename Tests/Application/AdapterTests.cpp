@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Application/Adapters/LocaleNameOrder.h"
 #include "Application/Adapters/SystemKeychain.h"
 #include "Application/Model/FileUserDefaults.h"
 #include "Feedback/VireoLogger.h"
@@ -9,8 +10,10 @@
 
 #include <QByteArray>
 #include <QLocalServer>
+#include <QLocale>
 #include <gmock/gmock.h>
 
+#include <algorithm>
 #include <filesystem>
 #include <random>
 #include <thread>
@@ -172,6 +175,18 @@ TEST(SystemKeychainTests, FailsSoonWithoutAServiceAndOneThatNeverAnswersCostsOne
         Keychain::install(nullptr);
     }
     qputenv(variable, before);
+}
+
+TEST(LocaleNameOrderTests, NamesStandWhereAPersonLooksForThem)
+{
+    const QLocale before;
+    QLocale::setDefault(QLocale(QStringLiteral("de_DE")));
+    std::vector<std::string> names = {"Zürich", "berlin", "Ärmelkanal", "Bern", "Aare"};
+    std::ranges::sort(names, [](const std::string& first, const std::string& second) {
+        return LocaleNameOrder().compare(first, second) < 0;
+    });
+    EXPECT_THAT(names, ::testing::ElementsAre("Aare", "Ärmelkanal", "berlin", "Bern", "Zürich"));
+    QLocale::setDefault(before);
 }
 
 } // namespace

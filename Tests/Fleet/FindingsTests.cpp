@@ -3,6 +3,7 @@
 #include "Fleet/FindingBands.h"
 #include "Fleet/FleetEvents.h"
 #include "Inventory/Identity.h"
+#include "Platform/NameOrder.h"
 #include "Tests/Fleet/HandMadeConsole.h"
 #include "Tests/Support/LongRun.h"
 
@@ -150,6 +151,33 @@ TEST(FindingsTests, OfManyConsolesAreRankedTogether)
     }
     std::ranges::sort(expected);
     EXPECT_EQ(rowsOf(findingsOf(consoles, now)), expected);
+}
+
+TEST(FindingsTests, TiesStandInTheOrderOfNamesThatIsInstalled)
+{
+    struct Backwards : NameOrder {
+        int compare(const std::string& first, const std::string& second) const override
+        {
+            return second.compare(first);
+        }
+    };
+    std::vector<ConsoleSnapshot> consoles;
+    for (const char* const name : {"Ems", "Aare", "Rhein"}) {
+        HandMadeConsole console(name);
+        console.addSystem("1", "error");
+        console.addSystem("2", "error");
+        consoles.push_back(console.snapshot());
+    }
+    NameOrder::install(std::make_unique<Backwards>());
+    const Findings findings = findingsOf(consoles, now);
+    const FindingView byConsole = viewOf(findings, {FindingFilter::Grouping::Console, {}, {}}, 3, {});
+    NameOrder::install(nullptr);
+    std::string names;
+    for (const Finding& each : findings.list) {
+        names += each.console + each.name.back() + " ";
+    }
+    EXPECT_EQ(names, "Rhein2 Rhein1 Ems2 Ems1 Aare2 Aare1 ");
+    EXPECT_EQ(findings.list[byConsole.groups.front().rows.front().findings.front()].console, "Rhein");
 }
 
 TEST(FindingsTests, NothingIsHealthyBecauseItWasNotRead)
