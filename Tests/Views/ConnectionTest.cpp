@@ -82,6 +82,15 @@ TEST_F(ConnectionTest, AConsoleThatAnsweredInFullShowsWhereTheTimeWent)
     AgeClock::setNow(morning + 2h);
     EXPECT_EQ(changes, 1);
     EXPECT_EQ(verdict(), "Online, Everything was read at 09:41, in 0.94\u00a0s.");
+
+    Reading given = complete();
+    stage(given, StageKind::Name).result = StageResult::NotNeeded;
+    stage(given, StageKind::Name).duration = {};
+    report(corvel, given);
+    EXPECT_EQ(rows("Last attempt")[0], "Name, address given");
+    stage(given, StageKind::Connect).result = StageResult::NotNeeded;
+    report(corvel, given);
+    EXPECT_EQ(rows("Last attempt")[0], "Name, not needed") << "the connection was kept";
 }
 
 TEST_F(ConnectionTest, MissingFeedsComeFirstWithWhatMayBeTried)

@@ -68,8 +68,9 @@ void setStages(Reading& reading, const std::string& address)
     for (std::size_t i = 0; i < stageCount; ++i) {
         reading.stages.at(i).kind = static_cast<StageKind>(i);
     }
-    setStage(reading, StageKind::Name, StageResult::Done, 4ms);
-    reading.address = address.find_first_not_of("0123456789.") == std::string::npos ? address : "192.0.2.12";
+    const bool isGiven = address.find_first_not_of("0123456789.") == std::string::npos;
+    setStage(reading, StageKind::Name, isGiven ? StageResult::NotNeeded : StageResult::Done, isGiven ? 0ms : 4ms);
+    reading.address = isGiven ? address : "192.0.2.12";
     setStage(reading, StageKind::Connect, StageResult::Done, 12ms);
     setStage(reading, StageKind::TLS, StageResult::Done, 31ms);
     reading.tlsVersion = "1.3";

@@ -141,7 +141,7 @@ ConnectionSection successSection(const Reading& reading, WallTime now)
 
 } // namespace
 
-ConnectionContent connectionContent(const QString& address, const Reading& reading, WallTime now)
+ConnectionContent connectionContent(const Reading& reading, WallTime now)
 {
     using Outcome = Reading::Outcome;
     const Outcome outcome = reading.outcome;
@@ -159,7 +159,7 @@ ConnectionContent connectionContent(const QString& address, const Reading& readi
     // After what is known and what to look at first: a refresh takes a new certificate and sends it the password.
     (steps.empty() ? content.front() : content.back()).refreshes = true;
     if (outcome != Outcome::NotTried) {
-        content << stagesSection(address, reading, now);
+        content << stagesSection(reading, now);
     }
     if (whole) {
         content << feedsSection(reading, now);

@@ -10,7 +10,7 @@ namespace lodestar
 using ConnectionContent = QList<ConnectionSection>;
 
 /// All that the connection screen says of the reading. Pure.
-ConnectionContent connectionContent(const QString& address, const Reading& reading, WallTime now);
+ConnectionContent connectionContent(const Reading& reading, WallTime now);
 /// The same as plain text, one row a line.
 QString connectionText(const ConnectionContent& content);
 int rowCount(const ConnectionContent& content);

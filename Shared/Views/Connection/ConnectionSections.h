@@ -9,7 +9,7 @@ namespace lodestar
 
 /// The sections that `connectionContent` puts together. Pure.
 
-ConnectionSection stagesSection(const QString& address, const Reading& reading, WallTime now);
+ConnectionSection stagesSection(const Reading& reading, WallTime now);
 ConnectionSection feedsSection(const Reading& reading, WallTime now);
 ConnectionSection certificateSection(const Reading& reading, WallTime now);
 

@@ -1,4 +1,5 @@
 // SPDX-License-Identifier: Apache-2.0
+#include "Kit/Core/Sentence.h"
 #include "Views/Common/AgeText.h"
 #include "Views/Common/FeedName.h"
 #include "Views/Common/ReasonText.h"
@@ -83,31 +84,22 @@ QString certificateWords(const Reading& reading)
     return Words::tr("certificate as before");
 }
 
-bool isNumeric(const QString& address)
+/// Whether a connection was made without looking up a name.
+bool wasAddressGiven(const Stage& stage, const Reading& reading)
 {
-    const auto isPart = [](QChar each) { return each.isDigit() || each == u'.'; };
-    return address.contains(u':') || std::ranges::all_of(address, isPart);
+    return stage.kind == StageKind::Name &&
+           reading.stages[static_cast<std::size_t>(StageKind::Connect)].result != StageResult::NotNeeded;
 }
 
-QString joined(const QStringList& parts)
-{
-    QString text;
-    for (const QString& part : parts) {
-        //: what was said so far, and one part more
-        text = text.isEmpty() || part.isEmpty() ? text + part : Words::tr("%1, %2").arg(text, part);
-    }
-    return text;
-}
-
-QString detailOf(const Stage& stage, const QString& address, const Reading& reading)
+QString detailOf(const Stage& stage, const Reading& reading)
 {
     switch (stage.kind) {
     case StageKind::Name:
-        return isNumeric(address) ? Words::tr("address given") : QString::fromStdString(reading.address);
+        return QString::fromStdString(reading.address);
     case StageKind::Connect:
         return Words::tr("port 12443");
     case StageKind::TLS:
-        return joined({QString::fromStdString(reading.tlsVersion), certificateWords(reading)});
+        return Sentence::joined({QString::fromStdString(reading.tlsVersion), certificateWords(reading)});
     case StageKind::SessionCheck:
         if (stage.status == 0) {
             return {};
@@ -148,23 +140,25 @@ QString failureOf(const Stage& stage, const Reading& reading)
                                                   : capitalised(reasonText(error)));
 }
 
-ConnectionRow stageRow(const Stage& stage, const QString& address, const Reading& reading)
+ConnectionRow stageRow(const Stage& stage, const Reading& reading)
 {
     ConnectionRow row{.title = Words::tr(namesOf(stage.kind).title)};
     row.trailing = stage.duration.count() > 0 ? durationText(stage.duration) : nothing();
     switch (stage.result) {
     case StageResult::Done:
         row.mark = Role::State::Good;
-        row.detail = detailOf(stage, address, reading);
-        if (stage.kind == StageKind::Name && isNumeric(address)) {
-            row.trailing = nothing(); // nothing was looked up
-        }
+        row.detail = detailOf(stage, reading);
         break;
     case StageResult::Failed:
         row.mark = Role::State::Error;
         row.failure = failureOf(stage, reading);
         break;
     case StageResult::NotNeeded:
+        if (wasAddressGiven(stage, reading)) {
+            row.mark = Role::State::Good;
+            row.detail = Words::tr("address given");
+            break;
+        }
         row.mark = Role::State::Waiting;
         row.detail = stage.kind == StageKind::SessionCheck ? Words::tr("no key yet") : Words::tr("not needed");
         row.trailing = nothing();
@@ -193,7 +187,7 @@ void addParts(ConnectionSection& section, const Reading& reading)
         }
     }
     if (!names.empty()) {
-        section.partsNames = joined(names);
+        section.partsNames = Sentence::joined(names);
         section.partsSum = attemptText(reading.duration());
     }
 }
@@ -258,8 +252,8 @@ ConnectionRow feedRow(const FeedReading& feed)
         row.detail = Words::tr("not reached");
     } else {
         row.mark = Role::State::Good;
-        row.detail = joined({feed.status == 0 ? QString() : QString::number(feed.status), entriesText(feed.entries),
-                             sizeText(feed.bytes)});
+        row.detail = Sentence::joined({feed.status == 0 ? QString() : QString::number(feed.status),
+                                       entriesText(feed.entries), sizeText(feed.bytes)});
     }
     return row;
 }
@@ -308,7 +302,7 @@ QString atMoment(WallTime then, WallTime now)
     return moment == AgeText::clock(then) ? Words::tr("at %1").arg(moment) : moment;
 }
 
-ConnectionSection stagesSection(const QString& address, const Reading& reading, WallTime now)
+ConnectionSection stagesSection(const Reading& reading, WallTime now)
 {
     ConnectionSection section{.kind = ConnectionSection::Stages,
                               .title = Words::tr("Last attempt"),
@@ -317,7 +311,7 @@ ConnectionSection stagesSection(const QString& address, const Reading& reading, 
     for (const Stage& stage : reading.stages) {
         // The feeds that were fetched have a section of their own.
         if (stage.kind != StageKind::Feeds || offline) {
-            section.rows << stageRow(stage, address, reading);
+            section.rows << stageRow(stage, reading);
         }
     }
     if (!offline && reading.missingFeeds().empty()) {

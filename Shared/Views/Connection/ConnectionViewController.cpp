@@ -6,7 +6,6 @@
 #include "Fleet/Watch.h"
 #include "Kit/Core/Clipboard.h"
 #include "Views/Common/AgeClock.h"
-#include "Views/Common/CellText.h"
 #include "Views/Common/FeedName.h"
 #include "Views/Common/ScreenLog.h"
 
@@ -57,7 +56,7 @@ void ConnectionViewController::show()
     if (wasUpdating != updating || wasRefreshable != refreshable) {
         Q_EMIT refreshChanged();
     }
-    ConnectionContent sections = connectionContent(textOf(corvel()->address()), *m_reading, AgeClock::now());
+    ConnectionContent sections = connectionContent(*m_reading, AgeClock::now());
     if (std::exchange(m_sections, std::move(sections)) != m_sections) {
         Q_EMIT sectionsChanged();
     }
