@@ -4,6 +4,12 @@
 namespace lodestar
 {
 
+bool wasRead(const ConsoleSnapshot& console)
+{
+    return console.reading != nullptr && (console.reading->outcome == Reading::Outcome::Complete ||
+                                          console.reading->outcome == Reading::Outcome::Partial);
+}
+
 FindingBand bandOf(FindingRank rank)
 {
     if (rank <= FindingRank::PartitionError) {

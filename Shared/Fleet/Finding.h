@@ -25,6 +25,8 @@ struct ConsoleSnapshot {
     std::shared_ptr<const FeedDictionary> feeds; ///< null when nothing was fetched
     std::shared_ptr<const ConsoleMemory> memory; ///< null when nothing is remembered
 };
+/// Whether the console answered. What is known of one that does not is old, and what it would be now is not known.
+bool wasRead(const ConsoleSnapshot& console);
 
 /// What kind of thing is wrong, worst first. The order of the rows.
 enum class FindingRank {

@@ -35,12 +35,6 @@ std::string numericAddressOf(const ConsoleSnapshot& console)
 
 } // namespace
 
-bool wasRead(const ConsoleSnapshot& console)
-{
-    return console.reading != nullptr && (console.reading->outcome == Reading::Outcome::Complete ||
-                                          console.reading->outcome == Reading::Outcome::Partial);
-}
-
 /// Makes a SearchedConsole in one pass over the feeds.
 class SearchedConsoleMaker
 {
@@ -73,31 +67,31 @@ private:
         }
         endKind();
     }
-        std::uint32_t place = 0;
 
     void addConsole(const ConsoleSnapshot& console)
     {
         addName(console.name);
-            place = information.element().place();
         addOwn(console.address);
         addOwn(m_made.m_numericAddress);
+        std::uint32_t place = 0;
         if (m_made.m_feeds != nullptr) {
             const auto information = ConsoleInformation::of(m_made.m_feeds->feed(ConsoleInformation::type));
             addOwn(information.name());
             addMachine(information.identity());
+            place = information.element().place();
         }
         m_isInError = m_made.m_hasTrouble;
         endObject(place);
         endKind();
     }
 
-        m_made.m_systems.try_emplace(identityOfEntry(*m_entry, ManagedSystem::type), m_object);
     void add(const ManagedSystem& system)
     {
         addName(system.name());
         addMachine(system.identity());
         addOwn(system.primaryIPAddress());
         addShared(system.referenceCode());
+        m_made.m_systems.try_emplace(identityOfEntry(*m_entry, ManagedSystem::type), m_object);
         const std::string state = system.state().value_or("");
         addShared(state);
         m_isInError = ManagedSystem::healthOfState(state) == Health::Error;
@@ -331,14 +325,14 @@ std::size_t SearchedConsole::memory() const
 {
     std::size_t bytes = sizeof(*this) + m_texts.capacity() + m_name.capacity() + m_address.capacity();
     for (const auto* numbers : {&m_ends, &m_firstUse, &m_uses, &m_places}) {
-    for (const auto& system : m_systems) {
-        bytes += 4 * sizeof(void*) + sizeof(system) + system.first.capacity();
-    }
         bytes += numbers->capacity() * sizeof(std::uint32_t);
     }
     bytes += m_errors.capacity() * sizeof(std::uint64_t);
     for (const std::string& identity : m_identitiesInError) {
         bytes += 4 * sizeof(void*) + sizeof(std::string) + identity.capacity(); // a node of the set
+    }
+    for (const auto& system : m_systems) {
+        bytes += 4 * sizeof(void*) + sizeof(system) + system.first.capacity();
     }
     return bytes;
 }

@@ -34,9 +34,6 @@ struct FoundObject {
 /// What a search found, by kind.
 using FoundObjects = std::array<std::vector<FoundObject>, searchedKinds.size()>;
 
-/// Whether the console answered. What is known of one that does not is old, and what it would be now is not known.
-bool wasRead(const ConsoleSnapshot& console);
-
 /// "4210-M16"; what the console leaves out is left out.
 std::string typeAndModelOf(const MachineIdentity& identity);
 
@@ -55,11 +52,11 @@ public:
     std::size_t objects() const { return m_places.size(); }
     std::size_t kindOf(std::uint32_t object) const;
     /// The object in its feed, as its detail screen shows it. For the console itself what it reports about itself, if
-    /// The name of the partition's system; empty when the console's feeds do not tell it.
-    std::string systemOf(const Partition& partition) const;
     /// that was read.
     XMLElement elementOf(std::uint32_t object) const;
     bool isInError(std::uint32_t object) const { return (m_errors[object / 64] >> (object % 64) & 1U) != 0; }
+    /// The name of the partition's system; empty when the console's feeds do not tell it.
+    std::string systemOf(const Partition& partition) const;
     /// How many of the group's members are in error, as far as the console's feeds tell.
     std::size_t membersInError(const XMLElement& group) const;
 
@@ -88,10 +85,10 @@ private:
     std::vector<std::uint32_t> m_firstUse; ///< of each shared text and of one more, in `m_uses`
     std::vector<std::uint32_t> m_uses;     ///< objects
     std::vector<std::uint32_t> m_places;   ///< each object's in its feed's document; 0 for none
-    std::map<std::string, std::uint32_t> m_systems;         ///< objects by identity
     std::vector<std::uint64_t> m_errors;   ///< a bit for each object
     std::array<std::uint32_t, searchedKinds.size()> m_kindEnds{};
     std::set<std::string, std::less<>> m_identitiesInError; ///< as groups count them
+    std::map<std::string, std::uint32_t> m_systems;         ///< objects by identity
     std::size_t m_nameBytes = 0;
 };
 

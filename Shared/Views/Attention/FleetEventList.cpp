@@ -20,13 +20,6 @@ std::string searchedText(const FleetEvent& event)
     return text;
 }
 
-/// The events of a console that is offline are old, and what they would be now is not known.
-bool wasRead(const ConsoleSnapshot& console)
-{
-    return console.reading && (console.reading->outcome == Reading::Outcome::Complete ||
-                               console.reading->outcome == Reading::Outcome::Partial);
-}
-
 } // namespace
 
 std::vector<std::string> searchedDetails(const FleetEvent& event)
