@@ -210,10 +210,10 @@ ServiceReport systemReport(const ManagedSystem& system, const ReportSource& sour
                        closing(source)}};
 }
 
-/// Host names within a domain count as addresses; plain ones are names.
+/// Host names within a domain count as addresses; plain ones, and what has blanks, are names.
 void addHostName(std::vector<std::string>& addresses, const Field& name)
 {
-    if (name && name->find('.') != std::string::npos) {
+    if (name && name->find('.') != std::string::npos && name->find(' ') == std::string::npos) {
         addresses.push_back(*name);
     }
 }
@@ -223,6 +223,7 @@ ServiceReport withMarks(ServiceReport report, std::vector<std::string> addresses
 {
     if (corvel) {
         addresses.push_back(corvel->address().value_or(""));
+        addHostName(addresses, corvel->name());
     }
     return withoutAddresses(std::move(report), addresses, Words::tr("[address left out]").toStdString());
 }
@@ -248,9 +249,9 @@ ReportContent reportOf(const ServiceableEvent& event, const ReportSource& source
     addHostName(addresses, event.reportingConsole().hostName());
     addHostName(addresses, event.analyzingConsole().hostName());
     addHostName(addresses, event.failingSystem().hostName());
-    if (const Field address = failingSystem(event.failingSystem(), source.corvel).primaryIPAddress()) {
-        addresses.push_back(*address);
-    }
+    const ManagedSystem system = failingSystem(event.failingSystem(), source.corvel);
+    addHostName(addresses, system.name());
+    addresses.push_back(system.primaryIPAddress().value_or(""));
     return {.report = eventReport(event, source, Addresses::Shown),
             .addressless =
                 withMarks(eventReport(event, source, Addresses::LeftOut), std::move(addresses), source.corvel),
@@ -259,10 +260,15 @@ ReportContent reportOf(const ServiceableEvent& event, const ReportSource& source
 
 ReportContent reportOf(const ManagedSystem& system, const ReportSource& source)
 {
+    std::vector<std::string> addresses{system.primaryIPAddress().value_or("")};
+    addHostName(addresses, system.name());
+    // Whoever gets the file sees its name, too.
+    const ServiceReport name =
+        withMarks({.title = system.name().value_or(""), .text = {}, .blocks = {}}, addresses, source.corvel);
     return {.report = systemReport(system, source, Addresses::Shown),
-            .addressless = withMarks(systemReport(system, source, Addresses::LeftOut),
-                                     {system.primaryIPAddress().value_or("")}, source.corvel),
-            .fileName = QStringLiteral("system-") + QString::fromStdString(system.name().value_or(""))};
+            .addressless =
+                withMarks(systemReport(system, source, Addresses::LeftOut), std::move(addresses), source.corvel),
+            .fileName = QStringLiteral("system-") + QString::fromStdString(name.title)};
 }
 
 QString reportTime(WallTime time)
