@@ -14,6 +14,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <sstream>
 
 namespace lodestar
 {
@@ -210,11 +211,14 @@ ServiceReport systemReport(const ManagedSystem& system, const ReportSource& sour
                        closing(source)}};
 }
 
-/// Host names within a domain count as addresses; plain ones, and what has blanks, are names.
+/// Host names within a domain count as addresses, also among other words; plain ones are names, as is "Dr.".
 void addHostName(std::vector<std::string>& addresses, const Field& name)
 {
-    if (name && name->find('.') != std::string::npos && name->find(' ') == std::string::npos) {
-        addresses.push_back(*name);
+    std::istringstream words(name.value_or(""));
+    for (std::string word; words >> word;) {
+        if (word.find('.') < word.size() - 1) {
+            addresses.push_back(word);
+        }
     }
 }
 
