@@ -2,25 +2,27 @@
 import QtQuick
 import Lodestar.Kit
 
-/// A few choices for one thing side by side, each with a picture: see ChoiceSheet. With large text the choices stand
-/// in rows, where their titles have room.
-ChoiceSheet {
+/// A few choices for one thing, over everything else while its outlet presents them: see GridMenuSheet.
+Loader {
     id: menu
 
-    readonly property int count: outlet.choices.length - (outlet.cancelIndex >= 0 ? 1 : 0)
+    required property MenuOutlet outlet
+    /// LastPress knows only of presses after its making, and the sheet is made after the press that asks for it.
+    readonly property QtObject presses: LastPress
 
-    sideways: !Theme.stacked
-    choices: [
-        ChoiceGrid {
-            outlet: menu.outlet
-            // Three in a row at most; four are two and two.
-            columns: menu.count === 4 ? 2 : Math.max(1, Math.min(3, menu.count))
-            visible: !Theme.stacked
-        },
-        ChoiceRows {
-            outlet: menu.outlet
-            hasIcons: menu.hasIcons
-            visible: Theme.stacked
+    // Made on first use: most screens go without their menu, and none should start more slowly for it.
+    function make() {
+        if (outlet.presented && status === Loader.Null) {
+            setSource("GridMenuSheet.qml", {"outlet": outlet});
         }
-    ]
+    }
+
+    Component.onCompleted: make()
+
+    Connections {
+        target: menu.outlet
+        function onPresentedChanged() {
+            menu.make();
+        }
+    }
 }

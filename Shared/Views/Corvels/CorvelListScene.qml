@@ -123,9 +123,18 @@ PageScaffold {
     GridMenu {
         outlet: scene.corvels.rowMenu
     }
-    FirstRun {
-        corvels: scene.corvels
+    // Made on first use, so that it does not slow the start of those who have consoles.
+    Loader {
+        readonly property bool needed: scene.corvels.tableView.hidden
+
+        function make() {
+            if (needed && status === Loader.Null) {
+                setSource("FirstRun.qml", {"corvels": scene.corvels});
+            }
+        }
         anchors.fill: parent
-        visible: scene.corvels.tableView.hidden
+        visible: needed
+        onNeededChanged: make()
+        Component.onCompleted: make()
     }
 }
