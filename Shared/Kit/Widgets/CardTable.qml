@@ -103,6 +103,11 @@ AccessibleScope {
         }
         return true;
     }
+    /// Does what the arrow towards the end column does. Only a row that leads on opens something first.
+    function goBeside(): bool {
+        const place = list.currentItem as TableRow;
+        return choice.splits && (place?.content?.leadsOn ? enter() : choice.enter());
+    }
     function keepCurrent() {
         if (list.currentIndex < 0) {
             list.currentIndex = tableState.rowFrom(-1, 1, 1);
@@ -140,6 +145,9 @@ AccessibleScope {
     }
     /// Returns whether the key was one of the table's.
     function handleKey(key: int, modifiers: int): bool {
+        if (modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier)) {
+            return false;
+        }
         const page = Math.max(1, Math.floor(list.height / Math.max(1, table.rowHeight)) - 1);
         switch (key) {
         case Qt.Key_Down:
@@ -168,9 +176,9 @@ AccessibleScope {
             }
             return true;
         case Qt.Key_Left:
-            return Theme.mirrored && enter();
+            return Theme.mirrored && goBeside();
         case Qt.Key_Right:
-            return !Theme.mirrored && enter();
+            return !Theme.mirrored && goBeside();
         case Qt.Key_F10:
             if (!(modifiers & Qt.ShiftModifier)) {
                 return false;
