@@ -22,8 +22,8 @@ Rectangle {
     Accessible.role: Accessible.PageTabList
     Accessible.name: qsTr("Screens")
 
-    function step(by: int) {
-        const index = controller.selectedIndex + by;
+    function step(from: int, by: int) {
+        const index = from + by;
         if (index >= 0 && index < controller.count) {
             controller.selectedIndex = index;
             tabs.itemAt(index).forceActiveFocus(Qt.TabFocusReason);
@@ -80,10 +80,10 @@ Rectangle {
                 Accessible.selected: selected
                 Accessible.selectable: true
                 onClicked: bar.controller.tap(index)
-                Keys.onLeftPressed: bar.step(bar.rail ? 0 : Theme.mirrored ? 1 : -1)
-                Keys.onRightPressed: bar.step(bar.rail ? 0 : Theme.mirrored ? -1 : 1)
-                Keys.onUpPressed: bar.step(bar.rail ? -1 : 0)
-                Keys.onDownPressed: bar.step(bar.rail ? 1 : 0)
+                Keys.onLeftPressed: bar.step(index, bar.rail ? 0 : Theme.mirrored ? 1 : -1)
+                Keys.onRightPressed: bar.step(index, bar.rail ? 0 : Theme.mirrored ? -1 : 1)
+                Keys.onUpPressed: bar.step(index, bar.rail ? -1 : 0)
+                Keys.onDownPressed: bar.step(index, bar.rail ? 1 : 0)
 
                 Connections {
                     target: bar.controller
