@@ -15,13 +15,18 @@ QtObject {
         // The ring returns only if the keyboard had brought the focus to the item; after a press it never showed.
         wasShown = (before as AccessibleItem)?.visualFocus ?? false;
     }
+    /// What fills the window around the item. It knows which of its pages is seen and has the keyboard.
+    function sceneOf(item: Item): Item {
+        const scene = item.parent;
+        return scene === null || scene === inside.Window.contentItem ? item : sceneOf(scene);
+    }
     function giveBack() {
         if (inside === null) {
             return;
         }
         const now = inside.Window.activeFocusItem;
         if (before !== null && (now === null || now === inside.Window.contentItem)) {
-            before.forceActiveFocus(wasShown ? Qt.TabFocusReason : Qt.OtherFocusReason);
+            (before.visible ? before : sceneOf(before)).forceActiveFocus(wasShown ? Qt.TabFocusReason : Qt.OtherFocusReason);
         }
         before = null;
     }
