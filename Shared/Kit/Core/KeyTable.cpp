@@ -39,6 +39,8 @@ constexpr std::array general = {
     KeyEntry{"", "Menu", KeyPlace::Lists, QT_TRANSLATE_NOOP("KeyTable", "Menu of the row")},
     KeyEntry{"", "Shift+F10", KeyPlace::Lists, QT_TRANSLATE_NOOP("KeyTable", "Buttons of the row")},
     KeyEntry{"", "Left Right", KeyPlace::Charts, QT_TRANSLATE_NOOP("KeyTable", "Step along the chart")},
+    KeyEntry{"", "Home End", KeyPlace::Charts, QT_TRANSLATE_NOOP("KeyTable", "First or last value")},
+    KeyEntry{"", "Shift+Left Shift+Right", KeyPlace::Charts, QT_TRANSLATE_NOOP("KeyTable", "Move the enlarged chart")},
     KeyEntry{"", "+ -", KeyPlace::Charts, QT_TRANSLATE_NOOP("KeyTable", "Enlarge or shrink")},
     KeyEntry{"", "Esc", KeyPlace::Charts, QT_TRANSLATE_NOOP("KeyTable", "The whole chart")},
 };
