@@ -44,14 +44,6 @@ std::optional<std::string> numberInSystem(const Partition& partition)
     return identityOfSystem(partition) + "/" + *number;
 }
 
-template <typename Kind>
-std::string identityIn(const XMLElement& entry)
-{
-    const XMLElement content = entry.child("content");
-    auto beside = atomOf(content);
-    return beside && !beside->empty() ? *beside : identityOf(Kind(content.child(Kind::type)));
-}
-
 } // namespace
 
 std::string identityOf(const ConsoleInformation& console)
@@ -88,24 +80,28 @@ std::string identityOf(const ResourceGroup& group)
     return firstOf({atomOf(group.element()), group.name()});
 }
 
-std::string identityOfEntry(const XMLElement& entry, std::string_view type)
+std::string identityOfObject(const XMLElement& object, std::string_view type)
 {
     if (type == ManagedSystem::type) {
-        return identityIn<ManagedSystem>(entry);
+        return identityOf(ManagedSystem(object));
     }
-    if (type == LogicalPartition::type) {
-        return identityIn<LogicalPartition>(entry);
-    }
-    if (type == VirtualIOServer::type) {
-        return identityIn<VirtualIOServer>(entry);
+    if (type == LogicalPartition::type || type == VirtualIOServer::type) {
+        return identityOf(Partition(object));
     }
     if (type == ServiceableEvent::type) {
-        return identityIn<ServiceableEvent>(entry);
+        return identityOf(ServiceableEvent(object));
     }
     if (type == ResourceGroup::type) {
-        return identityIn<ResourceGroup>(entry);
+        return identityOf(ResourceGroup(object));
     }
-    return type == ConsoleInformation::type ? identityIn<ConsoleInformation>(entry) : std::string();
+    return type == ConsoleInformation::type ? identityOf(ConsoleInformation(object)) : std::string();
+}
+
+std::string identityOfEntry(const XMLElement& entry, std::string_view type)
+{
+    const XMLElement content = entry.child("content");
+    auto beside = atomOf(content);
+    return beside && !beside->empty() ? *beside : identityOfObject(content.child(type), type);
 }
 
 std::string identityOfLink(std::string_view address)

@@ -22,6 +22,9 @@ std::string identityOf(const Partition& partition);
 std::string identityOf(const ServiceableEvent& event);
 std::string identityOf(const ResourceGroup& group);
 
+/// The identity of an object of the type; empty for a type that no feed has.
+std::string identityOfObject(const XMLElement& object, std::string_view type);
+
 /// The identity of the object of the type in a feed's entry. Prefer it wherever the entry is at hand: some consoles put
 /// the identifier beside the object instead of inside.
 std::string identityOfEntry(const XMLElement& entry, std::string_view type);

@@ -144,6 +144,38 @@ TEST_F(WideTest, ADetailIsChosenByKeysBesideItsListAndKeepsItsPlaceWhileTheWindo
     QAccessible::setActive(false);
 }
 
+TEST_F(WideTest, TheChosenRowIsTheOneThatStandsBesideWhateverRowsComeAndGo)
+{
+    GroupedListViewController& partitions = openPartitions({1280, 800});
+    partitions.showSearchBar();
+    partitions.searchBar()->setText("r");
+    ASSERT_TRUE(stage.waitFor([&] { return rowOf("mail-relay") != nullptr && rowOf("directory-1") != nullptr; }));
+    stage.settle(100);
+    click(rowOf("mail-relay"));
+    ASSERT_TRUE(isShownBeside("mail-relay"));
+    EXPECT_TRUE(isChosen("mail-relay"));
+    partitions.searchBar()->setText("relay");
+    ASSERT_TRUE(stage.waitFor([&] { return rowOf("directory-1") == nullptr; }));
+    EXPECT_TRUE(isChosen("mail-relay")) << "in another place";
+    partitions.searchBar()->setText("directory");
+    ASSERT_TRUE(stage.waitFor([&] { return rowOf("directory-1") != nullptr; }));
+    stage.settle(100);
+    EXPECT_FALSE(isChosen("directory-1")) << "another thing stands beside the list";
+    click(rowOf("directory-1"));
+    EXPECT_TRUE(isShownBeside("directory-1"));
+
+    // A deleted console takes along what the list opened of it.
+    stage.show({1280, 800}, fleet());
+    stage.list().openConnection(0);
+    ASSERT_TRUE(stage.waitFor([&] { return depth() == 2; }));
+    stage.settle(300);
+    stage.list().swipeTableCell(1, 0);
+    stage.settle(300);
+    EXPECT_EQ(depth(), 2) << "another console's screen stays";
+    stage.list().swipeTableCell(0, 0);
+    EXPECT_TRUE(stage.waitFor([&] { return depth() == 1; }));
+}
+
 /// Keys that both screens know are the keyed one's alone, or they would do nothing.
 TEST_F(WideTest, NoWidthWarnsOrLosesAScreenAndKeysAreOneScreensAlone)
 {

@@ -39,13 +39,16 @@ Q_SIGNALS:
 
 private:
     void followStack();
+    void findAgain();
     void update();
 
     StackPlace m_place{this};
     QPointer<TableOutlet> m_table;
     QPointer<ViewController> m_above;
     QPersistentModelIndex m_acting;
+    std::size_t m_actingKey = 0; ///< what the row shows; 0 where rows are known by their places
     QPersistentModelIndex m_chosen;
+    std::size_t m_chosenKey = 0;
     int m_index = -1;
 };
 

@@ -47,7 +47,7 @@ public:
     /// A note below the section's last row; empty for none.
     virtual QString footerForSection(TableKind, int /*section*/) const { return {}; }
     /// What the row, or for row -1 the header, shows, as a number that no other row has: `reloadRows` finds rows again
-    /// by it.
+    /// by it, and so does a row that is shown as chosen; 0 where rows are known by their places.
     virtual std::size_t keyForRowAtIndexPath(TableKind, IndexPath) const { return 0; }
     /// May block. Called once each time a row is configured.
     virtual QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) = 0;
@@ -117,6 +117,10 @@ public:
     /// Does the same, but rows that come and go fade where they stand, and the others keep their delegates: rows are
     /// found again by `keyForRowAtIndexPath`. The cost depends on the number of rows. Main thread.
     void reloadRows();
+    /// What the source says that the row at the index shows; 0 for no such row.
+    std::size_t keyAt(int index) const;
+    /// The first row with the key; -1 for none. The cost depends on the number of rows.
+    int indexOfKey(std::size_t key) const;
     /// Whether the rows that `reloadRows` inserts and removes fade.
     bool doRowsFade() const { return m_rowsFade; }
     /// Whether a finger, the mouse or an open swipe holds the rows, so that none may come or go. The drawn list writes

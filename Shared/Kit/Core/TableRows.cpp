@@ -44,6 +44,22 @@ std::vector<std::size_t> TableOutlet::askForKeys() const
     return keys;
 }
 
+std::size_t TableOutlet::keyAt(int index) const
+{
+    const std::optional<IndexPath> path = pathAt(index);
+    return path ? m_source.keyForRowAtIndexPath(m_kind, *path) : 0;
+}
+
+int TableOutlet::indexOfKey(std::size_t key) const
+{
+    for (int index = 0; index < m_count; ++index) {
+        if (keyAt(index) == key) {
+            return index;
+        }
+    }
+    return -1;
+}
+
 void TableOutlet::reloadRows()
 {
     const int before = m_count;

@@ -10,8 +10,8 @@
 #include "Views/Attention/ChangeText.h"
 #include "Views/Attention/FindingText.h"
 #include "Views/Attention/FoldedChangesViewController.h"
-#include "Views/Attention/RowKey.h"
 #include "Views/Common/AgeClock.h"
+#include "Views/Common/RowKey.h"
 
 #include <algorithm>
 #include <optional>

@@ -6,8 +6,8 @@
 #include "Kit/Core/Toasts.h"
 #include "Views/Attention/FindingText.h"
 #include "Views/Attention/ObjectScenes.h"
-#include "Views/Attention/RowKey.h"
 #include "Views/Common/AgeText.h"
+#include "Views/Common/RowKey.h"
 #include "Views/Common/Scenes.h"
 #include "Views/ResourceGroups/RGListCell.h"
 

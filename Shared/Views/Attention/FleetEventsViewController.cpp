@@ -9,9 +9,9 @@
 #include "Views/Attention/FindingText.h"
 #include "Views/Attention/FleetEventCell.h"
 #include "Views/Attention/ObjectScenes.h"
-#include "Views/Attention/RowKey.h"
 #include "Views/Common/AgeClock.h"
 #include "Views/Common/FeedName.h"
+#include "Views/Common/RowKey.h"
 
 #include <QLocale>
 

@@ -5,10 +5,12 @@
 #include "Fleet/ObjectTable.h"
 #include "Fleet/Readings.h"
 #include "Fleet/Registry.h"
+#include "Inventory/Identity.h"
 #include "Platform/Queues/DispatchQueue.h"
 #include "Views/Common/AgeClock.h"
 #include "Views/Common/CellText.h"
 #include "Views/Common/FeedTimeStamp.h"
+#include "Views/Common/RowKey.h"
 
 #include <QCoreApplication>
 
@@ -35,6 +37,13 @@ FeedListViewController::FeedListViewController(const FeedListTraits& traits)
 QString FeedListViewController::translated(const char* text) const
 {
     return QCoreApplication::translate("FeedListViewController", text);
+}
+
+std::size_t FeedListViewController::keyForRowAtIndexPath(TableKind tableView, IndexPath indexPath) const
+{
+    const XMLElement element = indexPath.row < 0 ? XMLElement() : elementOfRow(tableView, indexPath);
+    const std::string identity = element ? identityOfObject(element, type()) : std::string();
+    return identity.empty() ? 0 : rowKey(identity);
 }
 
 QString FeedListViewController::emptyText() const

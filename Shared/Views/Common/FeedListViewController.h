@@ -33,7 +33,7 @@ namespace lodestar
 /// A subclass gives its traits and overrides
 ///  - `showFeed`: has the rows of a feed made and taken over, and then shows the content;
 ///  - `emptyLists`: called before each fresh fetch;
-///  - `filterContentForSearchText`, `elementsOfTable` and the functions of TableDataSource.
+///  - `filterContentForSearchText`, `elementsOfTable`, `elementOfRow` and the functions of TableDataSource.
 /// Its scene is a FeedListScene with the delegate of a row.
 ///
 /// Threads: rows are made in two steps (`makeRows`). A function that knows no screen makes a value of the feed on a
@@ -146,6 +146,9 @@ protected:
     }
     /// The elements behind a table's rows, in the order of the rows.
     virtual std::vector<XMLElement> elementsOfTable(TableKind tableView) const = 0;
+    /// The element behind a row; no element for a row that does not exist.
+    virtual XMLElement elementOfRow(TableKind tableView, IndexPath indexPath) const = 0;
+    std::size_t keyForRowAtIndexPath(TableKind tableView, IndexPath indexPath) const override;
     /// The searched text for the table of search results; empty for the screen's own table.
     QString matchFor(TableKind tableView) const;
     const ScreenLog& log() const { return m_log; }

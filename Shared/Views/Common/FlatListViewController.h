@@ -30,6 +30,10 @@ public:
 
 protected:
     std::vector<XMLElement> elementsOfTable(TableKind tableView) const override;
+    XMLElement elementOfRow(TableKind tableView, IndexPath indexPath) const override
+    {
+        return elementAtRow(tableView, indexPath.row);
+    }
     void emptyLists() override;
     RXPromise<std::string> showFeed(const Feed& feed, Turn turn, Source source) override;
     /// Takes over the rows that were made of the feed and shows it. Main thread.

@@ -61,6 +61,10 @@ public:
 
 protected:
     std::vector<XMLElement> elementsOfTable(TableKind tableView) const override;
+    XMLElement elementOfRow(TableKind tableView, IndexPath indexPath) const override
+    {
+        return partitionAt(tableView, indexPath);
+    }
     RXPromise<std::string> showFeed(const Feed& feed, Turn turn, Source source) override;
     /// Appends the feed's elements to their systems and shows the content. Blocks its thread for one look-up per
     /// element: a background queue for the record's feed, the main thread after a fetch. Both are meant; on the main

@@ -15,6 +15,7 @@
 #include "Kit/Core/TabBarController.h"
 #include "Platform/UserDefaults.h"
 #include "Views/Common/AgeClock.h"
+#include "Views/Common/CorvelReceiving.h"
 #include "Views/Common/Scenes.h"
 #include "Views/Common/TabRoot.h"
 #include "Views/Corvels/CorvelListCell.h"
@@ -257,12 +258,25 @@ bool CorvelListViewController::swipeTableCell(int row, int tappedButtonAtIndex)
     const CorvelRef corvel = corvelAtRow(row);
     if (corvel && tappedButtonAtIndex == deleteButton) {
         deleteCorvelAtIndex(static_cast<std::size_t>(row));
+        closeScreenOf(corvel);
         m_tableView.deleteRow({0, row}, RowAnimation::Left);
         m_tableView.setHidden(RESTHandler::sharedInstance().corvelList().empty());
     } else if (corvel && tappedButtonAtIndex == editButton) {
         presentEditor({.corvel = corvel, .parentList = {}});
     }
     return true;
+}
+
+/// In two columns the list is seen beside what it opened.
+void CorvelListViewController::closeScreenOf(const CorvelRef& corvel) const
+{
+    NavigationController* const stack = navigationController();
+    if (stack != nullptr && stack->depth() > 1) {
+        const auto* const beside = dynamic_cast<const CorvelReceiving*>(stack->viewControllers()[1].get());
+        if (beside != nullptr && beside->corvel() == corvel) {
+            stack->popToRoot();
+        }
+    }
 }
 
 ReadingMark CorvelListViewController::markOf(const CorvelListCell& cell, int /*turn*/) const

@@ -113,6 +113,7 @@ protected:
 
 private:
     static Table shownTable();
+    void closeScreenOf(const CorvelRef& corvel) const;
     void observeNotifications();
     void refreshCorvel(const CorvelRef& corvel);
     void didRefreshCorvel(const CorvelRef& corvel);

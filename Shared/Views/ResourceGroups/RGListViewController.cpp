@@ -77,6 +77,11 @@ std::vector<XMLElement> RGListViewController::elementsOfTable(TableKind /*tableV
     return groups;
 }
 
+XMLElement RGListViewController::elementOfRow(TableKind /*tableView*/, IndexPath indexPath) const
+{
+    return contentOf(elementAt(entries(), indexPath.row), ResourceGroup::type);
+}
+
 QVariant RGListViewController::cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath)
 {
     const CellInSteps making = cellInStepsForRowAtIndexPath(tableView, indexPath);

@@ -43,6 +43,7 @@ public:
 
 protected:
     std::vector<XMLElement> elementsOfTable(TableKind tableView) const override;
+    XMLElement elementOfRow(TableKind tableView, IndexPath indexPath) const override;
     RXPromise<std::string> showFeed(const Feed& feed, Turn turn, Source source) override;
     void emptyLists() override { m_resources.clear(); }
 
