@@ -238,7 +238,7 @@ int main(int argc, char** argv)
     qputenv("QT_SCALE_FACTOR", "2");
     qputenv("TZ", "UTC");
     const QGuiApplication application(argc, argv);
-    QGuiApplication::setApplicationVersion(QStringLiteral("1.0"));
+    QGuiApplication::setApplicationVersion(QStringLiteral(LODESTAR_VERSION));
     QGuiApplication::styleHints()->setUseHoverEffects(true); // as where there is a pointer
     const MainLoop mainLoop;
     QStringList arguments = QGuiApplication::arguments();
