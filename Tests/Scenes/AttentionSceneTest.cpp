@@ -153,6 +153,7 @@ TEST_F(AttentionSceneTest, TheSheetIsWorkedByKeysAndSegmentsAndTabsSayWhatTheyAr
     press(Qt::Key_Escape);
     shown()->goBack();
     ASSERT_TRUE(isBack());
+    stage.settle(400); // screens that slide take no press
     for (const char* const segment : {"Changes", "Events", "Now"}) {
         click(button(segment));
         stage.settle(60);
