@@ -132,13 +132,13 @@ TEST_F(ReportTest, AnEventsReportTellsAllThatIsKnownAndNoAddressUnlessAsked)
 
 TEST_F(ReportTest, ASystemsReportIsCopiedAsItIsShownAndOneOfNoConsoleSaysSo)
 {
-    corvel->setName("Dr. B at corvel-b.harbour.example");
+    corvel->setName("Dr. B at corvel-b.harbour.example 2.0");
     const auto detail = show<MSDetailViewController>("ManagedSystem");
     ServiceReportController* const sheet = openReport(*detail);
     const std::string text = sheet->text().toStdString();
     EXPECT_THAT(text,
                 AllOf(StartsWith("System helios-03\n\nStatus: error\nReference code: X417\nAttention LED On: true\n\n"),
-                      HasSubstr("\nConsole: Dr. B at [address left out], V3R2"), Not(HasSubstr("fe80")),
+                      HasSubstr("\nConsole: Dr. B at [address left out] 2.0, V3R2"), Not(HasSubstr("fe80")),
                       HasSubstr("\nRead: 12 Mar 2026, 09:41 UTC\n")));
     sheet->copy();
     EXPECT_EQ(copied(), text);

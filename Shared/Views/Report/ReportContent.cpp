@@ -13,6 +13,7 @@
 #include <QDateTime>
 
 #include <algorithm>
+#include <cctype>
 #include <cstdlib>
 #include <sstream>
 
@@ -211,12 +212,13 @@ ServiceReport systemReport(const ManagedSystem& system, const ReportSource& sour
                        closing(source)}};
 }
 
-/// Host names within a domain count as addresses, also among other words; plain ones are names, as is "Dr.".
+/// Host names within a domain count as addresses, also among other words; plain ones are names, as is "Dr.". No domain
+/// ends with a digit, as the number of a version does.
 void addHostName(std::vector<std::string>& addresses, const Field& name)
 {
     std::istringstream words(name.value_or(""));
     for (std::string word; words >> word;) {
-        if (word.find('.') < word.size() - 1) {
+        if (word.find('.') < word.size() - 1 && std::isdigit(static_cast<unsigned char>(word.back())) == 0) {
             addresses.push_back(word);
         }
     }
