@@ -164,6 +164,11 @@ TEST_F(WideTest, TheChosenRowIsTheOneThatStandsBesideWhateverRowsComeAndGo)
     click(rowOf("directory-1"));
     EXPECT_TRUE(isShownBeside("directory-1"));
 
+    // Without consoles there is nothing to choose beside the first steps.
+    stage.show({1280, 800}, {});
+    EXPECT_EQ(columns(), (std::vector{QRectF(88, 0, 1192, 800)}));
+    EXPECT_EQ(text("Choose what to look at."), nullptr);
+
     // A deleted console takes along what the list opened of it.
     stage.show({1280, 800}, fleet());
     stage.list().openConnection(0);

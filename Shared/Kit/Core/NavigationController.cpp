@@ -14,7 +14,8 @@ namespace
 
 bool spansColumns(const ViewController& screen)
 {
-    return dynamic_cast<const SpansColumns*>(&screen) != nullptr;
+    const auto* const spanning = dynamic_cast<const SpansColumns*>(&screen);
+    return spanning != nullptr && spanning->spansColumns();
 }
 
 } // namespace
@@ -129,9 +130,14 @@ ViewController* NavigationController::viewControllerAt(int index) const
 void NavigationController::setRoomForTwo(bool hasRoom)
 {
     if (std::exchange(m_hasRoomForTwo, hasRoom) != hasRoom) {
-        Q_EMIT columnsChanged();
-        updateAppearance();
+        columnsDidChange();
     }
+}
+
+void NavigationController::columnsDidChange()
+{
+    Q_EMIT columnsChanged();
+    updateAppearance();
 }
 
 int NavigationController::startColumn() const

@@ -50,6 +50,8 @@ public:
 
     bool hasRoomForTwo() const { return m_hasRoomForTwo; }
     void setRoomForTwo(bool hasRoom);
+    /// A screen that does not always span the columns has begun or ceased to.
+    void columnsDidChange();
     /// The index of the screen in the start column: the last screen's while it is the only one and the end column is
     /// empty, otherwise that of the screen below it. -1 when one screen takes the whole width.
     int startColumn() const;

@@ -13,6 +13,9 @@ public:
     SpansColumns(const SpansColumns&) = delete;
     SpansColumns& operator=(const SpansColumns&) = delete;
     virtual ~SpansColumns() = default;
+
+    /// Whether it does so now. A screen whose answer changes tells its stack by `columnsDidChange`.
+    virtual bool spansColumns() const { return true; }
 };
 
 } // namespace lodestar

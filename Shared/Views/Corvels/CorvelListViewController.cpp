@@ -96,6 +96,11 @@ void CorvelListViewController::viewDidLoad()
         introPresenter()(over != nullptr ? *over : *this, self<CorvelListViewController>());
     }
     connect(&m_tableView, &TableOutlet::countChanged, this, &CorvelListViewController::showCount);
+    connect(&m_tableView, &TableOutlet::hiddenChanged, this, [this] {
+        if (NavigationController* const stack = navigationController()) {
+            stack->columnsDidChange();
+        }
+    });
     showCount();
     connect(&m_refreshControl, &RefreshControl::valueChanged, this, &CorvelListViewController::refresh);
     observeNotifications();

@@ -6,6 +6,7 @@
 #include "Kit/Core/Outlets.h"
 #include "Kit/Core/PagedIntro.h"
 #include "Kit/Core/SheetHostController.h"
+#include "Kit/Core/SpansColumns.h"
 #include "Kit/Core/Table.h"
 #include "Platform/Error.h"
 #include "Platform/NotificationCenter.h"
@@ -25,7 +26,10 @@ struct EditorInput;
 /// The console list: every registered console with its version, address and health. It fetches from the consoles when
 /// it loads and at every pull. Its rows are the records of the working list, in that order, in one section. Main
 /// thread.
-class CorvelListViewController : public lodestar::SheetHostController, public TableDataSource, public PagedIntroDelegate
+class CorvelListViewController : public lodestar::SheetHostController,
+                                 public TableDataSource,
+                                 public PagedIntroDelegate,
+                                 public SpansColumns
 {
     Q_OBJECT
     QML_ELEMENT
@@ -57,6 +61,8 @@ public:
     /// What to do next, below a list that has the demonstration console alone.
     ViewOutlet* nextSteps() { return &m_nextSteps; }
     bool viewHasAppearedOnce() const { return m_viewHasAppearedOnce; }
+    /// Without consoles there is nothing to choose, and the first steps take the whole width.
+    bool spansColumns() const override { return m_tableView.isHidden(); }
 
     /// Whether the feedback button is hidden. It is shown on devices that cannot be shaken, which is known only after
     /// the first frame.
