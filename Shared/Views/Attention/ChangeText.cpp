@@ -178,6 +178,7 @@ FindingCell ChangeText::cellOf(const std::vector<Change>& changes, const ChangeR
     FindingCell cell;
     cell.name = row.isFolded() ? countOf(first, static_cast<int>(row.changes.size())) : nameOf(first);
     cell.sentence = sameWords ? sentenceOf(first) : QString();
+    cell.quotes = isOfEvent(first);
     cell.age = AgeText::clock(first.seen);
     cell.console = isOfConsole(first) ? QString() : rowText(first.console);
     cell.leadsOn = leadsOn;

@@ -19,6 +19,7 @@ struct FindingCell {
     Q_PROPERTY(QString name MEMBER name)
     Q_PROPERTY(bool namedByText MEMBER namedByText)
     Q_PROPERTY(QString sentence MEMBER sentence)
+    Q_PROPERTY(bool quotes MEMBER quotes)
     Q_PROPERTY(QString age MEMBER age)
     Q_PROPERTY(QString console MEMBER console)
     Q_PROPERTY(QString accessibleText MEMBER accessibleText)
@@ -33,6 +34,7 @@ public:
     QString name{};
     bool namedByText = false; ///< the name is a text, which is told by its beginning
     QString sentence{};
+    bool quotes = false; ///< the sentence is a console's text: cut, where one of ours is drawn smaller before
     QString age{};
     QString console{}; ///< empty where the name or the header says it
     QString accessibleText{};

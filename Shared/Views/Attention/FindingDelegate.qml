@@ -113,7 +113,7 @@ TableCell {
             text: row.cell.sentence
             size: Theme.captionSize
             color: Theme.ink2
-            fontSizeMode: row.stacked ? Text.FixedSize : Text.HorizontalFit
+            fontSizeMode: row.stacked || row.cell.quotes ? Text.FixedSize : Text.HorizontalFit
             minimumPixelSize: 11
             elide: row.stacked ? Text.ElideNone : Text.ElideRight
             wrapMode: row.stacked ? Text.Wrap : Text.NoWrap
