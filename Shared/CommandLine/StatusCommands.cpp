@@ -43,7 +43,8 @@ std::string noteOf(const ConsoleSnapshot& console, WallTime now)
             //: %1 as in "09:41", "yesterday 21:40" or "3 Mar"
             ? say(TEXT("CommandLine", "offline since %1"), {Words::moment(*reading.offlineSince, now)})
             : say(TEXT("CommandLine", "offline"));
-    return reading.error ? offline + ", " + Words::reason(*reading.error) : offline;
+    return reading.error ? say(TEXT("lodestar::FindingText", "%1, %2"), {offline, Words::reason(*reading.error)})
+                         : offline;
 }
 
 std::string statusText(const FleetPicture& picture, const Terminal& terminal)

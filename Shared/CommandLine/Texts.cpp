@@ -79,7 +79,7 @@ std::string filled(std::string_view pattern, const std::string& number, std::ini
         }
         pattern.remove_prefix(place + 1);
         const std::size_t digit = pattern.empty() ? 0 : static_cast<std::size_t>(pattern.front()) - '1';
-        if (pattern.starts_with("Ln") || pattern.starts_with('n')) {
+        if (!number.empty() && (pattern.starts_with("Ln") || pattern.starts_with('n'))) {
             pattern.remove_prefix(pattern.front() == 'L' ? 2 : 1);
             text += number;
         } else if (!pattern.empty() && digit < values.size()) {

@@ -155,6 +155,10 @@ TEST_F(WordsTests, OfChangesAndTimesAreThoseOfTheScreens)
         EXPECT_EQ(Words::name(changes[i]), cell.name.toStdString());
         EXPECT_EQ(Words::sentence(changes[i]), cell.sentence.toStdString());
     }
+    // What a message names may look like a number's place.
+    Error error = errorOf("None", 1);
+    error.localizedDescription = "50%n of %Ln.csv, %1";
+    EXPECT_EQ(Words::errorText(error), error.localizedDescription);
     for (const auto lasted : {0s, 89s, 25min + 0s, 60min + 0s, 125min + 0s, 47h + 0s, 72h + 0s}) {
         EXPECT_EQ(Words::duration(lasted), ChangeText::duration(lasted).toStdString());
     }
