@@ -174,6 +174,25 @@ TEST_F(WideTest, TheChosenRowIsTheOneThatStandsBesideWhateverRowsComeAndGo)
     stage.list().openConnection(0);
     ASSERT_TRUE(stage.waitFor([&] { return depth() == 2; }));
     stage.settle(300);
+    // The arrow enters the end column from a row that leads nowhere, too. A menu's end gives the keyboard to what is
+    // seen by then.
+    rowOf("Harbour B")->parentItem()->parentItem()->forceActiveFocus(Qt::TabFocusReason);
+    for (int i = 0; i < 3; ++i) { // to Ridgeway, which is being read, or Northfield, which is offline
+        press(Qt::Key_Down);
+    }
+    press(Qt::Key_Right);
+    EXPECT_TRUE(isKeyboardIn(QRectF(488, 0, 792, 800)));
+    press(Qt::Key_Left);
+    stage.list().presentMenu(0);
+    ASSERT_TRUE(waitForButton("Copy Address"));
+    resize({999, 800});
+    press(Qt::Key_Escape);
+    ASSERT_TRUE(stage.waitFor([&] { return !stage.list().rowMenu()->isPresented(); }));
+    stage.settle(300);
+    ASSERT_NE(stage.window().activeFocusItem(), nullptr);
+    EXPECT_TRUE(stage.window().activeFocusItem()->isVisible());
+    resize({1280, 800});
+
     stage.list().swipeTableCell(1, 0);
     stage.settle(300);
     EXPECT_EQ(depth(), 2) << "another console's screen stays";
