@@ -29,7 +29,7 @@ fail_with() {
 }
 
 # in_system ROOT [FOLDER] COMMAND: runs the command in another root, with mounts of its own that end with it, and with the
-# folder as /work.
+# folder as /mnt.
 in_system() {
     local root=$1 folder=
     shift
@@ -42,8 +42,8 @@ in_system() {
         mount --make-rprivate /
         mount -t proc proc "$1/proc"
         mount --rbind /dev "$1/dev"
-        mkdir -p "$1/work"
-        [ -z "$2" ] || mount --bind "$2" "$1/work"
+        mkdir -p "$1/mnt"
+        [ -z "$2" ] || mount --bind "$2" "$1/mnt"
         exec chroot "$1" env -i HOME=/root PATH=/usr/sbin:/usr/bin:/sbin:/bin LC_ALL=C.UTF-8 DEBIAN_FRONTEND=noninteractive \
             SOURCE_DATE_EPOCH="$4" bash -ec "$3"' -- "$root" "$folder" "$1" "$SOURCE_DATE_EPOCH"
 }
@@ -66,7 +66,7 @@ build_arm64() {
     make_system "$root" build-essential,crossbuild-essential-arm64,fakeroot
     say "building the packages for arm64; the output goes to $2"
     in_system "$root" "$parent" "apt-get update -qq
-        cd /work/$(basename "$1")
+        cd /mnt/$(basename "$1")
         apt-get build-dep -y -qq --no-install-recommends -a arm64 ./
         DEB_BUILD_OPTIONS='nocheck parallel=${LODESTAR_JOBS:-$(nproc)}' dpkg-buildpackage -b -us -uc -aarm64" \
         >"$2" 2>&1 || fail_with "$2"
@@ -125,7 +125,7 @@ try_phone() {
     make_system "$root" qemu-user
     say "installing the packages for arm64 in $root"
     in_system "$root" "$1" "apt-get update -qq
-        apt-get install -y -qq --no-install-recommends /work/lodestar_*_arm64.deb /work/lodestar-cli_*_arm64.deb" \
+        apt-get install -y -qq --no-install-recommends /mnt/lodestar_*_arm64.deb /mnt/lodestar-cli_*_arm64.deb" \
         >"$1/install.log" 2>&1 || fail_with "$1/install.log"
     as_root unshare --mount bash -ec '
         mount --make-rprivate /

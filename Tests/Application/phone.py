@@ -160,7 +160,7 @@ def main(build, root, folder):
             for name, program, data, seen_as in (
                     ("this machine", ["env", "-i", *environment, build / "bin/lodestar"], own, own),
                     ("arm64", ["chroot", root, "env", "-i", *environment, "qemu-aarch64", "/usr/bin/lodestar"],
-                     inside / "data", "/work-phone/data")):
+                     inside / "data", "/lodestar-phone/data")):
                 print(name, flush=True)
                 subprocess.run([build / "bin/lodestar-enrol", data], input="\n".join(consoles.lines) + "\n", text=True,
                                check=True, stdout=subprocess.DEVNULL)
