@@ -124,7 +124,7 @@ int main(int argc, char** argv)
     }
     QGuiApplication application(argc, argv);
     QGuiApplication::setDesktopFileName(QStringLiteral("org.ornis.Lodestar"));
-    Languages::use(QLocale::system().uiLanguages()); // for the help that parsing may write
+    Languages::use(QLocale::system().uiLanguages()); // for what parsing may object to
     const Options options = parseOptions(application);
     if (!options.language.isEmpty()) {
         Languages::use({options.language});
