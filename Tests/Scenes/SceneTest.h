@@ -105,9 +105,14 @@ protected:
     {
         return item->mapToScene(QPointF(item->width() / 2, item->height() / 2)).toPoint();
     }
+    /// Clicks when no screen slides, since presses are blocked until then.
     void click(const QQuickItem* item) const
     {
-        ASSERT_NE(item, nullptr);
+        const QPointer<const QQuickItem> target(item);
+        ASSERT_TRUE(stage.waitFor([this] {
+            return firstWith("busy", true, stage.items(QStringLiteral("lodestar::NavigationStack"))) == nullptr;
+        }));
+        ASSERT_NE(target, nullptr);
         QTest::mouseClick(&stage.window(), Qt::LeftButton, {}, centerOf(item));
     }
     /// Drags along x and leaves the button down.
