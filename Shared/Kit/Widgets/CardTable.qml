@@ -5,9 +5,7 @@ import QtQuick
 import Lodestar.Kit
 
 /// A table drawn as cards: one rounded card per section holds its rows with hairlines between them, headers stand
-/// above. Give it the outlet and a delegate, a component whose root is a TableCell. Arrows, Home, End and the page keys
-/// move, Enter and Space choose, Shift+F10 swipes, the menu key swipes or opens the row's menu, F5 refreshes. In the
-/// start column, those that move also move the choice, and the arrow towards the end column enters it.
+/// above. Give it the outlet and a delegate, a component whose root is a TableCell.
 AccessibleScope {
     id: view
 
@@ -68,134 +66,6 @@ AccessibleScope {
             refreshControl.pull();
         }
     }
-    function step(from: int, direction: int, rows: int) {
-        const target = tableState.rowFrom(from, direction, rows);
-        tableState.keyboardUsed = true;
-        if (target >= 0) {
-            list.turnTo(target);
-            if (choice.splits) {
-                following.restart();
-            }
-        }
-    }
-    /// While no ring shows, the first arrow only shows the ring; the next one moves it. A chosen row shows as well.
-    function arrow(direction: int, rows: int) {
-        step(list.currentIndex, direction, tableState.keyboardUsed || choice.index === list.currentIndex ? rows : 0);
-    }
-    /// Lets the choice, if there is one, follow the keyboard. A row that does not lead on but offers a menu or more rows
-    /// is left alone until it is chosen.
-    function follow() {
-        const place = list.currentItem as TableRow;
-        if (choice.index >= 0 && place !== null && place.selectable && place.content.leadsOn) {
-            activateCurrent();
-        }
-    }
-    /// Enters the end column, with the current row's screen in it. False outside the start column.
-    function enter(): bool {
-        const place = list.currentItem as TableRow;
-        following.stop();
-        if (!choice.splits || place === null || place.isHeader) {
-            return false;
-        }
-        activateCurrent();
-        if (isShownBeside(place)) {
-            choice.enter();
-        }
-        return true;
-    }
-    /// Does what the arrow towards the end column does. Only a row that leads on opens something first.
-    function goBeside(): bool {
-        const place = list.currentItem as TableRow;
-        return choice.splits && (place?.content?.leadsOn ? enter() : choice.enter());
-    }
-    function keepCurrent() {
-        if (list.currentIndex < 0) {
-            list.currentIndex = tableState.rowFrom(-1, 1, 1);
-        }
-    }
-    function activateCurrent() {
-        const place = list.currentItem as TableRow;
-        if (place !== null && !place.isHeader && !isShownBeside(place)) {
-            tableState.activate(place.index, place.selectable);
-        }
-    }
-    /// Whether choosing the row would only open anew what stands beside the table.
-    function isShownBeside(place: TableRow): bool {
-        return place.index === choice.index && place.content.leadsOn;
-    }
-    function swipeByKeyboard() {
-        const place = list.currentItem as TableRow;
-        if (place !== null && place.swipe.hasButtons) {
-            tableState.keyboardUsed = true;
-            place.swipe.toggle();
-            tableState.swipeHasKeyboard = tableState.swiped === place.swipe;
-            if (tableState.swipeHasKeyboard) {
-                place.swipe.takeKeyboard();
-            }
-        }
-    }
-    function menuByKeyboard() {
-        const place = list.currentItem as TableRow;
-        if (place !== null && place.content !== null && place.content.offersMenu) {
-            tableState.keyboardUsed = true;
-            tableState.menuOf(place.section, place.row);
-        } else {
-            swipeByKeyboard();
-        }
-    }
-    /// Returns whether the key was one of the table's.
-    function handleKey(key: int, modifiers: int): bool {
-        if (modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier)) {
-            return false;
-        }
-        const page = Math.max(1, Math.floor(list.height / Math.max(1, table.rowHeight)) - 1);
-        switch (key) {
-        case Qt.Key_Down:
-            arrow(1, 1);
-            return true;
-        case Qt.Key_Up:
-            arrow(-1, 1);
-            return true;
-        case Qt.Key_PageDown:
-            arrow(1, page);
-            return true;
-        case Qt.Key_PageUp:
-            arrow(-1, page);
-            return true;
-        case Qt.Key_Home:
-            step(-1, 1, 1);
-            return true;
-        case Qt.Key_End:
-            step(table.count, -1, 1);
-            return true;
-        case Qt.Key_Return:
-        case Qt.Key_Enter:
-        case Qt.Key_Space:
-            if (!enter()) {
-                activateCurrent();
-            }
-            return true;
-        case Qt.Key_Left:
-            return Theme.mirrored && goBeside();
-        case Qt.Key_Right:
-            return !Theme.mirrored && goBeside();
-        case Qt.Key_F10:
-            if (!(modifiers & Qt.ShiftModifier)) {
-                return false;
-            }
-            swipeByKeyboard();
-            return true;
-        case Qt.Key_Menu:
-            menuByKeyboard();
-            return true;
-        case Qt.Key_F5:
-            pull();
-            return true;
-        default:
-            return false;
-        }
-    }
-
     TableState {
         id: tableState
 
@@ -215,11 +85,14 @@ AccessibleScope {
 
         table: view.table
     }
-    Timer {
-        id: following
+    TableKeys {
+        id: keys
 
-        interval: 150 // so that what a held key runs over is not opened
-        onTriggered: view.follow()
+        list: list
+        rows: tableState
+        choice: choice
+        onPulled: view.pull()
+        onTurned: (index) => list.turnTo(index)
     }
     ListView {
         id: list
@@ -373,7 +246,7 @@ AccessibleScope {
                     }
                     if (tableState.hasOpenSwipe) {
                         tableState.closeSwipes();
-                    } else if (!view.isShownBeside(place)) {
+                    } else if (!keys.isShownBeside(place)) {
                         tableState.activate(place.index, place.selectable);
                     }
                 }
@@ -454,7 +327,7 @@ AccessibleScope {
         }
         onActiveFocusChanged: {
             if (activeFocus) {
-                view.keepCurrent();
+                keys.keepCurrent();
             } else if (!tableState.swipeHasKeyboard) {
                 tableState.keyboardUsed = false;
             }
@@ -465,8 +338,8 @@ AccessibleScope {
             }
         }
         // There is always a current row, so that the keyboard focus lands on a row and not on the list.
-        onCountChanged: view.keepCurrent()
-        Keys.onPressed: (event) => event.accepted = view.handleKey(event.key, event.modifiers)
+        onCountChanged: keys.keepCurrent()
+        Keys.onPressed: (event) => event.accepted = keys.handle(event.key, event.modifiers)
     }
     Binding {
         target: view.table
