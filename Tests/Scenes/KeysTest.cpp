@@ -107,6 +107,37 @@ TEST_F(KeysTest, TabReachesEveryControlOfEveryScreenAndShowsWhereItIs)
     }
 }
 
+TEST_F(KeysTest, ArrowsStepFromTheTabThatHasTheKeyboardAlongTheBarOrTheRail)
+{
+    struct Bar {
+        QSize window;
+        bool mirrored;
+        Qt::Key on;
+        Qt::Key back;
+        Qt::Key across;
+    };
+    for (const Bar& bar : {Bar{{390, 844}, false, Qt::Key_Right, Qt::Key_Left, Qt::Key_Down},
+                           Bar{{390, 844}, true, Qt::Key_Left, Qt::Key_Right, Qt::Key_Up},
+                           Bar{{1280, 800}, true, Qt::Key_Down, Qt::Key_Up, Qt::Key_Left}}) {
+        Appearance::shared().overrideMirrored(bar.mirrored);
+        stage.show(bar.window, fleet());
+        stage.settle(100);
+        button("Dashboard")->forceActiveFocus(Qt::TabFocusReason); // not the tab that is shown
+        for (const auto& [key, tab] : {std::pair(bar.on, 2),
+                                       {bar.on, 2},
+                                       {bar.across, 2},
+                                       {bar.back, 1},
+                                       {bar.back, 0},
+                                       {bar.back, 0},
+                                       {bar.on, 1}}) {
+            press(key);
+            EXPECT_EQ(stage.tabs().selectedIndex(), tab) << bar.window.width() << bar.mirrored;
+            EXPECT_EQ(focused()->property("index"), tab);
+            EXPECT_TRUE(hasRing(focused()));
+        }
+    }
+}
+
 TEST_F(KeysTest, SheetsKeepTabInside)
 {
     stage.show({390, 844}, fleet());
