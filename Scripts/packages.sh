@@ -2,8 +2,9 @@
 # Functions for ./package, which sources this file after common.sh.
 
 # The packages are those of the commit that is checked out: what is not committed is left out. All times in them are the
-# commit's, so that everybody who builds the commit gets the same bytes.
-SOURCE_DATE_EPOCH=$(git log -1 --format=%ct)
+# commit's, so that everybody who builds the commit gets the same bytes. What is committed meanwhile does not count.
+packaged=$(git rev-parse HEAD)
+SOURCE_DATE_EPOCH=$(git log -1 --format=%ct "$packaged")
 export SOURCE_DATE_EPOCH
 version=$(sed -n 's/^project(Lodestar VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt)
 
@@ -11,7 +12,7 @@ version=$(sed -n 's/^project(Lodestar VERSION \([0-9.]*\).*/\1/p' CMakeLists.txt
 lay_source() {
     rm -rf "$1"
     mkdir -p "$1"
-    git archive HEAD | tar x -C "$1"
+    git archive "$packaged" | tar x -C "$1"
     cp -R "$1/Packaging/debian" "$1/debian"
     "$1/Scripts/releases.py" changelog "$version" >"$1/debian/changelog"
 }
