@@ -79,7 +79,7 @@ same_bytes() {
     for package in "$1"/*.deb; do
         cmp -s "$package" "$2/$(basename "$package")" || {
             say "$(basename "$package") differs"
-            diffoscope --max-report-size 20000 "$package" "$2/$(basename "$package")" >&2 || true
+            diffoscope --max-text-report-size 20000 "$package" "$2/$(basename "$package")" >&2 || true
             differs=1
         }
     done

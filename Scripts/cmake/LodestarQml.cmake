@@ -13,6 +13,7 @@ function(lodestar_qml_module target)
     get_filename_component(name "${file}" NAME)
     set_source_files_properties("${file}" PROPERTIES QT_RESOURCE_ALIAS "${name}")
   endforeach()
+  set_target_properties(${target} PROPERTIES QT_QMLCACHEGEN_EXECUTABLE "${CMAKE_BINARY_DIR}/qmlcachegen")
   qt_add_qml_module(${target} URI ${ARG_URI} VERSION 1.0 NO_PLUGIN RESOURCE_PREFIX /
     OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/qml/${path}" IMPORT_PATH "${CMAKE_BINARY_DIR}/qml"
     DEPENDENCIES QtQuick ${ARG_USES} IMPORTS ${ARG_IMPORTS}
