@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Application/IntroView.h"
 
+#include "Kit/Core/Languages.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Kit/Core/ViewController.h"
 
@@ -15,11 +16,16 @@ namespace
 
 constexpr double animationDuration = 0.3;
 
-/// Empty when there is no such picture.
+/// The picture that shows the language's own words, or else the English one. Empty when there is no such picture.
 QUrl pictureNamed(const QString& name)
 {
-    const QString file = QStringLiteral(":/") + name + QStringLiteral(".png");
-    return QFile::exists(file) ? QUrl(QStringLiteral("qrc") + file) : QUrl();
+    for (const QString& folder : {Languages::current() + QLatin1Char('/'), QString()}) {
+        const QString file = QStringLiteral(":/%1%2.png").arg(folder, name);
+        if (QFile::exists(file)) {
+            return QStringLiteral("qrc") + file;
+        }
+    }
+    return {};
 }
 
 } // namespace

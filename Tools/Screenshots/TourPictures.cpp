@@ -3,12 +3,15 @@
 
 #include "Application/IntroView.h"
 #include "Kit/Core/Appearance.h"
+#include "Kit/Core/Languages.h"
 #include "Kit/Core/UIColor+Tessel.h"
 #include "Kit/Core/UIFont+System.h"
 #include "Tools/Screenshots/Looks.h"
 
+#include <QLocale>
 #include <QPainter>
 #include <QPainterPath>
+#include <QTextLayout>
 
 #include <algorithm>
 #include <cstdio>
@@ -116,25 +119,21 @@ void drawScreen(QPainter& painter, const QImage& screen)
     painter.fillPath(corners, brush);
 }
 
+/// Returns where the last line ends.
 double drawLines(QPainter& painter, const QString& text, int size, int line, double width, double top)
 {
-    painter.setFont(UIFont::systemFontOfSize(size));
-    const QFontMetricsF metrics(painter.font());
-    QString row;
-    const auto draw = [&] {
-        painter.drawText(QRectF(0, top, pageSize.width(), line), Qt::AlignCenter, row);
+    QTextLayout layout(text, UIFont::systemFontOfSize(size), painter.device());
+    QTextOption option(Qt::AlignHCenter);
+    option.setWrapMode(QTextOption::WordWrap);
+    layout.setTextOption(option);
+    layout.beginLayout();
+    for (QTextLine row = layout.createLine(); row.isValid(); row = layout.createLine()) {
+        row.setLineWidth(width);
+        row.setPosition({(pageSize.width() - width) / 2, top + (line - row.height()) / 2});
         top += line;
-    };
-    for (const QString& word : text.split(QLatin1Char(' '))) {
-        const QString longer = row.isEmpty() ? word : row + QLatin1Char(' ') + word;
-        if (metrics.horizontalAdvance(longer) > width) {
-            draw();
-            row = word;
-        } else {
-            row = longer;
-        }
     }
-    draw();
+    layout.endLayout();
+    layout.draw(&painter, {});
     return top;
 }
 
@@ -152,6 +151,26 @@ QImage makePage(const QImage& screen, const IntroPage& page)
     painter.setPen(wordsColor);
     drawLines(painter, page.words, wordsSize, wordsLine, wordsWidth, below + 8);
     return image;
+}
+
+bool writePictures(SceneStage& stage, const QDir& folder)
+{
+    folder.mkpath(QStringLiteral("."));
+    const std::vector<Look> looks = looksOfPages();
+    const std::vector<IntroPage> pages = IntroView::pages();
+    for (std::size_t i = 0; i < pages.size(); ++i) {
+        const Look& look = looks.at(i);
+        stage.show(screenSize, look.consoles);
+        look.prepare(stage);
+        stage.settle();
+        const QImage picture = withPalette(makePage(stage.grab(), pages[i]));
+        const QString file = folder.filePath(QStringLiteral("ts%1.png").arg(i + 1));
+        if (!picture.save(file, "PNG", 0)) {
+            std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
+            return false;
+        }
+    }
+    return true;
 }
 
 } // namespace
@@ -184,17 +203,11 @@ QImage withPalette(const QImage& image)
 bool writeTourPictures(SceneStage& stage, const QDir& folder)
 {
     Appearance::shared().overrideDark(false);
-    const std::vector<Look> looks = looksOfPages();
-    const std::vector<IntroPage> pages = IntroView::pages();
-    for (std::size_t i = 0; i < pages.size(); ++i) {
-        const Look& look = looks.at(i);
-        stage.show(screenSize, look.consoles);
-        look.prepare(stage);
-        stage.settle();
-        const QImage picture = withPalette(makePage(stage.grab(), pages[i]));
-        const QString file = folder.filePath(QStringLiteral("ts%1.png").arg(i + 1));
-        if (!picture.save(file, "PNG", 0)) {
-            std::fprintf(stderr, "cannot write %s\n", qPrintable(file));
+    for (const QString& language : Languages::all()) {
+        Languages::use({language});
+        Appearance::shared().overrideMirrored(QLocale(language).textDirection() == Qt::RightToLeft);
+        const bool isBase = language == Languages::all().front();
+        if (!writePictures(stage, isBase ? folder : QDir(folder.filePath(language)))) {
             return false;
         }
     }

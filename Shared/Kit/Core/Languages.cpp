@@ -15,6 +15,7 @@ namespace
 
 /// Qt's own texts, and over them ours.
 struct Translators {
+    QString language;
     QTranslator qt;
     QTranslator lodestar;
 };
@@ -58,12 +59,18 @@ QStringList Languages::all()
             QStringLiteral("es"), QStringLiteral("ja"), QStringLiteral("ar")};
 }
 
+QString Languages::current()
+{
+    return translators() ? translators()->language : all().front();
+}
+
 void Languages::use(const QStringList& wanted)
 {
     const QString language = firstOf(wanted);
     const QLocale locale = localeOf(language);
     QLocale::setDefault(locale);
     auto next = std::make_unique<Translators>();
+    next->language = language;
     if (next->qt.load(QStringLiteral("qtbase_") + language, QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
         QCoreApplication::installTranslator(&next->qt);
     }

@@ -16,4 +16,7 @@ QStringList all();
 /// began with. The codes are as QLocale::uiLanguages() has them: "de-AT", "de".
 void use(const QStringList& wanted);
 
+/// The code of the language that was chosen last; English before.
+QString current();
+
 } // namespace lodestar::Languages
