@@ -2,10 +2,34 @@
 #include "Tools/Screenshots/Looks.h"
 
 #include "Controllers/REST/RESTHandler.h"
+#include "Fleet/Watch.h"
 #include "Simulator/SimulatorProcess.h"
+#include "Tools/Screenshots/NightFleet.h"
+
+#include <iterator>
 
 namespace lodestar::scenes
 {
+
+void open(SceneStage& stage, const Look& look, QSize size)
+{
+    setMorningClock(false);
+    Watch::shared().setSettings({});
+    stage.show(size, look.consoles);
+    look.prepare(stage);
+}
+
+std::vector<Look> everyLook()
+{
+    std::vector<Look> every;
+    for (std::vector<Look>& looks : std::vector{
+             consoleLooks(), editorLooks(), dashboardLooks(), inventoryLooks(), groupedLooks(), eventAndGroupLooks(),
+             performanceLooks(), aboutLooks(), lockLooks(), feedbackLooks(), attentionLooks(), findLooks(),
+             connectionLooks(), copyLooks(), fleetSheetLooks(), keyLooks(), wideLooks()}) {
+        std::ranges::move(looks, std::back_inserter(every));
+    }
+    return every;
+}
 
 CorvelRef simulatedConsole(const SceneStage& stage, const simulator::SimulatorProcess& simulated)
 {

@@ -24,6 +24,12 @@ struct Look {
     bool isWide = false;
 };
 
+/// Opens the screen in a window of this size in points, and undoes what the look before left: a clock that stands,
+/// Watch.
+void open(SceneStage& stage, const Look& look, QSize size);
+/// All those below.
+std::vector<Look> everyLook();
+
 /// A simulated console with the demonstration's name, which is logged on and has fetched no feeds yet. No list holds
 /// it.
 CorvelRef simulatedConsole(const SceneStage& stage, const simulator::SimulatorProcess& simulated);
@@ -33,6 +39,10 @@ void pressRow(const SceneStage& stage, int belowFirst);
 /// One entry of a feed, with an object of the type.
 std::string entryOf(const std::string& type, const std::string& content);
 
+/// The list of consoles and its editor.
+std::vector<Look> consoleLooks();
+std::vector<Look> editorLooks();
+std::vector<Look> dashboardLooks();
 /// Release notes, licence agreement, open-source notices and the tour.
 std::vector<Look> aboutLooks();
 /// The feedback screens, over the console list.

@@ -4,16 +4,14 @@
 //
 // With --language CODE before or after: in this language.
 //
-// lodestar-screenshots --tour FOLDER: draws the tour's pictures, which are kept in Resources/tour.
+// lodestar-screenshots --tour FOLDER: draws the tour's pictures in all languages, which are kept in Resources/tour.
 //
 // lodestar-screenshots --guide FOLDER: draws the pictures that the folder's pages show, in few colours. The user's
 // guide is kept in docs/guide.
-#include "Fleet/Watch.h"
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/Languages.h"
 #include "Kit/Core/MainLoop.h"
 #include "Tools/Screenshots/Looks.h"
-#include "Tools/Screenshots/NightFleet.h"
 #include "Tools/Screenshots/TourPictures.h"
 
 #include <QDir>
@@ -40,106 +38,6 @@ struct Variant {
     bool mirrored = false;
     bool highContrast = false;
 };
-
-DeltaCorvelViewController& filledEditor(SceneStage& stage)
-{
-    DeltaCorvelViewController& editor = *stage.openEditor();
-    editor.nameField()->setText("Harbour C");
-    editor.addressField()->setText("corvel-c.harbour.example");
-    editor.usernameField()->setText("oversight");
-    editor.passwordField()->setText("twelve-chars");
-    return editor;
-}
-
-void showBusyEditor(SceneStage& stage, const char* message)
-{
-    DeltaCorvelViewController& editor = filledEditor(stage);
-    for (FieldOutlet* field :
-         {editor.nameField(), editor.addressField(), editor.usernameField(), editor.passwordField()}) {
-        field->setEnabled(false);
-    }
-    editor.showStatusWithMessage(QString::fromLatin1(message));
-}
-
-std::vector<ConsoleLook> allIn(ConsoleLook::State state)
-{
-    std::vector<ConsoleLook> consoles = fleet();
-    for (ConsoleLook& console : consoles) {
-        console.state = state;
-    }
-    return consoles;
-}
-
-std::vector<Look> consoleLooks()
-{
-    const auto nothing = [](SceneStage&) {};
-    std::vector<ConsoleLook> failing = allIn(ConsoleLook::State::Online);
-    for (ConsoleLook& console : failing) {
-        console.systemErrors = 1;
-    }
-    std::vector<ConsoleLook> fetching = allIn(ConsoleLook::State::Fetching);
-    fetching.back().version.clear();
-    return {
-        {"consoles-online", fleet(), nothing, true},
-        {"consoles-swiped", fleet(), [](SceneStage& stage) { stage.swipe(4); }, true},
-        {"consoles-fetching", fetching, nothing},
-        {"consoles-offline", allIn(ConsoleLook::State::Offline), nothing},
-        {"consoles-error", failing, nothing},
-        {"consoles-long-names", longNames(), nothing, true},
-        {"consoles-empty", {}, nothing, true},
-    };
-}
-
-std::vector<Look> editorLooks()
-{
-    std::vector<ConsoleLook> five = fleet();
-    five.pop_back();
-    const auto edit = [](SceneStage& stage) {
-        stage.list().swipeTableCell(0, 1);
-        qobject_cast<DeltaCorvelViewController*>(stage.list().semiModal()->controller())->saveCorvel();
-    };
-    return {
-        {"console-editor-empty", five, [](SceneStage& stage) { stage.openEditor(); }},
-        {"console-editor-filled", five, [](SceneStage& stage) { filledEditor(stage); }, true, true},
-        {"console-editor-verifying", five, [](SceneStage& stage) { showBusyEditor(stage, "verifying..."); }, true},
-        {"console-editor-gathering", five, [](SceneStage& stage) { showBusyEditor(stage, "gathering data..."); }},
-        {"console-editor-error-fields", five, [](SceneStage& stage) { stage.openEditor()->saveCorvel(); }},
-        {"console-editor-error-added", five, edit, true},
-        {"console-editor-error-logon", five,
-         [](SceneStage& stage) {
-             DeltaCorvelViewController& editor = filledEditor(stage);
-             editor.showStatusWithMessage("verifying...");
-             editor.showStatusWithError("Could not connect to the server.");
-         },
-         true},
-    };
-}
-
-std::vector<Look> dashboardLooks()
-{
-    std::vector<ConsoleLook> fetched = fleet();
-    fetched[2].state = ConsoleLook::State::Offline;
-    std::vector<ConsoleLook> loading = fleet();
-    const auto open = [](SceneStage& stage) { stage.showDashboard(); };
-    const auto openAndWait = [](SceneStage& stage) {
-        stage.showDashboard();
-        stage.waitFor([&] { return !stage.dashboard().corvelOnlineCount()->isHidden(); });
-        stage.settle(1900);
-    };
-    return {
-        {"dashboard-loading", loading, open},
-        {"dashboard-growing", fetched, open},
-        {"dashboard-drawn", fetched, openAndWait, true},
-        {"dashboard-drawn-below", fetched,
-         [openAndWait](SceneStage& stage) {
-             openAndWait(stage);
-             for (QQuickItem* page : stage.items("ScrollPage")) {
-                 page->setProperty("contentY", qMax(0.0, page->property("contentHeight").toDouble() - page->height()));
-             }
-         }},
-        {"dashboard-empty", {}, open, true},
-    };
-}
 
 std::vector<Variant> variantsOf(const Look& look)
 {
@@ -218,10 +116,7 @@ void take(SceneStage& stage, const Look& look, const Variant& variant, const Ord
     appearance.overrideHighContrast(variant.highContrast);
     appearance.overrideTextScale(variant.textScale);
     appearance.overrideMirrored(variant.mirrored ? std::optional(true) : std::nullopt);
-    setMorningClock(false);
-    Watch::shared().setSettings({});
-    stage.show(variant.size, look.consoles);
-    look.prepare(stage);
+    open(stage, look, variant.size);
     stage.settle();
     const QString file = order.folder.filePath(name);
     if (!(order.isGuide ? withPalette(stage.grab()).save(file, "PNG", 0) : stage.grab().save(file))) {
@@ -264,17 +159,12 @@ int main(int argc, char** argv)
         order.names = picturesOfPages(order.folder);
     }
     QSet<QString> drawn;
-    for (const auto& looks :
-         {consoleLooks(), editorLooks(), dashboardLooks(), inventoryLooks(), groupedLooks(), eventAndGroupLooks(),
-          performanceLooks(), aboutLooks(), lockLooks(), feedbackLooks(), attentionLooks(), findLooks(),
-          connectionLooks(), copyLooks(), fleetSheetLooks(), keyLooks(), wideLooks()}) {
-        for (const Look& look : looks) {
-            for (const Variant& variant : variantsOf(look)) {
-                const QString name = QString::fromLatin1(look.name) + '-' + variant.suffix + ".png";
-                if (order.wants(name)) {
-                    take(stage, look, variant, order, name);
-                    drawn.insert(name);
-                }
+    for (const Look& look : everyLook()) {
+        for (const Variant& variant : variantsOf(look)) {
+            const QString name = QString::fromLatin1(look.name) + '-' + variant.suffix + ".png";
+            if (order.wants(name)) {
+                take(stage, look, variant, order, name);
+                drawn.insert(name);
             }
         }
     }
