@@ -2,7 +2,8 @@
 import QtQuick
 import Lodestar.Kit
 
-/// The bar of a pushed screen: the back button, a title or a title view in the middle, buttons at the end.
+/// The bar of a pushed screen: the back button, a title or a title view in the middle, buttons at the end. A screen
+/// without a way back can have buttons at the start.
 Item {
     id: bar
 
@@ -11,6 +12,7 @@ Item {
     property string title: controller !== null ? controller.title : ""
     /// Replaces the title; null shows the title.
     property Item titleView: null
+    property alias leading: starts.data
     property alias trailing: ends.data
     /// Content has slid beneath the bar.
     property bool scrolled: false
@@ -25,9 +27,14 @@ Item {
     readonly property int edge: width < 600 ? 4 : 12
     readonly property real content: Math.min(width, measure + 48)
     readonly property real side: (width - content) / 2 + (width > content ? 24 : edge)
-    /// Points that the title leaves on either side.
-    readonly property real beside: side + Math.max(backButton.visible ? backButton.width : 0, ends.width, Theme.target)
-    readonly property real room: Math.max(0, width - 2 * beside)
+    /// Points that the title leaves at the start and at the end.
+    readonly property real beforeTitle: side + Math.max(backButton.visible ? backButton.width : starts.width, Theme.target)
+    readonly property real afterTitle: side + Math.max(ends.width, Theme.target)
+    /// Off the middle where a long word at the start would leave too little there.
+    readonly property bool offMiddle: starts.width > 0
+                                      && width - 2 * Math.max(beforeTitle, afterTitle) <= titleMeasure.advanceWidth
+    readonly property real room: Math.max(0, width - (offMiddle ? beforeTitle + afterTitle
+                                                                : 2 * Math.max(beforeTitle, afterTitle)))
     /// The title has precedence: where it and the previous screen's name do not both fit, only the chevron is shown.
     readonly property bool backTitleFits: width - 2 * (side + Math.min(backButton.wantedWidth, 132)) >= 200
 
@@ -59,6 +66,13 @@ Item {
         font.pixelSize: Math.round(backButton.size * backButton.scaleFactor)
         text: bar.backTitle
     }
+    TextMetrics {
+        id: titleMeasure
+
+        font.family: Theme.family
+        font.pixelSize: titleLabel.font.pixelSize
+        text: bar.title
+    }
     PlainButton {
         id: backButton
 
@@ -89,7 +103,8 @@ Item {
     Item {
         id: middle
 
-        anchors.centerIn: parent
+        anchors.verticalCenter: parent.verticalCenter
+        x: !bar.offMiddle ? (bar.width - width) / 2 : Theme.mirrored ? bar.afterTitle : bar.beforeTitle
         width: bar.titleView !== null ? Math.min(bar.titleView.implicitWidth, bar.room) : bar.room
         height: bar.titleView !== null ? bar.titleView.height : parent.height
 
@@ -101,6 +116,8 @@ Item {
         }
 
         Label {
+            id: titleLabel
+
             visible: bar.titleView === null
             text: bar.title
             anchors.verticalCenter: parent.verticalCenter
@@ -115,6 +132,13 @@ Item {
             Accessible.role: Accessible.Heading
             Accessible.name: text
         }
+    }
+    Row {
+        id: starts
+
+        anchors.left: parent.left
+        anchors.leftMargin: bar.side
+        anchors.verticalCenter: parent.verticalCenter
     }
     Row {
         id: ends

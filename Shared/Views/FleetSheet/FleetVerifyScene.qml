@@ -12,19 +12,13 @@ PageScaffold {
     readonly property FleetVerifyViewController fleet: controller as FleetVerifyViewController
 
     bar: NavigationBar {
-        id: bar
-
         title: scene.controller.title
-
-        PlainButton {
+        leading: PlainButton {
             objectName: "leaveButton"
             text: scene.fleet.running ? qsTr("Stop") : qsTr("Cancel")
             leftPadding: 16
             rightPadding: 16
             scaleFactor: Theme.barScale
-            anchors.left: parent.left
-            anchors.leftMargin: bar.side
-            anchors.verticalCenter: parent.verticalCenter
             onClicked: scene.fleet.leave()
         }
     }
