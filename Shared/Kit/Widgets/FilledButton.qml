@@ -38,7 +38,7 @@ Pressable {
         // The same colour as if the whole button were drawn at 40 % on a card.
         color: button.enabled ? Theme.fillInk : Qt.tint(Theme.card, Qt.rgba(Theme.fillInk.r, Theme.fillInk.g, Theme.fillInk.b, 0.4))
         anchors.centerIn: parent
-        width: parent.width
+        width: parent.width - 24
         horizontalAlignment: Text.AlignHCenter
         fontSizeMode: Text.HorizontalFit
         minimumPixelSize: 10

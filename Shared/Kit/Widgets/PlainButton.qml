@@ -17,7 +17,7 @@ Pressable {
     readonly property real wordWidth: label.implicitWidth
 
     implicitWidth: Math.max(Theme.target, wordWidth + leftPadding + rightPadding)
-    implicitHeight: Math.max(Theme.target, label.implicitHeight)
+    implicitHeight: Math.max(Theme.target, label.implicitHeight + (wraps ? 16 : 0))
     opacity: enabled ? 1 : 0.4
     Accessible.role: Accessible.Button
     Accessible.name: text

@@ -65,7 +65,7 @@ Column {
             text: value.time
             visible: text !== ""
             size: Theme.axisSize
-            scaleFactor: Theme.barScale
+            scaleFactor: Theme.stacked ? Theme.textScale : Theme.barScale
             color: Theme.ink2
             width: parent.width
             horizontalAlignment: Text.AlignRight
