@@ -2,6 +2,7 @@
 #include "Feedback/UI/ReportListViewController.h"
 
 #include "Feedback/UI/ReportViewController.h"
+#include "Kit/Core/LineText.h"
 #include "Kit/Core/NavigationController.h"
 
 #include <QDateTime>
@@ -33,7 +34,7 @@ QVariantList ReportListViewController::rows() const
         const QDateTime made = QDateTime::fromString(QString::fromStdString(report.made), Qt::ISODate).toLocalTime();
         const QString kind = reportKindName(report.kind);
         const QString note = QString::fromStdString(report.note).trimmed().section('\n', 0, 0);
-        rows << QVariant::fromValue(ReportRow{note.isEmpty() ? kind : kind + QStringLiteral(": ") + note,
+        rows << QVariant::fromValue(ReportRow{note.isEmpty() ? kind : kind + QStringLiteral(": ") + isolated(note),
                                               QLocale().toString(made.date(), QLocale::ShortFormat)});
     }
     return rows;
