@@ -1278,7 +1278,7 @@
     </message>
     <message>
         <source>Passwords, one a user</source>
-        <translation>كلمات المرور، واحدة لكل مستخدم</translation>
+        <translation>كلمات المرور</translation>
     </message>
     <message>
         <source>Passwords are never read from a sheet nor written to one.</source>
@@ -3950,7 +3950,7 @@ It is kept in the list of reports.</source>
     <name>lodestar::FleetAgainViewController</name>
     <message>
         <source>Passwords, one a user</source>
-        <translation>كلمات المرور، واحدة لكل مستخدم</translation>
+        <translation>كلمات المرور</translation>
     </message>
 </context>
 <context>

@@ -1258,7 +1258,7 @@
     </message>
     <message>
         <source>Passwords, one a user</source>
-        <translation>Passwörter, je Benutzer eins</translation>
+        <translation>Passwörter</translation>
     </message>
     <message>
         <source>Passwords are never read from a sheet nor written to one.</source>
@@ -3738,7 +3738,7 @@ Er bleibt in der Liste der Berichte.</translation>
     <name>lodestar::FleetAgainViewController</name>
     <message>
         <source>Passwords, one a user</source>
-        <translation>Passwörter, je Benutzer eins</translation>
+        <translation>Passwörter</translation>
     </message>
 </context>
 <context>

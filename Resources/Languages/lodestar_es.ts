@@ -1258,7 +1258,7 @@
     </message>
     <message>
         <source>Passwords, one a user</source>
-        <translation>Contraseñas, una por usuario</translation>
+        <translation>Contraseñas</translation>
     </message>
     <message>
         <source>Passwords are never read from a sheet nor written to one.</source>
@@ -3738,7 +3738,7 @@ Queda en la lista de informes.</translation>
     <name>lodestar::FleetAgainViewController</name>
     <message>
         <source>Passwords, one a user</source>
-        <translation>Contraseñas, una por usuario</translation>
+        <translation>Contraseñas</translation>
     </message>
 </context>
 <context>

@@ -1258,7 +1258,7 @@
     </message>
     <message>
         <source>Passwords, one a user</source>
-        <translation>Mots de passe, un par utilisateur</translation>
+        <translation>Mots de passe</translation>
     </message>
     <message>
         <source>Passwords are never read from a sheet nor written to one.</source>
@@ -3738,7 +3738,7 @@ Il reste dans la liste des rapports.</translation>
     <name>lodestar::FleetAgainViewController</name>
     <message>
         <source>Passwords, one a user</source>
-        <translation>Mots de passe, un par utilisateur</translation>
+        <translation>Mots de passe</translation>
     </message>
 </context>
 <context>

@@ -1189,7 +1189,7 @@
     <name>FindScene</name>
     <message>
         <source>Find on all consoles</source>
-        <translation>すべてのコンソールで検索</translation>
+        <translation>すべて検索</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -1253,7 +1253,7 @@
     </message>
     <message>
         <source>Passwords, one a user</source>
-        <translation>パスワード（ユーザーごとに1つ）</translation>
+        <translation>パスワード</translation>
     </message>
     <message>
         <source>Passwords are never read from a sheet nor written to one.</source>
@@ -2156,7 +2156,7 @@ It is kept in the list of reports.</source>
     <message numerus="yes">
         <source>read %Ln h ago</source>
         <translation>
-            <numerusform>%Ln時間前に読み取り</numerusform>
+            <numerusform>%Ln時間前に読取</numerusform>
         </translation>
     </message>
 </context>
@@ -3685,14 +3685,14 @@ It is kept in the list of reports.</source>
     <name>lodestar::FleetAgainViewController</name>
     <message>
         <source>Passwords, one a user</source>
-        <translation>パスワード（ユーザーごとに1つ）</translation>
+        <translation>パスワード</translation>
     </message>
 </context>
 <context>
     <name>lodestar::FleetChooseViewController</name>
     <message>
         <source>Import Fleet Sheet</source>
-        <translation>コンソール表を取り込む</translation>
+        <translation>表の取り込み</translation>
     </message>
     <message>
         <source>Name, address and user were found in its first line.</source>
@@ -3939,7 +3939,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>Import Fleet Sheet</source>
-        <translation>コンソール表を取り込む</translation>
+        <translation>表の取り込み</translation>
     </message>
     <message>
         <source>%1 / %2</source>
@@ -4688,7 +4688,7 @@ It is kept in the list of reports.</source>
     </message>
     <message>
         <source>wrong user or password</source>
-        <translation>ユーザーまたはパスワードが違います</translation>
+        <translation>認証情報が違います</translation>
     </message>
     <message>
         <source>the console failed to answer (%1)</source>
