@@ -149,7 +149,7 @@ def main(build, root, folder):
     consoles = Consoles(build)
     with tempfile.TemporaryDirectory() as scratch:
         display = Display(pathlib.Path(scratch))
-        inside = root / "work-phone"
+        inside = root / "lodestar-phone"
         shutil.rmtree(inside, ignore_errors=True)
         environment = [f"DISPLAY={display.name}", "QT_QUICK_BACKEND=software", "QT_QPA_PLATFORM=xcb", "LC_ALL=C.UTF-8",
                        "TZ=UTC", "HOME=/tmp", "XDG_RUNTIME_DIR=/tmp", "PATH=/usr/bin:/bin",
