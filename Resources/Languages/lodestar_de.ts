@@ -2628,7 +2628,7 @@ Er bleibt in der Liste der Berichte.</translation>
     </message>
     <message>
         <source>Session check</source>
-        <translation>Sitzungsprüfung</translation>
+        <translation>Sitzung</translation>
     </message>
     <message>
         <source>session</source>
@@ -3041,7 +3041,7 @@ Er bleibt in der Liste der Berichte.</translation>
     <name>lodestar::DeltaCorvelViewController</name>
     <message>
         <source>Add Corvel</source>
-        <translation>Corvel hinzufügen</translation>
+        <translation>Neuer Corvel</translation>
     </message>
     <message>
         <source>Edit Corvel</source>

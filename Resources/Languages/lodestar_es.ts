@@ -1960,7 +1960,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Save as File</source>
-        <translation>Guardar como archivo</translation>
+        <translation>Guardar archivo</translation>
     </message>
 </context>
 <context>
@@ -2628,7 +2628,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Session check</source>
-        <translation>Comprobación de sesión</translation>
+        <translation>Sesión</translation>
     </message>
     <message>
         <source>session</source>
@@ -3318,7 +3318,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Save as File</source>
-        <translation>Guardar como archivo</translation>
+        <translation>Guardar archivo</translation>
     </message>
     <message>
         <source>There is already a file named %1.</source>
@@ -3496,7 +3496,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Partition stopped, ran until %1</source>
-        <translation>Partición parada, funcionó hasta %1</translation>
+        <translation>Parada, activa hasta %1</translation>
     </message>
     <message>
         <source>call home</source>
@@ -4199,7 +4199,7 @@ Queda en la lista de informes.</translation>
     </message>
     <message>
         <source>Save as File</source>
-        <translation>Guardar como archivo</translation>
+        <translation>Guardar archivo</translation>
     </message>
     <message>
         <source>Copy</source>

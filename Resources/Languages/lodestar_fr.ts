@@ -2628,7 +2628,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Session check</source>
-        <translation>Vérification de session</translation>
+        <translation>Session</translation>
     </message>
     <message>
         <source>session</source>

@@ -62,6 +62,8 @@ Item {
                 anchors.left: parent.left
                 anchors.leftMargin: Theme.caretRoom
                 anchors.right: parent.right
+                fontSizeMode: Text.HorizontalFit
+                minimumPixelSize: 10
                 elide: Text.ElideRight
                 Accessible.ignored: true
             }

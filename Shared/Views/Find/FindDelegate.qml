@@ -13,6 +13,8 @@ TableCell {
     required property findCell cell
 
     readonly property bool stacked: Theme.stacked
+    /// An example of what can be found is shown whole.
+    readonly property bool wraps: stacked || !cell.selectable
     readonly property bool hasPicture: cell.picture !== ""
     readonly property bool hasLine: cell.line.text !== ""
     readonly property bool hasState: cell.state.text !== ""
@@ -106,8 +108,8 @@ TableCell {
             match: row.cell.line.match
             size: Theme.captionSize
             color: Theme.ink2
-            elide: row.stacked ? Text.ElideNone : Text.ElideRight
-            wrapMode: row.stacked ? Text.Wrap : Text.NoWrap
+            elide: row.wraps ? Text.ElideNone : Text.ElideRight
+            wrapMode: row.wraps ? Text.Wrap : Text.NoWrap
             width: Math.max(0, row.stacked ? row.room : row.room - (row.cell.console !== "" ? owner.width + row.gap : 0))
             x: row.placeWithin(0, width)
             // From right to left, the marks around a code come from another face, which would push the line down.
