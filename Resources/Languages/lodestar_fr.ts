@@ -1960,7 +1960,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Save as File</source>
-        <translation>Enregistrer en fichier</translation>
+        <translation>Enregistrer</translation>
     </message>
 </context>
 <context>
@@ -3318,7 +3318,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Save as File</source>
-        <translation>Enregistrer en fichier</translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>There is already a file named %1.</source>
@@ -3496,7 +3496,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Partition stopped, ran until %1</source>
-        <translation>Partition arrêtée, tournait jusqu’à %1</translation>
+        <translation>Arrêtée, tournait jusqu’à %1</translation>
     </message>
     <message>
         <source>call home</source>
@@ -4199,7 +4199,7 @@ Il reste dans la liste des rapports.</translation>
     </message>
     <message>
         <source>Save as File</source>
-        <translation>Enregistrer en fichier</translation>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Copy</source>
