@@ -191,6 +191,7 @@ TEST_P(LanguageTest, SaysEverythingWhole)
     for (const double scale : {1.0, 2.0}) {
         for (const QSize size : {QSize(360, 640), QSize(390, 844)}) {
             const QString how = QStringLiteral(", %1 wide, text times %2").arg(size.width()).arg(scale);
+            stage.close();
             Appearance::shared().overrideTextScale(scale);
             stage.show(size, {});
             expectWhole(QStringLiteral("no consoles") + how);
@@ -246,6 +247,7 @@ TEST_P(LanguageTest, SaysWhatThereIsToTellWhole)
             continue;
         }
         for (const auto& [size, scale] : sizes) {
+            stage.close();
             Appearance::shared().overrideTextScale(scale);
             open(stage, look, size);
             stage.settle(200);

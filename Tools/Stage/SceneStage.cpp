@@ -214,13 +214,13 @@ SceneStage::SceneStage()
 
 SceneStage::~SceneStage()
 {
-    closeWindow();
+    close();
     RESTHandler::sharedInstance().setCorvelList({});
     History::shared().close();
     StoreStack::shared().close();
 }
 
-void SceneStage::closeWindow()
+void SceneStage::close()
 {
     if (m_list) {
         // A sheet keeps the screen under it alive. Dismissing the sheet frees both, and with them the notifications
@@ -240,7 +240,7 @@ void SceneStage::closeWindow()
 
 void SceneStage::show(QSize size, const std::vector<ConsoleLook>& consoles)
 {
-    closeWindow();
+    close();
     RESTHandler::sharedInstance().setCorvelList({});
     m_list = Storyboard::main().instantiate<CorvelListViewController>(Scenes::corvelListView);
     m_dashboard = Storyboard::main().instantiate<DashboardTableViewController>(Scenes::dashboardView);
