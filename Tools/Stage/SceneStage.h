@@ -65,8 +65,8 @@ public:
 
     /// Makes new controllers and scenes for these records. The size is in points.
     void show(QSize size, const std::vector<ConsoleLook>& consoles);
-    /// Takes the screens away, as `show` does first. To be called before the appearance changes, which open screens would
-    /// follow label by label.
+    /// Takes the screens away, as `show` does first. To be called before the appearance changes, which open screens
+    /// would follow label by label.
     void close();
     void showDashboard();
     DeltaCorvelViewController* openEditor();
