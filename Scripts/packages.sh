@@ -103,7 +103,8 @@ try_packages() {
     local root=$PWD/build/package/bare
     as_root rm -rf "$root"
     say "making a bare system in $root"
-    as_root mmdebstrap --variant=minbase --aptopt='APT::Install-Recommends "false"' bookworm "$root" \
+    as_root mmdebstrap --variant=minbase --aptopt='APT::Install-Recommends "false"' --include=apt-utils \
+        --skip=cleanup/apt/lists bookworm "$root" \
         >"$root.log" 2>&1 || fail_with "$root.log"
     as_root cp -L /etc/resolv.conf "$root/etc/resolv.conf"
     as_root unshare --mount bash -ec '
