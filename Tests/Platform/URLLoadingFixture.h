@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #pragma once
 
+#include "Platform/URLLoading/BodyMemory.h"
 #include "Platform/URLLoading/ServerTrust.h"
 #include "Platform/URLLoading/TransferLimits.h"
 #include "Platform/URLLoading/URLConnection.h"
@@ -74,7 +75,7 @@ public:
         load.response = response;
         load.body.clear();
     }
-    void didReceiveData(std::span<const char> data) override { load.body.append(data.data(), data.size()); }
+    void didReceiveData(std::span<const char> data) override { appendToBody(load.body, data); }
     void connectionDidFinishLoading() override { end(load); }
     void didFailWithError(const Error& error) override { end(error); }
 

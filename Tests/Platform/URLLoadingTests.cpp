@@ -241,7 +241,7 @@ constexpr std::size_t megabyte = 1024UL * 1024;
 #if defined(__SANITIZE_THREAD__) || defined(__SANITIZE_ADDRESS__)
 constexpr double slack = 4e9; // they keep books, and what was freed
 #else
-constexpr double slack = 150e6;
+constexpr double slack = 60e6;
 #endif
 
 /// Looks until its end how much transfers hold.

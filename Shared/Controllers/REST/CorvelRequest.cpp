@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Controllers/REST/CorvelRequest.h"
 
+#include "Platform/URLLoading/BodyMemory.h"
+
 #include <cstdio>
 
 namespace lodestar
@@ -36,7 +38,7 @@ void CorvelRequest::didReceiveResponse(const URLResponse& response)
 void CorvelRequest::didReceiveData(std::span<const char> data)
 {
     std::puts("Receiving data");
-    m_data.append(data.data(), data.size());
+    appendToBody(m_data, data);
 }
 
 void CorvelRequest::connectionDidFinishLoading()

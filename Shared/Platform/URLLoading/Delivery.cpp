@@ -2,6 +2,7 @@
 #include "Platform/URLLoading/Delivery.h"
 
 #include "Platform/Queues/OwnThread.h"
+#include "Platform/URLLoading/BodyMemory.h"
 
 #include <algorithm>
 #include <condition_variable>
@@ -111,8 +112,8 @@ Delivery::Progress Delivery::unpack(std::size_t most)
     std::string& body = m_load.value().body;
     for (std::size_t at = 0; at < m_packed.size(); at += sliceSize) {
         const auto slice = std::span<const char>(m_packed).subspan(at, std::min(sliceSize, m_packed.size() - at));
-        const bool goesOn = m_unpacker->unpack(
-            slice, [&body](std::span<const char> piece) { body.append(piece.data(), piece.size()); });
+        const bool goesOn =
+            m_unpacker->unpack(slice, [&body](std::span<const char> piece) { appendToBody(body, piece); });
         if (most != anySize && (body.size() > most || m_unpacker->foundNoRoom())) {
             return Progress::TooLarge;
         }
@@ -120,7 +121,7 @@ Delivery::Progress Delivery::unpack(std::size_t most)
             break;
         }
     }
-    m_packed = {};
+    freeBody(m_packed);
     m_held.reset();
     if (auto error = m_unpacker->error()) {
         m_load = std::move(*error);
@@ -134,7 +135,7 @@ Delivery::Progress Delivery::unpack(std::size_t most)
 void Delivery::unpackLarge()
 {
     URLLoad& load = m_load.value();
-    load.body = {};
+    freeBody(load.body);
     m_unpacker = nullptr;
     const auto size = measure();
     if (!size) {
@@ -155,7 +156,7 @@ std::optional<std::size_t> Delivery::measure()
     BodyUnpacker unpacker(m_load.value().response, std::nullopt);
     unpacker.unpack(m_packed, [](std::span<const char>) {});
     if (auto error = unpacker.error()) {
-        m_packed = {};
+        freeBody(m_packed);
         m_held.reset();
         m_load = std::move(*error);
         return std::nullopt;
@@ -170,7 +171,7 @@ Result<URLLoad> Delivery::unpacked(URLLoad load)
     }
     BodyUnpacker unpacker(load.response, HeldBytes::Claim::Whole);
     const std::string packed = std::exchange(load.body, {});
-    unpacker.unpack(packed, [&load](std::span<const char> piece) { load.body.append(piece.data(), piece.size()); });
+    unpacker.unpack(packed, [&load](std::span<const char> piece) { appendToBody(load.body, piece); });
     if (auto error = unpacker.error()) {
         return std::move(*error);
     }

@@ -1,6 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/URLLoading/HeldBytes.h"
 
+#include "Platform/URLLoading/BodyMemory.h"
+
 #include <algorithm>
 #include <atomic>
 #include <chrono>
@@ -8,10 +10,6 @@
 #include <mutex>
 #include <unordered_map>
 #include <utility>
-
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
 
 namespace lodestar
 {
@@ -28,14 +26,6 @@ constexpr std::size_t leastPart = 64; ///< of the fair third: every server may h
 constexpr std::size_t largeLoad = 64UL * 1024 * 1024;
 
 std::atomic<void (*)()> givenBack = nullptr;
-
-/// The GNU allocator keeps the many freed pieces of large bodies until this call.
-void giveMemoryBack()
-{
-#ifdef __GLIBC__
-    malloc_trim(0);
-#endif
-}
 
 struct Books {
     std::mutex mutex;
@@ -187,7 +177,7 @@ void HeldBytes::reset()
     }
     books().changed.notify_all();
     if (endsLargeLoad) {
-        giveMemoryBack();
+        giveFreedMemoryBack();
     }
     if (auto* const told = givenBack.load()) {
         told();

@@ -1,18 +1,10 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/URLLoading/LoadClient.h"
 
-#include <algorithm>
+#include "Platform/URLLoading/BodyMemory.h"
 
 namespace lodestar
 {
-
-namespace
-{
-
-// The most memory to reserve on the strength of a server's Content-Length.
-constexpr std::int64_t trustedLength = 32LL * 1024 * 1024;
-
-} // namespace
 
 bool LoadClient::acceptsServer(const ServerCertificate& certificate, Handshake)
 {
@@ -24,15 +16,18 @@ void LoadClient::didReceiveResponse(const URLResponse& response)
 {
     m_load.response = response;
     m_load.body.clear();
-    if (response.expectedContentLength > 0) {
-        m_load.body.reserve(static_cast<std::size_t>(std::min(response.expectedContentLength, trustedLength)));
-    }
+    reserveBody(m_load.body, response.expectedContentLength);
+}
+
+void LoadClient::didReceiveData(std::span<const char> data)
+{
+    appendToBody(m_load.body, data);
 }
 
 void LoadClient::didEnd(std::optional<Error> error, HeldBytes held)
 {
     if (error) {
-        m_load = {};
+        freeBody(m_load.body);
         m_completion(std::move(*error), std::move(held));
     } else {
         m_completion(std::move(m_load), std::move(held));

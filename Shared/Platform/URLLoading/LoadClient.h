@@ -21,7 +21,7 @@ public:
     bool acceptsServer(const ServerCertificate& certificate, Handshake handshake) override;
     bool wantsFreshHandshake(const Origin&) const override { return false; }
     void didReceiveResponse(const URLResponse& response) override;
-    void didReceiveData(std::span<const char> data) override { m_load.body.append(data.data(), data.size()); }
+    void didReceiveData(std::span<const char> data) override;
     void didEnd(std::optional<Error> error, HeldBytes held) override;
 
 private:

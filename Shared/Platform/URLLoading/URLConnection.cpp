@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/URLLoading/URLConnection.h"
 
+#include "Platform/URLLoading/BodyMemory.h"
 #include "Platform/URLLoading/BodyUnpacker.h"
 #include "Platform/URLLoading/NetworkThread.h"
 #include "Platform/URLLoading/Transfer.h"
@@ -16,6 +17,9 @@ namespace lodestar
 
 namespace
 {
+
+/// Pieces of a body wait for a slow delegate as strings of their own. So many bytes of told pieces are worth a sweep.
+constexpr std::size_t toldBeforeSweep = 16UL * 1024 * 1024;
 
 class ServerTrustChallenge : public AuthenticationChallenge
 {
@@ -159,6 +163,11 @@ private:
     }
     void tellData(std::span<const char> bytes)
     {
+        m_toldBytes += bytes.size();
+        if (m_toldBytes >= toldBeforeSweep) {
+            m_toldBytes = 0;
+            giveFreedMemoryBack();
+        }
         if (m_failure) {
             return;
         }
@@ -184,6 +193,7 @@ private:
     // Once started, only calls use the members below.
     std::shared_ptr<URLConnectionDelegate> m_delegate;
     std::optional<BodyUnpacker> m_unpacker; ///< unpacks the last response's body, if it is packed
+    std::size_t m_toldBytes = 0;            ///< since freed memory was last given back
     std::optional<Error> m_failure;         ///< once set, the delegate hears only of the end
 };
 
