@@ -6,10 +6,16 @@
 namespace lodestar
 {
 
-/// How often a test tries its luck: usually a few times, and as often as it should in the long run (`./test --long`).
+/// Whether `./test --long` runs the test.
+inline bool isLongRun()
+{
+    return std::getenv("LODESTAR_LONG_RUN") != nullptr;
+}
+
+/// How often a test tries its luck: usually a few times, and as often as it should in the long run.
 inline int rounds(int usually, int inTheLongRun)
 {
-    return std::getenv("LODESTAR_LONG_RUN") != nullptr ? inTheLongRun : usually;
+    return isLongRun() ? inTheLongRun : usually;
 }
 
 } // namespace lodestar

@@ -111,7 +111,6 @@ bool finishGuide(const Order& order, const QSet<QString>& drawn)
 
 void take(SceneStage& stage, const Look& look, const Variant& variant, const Order& order, const QString& name)
 {
-    stage.close();
     Appearance& appearance = Appearance::shared();
     appearance.overrideDark(variant.dark);
     appearance.overrideHighContrast(variant.highContrast);

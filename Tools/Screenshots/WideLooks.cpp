@@ -7,16 +7,20 @@
 #include "Views/ManagedSystems/MSListViewController.h"
 #include "Views/ManagedSystems/PCM/PCMViewController.h"
 
+#include <QCoreApplication>
+
+#include <stdexcept>
+
 namespace lodestar::scenes
 {
 namespace
 {
 
 /// Chooses the row that shows the text, as a press does.
-void choose(SceneStage& stage, const char* text)
+void choose(SceneStage& stage, const QString& text)
 {
     for (QQuickItem* item : stage.items("QQuickText")) {
-        if (item->property("text") != QString::fromLatin1(text)) {
+        if (item->property("text") != text) {
             continue;
         }
         while (item != nullptr && !QByteArray(item->metaObject()->className()).startsWith("TableRow")) {
@@ -28,7 +32,7 @@ void choose(SceneStage& stage, const char* text)
             return;
         }
     }
-    qWarning("No row shows %s", text);
+    throw std::runtime_error("no row shows " + text.toStdString());
 }
 
 void openAttention(SceneStage& stage)
@@ -43,8 +47,8 @@ MSListViewController& openSystems(SceneStage& stage)
 {
     showNight(stage, Night::Morning);
     stage.settle();
-    choose(stage, "Harbour B");
-    choose(stage, "Managed Systems");
+    choose(stage, QStringLiteral("Harbour B"));
+    choose(stage, QCoreApplication::translate("lodestar::CorvelOverviewTableViewController", "Managed Systems"));
     return *qobject_cast<MSListViewController*>(stage.list().navigationController()->topViewController());
 }
 
@@ -70,7 +74,7 @@ std::vector<Look> wideLooks()
          .prepare =
              [](SceneStage& stage) {
                  openAttention(stage);
-                 choose(stage, "Northfield Recovery Site");
+                 choose(stage, QStringLiteral("Northfield Recovery Site"));
              },
          .lies = true,
          .isWide = true},
@@ -80,7 +84,7 @@ std::vector<Look> wideLooks()
              [](SceneStage& stage) {
                  showNight(stage, Night::Morning);
                  stage.settle();
-                 choose(stage, "Harbour B");
+                 choose(stage, QStringLiteral("Harbour B"));
              },
          .lies = true,
          .isWide = true},
@@ -89,7 +93,7 @@ std::vector<Look> wideLooks()
          .prepare =
              [](SceneStage& stage) {
                  MSListViewController& systems = openSystems(stage);
-                 choose(stage, "helios-03");
+                 choose(stage, QStringLiteral("helios-03"));
                  systems.actionSheet()->choose(0);
              },
          .lies = true,
@@ -99,7 +103,7 @@ std::vector<Look> wideLooks()
          .prepare =
              [](SceneStage& stage) {
                  stage.openList(Scenes::logicalPartitionsView, {.corvel = demoConsole(), .partitionName = {}});
-                 choose(stage, "mail-relay");
+                 choose(stage, QStringLiteral("mail-relay"));
              },
          .lies = true,
          .isWide = true},

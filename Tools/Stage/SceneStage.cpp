@@ -214,13 +214,13 @@ SceneStage::SceneStage()
 
 SceneStage::~SceneStage()
 {
-    close();
+    closeWindow();
     RESTHandler::sharedInstance().setCorvelList({});
     History::shared().close();
     StoreStack::shared().close();
 }
 
-void SceneStage::close()
+void SceneStage::closeWindow()
 {
     if (m_list) {
         // A sheet keeps the screen under it alive. Dismissing the sheet frees both, and with them the notifications
@@ -240,7 +240,7 @@ void SceneStage::close()
 
 void SceneStage::show(QSize size, const std::vector<ConsoleLook>& consoles)
 {
-    close();
+    closeWindow();
     RESTHandler::sharedInstance().setCorvelList({});
     m_list = Storyboard::main().instantiate<CorvelListViewController>(Scenes::corvelListView);
     m_dashboard = Storyboard::main().instantiate<DashboardTableViewController>(Scenes::dashboardView);

@@ -65,9 +65,6 @@ public:
 
     /// Makes new controllers and scenes for these records. The size is in points.
     void show(QSize size, const std::vector<ConsoleLook>& consoles);
-    /// Takes the screens away, as `show` does first. To be called before the appearance changes, which open screens
-    /// would follow label by label.
-    void close();
     void showDashboard();
     DeltaCorvelViewController* openEditor();
     /// A screen over the console list.
@@ -116,6 +113,8 @@ public:
     const QStringList& warnings() const { return m_warnings; }
 
 private:
+    void closeWindow();
+
     QTemporaryDir m_folder;
     QQmlEngine m_engine;
     QStringList m_warnings;

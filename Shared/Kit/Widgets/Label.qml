@@ -12,7 +12,9 @@ Text {
     /// Bars use a smaller factor: they stop growing earlier than other text.
     property real scaleFactor: Theme.textScale
 
-    readonly property bool shrinks: fontSizeMode !== Text.FixedSize
+    /// Whether the label may draw its text smaller. True from the beginning for a label whose mode changes: a Text lays
+    /// itself out later for a new mode, and until then tells the size of the old one.
+    property bool shrinks: fontSizeMode !== Text.FixedSize
     readonly property int drawnSize: shrinks ? fittedSize() : font.pixelSize
     readonly property real drop: Appearance.textDrop(drawnSize, lineHeight, Screen.devicePixelRatio, text)
 

@@ -113,6 +113,7 @@ TableCell {
             text: row.cell.sentence
             size: Theme.captionSize
             color: Theme.ink2
+            shrinks: true
             fontSizeMode: row.stacked || row.cell.quotes ? Text.FixedSize : Text.HorizontalFit
             minimumPixelSize: 11
             elide: row.stacked ? Text.ElideNone : Text.ElideRight

@@ -112,6 +112,7 @@ Item {
             y: line.beside ? title.baselineOffset - baselineOffset
                            : title.height + (line.verdict ? Math.round(4 * line.scale100) : 0)
             wrapMode: line.beside ? Text.NoWrap : line.fact ? Text.WrapAtWordBoundaryOrAnywhere : Text.Wrap
+            shrinks: true
             fontSizeMode: line.beside ? Text.HorizontalFit : Text.FixedSize
             minimumPixelSize: 10
             elide: line.beside ? Text.ElideMiddle : Text.ElideNone

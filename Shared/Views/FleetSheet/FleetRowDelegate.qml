@@ -121,6 +121,7 @@ TableCell {
             text: row.cell.note
             size: Theme.captionSize
             color: row.cell.incomplete ? Theme.systemOrange : Theme.ink2
+            shrinks: true
             fontSizeMode: row.stacked ? Text.FixedSize : Text.HorizontalFit
             minimumPixelSize: 10
             elide: row.stacked ? Text.ElideNone : Text.ElideRight
