@@ -116,7 +116,7 @@ try_packages() {
         cat "$1/try.log" >&2
         die "the installed packages do not do what they should"
     }
-    grep -E ' (PASS|FAIL|SKIP)' "$1/try.log" >&2
+    sed -n '/@@@ summary$/,$p' "$1/try.log" | grep -E ' (PASS|FAIL|SKIP)' >&2
     as_root rm -rf "$root"
 }
 
