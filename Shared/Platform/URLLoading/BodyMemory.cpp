@@ -6,10 +6,6 @@
 #include <algorithm>
 #include <new>
 
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
-
 namespace lodestar
 {
 
@@ -44,13 +40,6 @@ void appendToBody(std::string& body, std::span<const char> piece)
 void freeBody(std::string& body)
 {
     std::string().swap(body);
-}
-
-void giveFreedMemoryBack()
-{
-#ifdef __GLIBC__
-    malloc_trim(0);
-#endif
 }
 
 } // namespace lodestar

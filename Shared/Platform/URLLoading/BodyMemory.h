@@ -20,7 +20,4 @@ void appendToBody(std::string& body, std::span<const char> piece);
 /// Frees a body at once. An assignment of an empty string would keep the memory.
 void freeBody(std::string& body);
 
-/// Gives memory that was freed back to the system. The GNU allocator would keep the many freed pieces of a large body.
-void giveFreedMemoryBack();
-
 } // namespace lodestar

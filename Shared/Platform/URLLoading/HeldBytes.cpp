@@ -1,7 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/URLLoading/HeldBytes.h"
 
-#include "Platform/URLLoading/BodyMemory.h"
+#include "Platform/URLLoading/FreedMemory.h"
 
 #include <algorithm>
 #include <atomic>

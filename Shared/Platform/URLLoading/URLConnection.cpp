@@ -1,8 +1,8 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Platform/URLLoading/URLConnection.h"
 
-#include "Platform/URLLoading/BodyMemory.h"
 #include "Platform/URLLoading/BodyUnpacker.h"
+#include "Platform/URLLoading/FreedMemory.h"
 #include "Platform/URLLoading/NetworkThread.h"
 #include "Platform/URLLoading/Transfer.h"
 #include "Platform/URLLoading/URLError.h"
