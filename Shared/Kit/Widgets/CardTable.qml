@@ -37,6 +37,15 @@ AccessibleScope {
     signal menuRequested(int section, int row)
     signal searchTapped()
 
+    readonly property bool rowsMove: table.rowsFade || table.removalAnimated
+    /// A RowMotion, made when rows first move. Named by its type, it would be loaded before a list shows.
+    property var motion: null
+    onRowsMoveChanged: {
+        if (rowsMove && motion === null) {
+            motion = Qt.createComponent("RowMotion.qml").createObject(view, {"list": list});
+        }
+    }
+
     /// The line's height before the last change. A list that was at its top then stays there.
     property real lineSpaceBefore: 0
     function keepTop() {
@@ -131,9 +140,10 @@ AccessibleScope {
         bottomMargin: Theme.groupGap + view.endSpace + view.coveredHeight
         currentIndex: -1
         boundsBehavior: Flickable.DragAndOvershootBounds
-        add: view.table.rowsFade ? fadeIn : null
-        remove: view.table.removalAnimated ? slideAway : view.table.rowsFade ? fadeOut : null
-        displaced: view.table.removalAnimated || view.table.rowsFade ? closeUp : null
+        add: view.motion !== null && view.table.rowsFade ? view.motion.fadeIn : null
+        remove: view.motion === null ? null : view.table.removalAnimated ? view.motion.slideAway
+                                                                        : view.table.rowsFade ? view.motion.fadeOut : null
+        displaced: view.motion !== null && view.rowsMove ? view.motion.closeUp : null
         delegate: TableRow {
             id: place
 
@@ -366,44 +376,5 @@ AccessibleScope {
         visible: view.refreshControl !== null && overshoot > 0
         overshoot: -list.verticalOvershoot
         refreshing: view.refreshControl !== null && view.refreshControl.refreshing
-    }
-
-    Transition {
-        id: fadeIn
-
-        NumberAnimation {
-            property: "opacity"
-            from: 0
-            to: 1
-            duration: Theme.settle
-        }
-    }
-    Transition {
-        id: fadeOut
-
-        NumberAnimation {
-            property: "opacity"
-            to: 0
-            duration: Theme.settle
-        }
-    }
-    Transition {
-        id: slideAway
-
-        NumberAnimation {
-            property: "x"
-            to: -list.width
-            duration: Theme.rowDelete
-            easing.type: Easing.OutCubic
-        }
-    }
-    Transition {
-        id: closeUp
-
-        NumberAnimation {
-            property: "y"
-            duration: Theme.rowDelete
-            easing.type: Easing.OutCubic
-        }
     }
 }
