@@ -16,8 +16,8 @@ namespace lodestar::scenes
 namespace
 {
 
-/// Chooses the row that shows the text, as a press does.
-void choose(SceneStage& stage, const QString& text)
+/// The row that is drawn with the text; null for none.
+QQuickItem* rowShowing(const SceneStage& stage, const QString& text)
 {
     for (QQuickItem* item : stage.items("QQuickText")) {
         if (item->property("text") != text) {
@@ -27,12 +27,28 @@ void choose(SceneStage& stage, const QString& text)
             item = item->parentItem();
         }
         if (item != nullptr) {
-            QMetaObject::invokeMethod(item, "accessiblePressed");
-            stage.settle();
-            return;
+            return item;
         }
     }
-    throw std::runtime_error("no row shows " + text.toStdString());
+    return nullptr;
+}
+
+/// Chooses the row that shows the text, as a press does. Scrolls to a row that large text has pushed out of view.
+void choose(const SceneStage& stage, const QString& text)
+{
+    QQuickItem* row = rowShowing(stage, text);
+    for (QQuickItem* const list : stage.items("QQuickListView")) {
+        for (int i = 0; row == nullptr && i < list->property("count").toInt(); ++i) {
+            constexpr int contain = 4; // ListView.Contain
+            QMetaObject::invokeMethod(list, "positionViewAtIndex", Q_ARG(int, i), Q_ARG(int, contain));
+            row = rowShowing(stage, text);
+        }
+    }
+    if (row == nullptr) {
+        throw std::runtime_error("no row shows " + text.toStdString());
+    }
+    QMetaObject::invokeMethod(row, "accessiblePressed");
+    stage.settle();
 }
 
 void openAttention(SceneStage& stage)
