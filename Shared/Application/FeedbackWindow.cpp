@@ -78,25 +78,38 @@ QUrl mainScene()
     return QUrl(QStringLiteral("qrc:/Lodestar/Application/MainScene.qml"));
 }
 
-/// Makes an engine that has compiled the window's root, and waits for the typeface, which is read meanwhile. The window
-/// is made only afterwards: with a new typeface, an existing window would lay out all its text once more.
-QQmlEngine* makeEngine()
-{
-    auto* const engine = new QQmlEngine;
-    installApplicationScenes(*engine);
-    // Dropping the component loses nothing: the engine keeps what it has compiled.
-    const QQmlComponent root(engine, mainScene());
-    UIFont::awaitInstalled();
-    return engine;
-}
+/// An engine that compiles the first screens in a thread of its own, while the main thread opens files.
+struct Compilation {
+    std::unique_ptr<QQmlEngine> engine = std::make_unique<QQmlEngine>();
+    /// Owns the components that compile. Destroyed before the engine.
+    std::unique_ptr<QObject> components = std::make_unique<QObject>();
 
-/// Compiles, in the background, the first screen that comes up without a passcode. `owner` owns the components.
-void compileFirstScreen(QQmlEngine& engine, QObject& owner)
-{
-    for (const char* scene : {"qrc:/Lodestar/Kit/TabBarView.qml", "qrc:/Lodestar/Kit/NavigationView.qml",
-                              "qrc:/Lodestar/Views/CorvelListScene.qml"}) {
-        new QQmlComponent(&engine, QUrl(QLatin1String(scene)), QQmlComponent::Asynchronous, &owner);
+    Compilation()
+    {
+        installApplicationScenes(*engine);
+        add(mainScene());
     }
+    void add(const QUrl& scene)
+    {
+        new QQmlComponent(engine.get(), scene, QQmlComponent::Asynchronous, components.get());
+    }
+    /// Compiles, in the background, the first screen that comes up without a passcode.
+    void addFirstScreen()
+    {
+        for (const char* scene : {"qrc:/Lodestar/Kit/TabBarView.qml", "qrc:/Lodestar/Kit/NavigationView.qml",
+                                  "qrc:/Lodestar/Views/CorvelListScene.qml"}) {
+            add(QUrl(QLatin1String(scene)));
+        }
+    }
+    /// Helps the thread, which lets the main thread begin each plugin, until the root is compiled.
+    void awaitRoot() { const QQmlComponent root(engine.get(), mainScene()); }
+};
+
+/// What was begun and no window has taken over yet. Never destroyed, like the window.
+std::unique_ptr<Compilation>& compilation()
+{
+    static auto& begun = *new std::unique_ptr<Compilation>;
+    return begun;
 }
 
 /// Loads the typeface at the sizes of the first screen.
@@ -105,6 +118,17 @@ void loadFirstFaces()
     for (const double size : {28, 17, 15, 13, 11}) {
         static_cast<void>(QFontMetricsF(UIFont::systemFontOfSize(size)).horizontalAdvance(u'x'));
     }
+}
+
+/// Waits for the typeface, which a thread reads: with a new typeface, an existing window would lay out all its text
+/// once more.
+QQmlEngine* begunEngine()
+{
+    FeedbackWindow::beginCompilation();
+    compilation()->awaitRoot();
+    compilation()->addFirstScreen();
+    UIFont::awaitInstalled();
+    return compilation()->engine.get();
 }
 
 std::unique_ptr<FeedbackWindow>& theWindow()
@@ -117,17 +141,25 @@ std::unique_ptr<FeedbackWindow>& theWindow()
 
 } // namespace
 
-FeedbackWindow::FeedbackWindow() : QQuickView(makeEngine(), nullptr)
+FeedbackWindow::FeedbackWindow() : QQuickView(begunEngine(), nullptr)
 {
-    compileFirstScreen(*engine(), *this);
-    loadFirstFaces();          // while the scenes compile; this thread has nothing else to do
-    engine()->setParent(this); // after the components, which must be destroyed before their engine
+    const std::unique_ptr<Compilation> begun = std::move(compilation());
+    begun->components.release()->setParent(this);
+    begun->engine.release()->setParent(this); // after the components, which must be destroyed before their engine
+    loadFirstFaces();                         // while the screens compile; this thread has nothing else to do
     setTitle(QStringLiteral("Lodestar"));
     setResizeMode(QQuickView::SizeRootObjectToView);
     setMinimumSize({320, 320}); // the short side of the smallest phones, whichever way they are held
 }
 
 FeedbackWindow::~FeedbackWindow() = default;
+
+void FeedbackWindow::beginCompilation()
+{
+    if (!compilation()) {
+        compilation() = std::make_unique<Compilation>();
+    }
+}
 
 FeedbackWindow* FeedbackWindow::shared()
 {

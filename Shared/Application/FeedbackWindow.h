@@ -28,6 +28,9 @@ public:
     FeedbackWindow();
     ~FeedbackWindow() override;
 
+    /// Begins to compile the first screens in a thread, for the window that is made next. Without this call the
+    /// window's making begins it. The main thread opens files meanwhile.
+    static void beginCompilation();
     /// The one window of the process; the first call makes it.
     static FeedbackWindow* shared();
     /// Ends the window's drawing and forgets its screens. Call it before the application object is destroyed.

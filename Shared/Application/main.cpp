@@ -141,6 +141,7 @@ int main(int argc, char** argv)
     if (!claimDataFolder(dataFolder)) {
         return 1;
     }
+    FeedbackWindow::beginCompilation();
     SystemKeychain& keychain = installPlatform(dataFolder);
 
     AppDelegate delegate;
