@@ -35,6 +35,20 @@ TabBadge badgeOf(const QString& title, int count)
             AttentionViewController::tr("%1, %Ln things", nullptr, count).arg(title)};
 }
 
+/// Keeps an observation until its parent goes. A child and no connection to `destroyed`: Qt ends the process when there
+/// is no memory for the first connection of an object, and a reset makes the tabs anew at any moment.
+class Observing : public QObject
+{
+public:
+    Observing(QObject& parent, NotificationCenter::Observation observation)
+        : QObject(&parent), m_observation(std::move(observation))
+    {
+    }
+
+private:
+    NotificationCenter::Observation m_observation;
+};
+
 } // namespace
 
 AttentionViewController::AttentionViewController()
@@ -223,9 +237,7 @@ void countAttention(TabBarController& tabs, int index)
         tabs.setBadge(index, badgeOf(tabs.titleAt(index),
                                      static_cast<int>(Attention::shared().picture()->findings.needAttention)));
     };
-    // The connection keeps the observation until the tabs are gone.
-    QObject::connect(&tabs, &QObject::destroyed,
-                     [observation = NotificationCenter::defaultCenter().addObserver("AttentionDidChange", count)] {});
+    new Observing(tabs, NotificationCenter::defaultCenter().addObserver("AttentionDidChange", count));
     count();
 }
 
