@@ -56,6 +56,24 @@ bool isAddress(std::string_view text)
     });
 }
 
+std::string problemOf(SheetRowKind kind)
+{
+    switch (kind) {
+    case SheetRowKind::New:
+    case SheetRowKind::RegisteredAlready:
+        break;
+    case SheetRowKind::NoAddress:
+        return "no_address";
+    case SheetRowKind::NoUser:
+        return "no_user";
+    case SheetRowKind::BadAddress:
+        return "bad_address";
+    case SheetRowKind::SameAddress:
+        return "same_address";
+    }
+    return {};
+}
+
 /// Where the columns of a sheet stand. Of two columns with one title the first is used.
 struct Columns {
     std::array<std::optional<std::size_t>, ColumnCount> places;
@@ -138,7 +156,7 @@ std::size_t FleetSheet::count(SheetRowKind kind) const
 
 std::size_t FleetSheet::unusable() const
 {
-    return rows.size() - count(SheetRowKind::New) - count(SheetRowKind::RegisteredAlready);
+    return static_cast<std::size_t>(std::ranges::count_if(rows, &SheetRow::isUnusable));
 }
 
 std::vector<std::string> FleetSheet::users() const
@@ -202,6 +220,18 @@ Table fleetSheetOf(const std::vector<CorvelRef>& consoles)
         if (corvel->demo() != 1) {
             table.rows.push_back(
                 {corvel->name().value_or(""), corvel->address().value_or(""), corvel->username().value_or("")});
+        }
+    }
+    return table;
+}
+
+Table tableOfUnusable(const FleetSheet& sheet)
+{
+    Table table{{titles.begin(), titles.end()}, {}};
+    table.titles.insert(table.titles.end(), {"line", "problem"});
+    for (const SheetRow& row : sheet.rows) {
+        if (row.isUnusable()) {
+            table.rows.push_back({row.name, row.address, row.user, std::to_string(row.line), problemOf(row.kind)});
         }
     }
     return table;

@@ -36,6 +36,8 @@ struct SheetRow {
     std::string user;
     SheetRowKind kind = SheetRowKind::New;
     std::size_t sameAs = 0; ///< with `SameAddress`: the line of the earlier row
+    /// Neither new nor registered.
+    bool isUnusable() const { return kind != SheetRowKind::New && kind != SheetRowKind::RegisteredAlready; }
 };
 struct FleetSheet {
     std::vector<SheetRow> rows;
@@ -44,8 +46,7 @@ struct FleetSheet {
     std::vector<std::string> passwordColumns;
 
     std::size_t count(SheetRowKind kind) const;
-    /// How many rows are neither new nor registered.
-    std::size_t unusable() const;
+    std::size_t unusable() const; ///< how many rows
     /// The users of the new rows, each once, in the order of the sheet.
     std::vector<std::string> users() const;
     /// Those of all rows, also of rows that are registered or cannot be used.
@@ -64,6 +65,10 @@ Result<FleetSheet> readFleetSheet(std::string_view bytes, const std::vector<std:
 std::vector<std::string> registeredAddresses();
 /// The consoles of the working list as a sheet. Without the demo console and without secrets. Main thread.
 Table fleetSheetOf(const std::vector<CorvelRef>& consoles);
+
+/// The rows that cannot be used, as a sheet to be mended and read again. After the columns of a sheet come "line" and
+/// "problem", which is "no_address", "no_user", "bad_address" or "same_address".
+Table tableOfUnusable(const FleetSheet& sheet);
 
 /// Tries consoles and then adds all good ones or none. Until `add` nothing of them is in the store, in the defaults, in
 /// the readings or in the history, so that a process that ends meanwhile leaves nothing either. Main thread; one at a

@@ -11,6 +11,9 @@
 #include "Views/FleetSheet/FleetUnusableViewController.h"
 #include "Views/FleetSheet/FleetVerifyViewController.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+
 namespace lodestar::testing
 {
 namespace
@@ -118,6 +121,11 @@ TEST_F(FleetSheetScreensTest, ASheetIsToldTriedAndAddedAtOnce)
                 ElementsAre("Row 6: no address, X", "Row 7: no user, y.example, Y",
                             "Row 8: the same address as row 2, " + fleet.address(0) + ", Z",
                             "Row 9: not an address, http://w, W"));
+    top<FleetUnusableViewController>().share()->copy();
+    EXPECT_EQ(
+        QGuiApplication::clipboard()->text(),
+        QString::fromStdString("name,address,user,line,problem\r\nX,,ops,6,no_address\r\nY,y.example,,7,no_user\r\nZ," +
+                               fleet.address(0) + ",ops,8,same_address\r\nW,http://w,ops,9,bad_address\r\n"));
     stack->pop();
     EXPECT_EQ(screen.passwords()->count(), 1);
     EXPECT_EQ(screen.passwords()->at(0)->consoles(), "4 consoles");

@@ -13,6 +13,10 @@ PageScaffold {
 
     bar: NavigationBar {
         controller: scene.controller
+        trailing: ListShareButton {
+            share: scene.list.share
+            offered: scene.visible && table.table.rows > 0
+        }
     }
     scrollView: table.flickable
 

@@ -20,7 +20,7 @@ void FleetUnusableViewController::setSheet(std::shared_ptr<const FleetSheet> she
     m_sheet = std::move(sheet);
     m_rows.clear();
     for (const SheetRow& row : m_sheet->rows) {
-        if (row.kind != SheetRowKind::New && row.kind != SheetRowKind::RegisteredAlready) {
+        if (row.isUnusable()) {
             m_rows.push_back(&row);
         }
     }

@@ -5,6 +5,7 @@
 #include "Kit/Core/SpansColumns.h"
 #include "Kit/Core/Table.h"
 #include "Kit/Core/ViewController.h"
+#include "Views/Common/ListShare.h"
 
 #include <memory>
 #include <vector>
@@ -19,12 +20,14 @@ class FleetUnusableViewController : public lodestar::ViewController, public Tabl
     QML_ELEMENT
     QML_UNCREATABLE("made by the storyboard")
     Q_PROPERTY(lodestar::TableOutlet* tableView READ tableView CONSTANT)
+    Q_PROPERTY(lodestar::ListShare* share READ share CONSTANT)
 
 public:
     FleetUnusableViewController();
 
     void setSheet(std::shared_ptr<const FleetSheet> sheet);
     TableOutlet* tableView() { return &m_tableView; }
+    ListShare* share() { return &m_share; }
     int numberOfRowsInSection(TableKind tableView, int section) const override;
     QVariant cellForRowAtIndexPath(TableKind tableView, IndexPath indexPath) override;
 
@@ -32,6 +35,7 @@ private:
     std::shared_ptr<const FleetSheet> m_sheet;
     std::vector<const SheetRow*> m_rows; ///< of the sheet
     TableOutlet m_tableView;
+    ListShare m_share{[this] { return title(); }, [this] { return tableOfUnusable(*m_sheet); }};
 };
 
 } // namespace lodestar
