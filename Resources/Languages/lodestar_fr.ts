@@ -3331,6 +3331,14 @@ Il reste dans la liste des rapports.</translation>
     </message>
 </context>
 <context>
+    <name>lodestar::FindListController</name>
+    <message>
+        <source>%1, %2</source>
+        <extracomment>The name of a file: what was found, such as &quot;Managed Systems&quot;, and the text that found it</extracomment>
+        <translation>%1, %2</translation>
+    </message>
+</context>
+<context>
     <name>lodestar::FindText</name>
     <message>
         <source>Managed Systems</source>

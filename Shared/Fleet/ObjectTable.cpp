@@ -281,6 +281,28 @@ Table tableOfElements(std::string_view type, const ConsoleSnapshot& console, con
     return tableOfType(type, [&](auto& table) { table.add(console, elements); });
 }
 
+Table tableOfFound(const FleetSearch& search, std::size_t kind, const std::vector<FoundObject>& found)
+{
+    if (kind == consoleKind) {
+        std::vector<ConsoleSnapshot> consoles;
+        for (const FoundObject& one : found) {
+            consoles.push_back(search.consoleOf(one));
+        }
+        return tableOfConsoles(consoles);
+    }
+    return tableOfType(searchedKinds.at(kind), [&](auto& table) {
+        for (auto one = found.begin(); one != found.end();) {
+            const ConsoleSnapshot& console = search.consoleOf(*one);
+            const std::uint32_t number = one->console;
+            std::vector<XMLElement> elements;
+            for (; one != found.end() && one->console == number; ++one) {
+                elements.push_back(search.searchedOf(*one).elementOf(one->object));
+            }
+            table.add(console, elements);
+        }
+    });
+}
+
 Table tableOfConsoles(const std::vector<ConsoleSnapshot>& consoles)
 {
     Table table;

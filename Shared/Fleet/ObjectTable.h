@@ -3,6 +3,7 @@
 
 #include "Fleet/Csv.h"
 #include "Fleet/Finding.h"
+#include "Fleet/FleetSearch.h"
 
 #include <string_view>
 #include <vector>
@@ -18,6 +19,10 @@ Table tableOfObjects(std::string_view type, const std::vector<ConsoleSnapshot>& 
 
 /// Likewise some objects of one console, in the order given: the elements that a list shows. Pure; any thread.
 Table tableOfElements(std::string_view type, const ConsoleSnapshot& console, const std::vector<XMLElement>& elements);
+
+/// Likewise what a search found of one kind, in the order given; `kind` is an index into the searched kinds. Consoles
+/// are as `tableOfConsoles` has them. Pure; any thread.
+Table tableOfFound(const FleetSearch& search, std::size_t kind, const std::vector<FoundObject>& found);
 
 /// What is known of the consoles themselves, a row each, whether they answered or not. Titles as above. Any thread.
 Table tableOfConsoles(const std::vector<ConsoleSnapshot>& consoles);

@@ -9,6 +9,9 @@
 #include "Views/Find/FindViewController.h"
 #include "Views/Find/OpenFind.h"
 
+#include <QClipboard>
+#include <QGuiApplication>
+
 namespace lodestar::testing
 {
 namespace
@@ -163,6 +166,18 @@ protected:
         const int last = screen.numberOfSections(TableKind::Main) - 1;
         return last < 0 ? std::string() : screen.footerForSection(TableKind::Main, last).toStdString();
     }
+    /// What a list hands on as comma-separated values: the cells of the console and of one more column.
+    static std::vector<std::string> handedOn(FindListController& list, const std::string& title)
+    {
+        list.share()->copy();
+        const Table table = readCsv(QGuiApplication::clipboard()->text().toStdString()).value();
+        const auto column = static_cast<std::size_t>(std::ranges::find(table.titles, title) - table.titles.begin());
+        std::vector<std::string> cells;
+        for (const auto& row : table.rows) {
+            cells.push_back(row.front() + "/" + row.at(column));
+        }
+        return cells;
+    }
     template <typename Screen>
     void comesTo(Screen& screen, const std::vector<std::string>& expected)
     {
@@ -242,6 +257,15 @@ TEST_F(FindTest, OpensWhatWasFoundAndFollowsItsConsoles)
     auto& all = dynamic_cast<FindListController&>(*navigation->topViewController());
     EXPECT_EQ(header(all), "Logical Partitions/ledger");
     EXPECT_EQ(lines(all).size(), 5U);
+    using Cells = std::vector<std::string>;
+    EXPECT_EQ(handedOn(all, "name"),
+              Cells({"Harbour B/Ledger-Migration", "Harbour B/ledger-app-1", "Harbour B/ledger-app-2",
+                     "Harbour B/ledger-app-3", "Harbour B/ledger-old"}));
+    const auto consolesFound = makeController<FindListController>(consoleKind, QStringLiteral("r"));
+    consolesFound->loadViewIfNeeded();
+    consolesFound->beginAppearance();
+    EXPECT_EQ(handedOn(*consolesFound, "last_reading"),
+              Cells({"Northfield/offline", "Harbour B/complete", "Ridgeway/partial"}));
     all.didSelectRowAtIndexPath(TableKind::Main, {0, 0});
 
     // Harbour goes offline, Ridgeway has partitions now, and another console is deleted.
@@ -251,6 +275,7 @@ TEST_F(FindTest, OpensWhatWasFoundAndFollowsItsConsoles)
     changed.pop_back();
     show(changed);
     comesTo(all, {"[ledger]-new||starting|Ridgeway"});
+    EXPECT_EQ(handedOn(all, "name"), Cells({"Ridgeway/ledger-new"}));
     comesTo(screen, {"Logical Partitions/1", "[ledger]-new||starting|Ridgeway"});
     EXPECT_EQ(foot(screen), "Harbour B was not read.");
     RESTHandler::sharedInstance().setCorvelList({harbour, northfield});

@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 #include "Views/Find/FindListController.h"
 
+#include "Fleet/ObjectTable.h"
 #include "Views/Common/FeedName.h"
 #include "Views/Find/FindRows.h"
 #include "Views/Find/FindText.h"
@@ -64,6 +65,17 @@ void FindListController::update()
     m_tableView.setHidden(isNothing);
     m_noDataHeadline.setHidden(!isNothing);
     m_noDataLabel.setHidden(!isNothing);
+}
+
+QString FindListController::shareName() const
+{
+    //: The name of a file: what was found, such as "Managed Systems", and the text that found it
+    return tr("%1, %2").arg(title(), m_text);
+}
+
+Table FindListController::shownTable() const
+{
+    return m_search != nullptr ? tableOfFound(*m_search, m_kind, m_found) : Table();
 }
 
 int FindListController::numberOfRowsInSection(TableKind /*tableView*/, int /*section*/) const

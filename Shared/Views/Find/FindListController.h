@@ -4,6 +4,7 @@
 #include "Fleet/FleetSearchKeeper.h"
 #include "Kit/Core/Table.h"
 #include "Kit/Core/ViewController.h"
+#include "Views/Common/ListShare.h"
 #include "Views/Common/TitleHeader.h"
 
 #include <memory>
@@ -21,6 +22,7 @@ class FindListController : public lodestar::ViewController, public TableDataSour
     QML_UNCREATABLE("Made by controllers")
     Q_PROPERTY(lodestar::TitleHeader* header READ header CONSTANT)
     Q_PROPERTY(lodestar::TableOutlet* tableView READ tableView CONSTANT)
+    Q_PROPERTY(lodestar::ListShare* share READ share CONSTANT)
     Q_PROPERTY(lodestar::LabelOutlet* noDataHeadline READ noDataHeadline CONSTANT)
     Q_PROPERTY(lodestar::LabelOutlet* noDataLabel READ noDataLabel CONSTANT)
 
@@ -30,6 +32,7 @@ public:
 
     TitleHeader* header() { return &m_header; }
     TableOutlet* tableView() { return &m_tableView; }
+    ListShare* share() { return &m_share; }
     LabelOutlet* noDataHeadline() { return &m_noDataHeadline; }
     LabelOutlet* noDataLabel() { return &m_noDataLabel; }
 
@@ -44,6 +47,8 @@ protected:
 
 private:
     void update();
+    QString shareName() const;
+    Table shownTable() const;
 
     const std::size_t m_kind;
     const QString m_text;
@@ -56,6 +61,7 @@ private:
     std::shared_ptr<const FleetSearch> m_search; ///< what the rows show; null until the first one is made
     std::vector<FoundObject> m_found;
     NotificationCenter::Observation m_observation;
+    ListShare m_share{[this] { return shareName(); }, [this] { return shownTable(); }};
 };
 
 } // namespace lodestar

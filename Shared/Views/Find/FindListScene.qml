@@ -17,6 +17,10 @@ PageScaffold {
             titleOutlet: scene.list.header.titleLabel
             subtitleOutlet: scene.list.header.subtitleLabel
         }
+        trailing: ListShareButton {
+            share: scene.list.share
+            offered: scene.visible && table.table.rows > 0
+        }
     }
     scrollView: table.flickable
 
