@@ -6,6 +6,8 @@
 #include "Fleet/TableCells.h"
 #include "Inventory/Identity.h"
 
+#include <algorithm>
+#include <iterator>
 #include <map>
 #include <optional>
 #include <string>
@@ -285,9 +287,9 @@ Table tableOfFound(const FleetSearch& search, std::size_t kind, const std::vecto
 {
     if (kind == consoleKind) {
         std::vector<ConsoleSnapshot> consoles;
-        for (const FoundObject& one : found) {
-            consoles.push_back(search.consoleOf(one));
-        }
+        consoles.reserve(found.size());
+        std::ranges::transform(found, std::back_inserter(consoles),
+                               [&search](const FoundObject& one) { return search.consoleOf(one); });
         return tableOfConsoles(consoles);
     }
     return tableOfType(searchedKinds.at(kind), [&](auto& table) {
