@@ -1,6 +1,7 @@
 // SPDX-License-Identifier: Apache-2.0
 // What a request sends, what its answer may be, and how much memory answers may take, whatever is sent.
 #include "Platform/URLLoading/HeldBytes.h"
+#include "Platform/URLLoading/LoadClient.h"
 #include "Tests/Platform/URLLoadingFixture.h"
 #include "Tests/Support/ProcessMemory.h"
 #include "Tests/Support/ScriptedServer.h"
@@ -304,6 +305,20 @@ TEST_F(URLLoadingTest, HostileSizesAreCutAtTheLimits)
         simulator.clearFaults();
     }
     m_queue.waitUntilAllOperationsAreFinished();
+}
+
+TEST_F(URLLoadingTest, ALargeBodyIsInMemoryOnceAndGoneWhenItsRefusalIsTold)
+{
+    double atEnd = 0;
+    LoadClient client([&](const Result<URLLoad>&, const HeldBytes&) { atEnd = memory("VmRSS"); });
+    const double before = startPeak();
+    const std::string piece(megabyte, 'x');
+    for (int i = 0; i < 150; ++i) {
+        client.didReceiveData(piece);
+    }
+    EXPECT_LT(memory("VmHWM") - before, 150.0 * megabyte + slack);
+    client.didEnd(urlError(URLErrorCode::DataLengthExceedsMaximum), {});
+    EXPECT_LT(atEnd - before, slack);
 }
 
 TEST_F(URLLoadingTest, ABodysLimitCountsWhatIsUnpacked)
