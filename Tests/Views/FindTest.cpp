@@ -268,6 +268,15 @@ TEST_F(FindTest, OpensWhatWasFoundAndFollowsItsConsoles)
               Cells({"Northfield/offline", "Harbour B/complete", "Ridgeway/partial"}));
     all.didSelectRowAtIndexPath(TableKind::Main, {0, 0});
 
+    // Those in error come first, so that a console's rows come in two stretches.
+    auto both = consoles();
+    both[1] = {ridgeway, Reading::Outcome::Complete, {{"LogicalPartition", partition("ledger-new", "error")}}};
+    show(both);
+    runUntil([&] { return lines(all).size() == 6; }, seconds(10));
+    EXPECT_EQ(handedOn(all, "name"),
+              Cells({"Harbour B/Ledger-Migration", "Ridgeway/ledger-new", "Harbour B/ledger-app-1",
+                     "Harbour B/ledger-app-2", "Harbour B/ledger-app-3", "Harbour B/ledger-old"}));
+
     // Harbour goes offline, Ridgeway has partitions now, and another console is deleted.
     auto changed = consoles();
     changed[0].outcome = Reading::Outcome::Offline;
