@@ -101,7 +101,7 @@ struct Compilation {
             add(QUrl(QLatin1String(scene)));
         }
     }
-    /// Helps the thread, which lets the main thread begin each plugin, until the root is compiled.
+    /// Waits until the root is compiled. The thread cannot begin a plugin without the main thread, which serves it here.
     void awaitRoot() { const QQmlComponent root(engine.get(), mainScene()); }
 };
 
