@@ -101,7 +101,8 @@ struct Compilation {
             add(QUrl(QLatin1String(scene)));
         }
     }
-    /// Waits until the root is compiled. The thread cannot begin a plugin without the main thread, which serves it here.
+    /// Waits until the root is compiled. The thread cannot begin a plugin without the main thread, which serves it
+    /// here.
     void awaitRoot() { const QQmlComponent root(engine.get(), mainScene()); }
 };
 
