@@ -64,8 +64,10 @@ TableCell {
             id: name
 
             text: row.cell.name
-            elide: row.stacked ? Text.ElideNone : Text.ElideMiddle
-            wrapMode: row.stacked ? Text.Wrap : Text.NoWrap
+            // Without a word at the end, this may be a sentence.
+            elide: row.stacked ? Text.ElideNone : row.hasWord ? Text.ElideMiddle : Text.ElideRight
+            wrapMode: row.stacked || !row.hasWord ? Text.Wrap : Text.NoWrap
+            maximumLineCount: row.stacked || row.hasWord ? 1000 : 2
             width: row.stacked || !row.hasWord ? row.room : Math.max(0, row.room - word.width - word.markRoom - row.gap)
             x: row.place(0, width)
             Accessible.ignored: true
