@@ -873,6 +873,13 @@
     </message>
 </context>
 <context>
+    <name>EmptyColumn</name>
+    <message>
+        <source>Choose what to look at.</source>
+        <translation>اختر ما تريد النظر إليه.</translation>
+    </message>
+</context>
+<context>
     <name>ErrorWords</name>
     <message>
         <source>this is the name of a folder.</source>
@@ -1227,6 +1234,10 @@
         <source>No consoles yet.</source>
         <translation>لا توجد وحدات تحكم بعد.</translation>
     </message>
+    <message>
+        <source>Look at the Demo First</source>
+        <translation>شاهد العرض التجريبي أولاً</translation>
+    </message>
 </context>
 <context>
     <name>FirstSteps</name>
@@ -1241,10 +1252,6 @@
     <message>
         <source>Import Fleet Sheet</source>
         <translation>استيراد جدول الوحدات</translation>
-    </message>
-    <message>
-        <source>Look at the Demo First</source>
-        <translation>شاهد العرض التجريبي أولاً</translation>
     </message>
 </context>
 <context>
@@ -1672,13 +1679,6 @@
     </message>
 </context>
 <context>
-    <name>NavigationView</name>
-    <message>
-        <source>Choose what to look at.</source>
-        <translation>اختر ما تريد النظر إليه.</translation>
-    </message>
-</context>
-<context>
     <name>PCMScene</name>
     <message>
         <source>units</source>
@@ -1820,7 +1820,7 @@
     </message>
 </context>
 <context>
-    <name>PullIndicator</name>
+    <name>PullIndicatorMark</name>
     <message>
         <source>Refreshing</source>
         <translation>جارٍ التحديث</translation>
@@ -1831,7 +1831,7 @@
     </message>
 </context>
 <context>
-    <name>PullSearch</name>
+    <name>PullSearchField</name>
     <message>
         <source>Search</source>
         <translation>بحث</translation>

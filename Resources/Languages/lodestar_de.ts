@@ -857,6 +857,13 @@
     </message>
 </context>
 <context>
+    <name>EmptyColumn</name>
+    <message>
+        <source>Choose what to look at.</source>
+        <translation>Wählen Sie, was Sie ansehen möchten.</translation>
+    </message>
+</context>
+<context>
     <name>ErrorWords</name>
     <message>
         <source>this is the name of a folder.</source>
@@ -1207,6 +1214,10 @@
         <source>No consoles yet.</source>
         <translation>Noch keine Konsolen.</translation>
     </message>
+    <message>
+        <source>Look at the Demo First</source>
+        <translation>Erst die Demo ansehen</translation>
+    </message>
 </context>
 <context>
     <name>FirstSteps</name>
@@ -1221,10 +1232,6 @@
     <message>
         <source>Import Fleet Sheet</source>
         <translation>Konsolentabelle einlesen</translation>
-    </message>
-    <message>
-        <source>Look at the Demo First</source>
-        <translation>Erst die Demo ansehen</translation>
     </message>
 </context>
 <context>
@@ -1652,13 +1659,6 @@
     </message>
 </context>
 <context>
-    <name>NavigationView</name>
-    <message>
-        <source>Choose what to look at.</source>
-        <translation>Wählen Sie, was Sie ansehen möchten.</translation>
-    </message>
-</context>
-<context>
     <name>PCMScene</name>
     <message>
         <source>units</source>
@@ -1800,7 +1800,7 @@
     </message>
 </context>
 <context>
-    <name>PullIndicator</name>
+    <name>PullIndicatorMark</name>
     <message>
         <source>Refreshing</source>
         <translation>Wird aktualisiert</translation>
@@ -1811,7 +1811,7 @@
     </message>
 </context>
 <context>
-    <name>PullSearch</name>
+    <name>PullSearchField</name>
     <message>
         <source>Search</source>
         <translation>Suchen</translation>

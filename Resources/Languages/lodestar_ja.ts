@@ -853,6 +853,13 @@
     </message>
 </context>
 <context>
+    <name>EmptyColumn</name>
+    <message>
+        <source>Choose what to look at.</source>
+        <translation>見るものを選んでください。</translation>
+    </message>
+</context>
+<context>
     <name>ErrorWords</name>
     <message>
         <source>this is the name of a folder.</source>
@@ -1202,6 +1209,10 @@
         <source>No consoles yet.</source>
         <translation>コンソールはまだありません。</translation>
     </message>
+    <message>
+        <source>Look at the Demo First</source>
+        <translation>まずデモを見る</translation>
+    </message>
 </context>
 <context>
     <name>FirstSteps</name>
@@ -1216,10 +1227,6 @@
     <message>
         <source>Import Fleet Sheet</source>
         <translation>コンソール表を取り込む</translation>
-    </message>
-    <message>
-        <source>Look at the Demo First</source>
-        <translation>まずデモを見る</translation>
     </message>
 </context>
 <context>
@@ -1647,13 +1654,6 @@
     </message>
 </context>
 <context>
-    <name>NavigationView</name>
-    <message>
-        <source>Choose what to look at.</source>
-        <translation>見るものを選んでください。</translation>
-    </message>
-</context>
-<context>
     <name>PCMScene</name>
     <message>
         <source>units</source>
@@ -1795,7 +1795,7 @@
     </message>
 </context>
 <context>
-    <name>PullIndicator</name>
+    <name>PullIndicatorMark</name>
     <message>
         <source>Refreshing</source>
         <translation>更新中</translation>
@@ -1806,7 +1806,7 @@
     </message>
 </context>
 <context>
-    <name>PullSearch</name>
+    <name>PullSearchField</name>
     <message>
         <source>Search</source>
         <translation>検索</translation>

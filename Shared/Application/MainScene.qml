@@ -54,16 +54,10 @@ SceneView {
         onActivated: Commands.selectTab(scene.controller, 2)
     }
     // Loaded when feedback is first needed, so that it does not slow the start.
-    Loader {
-        readonly property bool needed: scene.window.feedbackHost.needed
-
-        function load() {
-            if (needed && status === Loader.Null) {
-                setSource("qrc:/Lodestar/Feedback/FeedbackLayer.qml", {"host": scene.window.feedbackHost});
-            }
-        }
+    LaterItem {
+        wanted: scene.window.feedbackHost.needed
+        source: "qrc:/Lodestar/Feedback/FeedbackLayer.qml"
+        subject: scene.window.feedbackHost
         anchors.fill: parent
-        onNeededChanged: load()
-        Component.onCompleted: load()
     }
 }

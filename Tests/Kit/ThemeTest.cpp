@@ -243,7 +243,7 @@ TEST_F(ThemeTest, WhatIsNotSeenIsNeitherDrawnNorMade)
             id: page
             property bool shown: false
             readonly property url source: icon.source
-            readonly property Item made: (nothing.children[0] as Loader).item
+            readonly property Item made: nothing.item
             Item { visible: page.shown; Icon { id: icon; name: "search" } }
             NoContent { id: nothing; visible: page.shown; text: "Nothing" }
         })");

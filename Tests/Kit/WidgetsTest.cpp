@@ -140,7 +140,7 @@ TEST_F(WidgetsTest, APullUncoversTheSearchFieldAndAFurtherOneRefreshes)
     int searches = 0;
     QObject::connect(table, SIGNAL(searchTapped()), list.get(), SIGNAL(titleChanged()));
     QObject::connect(list.get(), &ViewController::titleChanged, [&] { ++searches; });
-    QQuickItem* const field = window.find("PullSearch");
+    QQuickItem* const field = window.find("PullSearchField");
     const double hidden = flickable(window)->property("contentY").toDouble();
     const auto at = [&] { return flickable(window)->property("contentY").toDouble(); };
     EXPECT_FALSE(field->isVisible());

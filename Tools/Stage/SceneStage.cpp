@@ -271,7 +271,7 @@ void SceneStage::show(QSize size, const std::vector<ConsoleLook>& consoles)
     component.setData("import QtQuick\nimport Lodestar.Feedback\nimport Lodestar.Kit\n"
                       "Window { id: window; required property ViewController controller\n"
                       "required property FeedbackHost feedback\n"
-                      "FeedbackLayer { anchors.fill: parent; host: window.feedback }\n"
+                      "FeedbackLayer { anchors.fill: parent; subject: window.feedback }\n"
                       "color: Theme.ground; LayoutMirroring.enabled: Theme.mirrored\n"
                       "LayoutMirroring.childrenInherit: true\n"
                       "SceneView { anchors.fill: parent; focus: true; reportsAppearance: true\n"

@@ -10,14 +10,14 @@ import Lodestar.Kit
 Item {
     id: layer
 
-    required property FeedbackHost host
+    required property FeedbackHost subject
 
     function follow() {
-        if (host.screen !== null && cover.opened) {
+        if (subject.screen !== null && cover.opened) {
             // A screen replaces another whose question was just answered; the keyboard focus would vanish with that
             // question.
             screen.forceActiveFocus(Qt.OtherFocusReason);
-        } else if (host.screen !== null) {
+        } else if (subject.screen !== null) {
             keyboard.remember();
             cover.open();
         } else {
@@ -27,7 +27,7 @@ Item {
     Component.onCompleted: follow()
 
     Connections {
-        target: layer.host
+        target: layer.subject
         function onScreenChanged() {
             layer.follow();
         }
@@ -68,7 +68,7 @@ Item {
             SceneView {
                 id: screen
 
-                controller: layer.host.screen
+                controller: layer.subject.screen
                 reportsAppearance: true
                 focus: true
                 anchors.fill: parent
@@ -76,6 +76,6 @@ Item {
         }
     }
     Alert {
-        outlet: layer.host.alert
+        outlet: layer.subject.alert
     }
 }

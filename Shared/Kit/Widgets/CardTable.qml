@@ -152,9 +152,11 @@ AccessibleScope {
             swipe: swipeCell as SwipeCell
             focusable: !isHeader
             pressAction: selectable
+            headerSpace: index === 0 ? 12 - view.topSpace : Theme.sectionGap
             commands: swipeCell.commands
             Accessible.role: isHeader ? Accessible.Heading : Accessible.ListItem
-            Accessible.name: isHeader ? header.Accessible.name : content !== null ? content.accessibleText : ""
+            Accessible.name: !isHeader ? content !== null ? content.accessibleText : ""
+                                       : header.item !== null ? header.item.Accessible.name : ""
             Accessible.description: content !== null ? content.accessibleDetail : ""
             Accessible.selectable: selectable
             Accessible.selected: swipeCell.highlighted
@@ -220,15 +222,13 @@ AccessibleScope {
                 host.configure();
             }
 
-            SectionHeader {
+            LaterItem {
                 id: header
 
                 visible: place.isHeader
-                Accessible.ignored: true
-                text: place.headerTitle
-                detail: place.headerDetail
-                note: place.headerNote
-                space: place.index === 0 ? 12 - view.topSpace : Theme.sectionGap
+                wanted: place.isHeader
+                source: "qrc:/Lodestar/Kit/RowHeader.qml"
+                subject: place
                 x: tableState.sideMargin
                 width: place.width - 2 * x
             }

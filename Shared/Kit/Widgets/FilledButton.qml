@@ -27,7 +27,7 @@ Pressable {
             anchors.fill: parent
             anchors.margins: 2
             radius: Theme.cardRadius - 2
-            border.color: Theme.fillInk
+            color: Theme.fillInk
             shown: button.visualFocus
         }
     }

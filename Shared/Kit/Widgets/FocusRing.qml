@@ -3,14 +3,12 @@ import QtQuick
 import Lodestar.Kit
 
 /// The inner ring that shows which control has the keyboard focus.
-Rectangle {
-    id: ring
-
+LaterItem {
     property bool shown: false
+    property real radius: Theme.cardRadius
+    property color color: Theme.accentInk
 
     visible: shown
-    color: "transparent"
-    radius: Theme.cardRadius
-    border.width: Theme.strong ? 3 : 2
-    border.color: Theme.accentInk
+    wanted: shown
+    source: "qrc:/Lodestar/Kit/FocusRingLine.qml"
 }

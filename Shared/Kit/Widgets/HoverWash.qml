@@ -3,17 +3,11 @@ import QtQuick
 import Lodestar.Kit
 
 /// What lies behind a control's word or picture while the pointer is over it, on whatever ground the control stands.
-Rectangle {
-    id: wash
-
+LaterItem {
     property bool shown: false
+    property real radius: Theme.cardRadius
+    property color color: Theme.wash
 
-    visible: opacity > 0
-    opacity: shown ? 1 : 0
-    radius: Theme.cardRadius
-    color: Theme.wash
-
-    Behavior on opacity {
-        NumberAnimation { duration: wash.shown ? Theme.pressIn : Theme.pressOut }
-    }
+    wanted: shown
+    source: "qrc:/Lodestar/Kit/HoverWashPlane.qml"
 }

@@ -47,14 +47,14 @@ FocusScope {
         focus: true
         clip: busy
     }
-    NoContent {
+    LaterItem {
+        wanted: stack.endEmpty
+        source: "qrc:/Lodestar/Kit/EmptyColumn.qml"
         visible: stack.endEmpty
         z: -1
         x: Theme.mirrored ? 0 : stack.startWidth
         width: parent.width - stack.startWidth
         height: parent.height
-        picture: "attention_clear"
-        text: qsTr("Choose what to look at.")
     }
     Hairline {
         visible: stack.split

@@ -4,9 +4,7 @@ import Lodestar.Kit
 
 /// What a screen shows when it has no content: a picture and one or two lines, a little above the middle, and a button
 /// for the one thing to do. A headline, if there is one, stands above the lines.
-Item {
-    id: view
-
+LaterItem {
     property string picture
     property string text
     property ImageOutlet imageOutlet: null
@@ -22,19 +20,6 @@ Item {
     Accessible.role: Accessible.StaticText
     Accessible.name: (headline === "" ? "" : headline + "\n") + lines
 
-    Loader {
-        id: body
-
-        anchors.fill: parent
-    }
-
-    // The body is made on first use, because most screens have content and never need it.
-    function make() {
-        if (visible && body.status === Loader.Null) {
-            body.setSource("NoContentBody.qml", {"view": view});
-        }
-    }
-
-    onVisibleChanged: make()
-    Component.onCompleted: make()
+    wanted: visible
+    source: "qrc:/Lodestar/Kit/NoContentBody.qml"
 }

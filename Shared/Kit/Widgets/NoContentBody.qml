@@ -6,7 +6,7 @@ import Lodestar.Kit
 Item {
     id: body
 
-    required property NoContent view
+    required property NoContent subject
 
     Column {
         anchors.centerIn: parent
@@ -14,7 +14,7 @@ Item {
         width: Math.min(280 * Theme.textScale, parent.width - 80)
 
         Icon {
-            name: body.view.imageOutlet !== null ? body.view.imageOutlet.imageName : body.view.picture
+            name: body.subject.imageOutlet !== null ? body.subject.imageOutlet.imageName : body.subject.picture
             size: 96
             color: Theme.ink3
             anchors.horizontalCenter: parent.horizontalCenter
@@ -25,7 +25,7 @@ Item {
         }
         Label {
             visible: text !== ""
-            text: body.view.headline
+            text: body.subject.headline
             width: parent.width
             bottomPadding: 4 - drop
             horizontalAlignment: Text.AlignHCenter
@@ -33,7 +33,7 @@ Item {
             Accessible.ignored: true
         }
         Label {
-            text: body.view.lines
+            text: body.subject.lines
             size: Theme.stateSize
             color: Theme.ink2
             width: parent.width
@@ -43,9 +43,9 @@ Item {
         }
         PlainButton {
             visible: text !== ""
-            text: body.view.actionText
+            text: body.subject.actionText
             anchors.horizontalCenter: parent.horizontalCenter
-            onClicked: body.view.action()
+            onClicked: body.subject.action()
         }
     }
 }

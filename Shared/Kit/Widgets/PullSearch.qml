@@ -4,9 +4,7 @@ import Lodestar.Kit
 
 /// The search field above a list's first row. It starts out of sight; a pull uncovers it and it stays. It goes as soon
 /// as the list is moved past it.
-AccessibleItem {
-    id: bar
-
+LaterItem {
     required property ListView list
     /// Points above the first row while the field is out of sight.
     required property real topSpace
@@ -23,99 +21,7 @@ AccessibleItem {
 
     parent: list.contentItem
     y: list.originY - lineSpace - height - 8
-    height: Math.max(40, Math.round(40 * Theme.barScale))
     visible: room && uncovered > 0
-    pressAction: true
-    Accessible.role: Accessible.Button
-    Accessible.name: qsTr("Search")
-    onAccessiblePressed: bar.tapped()
-
-    function settle() {
-        if (room && uncovered > 0 && list.visible) {
-            snap.to = list.originY - topSpace - (uncovered > space / 2 ? space : 0);
-            snap.restart();
-        } else {
-            room = false;
-        }
-    }
-
-    onOfferedChanged: {
-        if (!offered) {
-            snap.stop();
-            room = false;
-        }
-    }
-
-    NumberAnimation {
-        id: snap
-
-        target: bar.list
-        property: "contentY"
-        duration: Theme.settle
-        easing.type: Easing.OutCubic
-        onFinished: bar.room = bar.uncovered > 0.5
-    }
-    Connections {
-        target: bar.list
-        function onDraggingChanged() {
-            if (bar.list.dragging) {
-                snap.stop();
-                bar.room = bar.offered;
-            } else if (bar.room && bar.uncovered <= bar.space / 2) {
-                // This must not wait for the end of the movement: a short list always comes to rest at the field.
-                bar.room = false;
-            }
-        }
-        function onMovementEnded() {
-            bar.settle();
-        }
-        function onVisibleChanged() {
-            snap.stop();
-            bar.room = false;
-        }
-    }
-    WheelHandler {
-        parent: bar.list
-        enabled: bar.offered && !bar.room
-        blocking: false
-        onWheel: (event) => {
-            if (event.angleDelta.y > 0 && bar.list.contentY <= bar.list.originY - bar.topSpace) {
-                bar.room = true;
-                snap.to = bar.list.originY - bar.topSpace - bar.space;
-                snap.restart();
-            }
-        }
-    }
-    Rectangle {
-        anchors.fill: parent
-        radius: Theme.fieldRadius
-        color: Theme.well
-        border.width: Theme.outlineWidth
-        border.color: Theme.outline
-    }
-    Icon {
-        id: glass
-
-        name: "search"
-        color: Theme.ink2
-        anchors.left: parent.left
-        anchors.leftMargin: 10
-        anchors.verticalCenter: parent.verticalCenter
-    }
-    Label {
-        text: qsTr("Search")
-        scaleFactor: Theme.barScale
-        color: Theme.ink2
-        anchors.left: glass.right
-        anchors.leftMargin: 8
-        anchors.right: parent.right
-        anchors.verticalCenter: parent.verticalCenter
-        elide: Text.ElideRight
-        Accessible.ignored: true
-    }
-    MouseArea {
-        anchors.fill: parent
-        cursorShape: Qt.IBeamCursor
-        onClicked: bar.tapped()
-    }
+    wanted: offered
+    source: "qrc:/Lodestar/Kit/PullSearchField.qml"
 }

@@ -4,9 +4,9 @@ import Lodestar.Kit
 
 /// The visible part of a SectionFoot.
 Label {
-    required property SectionFoot foot
+    required property SectionFoot subject
 
-    text: foot.text
+    text: subject.text
     size: Theme.captionSize
     color: Theme.ink2
     topPadding: drop + 8

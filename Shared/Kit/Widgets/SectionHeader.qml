@@ -14,7 +14,6 @@ Item {
     /// Points above the text; the first header of a page stands 12 below the bar.
     property real space: Theme.sectionGap
 
-    readonly property bool wantsMore: detail !== "" || note !== ""
     /// Set by the SectionHeaderMore.
     property real detailWidth: 0
     property real detailHeight: 0
@@ -25,15 +24,6 @@ Item {
     implicitHeight: space + label.implicitHeight + detailHeight + noteHeight + 8
     Accessible.role: Accessible.Heading
     Accessible.name: Sentence.joined([text, note, detail])
-
-    function makeMore() {
-        if (wantsMore && loader.status === Loader.Null) {
-            loader.setSource("SectionHeaderMore.qml", {"header": header});
-        }
-    }
-
-    onWantsMoreChanged: makeMore()
-    Component.onCompleted: makeMore()
 
     Label {
         id: label
@@ -54,10 +44,10 @@ Item {
         elide: Theme.stacked ? Text.ElideRight : Text.ElideMiddle
         Accessible.ignored: true
     }
-    // Made on first use, because each row of a list has a header, and most have nothing but a title.
-    Loader {
-        id: loader
-
+    LaterItem {
         anchors.fill: parent
+        wanted: header.detail !== "" || header.note !== ""
+        source: "qrc:/Lodestar/Kit/SectionHeaderMore.qml"
+        subject: header
     }
 }

@@ -7,7 +7,7 @@ import Lodestar.Kit
 Item {
     id: more
 
-    required property SectionHeader header
+    required property SectionHeader subject
 
     readonly property bool below: Theme.stacked && detail.visible
                                   && title.advanceWidth + 12 + words.advanceWidth > width - 2 * Theme.rowStart
@@ -15,8 +15,8 @@ Item {
     TextMetrics {
         id: title
 
-        font: more.header.shownFont
-        text: more.header.shownText
+        font: more.subject.shownFont
+        text: more.subject.shownText
     }
     TextMetrics {
         id: words
@@ -25,17 +25,17 @@ Item {
         text: detail.text
     }
     Binding {
-        target: more.header
+        target: more.subject
         property: "detailWidth"
         value: detail.visible && !more.below ? detail.implicitWidth : 0
     }
     Binding {
-        target: more.header
+        target: more.subject
         property: "detailHeight"
         value: more.below ? detail.height : 0
     }
     Binding {
-        target: more.header
+        target: more.subject
         property: "noteHeight"
         value: note.text !== "" ? note.height : 0
     }
@@ -43,13 +43,13 @@ Item {
         id: detail
 
         visible: text !== ""
-        text: more.header.detail
+        text: more.subject.detail
         size: Theme.captionSize
         color: Theme.ink3
         anchors.right: parent.right
         anchors.rightMargin: Theme.rowStart
         anchors.bottom: parent.bottom
-        anchors.bottomMargin: 8 + more.header.noteHeight
+        anchors.bottomMargin: 8 + more.subject.noteHeight
         width: more.below ? parent.width - 2 * Theme.rowStart : implicitWidth
         wrapMode: more.below ? Text.Wrap : Text.NoWrap
         Accessible.ignored: true
@@ -58,7 +58,7 @@ Item {
         id: note
 
         visible: text !== ""
-        text: more.header.note.slice(0, 300).replace(/\s+/g, " ").trim()
+        text: more.subject.note.slice(0, 300).replace(/\s+/g, " ").trim()
         size: Theme.captionSize
         color: Theme.ink2
         anchors.left: parent.left

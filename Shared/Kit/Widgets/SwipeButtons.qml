@@ -77,7 +77,7 @@ FocusScope {
                     anchors.fill: parent
                     anchors.margins: 3
                     radius: Theme.segmentRadius
-                    border.color: button.ink
+                    color: button.ink
                     shown: button.visualFocus
                 }
             }

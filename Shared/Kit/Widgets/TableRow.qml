@@ -16,6 +16,8 @@ AccessibleItem {
     required property string headerNote
     required property string sectionFooter
 
+    /// Points above the text of a header.
+    property real headerSpace: 0
     property TableCell content: null
     property SwipeCell swipe: null
     readonly property bool selectable: content !== null && content.selectable

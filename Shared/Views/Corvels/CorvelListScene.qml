@@ -124,17 +124,11 @@ PageScaffold {
         outlet: scene.corvels.rowMenu
     }
     // Made on first use, so that it does not slow the start of those who have consoles.
-    Loader {
-        readonly property bool needed: scene.corvels.tableView.hidden
-
-        function make() {
-            if (needed && status === Loader.Null) {
-                setSource("FirstRun.qml", {"corvels": scene.corvels});
-            }
-        }
+    LaterItem {
+        visible: scene.corvels.tableView.hidden
+        wanted: scene.corvels.tableView.hidden
+        source: "qrc:/Lodestar/Views/FirstRun.qml"
+        subject: scene.corvels
         anchors.fill: parent
-        visible: needed
-        onNeededChanged: make()
-        Component.onCompleted: make()
     }
 }

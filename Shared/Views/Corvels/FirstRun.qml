@@ -7,7 +7,7 @@ import Lodestar.Views
 Item {
     id: view
 
-    required property CorvelListViewController corvels
+    required property CorvelListViewController subject
 
     Flickable {
         id: page
@@ -34,10 +34,20 @@ Item {
                 height: 20
             }
             FirstSteps {
-                corvels: view.corvels
+                corvels: view.subject
                 headline: qsTr("No consoles yet.")
-                offersDemo: true
                 width: parent.width
+
+                Item {
+                    width: 1
+                    height: 4
+                }
+                PlainButton {
+                    text: qsTr("Look at the Demo First")
+                    wraps: true
+                    width: parent.width
+                    onClicked: view.subject.lookAtDemo()
+                }
             }
         }
     }

@@ -9,7 +9,6 @@ Column {
 
     required property CorvelListViewController corvels
     required property string headline
-    property bool offersDemo: false
 
     Label {
         text: steps.headline
@@ -48,17 +47,5 @@ Column {
         wraps: true
         width: parent.width
         onClicked: steps.corvels.openFleetSheet()
-    }
-    Item {
-        visible: steps.offersDemo
-        width: 1
-        height: 4
-    }
-    PlainButton {
-        visible: steps.offersDemo
-        text: qsTr("Look at the Demo First")
-        wraps: true
-        width: parent.width
-        onClicked: steps.corvels.lookAtDemo()
     }
 }
