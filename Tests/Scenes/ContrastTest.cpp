@@ -121,8 +121,8 @@ protected:
         }
         for (const QQuickItem* icon : stage.items(QStringLiteral("Icon"))) {
             const QString name = icon->property("name").toString();
-            // Chevrons and zeros only decorate, corners are grounds.
-            const bool decorates = name == "corner" || name.startsWith("chevron") || name.isEmpty();
+            // Chevrons and zeros only decorate.
+            const bool decorates = name.startsWith("chevron") || name.isEmpty();
             if (!decorates && isTinted(name)) {
                 judge(picture, *icon, 4, isHigh ? 4.5 : 3, QString::fromStdString(scene) + ": " + name);
             }
