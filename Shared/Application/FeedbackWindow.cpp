@@ -86,6 +86,8 @@ struct Compilation {
 
     Compilation()
     {
+        // Begins to read the typeface, in a thread, too. Before the engine is made, that would cost time: both map
+        // memory, and one waits for the other.
         installApplicationScenes(*engine);
         add(mainScene());
     }

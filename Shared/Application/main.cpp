@@ -22,7 +22,6 @@
 #include "Kit/Core/Appearance.h"
 #include "Kit/Core/Languages.h"
 #include "Kit/Core/MainLoop.h"
-#include "Kit/Core/UIFont+System.h"
 #include "Platform/MemoryReserve.h"
 
 #include <QCommandLineParser>
@@ -129,7 +128,6 @@ int main(int argc, char** argv)
     if (!options.language.isEmpty()) {
         Languages::use({options.language});
     }
-    UIFont::install();
 
     if (!options.reportsTo.isEmpty()) {
         setFeedbackAddress(options.reportsTo.toStdString());
