@@ -21,11 +21,11 @@ namespace
 constexpr std::size_t errorsAlways = 2500;
 constexpr std::size_t bytesAnError = 64;
 constexpr std::size_t comparisonsAlways = 1'000'000;
-constexpr std::size_t comparisonsAByte = 4;
+constexpr std::size_t comparisonsAByte = 3;
 // A short element costs the library five times as much as the same number of feed bytes. Feeds have 20 bytes for each
 // part; a feed with attributes at every short element has 10.
 constexpr std::size_t partsAlways = 100'000;
-constexpr std::size_t bytesAPart = 6;
+constexpr std::size_t bytesAPart = 7;
 constexpr std::size_t partsOfAnElement = 2;
 constexpr std::size_t partsOfANameSpace = 4;
 constexpr std::size_t partsOfAReference = 2;
