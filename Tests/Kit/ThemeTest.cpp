@@ -211,6 +211,36 @@ TEST_F(ThemeTest, CapitalsAreCentredInTheirLineByPixels)
     }
 }
 
+TEST_F(ThemeTest, ACardsRoundCornersAreCoveredWhateverChanges)
+{
+    const auto window =
+        make("Window { visible: true; color: \"blue\"; width: 60; height: 40; property alias card: card; "
+             "CardCorners { id: card; color: \"red\"; roundBottom: false; anchors.fill: parent } }");
+    auto* const shown = qobject_cast<QQuickWindow*>(window.get());
+    ASSERT_TRUE(shown != nullptr && waitFor([&] { return shown->isExposed(); }));
+    auto* const card = shown->property("card").value<QQuickItem*>();
+    const auto corners = [&] {
+        const QImage image = shown->grabWindow();
+        const int right = image.width() - 1;
+        const int bottom = image.height() - 1;
+        EXPECT_EQ(image.pixelColor(right / 2, bottom / 2), QColor("blue"));
+        EXPECT_EQ(image.pixelColor(12, 12), QColor("blue")); // where a circle meets the surface's edges
+        return std::vector{image.pixelColor(0, 0).name(), image.pixelColor(right, 0).name(),
+                           image.pixelColor(0, bottom).name(), image.pixelColor(right, bottom).name()};
+    };
+    const QString red = QColor("red").name();
+    const QString green = QColor("green").name();
+    const QString bare = QColor("blue").name();
+    EXPECT_EQ(corners(), (std::vector{red, red, bare, bare}));
+    card->setProperty("color", QColor("green"));
+    card->setProperty("roundBottom", true);
+    EXPECT_EQ(corners(), (std::vector{green, green, green, green}));
+    card->setProperty("roundTop", false);
+    shown->resize(80, 50);
+    EXPECT_TRUE(waitFor([&] { return card->width() == 80 && card->height() == 50; }));
+    EXPECT_EQ(corners(), (std::vector{bare, bare, green, green}));
+}
+
 TEST_F(ThemeTest, EveryDrawingIsReadAndTinted)
 {
     IconProvider provider;
