@@ -86,8 +86,8 @@ struct Compilation {
 
     Compilation()
     {
-        // Begins to read the typeface, in a thread, too. Before the engine is made, that would cost time: both map
-        // memory, and one waits for the other.
+        // This also begins the thread that reads the typeface, which must not run while the engine is made: both map
+        // memory, and the engine would wait for the thread.
         installApplicationScenes(*engine);
         add(mainScene());
     }
